@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QString>
+
+#include <optional>
+#include <utility>
+
+/// A value, or the sentence that tells a person why there is none.
+template<typename T>
+class KxResult
+{
+public:
+    KxResult(T value) : m_value(std::move(value)) {}
+    static KxResult Failure(QString sentence)
+    {
+        KxResult result;
+        result.m_sentence = std::move(sentence);
+        return result;
+    }
+
+    explicit operator bool() const { return m_value.has_value(); }
+    T& operator*() { return *m_value; }
+    const T& operator*() const { return *m_value; }
+    T* operator->() { return &*m_value; }
+    const T* operator->() const { return &*m_value; }
+    /// Empty when there is a value.
+    const QString& Sentence() const { return m_sentence; }
+
+private:
+    KxResult() = default;
+
+    std::optional<T> m_value;
+    QString m_sentence;
+};
+
+/// For work that yields nothing: nothing on success, otherwise the sentence that tells a person what went wrong.
+using KxError = std::optional<QString>;
+
+/// How a job ended. Being cancelled is no failure.
+enum class KxOutcome { Done, Cancelled, Failed };

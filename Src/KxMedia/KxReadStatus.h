@@ -1,0 +1,9 @@
+#pragma once
+
+/// How one step of reading ended.
+enum class KxReadStatus {
+    Picture,   ///< a picture was delivered
+    End,       ///< nothing (more) to decode
+    Cancelled, ///< the cancel token was set
+    Failed,    ///< the file cannot be read any further
+};

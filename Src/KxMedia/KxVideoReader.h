@@ -1,0 +1,33 @@
+#pragma once
+
+#include "KxMediaFacts.h"
+#include "KxReadStatus.h"
+#include "KxVideoFrame.h"
+
+#include <memory>
+
+/// Reads any frame of a file, exactly. Frames asked for in ascending order are decoded in one go; any other request seeks.
+/// One thread at a time.
+class KXMEDIA_API KxVideoReader
+{
+public:
+    /// Decodes the first picture. Fails with a sentence for a file without a video stream that can be decoded.
+    static KxResult<std::unique_ptr<KxVideoReader>> Open(const QString& path, const KxCancelToken& cancel);
+    ~KxVideoReader();
+
+    const KxMediaFacts& Facts() const;
+
+    /// The picture shown at `frame` (0-based; a frame past the end counts as the last one). Where decoding ended before
+    /// `frame` the last picture that decoded is delivered and EndedEarly() becomes true.
+    KxReadStatus Read(qint64 frame, KxVideoFrame& picture);
+
+    /// Decoding ended, or failed for good, before the last frame of the grid.
+    bool EndedEarly() const;
+    /// How many frames of the grid could be decoded; the grid's length until an early end was met.
+    qint64 DecodableFrames() const;
+
+private:
+    class Impl;
+    explicit KxVideoReader(std::unique_ptr<Impl> impl);
+    std::unique_ptr<Impl> m_impl;
+};

@@ -1,0 +1,31 @@
+#include <QCoreApplication>
+#include <QString>
+
+#include <gtest/gtest.h>
+
+#include <cstdio>
+
+namespace
+{
+
+// A warning that nobody expected is a fault that nobody looked for.
+void FailOnWarning(QtMsgType type, const QMessageLogContext& context, const QString& text)
+{
+    if (type == QtDebugMsg || type == QtInfoMsg) {
+        return;
+    }
+    ADD_FAILURE_AT(context.file != nullptr ? context.file : "(Qt)", context.line)
+        << "Qt said: " << text.toStdString();
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QCoreApplication application(argc, argv);
+    testing::InitGoogleTest(&argc, argv);
+    qInstallMessageHandler(&FailOnWarning);
+    const int result = RUN_ALL_TESTS();
+    qInstallMessageHandler(nullptr);
+    return result;
+}

@@ -1,0 +1,64 @@
+# How every target of this tree is built.
+
+option(KR_FORCE_ASSERTS "Keep Q_ASSERT and standard library assertions in optimised builds" OFF)
+option(KR_WARNINGS_AS_ERRORS "Treat compiler warnings as errors" OFF)
+set(KR_SANITIZE "" CACHE STRING "Sanitizers to build with, as for -fsanitize=")
+
+set(CMAKE_CXX_STANDARD 17)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_AUTOMOC ON)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
+set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
+set(CMAKE_INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR};$ORIGIN")
+set_property(GLOBAL PROPERTY CTEST_TARGETS_ADDED 1) # no dashboard targets
+
+find_program(KR_CCACHE ccache)
+if(KR_CCACHE)
+    set(CMAKE_CXX_COMPILER_LAUNCHER
+        ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros ${KR_CCACHE})
+endif()
+
+add_library(KrOptions INTERFACE)
+target_compile_definitions(KrOptions INTERFACE
+    QT_NO_KEYWORDS QT_NO_FOREACH QT_NO_CAST_FROM_ASCII QT_STRICT_ITERATORS QT_NO_NARROWING_CONVERSIONS_IN_CONNECT
+    QT_DISABLE_DEPRECATED_BEFORE=0x050F00)
+if(KR_FORCE_ASSERTS)
+    target_compile_definitions(KrOptions INTERFACE QT_FORCE_ASSERTS _GLIBCXX_ASSERTIONS)
+endif()
+if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
+    target_compile_options(KrOptions INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow)
+    if(KR_CCACHE AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+        target_compile_options(KrOptions INTERFACE -fpch-preprocess)
+    endif()
+    if(KR_WARNINGS_AS_ERRORS)
+        target_compile_options(KrOptions INTERFACE -Werror)
+    endif()
+    if(KR_SANITIZE)
+        target_compile_options(KrOptions INTERFACE
+            -fsanitize=${KR_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=undefined)
+        target_link_options(KrOptions INTERFACE -fsanitize=${KR_SANITIZE})
+    endif()
+endif()
+
+# Options for a target that stands in a folder of its own: its headers are found by name by whoever links it, so that a
+# library can include only what it links.
+function(kr_configure_target target)
+    target_link_libraries(${target} PRIVATE $<BUILD_INTERFACE:KrOptions>)
+    target_precompile_headers(${target} PRIVATE <QList> <QMap> <QString> <memory> <optional> <string> <vector>)
+endfunction()
+
+# kr_add_library(<name> SOURCES <files> [PUBLIC <targets>] [PRIVATE <targets>]): a shared library of the host.
+function(kr_add_library name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;PUBLIC;PRIVATE" ${ARGN})
+    add_library(${name} SHARED ${ARG_SOURCES})
+    add_library(KrAutoReframe::${name} ALIAS ${name})
+    target_include_directories(${name} PUBLIC $<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR}>)
+    target_link_libraries(${name} PUBLIC ${ARG_PUBLIC} PRIVATE ${ARG_PRIVATE})
+    set_target_properties(${name} PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR})
+    kr_configure_target(${name})
+endfunction()

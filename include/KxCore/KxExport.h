@@ -1,0 +1,41 @@
+#pragma once
+
+// Symbol visibility of the host's libraries. CMake defines <library>_EXPORTS while it builds that library.
+
+#if defined(_WIN32)
+#define KX_SYMBOL_EXPORT __declspec(dllexport)
+#define KX_SYMBOL_IMPORT __declspec(dllimport)
+#else
+#define KX_SYMBOL_EXPORT __attribute__((visibility("default")))
+#define KX_SYMBOL_IMPORT __attribute__((visibility("default")))
+#endif
+
+#if defined(KxCore_EXPORTS)
+#define KXCORE_API KX_SYMBOL_EXPORT
+#else
+#define KXCORE_API KX_SYMBOL_IMPORT
+#endif
+
+#if defined(KxMedia_EXPORTS)
+#define KXMEDIA_API KX_SYMBOL_EXPORT
+#else
+#define KXMEDIA_API KX_SYMBOL_IMPORT
+#endif
+
+#if defined(KxSubject_EXPORTS)
+#define KXSUBJECT_API KX_SYMBOL_EXPORT
+#else
+#define KXSUBJECT_API KX_SYMBOL_IMPORT
+#endif
+
+#if defined(KxModel_EXPORTS)
+#define KXMODEL_API KX_SYMBOL_EXPORT
+#else
+#define KXMODEL_API KX_SYMBOL_IMPORT
+#endif
+
+#if defined(KxRender_EXPORTS)
+#define KXRENDER_API KX_SYMBOL_EXPORT
+#else
+#define KXRENDER_API KX_SYMBOL_IMPORT
+#endif

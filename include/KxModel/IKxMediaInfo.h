@@ -1,0 +1,45 @@
+#pragma once
+
+#include <KxCore/KxExport.h>
+#include <KxCore/KxRational.h>
+
+#include <QSize>
+
+/// What is known of a media file's streams. Belongs to the media item or clip that gives it and lives as long; never
+/// changes. Cast to IKxVideoMediaInfo or IKxAudioMediaInfo for the facts of the kind that it reports.
+class KXMODEL_API IKxMediaInfo
+{
+public:
+    virtual ~IKxMediaInfo();
+
+    /// A moving picture with at least one frame; a cover picture in a sound file and a still image are none.
+    virtual bool hasVideoStream() const = 0;
+    virtual bool hasAudioStream() const = 0;
+};
+
+/// The facts of a video stream. Frames are counted on one constant grid at `frameRate`: frame n is the picture shown n /
+/// rate after the first one.
+class KXMODEL_API IKxVideoMediaInfo : public virtual IKxMediaInfo
+{
+public:
+    ~IKxVideoMediaInfo() override;
+
+    /// Frames on the grid.
+    virtual qint64 frameCount() const = 0;
+    virtual KxRational frameRate() const = 0;
+    /// As displayed: upright and with square pixels.
+    virtual QSize resolution() const = 0;
+    /// Bits a second; estimated from the file's size where the file does not say.
+    virtual int bitRate() const = 0;
+};
+
+/// The facts of the audio streams.
+class KXMODEL_API IKxAudioMediaInfo : public virtual IKxMediaInfo
+{
+public:
+    ~IKxAudioMediaInfo() override;
+
+    virtual int streamCount() const = 0;
+    /// Bits a second of the stream with this number (0 is the first audio stream); 0 when unknown or out of range.
+    virtual int bitRate(int stream) const = 0;
+};
