@@ -1,1 +1,1 @@
-
+# follows

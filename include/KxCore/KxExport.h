@@ -39,3 +39,15 @@
 #else
 #define KXRENDER_API KX_SYMBOL_IMPORT
 #endif
+
+#if defined(KxWidgets_EXPORTS)
+#define KXWIDGETS_API KX_SYMBOL_EXPORT
+#else
+#define KXWIDGETS_API KX_SYMBOL_IMPORT
+#endif
+
+#if defined(KxPlayer_EXPORTS)
+#define KXPLAYER_API KX_SYMBOL_EXPORT
+#else
+#define KXPLAYER_API KX_SYMBOL_IMPORT
+#endif

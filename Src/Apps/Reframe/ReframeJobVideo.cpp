@@ -1,0 +1,60 @@
+#include "ReframeJob.h"
+
+#include "KrAutoReframeHelper.h"
+#include "KrExportParameters.h"
+#include "KxInterrupt.h"
+#include "KxRenderJob.h"
+#include "ReframeReporter.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+
+namespace
+{
+
+KxRenderSettings SettingsFor(const KxMediaItem& media, const QRectF& firstCrop)
+{
+    const auto* const video = dynamic_cast<const IKxVideoMediaInfo*>(media.mediaInfo());
+    const auto* const audio = dynamic_cast<const IKxAudioMediaInfo*>(media.mediaInfo());
+    KxRenderSettings settings;
+    settings.resolution = KrExportParameters::EvenResolution(video->resolution(), firstCrop);
+    settings.frameRate = KrExportParameters::FrameRate(video->frameRate());
+    settings.videoBitRate = KrExportParameters::VideoBitRate(video->bitRate());
+    settings.audioBitRate = audio->hasAudioStream()
+                                ? KrExportParameters::AudioBitRate(audio->bitRate(media.audioStreamIndex()))
+                                : KrExportParameters::DefaultAudioBitRate;
+    return settings;
+}
+
+} // namespace
+
+ReframeJob::Ended ReframeJob::WriteVideo()
+{
+    if (!m_options.writesVideo) {
+        return std::nullopt;
+    }
+    KrAutoReframeHelper& helper = *m_process.GetHelper();
+    KxRenderSettings settings = SettingsFor(*m_media, helper.GetDisplayResults().first().cropRect());
+    settings.outputPath = TargetPath(m_options.output, QStringLiteral("mp4"));
+    settings.existing = WhenItExists();
+    if (m_options.overwrites && QFileInfo(settings.outputPath) == QFileInfo(m_input)) {
+        return Fail(QStringLiteral("Cannot write %1: it is the input itself.").arg(settings.outputPath));
+    }
+
+    m_reporter.BeginStage(m_input, ReframeReporter::Stage::Render);
+    const KxRenderResult result = Render(KxRenderSource::FromTimeline(*helper.GetWorkTimeline()), settings);
+    if (result.outcome == KxOutcome::Cancelled) {
+        return KxOutcome::Cancelled;
+    }
+    if (result.outcome == KxOutcome::Failed) {
+        return Fail(result.sentence);
+    }
+    if (!result.warning.isEmpty()) {
+        m_reporter.Warn(m_input, result.warning);
+    }
+    m_written += result.outputPath;
+    m_facts.insert(QStringLiteral("output"), result.outputPath);
+    m_facts.insert(QStringLiteral("width"), settings.resolution.width());
+    m_facts.insert(QStringLiteral("height"), settings.resolution.height());
+    return std::nullopt;
+}

@@ -1,0 +1,163 @@
+#include "ReframeOptions.h"
+
+#include "ReframeExit.h"
+
+#include <QCommandLineParser>
+#include <QFileInfo>
+
+namespace
+{
+
+struct Definitions {
+    QCommandLineOption aspect{QStringLiteral("aspect"), QStringLiteral("Aspect ratio of the result (9:16)."),
+                              QStringLiteral("W:H"), QStringLiteral("9:16")};
+    QCommandLineOption speed{QStringLiteral("speed"), QStringLiteral("How readily the crop follows: auto, fast or slow (auto)."),
+                             QStringLiteral("SPEED"), QStringLiteral("auto")};
+    QCommandLineOption output{QStringLiteral("output"),
+                              QStringLiteral("Where to write the video; beside the input when not given."),
+                              QStringLiteral("FILE|FOLDER")};
+    QCommandLineOption keyframes{QStringLiteral("keyframes"),
+                                 QStringLiteral("Write the crop of every frame, as .json or .csv."), QStringLiteral("FILE")};
+    QCommandLineOption apply{QStringLiteral("apply"), QStringLiteral("Take the crops from FILE instead of analysing."),
+                             QStringLiteral("FILE")};
+    QCommandLineOption preview{QStringLiteral("preview"),
+                               QStringLiteral("Write a contact sheet of the source with the crop drawn."),
+                               QStringLiteral("FILE.png")};
+    QCommandLineOption faceModel{QStringLiteral("face-model"),
+                                 QStringLiteral("Use the neural face detector in FILE (YuNet, ONNX)."), QStringLiteral("FILE")};
+    QCommandLineOption noVideo{QStringLiteral("no-video"), QStringLiteral("Analyse only; write no video.")};
+    QCommandLineOption overwrite{QStringLiteral("overwrite"),
+                                 QStringLiteral("Replace existing files instead of adding a number to the name.")};
+    QCommandLineOption json{QStringLiteral("json"), QStringLiteral("Print progress and results as JSON lines.")};
+    QCommandLineOption quiet{QStringLiteral("quiet"), QStringLiteral("Print errors only.")};
+    QCommandLineOption help{{QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Show this text.")};
+    QCommandLineOption version{QStringLiteral("version"), QStringLiteral("Show the version.")};
+
+    QList<QCommandLineOption> All() const
+    {
+        return {aspect, speed, output, keyframes, apply, preview, faceModel, noVideo, overwrite, json, quiet, help, version};
+    }
+};
+
+ReframeOptions::Parsed WrongUse(const QString& sentence)
+{
+    ReframeOptions::Parsed parsed;
+    parsed.text = sentence + QStringLiteral("\nTry reframe --help.");
+    parsed.exitStatus = ReframeExit::WrongUse;
+    return parsed;
+}
+
+ReframeOptions::Parsed Shown(const QString& text)
+{
+    ReframeOptions::Parsed parsed;
+    parsed.text = text;
+    return parsed;
+}
+
+std::optional<QSize> ParseAspect(const QString& text)
+{
+    const QStringList parts = text.split(QLatin1Char(':'));
+    if (parts.size() != 2) {
+        return std::nullopt;
+    }
+    bool widthOk = false;
+    bool heightOk = false;
+    const QSize aspect(parts.at(0).toInt(&widthOk), parts.at(1).toInt(&heightOk));
+    constexpr int largest = 10000;
+    constexpr int steepest = 20;
+    const bool sane = widthOk && heightOk && !aspect.isEmpty() && aspect.width() <= largest && aspect.height() <= largest &&
+                      aspect.width() <= steepest * aspect.height() && aspect.height() <= steepest * aspect.width();
+    return sane ? std::optional<QSize>(aspect) : std::nullopt;
+}
+
+std::optional<int> ModeOfSpeed(const QString& name)
+{
+    if (name == QLatin1String("auto")) {
+        return 16;
+    }
+    if (name == QLatin1String("fast")) {
+        return 8;
+    }
+    if (name == QLatin1String("slow")) {
+        return 24;
+    }
+    return std::nullopt;
+}
+
+/// What options do not go together; empty when all is well.
+QString Contradiction(const ReframeOptions& options)
+{
+    if (options.inputs.isEmpty()) {
+        return QStringLiteral("No input file was given.");
+    }
+    if (!options.writesVideo && !options.output.isEmpty()) {
+        return QStringLiteral("--output and --no-video exclude each other.");
+    }
+    if (options.inputs.size() > 1) {
+        const std::pair<QString, QString> targets[] = {{QStringLiteral("--output"), options.output},
+                                                       {QStringLiteral("--keyframes"), options.keyframes},
+                                                       {QStringLiteral("--preview"), options.preview}};
+        for (const auto& [name, path] : targets) {
+            if (!path.isEmpty() && !QFileInfo(path).isDir()) {
+                return QStringLiteral("With several inputs %1 must name an existing folder; %2 is none.").arg(name, path);
+            }
+        }
+        if (!options.apply.isEmpty()) {
+            return QStringLiteral("--apply takes one input.");
+        }
+    }
+    return {};
+}
+
+} // namespace
+
+ReframeOptions::Parsed ReframeOptions::Parse(const QStringList& arguments)
+{
+    const Definitions definitions;
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        QStringLiteral("Turns a video into another aspect ratio and keeps its subject in the picture."));
+    parser.addOptions(definitions.All());
+    parser.addPositionalArgument(QStringLiteral("INPUT"), QStringLiteral("The video files to reframe."),
+                                 QStringLiteral("INPUT..."));
+    if (!parser.parse(arguments)) {
+        return WrongUse(parser.errorText() + QLatin1Char('.'));
+    }
+    if (parser.isSet(definitions.help)) {
+        return Shown(parser.helpText());
+    }
+    if (parser.isSet(definitions.version)) {
+        return Shown(QStringLiteral("reframe %1\n").arg(QStringLiteral(KR_VERSION)));
+    }
+
+    ReframeOptions options;
+    const std::optional<QSize> aspect = ParseAspect(parser.value(definitions.aspect));
+    if (!aspect) {
+        return WrongUse(QStringLiteral("\"%1\" is no aspect ratio; write two whole numbers such as 9:16.")
+                            .arg(parser.value(definitions.aspect)));
+    }
+    options.aspect = *aspect;
+    options.speedName = parser.value(definitions.speed);
+    const std::optional<int> mode = ModeOfSpeed(options.speedName);
+    if (!mode) {
+        return WrongUse(QStringLiteral("\"%1\" is no speed; it is auto, fast or slow.").arg(options.speedName));
+    }
+    options.speedMode = *mode;
+    options.inputs = parser.positionalArguments();
+    options.output = parser.value(definitions.output);
+    options.keyframes = parser.value(definitions.keyframes);
+    options.apply = parser.value(definitions.apply);
+    options.preview = parser.value(definitions.preview);
+    options.faceModel = parser.value(definitions.faceModel);
+    options.writesVideo = !parser.isSet(definitions.noVideo);
+    options.overwrites = parser.isSet(definitions.overwrite);
+    options.json = parser.isSet(definitions.json);
+    options.quiet = parser.isSet(definitions.quiet);
+    const QString contradiction = Contradiction(options);
+    if (!contradiction.isEmpty()) {
+        return WrongUse(contradiction);
+    }
+    Parsed parsed;
+    parsed.options = options;
+    return parsed;
+}

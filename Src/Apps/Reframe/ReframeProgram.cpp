@@ -1,0 +1,26 @@
+#include "ReframeProgram.h"
+
+#include "KxAutoReframeService.h"
+#include "KxFaceModel.h"
+#include "KxInterrupt.h"
+#include "ReframeExit.h"
+#include "ReframeJob.h"
+#include "ReframeReporter.h"
+
+int ReframeProgram::Run(const ReframeOptions& options)
+{
+    KxAutoReframeService::Instance().SetFaceModel(options.faceModel.isEmpty() ? KxFaceModel::Find() : options.faceModel);
+    ReframeReporter reporter(options);
+    int status = ReframeExit::Done;
+    for (const QString& input : options.inputs) {
+        const KxOutcome outcome = ReframeJob(input, options, reporter).Run();
+        if (outcome == KxOutcome::Cancelled || KxInterrupt::IsRequested()) {
+            reporter.Fail(input, QStringLiteral("%1: interrupted.").arg(input));
+            return ReframeExit::Interrupted;
+        }
+        if (outcome == KxOutcome::Failed) {
+            status = ReframeExit::SomeFailed;
+        }
+    }
+    return status;
+}

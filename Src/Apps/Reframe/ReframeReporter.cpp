@@ -1,0 +1,119 @@
+#include "ReframeReporter.h"
+
+#include "KxTerminal.h"
+#include "ReframeOptions.h"
+
+#include <QFileInfo>
+#include <QJsonDocument>
+
+#include <cstdio>
+
+namespace
+{
+
+void WriteLine(std::FILE* stream, const QByteArray& text)
+{
+    std::fwrite(text.constData(), 1, static_cast<std::size_t>(text.size()), stream);
+    std::fflush(stream);
+}
+
+QString TimeLeft(qint64 elapsedMs, int progress)
+{
+    constexpr qint64 enoughToJudgeMs = 1000;
+    if (elapsedMs < enoughToJudgeMs || progress <= 0) {
+        return {};
+    }
+    const qint64 seconds = (elapsedMs * (10000 - progress) / progress + 999) / 1000;
+    return seconds < 60 ? QStringLiteral(", %1 s left").arg(seconds)
+                        : QStringLiteral(", %1 min %2 s left").arg(seconds / 60).arg(seconds % 60);
+}
+
+} // namespace
+
+ReframeReporter::ReframeReporter(const ReframeOptions& options)
+    : m_voice(options.json ? Voice::Json : Voice::People)
+    , m_quiet(options.quiet)
+    , m_showsLine(!options.quiet && !options.json && KxTerminal::IsErrorStreamInteractive())
+{
+}
+
+ReframeReporter::~ReframeReporter()
+{
+    ClearLine();
+}
+
+void ReframeReporter::BeginStage(const QString& input, Stage stage)
+{
+    m_input = input;
+    m_stage = stage;
+    m_stageTimer.start();
+    m_lastPercent = -1;
+    Progress(0);
+}
+
+void ReframeReporter::Progress(int progress)
+{
+    const int percent = progress / 100;
+    if (m_quiet || percent == m_lastPercent) {
+        return;
+    }
+    m_lastPercent = percent;
+    const bool analyzing = m_stage == Stage::Analyze;
+    if (m_voice == Voice::Json) {
+        WriteJson(QStringLiteral("progress"), m_input,
+                  {{QStringLiteral("stage"), analyzing ? QStringLiteral("analyze") : QStringLiteral("render")},
+                   {QStringLiteral("percent"), percent}});
+    } else if (m_showsLine) {
+        const QString line = QStringLiteral("%1: %2 %3 %%4")
+                                 .arg(QFileInfo(m_input).fileName(),
+                                      analyzing ? QStringLiteral("analyzing") : QStringLiteral("rendering"),
+                                      QString::number(percent), TimeLeft(m_stageTimer.elapsed(), progress));
+        WriteLine(stderr, "\r\033[K" + line.toLocal8Bit());
+        m_lineShown = true;
+    }
+}
+
+void ReframeReporter::Warn(const QString& input, const QString& sentence)
+{
+    if (m_voice == Voice::Json) {
+        WriteJson(QStringLiteral("warning"), input, {{QStringLiteral("sentence"), sentence}});
+    }
+    ClearLine();
+    if (!m_quiet) {
+        WriteLine(stderr, "Warning: " + sentence.toLocal8Bit() + '\n');
+    }
+}
+
+void ReframeReporter::Fail(const QString& input, const QString& sentence)
+{
+    if (m_voice == Voice::Json) {
+        WriteJson(QStringLiteral("error"), input, {{QStringLiteral("sentence"), sentence}});
+    }
+    ClearLine();
+    WriteLine(stderr, sentence.toLocal8Bit() + '\n');
+}
+
+void ReframeReporter::Succeed(const QString& input, const QString& sentence, const QJsonObject& facts)
+{
+    ClearLine();
+    if (m_voice == Voice::Json) {
+        WriteJson(QStringLiteral("done"), input, facts);
+    } else if (!m_quiet) {
+        WriteLine(stdout, sentence.toLocal8Bit() + '\n');
+    }
+}
+
+void ReframeReporter::WriteJson(const QString& event, const QString& input, QJsonObject facts)
+{
+    facts.insert(QStringLiteral("event"), event);
+    facts.insert(QStringLiteral("input"), input);
+    WriteLine(stdout, QJsonDocument(facts).toJson(QJsonDocument::Compact) + '\n');
+}
+
+void ReframeReporter::ClearLine()
+{
+    if (m_lineShown) {
+        WriteLine(stderr, "\r\033[K");
+        m_lineShown = false;
+    }
+}

@@ -1,0 +1,52 @@
+#include "KxObserverList.h"
+
+#include <algorithm>
+
+void KxObserverList::Add(IKxAutoReframeEventObserver* observer)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    if (std::find(m_observers.begin(), m_observers.end(), observer) == m_observers.end()) {
+        m_observers.push_back(observer);
+    }
+}
+
+void KxObserverList::Remove(IKxAutoReframeEventObserver* observer)
+{
+    std::unique_lock<std::mutex> lock(m_mutex);
+    m_observers.erase(std::remove(m_observers.begin(), m_observers.end(), observer), m_observers.end());
+    m_callEnded.wait(lock, [this, observer] {
+        return std::none_of(m_calls.begin(), m_calls.end(), [observer](const Call& call) {
+            return call.observer == observer && call.thread != std::this_thread::get_id();
+        });
+    });
+}
+
+void KxObserverList::Notify(qint64 key, int state, int percent, const KxCancelToken& cancel)
+{
+    std::unique_lock<std::mutex> lock(m_mutex);
+    const std::vector<IKxAutoReframeEventObserver*> observers = m_observers;
+    for (IKxAutoReframeEventObserver* observer : observers) {
+        const bool removed = std::find(m_observers.begin(), m_observers.end(), observer) == m_observers.end();
+        if (removed || cancel.IsCancelled()) {
+            continue;
+        }
+        const std::thread::id self = std::this_thread::get_id();
+        m_calls.push_back({observer, key, self});
+        lock.unlock();
+        observer->OnAutoReframeEvent(key, state, percent);
+        lock.lock();
+        m_calls.erase(std::find_if(m_calls.begin(), m_calls.end(),
+                                   [observer, self](const Call& call) { return call.observer == observer && call.thread == self; }));
+        m_callEnded.notify_all();
+    }
+}
+
+void KxObserverList::WaitForCallsOf(qint64 key)
+{
+    std::unique_lock<std::mutex> lock(m_mutex);
+    m_callEnded.wait(lock, [this, key] {
+        return std::none_of(m_calls.begin(), m_calls.end(), [key](const Call& call) {
+            return call.key == key && call.thread != std::this_thread::get_id();
+        });
+    });
+}

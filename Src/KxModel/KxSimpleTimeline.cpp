@@ -1,0 +1,58 @@
+#include "KxSimpleTimeline.h"
+
+#include <KxModel/KxVBLMODEL.h>
+
+KxSimpleTimeline::KxSimpleTimeline(std::unique_ptr<KxClip> clip) : m_clip(std::move(clip))
+{
+    const KxStreamInfo& info = m_clip->StreamInfo();
+    m_settings.resolution = info.resolution();
+    m_settings.frameRateType = KxVBLMODEL::toFrameRateType(info.frameRate());
+    m_settings.aspectRatioType = KxVBLMODEL::toAspectRatioType(info.resolution());
+}
+
+KxSimpleTimeline::~KxSimpleTimeline() = default;
+
+std::unique_ptr<KxSimpleTimeline> KxSimpleTimeline::Copy(KxClip::KeyFrames keyFrames) const
+{
+    auto copy = std::make_unique<KxSimpleTimeline>(m_clip->Copy(keyFrames));
+    copy->m_settings = m_settings;
+    return copy;
+}
+
+QList<IKxClip*> KxSimpleTimeline::clips() const
+{
+    return {m_clip.get()};
+}
+
+KxProjectSettings KxSimpleTimeline::projectSettings() const
+{
+    return m_settings;
+}
+
+void KxSimpleTimeline::setProjectSettings(const KxProjectSettings& settings)
+{
+    m_settings = settings;
+}
+
+qint64 KxSimpleTimeline::duration() const
+{
+    return m_clip->StreamInfo().frameCount();
+}
+
+IKxTimeline* IKxTimeline::createSimpleTimeline(IKxClip* clip)
+{
+    const auto* const own = dynamic_cast<const KxClip*>(clip);
+    return own != nullptr ? new KxSimpleTimeline(own->Copy(KxClip::KeyFrames::Copied)) : nullptr;
+}
+
+IKxTimeline* IKxTimeline::clone(IKxTimeline* timeline, bool shareKeyFrames)
+{
+    const auto* const own = dynamic_cast<const KxSimpleTimeline*>(timeline);
+    const auto keyFrames = shareKeyFrames ? KxClip::KeyFrames::Shared : KxClip::KeyFrames::Copied;
+    return own != nullptr ? own->Copy(keyFrames).release() : nullptr;
+}
+
+void IKxTimeline::releaseInstance(IKxTimeline* timeline)
+{
+    delete timeline;
+}

@@ -1,0 +1,13 @@
+# The module's shared library LIBRARY may export the dialog alone: everything else in it is its own affair.
+
+execute_process(COMMAND nm --dynamic --defined-only --demangle "${LIBRARY}" OUTPUT_VARIABLE symbols RESULT_VARIABLE status)
+if(NOT status EQUAL 0)
+    message(FATAL_ERROR "nm could not read ${LIBRARY}")
+endif()
+string(REPLACE "\n" ";" symbols "${symbols}")
+foreach(symbol IN LISTS symbols)
+    # Weak symbols are templates and inline functions of the standard library and Qt that the compiler puts everywhere.
+    if(symbol MATCHES " [TDBR] " AND NOT symbol MATCHES "KrAutoReframeDialog")
+        message(SEND_ERROR "exported: ${symbol}")
+    endif()
+endforeach()

@@ -1,0 +1,2 @@
+#include "KxModelKnowsWidgets.h"
+#include <KxModel/IKxTimeline.h>

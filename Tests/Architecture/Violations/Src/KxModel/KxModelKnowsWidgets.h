@@ -1,0 +1,2 @@
+#include <QWidget>
+#include <opencv2/core.hpp>

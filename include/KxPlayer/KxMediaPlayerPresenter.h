@@ -1,0 +1,66 @@
+#pragma once
+
+#include <KxCore/KxExport.h>
+
+#include <QObject>
+
+#include <memory>
+
+class IKxMediaPlayer;
+class IKxTimeline;
+
+/// Plays one timeline in one player widget: decodes on a thread of its own, shows each picture at its time (sound is the clock
+/// where there is a sound device), and tells the frame that is on the screen. User-interface thread only; belongs to its
+/// KxMediaPlayerWidget.
+///
+/// Seeking is exact to the frame and the newest seek wins: no picture is ever shown under the number of another frame. A
+/// timeline's crop keyframes are applied when it carries any.
+class KXPLAYER_API KxMediaPlayerPresenter : public QObject
+{
+    Q_OBJECT
+public:
+    ~KxMediaPlayerPresenter() override;
+
+    bool inPlaying() const;
+    /// The frame on the screen; 0 while nothing is open.
+    int currentFrame() const;
+    /// Frames of the open timeline; 0 while nothing is open.
+    int frameCount() const;
+    /// Frames a second, at least 1; 25 while nothing is open.
+    float mediaFrameRate() const;
+    /// Never null.
+    IKxMediaPlayer* mediaPlayer() const;
+
+    void play();
+    void pause();
+    /// Pauses and goes back to frame 0.
+    void stop();
+    /// Shows the next frame; pauses first.
+    void stepForward();
+    /// Shows the frame before; pauses first.
+    void stepBackward();
+
+    /// Opens what `timeline` shows now (a snapshot: later changes of its keyframes come with setTimelineChanged or the next
+    /// open) and shows its first frame. Null closes. With `paused` playing does not go on; `keepPosition` stays at the current
+    /// frame instead. Returns at once; sigFrameChanged tells when the picture stands.
+    void openTimeline(IKxTimeline* timeline, bool paused, bool keepPosition);
+
+    /// Shows `frame` (limited to the timeline). The two further arguments belong to the host's other players and are 0.
+    void seek(int frame, int, int);
+
+Q_SIGNALS:
+    /// The picture of `frame` is on the screen now.
+    void sigFrameChanged(int frame);
+    void sigPlayingChanged(bool playing);
+    /// The end of the timeline was reached while playing; playback is paused at the last frame.
+    void sigReachedEnd();
+    /// Nothing more can be shown; `sentence` is for the person.
+    void sigFailed(const QString& sentence);
+
+private:
+    friend class KxMediaPlayerWidget;
+    class Impl;
+    explicit KxMediaPlayerPresenter(QObject* parent);
+
+    std::unique_ptr<Impl> m_impl;
+};

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <KxCore/KxExport.h>
+
+#include <QComboBox>
+
+/// A choice from a list. The wheel changes it only while it has the focus.
+class KXWIDGETS_API KxComboBox : public QComboBox
+{
+    Q_OBJECT
+public:
+    static KxComboBox* CreateComboBox(QWidget* parent);
+    ~KxComboBox() override;
+
+protected:
+    void wheelEvent(QWheelEvent* event) override;
+
+private:
+    explicit KxComboBox(QWidget* parent);
+};

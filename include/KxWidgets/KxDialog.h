@@ -1,0 +1,25 @@
+#pragma once
+
+#include <KxCore/KxExport.h>
+
+#include <QDialog>
+
+/// The host's dialog. Escape rejects it; every other key does what QDialog does with it, but Return only presses a button that
+/// has the focus or is the default.
+class KXWIDGETS_API KxDialog : public QDialog
+{
+    Q_OBJECT
+public:
+    explicit KxDialog(QWidget* parent = nullptr);
+    ~KxDialog() override;
+
+    /// Runs the dialog modally and returns its result: 1 accepted, 0 rejected.
+    int DoModal();
+
+protected:
+    /// Called after the language has changed; a derived class sets its texts here.
+    virtual void RetranslateUi();
+    void changeEvent(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+};

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <KxWidgets/KxDialog.h>
+
+class KxDialogButtonBar;
+class KxTopLevelWindowTitleBar;
+class QVBoxLayout;
+
+/// A dialog that draws its own frame: title bar, content, button bar, a border and, where the desktop composes windows, a
+/// shadow. It can be moved by its title bar, resized at its edges (unless its size is fixed) and minimised. It does not handle
+/// close events itself.
+class KXWIDGETS_API KxFramelessDialog : public KxDialog
+{
+    Q_OBJECT
+public:
+    /// With `fixedSize` the person cannot resize it; with `centred` it opens in the middle of its parent's window.
+    KxFramelessDialog(const QString& title, QWidget* parent, bool fixedSize, bool centred);
+    ~KxFramelessDialog() override;
+
+    KxTopLevelWindowTitleBar* GetTitleBar() const;
+    KxDialogButtonBar* GetButtonBar() const;
+    /// The dialog takes `content` and destroys the content it had before.
+    void SetContentWidget(QWidget* content);
+    void SetBottomBarVisible(bool visible);
+    /// With `elide` a long title is shortened to the room there is.
+    void SetTitleName(const QString& title, bool elide);
+
+protected:
+    bool event(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    class Frame;
+    Frame* m_frame = nullptr;
+};

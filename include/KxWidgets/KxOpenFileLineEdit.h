@@ -1,0 +1,28 @@
+#pragma once
+
+#include <KxWidgets/KxWidget.h>
+
+class KxLineEdit;
+class KxToolButton;
+
+/// A folder's path to edit, with a button that lets the person pick the folder.
+class KXWIDGETS_API KxOpenFileLineEdit : public KxWidget
+{
+    Q_OBJECT
+public:
+    static KxOpenFileLineEdit* CreateOpenFileLineEdit(QWidget* parent);
+    ~KxOpenFileLineEdit() override;
+
+    QString Text() const;
+    void SetText(const QString& text);
+
+Q_SIGNALS:
+    void sigTextChanged(const QString& text);
+
+private:
+    explicit KxOpenFileLineEdit(QWidget* parent);
+    void PickFolder();
+
+    KxLineEdit* m_edit = nullptr;
+    KxToolButton* m_button = nullptr;
+};

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <KxWidgets/KxFramelessDialog.h>
+
+class KxLabel;
+class KxPushButton;
+class QProgressBar;
+
+/// Shows how a job goes on and lets the person cancel it. `rejected()` comes when it was closed by its cancel button, its
+/// window's close button or Escape; hiding it ends `exec()` without that signal.
+class KXWIDGETS_API KxProgressDialog : public KxFramelessDialog
+{
+    Q_OBJECT
+public:
+    /// What closed it last.
+    enum CloseReason { NotClosed = 0, CancelButton = 1, WindowClosed = 2 };
+
+    KxProgressDialog(const QString& title, QWidget* parent);
+    ~KxProgressDialog() override;
+
+    void SetRange(int minimum, int maximum);
+    void SetProgress(int progress);
+    /// The line above the bar; `icon` names a picture of the style, "None" for none.
+    void SetProgressTitle(const QString& title, const QString& icon);
+    /// The line under the bar; `toolTip` may be empty.
+    void SetInfoText(const QString& text, const QString& toolTip, Qt::Alignment alignment);
+    QString InfoText() const;
+    int GetCloseReason() const;
+
+protected:
+    void RetranslateUi() override;
+    void closeEvent(QCloseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+
+private:
+    KxLabel* m_title = nullptr;
+    KxLabel* m_info = nullptr;
+    QProgressBar* m_bar = nullptr;
+    KxPushButton* m_cancel = nullptr;
+    CloseReason m_closeReason = NotClosed;
+};

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <KxCore/KxExport.h>
+
+#include <QPushButton>
+
+/// A button with a text. The style sheet tells the kinds apart by the property "buttonKind" ("primary" or "secondary").
+class KXWIDGETS_API KxPushButton : public QPushButton
+{
+    Q_OBJECT
+public:
+    /// `heightPx` is the button's size kind: its height in pixels (24 or 32).
+    static KxPushButton* CreatePrimaryButton(QWidget* parent, int heightPx);
+    static KxPushButton* CreateSecondaryButton(QWidget* parent, int heightPx);
+    ~KxPushButton() override;
+
+    /// Whether the button's width follows its text (as it does at first).
+    void SetAutoResizeText(bool follows);
+
+private:
+    KxPushButton(QWidget* parent, const QString& kind, int heightPx);
+};

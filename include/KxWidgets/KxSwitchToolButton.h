@@ -1,0 +1,27 @@
+#pragma once
+
+#include <KxWidgets/KxToolButton.h>
+
+#include <QStringList>
+
+/// A tool button with two faces, such as play and pause; each face has its own tooltip.
+class KXWIDGETS_API KxSwitchToolButton : public KxToolButton
+{
+    Q_OBJECT
+    Q_PROPERTY(int face READ Face)
+public:
+    static KxSwitchToolButton* CreateSwitchToolButton(QWidget* parent, const QString& name);
+    ~KxSwitchToolButton() override;
+
+    /// One tooltip a face, the first face first; they replace the earlier ones.
+    void AddTips(const QStringList& tips);
+    /// 0 or 1. The style sheet tells the faces apart by the property "face".
+    void SetFace(int face);
+    int Face() const { return m_face; }
+
+private:
+    explicit KxSwitchToolButton(QWidget* parent);
+
+    QStringList m_tips;
+    int m_face = 0;
+};

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <KxCore/KxExport.h>
+
+#include <QAbstractButton>
+
+/// A switch with a text at its left. `toggled(bool)` tells of every change.
+class KXWIDGETS_API KxToggleSwitch : public QAbstractButton
+{
+    Q_OBJECT
+public:
+    explicit KxToggleSwitch(QWidget* parent);
+    ~KxToggleSwitch() override;
+
+    QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};

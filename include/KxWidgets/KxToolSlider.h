@@ -1,0 +1,61 @@
+#pragma once
+
+#include <KxWidgets/KxWidget.h>
+
+/// A slider over a continuous range from 0 to its duration, with a handle ("chunk") that is a widget of its own. A press beside
+/// the handle moves it there and the drag goes on from there.
+class KXWIDGETS_API KxToolSlider : public KxWidget
+{
+    Q_OBJECT
+public:
+    KxToolSlider(QWidget* parent, Qt::Orientation orientation);
+    ~KxToolSlider() override;
+
+    QWidget* chunkWidget() const;
+    Qt::Orientation GetOrientation() const;
+    /// The slider's extent along its orientation less the handle's, pixels.
+    int GetWidth() const;
+    int GetChunkWidth() const;
+    int GetChunkHeight() const;
+
+    double duration() const;
+    /// Values beyond the new duration move back inside, without a signal.
+    void setDuration(double duration);
+    double value() const;
+    /// Limited to 0 to the duration. With `emitSignal` a change emits sigValueChanged.
+    void setValue(double value, bool emitSignal);
+
+    /// Whether sigValueChangeStart and sigValueChangeEnd come also for a press and release that changed nothing (as they do at
+    /// first).
+    void SetAwaysEmitValueChangeStartEnd(bool always);
+
+Q_SIGNALS:
+    void sigValueChanged(double value);
+    void sigValueChangeStart(double value);
+    void sigValueChangeEnd(double value);
+
+protected:
+    bool event(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+
+private:
+    double ValueAt(const QPoint& position) const;
+    void PlaceChunk();
+    void MoveByHand(double value);
+
+    const Qt::Orientation m_orientation;
+    QWidget* m_chunk = nullptr;
+    double m_duration = 1.0;
+    double m_value = 0.0;
+    bool m_alwaysEmitsStartEnd = true;
+    bool m_pressed = false;
+    bool m_changedSincePress = false;
+};

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <KxWidgets/KxWidget.h>
+
+#include <QAbstractButton>
+#include <QMap>
+#include <QPoint>
+
+#include <optional>
+
+class QHBoxLayout;
+class KxLabel;
+
+/// The title bar of a frameless window: the window's title at the left, buttons at the right. Dragging it moves the window, a
+/// double click toggles maximised where the window can be resized.
+class KXWIDGETS_API KxTopLevelWindowTitleBar : public KxWidget
+{
+    Q_OBJECT
+public:
+    /// Bits of SetButtons.
+    enum Button { MinimizeButton = 4, MaximizeButton = 16, CloseButton = 32 };
+
+    explicit KxTopLevelWindowTitleBar(QWidget* parent);
+    ~KxTopLevelWindowTitleBar() override;
+
+    /// Shows the buttons whose bits are set, in the order minimise, maximise, close, and hides the others. A maximise button shows
+    /// only while the window can be resized.
+    void SetButtons(int bits);
+    /// Whether the window can be resized at its edges and maximised.
+    void SetResizeble(bool resizable);
+    bool IsResizeble() const;
+    /// The button of one bit; never null for the bits above.
+    QAbstractButton* GetButton(int bit) const;
+
+    void SetTitle(const QString& title);
+    QString Title() const;
+
+protected:
+    void RetranslateUi() override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+
+private:
+    void ToggleMaximized();
+
+    KxLabel* m_title = nullptr;
+    QMap<int, QAbstractButton*> m_buttons;
+    int m_buttonBits = 0;
+    bool m_resizable = false;
+    std::optional<QPoint> m_dragOffset;
+};
