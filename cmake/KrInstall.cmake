@@ -1,1 +1,19 @@
-# follows
+# `cmake --install` puts down the programs, the libraries, the interfaces' headers and what find_package(KrAutoReframe) reads.
+
+include(CMakePackageConfigHelpers)
+
+install(TARGETS KxInterfaces KxCore KxMedia KxSubject KxModel KxRender KrAutoReframe
+    EXPORT KrAutoReframeTargets
+    RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}"
+    LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
+    ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}")
+install(TARGETS reframe RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
+install(DIRECTORY include/ DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}" FILES_MATCHING PATTERN "*.h")
+
+set(KR_PACKAGE_FOLDER "${CMAKE_INSTALL_LIBDIR}/cmake/KrAutoReframe")
+install(EXPORT KrAutoReframeTargets NAMESPACE KrAutoReframe:: DESTINATION "${KR_PACKAGE_FOLDER}")
+configure_package_config_file(cmake/KrAutoReframeConfig.cmake.in "${CMAKE_BINARY_DIR}/KrAutoReframeConfig.cmake"
+    INSTALL_DESTINATION "${KR_PACKAGE_FOLDER}")
+write_basic_package_version_file("${CMAKE_BINARY_DIR}/KrAutoReframeConfigVersion.cmake" COMPATIBILITY SameMajorVersion)
+install(FILES "${CMAKE_BINARY_DIR}/KrAutoReframeConfig.cmake" "${CMAKE_BINARY_DIR}/KrAutoReframeConfigVersion.cmake"
+    DESTINATION "${KR_PACKAGE_FOLDER}")

@@ -6,14 +6,17 @@
 #include <mutex>
 #include <optional>
 
-/// A short queue between two threads: the one that puts in waits while it is full, the one that takes out waits while it is
-/// empty.
+/// A short queue between two threads: the one that puts in waits while it is full, the one that takes out waits while
+/// it is empty.
 template<typename T>
 class KxBoundedQueue
 {
 public:
     /// `capacity` is at least 1.
-    explicit KxBoundedQueue(std::size_t capacity) : m_capacity(capacity) {}
+    explicit KxBoundedQueue(std::size_t capacity)
+        : m_capacity(capacity)
+    {
+    }
 
     /// False, without taking `item`, once the queue is closed.
     bool Push(T item)

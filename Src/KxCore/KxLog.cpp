@@ -27,7 +27,8 @@ spdlog::level::level_enum ToSpdlog(IKxLog::Level level)
 class SpdlogLog final : public IKxLog
 {
 public:
-    SpdlogLog() : m_logger("auto-reframe", std::make_shared<spdlog::sinks::stderr_sink_mt>())
+    SpdlogLog()
+        : m_logger("auto-reframe", std::make_shared<spdlog::sinks::stderr_sink_mt>())
     {
         m_logger.set_pattern("%Y-%m-%d %H:%M:%S.%e [%l] %v (%s:%# %!)");
         m_logger.set_level(spdlog::level::warn);

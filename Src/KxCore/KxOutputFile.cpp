@@ -59,7 +59,8 @@ QString ReserveFreeName(const QString& path)
 } // namespace
 
 KxOutputFile::KxOutputFile(QString targetPath, QString temporaryPath)
-    : m_targetPath(std::move(targetPath)), m_temporaryPath(std::move(temporaryPath))
+    : m_targetPath(std::move(targetPath))
+    , m_temporaryPath(std::move(temporaryPath))
 {
 }
 
@@ -76,7 +77,8 @@ KxResult<std::unique_ptr<KxOutputFile>> KxOutputFile::Create(const QString& targ
     const QFileInfo target(targetPath);
     const QFileInfo folder(target.absolutePath());
     if (!folder.exists()) {
-        return Created::Failure(CannotWrite(targetPath, QStringLiteral("the folder %1 does not exist").arg(folder.filePath())));
+        return Created::Failure(
+            CannotWrite(targetPath, QStringLiteral("the folder %1 does not exist").arg(folder.filePath())));
     }
     if (!folder.isDir()) {
         return Created::Failure(CannotWrite(targetPath, QStringLiteral("%1 is not a folder").arg(folder.filePath())));
@@ -98,7 +100,8 @@ KxResult<QString> KxOutputFile::Commit(Existing existing)
 {
     const QString path = existing == Existing::Replace ? m_targetPath : ReserveFreeName(m_targetPath);
     if (path.isEmpty()) {
-        return KxResult<QString>::Failure(CannotWrite(m_targetPath, QStringLiteral("no free name was found in its folder")));
+        return KxResult<QString>::Failure(
+            CannotWrite(m_targetPath, QStringLiteral("no free name was found in its folder")));
     }
     std::error_code problem;
     std::filesystem::rename(ToNative(m_temporaryPath), ToNative(path), problem);

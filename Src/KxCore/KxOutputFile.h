@@ -8,8 +8,8 @@
 
 #include <memory>
 
-/// A file that is written under a temporary name beside its target and gets its own name only when it is whole. Destroyed
-/// before that, it leaves nothing behind.
+/// A file that is written under a temporary name beside its target and gets its own name only when it is whole.
+/// Destroyed before that, it leaves nothing behind.
 class KXCORE_API KxOutputFile
 {
 public:

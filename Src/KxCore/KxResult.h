@@ -10,7 +10,10 @@ template<typename T>
 class KxResult
 {
 public:
-    KxResult(T value) : m_value(std::move(value)) {}
+    KxResult(T value)
+        : m_value(std::move(value))
+    {
+    }
     static KxResult Failure(QString sentence)
     {
         KxResult result;

@@ -52,10 +52,9 @@ bool KxAutoReframeService::StartTask(const QString& path, const IKxAutoReframePa
         m_result.sentence = analysis.Sentence();
         return false;
     }
-    task->thread = std::thread([this, key = task->key, path, cancel = task->cancel,
-                                work = std::shared_ptr<KxVideoAnalysis>(std::move(*analysis))] {
-        Run(key, path, cancel, *work);
-    });
+    task->thread =
+        std::thread([this, key = task->key, path, cancel = task->cancel,
+                     work = std::shared_ptr<KxVideoAnalysis>(std::move(*analysis))] { Run(key, path, cancel, *work); });
     m_task = std::move(task);
     return true;
 }

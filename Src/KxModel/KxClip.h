@@ -5,8 +5,8 @@
 #include "KxCropKeyFrames.h"
 #include "KxStreamInfo.h"
 
-/// A whole media file on a timeline, with its crop keyframes. Shares the facts of the file with the media item that it came
-/// from, so it outlives it.
+/// A whole media file on a timeline, with its crop keyframes. Shares the facts of the file with the media item that it
+/// came from, so it outlives it.
 class KXMODEL_API KxClip final : public IKxClip
 {
 public:

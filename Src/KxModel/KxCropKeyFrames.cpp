@@ -54,7 +54,8 @@ bool KxCropKeyFrames::Interpolate(const QList<KxCropPanZoomKeyFrameParam>& keyFr
         const KxCropPanZoomKeyFrameParam& before = *(after - 1);
         *out = before;
         if (after != keyFrames.cend() && before.frame != frame) {
-            const double part = static_cast<double>(frame - before.frame) / static_cast<double>(after->frame - before.frame);
+            const double part =
+                static_cast<double>(frame - before.frame) / static_cast<double>(after->frame - before.frame);
             out->cropRect = Between(before.cropRect, after->cropRect, part);
         }
     }

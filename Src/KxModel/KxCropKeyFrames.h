@@ -4,8 +4,8 @@
 
 #include <mutex>
 
-/// The crop/pan/zoom keyframes of one clip: the list as it was set, and linear interpolation between its entries by binary
-/// search. Any thread.
+/// The crop/pan/zoom keyframes of one clip: the list as it was set, and linear interpolation between its entries by
+/// binary search. Any thread.
 class KXMODEL_API KxCropKeyFrames final : public IKxCropPanZoomKeyFrameHelper
 {
 public:

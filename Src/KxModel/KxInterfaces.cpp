@@ -6,11 +6,17 @@
 
 // The records and the virtual tables of the interfaces live here, once for the process.
 
-IKxAutoReframeParam::IKxAutoReframeParam(int mode, const QSize& targetSize) : m_mode(mode), m_targetSize(targetSize) {}
+IKxAutoReframeParam::IKxAutoReframeParam(int mode, const QSize& targetSize)
+    : m_mode(mode)
+    , m_targetSize(targetSize)
+{
+}
 IKxAutoReframeParam::~IKxAutoReframeParam() = default;
 
 IKxAutoReframeResult::IKxAutoReframeResult() = default;
-IKxAutoReframeResult::IKxAutoReframeResult(qint64 frame, const QRectF& cropRect) : m_frame(frame), m_cropRect(cropRect)
+IKxAutoReframeResult::IKxAutoReframeResult(qint64 frame, const QRectF& cropRect)
+    : m_frame(frame)
+    , m_cropRect(cropRect)
 {
 }
 IKxAutoReframeResult::IKxAutoReframeResult(const IKxAutoReframeResult& other) = default;

@@ -4,7 +4,11 @@
 
 #include <QFileInfo>
 
-KxMediaItem::KxMediaItem(std::shared_ptr<const KxMediaFacts> facts) : m_facts(std::move(facts)), m_clip(m_facts) {}
+KxMediaItem::KxMediaItem(std::shared_ptr<const KxMediaFacts> facts)
+    : m_facts(std::move(facts))
+    , m_clip(m_facts)
+{
+}
 
 KxMediaItem::~KxMediaItem() = default;
 

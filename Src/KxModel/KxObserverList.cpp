@@ -35,8 +35,9 @@ void KxObserverList::Notify(qint64 key, int state, int percent, const KxCancelTo
         lock.unlock();
         observer->OnAutoReframeEvent(key, state, percent);
         lock.lock();
-        m_calls.erase(std::find_if(m_calls.begin(), m_calls.end(),
-                                   [observer, self](const Call& call) { return call.observer == observer && call.thread == self; }));
+        m_calls.erase(std::find_if(m_calls.begin(), m_calls.end(), [observer, self](const Call& call) {
+            return call.observer == observer && call.thread == self;
+        }));
         m_callEnded.notify_all();
     }
 }

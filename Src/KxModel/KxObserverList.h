@@ -9,8 +9,8 @@
 #include <thread>
 #include <vector>
 
-/// Who hears the events of the service, and which calls to them are running right now. Any thread; no lock is held during a
-/// call.
+/// Who hears the events of the service, and which calls to them are running right now. Any thread; no lock is held
+/// during a call.
 class KXMODEL_API KxObserverList
 {
 public:

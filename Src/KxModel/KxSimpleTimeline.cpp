@@ -2,7 +2,8 @@
 
 #include <KxModel/KxVBLMODEL.h>
 
-KxSimpleTimeline::KxSimpleTimeline(std::unique_ptr<KxClip> clip) : m_clip(std::move(clip))
+KxSimpleTimeline::KxSimpleTimeline(std::unique_ptr<KxClip> clip)
+    : m_clip(std::move(clip))
 {
     const KxStreamInfo& info = m_clip->StreamInfo();
     m_settings.resolution = info.resolution();

@@ -12,7 +12,10 @@ int ClampToInt(qint64 value)
 
 } // namespace
 
-KxStreamInfo::KxStreamInfo(std::shared_ptr<const KxMediaFacts> facts) : m_facts(std::move(facts)) {}
+KxStreamInfo::KxStreamInfo(std::shared_ptr<const KxMediaFacts> facts)
+    : m_facts(std::move(facts))
+{
+}
 
 KxStreamInfo::~KxStreamInfo() = default;
 

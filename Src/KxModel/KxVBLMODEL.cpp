@@ -9,10 +9,14 @@ KxProjectFrameRateType KxVBLMODEL::toFrameRateType(const KxRational& rate)
         KxProjectFrameRateType type;
     };
     static constexpr Kind kinds[] = {
-        {24000.0 / 1001.0, KxProjectFrameRateType::Fps23_976}, {24.0, KxProjectFrameRateType::Fps24},
-        {25.0, KxProjectFrameRateType::Fps25},                 {30000.0 / 1001.0, KxProjectFrameRateType::Fps29_97},
-        {30.0, KxProjectFrameRateType::Fps30},                 {50.0, KxProjectFrameRateType::Fps50},
-        {60000.0 / 1001.0, KxProjectFrameRateType::Fps59_94},  {60.0, KxProjectFrameRateType::Fps60},
+        {24000.0 / 1001.0, KxProjectFrameRateType::Fps23_976},
+        {24.0, KxProjectFrameRateType::Fps24},
+        {25.0, KxProjectFrameRateType::Fps25},
+        {30000.0 / 1001.0, KxProjectFrameRateType::Fps29_97},
+        {30.0, KxProjectFrameRateType::Fps30},
+        {50.0, KxProjectFrameRateType::Fps50},
+        {60000.0 / 1001.0, KxProjectFrameRateType::Fps59_94},
+        {60.0, KxProjectFrameRateType::Fps60},
     };
     constexpr double tolerance = 0.01;
     for (const Kind& kind : kinds) {

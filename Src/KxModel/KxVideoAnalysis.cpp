@@ -45,7 +45,9 @@ class KxVideoAnalysis::Pipeline
 {
 public:
     Pipeline(KxVideoScanner& scanner, KxSubjectAnalyzer& analyzer, const KxCancelToken& cancel)
-        : m_scanner(scanner), m_analyzer(analyzer), m_cancel(cancel)
+        : m_scanner(scanner)
+        , m_analyzer(analyzer)
+        , m_cancel(cancel)
     {
     }
 
@@ -122,7 +124,10 @@ private:
 
 KxVideoAnalysis::KxVideoAnalysis(std::unique_ptr<KxVideoScanner> scanner, const IKxAutoReframeParam& param,
                                  const QString& faceModelPath, const KxCancelToken& cancel)
-    : m_scanner(std::move(scanner)), m_param(param), m_faceModelPath(faceModelPath), m_cancel(cancel)
+    : m_scanner(std::move(scanner))
+    , m_param(param)
+    , m_faceModelPath(faceModelPath)
+    , m_cancel(cancel)
 {
 }
 
@@ -175,7 +180,8 @@ KxVideoAnalysis::Result KxVideoAnalysis::Run(const std::function<void(int percen
     result.crops.reserve(static_cast<int>(crops.size()));
     for (std::size_t i = 0; i < crops.size(); ++i) {
         const KxCropRect& crop = crops[i];
-        result.crops.append(IKxAutoReframeResult(static_cast<qint64>(i), QRectF(crop.x, crop.y, crop.width, crop.height)));
+        result.crops.append(
+            IKxAutoReframeResult(static_cast<qint64>(i), QRectF(crop.x, crop.y, crop.width, crop.height)));
     }
     result.outcome = KxOutcome::Done;
     return result;

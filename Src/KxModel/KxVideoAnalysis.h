@@ -13,8 +13,8 @@
 
 class KxVideoScanner;
 
-/// One analysis of one file, on the calling thread and one more: this thread decodes and shrinks pictures, the other finds the
-/// subject in them, with a short queue between the two, so that memory does not grow with the file's length.
+/// One analysis of one file, on the calling thread and one more: this thread decodes and shrinks pictures, the other
+/// finds the subject in them, with a short queue between the two, so that memory does not grow with the file's length.
 class KXMODEL_API KxVideoAnalysis
 {
 public:
@@ -35,8 +35,8 @@ public:
 
 private:
     class Pipeline;
-    KxVideoAnalysis(std::unique_ptr<KxVideoScanner> scanner, const IKxAutoReframeParam& param, const QString& faceModelPath,
-                    const KxCancelToken& cancel);
+    KxVideoAnalysis(std::unique_ptr<KxVideoScanner> scanner, const IKxAutoReframeParam& param,
+                    const QString& faceModelPath, const KxCancelToken& cancel);
 
     std::unique_ptr<KxVideoScanner> m_scanner;
     IKxAutoReframeParam m_param;

@@ -13,10 +13,7 @@ class KxOutputFileTest : public testing::Test
 {
 protected:
     QString Path(const char* name) const { return m_folder.filePath(QLatin1String(name)); }
-    QStringList Files() const
-    {
-        return QDir(m_folder.path()).entryList(QDir::Files | QDir::Hidden, QDir::Name);
-    }
+    QStringList Files() const { return QDir(m_folder.path()).entryList(QDir::Files | QDir::Hidden, QDir::Name); }
     static QByteArray Content(const QString& path)
     {
         QFile file(path);
@@ -93,7 +90,8 @@ TEST_F(KxOutputFileTest, NamesTheFileAndTheReasonWhenItCannotWrite)
     QDir(m_folder.path()).mkdir(QStringLiteral("folder"));
     const auto onFolder = KxOutputFile::Create(Path("folder"));
     ASSERT_FALSE(onFolder);
-    EXPECT_TRUE(onFolder.Sentence().endsWith(QStringLiteral("folder: it is a folder."))) << onFolder.Sentence().toStdString();
+    EXPECT_TRUE(onFolder.Sentence().endsWith(QStringLiteral("folder: it is a folder.")))
+        << onFolder.Sentence().toStdString();
 }
 
 TEST_F(KxOutputFileTest, OthersMayReadWhatIsWritten)

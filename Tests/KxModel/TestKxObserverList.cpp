@@ -12,7 +12,10 @@ namespace
 class Observer : public IKxAutoReframeEventObserver
 {
 public:
-    explicit Observer(std::function<void()> action = {}) : m_action(std::move(action)) {}
+    explicit Observer(std::function<void()> action = {})
+        : m_action(std::move(action))
+    {
+    }
     ~Observer() override = default;
 
     void OnAutoReframeEvent(qint64, int, int) override

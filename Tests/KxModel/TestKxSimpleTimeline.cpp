@@ -15,7 +15,8 @@ std::shared_ptr<const KxMediaFacts> Facts()
     video.frameCount = 250;
     video.bitRate = 5000000000LL;
     facts.video = video;
-    facts.audio = {KxAudioFacts{48000, 2, 128000, QStringLiteral("aac")}, KxAudioFacts{44100, 1, 64000, QStringLiteral("aac")}};
+    facts.audio = {KxAudioFacts{48000, 2, 128000, QStringLiteral("aac")},
+                   KxAudioFacts{44100, 1, 64000, QStringLiteral("aac")}};
     facts.defaultAudio = 1;
     return std::make_shared<const KxMediaFacts>(facts);
 }
@@ -114,7 +115,8 @@ TEST(KxStreamInfo, GivesTheFactsOfBothKinds)
     const KxStreamInfo info(Facts());
     EXPECT_TRUE(info.hasVideoStream());
     EXPECT_TRUE(info.hasAudioStream());
-    EXPECT_EQ(static_cast<const IKxVideoMediaInfo&>(info).bitRate(), 2147483647); // more than fits is the most that fits
+    EXPECT_EQ(static_cast<const IKxVideoMediaInfo&>(info).bitRate(),
+              2147483647); // more than fits is the most that fits
     EXPECT_EQ(info.streamCount(), 2);
     EXPECT_EQ(info.bitRate(0), 128000);
     EXPECT_EQ(info.bitRate(1), 64000);

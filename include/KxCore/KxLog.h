@@ -13,8 +13,8 @@ class KXCORE_API IKxLog
 public:
     enum class Level { Debug, Info, Warning, Error };
 
-    /// `file` and `function` need to live only for the call. Never throws and never blocks on anything but the log's own
-    /// lock.
+    /// `file` and `function` need to live only for the call. Never throws and never blocks on anything but the log's
+    /// own lock.
     virtual void Write(Level level, const char* file, int line, const char* function, const QString& text) = 0;
 
 protected:

@@ -18,8 +18,8 @@ public:
 
 /// A media file. User-interface thread only.
 ///
-/// Life cycle: made with `createMediaItem`, given back with `releaseMediaItem` by whoever made it. Its clip and information
-/// live as long as the item; a timeline that was built around the clip shares what it needs and lives on.
+/// Life cycle: made with `createMediaItem`, given back with `releaseMediaItem` by whoever made it. Its clip and
+/// information live as long as the item; a timeline that was built around the clip shares what it needs and lives on.
 class KXMODEL_API IKxAbstractMediaItem : public IKxAbstractMedia
 {
 public:
@@ -36,8 +36,8 @@ public:
     virtual int audioStreamIndex() const = 0;
 };
 
-/// Opens the file `path` and reads its facts; null when it is no media file that can be read. Blocks while the file's header
-/// is read. The caller gives the item back with `releaseMediaItem`.
+/// Opens the file `path` and reads its facts; null when it is no media file that can be read. Blocks while the file's
+/// header is read. The caller gives the item back with `releaseMediaItem`.
 KXMODEL_API IKxAbstractMediaItem* createMediaItem(const QString& path);
 
 /// Frees an item made by `createMediaItem`; null is allowed.

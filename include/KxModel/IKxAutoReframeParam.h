@@ -8,8 +8,8 @@
 class KXMODEL_API IKxAutoReframeParam
 {
 public:
-    /// `mode` is the motion speed: 8 follows closely, 24 calmly, 16 lies between. `targetSize` is the wanted aspect ratio as
-    /// whole numbers (9 x 16, or a size in pixels of that ratio).
+    /// `mode` is the motion speed: 8 follows closely, 24 calmly, 16 lies between. `targetSize` is the wanted aspect
+    /// ratio as whole numbers (9 x 16, or a size in pixels of that ratio).
     IKxAutoReframeParam(int mode, const QSize& targetSize);
     ~IKxAutoReframeParam();
 

@@ -15,7 +15,8 @@ public:
     ~IKxAutoReframeResult();
 
     qint64 frame() const { return m_frame; }
-    /// x and width as fractions of the picture's width, y and height as fractions of its height; 0..1 inside the picture.
+    /// x and width as fractions of the picture's width, y and height as fractions of its height; 0..1 inside the
+    /// picture.
     const QRectF& cropRect() const { return m_cropRect; }
     void setCropRect(const QRectF& cropRect) { m_cropRect = cropRect; }
 

@@ -15,7 +15,8 @@ public:
     virtual ~IKxKeyFrameHelper();
 };
 
-/// Crop, pan and zoom keyframes. The two operations may be called from any thread; each sees the keyframes of one moment.
+/// Crop, pan and zoom keyframes. The two operations may be called from any thread; each sees the keyframes of one
+/// moment.
 class KXMODEL_API IKxCropPanZoomKeyFrameHelper : public IKxKeyFrameHelper
 {
 public:
@@ -25,6 +26,7 @@ public:
     virtual void setKeyFrames(const QList<KxCropPanZoomKeyFrameParam>& keyFrames) = 0;
 
     /// Fills `out` with what holds at `frame`: between two keyframes the rectangle is interpolated linearly, before the
-    /// first and after the last one that keyframe's rectangle is held. False, with `out` as it was, when there are none.
+    /// first and after the last one that keyframe's rectangle is held. False, with `out` as it was, when there are
+    /// none.
     virtual bool interpolatedParam(qint64 frame, KxCropPanZoomKeyFrameParam* out) const = 0;
 };

@@ -17,8 +17,8 @@ public:
     virtual bool hasAudioStream() const = 0;
 };
 
-/// The facts of a video stream. Frames are counted on one constant grid at `frameRate`: frame n is the picture shown n /
-/// rate after the first one.
+/// The facts of a video stream. Frames are counted on one constant grid at `frameRate`: frame n is the picture shown n
+/// / rate after the first one.
 class KXMODEL_API IKxVideoMediaInfo : public virtual IKxMediaInfo
 {
 public:

@@ -9,8 +9,8 @@
 class IKxKeyFrameHelper;
 class IKxMediaInfo;
 
-/// A piece of media on a timeline. Belongs to its timeline or media item. User-interface thread only; its keyframe helper
-/// may be used from any thread.
+/// A piece of media on a timeline. Belongs to its timeline or media item. User-interface thread only; its keyframe
+/// helper may be used from any thread.
 class KXMODEL_API IKxClip
 {
 public:
@@ -26,17 +26,18 @@ public:
 
 /// A sequence of clips with a picture format. User-interface thread only.
 ///
-/// Life cycle: an instance comes from `createSimpleTimeline` or `clone` and ends with `releaseInstance`. A simple timeline
-/// belongs to the host, which releases it when nothing shows or edits it any more; the module releases only what it cloned.
+/// Life cycle: an instance comes from `createSimpleTimeline` or `clone` and ends with `releaseInstance`. A simple
+/// timeline belongs to the host, which releases it when nothing shows or edits it any more; the module releases only
+/// what it cloned.
 class KXMODEL_API IKxTimeline
 {
 public:
-    /// A timeline with one clip, made like `clip` and sharing what it needs with it: it lives on when the clip's media item is
-    /// released. Null when `clip` is null. Its format starts as the clip's own resolution and rate.
+    /// A timeline with one clip, made like `clip` and sharing what it needs with it: it lives on when the clip's media
+    /// item is released. Null when `clip` is null. Its format starts as the clip's own resolution and rate.
     static IKxTimeline* createSimpleTimeline(IKxClip* clip);
 
-    /// A copy that shares nothing that can change. With `shareKeyFrames` the copy's clips carry the very keyframes of the
-    /// original instead of their own. Null when `timeline` is null.
+    /// A copy that shares nothing that can change. With `shareKeyFrames` the copy's clips carry the very keyframes of
+    /// the original instead of their own. Null when `timeline` is null.
     static IKxTimeline* clone(IKxTimeline* timeline, bool shareKeyFrames);
 
     /// Frees an instance; null is allowed.

@@ -15,8 +15,8 @@ enum class KxProjectFrameRateType {
     Fps60 = 8,
 };
 
-/// Kinds of aspect ratio that a project can have. The number 5 stands for 4:5, which the conversion does not know: it yields
-/// Unknown for it.
+/// Kinds of aspect ratio that a project can have. The number 5 stands for 4:5, which the conversion does not know: it
+/// yields Unknown for it.
 enum KxProjectAspectRatioType {
     KxProjectAspectRatioUnknown = 0,
     KxProjectAspectRatio16x9 = 1,

@@ -26,9 +26,9 @@ void DrawCell(QPainter& painter, const QRect& cell, const QImage& image, const Q
                       crop.width() * cell.width(), crop.height() * cell.height());
     QRegion outside(cell);
     outside -= kept.toAlignedRect();
-    painter.setClipRegion(outside);
-    painter.fillRect(cell, dimmed);
-    painter.setClipping(false);
+    for (const QRect& part : outside) {
+        painter.fillRect(part, dimmed);
+    }
     painter.setPen(QPen(accent, 2.0));
     painter.setBrush(Qt::NoBrush);
     painter.drawRect(kept.adjusted(1.0, 1.0, -1.0, -1.0));

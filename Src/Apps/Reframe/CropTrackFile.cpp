@@ -147,12 +147,14 @@ KxResult<CropTrack> CropTrackFile::Read(const QString& path)
     const QString name = QFileInfo(path).fileName();
     QFile file(path);
     if (QFileInfo(path).isDir() || !file.open(QIODevice::ReadOnly)) {
-        const QString reason = QFileInfo(path).isDir() ? QStringLiteral("it is a folder") : file.errorString().toLower();
+        const QString reason =
+            QFileInfo(path).isDir() ? QStringLiteral("it is a folder") : file.errorString().toLower();
         return KxResult<CropTrack>::Failure(QStringLiteral("Cannot open %1: %2.").arg(path, reason));
     }
     constexpr qint64 largestBytes = 512LL * 1024 * 1024;
     if (file.size() > largestBytes) {
-        return KxResult<CropTrack>::Failure(QStringLiteral("Cannot use %1: it is too large for a crop track.").arg(name));
+        return KxResult<CropTrack>::Failure(
+            QStringLiteral("Cannot use %1: it is too large for a crop track.").arg(name));
     }
     const QByteArray content = file.readAll();
     KxResult<CropTrack> track = IsCsv(path) ? ReadCsv(content, name) : ReadJson(content, name);

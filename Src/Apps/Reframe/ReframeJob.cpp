@@ -4,50 +4,29 @@
 #include "CropTrackFile.h"
 #include "KrAutoReframeAnalyzer.h"
 #include "KrAutoReframeHelper.h"
-#include "KrExportParameters.h"
 #include "KxAutoReframeService.h"
 #include "KxInterrupt.h"
-#include "KxRenderJob.h"
 #include "ReframeReporter.h"
+#include "ReframeWait.h"
 
 #include <QBuffer>
 #include <QDir>
 #include <QEventLoop>
 #include <QFileInfo>
-#include <QTimer>
-
-namespace
-{
-
-/// Runs the event loop until it is told to quit or the person interrupts; false for the latter.
-bool RunUntilDone(QEventLoop& loop)
-{
-    constexpr int lookEveryMs = 50;
-    bool interrupted = false;
-    QTimer timer;
-    QObject::connect(&timer, &QTimer::timeout, &loop, [&] {
-        interrupted = KxInterrupt::IsRequested();
-        if (interrupted) {
-            loop.quit();
-        }
-    });
-    timer.start(lookEveryMs);
-    loop.exec();
-    return !interrupted;
-}
-
-} // namespace
 
 ReframeJob::ReframeJob(const QString& input, const ReframeOptions& options, ReframeReporter& reporter)
-    : m_input(input), m_options(options), m_reporter(reporter), m_aspect(options.aspect)
+    : m_input(input)
+    , m_options(options)
+    , m_reporter(reporter)
+    , m_aspect(options.aspect)
+    , m_process(std::make_unique<KrAutoReframeProcess>(nullptr))
 {
 }
 
 ReframeJob::~ReframeJob()
 {
-    m_process.StopProcess();
-    IKxTimeline* const source = m_process.GetHelper()->GetSourceTimeline();
-    m_process.GetHelper().reset();
+    IKxTimeline* const source = Helper().GetSourceTimeline();
+    m_process.reset();
     IKxTimeline::releaseInstance(source);
 }
 
@@ -62,10 +41,11 @@ KxOutcome ReframeJob::Run()
             return *ended;
         }
     }
-    const QString frames = QStringLiteral("%1 frames").arg(m_process.GetHelper()->GetDuration());
+    const QString frames = QStringLiteral("%1 frames").arg(Helper().GetDuration());
     m_reporter.Succeed(m_input,
-                       m_written.isEmpty() ? QStringLiteral("%1: %2 analysed").arg(m_input, frames)
-                                           : QStringLiteral("%1: %2 -> %3").arg(m_input, frames, m_written.join(QStringLiteral(", "))),
+                       m_written.isEmpty()
+                           ? QStringLiteral("%1: %2 analysed").arg(m_input, frames)
+                           : QStringLiteral("%1: %2 -> %3").arg(m_input, frames, m_written.join(QStringLiteral(", "))),
                        m_facts);
     return KxOutcome::Done;
 }
@@ -80,7 +60,7 @@ ReframeJob::Ended ReframeJob::Open()
     if (!m_media->mediaInfo()->hasVideoStream()) {
         return Fail(QStringLiteral("Cannot reframe %1: it has no moving picture.").arg(m_input));
     }
-    m_process.OpenMedia(m_media.get());
+    m_process->OpenMedia(m_media.get());
     m_facts.insert(QStringLiteral("frames"), m_media->duration());
     return std::nullopt;
 }
@@ -105,7 +85,7 @@ ReframeJob::Ended ReframeJob::FindCrops()
 
 ReframeJob::Ended ReframeJob::StartAnalysis()
 {
-    switch (m_process.StartAnalyze(m_aspect.width(), m_aspect.height(), m_options.speedMode)) {
+    switch (m_process->StartAnalyze(m_aspect.width(), m_aspect.height(), m_options.speedMode)) {
     case 0:
         return std::nullopt;
     case 1:
@@ -131,7 +111,7 @@ ReframeJob::Ended ReframeJob::StartApplying()
     if (!track->aspect.isEmpty()) {
         m_aspect = track->aspect;
     }
-    if (!m_process.GetHelper()->ApplyResults(track->crops)) {
+    if (!Helper().ApplyResults(track->crops)) {
         return Fail(QStringLiteral("Cannot use %1: it holds %2 frames, %3 has %4.")
                         .arg(m_options.apply, QString::number(track->crops.size()), m_input,
                              QString::number(m_media->duration())));
@@ -143,19 +123,20 @@ ReframeJob::Ended ReframeJob::WaitForCrops()
 {
     QEventLoop loop;
     bool succeeded = false;
-    QObject::connect(&m_process, &KrAutoReframeProcess::sigProcessProgress, &loop,
+    QObject::connect(m_process.get(), &KrAutoReframeProcess::sigProcessProgress, &loop,
                      [this](int progress) { m_reporter.Progress(progress); });
-    QObject::connect(&m_process, &KrAutoReframeProcess::sigProcessFinished, &loop, [&](bool success) {
+    QObject::connect(m_process.get(), &KrAutoReframeProcess::sigProcessFinished, &loop, [&](bool success) {
         succeeded = success;
         loop.quit();
     });
-    if (!RunUntilDone(loop)) {
-        m_process.StopProcess();
+    if (!ReframeWait::Run(loop)) {
+        m_process->StopProcess();
         return KxOutcome::Cancelled;
     }
-    if (!succeeded || m_process.GetHelper()->GetDisplayResults().isEmpty()) {
+    if (!succeeded || Helper().GetDisplayResults().isEmpty()) {
         const QString reason = KxAutoReframeService::Instance().LastSentence();
-        return Fail(reason.isEmpty() ? QStringLiteral("Cannot reframe %1: the analysis found nothing.").arg(m_input) : reason);
+        return Fail(reason.isEmpty() ? QStringLiteral("Cannot reframe %1: the analysis found nothing.").arg(m_input)
+                                     : reason);
     }
     return std::nullopt;
 }
@@ -171,7 +152,7 @@ ReframeJob::Ended ReframeJob::WriteKeyframes()
     track.frameRate = static_cast<const KxClip*>(m_media->clip())->StreamInfo().frameRate();
     track.aspect = m_aspect;
     track.speedName = m_options.speedName;
-    track.crops = m_process.GetHelper()->GetDisplayResults();
+    track.crops = Helper().GetDisplayResults();
     const QString path = TargetPath(m_options.keyframes, QStringLiteral("json"));
     const KxResult<QString> written = KxOutputFile::Write(path, CropTrackFile::Format(track, path), WhenItExists());
     if (!written) {
@@ -188,7 +169,7 @@ ReframeJob::Ended ReframeJob::WritePreview()
         return std::nullopt;
     }
     KxCancelToken cancel;
-    const KxResult<QImage> sheet = ContactSheet::Draw(m_input, m_process.GetHelper()->GetDisplayResults(), cancel);
+    const KxResult<QImage> sheet = ContactSheet::Draw(m_input, Helper().GetDisplayResults(), cancel);
     if (!sheet) {
         return Fail(sheet.Sentence());
     }
@@ -206,6 +187,11 @@ ReframeJob::Ended ReframeJob::WritePreview()
     m_written += *written;
     m_facts.insert(QStringLiteral("preview"), *written);
     return std::nullopt;
+}
+
+KrAutoReframeHelper& ReframeJob::Helper() const
+{
+    return *m_process->GetHelper();
 }
 
 KxOutcome ReframeJob::Fail(const QString& sentence)

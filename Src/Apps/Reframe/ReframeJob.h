@@ -3,6 +3,7 @@
 #include "KxCancelToken.h"
 #include "KxMediaItem.h"
 #include "KxOutputFile.h"
+#include "KxRenderJob.h"
 #include "KxResult.h"
 #include "ReframeOptions.h"
 
@@ -12,8 +13,8 @@
 
 class ReframeReporter;
 
-/// The whole way of one input: open, analyse (or take a track), write what was asked for. Main thread; it runs the event loop
-/// while it waits.
+/// The whole way of one input: open, analyse (or take a track), write what was asked for. Main thread; it runs the
+/// event loop while it waits.
 class ReframeJob
 {
 public:
@@ -36,7 +37,9 @@ private:
     Ended WriteKeyframes();
     Ended WritePreview();
     Ended WriteVideo();
+    KxRenderResult Render(const KxRenderSource& source, const KxRenderSettings& settings);
 
+    KrAutoReframeHelper& Helper() const;
     KxOutcome Fail(const QString& sentence);
     /// Where to write: `named` itself, or a file called after the input in the folder `named`, or beside the input when
     /// `named` is empty.
@@ -48,7 +51,7 @@ private:
     ReframeReporter& m_reporter;
     QSize m_aspect;
     std::unique_ptr<KxMediaItem> m_media;
-    KrAutoReframeProcess m_process{nullptr};
+    std::unique_ptr<KrAutoReframeProcess> m_process;
     QJsonObject m_facts;
     QStringList m_written;
 };

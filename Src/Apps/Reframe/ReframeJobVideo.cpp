@@ -2,11 +2,11 @@
 
 #include "KrAutoReframeHelper.h"
 #include "KrExportParameters.h"
-#include "KxInterrupt.h"
 #include "KxRenderJob.h"
 #include "ReframeReporter.h"
+#include "ReframeWait.h"
 
-#include <QCoreApplication>
+#include <QEventLoop>
 #include <QFileInfo>
 
 namespace
@@ -33,8 +33,11 @@ ReframeJob::Ended ReframeJob::WriteVideo()
     if (!m_options.writesVideo) {
         return std::nullopt;
     }
-    KrAutoReframeHelper& helper = *m_process.GetHelper();
-    KxRenderSettings settings = SettingsFor(*m_media, helper.GetDisplayResults().first().cropRect());
+    const KxResult<KxRenderSource> source = KxRenderSource::FromTimeline(*Helper().GetWorkTimeline());
+    if (!source) {
+        return Fail(source.Sentence());
+    }
+    KxRenderSettings settings = SettingsFor(*m_media, Helper().GetDisplayResults().first().cropRect());
     settings.outputPath = TargetPath(m_options.output, QStringLiteral("mp4"));
     settings.existing = WhenItExists();
     if (m_options.overwrites && QFileInfo(settings.outputPath) == QFileInfo(m_input)) {
@@ -42,7 +45,7 @@ ReframeJob::Ended ReframeJob::WriteVideo()
     }
 
     m_reporter.BeginStage(m_input, ReframeReporter::Stage::Render);
-    const KxRenderResult result = Render(KxRenderSource::FromTimeline(*helper.GetWorkTimeline()), settings);
+    const KxRenderResult result = Render(*source, settings);
     if (result.outcome == KxOutcome::Cancelled) {
         return KxOutcome::Cancelled;
     }
@@ -57,4 +60,27 @@ ReframeJob::Ended ReframeJob::WriteVideo()
     m_facts.insert(QStringLiteral("width"), settings.resolution.width());
     m_facts.insert(QStringLiteral("height"), settings.resolution.height());
     return std::nullopt;
+}
+
+KxRenderResult ReframeJob::Render(const KxRenderSource& source, const KxRenderSettings& settings)
+{
+    QEventLoop loop;
+    KxRenderResult result;
+    KxRenderJob::Callbacks callbacks;
+    // The job calls on its own thread; what it says is heard on this one.
+    callbacks.progress = [this, &loop](int progress) {
+        QMetaObject::invokeMethod(&loop, [this, progress] { m_reporter.Progress(progress); });
+    };
+    callbacks.finished = [&](const KxRenderResult& ended) {
+        QMetaObject::invokeMethod(&loop, [&result, &loop, ended] {
+            result = ended;
+            loop.quit();
+        });
+    };
+    KxRenderJob job(source, settings, callbacks);
+    if (!ReframeWait::Run(loop)) {
+        job.Cancel();
+        result.outcome = KxOutcome::Cancelled;
+    }
+    return result;
 }

@@ -11,20 +11,23 @@ namespace
 struct Definitions {
     QCommandLineOption aspect{QStringLiteral("aspect"), QStringLiteral("Aspect ratio of the result (9:16)."),
                               QStringLiteral("W:H"), QStringLiteral("9:16")};
-    QCommandLineOption speed{QStringLiteral("speed"), QStringLiteral("How readily the crop follows: auto, fast or slow (auto)."),
+    QCommandLineOption speed{QStringLiteral("speed"),
+                             QStringLiteral("How readily the crop follows: auto, fast or slow (auto)."),
                              QStringLiteral("SPEED"), QStringLiteral("auto")};
     QCommandLineOption output{QStringLiteral("output"),
                               QStringLiteral("Where to write the video; beside the input when not given."),
                               QStringLiteral("FILE|FOLDER")};
     QCommandLineOption keyframes{QStringLiteral("keyframes"),
-                                 QStringLiteral("Write the crop of every frame, as .json or .csv."), QStringLiteral("FILE")};
+                                 QStringLiteral("Write the crop of every frame, as .json or .csv."),
+                                 QStringLiteral("FILE")};
     QCommandLineOption apply{QStringLiteral("apply"), QStringLiteral("Take the crops from FILE instead of analysing."),
                              QStringLiteral("FILE")};
     QCommandLineOption preview{QStringLiteral("preview"),
                                QStringLiteral("Write a contact sheet of the source with the crop drawn."),
                                QStringLiteral("FILE.png")};
     QCommandLineOption faceModel{QStringLiteral("face-model"),
-                                 QStringLiteral("Use the neural face detector in FILE (YuNet, ONNX)."), QStringLiteral("FILE")};
+                                 QStringLiteral("Use the neural face detector in FILE (YuNet, ONNX)."),
+                                 QStringLiteral("FILE")};
     QCommandLineOption noVideo{QStringLiteral("no-video"), QStringLiteral("Analyse only; write no video.")};
     QCommandLineOption overwrite{QStringLiteral("overwrite"),
                                  QStringLiteral("Replace existing files instead of adding a number to the name.")};
@@ -35,7 +38,8 @@ struct Definitions {
 
     QList<QCommandLineOption> All() const
     {
-        return {aspect, speed, output, keyframes, apply, preview, faceModel, noVideo, overwrite, json, quiet, help, version};
+        return {aspect,  speed,     output, keyframes, apply, preview, faceModel,
+                noVideo, overwrite, json,   quiet,     help,  version};
     }
 };
 
@@ -65,8 +69,9 @@ std::optional<QSize> ParseAspect(const QString& text)
     const QSize aspect(parts.at(0).toInt(&widthOk), parts.at(1).toInt(&heightOk));
     constexpr int largest = 10000;
     constexpr int steepest = 20;
-    const bool sane = widthOk && heightOk && !aspect.isEmpty() && aspect.width() <= largest && aspect.height() <= largest &&
-                      aspect.width() <= steepest * aspect.height() && aspect.height() <= steepest * aspect.width();
+    const bool sane = widthOk && heightOk && !aspect.isEmpty() && aspect.width() <= largest &&
+                      aspect.height() <= largest && aspect.width() <= steepest * aspect.height() &&
+                      aspect.height() <= steepest * aspect.width();
     return sane ? std::optional<QSize>(aspect) : std::nullopt;
 }
 
@@ -99,7 +104,8 @@ QString Contradiction(const ReframeOptions& options)
                                                        {QStringLiteral("--preview"), options.preview}};
         for (const auto& [name, path] : targets) {
             if (!path.isEmpty() && !QFileInfo(path).isDir()) {
-                return QStringLiteral("With several inputs %1 must name an existing folder; %2 is none.").arg(name, path);
+                return QStringLiteral("With several inputs %1 must name an existing folder; %2 is none.")
+                    .arg(name, path);
             }
         }
         if (!options.apply.isEmpty()) {

@@ -9,7 +9,8 @@
 
 int ReframeProgram::Run(const ReframeOptions& options)
 {
-    KxAutoReframeService::Instance().SetFaceModel(options.faceModel.isEmpty() ? KxFaceModel::Find() : options.faceModel);
+    KxAutoReframeService::Instance().SetFaceModel(options.faceModel.isEmpty() ? KxFaceModel::Find()
+                                                                              : options.faceModel);
     ReframeReporter reporter(options);
     int status = ReframeExit::Done;
     for (const QString& input : options.inputs) {

@@ -1,0 +1,75 @@
+// How long an edit takes on a clip of two hours at 30 frames a second: from the call to keyframes handed to the host and display
+// rectangles rebuilt. The bar is one frame of a 60 Hz display.
+
+#include "KrAutoReframeHelper.h"
+#include "KxSimpleTimeline.h"
+
+#include <QCoreApplication>
+#include <QEventLoop>
+
+#include <benchmark/benchmark.h>
+
+#include <memory>
+
+namespace
+{
+
+constexpr int frameCount = 216000;
+
+std::shared_ptr<const KxMediaFacts> LongClip()
+{
+    KxMediaFacts facts;
+    facts.path = QStringLiteral("long.mp4");
+    KxVideoFacts video;
+    video.resolution = QSize(1920, 1080);
+    video.frameRate = {30, 1};
+    video.frameCount = frameCount;
+    facts.video = video;
+    return std::make_shared<const KxMediaFacts>(facts);
+}
+
+QList<IKxAutoReframeResult> Results()
+{
+    QList<IKxAutoReframeResult> results;
+    results.reserve(frameCount);
+    for (int frame = 0; frame < frameCount; ++frame) {
+        results.append(IKxAutoReframeResult(frame, QRectF((frame % 600) / 1000.0, 0.0, 0.31640625, 1.0)));
+    }
+    return results;
+}
+
+void Apply(KrAutoReframeHelper& helper)
+{
+    QEventLoop loop;
+    QObject::connect(&helper, &KrAutoReframeHelper::sigApplyFinished, &loop, &QEventLoop::quit);
+    if (helper.ApplyResults(Results())) {
+        loop.exec();
+    }
+}
+
+void AddKeyFrame(benchmark::State& state)
+{
+    KxClip clip(LongClip());
+    const std::unique_ptr<IKxTimeline, void (*)(IKxTimeline*)> timeline(IKxTimeline::createSimpleTimeline(&clip),
+                                                                        &IKxTimeline::releaseInstance);
+    KrAutoReframeHelper helper;
+    helper.SetTimeline(timeline.get());
+    Apply(helper);
+    uint frame = 5000;
+    for (auto _ : state) {
+        helper.AddKeyFrame(frame, QRectF(0.3, 0.0, 0.31640625, 1.0));
+        benchmark::DoNotOptimize(helper.GetDisplayResults().size());
+        frame = (frame + 7919) % frameCount;
+    }
+}
+BENCHMARK(AddKeyFrame)->Unit(benchmark::kMillisecond)->Iterations(40)->Repetitions(9)->ReportAggregatesOnly();
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QCoreApplication application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}

@@ -1,0 +1,66 @@
+#pragma once
+
+#include <KxWidgets/KxWidget.h>
+
+class KxComboBox;
+class KxLabel;
+class KxPushButton;
+class KxToggleSwitch;
+class KxToolButton;
+
+/// The settings column: it shows controls and tells of clicks; what they lead to, and when which control is enabled, is
+/// its owner's. User-interface thread.
+class KrAutoReframePropertyPanel : public KxWidget
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(KrAutoReframePropertyPanel)
+
+public:
+    explicit KrAutoReframePropertyPanel(QWidget* parent);
+    ~KrAutoReframePropertyPanel() override;
+
+    void RetranslateUi() override;
+
+    /// The chosen aspect ratio as whole numbers, and the speed as the analysis takes it: 8 fast, 16 auto, 24 slow.
+    void GetParameters(int& ratioWidth, int& ratioHeight, int& motionSpeed) const;
+    /// The number by which usage reports know a speed; -1 for a speed that is not offered.
+    int MotionSpeedToTrackValue(int motionSpeed) const;
+
+    /// A file is there from now on: it can only be replaced.
+    void OnFileImported();
+    /// Also brings the analyse button back: the next analysis counts as the first one again.
+    void SetParameterEnabled(bool isEnabled);
+    /// Preview switch and export button. A switch that is off is put on first, without a signal: the preview starts
+    /// over with the source video.
+    void SetPreviewEnabled(bool isEnabled);
+    /// After the first analysis the restart button takes the analyse button's place.
+    void OnAnalysisFinished();
+
+Q_SIGNALS:
+    void sigImportFile();
+    void sigExport();
+    void sigStartAnalysis();
+    /// True: the source video with the crop to adjust; false: the reframed result.
+    void sigPreviewModeChanged(bool isAdjusting);
+
+private:
+    void InitUi();
+    void InitButtons();
+    void InitLayout();
+    void ConnectSignals();
+    void InitData();
+
+    KxToolButton* m_importButton = nullptr;
+    KxToolButton* m_replaceButton = nullptr;
+    KxLabel* m_aspectRatioLabel = nullptr;
+    KxLabel* m_motionSpeedLabel = nullptr;
+    KxToggleSwitch* m_previewSwitch = nullptr;
+    KxComboBox* m_aspectRatioCombo = nullptr;
+    KxComboBox* m_motionSpeedCombo = nullptr;
+    KxPushButton* m_analyzeButton = nullptr;
+    KxPushButton* m_restartButton = nullptr;
+    KxPushButton* m_exportButton = nullptr;
+    bool m_notImported = true;
+    /// The next analysis to finish is the first one since the settings were enabled.
+    bool m_firstAnalysis = true;
+};

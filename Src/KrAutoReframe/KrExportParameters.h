@@ -1,0 +1,28 @@
+#pragma once
+
+#include <KxCore/KxRational.h>
+
+#include <QRectF>
+#include <QSize>
+
+/// The rules by which the facts of a source become the parameters of an export. Pure.
+namespace KrExportParameters
+{
+constexpr float DefaultFrameRate = 25.0F;
+constexpr int DefaultVideoBitRate = 2000000; ///< bits a second
+constexpr int DefaultAudioBitRate = 192000;  ///< bits a second
+
+/// The pixel size of a crop given in fractions of `source`: each side rounded (halves away from zero) and, where that
+/// is odd, moved to the even neighbour on the side of the exact value.
+QSize EvenResolution(const QSize& source, const QRectF& cropRatio);
+
+/// Frames a second, at most 60. 24000/1001 gives exactly 23.97, as the editor's own project formats name that rate; 0
+/// when the rate is unknown.
+double FrameRate(const KxRational& source);
+
+/// Bits a second, 256000 to 150000000.
+int VideoBitRate(int source);
+
+/// Bits a second, 96000 to 320000.
+int AudioBitRate(int source);
+} // namespace KrExportParameters

@@ -1,0 +1,9 @@
+#include "SendClickEvent.h"
+
+#include <KxCore/KrAutoReframeClickEvent.h>
+
+void SendClickEvent(const QString& name)
+{
+    KrAutoReframeClickEvent event(name);
+    event.sendEvent();
+}

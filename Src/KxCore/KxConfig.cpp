@@ -1,0 +1,74 @@
+#include <KxCore/KxConfig.h>
+
+#include "KxConfigFile.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QSettings>
+#include <QStandardPaths>
+#include <QStorageInfo>
+
+namespace
+{
+
+const QString importFolderKey = QStringLiteral("Import/Folder");
+
+QString NearestExistingFolder(const QString& path)
+{
+    QString folder = QFileInfo(path).absoluteFilePath();
+    while (!QFileInfo(folder).isDir()) {
+        const QString parent = QFileInfo(folder).absolutePath();
+        if (parent == folder) {
+            break;
+        }
+        folder = parent;
+    }
+    return folder;
+}
+
+} // namespace
+
+KxConfig& KxConfig::Instance()
+{
+    static KxConfig config;
+    return config;
+}
+
+bool KxConfig::algorithmEnabled(int algorithm) const
+{
+    // The analysis needs nothing that a machine of these days could lack; the host knows no other algorithm.
+    constexpr int autoReframe = 4;
+    return algorithm == autoReframe;
+}
+
+QString KxConfig::getDefaultImportDir(const QString& fallback) const
+{
+    const QSettings settings(GetKorviConfigFile(), QSettings::IniFormat);
+    const QString folder = settings.value(importFolderKey).toString();
+    return !folder.isEmpty() && QFileInfo(folder).isDir() ? folder : fallback;
+}
+
+void KxConfig::setDefaultImportDir(const QString& folder)
+{
+    QSettings settings(GetKorviConfigFile(), QSettings::IniFormat);
+    settings.setValue(importFolderKey, folder);
+}
+
+QString KxConfig::GetKorviConfigFile()
+{
+    return KxConfigFile::Path();
+}
+
+QString KxConfig::GetKorviOutputDirectory()
+{
+    const QString movies = QStandardPaths::writableLocation(QStandardPaths::MoviesLocation);
+    return movies.isEmpty() ? QDir::homePath() : movies;
+}
+
+qint64 KxConfig::GetDiskFreeSpaceSize(const void*, const QString& path)
+{
+    const bool isDrive = path.size() == 2 && path.at(1) == QLatin1Char(':');
+    const QStorageInfo storage(isDrive ? path + QLatin1Char('/') : NearestExistingFolder(path));
+    constexpr qint64 megabyte = 1024 * 1024;
+    return storage.isValid() && storage.bytesAvailable() >= 0 ? storage.bytesAvailable() / megabyte : -1;
+}

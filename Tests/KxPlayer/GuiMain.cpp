@@ -1,0 +1,33 @@
+#include <QApplication>
+#include <QStyleFactory>
+
+#include <gtest/gtest.h>
+
+namespace
+{
+
+// A warning that nobody expected is a fault that nobody looked for.
+void FailOnWarning(QtMsgType type, const QMessageLogContext& context, const QString& text)
+{
+    if (type != QtDebugMsg && type != QtInfoMsg) {
+        ADD_FAILURE_AT(context.file != nullptr ? context.file : "(Qt)", context.line)
+            << "Qt said: " << text.toStdString();
+    }
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+    qputenv("QT_FONT_DPI", "96");
+    QApplication application(argc, argv);
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    testing::InitGoogleTest(&argc, argv);
+    qInstallMessageHandler(&FailOnWarning);
+    const int result = RUN_ALL_TESTS();
+    qInstallMessageHandler(nullptr);
+    return result;
+}

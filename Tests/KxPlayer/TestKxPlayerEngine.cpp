@@ -1,0 +1,215 @@
+#include "KxPlayerEngine.h"
+
+#include "PlayerClip.h"
+#include "Support/MadeVideo.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+namespace
+{
+
+constexpr std::chrono::seconds Patience{30};
+
+class TestEngine : public testing::Test
+{
+protected:
+    // Wakes up whenever the engine has something, as the user interface does.
+    bool WaitFor(const std::function<bool()>& isTrue)
+    {
+        std::unique_lock<std::mutex> lock(mutex);
+        return told.wait_for(lock, Patience, isTrue);
+    }
+
+    std::optional<KxPlayerPicture> Await(int frame)
+    {
+        std::optional<KxPlayerPicture> picture;
+        WaitFor([&] {
+            picture = engine.Take(frame);
+            return picture.has_value();
+        });
+        return picture;
+    }
+
+    std::atomic<qint64> now{0};
+    KxPlayerClock clock{[this] { return now.load(); }};
+    std::mutex mutex;
+    std::condition_variable told;
+    KxPlayerEngine engine{clock, [this] {
+                              const std::lock_guard<std::mutex> lock(mutex);
+                              told.notify_all();
+                          }};
+};
+
+} // namespace
+
+TEST_F(TestEngine, ShowsTheVeryFrame)
+{
+    engine.Open(PlayerClip::Source(PlayerClip::Numbered()));
+    engine.SetArea(QSize(320, 180), std::nullopt);
+    for (const int frame : {0, 59, 30, 29, 1, 31, 12, 11}) {
+        engine.Show(frame);
+        const auto picture = Await(frame);
+        ASSERT_TRUE(picture);
+        EXPECT_EQ(picture->frame, frame);
+        EXPECT_EQ(MadeVideo::ReadNumber(picture->image), frame);
+        EXPECT_EQ(picture->image.size(), QSize(300, 180));
+    }
+}
+
+TEST_F(TestEngine, CutsToTheCropOfEachFrame)
+{
+    engine.Open(KxPlaySource::Of(*PlayerClip::OpenMoving()));
+    engine.SetArea(QSize(160, 90), std::nullopt);
+    for (const int frame : {0, 1, 15, 30, 47, 59}) {
+        engine.Show(frame);
+        const auto picture = Await(frame);
+        ASSERT_TRUE(picture);
+        EXPECT_EQ(picture->image.size(), QSize(150, 90));
+        EXPECT_EQ(MadeVideo::ReadNumber(picture->image), frame);
+    }
+}
+
+TEST_F(TestEngine, NewestOrderWins)
+{
+    std::mt19937 random(1);
+    engine.Open(PlayerClip::Source(PlayerClip::Numbered()));
+    engine.SetArea(QSize(160, 96), std::nullopt);
+    for (int round = 0; round < 30; ++round) {
+        int last = 0;
+        for (int i = 0; i < 20; ++i) {
+            last = static_cast<int>(random() % PlayerClip::Frames);
+            engine.Show(last);
+            // What can be taken now is the newest order's or nothing.
+            EXPECT_EQ(engine.NextFrame().value_or(last), last);
+        }
+        const auto picture = Await(last);
+        ASSERT_TRUE(picture);
+        EXPECT_EQ(MadeVideo::ReadNumber(picture->image), last);
+        EXPECT_FALSE(engine.Take(last));
+    }
+}
+
+TEST_F(TestEngine, PlaysEveryFrameInOrderToTheEnd)
+{
+    engine.Open(PlayerClip::Source(PlayerClip::Numbered()));
+    engine.SetArea(QSize(160, 96), std::nullopt);
+    engine.Play(0);
+    for (int frame = 0; frame < PlayerClip::Frames; ++frame) {
+        const auto picture = Await(frame);
+        ASSERT_TRUE(picture);
+        EXPECT_EQ(MadeVideo::ReadNumber(picture->image), frame);
+    }
+    EXPECT_TRUE(engine.IsPrimed());
+    EXPECT_FALSE(engine.NextFrame());
+}
+
+TEST_F(TestEngine, KeepsWhatWasMadeAhead)
+{
+    engine.Open(PlayerClip::Source(PlayerClip::Numbered()));
+    engine.SetArea(QSize(160, 96), std::nullopt);
+    engine.Play(5);
+    ASSERT_TRUE(WaitFor([&] { return engine.IsPrimed(); }));
+    engine.Hold();
+    engine.Show(7);
+    // No wait: it stood ready.
+    ASSERT_TRUE(engine.Take(7));
+    engine.Play(8);
+    EXPECT_EQ(engine.NextFrame(), 8);
+    for (int frame = 8; frame < 20; ++frame) {
+        const auto picture = Await(frame);
+        ASSERT_TRUE(picture);
+        EXPECT_EQ(MadeVideo::ReadNumber(picture->image), frame);
+    }
+}
+
+TEST_F(TestEngine, LeavesOutWhatIsLate)
+{
+    engine.Open(PlayerClip::Source(PlayerClip::Numbered()));
+    engine.SetArea(QSize(160, 96), std::nullopt);
+    engine.Play(0);
+    ASSERT_TRUE(WaitFor([&] { return engine.IsPrimed(); }));
+    clock.Start(0);
+    now += 40 * 40000;
+    const auto last = engine.TakeUpTo(40);
+    ASSERT_TRUE(last);
+    EXPECT_LT(last->frame, 20);
+    ASSERT_TRUE(WaitFor([&] { return engine.NextFrame().has_value(); }));
+    EXPECT_GE(*engine.NextFrame(), 40);
+}
+
+TEST_F(TestEngine, AStillFrameIsMadeAnewInAnotherSize)
+{
+    engine.Open(PlayerClip::Source(PlayerClip::Numbered()));
+    engine.SetArea(QSize(160, 96), std::nullopt);
+    engine.Show(9);
+    ASSERT_TRUE(Await(9));
+    engine.SetArea(QSize(320, 180), 9);
+    const auto picture = Await(9);
+    ASSERT_TRUE(picture);
+    EXPECT_EQ(picture->area, QSize(320, 180));
+    EXPECT_EQ(MadeVideo::ReadNumber(picture->image), 9);
+}
+
+TEST_F(TestEngine, HoldsTheLastPictureOfATruncatedFile)
+{
+    engine.Open(PlayerClip::Source(PlayerClip::Truncated()));
+    engine.SetArea(QSize(160, 96), std::nullopt);
+    engine.Show(PlayerClip::Frames - 1);
+    const auto picture = Await(PlayerClip::Frames - 1);
+    ASSERT_TRUE(picture);
+    const auto number = MadeVideo::ReadNumber(picture->image);
+    ASSERT_TRUE(number);
+    EXPECT_GT(*number, 5);
+    EXPECT_LT(*number, PlayerClip::Frames - 1);
+}
+
+TEST_F(TestEngine, SaysWhyAFileCannotBeShown)
+{
+    auto source = std::make_shared<KxPlaySource>();
+    source->path = PlayerClip::Broken();
+    source->frameCount = 60;
+    engine.Open(source);
+    engine.Show(0);
+    std::optional<QString> failure;
+    ASSERT_TRUE(WaitFor([&] {
+        failure = engine.TakeFailure();
+        return failure.has_value();
+    }));
+    EXPECT_TRUE(failure->contains(QStringLiteral("broken.mp4"))) << failure->toStdString();
+    EXPECT_FALSE(engine.TakeFailure());
+}
+
+TEST_F(TestEngine, AnotherSourceTakesThePlaceOfTheOne)
+{
+    engine.Open(PlayerClip::Source(PlayerClip::Numbered()));
+    engine.SetArea(QSize(160, 96), std::nullopt);
+    engine.Play(0);
+    ASSERT_TRUE(WaitFor([&] { return engine.IsPrimed(); }));
+    engine.Open(PlayerClip::Source(PlayerClip::OneKeyFrame()));
+    EXPECT_FALSE(engine.NextFrame());
+    engine.Show(250);
+    const auto picture = Await(250);
+    ASSERT_TRUE(picture);
+    EXPECT_EQ(MadeVideo::ReadNumber(picture->image), 250);
+    engine.Open(nullptr);
+    EXPECT_FALSE(engine.NextFrame());
+}
+
+TEST(KxPlayerEngine, IsDestroyedAtAnyMoment)
+{
+    const auto source = PlayerClip::Source(PlayerClip::OneKeyFrame());
+    const KxPlayerClock clock;
+    for (int round = 0; round < 50; ++round) {
+        KxPlayerEngine engine(clock, [] {});
+        engine.Open(source);
+        if (round % 3 == 0) {
+            engine.Play(0);
+        } else if (round % 3 == 1) {
+            engine.Show(299);
+        }
+        for (int spins = 0; spins < round * 2000 && !engine.NextFrame(); ++spins) {
+        }
+    }
+}

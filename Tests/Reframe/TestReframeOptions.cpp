@@ -1,0 +1,94 @@
+#include "ReframeExit.h"
+#include "ReframeOptions.h"
+
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace
+{
+
+ReframeOptions::Parsed Parse(const QStringList& arguments)
+{
+    return ReframeOptions::Parse(QStringList(QStringLiteral("reframe")) + arguments);
+}
+
+QStringList Words(const char* line)
+{
+    return QString::fromLatin1(line).split(QLatin1Char(' '));
+}
+
+} // namespace
+
+TEST(ReframeOptions, DefaultsWhenOnlyAnInputIsGiven)
+{
+    const auto parsed = Parse({QStringLiteral("clip.mp4")});
+    ASSERT_TRUE(parsed.options);
+    EXPECT_EQ(parsed.options->inputs, QStringList(QStringLiteral("clip.mp4")));
+    EXPECT_EQ(parsed.options->aspect, QSize(9, 16));
+    EXPECT_EQ(parsed.options->speedMode, 16);
+    EXPECT_TRUE(parsed.options->writesVideo);
+    EXPECT_FALSE(parsed.options->overwrites);
+}
+
+TEST(ReframeOptions, SpeedsBecomeTheNumbersOfTheAnalysis)
+{
+    EXPECT_EQ(Parse(Words("--speed fast a.mp4")).options->speedMode, 8);
+    EXPECT_EQ(Parse(Words("--speed slow a.mp4")).options->speedMode, 24);
+    EXPECT_EQ(Parse(Words("--speed auto a.mp4")).options->speedMode, 16);
+}
+
+TEST(ReframeOptions, AcceptsEveryPresetAndOtherWholeNumbers)
+{
+    for (const char* aspect : {"9:16", "1:1", "16:9", "4:3", "4:5", "21:9", "1080:1920"}) {
+        const auto parsed = Parse({QStringLiteral("--aspect"), QLatin1String(aspect), QStringLiteral("a.mp4")});
+        ASSERT_TRUE(parsed.options) << aspect;
+        EXPECT_EQ(QStringLiteral("%1:%2").arg(parsed.options->aspect.width()).arg(parsed.options->aspect.height()),
+                  QLatin1String(aspect));
+    }
+}
+
+TEST(ReframeOptions, RefusesWhatIsNoAspectRatioAndNamesIt)
+{
+    for (const char* aspect :
+         {"", "9", "9:0", "0:16", "-9:16", "9:16:1", "nine:sixteen", "9.5:16", "9x16", "1:100", "99999:99999"}) {
+        const auto parsed = Parse({QStringLiteral("--aspect"), QLatin1String(aspect), QStringLiteral("a.mp4")});
+        EXPECT_FALSE(parsed.options) << aspect;
+        EXPECT_EQ(parsed.exitStatus, ReframeExit::WrongUse);
+        EXPECT_TRUE(parsed.text.startsWith(QStringLiteral("\"%1\" is no aspect ratio").arg(QLatin1String(aspect))))
+            << parsed.text.toStdString();
+    }
+}
+
+TEST(ReframeOptions, WrongUseIsOneSentenceAndStatusTwo)
+{
+    for (const char* line : {"--speed quick a.mp4", "--no-such-option a.mp4", "--output o.mp4 --no-video a.mp4",
+                             "--output o.mp4 a.mp4 b.mp4", "--apply t.json a.mp4 b.mp4", "--aspect"}) {
+        const auto parsed = Parse(Words(line));
+        EXPECT_FALSE(parsed.options) << line;
+        EXPECT_EQ(parsed.exitStatus, ReframeExit::WrongUse) << line;
+        EXPECT_EQ(parsed.text.count(QLatin1Char('\n')), 1) << parsed.text.toStdString();
+    }
+    EXPECT_EQ(Parse({}).exitStatus, ReframeExit::WrongUse);
+}
+
+TEST(ReframeOptions, SeveralInputsTakeFolders)
+{
+    const QTemporaryDir folder;
+    const auto parsed =
+        Parse({QStringLiteral("--output"), folder.path(), QStringLiteral("a.mp4"), QStringLiteral("b.mp4")});
+    ASSERT_TRUE(parsed.options);
+    EXPECT_EQ(parsed.options->inputs.size(), 2);
+}
+
+TEST(ReframeOptions, HelpAndVersionEndWellWithoutInput)
+{
+    const auto help = Parse({QStringLiteral("--help")});
+    EXPECT_FALSE(help.options);
+    EXPECT_EQ(help.exitStatus, ReframeExit::Done);
+    for (const char* option : {"--aspect", "--speed", "--output", "--keyframes", "--apply", "--no-video", "--preview",
+                               "--face-model", "--json", "--quiet", "--version", "--overwrite"}) {
+        EXPECT_TRUE(help.text.contains(QLatin1String(option))) << option;
+    }
+    EXPECT_EQ(Parse({QStringLiteral("--version")}).exitStatus, ReframeExit::Done);
+}

@@ -1,0 +1,238 @@
+#include "ReframeRun.h"
+
+#include "KxVideoReader.h"
+#include "MadeVideo.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace
+{
+
+class ReframeProgramTest : public testing::Test
+{
+protected:
+    QString Path(const char* name) const { return m_folder.filePath(QLatin1String(name)); }
+
+    QString MakeClip(const char* name, int frames = 40, const QStringList& more = {}) const
+    {
+        MadeVideo::Recipe recipe;
+        recipe.frames = frames;
+        recipe.output = QStringList{QStringLiteral("-c:v"), QStringLiteral("libx264"), QStringLiteral("-pix_fmt"),
+                                    QStringLiteral("yuv420p")} +
+                        more;
+        EXPECT_TRUE(MadeVideo::Make(Path(name), recipe));
+        return Path(name);
+    }
+
+    QString MakeFile(const char* name, const QByteArray& content) const
+    {
+        QFile file(Path(name));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(content);
+        return file.fileName();
+    }
+
+    /// Everything in the folder, hidden files too.
+    QStringList Files() const
+    {
+        return QDir(m_folder.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
+    }
+
+    /// One clear sentence on standard error that names the file, and nothing written.
+    void ExpectRefused(const QString& input, const char* reason) const
+    {
+        const QStringList before = Files();
+        const ReframeRun run({input});
+        EXPECT_TRUE(run.ended);
+        EXPECT_EQ(run.exitStatus, 1) << run.standardError.toStdString();
+        EXPECT_EQ(run.standardError.count(QLatin1Char('\n')), 1) << run.standardError.toStdString();
+        EXPECT_TRUE(run.standardError.contains(QFileInfo(input).fileName())) << run.standardError.toStdString();
+        EXPECT_TRUE(run.standardError.contains(QLatin1String(reason), Qt::CaseInsensitive))
+            << run.standardError.toStdString();
+        EXPECT_EQ(Files(), before);
+    }
+
+    QTemporaryDir m_folder;
+};
+
+} // namespace
+
+TEST_F(ReframeProgramTest, WritesBesideTheInputAndNeverOverExistingFiles)
+{
+    const QString clip = MakeClip("clip.mp4");
+    for (const char* expected : {"clip-AutoReframe-9 16.mp4", "clip-AutoReframe-9 16 (2).mp4"}) {
+        const ReframeRun run({clip});
+        ASSERT_EQ(run.exitStatus, 0) << run.standardError.toStdString();
+        EXPECT_TRUE(QFile::exists(Path(expected)));
+        EXPECT_TRUE(run.standardOutput.contains(QLatin1String(expected))) << run.standardOutput.toStdString();
+    }
+    const ReframeRun run({QStringLiteral("--overwrite"), clip});
+    ASSERT_EQ(run.exitStatus, 0);
+    EXPECT_EQ(Files().size(), 3);
+}
+
+TEST_F(ReframeProgramTest, TheOutputHasTheAspectAndEveryFrame)
+{
+    const QString clip = MakeClip("clip.mp4");
+    const ReframeRun run(
+        {QStringLiteral("--aspect"), QStringLiteral("1:1"), QStringLiteral("--output"), Path("out.mp4"), clip});
+    ASSERT_EQ(run.exitStatus, 0) << run.standardError.toStdString();
+    const auto reader = KxVideoReader::Open(Path("out.mp4"), KxCancelToken());
+    ASSERT_TRUE(reader) << reader.Sentence().toStdString();
+    EXPECT_EQ((*reader)->Facts().video->resolution, QSize(96, 96));
+    EXPECT_EQ((*reader)->Facts().video->frameCount, 40);
+}
+
+TEST_F(ReframeProgramTest, TheOtherInputsAreDoneWhenOneFails)
+{
+    QDir(m_folder.path()).mkdir(QStringLiteral("out"));
+    const ReframeRun run(
+        {QStringLiteral("--output"), Path("out"), MakeClip("a.mp4"), Path("missing.mp4"), MakeClip("b.mp4")});
+    EXPECT_EQ(run.exitStatus, 1);
+    EXPECT_TRUE(run.standardError.contains(QStringLiteral("missing.mp4")));
+    EXPECT_EQ(QDir(Path("out")).entryList(QDir::Files),
+              (QStringList{QStringLiteral("a-AutoReframe-9 16.mp4"), QStringLiteral("b-AutoReframe-9 16.mp4")}));
+}
+
+TEST_F(ReframeProgramTest, JsonLinesTellProgressAndResult)
+{
+    const ReframeRun run({QStringLiteral("--json"), MakeClip("clip.mp4")});
+    ASSERT_EQ(run.exitStatus, 0) << run.standardError.toStdString();
+    QStringList events;
+    QJsonObject done;
+    for (const QString& line : run.standardOutput.split(QLatin1Char('\n'), Qt::SkipEmptyParts)) {
+        const QJsonObject object = QJsonDocument::fromJson(line.toUtf8()).object();
+        ASSERT_FALSE(object.isEmpty()) << line.toStdString();
+        events += object.value(QStringLiteral("event")).toString();
+        done = object;
+    }
+    EXPECT_TRUE(events.contains(QStringLiteral("progress")));
+    EXPECT_EQ(events.last(), QStringLiteral("done"));
+    EXPECT_EQ(done.value(QStringLiteral("output")).toString(), Path("clip-AutoReframe-9 16.mp4"));
+    EXPECT_EQ(done.value(QStringLiteral("frames")).toInt(), 40);
+}
+
+TEST_F(ReframeProgramTest, RefusesFilesThatAreNoVideo)
+{
+    ExpectRefused(Path("missing.mp4"), "");
+    QDir(m_folder.path()).mkdir(QStringLiteral("folder.mp4"));
+    ExpectRefused(Path("folder.mp4"), "folder");
+    ExpectRefused(MakeFile("empty.mp4", ""), "empty");
+    ExpectRefused(MakeFile("text.mp4", QByteArray("Dear diary, this is no video.\n").repeated(100)), "");
+    ExpectRefused(MakeFile("list.mp4", "#EXTM3U\n#EXT-X-TARGETDURATION:10\n#EXTINF:10,\nother.mp4\n#EXT-X-ENDLIST\n"),
+                  "");
+}
+
+TEST_F(ReframeProgramTest, RefusesSoundOnlyAndSinglePictures)
+{
+    ASSERT_TRUE(MadeVideo::RunFfmpeg({QStringLiteral("-f"), QStringLiteral("lavfi"), QStringLiteral("-i"),
+                                      QStringLiteral("sine=duration=1"), Path("sound.m4a")}));
+    ExpectRefused(Path("sound.m4a"), "moving picture");
+    ASSERT_TRUE(MadeVideo::Draw(1, QSize(160, 96)).save(Path("picture.png")));
+    ExpectRefused(Path("picture.png"), "");
+    ExpectRefused(MakeClip("short.mp4", 31), "too short");
+}
+
+TEST_F(ReframeProgramTest, RefusesTheAspectThatTheSourceHas)
+{
+    MadeVideo::Recipe recipe;
+    recipe.size = QSize(160, 90);
+    recipe.frames = 40;
+    recipe.output = QStringList{QStringLiteral("-c:v"), QStringLiteral("libx264")};
+    ASSERT_TRUE(MadeVideo::Make(Path("wide.mp4"), recipe));
+    const ReframeRun run({QStringLiteral("--aspect"), QStringLiteral("16:9"), Path("wide.mp4")});
+    EXPECT_EQ(run.exitStatus, 1);
+    EXPECT_TRUE(run.standardError.contains(QStringLiteral("aspect ratio 16:9 already")))
+        << run.standardError.toStdString();
+}
+
+TEST_F(ReframeProgramTest, ACutOffVideoIsReframedAsFarAsItDecodesWithAWarning)
+{
+    const QString whole = MakeClip(
+        "whole.mp4", 100,
+        {QStringLiteral("-g"), QStringLiteral("10"), QStringLiteral("-movflags"), QStringLiteral("+faststart")});
+    QFile file(whole);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    MakeFile("cut.mp4", file.read(file.size() * 6 / 10));
+    const ReframeRun run({QStringLiteral("--output"), Path("out.mp4"), Path("cut.mp4")});
+    EXPECT_EQ(run.exitStatus, 0) << run.standardError.toStdString();
+    EXPECT_TRUE(run.standardError.contains(QStringLiteral("Warning: "))) << run.standardError.toStdString();
+    EXPECT_TRUE(run.standardError.contains(QStringLiteral("cut.mp4")));
+    const auto reader = KxVideoReader::Open(Path("out.mp4"), KxCancelToken());
+    ASSERT_TRUE(reader) << reader.Sentence().toStdString();
+    EXPECT_GE((*reader)->Facts().video->frameCount, 20);
+    EXPECT_LT((*reader)->Facts().video->frameCount, 90);
+}
+
+TEST_F(ReframeProgramTest, WrongUseIsStatusTwo)
+{
+    EXPECT_EQ(ReframeRun({}).exitStatus, 2);
+    EXPECT_EQ(ReframeRun({QStringLiteral("--aspect"), QStringLiteral("0:1"), QStringLiteral("a.mp4")}).exitStatus, 2);
+    EXPECT_EQ(ReframeRun({QStringLiteral("--help")}).exitStatus, 0);
+}
+
+TEST_F(ReframeProgramTest, AnOutputThatCannotBeWrittenIsNamed)
+{
+    const QString clip = MakeClip("clip.mp4");
+    const ReframeRun run({QStringLiteral("--output"), Path("no/such/folder/out.mp4"), clip});
+    EXPECT_EQ(run.exitStatus, 1);
+    EXPECT_TRUE(run.standardError.contains(QStringLiteral("out.mp4"))) << run.standardError.toStdString();
+    EXPECT_TRUE(run.standardError.contains(QStringLiteral("does not exist"))) << run.standardError.toStdString();
+}
+
+TEST_F(ReframeProgramTest, TheInputItselfIsNeverReplaced)
+{
+    const QString clip = MakeClip("clip.mp4");
+    const qint64 size = QFileInfo(clip).size();
+    const ReframeRun run({QStringLiteral("--overwrite"), QStringLiteral("--output"), clip, clip});
+    EXPECT_EQ(run.exitStatus, 1);
+    EXPECT_TRUE(run.standardError.contains(QStringLiteral("it is the input itself")))
+        << run.standardError.toStdString();
+    EXPECT_EQ(QFileInfo(clip).size(), size);
+}
+
+TEST_F(ReframeProgramTest, AnInterruptEndsAtOnceAndLeavesNothingBehind)
+{
+    const QString clip = MakeClip("long.mp4", 3000);
+    const QStringList before = Files();
+    for (const char* stage : {"analyze", "render"}) {
+        QProcess process;
+        process.start(QStringLiteral(REFRAME_PROGRAM), {QStringLiteral("--json"), clip});
+        const QString wanted = QStringLiteral("\"stage\":\"%1\"").arg(QLatin1String(stage));
+        QString output;
+        while (!output.contains(wanted) && process.waitForReadyRead(60000)) {
+            output += QString::fromUtf8(process.readAllStandardOutput());
+        }
+        ASSERT_TRUE(output.contains(wanted)) << output.toStdString();
+        ASSERT_EQ(
+            QProcess::execute(QStringLiteral("kill"), {QStringLiteral("-INT"), QString::number(process.processId())}),
+            0);
+        ASSERT_TRUE(process.waitForFinished(20000));
+        EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
+        EXPECT_EQ(process.exitCode(), 130);
+        EXPECT_EQ(Files(), before) << stage;
+    }
+}
+
+TEST_F(ReframeProgramTest, RealFootageIsReframed)
+{
+    const QString footage = QStringLiteral("/usr/share/doc/opencv-doc/examples/data/Megamind.avi");
+    if (!QFile::exists(footage)) {
+        GTEST_SKIP() << "the package opencv-doc is not installed";
+    }
+    const ReframeRun run(
+        {QStringLiteral("--output"), m_folder.path(), QStringLiteral("--preview"), Path("sheet.png"), footage});
+    ASSERT_EQ(run.exitStatus, 0) << run.standardError.toStdString();
+    const auto source = KxVideoReader::Open(footage, KxCancelToken());
+    const auto result = KxVideoReader::Open(Path("Megamind-AutoReframe-9 16.mp4"), KxCancelToken());
+    ASSERT_TRUE(source);
+    ASSERT_TRUE(result) << result.Sentence().toStdString();
+    EXPECT_EQ((*result)->Facts().video->frameCount, (*source)->Facts().video->frameCount);
+}
