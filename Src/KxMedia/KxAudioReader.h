@@ -8,14 +8,16 @@
 
 /// Sound at one rate and channel count: interleaved floats, -1 to 1.
 struct KxAudioBlock {
-    /// Time of the first sample, microseconds after the first video picture (after the first sound in a file without video).
+    /// Time of the first sample, microseconds after the first video picture (after the first sound in a file without
+    /// video).
     qint64 timeUs = 0;
     int channels = 0;
     std::vector<float> samples;
 };
 
-/// Reads one audio stream of a file, converted to a wanted rate and channel count and laid on one unbroken line of time: gaps
-/// are filled with silence, overlaps are cut, and what lies before the first picture is left out. One thread at a time.
+/// Reads one audio stream of a file, converted to a wanted rate and channel count and laid on one unbroken line of
+/// time: gaps are filled with silence, overlaps are cut, and what lies before the first picture is left out. One thread
+/// at a time.
 class KXMEDIA_API KxAudioReader
 {
 public:
@@ -32,7 +34,8 @@ public:
     /// The next block, some tens of milliseconds long.
     KxReadStatus Next(KxAudioBlock& block);
 
-    /// The next block starts at `timeUs`, to the sample.
+    /// The next block starts at `timeUs`: to the sample, or to the millisecond in containers (Matroska) that keep time
+    /// no finer. Where there is no sound yet it starts with silence; past the end nothing follows.
     void Seek(qint64 timeUs);
 
 private:

@@ -4,8 +4,8 @@
 
 #include <QImage>
 
-/// Turns decoded pictures into upright images of a wanted size, scaling and converting in one step. Keeps what it prepared for
-/// the last size. One thread at a time.
+/// Turns decoded pictures into upright images of a wanted size, scaling and converting in one step. Keeps what it
+/// prepared for the last size. One thread at a time.
 class KXMEDIA_API KxPictureScaler
 {
 public:

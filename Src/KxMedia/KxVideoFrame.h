@@ -8,8 +8,8 @@
 
 struct AVFrame;
 
-/// One decoded picture, as the decoder left it (any size, any pixel format, not yet turned upright), with its place on the
-/// frame grid. Never changes; copies share the picture; any thread.
+/// One decoded picture, as the decoder left it (any size, any pixel format, not yet turned upright), with its place on
+/// the frame grid. Never changes; copies share the picture; any thread.
 class KXMEDIA_API KxVideoFrame
 {
 public:
@@ -20,8 +20,12 @@ public:
     };
 
     KxVideoFrame() = default;
-    KxVideoFrame(std::shared_ptr<const AVFrame> picture, qint64 index, const Orientation& orientation, const QSize& displayedSize)
-        : m_picture(std::move(picture)), m_index(index), m_orientation(orientation), m_displayedSize(displayedSize)
+    KxVideoFrame(std::shared_ptr<const AVFrame> picture, qint64 index, const Orientation& orientation,
+                 const QSize& displayedSize)
+        : m_picture(std::move(picture))
+        , m_index(index)
+        , m_orientation(orientation)
+        , m_displayedSize(displayedSize)
     {
     }
 

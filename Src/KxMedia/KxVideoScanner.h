@@ -2,8 +2,8 @@
 
 #include "KxVideoReader.h"
 
-/// Runs once through a file's pictures for the analysis: pictures that no other picture needs and the loop filter may be left
-/// out, which takes about half the work. One thread at a time.
+/// Runs once through a file's pictures for the analysis: pictures that no other picture needs and the loop filter may
+/// be left out, which takes about half the work. One thread at a time.
 class KXMEDIA_API KxVideoScanner
 {
 public:

@@ -17,6 +17,8 @@ struct KxCropRect {
     double height = 1.0;
 };
 
+struct KxSubjectOptions;
+
 /// How readily the crop follows its subject.
 enum class KxMotionSpeed { Auto, Fast, Slow };
 
@@ -32,12 +34,14 @@ struct KxSubjectRequest {
     std::string faceModelPath; ///< a neural face detector's file; empty: none
 };
 
-/// Finds where the subject lies: small pictures of one video in, one crop rectangle a frame out. Every rectangle has the same
-/// size, the largest of the aspect inside the picture (inside what remains of it where it has bars). One thread at a time.
+/// Finds where the subject lies: small pictures of one video in, one crop rectangle a frame out. Every rectangle has
+/// the same size, the largest of the aspect inside the picture (inside what remains of it where it has bars). One
+/// thread at a time.
 class KXSUBJECT_API KxSubjectAnalyzer
 {
 public:
     explicit KxSubjectAnalyzer(const KxSubjectRequest& request);
+    KxSubjectAnalyzer(const KxSubjectRequest& request, const KxSubjectOptions& options);
     ~KxSubjectAnalyzer();
 
     /// The size of the pictures that AddPicture takes.

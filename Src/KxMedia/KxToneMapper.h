@@ -1,0 +1,25 @@
+#pragma once
+
+#include "KxAvHandles.h"
+#include "KxResult.h"
+
+#include <QSize>
+
+/// Brings pictures of high dynamic range (PQ, HLG) into the range of BT.709. Keeps what it prepared for the last
+/// format. One thread at a time.
+class KxToneMapper
+{
+public:
+    /// `picture` is planar YUV with its colour fields set; what they leave open counts as BT.2020. The result is 8-bit
+    /// 4:2:0 of the same size with the colour fields of BT.709, limited range.
+    KxResult<KxAvFrame> Map(const AVFrame& picture);
+
+private:
+    KxError Prepare(const AVFrame& picture);
+
+    KxAvGraph m_graph;
+    AVFilterContext* m_source = nullptr;
+    AVFilterContext* m_sink = nullptr;
+    QSize m_size;
+    int m_format = AV_PIX_FMT_NONE;
+};

@@ -1,0 +1,69 @@
+#include "KxOutputGrid.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <numeric>
+
+namespace
+{
+
+constexpr double SameRate = 0.0005;
+constexpr double HighestRate = 1000.0;
+
+std::optional<KxRational> Rationalised(double rate)
+{
+    if (!std::isfinite(rate) || rate < 0.001 || rate > HighestRate) {
+        return std::nullopt;
+    }
+    const double whole = std::round(rate);
+    constexpr double NameRounding = 0.005; // names of rates have two decimals at the least
+    const double video = std::round(rate * 1.001);
+    if (std::abs(rate - whole) > NameRounding && std::abs(rate - video / 1.001) < NameRounding) {
+        return KxRational{static_cast<int>(video) * 1000, 1001};
+    }
+    const int thousandths = static_cast<int>(std::lround(rate * 1000));
+    const int divisor = std::gcd(thousandths, 1000);
+    return KxRational{thousandths / divisor, 1000 / divisor};
+}
+
+// floor(value * numerator / denominator) for values of any size.
+qint64 Scaled(qint64 value, qint64 numerator, qint64 denominator)
+{
+    if (value <= std::numeric_limits<qint64>::max() / numerator) {
+        return value * numerator / denominator;
+    }
+    return static_cast<qint64>(std::floor(static_cast<long double>(value) * static_cast<long double>(numerator) /
+                                          static_cast<long double>(denominator)));
+}
+
+} // namespace
+
+std::optional<KxOutputGrid> KxOutputGrid::Make(const KxRational& sourceRate, qint64 sourceFrames, double wantedRate)
+{
+    const double source = sourceRate.ToDouble();
+    const bool isSame = std::abs(wantedRate) < 1e-9 || std::abs(wantedRate - source) <= source * SameRate;
+    const std::optional<KxRational> rate = isSame ? sourceRate : Rationalised(wantedRate);
+    if (!rate) {
+        return std::nullopt;
+    }
+    return KxOutputGrid(sourceRate, sourceFrames, *rate);
+}
+
+KxOutputGrid::KxOutputGrid(const KxRational& sourceRate, qint64 sourceFrames, const KxRational& rate)
+    : m_rate(rate)
+    , m_sourceFrames(sourceFrames)
+{
+    const qint64 numerator = static_cast<qint64>(sourceRate.numerator) * rate.denominator;
+    const qint64 denominator = static_cast<qint64>(sourceRate.denominator) * rate.numerator;
+    const qint64 divisor = std::gcd(numerator, denominator);
+    m_stepNumerator = numerator / divisor;
+    m_stepDenominator = denominator / divisor;
+    // Half a frame is rounded up: the doubled length, plus one, halved.
+    m_frames = std::max<qint64>(1, (Scaled(2 * sourceFrames, m_stepDenominator, m_stepNumerator) + 1) / 2);
+}
+
+qint64 KxOutputGrid::SourceFrame(qint64 frame) const
+{
+    return std::min(Scaled(frame, m_stepNumerator, m_stepDenominator), m_sourceFrames - 1);
+}

@@ -1,0 +1,117 @@
+#include "KxPictureFeed.h"
+
+#include "KxFrameCutter.h"
+
+#include <cmath>
+#include <exception>
+
+namespace
+{
+
+// Decoding runs in bursts; a few pictures of reserve keep the encoder busy meanwhile.
+constexpr size_t PicturesAhead = 6;
+
+// Many whole files promise a few frames more than they hold. As long as nobody sees it the last picture is held.
+constexpr double UnnoticedS = 0.25;
+
+} // namespace
+
+KxPictureFeed::KxPictureFeed(KxVideoReader& reader, const KxRenderSource& source, const KxOutputGrid& grid,
+                             const QSize& size, const KxCancelToken& cancel)
+    : m_reader(reader)
+    , m_source(source)
+    , m_grid(grid)
+    , m_size(size)
+    , m_cancel(cancel)
+    , m_pictures(PicturesAhead)
+    , m_thread([this] { Work(); })
+{
+}
+
+KxPictureFeed::~KxPictureFeed()
+{
+    m_pictures.Close();
+    Join();
+}
+
+void KxPictureFeed::Join()
+{
+    if (m_thread.joinable()) {
+        m_thread.join();
+    }
+}
+
+std::optional<KxVideoFrame> KxPictureFeed::Next()
+{
+    return m_pictures.Pop();
+}
+
+KxError KxPictureFeed::Failure()
+{
+    Join();
+    return m_failure;
+}
+
+bool KxPictureFeed::EndedEarly()
+{
+    Join();
+    return m_endedEarly;
+}
+
+void KxPictureFeed::Work()
+{
+    try {
+        DecodeAndCut();
+    } catch (const std::exception&) {
+        m_failure = QStringLiteral("Cannot render %1: memory ran out.").arg(m_source.Name());
+    }
+    m_pictures.Close();
+}
+
+void KxPictureFeed::DecodeAndCut()
+{
+    KxFrameCutter cutter(m_size);
+    KxVideoFrame picture;
+    KxVideoFrame cut;
+    qint64 cutFrame = -1;
+    for (qint64 frame = 0; frame < m_grid.Frames() && !m_cancel.IsCancelled(); ++frame) {
+        const qint64 sourceFrame = m_grid.SourceFrame(frame);
+        if (sourceFrame != cutFrame) {
+            if (!Read(sourceFrame, picture)) {
+                return;
+            }
+            const QRectF crop = m_source.CropAt(sourceFrame, picture.DisplayedSize(), m_size);
+            KxResult<KxVideoFrame> result = cutter.Cut(picture, crop);
+            if (!result) {
+                m_failure = QStringLiteral("Cannot render %1 at frame %2. %3")
+                                .arg(m_source.Name(), QString::number(sourceFrame), result.Sentence());
+                return;
+            }
+            cut = std::move(*result);
+            cutFrame = sourceFrame;
+        }
+        if (!m_pictures.Push(cut)) {
+            return;
+        }
+    }
+}
+
+bool KxPictureFeed::Read(qint64 frame, KxVideoFrame& picture)
+{
+    switch (m_reader.Read(frame, picture)) {
+    case KxReadStatus::Picture:
+        break;
+    case KxReadStatus::Cancelled:
+        return false;
+    case KxReadStatus::End:
+    case KxReadStatus::Failed:
+        m_endedEarly = true;
+        return false;
+    }
+    if (m_reader.EndedEarly() && frame >= m_reader.DecodableFrames()) {
+        const KxVideoFacts& video = *m_reader.Facts().video;
+        const auto missing = static_cast<double>(video.frameCount - m_reader.DecodableFrames());
+        m_endedEarly = missing > UnnoticedS * video.frameRate.ToDouble();
+    }
+    return !m_endedEarly;
+}

@@ -1,0 +1,50 @@
+#include "KxRenderSource.h"
+
+#include <KxModel/IKxKeyFrameHelper.h>
+#include <KxModel/IKxTimeline.h>
+
+#include <QFileInfo>
+
+#include <algorithm>
+
+KxResult<KxRenderSource> KxRenderSource::FromTimeline(IKxTimeline& timeline)
+{
+    const QList<IKxClip*> clips = timeline.clips();
+    if (clips.isEmpty() || clips.first()->filePath().isEmpty()) {
+        return KxResult<KxRenderSource>::Failure(QStringLiteral("Cannot render the timeline: it shows no file."));
+    }
+    KxRenderSource source;
+    source.path = clips.first()->filePath();
+    const auto* const keyFrames =
+        dynamic_cast<IKxCropPanZoomKeyFrameHelper*>(clips.first()->keyFrameHelper(IKxKeyFrameHelper::CropPanZoom));
+    KxCropPanZoomKeyFrameParam param;
+    if (keyFrames == nullptr || !keyFrames->interpolatedParam(0, &param)) {
+        return source;
+    }
+    auto crops = std::make_shared<std::vector<QRectF>>();
+    crops->reserve(static_cast<size_t>(std::max<qint64>(timeline.duration(), 1)));
+    crops->push_back(param.cropRect);
+    for (qint64 frame = 1; frame < timeline.duration() && keyFrames->interpolatedParam(frame, &param); ++frame) {
+        crops->push_back(param.cropRect);
+    }
+    source.crops = std::move(crops);
+    return source;
+}
+
+QString KxRenderSource::Name() const
+{
+    return QFileInfo(path).fileName();
+}
+
+QRectF KxRenderSource::CropAt(qint64 frame, const QSize& picture, const QSize& target) const
+{
+    if (crops != nullptr && !crops->empty()) {
+        const qint64 last = static_cast<qint64>(crops->size()) - 1;
+        return (*crops)[static_cast<size_t>(std::clamp<qint64>(frame, 0, last))];
+    }
+    const double pictureAspect = static_cast<double>(picture.width()) / picture.height();
+    const double targetAspect = static_cast<double>(target.width()) / target.height();
+    const double width = std::min(1.0, targetAspect / pictureAspect);
+    const double height = std::min(1.0, pictureAspect / targetAspect);
+    return {(1.0 - width) / 2, (1.0 - height) / 2, width, height};
+}

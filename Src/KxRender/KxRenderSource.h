@@ -1,0 +1,34 @@
+#pragma once
+
+#include <KxCore/KxExport.h>
+
+#include "KxResult.h"
+
+#include <QRectF>
+#include <QSize>
+
+#include <memory>
+#include <vector>
+
+class IKxTimeline;
+
+/// What is rendered, as values: the thread that renders never touches a timeline. Copies share the crops.
+struct KXRENDER_API KxRenderSource {
+    QString path;
+    /// Counts the file's audio streams from 0; nothing is the one that plays.
+    std::optional<int> audioStream;
+    /// The rectangle of each frame, fractions of the picture, frame 0 first; the last one holds for what follows. Null
+    /// or empty where nothing is cropped on purpose.
+    std::shared_ptr<const std::vector<QRectF>> crops;
+
+    /// Takes the first clip of `timeline` and what its crop keyframes say at every frame. Fails with a sentence for a
+    /// timeline without a clip that stands for a file. User-interface thread.
+    static KxResult<KxRenderSource> FromTimeline(IKxTimeline& timeline);
+
+    /// The file's name without its folder, as sentences call it.
+    QString Name() const;
+
+    /// The rectangle of `frame`. Without crops the largest part of a picture of size `picture` around its middle that
+    /// has the shape of `target`, so that nothing is distorted.
+    QRectF CropAt(qint64 frame, const QSize& picture, const QSize& target) const;
+};

@@ -1,0 +1,58 @@
+#include "KxSoundFeed.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace
+{
+
+constexpr qint64 MicrosecondsPerSecond = 1000000;
+
+} // namespace
+
+KxSoundFeed::KxSoundFeed(std::unique_ptr<KxAudioReader> reader, const KxAudioReader::Format& format)
+    : m_reader(std::move(reader))
+    , m_format(format)
+{
+}
+
+bool KxSoundFeed::Fill()
+{
+    if (m_hasEnded) {
+        return false;
+    }
+    if (m_usedValues < m_block.samples.size()) {
+        return true;
+    }
+    const KxReadStatus status = m_reader->Next(m_block);
+    m_usedValues = 0;
+    m_hasEnded = status != KxReadStatus::Picture;
+    m_hasFailed = status == KxReadStatus::Failed;
+    if (!m_hasEnded && !m_hasStarted) {
+        m_hasStarted = true;
+        m_nextSample = m_block.timeUs * m_format.sampleRateHz / MicrosecondsPerSecond;
+    }
+    return !m_hasEnded;
+}
+
+KxError KxSoundFeed::FeedUntil(qint64 frames, const KxRational& rate, KxMp4Writer& writer)
+{
+    const auto channels = static_cast<size_t>(m_format.channels);
+    const double seconds = static_cast<double>(frames) * rate.denominator / rate.numerator;
+    const auto endSample = static_cast<qint64>(std::floor(seconds * m_format.sampleRateHz));
+    while (Fill() && m_nextSample < endSample) {
+        const size_t left = (m_block.samples.size() - m_usedValues) / channels;
+        const size_t taken = std::min(left, static_cast<size_t>(endSample - m_nextSample));
+        const auto first = m_block.samples.begin() + static_cast<std::ptrdiff_t>(m_usedValues);
+        KxAudioBlock part;
+        part.timeUs = m_nextSample * MicrosecondsPerSecond / m_format.sampleRateHz;
+        part.channels = m_format.channels;
+        part.samples.assign(first, first + static_cast<std::ptrdiff_t>(taken * channels));
+        m_nextSample += static_cast<qint64>(taken);
+        m_usedValues += taken * channels;
+        if (KxError error = writer.AddAudio(part)) {
+            return error;
+        }
+    }
+    return std::nullopt;
+}

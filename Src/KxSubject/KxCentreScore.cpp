@@ -1,0 +1,47 @@
+#include "KxCentreScore.h"
+
+#include <algorithm>
+#include <cmath>
+
+KxCentreScore::KxCentreScore(const KxSubjectOptions::Evidence& options, const KxCropGeometry& geometry)
+    : m_first(geometry.MinimumCentre())
+    , m_spacing((geometry.MaximumCentre() - geometry.MinimumCentre()) / static_cast<double>(Positions - 1))
+{
+    const double half = geometry.Extent() / 2.0;
+    const double priorWeight =
+        geometry.FreeAxis() == KxAxis::Across ? options.centrePriorAcross : options.centrePriorUpDown;
+    constexpr double binExtent = 1.0 / KxSignalProfile::Bins;
+    for (std::size_t position = 0; position < Positions; ++position) {
+        const double centre = CentreAt(position);
+        const double offCentre = (centre - 0.5) / 0.5;
+        m_prior[position] = static_cast<float>(-priorWeight * offCentre * offCentre);
+        for (std::size_t bin = 0; bin < KxSignalProfile::Bins; ++bin) {
+            const double from = static_cast<double>(bin) * binExtent;
+            const double low = std::max(from, centre - half);
+            const double high = std::min(from + binExtent, centre + half);
+            if (high > low) {
+                const double wave = std::cos(CV_PI / 2.0 * ((low + high) / 2.0 - centre) / half);
+                const double height = options.windowFlat + (1.0 - options.windowFlat) * wave * wave;
+                m_windows[position].share[bin] = static_cast<float>((high - low) / binExtent * height);
+            }
+        }
+    }
+}
+
+KxCentreScore::Scores KxCentreScore::Of(const KxSignalProfile& profile) const
+{
+    Scores scores = m_prior;
+    for (std::size_t position = 0; position < Positions; ++position) {
+        float sum = 0.0F;
+        for (std::size_t bin = 0; bin < KxSignalProfile::Bins; ++bin) {
+            sum += m_windows[position].share[bin] * profile.share[bin];
+        }
+        scores[position] += sum;
+    }
+    return scores;
+}
+
+double KxCentreScore::CentreAt(std::size_t position) const
+{
+    return m_first + m_spacing * static_cast<double>(position);
+}

@@ -1,0 +1,40 @@
+#include "KxCropGeometry.h"
+
+#include <algorithm>
+
+KxCropGeometry::KxCropGeometry(cv::Size picturePx, cv::Size aspect, const KxCropRect& content)
+    : m_content(content)
+{
+    const double widthPx = std::max(picturePx.width, 1) * content.width;
+    const double heightPx = std::max(picturePx.height, 1) * content.height;
+    const double ratio = static_cast<double>(std::max(aspect.width, 1)) / std::max(aspect.height, 1);
+    if (widthPx >= heightPx * ratio) {
+        m_axis = KxAxis::Across;
+        m_width = content.width * (heightPx * ratio / widthPx);
+        m_height = content.height;
+    } else {
+        m_axis = KxAxis::UpDown;
+        m_width = content.width;
+        m_height = content.height * (widthPx / ratio / heightPx);
+    }
+}
+
+double KxCropGeometry::MinimumCentre() const
+{
+    return (m_axis == KxAxis::Across ? m_content.x : m_content.y) + Extent() / 2.0;
+}
+
+double KxCropGeometry::MaximumCentre() const
+{
+    const double end = m_axis == KxAxis::Across ? m_content.x + m_content.width : m_content.y + m_content.height;
+    return std::max(MinimumCentre(), end - Extent() / 2.0);
+}
+
+KxCropRect KxCropGeometry::At(double centre) const
+{
+    const double start = std::clamp(centre, MinimumCentre(), MaximumCentre()) - Extent() / 2.0;
+    if (m_axis == KxAxis::Across) {
+        return {start, m_content.y, m_width, m_height};
+    }
+    return {m_content.x, start, m_width, m_height};
+}

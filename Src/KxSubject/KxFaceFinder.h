@@ -1,0 +1,40 @@
+#pragma once
+
+#include "KxSubjectOptions.h"
+
+#include <opencv2/objdetect.hpp>
+
+#include <optional>
+
+/// The ways a face is looked for. The neural detector knows one, Frontal, which finds all of them.
+enum class KxFaceView { Frontal, LeftProfile, RightProfile };
+
+/// Looks for faces in one picture: with a neural detector where the user supplied a good one, otherwise with OpenCV's
+/// cascades; with neither it finds nothing. Remembers nothing from picture to picture.
+class KXSUBJECT_API KxFaceFinder
+{
+public:
+    /// `modelPath` may be empty.
+    KxFaceFinder(const KxSubjectOptions::Faces& options, const std::string& modelPath, cv::Size picturePx);
+
+    /// Why the model that was asked for is not used; empty when it is, or when none was asked for.
+    const std::string& ModelProblem() const { return m_modelProblem; }
+    bool UsesModel() const { return !m_model.empty(); }
+    bool Knows(KxFaceView view) const;
+
+    /// Faces anywhere. `picture` is CV_8UC3 (BGR), `grey` CV_8UC1, both of the size given at the start.
+    std::vector<cv::Rect> Find(const cv::Mat& picture, const cv::Mat& grey, KxFaceView view);
+    /// The face of about this size near `face`; cascades only, and cheap.
+    std::optional<cv::Rect> FindNear(const cv::Mat& grey, KxFaceView view, const cv::Rect& face);
+
+private:
+    void LoadModel(const std::string& path, cv::Size picturePx);
+    std::vector<cv::Rect> FindByModel(const cv::Mat& picture);
+    std::vector<cv::Rect> FindByCascade(const cv::Mat& grey, KxFaceView view, int smallestPx, int largestPx);
+
+    KxSubjectOptions::Faces m_options;
+    cv::CascadeClassifier m_frontal;
+    cv::CascadeClassifier m_profile;
+    cv::Ptr<cv::FaceDetectorYN> m_model;
+    std::string m_modelProblem;
+};

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "KxFaceFinder.h"
+#include "KxSignalProfile.h"
+
+/// The faces of a video over time. Looks over the whole picture are rare; a face once found is looked for in its place,
+/// which is cheap, so that a false one is told from a true one by its persistence.
+class KXSUBJECT_API KxFaceTracks
+{
+public:
+    KxFaceTracks(const KxSubjectOptions::Faces& options, KxFaceFinder finder);
+
+    const KxFaceFinder& Finder() const { return m_finder; }
+
+    /// Takes a look if one is due. Times grow from call to call.
+    void AddPicture(double timeSeconds, const cv::Mat& picture, const cv::Mat& grey);
+
+    /// One look for one face: where it was, or that it was not there.
+    struct Look {
+        double timeSeconds = 0.0;
+        std::optional<cv::Rect> face; ///< in pixels of the working picture
+    };
+    struct Track {
+        KxFaceView view = KxFaceView::Frontal;
+        std::vector<Look> looks; ///< growing in time; the first one found the face
+        cv::Rect last;
+        int misses = 0;
+    };
+    const std::vector<Track>& Tracks() const { return m_tracks; }
+
+    /// The profile of all faces at a time, from looks between `fromSeconds` and `toSeconds` (a shot) alone.
+    KxSignalProfile ProfileAt(double timeSeconds, double fromSeconds, double toSeconds, KxAxis axis, double emptyFloor,
+                              cv::Size picturePx) const;
+
+private:
+    bool IsFollowing() const;
+    void LookEverywhere(double timeSeconds, const cv::Mat& picture, const cv::Mat& grey, KxFaceView view);
+    void Follow(double timeSeconds, const cv::Mat& grey);
+    double SizeWeight(const cv::Rect& face, cv::Size picturePx) const;
+
+    KxSubjectOptions::Faces m_options;
+    KxFaceFinder m_finder;
+    std::vector<Track> m_tracks;
+    std::size_t m_firstOpen = 0; ///< every track before it has ended
+    double m_nextFrontal = 0.0;
+    double m_nextProfile = 0.0;
+    double m_nextFollow = 0.0;
+    KxFaceView m_nextSide = KxFaceView::LeftProfile;
+};

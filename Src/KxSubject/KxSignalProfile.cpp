@@ -1,0 +1,84 @@
+#include "KxSignalProfile.h"
+
+#include <opencv2/core.hpp>
+
+#include <algorithm>
+#include <cmath>
+#include <numeric>
+
+namespace
+{
+
+constexpr double PackedOne = 65535.0;
+
+} // namespace
+
+KxSignalProfile KxSignalProfile::Of(const cv::Mat& map, const cv::Rect& region, cv::Size picturePx, KxAxis axis,
+                                    double emptyFloor)
+{
+    KxSignalProfile profile;
+    if (map.empty() || region.area() <= 0 || picturePx.area() <= 0) {
+        return profile;
+    }
+    cv::Mat above = map - cv::mean(map)[0];
+    above = cv::max(above, 0.0);
+    cv::Mat sums;
+    cv::reduce(above, sums, axis == KxAxis::Across ? 0 : 1, cv::REDUCE_SUM, CV_32F);
+    const double mass = cv::sum(sums)[0];
+    const double whole = mass + emptyFloor * static_cast<double>(map.total());
+    const bool across = axis == KxAxis::Across;
+    const double start =
+        static_cast<double>(across ? region.x : region.y) / (across ? picturePx.width : picturePx.height);
+    const double extent =
+        static_cast<double>(across ? region.width : region.height) / (across ? picturePx.width : picturePx.height);
+    const auto count = static_cast<int>(sums.total());
+    for (int i = 0; i < count; ++i) {
+        const double from = start + extent * i / count;
+        profile.Add(from, from + extent / count, static_cast<double>(sums.at<float>(i)) / whole);
+    }
+    return profile;
+}
+
+void KxSignalProfile::Add(double from, double to, double mass)
+{
+    if (!(to > from) || !(mass > 0.0)) {
+        return;
+    }
+    const double scale = mass / (to - from);
+    const double first = std::clamp(from, 0.0, 1.0) * Bins;
+    const double end = std::clamp(to, 0.0, 1.0) * Bins;
+    for (auto bin = static_cast<std::size_t>(first); bin < Bins && static_cast<double>(bin) < end; ++bin) {
+        const double low = std::max(first, static_cast<double>(bin));
+        const double high = std::min(end, static_cast<double>(bin + 1));
+        share[bin] += static_cast<float>((high - low) / Bins * scale);
+    }
+}
+
+void KxSignalProfile::Add(const KxSignalProfile& other, double weight)
+{
+    for (std::size_t bin = 0; bin < Bins; ++bin) {
+        share[bin] += static_cast<float>(weight) * other.share[bin];
+    }
+}
+
+float KxSignalProfile::Sum() const
+{
+    return std::accumulate(share.begin(), share.end(), 0.0F);
+}
+
+KxPackedProfile::KxPackedProfile(const KxSignalProfile& profile)
+{
+    for (std::size_t bin = 0; bin < m_share.size(); ++bin) {
+        const double share = std::clamp(static_cast<double>(profile.share[bin]), 0.0, 1.0);
+        m_share[bin] = static_cast<std::uint16_t>(std::lround(share * PackedOne));
+    }
+}
+
+KxSignalProfile KxPackedProfile::Unpacked() const
+{
+    KxSignalProfile profile;
+    for (std::size_t bin = 0; bin < m_share.size(); ++bin) {
+        profile.share[bin] = static_cast<float>(m_share[bin] / PackedOne);
+    }
+    return profile;
+}

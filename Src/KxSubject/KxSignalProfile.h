@@ -1,0 +1,35 @@
+#pragma once
+
+#include "KxCropGeometry.h"
+
+#include <array>
+
+/// What a signal says along one axis of the whole picture: the share of its mass in each of equal bins. The sum is
+/// between 0 (says nothing) and 1 (says all it has to say).
+struct KXSUBJECT_API KxSignalProfile {
+    static constexpr std::size_t Bins = 96;
+    std::array<float, Bins> share{};
+
+    /// `map` is CV_32FC1 and covers `region`, a part of a picture of `picturePx`; what exceeds the map's mean counts.
+    /// `emptyFloor`: the mass, as a share of the area, at which a map says half of what it has to say.
+    static KxSignalProfile Of(const cv::Mat& map, const cv::Rect& region, cv::Size picturePx, KxAxis axis,
+                              double emptyFloor);
+
+    /// Spreads `mass` evenly from `from` to `to`, fractions of the axis; what lies outside the axis is lost.
+    void Add(double from, double to, double mass);
+    /// Adds `weight` times the other.
+    void Add(const KxSignalProfile& other, double weight);
+    float Sum() const;
+};
+
+/// A profile kept for every sample of a long video: half the bytes, exact to 1/65535.
+class KXSUBJECT_API KxPackedProfile
+{
+public:
+    KxPackedProfile() = default;
+    explicit KxPackedProfile(const KxSignalProfile& profile);
+    KxSignalProfile Unpacked() const;
+
+private:
+    std::array<std::uint16_t, KxSignalProfile::Bins> m_share{};
+};

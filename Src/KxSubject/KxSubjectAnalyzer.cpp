@@ -1,0 +1,187 @@
+#include "KxSubjectAnalyzer.h"
+
+#include "KxCropPath.h"
+#include "KxShotDetector.h"
+#include "KxSignalTrack.h"
+#include "KxSubjectTracker.h"
+
+#include <opencv2/core/utility.hpp>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace
+{
+
+constexpr double UsualFrameRate = 25.0;
+
+KxSubjectRequest Checked(KxSubjectRequest request)
+{
+    request.pictureWidthPx = std::max(request.pictureWidthPx, 1);
+    request.pictureHeightPx = std::max(request.pictureHeightPx, 1);
+    request.frameCount = std::max<std::int64_t>(request.frameCount, 0);
+    if (!std::isfinite(request.frameRate) || request.frameRate <= 0.0) {
+        request.frameRate = UsualFrameRate;
+    }
+    return request;
+}
+
+cv::Size WorkingSizeOf(const KxSubjectRequest& request, const KxSubjectOptions::Sampling& options)
+{
+    const double scale =
+        static_cast<double>(options.workingLongSidePx) / std::max(request.pictureWidthPx, request.pictureHeightPx);
+    return {std::max(cvRound(request.pictureWidthPx * scale), options.workingShortSideMinPx),
+            std::max(cvRound(request.pictureHeightPx * scale), options.workingShortSideMinPx)};
+}
+
+} // namespace
+
+class KxSubjectAnalyzer::Impl
+{
+public:
+    Impl(const KxSubjectRequest& request, const KxSubjectOptions& options)
+        : m_request(Checked(request))
+        , m_options(options)
+        , m_workingSize(WorkingSizeOf(m_request, options.sampling))
+        , m_shots(options.shots)
+        , m_signals(options, m_workingSize, m_request.frameRate, request.faceModelPath)
+        , m_step(std::max<std::int64_t>(1, static_cast<std::int64_t>(std::floor(
+                                               m_request.frameRate / options.sampling.wantedPicturesPerSecond + 0.01))))
+    {
+        cv::setNumThreads(1);
+    }
+
+    cv::Size WorkingSize() const { return m_workingSize; }
+    const std::string& FaceModelProblem() const { return m_signals.Faces().Finder().ModelProblem(); }
+    bool Wants(std::int64_t frame) const { return frame >= 0 && frame < m_request.frameCount && frame % m_step == 0; }
+    void AddPicture(std::int64_t frame, const cv::Mat& picture);
+    std::vector<KxCropRect> Finish() const;
+
+private:
+    struct Shot {
+        std::int64_t first;
+        std::int64_t end;
+    };
+    KxCropGeometry Geometry() const;
+    std::vector<Shot> Shots() const;
+    std::vector<double> CentresOf(const Shot& shot, const KxCropGeometry& geometry, const KxCentreScore& score) const;
+
+    KxSubjectRequest m_request;
+    KxSubjectOptions m_options;
+    cv::Size m_workingSize;
+    KxShotDetector m_shots;
+    KxSignalTrack m_signals;
+    std::int64_t m_step; ///< every so many frames one is wanted
+    std::int64_t m_lastFrame = -1;
+};
+
+void KxSubjectAnalyzer::Impl::AddPicture(std::int64_t frame, const cv::Mat& picture)
+{
+    if (frame <= m_lastFrame || frame >= m_request.frameCount || picture.size() != m_workingSize ||
+        picture.type() != CV_8UC3) {
+        return;
+    }
+    m_lastFrame = frame;
+    try {
+        m_shots.AddPicture(frame, picture);
+        m_signals.AddPicture(frame, picture);
+    } catch (const cv::Exception&) {
+        // One picture that OpenCV cannot work on is one picture less, not the end of the analysis.
+        return;
+    }
+}
+
+KxCropGeometry KxSubjectAnalyzer::Impl::Geometry() const
+{
+    const cv::Rect content = m_signals.Content();
+    const auto width = static_cast<double>(m_workingSize.width);
+    const auto height = static_cast<double>(m_workingSize.height);
+    return KxCropGeometry({m_request.pictureWidthPx, m_request.pictureHeightPx},
+                          {m_request.aspectWidth, m_request.aspectHeight},
+                          {content.x / width, content.y / height, content.width / width, content.height / height});
+}
+
+std::vector<KxSubjectAnalyzer::Impl::Shot> KxSubjectAnalyzer::Impl::Shots() const
+{
+    std::vector<Shot> shots{{0, m_request.frameCount}};
+    for (const std::int64_t cut : m_shots.Cuts(m_request.frameRate)) {
+        shots.back().end = cut;
+        shots.push_back({cut, m_request.frameCount});
+    }
+    return shots;
+}
+
+std::vector<double> KxSubjectAnalyzer::Impl::CentresOf(const Shot& shot, const KxCropGeometry& geometry,
+                                                       const KxCentreScore& score) const
+{
+    const std::vector<KxSignalSample>& samples = m_signals.Samples();
+    const KxSubjectOptions::Reaction& reaction = m_options.For(m_request.speed);
+    const double patience = reaction.holdSeconds / m_options.automatic.holdSeconds;
+    const double costPerWidth = m_options.path.moveCost * patience * std::sqrt(m_options.sampling.samplesPerSecond);
+    KxSubjectTracker tracker(costPerWidth * score.Spacing());
+    const auto begin = static_cast<std::size_t>(
+        std::lower_bound(samples.begin(), samples.end(), shot.first,
+                         [](const KxSignalSample& sample, std::int64_t frame) { return sample.frame < frame; }) -
+        samples.begin());
+    for (std::size_t i = begin; i < samples.size() && samples[i].frame < shot.end; ++i) {
+        tracker.Add(score.Of(m_signals.EvidenceAt(i, shot.first, shot.end, geometry.FreeAxis())));
+    }
+    std::vector<KxPathPoint> points;
+    for (const std::size_t position : tracker.BestRun()) {
+        points.push_back({samples[begin + points.size()].frame, score.CentreAt(position)});
+    }
+    return KxCropPath(m_options.path, reaction, geometry.Extent())
+        .Draw(points, shot.first, shot.end, m_request.frameRate, 0.5);
+}
+
+std::vector<KxCropRect> KxSubjectAnalyzer::Impl::Finish() const
+{
+    std::vector<KxCropRect> crops;
+    crops.reserve(static_cast<std::size_t>(m_request.frameCount));
+    const KxCropGeometry geometry = Geometry();
+    const KxCentreScore score(m_options.evidence, geometry);
+    for (const Shot& shot : Shots()) {
+        for (const double centre : CentresOf(shot, geometry, score)) {
+            crops.push_back(geometry.At(centre));
+        }
+    }
+    return crops;
+}
+
+KxSubjectAnalyzer::KxSubjectAnalyzer(const KxSubjectRequest& request)
+    : KxSubjectAnalyzer(request, KxSubjectOptions())
+{
+}
+
+KxSubjectAnalyzer::KxSubjectAnalyzer(const KxSubjectRequest& request, const KxSubjectOptions& options)
+    : m_impl(std::make_unique<Impl>(request, options))
+{
+}
+
+KxSubjectAnalyzer::~KxSubjectAnalyzer() = default;
+
+cv::Size KxSubjectAnalyzer::WorkingSize() const
+{
+    return m_impl->WorkingSize();
+}
+
+bool KxSubjectAnalyzer::Wants(std::int64_t frame) const
+{
+    return m_impl->Wants(frame);
+}
+
+void KxSubjectAnalyzer::AddPicture(std::int64_t frame, const cv::Mat& picture)
+{
+    m_impl->AddPicture(frame, picture);
+}
+
+std::vector<KxCropRect> KxSubjectAnalyzer::Finish()
+{
+    return m_impl->Finish();
+}
+
+const std::string& KxSubjectAnalyzer::FaceModelProblem() const
+{
+    return m_impl->FaceModelProblem();
+}

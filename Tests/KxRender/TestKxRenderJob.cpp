@@ -1,0 +1,177 @@
+#include "KxRenderJob.h"
+
+#include "RenderFixture.h"
+
+#include <atomic>
+#include <condition_variable>
+#include <mutex>
+
+namespace
+{
+
+/// Hears a job and lets a test wait for what it hears.
+class Listener
+{
+public:
+    KxRenderJob::Callbacks Callbacks()
+    {
+        return {[this](int value) { Hear(value); }, [this](const KxRenderResult& result) { End(result); }};
+    }
+
+    void WaitForProgress(int value)
+    {
+        std::unique_lock<std::mutex> lock(m_mutex);
+        m_changed.wait(lock, [&] { return m_progress >= value || m_ends > 0; });
+    }
+
+    KxRenderResult WaitForEnd()
+    {
+        std::unique_lock<std::mutex> lock(m_mutex);
+        m_changed.wait(lock, [&] { return m_ends > 0; });
+        return m_result;
+    }
+
+    int Ends()
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        return m_ends;
+    }
+
+    bool HeardAfterEnd()
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        return m_heardAfterEnd;
+    }
+
+private:
+    void Hear(int value)
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_progress = value;
+        m_heardAfterEnd = m_heardAfterEnd || m_ends > 0;
+        m_changed.notify_all();
+    }
+
+    void End(const KxRenderResult& result)
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_result = result;
+        ++m_ends;
+        m_changed.notify_all();
+    }
+
+    std::mutex m_mutex;
+    std::condition_variable m_changed;
+    int m_progress = 0;
+    int m_ends = 0;
+    bool m_heardAfterEnd = false;
+    KxRenderResult m_result;
+};
+
+class KxRenderJobTest : public RenderFixture
+{
+protected:
+    void ExpectOneEnd()
+    {
+        EXPECT_EQ(m_listener.Ends(), 1);
+        EXPECT_FALSE(m_listener.HeardAfterEnd());
+    }
+
+    Listener m_listener;
+};
+
+} // namespace
+
+TEST_F(KxRenderJobTest, Finishes)
+{
+    const KxRenderSource source = MakeClip(30);
+    {
+        KxRenderJob job(source, SettingsFor(QSize(90, 160)), m_listener.Callbacks());
+        const KxRenderResult result = m_listener.WaitForEnd();
+        EXPECT_EQ(result.outcome, KxOutcome::Done) << result.sentence.toStdString();
+        EXPECT_EQ(result.outputPath, Path(QStringLiteral("out.mp4")));
+    }
+    ExpectOneEnd();
+    EXPECT_EQ(Pictures(Path(QStringLiteral("out.mp4"))).size(), 30U);
+}
+
+TEST_F(KxRenderJobTest, Fails)
+{
+    KxRenderSource source;
+    source.path = Path(QStringLiteral("none.mp4"));
+    {
+        KxRenderJob job(source, SettingsFor(QSize(90, 160)), m_listener.Callbacks());
+        const KxRenderResult result = m_listener.WaitForEnd();
+        EXPECT_EQ(result.outcome, KxOutcome::Failed);
+        EXPECT_TRUE(result.sentence.contains(QStringLiteral("none.mp4"))) << result.sentence.toStdString();
+    }
+    ExpectOneEnd();
+}
+
+TEST_F(KxRenderJobTest, CancelledAtOnce)
+{
+    const KxRenderSource source = MakeClip(60);
+    {
+        KxRenderJob job(source, SettingsFor(QSize(360, 640)), m_listener.Callbacks());
+        job.Cancel();
+        EXPECT_EQ(m_listener.WaitForEnd().outcome, KxOutcome::Cancelled);
+    }
+    ExpectOneEnd();
+    EXPECT_EQ(Written(), QStringList());
+}
+
+TEST_F(KxRenderJobTest, CancelledLate)
+{
+    const KxRenderSource source = MakeClip(150);
+    {
+        KxRenderJob job(source, SettingsFor(QSize(360, 640)), m_listener.Callbacks());
+        m_listener.WaitForProgress(3000);
+        job.Cancel();
+        EXPECT_EQ(m_listener.WaitForEnd().outcome, KxOutcome::Cancelled);
+    }
+    ExpectOneEnd();
+    EXPECT_EQ(Written(), QStringList());
+}
+
+TEST_F(KxRenderJobTest, DestroyedWhileRunning)
+{
+    const KxRenderSource source = MakeClip(150);
+    auto job = std::make_unique<KxRenderJob>(source, SettingsFor(QSize(360, 640)), m_listener.Callbacks());
+    m_listener.WaitForProgress(1000);
+    job.reset();
+    ExpectOneEnd();
+    EXPECT_EQ(m_listener.WaitForEnd().outcome, KxOutcome::Cancelled);
+    EXPECT_EQ(Written(), QStringList());
+}
+
+TEST_F(KxRenderJobTest, CancelledAfterItsEndStaysDone)
+{
+    const KxRenderSource source = MakeClip(10);
+    {
+        KxRenderJob job(source, SettingsFor(QSize(90, 160)), m_listener.Callbacks());
+        EXPECT_EQ(m_listener.WaitForEnd().outcome, KxOutcome::Done);
+        job.Cancel();
+    }
+    ExpectOneEnd();
+    EXPECT_EQ(Written(), QStringList{QStringLiteral("out.mp4")});
+}
+
+TEST_F(KxRenderJobTest, NobodyNeedsToListen)
+{
+    const KxRenderSource source = MakeClip(10);
+    KxRenderJob(source, SettingsFor(QSize(90, 160)), {});
+    EXPECT_EQ(Written(), QStringList());
+}
+
+TEST_F(KxRenderJobTest, TwoJobsSideBySideWriteTwoFiles)
+{
+    const KxRenderSource source = MakeClip(30);
+    Listener other;
+    {
+        KxRenderJob first(source, SettingsFor(QSize(90, 160)), m_listener.Callbacks());
+        KxRenderJob second(source, SettingsFor(QSize(90, 160)), other.Callbacks());
+        EXPECT_EQ(m_listener.WaitForEnd().outcome, KxOutcome::Done);
+        EXPECT_EQ(other.WaitForEnd().outcome, KxOutcome::Done);
+    }
+    EXPECT_EQ(Written(), (QStringList{QStringLiteral("out (2).mp4"), QStringLiteral("out.mp4")}));
+}

@@ -1,0 +1,70 @@
+#include "MadePictures.h"
+
+#include <opencv2/imgproc.hpp>
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <string>
+
+namespace MadePictures
+{
+
+cv::Mat Texture(cv::Size size, std::uint64_t seed, double level)
+{
+    cv::RNG random(seed);
+    cv::Mat texture(size, CV_8UC3);
+    random.fill(texture, cv::RNG::UNIFORM, 0, 256);
+    cv::GaussianBlur(texture, texture, cv::Size(), 2.0);
+    cv::Mat stretched;
+    texture.convertTo(stretched, CV_8UC3, 2.0, level - 2.0 * 127.5);
+    return stretched;
+}
+
+cv::Mat View(const cv::Mat& scene, cv::Point2d shift, cv::Size size)
+{
+    const cv::Matx23d movement(1.0, 0.0, -shift.x, 0.0, 1.0, -shift.y);
+    cv::Mat view;
+    cv::warpAffine(scene, view, movement, size, cv::INTER_LINEAR, cv::BORDER_REFLECT);
+    return view;
+}
+
+void PaintObject(cv::Mat& picture, const cv::Rect& place)
+{
+    constexpr int checkPx = 6;
+    for (int y = 0; y < place.height; y += checkPx) {
+        for (int x = 0; x < place.width; x += checkPx) {
+            const bool bright = (x / checkPx + y / checkPx) % 2 == 0;
+            const cv::Rect check = cv::Rect(place.x + x, place.y + y, checkPx, checkPx) & place &
+                                   cv::Rect(0, 0, picture.cols, picture.rows);
+            if (!check.empty()) {
+                picture(check).setTo(bright ? cv::Scalar(30, 220, 250) : cv::Scalar(120, 20, 20));
+            }
+        }
+    }
+}
+
+cv::Mat Photograph()
+{
+    const std::filesystem::path source = "/usr/share/doc/opencv-doc/examples/data/messi5.jpg";
+    if (!std::filesystem::exists(source)) {
+        return {};
+    }
+    const std::filesystem::path raw = std::filesystem::path(testing::TempDir()) / "kx-photograph.raw";
+    const std::string command =
+        "ffmpeg -v error -y -i " + source.string() + " -f rawvideo -pix_fmt bgr24 " + raw.string();
+    cv::Mat picture(342, 548, CV_8UC3);
+    if (std::system(command.c_str()) != 0) {
+        return {};
+    }
+    std::ifstream file(raw, std::ios::binary);
+    const auto bytes = static_cast<std::streamsize>(picture.total() * picture.elemSize());
+    file.read(reinterpret_cast<char*>(picture.data), bytes);
+    const bool whole = file.gcount() == bytes;
+    std::filesystem::remove(raw);
+    return whole ? picture : cv::Mat();
+}
+
+} // namespace MadePictures

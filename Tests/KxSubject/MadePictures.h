@@ -1,0 +1,23 @@
+#pragma once
+
+#include <opencv2/core/mat.hpp>
+
+#include <cstdint>
+
+/// Pictures with known contents.
+namespace MadePictures
+{
+
+/// Smooth random texture, CV_8UC3, the same for the same seed; mean about `level`.
+cv::Mat Texture(cv::Size size, std::uint64_t seed, double level = 110.0);
+
+/// The part of a wide texture that a camera sees when it has moved by `shift` (sub-pixel).
+cv::Mat View(const cv::Mat& scene, cv::Point2d shift, cv::Size size);
+
+/// A sharp checkered patch that differs from any texture.
+void PaintObject(cv::Mat& picture, const cv::Rect& place);
+
+/// A photograph of one person from OpenCV's documentation (548 x 342); empty where the package is missing.
+cv::Mat Photograph();
+
+} // namespace MadePictures

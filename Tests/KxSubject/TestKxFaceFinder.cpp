@@ -1,0 +1,150 @@
+#include "KxFaceFinder.h"
+
+#include "KxCascadeFiles.h"
+#include "MadePictures.h"
+
+#include <opencv2/imgproc.hpp>
+
+#include <QByteArray>
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+
+namespace
+{
+
+const cv::Size PictureSize(320, 180);
+const cv::Rect Part(100, 20, 320, 180); ///< of the photograph
+const cv::Rect Face(125, 70, 41, 46);   ///< in that part
+
+cv::Mat PictureWithFace()
+{
+    const cv::Mat photograph = MadePictures::Photograph();
+    return photograph.empty() ? photograph : photograph(Part).clone();
+}
+
+cv::Mat Grey(const cv::Mat& picture)
+{
+    cv::Mat grey;
+    cv::cvtColor(picture, grey, cv::COLOR_BGR2GRAY);
+    return grey;
+}
+
+bool Meets(const cv::Rect& found, const cv::Rect& face)
+{
+    const double common = (found & face).area();
+    return common > 0.5 * std::min(found.area(), face.area());
+}
+
+std::string TestModel()
+{
+    return (std::filesystem::path(KX_SOURCE_FOLDER) / "../shared/models/face_detection_yunet_2022mar.onnx").string();
+}
+
+/// Sets a variable of the environment for as long as it lives.
+class Environment
+{
+public:
+    Environment(const char* name, const std::string& value)
+        : m_name(name)
+    {
+        qputenv(name, QByteArray::fromStdString(value));
+    }
+    ~Environment() { qunsetenv(m_name); }
+    Environment(const Environment&) = delete;
+    Environment& operator=(const Environment&) = delete;
+
+private:
+    const char* m_name;
+};
+
+} // namespace
+
+TEST(KxFaceFinder, AFaceIsFoundAndFoundAgainNearItsPlace)
+{
+    const cv::Mat picture = PictureWithFace();
+    if (picture.empty()) {
+        GTEST_SKIP() << "needs messi5.jpg of the package opencv-doc";
+    }
+    KxFaceFinder finder(KxSubjectOptions().faces, "", PictureSize);
+    if (!finder.Knows(KxFaceView::Frontal)) {
+        GTEST_SKIP() << "needs the cascades of the package opencv-data";
+    }
+    const cv::Mat grey = Grey(picture);
+    const auto found = finder.Find(picture, grey, KxFaceView::Frontal);
+    ASSERT_EQ(found.size(), 1U);
+    EXPECT_TRUE(Meets(found[0], Face)) << found[0];
+    const auto again = finder.FindNear(grey, KxFaceView::Frontal, found[0] + cv::Point(6, -4));
+    ASSERT_TRUE(again.has_value());
+    EXPECT_TRUE(Meets(*again, Face));
+    EXPECT_FALSE(finder.FindNear(grey, KxFaceView::Frontal, {20, 100, 60, 60}).has_value());
+}
+
+TEST(KxFaceFinder, APictureWithoutAFaceHasNone)
+{
+    KxFaceFinder finder(KxSubjectOptions().faces, "", PictureSize);
+    const cv::Mat picture(PictureSize, CV_8UC3, cv::Scalar::all(80));
+    for (const KxFaceView view : {KxFaceView::Frontal, KxFaceView::LeftProfile, KxFaceView::RightProfile}) {
+        EXPECT_TRUE(finder.Find(picture, Grey(picture), view).empty());
+    }
+}
+
+TEST(KxFaceFinder, ANamedFolderOfCascadesComesFirst)
+{
+    const std::filesystem::path folder = std::filesystem::path(testing::TempDir()) / "kx-cascades";
+    std::filesystem::create_directories(folder);
+    std::ofstream(folder / "haarcascade_frontalface_alt2.xml") << "not a cascade";
+    const Environment named("KX_CASCADES", "/no/such/folder:" + folder.string());
+    EXPECT_EQ(KxFindCascade("haarcascade_frontalface_alt2.xml"),
+              (folder / "haarcascade_frontalface_alt2.xml").string());
+    // A damaged cascade is no face signal, not a fault.
+    KxFaceFinder finder(KxSubjectOptions().faces, "", PictureSize);
+    EXPECT_FALSE(finder.Knows(KxFaceView::Frontal));
+    const cv::Mat picture(PictureSize, CV_8UC3, cv::Scalar::all(80));
+    EXPECT_TRUE(finder.Find(picture, Grey(picture), KxFaceView::Frontal).empty());
+    std::filesystem::remove_all(folder);
+}
+
+TEST(KxFaceFinder, ACascadeThatIsNowhereIsNotFound)
+{
+    EXPECT_FALSE(KxFindCascade("no-such-cascade.xml").has_value());
+}
+
+TEST(KxFaceFinder, ABadModelIsToldAndTheCascadesStay)
+{
+    const std::string folder = testing::TempDir();
+    const std::string bad = (std::filesystem::path(folder) / "kx-bad-model.onnx").string();
+    std::ofstream(bad) << "this is no model";
+    const KxFaceFinder fromBad(KxSubjectOptions().faces, bad, PictureSize);
+    EXPECT_EQ(fromBad.ModelProblem(),
+              "Cannot use the face model " + bad + ": it is not a face detector that OpenCV can run.");
+    EXPECT_FALSE(fromBad.UsesModel());
+    EXPECT_EQ(fromBad.Knows(KxFaceView::Frontal), KxFindCascade("haarcascade_frontalface_alt2.xml").has_value());
+    std::filesystem::remove(bad);
+
+    const KxFaceFinder fromNone(KxSubjectOptions().faces, bad, PictureSize);
+    EXPECT_EQ(fromNone.ModelProblem(), "Cannot use the face model " + bad + ": there is no such file.");
+    const KxFaceFinder fromFolder(KxSubjectOptions().faces, folder, PictureSize);
+    EXPECT_EQ(fromFolder.ModelProblem(), "Cannot use the face model " + folder + ": it is a folder.");
+    EXPECT_TRUE(KxFaceFinder(KxSubjectOptions().faces, "", PictureSize).ModelProblem().empty());
+}
+
+TEST(KxFaceFinder, AGoodModelFindsTheFace)
+{
+    if (!std::filesystem::exists(TestModel())) {
+        GTEST_SKIP() << "needs ../shared/models/face_detection_yunet_2022mar.onnx beside the source tree";
+    }
+    KxFaceFinder finder(KxSubjectOptions().faces, TestModel(), PictureSize);
+    EXPECT_EQ(finder.ModelProblem(), "");
+    ASSERT_TRUE(finder.UsesModel());
+    const cv::Mat picture = PictureWithFace();
+    if (picture.empty()) {
+        GTEST_SKIP() << "needs messi5.jpg of the package opencv-doc";
+    }
+    const auto found = finder.Find(picture, Grey(picture), KxFaceView::Frontal);
+    ASSERT_EQ(found.size(), 1U);
+    EXPECT_TRUE(Meets(found[0], Face)) << found[0];
+    EXPECT_FALSE(finder.Knows(KxFaceView::LeftProfile));
+}

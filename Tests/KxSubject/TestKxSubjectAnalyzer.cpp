@@ -1,0 +1,291 @@
+#include "KxSubjectAnalyzer.h"
+
+#include "KxSubjectOptions.h"
+#include "MadePictures.h"
+
+#include <opencv2/imgproc.hpp>
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <functional>
+#include <limits>
+
+namespace
+{
+
+const cv::Size SceneSize(480, 240);
+
+KxSubjectRequest Request(std::int64_t frameCount, cv::Size aspect = {9, 16}, KxMotionSpeed speed = KxMotionSpeed::Auto)
+{
+    KxSubjectRequest request;
+    request.pictureWidthPx = 1280;
+    request.pictureHeightPx = 720;
+    request.frameRate = 25.0;
+    request.frameCount = frameCount;
+    request.aspectWidth = aspect.width;
+    request.aspectHeight = aspect.height;
+    request.speed = speed;
+    return request;
+}
+
+/// An object 30 px wide whose middle is at `centre` (fraction of the width), in front of a texture that the camera
+/// pans.
+cv::Mat Picture(double centre, double camera, std::uint64_t seed = 21)
+{
+    static std::uint64_t madeSeed = 0;
+    static cv::Mat scene;
+    if (madeSeed != seed) {
+        madeSeed = seed;
+        scene = MadePictures::Texture(SceneSize, seed, seed == 21 ? 110.0 : 60.0);
+    }
+    cv::Mat picture = MadePictures::View(scene, {camera, 10.0}, {320, 180});
+    MadePictures::PaintObject(picture, {cvRound(centre * 320.0) - 15, 80, 30, 40});
+    return picture;
+}
+
+using Scene = std::function<cv::Mat(std::int64_t frame)>;
+
+std::vector<KxCropRect> Analyse(const KxSubjectRequest& request, const Scene& scene, std::int64_t every = 1,
+                                std::int64_t last = std::numeric_limits<std::int64_t>::max())
+{
+    KxSubjectAnalyzer analyzer(request);
+    for (std::int64_t frame = 0; frame < std::min(request.frameCount, last); frame += every) {
+        if (analyzer.Wants(frame)) {
+            analyzer.AddPicture(frame, scene(frame));
+        }
+    }
+    return analyzer.Finish();
+}
+
+cv::Mat Walk(std::int64_t frame)
+{
+    return Picture(0.2 + 0.004 * static_cast<double>(frame), 60.0);
+}
+
+void ExpectOneSizeInside(const std::vector<KxCropRect>& crops)
+{
+    for (const KxCropRect& crop : crops) {
+        EXPECT_EQ(crop.width, crops.front().width);
+        EXPECT_EQ(crop.height, crops.front().height);
+        EXPECT_GE(crop.x, 0.0);
+        EXPECT_GE(crop.y, 0.0);
+        EXPECT_LE(crop.x + crop.width, 1.0 + 1e-12);
+        EXPECT_LE(crop.y + crop.height, 1.0 + 1e-12);
+    }
+}
+
+double Middle(const KxCropRect& crop)
+{
+    return crop.x + crop.width / 2.0;
+}
+
+} // namespace
+
+TEST(KxSubjectAnalyzer, TheWorkingSizeKeepsTheAspectAndIs320AtItsLongerSide)
+{
+    KxSubjectRequest request = Request(10);
+    EXPECT_EQ(KxSubjectAnalyzer(request).WorkingSize(), cv::Size(320, 180));
+    std::swap(request.pictureWidthPx, request.pictureHeightPx);
+    EXPECT_EQ(KxSubjectAnalyzer(request).WorkingSize(), cv::Size(180, 320));
+    request.pictureWidthPx = 64;
+    request.pictureHeightPx = 48;
+    EXPECT_EQ(KxSubjectAnalyzer(request).WorkingSize(), cv::Size(320, 240));
+}
+
+TEST(KxSubjectAnalyzer, FramesOutsideAreNotWantedAndHighRatesAreThinned)
+{
+    KxSubjectRequest request = Request(100);
+    const KxSubjectAnalyzer usual(request);
+    EXPECT_TRUE(usual.Wants(0));
+    EXPECT_TRUE(usual.Wants(99));
+    EXPECT_FALSE(usual.Wants(-1));
+    EXPECT_FALSE(usual.Wants(100));
+    request.frameRate = 240.0;
+    const KxSubjectAnalyzer quick(request);
+    int wanted = 0;
+    for (int frame = 0; frame < 100; ++frame) {
+        wanted += quick.Wants(frame) ? 1 : 0;
+    }
+    EXPECT_EQ(wanted, 25);
+}
+
+TEST(KxSubjectAnalyzer, TheCropHoldsAMovingObjectThroughAPan)
+{
+    const auto crops = Analyse(Request(125), [](std::int64_t frame) {
+        return Picture(0.2 + 0.004 * static_cast<double>(frame), 20.0 + 0.9 * static_cast<double>(frame));
+    });
+    ASSERT_EQ(crops.size(), 125U);
+    ExpectOneSizeInside(crops);
+    for (std::size_t frame = 0; frame < crops.size(); ++frame) {
+        const double centre = 0.2 + 0.004 * static_cast<double>(frame);
+        EXPECT_LE(crops[frame].x, centre - 15.0 / 320.0) << frame;
+        EXPECT_GE(crops[frame].x + crops[frame].width, centre + 15.0 / 320.0) << frame;
+    }
+}
+
+TEST(KxSubjectAnalyzer, MissingPicturesDoNotLoseTheObject)
+{
+    for (const std::int64_t every : {2, 4, 10}) {
+        const auto crops = Analyse(Request(125), Walk, every);
+        ASSERT_EQ(crops.size(), 125U);
+        for (const std::size_t frame : {20U, 60U, 100U}) {
+            EXPECT_NEAR(Middle(crops[frame]), 0.2 + 0.004 * static_cast<double>(frame), 0.1)
+                << "every " << every << ", frame " << frame;
+        }
+    }
+}
+
+TEST(KxSubjectAnalyzer, TheCropJumpsAtTheCutAndNowhereElse)
+{
+    const auto crops = Analyse(Request(100), [](std::int64_t frame) {
+        const double sway = 0.03 * std::sin(static_cast<double>(frame) * 0.5);
+        return frame < 47 ? Picture(0.22 + sway, 40.0, 21) : Picture(0.76 + sway, 40.0, 22);
+    });
+    ASSERT_EQ(crops.size(), 100U);
+    for (std::size_t frame = 1; frame < crops.size(); ++frame) {
+        const double step = std::abs(crops[frame].x - crops[frame - 1].x);
+        if (frame == 47) {
+            EXPECT_GT(step, 0.4);
+        } else {
+            EXPECT_LT(step, 0.02) << frame;
+        }
+    }
+}
+
+TEST(KxSubjectAnalyzer, BarsStayOutside)
+{
+    const auto crops = Analyse(Request(50), [](std::int64_t frame) {
+        cv::Mat picture = Walk(frame);
+        picture.rowRange(0, 20).setTo(cv::Scalar::all(0));
+        picture.rowRange(160, 180).setTo(cv::Scalar::all(0));
+        return picture;
+    });
+    ExpectOneSizeInside(crops);
+    EXPECT_GE(crops.front().y, 20.0 / 180.0);
+    EXPECT_LE(crops.front().y + crops.front().height, 160.0 / 180.0);
+    EXPECT_NEAR(crops.front().width * 1280.0 / (crops.front().height * 720.0), 9.0 / 16.0, 1e-9);
+}
+
+TEST(KxSubjectAnalyzer, EveryPresetGivesOneSizeInside)
+{
+    for (const cv::Size& aspect :
+         {cv::Size(9, 16), cv::Size(1, 1), cv::Size(16, 9), cv::Size(4, 3), cv::Size(4, 5), cv::Size(21, 9)}) {
+        const auto crops = Analyse(Request(30, aspect), Walk, 3);
+        ASSERT_EQ(crops.size(), 30U);
+        ExpectOneSizeInside(crops);
+        EXPECT_LT(std::abs(crops.front().width * 1280.0 - crops.front().height * 720.0 * aspect.width / aspect.height),
+                  1.0);
+    }
+}
+
+TEST(KxSubjectAnalyzer, ANarrowerReactionFollowsCloser)
+{
+    const auto distance = [](KxMotionSpeed speed) {
+        const auto crops = Analyse(Request(200, {9, 16}, speed), [](std::int64_t frame) {
+            return Picture(0.5 + 0.25 * std::sin(0.05 * static_cast<double>(frame)), 60.0);
+        });
+        double sum = 0.0;
+        for (std::size_t frame = 0; frame < crops.size(); ++frame) {
+            sum += std::abs(Middle(crops[frame]) - 0.5 - 0.25 * std::sin(0.05 * static_cast<double>(frame)));
+        }
+        return sum / static_cast<double>(crops.size());
+    };
+    EXPECT_LT(distance(KxMotionSpeed::Fast), distance(KxMotionSpeed::Slow));
+}
+
+TEST(KxSubjectAnalyzer, WithoutPicturesTheCropIsInTheMiddle)
+{
+    const auto crops = Analyse(Request(12), Walk, 1, 0);
+    ASSERT_EQ(crops.size(), 12U);
+    ExpectOneSizeInside(crops);
+    EXPECT_NEAR(Middle(crops[5]), 0.5, 1e-12);
+}
+
+TEST(KxSubjectAnalyzer, PlainPicturesLeaveTheCropInTheMiddle)
+{
+    const auto crops =
+        Analyse(Request(40), [](std::int64_t) { return cv::Mat(180, 320, CV_8UC3, cv::Scalar::all(90)); });
+    for (const KxCropRect& crop : crops) {
+        EXPECT_NEAR(Middle(crop), 0.5, 0.01);
+    }
+}
+
+TEST(KxSubjectAnalyzer, OneFrameAndFewFramesAndNoFrame)
+{
+    for (const std::int64_t count : {0, 1, 2, 3, 5}) {
+        const auto crops = Analyse(Request(count), Walk);
+        EXPECT_EQ(crops.size(), static_cast<std::size_t>(count));
+        ExpectOneSizeInside(crops);
+    }
+}
+
+TEST(KxSubjectAnalyzer, PicturesThatEndEarlyHoldTheLastPlace)
+{
+    const auto crops = Analyse(Request(200), Walk, 1, 100);
+    ASSERT_EQ(crops.size(), 200U);
+    ExpectOneSizeInside(crops);
+    EXPECT_NEAR(Middle(crops[199]), Middle(crops[105]), 0.05);
+    EXPECT_NEAR(Middle(crops[199]), 0.6, 0.1);
+}
+
+TEST(KxSubjectAnalyzer, AVeryLowRateIsTaken)
+{
+    KxSubjectRequest request = Request(12);
+    request.frameRate = 0.5;
+    const auto crops = Analyse(request, Walk);
+    ASSERT_EQ(crops.size(), 12U);
+    ExpectOneSizeInside(crops);
+}
+
+TEST(KxSubjectAnalyzer, SenselessRequestsAreAnswered)
+{
+    KxSubjectRequest request;
+    request.frameRate = std::numeric_limits<double>::quiet_NaN();
+    request.frameCount = 4;
+    request.aspectHeight = 0;
+    KxSubjectAnalyzer analyzer(request);
+    analyzer.AddPicture(0, cv::Mat());
+    analyzer.AddPicture(1, cv::Mat(3, 3, CV_8UC1));
+    EXPECT_EQ(analyzer.Finish().size(), 4U);
+    request.frameCount = -7;
+    EXPECT_TRUE(KxSubjectAnalyzer(request).Finish().empty());
+}
+
+TEST(KxSubjectAnalyzer, ExtremeShapesAreTaken)
+{
+    for (const cv::Size& size : {cv::Size(4000, 16), cv::Size(16, 4000), cv::Size(1, 1)}) {
+        KxSubjectRequest request = Request(20);
+        request.pictureWidthPx = size.width;
+        request.pictureHeightPx = size.height;
+        KxSubjectAnalyzer analyzer(request);
+        for (int frame = 0; frame < 20; ++frame) {
+            cv::Mat picture = MadePictures::Texture(analyzer.WorkingSize(), 5);
+            MadePictures::PaintObject(picture, {frame, frame, 12, 12});
+            analyzer.AddPicture(frame, picture);
+        }
+        const auto crops = analyzer.Finish();
+        ASSERT_EQ(crops.size(), 20U);
+        ExpectOneSizeInside(crops);
+    }
+}
+
+TEST(KxSubjectAnalyzer, TheSamePicturesGiveTheSameCrops)
+{
+    const auto first = Analyse(Request(60), Walk);
+    const auto second = Analyse(Request(60), Walk);
+    ASSERT_EQ(first.size(), second.size());
+    for (std::size_t i = 0; i < first.size(); ++i) {
+        EXPECT_EQ(first[i].x, second[i].x);
+        EXPECT_EQ(first[i].y, second[i].y);
+    }
+}
+
+TEST(KxSubjectAnalyzer, AFaceModelThatIsMissingIsTold)
+{
+    KxSubjectRequest request = Request(5);
+    EXPECT_TRUE(KxSubjectAnalyzer(request).FaceModelProblem().empty());
+    request.faceModelPath = "/no/such/model.onnx";
+    EXPECT_EQ(KxSubjectAnalyzer(request).FaceModelProblem(),
+              "Cannot use the face model /no/such/model.onnx: there is no such file.");
+}

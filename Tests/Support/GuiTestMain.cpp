@@ -1,0 +1,53 @@
+#include <QApplication>
+#include <QFont>
+#include <QString>
+#include <QStyleFactory>
+
+#include <gtest/gtest.h>
+
+namespace
+{
+
+// What the offscreen platform says of itself, whatever the program does.
+bool IsThePlatforms(const QString& text)
+{
+    return text.startsWith(QLatin1String("This plugin does not support "));
+}
+
+// A warning that nobody expected is a fault that nobody looked for.
+void FailOnWarning(QtMsgType type, const QMessageLogContext& context, const QString& text)
+{
+    if (type == QtDebugMsg || type == QtInfoMsg || IsThePlatforms(text)) {
+        return;
+    }
+    ADD_FAILURE_AT(context.file != nullptr ? context.file : "(Qt)", context.line)
+        << "Qt said: " << text.toStdString();
+}
+
+void PinEnvironment()
+{
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+    qputenv("QT_SCALE_FACTOR", "1");
+    qputenv("QT_FONT_DPI", "96");
+    qunsetenv("QT_STYLE_OVERRIDE");
+    qunsetenv("QT_QPA_PLATFORMTHEME");
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    PinEnvironment();
+    QApplication application(argc, argv);
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QFont font(QStringLiteral("Noto Sans"));
+    font.setPixelSize(13);
+    QApplication::setFont(font);
+    testing::InitGoogleTest(&argc, argv);
+    qInstallMessageHandler(&FailOnWarning);
+    const int result = RUN_ALL_TESTS();
+    qInstallMessageHandler(nullptr);
+    return result;
+}
