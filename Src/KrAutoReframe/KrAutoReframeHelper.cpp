@@ -7,11 +7,11 @@
 #include <KxModel/IKxMediaInfo.h>
 #include <KxModel/IKxTimeline.h>
 
-#include <QMutexLocker>
 #include <QUndoStack>
 
 #include <algorithm>
 #include <limits>
+#include <mutex>
 
 KrAutoReframeHelper::KrAutoReframeHelper()
     : m_watcher(new QFutureWatcher<void>(this))
@@ -164,10 +164,7 @@ uint KrAutoReframeHelper::GetPrevKeyFrame(const uint& frame) const
 
 QList<IKxAutoReframeResult> KrAutoReframeHelper::GetResults() const
 {
-    if (!m_watcher->isRunning()) {
-        return m_results;
-    }
-    const QMutexLocker lock(&m_mutex);
+    const std::lock_guard<QBasicMutex> lock(Guard());
     return m_results;
 }
 

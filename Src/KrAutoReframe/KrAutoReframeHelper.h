@@ -104,17 +104,26 @@ Q_SIGNALS:
     void sigCanUndoRedo(bool canUndo, bool canRedo);
 
 private:
+    using KeyFrameMap = QMap<qint64, KxCropPanZoomKeyFrameParam>;
+
     friend class AddCropKeyFrameCommand;
     friend class RemoveCropKeyFrameCommand;
     friend struct KrAutoReframeHelperPeer;
+
+    /// The mutex by its base class, whose fast path is inline: cheap once a frame, and seen by thread checkers, which
+    /// are blind inside Qt's libraries.
+    QBasicMutex& Guard() const { return m_mutex; }
 
     void ReadClipFacts(const IKxTimeline& timeline);
     void MarkCanceled();
     void HandleTaskFinished();
     void WaitForTask();
     void StopTask();
-    void RunKeyFrameTask(const QList<IKxAutoReframeResult>& results);
+    void RunKeyFrameTask(IKxCropPanZoomKeyFrameHelper* target, const QList<IKxAutoReframeResult>& results);
     bool IsTaskCanceled();
+    /// Worker's thread. Returns what to push, as the last thing for which the worker needs the helper.
+    QList<KxCropPanZoomKeyFrameParam> StoreTaskResults(const QList<IKxAutoReframeResult>& results,
+                                                       KeyFrameMap* keyFrames);
 
     bool AreCountsValid(uint to) const;
     void SetKeyFrame(qint64 frame, const QRectF& rect);
@@ -127,7 +136,7 @@ private:
     void ShowSegment(const KrEditSegment& segment);
 
     QFutureWatcher<void>* m_watcher;
-    /// Guards m_canceled and the moment at which the worker stores its results.
+    /// Guards m_canceled and the hand-over of results and keyframes between the worker and the user-interface thread.
     mutable QMutex m_mutex;
     bool m_canceled = false;
     /// While set, a rebuilt range is not pushed to the host.
@@ -138,11 +147,11 @@ private:
     IKxTimeline* m_workTimeline = nullptr;
     IKxTimeline* m_sourceTimeline = nullptr;
     IKxClip* m_clip = nullptr;
-    /// Written by the worker while a task runs.
+    /// Stored by the worker while a task runs.
     QList<IKxAutoReframeResult> m_results;
     QList<IKxAutoReframeResult> m_displayResults;
     /// By frame; the worker's alone while a task runs.
-    QMap<qint64, KxCropPanZoomKeyFrameParam> m_keyFrames;
+    KeyFrameMap m_keyFrames;
     /// In ascending order of starts.
     QList<KrEditSegment> m_segments;
     QMap<uint, QRectF> m_editPoints;

@@ -155,7 +155,7 @@ void KrAutoReframeHelper::CopyResultsToDisplay()
 void KrAutoReframeHelper::ShowSegment(const KrEditSegment& segment)
 {
     const uint end = std::min(segment.End() + 1, static_cast<uint>(m_displayResults.size()));
-    auto keyFrame = static_cast<const QMap<qint64, KxCropPanZoomKeyFrameParam>&>(m_keyFrames).lowerBound(segment.start);
+    auto keyFrame = qAsConst(m_keyFrames).lowerBound(segment.start);
     for (uint frame = segment.start; frame < end; ++frame) {
         KxCropPanZoomKeyFrameParam shown;
         if (keyFrame != m_keyFrames.constEnd() && keyFrame.key() == frame) {

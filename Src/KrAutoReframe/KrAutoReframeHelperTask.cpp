@@ -2,9 +2,10 @@
 
 #include <KxModel/IKxKeyFrameHelper.h>
 
-#include <QMutexLocker>
 #include <QUndoStack>
 #include <QtConcurrent>
+
+#include <mutex>
 
 bool KrAutoReframeHelper::ApplyResults(const QList<IKxAutoReframeResult>& results)
 {
@@ -15,11 +16,12 @@ bool KrAutoReframeHelper::ApplyResults(const QList<IKxAutoReframeResult>& result
         return false;
     }
     {
-        const QMutexLocker lock(&m_mutex);
+        const std::lock_guard<QBasicMutex> lock(Guard());
         m_canceled = false;
     }
     const QList<IKxAutoReframeResult> applied = results.mid(0, m_frameCount);
-    m_watcher->setFuture(QtConcurrent::run([this, applied] { RunKeyFrameTask(applied); }));
+    IKxCropPanZoomKeyFrameHelper* const target = m_keyFrameHelper;
+    m_watcher->setFuture(QtConcurrent::run([this, target, applied] { RunKeyFrameTask(target, applied); }));
     return true;
 }
 
@@ -32,7 +34,7 @@ void KrAutoReframeHelper::Cancel()
 
 void KrAutoReframeHelper::MarkCanceled()
 {
-    const QMutexLocker lock(&m_mutex);
+    const std::lock_guard<QBasicMutex> lock(Guard());
     m_canceled = true;
 }
 
@@ -41,6 +43,7 @@ void KrAutoReframeHelper::WaitForTask()
     if (m_watcher->isRunning()) {
         m_watcher->waitForFinished();
     }
+    const std::lock_guard<QBasicMutex> lock(Guard());
 }
 
 void KrAutoReframeHelper::StopTask()
@@ -48,8 +51,8 @@ void KrAutoReframeHelper::StopTask()
     if (m_watcher->isRunning()) {
         MarkCanceled();
         m_watcher->cancel();
-        m_watcher->waitForFinished();
     }
+    WaitForTask();
 }
 
 void KrAutoReframeHelper::HandleTaskFinished()
@@ -58,6 +61,7 @@ void KrAutoReframeHelper::HandleTaskFinished()
         Q_EMIT sigApplyFinished(false);
         return;
     }
+    WaitForTask();
     m_editPoints.clear();
     m_segments.clear();
     m_undoStack->clear();
@@ -67,20 +71,17 @@ void KrAutoReframeHelper::HandleTaskFinished()
 
 bool KrAutoReframeHelper::IsTaskCanceled()
 {
-    if (!m_mutex.tryLock()) {
-        return false;
-    }
-    const bool isCanceled = m_canceled;
-    m_mutex.unlock();
-    return isCanceled;
+    const std::unique_lock<QBasicMutex> lock(Guard(), std::try_to_lock);
+    return lock.owns_lock() && m_canceled;
 }
 
-void KrAutoReframeHelper::RunKeyFrameTask(const QList<IKxAutoReframeResult>& results)
+void KrAutoReframeHelper::RunKeyFrameTask(IKxCropPanZoomKeyFrameHelper* target,
+                                          const QList<IKxAutoReframeResult>& results)
 {
-    if (m_keyFrameHelper == nullptr) {
+    if (target == nullptr) {
         return;
     }
-    QMap<qint64, KxCropPanZoomKeyFrameParam> keyFrames;
+    KeyFrameMap keyFrames;
     const quint64 count = static_cast<quint64>(results.size());
     quint64 lastReported = 0;
     for (quint64 index = 0; index < count && !IsTaskCanceled(); ++index) {
@@ -95,10 +96,16 @@ void KrAutoReframeHelper::RunKeyFrameTask(const QList<IKxAutoReframeResult>& res
             lastReported = progress;
         }
     }
-    if (m_mutex.tryLock()) {
+    target->setKeyFrames(StoreTaskResults(results, &keyFrames));
+}
+
+QList<KxCropPanZoomKeyFrameParam> KrAutoReframeHelper::StoreTaskResults(const QList<IKxAutoReframeResult>& results,
+                                                                        KeyFrameMap* keyFrames)
+{
+    const std::unique_lock<QBasicMutex> lock(Guard(), std::try_to_lock);
+    if (lock.owns_lock()) {
         m_results = results;
-        m_keyFrames.swap(keyFrames);
-        m_mutex.unlock();
+        m_keyFrames.swap(*keyFrames);
     }
-    PushKeyFrames();
+    return m_keyFrames.values();
 }

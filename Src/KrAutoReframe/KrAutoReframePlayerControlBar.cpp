@@ -31,15 +31,6 @@ QString WithKeys(const QString& text, int actionId)
     return text.arg(KeysOf(actionId).toString(QKeySequence::PortableText));
 }
 
-// A screen reader has nothing but the tip to tell a button without a text by.
-void SetTip(QWidget* button, const QString& text)
-{
-    if (button != nullptr) {
-        button->setToolTip(text);
-        button->setAccessibleName(text);
-    }
-}
-
 } // namespace
 
 KrAutoReframePlayerControlBar::KrAutoReframePlayerControlBar(KxMediaPlayerPresenter* presenter, QWidget* parent)
@@ -192,18 +183,18 @@ void KrAutoReframePlayerControlBar::SlotUpdateSliderPaint(QList<uint> frameIndex
 
 void KrAutoReframePlayerControlBar::updateToolTip()
 {
-    SetTip(button(BackwardButton), WithKeys(tr("Backward (%1)"), Action::Backward));
-    SetTip(button(ForwardButton), WithKeys(tr("Forward (%1)"), Action::Forward));
-    SetTip(button(StopButton), WithKeys(tr("Stop (%1)"), Action::Stop));
+    button(BackwardButton)->setToolTip(WithKeys(tr("Backward (%1)"), Action::Backward));
+    button(ForwardButton)->setToolTip(WithKeys(tr("Forward (%1)"), Action::Forward));
+    button(StopButton)->setToolTip(WithKeys(tr("Stop (%1)"), Action::Stop));
     if (auto* const playPause = qobject_cast<KxSwitchToolButton*>(button(PlayPauseButton))) {
         playPause->AddTips(
             {WithKeys(tr("Play (%1)"), Action::PlayPause), WithKeys(tr("Pause (%1)"), Action::PlayPause)});
     }
-    SetTip(m_undoButton, WithKeys(tr("Undo (%1)"), Action::Undo));
-    SetTip(m_redoButton, WithKeys(tr("Redo (%1)"), Action::Redo));
-    SetTip(m_deleteButton, WithKeys(tr("Delete (%1)"), Action::Delete));
-    SetTip(m_previousButton, WithKeys(tr("Previous Edit Point (%1)"), Action::PreviousEditPoint));
-    SetTip(m_nextButton, WithKeys(tr("Next Edit Point (%1)"), Action::NextEditPoint));
+    m_undoButton->setToolTip(WithKeys(tr("Undo (%1)"), Action::Undo));
+    m_redoButton->setToolTip(WithKeys(tr("Redo (%1)"), Action::Redo));
+    m_deleteButton->setToolTip(WithKeys(tr("Delete (%1)"), Action::Delete));
+    m_previousButton->setToolTip(WithKeys(tr("Previous Edit Point (%1)"), Action::PreviousEditPoint));
+    m_nextButton->setToolTip(WithKeys(tr("Next Edit Point (%1)"), Action::NextEditPoint));
 }
 
 #include "moc_KrAutoReframePlayerControlBar.cpp"

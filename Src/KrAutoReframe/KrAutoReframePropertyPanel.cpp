@@ -12,6 +12,7 @@
 #include <QPixmap>
 #include <QSignalBlocker>
 #include <QStringList>
+#include <QVariant>
 #include <QVBoxLayout>
 
 namespace

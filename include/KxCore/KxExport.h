@@ -51,3 +51,9 @@
 #else
 #define KXPLAYER_API KX_SYMBOL_IMPORT
 #endif
+
+#if defined(KxMediaLibrary_EXPORTS)
+#define KXMEDIALIBRARY_API KX_SYMBOL_EXPORT
+#else
+#define KXMEDIALIBRARY_API KX_SYMBOL_IMPORT
+#endif

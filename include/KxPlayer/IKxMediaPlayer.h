@@ -10,7 +10,7 @@ class KXPLAYER_API IKxMediaPlayer
 public:
     virtual ~IKxMediaPlayer();
 
-    /// Where the picture stands inside the player widget, in device pixels; the whole widget's area fitted to 16:9 while nothing
-    /// is open.
+    /// Where the picture stands, or is going to, inside the player widget, in device pixels: fitted into the largest
+    /// 16:9 frame of the widget. That frame itself while nothing is open.
     virtual QRect videoRect() const = 0;
 };

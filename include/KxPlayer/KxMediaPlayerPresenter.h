@@ -9,12 +9,12 @@
 class IKxMediaPlayer;
 class IKxTimeline;
 
-/// Plays one timeline in one player widget: decodes on a thread of its own, shows each picture at its time (sound is the clock
-/// where there is a sound device), and tells the frame that is on the screen. User-interface thread only; belongs to its
-/// KxMediaPlayerWidget.
+/// Plays one timeline in one player widget: decodes on a thread of its own, shows each picture at its time (sound is
+/// the clock where there is a sound device), and tells the frame that is on the screen. User-interface thread only;
+/// belongs to its KxMediaPlayerWidget.
 ///
-/// Seeking is exact to the frame and the newest seek wins: no picture is ever shown under the number of another frame. A
-/// timeline's crop keyframes are applied when it carries any.
+/// Seeking is exact to the frame and the newest seek wins: no picture is ever shown under the number of another frame.
+/// A timeline's crop keyframes are applied when it carries any.
 class KXPLAYER_API KxMediaPlayerPresenter : public QObject
 {
     Q_OBJECT
@@ -22,10 +22,12 @@ public:
     ~KxMediaPlayerPresenter() override;
 
     bool inPlaying() const;
-    /// The frame on the screen; 0 while nothing is open.
+    /// The frame on the screen; 0 while no picture stands.
     int currentFrame() const;
     /// Frames of the open timeline; 0 while nothing is open.
     int frameCount() const;
+    /// Frames that were left out while playing because their time was over, since the timeline was opened.
+    int DroppedFrames() const;
     /// Frames a second, at least 1; 25 while nothing is open.
     float mediaFrameRate() const;
     /// Never null.
@@ -40,22 +42,25 @@ public:
     /// Shows the frame before; pauses first.
     void stepBackward();
 
-    /// Opens what `timeline` shows now (a snapshot: later changes of its keyframes come with setTimelineChanged or the next
-    /// open) and shows its first frame. Null closes. With `paused` playing does not go on; `keepPosition` stays at the current
-    /// frame instead. Returns at once; sigFrameChanged tells when the picture stands.
+    /// Opens what `timeline` shows now (a snapshot: later changes of its keyframes come with the next open) and shows
+    /// its first frame, or with `keepPosition` the frame that stood before. Null closes. With `paused` playing does not
+    /// go on. Returns at once, with the old picture gone; sigFrameChanged tells when the new one stands.
     void openTimeline(IKxTimeline* timeline, bool paused, bool keepPosition);
 
-    /// Shows `frame` (limited to the timeline). The two further arguments belong to the host's other players and are 0.
+    /// Shows `frame` (limited to the timeline); sigFrameChanged comes also when that frame stands already. The two
+    /// further arguments belong to the host's other players and are 0.
     void seek(int frame, int, int);
 
 Q_SIGNALS:
-    /// The picture of `frame` is on the screen now.
+    /// The picture of `frame` is what the widget paints from now on.
     void sigFrameChanged(int frame);
     void sigPlayingChanged(bool playing);
     /// The end of the timeline was reached while playing; playback is paused at the last frame.
     void sigReachedEnd();
-    /// Nothing more can be shown; `sentence` is for the person.
+    /// What was asked for cannot be shown; `sentence` is for the person. Playback is paused.
     void sigFailed(const QString& sentence);
+    /// Frame count and frame rate are those of another timeline, or of none; its first picture follows.
+    void sigTimelineOpened();
 
 private:
     friend class KxMediaPlayerWidget;

@@ -14,7 +14,8 @@ public:
     /// Numbers of the transport buttons; play/pause is a KxSwitchToolButton.
     enum Button { PlayPauseButton = 1, StopButton = 3, BackwardButton = 4, ForwardButton = 5 };
 
-    /// The bar takes `slider`. With `seeksWhileDragged` the presenter follows the slider during a drag, else at its end.
+    /// The bar takes `slider`. With `seeksWhileDragged` the presenter follows the slider during a drag, else at its
+    /// end.
     KxPlayerToolBarBase(QWidget* parent, KxToolSlider* slider, bool seeksWhileDragged);
     ~KxPlayerToolBarBase() override;
 
@@ -22,7 +23,8 @@ public:
     QAbstractButton* button(int number) const;
     KxToolSlider* slider() const;
     KxMediaPlayerPresenter* playerPresenter() const;
-    /// Connects buttons, slider and the transport's shortcuts to `presenter`; null disconnects. The presenter is borrowed.
+    /// Connects buttons, slider and the transport's shortcuts to `presenter`; null disconnects. The presenter is
+    /// borrowed.
     void setPlayerPresenter(KxMediaPlayerPresenter* presenter);
 
     /// Sets every tooltip; also called when the language has changed.
@@ -33,5 +35,5 @@ protected:
 
 private:
     class Impl;
-    Impl* m_impl = nullptr;
+    Impl* const m_impl;
 };

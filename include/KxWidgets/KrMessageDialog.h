@@ -18,7 +18,7 @@ enum class KrMessageType { Question = 0, Information = 1, Warning = 2 };
 namespace KrMessageDialog
 {
 /// A text to confirm. `title` empty: the product's name. The other two texts are a second line and a link, each left out when
-/// empty; `withCheckBox` offers not to show the box again.
+/// empty; `withCheckBox` offers not to show the box again (remembered by its text, in the configuration file).
 KXWIDGETS_API void Infomation(const QString& text, QWidget* parent, KrStandardButton buttons, const QString& detail,
                               const QString& title, const QString& link, bool withCheckBox);
 

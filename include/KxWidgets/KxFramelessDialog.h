@@ -3,12 +3,14 @@
 #include <KxWidgets/KxDialog.h>
 
 class KxDialogButtonBar;
+class KxResizeGrips;
 class KxTopLevelWindowTitleBar;
+class KxWindowCorners;
 class QVBoxLayout;
 
-/// A dialog that draws its own frame: title bar, content, button bar, a border and, where the desktop composes windows, a
-/// shadow. It can be moved by its title bar, resized at its edges (unless its size is fixed) and minimised. It does not handle
-/// close events itself.
+/// A dialog that draws its own frame: title bar, content, button bar, a border and, where the desktop composes windows, round
+/// corners. It can be moved by its title bar, resized at its edges (unless its size is fixed) and minimised; a dialog that was
+/// minimised comes back with its parent's window. It does not handle close events itself.
 class KXWIDGETS_API KxFramelessDialog : public KxDialog
 {
     Q_OBJECT
@@ -26,12 +28,21 @@ public:
     void SetTitleName(const QString& title, bool elide);
 
 protected:
-    bool event(QEvent* event) override;
+    void changeEvent(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    class Frame;
-    Frame* m_frame = nullptr;
+    void FollowWindowState();
+    void MoveToCentre();
+    void FocusContent();
+
+    KxTopLevelWindowTitleBar* m_titleBar = nullptr;
+    KxDialogButtonBar* m_buttonBar = nullptr;
+    QWidget* m_content = nullptr;
+    QVBoxLayout* m_layout = nullptr;
+    KxResizeGrips* m_grips = nullptr;
+    KxWindowCorners* m_corners = nullptr;
+    const bool m_centred;
 };

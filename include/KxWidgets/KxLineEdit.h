@@ -13,7 +13,7 @@ public:
     static KxLineEdit* creartNormalLineEdit(QWidget* parent, int heightPx);
     ~KxLineEdit() override;
 
-    /// Whether characters that no file name may hold can be typed.
+    /// With `on`, characters that no file name may hold are left out of whatever is typed, pasted or set.
     void SetFileNameValidator(bool on);
 
 private:

@@ -19,6 +19,10 @@ public:
 Q_SIGNALS:
     void sigTextChanged(const QString& text);
 
+protected:
+    void RetranslateUi() override;
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
     explicit KxOpenFileLineEdit(QWidget* parent);
     void PickFolder();

@@ -2,6 +2,7 @@
 
 #include <KxWidgets/KxFramelessDialog.h>
 
+class KxGlyphLabel;
 class KxLabel;
 class KxPushButton;
 class QProgressBar;
@@ -12,7 +13,7 @@ class KXWIDGETS_API KxProgressDialog : public KxFramelessDialog
 {
     Q_OBJECT
 public:
-    /// What closed it last.
+    /// What closed it last; Escape counts as WindowClosed.
     enum CloseReason { NotClosed = 0, CancelButton = 1, WindowClosed = 2 };
 
     KxProgressDialog(const QString& title, QWidget* parent);
@@ -20,7 +21,7 @@ public:
 
     void SetRange(int minimum, int maximum);
     void SetProgress(int progress);
-    /// The line above the bar; `icon` names a picture of the style, "None" for none.
+    /// The line above the bar; `icon` names an icon of the style, "None" for none.
     void SetProgressTitle(const QString& title, const QString& icon);
     /// The line under the bar; `toolTip` may be empty.
     void SetInfoText(const QString& text, const QString& toolTip, Qt::Alignment alignment);
@@ -34,6 +35,7 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
+    KxGlyphLabel* m_icon = nullptr;
     KxLabel* m_title = nullptr;
     KxLabel* m_info = nullptr;
     QProgressBar* m_bar = nullptr;

@@ -14,9 +14,17 @@ public:
     static KxPushButton* CreateSecondaryButton(QWidget* parent, int heightPx);
     ~KxPushButton() override;
 
-    /// Whether the button's width follows its text (as it does at first).
+    /// Whether the button's width follows its text (as it does at first). A text that does not fit is elided.
     void SetAutoResizeText(bool follows);
+
+    QSize minimumSizeHint() const override;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     KxPushButton(QWidget* parent, const QString& kind, int heightPx);
+
+    bool m_followsText = true;
 };

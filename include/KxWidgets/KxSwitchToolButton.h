@@ -21,6 +21,7 @@ public:
 
 private:
     explicit KxSwitchToolButton(QWidget* parent);
+    void ShowTip();
 
     QStringList m_tips;
     int m_face = 0;

@@ -13,7 +13,12 @@ public:
     ~KxToggleSwitch() override;
 
     QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    QRect TrackRect() const;
 };

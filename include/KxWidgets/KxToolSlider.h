@@ -2,8 +2,12 @@
 
 #include <KxWidgets/KxWidget.h>
 
+#include <optional>
+
 /// A slider over a continuous range from 0 to its duration, with a handle ("chunk") that is a widget of its own. A press beside
-/// the handle moves it there and the drag goes on from there.
+/// the handle moves it there and the drag goes on from there. While it has the focus the arrow keys and the wheel move it by 1,
+/// Page Up and Page Down by a tenth, Home and End to the ends; the signals come as for a drag. A vertical slider has its 0
+/// at the bottom.
 class KXWIDGETS_API KxToolSlider : public KxWidget
 {
     Q_OBJECT
@@ -29,27 +33,34 @@ public:
     /// first).
     void SetAwaysEmitValueChangeStartEnd(bool always);
 
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
 Q_SIGNALS:
     void sigValueChanged(double value);
+    /// Before the first change by hand, with the value from before it.
     void sigValueChangeStart(double value);
+    /// When the hand lets go.
     void sigValueChangeEnd(double value);
 
 protected:
     bool event(QEvent* event) override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
-    void leaveEvent(QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
 
 private:
-    double ValueAt(const QPoint& position) const;
+    int Along(const QPoint& position) const;
+    double ValueAt(int chunkStartPx) const;
+    std::optional<double> ValueForKey(int key) const;
+    void SizeChunk();
     void PlaceChunk();
-    void MoveByHand(double value);
+    void DragTo(int alongPx);
+    void StepTo(double value);
 
     const Qt::Orientation m_orientation;
     QWidget* m_chunk = nullptr;
@@ -58,4 +69,6 @@ private:
     bool m_alwaysEmitsStartEnd = true;
     bool m_pressed = false;
     bool m_changedSincePress = false;
+    int m_grabOffsetPx = 0;
+    int m_wheelRest = 0;
 };

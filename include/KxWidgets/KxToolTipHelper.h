@@ -4,7 +4,8 @@
 
 #include <QObject>
 
-/// Shows tooltips: an event filter for whoever wants its children's tooltips in the host's look and timing.
+/// Shows tooltips: an event filter for whoever wants its own and its children's tooltips in the host's place: under the
+/// control, not under the pointer, and long ones in several lines.
 class KXWIDGETS_API KxToolTipHelper : public QObject
 {
     Q_OBJECT
@@ -16,4 +17,6 @@ public:
 
 private:
     KxToolTipHelper();
+    void Watch(QObject* child);
+    void WatchChildren(QObject* watched);
 };

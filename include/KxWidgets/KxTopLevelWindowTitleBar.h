@@ -8,8 +8,8 @@
 
 #include <optional>
 
-class QHBoxLayout;
 class KxLabel;
+class KxToolButton;
 
 /// The title bar of a frameless window: the window's title at the left, buttons at the right. Dragging it moves the window, a
 /// double click toggles maximised where the window can be resized.
@@ -34,20 +34,32 @@ public:
 
     void SetTitle(const QString& title);
     QString Title() const;
+    /// As KxLabel::SetElideMode, for the title.
+    void SetTitleElideMode(Qt::TextElideMode mode);
+
+Q_SIGNALS:
+    void sigResizebleChanged(bool resizable);
 
 protected:
     void RetranslateUi() override;
+    bool event(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
 
 private:
+    KxToolButton* MakeButton(Button bit, const QString& name);
+    void ShowButtons();
+    void ShowWindowState();
     void ToggleMaximized();
 
     KxLabel* m_title = nullptr;
-    QMap<int, QAbstractButton*> m_buttons;
+    QMap<int, KxToolButton*> m_buttons;
+    QWidget* m_watchedWindow = nullptr;
     int m_buttonBits = 0;
     bool m_resizable = false;
+    std::optional<QPoint> m_pressPosition;
     std::optional<QPoint> m_dragOffset;
 };

@@ -17,5 +17,4 @@ protected:
     /// Called after the language has changed; a derived class sets its texts here.
     virtual void RetranslateUi();
     void changeEvent(QEvent* event) override;
-    void paintEvent(QPaintEvent* event) override;
 };

@@ -1,0 +1,66 @@
+#pragma once
+
+#include <QApplication>
+#include <QImage>
+#include <QList>
+#include <QMetaMethod>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QStringList>
+#include <QWidget>
+
+/// How the tests of the module's widgets look at them and touch them.
+namespace WidgetProbe
+{
+
+/// What `widget` itself paints, without its children and without what lies behind it.
+inline QImage Paint(QWidget& widget)
+{
+    QImage image(widget.size(), QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    widget.render(&image, QPoint(), QRegion(), QWidget::RenderFlags());
+    return image;
+}
+
+/// Sends a mouse event straight to `widget`, as the system would while the button is held.
+inline void SendMouse(QWidget& widget, QEvent::Type type, const QPoint& position, Qt::MouseButton button,
+                      Qt::MouseButtons held)
+{
+    QMouseEvent event(type, position, widget.mapToGlobal(position), button, held, Qt::NoModifier);
+    QApplication::sendEvent(&widget, &event);
+}
+
+inline void Press(QWidget& widget, const QPoint& position, Qt::MouseButton button = Qt::LeftButton)
+{
+    SendMouse(widget, QEvent::MouseButtonPress, position, button, button);
+}
+
+inline void MoveHeld(QWidget& widget, const QPoint& position)
+{
+    SendMouse(widget, QEvent::MouseMove, position, Qt::NoButton, Qt::LeftButton);
+}
+
+inline void Hover(QWidget& widget, const QPoint& position)
+{
+    SendMouse(widget, QEvent::MouseMove, position, Qt::NoButton, Qt::NoButton);
+}
+
+inline void Release(QWidget& widget, const QPoint& position, Qt::MouseButton button = Qt::LeftButton)
+{
+    SendMouse(widget, QEvent::MouseButtonRelease, position, button, Qt::NoButton);
+}
+
+/// The class's own methods of one kind, as the meta-object lists them.
+inline QStringList MethodsOf(const QMetaObject& metaObject, QMetaMethod::MethodType type)
+{
+    QStringList methods;
+    for (int index = metaObject.methodOffset(); index < metaObject.methodCount(); ++index) {
+        const QMetaMethod method = metaObject.method(index);
+        if (method.methodType() == type) {
+            methods.append(QString::fromLatin1(method.methodSignature()));
+        }
+    }
+    return methods;
+}
+
+} // namespace WidgetProbe

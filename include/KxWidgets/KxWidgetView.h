@@ -1,0 +1,20 @@
+#pragma once
+
+#include <KxWidgets/KxWidget.h>
+
+class KxScene;
+
+/// A main window of the host. Its scene minimises it on a KxMainFormMinimizeMessage.
+class KXWIDGETS_API KxWidgetView : public KxWidget
+{
+    Q_OBJECT
+public:
+    explicit KxWidgetView(QWidget* parent = nullptr);
+    ~KxWidgetView() override;
+
+    /// Owned by the view; never null.
+    KxScene* scene() const;
+
+private:
+    KxScene* m_scene = nullptr;
+};
