@@ -21,8 +21,8 @@ public:
     /// `frame` the last picture that decoded is delivered and EndedEarly() becomes true.
     KxReadStatus Read(qint64 frame, KxVideoFrame& picture);
 
-    /// Decoding ended, or failed for good, before the last frame of the grid; the loss of a picture or two at the very end,
-    /// as where a camera was switched off, does not count.
+    /// Decoding ended, or failed for good, before the last frame of the grid; the loss of a picture or two at the very
+    /// end, as where a camera was switched off, does not count.
     bool EndedEarly() const;
     /// How many frames of the grid could be decoded; the grid's length until an early end was met.
     qint64 DecodableFrames() const;

@@ -9,6 +9,7 @@
 #include <KxWidgets/KxLabel.h>
 #include <KxWidgets/KxSwitchToolButton.h>
 #include <KxWidgets/KxToolButton.h>
+#include <KxWidgets/KxToolSlider.h>
 
 #include <QHBoxLayout>
 #include <QSettings>
@@ -85,28 +86,6 @@ protected:
     QWidget window;
     KxMediaPlayerPresenter* presenter;
     Bar* bar = nullptr;
-};
-
-/// Counts what a widget is asked to do.
-class EventCounter : public QObject
-{
-public:
-    EventCounter(QObject* watched, QEvent::Type type)
-        : m_type(type)
-    {
-        watched->installEventFilter(this);
-    }
-    int count = 0;
-
-protected:
-    bool eventFilter(QObject*, QEvent* event) override
-    {
-        count += event->type() == m_type ? 1 : 0;
-        return false;
-    }
-
-private:
-    QEvent::Type m_type;
 };
 
 } // namespace
@@ -328,15 +307,31 @@ TEST_F(ControlBarTest, HandsMarksToTheSlider)
 
 TEST_F(ControlBarTest, ClearingTheMarksRepaintsTheSlider)
 {
+    bar->SetUndoRedoEnabled(false, false);
     bar->SlotUpdateSliderPaint({10});
     QWidget* const marks = bar->slider()->findChild<QWidget*>(QStringLiteral("KrUIStyle_ToolBarSlider_MarkWidget"));
-    QCoreApplication::processEvents();
-    EventCounter paints(marks, QEvent::Paint);
-    bar->SetUndoRedoEnabled(false, false);
-    QCoreApplication::processEvents();
+    PaintPending(window);
+    const EventCounter paints(marks, QEvent::Paint);
+    PaintPending(window);
     ASSERT_EQ(paints.count, 0);
     bar->SlotUpdateSliderPaint({});
-    QTRY_COMPARE(paints.count, 1);
+    PaintPending(window);
+    EXPECT_EQ(paints.count, 1);
+}
+
+TEST_F(ControlBarTest, AClickThatMovesNothingIsNoDrag)
+{
+    const QSignalSpy started(bar->slider(), &KxToolSlider::sigValueChangeStart);
+    const QSignalSpy ended(bar->slider(), &KxToolSlider::sigValueChangeEnd);
+    const QPoint handle = bar->slider()->chunkWidget()->geometry().center();
+    Press(*bar->slider(), handle);
+    Release(*bar->slider(), handle);
+    EXPECT_EQ(started.count(), 0);
+    EXPECT_EQ(ended.count(), 0);
+    Press(*bar->slider(), handle + QPoint(200, 0));
+    Release(*bar->slider(), handle + QPoint(200, 0));
+    EXPECT_EQ(started.count(), 1);
+    EXPECT_EQ(ended.count(), 1);
 }
 
 TEST_F(ControlBarTest, WithoutAPresenterItIsDeaf)

@@ -5,6 +5,7 @@
 #include <QList>
 #include <QMetaMethod>
 #include <QMouseEvent>
+#include <QObject>
 #include <QPainter>
 #include <QStringList>
 #include <QWidget>
@@ -21,6 +22,36 @@ inline QImage Paint(QWidget& widget)
     widget.render(&image, QPoint(), QRegion(), QWidget::RenderFlags());
     return image;
 }
+
+/// Paints at once whatever of the window waits to be painted, and nothing else.
+inline void PaintPending(QWidget& window)
+{
+    QEvent request(QEvent::UpdateRequest);
+    QApplication::sendEvent(&window, &request);
+}
+
+/// Counts the events of one kind that a widget gets.
+class EventCounter : public QObject
+{
+public:
+    EventCounter(QObject* watched, QEvent::Type type)
+        : m_type(type)
+    {
+        watched->installEventFilter(this);
+    }
+
+    int count = 0;
+
+protected:
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        count += event->type() == m_type ? 1 : 0;
+        return false;
+    }
+
+private:
+    QEvent::Type m_type;
+};
 
 /// Sends a mouse event straight to `widget`, as the system would while the button is held.
 inline void SendMouse(QWidget& widget, QEvent::Type type, const QPoint& position, Qt::MouseButton button,

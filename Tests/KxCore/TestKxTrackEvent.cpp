@@ -16,7 +16,9 @@ namespace
 class KxTrackEventTest : public testing::Test
 {
 protected:
-    KxTrackEventTest() : m_hadConfig(qEnvironmentVariableIsSet("KX_CONFIG_FILE")), m_config(qgetenv("KX_CONFIG_FILE"))
+    KxTrackEventTest()
+        : m_hadConfig(qEnvironmentVariableIsSet("KX_CONFIG_FILE"))
+        , m_config(qgetenv("KX_CONFIG_FILE"))
     {
         qputenv("KX_CONFIG_FILE", PathOf(QStringLiteral("host.ini")).toUtf8());
     }

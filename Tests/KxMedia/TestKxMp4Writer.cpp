@@ -526,28 +526,43 @@ private:
 
 } // namespace
 
-TEST_F(KxMp4WriterTest, DiskThatTakesNoMoreIsNoticedAtEveryStage)
+class KxMp4WriterLimit : public KxMp4WriterTest
 {
-    const KxMp4Writer::Settings settings = SettingsFor(Path(QStringLiteral("out.mp4")));
-    const std::unique_ptr<KxMp4Writer> whole = Open(settings);
-    ASSERT_EQ(AddPictures(*whole, 40, &BusyPicture), std::nullopt);
-    ASSERT_TRUE(whole->Finish());
-    const qint64 bytes = QFile(settings.path).size();
-    ASSERT_TRUE(QFile::remove(settings.path));
-    // From the header on to the very last byte, which is written when the index is moved.
-    for (const qint64 limit : {qint64{10}, bytes / 3, bytes - 1500, bytes - 400, bytes - 1}) {
-        const FileSizeLimit limited(limit);
+protected:
+    void ExpectNoticed(qint64 limitBytes, qint64 pictures, KxVideoFrame (*make)(qint64))
+    {
+        const KxMp4Writer::Settings settings = SettingsFor(Path(QStringLiteral("out.mp4")));
+        const FileSizeLimit limited(limitBytes);
         std::unique_ptr<KxMp4Writer> writer = Open(settings);
         ASSERT_NE(writer, nullptr);
-        QString sentence = AddPictures(*writer, 40, &BusyPicture).value_or(QString());
+        QString sentence = AddPictures(*writer, pictures, make).value_or(QString());
         if (sentence.isEmpty()) {
             sentence = writer->Finish().Sentence();
         }
         EXPECT_EQ(sentence,
                   QStringLiteral("Cannot write %1: the file would become too large for its disk.").arg(settings.path))
-            << limit << " of " << bytes;
+            << limitBytes;
         writer.reset();
         EXPECT_EQ(FilesIn(m_folder.path()), QStringList());
+    }
+};
+
+TEST_F(KxMp4WriterLimit, DiskThatTakesNoMoreIsNoticedWhilePicturesAreWritten)
+{
+    ExpectNoticed(10, 40, &BusyPicture);
+    ExpectNoticed(100000, 40, &BusyPicture);
+}
+
+TEST_F(KxMp4WriterLimit, DiskThatTakesNoMoreIsNoticedWhileTheIndexIsMoved)
+{
+    // Few bits, so that the encoder never has to hold back and makes the same file each time.
+    constexpr qint64 Pictures = 200;
+    const QString whole = WriteFlat(SettingsFor(Path(QStringLiteral("out.mp4"))), Pictures);
+    const qint64 bytes = QFile(whole).size();
+    ASSERT_TRUE(QFile::remove(whole));
+    for (const qint64 missing : {2500, 1000, 1}) {
+        ASSERT_GT(bytes, missing);
+        ExpectNoticed(bytes - missing, Pictures, &FlatPicture);
     }
 }
 

@@ -1,7 +1,7 @@
 #include "PlayerClip.h"
 
 #include "KxMediaItem.h"
-#include "Support/MadeVideo.h"
+#include "MadeVideo.h"
 
 #include <KxModel/IKxKeyFrameHelper.h>
 
@@ -21,10 +21,18 @@ constexpr int PixelsAFrame = 3;
 
 QStringList Coding(int keyFrameEvery)
 {
-    return {QStringLiteral("-c:v"),     QStringLiteral("libx264"), QStringLiteral("-preset"),
-            QStringLiteral("veryfast"), QStringLiteral("-g"),      QString::number(keyFrameEvery),
-            QStringLiteral("-bf"),      QStringLiteral("2"),       QStringLiteral("-pix_fmt"),
-            QStringLiteral("yuv420p"),  QStringLiteral("-sc_threshold"), QStringLiteral("0")};
+    return {QStringLiteral("-c:v"),
+            QStringLiteral("libx264"),
+            QStringLiteral("-preset"),
+            QStringLiteral("veryfast"),
+            QStringLiteral("-g"),
+            QString::number(keyFrameEvery),
+            QStringLiteral("-bf"),
+            QStringLiteral("2"),
+            QStringLiteral("-pix_fmt"),
+            QStringLiteral("yuv420p"),
+            QStringLiteral("-sc_threshold"),
+            QStringLiteral("0")};
 }
 
 QString PathOf(const QString& name)
@@ -94,9 +102,9 @@ QString PlayerClip::WithSound()
     recipe.frames = Frames;
     recipe.inputs = QStringList{QStringLiteral("-f"), QStringLiteral("lavfi"), QStringLiteral("-i"),
                                 QStringLiteral("sine=frequency=440:sample_rate=48000:duration=2.4")};
-    recipe.output = Coding(12) + QStringList{QStringLiteral("-c:a"), QStringLiteral("pcm_s16le"), QStringLiteral("-ac"),
-                                             QStringLiteral("2")};
-    return MadeOnce(QStringLiteral("sound.mkv"), recipe);
+    recipe.output = Coding(12) + QStringList{QStringLiteral("-c:a"), QStringLiteral("pcm_s16le"), QStringLiteral("-af"),
+                                             QStringLiteral("pan=stereo|c0=c0|c1=c0")};
+    return MadeOnce(QStringLiteral("sound.mov"), recipe);
 }
 
 QString PlayerClip::OneKeyFrame()
@@ -116,8 +124,9 @@ QString PlayerClip::Truncated()
 {
     const QString whole = PathOf(QStringLiteral("whole.mp4"));
     if (!QFile::exists(whole)) {
-        EXPECT_TRUE(MadeVideo::RunFfmpeg({QStringLiteral("-i"), Numbered(), QStringLiteral("-c"), QStringLiteral("copy"),
-                                          QStringLiteral("-movflags"), QStringLiteral("+faststart"), whole}));
+        EXPECT_TRUE(
+            MadeVideo::RunFfmpeg({QStringLiteral("-i"), Numbered(), QStringLiteral("-c"), QStringLiteral("copy"),
+                                  QStringLiteral("-movflags"), QStringLiteral("+faststart"), whole}));
     }
     QFile file(whole);
     EXPECT_TRUE(file.open(QIODevice::ReadOnly));

@@ -1,5 +1,7 @@
 #include "PlayerClip.h"
 
+#include <KxModel/IKxKeyFrameHelper.h>
+
 #include <gtest/gtest.h>
 
 namespace
@@ -17,7 +19,8 @@ KxCropPanZoomKeyFrameParam Key(int frame, const QRectF& crop)
 
 TEST(KxPlaySource, EveryFrameShowsAtItsTimeAndNotBefore)
 {
-    for (const KxRational rate : {KxRational{25, 1}, KxRational{24000, 1001}, KxRational{30000, 1001}, KxRational{60, 1}}) {
+    for (const KxRational rate :
+         {KxRational{25, 1}, KxRational{24000, 1001}, KxRational{30000, 1001}, KxRational{60, 1}}) {
         KxPlaySource source;
         source.frameRate = rate;
         // The last one: ten hours.

@@ -1,7 +1,7 @@
 #include "KxPlayerEngine.h"
 
+#include "MadeVideo.h"
 #include "PlayerClip.h"
-#include "Support/MadeVideo.h"
 
 #include <gtest/gtest.h>
 

@@ -1,0 +1,70 @@
+#include "KxPictureMaker.h"
+
+#include "KxPicturePlace.h"
+
+#include <QPainter>
+
+#include <algorithm>
+
+KxPictureMaker::KxPictureMaker(std::shared_ptr<const KxPlaySource> source, std::unique_ptr<KxVideoReader> reader)
+    : m_source(std::move(source))
+    , m_reader(std::move(reader))
+{
+}
+
+KxPictureMaker::~KxPictureMaker() = default;
+
+KxResult<std::unique_ptr<KxPictureMaker>> KxPictureMaker::Open(std::shared_ptr<const KxPlaySource> source,
+                                                               const KxCancelToken& cancel)
+{
+    KxResult<std::unique_ptr<KxVideoReader>> reader = KxVideoReader::Open(source->path, cancel);
+    if (!reader) {
+        return KxResult<std::unique_ptr<KxPictureMaker>>::Failure(reader.Sentence());
+    }
+    return std::unique_ptr<KxPictureMaker>(new KxPictureMaker(std::move(source), std::move(*reader)));
+}
+
+KxReadStatus KxPictureMaker::Make(int frame, const QSize& area, KxPlayerPicture& picture)
+{
+    KxVideoFrame decoded;
+    const KxReadStatus status = m_reader->Read(frame, decoded);
+    if (status != KxReadStatus::Picture) {
+        return status;
+    }
+    picture.frame = frame;
+    picture.area = area;
+    picture.shape = m_source->ShapeAt(frame, decoded.DisplayedSize());
+    const QSize size = KxPicturePlace::In(area, picture.shape).size().expandedTo(QSize(1, 1));
+    const std::optional<QRectF> crop = m_source->CropAt(frame);
+    picture.image = crop ? Cut(decoded, *crop, size) : Whole(decoded, size);
+    return picture.image.isNull() ? KxReadStatus::Failed : KxReadStatus::Picture;
+}
+
+QImage KxPictureMaker::Whole(const KxVideoFrame& decoded, const QSize& size)
+{
+    return m_scaler.Scale(decoded, size, QImage::Format_RGB32);
+}
+
+QImage KxPictureMaker::Cut(const KxVideoFrame& decoded, const QRectF& crop, const QSize& size)
+{
+    // The whole picture shrinks first, in one good step, to where the crop has about the wanted size; never beyond the
+    // source's own pixels, so that a small crop costs no more than a large one. Its fractions of a pixel are met below.
+    const QSize displayed = decoded.DisplayedSize();
+    const double scale = std::min(1.0, std::max(size.width() / (crop.width() * displayed.width()),
+                                                size.height() / (crop.height() * displayed.height())));
+    const QSize wholeSize = (QSizeF(displayed) * scale).toSize().expandedTo(QSize(1, 1));
+    const QImage whole = Whole(decoded, wholeSize);
+    if (whole.isNull()) {
+        return whole;
+    }
+    QImage cut(size, QImage::Format_RGB32);
+    if (cut.isNull()) {
+        return cut;
+    }
+    QPainter painter(&cut);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawImage(QRectF(QPointF(0, 0), QSizeF(size)), whole,
+                      QRectF(crop.x() * wholeSize.width(), crop.y() * wholeSize.height(),
+                             crop.width() * wholeSize.width(), crop.height() * wholeSize.height()));
+    return cut;
+}

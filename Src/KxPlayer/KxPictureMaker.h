@@ -1,0 +1,30 @@
+#pragma once
+
+#include "KxPictureScaler.h"
+#include "KxPlaySource.h"
+#include "KxPlayerPicture.h"
+#include "KxVideoReader.h"
+
+/// Makes any frame of a source ready to be painted: decoded, cut to the crop of that very frame, and scaled to the
+/// place that it takes inside the player. One thread at a time.
+class KXPLAYER_API KxPictureMaker
+{
+public:
+    static KxResult<std::unique_ptr<KxPictureMaker>> Open(std::shared_ptr<const KxPlaySource> source,
+                                                          const KxCancelToken& cancel);
+    ~KxPictureMaker();
+
+    const std::shared_ptr<const KxPlaySource>& Source() const { return m_source; }
+
+    /// `area` is the player's size in device pixels. Past the last picture that can be decoded, that one is held.
+    KxReadStatus Make(int frame, const QSize& area, KxPlayerPicture& picture);
+
+private:
+    KxPictureMaker(std::shared_ptr<const KxPlaySource> source, std::unique_ptr<KxVideoReader> reader);
+    QImage Whole(const KxVideoFrame& decoded, const QSize& size);
+    QImage Cut(const KxVideoFrame& decoded, const QRectF& crop, const QSize& size);
+
+    std::shared_ptr<const KxPlaySource> m_source;
+    std::unique_ptr<KxVideoReader> m_reader;
+    KxPictureScaler m_scaler;
+};

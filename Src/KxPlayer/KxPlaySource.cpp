@@ -1,0 +1,88 @@
+#include "KxPlaySource.h"
+
+#include "KxClip.h"
+#include "KxCropKeyFrames.h"
+
+#include <KxModel/IKxMediaInfo.h>
+#include <KxModel/IKxTimeline.h>
+
+#include <algorithm>
+#include <limits>
+
+namespace
+{
+
+constexpr qint64 UsPerSecond = 1000000;
+// What a crop must be at least, so that dividing by it stays harmless.
+constexpr double SmallestCrop = 1e-3;
+
+std::optional<int> PlayedAudio(const IKxClip& clip)
+{
+    if (const auto* own = dynamic_cast<const KxClip*>(&clip)) {
+        const int stream = own->Facts()->defaultAudio;
+        return stream >= 0 ? std::optional<int>(stream) : std::nullopt;
+    }
+    return clip.mediaInfo()->hasAudioStream() ? std::optional<int>(0) : std::nullopt;
+}
+
+} // namespace
+
+std::shared_ptr<const KxPlaySource> KxPlaySource::Of(const IKxTimeline& timeline)
+{
+    const QList<IKxClip*> clips = timeline.clips();
+    const qint64 frames = std::min<qint64>(timeline.duration(), std::numeric_limits<int>::max());
+    if (clips.isEmpty() || frames <= 0) {
+        return nullptr;
+    }
+    IKxClip& clip = *clips.first();
+    const auto* video = dynamic_cast<const IKxVideoMediaInfo*>(clip.mediaInfo());
+    if (video == nullptr || !video->hasVideoStream()) {
+        return nullptr;
+    }
+    auto source = std::make_shared<KxPlaySource>();
+    source->path = clip.filePath();
+    source->frameRate = video->frameRate().IsPositive() ? video->frameRate() : source->frameRate;
+    source->frameCount = static_cast<int>(frames);
+    const QSize resolution = timeline.projectSettings().resolution;
+    source->resolution = resolution.isEmpty() ? video->resolution() : resolution;
+    if (auto* crops = dynamic_cast<KxCropKeyFrames*>(clip.keyFrameHelper(IKxKeyFrameHelper::CropPanZoom))) {
+        source->cropKeyFrames = crops->KeyFrames();
+        if (!source->cropKeyFrames.isEmpty()) {
+            source->resolution = video->resolution();
+        }
+    }
+    source->audioStream = PlayedAudio(clip);
+    return source;
+}
+
+qint64 KxPlaySource::TimeUs(qint64 frame) const
+{
+    // Rounded up, so that the frame at this time is `frame` again.
+    const qint64 scaled = frame * frameRate.denominator * UsPerSecond;
+    return (scaled + frameRate.numerator - 1) / frameRate.numerator;
+}
+
+int KxPlaySource::FrameAt(qint64 timeUs) const
+{
+    const qint64 inUnits = UsPerSecond * frameRate.denominator;
+    const qint64 frame = timeUs / inUnits * frameRate.numerator + timeUs % inUnits * frameRate.numerator / inUnits;
+    return static_cast<int>(std::clamp<qint64>(frame, 0, std::numeric_limits<int>::max()));
+}
+
+std::optional<QRectF> KxPlaySource::CropAt(int frame) const
+{
+    KxCropPanZoomKeyFrameParam param;
+    if (!KxCropKeyFrames::Interpolate(cropKeyFrames, frame, &param)) {
+        return std::nullopt;
+    }
+    const QRectF& wanted = param.cropRect;
+    const double width = std::clamp(wanted.width(), SmallestCrop, 1.0);
+    const double height = std::clamp(wanted.height(), SmallestCrop, 1.0);
+    return QRectF(std::clamp(wanted.x(), 0.0, 1.0 - width), std::clamp(wanted.y(), 0.0, 1.0 - height), width, height);
+}
+
+QSizeF KxPlaySource::ShapeAt(int frame, const QSize& picture) const
+{
+    const std::optional<QRectF> crop = CropAt(frame);
+    return crop ? QSizeF(crop->width() * picture.width(), crop->height() * picture.height()) : QSizeF(resolution);
+}

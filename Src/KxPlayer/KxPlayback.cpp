@@ -1,0 +1,273 @@
+#include "KxPlayback.h"
+
+#include <QPointer>
+
+#include <algorithm>
+
+namespace
+{
+
+// A player that shows fewer than four pictures a second looks broken.
+constexpr qint64 LongestStandstillUs = 250000;
+constexpr qint64 UsPerMs = 1000;
+// However the clock is corrected meanwhile, it is looked at again by then.
+constexpr qint64 LongestWaitMs = 40;
+
+} // namespace
+
+KxPlayback::KxPlayback(Options options, QObject* parent)
+    : QObject(parent)
+    , m_clock(std::move(options.time))
+    , m_sound(m_clock, std::move(options.sound))
+    , m_wake(this)
+    , m_engine(std::make_unique<KxPlayerEngine>(m_clock, [this] { PostLook(); }))
+{
+    m_wake.setSingleShot(true);
+    m_wake.setTimerType(Qt::PreciseTimer);
+    connect(&m_wake, &QTimer::timeout, this, &KxPlayback::Look);
+}
+
+KxPlayback::~KxPlayback()
+{
+    m_engine.reset();
+}
+
+void KxPlayback::Open(std::shared_ptr<const KxPlaySource> source, After after, Position position)
+{
+    const int frame = position == Position::Keep ? TargetFrame() : 0;
+    const bool goesOn = m_isPlaying && after == After::GoOn && source;
+    const QPointer<KxPlayback> alive(this);
+    StopClock();
+    m_sound.Close();
+    m_engine->Open(source);
+    m_source = std::move(source);
+    m_picture.reset();
+    m_wanted.reset();
+    m_dropped = 0;
+    if (!goesOn) {
+        SetPlaying(false);
+    }
+    if (alive && m_source) {
+        Seek(frame);
+    }
+    if (alive) {
+        Q_EMIT sigPictureChanged();
+    }
+}
+
+void KxPlayback::Play()
+{
+    if (m_isPlaying || !m_source) {
+        return;
+    }
+    const bool isAtEnd = TargetFrame() == m_source->LastFrame();
+    m_isPlaying = true;
+    if (isAtEnd || m_wanted || !m_picture) {
+        Seek(isAtEnd ? 0 : TargetFrame());
+    } else {
+        m_engine->Play(m_picture->frame + 1);
+    }
+    Q_EMIT sigPlayingChanged(true);
+}
+
+void KxPlayback::Pause()
+{
+    if (m_isPlaying) {
+        Halt();
+        SetPlaying(false);
+    }
+}
+
+void KxPlayback::Halt()
+{
+    StopClock();
+    if (m_wanted) {
+        m_engine->Show(*m_wanted);
+    } else if (m_picture && m_picture->area != m_area) {
+        m_engine->Show(m_picture->frame);
+    } else {
+        m_engine->Hold();
+    }
+}
+
+void KxPlayback::Seek(int frame)
+{
+    if (!m_source) {
+        return;
+    }
+    StopClock();
+    m_wanted = std::clamp(frame, 0, m_source->LastFrame());
+    if (m_isPlaying) {
+        m_engine->Play(*m_wanted);
+    } else {
+        m_engine->Show(*m_wanted);
+    }
+}
+
+void KxPlayback::Stop()
+{
+    const QPointer<KxPlayback> alive(this);
+    Pause();
+    if (alive) {
+        Seek(0);
+    }
+}
+
+void KxPlayback::Step(int frames)
+{
+    const QPointer<KxPlayback> alive(this);
+    Pause();
+    if (alive) {
+        Seek(TargetFrame() + frames);
+    }
+}
+
+void KxPlayback::SetArea(const QSize& area)
+{
+    if (area == m_area) {
+        return;
+    }
+    m_area = area;
+    const bool stands = m_source && (m_wanted || m_picture);
+    m_engine->SetArea(area, stands ? std::optional<int>(TargetFrame()) : std::nullopt);
+}
+
+void KxPlayback::PostLook()
+{
+    if (!m_isLookPosted.exchange(true)) {
+        QMetaObject::invokeMethod(
+            this,
+            [this] {
+                m_isLookPosted = false;
+                Look();
+            },
+            Qt::QueuedConnection);
+    }
+}
+
+void KxPlayback::Look()
+{
+    if (const std::optional<QString> failure = m_engine->TakeFailure()) {
+        Fail(*failure);
+        return;
+    }
+    // Whoever is told of a picture may do anything, even delete this player.
+    const QPointer<KxPlayback> alive(this);
+    TakeWanted();
+    if (alive && m_isPlaying && !m_wanted && m_picture) {
+        RunClock();
+        ShowDue();
+    }
+}
+
+void KxPlayback::TakeWanted()
+{
+    if (m_wanted) {
+        if (std::optional<KxPlayerPicture> picture = m_engine->Take(*m_wanted)) {
+            m_wanted.reset();
+            SetPicture(std::move(*picture));
+        }
+    } else if (m_picture && !m_isPlaying) {
+        if (std::optional<KxPlayerPicture> picture = m_engine->Take(m_picture->frame)) {
+            m_picture = std::move(*picture);
+            Q_EMIT sigPictureChanged();
+        }
+    }
+}
+
+void KxPlayback::RunClock()
+{
+    if (!m_clock.IsRunning() && m_engine->IsPrimed()) {
+        const qint64 startUs = m_source->TimeUs(m_picture->frame);
+        m_shownUs = startUs;
+        m_sound.Start(m_source, m_clock.Start(startUs));
+    }
+}
+
+void KxPlayback::ShowDue()
+{
+    const std::optional<qint64> now = m_clock.NowUs();
+    if (!now) {
+        return;
+    }
+    const int due = m_source->FrameAt(*now);
+    const int last = m_source->LastFrame();
+    if (m_picture->frame == last && due > last) {
+        ReachEnd();
+        return;
+    }
+    const QPointer<KxPlayback> alive(this);
+    std::optional<KxPlayerPicture> picture = m_engine->TakeUpTo(due);
+    if (picture && IsWorthShowing(*picture, due, *now)) {
+        m_dropped += std::max(0, picture->frame - m_picture->frame - 1);
+        m_shownUs = *now;
+        SetPicture(std::move(*picture));
+    }
+    if (!alive || !m_clock.IsRunning()) {
+        return;
+    }
+    if (m_picture->frame == last) {
+        WakeFor(last + 1, *now);
+    } else if (const std::optional<int> next = m_engine->NextFrame()) {
+        WakeFor(*next, *now);
+    }
+}
+
+bool KxPlayback::IsWorthShowing(const KxPlayerPicture& picture, int due, qint64 nowUs) const
+{
+    return picture.frame == due || picture.frame == m_source->LastFrame() || nowUs - m_shownUs >= LongestStandstillUs;
+}
+
+void KxPlayback::WakeFor(int frame, qint64 nowUs)
+{
+    const qint64 waitMs = (m_source->TimeUs(frame) - nowUs + UsPerMs - 1) / UsPerMs;
+    m_wake.start(static_cast<int>(std::clamp<qint64>(waitMs, 0, LongestWaitMs)));
+}
+
+void KxPlayback::StopClock()
+{
+    m_wake.stop();
+    if (m_clock.IsRunning()) {
+        m_clock.Stop();
+        m_sound.Stop();
+    }
+}
+
+void KxPlayback::SetPlaying(bool playing)
+{
+    if (m_isPlaying != playing) {
+        m_isPlaying = playing;
+        Q_EMIT sigPlayingChanged(playing);
+    }
+}
+
+void KxPlayback::ReachEnd()
+{
+    const QPointer<KxPlayback> alive(this);
+    Pause();
+    if (alive) {
+        Q_EMIT sigReachedEnd();
+    }
+}
+
+void KxPlayback::Fail(const QString& sentence)
+{
+    const QPointer<KxPlayback> alive(this);
+    StopClock();
+    m_wanted.reset();
+    SetPlaying(false);
+    if (alive) {
+        Q_EMIT sigFailed(sentence);
+    }
+}
+
+void KxPlayback::SetPicture(KxPlayerPicture picture)
+{
+    const QPointer<KxPlayback> alive(this);
+    const int frame = picture.frame;
+    m_picture = std::move(picture);
+    Q_EMIT sigPictureChanged();
+    if (alive) {
+        Q_EMIT sigFrameChanged(frame);
+    }
+}

@@ -1,0 +1,97 @@
+#pragma once
+
+#include "KxPlaySource.h"
+#include "KxPlayerEngine.h"
+#include "KxSoundPlayer.h"
+
+#include <QObject>
+#include <QTimer>
+
+#include <atomic>
+
+/// The state of one player: which frame stands, which one is wanted, whether it plays. Gives orders to the engine,
+/// takes its pictures when their time has come, and runs clock and sound. User-interface thread only.
+///
+/// 1. A seek stops the clock; it runs on when the wanted picture stands and enough others wait.
+/// 2. A picture whose time is over is dropped and counted; so that a machine that is too slow still shows something,
+/// one that
+///    is late is shown when nothing else was for a while. The last frame is always shown.
+/// 3. The last frame stands for its time, then playing ends.
+class KXPLAYER_API KxPlayback : public QObject
+{
+    Q_OBJECT
+public:
+    struct Options {
+        /// Empty: steady time.
+        KxPlayerClock::TimeSource time;
+        /// Empty: plays without sound.
+        KxSoundDevice::Factory sound;
+    };
+
+    explicit KxPlayback(Options options, QObject* parent = nullptr);
+    ~KxPlayback() override;
+
+    enum class After { Pause, GoOn };
+    enum class Position { Start, Keep };
+    /// Null closes.
+    void Open(std::shared_ptr<const KxPlaySource> source, After after, Position position);
+    void Play();
+    void Pause();
+    /// Pauses and seeks to frame 0.
+    void Stop();
+    /// Limited to the frames of the source.
+    void Seek(int frame);
+    /// Pauses and seeks from the frame that is wanted, or stands.
+    void Step(int frames);
+    /// The player's size in device pixels. What stands is made anew unless it plays.
+    void SetArea(const QSize& area);
+
+    bool IsPlaying() const { return m_isPlaying; }
+    const std::shared_ptr<const KxPlaySource>& Source() const { return m_source; }
+    /// What is to be painted now.
+    const std::optional<KxPlayerPicture>& Picture() const { return m_picture; }
+    /// 0 while nothing stands.
+    int CurrentFrame() const { return m_picture ? m_picture->frame : 0; }
+    /// The frame that is wanted, else the one that stands.
+    int TargetFrame() const { return m_wanted.value_or(CurrentFrame()); }
+    /// Frames that were left out while playing, since the source was opened.
+    int DroppedFrames() const { return m_dropped; }
+
+Q_SIGNALS:
+    /// Another picture, or none, is to be painted.
+    void sigPictureChanged();
+    void sigFrameChanged(int frame);
+    void sigPlayingChanged(bool playing);
+    void sigReachedEnd();
+    void sigFailed(const QString& sentence);
+
+private:
+    void PostLook();
+    void Look();
+    void TakeWanted();
+    void RunClock();
+    void ShowDue();
+    bool IsWorthShowing(const KxPlayerPicture& picture, int due, qint64 nowUs) const;
+    void WakeFor(int frame, qint64 nowUs);
+    void StopClock();
+    void SetPlaying(bool playing);
+    void Halt();
+    void ReachEnd();
+    void Fail(const QString& sentence);
+    void SetPicture(KxPlayerPicture picture);
+
+    KxPlayerClock m_clock;
+    KxSoundPlayer m_sound;
+    QTimer m_wake;
+    std::atomic_bool m_isLookPosted{false};
+
+    std::shared_ptr<const KxPlaySource> m_source;
+    std::optional<KxPlayerPicture> m_picture;
+    std::optional<int> m_wanted;
+    QSize m_area{1, 1};
+    bool m_isPlaying = false;
+    int m_dropped = 0;
+    qint64 m_shownUs = 0;
+
+    std::unique_ptr<KxPlayerEngine> m_engine;
+};

@@ -1,0 +1,274 @@
+#include "KxPlayerEngine.h"
+
+#include "KxPictureMaker.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+
+#include <algorithm>
+#include <chrono>
+
+namespace
+{
+
+// Enough to bridge the hiccups of a decoder that works in several threads; a few megabytes.
+constexpr size_t PicturesAhead = 6;
+
+QString CannotShow(const KxPlaySource& source)
+{
+    return QCoreApplication::translate("KxMediaPlayerPresenter", "Cannot show %1: its pictures cannot be decoded.")
+        .arg(QFileInfo(source.path).fileName());
+}
+
+} // namespace
+
+KxPlayerEngine::KxPlayerEngine(const KxPlayerClock& clock, std::function<void()> notify)
+    : m_clock(clock)
+    , m_notify(std::move(notify))
+    , m_thread([this] { Run(); })
+{
+}
+
+KxPlayerEngine::~KxPlayerEngine()
+{
+    {
+        const std::lock_guard<std::mutex> lock(m_shared.mutex);
+        m_shared.isQuitting = true;
+        m_shared.cancel.Cancel();
+    }
+    m_shared.changed.notify_all();
+    m_thread.join();
+}
+
+void KxPlayerEngine::NewOrder()
+{
+    ++m_shared.order;
+    m_shared.failure.reset();
+    m_shared.changed.notify_all();
+}
+
+void KxPlayerEngine::Open(std::shared_ptr<const KxPlaySource> source)
+{
+    std::deque<KxPlayerPicture> dropped;
+    const std::lock_guard<std::mutex> lock(m_shared.mutex);
+    m_shared.cancel.Cancel();
+    m_shared.cancel = KxCancelToken();
+    m_shared.source = std::move(source);
+    m_shared.ready.swap(dropped);
+    m_shared.mode = Mode::Idle;
+    m_shared.next = 0;
+    NewOrder();
+}
+
+void KxPlayerEngine::SetArea(const QSize& area, std::optional<int> standing)
+{
+    const std::lock_guard<std::mutex> lock(m_shared.mutex);
+    m_shared.area = area.expandedTo(QSize(1, 1));
+    if (m_shared.mode == Mode::Playing) {
+        return;
+    }
+    if (m_shared.mode == Mode::Idle && standing) {
+        m_shared.mode = Mode::Still;
+        m_shared.next = *standing;
+    }
+    m_shared.ready.clear();
+    NewOrder();
+}
+
+bool KxPlayerEngine::KeepFrom(int frame)
+{
+    std::deque<KxPlayerPicture>& ready = m_shared.ready;
+    while (!ready.empty() && ready.front().frame < frame) {
+        ready.pop_front();
+    }
+    if (!ready.empty() && ready.front().frame == frame && ready.front().area == m_shared.area) {
+        return true;
+    }
+    ready.clear();
+    return false;
+}
+
+void KxPlayerEngine::Show(int frame)
+{
+    bool isThere = false;
+    {
+        const std::lock_guard<std::mutex> lock(m_shared.mutex);
+        isThere = KeepFrom(frame);
+        m_shared.mode = isThere ? Mode::Idle : Mode::Still;
+        m_shared.next = isThere ? m_shared.ready.back().frame + 1 : frame;
+        NewOrder();
+    }
+    if (isThere) {
+        m_notify();
+    }
+}
+
+void KxPlayerEngine::Play(int frame)
+{
+    bool isThere = false;
+    {
+        const std::lock_guard<std::mutex> lock(m_shared.mutex);
+        isThere = KeepFrom(frame);
+        m_shared.mode = Mode::Playing;
+        m_shared.next = isThere ? m_shared.ready.back().frame + 1 : frame;
+        NewOrder();
+    }
+    if (isThere) {
+        m_notify();
+    }
+}
+
+void KxPlayerEngine::Hold()
+{
+    const std::lock_guard<std::mutex> lock(m_shared.mutex);
+    m_shared.mode = Mode::Idle;
+    NewOrder();
+}
+
+std::optional<KxPlayerPicture> KxPlayerEngine::Take(int frame)
+{
+    const std::lock_guard<std::mutex> lock(m_shared.mutex);
+    if (m_shared.ready.empty() || m_shared.ready.front().frame != frame) {
+        return std::nullopt;
+    }
+    KxPlayerPicture picture = std::move(m_shared.ready.front());
+    m_shared.ready.pop_front();
+    m_shared.changed.notify_all();
+    return picture;
+}
+
+std::optional<KxPlayerPicture> KxPlayerEngine::TakeUpTo(int frame)
+{
+    std::optional<KxPlayerPicture> newest;
+    const std::lock_guard<std::mutex> lock(m_shared.mutex);
+    while (!m_shared.ready.empty() && m_shared.ready.front().frame <= frame) {
+        newest = std::move(m_shared.ready.front());
+        m_shared.ready.pop_front();
+    }
+    if (newest) {
+        m_shared.changed.notify_all();
+    }
+    return newest;
+}
+
+std::optional<int> KxPlayerEngine::NextFrame() const
+{
+    const std::lock_guard<std::mutex> lock(m_shared.mutex);
+    return m_shared.ready.empty() ? std::nullopt : std::optional<int>(m_shared.ready.front().frame);
+}
+
+bool KxPlayerEngine::IsPrimed() const
+{
+    const std::lock_guard<std::mutex> lock(m_shared.mutex);
+    return m_shared.ready.size() >= PicturesAhead ||
+           (m_shared.source != nullptr && m_shared.next >= m_shared.source->frameCount);
+}
+
+std::optional<QString> KxPlayerEngine::TakeFailure()
+{
+    const std::lock_guard<std::mutex> lock(m_shared.mutex);
+    return std::exchange(m_shared.failure, std::nullopt);
+}
+
+void KxPlayerEngine::Run()
+{
+    std::unique_ptr<KxPictureMaker> maker;
+    Job job;
+    while (WaitForJob(job, maker ? maker->Source().get() : nullptr)) {
+        if (maker && maker->Source() != job.source) {
+            maker.reset();
+        }
+        if (job.source) {
+            Carry(job, maker);
+        }
+    }
+}
+
+bool KxPlayerEngine::WaitForJob(Job& job, const KxPlaySource* opened)
+{
+    std::unique_lock<std::mutex> lock(m_shared.mutex);
+    m_shared.changed.wait(lock, [this, opened] {
+        const bool isOutdated = opened != nullptr && opened != m_shared.source.get();
+        return m_shared.isQuitting || isOutdated || HasWork();
+    });
+    // An outdated file is let go of even when nothing takes its place yet.
+    const bool hasWork = HasWork();
+    job = {m_shared.order, hasWork ? m_shared.source : nullptr, m_shared.cancel, m_shared.area,
+           hasWork ? FrameToMake() : 0};
+    return !m_shared.isQuitting;
+}
+
+bool KxPlayerEngine::HasWork() const
+{
+    if (!m_shared.source) {
+        return false;
+    }
+    return m_shared.mode == Mode::Still ||
+           (m_shared.mode == Mode::Playing && m_shared.next < m_shared.source->frameCount &&
+            m_shared.ready.size() < PicturesAhead);
+}
+
+int KxPlayerEngine::FrameToMake() const
+{
+    const std::optional<qint64> now = m_shared.mode == Mode::Playing ? m_clock.NowUs() : std::nullopt;
+    const KxPlaySource& source = *m_shared.source;
+    if (!now || m_shared.next >= source.FrameAt(*now)) {
+        return m_shared.next;
+    }
+    const int inTime = source.FrameAt(*now + m_shared.makingUs) + 1;
+    return std::clamp(inTime, m_shared.next, source.LastFrame());
+}
+
+void KxPlayerEngine::Carry(const Job& job, std::unique_ptr<KxPictureMaker>& maker)
+{
+    if (!maker) {
+        KxResult<std::unique_ptr<KxPictureMaker>> opened = KxPictureMaker::Open(job.source, job.cancel);
+        if (!opened) {
+            Fail(job, opened.Sentence());
+            return;
+        }
+        maker = std::move(*opened);
+    }
+    using namespace std::chrono;
+    const steady_clock::time_point begin = steady_clock::now();
+    KxPlayerPicture picture;
+    const KxReadStatus status = maker->Make(job.frame, job.area, picture);
+    if (status == KxReadStatus::Picture) {
+        Deliver(job, std::move(picture), duration_cast<microseconds>(steady_clock::now() - begin).count());
+    } else {
+        // The next order tries the file afresh.
+        maker.reset();
+        Fail(job, CannotShow(*job.source));
+    }
+}
+
+void KxPlayerEngine::Deliver(const Job& job, KxPlayerPicture picture, qint64 tookUs)
+{
+    {
+        const std::lock_guard<std::mutex> lock(m_shared.mutex);
+        if (m_shared.order != job.order) {
+            return;
+        }
+        m_shared.ready.push_back(std::move(picture));
+        m_shared.next = job.frame + 1;
+        // Before the clock runs a picture may have taken a seek, which says nothing about the ones after it.
+        m_shared.makingUs = m_clock.IsRunning() ? (3 * m_shared.makingUs + tookUs) / 4 : 0;
+        if (m_shared.mode == Mode::Still) {
+            m_shared.mode = Mode::Idle;
+        }
+    }
+    m_notify();
+}
+
+void KxPlayerEngine::Fail(const Job& job, const QString& sentence)
+{
+    {
+        const std::lock_guard<std::mutex> lock(m_shared.mutex);
+        if (m_shared.order != job.order) {
+            return;
+        }
+        m_shared.failure = sentence;
+        m_shared.mode = Mode::Idle;
+    }
+    m_notify();
+}

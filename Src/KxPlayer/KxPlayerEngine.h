@@ -1,0 +1,99 @@
+#pragma once
+
+#include "KxCancelToken.h"
+#include "KxPlayerClock.h"
+#include "KxPlayerPicture.h"
+
+#include <QString>
+
+#include <condition_variable>
+#include <deque>
+#include <memory>
+#include <mutex>
+#include <thread>
+
+class KxPictureMaker;
+struct KxPlaySource;
+
+/// Makes pictures on a thread of its own: one that is asked for, or a few ahead of the clock.
+///
+/// 1. Each order replaces the one before; a picture that is being made for an order that was replaced is thrown away.
+/// So
+///    what can be taken always belongs to the newest order, under its own number.
+/// 2. A picture that was made ahead and is asked for next is not made again.
+/// 3. While the clock runs, frames whose time is over before they are begun are left out.
+/// 4. A source is opened when the first picture of it is wanted, and closed when another one takes its place.
+///
+/// All members for the thread that owns the engine. Destroying it cancels what goes on and waits for the thread.
+class KXPLAYER_API KxPlayerEngine
+{
+public:
+    /// `notify` is called on the engine's thread, and inside the orders, when there is something to take. The clock
+    /// outlives the engine.
+    KxPlayerEngine(const KxPlayerClock& clock, std::function<void()> notify);
+    ~KxPlayerEngine();
+
+    /// Drops everything of the source before; null closes. No picture is made until Show or Play.
+    void Open(std::shared_ptr<const KxPlaySource> source);
+    /// Pictures are made for a player of this size, device pixels, from now on. A frame that stands still is made anew
+    /// when it is given as `standing`.
+    void SetArea(const QSize& area, std::optional<int> standing);
+
+    /// Makes one frame.
+    void Show(int frame);
+    /// Makes all frames from this one on.
+    void Play(int frame);
+    /// Makes nothing more; what was made ahead is kept.
+    void Hold();
+
+    /// The picture of `frame`, if it is the next that can be taken.
+    std::optional<KxPlayerPicture> Take(int frame);
+    /// The newest picture up to `frame`; the earlier ones are dropped.
+    std::optional<KxPlayerPicture> TakeUpTo(int frame);
+    /// The number of the next picture that can be taken.
+    std::optional<int> NextFrame() const;
+    /// As many pictures wait as the engine makes ahead, or all that are left.
+    bool IsPrimed() const;
+    /// Why the newest order cannot be carried out; given once.
+    std::optional<QString> TakeFailure();
+
+private:
+    enum class Mode { Idle, Still, Playing };
+    struct Job {
+        quint64 order = 0;
+        std::shared_ptr<const KxPlaySource> source;
+        KxCancelToken cancel;
+        QSize area;
+        int frame = 0;
+    };
+
+    void Run();
+    bool WaitForJob(Job& job, const KxPlaySource* opened);
+    bool HasWork() const;
+    int FrameToMake() const;
+    void Carry(const Job& job, std::unique_ptr<KxPictureMaker>& maker);
+    void Deliver(const Job& job, KxPlayerPicture picture, qint64 tookUs);
+    void Fail(const Job& job, const QString& sentence);
+    bool KeepFrom(int frame);
+    void NewOrder();
+
+    const KxPlayerClock& m_clock;
+    const std::function<void()> m_notify;
+
+    struct Shared {
+        mutable std::mutex mutex;
+        std::condition_variable changed;
+        bool isQuitting = false;
+        quint64 order = 0;
+        Mode mode = Mode::Idle;
+        std::shared_ptr<const KxPlaySource> source;
+        KxCancelToken cancel;
+        QSize area{1, 1};
+        int next = 0;
+        std::deque<KxPlayerPicture> ready;
+        std::optional<QString> failure;
+        qint64 makingUs = 0;
+    };
+    Shared m_shared;
+    std::thread m_thread;
+};

@@ -1,0 +1,59 @@
+#pragma once
+
+#include <KxPlayer/KxMediaPlayerPresenter.h>
+#include <KxPlayer/KxPlayerToolBarBase.h>
+#include <KxWidgets/KxToolSlider.h>
+
+#include <QMap>
+#include <QPointer>
+
+#include <optional>
+
+class KxSwitchToolButton;
+class QShortcut;
+
+/// The insides of a player's tool bar: its buttons, its slider and what ties them to a presenter. A child of the bar;
+/// user-interface thread only.
+///
+/// While the slider is dragged the next seek waits until the picture of the one before stands, so that the person sees
+/// pictures go by however long each takes; the newest place is always the last to be shown.
+class KxPlayerToolBarBase::Impl : public QObject
+{
+public:
+    Impl(KxPlayerToolBarBase* bar, KxToolSlider* slider, bool seeksWhileDragged);
+    ~Impl() override;
+
+    QAbstractButton* Button(int number) const { return m_buttons.value(number, nullptr); }
+    KxToolSlider* Slider() const { return m_slider; }
+    KxMediaPlayerPresenter* Presenter() const { return m_presenter; }
+    void SetPresenter(KxMediaPlayerPresenter* presenter);
+    void UpdateTips();
+
+    /// A shortcut takes its key away from every other widget, so it is off while its button is disabled.
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void AddButton(int number, QAbstractButton* button, int action);
+    void ConnectSlider();
+    void TogglePlaying();
+    void ShowFrame(int frame);
+    void ShowPlaying(bool playing);
+    void TakeRange();
+    void BeginDrag();
+    void Drag(double value);
+    void EndDrag(double value);
+    void SeekTo(int frame);
+    void SeekNext();
+
+    KxPlayerToolBarBase* const m_bar;
+    const QPointer<KxToolSlider> m_slider;
+    const bool m_seeksWhileDragged;
+    QMap<int, QAbstractButton*> m_buttons;
+    QMap<int, QShortcut*> m_shortcuts;
+    KxSwitchToolButton* m_play = nullptr;
+    QPointer<KxMediaPlayerPresenter> m_presenter;
+
+    bool m_isDragging = false;
+    std::optional<int> m_seeking;
+    std::optional<int> m_nextSeek;
+};

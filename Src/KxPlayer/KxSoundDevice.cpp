@@ -1,0 +1,3 @@
+#include "KxSoundDevice.h"
+
+KxSoundDevice::~KxSoundDevice() = default;

@@ -1,0 +1,269 @@
+#include "KxAutoReframeService.h"
+#include "MadeVideo.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <condition_variable>
+#include <functional>
+
+namespace
+{
+
+struct Event {
+    qint64 key;
+    int state;
+    int percent;
+};
+
+class Recorder : public IKxAutoReframeEventObserver
+{
+public:
+    explicit Recorder(KxAutoReframeService& service)
+        : m_service(service)
+    {
+        m_service.AddObserver(this);
+    }
+    ~Recorder() override { m_service.RemoveObserver(this); }
+
+    void OnAutoReframeEvent(qint64 key, int state, int percent) override
+    {
+        {
+            const std::lock_guard<std::mutex> lock(m_mutex);
+            m_events.push_back({key, state, percent});
+            m_changed.notify_all();
+        }
+        if (onEvent) {
+            onEvent(state);
+        }
+    }
+
+    bool WaitFor(const std::function<bool(const Event&)>& wanted)
+    {
+        std::unique_lock<std::mutex> lock(m_mutex);
+        return m_changed.wait_for(lock, std::chrono::seconds(60),
+                                  [&] { return std::any_of(m_events.begin(), m_events.end(), wanted); });
+    }
+    bool WaitForEnd()
+    {
+        return WaitFor([](const Event& event) { return event.state == 2; });
+    }
+    std::vector<Event> Events()
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        return m_events;
+    }
+
+    std::function<void(int state)> onEvent;
+
+private:
+    KxAutoReframeService& m_service;
+    std::mutex m_mutex;
+    std::condition_variable m_changed;
+    std::vector<Event> m_events;
+};
+
+class KxAutoReframeServiceTest : public testing::Test
+{
+protected:
+    QString MakeClip(const char* name, int frames)
+    {
+        MadeVideo::Recipe recipe;
+        recipe.frames = frames;
+        recipe.output = QStringList{QStringLiteral("-c:v"),      QStringLiteral("libx264"),   QStringLiteral("-g"),
+                                    QStringLiteral("10"),        QStringLiteral("-pix_fmt"),  QStringLiteral("yuv420p"),
+                                    QStringLiteral("-movflags"), QStringLiteral("+faststart")};
+        const QString path = m_folder.filePath(QLatin1String(name));
+        EXPECT_TRUE(MadeVideo::Make(path, recipe));
+        return path;
+    }
+
+    QTemporaryDir m_folder;
+    KxAutoReframeService m_service;
+    const IKxAutoReframeParam m_param{16, QSize(9, 16)};
+};
+
+} // namespace
+
+TEST_F(KxAutoReframeServiceTest, ATaskEndsWithOneLastEventAndAsManyResultsAsFrames)
+{
+    Recorder recorder(m_service);
+    const QString clip = MakeClip("clip.mp4", 90);
+    ASSERT_TRUE(m_service.StartTask(clip, m_param));
+    ASSERT_TRUE(recorder.WaitForEnd());
+    m_service.StopTask(0);
+
+    const std::vector<Event> events = recorder.Events();
+    int percent = -1;
+    for (std::size_t i = 0; i + 1 < events.size(); ++i) {
+        EXPECT_EQ(events[i].state, 1);
+        EXPECT_GT(events[i].percent, percent);
+        EXPECT_LT(events[i].percent, 100);
+        percent = events[i].percent;
+    }
+    EXPECT_EQ(events.back().state, 2);
+    EXPECT_EQ(events.back().percent, 100);
+
+    QList<IKxAutoReframeResult> results;
+    EXPECT_EQ(m_service.GetResults(clip, &results), 0);
+    ASSERT_EQ(results.size(), 90);
+    for (int frame = 0; frame < results.size(); ++frame) {
+        const QRectF crop = results.at(frame).cropRect();
+        EXPECT_EQ(results.at(frame).frame(), frame);
+        EXPECT_EQ(crop.size(), results.at(0).cropRect().size());
+        EXPECT_GE(crop.left(), 0.0);
+        EXPECT_LE(crop.right(), 1.0 + 1e-9);
+        EXPECT_NEAR(crop.width() * 160 / (crop.height() * 96), 9.0 / 16.0, 0.02);
+    }
+    EXPECT_LT(m_service.GetResults(QStringLiteral("other.mp4"), &results), 0);
+    EXPECT_TRUE(results.isEmpty());
+}
+
+TEST_F(KxAutoReframeServiceTest, RefusesWhatIsNoVideoAtOnceAndSaysWhy)
+{
+    Recorder recorder(m_service);
+    EXPECT_FALSE(m_service.StartTask(m_folder.filePath(QStringLiteral("missing.mp4")), m_param));
+    EXPECT_TRUE(m_service.LastSentence().contains(QStringLiteral("missing.mp4")));
+    EXPECT_FALSE(m_service.StartTask(m_folder.path(), m_param));
+    EXPECT_FALSE(m_service.StartTask(MakeClip("clip.mp4", 40), IKxAutoReframeParam(16, QSize(0, 16))));
+    m_service.StopTask(0);
+    EXPECT_TRUE(recorder.Events().empty());
+}
+
+TEST_F(KxAutoReframeServiceTest, NoObserverIsCalledFromInsideStartTask)
+{
+    Recorder recorder(m_service);
+    std::atomic_bool sameThread{false};
+    const std::thread::id starter = std::this_thread::get_id();
+    recorder.onEvent = [&](int) {
+        if (std::this_thread::get_id() == starter) {
+            sameThread = true;
+        }
+    };
+    ASSERT_TRUE(m_service.StartTask(MakeClip("clip.mp4", 40), m_param));
+    ASSERT_TRUE(recorder.WaitForEnd());
+    EXPECT_FALSE(sameThread);
+}
+
+TEST_F(KxAutoReframeServiceTest, AfterStopTaskNoEventComesAndThereAreNoResults)
+{
+    Recorder recorder(m_service);
+    const QString clip = MakeClip("long.mp4", 600);
+    ASSERT_TRUE(m_service.StartTask(clip, m_param));
+    ASSERT_TRUE(recorder.WaitFor([](const Event& event) { return event.state == 1; }));
+    m_service.StopTask(0);
+    const std::size_t count = recorder.Events().size();
+    for (const Event& event : recorder.Events()) {
+        EXPECT_EQ(event.state, 1);
+    }
+    // Another task runs through and is heard; of the stopped one nothing more comes.
+    const QString other = MakeClip("other.mp4", 40);
+    ASSERT_TRUE(m_service.StartTask(other, m_param));
+    ASSERT_TRUE(recorder.WaitForEnd());
+    const std::vector<Event> events = recorder.Events();
+    for (std::size_t i = count; i < events.size(); ++i) {
+        EXPECT_NE(events[i].key, events[0].key);
+    }
+    QList<IKxAutoReframeResult> results;
+    EXPECT_LT(m_service.GetResults(clip, &results), 0);
+    EXPECT_EQ(m_service.GetResults(other, &results), 0);
+}
+
+TEST_F(KxAutoReframeServiceTest, StoppingAtOnceIsSafe)
+{
+    Recorder recorder(m_service);
+    const QString clip = MakeClip("clip.mp4", 120);
+    for (int i = 0; i < 20; ++i) {
+        ASSERT_TRUE(m_service.StartTask(clip, m_param));
+        m_service.StopTask(0);
+    }
+    for (const Event& event : recorder.Events()) {
+        EXPECT_EQ(event.state, 1);
+    }
+}
+
+TEST_F(KxAutoReframeServiceTest, StartingTwiceStopsTheFirst)
+{
+    Recorder recorder(m_service);
+    const QString first = MakeClip("first.mp4", 600);
+    const QString second = MakeClip("second.mp4", 40);
+    ASSERT_TRUE(m_service.StartTask(first, m_param));
+    ASSERT_TRUE(m_service.StartTask(second, m_param));
+    ASSERT_TRUE(recorder.WaitForEnd());
+    m_service.StopTask(0);
+    int ends = 0;
+    for (const Event& event : recorder.Events()) {
+        ends += event.state == 2 ? 1 : 0;
+    }
+    EXPECT_EQ(ends, 1);
+    QList<IKxAutoReframeResult> results;
+    EXPECT_EQ(m_service.GetResults(second, &results), 0);
+    EXPECT_EQ(results.size(), 40);
+}
+
+TEST_F(KxAutoReframeServiceTest, AnObserverMayStopAndStartFromItsCall)
+{
+    Recorder recorder(m_service);
+    const QString clip = MakeClip("clip.mp4", 600);
+    const QString next = MakeClip("next.mp4", 40);
+    std::atomic_int calls{0};
+    recorder.onEvent = [&](int) {
+        if (++calls == 1) {
+            m_service.StopTask(0);
+            EXPECT_TRUE(m_service.StartTask(next, m_param));
+        }
+    };
+    ASSERT_TRUE(m_service.StartTask(clip, m_param));
+    ASSERT_TRUE(recorder.WaitForEnd());
+    QList<IKxAutoReframeResult> results;
+    EXPECT_EQ(m_service.GetResults(next, &results), 0);
+}
+
+TEST_F(KxAutoReframeServiceTest, DestroyingTheServiceStopsWhatRuns)
+{
+    const QString clip = MakeClip("clip.mp4", 600);
+    auto service = std::make_unique<KxAutoReframeService>();
+    auto recorder = std::make_unique<Recorder>(*service);
+    ASSERT_TRUE(service->StartTask(clip, m_param));
+    recorder.reset();
+    service.reset();
+}
+
+TEST_F(KxAutoReframeServiceTest, ACutOffFileGivesAsManyResultsAsItsIndexHasFramesAndAWarning)
+{
+    QFile whole(MakeClip("whole.mp4", 100));
+    ASSERT_TRUE(whole.open(QIODevice::ReadOnly));
+    QFile cut(m_folder.filePath(QStringLiteral("cut.mp4")));
+    ASSERT_TRUE(cut.open(QIODevice::WriteOnly));
+    cut.write(whole.read(whole.size() * 6 / 10));
+    cut.close();
+
+    Recorder recorder(m_service);
+    ASSERT_TRUE(m_service.StartTask(cut.fileName(), m_param));
+    ASSERT_TRUE(recorder.WaitForEnd());
+    QList<IKxAutoReframeResult> results;
+    EXPECT_EQ(m_service.GetResults(cut.fileName(), &results), 0);
+    EXPECT_EQ(results.size(), 100);
+    ASSERT_EQ(m_service.LastWarnings().size(), 1);
+    EXPECT_TRUE(m_service.LastWarnings().first().contains(QStringLiteral("cut.mp4")));
+}
+
+TEST_F(KxAutoReframeServiceTest, AFaceModelThatIsNoneIsToldAndTheAnalysisGoesOn)
+{
+    QFile model(m_folder.filePath(QStringLiteral("model.onnx")));
+    ASSERT_TRUE(model.open(QIODevice::WriteOnly));
+    model.write("this is no model");
+    model.close();
+    m_service.SetFaceModel(model.fileName());
+    Recorder recorder(m_service);
+    const QString clip = MakeClip("clip.mp4", 40);
+    ASSERT_TRUE(m_service.StartTask(clip, m_param));
+    ASSERT_TRUE(recorder.WaitForEnd());
+    ASSERT_EQ(m_service.LastWarnings().size(), 1);
+    EXPECT_TRUE(m_service.LastWarnings().first().contains(QStringLiteral("model.onnx")))
+        << m_service.LastWarnings().first().toStdString();
+    QList<IKxAutoReframeResult> results;
+    EXPECT_EQ(m_service.GetResults(clip, &results), 0);
+}

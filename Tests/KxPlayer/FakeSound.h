@@ -1,0 +1,47 @@
+#pragma once
+
+#include "KxSoundDevice.h"
+
+#include <algorithm>
+#include <vector>
+
+/// What a fake sound device was given and how far it is, for a test on the thread of the feeder.
+struct FakeSoundState {
+    bool starts = true;
+    bool isStarted = false;
+    int capacity = 9600;
+    std::vector<float> taken;
+    int heardFrames = 0;
+
+    int WaitingFrames() const { return static_cast<int>(taken.size()) / KxSoundDevice::Channels - heardFrames; }
+    /// The device plays on.
+    void Hear(int frames) { heardFrames += std::min(frames, WaitingFrames()); }
+};
+
+class FakeSound final : public KxSoundDevice
+{
+public:
+    explicit FakeSound(FakeSoundState& state)
+        : m_state(state)
+    {
+    }
+
+    bool Start() override
+    {
+        m_state.taken.clear();
+        m_state.heardFrames = 0;
+        m_state.isStarted = m_state.starts;
+        return m_state.starts;
+    }
+    void Stop() override { m_state.isStarted = false; }
+    int FreeFrames() const override { return m_state.capacity - m_state.WaitingFrames(); }
+    int WaitingFrames() const override { return m_state.WaitingFrames(); }
+    int Write(const float* samples, int frames) override
+    {
+        m_state.taken.insert(m_state.taken.end(), samples, samples + static_cast<std::ptrdiff_t>(frames) * Channels);
+        return frames;
+    }
+
+private:
+    FakeSoundState& m_state;
+};
