@@ -4,9 +4,9 @@
 
 #include <QKeySequence>
 
-/// The keyboard shortcuts of the host's actions, by action id; the person may change them in the configuration file (group
-/// "Shortcuts", key the action id, value a portable key sequence, empty for none). A sequence that cannot be read counts as not
-/// set.
+/// The keyboard shortcuts of the host's actions, by action id; the person may change them in the configuration file
+/// (group "Shortcuts", key the action id, value a portable key sequence, empty for none). A sequence that cannot be
+/// read counts as not set.
 class KXWIDGETS_API IKxShortcutEditManager
 {
 public:

@@ -4,8 +4,8 @@
 
 #include <QDialog>
 
-/// The host's dialog. Escape rejects it; every other key does what QDialog does with it, but Return only presses a button that
-/// has the focus or is the default.
+/// The host's dialog. Escape rejects it; every other key does what QDialog does with it, but Return only presses a
+/// button that has the focus or is the default.
 class KXWIDGETS_API KxDialog : public QDialog
 {
     Q_OBJECT

@@ -11,8 +11,8 @@ class QWidget;
 /// The host's file choosers. User-interface thread; each call returns when the person has chosen.
 namespace KxFileDialog
 {
-/// Existing files; empty when the person cancelled. `filter` is one group "Name(*.mp4;*.mov;)" whose patterns are separated
-/// by ";".
+/// Existing files; empty when the person cancelled. `filter` is one group "Name(*.mp4;*.mov;)" whose patterns are
+/// separated by ";".
 KXWIDGETS_API QStringList getOpenFileNames(QWidget* parent, const QString& caption, const QString& folder,
                                            const QString& filter);
 

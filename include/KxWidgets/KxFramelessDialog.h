@@ -8,9 +8,9 @@ class KxTopLevelWindowTitleBar;
 class KxWindowCorners;
 class QVBoxLayout;
 
-/// A dialog that draws its own frame: title bar, content, button bar, a border and, where the desktop composes windows, round
-/// corners. It can be moved by its title bar, resized at its edges (unless its size is fixed) and minimised; a dialog that was
-/// minimised comes back with its parent's window. It does not handle close events itself.
+/// A dialog that draws its own frame: title bar, content, button bar, a border and, where the desktop composes windows,
+/// round corners. It can be moved by its title bar, resized at its edges (unless its size is fixed) and minimised; a
+/// dialog that was minimised comes back with its parent's window. It does not handle close events itself.
 class KXWIDGETS_API KxFramelessDialog : public KxDialog
 {
     Q_OBJECT

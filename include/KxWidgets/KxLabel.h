@@ -12,8 +12,8 @@ public:
     static KxLabel* CreateLabel(QWidget* parent, const QString& text);
     ~KxLabel() override;
 
-    /// How a plain text that is wider than the label is shortened; the tooltip then shows the whole. Qt::ElideNone (as at first)
-    /// shortens nothing and leaves the tooltip alone.
+    /// How a plain text that is wider than the label is shortened; the tooltip then shows the whole. Qt::ElideNone (as
+    /// at first) shortens nothing and leaves the tooltip alone.
     void SetElideMode(Qt::TextElideMode mode);
 
     QSize minimumSizeHint() const override;

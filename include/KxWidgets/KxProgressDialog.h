@@ -7,8 +7,8 @@ class KxLabel;
 class KxPushButton;
 class QProgressBar;
 
-/// Shows how a job goes on and lets the person cancel it. `rejected()` comes when it was closed by its cancel button, its
-/// window's close button or Escape; hiding it ends `exec()` without that signal.
+/// Shows how a job goes on and lets the person cancel it. `rejected()` comes when it was closed by its cancel button,
+/// its window's close button or Escape; hiding it ends `exec()` without that signal.
 class KXWIDGETS_API KxProgressDialog : public KxFramelessDialog
 {
     Q_OBJECT

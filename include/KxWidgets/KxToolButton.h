@@ -4,8 +4,8 @@
 
 #include <QToolButton>
 
-/// A button with an icon. The style sheet gives it its icon by its object name, through the property "glyph". Without an
-/// accessible name of its own it goes by its tooltip, without the shortcut in parentheses at the end.
+/// A button with an icon. The style sheet gives it its icon by its object name, through the property "glyph". Without
+/// an accessible name of its own it goes by its tooltip, without the shortcut in parentheses at the end.
 class KXWIDGETS_API KxToolButton : public QToolButton
 {
     Q_OBJECT

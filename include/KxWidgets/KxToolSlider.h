@@ -4,10 +4,10 @@
 
 #include <optional>
 
-/// A slider over a continuous range from 0 to its duration, with a handle ("chunk") that is a widget of its own. A press beside
-/// the handle moves it there and the drag goes on from there. While it has the focus the arrow keys and the wheel move it by 1,
-/// Page Up and Page Down by a tenth, Home and End to the ends; the signals come as for a drag. A vertical slider has its 0
-/// at the bottom.
+/// A slider over a continuous range from 0 to its duration, with a handle ("chunk") that is a widget of its own. A
+/// press beside the handle moves it there and the drag goes on from there. While it has the focus the arrow keys and
+/// the wheel move it by 1, Page Up and Page Down by a tenth, Home and End to the ends; the signals come as for a drag.
+/// A vertical slider has its 0 at the bottom.
 class KXWIDGETS_API KxToolSlider : public KxWidget
 {
     Q_OBJECT
@@ -29,8 +29,8 @@ public:
     /// Limited to 0 to the duration. With `emitSignal` a change emits sigValueChanged.
     void setValue(double value, bool emitSignal);
 
-    /// Whether sigValueChangeStart and sigValueChangeEnd come also for a press and release that changed nothing (as they do at
-    /// first).
+    /// Whether sigValueChangeStart and sigValueChangeEnd come also for a press and release that changed nothing (as
+    /// they do at first).
     void SetAwaysEmitValueChangeStartEnd(bool always);
 
     QSize sizeHint() const override;

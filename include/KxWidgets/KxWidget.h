@@ -4,8 +4,8 @@
 
 #include <QWidget>
 
-/// The host's plain widget: paints the background that the style sheet gives it and tells its texts anew when the language
-/// changes. User-interface thread only, like every widget.
+/// The host's plain widget: paints the background that the style sheet gives it and tells its texts anew when the
+/// language changes. User-interface thread only, like every widget.
 class KXWIDGETS_API KxWidget : public QWidget
 {
     Q_OBJECT

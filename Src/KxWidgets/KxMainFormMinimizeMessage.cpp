@@ -1,0 +1,8 @@
+#include <KxWidgets/KxMainFormMinimizeMessage.h>
+
+KxMainFormMinimizeMessage::KxMainFormMinimizeMessage(int window)
+    : m_window(window)
+{
+}
+
+KxMainFormMinimizeMessage::~KxMainFormMinimizeMessage() = default;
