@@ -2,7 +2,7 @@
 
 include(CMakePackageConfigHelpers)
 
-install(TARGETS KxInterfaces KxCore KxMedia KxSubject KxModel KxRender KrAutoReframe
+install(TARGETS KxInterfaces KxCore KxMedia KxSubject KxModel KxRender KxWidgets KxPlayer KxMediaLibrary KrAutoReframe
     EXPORT KrAutoReframeTargets
     RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}"
     LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"

@@ -43,6 +43,10 @@ void KrAutoReframeDialog::keyPressEvent(QKeyEvent* event)
         m_playerView->close();
     }
     KxDialog::keyPressEvent(event);
+    // The base takes Escape alone for a way out; held with another key it was agreed to all the same.
+    if (asks && isVisible()) {
+        reject();
+    }
 }
 
 void KrAutoReframeDialog::moveEvent(QMoveEvent* event)

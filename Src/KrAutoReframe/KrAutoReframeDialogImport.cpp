@@ -28,13 +28,13 @@ constexpr std::size_t bufferLength = 260000;
 /// The longest folder that the system's chooser gives.
 constexpr std::size_t longestFolder = 260;
 
-/// The chosen paths, one a line, out of what the chooser left: a folder of `nameOffset` characters, then names. Empty
-/// when the folder or the whole list is too long.
-std::wstring JoinPaths(const std::vector<wchar_t>& chosen, std::size_t nameOffset)
+/// Adds to `lines` the chosen paths, one a line, out of what the chooser left: a folder of `nameOffset` characters,
+/// then names. False when the folder or the whole list is too long.
+bool JoinPaths(const std::vector<wchar_t>& chosen, std::size_t nameOffset, std::wstring& lines)
 {
     if (nameOffset > longestFolder) {
         KX_LOG_ERROR(QStringLiteral("the chosen folder is too long"));
-        return {};
+        return false;
     }
     // With several files a zero ends the folder; it does not belong to it.
     const auto folderEnd = chosen.begin() + static_cast<std::ptrdiff_t>(nameOffset);
@@ -42,18 +42,18 @@ std::wstring JoinPaths(const std::vector<wchar_t>& chosen, std::size_t nameOffse
     if (folder.empty() || (folder.back() != L'\\' && folder.back() != L'/')) {
         folder += L'/';
     }
-    std::wstring lines;
     auto name = folderEnd;
     while (name != chosen.end() && *name != L'\0') {
         const auto nameEnd = std::find(name, chosen.end(), L'\0');
-        lines += folder + std::wstring(name, nameEnd) + L'\n';
+        const auto lineLength = folder.size() + static_cast<std::size_t>(nameEnd - name) + 1;
+        if (lines.size() + lineLength >= bufferLength) {
+            KX_LOG_ERROR(QStringLiteral("the list of chosen files is too long"));
+            return false;
+        }
+        lines.append(folder).append(name, nameEnd).push_back(L'\n');
         name = nameEnd == chosen.end() ? nameEnd : nameEnd + 1;
     }
-    if (lines.size() >= bufferLength) {
-        KX_LOG_ERROR(QStringLiteral("the list of chosen files is too long"));
-        return {};
-    }
-    return lines;
+    return true;
 }
 
 } // namespace
@@ -61,7 +61,7 @@ std::wstring JoinPaths(const std::vector<wchar_t>& chosen, std::size_t nameOffse
 void KrAutoReframeDialog::slotOpenImportDialog()
 {
     m_playerView->Pause();
-    QString filter = QStringLiteral("All supported files(%1;);").arg(KxMediaLibraryUtils::getImportVideoFilter());
+    QString filter = tr("All supported files(%1;);").arg(KxMediaLibraryUtils::getImportVideoFilter());
     filter.remove(QStringLiteral(";*.GIF"), Qt::CaseSensitive);
     const QString folder =
         KxConfig::Instance().getDefaultImportDir(QStandardPaths::writableLocation(QStandardPaths::MoviesLocation));
@@ -95,13 +95,16 @@ QStringList KrAutoReframeDialog::GetOpenFileNames(const QString&, const QString&
                                                   QWidget* owner, bool multiSelect)
 {
     std::vector<wchar_t> chosen;
+    std::wstring lines;
     try {
         chosen.assign(bufferLength, L'\0');
+        lines.reserve(bufferLength);
     } catch (const std::bad_alloc&) {
         return {};
     }
     const std::wstring folder = initialDir.toStdWString();
     OPENFILENAMEW request = {};
+    static_assert(sizeof(void*) != 8 || sizeof request == 152, "the record has to be the system's");
     request.lStructSize = sizeof request;
     if (owner != nullptr) {
         request.hwndOwner = reinterpret_cast<decltype(request.hwndOwner)>(owner->winId());
@@ -114,14 +117,10 @@ QStringList KrAutoReframeDialog::GetOpenFileNames(const QString&, const QString&
     if (multiSelect) {
         request.Flags |= OFN_ALLOWMULTISELECT;
     }
-    static_assert(sizeof(void*) != 8 || sizeof request == 152, "the record has to be the system's");
-    if (GetOpenFileNameW(&request) == 0) {
+    if (GetOpenFileNameW(&request) == 0 || !JoinPaths(chosen, request.nFileOffset, lines)) {
         return {};
     }
-    QStringList paths;
-    const QString lines = QString::fromStdWString(JoinPaths(chosen, request.nFileOffset));
-    for (const QString& line : lines.split(QLatin1Char('\n'), Qt::SkipEmptyParts)) {
-        paths += QDir::fromNativeSeparators(line);
-    }
+    QStringList paths = QString::fromStdWString(lines).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    std::transform(paths.begin(), paths.end(), paths.begin(), &QDir::fromNativeSeparators);
     return paths;
 }

@@ -196,5 +196,3 @@ void KrAutoReframePlayerControlBar::updateToolTip()
     m_previousButton->setToolTip(WithKeys(tr("Previous Edit Point (%1)"), Action::PreviousEditPoint));
     m_nextButton->setToolTip(WithKeys(tr("Next Edit Point (%1)"), Action::NextEditPoint));
 }
-
-#include "moc_KrAutoReframePlayerControlBar.cpp"

@@ -207,5 +207,3 @@ int KrAutoReframePlayerToolSlider::MarkPosition(uint frame) const
     const int position = static_cast<int>(GetWidth() * (frame / duration()));
     return std::max(0, std::min(position + chunkExtent / 2, GetWidth()));
 }
-
-#include "moc_KrAutoReframePlayerToolSlider.cpp"

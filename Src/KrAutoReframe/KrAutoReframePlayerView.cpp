@@ -288,5 +288,3 @@ void KrAutoReframePlayerView::closeEvent(QCloseEvent*)
 {
     m_shadowForm->hide();
 }
-
-#include "moc_KrAutoReframePlayerView.cpp"

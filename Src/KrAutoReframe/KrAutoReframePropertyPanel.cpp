@@ -12,8 +12,8 @@
 #include <QPixmap>
 #include <QSignalBlocker>
 #include <QStringList>
-#include <QVariant>
 #include <QVBoxLayout>
+#include <QVariant>
 
 namespace
 {
@@ -229,5 +229,3 @@ void KrAutoReframePropertyPanel::OnAnalysisFinished()
     m_analyzeButton->setVisible(isRestartShown);
     m_firstAnalysis = false;
 }
-
-#include "moc_KrAutoReframePropertyPanel.cpp"

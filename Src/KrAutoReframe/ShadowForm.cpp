@@ -141,5 +141,3 @@ void ShadowForm::DragTo(const QPoint& position)
     }
     update();
 }
-
-#include "moc_ShadowForm.cpp"

@@ -13,6 +13,12 @@ namespace
 
 const QString importFolderKey = QStringLiteral("Import/Folder");
 
+KxConfig::MachineFacts& CurrentFacts()
+{
+    static KxConfig::MachineFacts facts;
+    return facts;
+}
+
 QString NearestExistingFolder(const QString& path)
 {
     QString folder = QFileInfo(path).absoluteFilePath();
@@ -36,6 +42,9 @@ KxConfig& KxConfig::Instance()
 
 bool KxConfig::algorithmEnabled(int algorithm) const
 {
+    if (CurrentFacts().algorithmEnabled) {
+        return CurrentFacts().algorithmEnabled(algorithm);
+    }
     // The analysis needs nothing that a machine of these days could lack; the host knows no other algorithm.
     constexpr int autoReframe = 4;
     return algorithm == autoReframe;
@@ -67,8 +76,16 @@ QString KxConfig::GetKorviOutputDirectory()
 
 qint64 KxConfig::GetDiskFreeSpaceSize(const void*, const QString& path)
 {
+    if (CurrentFacts().freeSpaceMb) {
+        return CurrentFacts().freeSpaceMb(path);
+    }
     const bool isDrive = path.size() == 2 && path.at(1) == QLatin1Char(':');
     const QStorageInfo storage(isDrive ? path + QLatin1Char('/') : NearestExistingFolder(path));
     constexpr qint64 megabyte = 1024 * 1024;
     return storage.isValid() && storage.bytesAvailable() >= 0 ? storage.bytesAvailable() / megabyte : -1;
+}
+
+void KxConfig::SetMachineFacts(MachineFacts facts)
+{
+    CurrentFacts() = std::move(facts);
 }

@@ -2,6 +2,20 @@
 
 #include <KxModel/KxVBLMODEL.h>
 
+#include <set>
+
+namespace
+{
+
+/// The simple timelines that belong to the host and were not released yet.
+std::set<IKxTimeline*>& Remaining()
+{
+    static std::set<IKxTimeline*> remaining;
+    return remaining;
+}
+
+} // namespace
+
 KxSimpleTimeline::KxSimpleTimeline(std::unique_ptr<KxClip> clip)
     : m_clip(std::move(clip))
 {
@@ -43,7 +57,12 @@ qint64 KxSimpleTimeline::duration() const
 IKxTimeline* IKxTimeline::createSimpleTimeline(IKxClip* clip)
 {
     const auto* const own = dynamic_cast<const KxClip*>(clip);
-    return own != nullptr ? new KxSimpleTimeline(own->Copy(KxClip::KeyFrames::Copied)) : nullptr;
+    if (own == nullptr) {
+        return nullptr;
+    }
+    auto* const timeline = new KxSimpleTimeline(own->Copy(KxClip::KeyFrames::Copied));
+    Remaining().insert(timeline);
+    return timeline;
 }
 
 IKxTimeline* IKxTimeline::clone(IKxTimeline* timeline, bool shareKeyFrames)
@@ -55,5 +74,13 @@ IKxTimeline* IKxTimeline::clone(IKxTimeline* timeline, bool shareKeyFrames)
 
 void IKxTimeline::releaseInstance(IKxTimeline* timeline)
 {
+    Remaining().erase(timeline);
     delete timeline;
+}
+
+void KxSimpleTimeline::ReleaseAll()
+{
+    while (!Remaining().empty()) {
+        releaseInstance(*Remaining().begin());
+    }
 }

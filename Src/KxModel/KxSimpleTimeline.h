@@ -10,6 +10,10 @@ public:
     explicit KxSimpleTimeline(std::unique_ptr<KxClip> clip);
     ~KxSimpleTimeline() override;
 
+    /// Frees what `createSimpleTimeline` made and nobody released. For host programs, once nothing shows or edits such
+    /// a timeline any more: after a dialog that was handed media has been destroyed.
+    static void ReleaseAll();
+
     std::unique_ptr<KxSimpleTimeline> Copy(KxClip::KeyFrames keyFrames) const;
     const KxClip& Clip() const { return *m_clip; }
 

@@ -8,7 +8,8 @@
 namespace
 {
 
-/// A cubic B-spline with the nodes as its controls: smooth in speed and acceleration, and still where they are still.
+/// A cubic B-spline with the nodes as its controls: smooth in speed and acceleration. It is summed relative
+/// to one node, so that a still span comes out bit for bit still.
 double SplineAt(const std::vector<double>& nodes, double position)
 {
     const auto last = static_cast<std::ptrdiff_t>(nodes.size()) - 1;
@@ -28,7 +29,6 @@ double SplineAt(const std::vector<double>& nodes, double position)
     const double outerRight = t * t * t / 6.0;
     const double innerLeft = (4.0 - 6.0 * t * t + 3.0 * t * t * t) / 6.0;
     const double start = node(base);
-    // Relative to one node, so that a still span comes out bit for bit still.
     return start + outerLeft * (node(base - 1) - start) +
            (1.0 - outerLeft - outerRight - innerLeft) * (node(base + 1) - start) +
            outerRight * (node(base + 2) - start);

@@ -2,6 +2,7 @@
 
 #include "KxCascadeFiles.h"
 
+#include <opencv2/core/utility.hpp>
 #include <opencv2/core/utils/logger.hpp>
 #include <opencv2/imgproc.hpp>
 
@@ -46,6 +47,7 @@ void Load(cv::CascadeClassifier& cascade, const char* fileName)
 KxFaceFinder::KxFaceFinder(const KxSubjectOptions::Faces& options, const std::string& modelPath, cv::Size picturePx)
     : m_options(options)
 {
+    cv::setNumThreads(1);
     if (!modelPath.empty()) {
         LoadModel(modelPath, picturePx);
     }
@@ -66,7 +68,6 @@ void KxFaceFinder::LoadModel(const std::string& path, cv::Size picturePx)
         m_modelProblem = "Cannot use the face model " + path + ": it is a folder.";
         return;
     }
-    // Some models load and then fail at their first picture.
     const QuietOpenCv quiet;
     try {
         m_model = cv::FaceDetectorYN::create(path, "", picturePx, static_cast<float>(m_options.modelThreshold));
@@ -93,7 +94,7 @@ std::vector<cv::Rect> KxFaceFinder::Find(const cv::Mat& picture, const cv::Mat& 
     if (UsesModel()) {
         return FindByModel(picture);
     }
-    return FindByCascade(grey, view, m_options.minimumPx, std::min(grey.cols, grey.rows));
+    return FindByCascade(grey, view, {m_options.minimumPx, std::min(grey.cols, grey.rows), m_options.scaleFactor});
 }
 
 std::optional<cv::Rect> KxFaceFinder::FindNear(const cv::Mat& grey, KxFaceView view, const cv::Rect& face)
@@ -107,7 +108,8 @@ std::optional<cv::Rect> KxFaceFinder::FindNear(const cv::Mat& grey, KxFaceView v
     if (around.empty()) {
         return std::nullopt;
     }
-    const std::vector<cv::Rect> found = FindByCascade(grey(around), view, face.width * 4 / 5, face.width * 5 / 4 + 1);
+    const std::vector<cv::Rect> found =
+        FindByCascade(grey(around), view, {face.width * 4 / 5, face.width * 5 / 4 + 1, m_options.followScaleFactor});
     if (found.empty()) {
         return std::nullopt;
     }
@@ -134,7 +136,7 @@ std::vector<cv::Rect> KxFaceFinder::FindByModel(const cv::Mat& picture)
     return faces;
 }
 
-std::vector<cv::Rect> KxFaceFinder::FindByCascade(const cv::Mat& grey, KxFaceView view, int smallestPx, int largestPx)
+std::vector<cv::Rect> KxFaceFinder::FindByCascade(const cv::Mat& grey, KxFaceView view, const Search& search)
 {
     cv::Mat looked = grey;
     if (view == KxFaceView::RightProfile) {
@@ -143,9 +145,9 @@ std::vector<cv::Rect> KxFaceFinder::FindByCascade(const cv::Mat& grey, KxFaceVie
     const bool frontal = view == KxFaceView::Frontal;
     std::vector<cv::Rect> faces;
     (frontal ? m_frontal : m_profile)
-        .detectMultiScale(looked, faces, m_options.scaleFactor,
+        .detectMultiScale(looked, faces, search.scaleFactor,
                           frontal ? m_options.frontalNeighbours : m_options.profileNeighbours, 0,
-                          cv::Size(smallestPx, smallestPx), cv::Size(largestPx, largestPx));
+                          cv::Size(search.smallestPx, search.smallestPx), cv::Size(search.largestPx, search.largestPx));
     if (view == KxFaceView::RightProfile) {
         for (cv::Rect& face : faces) {
             face.x = grey.cols - face.x - face.width;

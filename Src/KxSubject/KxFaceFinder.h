@@ -14,7 +14,7 @@ enum class KxFaceView { Frontal, LeftProfile, RightProfile };
 class KXSUBJECT_API KxFaceFinder
 {
 public:
-    /// `modelPath` may be empty.
+    /// `modelPath` may be empty. Holds OpenCV to one thread in this process: more made cascades no faster.
     KxFaceFinder(const KxSubjectOptions::Faces& options, const std::string& modelPath, cv::Size picturePx);
 
     /// Why the model that was asked for is not used; empty when it is, or when none was asked for.
@@ -28,9 +28,15 @@ public:
     std::optional<cv::Rect> FindNear(const cv::Mat& grey, KxFaceView view, const cv::Rect& face);
 
 private:
+    /// Tries the model on a blank picture: some load and then fail at their first.
     void LoadModel(const std::string& path, cv::Size picturePx);
     std::vector<cv::Rect> FindByModel(const cv::Mat& picture);
-    std::vector<cv::Rect> FindByCascade(const cv::Mat& grey, KxFaceView view, int smallestPx, int largestPx);
+    struct Search {
+        int smallestPx;
+        int largestPx;
+        double scaleFactor;
+    };
+    std::vector<cv::Rect> FindByCascade(const cv::Mat& grey, KxFaceView view, const Search& search);
 
     KxSubjectOptions::Faces m_options;
     cv::CascadeClassifier m_frontal;

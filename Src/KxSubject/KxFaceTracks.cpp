@@ -6,12 +6,12 @@
 namespace
 {
 
-bool AreOneFace(const cv::Rect& a, const cv::Rect& b)
+bool AreOneFace(const cv::Rect& a, const cv::Rect& b, double sameShare)
 {
     const cv::Point apart = (a.tl() + a.br()) / 2 - (b.tl() + b.br()) / 2;
     const double size = std::max(a.width, b.width);
     const double smaller = std::min(a.width, b.width);
-    return std::max(std::abs(apart.x), std::abs(apart.y)) < 0.6 * size && smaller > 0.6 * size;
+    return std::max(std::abs(apart.x), std::abs(apart.y)) < sameShare * size && smaller > sameShare * size;
 }
 
 } // namespace
@@ -63,8 +63,9 @@ void KxFaceTracks::LookEverywhere(double timeSeconds, const cv::Mat& picture, co
         if (track.misses >= m_options.missesToDrop) {
             continue;
         }
-        const auto same = std::find_if(faces.begin(), faces.end(),
-                                       [&track](const cv::Rect& face) { return AreOneFace(face, track.last); });
+        const auto same = std::find_if(faces.begin(), faces.end(), [this, &track](const cv::Rect& face) {
+            return AreOneFace(face, track.last, m_options.sameShare);
+        });
         const bool looked = track.looks.back().timeSeconds >= timeSeconds;
         if (same != faces.end()) {
             if (looked && !track.looks.back().face) {
@@ -111,46 +112,46 @@ double KxFaceTracks::SizeWeight(const cv::Rect& face, cv::Size picturePx) const
                       0.0, 1.0);
 }
 
+KxFaceTracks::Sight KxFaceTracks::Seen(const Track& track, double fromSeconds, double toSeconds,
+                                       cv::Size picturePx) const
+{
+    Sight sight;
+    const auto isBefore = [](const Look& look, double time) { return look.timeSeconds < time; };
+    for (auto look = std::lower_bound(track.looks.begin(), track.looks.end(), fromSeconds, isBefore);
+         look != track.looks.end() && look->timeSeconds <= toSeconds; ++look) {
+        ++sight.looks;
+        if (look->face) {
+            ++sight.hits;
+            sight.sum += cv::Vec4d(look->face->x, look->face->y, look->face->width, look->face->height);
+            sight.weight += SizeWeight(*look->face, picturePx);
+        }
+    }
+    return sight;
+}
+
 KxSignalProfile KxFaceTracks::ProfileAt(double timeSeconds, double fromSeconds, double toSeconds, KxAxis axis,
                                         double emptyFloor, cv::Size picturePx) const
 {
     const double first = std::max(fromSeconds, timeSeconds - m_options.windowSeconds);
     const double last = std::min(toSeconds, timeSeconds + m_options.windowSeconds);
+    const bool across = axis == KxAxis::Across;
+    const int lengthPx = across ? picturePx.width : picturePx.height;
     KxSignalProfile faces;
     for (const Track& track : m_tracks) {
         if (track.looks.front().timeSeconds > last || track.looks.back().timeSeconds < first) {
             continue;
         }
-        int looks = 0;
-        int hits = 0;
-        cv::Point2d corner;
-        cv::Point2d size;
-        double weight = 0.0;
-        for (auto look = std::lower_bound(track.looks.begin(), track.looks.end(), first,
-                                          [](const Look&a, double time) { return a.timeSeconds < time; });
-             look != track.looks.end() && look->timeSeconds <= last; ++look) {
-            ++looks;
-            if (look->face) {
-                ++hits;
-                corner += cv::Point2d(look->face->x, look->face->y);
-                size += cv::Point2d(look->face->width, look->face->height);
-                weight += SizeWeight(*look->face, picturePx);
-            }
-        }
-        if (hits <= m_options.agreeing) {
+        const Sight sight = Seen(track, first, last, picturePx);
+        if (sight.hits <= m_options.agreeing) {
             continue;
         }
-        corner /= hits;
-        size /= hits;
-        const double height = size.y * (1.0 + m_options.growDown);
-        const double area = size.x * height / picturePx.area();
-        const bool across = axis == KxAxis::Across;
-        const double from = across ? corner.x / picturePx.width : corner.y / picturePx.height;
-        const double extent = across ? size.x / picturePx.width : height / picturePx.height;
-        faces.Add(from, from + extent, weight / looks * area);
+        const cv::Vec4d face = sight.sum / sight.hits;
+        const double height = face[3] * (1.0 + m_options.growDown);
+        const double area = face[2] * height / picturePx.area();
+        const double from = (across ? face[0] : face[1]) / lengthPx;
+        faces.Add(from, from + (across ? face[2] : height) / lengthPx, sight.weight / sight.looks * area);
     }
-    const double mass = faces.Sum();
     KxSignalProfile scaled;
-    scaled.Add(faces, 1.0 / (mass + emptyFloor));
+    scaled.Add(faces, 1.0 / (static_cast<double>(faces.Sum()) + emptyFloor));
     return scaled;
 }

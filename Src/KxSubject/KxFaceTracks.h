@@ -33,6 +33,14 @@ public:
                               cv::Size picturePx) const;
 
 private:
+    /// What the looks at one face between two times add up to.
+    struct Sight {
+        int looks = 0;
+        int hits = 0;
+        cv::Vec4d sum; ///< of the boxes: x, y, width, height
+        double weight = 0.0;
+    };
+    Sight Seen(const Track& track, double fromSeconds, double toSeconds, cv::Size picturePx) const;
     bool IsFollowing() const;
     void LookEverywhere(double timeSeconds, const cv::Mat& picture, const cv::Mat& grey, KxFaceView view);
     void Follow(double timeSeconds, const cv::Mat& grey);

@@ -10,8 +10,6 @@
 namespace
 {
 
-constexpr int LeastFollowed = 12;
-
 bool IsPlausible(const cv::Mat& movement, cv::Size size)
 {
     if (movement.empty() || !cv::checkRange(movement)) {
@@ -34,7 +32,7 @@ cv::Matx33d KxMotionMap::CameraMovement(const cv::Mat& before, const cv::Mat& no
 {
     std::vector<cv::Point2f> corners;
     cv::goodFeaturesToTrack(before, corners, m_options.corners, m_options.cornerQuality, m_options.cornerDistancePx);
-    if (corners.size() < LeastFollowed) {
+    if (static_cast<int>(corners.size()) < m_options.leastFollowed) {
         return cv::Matx33d::eye();
     }
     std::vector<cv::Point2f> moved;
@@ -50,7 +48,7 @@ cv::Matx33d KxMotionMap::CameraMovement(const cv::Mat& before, const cv::Mat& no
             to.push_back(moved[i]);
         }
     }
-    if (from.size() < LeastFollowed) {
+    if (static_cast<int>(from.size()) < m_options.leastFollowed) {
         return cv::Matx33d::eye();
     }
     const cv::Mat movement = cv::findHomography(from, to, cv::RANSAC, m_options.inlierPx, cv::noArray(), 500, 0.995);

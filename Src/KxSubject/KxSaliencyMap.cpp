@@ -5,13 +5,6 @@
 #include <algorithm>
 #include <limits>
 
-namespace
-{
-
-constexpr double FlatRange = 4.0;
-
-} // namespace
-
 KxSaliencyMap::KxSaliencyMap(const KxSubjectOptions::Saliency& options)
     : m_options(options)
 {
@@ -25,7 +18,7 @@ cv::Mat KxSaliencyMap::Of(const cv::Mat& grey) const
     double darkest = 0.0;
     double brightest = 0.0;
     cv::minMaxLoc(small, &darkest, &brightest);
-    if (brightest - darkest < FlatRange) {
+    if (brightest - darkest < m_options.flatRange) {
         return cv::Mat::zeros(square, CV_32F);
     }
     small.convertTo(small, CV_32F);

@@ -5,8 +5,6 @@
 #include "KxSignalTrack.h"
 #include "KxSubjectTracker.h"
 
-#include <opencv2/core/utility.hpp>
-
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -49,7 +47,6 @@ public:
         , m_step(std::max<std::int64_t>(1, static_cast<std::int64_t>(std::floor(
                                                m_request.frameRate / options.sampling.wantedPicturesPerSecond + 0.01))))
     {
-        cv::setNumThreads(1);
     }
 
     cv::Size WorkingSize() const { return m_workingSize; }
@@ -87,7 +84,6 @@ void KxSubjectAnalyzer::Impl::AddPicture(std::int64_t frame, const cv::Mat& pict
         m_shots.AddPicture(frame, picture);
         m_signals.AddPicture(frame, picture);
     } catch (const cv::Exception&) {
-        // One picture that OpenCV cannot work on is one picture less, not the end of the analysis.
         return;
     }
 }

@@ -50,7 +50,8 @@ public:
     /// Whether a picture at `frame` adds to the analysis; one that does not need not even be converted.
     bool Wants(std::int64_t frame) const;
 
-    /// `picture` is CV_8UC3 in BGR order and WorkingSize(); `frame` grows from call to call.
+    /// `picture` is CV_8UC3 in BGR order and WorkingSize(); `frame` grows from call to call. A picture
+    /// that breaks this, or that OpenCV cannot work on, is left out.
     void AddPicture(std::int64_t frame, const cv::Mat& picture);
 
     /// The crop of every frame, `frameCount` of them. Call once, after the last picture.

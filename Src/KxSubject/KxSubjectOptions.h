@@ -36,39 +36,43 @@ struct KxSubjectOptions {
     } bars;
 
     struct Motion {
-        double gapSeconds = 1.0 / 12.0;  ///< between the two pictures compared; study
-        double gapMaximumSeconds = 0.35; ///< beyond it a scene has changed too much to be compared
-        int corners = 200;               ///< study
-        double cornerQuality = 0.003;    ///< of the best corner; low, so that the background has its share; measured
-        double cornerDistancePx = 10.0;  ///< least distance between two corners; measured
-        double inlierPx = 1.0;           ///< 0.5 to 2.5; measured (study 1.5)
-        double differenceFloor = 2.0;    ///< of 255, taken for noise; study
-        double gradientFloor = 4.0;      ///< of 255 a pixel; study
-        double toleratedPx = 1.0;        ///< movement below is taken for a camera followed badly; measured
-        double fullPx = 2.0;             ///< movement above counts no more, or one fast edge outshouts all; measured
-        double blurSigmaPx = 3.0;        ///< study
-        int borderPx = 9;                ///< parallax and warping fire there; study
+        double gapSeconds = 1.0 / 12.0; ///< between the two pictures compared; study
+        double gapMaximumSeconds = 0.6; ///< beyond it a scene has changed too much to be compared
+        int leastFollowed = 12;         ///< corners; with fewer the camera is taken to stand
+        int corners = 200;              ///< study
+        double cornerQuality = 0.003;   ///< of the best corner; low, so that the background has its share; measured
+        double cornerDistancePx = 10.0; ///< least distance between two corners; measured
+        double inlierPx = 1.0;          ///< 0.5 to 2.5; measured (study 1.5)
+        double differenceFloor = 2.0;   ///< of 255, taken for noise; study
+        double gradientFloor = 4.0;     ///< of 255 a pixel; study
+        double toleratedPx = 1.0;       ///< movement below is taken for a camera followed badly; measured
+        double fullPx = 2.0;            ///< movement above counts no more, or one fast edge outshouts all; measured
+        double blurSigmaPx = 3.0;       ///< study
+        int borderPx = 9;               ///< parallax and warping fire there; study
     } motion;
 
     struct Saliency {
+        double flatRange = 4.0;   ///< of 255: a picture with less between its darkest and brightest part shows nothing
         int sidePx = 64;          ///< of the square the spectrum is taken of; study
         double blurSigmaPx = 2.5; ///< of that square
     } saliency;
 
     struct Faces {
         double frontalPeriodSeconds = 0.5; ///< between two looks over the whole picture; study: 3 Hz for 10 costs 0.003
-        double profilePeriodSeconds = 0.5; ///< the same for one of the two sides in turn, while no face is followed
+        double profilePeriodSeconds = 0.8; ///< the same for one of the two sides in turn, while no face is followed
         double modelPeriodSeconds = 0.2;   ///< the same for the neural detector
         double followPeriodSeconds = 0.2;  ///< between two looks near a known face
-        double scaleFactor = 1.2;          ///< 1.05 to 1.3 from one window size to the next; measured
+        double scaleFactor = 1.25;         ///< 1.05 to 1.3 from one window size to the next; measured: cost
+        double followScaleFactor = 1.1;    ///< the same near a known face: a coarse step has too few sizes to agree
         int frontalNeighbours = 3;         ///< raw hits that make a face
         int profileNeighbours = 4;         ///< raw hits that make a face
         int minimumPx = 24;                ///< smallest face looked for
         double modelThreshold = 0.7;       ///< 0 to 1, the neural detector's own score
         int followedAtOnce = 6;            ///< faces; bounds the cost of a crowd
-        int missesToDrop = 3;              ///< looks in a row
-        double windowSeconds = 0.6;    ///< each way: looks that vote on a face; study: 6 neighbours, mean over 0.5 s
-        int agreeing = 2;              ///< other looks in the window that must see the face; study
+        double sameShare = 0.6;     ///< of the size: two boxes nearer than this, and alike by it in size, are one face
+        int missesToDrop = 3;       ///< looks in a row
+        double windowSeconds = 0.6; ///< each way: looks that vote on a face; study: 6 neighbours, mean over 0.5 s
+        int agreeing = 2;           ///< other looks in the window that must see the face; study
         double zeroWeightShare = 0.05; ///< of the shorter side; study
         double fullWeightShare = 0.15; ///< of the shorter side; study
         double growDown = 0.5;         ///< of the face's height; study
@@ -85,19 +89,20 @@ struct KxSubjectOptions {
     } evidence;
 
     struct Path {
-        double moveCost = 1.0;           ///< of the tracker, a width, over the square root of a sample's seconds; study
-        double stepsPerSecond = 10.0;    ///< nodes of the smoothed path
-        double speedWeight = 0.4;        ///< on the first derivative; study
-        double accelerationWeight = 0.2; ///< on the second; measured (study 0.15)
-        double hasteWeight = 1.0;  ///< on what exceeds the top speed, which no rule forbids: the subject may need it
-        double jerkWeight = 0.08;  ///< on the third; measured (study 0.03)
-        int iterations = 60;       ///< of the reweighted solve; more change less than a tenth of a pixel
+        double moveCost = 1.0;        ///< of the tracker, a width, over the square root of a sample's seconds; study
+        double stepsPerSecond = 10.0; ///< nodes of the smoothed path
+        double speedWeight = 0.4;     ///< on the first derivative; study
+        double accelerationWeight = 0.15; ///< on the second; study
+        double hasteWeight = 1.0; ///< on what exceeds the top speed, which no rule forbids: the subject may need it
+        double jerkWeight = 0.12; ///< on the third; measured (study 0.03)
+        int iterations = 60;      ///< measured: 1600 draw random walks up to 0.04 widths elsewhere, 40 to 100 all alike
         double stillSpeed = 0.004; ///< widths a second below which the smoothed path is made to stand exactly
         double stillTrim = 0.05;   ///< part of the samples at each end of the range that does not count
     } path;
 
     /// How the path reacts under one motion speed; human tracks. Widths are the picture's unless the crop's is named.
-    /// The range for standing still was found in picture widths; of the crop's width it cannot let the subject out.
+    /// The range for standing still was found in picture widths; half of it, in crop widths, cannot let the subject
+    /// out.
     struct Reaction {
         double stillRange;       ///< crop widths: the crop stands still while the subject's range stays under
         double deadZone;         ///< crop widths
@@ -105,9 +110,9 @@ struct KxSubjectOptions {
         double smoothingSeconds; ///< 1 stands for the weights of Path
         double holdSeconds;      ///< before the subject changes
     };
-    Reaction slow{0.50, 0.20, 0.08, 2.0, 1.5};
-    Reaction automatic{0.30, 0.12, 0.20, 1.0, 0.8};
-    Reaction fast{0.15, 0.05, 0.45, 0.35, 0.4};
+    Reaction slow{0.25, 0.20, 0.08, 2.0, 1.5};
+    Reaction automatic{0.15, 0.12, 0.20, 1.0, 0.8};
+    Reaction fast{0.075, 0.05, 0.45, 0.35, 0.4};
 
     const Reaction& For(KxMotionSpeed speed) const
     {

@@ -4,6 +4,9 @@ execute_process(COMMAND nm --dynamic --defined-only --demangle "${LIBRARY}" OUTP
 if(NOT status EQUAL 0)
     message(FATAL_ERROR "nm could not read ${LIBRARY}")
 endif()
+if(NOT symbols MATCHES " T KrAutoReframeDialog::KrAutoReframeDialog\\(QWidget[*]\\)")
+    message(SEND_ERROR "${LIBRARY} does not export the dialog")
+endif()
 string(REPLACE "\n" ";" symbols "${symbols}")
 foreach(symbol IN LISTS symbols)
     # The last three are the linker's own. Weak symbols are templates and inline functions of the standard library and Qt that the compiler puts everywhere.

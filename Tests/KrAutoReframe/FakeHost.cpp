@@ -1,6 +1,9 @@
 #include "FakeHost.h"
 
+#include <KxMediaLibrary/KxMediaLibraryUtils.h>
 #include <KxModel/KxVBLMODEL.h>
+
+#include <QMap>
 
 #include <algorithm>
 
@@ -23,10 +26,25 @@ public:
     qint64 frameCount() const override { return m_facts.frameCount; }
     KxRational frameRate() const override { return m_facts.frameRate; }
     QSize resolution() const override { return m_facts.resolution; }
-    int bitRate() const override { return 1000000; }
+    int bitRate() const override { return m_facts.videoBitRate; }
+
+protected:
+    const Facts& GetFacts() const { return m_facts; }
 
 private:
     Facts m_facts;
+};
+
+class VideoAndSoundInfo : public VideoInfo, public IKxAudioMediaInfo
+{
+public:
+    using VideoInfo::VideoInfo;
+
+    bool hasVideoStream() const override { return true; }
+    bool hasAudioStream() const override { return true; }
+    int bitRate() const override { return VideoInfo::bitRate(); }
+    int streamCount() const override { return GetFacts().audioBitRates.size(); }
+    int bitRate(int stream) const override { return GetFacts().audioBitRates.value(stream); }
 };
 
 class SoundInfo : public IKxMediaInfo
@@ -42,10 +60,25 @@ class OtherKeyFrameHelper : public IKxKeyFrameHelper
 
 std::unique_ptr<IKxMediaInfo> MakeInfo(const Facts& facts)
 {
+    if (facts.isVideo && !facts.audioBitRates.isEmpty()) {
+        return std::make_unique<VideoAndSoundInfo>(facts);
+    }
     if (facts.isVideo) {
         return std::make_unique<VideoInfo>(facts);
     }
     return std::make_unique<SoundInfo>();
+}
+
+struct FileRegister {
+    QMap<QString, Facts> offered;
+    QStringList calls;
+    QString importFilter = QStringLiteral("*.mp4");
+};
+
+FileRegister& TheFiles()
+{
+    static FileRegister instance;
+    return instance;
 }
 
 struct TimelineRegister {
@@ -250,7 +283,7 @@ int MediaItem::duration() const
 
 int MediaItem::audioStreamIndex() const
 {
-    return -1;
+    return m_clip.GetFacts().audioStream;
 }
 
 bool Service::StartTask(const QString& path, const IKxAutoReframeParam& param)
@@ -391,6 +424,21 @@ void RefuseSimpleTimelines(bool isRefused)
     TheRegister().areSimpleTimelinesRefused = isRefused;
 }
 
+void OfferFile(const Facts& facts)
+{
+    TheFiles().offered.insert(facts.path, facts);
+}
+
+QStringList MediaCalls()
+{
+    return TheFiles().calls;
+}
+
+void SetImportFilter(const QString& filter)
+{
+    TheFiles().importFilter = filter;
+}
+
 void Reset()
 {
     TheService().Reset();
@@ -398,6 +446,7 @@ void Reset()
         delete TheRegister().live.back();
     }
     TheRegister() = TimelineRegister();
+    TheFiles() = FileRegister();
 }
 
 QList<IKxAutoReframeResult> MakeResults(int count, double firstX)
@@ -440,6 +489,7 @@ IKxAutoReframeEventObserver::~IKxAutoReframeEventObserver() = default;
 IKxAutoReframeService::~IKxAutoReframeService() = default;
 IKxMediaInfo::~IKxMediaInfo() = default;
 IKxVideoMediaInfo::~IKxVideoMediaInfo() = default;
+IKxAudioMediaInfo::~IKxAudioMediaInfo() = default;
 IKxAbstractMedia::~IKxAbstractMedia() = default;
 IKxAbstractMediaItem::~IKxAbstractMediaItem() = default;
 IKxKeyFrameHelper::~IKxKeyFrameHelper() = default;
@@ -492,4 +542,30 @@ IKxAutoReframeService* getAutoReframeService()
 KxProjectFrameRateType KxVBLMODEL::toFrameRateType(const KxRational& rate)
 {
     return rate == KxRational{25, 1} ? KxProjectFrameRateType::Fps25 : KxProjectFrameRateType::Custom;
+}
+
+KxProjectAspectRatioType KxVBLMODEL::toAspectRatioType(const QSize& size)
+{
+    return size == QSize(9, 16) ? KxProjectAspectRatio9x16 : KxProjectAspectRatioUnknown;
+}
+
+IKxAbstractMediaItem* createMediaItem(const QString& path)
+{
+    FakeHost::TheFiles().calls.append(QStringLiteral("create %1").arg(path));
+    const auto facts = FakeHost::TheFiles().offered.constFind(path);
+    return facts != FakeHost::TheFiles().offered.constEnd() ? new FakeHost::MediaItem(*facts) : nullptr;
+}
+
+void releaseMediaItem(IKxAbstractMediaItem* item)
+{
+    FakeHost::TheFiles().calls.append(item != nullptr ? QStringLiteral("release %1").arg(item->filePath())
+                                                      : QStringLiteral("release nothing"));
+    delete item;
+}
+
+// What its media library supplies.
+
+QString KxMediaLibraryUtils::getImportVideoFilter()
+{
+    return FakeHost::TheFiles().importFilter;
 }

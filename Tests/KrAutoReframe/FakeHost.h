@@ -45,6 +45,11 @@ struct Facts {
     KxRational frameRate{25, 1};
     QSize resolution{1920, 1080};
     bool isVideo = true;
+    /// Bits a second.
+    int videoBitRate = 1000000;
+    /// Bits a second of each audio stream; a file without sound has none.
+    QList<int> audioBitRates;
+    int audioStream = -1;
     /// Whether clips carry crop keyframes; else those of some other kind.
     bool hasCropKeyFrames = true;
 };
@@ -177,6 +182,12 @@ QStringList TimelineCalls();
 void CloneWithoutClips(bool isWithout);
 /// Simple timelines cannot be made from now on.
 void RefuseSimpleTimelines(bool isRefused);
+/// `createMediaItem` can open this file from now on; it can open no other.
+void OfferFile(const Facts& facts);
+/// Every making and releasing of a media item, in order, with its path.
+QStringList MediaCalls();
+/// What the host's media library can import from now on.
+void SetImportFilter(const QString& filter);
 /// Frees the timelines that are left and forgets everything scripted and recorded.
 void Reset();
 

@@ -110,6 +110,25 @@ TEST(KxSimpleTimeline, AClipHasCropKeyframesAndNoOthers)
     EXPECT_EQ(clip.keyFrameHelper(4), nullptr);
 }
 
+TEST(KxSimpleTimeline, TheHostFreesWhatNobodyReleased)
+{
+    const std::shared_ptr<const KxMediaFacts> facts = Facts();
+    KxClip clip(facts);
+    const long before = facts.use_count();
+    IKxTimeline* const released = IKxTimeline::createSimpleTimeline(&clip);
+    IKxTimeline* const left = IKxTimeline::createSimpleTimeline(&clip);
+    const TimelinePointer copy(IKxTimeline::clone(left, false));
+    IKxTimeline::releaseInstance(released);
+    const long withTwo = facts.use_count();
+    ASSERT_GT(withTwo, before);
+
+    KxSimpleTimeline::ReleaseAll();
+    EXPECT_EQ(facts.use_count() - before, (withTwo - before) / 2) << "the copy stays its maker's";
+    EXPECT_EQ(copy->duration(), 250);
+    KxSimpleTimeline::ReleaseAll();
+    EXPECT_EQ(copy->duration(), 250);
+}
+
 TEST(KxStreamInfo, GivesTheFactsOfBothKinds)
 {
     const KxStreamInfo info(Facts());

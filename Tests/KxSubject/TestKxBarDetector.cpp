@@ -57,7 +57,7 @@ TEST(KxBarDetector, LetterboxIsTakenOffWithAPixelMore)
 
 TEST(KxBarDetector, PillarsAndLetterboxTogether)
 {
-    EXPECT_EQ(ContentOf({WithBars(GreyTexture(1), 22, 21, 40, 41)}), cv::Rect(41, 23, 238, 135));
+    EXPECT_EQ(ContentOf({WithBars(GreyTexture(1), 22, 21, 40, 41)}), cv::Rect(41, 23, 237, 135));
 }
 
 TEST(KxBarDetector, ABarThatOnePictureFillsIsNone)

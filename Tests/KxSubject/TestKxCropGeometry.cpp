@@ -19,7 +19,8 @@ void ExpectGood(const KxCropRect& crop, cv::Size picture, cv::Size aspect, const
     EXPECT_LE(crop.y + crop.height, content.y + content.height + 1e-12);
     const double widthPx = crop.width * picture.width;
     const double heightPx = crop.height * picture.height;
-    EXPECT_LT(std::abs(widthPx - heightPx * aspect.width / aspect.height), 1.0) << picture << aspect;
+    EXPECT_LT(std::abs(widthPx - heightPx * aspect.width / aspect.height), 1.0)
+        << picture.width << " x " << picture.height << ", " << aspect.width << ":" << aspect.height;
     EXPECT_TRUE(std::abs(crop.width - content.width) < 1e-12 || std::abs(crop.height - content.height) < 1e-12)
         << "not the largest";
 }

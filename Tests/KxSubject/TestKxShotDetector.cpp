@@ -2,6 +2,8 @@
 
 #include "MadePictures.h"
 
+#include <opencv2/core.hpp>
+
 #include <gmock/gmock.h>
 
 using testing::ElementsAre;
@@ -117,7 +119,7 @@ TEST(KxShotDetector, AFlashIsNoCut)
         for (int frame = 0; frame < 60; ++frame) {
             cv::Mat picture = MadePictures::View(scene, {frame * 0.5, 0.0}, PictureSize);
             if (frame >= 30 && frame < 30 + length) {
-                picture += cv::Scalar::all(150);
+                cv::add(picture, cv::Scalar::all(150), picture);
             }
             detector.AddPicture(frame, picture);
         }

@@ -1,13 +1,13 @@
 #include <KxWidgets/KxFileDialog.h>
 #include <KxWidgets/KxOpenFileName.h>
 
-#include <QStringList>
+#include <QApplication>
 #include <QWidget>
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <string>
-#include <vector>
 
 namespace
 {
@@ -17,79 +17,128 @@ class KxOpenFileNameTest : public testing::Test
 protected:
     KxOpenFileNameTest()
     {
+        buffer.fill(L'#');
         request.lStructSize = sizeof request;
         request.lpstrFile = buffer.data();
         request.nMaxFile = static_cast<std::uint32_t>(buffer.size());
-        KxFileDialog::SetResponder([this](const KxFileDialog::Shown& shown) {
-            seen = shown;
+        request.Flags = OFN_EXPLORER | OFN_ALLOWMULTISELECT;
+        KxFileDialog::SetResponder([this](const KxFileDialog::Shown& asked) {
+            shown = asked;
             return answer;
         });
     }
     ~KxOpenFileNameTest() override { KxFileDialog::SetResponder({}); }
 
-    std::wstring Written(std::size_t length) const
-    {
-        return {buffer.begin(), buffer.begin() + static_cast<std::ptrdiff_t>(length)};
-    }
+    /// What the buffer holds, zeros included.
+    std::wstring Buffer(std::size_t length) const { return std::wstring(buffer.data(), length); }
 
-    std::vector<wchar_t> buffer = std::vector<wchar_t>(64, L'#');
+    std::array<wchar_t, 40> buffer;
     OPENFILENAMEW request = {};
     QStringList answer;
-    KxFileDialog::Shown seen;
+    KxFileDialog::Shown shown;
 };
 
-TEST_F(KxOpenFileNameTest, OneFileIsAPathWhoseNameBeginsAtTheOffset)
+} // namespace
+
+TEST_F(KxOpenFileNameTest, TheRecordIsTheSystems)
 {
-    answer = QStringList{QStringLiteral("/v/a.mp4")};
-    EXPECT_EQ(GetOpenFileNameW(&request), 1);
-    EXPECT_EQ(request.nFileOffset, 3);
-    EXPECT_EQ(Written(10), std::wstring(L"/v/a.mp4\0\0", 10));
+    EXPECT_EQ(sizeof(OPENFILENAMEW), 152u);
 }
 
-TEST_F(KxOpenFileNameTest, SeveralFilesAreTheFolderAndTheirNames)
+TEST_F(KxOpenFileNameTest, OneFileIsAPathAndThePlaceOfItsName)
 {
-    request.Flags = OFN_ALLOWMULTISELECT;
+    answer = QStringList{QStringLiteral("/v/one clip.mp4")};
+    EXPECT_EQ(GetOpenFileNameW(&request), 1);
+    EXPECT_EQ(Buffer(18), std::wstring(L"/v/one clip.mp4\0\0#", 18));
+    EXPECT_EQ(request.nFileOffset, 3);
+    EXPECT_EQ(request.nFileExtension, 12);
+}
+
+TEST_F(KxOpenFileNameTest, AFileWithoutAnExtensionHasNone)
+{
+    answer = QStringList{QStringLiteral("/v.old/clip")};
+    EXPECT_EQ(GetOpenFileNameW(&request), 1);
+    EXPECT_EQ(request.nFileOffset, 7);
+    EXPECT_EQ(request.nFileExtension, 0);
+}
+
+TEST_F(KxOpenFileNameTest, SeveralFilesAreAFolderAndNames)
+{
     answer = QStringList{QStringLiteral("/v/a.mp4"), QStringLiteral("/v/b.mp4")};
     EXPECT_EQ(GetOpenFileNameW(&request), 1);
+    EXPECT_EQ(Buffer(16), std::wstring(L"/v\0a.mp4\0b.mp4\0\0", 16));
     EXPECT_EQ(request.nFileOffset, 3);
-    EXPECT_EQ(Written(16), std::wstring(L"/v\0a.mp4\0b.mp4\0\0", 16));
+    EXPECT_EQ(request.nFileExtension, 0);
 }
 
-TEST_F(KxOpenFileNameTest, OnlyOneFileWithoutTheFlag)
+TEST_F(KxOpenFileNameTest, TheRootFolderKeepsItsSeparator)
 {
+    answer = QStringList{QStringLiteral("/a.mp4"), QStringLiteral("/b.mp4")};
+    EXPECT_EQ(GetOpenFileNameW(&request), 1);
+    EXPECT_EQ(Buffer(15), std::wstring(L"/\0a.mp4\0b.mp4\0\0", 15));
+    EXPECT_EQ(request.nFileOffset, 2);
+}
+
+TEST_F(KxOpenFileNameTest, WhereOneWasAskedForTheFirstCounts)
+{
+    request.Flags = OFN_EXPLORER;
     answer = QStringList{QStringLiteral("/v/a.mp4"), QStringLiteral("/v/b.mp4")};
     EXPECT_EQ(GetOpenFileNameW(&request), 1);
-    EXPECT_EQ(Written(10), std::wstring(L"/v/a.mp4\0\0", 10));
+    EXPECT_EQ(Buffer(10), std::wstring(L"/v/a.mp4\0\0", 10));
 }
 
-TEST_F(KxOpenFileNameTest, CancelledIsZeroAndWritesNothing)
+TEST_F(KxOpenFileNameTest, NothingChosenLeavesTheRecordAlone)
 {
     EXPECT_EQ(GetOpenFileNameW(&request), 0);
-    EXPECT_EQ(Written(3), L"###");
+    EXPECT_EQ(buffer.front(), L'#');
+    EXPECT_EQ(request.nFileOffset, 0);
 }
 
-TEST_F(KxOpenFileNameTest, WhatDoesNotFitIsZeroAndWritesNothing)
+TEST_F(KxOpenFileNameTest, WhatDoesNotFitIsNotHalfWritten)
 {
     answer = QStringList{QStringLiteral("/v/a.mp4")};
     request.nMaxFile = 9;
     EXPECT_EQ(GetOpenFileNameW(&request), 0);
-    EXPECT_EQ(Written(3), L"###");
+    EXPECT_EQ(buffer.front(), L'#');
     request.nMaxFile = 10;
     EXPECT_EQ(GetOpenFileNameW(&request), 1);
 }
 
-TEST_F(KxOpenFileNameTest, FolderTitleAndFilterReachTheChooser)
+TEST_F(KxOpenFileNameTest, ARecordOfAnotherSizeIsRefused)
 {
-    request.lpstrInitialDir = L"/v";
-    request.lpstrTitle = L"Pick";
-    request.lpstrFilter = L"Videos\0*.mp4;*.mov\0All\0*\0";
-    GetOpenFileNameW(&request);
-    EXPECT_EQ(seen.folder, QStringLiteral("/v"));
-    EXPECT_EQ(seen.caption, QStringLiteral("Pick"));
-    EXPECT_EQ(seen.filter, QStringLiteral("Videos(*.mp4;*.mov)"));
-    request.nFilterIndex = 2;
-    GetOpenFileNameW(&request);
-    EXPECT_EQ(seen.filter, QStringLiteral("All(*)"));
+    answer = QStringList{QStringLiteral("/v/a.mp4")};
+    request.lStructSize = sizeof request - 8;
+    EXPECT_EQ(GetOpenFileNameW(&request), 0);
+    EXPECT_EQ(GetOpenFileNameW(nullptr), 0);
 }
 
-} // namespace
+TEST_F(KxOpenFileNameTest, AsksInTheFolderUnderTheTitle)
+{
+    request.lpstrInitialDir = L"/videos";
+    GetOpenFileNameW(&request);
+    EXPECT_FALSE(shown.picksFolder);
+    EXPECT_EQ(shown.folder, QStringLiteral("/videos"));
+    EXPECT_EQ(shown.caption, QStringLiteral("Open"));
+    request.lpstrTitle = L"Take one";
+    GetOpenFileNameW(&request);
+    EXPECT_EQ(shown.caption, QStringLiteral("Take one"));
+}
+
+TEST_F(KxOpenFileNameTest, ThePairOfTheIndexIsTheFilter)
+{
+    request.lpstrFilter = L"Videos (*.mp4)\0*.mp4;*.mov\0Pictures\0*.png\0";
+    GetOpenFileNameW(&request);
+    EXPECT_EQ(shown.filter, QStringLiteral("Videos(*.mp4;*.mov;)"));
+    request.nFilterIndex = 2;
+    GetOpenFileNameW(&request);
+    EXPECT_EQ(shown.filter, QStringLiteral("Pictures(*.png;)"));
+    request.nFilterIndex = 9;
+    GetOpenFileNameW(&request);
+    EXPECT_EQ(shown.filter, QStringLiteral("Pictures(*.png;)"));
+}
+
+TEST_F(KxOpenFileNameTest, WithoutAFilterEveryFileIsOffered)
+{
+    GetOpenFileNameW(&request);
+    EXPECT_EQ(shown.filter, QStringLiteral("All files(*;)"));
+}

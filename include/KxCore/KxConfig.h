@@ -4,6 +4,8 @@
 
 #include <QString>
 
+#include <functional>
+
 /// The host's configuration and what it knows of the machine. User-interface thread.
 class KXCORE_API KxConfig
 {
@@ -26,6 +28,15 @@ public:
     /// Free space, in whole megabytes, of the file system that holds `path`: a drive ("C:") or a folder, which need not
     /// exist yet (then its nearest existing parent counts). -1 when it cannot be told. `unused` is null.
     static qint64 GetDiskFreeSpaceSize(const void* unused, const QString& path);
+
+    /// Answers in the machine's place; an empty one leaves its question to the machine.
+    struct MachineFacts {
+        std::function<bool(int algorithm)> algorithmEnabled;
+        std::function<qint64(const QString& path)> freeSpaceMb;
+    };
+    /// From now on `facts` answer; default-made ones let the machine answer again. For programs that run without a
+    /// person, tests among them.
+    static void SetMachineFacts(MachineFacts facts);
 
 private:
     KxConfig() = default;

@@ -1,0 +1,56 @@
+#include "AutoReframeProgram.h"
+
+#include "ExportQueue.h"
+#include "KxInterrupt.h"
+#include "MainWindow.h"
+#include "StudioLoader.h"
+#include "UiReport.h"
+
+#include <KxWidgets/KxUIStyle.h>
+
+#include <QApplication>
+#include <QIcon>
+#include <QTimer>
+#include <QTranslator>
+
+namespace
+{
+
+constexpr int Interrupted = 130;
+
+/// What a person wants at once after they asked for it: nothing is asked, whatever is open.
+void EndWhenInterrupted(QTimer& timer, MainWindow& window)
+{
+    constexpr int lookEveryMs = 100;
+    QObject::connect(&timer, &QTimer::timeout, &window, [&timer, &window] {
+        if (KxInterrupt::IsRequested()) {
+            timer.stop();
+            window.Exports().CancelAll();
+            QCoreApplication::exit(Interrupted);
+        }
+    });
+    timer.start(lookEveryMs);
+}
+
+} // namespace
+
+int AutoReframeProgram::Run(QApplication& application, const AutoReframeOptions& options)
+{
+    KxUIStyle::Apply(application);
+    QTranslator texts;
+    if (texts.load(QStringLiteral(":/AutoReframe/auto-reframe_en.qm"))) {
+        QCoreApplication::installTranslator(&texts);
+    }
+    StudioLoader studio(&StudioLoader::LoadLibrary, nullptr);
+    MainWindow window(studio);
+    QObject::connect(&window, &MainWindow::sigPainted, &studio, [&studio] {
+        QApplication::setWindowIcon(QIcon(QStringLiteral(":/AutoReframe/auto-reframe.svg")));
+        studio.Start();
+    });
+    window.show();
+    window.Open(options.files);
+    QTimer interrupt;
+    EndWhenInterrupted(interrupt, window);
+    const std::unique_ptr<UiReport> report = UiReport::MakeIfWanted();
+    return QApplication::exec();
+}

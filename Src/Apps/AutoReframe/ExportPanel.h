@@ -1,0 +1,41 @@
+#pragma once
+
+#include <KxWidgets/KxWidget.h>
+
+#include <QMap>
+
+class ExportCard;
+class ExportQueue;
+class KxLabel;
+class LinkButton;
+class QVBoxLayout;
+
+/// The export queue beside the library, a card for each export.
+class ExportPanel : public KxWidget
+{
+    Q_OBJECT
+public:
+    /// `queue` is borrowed and outlives the panel.
+    ExportPanel(ExportQueue& queue, QWidget* parent);
+    ~ExportPanel() override;
+
+Q_SIGNALS:
+    void sigShowInFolder(const QString& filePath);
+
+protected:
+    void RetranslateUi() override;
+
+private:
+    void InitLayout();
+    void AddCard(int id);
+    void UpdateCard(int id);
+    void RemoveCard(int id);
+    void ShowHints();
+
+    ExportQueue& m_queue;
+    KxLabel* m_heading = nullptr;
+    LinkButton* m_clear = nullptr;
+    KxLabel* m_hint = nullptr;
+    QVBoxLayout* m_column = nullptr;
+    QMap<int, ExportCard*> m_cards;
+};

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QAbstractButton>
+
+/// A small text in the accent colour that can be pressed.
+class LinkButton : public QAbstractButton
+{
+    Q_OBJECT
+public:
+    explicit LinkButton(QWidget* parent);
+    ~LinkButton() override;
+
+    QSize sizeHint() const override;
+
+protected:
+    void enterEvent(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+};

@@ -1,0 +1,217 @@
+#include "MainWindow.h"
+
+#include "ExportPanel.h"
+#include "ExportQueue.h"
+#include "MediaLibrary.h"
+#include "MediaLibraryView.h"
+#include "StudioLoader.h"
+#include "WindowMemory.h"
+
+#include <KxWidgets/KrMessageDialog.h>
+#include <KxWidgets/KxLabel.h>
+#include <KxWidgets/KxPushButton.h>
+#include <KxWidgets/KxUIStyle.h>
+
+#include <QCloseEvent>
+#include <QDesktopServices>
+#include <QFileInfo>
+#include <QHBoxLayout>
+#include <QShortcut>
+#include <QUrl>
+#include <QVariant>
+
+namespace
+{
+
+constexpr QSize FirstSizePx(1180, 740);
+constexpr QSize SmallestSizePx(720, 420);
+constexpr int TopBarPx = 52;
+constexpr int StatusBarPx = 28;
+constexpr int ButtonPx = 32;
+constexpr int MarginPx = 16;
+
+void ShowFolder(const QString& filePath)
+{
+    QDesktopServices::openUrl(QUrl::fromLocalFile(QFileInfo(filePath).absolutePath()));
+}
+
+/// A bar or an area with a line along one of its sides.
+KxWidget* MakeBar(const QString& name, const QString& lineSide, int heightPx, QWidget* parent)
+{
+    auto* const bar = new KxWidget(parent);
+    bar->setObjectName(name);
+    bar->setFixedHeight(heightPx);
+    bar->setStyleSheet(QStringLiteral("#%1 { background-color: %2; border: none; border-%3: 1px solid %4; }")
+                           .arg(name, KxUIStyle::Colour(KxUIStyle::Role::Panel).name(), lineSide,
+                                KxUIStyle::Colour(KxUIStyle::Role::Line).name()));
+    return bar;
+}
+
+} // namespace
+
+MainWindow::MainWindow(StudioLoader& studio)
+    : m_studio(studio)
+    , m_exports(new ExportQueue(
+          [&studio](const ExportOrder& order, const RenderCallbacks& callbacks) {
+              return studio.Get()->Render(order, callbacks);
+          },
+          this))
+    , m_library(new MediaLibrary(studio, this))
+    , m_showFolder(&ShowFolder)
+{
+    setObjectName(QStringLiteral("MainWindow"));
+    setAcceptDrops(true);
+    setMinimumSize(SmallestSizePx);
+    InitLayout();
+    ConnectSignals();
+    ConnectLibrary();
+    RetranslateUi();
+    if (!WindowMemory::Restore(*this)) {
+        resize(FirstSizePx);
+    }
+    m_view->setFocus();
+}
+
+MainWindow::~MainWindow()
+{
+    // They work for the studio, which may go next.
+    delete m_exports;
+    delete m_library;
+}
+
+void MainWindow::InitLayout()
+{
+    QWidget* const top = MakeTopBar();
+    m_view = new MediaLibraryView(m_library->Model(), this);
+    m_panel = new ExportPanel(*m_exports, this);
+    auto* const middle = new QHBoxLayout;
+    middle->setSpacing(0);
+    middle->addWidget(m_view, 1);
+    middle->addWidget(m_panel);
+    auto* const column = new QVBoxLayout(this);
+    column->setSpacing(0);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addWidget(top);
+    column->addLayout(middle, 1);
+    column->addWidget(MakeStatusBar());
+}
+
+QWidget* MainWindow::MakeTopBar()
+{
+    KxWidget* const bar = MakeBar(QStringLiteral("TopBar"), QStringLiteral("bottom"), TopBarPx, this);
+    m_title = KxLabel::CreateLabel(bar, QString());
+    m_title->setObjectName(QStringLiteral("TopBar_title"));
+    m_title->setProperty("textRole", QStringLiteral("heading"));
+    m_import = KxPushButton::CreateSecondaryButton(bar, ButtonPx);
+    m_import->setObjectName(QStringLiteral("TopBar_import"));
+    m_reframe = KxPushButton::CreatePrimaryButton(bar, ButtonPx);
+    m_reframe->setObjectName(QStringLiteral("TopBar_reframe"));
+    auto* const row = new QHBoxLayout(bar);
+    row->setContentsMargins(MarginPx, 0, MarginPx, 0);
+    row->setSpacing(8);
+    row->addWidget(m_title, 1);
+    row->addWidget(m_import);
+    row->addWidget(m_reframe);
+    return bar;
+}
+
+QWidget* MainWindow::MakeStatusBar()
+{
+    KxWidget* const bar = MakeBar(QStringLiteral("StatusBar"), QStringLiteral("top"), StatusBarPx, this);
+    m_status = KxLabel::CreateLabel(bar, QString());
+    m_status->setObjectName(QStringLiteral("StatusBar_text"));
+    m_status->setProperty("textRole", QStringLiteral("small"));
+    auto* const row = new QHBoxLayout(bar);
+    row->setContentsMargins(MarginPx, 0, MarginPx, 0);
+    row->addWidget(m_status);
+    return bar;
+}
+
+void MainWindow::ConnectSignals()
+{
+    connect(m_import, &QAbstractButton::clicked, this, &MainWindow::ChooseFiles);
+    connect(m_reframe, &QAbstractButton::clicked, this, &MainWindow::ReframeSelected);
+    connect(new QShortcut(QKeySequence::Open, this), &QShortcut::activated, this, &MainWindow::ChooseFiles);
+    connect(new QShortcut(QKeySequence::Quit, this), &QShortcut::activated, this, &QWidget::close);
+    connect(m_panel, &ExportPanel::sigShowInFolder, this, [this](const QString& path) { m_showFolder(path); });
+}
+
+void MainWindow::ConnectLibrary()
+{
+    connect(m_view, &MediaLibraryView::sigSelectionChanged, this, &MainWindow::ShowState);
+    connect(m_view, &MediaLibraryView::sigActivated, this, [this](const QModelIndex& video) { Reframe({video}); });
+    connect(m_view, &QAbstractItemView::doubleClicked, this, [this](const QModelIndex& video) { Reframe({video}); });
+    connect(m_view, &MediaLibraryView::sigImport, this, &MainWindow::ChooseFiles);
+    connect(m_view, &MediaLibraryView::sigRemove, this, &MainWindow::RemoveSelected);
+    connect(m_view, &MediaLibraryView::sigReframe, this, &MainWindow::ReframeSelected);
+    connect(m_view, &MediaLibraryView::sigShowInFolder, this,
+            [this](const QModelIndex& video) { m_showFolder(m_library->Model().PathAt(video)); });
+    connect(m_library, &MediaLibrary::sigImported, this, &MainWindow::SelectImported);
+    connect(m_library, &MediaLibrary::sigOpened, this, &MainWindow::ShowState);
+    connect(m_library, &MediaLibrary::sigRefused, this, &MainWindow::TellRefused);
+    connect(&m_library->Model(), &QAbstractItemModel::rowsInserted, this, &MainWindow::ShowState);
+    connect(&m_library->Model(), &QAbstractItemModel::rowsRemoved, this, &MainWindow::ShowState);
+}
+
+void MainWindow::RetranslateUi()
+{
+    setWindowTitle(tr("Auto Reframe"));
+    m_title->setText(tr("Auto Reframe"));
+    m_import->setText(tr("Import…"));
+    m_reframe->setText(tr("Auto Reframe…"));
+    ShowState();
+}
+
+void MainWindow::ShowState()
+{
+    const QModelIndexList selected = m_view->SelectedVideos();
+    const int videos = m_library->Model().Count();
+    m_status->setText(videos == 0 ? tr("No videos yet")
+                                  : QStringLiteral("%1 · %2").arg(tr("%n videos", nullptr, videos),
+                                                                  tr("%n selected", nullptr, selected.size())));
+    const bool canReframe = std::any_of(selected.begin(), selected.end(), [this](const QModelIndex& video) {
+        return m_library->Model().MediaAt(video).has_value();
+    });
+    m_reframe->setEnabled(canReframe);
+}
+
+void MainWindow::paintEvent(QPaintEvent* event)
+{
+    KxWidgetView::paintEvent(event);
+    if (!m_isPainted) {
+        m_isPainted = true;
+        // Once the children have painted, too.
+        QMetaObject::invokeMethod(this, &MainWindow::sigPainted, Qt::QueuedConnection);
+    }
+}
+
+ExportQueue& MainWindow::Exports()
+{
+    return *m_exports;
+}
+
+void MainWindow::SetFolderShower(FolderShower shower)
+{
+    m_showFolder = std::move(shower);
+}
+
+bool MainWindow::MayQuit()
+{
+    const int unfinished = m_exports->UnfinishedCount();
+    return unfinished == 0 ||
+           KrMessageDialog::Question_CustomYesNo(
+               tr("%n exports are not finished. They are cancelled when you quit.", nullptr, unfinished),
+               tr("Keep Exporting"), tr("Quit"), this, KrStandardButton::No, QString(), tr("Auto Reframe"),
+               KrMessageType::Question);
+}
+
+void MainWindow::closeEvent(QCloseEvent* event)
+{
+    if (!MayQuit()) {
+        event->ignore();
+        return;
+    }
+    m_exports->CancelAll();
+    WindowMemory::Save(*this);
+    event->accept();
+}

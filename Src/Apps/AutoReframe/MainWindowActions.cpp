@@ -1,0 +1,142 @@
+#include "MainWindow.h"
+
+#include "ExportQueue.h"
+#include "MediaLibrary.h"
+#include "MediaLibraryView.h"
+#include "StudioLoader.h"
+
+#include <KxCore/KxConfig.h>
+#include <KxWidgets/KrMessageDialog.h>
+#include <KxWidgets/KxFileDialog.h>
+
+#include <QApplication>
+#include <QDropEvent>
+#include <QFileInfo>
+#include <QMimeData>
+#include <QStandardPaths>
+#include <QUrl>
+
+namespace
+{
+
+/// More of them would not fit on a screen.
+constexpr int MostSentences = 8;
+
+QStringList LocalFiles(const QMimeData& data)
+{
+    QStringList paths;
+    for (const QUrl& url : data.urls()) {
+        if (url.isLocalFile()) {
+            paths += url.toLocalFile();
+        }
+    }
+    return paths;
+}
+
+} // namespace
+
+void MainWindow::Open(const QStringList& paths)
+{
+    m_library->Import(paths);
+}
+
+void MainWindow::ChooseFiles()
+{
+    Studio* const studio = m_studio.Get();
+    if (studio == nullptr) {
+        Inform(m_studio.Sentence());
+        return;
+    }
+    const QString folder =
+        KxConfig::Instance().getDefaultImportDir(QStandardPaths::writableLocation(QStandardPaths::MoviesLocation));
+    const QStringList chosen = KxFileDialog::getOpenFileNames(
+        this, tr("Import"), folder, QStringLiteral("%1(%2;)").arg(tr("All supported files"), studio->ImportPatterns()));
+    if (!chosen.isEmpty()) {
+        KxConfig::Instance().setDefaultImportDir(QFileInfo(chosen.first()).absolutePath());
+        m_library->Import(chosen);
+    }
+}
+
+void MainWindow::SelectImported(const QModelIndexList& videos)
+{
+    QItemSelection selection;
+    for (const QModelIndex& video : videos) {
+        selection.select(video, video);
+    }
+    m_view->selectionModel()->setCurrentIndex(videos.first(), QItemSelectionModel::NoUpdate);
+    m_view->selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+    m_view->scrollTo(videos.last());
+}
+
+void MainWindow::TellRefused(const QStringList& sentences)
+{
+    QStringList shown = sentences.mid(0, MostSentences);
+    if (shown.size() < sentences.size()) {
+        shown += tr("… and %n more.", nullptr, sentences.size() - shown.size());
+    }
+    Inform(shown.join(QLatin1Char('\n')));
+}
+
+void MainWindow::Inform(const QString& text)
+{
+    QWidget* const top = QApplication::activeModalWidget();
+    KrMessageDialog::Infomation(text, top != nullptr ? top : this, KrStandardButton::Ok, QString(), tr("Auto Reframe"),
+                                QString(), false);
+}
+
+void MainWindow::RemoveSelected()
+{
+    m_library->Remove(m_view->SelectedVideos());
+}
+
+void MainWindow::ReframeSelected()
+{
+    Reframe(m_view->SelectedVideos());
+}
+
+void MainWindow::Reframe(const QModelIndexList& videos)
+{
+    QList<StudioMedia> media;
+    for (const QModelIndex& video : videos) {
+        if (const std::optional<StudioMedia> opened = m_library->Model().MediaAt(video)) {
+            media += *opened;
+        }
+    }
+    // Files may come in behind the dialog; a second dialog may not.
+    if (media.isEmpty() || m_isReframing) {
+        return;
+    }
+    m_isReframing = true;
+    ReframeCallbacks callbacks;
+    callbacks.ordered = [this](const ExportOrder& order) { m_exports->Add(order); };
+    callbacks.refused = [this](const QString& sentence) { Inform(sentence); };
+    callbacks.unsupported = [this] {
+        Inform(tr("This computer may be too slow for the analysis. To try it all the same, start it once more."));
+    };
+    m_studio.Get()->Reframe(media, *this, callbacks);
+    m_isReframing = false;
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event)
+{
+    if (!LocalFiles(*event->mimeData()).isEmpty()) {
+        event->setDropAction(Qt::CopyAction);
+        event->accept();
+        m_view->SetDropActive(true);
+    }
+}
+
+void MainWindow::dragLeaveEvent(QDragLeaveEvent* event)
+{
+    m_view->SetDropActive(false);
+    KxWidgetView::dragLeaveEvent(event);
+}
+
+void MainWindow::dropEvent(QDropEvent* event)
+{
+    m_view->SetDropActive(false);
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+    activateWindow();
+    m_library->Import(LocalFiles(*event->mimeData()));
+}

@@ -1,0 +1,67 @@
+#include "KxThumbnailPicture.h"
+
+#include "KxPictureScaler.h"
+#include "KxVideoReader.h"
+
+#include <QFileInfo>
+
+#include <algorithm>
+
+namespace
+{
+
+/// Where pictures are looked for, in parts of the video's length.
+constexpr double places[] = {0.1, 0.35, 0.65};
+
+/// Black, white or fog: nothing that tells one video from another.
+bool IsOfOneColour(const QImage& picture)
+{
+    constexpr int leastContrast = 24;
+    int darkest = 255;
+    int brightest = 0;
+    for (int y = 0; y < picture.height(); ++y) {
+        const auto* const line = reinterpret_cast<const QRgb*>(picture.constScanLine(y));
+        for (int x = 0; x < picture.width(); ++x) {
+            const int grey = qGray(line[x]);
+            darkest = std::min(darkest, grey);
+            brightest = std::max(brightest, grey);
+        }
+    }
+    return brightest - darkest < leastContrast;
+}
+
+QSize FitInto(const QSize& displayed, const QSize& roomPx)
+{
+    const QSize fitted = displayed.scaled(roomPx, Qt::KeepAspectRatio).boundedTo(displayed);
+    return fitted.expandedTo(QSize(1, 1));
+}
+
+} // namespace
+
+KxResult<QImage> KxThumbnailPicture::Make(const QString& path, const QSize& roomPx, const KxCancelToken& cancel)
+{
+    KxResult<std::unique_ptr<KxVideoReader>> reader = KxVideoReader::Open(path, cancel);
+    if (!reader) {
+        return KxResult<QImage>::Failure(reader.Sentence());
+    }
+    const qint64 frameCount = (*reader)->Facts().video->frameCount;
+    KxPictureScaler scaler;
+    QImage first;
+    for (const double place : places) {
+        KxVideoFrame frame;
+        if ((*reader)->Read(static_cast<qint64>(place * static_cast<double>(frameCount)), frame) !=
+            KxReadStatus::Picture) {
+            break;
+        }
+        const QImage picture = scaler.Scale(frame, FitInto(frame.DisplayedSize(), roomPx), QImage::Format_RGB32);
+        if (!picture.isNull() && !IsOfOneColour(picture)) {
+            return picture;
+        }
+        first = first.isNull() ? picture : first;
+    }
+    if (first.isNull()) {
+        return KxResult<QImage>::Failure(
+            QStringLiteral("Cannot show %1: no picture could be read.").arg(QFileInfo(path).fileName()));
+    }
+    return first;
+}

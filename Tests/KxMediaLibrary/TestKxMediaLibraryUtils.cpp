@@ -1,0 +1,78 @@
+#include "KxMediaFacts.h"
+#include "MadeVideo.h"
+
+#include <KxMediaLibrary/KxMediaLibraryUtils.h>
+
+#include <QDir>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace
+{
+
+struct Format {
+    const char* suffix;
+    /// Arguments to ffmpeg where the suffix does not say it all.
+    const char* arguments;
+};
+
+const Format formats[] = {
+    {"mp4", ""},
+    {"mov", ""},
+    {"m4v", ""},
+    {"mkv", ""},
+    {"webm", "-c:v libvpx -deadline realtime"},
+    {"avi", ""},
+    {"wmv", ""},
+    {"asf", ""},
+    {"mts", "-f mpegts"},
+    {"m2ts", "-f mpegts"},
+    {"ts", ""},
+    {"mpg", ""},
+    {"mpeg", ""},
+    {"vob", ""},
+    {"flv", ""},
+    {"3gp", "-c:v libx264"},
+    {"3g2", "-c:v libx264"},
+    {"ogv", "-c:v libtheora"},
+    {"mxf", ""},
+    {"dv", "-s 720x576 -pix_fmt yuv420p"},
+    {"wtv", ""},
+    {"y4m", "-pix_fmt yuv420p"},
+    {"ivf", "-c:v libvpx -deadline realtime"},
+    {"h264", ""},
+    {"GIF", ""},
+};
+
+QStringList Patterns()
+{
+    return KxMediaLibraryUtils::getImportVideoFilter().split(QLatin1Char(';'));
+}
+
+} // namespace
+
+TEST(KxMediaLibraryUtils, EveryPatternIsASuffixThatIsTriedHere)
+{
+    QStringList tried;
+    for (const Format& format : formats) {
+        tried += QStringLiteral("*.%1").arg(QLatin1String(format.suffix));
+    }
+    EXPECT_EQ(Patterns(), tried);
+}
+
+TEST(KxMediaLibraryUtils, WhatTheFilterOffersCanBeRead)
+{
+    const QTemporaryDir folder;
+    for (const Format& format : formats) {
+        SCOPED_TRACE(format.suffix);
+        const QString path = folder.filePath(QStringLiteral("clip.%1").arg(QLatin1String(format.suffix)));
+        MadeVideo::Recipe recipe;
+        recipe.frames = 10;
+        recipe.output = QString::fromLatin1(format.arguments).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+        ASSERT_TRUE(MadeVideo::Make(path, recipe));
+        const KxResult<KxMediaFacts> facts = KxProbeMedia(path, KxCancelToken());
+        ASSERT_TRUE(facts) << facts.Sentence().toStdString();
+        EXPECT_TRUE(facts->video.has_value());
+    }
+}

@@ -1,0 +1,174 @@
+#include "KxThumbnailer.h"
+#include "MadeVideo.h"
+
+#include <QSignalSpy>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace
+{
+
+constexpr int WaitMs = 60000;
+constexpr int FrameCount = 40;
+
+class KxThumbnailerTest : public testing::Test
+{
+protected:
+    QString Clip(const QString& name, const MadeVideo::Recipe& recipe)
+    {
+        const QString path = folder.filePath(name);
+        EXPECT_TRUE(MadeVideo::Make(path, recipe));
+        return path;
+    }
+
+    QString NumberedClip()
+    {
+        MadeVideo::Recipe recipe;
+        recipe.frames = FrameCount;
+        return Clip(QStringLiteral("numbered.mp4"), recipe);
+    }
+
+    /// Waits until the requests have had `count` answers.
+    bool WaitForAnswers(int count)
+    {
+        while (ready.count() + failed.count() < count) {
+            if (!ready.wait(100) && ++rounds > WaitMs / 100) {
+                return false;
+            }
+        }
+        return true;
+    }
+
+    QTemporaryDir folder;
+    std::unique_ptr<KxThumbnailer> thumbnailer = std::make_unique<KxThumbnailer>();
+    QSignalSpy ready{thumbnailer.get(), &KxThumbnailer::sigReady};
+    QSignalSpy failed{thumbnailer.get(), &KxThumbnailer::sigFailed};
+    int rounds = 0;
+};
+
+} // namespace
+
+TEST_F(KxThumbnailerTest, APictureFitsIntoTheRoom)
+{
+    const quint64 request = thumbnailer->Request(NumberedClip(), QSize(100, 100));
+    EXPECT_EQ(ready.count(), 0);
+    ASSERT_TRUE(WaitForAnswers(1));
+    ASSERT_EQ(ready.count(), 1);
+    EXPECT_EQ(ready.at(0).at(0).toULongLong(), request);
+    const auto picture = ready.at(0).at(1).value<QImage>();
+    EXPECT_EQ(picture.size(), QSize(100, 60));
+    EXPECT_EQ(MadeVideo::ReadNumber(picture), FrameCount / 10);
+}
+
+TEST_F(KxThumbnailerTest, APictureIsNeverBlownUp)
+{
+    thumbnailer->Request(NumberedClip(), QSize(1000, 1000));
+    ASSERT_TRUE(WaitForAnswers(1));
+    ASSERT_EQ(ready.count(), 1);
+    EXPECT_EQ(ready.at(0).at(1).value<QImage>().size(), QSize(160, 96));
+}
+
+TEST_F(KxThumbnailerTest, ABlackBeginningIsLeftOut)
+{
+    MadeVideo::Recipe recipe;
+    recipe.frames = FrameCount;
+    recipe.draw = [&recipe](int number) {
+        QImage black(recipe.size, QImage::Format_RGB888);
+        black.fill(Qt::black);
+        return number < 8 ? black : MadeVideo::Draw(number, recipe.size);
+    };
+    thumbnailer->Request(Clip(QStringLiteral("fade.mp4"), recipe), QSize(160, 96));
+    ASSERT_TRUE(WaitForAnswers(1));
+    ASSERT_EQ(ready.count(), 1);
+    EXPECT_EQ(MadeVideo::ReadNumber(ready.at(0).at(1).value<QImage>()), FrameCount * 35 / 100);
+}
+
+TEST_F(KxThumbnailerTest, ABlackVideoIsShownBlack)
+{
+    MadeVideo::Recipe recipe;
+    recipe.frames = 10;
+    recipe.draw = [&recipe](int) {
+        QImage black(recipe.size, QImage::Format_RGB888);
+        black.fill(Qt::black);
+        return black;
+    };
+    thumbnailer->Request(Clip(QStringLiteral("black.mp4"), recipe), QSize(160, 96));
+    ASSERT_TRUE(WaitForAnswers(1));
+    ASSERT_EQ(ready.count(), 1);
+    EXPECT_LT(qGray(ready.at(0).at(1).value<QImage>().pixel(80, 48)), 24);
+}
+
+TEST_F(KxThumbnailerTest, AFailureNamesTheFileAndTheReason)
+{
+    const quint64 request = thumbnailer->Request(folder.path(), QSize(100, 100));
+    ASSERT_TRUE(WaitForAnswers(1));
+    ASSERT_EQ(failed.count(), 1);
+    EXPECT_EQ(failed.at(0).at(0).toULongLong(), request);
+    EXPECT_TRUE(failed.at(0).at(1).toString().endsWith(QStringLiteral(": it is a folder.")))
+        << failed.at(0).at(1).toString().toStdString();
+}
+
+TEST_F(KxThumbnailerTest, ASoundFileHasNoPicture)
+{
+    const QString path = folder.filePath(QStringLiteral("tone.wav"));
+    ASSERT_TRUE(MadeVideo::RunFfmpeg({QStringLiteral("-f"), QStringLiteral("lavfi"), QStringLiteral("-i"),
+                                      QStringLiteral("sine=frequency=440:duration=1"), path}));
+    thumbnailer->Request(path, QSize(100, 100));
+    ASSERT_TRUE(WaitForAnswers(1));
+    EXPECT_EQ(failed.count(), 1);
+}
+
+TEST_F(KxThumbnailerTest, TheNewestRequestIsServedFirst)
+{
+    const QString path = NumberedClip();
+    QList<quint64> waiting;
+    for (int n = 0; n < 8; ++n) {
+        waiting.append(thumbnailer->Request(path, QSize(40, 40)));
+    }
+    ASSERT_TRUE(WaitForAnswers(8));
+    QList<quint64> served;
+    for (const QList<QVariant>& signal : ready) {
+        served.append(signal.at(0).toULongLong());
+    }
+    // The thread may have taken some before the last ones were asked for; the newest of all was never kept waiting for
+    // an older one that had not begun.
+    const int newest = served.indexOf(waiting.last());
+    for (int n = newest + 1; n < served.size(); ++n) {
+        EXPECT_GT(served.at(n - 1), served.at(n));
+    }
+    EXPECT_EQ(served.size(), 8);
+}
+
+TEST_F(KxThumbnailerTest, ACancelledRequestIsNeverAnswered)
+{
+    const QString path = NumberedClip();
+    const quint64 first = thumbnailer->Request(path, QSize(40, 40));
+    const quint64 second = thumbnailer->Request(path, QSize(40, 40));
+    thumbnailer->Cancel(first);
+    thumbnailer->Cancel(first);
+    thumbnailer->Cancel(99);
+    ASSERT_TRUE(WaitForAnswers(1));
+    EXPECT_EQ(ready.at(0).at(0).toULongLong(), second);
+    thumbnailer->Request(path, QSize(40, 40));
+    thumbnailer->Request(path, QSize(40, 40));
+    thumbnailer->CancelAll();
+    const quint64 last = thumbnailer->Request(path, QSize(40, 40));
+    ASSERT_TRUE(WaitForAnswers(2));
+    EXPECT_EQ(ready.at(1).at(0).toULongLong(), last);
+    thumbnailer.reset();
+    EXPECT_EQ(ready.count() + failed.count(), 2);
+}
+
+TEST_F(KxThumbnailerTest, CanBeDestroyedWhileItWorks)
+{
+    const QString path = NumberedClip();
+    for (int n = 0; n < 20; ++n) {
+        thumbnailer->Request(path, QSize(40, 40));
+    }
+    thumbnailer.reset();
+    QCoreApplication::sendPostedEvents();
+    EXPECT_EQ(ready.count() + failed.count(), 0);
+}

@@ -1,0 +1,49 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en" sourcelanguage="en">
+<context>
+    <name>KrAutoReframeDialog</name>
+    <message>
+        <source>AutoReframe_Exit</source>
+        <translation>Exit</translation>
+    </message>
+</context>
+<context>
+    <name>KrAutoReframePropertyPanel</name>
+    <message>
+        <source>AutoReframe_Restart</source>
+        <translation>Analyze Again</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message numerus="yes">
+        <source>%n videos</source>
+        <translation>
+            <numerusform>%n video</numerusform>
+            <numerusform>%n videos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n selected</source>
+        <translation>
+            <numerusform>%n selected</numerusform>
+            <numerusform>%n selected</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n exports are not finished. They are cancelled when you quit.</source>
+        <translation>
+            <numerusform>An export is not finished. It is cancelled when you quit.</numerusform>
+            <numerusform>%n exports are not finished. They are cancelled when you quit.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>… and %n more.</source>
+        <translation>
+            <numerusform>… and %n more.</numerusform>
+            <numerusform>… and %n more.</numerusform>
+        </translation>
+    </message>
+</context>
+</TS>
