@@ -11,6 +11,35 @@ QRectF Between(const QRectF& a, const QRectF& b, double part)
     return QRectF(mix(a.x(), b.x()), mix(a.y(), b.y()), mix(a.width(), b.width()), mix(a.height(), b.height()));
 }
 
+/// How many keyframes stand at or before `frame`.
+int Passed(const QList<KxCropPanZoomKeyFrameParam>& keyFrames, qint64 frame)
+{
+    const auto after =
+        std::upper_bound(keyFrames.cbegin(), keyFrames.cend(), frame,
+                         [](qint64 wanted, const KxCropPanZoomKeyFrameParam& key) { return wanted < key.frame; });
+    return static_cast<int>(after - keyFrames.cbegin());
+}
+
+/// Whether exactly `passed` keyframes stand at or before `frame`.
+bool HasPassed(const QList<KxCropPanZoomKeyFrameParam>& keyFrames, int passed, qint64 frame)
+{
+    return passed <= keyFrames.size() && (passed == 0 || keyFrames.at(passed - 1).frame <= frame) &&
+           (passed == keyFrames.size() || frame < keyFrames.at(passed).frame);
+}
+
+/// What holds at `frame`, of which `passed` keyframes (there are some) stand at or before.
+KxCropPanZoomKeyFrameParam Between(const QList<KxCropPanZoomKeyFrameParam>& keyFrames, int passed, qint64 frame)
+{
+    KxCropPanZoomKeyFrameParam param = keyFrames.at(std::max(passed - 1, 0));
+    if (passed > 0 && passed < keyFrames.size()) {
+        const KxCropPanZoomKeyFrameParam& after = keyFrames.at(passed);
+        const double part = static_cast<double>(frame - param.frame) / static_cast<double>(after.frame - param.frame);
+        param.cropRect = Between(param.cropRect, after.cropRect, part);
+    }
+    param.frame = frame;
+    return param;
+}
+
 } // namespace
 
 KxCropKeyFrames::KxCropKeyFrames() = default;
@@ -30,7 +59,16 @@ void KxCropKeyFrames::setKeyFrames(const QList<KxCropPanZoomKeyFrameParam>& keyF
 bool KxCropKeyFrames::interpolatedParam(qint64 frame, KxCropPanZoomKeyFrameParam* out) const
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    return Interpolate(m_keyFrames, frame, out);
+    if (m_keyFrames.isEmpty()) {
+        return false;
+    }
+    if (HasPassed(m_keyFrames, m_passed + 1, frame)) {
+        ++m_passed;
+    } else if (!HasPassed(m_keyFrames, m_passed, frame)) {
+        m_passed = Passed(m_keyFrames, frame);
+    }
+    *out = Between(m_keyFrames, m_passed, frame);
+    return true;
 }
 
 QList<KxCropPanZoomKeyFrameParam> KxCropKeyFrames::KeyFrames() const
@@ -45,20 +83,6 @@ bool KxCropKeyFrames::Interpolate(const QList<KxCropPanZoomKeyFrameParam>& keyFr
     if (keyFrames.isEmpty()) {
         return false;
     }
-    const auto after =
-        std::upper_bound(keyFrames.cbegin(), keyFrames.cend(), frame,
-                         [](qint64 wanted, const KxCropPanZoomKeyFrameParam& key) { return wanted < key.frame; });
-    if (after == keyFrames.cbegin()) {
-        *out = *after;
-    } else {
-        const KxCropPanZoomKeyFrameParam& before = *(after - 1);
-        *out = before;
-        if (after != keyFrames.cend() && before.frame != frame) {
-            const double part =
-                static_cast<double>(frame - before.frame) / static_cast<double>(after->frame - before.frame);
-            out->cropRect = Between(before.cropRect, after->cropRect, part);
-        }
-    }
-    out->frame = frame;
+    *out = Between(keyFrames, Passed(keyFrames, frame), frame);
     return true;
 }

@@ -25,4 +25,6 @@ public:
 private:
     mutable std::mutex m_mutex;
     QList<KxCropPanZoomKeyFrameParam> m_keyFrames;
+    /// The number of keyframes at or before the frame that was asked for last: frames are mostly asked for in order.
+    mutable int m_passed = 0;
 };

@@ -57,6 +57,25 @@ TEST(KxCropKeyFrames, HoldsTheFirstAndTheLastOutside)
     EXPECT_EQ(RectAt(keyFrames, 1000000), QRectF(0.5, 0.0, 0.4, 1.0));
 }
 
+TEST(KxCropKeyFrames, TheOrderOfQuestionsChangesNoAnswer)
+{
+    KxCropKeyFrames keyFrames;
+    QList<KxCropPanZoomKeyFrameParam> keys;
+    for (const qint64 frame : {5, 6, 9, 20, 21, 22, 50}) {
+        keys += Key(frame, QRectF(static_cast<double>(frame % 7) / 10.0, 0.0, 0.3, 1.0));
+    }
+    keyFrames.setKeyFrames(keys);
+    for (const int step : {1, -1, 7, 13, 29}) {
+        for (int i = 0, frame = 0; i < 60; ++i, frame = (frame + step + 60) % 60) {
+            KxCropPanZoomKeyFrameParam expected;
+            ASSERT_TRUE(KxCropKeyFrames::Interpolate(keys, frame, &expected));
+            EXPECT_EQ(RectAt(keyFrames, frame), expected.cropRect) << frame;
+        }
+    }
+    keyFrames.setKeyFrames(keys.mid(0, 2)); // fewer than had been passed
+    EXPECT_EQ(RectAt(keyFrames, 59), keys.at(1).cropRect);
+}
+
 TEST(KxCropKeyFrames, SettingReplacesAll)
 {
     KxCropKeyFrames keyFrames;

@@ -14,8 +14,7 @@ void FailOnWarning(QtMsgType type, const QMessageLogContext& context, const QStr
     if (type == QtDebugMsg || type == QtInfoMsg) {
         return;
     }
-    ADD_FAILURE_AT(context.file != nullptr ? context.file : "(Qt)", context.line)
-        << "Qt said: " << text.toStdString();
+    ADD_FAILURE_AT(context.file != nullptr ? context.file : "(Qt)", context.line) << "Qt said: " << text.toStdString();
 }
 
 } // namespace

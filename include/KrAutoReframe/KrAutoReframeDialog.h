@@ -54,8 +54,16 @@ public:
 
 Q_SIGNALS:
     /// The person wants the result as a file. `timeline` carries the keyframes and stays the dialog's: it is valid
-    /// while the signal is delivered. `info` is a QVariantMap: what to write, where, and how (see Docs/ARCHITECTURE.md,
-    /// export record).
+    /// while the signal is delivered. `info` is a QVariantMap, the export record:
+    /// - where: "path" (folder, native separators), "name" (the file's name without a suffix), "org_file_name" (the
+    /// name
+    ///   that the person typed);
+    /// - how: "resolution" (QSize, pixels), "frame_rate" (float, frames a second, 0 where unknown), "video_bit_rate"
+    /// and
+    ///   "audio_bit_rate" (bits a second);
+    /// - for reports: "export_module", "radio_w" and "radio_h" (the aspect ratio), "speed", "motion_speed",
+    ///   "track_ratio", "adjust_frames" (frames adjusted by hand), "duration" and "src_duration" (frames),
+    ///   "src_resolution" (QSize, pixels), "file_format" (the source's suffix).
     void sigExportToLocal(IKxTimeline* timeline, QList<IKxAbstractMedia*>& media, QVariant info);
     /// This machine cannot run the analysis; the host shows its own notice.
     void sigShowUnsupportDlg();

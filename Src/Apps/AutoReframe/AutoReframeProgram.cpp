@@ -5,6 +5,7 @@
 #include "MainWindow.h"
 #include "StudioLoader.h"
 #include "UiReport.h"
+#include "WindowPlaceKeeper.h"
 
 #include <KxWidgets/KxUIStyle.h>
 
@@ -37,6 +38,7 @@ void EndWhenInterrupted(QTimer& timer, MainWindow& window)
 int AutoReframeProgram::Run(QApplication& application, const AutoReframeOptions& options)
 {
     KxUIStyle::Apply(application);
+    new WindowPlaceKeeper(application);
     QTranslator texts;
     if (texts.load(QStringLiteral(":/AutoReframe/auto-reframe_en.qm"))) {
         QCoreApplication::installTranslator(&texts);

@@ -54,7 +54,6 @@ ExportCard::ExportCard(QWidget* parent)
     setProperty("surface", true);
     m_name = KxLabel::CreateLabel(this, QString());
     m_name->setObjectName(QStringLiteral("ExportCard_name"));
-    m_name->setFont(KxUIStyle::TabularFont());
     m_name->SetElideMode(Qt::ElideMiddle);
     m_cancel = KxToolButton::CreateToolButton(this, QStringLiteral("ExportCard_cancel"));
     m_cancel->SetGlyph(QStringLiteral("close"));

@@ -154,7 +154,7 @@ void MediaCardDelegate::PaintLength(QPainter& painter, const QRect& picture, con
     constexpr int paddingPx = 6;
     constexpr int heightPx = 18;
     constexpr int marginPx = 7;
-    painter.setFont(Small(KxUIStyle::TabularFont()));
+    painter.setFont(Small(painter.font()));
     const int widthPx = painter.fontMetrics().horizontalAdvance(length) + 2 * paddingPx;
     const QRect badge(picture.right() + 1 - marginPx - widthPx, picture.bottom() + 1 - marginPx - heightPx, widthPx,
                       heightPx);
@@ -172,11 +172,11 @@ void MediaCardDelegate::PaintTexts(QPainter& painter, const QRect& card, const Q
     const int left = card.left() + TextMarginPx;
     const int room = card.width() - 2 * TextMarginPx;
     const int picture = card.top() + PictureHeightPx;
-    painter.setFont(KxUIStyle::TabularFont());
+    const QFont font = painter.font();
     painter.setPen(KxUIStyle::Colour(Role::Text));
     painter.drawText(left, picture + NameBaselineFromPicturePx,
                      painter.fontMetrics().elidedText(index.data().toString(), Qt::ElideRight, room));
-    painter.setFont(Small(painter.font()));
+    painter.setFont(Small(font));
     painter.setPen(KxUIStyle::Colour(Role::Muted));
     painter.drawText(
         left, picture + DetailsBaselineFromPicturePx,

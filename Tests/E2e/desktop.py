@@ -1,0 +1,55 @@
+"""A desktop of its own for a program under test: X server, window manager, compositor. Ends what it started."""
+
+import os
+import subprocess
+import time
+
+
+class Desktop:
+    def __init__(self, folder, size="1600x1000"):
+        self.folder = folder
+        self.size = size
+        self.processes = []
+
+    def __enter__(self):
+        read_end, write_end = os.pipe()
+        # The server chooses a free number and says it once it takes clients.
+        self._start("Xvfb", ["-displayfd", str(write_end), "-screen", "0", self.size + "x24", "-dpi", "96"],
+                    os.environ, (write_end,))
+        os.close(write_end)
+        with os.fdopen(read_end) as answer:
+            number = answer.readline().strip()
+        assert number, "Xvfb did not start"
+        runtime = os.path.join(self.folder, "runtime")
+        os.makedirs(runtime, mode=0o700, exist_ok=True)
+        self.environment = dict(os.environ, DISPLAY=":" + number, XDG_RUNTIME_DIR=runtime, QT_QPA_PLATFORM="xcb",
+                                QT_FONT_DPI="96", QT_ACCESSIBILITY="0")
+        for name in ("QT_STYLE_OVERRIDE", "QT_QPA_PLATFORMTHEME", "QT_SCALE_FACTOR", "WAYLAND_DISPLAY"):
+            self.environment.pop(name, None)
+        self._start("openbox", ["--sm-disable"], self.environment)
+        self._start("picom", ["--backend", "xrender", "--config", "/dev/null"], self.environment)
+        self._wait_for_property("_NET_SUPPORTING_WM_CHECK")
+        return self
+
+    def __exit__(self, *_):
+        for process in reversed(self.processes):
+            process.terminate()
+        for process in reversed(self.processes):
+            try:
+                process.wait(10)
+            except subprocess.TimeoutExpired:
+                process.kill()
+                process.wait()
+
+    def _start(self, program, arguments, environment, passed=()):
+        log = open(os.path.join(self.folder, program + ".log"), "wb")
+        self.processes.append(subprocess.Popen([program] + arguments, env=environment, stdout=log, stderr=log,
+                                               pass_fds=passed))
+
+    def _wait_for_property(self, name):
+        for _ in range(300):
+            answer = subprocess.run(["xprop", "-root", name], env=self.environment, capture_output=True, text=True)
+            if "window id" in answer.stdout:
+                return
+            time.sleep(0.1)
+        raise AssertionError("the window manager did not start")

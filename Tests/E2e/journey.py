@@ -1,0 +1,282 @@
+#!/usr/bin/env python3
+"""The whole journey of a person through the desktop program, with a real mouse and real keys.
+
+journey.py PROGRAM FOLDER: pictures of every step stay in FOLDER.
+"""
+
+import os
+import shutil
+import subprocess
+import sys
+import time
+
+import footage
+from desktop import Desktop
+from screen import Screen
+
+ACCENT = (0x55, 0xE5, 0xC5)
+EDITED = (0xFF, 0x8B, 0x55)
+DIALOG = "KrAutoReframeDialog"
+
+
+def near(a, b, slack=40):
+    return all(abs(x - y) <= slack for x, y in zip(a, b))
+
+
+class Journey:
+    def __init__(self, screen, folder, clip):
+        self.screen = screen
+        self.folder = folder
+        self.clip = clip
+        self.output = os.path.join(folder, "exports")
+        os.makedirs(self.output, exist_ok=True)
+
+    # What the screen says
+
+    def shadow(self):
+        """The overlay's place once the dialog stands still."""
+        def read(report):
+            found = [widget for widget in report["widgets"] if widget["class"] == "ShadowForm"]
+            return found[0]["rect"] if found else None
+        return self.screen.steady(read, "the crop's overlay")
+
+    def outline(self, colour=None):
+        """Left and right edge of the crop in fractions of the picture, and whether it has the edited frame's colour."""
+        x, y, width, height = self.shadow()
+
+        def look():
+            rows = self.screen.pixels((x, y + height // 3, width, height // 3))
+            for wanted in ([colour] if colour else [EDITED, ACCENT]):
+                columns = [column for column in range(width)
+                           if sum(near(row[column], wanted) for row in rows) > 0.7 * len(rows)]
+                if columns and columns[-1] - columns[0] > 20:
+                    return columns[0] / width, (columns[-1] + 1) / width, wanted == EDITED
+            return None
+        return self.screen.until(look, "the crop's outline", fresh=False)
+
+    def frame(self):
+        def read(report):
+            return self.screen.all(report, "KrAutoReframe_time")[0]["text"]
+        hours, minutes, seconds, frames = [int(part) for part in
+                                           self.screen.steady(read, "the player to stand still").split(":")]
+        return ((hours * 60 + minutes) * 60 + seconds) * footage.RATE + frames
+
+    def results(self):
+        return sorted(name for name in os.listdir(self.output) if name.endswith(".mp4"))
+
+    # What a person does
+
+    def open_dialog(self):
+        self.screen.press("TopBar_reframe")
+        self.screen.steady(lambda report: next((widget["rect"] for widget in self.screen.all(report, DIALOG)
+                                                if widget["rect"][:2] != [0, 0]), None), "the dialog")
+
+    def go_to(self, fraction):
+        """To a frame, with the slider; returns its number."""
+        x, y, width, height = self.screen.find("KrUIStyle_ToolBarSlider")["rect"]
+        self.screen.move(x + int(width * fraction), y + height // 2)
+        self.screen.tool("click", 1)
+        return self.frame()
+
+    def drag_crop(self, by):
+        """Drags the crop sideways by a fraction of the picture; returns where it came to lie."""
+        x, y, width, height = self.shadow()
+        left, right, _ = self.outline()
+        start = (x + int((left + right) / 2 * width), y + height // 2)
+        self.screen.drag(start, (start[0] + int(by * width), start[1]))
+        self.screen.find("KrAutoReframe_undo", enabled=True)
+        landed = self.outline(EDITED)
+        moved = landed[0] - left
+        assert abs(moved - by) < 0.05, f"dragged by {by}, moved by {moved}"
+        return landed[0]
+
+    # The journey
+
+    def import_through_chooser(self):
+        screen = self.screen
+        screen.find("StatusBar_text", text="No videos yet")
+        screen.shoot("empty")
+        screen.press("TopBar_import")
+        name = screen.until(lambda report: next((widget for widget in report["widgets"]
+                                                 if widget["class"] == "QLineEdit" and widget["enabled"]
+                                                 and widget["window"] != "MainWindow"), None), "the file chooser")
+        screen.shoot("chooser")
+        screen.click(name["rect"], repeat=3)
+        screen.type(self.clip)
+        screen.key("Return")
+        screen.find("StatusBar_text", text="1 video · 1 selected")
+        screen.find("TopBar_reframe", enabled=True)
+        screen.steady(lambda report: str(screen.all(report, "MediaLibrary")), "the library")
+        screen.shoot("imported")
+
+    def analyse(self):
+        screen = self.screen
+        self.open_dialog()
+        screen.shoot("dialog")
+        screen.press("KrAutoReframePropertyPanel_analyze")
+        screen.until(lambda report: report["window"] == "KxProgressDialog", "the progress dialog")
+        screen.shoot("analysing")
+        self.shadow()
+        screen.find("KrAutoReframePropertyPanel_restart", text="Analyze Again", enabled=True)
+        screen.shoot("analysed")
+
+    def edit(self):
+        screen = self.screen
+        # The preview plays after an analysis.
+        screen.press("KxPlayerToolBar_play")
+        first = self.go_to(0.2)
+        first_left = self.drag_crop(0.1)
+        screen.shoot("first-edit")
+        second = self.go_to(0.7)
+        assert second > first, f"frames {first} and {second}"
+        second_left = self.drag_crop(-0.15)
+        screen.shoot("second-edit")
+
+        screen.press("KrAutoReframe_undo")
+        screen.find("KrAutoReframe_redo", enabled=True)
+        assert not self.outline(ACCENT)[2], "the frame is no edit point any more"
+        screen.shoot("undone")
+        screen.press("KrAutoReframe_redo")
+        screen.find("KrAutoReframe_redo", enabled=False)
+        assert abs(self.outline(EDITED)[0] - second_left) < 0.01, "the edit is back where it was"
+
+        screen.press("KrAutoReframe_pre")
+        self.expect_frame(first)
+        assert abs(self.outline(EDITED)[0] - first_left) < 0.01
+        screen.shoot("previous-edit-point")
+        screen.press("KrAutoReframe_next")
+        self.expect_frame(second)
+        screen.press("KrAutoReframe_delete")
+        screen.find("KrAutoReframe_delete", enabled=False)
+        self.outline(ACCENT)
+        screen.press("KrAutoReframe_pre")
+        self.expect_frame(first)
+        screen.shoot("one-deleted")
+        return first, first_left
+
+    def expect_frame(self, frame):
+        self.screen.until(lambda: self.frame() == frame, f"frame {frame}", fresh=False)
+
+    def switch_preview(self):
+        screen = self.screen
+        switch = "KrAutoReframePropertyPanel_previewSwitch"
+        screen.press(switch)
+        screen.find(switch, checked=False)
+        screen.until(lambda report: not any(widget["class"] == "ShadowForm" for widget in report["widgets"]),
+                     "the overlay to go")
+        screen.shoot("reframed-preview")
+        screen.press(switch)
+        screen.find(switch, checked=True)
+        self.shadow()
+
+    def order_export(self, name):
+        screen = self.screen
+        screen.press("KrAutoReframePropertyPanel_export")
+        field = screen.find("KrAutoReframeExport_name", enabled=True)
+        screen.click(field["rect"], repeat=3)
+        screen.key("ctrl+a")
+        screen.type(name)
+        screen.find("KrAutoReframeExport_name", text=name)
+        screen.shoot("export-dialog")
+        screen.press("KrAutoReframeExport_export")
+        screen.gone("KrAutoReframeExport_export")
+
+    def close_with_escape(self):
+        screen = self.screen
+        screen.tool("mousemove", *screen.middle(screen.find("KxTopLevelWindowTitleBar_title", DIALOG)["rect"]))
+        screen.key("Escape")
+        screen.find("KxMessageBox_confirm", text="Exit")
+        screen.find("KxMessageBox_refuse", text="No")
+        screen.shoot("escape-question")
+        screen.press("KxMessageBox_confirm")
+        screen.gone(DIALOG)
+
+    def wait_for_exports(self, count):
+        def look(report):
+            texts = [widget.get("text", "") for widget in self.screen.all(report, "ExportCard_status")]
+            assert not any("Cannot" in text for text in texts), texts
+            return len([text for text in texts if text.startswith("Done")]) == count
+        self.screen.until(look, f"{count} finished exports")
+
+    def check_result(self, name, frame, left):
+        path = os.path.join(self.output, name)
+        video = footage.stream(path, "video")
+        assert (video["width"], video["height"]) == (304, 540), (video["width"], video["height"])
+        assert int(video["nb_read_frames"]) == footage.FRAMES, video["nb_read_frames"]
+        assert footage.stream(path, "audio")["codec_name"] == "aac"
+        found, misfit = footage.cut_position(self.clip, path, frame, 304)
+        wanted = left * footage.WIDTH
+        print(f"{name}: frame {frame} was dragged to x = {wanted:.1f} and cut at {found} (misfit {misfit:.2f} of 255)")
+        # A pixel of the preview is more than one of the source.
+        assert abs(found - wanted) <= 3, f"dragged to {wanted}, cut at {found}"
+        assert misfit < 6, f"the picture differs by {misfit}"
+
+    def cancel_an_analysis(self):
+        screen = self.screen
+        self.open_dialog()
+        screen.press("KrAutoReframePropertyPanel_analyze")
+        screen.press("KxProgressDialog_cancel")
+        screen.gone("KxProgressDialog")
+        screen.find("KrAutoReframePropertyPanel_export", enabled=False)
+        screen.shoot("analysis-cancelled")
+
+    def close_with_title_bar(self):
+        screen = self.screen
+        screen.press("KxTopLevelWindowTitleBar_close", DIALOG)
+        screen.find("KxMessageBox_refuse", text="Cancel")
+        screen.press("KxMessageBox_refuse")
+        screen.gone("KxMessageBox_refuse")
+        screen.press("KxTopLevelWindowTitleBar_close", DIALOG)
+        screen.press("KxMessageBox_confirm", text="Exit")
+        screen.gone(DIALOG)
+
+    def quit(self):
+        self.screen.shoot("main-at-the-end")
+        self.screen.key("ctrl+q")
+        assert self.screen.wait_for_end() == 0, "the program ends well"
+
+    def run(self):
+        self.import_through_chooser()
+        self.analyse()
+        frame, left = self.edit()
+        self.switch_preview()
+        self.order_export("walk")
+        self.order_export("walk")
+        self.close_with_escape()
+        self.screen.shoot("exporting")
+        self.wait_for_exports(2)
+        self.screen.shoot("exported")
+        names = ["walk-AutoReframe-9 16 (2).mp4", "walk-AutoReframe-9 16.mp4"]
+        assert self.results() == names, self.results()
+        for name in names:
+            self.check_result(name, frame, left)
+        self.cancel_an_analysis()
+        self.close_with_title_bar()
+        self.quit()
+
+
+def main():
+    program, folder = sys.argv[1], os.path.abspath(sys.argv[2])
+    shutil.rmtree(folder, ignore_errors=True)
+    os.makedirs(folder)
+    clip = os.path.join(folder, "walk.mp4")
+    footage.make(clip)
+    config = os.path.join(folder, "config.ini")
+    with open(config, "w", encoding="utf-8") as file:
+        file.write(f"[Auto%20Reframe]\nOutputPath={folder}/exports\n")
+    started = time.monotonic()
+    with Desktop(folder) as desktop:
+        screen = Screen(desktop, folder, program, environment={"KX_CONFIG_FILE": config, "HOME": folder})
+        try:
+            Journey(screen, folder, clip).run()
+        finally:
+            screen.stop()
+            with open(screen.log_path, encoding="utf-8", errors="replace") as log:
+                said = log.read()
+            print(said, end="")
+    assert not said.strip(), "the program complained on the terminal"
+    print(f"The journey took {time.monotonic() - started:.0f} s; its pictures are in {folder}")
+
+
+if __name__ == "__main__":
+    main()

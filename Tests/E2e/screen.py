@@ -1,0 +1,138 @@
+"""Eyes and hands on a program that writes KR_UI_REPORT: waits for conditions, never for times."""
+
+import json
+import os
+import subprocess
+import time
+
+PATIENCE = float(os.environ.get("KR_E2E_PATIENCE", "120"))
+
+
+class Screen:
+    def __init__(self, desktop, folder, program, arguments=(), environment=None):
+        self.environment = dict(desktop.environment, **(environment or {}))
+        self.folder = folder
+        self.report_path = os.path.join(folder, "ui-report.json")
+        if os.path.exists(self.report_path):
+            os.remove(self.report_path)
+        self.environment["KR_UI_REPORT"] = self.report_path
+        self.log_path = os.path.join(folder, "program.log")
+        self.log = open(self.log_path, "ab")
+        self.process = subprocess.Popen([program, *arguments], env=self.environment, stdout=self.log, stderr=self.log)
+        self.shots = 0
+
+    # Looking
+
+    def report(self):
+        """The newest report; one that was written after this call began."""
+        seen = self._read().get("serial", -1)
+        return self.until(lambda: (lambda now: now if now.get("serial", -1) > seen else None)(self._read()),
+                          "a new report of the program", fresh=False)
+
+    def _read(self):
+        try:
+            with open(self.report_path, encoding="utf-8") as file:
+                return json.load(file)
+        except (FileNotFoundError, json.JSONDecodeError):
+            return {}
+
+    def until(self, condition, what, fresh=True, patience=PATIENCE):
+        """The first true value of `condition`; with `fresh` it gets a new report each time."""
+        end = time.monotonic() + patience
+        while True:
+            if self.process.poll() is not None:
+                raise AssertionError(f"the program ended ({self.process.returncode}) while waiting for {what}")
+            value = condition(self.report()) if fresh else condition()
+            if value:
+                return value
+            if time.monotonic() > end:
+                self.shoot("gave-up")
+                raise AssertionError(f"waited {patience} s in vain for {what}")
+            time.sleep(0.02)
+
+    @staticmethod
+    def all(report, name, window=None):
+        return [widget for widget in report["widgets"]
+                if widget["name"] == name and (window is None or widget["window"] == window)]
+
+    def find(self, name, window=None, **wanted):
+        """Waits for a visible control of that name whose values are as wanted."""
+        def look(report):
+            for widget in self.all(report, name, window):
+                if all(widget.get(key) == value for key, value in wanted.items()):
+                    return widget
+            return None
+        return self.until(look, f"{name} {wanted or ''}")
+
+    def gone(self, name):
+        self.until(lambda report: not self.all(report, name), f"{name} to go")
+
+    def steady(self, read, what):
+        """What `read` says of three reports in a row."""
+        values = []
+
+        def look(report):
+            values.append(read(report))
+            return len(values) >= 3 and values[-1] is not None and values[-1] == values[-2] == values[-3]
+        self.until(look, what)
+        return values[-1]
+
+    def shoot(self, name):
+        self.shots += 1
+        path = os.path.join(self.folder, f"{self.shots:02d}-{name}.png")
+        subprocess.run(["import", "-window", "root", path], env=self.environment, check=True)
+        return path
+
+    def pixels(self, rect):
+        """Rows of (r, g, b) of a part of the screen."""
+        x, y, width, height = rect
+        raw = subprocess.run(["import", "-window", "root", "-crop", f"{width}x{height}+{x}+{y}", "+repage", "-depth",
+                              "8", "rgb:-"], env=self.environment, check=True, capture_output=True).stdout
+        assert len(raw) == 3 * width * height, "the part lies on the screen"
+        return [[tuple(raw[3 * (row * width + column):3 * (row * width + column) + 3]) for column in range(width)]
+                for row in range(height)]
+
+    # Doing
+
+    def tool(self, *arguments):
+        subprocess.run(["xdotool", *[str(argument) for argument in arguments]], env=self.environment, check=True)
+
+    @staticmethod
+    def middle(rect):
+        return rect[0] + rect[2] // 2, rect[1] + rect[3] // 2
+
+    def move(self, x, y):
+        self.tool("mousemove", "--sync", x, y)
+
+    def click(self, rect, button=1, repeat=1):
+        self.move(*self.middle(rect))
+        self.tool("click", "--repeat", repeat, "--delay", 80, button)
+
+    def press(self, name, window=None, **wanted):
+        """Clicks a control once it is there and can be used."""
+        self.click(self.find(name, window, enabled=True, **wanted)["rect"])
+
+    def drag(self, start, end, steps=12):
+        """With the left button, in steps, so that the program sees a drag and not a jump."""
+        self.move(*start)
+        self.tool("mousedown", 1)
+        for step in range(1, steps + 1):
+            self.move(start[0] + (end[0] - start[0]) * step // steps, start[1] + (end[1] - start[1]) * step // steps)
+        self.tool("mouseup", 1)
+
+    def key(self, *keys):
+        self.tool("key", "--delay", 60, *keys)
+
+    def type(self, text):
+        self.tool("type", "--delay", 20, text)
+
+    # Ending
+
+    def wait_for_end(self, patience=PATIENCE):
+        return self.process.wait(patience)
+
+    def stop(self):
+        if self.process.poll() is None:
+            self.process.kill()
+            self.process.wait()
+        self.log.close()
