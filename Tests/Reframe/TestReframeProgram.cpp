@@ -130,7 +130,7 @@ TEST_F(ReframeProgramTest, RefusesFilesThatAreNoVideo)
                   "");
 }
 
-TEST_F(ReframeProgramTest, RefusesSoundOnlyAndSinglePictures)
+TEST_F(ReframeProgramTest, RefusesSoundOnlySinglePicturesAndWhatIsTooShortOrTooSmall)
 {
     ASSERT_TRUE(MadeVideo::RunFfmpeg({QStringLiteral("-f"), QStringLiteral("lavfi"), QStringLiteral("-i"),
                                       QStringLiteral("sine=duration=1"), Path("sound.m4a")}));
@@ -138,6 +138,11 @@ TEST_F(ReframeProgramTest, RefusesSoundOnlyAndSinglePictures)
     ASSERT_TRUE(MadeVideo::Draw(1, QSize(160, 96)).save(Path("picture.png")));
     ExpectRefused(Path("picture.png"), "");
     ExpectRefused(MakeClip("short.mp4", 31), "too short");
+    ASSERT_TRUE(MadeVideo::RunFfmpeg({QStringLiteral("-f"), QStringLiteral("lavfi"), QStringLiteral("-i"),
+                                      QStringLiteral("testsrc=size=1x1:duration=2"), QStringLiteral("-pix_fmt"),
+                                      QStringLiteral("gray"), QStringLiteral("-c:v"), QStringLiteral("ffv1"),
+                                      Path("dot.mkv")}));
+    ExpectRefused(Path("dot.mkv"), "1 x 1 pixels is too small");
 }
 
 TEST_F(ReframeProgramTest, RefusesTheAspectThatTheSourceHas)

@@ -38,6 +38,13 @@ ReframeJob::Ended ReframeJob::WriteVideo()
         return Fail(source.Sentence());
     }
     KxRenderSettings settings = SettingsFor(*m_media, Helper().GetDisplayResults().first().cropRect());
+    if (settings.resolution.isEmpty()) {
+        const QSize size = static_cast<const KxClip*>(m_media->clip())->StreamInfo().resolution();
+        return Fail(QStringLiteral("Cannot reframe %1: its picture of %2 x %3 pixels is too small.")
+                        .arg(m_input)
+                        .arg(size.width())
+                        .arg(size.height()));
+    }
     settings.outputPath = TargetPath(m_options.output, QStringLiteral("mp4"));
     settings.existing = WhenItExists();
     if (m_options.overwrites && QFileInfo(settings.outputPath) == QFileInfo(m_input)) {
