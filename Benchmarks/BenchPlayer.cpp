@@ -1,7 +1,7 @@
 // How smoothly, how quickly and how cheaply the player shows a clip. Needs a display (Xvfb does):
-//   bench-player play CLIP [SECONDS]       frames shown and dropped, processor time
-//   bench-player seek CLIP [TIMES]         from seek() to the end of the paint, beside reading the same frames alone
-//   bench-player ffplay CLIP [SECONDS]     processor time of ffplay for the same clip in the same size
+//   BenchPlayer play CLIP [SECONDS]       frames shown and dropped, processor time
+//   BenchPlayer seek CLIP [TIMES]         from seek() to the end of the paint, beside reading the same frames alone
+//   BenchPlayer ffplay CLIP [SECONDS]     processor time of ffplay for the same clip in the same size
 // Prints one line of JSON.
 
 #include "KxMediaItem.h"
@@ -209,7 +209,7 @@ int main(int argc, char** argv)
         return 0;
     }
     if ((what != QLatin1String("play") && what != QLatin1String("seek")) || path.isEmpty()) {
-        std::fprintf(stderr, "usage: bench-player play|seek|ffplay CLIP [SECONDS|TIMES]\n");
+        std::fprintf(stderr, "usage: BenchPlayer play|seek|ffplay CLIP [SECONDS|TIMES]\n");
         return 2;
     }
     Bench bench(path);
