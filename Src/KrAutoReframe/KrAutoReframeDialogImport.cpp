@@ -69,7 +69,7 @@ void KrAutoReframeDialog::slotOpenImportDialog()
     if (chosen.isEmpty()) {
         return;
     }
-    const QString path = chosen.first();
+    const QString& path = chosen.first();
     m_sourceSuffix = QFileInfo(path).suffix();
     KX_LOG_INFO(QStringLiteral("select file: %1, suffix: %2").arg(path, m_sourceSuffix));
     qDebug() << "get file name:" << path << "file suffix: " << m_sourceSuffix;

@@ -41,8 +41,8 @@ QString FilterOf(const OPENFILENAMEW& request)
         return Translated("All files(%1)").arg(QStringLiteral("*;"));
     }
     const int pair = std::clamp(static_cast<int>(request.nFilterIndex), 1, pairs) - 1;
-    const QString name = texts.at(2 * pair);
-    const QString patterns = texts.at(2 * pair + 1);
+    const QString& name = texts.at(2 * pair);
+    const QString& patterns = texts.at(2 * pair + 1);
     return QStringLiteral("%1(%2;)").arg(name.left(name.indexOf(QLatin1Char('('))).trimmed(), patterns);
 }
 

@@ -132,10 +132,15 @@ TEST_F(DialogEventsTest, TheTitleBarsCloseButtonAsks)
 TEST_F(DialogEventsTest, TheCropFollowsTheDialog)
 {
     LoadAndAnalyse();
+    // What a move brings, and nothing that a layout of the dialog might.
     Player().videoRect = QRect(10, 20, 600, 300);
+    ASSERT_NE(overlay->size(), QSize(600, 300));
+    QMoveEvent moved(dialog->pos(), dialog->pos());
+    QApplication::sendEvent(dialog.get(), &moved);
+    EXPECT_EQ(overlay->pos(), view->mapToGlobal(QPoint(10, 20)));
+    EXPECT_EQ(overlay->size(), QSize(600, 300));
     dialog->move(dialog->pos() + QPoint(60, 40));
     QTRY_COMPARE(overlay->pos(), view->mapToGlobal(QPoint(10, 20)));
-    EXPECT_EQ(overlay->size(), QSize(600, 300));
 }
 
 TEST_F(DialogEventsTest, AHiddenCropStaysWhereItIs)

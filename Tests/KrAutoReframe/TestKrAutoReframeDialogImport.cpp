@@ -144,6 +144,8 @@ TEST_F(DialogImportTest, AFileThatCannotBeOpenedStillNamesTheDialog)
     EXPECT_TRUE(IsReadyToAnalyse());
     EXPECT_FALSE(Export().isEnabled());
     EXPECT_TRUE(recorders.boxes.empty());
+    dialog->resize(dialog->size() + QSize(20, 0));
+    EXPECT_EQ(NameLabel().text(), QStringLiteral("broken.mp4"));
     recorders.events.clear();
     dialog->slotExportToLocal();
     EXPECT_TRUE(recorders.events.isEmpty());

@@ -55,11 +55,8 @@ public:
 Q_SIGNALS:
     /// The person wants the result as a file. `timeline` carries the keyframes and stays the dialog's: it is valid
     /// while the signal is delivered. `info` is a QVariantMap, the export record:
-    /// - where: "path" (folder, native separators), "name" (the file's name without a suffix), "org_file_name" (the
-    /// name
-    ///   that the person typed);
-    /// - how: "resolution" (QSize, pixels), "frame_rate" (float, frames a second, 0 where unknown), "video_bit_rate"
-    /// and
+    /// - where: "path" (folder, native separators), "name" (file name without suffix), "org_file_name" (as typed);
+    /// - how: "resolution" (QSize, pixels), "frame_rate" (float, frames a second, 0 where unknown), "video_bit_rate",
     ///   "audio_bit_rate" (bits a second);
     /// - for reports: "export_module", "radio_w" and "radio_h" (the aspect ratio), "speed", "motion_speed",
     ///   "track_ratio", "adjust_frames" (frames adjusted by hand), "duration" and "src_duration" (frames),
