@@ -1,6 +1,7 @@
 #include "KxVideoAnalysis.h"
 
 #include "KxBoundedQueue.h"
+#include "KxMemory.h"
 
 #include "KxPictureScaler.h"
 #include "KxSubjectAnalyzer.h"
@@ -160,6 +161,7 @@ KxVideoAnalysis::Result KxVideoAnalysis::Run(const std::function<void(int percen
     const bool endedEarly = m_scanner->EndedEarly();
     // The decoder's buffers are the largest thing in memory: they go before the results of every frame are made.
     m_scanner.reset();
+    KxMemory::ReturnUnused();
     if (status == KxReadStatus::Cancelled || m_cancel.IsCancelled()) {
         result.outcome = KxOutcome::Cancelled;
         return result;

@@ -10,13 +10,13 @@ namespace
 
 constexpr std::size_t PicturesKept = 4;
 
-double UsualAround(const std::vector<KxPictureChange>& changes, std::size_t at, double KxPictureChange::*value,
+double UsualAround(const std::vector<KxPictureChange>& changes, std::size_t at, float KxPictureChange::*value,
                    const KxSubjectOptions::Shots& options)
 {
     const auto reach = static_cast<std::size_t>(options.neighbours);
     const std::size_t first = at > reach ? at - reach : 1;
     const std::size_t end = std::min(changes.size(), at + reach + 1);
-    std::vector<double> values;
+    std::vector<float> values;
     for (std::size_t i = first; i < end; ++i) {
         if (i != at) {
             values.push_back(changes[i].*value);
@@ -31,7 +31,7 @@ double UsualAround(const std::vector<KxPictureChange>& changes, std::size_t at, 
     return values[static_cast<std::size_t>(rank)];
 }
 
-bool IsLargestNearby(const std::vector<KxPictureChange>& changes, std::size_t at, double KxPictureChange::*value)
+bool IsLargestNearby(const std::vector<KxPictureChange>& changes, std::size_t at, float KxPictureChange::*value)
 {
     const bool aboveLast = at == 1 || changes[at].*value >= changes[at - 1].*value;
     const bool aboveNext = at + 1 == changes.size() || changes[at].*value >= changes[at + 1].*value;
@@ -40,7 +40,7 @@ bool IsLargestNearby(const std::vector<KxPictureChange>& changes, std::size_t at
 
 bool IsFlash(const std::vector<KxPictureChange>& changes, std::size_t at, double ratio)
 {
-    const double limit = changes[at].grey * ratio;
+    const double limit = static_cast<double>(changes[at].grey) * ratio;
     for (std::size_t bright = 1; bright <= 3; ++bright) {
         const bool returnsAfter = at + bright < changes.size() && changes[at + bright].greyFurther[bright - 1] < limit;
         const bool cameBack = at > bright && changes[at].greyFurther[bright - 1] < limit;
@@ -93,9 +93,9 @@ void KxShotDetector::AddPicture(std::int64_t frame, const cv::Mat& picture)
         return cv::norm(grey, other, cv::NORM_L1) / static_cast<double>(grey.total());
     };
     if (!m_lastGrey.empty()) {
-        change.grey = meanDifference(m_lastGrey.back());
+        change.grey = static_cast<float>(meanDifference(m_lastGrey.back()));
         for (std::size_t i = 0; i < colours.size(); ++i) {
-            change.colour += std::abs(static_cast<double>(colours[i] - m_lastColours[i])) / 2.0;
+            change.colour += std::abs(colours[i] - m_lastColours[i]) / 2.0F;
         }
         for (std::size_t back = 2; back <= m_lastGrey.size(); ++back) {
             change.greyFurther[back - 2] = static_cast<float>(meanDifference(m_lastGrey[m_lastGrey.size() - back]));

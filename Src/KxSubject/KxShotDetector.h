@@ -8,8 +8,8 @@
 /// How far a picture is from the ones before it.
 struct KxPictureChange {
     std::int64_t frame = 0;
-    double grey = 0.0;   ///< mean difference to the picture before, of 255
-    double colour = 0.0; ///< part of the colour histogram that moved since the picture before, 0 to 1
+    float grey = 0.0F;   ///< mean difference to the picture before, of 255
+    float colour = 0.0F; ///< part of the colour histogram that moved since the picture before, 0 to 1
     /// The grey difference to the second, third and fourth picture before; 255 where there is none.
     std::array<float, 3> greyFurther{255.0F, 255.0F, 255.0F};
 };

@@ -9,7 +9,7 @@
 namespace
 {
 
-constexpr double PackedOne = 65535.0;
+constexpr float PackedOne = 255.0F;
 
 } // namespace
 
@@ -68,17 +68,23 @@ float KxSignalProfile::Sum() const
 
 KxPackedProfile::KxPackedProfile(const KxSignalProfile& profile)
 {
-    for (std::size_t bin = 0; bin < m_share.size(); ++bin) {
-        const double share = std::clamp(static_cast<double>(profile.share[bin]), 0.0, 1.0);
-        m_share[bin] = static_cast<std::uint16_t>(std::lround(share * PackedOne));
+    std::array<float, KxSignalProfile::Bins / 2> pairs{};
+    for (std::size_t pair = 0; pair < pairs.size(); ++pair) {
+        pairs[pair] = std::max(0.0F, profile.share[2 * pair] + profile.share[2 * pair + 1]);
+    }
+    m_largest = *std::max_element(pairs.begin(), pairs.end());
+    for (std::size_t pair = 0; m_largest > 0.0F && pair < pairs.size(); ++pair) {
+        m_pairs[pair] = static_cast<std::uint8_t>(std::lround(pairs[pair] / m_largest * PackedOne));
     }
 }
 
 KxSignalProfile KxPackedProfile::Unpacked() const
 {
     KxSignalProfile profile;
-    for (std::size_t bin = 0; bin < m_share.size(); ++bin) {
-        profile.share[bin] = static_cast<float>(m_share[bin] / PackedOne);
+    for (std::size_t pair = 0; pair < m_pairs.size(); ++pair) {
+        const float share = m_largest * static_cast<float>(m_pairs[pair]) / PackedOne / 2.0F;
+        profile.share[2 * pair] = share;
+        profile.share[2 * pair + 1] = share;
     }
     return profile;
 }

@@ -3,6 +3,7 @@
 #include "KxCropGeometry.h"
 
 #include <array>
+#include <cstdint>
 
 /// What a signal says along one axis of the whole picture: the share of its mass in each of equal bins. The sum is
 /// between 0 (says nothing) and 1 (says all it has to say).
@@ -22,7 +23,8 @@ struct KXSUBJECT_API KxSignalProfile {
     float Sum() const;
 };
 
-/// A profile kept for every sample of a long video: half the bytes, exact to 1/65535.
+/// A profile kept for every sample of a long video, in an eighth of the bytes: pairs of bins as one, each exact to
+/// 1/255 of the largest.
 class KXSUBJECT_API KxPackedProfile
 {
 public:
@@ -31,5 +33,6 @@ public:
     KxSignalProfile Unpacked() const;
 
 private:
-    std::array<std::uint16_t, KxSignalProfile::Bins> m_share{};
+    float m_largest = 0.0F;
+    std::array<std::uint8_t, KxSignalProfile::Bins / 2> m_pairs{};
 };

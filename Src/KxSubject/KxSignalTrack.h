@@ -29,7 +29,7 @@ public:
     /// What all signals say at one sample, weighed, seen from the shot of frames `first` up to and without `end`.
     KxSignalProfile EvidenceAt(std::size_t sample, std::int64_t first, std::int64_t end, KxAxis axis) const;
 
-    const std::vector<KxSignalSample>& Samples() const { return m_samples; }
+    const std::deque<KxSignalSample>& Samples() const { return m_samples; }
     const KxFaceTracks& Faces() const { return m_faces; }
     cv::Rect Content() const { return m_bars.Content(); }
 
@@ -51,7 +51,8 @@ private:
     KxMotionMap m_motion;
     KxSaliencyMap m_saliency;
     KxFaceTracks m_faces;
-    std::vector<KxSignalSample> m_samples;
+    /// A deque, as a vector would hold two copies of hours of samples while it grows.
+    std::deque<KxSignalSample> m_samples;
     std::deque<Picture> m_recent; ///< the newest last
     std::int64_t m_nextSlot = 0;  ///< samples are taken once in each slot of time
 };

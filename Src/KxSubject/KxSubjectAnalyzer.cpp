@@ -111,7 +111,7 @@ std::vector<KxSubjectAnalyzer::Impl::Shot> KxSubjectAnalyzer::Impl::Shots() cons
 std::vector<double> KxSubjectAnalyzer::Impl::CentresOf(const Shot& shot, const KxCropGeometry& geometry,
                                                        const KxCentreScore& score) const
 {
-    const std::vector<KxSignalSample>& samples = m_signals.Samples();
+    const std::deque<KxSignalSample>& samples = m_signals.Samples();
     const KxSubjectOptions::Reaction& reaction = m_options.For(m_request.speed);
     const double patience = reaction.holdSeconds / m_options.automatic.holdSeconds;
     const double costPerWidth = m_options.path.moveCost * patience * std::sqrt(m_options.sampling.samplesPerSecond);

@@ -21,14 +21,14 @@ std::vector<KxPictureChange> Calm(std::int64_t count)
     for (std::int64_t i = 0; i < count; ++i) {
         KxPictureChange change;
         change.frame = i;
-        change.grey = 1.0 + 0.1 * static_cast<double>(i % 3);
-        change.colour = 0.02;
+        change.grey = 1.0F + 0.1F * static_cast<float>(i % 3);
+        change.colour = 0.02F;
         changes.push_back(change);
     }
     return changes;
 }
 
-void Jump(std::vector<KxPictureChange>& changes, std::size_t at, double grey, double colour)
+void Jump(std::vector<KxPictureChange>& changes, std::size_t at, float grey, float colour)
 {
     changes[at].grey = grey;
     changes[at].colour = colour;
@@ -44,22 +44,22 @@ std::vector<std::int64_t> Find(const std::vector<KxPictureChange>& changes)
 TEST(KxShotDetector, AJumpOfBothSignalsIsACut)
 {
     auto changes = Calm(60);
-    Jump(changes, 30, 40.0, 0.6);
+    Jump(changes, 30, 40.0F, 0.6F);
     EXPECT_THAT(Find(changes), ElementsAre(30));
 }
 
 TEST(KxShotDetector, AJumpOfOneSignalAloneIsNone)
 {
     auto changes = Calm(60);
-    Jump(changes, 20, 40.0, 0.05);
-    Jump(changes, 40, 3.0, 0.6);
+    Jump(changes, 20, 40.0F, 0.05F);
+    Jump(changes, 40, 3.0F, 0.6F);
     EXPECT_THAT(Find(changes), IsEmpty());
 }
 
 TEST(KxShotDetector, AJumpUnderTheFloorIsNone)
 {
     auto changes = Calm(60);
-    Jump(changes, 30, 8.5, 0.17);
+    Jump(changes, 30, 8.5F, 0.17F);
     EXPECT_THAT(Find(changes), IsEmpty());
 }
 
@@ -67,25 +67,25 @@ TEST(KxShotDetector, AJumpThatIsUsualAroundItIsNone)
 {
     auto changes = Calm(60);
     for (KxPictureChange& change : changes) {
-        change.grey = 12.0;
-        change.colour = 0.2;
+        change.grey = 12.0F;
+        change.colour = 0.2F;
     }
-    Jump(changes, 30, 22.0, 0.38);
+    Jump(changes, 30, 22.0F, 0.38F);
     EXPECT_THAT(Find(changes), IsEmpty());
 }
 
 TEST(KxShotDetector, OfTwoNearCutsTheStrongerStays)
 {
     auto changes = Calm(60);
-    Jump(changes, 30, 30.0, 0.5);
-    Jump(changes, 33, 50.0, 0.7);
+    Jump(changes, 30, 30.0F, 0.5F);
+    Jump(changes, 33, 50.0F, 0.7F);
     EXPECT_THAT(Find(changes), ElementsAre(33));
 }
 
 TEST(KxShotDetector, ACutRightAfterTheFirstPictureIsNone)
 {
     auto changes = Calm(60);
-    Jump(changes, 2, 40.0, 0.6);
+    Jump(changes, 2, 40.0F, 0.6F);
     EXPECT_THAT(Find(changes), IsEmpty());
 }
 
@@ -95,7 +95,7 @@ TEST(KxShotDetector, FrameNumbersAreThoseOfThePictures)
     for (KxPictureChange& change : changes) {
         change.frame *= 4;
     }
-    Jump(changes, 30, 40.0, 0.6);
+    Jump(changes, 30, 40.0F, 0.6F);
     EXPECT_THAT(Find(changes), ElementsAre(120));
 }
 
