@@ -27,8 +27,9 @@ class Desktop:
         for name in ("QT_STYLE_OVERRIDE", "QT_QPA_PLATFORMTHEME", "QT_SCALE_FACTOR", "WAYLAND_DISPLAY"):
             self.environment.pop(name, None)
         self._start("openbox", ["--sm-disable"], self.environment)
-        self._start("picom", ["--backend", "xrender", "--config", "/dev/null"], self.environment)
-        self._wait_for_property("_NET_SUPPORTING_WM_CHECK")
+        self._start("picom", ["--backend", "xrender"], self.environment)
+        self._wait_for("the window manager", ["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"], "window id")
+        self._wait_for("the compositor", ["xwininfo", "-root", "-tree"], '"picom"')
         return self
 
     def __exit__(self, *_):
@@ -46,10 +47,9 @@ class Desktop:
         self.processes.append(subprocess.Popen([program] + arguments, env=environment, stdout=log, stderr=log,
                                                pass_fds=passed))
 
-    def _wait_for_property(self, name):
+    def _wait_for(self, what, command, sign):
         for _ in range(300):
-            answer = subprocess.run(["xprop", "-root", name], env=self.environment, capture_output=True, text=True)
-            if "window id" in answer.stdout:
+            if sign in subprocess.run(command, env=self.environment, capture_output=True, text=True).stdout:
                 return
             time.sleep(0.1)
-        raise AssertionError("the window manager did not start")
+        raise AssertionError(what + " did not start")

@@ -3,7 +3,7 @@
 import json
 import subprocess
 
-WIDTH, HEIGHT, RATE, FRAMES = 960, 540, 25, 100
+WIDTH, HEIGHT, RATE, FRAMES = 960, 540, 25, 400
 # The rows above the figure.
 TOP_ROWS = 60
 
@@ -18,7 +18,7 @@ def make(path):
                               f"setpts=N/{RATE}/TB,fps={RATE},format=yuv420p",
          "-f", "lavfi", "-i", f"color=c=red:size=70x300:rate={RATE}",
          "-f", "lavfi", "-i", "sine=frequency=440:sample_rate=48000",
-         "-filter_complex", "[0][1]overlay=x='120+150*t':y=160:eval=frame:shortest=1[v]",
+         "-filter_complex", "[0][1]overlay=x='120+40*t':y=160:eval=frame:shortest=1[v]",
          "-map", "[v]", "-map", "2", "-t", str(seconds), "-frames:v", str(FRAMES), "-c:v", "libx264", "-crf", "16",
          "-preset", "veryfast", "-c:a", "aac", path], check=True)
 

@@ -81,23 +81,28 @@ ExportCard::~ExportCard() = default;
 
 void ExportCard::InitLayout()
 {
+    // The cross, not the button around it, ends where the texts below end.
+    constexpr int aroundCrossPx = 5;
     auto* const head = new QHBoxLayout;
     head->setSpacing(8);
     head->addWidget(m_name, 1);
-    // The cross, not the button around it, stands on the line of the texts below.
     head->addWidget(m_cancel);
     auto* const foot = new QHBoxLayout;
+    foot->setContentsMargins(0, 0, aroundCrossPx, 0);
     foot->setSpacing(12);
     foot->addWidget(m_status, 1);
     for (QWidget* const end :
          {static_cast<QWidget*>(m_size), static_cast<QWidget*>(m_retry), static_cast<QWidget*>(m_show)}) {
         foot->addWidget(end, 0, Qt::AlignTop);
     }
+    auto* const middle = new QHBoxLayout;
+    middle->setContentsMargins(0, 0, aroundCrossPx, 0);
+    middle->addWidget(m_bar);
     auto* const column = new QVBoxLayout(this);
-    column->setContentsMargins(13, 8, 13, 10);
+    column->setContentsMargins(13, 8, 13 - aroundCrossPx, 10);
     column->setSpacing(6);
     column->addLayout(head);
-    column->addWidget(m_bar);
+    column->addLayout(middle);
     column->addLayout(foot);
 }
 

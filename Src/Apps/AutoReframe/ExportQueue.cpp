@@ -168,7 +168,7 @@ void ExportQueue::HandleProgress(int id, const std::shared_ptr<Mailbox>& mailbox
     item->progress = mailbox->progress;
     const qint64 elapsedMs = m_timer.elapsed();
     if (elapsedMs >= enoughToJudgeMs && item->progress > 0) {
-        item->secondsLeft = (elapsedMs * (whole - item->progress) / item->progress + 999) / 1000;
+        item->secondsLeft = 1 + elapsedMs * (whole - item->progress) / item->progress / 1000;
     }
     Q_EMIT sigChanged(id);
 }

@@ -132,7 +132,7 @@ void MainWindow::ConnectSignals()
     connect(m_import, &QAbstractButton::clicked, this, &MainWindow::ChooseFiles);
     connect(m_reframe, &QAbstractButton::clicked, this, &MainWindow::ReframeSelected);
     connect(new QShortcut(QKeySequence::Open, this), &QShortcut::activated, this, &MainWindow::ChooseFiles);
-    connect(new QShortcut(QKeySequence::Quit, this), &QShortcut::activated, this, &QWidget::close);
+    connect(new QShortcut(Qt::CTRL + Qt::Key_Q, this), &QShortcut::activated, this, &QWidget::close);
     connect(m_panel, &ExportPanel::sigShowInFolder, this, [this](const QString& path) { m_showFolder(path); });
 }
 

@@ -10,6 +10,7 @@
 #include <KxWidgets/KxFileDialog.h>
 
 #include <QApplication>
+#include <QDir>
 #include <QDropEvent>
 #include <QFileInfo>
 #include <QMimeData>
@@ -47,8 +48,9 @@ void MainWindow::ChooseFiles()
         Inform(m_studio.Sentence());
         return;
     }
+    const QString movies = QStandardPaths::writableLocation(QStandardPaths::MoviesLocation);
     const QString folder =
-        KxConfig::Instance().getDefaultImportDir(QStandardPaths::writableLocation(QStandardPaths::MoviesLocation));
+        KxConfig::Instance().getDefaultImportDir(QFileInfo(movies).isDir() ? movies : QDir::homePath());
     const QStringList chosen = KxFileDialog::getOpenFileNames(
         this, tr("Import"), folder, QStringLiteral("%1(%2;)").arg(tr("All supported files"), studio->ImportPatterns()));
     if (!chosen.isEmpty()) {

@@ -7,6 +7,18 @@
 
 #include <algorithm>
 
+namespace
+{
+
+/// Two names of one file have one identity; a file that is not there has its name.
+QString Identity(const QString& path)
+{
+    const QFileInfo file(path);
+    return file.exists() ? file.canonicalFilePath() : file.absoluteFilePath();
+}
+
+} // namespace
+
 MediaLibraryModel::MediaLibraryModel(QObject* parent)
     : QAbstractListModel(parent)
 {
@@ -74,9 +86,9 @@ QModelIndex MediaLibraryModel::IndexOf(int id) const
 
 QModelIndex MediaLibraryModel::IndexOfPath(const QString& path) const
 {
-    const QFileInfo wanted(path);
+    const QString wanted = Identity(path);
     for (int row = 0; row < Count(); ++row) {
-        if (QFileInfo(m_entries[static_cast<size_t>(row)].path) == wanted) {
+        if (Identity(m_entries[static_cast<size_t>(row)].path) == wanted) {
             return index(row);
         }
     }

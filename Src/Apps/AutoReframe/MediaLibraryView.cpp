@@ -18,9 +18,8 @@ namespace
 
 using KxUIStyle::Role;
 
+// None at the right: the scroll bar stands there.
 constexpr int MarginPx = 12;
-// The scroll bar stands in the margin, so that its coming and going moves no card.
-constexpr int ScrollBarPx = 10;
 constexpr int CardRadiusPx = 8;
 
 } // namespace
@@ -42,7 +41,7 @@ MediaLibraryView::MediaLibraryView(MediaLibraryModel& model, QWidget* parent)
     verticalScrollBar()->setSingleStep(MediaCardDelegate::CellSize().height() / 4);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setFrameShape(QFrame::NoFrame);
-    setViewportMargins(MarginPx, MarginPx, MarginPx - ScrollBarPx, 0);
+    setViewportMargins(MarginPx, MarginPx, 0, 0);
     setMouseTracking(true);
     setTabKeyNavigation(false);
     setProperty("focusRingRadius", CardRadiusPx);

@@ -36,7 +36,8 @@ int main(int argc, char** argv)
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
 #if defined(Q_OS_WIN)
-    // Screens there are scaled by quarters, all of them sharp; elsewhere factors such as 1.04 come from a monitor's size.
+    // Screens there are scaled by quarters, all of them sharp; elsewhere factors such as 1.04 come from a monitor's
+    // size.
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
 #endif
     QApplication application(argc, argv);

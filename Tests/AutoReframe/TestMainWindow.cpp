@@ -1,0 +1,343 @@
+#include "ExportQueue.h"
+#include "FakeStudio.h"
+#include "MainWindow.h"
+#include "MediaLibraryView.h"
+#include "StudioLoader.h"
+
+#include <KxWidgets/KrMessageDialog.h>
+#include <KxWidgets/KxFileDialog.h>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QDir>
+#include <QDropEvent>
+#include <QLabel>
+#include <QMimeData>
+#include <QProgressBar>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QUrl>
+
+#include <gtest/gtest.h>
+
+namespace
+{
+
+class TestMainWindow : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        qputenv("KX_CONFIG_FILE", m_folder.filePath(QStringLiteral("config.ini")).toLocal8Bit());
+        KrMessageDialog::SetResponder([this](const KrMessageDialog::Shown& shown) {
+            m_told += shown.text;
+            return m_answer;
+        });
+        m_window = std::make_unique<MainWindow>(m_loader);
+        m_window->SetFolderShower([this](const QString& path) { m_shownFiles += path; });
+        m_window->show();
+    }
+    void TearDown() override
+    {
+        m_window.reset();
+        KrMessageDialog::SetResponder({});
+        KxFileDialog::SetResponder({});
+        qputenv("KX_CONFIG_FILE", m_folder.filePath(QStringLiteral("none.ini")).toLocal8Bit());
+    }
+
+    template<typename T>
+    T* Child(const char* name) const
+    {
+        return m_window->findChild<T*>(QLatin1String(name));
+    }
+    QString Text(const char* name) const { return Child<QLabel>(name)->text(); }
+    QAbstractButton* Button(const char* name) const { return Child<QAbstractButton>(name); }
+    MediaLibraryView* View() const { return Child<MediaLibraryView>("MediaLibrary"); }
+
+    void Open(const QStringList& names)
+    {
+        QStringList paths;
+        for (const QString& name : names) {
+            paths += m_folder.filePath(name);
+        }
+        m_window->Open(paths);
+    }
+    bool WaitForStatus(const QString& text) const
+    {
+        return QTest::qWaitFor([&] { return Text("StatusBar_text") == text; }, 10000);
+    }
+    bool WaitUntilUsable() const
+    {
+        return QTest::qWaitFor([&] { return Button("TopBar_reframe")->isEnabled(); }, 10000);
+    }
+    ExportOrder Order(const QString& name) const
+    {
+        ExportOrder order;
+        order.filePath = m_folder.filePath(name);
+        order.resolution = QSize(608, 1080);
+        return order;
+    }
+    void OrderInDialog(const QString& name)
+    {
+        m_studio->inDialog = [this, name](const ReframeCallbacks& callbacks) { callbacks.ordered(Order(name)); };
+        Button("TopBar_reframe")->click();
+    }
+    bool WaitForCard(const QString& status) const
+    {
+        return QTest::qWaitFor([&] { return Text("ExportCard_status") == status; }, 10000);
+    }
+
+    QTemporaryDir m_folder;
+    std::shared_ptr<FakeStudio> m_studio = std::make_shared<FakeStudio>();
+    StudioLoader m_loader{[this] { return KxResult<std::shared_ptr<Studio>>(m_studio); }, nullptr};
+    QStringList m_told;
+    bool m_answer = false;
+    QStringList m_shownFiles;
+    std::unique_ptr<MainWindow> m_window;
+};
+
+} // namespace
+
+TEST_F(TestMainWindow, StartsEmptyAndWithoutTheStudio)
+{
+    EXPECT_EQ(Text("StatusBar_text"), QStringLiteral("No videos yet"));
+    EXPECT_FALSE(Button("TopBar_reframe")->isEnabled());
+    EXPECT_TRUE(Button("TopBar_import")->isEnabled());
+    QApplication::processEvents();
+    EXPECT_EQ(m_loader.IfThere(), nullptr);
+}
+
+TEST_F(TestMainWindow, TellsOnceThatItIsPainted)
+{
+    int painted = 0;
+    QObject::connect(m_window.get(), &MainWindow::sigPainted, m_window.get(), [&painted] { ++painted; });
+    ASSERT_TRUE(QTest::qWaitFor([&] { return painted > 0; }));
+    m_window->repaint();
+    QApplication::processEvents();
+    EXPECT_EQ(painted, 1);
+}
+
+TEST_F(TestMainWindow, OpenedFilesAreThereAtOnceAndSelected)
+{
+    Open({QStringLiteral("a.mp4"), QStringLiteral("b.mov")});
+    EXPECT_EQ(View()->model()->rowCount(), 3);
+    EXPECT_EQ(View()->SelectedVideos().size(), 2);
+    EXPECT_TRUE(WaitUntilUsable());
+    EXPECT_FALSE(m_told.size());
+}
+
+TEST_F(TestMainWindow, FilesThatCannotBeOpenedAreToldInOneNotice)
+{
+    Open({QStringLiteral("bad1.mp4"), QStringLiteral("a.mp4"), QStringLiteral("bad2.mp4")});
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !m_told.isEmpty(); }, 10000));
+    EXPECT_EQ(m_told,
+              QStringList(QStringLiteral("Cannot open bad1.mp4: it is bad.\nCannot open bad2.mp4: it is bad.")));
+    EXPECT_EQ(View()->model()->rowCount(), 2);
+}
+
+TEST_F(TestMainWindow, AFileComesIntoTheLibraryOnce)
+{
+    Open({QStringLiteral("a.mp4"), QStringLiteral("a.mp4")});
+    ASSERT_TRUE(WaitUntilUsable());
+    Open({QStringLiteral("b.mp4")});
+    Open({QStringLiteral("a.mp4")});
+    EXPECT_EQ(View()->model()->rowCount(), 3);
+    ASSERT_EQ(View()->SelectedVideos().size(), 1);
+    EXPECT_EQ(View()->SelectedVideos().first().data().toString(), QStringLiteral("a.mp4"));
+}
+
+TEST_F(TestMainWindow, ImportRemembersTheFolder)
+{
+    QDir(m_folder.path()).mkdir(QStringLiteral("holiday"));
+    QStringList folders;
+    KxFileDialog::SetResponder([&](const KxFileDialog::Shown& shown) {
+        folders += shown.folder;
+        EXPECT_EQ(shown.filter, QStringLiteral("All supported files(*.mp4;*.mov;)"));
+        return QStringList(m_folder.filePath(QStringLiteral("holiday/a.mp4")));
+    });
+    Button("TopBar_import")->click();
+    Button("TopBar_import")->click();
+    ASSERT_EQ(folders.size(), 2);
+    EXPECT_TRUE(QFileInfo(folders.first()).isDir());
+    EXPECT_EQ(folders.last(), m_folder.filePath(QStringLiteral("holiday")));
+}
+
+TEST_F(TestMainWindow, DroppedFilesAreTakenAndOtherThingsRefused)
+{
+    QMimeData files;
+    files.setUrls({QUrl::fromLocalFile(m_folder.filePath(QStringLiteral("a.mp4")))});
+    QDragEnterEvent enter(QPoint(50, 50), Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(m_window.get(), &enter);
+    EXPECT_TRUE(enter.isAccepted());
+    QDropEvent drop(QPointF(50, 50), Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(m_window.get(), &drop);
+    EXPECT_TRUE(WaitForStatus(QStringLiteral("1 videos · 1 selected")));
+
+    QMimeData text;
+    text.setText(QStringLiteral("no file"));
+    QDragEnterEvent other(QPoint(50, 50), Qt::CopyAction, &text, Qt::LeftButton, Qt::NoModifier);
+    other.ignore();
+    QApplication::sendEvent(m_window.get(), &other);
+    EXPECT_FALSE(other.isAccepted());
+}
+
+TEST_F(TestMainWindow, DeleteRemovesTheSelection)
+{
+    Open({QStringLiteral("a.mp4"), QStringLiteral("b.mp4"), QStringLiteral("c.mp4")});
+    ASSERT_TRUE(WaitUntilUsable());
+    View()->selectionModel()->select(View()->model()->index(1, 0), QItemSelectionModel::Deselect);
+    QTest::keyClick(View(), Qt::Key_Delete);
+    EXPECT_EQ(Text("StatusBar_text").left(1), QStringLiteral("1"));
+    EXPECT_EQ(View()->model()->index(0, 0).data().toString(), QStringLiteral("b.mp4"));
+    View()->selectAll();
+    QTest::keyClick(View(), Qt::Key_Delete);
+    EXPECT_EQ(View()->model()->rowCount(), 0);
+    EXPECT_FALSE(Button("TopBar_reframe")->isEnabled());
+}
+
+TEST_F(TestMainWindow, SelectionButtonReturnAndDoubleClickOpenTheDialog)
+{
+    Open({QStringLiteral("a.mp4"), QStringLiteral("b.mp4")});
+    ASSERT_TRUE(WaitUntilUsable());
+    ASSERT_TRUE(QTest::qWaitFor([&] {
+        return View()
+            ->model()
+            ->index(1, 0)
+            .data(Qt::AccessibleDescriptionRole)
+            .toString()
+            .endsWith(QLatin1String("fps"));
+    }));
+    Button("TopBar_reframe")->click();
+    EXPECT_EQ(m_studio->reframed, (QStringList{QStringLiteral("a.mp4"), QStringLiteral("b.mp4")}));
+    View()->setCurrentIndex(View()->model()->index(1, 0));
+    QTest::keyClick(View(), Qt::Key_Return);
+    EXPECT_EQ(m_studio->reframed, QStringList(QStringLiteral("b.mp4")));
+    const QPoint card = View()->visualRect(View()->model()->index(0, 0)).center();
+    QTest::mouseClick(View()->viewport(), Qt::LeftButton, Qt::NoModifier, card);
+    QTest::mouseDClick(View()->viewport(), Qt::LeftButton, Qt::NoModifier, card);
+    EXPECT_EQ(m_studio->reframed, QStringList(QStringLiteral("a.mp4")));
+    EXPECT_EQ(m_studio->dialogs, 3);
+}
+
+TEST_F(TestMainWindow, NoSecondDialogOpensOverTheFirst)
+{
+    Open({QStringLiteral("a.mp4")});
+    ASSERT_TRUE(WaitUntilUsable());
+    m_studio->inDialog = [this](const ReframeCallbacks&) { Button("TopBar_reframe")->click(); };
+    Button("TopBar_reframe")->click();
+    EXPECT_EQ(m_studio->dialogs, 1);
+}
+
+TEST_F(TestMainWindow, AWeakMachineIsToldByTheProgram)
+{
+    Open({QStringLiteral("a.mp4")});
+    ASSERT_TRUE(WaitUntilUsable());
+    m_studio->inDialog = [](const ReframeCallbacks& callbacks) { callbacks.unsupported(); };
+    Button("TopBar_reframe")->click();
+    ASSERT_EQ(m_told.size(), 1);
+    EXPECT_TRUE(m_told.first().startsWith(QLatin1String("This computer may be too slow")));
+}
+
+TEST_F(TestMainWindow, AnExportGoesThroughItsStatesOnItsCard)
+{
+    Open({QStringLiteral("a.mp4")});
+    ASSERT_TRUE(WaitUntilUsable());
+    OrderInDialog(QStringLiteral("out.mp4"));
+    EXPECT_EQ(Text("ExportCard_name"), QStringLiteral("out.mp4"));
+    EXPECT_EQ(Text("ExportCard_size"), QStringLiteral("608 × 1080"));
+    m_studio->task->callbacks.progress(6250);
+    ASSERT_TRUE(WaitForCard(QStringLiteral("62 %")));
+    EXPECT_EQ(Child<QProgressBar>("ExportCard_progress")->value(), 6250);
+
+    QFile written(m_folder.filePath(QStringLiteral("out.mp4")));
+    ASSERT_TRUE(written.open(QIODevice::WriteOnly) && written.resize(34LL * 1024 * 1024));
+    m_studio->task->EndWell();
+    ASSERT_TRUE(WaitForCard(QStringLiteral("Done · 34 MB")));
+    EXPECT_FALSE(Button("ExportCard_cancel")->isVisible());
+    Button("ExportCard_show")->click();
+    EXPECT_EQ(m_shownFiles, QStringList(written.fileName()));
+    Button("ExportPanel_clear")->click();
+    EXPECT_TRUE(Child<QLabel>("ExportPanel_hint")->isVisible());
+}
+
+TEST_F(TestMainWindow, AFailedExportShowsItsReasonAndIsTriedAgain)
+{
+    Open({QStringLiteral("a.mp4")});
+    ASSERT_TRUE(WaitUntilUsable());
+    OrderInDialog(QStringLiteral("out.mp4"));
+    m_studio->task->End({KxOutcome::Failed, QStringLiteral("The disk is full."), QString(), QString()});
+    ASSERT_TRUE(WaitForCard(QStringLiteral("The disk is full.")));
+    EXPECT_EQ(Child<QLabel>("ExportCard_status")->property("textRole").toString(), QStringLiteral("error"));
+    Button("ExportCard_retry")->click();
+    EXPECT_NE(m_studio->task, nullptr);
+    EXPECT_TRUE(WaitForCard(QStringLiteral("0 %")));
+}
+
+TEST_F(TestMainWindow, TheCrossCancelsAnExport)
+{
+    Open({QStringLiteral("a.mp4")});
+    ASSERT_TRUE(WaitUntilUsable());
+    OrderInDialog(QStringLiteral("out.mp4"));
+    Button("ExportCard_cancel")->click();
+    EXPECT_TRUE(WaitForCard(QStringLiteral("Cancelled")));
+    EXPECT_TRUE(Button("ExportCard_retry")->isVisible());
+}
+
+TEST_F(TestMainWindow, QuittingAsksWhileExportsRun)
+{
+    Open({QStringLiteral("a.mp4")});
+    ASSERT_TRUE(WaitUntilUsable());
+    OrderInDialog(QStringLiteral("out.mp4"));
+    EXPECT_FALSE(m_window->close());
+    EXPECT_TRUE(m_window->isVisible());
+    EXPECT_EQ(m_told.size(), 1);
+    m_answer = true;
+    EXPECT_TRUE(m_window->close());
+    EXPECT_TRUE(m_studio->task->isCancelled);
+}
+
+TEST_F(TestMainWindow, QuittingWithNothingToLoseAsksNothing)
+{
+    EXPECT_TRUE(m_window->close());
+    EXPECT_TRUE(m_told.isEmpty());
+}
+
+TEST_F(TestMainWindow, ItsSizeIsRemembered)
+{
+    m_window->resize(900, 600);
+    ASSERT_TRUE(m_window->close());
+    MainWindow again(m_loader);
+    EXPECT_EQ(again.size(), QSize(900, 600));
+}
+
+TEST_F(TestMainWindow, AStudioThatCannotBeLoadedIsTold)
+{
+    StudioLoader broken(
+        [] { return KxResult<std::shared_ptr<Studio>>::Failure(QStringLiteral("Cannot load the video engine.")); },
+        nullptr);
+    MainWindow window(broken);
+    window.Open({m_folder.filePath(QStringLiteral("a.mp4"))});
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !m_told.isEmpty(); }, 10000));
+    EXPECT_EQ(m_told, QStringList(QStringLiteral("Cannot load the video engine.")));
+}
+
+TEST_F(TestMainWindow, EveryControlHasANameAndIsReachedWithTab)
+{
+    Open({QStringLiteral("a.mp4")});
+    ASSERT_TRUE(WaitUntilUsable());
+    OrderInDialog(QStringLiteral("out.mp4"));
+    QApplication::setActiveWindow(m_window.get());
+    QSet<QWidget*> reached;
+    Button("TopBar_import")->setFocus();
+    while (!reached.contains(QApplication::focusWidget())) {
+        reached.insert(QApplication::focusWidget());
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    }
+    EXPECT_TRUE(reached.contains(View()));
+    for (const QAbstractButton* const button : m_window->findChildren<QAbstractButton*>()) {
+        EXPECT_FALSE(button->objectName().isEmpty());
+        if (button->isVisible() && button->isEnabled()) {
+            EXPECT_TRUE(reached.contains(const_cast<QAbstractButton*>(button))) << button->objectName().toStdString();
+        }
+    }
+}
