@@ -79,6 +79,13 @@ KxShotDetector::Histogram KxShotDetector::ColoursOf(const cv::Mat& small)
     return histogram;
 }
 
+void KxShotDetector::Reserve(std::int64_t pictures)
+{
+    // A header may claim anything: more than four hours grow as they come.
+    constexpr std::int64_t mostPictures = 500000;
+    m_changes.reserve(static_cast<std::size_t>(std::clamp<std::int64_t>(pictures, 0, mostPictures)));
+}
+
 void KxShotDetector::AddPicture(std::int64_t frame, const cv::Mat& picture)
 {
     cv::Mat small;

@@ -27,6 +27,9 @@ class KXSUBJECT_API KxShotDetector
 public:
     explicit KxShotDetector(const KxSubjectOptions::Shots& options);
 
+    /// Makes room for so many pictures at once.
+    void Reserve(std::int64_t pictures);
+
     /// `picture` is CV_8UC3 in BGR order, of any size; `frame` grows from call to call.
     void AddPicture(std::int64_t frame, const cv::Mat& picture);
 

@@ -17,6 +17,14 @@ KxSignalTrack::KxSignalTrack(const KxSubjectOptions& options, cv::Size picturePx
 {
 }
 
+void KxSignalTrack::Reserve(std::int64_t frameCount)
+{
+    // A header may claim anything: more than four hours grow as they come.
+    constexpr double mostSamples = 160000.0;
+    const double samples = SecondsAt(frameCount) * m_options.sampling.samplesPerSecond + 1.0;
+    m_samples.reserve(static_cast<std::size_t>(std::min(samples, mostSamples)));
+}
+
 void KxSignalTrack::AddPicture(std::int64_t frame, const cv::Mat& picture)
 {
     cv::Mat grey;
@@ -68,7 +76,7 @@ void KxSignalTrack::TakeSample(std::int64_t frame, const cv::Mat& picture, const
 const KxSignalSample* KxSignalTrack::WithMotion(std::size_t sample, std::int64_t first, std::int64_t end) const
 {
     const auto isGood = [first](const KxSignalSample& other) {
-        return other.motionSince.has_value() && *other.motionSince >= first;
+        return other.motionSince != KxSignalSample::NoMotion && other.motionSince >= first;
     };
     for (std::size_t i = sample; i < m_samples.size() && m_samples[i].frame < end; ++i) {
         if (isGood(m_samples[i])) {

@@ -6,11 +6,14 @@
 #include "KxSaliencyMap.h"
 
 #include <deque>
+#include <vector>
 
 /// What was measured at one sampled picture, along both axes.
 struct KxSignalSample {
+    static constexpr std::int64_t NoMotion = -1; ///< no motion was measured
+
     std::int64_t frame = 0;
-    std::optional<std::int64_t> motionSince; ///< the earlier picture of the motion map; none: no motion was measured
+    std::int64_t motionSince = NoMotion;     ///< the earlier picture of the motion map
     std::array<KxPackedProfile, 2> motion;   ///< by axis
     std::array<KxPackedProfile, 2> saliency; ///< by axis
 };
@@ -23,13 +26,17 @@ public:
     KxSignalTrack(const KxSubjectOptions& options, cv::Size picturePx, double frameRate,
                   const std::string& faceModelPath);
 
+    /// Makes room for the samples of so many frames at once: hours of them stay in one piece, which does not hold back
+    /// the memory of pictures that come and go.
+    void Reserve(std::int64_t frameCount);
+
     /// `picture` is CV_8UC3 (BGR) of the size given at the start; `frame` grows from call to call.
     void AddPicture(std::int64_t frame, const cv::Mat& picture);
 
     /// What all signals say at one sample, weighed, seen from the shot of frames `first` up to and without `end`.
     KxSignalProfile EvidenceAt(std::size_t sample, std::int64_t first, std::int64_t end, KxAxis axis) const;
 
-    const std::deque<KxSignalSample>& Samples() const { return m_samples; }
+    const std::vector<KxSignalSample>& Samples() const { return m_samples; }
     const KxFaceTracks& Faces() const { return m_faces; }
     cv::Rect Content() const { return m_bars.Content(); }
 
@@ -51,8 +58,7 @@ private:
     KxMotionMap m_motion;
     KxSaliencyMap m_saliency;
     KxFaceTracks m_faces;
-    /// A deque, as a vector would hold two copies of hours of samples while it grows.
-    std::deque<KxSignalSample> m_samples;
+    std::vector<KxSignalSample> m_samples;
     std::deque<Picture> m_recent; ///< the newest last
     std::int64_t m_nextSlot = 0;  ///< samples are taken once in each slot of time
 };

@@ -47,6 +47,8 @@ public:
         , m_step(std::max<std::int64_t>(1, static_cast<std::int64_t>(std::floor(
                                                m_request.frameRate / options.sampling.wantedPicturesPerSecond + 0.01))))
     {
+        m_shots.Reserve(m_request.frameCount);
+        m_signals.Reserve(m_request.frameCount);
     }
 
     cv::Size WorkingSize() const { return m_workingSize; }
@@ -111,7 +113,7 @@ std::vector<KxSubjectAnalyzer::Impl::Shot> KxSubjectAnalyzer::Impl::Shots() cons
 std::vector<double> KxSubjectAnalyzer::Impl::CentresOf(const Shot& shot, const KxCropGeometry& geometry,
                                                        const KxCentreScore& score) const
 {
-    const std::deque<KxSignalSample>& samples = m_signals.Samples();
+    const std::vector<KxSignalSample>& samples = m_signals.Samples();
     const KxSubjectOptions::Reaction& reaction = m_options.For(m_request.speed);
     const double patience = reaction.holdSeconds / m_options.automatic.holdSeconds;
     const double costPerWidth = m_options.path.moveCost * patience * std::sqrt(m_options.sampling.samplesPerSecond);
