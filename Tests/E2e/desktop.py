@@ -14,7 +14,8 @@ class Desktop:
     def __enter__(self):
         read_end, write_end = os.pipe()
         # The server chooses a free number and says it once it takes clients.
-        self._start("Xvfb", ["-displayfd", str(write_end), "-screen", "0", self.size + "x24", "-dpi", "96"],
+        # Without -noreset it begins anew, and turns clients away, whenever its last client leaves.
+        self._start("Xvfb", ["-displayfd", str(write_end), "-noreset", "-screen", "0", self.size + "x24", "-dpi", "96"],
                     os.environ, (write_end,))
         os.close(write_end)
         with os.fdopen(read_end) as answer:
@@ -23,7 +24,7 @@ class Desktop:
         runtime = os.path.join(self.folder, "runtime")
         os.makedirs(runtime, mode=0o700, exist_ok=True)
         self.environment = dict(os.environ, DISPLAY=":" + number, XDG_RUNTIME_DIR=runtime, QT_QPA_PLATFORM="xcb",
-                                QT_FONT_DPI="96", QT_ACCESSIBILITY="0")
+                                QT_FONT_DPI="96", QT_ACCESSIBILITY="0", DBUS_SESSION_BUS_ADDRESS="disabled:")
         for name in ("QT_STYLE_OVERRIDE", "QT_QPA_PLATFORMTHEME", "QT_SCALE_FACTOR", "WAYLAND_DISPLAY"):
             self.environment.pop(name, None)
         self._start("openbox", ["--sm-disable"], self.environment)

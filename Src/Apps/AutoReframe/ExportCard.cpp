@@ -32,6 +32,9 @@ KxLabel* MakeSmall(QWidget* parent, const QString& name)
     font.setPixelSize(SmallPx);
     label->setFont(font);
     label->setProperty("textRole", QStringLiteral("muted"));
+    // As much as a link button has around its text, so that both stand on one line.
+    label->setContentsMargins(0, 4, 0, 4);
+    label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     return label;
 }
 
@@ -99,8 +102,8 @@ void ExportCard::InitLayout()
     middle->setContentsMargins(0, 0, aroundCrossPx, 0);
     middle->addWidget(m_bar);
     auto* const column = new QVBoxLayout(this);
-    column->setContentsMargins(13, 8, 13 - aroundCrossPx, 10);
-    column->setSpacing(6);
+    column->setContentsMargins(13, 8, 13 - aroundCrossPx, 7);
+    column->setSpacing(3);
     column->addLayout(head);
     column->addLayout(middle);
     column->addLayout(foot);

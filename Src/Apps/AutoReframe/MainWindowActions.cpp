@@ -117,6 +117,7 @@ void MainWindow::Reframe(const QModelIndexList& videos)
     };
     m_studio.Get()->Reframe(media, *this, callbacks);
     m_isReframing = false;
+    activateWindow();
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event)

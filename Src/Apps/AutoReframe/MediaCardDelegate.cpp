@@ -13,7 +13,7 @@ namespace
 using KxUIStyle::Role;
 
 constexpr QSize CardPx(188, 160);
-constexpr int GapPx = 16;
+constexpr int GapPx = 15;
 constexpr int PictureHeightPx = 106; // 16:9 of the card's width
 constexpr qreal RadiusPx = 8.0;
 constexpr int TextMarginPx = 12;

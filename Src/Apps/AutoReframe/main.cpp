@@ -33,6 +33,10 @@ int main(int argc, char** argv)
         return *PrintAndEnd(early);
     }
 
+    // Nothing here is drawn with OpenGL, and loading its driver takes longer than all the rest of the start.
+    if (!qEnvironmentVariableIsSet("QT_XCB_GL_INTEGRATION")) {
+        qputenv("QT_XCB_GL_INTEGRATION", "none");
+    }
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
 #if defined(Q_OS_WIN)
