@@ -8,10 +8,12 @@
 namespace
 {
 
-// What the offscreen platform says of itself, whatever the program does.
+// What the offscreen platform says of itself, and Qt's sound plugin of a machine without a sound server, whatever the
+// program does.
 bool IsThePlatforms(const QString& text)
 {
-    return text.startsWith(QLatin1String("This plugin does not support "));
+    return text.startsWith(QLatin1String("This plugin does not support ")) ||
+           text.startsWith(QLatin1String("PulseAudioService: "));
 }
 
 // A warning that nobody expected is a fault that nobody looked for.
