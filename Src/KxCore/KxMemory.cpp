@@ -12,3 +12,11 @@ void KxMemory::ReturnUnused()
     malloc_trim(0);
 #endif
 }
+
+void KxMemory::KeepNoPictures()
+{
+#if defined(__GLIBC__)
+    constexpr int smallestPictureBytes = 512 * 1024;
+    mallopt(M_MMAP_THRESHOLD, smallestPictureBytes);
+#endif
+}

@@ -1,5 +1,7 @@
 #include "KxOutputFile.h"
 
+#include "KxSystemError.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -22,6 +24,27 @@ std::filesystem::path ToNative(const QString& path)
 QString CannotWrite(const QString& path, const QString& reason)
 {
     return QStringLiteral("Cannot write %1: %2.").arg(path, reason);
+}
+
+QString Meaning(const std::error_code& problem)
+{
+    const QString text = KxSystemErrorText(problem);
+    return text.isEmpty() ? QString::fromStdString(problem.message()).toLower() : text;
+}
+
+/// A name that cannot be is found out before the work, not after it. What is no file (a device …) stays.
+KxError ReasonNotToReplace(const QString& path)
+{
+    std::error_code problem;
+    const std::filesystem::file_status existing = std::filesystem::status(ToNative(path), problem);
+    if (problem == std::errc::filename_too_long) {
+        return Meaning(problem);
+    }
+    if (std::filesystem::is_directory(existing)) {
+        return QStringLiteral("it is a folder");
+    }
+    const bool isOther = std::filesystem::exists(existing) && !std::filesystem::is_regular_file(existing);
+    return isOther ? KxError(QStringLiteral("it is not a regular file")) : std::nullopt;
 }
 
 /// Reserves the name by an empty file; false when there is already something of that name, or it cannot be made.
@@ -83,13 +106,13 @@ KxResult<std::unique_ptr<KxOutputFile>> KxOutputFile::Create(const QString& targ
     if (!folder.isDir()) {
         return Created::Failure(CannotWrite(targetPath, QStringLiteral("%1 is not a folder").arg(folder.filePath())));
     }
-    if (target.isDir()) {
-        return Created::Failure(CannotWrite(targetPath, QStringLiteral("it is a folder")));
+    if (const KxError reason = ReasonNotToReplace(target.absoluteFilePath())) {
+        return Created::Failure(CannotWrite(targetPath, *reason));
     }
     QTemporaryFile temporary(folder.filePath() + QStringLiteral("/.auto-reframe-XXXXXX.part"));
     temporary.setAutoRemove(false);
     if (!temporary.open()) {
-        return Created::Failure(CannotWrite(targetPath, temporary.errorString().toLower()));
+        return Created::Failure(CannotWrite(targetPath, KxFileErrorText(temporary)));
     }
     // What a program writes for a person is as readable as any file of theirs; temporary files start private.
     temporary.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther);
@@ -109,7 +132,7 @@ KxResult<QString> KxOutputFile::Commit(Existing existing)
         if (existing == Existing::AddNumber) {
             QFile::remove(path);
         }
-        return KxResult<QString>::Failure(CannotWrite(path, QString::fromStdString(problem.message()).toLower()));
+        return KxResult<QString>::Failure(CannotWrite(path, Meaning(problem)));
     }
     m_temporaryPath.clear();
     return path;
@@ -124,7 +147,7 @@ KxResult<QString> KxOutputFile::Write(const QString& targetPath, const QByteArra
     QFile file((*output)->TemporaryPath());
     const bool written = file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.flush();
     if (!written) {
-        return KxResult<QString>::Failure(CannotWrite(targetPath, file.errorString().toLower()));
+        return KxResult<QString>::Failure(CannotWrite(targetPath, KxFileErrorText(file)));
     }
     file.close();
     return (*output)->Commit(existing);

@@ -10,7 +10,7 @@ template<typename T>
 class KxResult
 {
 public:
-    KxResult(T value)
+    KxResult(T value) // NOLINT(google-explicit-constructor): functions return their values as they are
         : m_value(std::move(value))
     {
     }

@@ -1,36 +1,20 @@
 #include "KxAvError.h"
 
+#include "KxSystemError.h"
+
 extern "C" {
 #include <libavutil/error.h>
 }
 
 #include <array>
-#include <cerrno>
 
 QString KxAvErrorText(int error)
 {
+    const QString text = KxSystemErrorText(std::error_code(AVUNERROR(error), std::generic_category()));
+    if (!text.isEmpty()) {
+        return text;
+    }
     switch (error) {
-    case AVERROR(ENOSPC):
-#ifdef EDQUOT
-    case AVERROR(EDQUOT):
-#endif
-        return QStringLiteral("the disk is full");
-    case AVERROR(EFBIG):
-        return QStringLiteral("the file would become too large for its disk");
-    case AVERROR(ENOENT):
-        return QStringLiteral("there is no such file");
-    case AVERROR(EACCES):
-    case AVERROR(EPERM):
-        return QStringLiteral("permission is denied");
-    case AVERROR(EROFS):
-        return QStringLiteral("the disk can only be read");
-    case AVERROR(EIO):
-        return QStringLiteral("the disk reports an error");
-    case AVERROR(ENOMEM):
-        return QStringLiteral("memory ran out");
-    case AVERROR(EMFILE):
-    case AVERROR(ENFILE):
-        return QStringLiteral("too many files are open");
     case AVERROR_EXIT:
         return QStringLiteral("it was cancelled");
     case AVERROR_EOF:
@@ -44,7 +28,7 @@ QString KxAvErrorText(int error)
     default:
         break;
     }
-    std::array<char, AV_ERROR_MAX_STRING_SIZE> text{};
-    av_strerror(error, text.data(), text.size());
-    return QString::fromLocal8Bit(text.data());
+    std::array<char, AV_ERROR_MAX_STRING_SIZE> message{};
+    av_strerror(error, message.data(), message.size());
+    return QString::fromLocal8Bit(message.data());
 }

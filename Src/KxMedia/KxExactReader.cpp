@@ -23,7 +23,7 @@ KxReadStatus KxExactReader::Read(qint64 frame, KxVideoFrame& picture)
     const bool isShown = !m_current.IsNull() && m_current.Index() <= wanted &&
                          (m_isAtEnd || (!m_ahead.IsNull() && wanted < m_ahead.Index()));
     KxReadStatus status = isShown ? KxReadStatus::Picture : GoTo(wanted, Haste::LeaveOut);
-    if (status == KxReadStatus::Picture && HasLeftOutTheAnswer(wanted)) {
+    if (status == KxReadStatus::Picture && MayHaveLeftOutTheAnswer()) {
         Forget();
         status = GoTo(wanted, Haste::Exact);
     }
@@ -142,6 +142,9 @@ KxReadStatus KxExactReader::DecodeUpTo(qint64 frame, Haste haste)
     const qint64 fullFrames = static_cast<qint64>(FullBeforeSeconds * grid.Rate().ToDouble()) + FewFrames;
     m_isAtStart = false;
     while (m_ahead.IsNull() || m_ahead.Index() <= frame) {
+        if (m_isUnwanted && m_isUnwanted()) {
+            return KxReadStatus::Cancelled;
+        }
         const std::optional<qint64> sent = m_source->Decoder().LastPacketTicks();
         const bool isFar = haste == Haste::LeaveOut && sent && grid.IndexOf(*sent) + fullFrames < frame;
         m_source->Decoder().SetSkip(isFar ? KxVideoDecoder::Skip::NonReference : KxVideoDecoder::Skip::Nothing);
@@ -166,9 +169,8 @@ void KxExactReader::NoteEnd()
     }
 }
 
-bool KxExactReader::HasLeftOutTheAnswer(qint64 frame) const
+bool KxExactReader::MayHaveLeftOutTheAnswer() const
 {
     const std::optional<qint64> leftOut = m_source->LatestSkippable();
-    return leftOut && m_source->Grid().IndexOf(*leftOut) > m_current.Index() &&
-           m_source->Grid().IndexOf(*leftOut) <= frame;
+    return leftOut && m_source->Grid().IndexOf(*leftOut) > m_current.Index();
 }

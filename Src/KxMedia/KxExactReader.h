@@ -2,6 +2,7 @@
 
 #include "KxVideoSource.h"
 
+#include <functional>
 #include <optional>
 
 /// Finds the picture of any frame of the grid.
@@ -25,6 +26,8 @@ public:
 
     const KxVideoSource& Source() const { return *m_source; }
     KxReadStatus Read(qint64 frame, KxVideoFrame& picture);
+    /// See KxVideoReader::GiveUpWhen().
+    void GiveUpWhen(std::function<bool()> isUnwanted) { m_isUnwanted = std::move(isUnwanted); }
     /// The number of frames that could be decoded, where the stream ended early; nothing otherwise.
     const std::optional<qint64>& DecodedEnd() const { return m_decodedEnd; }
 
@@ -41,7 +44,9 @@ private:
     KxReadStatus DecodeUpTo(qint64 frame, Haste haste);
     KxReadStatus Advance();
     void NoteEnd();
-    bool HasLeftOutTheAnswer(qint64 frame) const;
+    /// A picture after the one that was found was left out. Which ones were is not kept, so each of them may show at
+    /// the frame: also one that is followed by others that were left out, where decoding was given up on its way.
+    bool MayHaveLeftOutTheAnswer() const;
     bool LacksTheEnd(qint64 frame) const;
 
     std::unique_ptr<KxVideoSource> m_source;
@@ -53,4 +58,5 @@ private:
     /// Of the first picture after the last seek; nothing when decoding began at the start.
     std::optional<qint64> m_landedIndex;
     std::optional<qint64> m_decodedEnd;
+    std::function<bool()> m_isUnwanted;
 };

@@ -28,8 +28,8 @@ using KxPlaneGeometry::Span;
 // nothing.
 double Snapped(double px)
 {
-    constexpr double StepsPerPixel = 4096.0;
-    return std::round(px * StepsPerPixel) / StepsPerPixel;
+    constexpr double stepsPerPixel = 4096.0;
+    return std::round(px * stepsPerPixel) / stepsPerPixel;
 }
 
 bool IsUsable(const QRectF& crop)

@@ -2,12 +2,14 @@
 
 #include "KxAvError.h"
 #include "KxAvLog.h"
+#include "KxClaimedSize.h"
 
 extern "C" {
 #include <libavutil/avstring.h>
 }
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 
 #include <algorithm>
@@ -28,6 +30,13 @@ constexpr std::chrono::seconds OpeningLimit{30};
 int RefuseOpening(AVFormatContext*, AVIOContext**, const char*, int, AVDictionary**)
 {
     return AVERROR(EPERM);
+}
+
+QByteArray Head(const QString& path)
+{
+    constexpr qint64 enough = 256;
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.read(enough) : QByteArray();
 }
 
 class Options
@@ -130,10 +139,9 @@ QString KxInputFile::Failure(int error) const
     if (error == AVERROR_EXIT) {
         return QStringLiteral("reading it takes too long");
     }
-    if (error == AVERROR_EOF || error == AVERROR_INVALIDDATA || error == AVERROR(EINVAL) || error == AVERROR(EPERM)) {
-        return QStringLiteral("it is damaged or incomplete");
-    }
-    return KxAvErrorText(error);
+    // Demuxers report whatever comes to hand where a file makes no sense.
+    const bool isNoFaultOfTheFile = error == AVERROR(ENOMEM) || error == AVERROR(EIO) || error == AVERROR_PATCHWELCOME;
+    return isNoFaultOfTheFile ? KxAvErrorText(error) : QStringLiteral("it is damaged or incomplete");
 }
 
 KxError KxInputFile::OpenFile()
@@ -156,12 +164,13 @@ KxError KxInputFile::OpenFile()
     if (m_fileSize == 0) {
         return QStringLiteral("it is empty");
     }
+    m_isCutOff = KxClaimedSize(Head(m_path)).value_or(0) > m_fileSize;
     Options options;
     options.Set("protocol_whitelist", "file");
     const QByteArray url = QByteArrayLiteral("file:") + info.absoluteFilePath().toUtf8();
     const AVIOInterruptCB interrupt{&IsInterrupted, &m_watch};
     const int error = avio_open2(&m_file, url.constData(), AVIO_FLAG_READ, &interrupt, options.Get());
-    return error < 0 ? KxError(Failure(error)) : KxError();
+    return error < 0 ? KxError(IsCancelled() ? Failure(error) : KxAvErrorText(error)) : KxError();
 }
 
 KxError KxInputFile::OpenContainer()

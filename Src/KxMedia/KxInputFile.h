@@ -31,6 +31,8 @@ public:
 
     const QString& Path() const { return m_path; }
     qint64 FileSize() const { return m_fileSize; }
+    /// The file says in front that it is longer than it is.
+    bool IsCutOff() const { return m_isCutOff; }
     AVFormatContext& Context() const { return *m_context; }
     /// The stream of moving pictures; null without one.
     AVStream* VideoStream() const { return m_videoStream; }
@@ -61,6 +63,7 @@ private:
 
     QString m_path;
     qint64 m_fileSize = 0;
+    bool m_isCutOff = false;
     Watch m_watch;
     AVIOContext* m_file = nullptr;
     KxAvInput m_context;

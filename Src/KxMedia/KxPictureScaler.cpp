@@ -1,6 +1,6 @@
 #include "KxPictureScaler.h"
 
-#include "KxAvHandles.h"
+#include "KxCoarsePicture.h"
 
 extern "C" {
 #include <libavutil/imgutils.h>
@@ -89,6 +89,11 @@ int MatrixOf(const AVFrame& picture)
 class KxPictureScaler::Impl
 {
 public:
+    explicit Impl(Detail detail)
+        : m_detail(detail)
+    {
+    }
+
     QImage Scale(const AVFrame& picture, const QSize& size, QImage::Format format);
 
 private:
@@ -108,6 +113,8 @@ private:
     };
     bool Prepare(const Key& key);
 
+    Detail m_detail;
+    KxCoarsePicture m_coarse;
     KxAvScaler m_scaler;
     Key m_key;
 };
@@ -118,9 +125,11 @@ bool KxPictureScaler::Impl::Prepare(const Key& key)
         return true;
     }
     const bool isSmaller = key.to.width() <= key.from.width() && key.to.height() <= key.from.height();
+    // The quickest conversion darkens by more than a step in 255, which is worth it for big pictures alone.
+    const int flags = (isSmaller ? SWS_AREA : SWS_BICUBIC) | (m_detail == Detail::Coarse ? SWS_ACCURATE_RND : 0);
     m_scaler.reset(sws_getContext(key.from.width(), key.from.height(), static_cast<AVPixelFormat>(key.fromFormat),
-                                  key.to.width(), key.to.height(), static_cast<AVPixelFormat>(key.toFormat),
-                                  isSmaller ? SWS_AREA : SWS_BICUBIC, nullptr, nullptr, nullptr));
+                                  key.to.width(), key.to.height(), static_cast<AVPixelFormat>(key.toFormat), flags,
+                                  nullptr, nullptr, nullptr));
     m_key = key;
     if (!m_scaler) {
         return false;
@@ -133,12 +142,14 @@ bool KxPictureScaler::Impl::Prepare(const Key& key)
 
 QImage KxPictureScaler::Impl::Scale(const AVFrame& picture, const QSize& size, QImage::Format format)
 {
-    const auto from = static_cast<AVPixelFormat>(picture.format);
+    const AVFrame* coarse = m_detail == Detail::Coarse ? m_coarse.Of(picture, size) : nullptr;
+    const AVFrame& source = coarse != nullptr ? *coarse : picture;
+    const auto from = static_cast<AVPixelFormat>(source.format);
     if (sws_isSupportedInput(from) == 0) {
         return {};
     }
     const int range = IsFullRange(picture) ? 1 : 0;
-    if (!Prepare({{picture.width, picture.height}, from, size, TargetFormat(format), MatrixOf(picture), range})) {
+    if (!Prepare({{source.width, source.height}, from, size, TargetFormat(format), MatrixOf(picture), range})) {
         return {};
     }
     QImage image = MakeImage(size, format);
@@ -147,7 +158,7 @@ QImage KxPictureScaler::Impl::Scale(const AVFrame& picture, const QSize& size, Q
     }
     uint8_t* const rows[4] = {image.bits(), nullptr, nullptr, nullptr};
     const int strides[4] = {image.bytesPerLine(), 0, 0, 0};
-    if (sws_scale(m_scaler.get(), picture.data, picture.linesize, 0, picture.height, rows, strides) <= 0) {
+    if (sws_scale(m_scaler.get(), source.data, source.linesize, 0, source.height, rows, strides) <= 0) {
         return {};
     }
     if (format == QImage::Format_RGB32 && MayBeTransparent(from)) {
@@ -156,8 +167,8 @@ QImage KxPictureScaler::Impl::Scale(const AVFrame& picture, const QSize& size, Q
     return image;
 }
 
-KxPictureScaler::KxPictureScaler()
-    : m_impl(std::make_unique<Impl>())
+KxPictureScaler::KxPictureScaler(Detail detail)
+    : m_impl(std::make_unique<Impl>(detail))
 {
 }
 

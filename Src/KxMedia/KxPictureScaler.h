@@ -9,7 +9,12 @@
 class KXMEDIA_API KxPictureScaler
 {
 public:
-    KxPictureScaler();
+    enum class Detail {
+        Full,
+        Coarse, ///< for machines to look at: of a picture made smaller, colours at half the size and not every row
+    };
+
+    explicit KxPictureScaler(Detail detail = Detail::Full);
     ~KxPictureScaler();
 
     /// `size` is that of the upright image, in pixels. `format` is one of QImage::Format_RGB32, Format_BGR888 and

@@ -41,11 +41,11 @@ template<typename Sample>
 void TurnPlane(const Sample* source, const Walk& walk, Sample* target, std::ptrdiff_t targetStride, int width,
                int height)
 {
-    constexpr int Square = 32;
-    for (int top = 0; top < height; top += Square) {
-        const int bottom = std::min(top + Square, height);
-        for (int left = 0; left < width; left += Square) {
-            const int right = std::min(left + Square, width);
+    constexpr int square = 32;
+    for (int top = 0; top < height; top += square) {
+        const int bottom = std::min(top + square, height);
+        for (int left = 0; left < width; left += square) {
+            const int right = std::min(left + square, width);
             for (int y = top; y < bottom; ++y) {
                 const Sample* from = source + walk.first + y * walk.down + left * walk.right;
                 Sample* to = target + y * targetStride + left;

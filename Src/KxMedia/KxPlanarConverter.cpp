@@ -21,11 +21,11 @@ AVPixelFormat FormatOf(const AVFrame& picture)
 
 bool IsPlanar(const AVPixFmtDescriptor& format)
 {
-    constexpr unsigned Unfit = AV_PIX_FMT_FLAG_RGB | AV_PIX_FMT_FLAG_PAL | AV_PIX_FMT_FLAG_BITSTREAM |
+    constexpr unsigned unfit = AV_PIX_FMT_FLAG_RGB | AV_PIX_FMT_FLAG_PAL | AV_PIX_FMT_FLAG_BITSTREAM |
                                AV_PIX_FMT_FLAG_HWACCEL | AV_PIX_FMT_FLAG_FLOAT | AV_PIX_FMT_FLAG_BAYER |
                                AV_PIX_FMT_FLAG_BE;
     const int components = std::min<int>(format.nb_components, 3);
-    if ((format.flags & Unfit) != 0 || components == 2) {
+    if ((format.flags & unfit) != 0 || components == 2) {
         return false;
     }
     for (int i = 0; i < components; ++i) {
@@ -41,10 +41,10 @@ bool IsPlanar(const AVPixFmtDescriptor& format)
 
 bool IsAligned(const AVFrame& picture)
 {
-    constexpr int Alignment = KxFramePool::AlignmentBytes;
+    constexpr int alignment = KxFramePool::AlignmentBytes;
     for (int plane = 0; plane < av_pix_fmt_count_planes(FormatOf(picture)); ++plane) {
-        if (reinterpret_cast<std::uintptr_t>(picture.data[plane]) % Alignment != 0 ||
-            picture.linesize[plane] % Alignment != 0) {
+        if (reinterpret_cast<std::uintptr_t>(picture.data[plane]) % alignment != 0 ||
+            picture.linesize[plane] % alignment != 0) {
             return false;
         }
     }

@@ -47,19 +47,19 @@ KxPlaneGeometry::Span KxPlaneGeometry::PlaneSpan(const Span& sourcePx, int targe
 
 KxPlaneGeometry::PlaneSampling KxPlaneGeometry::LeftSitedAfterTurn(const KxVideoFrame::Orientation& turn)
 {
-    constexpr Sampling Near{0.5, 2};
-    constexpr Sampling Middle{1.0, 2};
-    constexpr Sampling Far{1.5, 2};
-    PlaneSampling sampling{Near, Middle};
+    constexpr Sampling nearSide{0.5, 2};
+    constexpr Sampling middle{1.0, 2};
+    constexpr Sampling farSide{1.5, 2};
+    PlaneSampling sampling{nearSide, middle};
     switch (turn.clockwiseDegrees) {
     case 90:
-        sampling = {Middle, Far};
+        sampling = {middle, farSide};
         break;
     case 180:
-        sampling = {Far, Middle};
+        sampling = {farSide, middle};
         break;
     case 270:
-        sampling = {Middle, Near};
+        sampling = {middle, nearSide};
         break;
     default:
         break;

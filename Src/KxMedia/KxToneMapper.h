@@ -1,9 +1,6 @@
 #pragma once
 
-#include "KxAvHandles.h"
-#include "KxResult.h"
-
-#include <QSize>
+#include "KxFilterChain.h"
 
 /// Brings pictures of high dynamic range (PQ, HLG) into the range of BT.709. Keeps what it prepared for the last
 /// format. One thread at a time.
@@ -15,11 +12,5 @@ public:
     KxResult<KxAvFrame> Map(const AVFrame& picture);
 
 private:
-    KxError Prepare(const AVFrame& picture);
-
-    KxAvGraph m_graph;
-    AVFilterContext* m_source = nullptr;
-    AVFilterContext* m_sink = nullptr;
-    QSize m_size;
-    int m_format = AV_PIX_FMT_NONE;
+    std::optional<KxFilterChain> m_chain;
 };

@@ -10,9 +10,12 @@ namespace
 
 constexpr int MostErrorsInARow = 200;
 
-int ThreadCount()
+// Each thread beyond the first delays the first picture after a seek by one picture. Whoever runs through a file does
+// not mind, and two threads a core keep all of them busy while some wait for their neighbours.
+int ThreadCount(KxVideoDecoder::Effort effort)
 {
-    return static_cast<int>(std::clamp(std::thread::hardware_concurrency(), 2U, 4U));
+    const int cores = static_cast<int>(std::clamp(std::thread::hardware_concurrency(), 2U, 4U));
+    return effort == KxVideoDecoder::Effort::Full ? cores : 2 * cores;
 }
 
 std::optional<qint64> Known(int64_t ticks)
@@ -36,7 +39,7 @@ KxResult<std::unique_ptr<KxVideoDecoder>> KxVideoDecoder::Open(KxVideoPackets& p
         return Result::Failure(KxAvErrorText(AVERROR(ENOMEM)));
     }
     context->pkt_timebase = packets.TimeBase();
-    context->thread_count = ThreadCount();
+    context->thread_count = ThreadCount(effort);
     context->max_pixels = KxInputFile::LargestPicturePixels;
     if (effort == Effort::SkipLoopFilter) {
         context->skip_loop_filter = AVDISCARD_ALL;

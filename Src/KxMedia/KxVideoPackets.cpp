@@ -181,12 +181,23 @@ std::optional<KxVideoPackets::Tail> KxVideoPackets::FindTail()
     return Rewind() ? ReadToEnd() : std::nullopt;
 }
 
-// A file that was cut off, with its index in front: the index tells how long it was meant to be.
+// How long a file that was cut off was meant to be: as it states in front, or as its index there tells. An index that
+// grows while the file is read ends where the file does.
 std::optional<KxVideoPackets::Tail> KxVideoPackets::ClaimedTail() const
 {
+    if (!m_firstPacket) {
+        return std::nullopt;
+    }
     AVStream& stream = Stream();
+    if (m_input->IsCutOff()) {
+        const qint64 fileTicks = av_rescale_q(m_input->Context().duration, KxMicroseconds, m_timeBase);
+        const qint64 durationTicks = std::max<qint64>({fileTicks, stream.duration, stream.nb_frames * m_stepTicks});
+        if (durationTicks > m_stepTicks) {
+            return Tail{av_sat_add64(m_firstPacket->ticks, durationTicks - m_stepTicks), 0};
+        }
+    }
     const int entries = avformat_index_get_entries_count(&stream);
-    if (entries == 0 || !m_firstPacket) {
+    if (entries == 0) {
         return std::nullopt;
     }
     const AVIndexEntry& last = *avformat_index_get_entry(&stream, entries - 1);

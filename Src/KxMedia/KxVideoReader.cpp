@@ -38,6 +38,11 @@ KxReadStatus KxVideoReader::Read(qint64 frame, KxVideoFrame& picture)
     return m_impl->reader.Read(frame, picture);
 }
 
+void KxVideoReader::GiveUpWhen(std::function<bool()> isUnwanted)
+{
+    m_impl->reader.GiveUpWhen(std::move(isUnwanted));
+}
+
 bool KxVideoReader::EndedEarly() const
 {
     return m_impl->reader.DecodedEnd().has_value();

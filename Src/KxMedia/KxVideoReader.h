@@ -4,6 +4,7 @@
 #include "KxReadStatus.h"
 #include "KxVideoFrame.h"
 
+#include <functional>
 #include <memory>
 
 /// Reads any frame of a file, exactly. Frames asked for in ascending order are decoded in one go; any other request
@@ -20,6 +21,9 @@ public:
     /// The picture shown at `frame` (0-based; a frame past the end counts as the last one). Where decoding ended before
     /// `frame` the last picture that decoded is delivered and EndedEarly() becomes true.
     KxReadStatus Read(qint64 frame, KxVideoFrame& picture);
+    /// Asked before each picture that is decoded on the way to a frame; once it is true the read ends as cancelled, and
+    /// the next one goes on from where decoding stands. Empty: a read is never given up.
+    void GiveUpWhen(std::function<bool()> isUnwanted);
 
     /// Decoding ended, or failed for good, before the last frame of the grid; the loss of a picture or two at the very
     /// end, as where a camera was switched off, does not count.

@@ -57,6 +57,9 @@ KxError KxVideoSource::Prepare(std::unique_ptr<KxInputFile> input, KxVideoDecode
         return decoder.Sentence();
     }
     m_decoder = std::move(*decoder);
+    if (effort == KxVideoDecoder::Effort::Full) {
+        m_deinterlacer.emplace();
+    }
 
     KxVideoDecoder::Picture first;
     const KxReadStatus status = m_decoder->Next(first);
@@ -127,22 +130,47 @@ bool KxVideoSource::IsStillPicture() const
     return name == QLatin1String("avif") || name == QLatin1String("heic") || name == QLatin1String("mif1");
 }
 
+void KxVideoSource::Flush(KxVideoDecoder::Place place)
+{
+    m_decoder->Flush(place);
+    if (m_deinterlacer) {
+        m_deinterlacer->Reset();
+    }
+}
+
 bool KxVideoSource::Rewind()
 {
-    m_decoder->Flush(KxVideoDecoder::Place::Start);
+    Flush(KxVideoDecoder::Place::Start);
     return m_packets->Rewind();
 }
 
 bool KxVideoSource::Seek(qint64 ticks)
 {
-    m_decoder->Flush(KxVideoDecoder::Place::KeyFrame);
+    Flush(KxVideoDecoder::Place::KeyFrame);
     return m_packets->Seek(ticks);
+}
+
+KxReadStatus KxVideoSource::NextWhole(KxVideoDecoder::Picture& picture)
+{
+    for (;;) {
+        if (std::optional<KxVideoDecoder::Picture> whole = m_deinterlacer->Take()) {
+            picture = std::move(*whole);
+            return KxReadStatus::Picture;
+        }
+        KxVideoDecoder::Picture decoded;
+        const KxReadStatus status = m_decoder->Next(decoded);
+        if (status == KxReadStatus::Picture) {
+            m_deinterlacer->Add(std::move(decoded));
+        } else if (status == KxReadStatus::Cancelled || !m_deinterlacer->End()) {
+            return status;
+        }
+    }
 }
 
 KxReadStatus KxVideoSource::Next(KxVideoFrame& picture)
 {
     KxVideoDecoder::Picture decoded;
-    const KxReadStatus status = m_decoder->Next(decoded);
+    const KxReadStatus status = m_deinterlacer ? NextWhole(decoded) : m_decoder->Next(decoded);
     if (status == KxReadStatus::Picture) {
         picture = MakeFrame(std::move(decoded));
     }

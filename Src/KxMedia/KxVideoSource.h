@@ -1,12 +1,14 @@
 #pragma once
 
+#include "KxDeinterlacer.h"
 #include "KxFrameGrid.h"
 #include "KxMediaFacts.h"
 #include "KxVideoDecoder.h"
 #include "KxVideoFrame.h"
 
 /// A file's video stream made ready: packets at the start, a decoder, the frame grid, the facts. What the exact reader
-/// and the scanner share. One thread at a time.
+/// and the scanner share. With full effort, pictures that are woven from two fields are made whole. One thread at a
+/// time.
 class KxVideoSource
 {
 public:
@@ -37,10 +39,14 @@ private:
     KxError Prepare(std::unique_ptr<KxInputFile> input, KxVideoDecoder::Effort effort);
     KxError MeasureLength(qint64 firstTicks);
     bool IsStillPicture() const;
+    void Flush(KxVideoDecoder::Place place);
+    KxReadStatus NextWhole(KxVideoDecoder::Picture& picture);
     KxVideoFrame MakeFrame(KxVideoDecoder::Picture picture) const;
 
     std::unique_ptr<KxVideoPackets> m_packets;
     std::unique_ptr<KxVideoDecoder> m_decoder;
+    /// Nothing where pictures may stay woven.
+    std::optional<KxDeinterlacer> m_deinterlacer;
     std::optional<KxFrameGrid> m_grid;
     KxVideoFrame::Orientation m_orientation;
     KxMediaFacts m_facts;

@@ -32,10 +32,12 @@ bool KxAutoReframeService::StartTask(const QString& path, const IKxAutoReframePa
     auto task = std::make_unique<Task>();
     task->path = path;
     QString faceModel;
+    Findings findings = Findings::Drop;
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
         task->key = ++m_lastKey;
         faceModel = m_faceModel;
+        findings = m_findings;
     }
 
     KxResult<std::unique_ptr<KxVideoAnalysis>> analysis = KxVideoAnalysis::Open(path, param, faceModel, task->cancel);
@@ -51,6 +53,9 @@ bool KxAutoReframeService::StartTask(const QString& path, const IKxAutoReframePa
     if (!analysis) {
         m_result.sentence = analysis.Sentence();
         return false;
+    }
+    if (findings == Findings::Keep) {
+        (*analysis)->WantFindings();
     }
     task->thread =
         std::thread([this, key = task->key, path, cancel = task->cancel,
@@ -135,6 +140,18 @@ void KxAutoReframeService::SetFaceModel(const QString& path)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     m_faceModel = path;
+}
+
+void KxAutoReframeService::SetFindings(Findings findings)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_findings = findings;
+}
+
+std::shared_ptr<const KxSubjectFindings> KxAutoReframeService::LastFindings() const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return m_result.findings;
 }
 
 QString KxAutoReframeService::LastSentence() const

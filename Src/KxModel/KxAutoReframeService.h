@@ -18,7 +18,7 @@ public:
 
     KxAutoReframeService();
     /// Stops what runs.
-    ~KxAutoReframeService();
+    ~KxAutoReframeService() override;
 
     bool StartTask(const QString& path, const IKxAutoReframeParam& param) override;
     void StopTask(int task) override;
@@ -28,6 +28,13 @@ public:
 
     /// A neural face detector's file for the tasks that start from now on; empty: none. Any thread.
     void SetFaceModel(const QString& path);
+
+    /// Whether the tasks that start from now on leave what they found on the way to the crops; they do not unless
+    /// asked. Any thread.
+    enum class Findings { Drop, Keep };
+    void SetFindings(Findings findings);
+    /// Of the last task, as `GetResults`; null when it did not keep them, or is not done. Any thread.
+    std::shared_ptr<const KxSubjectFindings> LastFindings() const;
 
     /// Why the last start was refused or the last task failed; empty when it went well. Any thread.
     QString LastSentence() const;
@@ -53,6 +60,7 @@ private:
     /// Threads that could not be joined because they themselves asked to stop.
     std::vector<std::thread> m_retired;
     QString m_faceModel;
+    Findings m_findings = Findings::Drop;
     QString m_resultPath;
     KxVideoAnalysis::Result m_result;
 };

@@ -4,7 +4,7 @@
 
 #include "KxClip.h"
 
-/// A media file of the host's library. User-interface thread only.
+/// A media file of the host's library. Threads as the interface says.
 class KXMODEL_API KxMediaItem final : public IKxAbstractMediaItem
 {
 public:

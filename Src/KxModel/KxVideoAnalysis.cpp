@@ -5,6 +5,7 @@
 
 #include "KxPictureScaler.h"
 #include "KxSubjectAnalyzer.h"
+#include "KxSubjectFindings.h"
 #include "KxVideoScanner.h"
 
 #include <QFileInfo>
@@ -69,7 +70,7 @@ private:
     {
         const qint64 frameCount = m_scanner.Facts().video->frameCount;
         const cv::Size size = m_analyzer.WorkingSize();
-        KxPictureScaler scaler;
+        KxPictureScaler scaler(KxPictureScaler::Detail::Coarse);
         int reported = -1;
         KxVideoFrame picture;
         for (;;) {
@@ -119,7 +120,7 @@ private:
     KxVideoScanner& m_scanner;
     KxSubjectAnalyzer& m_analyzer;
     KxCancelToken m_cancel;
-    KxBoundedQueue<SmallPicture> m_queue{8};
+    KxBoundedQueue<SmallPicture> m_queue{32};
     QString m_problem;
 };
 
@@ -155,7 +156,9 @@ KxVideoAnalysis::Result KxVideoAnalysis::Run(const std::function<void(int percen
 {
     Result result;
     const KxMediaFacts facts = m_scanner->Facts();
-    KxSubjectAnalyzer analyzer(RequestFor(*facts.video, m_param, m_faceModelPath));
+    KxSubjectRequest request = RequestFor(*facts.video, m_param, m_faceModelPath);
+    request.wantsFindings = m_wantsFindings;
+    KxSubjectAnalyzer analyzer(request);
     Pipeline pipeline(*m_scanner, analyzer, m_cancel);
     const KxReadStatus status = pipeline.Run(onProgress);
     const bool endedEarly = m_scanner->EndedEarly();
@@ -184,6 +187,9 @@ KxVideoAnalysis::Result KxVideoAnalysis::Run(const std::function<void(int percen
         const KxCropRect& crop = crops[i];
         result.crops.append(
             IKxAutoReframeResult(static_cast<qint64>(i), QRectF(crop.x, crop.y, crop.width, crop.height)));
+    }
+    if (m_wantsFindings) {
+        result.findings = std::make_shared<KxSubjectFindings>(analyzer.Findings());
     }
     result.outcome = KxOutcome::Done;
     return result;

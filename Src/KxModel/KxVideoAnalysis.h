@@ -12,6 +12,7 @@
 #include <memory>
 
 class KxVideoScanner;
+struct KxSubjectFindings;
 
 /// One analysis of one file, on the calling thread and one more: this thread decodes and shrinks pictures, the other
 /// finds the subject in them, with a short queue between the two, so that memory does not grow with the file's length.
@@ -20,15 +21,19 @@ class KXMODEL_API KxVideoAnalysis
 public:
     struct Result {
         KxOutcome outcome = KxOutcome::Failed;
-        QList<IKxAutoReframeResult> crops; ///< one a frame; empty unless Done
-        QString sentence;                  ///< why it failed
-        QStringList warnings;              ///< what a person should know although it is Done
+        QList<IKxAutoReframeResult> crops;                 ///< one a frame; empty unless Done
+        QString sentence;                                  ///< why it failed
+        QStringList warnings;                              ///< what a person should know although it is Done
+        std::shared_ptr<const KxSubjectFindings> findings; ///< null unless Done and wanted
     };
 
     /// Reads the file's header. The sentence of a failure names the file and the reason.
     static KxResult<std::unique_ptr<KxVideoAnalysis>> Open(const QString& path, const IKxAutoReframeParam& param,
                                                            const QString& faceModelPath, const KxCancelToken& cancel);
     ~KxVideoAnalysis();
+
+    /// Before Run(): its result shall tell what was found on the way to the crops.
+    void WantFindings() { m_wantsFindings = true; }
 
     /// Blocks until the end. `onProgress` is called on this thread with 0 to 99, each number at most once. Call once.
     Result Run(const std::function<void(int percent)>& onProgress);
@@ -42,4 +47,5 @@ private:
     IKxAutoReframeParam m_param;
     QString m_faceModelPath;
     KxCancelToken m_cancel;
+    bool m_wantsFindings = false;
 };

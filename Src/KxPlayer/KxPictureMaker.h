@@ -5,6 +5,8 @@
 #include "KxPlayerPicture.h"
 #include "KxVideoReader.h"
 
+#include <functional>
+
 /// Makes any frame of a source ready to be painted: decoded, cut to the crop of that very frame, and scaled to the
 /// place that it takes inside the player. One thread at a time.
 class KXPLAYER_API KxPictureMaker
@@ -16,6 +18,8 @@ public:
 
     const std::shared_ptr<const KxPlaySource>& Source() const { return m_source; }
 
+    /// See KxVideoReader::GiveUpWhen().
+    void GiveUpWhen(std::function<bool()> isUnwanted) { m_reader->GiveUpWhen(std::move(isUnwanted)); }
     /// `area` is the player's size in device pixels. Past the last picture that can be decoded, that one is held.
     KxReadStatus Make(int frame, const QSize& area, KxPlayerPicture& picture);
 

@@ -10,6 +10,7 @@ namespace
 // A player that shows fewer than four pictures a second looks broken.
 constexpr qint64 LongestStandstillUs = 250000;
 constexpr qint64 UsPerMs = 1000;
+constexpr int FramesLate = 1;
 // However the clock is corrected meanwhile, it is looked at again by then.
 constexpr qint64 LongestWaitMs = 40;
 
@@ -197,30 +198,45 @@ void KxPlayback::ShowDue()
         return;
     }
     const QPointer<KxPlayback> alive(this);
-    std::optional<KxPlayerPicture> picture = m_engine->TakeUpTo(due);
-    if (picture && IsWorthShowing(*picture, due, *now)) {
-        m_dropped += std::max(0, picture->frame - m_picture->frame - 1);
-        m_shownUs = *now;
-        SetPicture(std::move(*picture));
+    if (const std::optional<int> next = m_engine->NextFrame(); next && *now >= ShowTimeUs(*next)) {
+        const bool isInTime = *next >= due - FramesLate;
+        std::optional<KxPlayerPicture> picture = m_engine->TakeUpTo(isInTime ? *next : due);
+        if (picture && IsWorthShowing(*picture, due, *now)) {
+            m_dropped += std::max(0, picture->frame - m_picture->frame - 1);
+            m_shownUs = *now;
+            SetPicture(std::move(*picture));
+        }
     }
-    if (!alive || !m_clock.IsRunning()) {
-        return;
-    }
-    if (m_picture->frame == last) {
-        WakeFor(last + 1, *now);
-    } else if (const std::optional<int> next = m_engine->NextFrame()) {
-        WakeFor(*next, *now);
+    if (alive && m_clock.IsRunning()) {
+        WakeForNext(*now);
     }
 }
 
 bool KxPlayback::IsWorthShowing(const KxPlayerPicture& picture, int due, qint64 nowUs) const
 {
-    return picture.frame == due || picture.frame == m_source->LastFrame() || nowUs - m_shownUs >= LongestStandstillUs;
+    return picture.frame >= due - FramesLate || picture.frame == m_source->LastFrame() ||
+           nowUs - m_shownUs >= LongestStandstillUs;
 }
 
-void KxPlayback::WakeFor(int frame, qint64 nowUs)
+qint64 KxPlayback::ShowTimeUs(int frame) const
 {
-    const qint64 waitMs = (m_source->TimeUs(frame) - nowUs + UsPerMs - 1) / UsPerMs;
+    const qint64 halfFrameUs = (m_source->TimeUs(frame) - m_source->TimeUs(frame - 1)) / 2;
+    return std::max(m_source->TimeUs(frame), m_shownUs + halfFrameUs);
+}
+
+void KxPlayback::WakeForNext(qint64 nowUs)
+{
+    const int last = m_source->LastFrame();
+    if (m_picture->frame == last) {
+        WakeAt(m_source->TimeUs(last + 1), nowUs);
+    } else if (const std::optional<int> next = m_engine->NextFrame()) {
+        WakeAt(ShowTimeUs(*next), nowUs);
+    }
+}
+
+void KxPlayback::WakeAt(qint64 timeUs, qint64 nowUs)
+{
+    const qint64 waitMs = (timeUs - nowUs + UsPerMs - 1) / UsPerMs;
     m_wake.start(static_cast<int>(std::clamp<qint64>(waitMs, 0, LongestWaitMs)));
 }
 

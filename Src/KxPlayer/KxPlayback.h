@@ -13,9 +13,9 @@
 /// takes its pictures when their time has come, and runs clock and sound. User-interface thread only.
 ///
 /// 1. A seek stops the clock; it runs on when the wanted picture stands and enough others wait.
-/// 2. A picture whose time is over is dropped and counted; so that a machine that is too slow still shows something,
-/// one that
-///    is late is shown when nothing else was for a while. The last frame is always shown.
+/// 2. A picture that is late by a frame is still shown, and the next ones follow in quick succession until the delay is
+///    made up for. Pictures that are later are dropped and counted; so that a machine that is too slow still shows
+///    something, one of them is shown when nothing else was for a while. The last frame is always shown.
 /// 3. The last frame stands for its time, then playing ends.
 class KXPLAYER_API KxPlayback : public QObject
 {
@@ -50,8 +50,8 @@ public:
     const std::shared_ptr<const KxPlaySource>& Source() const { return m_source; }
     /// What is to be painted now.
     const std::optional<KxPlayerPicture>& Picture() const { return m_picture; }
-    /// 0 while nothing stands.
-    int CurrentFrame() const { return m_picture ? m_picture->frame : 0; }
+    /// The frame that stands; while none does, the one that is wanted; else 0.
+    int CurrentFrame() const { return m_picture ? m_picture->frame : m_wanted.value_or(0); }
     /// The frame that is wanted, else the one that stands.
     int TargetFrame() const { return m_wanted.value_or(CurrentFrame()); }
     /// Frames that were left out while playing, since the source was opened.
@@ -71,8 +71,11 @@ private:
     void TakeWanted();
     void RunClock();
     void ShowDue();
+    /// When `frame` is shown: at its time, but not so soon after the picture before it that nobody could see that one.
+    qint64 ShowTimeUs(int frame) const;
     bool IsWorthShowing(const KxPlayerPicture& picture, int due, qint64 nowUs) const;
-    void WakeFor(int frame, qint64 nowUs);
+    void WakeAt(qint64 timeUs, qint64 nowUs);
+    void WakeForNext(qint64 nowUs);
     void StopClock();
     void SetPlaying(bool playing);
     void Halt();

@@ -11,8 +11,11 @@
 namespace
 {
 
-// Enough to bridge the hiccups of a decoder that works in several threads; a few megabytes.
-constexpr size_t PicturesAhead = 6;
+// Enough to begin with: bridges the hiccups of a decoder that works in several threads.
+constexpr size_t PrimedPictures = 6;
+// A third of a second and more bridges those of the whole machine.
+constexpr size_t MostPictures = 12;
+constexpr size_t MostBytes = 64U << 20U;
 
 QString CannotShow(const KxPlaySource& source)
 {
@@ -160,8 +163,14 @@ std::optional<int> KxPlayerEngine::NextFrame() const
 bool KxPlayerEngine::IsPrimed() const
 {
     const std::lock_guard<std::mutex> lock(m_shared.mutex);
-    return m_shared.ready.size() >= PicturesAhead ||
+    return m_shared.ready.size() >= PrimedPictures ||
            (m_shared.source != nullptr && m_shared.next >= m_shared.source->frameCount);
+}
+
+size_t KxPlayerEngine::PicturesAhead(const QSize& area)
+{
+    const size_t bytes = sizeof(QRgb) * static_cast<size_t>(area.width()) * static_cast<size_t>(area.height());
+    return std::clamp(MostBytes / bytes, PrimedPictures, MostPictures);
 }
 
 std::optional<QString> KxPlayerEngine::TakeFailure()
@@ -198,6 +207,12 @@ bool KxPlayerEngine::WaitForJob(Job& job, const KxPlaySource* opened)
     return !m_shared.isQuitting;
 }
 
+bool KxPlayerEngine::IsReplaced(quint64 order) const
+{
+    const std::lock_guard<std::mutex> lock(m_shared.mutex);
+    return m_shared.order != order;
+}
+
 bool KxPlayerEngine::HasWork() const
 {
     if (!m_shared.source) {
@@ -205,14 +220,14 @@ bool KxPlayerEngine::HasWork() const
     }
     return m_shared.mode == Mode::Still ||
            (m_shared.mode == Mode::Playing && m_shared.next < m_shared.source->frameCount &&
-            m_shared.ready.size() < PicturesAhead);
+            m_shared.ready.size() < PicturesAhead(m_shared.area));
 }
 
 int KxPlayerEngine::FrameToMake() const
 {
     const std::optional<qint64> now = m_shared.mode == Mode::Playing ? m_clock.NowUs() : std::nullopt;
     const KxPlaySource& source = *m_shared.source;
-    if (!now || m_shared.next >= source.FrameAt(*now)) {
+    if (!now || m_shared.next + 1 >= source.FrameAt(*now)) {
         return m_shared.next;
     }
     const int inTime = source.FrameAt(*now + m_shared.makingUs) + 1;
@@ -232,9 +247,15 @@ void KxPlayerEngine::Carry(const Job& job, std::unique_ptr<KxPictureMaker>& make
     using namespace std::chrono;
     const steady_clock::time_point begin = steady_clock::now();
     KxPlayerPicture picture;
+    maker->GiveUpWhen([this, order = job.order] { return IsReplaced(order); });
     const KxReadStatus status = maker->Make(job.frame, job.area, picture);
     if (status == KxReadStatus::Picture) {
         Deliver(job, std::move(picture), duration_cast<microseconds>(steady_clock::now() - begin).count());
+    } else if (status == KxReadStatus::Cancelled) {
+        // What is decoded so far serves the order that takes this one's place; without one the file was let go of.
+        if (!IsReplaced(job.order)) {
+            maker.reset();
+        }
     } else {
         // The next order tries the file afresh.
         maker.reset();

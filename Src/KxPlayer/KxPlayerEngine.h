@@ -15,13 +15,13 @@
 class KxPictureMaker;
 struct KxPlaySource;
 
-/// Makes pictures on a thread of its own: one that is asked for, or a few ahead of the clock.
+/// Makes pictures on a thread of its own: one that is asked for, or several ahead of the clock.
 ///
-/// 1. Each order replaces the one before; a picture that is being made for an order that was replaced is thrown away.
-/// So
-///    what can be taken always belongs to the newest order, under its own number.
+/// 1. Each order replaces the one before; what is being made for an order that was replaced is given up at the next
+///    picture that comes out of the decoder. So what can be taken always belongs to the newest order, under its own
+///    number.
 /// 2. A picture that was made ahead and is asked for next is not made again.
-/// 3. While the clock runs, frames whose time is over before they are begun are left out.
+/// 3. While the clock runs, frames whose time has been over for a frame before they are begun are left out.
 /// 4. A source is opened when the first picture of it is wanted, and closed when another one takes its place.
 ///
 /// All members for the thread that owns the engine. Destroying it cancels what goes on and waits for the thread.
@@ -52,8 +52,11 @@ public:
     std::optional<KxPlayerPicture> TakeUpTo(int frame);
     /// The number of the next picture that can be taken.
     std::optional<int> NextFrame() const;
-    /// As many pictures wait as the engine makes ahead, or all that are left.
+    /// Enough pictures wait to begin with, or all that are left.
     bool IsPrimed() const;
+    /// How many pictures are made ahead for a player of this size: as many as a fixed amount of memory holds, within
+    /// limits.
+    static size_t PicturesAhead(const QSize& area);
     /// Why the newest order cannot be carried out; given once.
     std::optional<QString> TakeFailure();
 
@@ -68,6 +71,8 @@ private:
     };
 
     void Run();
+    /// For the engine's thread.
+    bool IsReplaced(quint64 order) const;
     bool WaitForJob(Job& job, const KxPlaySource* opened);
     bool HasWork() const;
     int FrameToMake() const;

@@ -13,6 +13,9 @@
 namespace
 {
 
+// Longer without a new picture, and the slider seems to be stuck.
+constexpr int PatienceMs = 250;
+
 QString Tip(const char* text, int action)
 {
     const QKeySequence keys = IKxShortcutEditManager::GetInstance()->keySequence(action);
@@ -32,6 +35,7 @@ KxPlayerToolBarBase::Impl::Impl(KxPlayerToolBarBase* bar, KxToolSlider* slider, 
     , m_slider(slider)
     , m_seeksWhileDragged(seeksWhileDragged)
     , m_play(KxSwitchToolButton::CreateSwitchToolButton(bar, QStringLiteral("KxPlayerToolBar_play")))
+    , m_patience(this)
 {
     slider->setParent(bar);
     AddButton(PlayPauseButton, m_play, IKxShortcutEditManager::PlayPause);
@@ -44,6 +48,10 @@ KxPlayerToolBarBase::Impl::Impl(KxPlayerToolBarBase* bar, KxToolSlider* slider, 
     // Stepping is for the bars that show it.
     m_buttons[BackwardButton]->hide();
     m_buttons[ForwardButton]->hide();
+    m_patience.setObjectName(QStringLiteral("patience"));
+    m_patience.setSingleShot(true);
+    m_patience.setInterval(PatienceMs);
+    connect(&m_patience, &QTimer::timeout, this, &Impl::TakeOver);
     ConnectSlider();
 }
 
@@ -118,13 +126,16 @@ void KxPlayerToolBarBase::Impl::UpdateTips()
         Tip(QT_TRANSLATE_NOOP("KxPlayerToolBarBase", "Backward (%1)"), IKxShortcutEditManager::Backward));
     m_buttons[ForwardButton]->setToolTip(
         Tip(QT_TRANSLATE_NOOP("KxPlayerToolBarBase", "Forward (%1)"), IKxShortcutEditManager::Forward));
-    const auto name = [](QAbstractButton* button, const char* text) {
-        button->setAccessibleName(QCoreApplication::translate("KxPlayerToolBarBase", text));
+    const auto name = [](QWidget* control, const char* text) {
+        control->setAccessibleName(QCoreApplication::translate("KxPlayerToolBarBase", text));
     };
     name(m_play, QT_TRANSLATE_NOOP("KxPlayerToolBarBase", "Play or pause"));
     name(m_buttons[StopButton], QT_TRANSLATE_NOOP("KxPlayerToolBarBase", "Stop"));
     name(m_buttons[BackwardButton], QT_TRANSLATE_NOOP("KxPlayerToolBarBase", "Backward"));
     name(m_buttons[ForwardButton], QT_TRANSLATE_NOOP("KxPlayerToolBarBase", "Forward"));
+    if (m_slider) {
+        name(m_slider, QT_TRANSLATE_NOOP("KxPlayerToolBarBase", "Position"));
+    }
 }
 
 void KxPlayerToolBarBase::Impl::TogglePlaying()
@@ -182,9 +193,20 @@ void KxPlayerToolBarBase::Impl::SeekTo(int frame)
 {
     if (m_seeking) {
         m_nextSeek = frame == *m_seeking ? std::nullopt : std::optional<int>(frame);
+        if (!m_patience.isActive()) {
+            TakeOver();
+        }
     } else if (m_presenter && m_presenter->frameCount() > 0) {
         m_seeking = frame;
+        m_patience.start();
         m_presenter->seek(frame, 0, 0);
+    }
+}
+
+void KxPlayerToolBarBase::Impl::TakeOver()
+{
+    if (m_nextSeek) {
+        SeekNext();
     }
 }
 

@@ -6,6 +6,7 @@
 
 #include <QMap>
 #include <QPointer>
+#include <QTimer>
 
 #include <optional>
 
@@ -16,7 +17,8 @@ class QShortcut;
 /// user-interface thread only.
 ///
 /// While the slider is dragged the next seek waits until the picture of the one before stands, so that the person sees
-/// pictures go by however long each takes; the newest place is always the last to be shown.
+/// pictures go by; where that takes too long, as between key frames that are far apart, the newest place takes over. It
+/// is always the last to be shown.
 class KxPlayerToolBarBase::Impl : public QObject
 {
 public:
@@ -44,6 +46,8 @@ private:
     void EndDrag(double value);
     void SeekTo(int frame);
     void SeekNext();
+    /// Gives up the picture that has not come for long, where there is another place to go to.
+    void TakeOver();
 
     KxPlayerToolBarBase* const m_bar;
     const QPointer<KxToolSlider> m_slider;
@@ -56,4 +60,6 @@ private:
     bool m_isDragging = false;
     std::optional<int> m_seeking;
     std::optional<int> m_nextSeek;
+    /// Runs from each seek.
+    QTimer m_patience;
 };

@@ -17,9 +17,9 @@ std::optional<KxRational> Rationalised(double rate)
         return std::nullopt;
     }
     const double whole = std::round(rate);
-    constexpr double NameRounding = 0.005; // names of rates have two decimals at the least
+    constexpr double nameRounding = 0.005; // names of rates have two decimals at the least
     const double video = std::round(rate * 1.001);
-    if (std::abs(rate - whole) > NameRounding && std::abs(rate - video / 1.001) < NameRounding) {
+    if (std::abs(rate - whole) > nameRounding && std::abs(rate - video / 1.001) < nameRounding) {
         return KxRational{static_cast<int>(video) * 1000, 1001};
     }
     const int thousandths = static_cast<int>(std::lround(rate * 1000));

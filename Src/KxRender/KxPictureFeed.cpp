@@ -1,6 +1,6 @@
 #include "KxPictureFeed.h"
 
-#include "KxFrameCutter.h"
+#include "KxDrawnFrame.h"
 
 #include <cmath>
 #include <exception>
@@ -24,6 +24,7 @@ KxPictureFeed::KxPictureFeed(KxVideoReader& reader, const KxRenderSource& source
     , m_size(size)
     , m_cancel(cancel)
     , m_pictures(PicturesAhead)
+    , m_cutter(size)
     , m_thread([this] { Work(); })
 {
 }
@@ -70,7 +71,6 @@ void KxPictureFeed::Work()
 
 void KxPictureFeed::DecodeAndCut()
 {
-    KxFrameCutter cutter(m_size);
     KxVideoFrame picture;
     KxVideoFrame cut;
     qint64 cutFrame = -1;
@@ -80,8 +80,7 @@ void KxPictureFeed::DecodeAndCut()
             if (!Read(sourceFrame, picture)) {
                 return;
             }
-            const QRectF crop = m_source.CropAt(sourceFrame, picture.DisplayedSize(), m_size);
-            KxResult<KxVideoFrame> result = cutter.Cut(picture, crop);
+            KxResult<KxVideoFrame> result = Make(picture, sourceFrame);
             if (!result) {
                 m_failure = QStringLiteral("Cannot render %1 at frame %2. %3")
                                 .arg(m_source.Name(), QString::number(sourceFrame), result.Sentence());
@@ -94,6 +93,22 @@ void KxPictureFeed::DecodeAndCut()
             return;
         }
     }
+}
+
+KxResult<KxVideoFrame> KxPictureFeed::Make(const KxVideoFrame& picture, qint64 frame)
+{
+    if (!m_source.overlay) {
+        return m_cutter.Cut(picture, m_source.CropAt(frame, picture.DisplayedSize(), m_size));
+    }
+    QImage image = m_scaler.Scale(picture, m_size, QImage::Format_RGB32);
+    if (!image.isNull()) {
+        m_source.overlay(image, frame);
+    }
+    const KxVideoFrame drawn = image.isNull() ? KxVideoFrame() : KxDrawnFrame(image, picture.Index());
+    if (drawn.IsNull()) {
+        return KxResult<KxVideoFrame>::Failure(QStringLiteral("Memory ran out."));
+    }
+    return m_cutter.Cut(drawn, QRectF(0.0, 0.0, 1.0, 1.0));
 }
 
 bool KxPictureFeed::Read(qint64 frame, KxVideoFrame& picture)

@@ -2,7 +2,9 @@
 
 #include "KxBoundedQueue.h"
 #include "KxCancelToken.h"
+#include "KxFrameCutter.h"
 #include "KxOutputGrid.h"
+#include "KxPictureScaler.h"
 #include "KxRenderSource.h"
 #include "KxVideoFrame.h"
 #include "KxVideoReader.h"
@@ -33,6 +35,8 @@ private:
     void DecodeAndCut();
     /// False when there is nothing (more) to show at the source's `frame`.
     bool Read(qint64 frame, KxVideoFrame& picture);
+    /// What the result shows of `picture` at the source's `frame`.
+    KxResult<KxVideoFrame> Make(const KxVideoFrame& picture, qint64 frame);
     void Join();
 
     KxVideoReader& m_reader;
@@ -41,6 +45,9 @@ private:
     const QSize m_size;
     const KxCancelToken m_cancel;
     KxBoundedQueue<KxVideoFrame> m_pictures;
+    // Of the thread alone.
+    KxFrameCutter m_cutter;
+    KxPictureScaler m_scaler;
     // Written by the thread; read once it has ended.
     KxError m_failure;
     bool m_endedEarly = false;

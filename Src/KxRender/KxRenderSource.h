@@ -4,9 +4,11 @@
 
 #include "KxResult.h"
 
+#include <QImage>
 #include <QRectF>
 #include <QSize>
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -20,6 +22,9 @@ struct KXRENDER_API KxRenderSource {
     /// The rectangle of each frame, fractions of the picture, frame 0 first; the last one holds for what follows. Null
     /// or empty where nothing is cropped on purpose.
     std::shared_ptr<const std::vector<QRectF>> crops;
+    /// Draws on a picture of the source that is whole and as large as the result; called on a thread of the rendering.
+    /// Where it is set nothing is cut.
+    std::function<void(QImage& picture, qint64 frame)> overlay;
 
     /// Takes the first clip of `timeline` and what its crop keyframes say at every frame. Fails with a sentence for a
     /// timeline without a clip that stands for a file. User-interface thread.

@@ -39,9 +39,9 @@ QSize Even(const QSize& size)
 
 KxError Check(const KxRenderSource& source, const KxRenderSettings& settings)
 {
-    constexpr int LongestSidePx = 16384;
+    constexpr int longestSidePx = 16384;
     const QSize size = settings.resolution;
-    if (size.isEmpty() || size.width() > LongestSidePx || size.height() > LongestSidePx) {
+    if (size.isEmpty() || size.width() > longestSidePx || size.height() > longestSidePx) {
         return CannotWrite(
             settings, QStringLiteral("a resolution of %1 x %2 is not possible").arg(size.width()).arg(size.height()));
     }
@@ -57,10 +57,10 @@ KxError Check(const KxRenderSource& source, const KxRenderSettings& settings)
 // play.
 KxAudioReader::Format SoundFormat(const KxAudioFacts& facts)
 {
-    constexpr std::array<int, 9> RatesHz{8000, 11025, 12000, 16000, 22050, 24000, 32000, 44100, 48000};
+    constexpr std::array<int, 9> ratesHz{8000, 11025, 12000, 16000, 22050, 24000, 32000, 44100, 48000};
     KxAudioReader::Format format;
     format.channels = facts.channels == 1 ? 1 : 2;
-    if (std::find(RatesHz.begin(), RatesHz.end(), facts.sampleRateHz) != RatesHz.end()) {
+    if (std::find(ratesHz.begin(), ratesHz.end(), facts.sampleRateHz) != ratesHz.end()) {
         format.sampleRateHz = facts.sampleRateHz;
     }
     return format;

@@ -8,8 +8,9 @@ KxCentreScore::KxCentreScore(const KxSubjectOptions::Evidence& options, const Kx
     , m_spacing((geometry.MaximumCentre() - geometry.MinimumCentre()) / static_cast<double>(Positions - 1))
 {
     const double half = geometry.Extent() / 2.0;
-    const double priorWeight =
-        geometry.FreeAxis() == KxAxis::Across ? options.centrePriorAcross : options.centrePriorUpDown;
+    const bool across = geometry.FreeAxis() == KxAxis::Across;
+    const double priorWeight = across ? options.centrePriorAcross : options.centrePriorUpDown;
+    const double flat = across ? options.windowFlatAcross : options.windowFlatUpDown;
     constexpr double binExtent = 1.0 / KxSignalProfile::Bins;
     for (std::size_t position = 0; position < Positions; ++position) {
         const double centre = CentreAt(position);
@@ -21,7 +22,7 @@ KxCentreScore::KxCentreScore(const KxSubjectOptions::Evidence& options, const Kx
             const double high = std::min(from + binExtent, centre + half);
             if (high > low) {
                 const double wave = std::cos(CV_PI / 2.0 * ((low + high) / 2.0 - centre) / half);
-                const double height = options.windowFlat + (1.0 - options.windowFlat) * wave * wave;
+                const double height = flat + (1.0 - flat) * wave * wave;
                 m_windows[position].share[bin] = static_cast<float>((high - low) / binExtent * height);
             }
         }
@@ -32,13 +33,24 @@ KxCentreScore::Scores KxCentreScore::Of(const KxSignalProfile& profile) const
 {
     Scores scores = m_prior;
     for (std::size_t position = 0; position < Positions; ++position) {
-        float sum = 0.0F;
-        for (std::size_t bin = 0; bin < KxSignalProfile::Bins; ++bin) {
-            sum += m_windows[position].share[bin] * profile.share[bin];
-        }
-        scores[position] += sum;
+        scores[position] += Sum(position, profile);
     }
     return scores;
+}
+
+float KxCentreScore::Sum(std::size_t position, const KxSignalProfile& profile) const
+{
+    float sum = 0.0F;
+    for (std::size_t bin = 0; bin < KxSignalProfile::Bins; ++bin) {
+        sum += m_windows[position].share[bin] * profile.share[bin];
+    }
+    return sum;
+}
+
+float KxCentreScore::Under(double centre, const KxSignalProfile& profile) const
+{
+    const double position = m_spacing > 0.0 ? (centre - m_first) / m_spacing : 0.0;
+    return Sum(static_cast<std::size_t>(std::lround(std::clamp(position, 0.0, Positions - 1.0))), profile);
 }
 
 double KxCentreScore::CentreAt(std::size_t position) const

@@ -14,12 +14,16 @@ public:
     KxCentreScore(const KxSubjectOptions::Evidence& options, const KxCropGeometry& geometry);
 
     Scores Of(const KxSignalProfile& profile) const;
+    /// How much of a profile lies under the window at the position nearest to a centre.
+    float Under(double centre, const KxSignalProfile& profile) const;
     /// The centre at a position, in fractions of the picture; positions are equally spaced between the geometry's ends.
     double CentreAt(std::size_t position) const;
     /// Between two neighbouring positions, in fractions of the picture; 0 when the crop cannot move.
     double Spacing() const { return m_spacing; }
 
 private:
+    float Sum(std::size_t position, const KxSignalProfile& profile) const;
+
     double m_first;
     double m_spacing;
     std::array<KxSignalProfile, Positions> m_windows{};

@@ -37,10 +37,10 @@ double SplineAt(const std::vector<double>& nodes, double position)
 } // namespace
 
 KxCropPath::KxCropPath(const KxSubjectOptions::Path& options, const KxSubjectOptions::Reaction& reaction,
-                       double cropExtent)
+                       const KxCropGeometry& geometry)
     : m_options(options)
     , m_reaction(reaction)
-    , m_cropExtent(cropExtent)
+    , m_geometry(geometry)
 {
 }
 
@@ -53,7 +53,7 @@ std::optional<double> KxCropPath::StandingPlace(const std::vector<KxPathPoint>& 
     std::sort(centres.begin(), centres.end());
     const auto trimmed = static_cast<std::size_t>(m_options.stillTrim * static_cast<double>(centres.size()));
     const double range = centres[centres.size() - 1 - trimmed] - centres[trimmed];
-    if (range >= m_reaction.stillRange * m_cropExtent) {
+    if (range >= m_reaction.stillRange * m_geometry.Extent()) {
         return std::nullopt;
     }
     return centres[centres.size() / 2];
@@ -97,13 +97,16 @@ std::vector<double> KxCropPath::Draw(const std::vector<KxPathPoint>& points, std
     }
     KxTrendFilter::Settings settings;
     settings.stepSeconds = 1.0 / m_options.stepsPerSecond;
-    settings.foot = m_reaction.deadZone * m_cropExtent / 2.0;
+    settings.foot = m_reaction.deadZone * m_geometry.Extent() / 2.0;
     settings.speedWeight = m_options.speedWeight * m_reaction.smoothingSeconds;
     settings.accelerationWeight = m_options.accelerationWeight * m_reaction.smoothingSeconds;
     settings.jerkWeight = m_options.jerkWeight * m_reaction.smoothingSeconds;
     settings.stillSpeed = m_options.stillSpeed;
     settings.topSpeed = m_reaction.topSpeed;
     settings.hasteWeight = m_options.hasteWeight * m_reaction.smoothingSeconds;
+    settings.lowest = m_geometry.MinimumCentre();
+    settings.highest = m_geometry.MaximumCentre();
+    settings.wallWeight = m_options.wallWeight;
     settings.iterations = m_options.iterations;
     const std::vector<double> nodes = KxTrendFilter(settings).Smooth(Nodes(points, first, end, frameRate));
     std::vector<double> centres(frames);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "KxCropGeometry.h"
 #include "KxSubjectOptions.h"
 
 #include <optional>
@@ -15,8 +16,8 @@ struct KxPathPoint {
 class KXSUBJECT_API KxCropPath
 {
 public:
-    /// `cropExtent`: of the crop along the free axis, in fractions.
-    KxCropPath(const KxSubjectOptions::Path& options, const KxSubjectOptions::Reaction& reaction, double cropExtent);
+    KxCropPath(const KxSubjectOptions::Path& options, const KxSubjectOptions::Reaction& reaction,
+               const KxCropGeometry& geometry);
 
     /// The centre at each frame from `first` up to and without `end`. `points` grow by frame and lie between these;
     /// none asks for `fallback`.
@@ -31,5 +32,5 @@ private:
 
     KxSubjectOptions::Path m_options;
     KxSubjectOptions::Reaction m_reaction;
-    double m_cropExtent;
+    KxCropGeometry m_geometry;
 };

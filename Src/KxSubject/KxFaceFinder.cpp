@@ -138,9 +138,11 @@ std::vector<cv::Rect> KxFaceFinder::FindByModel(const cv::Mat& picture)
 
 std::vector<cv::Rect> KxFaceFinder::FindByCascade(const cv::Mat& grey, KxFaceView view, const Search& search)
 {
-    cv::Mat looked = grey;
+    cv::Mat looked;
     if (view == KxFaceView::RightProfile) {
         cv::flip(grey, looked, 1);
+    } else {
+        looked = grey;
     }
     const bool frontal = view == KxFaceView::Frontal;
     std::vector<cv::Rect> faces;

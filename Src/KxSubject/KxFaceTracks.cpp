@@ -1,10 +1,14 @@
 #include "KxFaceTracks.h"
 
+#include <opencv2/core.hpp>
+
 #include <algorithm>
 #include <cmath>
 
 namespace
 {
+
+constexpr double Early = 1e-3; ///< seconds: a sample on the very time of a look is due
 
 bool AreOneFace(const cv::Rect& a, const cv::Rect& b, double sameShare)
 {
@@ -28,21 +32,24 @@ void KxFaceTracks::AddPicture(double timeSeconds, const cv::Mat& picture, const 
         ++m_firstOpen;
     }
     if (m_finder.UsesModel()) {
-        if (timeSeconds >= m_nextFrontal) {
-            m_nextFrontal = timeSeconds + m_options.modelPeriodSeconds - 1e-3;
+        if (timeSeconds >= m_lastFrontal + m_options.modelPeriodSeconds - Early) {
+            m_lastFrontal = timeSeconds;
             LookEverywhere(timeSeconds, picture, grey, KxFaceView::Frontal);
         }
         return;
     }
-    if (timeSeconds >= m_nextFollow) {
-        m_nextFollow = timeSeconds + m_options.followPeriodSeconds - 1e-3;
+    if (timeSeconds >= m_lastFollow + m_options.followPeriodSeconds - Early) {
+        m_lastFollow = timeSeconds;
         Follow(timeSeconds, grey);
     }
-    if (timeSeconds >= m_nextFrontal) {
-        m_nextFrontal = timeSeconds + m_options.frontalPeriodSeconds - 1e-3;
+    const double rarer = m_looksWithoutNews >= m_options.settledLooks ? m_options.settledFactor : 1.0;
+    const double profileRarer = IsFollowing() ? m_options.settledFactor : rarer;
+    if (timeSeconds >= m_lastFrontal + rarer * m_options.frontalPeriodSeconds - Early) {
+        m_lastFrontal = timeSeconds;
         LookEverywhere(timeSeconds, picture, grey, KxFaceView::Frontal);
-    } else if (timeSeconds >= m_nextProfile && !IsFollowing()) {
-        m_nextProfile = timeSeconds + m_options.profilePeriodSeconds - 1e-3;
+    } else if (m_sidesDue > 0 || timeSeconds >= m_lastProfile + profileRarer * m_options.profilePeriodSeconds - Early) {
+        m_sidesDue = std::max(m_sidesDue - 1, 0);
+        m_lastProfile = timeSeconds;
         LookEverywhere(timeSeconds, picture, grey, m_nextSide);
         m_nextSide = m_nextSide == KxFaceView::LeftProfile ? KxFaceView::RightProfile : KxFaceView::LeftProfile;
     }
@@ -52,6 +59,16 @@ bool KxFaceTracks::IsFollowing() const
 {
     return std::any_of(m_tracks.begin() + static_cast<std::ptrdiff_t>(m_firstOpen), m_tracks.end(),
                        [this](const Track& track) { return track.misses < m_options.missesToDrop; });
+}
+
+void KxFaceTracks::BeginScene()
+{
+    m_lastFrontal = LongAgo;
+    m_sidesDue = m_options.sidesAtFirst;
+    m_looksWithoutNews = 0;
+    for (; m_firstOpen < m_tracks.size(); ++m_firstOpen) {
+        m_tracks[m_firstOpen].misses = m_options.missesToDrop;
+    }
 }
 
 void KxFaceTracks::LookEverywhere(double timeSeconds, const cv::Mat& picture, const cv::Mat& grey, KxFaceView view)
@@ -81,6 +98,7 @@ void KxFaceTracks::LookEverywhere(double timeSeconds, const cv::Mat& picture, co
             ++track.misses;
         }
     }
+    m_looksWithoutNews = faces.empty() ? m_looksWithoutNews + 1 : 0;
     for (const cv::Rect& face : faces) {
         m_tracks.push_back({view, {{timeSeconds, face}}, face, 0});
     }

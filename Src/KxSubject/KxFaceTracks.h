@@ -4,13 +4,18 @@
 #include "KxSignalProfile.h"
 
 /// The faces of a video over time. Looks over the whole picture are rare; a face once found is looked for in its place,
-/// which is cheap, so that a false one is told from a true one by its persistence.
+/// which is cheap, so that a false one is told from a true one by its persistence. Where nothing new was seen for a
+/// while and the picture stays the same, looks over the whole of it are rarer still.
 class KXSUBJECT_API KxFaceTracks
 {
 public:
     KxFaceTracks(const KxSubjectOptions::Faces& options, KxFaceFinder finder);
 
     const KxFaceFinder& Finder() const { return m_finder; }
+
+    /// The scene is another from the next picture on: no face of before is in it, and it is looked at at once, from all
+    /// sides.
+    void BeginScene();
 
     /// Takes a look if one is due. Times grow from call to call.
     void AddPicture(double timeSeconds, const cv::Mat& picture, const cv::Mat& grey);
@@ -49,9 +54,12 @@ private:
     KxSubjectOptions::Faces m_options;
     KxFaceFinder m_finder;
     std::vector<Track> m_tracks;
-    std::size_t m_firstOpen = 0; ///< every track before it has ended
-    double m_nextFrontal = 0.0;
-    double m_nextProfile = 0.0;
-    double m_nextFollow = 0.0;
+    std::size_t m_firstOpen = 0;            ///< every track before it has ended
+    static constexpr double LongAgo = -1e9; ///< seconds
+    double m_lastFrontal = LongAgo;
+    double m_lastProfile = LongAgo;
+    double m_lastFollow = LongAgo;
     KxFaceView m_nextSide = KxFaceView::LeftProfile;
+    int m_sidesDue = 0; ///< looks from the sides at a scene that began, taken without a pause
+    int m_looksWithoutNews = 0;
 };

@@ -1,27 +1,20 @@
 #pragma once
 
-#include "KxSubjectOptions.h"
+#include "KxShotBlends.h"
+#include "KxShotCuts.h"
 
-#include <array>
-#include <deque>
-
-/// How far a picture is from the ones before it.
-struct KxPictureChange {
-    std::int64_t frame = 0;
-    float grey = 0.0F;   ///< mean difference to the picture before, of 255
-    float colour = 0.0F; ///< part of the colour histogram that moved since the picture before, 0 to 1
-    /// The grey difference to the second, third and fourth picture before; 255 where there is none.
-    std::array<float, 3> greyFurther{255.0F, 255.0F, 255.0F};
-};
-
-/// Finds the hard cuts of a video from its pictures as they come, at any spacing.
+/// Finds the shot boundaries of a video from its pictures as they come, at any spacing.
 /// A cut is a picture whose grey and colour change are both
 /// 1. the largest of its neighbours,
 /// 2. above a floor,
 /// 3. well above what is usual around it (itself left out),
 /// and which is not
-/// 4. the beginning or the end of a flash, or
-/// 5. nearer than the shortest shot to a stronger cut or to the first picture.
+/// 4. the beginning or the end of a flash: what was before is back within 4 pictures, or within 7 brighter ones,
+/// 5. a change of light: the structure stays,
+/// 6. an explosion or something that passes: what was before is back within 24 pictures, and not by a jump,
+/// 7. inside a dissolve or a fade (KxShotBlends); a cut in the middle of many pictures denies a dissolve, though, or
+/// 8. nearer than the shortest shot to a dissolve, a fade, a stronger cut or the first picture.
+/// A cut stands on its exact frame where that was among the pictures, else on the first picture of the new shot.
 class KXSUBJECT_API KxShotDetector
 {
 public:
@@ -36,17 +29,33 @@ public:
     /// The first frames of the shots after the first one, growing.
     std::vector<std::int64_t> Cuts(double frameRate) const;
 
-    /// The rules alone, on numbers.
-    static std::vector<std::int64_t> FindCuts(const std::vector<KxPictureChange>& changes, double frameRate,
-                                              const KxSubjectOptions::Shots& options);
+    /// The same with kind and extent.
+    std::vector<KxShotBoundary> Boundaries(double frameRate) const;
 
 private:
     static constexpr int Bins = 12 * 6 * 6;
-    using Histogram = std::array<float, Bins>;
+    using Histogram = std::array<int, Bins>; ///< of points
+    struct Picture {
+        cv::Mat grey;
+        double mean;
+        double deviation;
+    };
+    struct Candidate {
+        KxShotBoundary boundary;
+        double strength;
+    };
     static Histogram ColoursOf(const cv::Mat& small);
+    const Picture& Earlier(std::size_t pictures) const;
+    double DifferenceTo(const Picture& earlier) const;
+    double LikenessTo(const Picture& earlier) const;
+    bool IsFlash(std::size_t back) const;
+    void LookForReturn(std::size_t back);
+    std::ptrdiff_t PicturesIn(const KxShotBoundary& boundary) const;
+    std::vector<Candidate> Candidates() const;
 
     KxSubjectOptions::Shots m_options;
     std::vector<KxPictureChange> m_changes;
-    std::deque<cv::Mat> m_lastGrey; ///< the newest last
+    std::deque<Picture> m_pictures; ///< the newest last
     Histogram m_lastColours{};
+    KxShotBlends m_blends;
 };

@@ -1,25 +1,25 @@
 #pragma once
 
 #include "KxBarDetector.h"
+#include "KxCameraMovement.h"
 #include "KxFaceTracks.h"
 #include "KxMotionMap.h"
+#include "KxMoverTracks.h"
 #include "KxSaliencyMap.h"
 
-#include <deque>
+#include <optional>
 #include <vector>
 
 /// What was measured at one sampled picture, along both axes.
 struct KxSignalSample {
-    static constexpr std::int64_t NoMotion = -1; ///< no motion was measured
-
-    std::int64_t frame = 0;
-    std::int64_t motionSince = NoMotion;     ///< the earlier picture of the motion map
+    std::int32_t frame = 0;
     std::array<KxPackedProfile, 2> motion;   ///< by axis
     std::array<KxPackedProfile, 2> saliency; ///< by axis
 };
 
-/// Runs the signals over a video's pictures as they come and keeps what they say: profiles of the samples, faces, bars.
-/// Keeps no picture beyond the few that the next motion map needs.
+/// Runs the signals over a video's pictures as they come and keeps what they say: profiles of the samples, movers,
+/// faces, bars. A sample's motion is measured against the samples beside it, so it is known one sample later. Keeps two
+/// pictures.
 class KXSUBJECT_API KxSignalTrack
 {
 public:
@@ -33,32 +33,48 @@ public:
     /// `picture` is CV_8UC3 (BGR) of the size given at the start; `frame` grows from call to call.
     void AddPicture(std::int64_t frame, const cv::Mat& picture);
 
-    /// What all signals say at one sample, weighed, seen from the shot of frames `first` up to and without `end`.
-    KxSignalProfile EvidenceAt(std::size_t sample, std::int64_t first, std::int64_t end, KxAxis axis) const;
+    /// Measures what still waits for a later picture. Call once, after the last picture.
+    void Finish();
+
+    /// What each signal says at one sample, weighed; faces seen from the shot of frames `first` up to and without
+    /// `end`.
+    struct Evidence {
+        KxSignalProfile motion;
+        KxSignalProfile movers;
+        KxSignalProfile saliency;
+        KxSignalProfile faces;
+        KxSignalProfile Sum() const;
+    };
+    Evidence EvidenceAt(std::size_t sample, std::int64_t first, std::int64_t end, KxAxis axis) const;
 
     const std::vector<KxSignalSample>& Samples() const { return m_samples; }
     const KxFaceTracks& Faces() const { return m_faces; }
+    const KxMoverTracks& Movers() const { return m_movers; }
     cv::Rect Content() const { return m_bars.Content(); }
 
 private:
     struct Picture {
         std::int64_t frame;
         cv::Mat grey;
+        std::optional<cv::Matx33d> cameraHere; ///< from the picture before, in the whole picture's pixels
     };
     double SecondsAt(std::int64_t frame) const { return static_cast<double>(frame) / m_frameRate; }
-    void TakeSample(std::int64_t frame, const cv::Mat& picture, const cv::Mat& grey);
-    const Picture* MotionPartner(std::int64_t frame) const;
-    /// The nearest sample of the shot, later ones first, whose motion was measured inside the shot.
-    const KxSignalSample* WithMotion(std::size_t sample, std::int64_t first, std::int64_t end) const;
+    std::array<KxPackedProfile, 2> Profiles(const cv::Mat& map, const cv::Rect& region) const;
+    std::optional<cv::Matx33d> CameraTo(const Picture& now) const;
+    /// `after` may be missing.
+    void MeasureMotion(const Picture* after);
 
     KxSubjectOptions m_options;
     cv::Size m_picturePx;
     double m_frameRate;
     KxBarDetector m_bars;
+    KxCameraMovement m_camera;
     KxMotionMap m_motion;
+    KxMoverTracks m_movers;
     KxSaliencyMap m_saliency;
     KxFaceTracks m_faces;
     std::vector<KxSignalSample> m_samples;
-    std::deque<Picture> m_recent; ///< the newest last
-    std::int64_t m_nextSlot = 0;  ///< samples are taken once in each slot of time
+    std::optional<Picture> m_before; ///< the sample before the newest
+    std::optional<Picture> m_newest;
+    std::int64_t m_nextSlot = 0; ///< samples are taken once in each slot of time
 };

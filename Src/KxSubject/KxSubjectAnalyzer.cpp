@@ -3,6 +3,7 @@
 #include "KxCropPath.h"
 #include "KxShotDetector.h"
 #include "KxSignalTrack.h"
+#include "KxSubjectFindings.h"
 #include "KxSubjectTracker.h"
 
 #include <algorithm>
@@ -55,16 +56,23 @@ public:
     const std::string& FaceModelProblem() const { return m_signals.Faces().Finder().ModelProblem(); }
     bool Wants(std::int64_t frame) const { return frame >= 0 && frame < m_request.frameCount && frame % m_step == 0; }
     void AddPicture(std::int64_t frame, const cv::Mat& picture);
-    std::vector<KxCropRect> Finish() const;
+    std::vector<KxCropRect> Finish();
+    const KxSubjectFindings& Findings() const { return m_findings; }
 
 private:
     struct Shot {
         std::int64_t first;
         std::int64_t end;
+        /// What lies outside these is blended with the shot beside it and says nothing.
+        std::int64_t clearFirst;
+        std::int64_t clearEnd;
     };
+    KxCropRect ContentShare() const;
     KxCropGeometry Geometry() const;
     std::vector<Shot> Shots() const;
-    std::vector<double> CentresOf(const Shot& shot, const KxCropGeometry& geometry, const KxCentreScore& score) const;
+    std::vector<double> CentresOf(const Shot& shot, const KxCropGeometry& geometry, const KxCentreScore& score);
+    void Note(const Shot& shot, const std::vector<KxPathPoint>& points, std::size_t firstSample, KxAxis axis,
+              const KxCentreScore& score);
 
     KxSubjectRequest m_request;
     KxSubjectOptions m_options;
@@ -73,6 +81,7 @@ private:
     KxSignalTrack m_signals;
     std::int64_t m_step; ///< every so many frames one is wanted
     std::int64_t m_lastFrame = -1;
+    KxSubjectFindings m_findings;
 };
 
 void KxSubjectAnalyzer::Impl::AddPicture(std::int64_t frame, const cv::Mat& picture)
@@ -90,28 +99,34 @@ void KxSubjectAnalyzer::Impl::AddPicture(std::int64_t frame, const cv::Mat& pict
     }
 }
 
-KxCropGeometry KxSubjectAnalyzer::Impl::Geometry() const
+KxCropRect KxSubjectAnalyzer::Impl::ContentShare() const
 {
     const cv::Rect content = m_signals.Content();
     const auto width = static_cast<double>(m_workingSize.width);
     const auto height = static_cast<double>(m_workingSize.height);
+    return {content.x / width, content.y / height, content.width / width, content.height / height};
+}
+
+KxCropGeometry KxSubjectAnalyzer::Impl::Geometry() const
+{
     return KxCropGeometry({m_request.pictureWidthPx, m_request.pictureHeightPx},
-                          {m_request.aspectWidth, m_request.aspectHeight},
-                          {content.x / width, content.y / height, content.width / width, content.height / height});
+                          {m_request.aspectWidth, m_request.aspectHeight}, ContentShare());
 }
 
 std::vector<KxSubjectAnalyzer::Impl::Shot> KxSubjectAnalyzer::Impl::Shots() const
 {
-    std::vector<Shot> shots{{0, m_request.frameCount}};
-    for (const std::int64_t cut : m_shots.Cuts(m_request.frameRate)) {
-        shots.back().end = cut;
-        shots.push_back({cut, m_request.frameCount});
+    std::vector<Shot> shots{{0, m_request.frameCount, 0, m_request.frameCount}};
+    for (const KxShotBoundary& boundary : m_shots.Boundaries(m_request.frameRate)) {
+        shots.back().end = boundary.frame;
+        shots.back().clearEnd = std::min(boundary.first, boundary.frame);
+        shots.push_back(
+            {boundary.frame, m_request.frameCount, std::max(boundary.frame, boundary.last), m_request.frameCount});
     }
     return shots;
 }
 
 std::vector<double> KxSubjectAnalyzer::Impl::CentresOf(const Shot& shot, const KxCropGeometry& geometry,
-                                                       const KxCentreScore& score) const
+                                                       const KxCentreScore& score)
 {
     const std::vector<KxSignalSample>& samples = m_signals.Samples();
     const KxSubjectOptions::Reaction& reaction = m_options.For(m_request.speed);
@@ -123,22 +138,51 @@ std::vector<double> KxSubjectAnalyzer::Impl::CentresOf(const Shot& shot, const K
                          [](const KxSignalSample& sample, std::int64_t frame) { return sample.frame < frame; }) -
         samples.begin());
     for (std::size_t i = begin; i < samples.size() && samples[i].frame < shot.end; ++i) {
-        tracker.Add(score.Of(m_signals.EvidenceAt(i, shot.first, shot.end, geometry.FreeAxis())));
+        const bool clear = samples[i].frame >= shot.clearFirst && samples[i].frame < shot.clearEnd;
+        tracker.Add(clear ? score.Of(m_signals.EvidenceAt(i, shot.first, shot.end, geometry.FreeAxis()).Sum())
+                          : KxCentreScore::Scores{});
     }
     std::vector<KxPathPoint> points;
     for (const std::size_t position : tracker.BestRun()) {
         points.push_back({samples[begin + points.size()].frame, score.CentreAt(position)});
     }
-    return KxCropPath(m_options.path, reaction, geometry.Extent())
-        .Draw(points, shot.first, shot.end, m_request.frameRate, 0.5);
+    if (m_request.wantsFindings) {
+        Note(shot, points, begin, geometry.FreeAxis(), score);
+    }
+    return KxCropPath(m_options.path, reaction, geometry).Draw(points, shot.first, shot.end, m_request.frameRate, 0.5);
 }
 
-std::vector<KxCropRect> KxSubjectAnalyzer::Impl::Finish() const
+void KxSubjectAnalyzer::Impl::Note(const Shot& shot, const std::vector<KxPathPoint>& points, std::size_t firstSample,
+                                   KxAxis axis, const KxCentreScore& score)
 {
+    std::array<float, KxSignalCount> whole{};
+    for (std::size_t i = 0; i < points.size(); ++i) {
+        const KxSignalTrack::Evidence evidence = m_signals.EvidenceAt(firstSample + i, shot.first, shot.end, axis);
+        KxSubjectFindings::Sample sample;
+        sample.frame = points[i].frame;
+        sample.wanted = points[i].centre;
+        sample.evidence = KxPackedProfile(evidence.Sum());
+        const std::array<const KxSignalProfile*, KxSignalCount> signals{&evidence.motion, &evidence.movers,
+                                                                        &evidence.saliency, &evidence.faces};
+        for (std::size_t signal = 0; signal < KxSignalCount; ++signal) {
+            sample.said[signal] = score.Under(points[i].centre, *signals[signal]);
+            whole[signal] += sample.said[signal];
+        }
+        m_findings.samples.push_back(sample);
+    }
+    const auto carrier = std::max_element(whole.begin(), whole.end()) - whole.begin();
+    m_findings.shots.push_back({shot.first, shot.end, static_cast<KxSignal>(carrier)});
+}
+
+std::vector<KxCropRect> KxSubjectAnalyzer::Impl::Finish()
+{
+    m_signals.Finish();
     std::vector<KxCropRect> crops;
     crops.reserve(static_cast<std::size_t>(m_request.frameCount));
     const KxCropGeometry geometry = Geometry();
     const KxCentreScore score(m_options.evidence, geometry);
+    m_findings.freeAxis = geometry.FreeAxis();
+    m_findings.content = ContentShare();
     for (const Shot& shot : Shots()) {
         for (const double centre : CentresOf(shot, geometry, score)) {
             crops.push_back(geometry.At(centre));
@@ -182,4 +226,9 @@ std::vector<KxCropRect> KxSubjectAnalyzer::Finish()
 const std::string& KxSubjectAnalyzer::FaceModelProblem() const
 {
     return m_impl->FaceModelProblem();
+}
+
+const KxSubjectFindings& KxSubjectAnalyzer::Findings() const
+{
+    return m_impl->Findings();
 }

@@ -17,6 +17,7 @@ struct KxCropRect {
     double height = 1.0;
 };
 
+struct KxSubjectFindings;
 struct KxSubjectOptions;
 
 /// How readily the crop follows its subject.
@@ -31,7 +32,8 @@ struct KxSubjectRequest {
     int aspectWidth = 9;
     int aspectHeight = 16;
     KxMotionSpeed speed = KxMotionSpeed::Auto;
-    std::string faceModelPath; ///< a neural face detector's file; empty: none
+    std::string faceModelPath;  ///< a neural face detector's file; empty: none
+    bool wantsFindings = false; ///< costs a little time and some 30 bytes a frame
 };
 
 /// Finds where the subject lies: small pictures of one video in, one crop rectangle a frame out. Every rectangle has
@@ -56,6 +58,9 @@ public:
 
     /// The crop of every frame, `frameCount` of them. Call once, after the last picture.
     std::vector<KxCropRect> Finish();
+
+    /// What was found on the way. Empty before Finish, and where it was not asked for.
+    const KxSubjectFindings& Findings() const;
 
     /// Why the face model that was asked for is not used; empty when it is, or when none was asked for.
     const std::string& FaceModelProblem() const;

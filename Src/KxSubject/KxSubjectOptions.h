@@ -15,14 +15,43 @@ struct KxSubjectOptions {
     } sampling;
 
     struct Shots {
-        double greyFloor = 9.0;          ///< of 255, mean difference of small grey pictures; study
-        double colourFloor = 0.18;       ///< 0 to 1, part of the colour histogram that moved; study
-        double greyRatio = 2.2;          ///< times the percentile of the neighbours; study
-        double colourRatio = 2.0;        ///< times the percentile of the neighbours; study
-        double percentile = 0.8;         ///< 0 to 1; study
-        int neighbours = 10;             ///< pictures on each side; study
-        double minimumShotSeconds = 0.3; ///< of two cuts nearer than this the stronger stays; study tried none shorter
-        double flashRatio = 0.5; ///< 0 to 1: a jump whose far sides differ by less than this part of it is a flash
+        double greyFloor = 9.0;            ///< of 255, mean difference of small grey pictures; study
+        double colourFloor = 0.18;         ///< 0 to 1, part of the colour histogram that moved; study
+        double greyRatio = 2.2;            ///< times the percentile of the neighbours; study
+        double colourRatio = 2.0;          ///< times the percentile of the neighbours; study
+        double percentile = 0.75;          ///< 0 to 1; measured: 0.8 misses runs of short shots (study 0.8)
+        int neighbours = 10;               ///< pictures on each side; study
+        double minimumShotSeconds = 0.165; ///< of two boundaries nearer than this the stronger stays: five frames of 30
+        double lightLikeness = 0.7;   ///< 0 to 1: a jump to a picture more alike in structure is one of light; measured
+        double returnRatio = 0.5;     ///< 0 to 1, of a jump: a picture is back that differs by less; measured
+        double flashLikeness = 0.2;   ///< -1 to 1: and that is so much alike in structure, after a flash; measured
+        double returnLikeness = 0.35; ///< the same after longer; measured
+        double flashLight = 8.0;      ///< of 255 above both sides: pictures that may be a long flash; measured
+
+        /// Dissolves, wipes and fades. Distances are parts of the distance of the two ends; all measured.
+        struct Blends {
+            double plainContrast = 12.0;       ///< of 255: a picture with a smaller standard deviation is plain
+            double floor = 22.0;               ///< of 255, root mean square: ends nearer than this are one shot's
+            double middleShare = 0.25;         ///< 0 to 0.5: the middle picture is at least so much of both ends
+            double misfit = 0.47;              ///< of the middle picture from the blend of the ends
+            double likeness = 0.5;             ///< -1 to 1: ends more alike in structure are one shot's
+            double contrastExcess = 0.15;      ///< of the ends' variance, of the middle picture's from the blend's
+            double outside = 0.25;             ///< of the points outside what is between those of the ends
+            double back = 0.3;                 ///< of the way, gone back in all
+            double step = 0.5;                 ///< of the way, gone at once: more is a cut
+            double fadeMisfit = 0.25;          ///< the mean of half a fade's pictures
+            double fadeStep = 0.8;             ///< the same for half a fade, which may have two pictures
+            double unrestWeight = 0.15;        ///< of the movement before and after, beside the misfit
+            double doubt = 0.53;               ///< most of both together
+            double movedLikeness = 0.85;       ///< -1 to 1: two halves that are each a movement this well are one
+            double returnRatio = 0.5;          ///< a picture is back that is nearer than this
+            std::size_t leastPictures = 4;     ///< from end to end
+            std::size_t wipeLeastPictures = 8; ///< the same for a wipe
+            double wipeFloor = 45.0;           ///< for a wipe in place of `floor`
+            double wipeMisfit = 0.62;          ///< for a wipe in place of `misfit`
+            double wipeLikeness = 0.25;        ///< for a wipe in place of `likeness`
+            double wipeOutside = 0.2;          ///< for a wipe in place of `outside`
+        } blends;
     } shots;
 
     struct Bars {
@@ -35,21 +64,48 @@ struct KxSubjectOptions {
         int insetPx = 1; ///< the row at a bar's edge is half bar, half picture
     } bars;
 
-    struct Motion {
-        double gapSeconds = 1.0 / 12.0; ///< between the two pictures compared; study
-        double gapMaximumSeconds = 0.6; ///< beyond it a scene has changed too much to be compared
-        int leastFollowed = 12;         ///< corners; with fewer the camera is taken to stand
-        int corners = 200;              ///< study
-        double cornerQuality = 0.003;   ///< of the best corner; low, so that the background has its share; measured
-        double cornerDistancePx = 10.0; ///< least distance between two corners; measured
+    struct Camera {
+        double gapMaximumSeconds = 0.6; ///< between two pictures compared; beyond it a scene has changed too much
+        int cellsAlong = 8;             ///< parts of the longer side that give corners of their own; measured
+        int cellsAcross = 5;            ///< of the shorter side; measured
+        int cornersInCell = 6;          ///< study: about 200 in all
+        double cornerQuality = 0.0005;  ///< of the best corner; low, so that a plain background has its share; measured
+        int cornerDistancePx = 3;       ///< each way in which a corner is the strongest
         double inlierPx = 1.0;          ///< 0.5 to 2.5; measured (study 1.5)
-        double differenceFloor = 2.0;   ///< of 255, taken for noise; study
-        double gradientFloor = 4.0;     ///< of 255 a pixel; study
-        double toleratedPx = 1.0;       ///< movement below is taken for a camera followed badly; measured
-        double fullPx = 2.0;            ///< movement above counts no more, or one fast edge outshouts all; measured
-        double blurSigmaPx = 3.0;       ///< study
-        int borderPx = 9;               ///< parallax and warping fire there; study
+        int leastFollowed = 12;         ///< corners; a picture with fewer says nothing, the camera is taken to stand
+        double agreeingShare = 0.08;    ///< of the corners; measured: 0.05 at most across cuts, 0.13 and more in a shot
+    } camera;
+
+    struct Motion {
+        double differenceFloor = 2.0; ///< of 255, taken for noise; study
+        double gradientFloor = 4.0;   ///< of 255 a pixel; study
+        double toleratedPx = 1.0;     ///< movement below is taken for a camera followed badly; measured
+        double fullPx = 2.0;          ///< movement above counts no more, or one fast edge outshouts all; measured
+        double blurSigmaPx = 3.0;     ///< study
+        int borderPx = 9;             ///< parallax and warping fire there; study
     } motion;
+
+    /// Measured, all of them; lengths in pixels are of the map halved.
+    struct Movers {
+        double threshold = 0.2;    ///< of the motion map: a peak below is noise
+        double extentShare = 0.35; ///< of the peak: what lies above it around it is one mover
+        int peakDistancePx = 4;    ///< each way in which a peak is the highest
+        int mostAtOnce = 10;       ///< bounds the cost of a crowd
+        double reach = 0.06;       ///< of the width: how far from where it is expected a mover is looked for
+        double reachBySize = 0.35; ///< of the root of its area, on top
+        double mostGrowth = 1.5;   ///< logarithm of the areas' ratio
+        double growthCost = 0.3;   ///< of that logarithm, against a distance of one reach
+        double ageGain = 0.02;     ///< for each sample seen: an old track is believed before a young one
+        double velocityGain = 0.4; ///< 0 to 1, of what is new
+        double areaGain = 0.4;     ///< 0 to 1, of what is new
+        int mostMisses = 3;        ///< samples in a row
+        double hitsAtZero = 3.0;   ///< samples seen that give no confidence yet
+        double hitsToFull = 20.0;  ///< samples beyond, for full confidence
+        double fullTravel = 0.3;   ///< of the width, before the background, for full confidence
+        double leastConfidence = 0.05;
+        double areaPower = 0.5;  ///< a mover weighs as the side of its box does, not as its area
+        double emptyFloor = 0.1; ///< the sum of weights at which movers say half of what they have to say
+    } movers;
 
     struct Saliency {
         double flatRange = 4.0;   ///< of 255: a picture with less between its darkest and brightest part shows nothing
@@ -58,34 +114,42 @@ struct KxSubjectOptions {
     } saliency;
 
     struct Faces {
-        double frontalPeriodSeconds = 0.5; ///< between two looks over the whole picture; study: 3 Hz for 10 costs 0.003
-        double profilePeriodSeconds = 0.8; ///< the same for one of the two sides in turn, while no face is followed
+        double frontalPeriodSeconds = 0.7; ///< between two looks over the whole picture; measured: 1.0 the same
+        double profilePeriodSeconds = 1.2; ///< the same for one of the two sides in turn
         double modelPeriodSeconds = 0.2;   ///< the same for the neural detector
         double followPeriodSeconds = 0.2;  ///< between two looks near a known face
-        double scaleFactor = 1.25;         ///< 1.05 to 1.3 from one window size to the next; measured: cost
-        double followScaleFactor = 1.1;    ///< the same near a known face: a coarse step has too few sizes to agree
-        int frontalNeighbours = 3;         ///< raw hits that make a face
-        int profileNeighbours = 4;         ///< raw hits that make a face
-        int minimumPx = 24;                ///< smallest face looked for
-        double modelThreshold = 0.7;       ///< 0 to 1, the neural detector's own score
-        int followedAtOnce = 6;            ///< faces; bounds the cost of a crowd
-        double sameShare = 0.6;     ///< of the size: two boxes nearer than this, and alike by it in size, are one face
-        int missesToDrop = 3;       ///< looks in a row
-        double windowSeconds = 0.6; ///< each way: looks that vote on a face; study: 6 neighbours, mean over 0.5 s
-        int agreeing = 2;           ///< other looks in the window that must see the face; study
+        int sidesAtFirst = 2;              ///< looks from the sides in turn when a scene begins
+        int settledLooks = 4; ///< looks over the whole picture in a row without a new face: then they are rarer
+        double settledFactor =
+            3.0; ///< times the periods above; for the sides also while a face is followed; measured: cost
+        double scaleFactor = 1.2; ///< 1.05 to 1.3 from one window size to the next; measured: 1.25 misses profiles
+        double followScaleFactor = 1.1; ///< the same near a known face: a coarse step has too few sizes to agree
+        int frontalNeighbours = 3;      ///< raw hits that make a face
+        int profileNeighbours = 4;      ///< raw hits that make a face
+        int minimumPx = 24;             ///< smallest face looked for
+        double modelThreshold = 0.7;    ///< 0 to 1, the neural detector's own score
+        int followedAtOnce = 6;         ///< faces; bounds the cost of a crowd
+        double sameShare = 0.6; ///< of the size: two boxes nearer than this, and alike by it in size, are one face
+        int missesToDrop = 3;   ///< looks in a row
+        double windowSeconds =
+            2.0;          ///< each way: looks that vote on a face; measured: below 1.5 a face flickers with the finder
+        int agreeing = 2; ///< other looks in the window that must see the face; study
         double zeroWeightShare = 0.05; ///< of the shorter side; study
         double fullWeightShare = 0.15; ///< of the shorter side; study
         double growDown = 0.5;         ///< of the face's height; study
     } faces;
 
     struct Evidence {
-        double motionWeight = 1.0;   ///< study
-        double saliencyWeight = 0.5; ///< study
-        double faceWeight = 1.0;     ///< study
-        double emptyFloor = 0.01;    ///< of the area: makes a nearly empty map weigh little; study
-        double windowFlat = 0.3; ///< flat part of the window that scores a centre, the rest is cosine squared; study
+        double motionWeight = 0.5;         ///< measured (study 1.0, alone)
+        double moverWeight = 0.5;          ///< measured
+        double saliencyWeightAcross = 0.5; ///< study
+        double saliencyWeightUpDown = 0.1; ///< it misleads on tall pictures (study); measured
+        double faceWeight = 1.0;           ///< study
+        double emptyFloor = 0.01;          ///< of the area: makes a nearly empty map weigh little; study
+        double windowFlatAcross = 0.5;     ///< flat part of the window that scores a centre, the rest is cosine squared
+        double windowFlatUpDown = 0.9;   ///< flatter: a tall subject wants to be in, not to have its head in the middle
         double centrePriorAcross = 0.12; ///< for a crop that moves sideways; study
-        double centrePriorUpDown = 1.0;  ///< for a crop that moves up and down, where saliency misleads; study
+        double centrePriorUpDown = 4.0;  ///< for a crop that moves up and down, where evidence misleads; measured
     } evidence;
 
     struct Path {
@@ -93,9 +157,10 @@ struct KxSubjectOptions {
         double stepsPerSecond = 10.0; ///< nodes of the smoothed path
         double speedWeight = 0.4;     ///< on the first derivative; study
         double accelerationWeight = 0.15; ///< on the second; study
-        double hasteWeight = 1.0; ///< on what exceeds the top speed, which no rule forbids: the subject may need it
-        double jerkWeight = 0.12; ///< on the third; measured (study 0.03)
-        int iterations = 60;      ///< measured: 1600 draw random walks up to 0.04 widths elsewhere, 40 to 100 all alike
+        double hasteWeight = 1.0;  ///< on what exceeds the top speed, which no rule forbids: the subject may need it
+        double jerkWeight = 0.12;  ///< on the third; measured (study 0.03)
+        double wallWeight = 200.0; ///< on leaving the places a crop can take; 1000 does the same
+        int iterations = 60; ///< measured: 1600 draw random walks up to 0.04 widths elsewhere, 40 to 100 all alike
         double stillSpeed = 0.004; ///< widths a second below which the smoothed path is made to stand exactly
         double stillTrim = 0.05;   ///< part of the samples at each end of the range that does not count
     } path;

@@ -12,6 +12,7 @@ constexpr double LastPrecision = 1e-6;
 constexpr double PrecisionGain = 0.75;
 constexpr double Rigid = 1e8;
 constexpr double HasteRise = 0.25;
+constexpr int RoundsBeforeWalls = 3; ///< in so many parts: one passes before the line has found its shape
 
 /// The lower half of a symmetric matrix of seven diagonals: row i holds columns i-3 to i.
 using Band = std::vector<std::array<double, 4>>;
@@ -70,19 +71,24 @@ double ThirdDifference(const std::vector<double>& line, std::size_t i)
 
 } // namespace
 
+struct KxTrendFilter::Walls {
+    std::vector<double> weight;
+    std::vector<double> end;
+};
+
 struct KxTrendFilter::Weights {
     std::vector<double> data;
     std::vector<double> speed;
     std::vector<double> acceleration;
     std::vector<double> jerk;
 
-    std::vector<double> SolveFor(const std::vector<double>& wanted) const
+    std::vector<double> SolveFor(const std::vector<double>& wanted, const Walls& walls) const
     {
         Band band(wanted.size(), {0.0, 0.0, 0.0, 0.0});
         std::vector<double> line(wanted.size());
         for (std::size_t i = 0; i < wanted.size(); ++i) {
-            band[i][3] += data[i];
-            line[i] = data[i] * wanted[i];
+            band[i][3] += data[i] + walls.weight[i];
+            line[i] = data[i] * wanted[i] + walls.weight[i] * walls.end[i];
         }
         for (std::size_t i = 0; i < speed.size(); ++i) {
             AddSquare(band, i, {-1.0, 1.0, 0.0, 0.0}, 2, speed[i]);
@@ -129,7 +135,18 @@ KxTrendFilter::Weights KxTrendFilter::WeightsOf(const std::vector<double>& line,
     return weights;
 }
 
-void KxTrendFilter::HoldStillSpans(std::vector<double>& line, const std::vector<double>& wanted) const
+void KxTrendFilter::Build(Walls& walls, const std::vector<double>& line) const
+{
+    for (std::size_t i = 0; i < line.size(); ++i) {
+        walls.end[i] = std::clamp(line[i], m_settings.lowest, m_settings.highest);
+        if (line[i] != walls.end[i]) {
+            walls.weight[i] = m_settings.wallWeight;
+        }
+    }
+}
+
+void KxTrendFilter::HoldStillSpans(std::vector<double>& line, const std::vector<double>& wanted,
+                                   const Walls& walls) const
 {
     std::vector<bool> still(line.size(), false);
     Weights weights = WeightsOf(line, wanted, LastPrecision);
@@ -139,7 +156,7 @@ void KxTrendFilter::HoldStillSpans(std::vector<double>& line, const std::vector<
             weights.speed[i] = Rigid;
         }
     }
-    line = weights.SolveFor(wanted);
+    line = weights.SolveFor(wanted, walls);
     for (std::size_t i = 0; i + 1 < line.size(); ++i) {
         if (still[i]) {
             line[i + 1] = line[i];
@@ -153,15 +170,18 @@ std::vector<double> KxTrendFilter::Smooth(const std::vector<double>& wanted) con
         return wanted;
     }
     std::vector<double> line = wanted;
+    Walls walls{std::vector<double>(wanted.size(), 0.0), std::vector<double>(wanted.size(), 0.0)};
     double precision = FirstPrecision;
     for (int i = 0; i < m_settings.iterations; ++i) {
-        line = WeightsOf(line, wanted, precision).SolveFor(wanted);
+        line = WeightsOf(line, wanted, precision).SolveFor(wanted, walls);
         precision = std::max(precision * PrecisionGain, LastPrecision);
+        if (i > m_settings.iterations / RoundsBeforeWalls) {
+            Build(walls, line);
+        }
     }
-    HoldStillSpans(line, wanted);
-    const auto [lowest, highest] = std::minmax_element(wanted.begin(), wanted.end());
+    HoldStillSpans(line, wanted, walls);
     for (double& value : line) {
-        value = std::clamp(value, *lowest, *highest);
+        value = std::clamp(value, m_settings.lowest, m_settings.highest);
     }
     return line;
 }

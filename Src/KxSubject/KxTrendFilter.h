@@ -18,18 +18,24 @@ public:
         double stillSpeed = 0.0;          ///< units a second: slower spans are made to stand exactly
         double topSpeed = 0.5;            ///< units a second, above 0: what exceeds it costs extra
         double hasteWeight = 1.0;         ///< of that extra, per unit a second
+        double lowest = 0.0;              ///< what the line must not leave; it is bent back with ease, not cut off
+        double highest = 1.0;
+        double wallWeight = 200.0; ///< on the distance to the end that the line would leave by
         int iterations = 60;
     };
 
     explicit KxTrendFilter(const Settings& settings);
 
-    /// As many values as `wanted`, each within its range. Cost: linear in their number.
+    /// As many values as `wanted`, which lie between `lowest` and `highest`, as these do. Cost: linear in their number.
     std::vector<double> Smooth(const std::vector<double>& wanted) const;
 
 private:
     struct Weights;
+    struct Walls;
     Weights WeightsOf(const std::vector<double>& line, const std::vector<double>& wanted, double precision) const;
-    void HoldStillSpans(std::vector<double>& line, const std::vector<double>& wanted) const;
+    void HoldStillSpans(std::vector<double>& line, const std::vector<double>& wanted, const Walls& walls) const;
+    /// Keeps the line off the ends from now on where it has left by them.
+    void Build(Walls& walls, const std::vector<double>& line) const;
 
     Settings m_settings;
 };

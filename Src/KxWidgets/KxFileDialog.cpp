@@ -4,6 +4,7 @@
 #include "KxFileFilter.h"
 
 #include <QDir>
+#include <QFileInfo>
 
 namespace
 {
@@ -14,6 +15,19 @@ KxFileDialog::Responder& CurrentResponder()
     return responder;
 }
 
+// A folder that is not there would leave the chooser somewhere else, with the folder's name for a file's.
+QString NearestFolder(const QString& folder)
+{
+    if (QDir::isRelativePath(folder)) {
+        return QDir::homePath();
+    }
+    QFileInfo nearest(folder);
+    while (!nearest.isDir() && !nearest.isRoot()) {
+        nearest.setFile(nearest.path());
+    }
+    return nearest.filePath();
+}
+
 } // namespace
 
 QStringList KxFileDialog::getOpenFileNames(QWidget* parent, const QString& caption, const QString& folder,
@@ -22,7 +36,7 @@ QStringList KxFileDialog::getOpenFileNames(QWidget* parent, const QString& capti
     if (CurrentResponder()) {
         return CurrentResponder()({false, caption, folder, filter});
     }
-    KxFileBox box(KxFileBox::Picks::Files, caption, folder, parent);
+    KxFileBox box(KxFileBox::Picks::Files, caption, NearestFolder(folder), parent);
     box.SetFilter(KxFileFilter::ToQt(filter));
     box.DoModal();
     return box.Chosen();
@@ -33,9 +47,7 @@ QString KxFileDialog::getExistingDirectory(QWidget* parent, const QString& capti
     if (CurrentResponder()) {
         return CurrentResponder()({true, caption, folder, QString()}).value(0);
     }
-    // A folder that is not there yet would leave the chooser somewhere else.
-    const QString start = QDir(folder).exists() ? folder : QDir::homePath();
-    KxFileBox box(KxFileBox::Picks::Folder, caption, start, parent);
+    KxFileBox box(KxFileBox::Picks::Folder, caption, NearestFolder(folder), parent);
     box.DoModal();
     return box.Chosen().value(0);
 }

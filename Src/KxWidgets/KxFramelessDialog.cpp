@@ -3,6 +3,7 @@
 #include "KxResizeGrips.h"
 #include "KxTheme.h"
 #include "KxWindowCorners.h"
+#include "KxWindowManagerCare.h"
 
 #include <KxWidgets/KxDialogButtonBar.h>
 #include <KxWidgets/KxTopLevelWindowTitleBar.h>
@@ -49,6 +50,7 @@ KxFramelessDialog::KxFramelessDialog(const QString& title, QWidget* parent, bool
     if (parent != nullptr) {
         parent->window()->installEventFilter(this);
     }
+    new KxWindowManagerCare(*this);
     SetTitleName(title, false);
 }
 

@@ -2,7 +2,6 @@
 
 #include "KxResizeGeometry.h"
 
-#include <QEvent>
 #include <QMouseEvent>
 #include <QWidget>
 #include <QWindow>
@@ -14,9 +13,7 @@ namespace
 
 constexpr Qt::Edges None{};
 
-} // namespace
-
-class KxResizeGrips::Grip : public QWidget
+class Grip : public QWidget
 {
 public:
     Grip(QWidget* window, Qt::Edges edges)
@@ -27,8 +24,6 @@ public:
         setProperty("edges", static_cast<int>(edges));
         setCursor(KxResizeGeometry::CursorFor(edges));
     }
-
-    Qt::Edges Edges() const { return m_edges; }
 
 protected:
     void mousePressEvent(QMouseEvent* event) override
@@ -62,47 +57,17 @@ private:
     QRect m_start;
 };
 
+} // namespace
+
 KxResizeGrips::KxResizeGrips(QWidget* window)
-    : QObject(window)
-    , m_window(window)
+    : KxWindowPieces(window)
 {
+    SetActive(false);
     for (const Qt::Edges edges : {None | Qt::LeftEdge, None | Qt::RightEdge, None | Qt::TopEdge, None | Qt::BottomEdge,
                                   Qt::LeftEdge | Qt::TopEdge, Qt::RightEdge | Qt::TopEdge,
                                   Qt::LeftEdge | Qt::BottomEdge, Qt::RightEdge | Qt::BottomEdge}) {
-        m_grips.append(new Grip(window, edges));
+        Add(new Grip(window, edges), [edges](const QSize& size) { return KxResizeGeometry::AreaOf(edges, size); });
     }
-    window->installEventFilter(this);
-    Place();
 }
 
 KxResizeGrips::~KxResizeGrips() = default;
-
-void KxResizeGrips::SetActive(bool active)
-{
-    m_active = active;
-    Place();
-}
-
-bool KxResizeGrips::eventFilter(QObject* watched, QEvent* event)
-{
-    switch (event->type()) {
-    case QEvent::Resize:
-    case QEvent::Show:
-    case QEvent::WindowStateChange:
-        Place();
-        break;
-    default:
-        break;
-    }
-    return QObject::eventFilter(watched, event);
-}
-
-void KxResizeGrips::Place()
-{
-    const bool shown = m_active && (m_window->windowState() & (Qt::WindowMaximized | Qt::WindowFullScreen)) == 0;
-    for (Grip* grip : qAsConst(m_grips)) {
-        grip->setGeometry(KxResizeGeometry::AreaOf(grip->Edges(), m_window->size()));
-        grip->setVisible(shown);
-        grip->raise();
-    }
-}

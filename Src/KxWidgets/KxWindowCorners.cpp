@@ -2,27 +2,28 @@
 
 #include "KxTheme.h"
 
-#include <QEvent>
 #include <QPainter>
 #include <QPainterPath>
 #include <QWidget>
 
-class KxWindowCorners::CornerPiece : public QWidget
+namespace
+{
+
+QRect AreaOf(Qt::Corner corner, const QSize& window)
+{
+    constexpr int side = KxTheme::WindowRadiusPx;
+    const bool right = corner == Qt::TopRightCorner || corner == Qt::BottomRightCorner;
+    const bool bottom = corner == Qt::BottomLeftCorner || corner == Qt::BottomRightCorner;
+    return {right ? window.width() - side : 0, bottom ? window.height() - side : 0, side, side};
+}
+
+class CornerPiece : public QWidget
 {
 public:
-    CornerPiece(QWidget* window, Qt::Corner corner)
+    explicit CornerPiece(QWidget* window)
         : QWidget(window)
-        , m_corner(corner)
     {
         setAttribute(Qt::WA_TransparentForMouseEvents);
-    }
-
-    void Place(const QSize& windowSize)
-    {
-        constexpr int side = KxTheme::WindowRadiusPx;
-        const bool right = m_corner == Qt::TopRightCorner || m_corner == Qt::BottomRightCorner;
-        const bool bottom = m_corner == Qt::BottomLeftCorner || m_corner == Qt::BottomRightCorner;
-        setGeometry(right ? windowSize.width() - side : 0, bottom ? windowSize.height() - side : 0, side, side);
     }
 
 protected:
@@ -42,45 +43,17 @@ protected:
         painter.drawRoundedRect(frame.adjusted(0.5, 0.5, -0.5, -0.5), KxTheme::WindowRadiusPx - 0.5,
                                 KxTheme::WindowRadiusPx - 0.5);
     }
-
-private:
-    const Qt::Corner m_corner;
 };
 
+} // namespace
+
 KxWindowCorners::KxWindowCorners(QWidget* window)
-    : QObject(window)
-    , m_window(window)
+    : KxWindowPieces(window)
 {
     for (const Qt::Corner corner :
          {Qt::TopLeftCorner, Qt::TopRightCorner, Qt::BottomLeftCorner, Qt::BottomRightCorner}) {
-        m_pieces.append(new CornerPiece(window, corner));
+        Add(new CornerPiece(window), [corner](const QSize& size) { return AreaOf(corner, size); });
     }
-    window->installEventFilter(this);
-    Place();
 }
 
 KxWindowCorners::~KxWindowCorners() = default;
-
-bool KxWindowCorners::eventFilter(QObject* watched, QEvent* event)
-{
-    switch (event->type()) {
-    case QEvent::Resize:
-    case QEvent::Show:
-    case QEvent::WindowStateChange:
-        Place();
-        break;
-    default:
-        break;
-    }
-    return QObject::eventFilter(watched, event);
-}
-
-void KxWindowCorners::Place()
-{
-    const bool shown = (m_window->windowState() & (Qt::WindowMaximized | Qt::WindowFullScreen)) == 0;
-    for (CornerPiece* piece : qAsConst(m_pieces)) {
-        piece->Place(m_window->size());
-        piece->setVisible(shown);
-        piece->raise();
-    }
-}

@@ -14,7 +14,7 @@ set(MAY_USE_KxRender "KxCore;KxMedia;KxModel")
 set(MAY_USE_KxWidgets "KxCore")
 set(MAY_USE_KxPlayer "KxCore;KxMedia;KxModel;KxWidgets")
 set(MAY_USE_KxMediaLibrary "KxCore;KxMedia;KxModel;KxWidgets")
-set(MAY_USE_Apps "KrAutoReframe;KxCore;KxMedia;KxModel;KxPlayer;KxRender;KxMediaLibrary;KxWidgets")
+set(MAY_USE_Apps "KrAutoReframe;KxCore;KxMedia;KxModel;KxPlayer;KxRender;KxSubject;KxMediaLibrary;KxWidgets")
 
 # Which folders of include/ each may include (<Kx…/…>).
 set(INTERFACES_include "KxCore;KxModel;KxMediaLibrary;KxPlayer;KxWidgets;KrAutoReframe")

@@ -55,6 +55,10 @@ class Screen:
         return [widget for widget in report["widgets"]
                 if widget["name"] == name and (window is None or widget["window"] == window)]
 
+    def first(self, report, name, key, window=None):
+        """That value of the first control of that name; None where there is no such control, or not yet."""
+        return next((widget[key] for widget in self.all(report, name, window) if key in widget), None)
+
     def find(self, name, window=None, **wanted):
         """Waits for a visible control of that name whose values are as wanted."""
         def look(report):
@@ -113,9 +117,13 @@ class Screen:
         self.click(self.find(name, window, enabled=True, **wanted)["rect"])
 
     def drag(self, start, end, steps=12):
-        """With the left button, in steps, so that the program sees a drag and not a jump."""
+        """With the left button, in steps, so that the program sees a drag and not a jump: as a hand does, it begins with
+        a move below the distance from which a drag counts, and goes on when the program has seen that."""
         self.move(*start)
         self.tool("mousedown", 1)
+        self.move(start[0] + 2, start[1])
+        self.report()
+        self.report()
         for step in range(1, steps + 1):
             self.move(start[0] + (end[0] - start[0]) * step // steps, start[1] + (end[1] - start[1]) * step // steps)
         self.tool("mouseup", 1)

@@ -6,24 +6,61 @@
 
 #include <atomic>
 
-using testing::ElementsAre;
-using testing::IsEmpty;
 using Peer = KrAutoReframeHelperPeer;
+
+namespace
+{
+
+/// A place at which the task stops until it is let go.
+struct HeldTask {
+    void Hold()
+    {
+        reached.Open();
+        release.Wait();
+    }
+
+    FakeHost::Gate reached;
+    FakeHost::Gate release;
+};
+
+/// All threads of the global pool are taken until they are freed.
+class BusyPool
+{
+public:
+    BusyPool()
+    {
+        for (int thread = 0; thread < QThreadPool::globalInstance()->maxThreadCount(); ++thread) {
+            m_threads << QtConcurrent::run([this] { m_release.Wait(); });
+        }
+    }
+    ~BusyPool()
+    {
+        Free();
+        for (QFuture<void>& thread : m_threads) {
+            thread.waitForFinished();
+        }
+    }
+    Q_DISABLE_COPY_MOVE(BusyPool)
+
+    void Free() { m_release.Open(); }
+
+private:
+    FakeHost::Gate m_release;
+    QList<QFuture<void>> m_threads;
+};
+
+} // namespace
 
 TEST_F(TestKrAutoReframeHelper, StartedTwiceItRunsOnce)
 {
     Open(100);
-    FakeHost::Gate reached;
-    FakeHost::Gate release;
-    AtFirstProgress([&reached, &release] {
-        reached.Open();
-        release.Wait();
-    });
+    HeldTask held;
+    AtFirstProgress([&held] { held.Hold(); });
     EXPECT_TRUE(helper->ApplyResults(FakeHost::MakeResults(100)));
-    reached.Wait();
+    held.reached.Wait();
     EXPECT_TRUE(helper->ApplyResults(FakeHost::MakeResults(100, 0.4)));
     EXPECT_TRUE(helper->ApplyResults({}));
-    release.Open();
+    held.release.Open();
     EXPECT_TRUE(WaitForFinished());
     QCoreApplication::sendPostedEvents();
     EXPECT_EQ(WorkKeyFrames().PushCount(), 1);
@@ -33,19 +70,15 @@ TEST_F(TestKrAutoReframeHelper, StartedTwiceItRunsOnce)
 TEST_F(TestKrAutoReframeHelper, CancelledInTheMiddleItStopsAtTheNextFrameAndKeepsWhatItStored)
 {
     Open(100);
-    FakeHost::Gate reached;
-    FakeHost::Gate release;
-    AtFirstProgress([&reached, &release] {
-        reached.Open();
-        release.Wait();
-    });
+    HeldTask held;
+    AtFirstProgress([&held] { held.Hold(); });
     QSignalSpy finished(helper.get(), &KrAutoReframeHelper::sigApplyFinished);
     EXPECT_TRUE(helper->ApplyResults(FakeHost::MakeResults(100)));
-    reached.Wait();
+    held.reached.Wait();
     helper->Cancel();
     QCoreApplication::sendPostedEvents();
     EXPECT_EQ(finished.count(), 0);
-    release.Open();
+    held.release.Open();
     ASSERT_TRUE(finished.wait(WaitMs));
     ASSERT_EQ(finished.count(), 1);
     EXPECT_FALSE(finished.at(0).at(0).toBool());
@@ -57,40 +90,28 @@ TEST_F(TestKrAutoReframeHelper, CancelledInTheMiddleItStopsAtTheNextFrameAndKeep
 TEST_F(TestKrAutoReframeHelper, CancelledBeforeItsThreadIsFreeItMakesNothing)
 {
     Open(100);
-    QThreadPool* const pool = QThreadPool::globalInstance();
-    FakeHost::Gate release;
-    QList<QFuture<void>> blockers;
-    for (int thread = 0; thread < pool->maxThreadCount(); ++thread) {
-        blockers << QtConcurrent::run([&release] { release.Wait(); });
-    }
+    BusyPool busy;
     QSignalSpy finished(helper.get(), &KrAutoReframeHelper::sigApplyFinished);
     EXPECT_TRUE(helper->ApplyResults(FakeHost::MakeResults(100)));
     helper->Cancel();
-    release.Open();
+    busy.Free();
     ASSERT_TRUE(finished.wait(WaitMs));
     EXPECT_FALSE(finished.at(0).at(0).toBool());
     EXPECT_EQ(WorkKeyFrames().PushCount(), 0);
     EXPECT_TRUE(helper->GetResults().isEmpty());
-    for (QFuture<void>& blocker : blockers) {
-        blocker.waitForFinished();
-    }
 }
 
 TEST_F(TestKrAutoReframeHelper, CancelledInItsLastStepItIsStillCancelled)
 {
     OpenAndApply(100);
     helper->AddKeyFrame(10, Rect(0.5));
-    FakeHost::Gate reached;
-    FakeHost::Gate release;
-    WorkKeyFrames().SetOnPush([&reached, &release] {
-        reached.Open();
-        release.Wait();
-    });
+    HeldTask held;
+    WorkKeyFrames().SetOnPush([&held] { held.Hold(); });
     QSignalSpy finished(helper.get(), &KrAutoReframeHelper::sigApplyFinished);
     EXPECT_TRUE(helper->ApplyResults(FakeHost::MakeResults(100, 0.4)));
-    reached.Wait();
+    held.reached.Wait();
     helper->Cancel();
-    release.Open();
+    held.release.Open();
     ASSERT_TRUE(finished.wait(WaitMs));
     EXPECT_FALSE(finished.at(0).at(0).toBool());
     EXPECT_EQ(PushedFrames(), QStringLiteral("0..99"));
@@ -120,17 +141,13 @@ TEST_F(TestKrAutoReframeHelper, CancellingWhileNothingRunsLeavesNoMark)
 TEST_F(TestKrAutoReframeHelper, AfterACancellationItCanRunAgain)
 {
     Open(100);
-    FakeHost::Gate reached;
-    FakeHost::Gate release;
-    AtFirstProgress([&reached, &release] {
-        reached.Open();
-        release.Wait();
-    });
+    HeldTask held;
+    AtFirstProgress([&held] { held.Hold(); });
     QSignalSpy finished(helper.get(), &KrAutoReframeHelper::sigApplyFinished);
     EXPECT_TRUE(helper->ApplyResults(FakeHost::MakeResults(100)));
-    reached.Wait();
+    held.reached.Wait();
     helper->Cancel();
-    release.Open();
+    held.release.Open();
     ASSERT_TRUE(finished.wait(WaitMs));
     EXPECT_TRUE(Apply(100, 0.4));
     EXPECT_EQ(PushedFrames(), QStringLiteral("0..99"));
@@ -140,19 +157,15 @@ TEST_F(TestKrAutoReframeHelper, AfterACancellationItCanRunAgain)
 TEST_F(TestKrAutoReframeHelper, WhileTheMutexIsBusyNothingIsStoredAndTheOldKeyFramesArePushed)
 {
     OpenAndApply(100);
-    FakeHost::Gate reached;
-    FakeHost::Gate release;
+    HeldTask held;
     FakeHost::Gate pushed;
-    AtFirstProgress([&reached, &release] {
-        reached.Open();
-        release.Wait();
-    });
+    AtFirstProgress([&held] { held.Hold(); });
     WorkKeyFrames().SetOnPush([&pushed] { pushed.Open(); });
     EXPECT_TRUE(helper->ApplyResults(FakeHost::MakeResults(100, 0.4)));
-    reached.Wait();
+    held.reached.Wait();
     Peer::Mutex(*helper).lock();
     Peer::SetCanceled(*helper);
-    release.Open();
+    held.release.Open();
     pushed.Wait();
     Peer::Mutex(*helper).unlock();
     EXPECT_TRUE(WaitForFinished());
@@ -166,21 +179,17 @@ TEST_F(TestKrAutoReframeHelper, WhileTheMutexIsBusyTheCancelMarkIsNotSeen)
 {
     Open(100);
     int progressCount = 0;
-    FakeHost::Gate reached;
-    FakeHost::Gate release;
+    HeldTask held;
     FakeHost::Gate pushed;
-    AtFirstProgress([&reached, &release] {
-        reached.Open();
-        release.Wait();
-    });
+    AtFirstProgress([&held] { held.Hold(); });
     QObject::connect(helper.get(), &KrAutoReframeHelper::sigApplyProgress, helper.get(),
                      [&progressCount] { ++progressCount; });
     WorkKeyFrames().SetOnPush([&pushed] { pushed.Open(); });
     EXPECT_TRUE(helper->ApplyResults(FakeHost::MakeResults(100)));
-    reached.Wait();
+    held.reached.Wait();
     Peer::Mutex(*helper).lock();
     Peer::SetCanceled(*helper);
-    release.Open();
+    held.release.Open();
     pushed.Wait();
     Peer::Mutex(*helper).unlock();
     EXPECT_TRUE(WaitForFinished());
@@ -205,19 +214,11 @@ TEST_F(TestKrAutoReframeHelper, CanBeDestroyedWhileTheTaskRuns)
 TEST_F(TestKrAutoReframeHelper, CanBeDestroyedBeforeTheTaskHasStarted)
 {
     Open(100);
-    QThreadPool* const pool = QThreadPool::globalInstance();
-    FakeHost::Gate release;
-    QList<QFuture<void>> blockers;
-    for (int thread = 0; thread < pool->maxThreadCount(); ++thread) {
-        blockers << QtConcurrent::run([&release] { release.Wait(); });
-    }
+    BusyPool busy;
     EXPECT_TRUE(helper->ApplyResults(FakeHost::MakeResults(100)));
     helper.reset();
     EXPECT_EQ(FakeHost::LiveTimelines(), 1);
-    release.Open();
-    for (QFuture<void>& blocker : blockers) {
-        blocker.waitForFinished();
-    }
+    busy.Free();
 }
 
 TEST_F(TestKrAutoReframeHelper, CanBeDestroyedRightAfterACancel)

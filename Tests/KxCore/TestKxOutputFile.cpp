@@ -94,6 +94,21 @@ TEST_F(KxOutputFileTest, NamesTheFileAndTheReasonWhenItCannotWrite)
         << onFolder.Sentence().toStdString();
 }
 
+TEST_F(KxOutputFileTest, ANameThatIsTooLongIsToldAtOnce)
+{
+    const auto output = KxOutputFile::Create(Path(QByteArray(300, 'a').constData()));
+    ASSERT_FALSE(output);
+    EXPECT_TRUE(output.Sentence().endsWith(QStringLiteral("aaa: its name is too long.")))
+        << output.Sentence().toStdString();
+}
+
+TEST_F(KxOutputFileTest, WhatIsNoFileIsNotReplaced)
+{
+    const auto output = KxOutputFile::Create(QStringLiteral("/dev/null"));
+    ASSERT_FALSE(output);
+    EXPECT_EQ(output.Sentence(), QStringLiteral("Cannot write /dev/null: it is not a regular file."));
+}
+
 TEST_F(KxOutputFileTest, OthersMayReadWhatIsWritten)
 {
     const auto written = KxOutputFile::Write(Path("a.txt"), "x", KxOutputFile::Existing::AddNumber);

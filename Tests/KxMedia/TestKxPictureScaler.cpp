@@ -28,6 +28,20 @@ QImage Quarters(const QSize& size)
     return picture;
 }
 
+// Fine enough to tell a picture that is shifted by a pixel of the small one.
+QImage Circles(const QSize& size)
+{
+    QImage picture(size, QImage::Format_RGB888);
+    for (int y = 0; y < size.height(); ++y) {
+        for (int x = 0; x < size.width(); ++x) {
+            const double radius = std::hypot(x - size.width() / 3.0, y - size.height() / 3.0);
+            const int value = static_cast<int>(128.0 + 100.0 * std::sin(radius / 12.0));
+            picture.setPixelColor(x, y, QColor(value, value, x * 200 / size.width()));
+        }
+    }
+    return picture;
+}
+
 KxVideoFrame FirstPicture(const QString& name, const QSize& size, const char* output)
 {
     MadeVideo::Recipe recipe;
@@ -85,14 +99,54 @@ TEST(KxPictureScaler, KeepsColoursOfEveryMatrixAndRange)
         SCOPED_TRACE(file.name);
         const KxVideoFrame picture = FirstPicture(QLatin1String(file.name), file.size, file.output);
         ASSERT_FALSE(picture.IsNull());
-        KxPictureScaler scaler;
-        ExpectQuarters(scaler.Scale(picture, {80, 48}, QImage::Format_RGB32), 6);
-        ExpectQuarters(scaler.Scale(picture, {81, 47}, QImage::Format_BGR888), 6);
-        ExpectQuarters(scaler.Scale(picture, {320, 192}, QImage::Format_RGB32), 6);
-        const QImage grey = scaler.Scale(picture, {80, 48}, QImage::Format_Grayscale8);
-        EXPECT_EQ(grey.format(), QImage::Format_Grayscale8);
-        EXPECT_NEAR(qGray(grey.pixel(60, 36)), 128, 6);
-        EXPECT_EQ(qAlpha(scaler.Scale(picture, {80, 48}, QImage::Format_RGB32).pixel(5, 5)), 255);
+        for (const auto detail : {KxPictureScaler::Detail::Full, KxPictureScaler::Detail::Coarse}) {
+            SCOPED_TRACE(static_cast<int>(detail));
+            KxPictureScaler scaler(detail);
+            ExpectQuarters(scaler.Scale(picture, {80, 48}, QImage::Format_RGB32), 6);
+            ExpectQuarters(scaler.Scale(picture, {81, 47}, QImage::Format_BGR888), 6);
+            ExpectQuarters(scaler.Scale(picture, {320, 192}, QImage::Format_RGB32), 6);
+            const QImage grey = scaler.Scale(picture, {80, 48}, QImage::Format_Grayscale8);
+            EXPECT_EQ(grey.format(), QImage::Format_Grayscale8);
+            EXPECT_NEAR(qGray(grey.pixel(60, 36)), 128, 6);
+            EXPECT_EQ(qAlpha(scaler.Scale(picture, {80, 48}, QImage::Format_RGB32).pixel(5, 5)), 255);
+        }
+    }
+}
+
+TEST(KxPictureScaler, CoarsePicturesDifferLittle)
+{
+    const struct {
+        const char* name;
+        QSize size;
+        const char* output;
+    } files[] = {
+        {"coarse.mp4", {640, 360}, "-c:v libx264 -qp 4 -pix_fmt yuv420p"},
+        {"coarse10.mp4", {642, 358}, "-c:v libx264 -qp 4 -pix_fmt yuv422p10le"},
+        {"coarsegrey.mkv", {640, 360}, "-c:v ffv1 -pix_fmt gray"},
+    };
+    for (const auto& file : files) {
+        SCOPED_TRACE(file.name);
+        MadeVideo::Recipe recipe;
+        recipe.size = file.size;
+        recipe.frames = 2;
+        recipe.output = Words(file.output);
+        recipe.draw = [&file](int) { return Circles(file.size); };
+        ASSERT_TRUE(MadeVideo::Make(Path(QLatin1String(file.name)), recipe));
+        KxVideoFrame picture;
+        const std::unique_ptr<KxVideoReader> reader = ReadClips::OpenReader(Path(QLatin1String(file.name)));
+        ASSERT_TRUE(reader && reader->Read(0, picture) == KxReadStatus::Picture);
+        const QSize size(64, 36);
+        const QImage full = KxPictureScaler().Scale(picture, size, QImage::Format_RGB32);
+        const QImage coarse =
+            KxPictureScaler(KxPictureScaler::Detail::Coarse).Scale(picture, size, QImage::Format_RGB32);
+        ASSERT_EQ(coarse.size(), size);
+        double difference = 0.0;
+        for (int y = 0; y < size.height(); ++y) {
+            for (int x = 0; x < size.width(); ++x) {
+                difference += std::abs(qGray(full.pixel(x, y)) - qGray(coarse.pixel(x, y)));
+            }
+        }
+        EXPECT_LT(difference / (size.width() * size.height()), 1.5);
     }
 }
 

@@ -1,9 +1,12 @@
+#include "KxPictureScaler.h"
 #include "ReadClips.h"
 
 #include <QFile>
 #include <QTransform>
 
 #include <gtest/gtest.h>
+
+#include <cstdlib>
 
 using ReadClips::Path;
 using ReadClips::ReadNumber;
@@ -50,6 +53,21 @@ int NumberThatFfmpegShows(const QString& path, int frame)
                           QStringLiteral("select=eq(n\\,%1)").arg(frame), QStringLiteral("-frames:v"),
                           QStringLiteral("1"), shown});
     return MadeVideo::ReadNumber(QImage(shown)).value_or(-1);
+}
+
+// How many lines look other than the one above.
+int DifferingLines(const KxVideoFrame& picture)
+{
+    const QImage grey = KxPictureScaler().Scale(picture, picture.DisplayedSize(), QImage::Format_Grayscale8);
+    int count = 0;
+    for (int y = 1; y < grey.height(); ++y) {
+        int difference = 0;
+        for (int x = 0; x < grey.width(); ++x) {
+            difference += std::abs(qGray(grey.pixel(x, y)) - qGray(grey.pixel(x, y - 1)));
+        }
+        count += difference > 10 * grey.width() ? 1 : 0;
+    }
+    return count;
 }
 
 QByteArray Contents(const QString& path)
@@ -138,6 +156,31 @@ TEST(KxVideoReader, StandsPicturesUpright)
             EXPECT_EQ(ReadClips::NumberOf(picture), picture.Turn().clockwiseDegrees == clockwise ? 5 : -1);
             EXPECT_EQ(ReadClips::NumberOf(picture), NumberThatFfmpegShows(reader->Facts().path, 5));
         }
+    }
+}
+
+TEST(KxVideoReader, MakesPicturesWholeThatAreWovenFromTwoFields)
+{
+    MadeVideo::Recipe recipe = H264(24, "-flags +ildct+ilme -top 1 -crf 1", {96, 96});
+    recipe.draw = [](int number) {
+        QImage woven(96, 96, QImage::Format_RGB888);
+        for (int y = 0; y < woven.height(); ++y) {
+            for (int x = 0; x < woven.width(); ++x) {
+                woven.setPixelColor(x, y, (x + 4 * number + 2 * (y % 2)) % 32 < 16 ? Qt::white : Qt::black);
+            }
+        }
+        return woven;
+    };
+    const QString path = Path(QStringLiteral("woven.mp4"));
+    ASSERT_TRUE(MadeVideo::Make(path, recipe));
+    const std::unique_ptr<KxVideoReader> reader = ReadClips::OpenReader(path);
+    ASSERT_NE(reader, nullptr);
+    EXPECT_EQ(reader->Facts().video->frameCount, 24);
+    for (const qint64 frame : {23, 0, 1, 12, 5, 22}) {
+        KxVideoFrame picture;
+        ASSERT_EQ(reader->Read(frame, picture), KxReadStatus::Picture);
+        EXPECT_EQ(picture.Index(), frame);
+        EXPECT_EQ(DifferingLines(picture), 0) << "frame " << frame;
     }
 }
 

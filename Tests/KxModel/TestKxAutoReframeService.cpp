@@ -1,4 +1,5 @@
 #include "KxAutoReframeService.h"
+#include "KxSubjectFindings.h"
 #include "MadeVideo.h"
 
 #include <QFile>
@@ -266,4 +267,24 @@ TEST_F(KxAutoReframeServiceTest, AFaceModelThatIsNoneIsToldAndTheAnalysisGoesOn)
         << m_service.LastWarnings().first().toStdString();
     QList<IKxAutoReframeResult> results;
     EXPECT_EQ(m_service.GetResults(clip, &results), 0);
+}
+
+TEST_F(KxAutoReframeServiceTest, WhatWasFoundIsKeptOnlyWhenAskedFor)
+{
+    Recorder recorder(m_service);
+    const QString clip = MakeClip("clip.mp4", 40);
+    ASSERT_TRUE(m_service.StartTask(clip, m_param));
+    ASSERT_TRUE(recorder.WaitForEnd());
+    EXPECT_EQ(m_service.LastFindings(), nullptr);
+
+    m_service.SetFindings(KxAutoReframeService::Findings::Keep);
+    Recorder second(m_service);
+    ASSERT_TRUE(m_service.StartTask(clip, m_param));
+    ASSERT_TRUE(second.WaitForEnd());
+    const auto findings = m_service.LastFindings();
+    ASSERT_NE(findings, nullptr);
+    ASSERT_FALSE(findings->shots.empty());
+    EXPECT_EQ(findings->shots.front().first, 0);
+    EXPECT_EQ(findings->shots.back().end, 40);
+    EXPECT_FALSE(findings->samples.empty());
 }

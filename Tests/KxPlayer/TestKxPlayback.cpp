@@ -107,6 +107,49 @@ TEST_F(TestPlayback, PlaysEachFrameAtItsTime)
     EXPECT_EQ(playback.DroppedFrames(), 0);
 }
 
+TEST_F(TestPlayback, APictureThatIsLateByAFrameIsShownAndTheDelayMadeUpFor)
+{
+    Open(PlayerClip::Numbered());
+    ASSERT_TRUE(AwaitFrame(0));
+    playback.Play();
+    ASSERT_TRUE(QTest::qWaitFor([&] {
+        now += FrameUs / 8;
+        return playback.CurrentFrame() == 1;
+    }));
+    // Frame 3 is due, and frame 2 has not been shown.
+    now += 2 * FrameUs + FrameUs / 4;
+    ASSERT_TRUE(QTest::qWaitFor([&] { return playback.CurrentFrame() != 1; }));
+    EXPECT_EQ(playback.CurrentFrame(), 2);
+    // Nobody could see it if the next one came at once.
+    QTest::qWait(60);
+    EXPECT_EQ(playback.CurrentFrame(), 2);
+    now += FrameUs / 2;
+    ASSERT_TRUE(QTest::qWaitFor([&] { return playback.CurrentFrame() != 2; }));
+    EXPECT_EQ(playback.CurrentFrame(), 3);
+    ASSERT_TRUE(QTest::qWaitFor([&] {
+        now += FrameUs / 8;
+        return playback.CurrentFrame() == 10;
+    }));
+    EXPECT_EQ(shown.size(), 11);
+    EXPECT_EQ(playback.DroppedFrames(), 0);
+}
+
+TEST_F(TestPlayback, PicturesThatAreLaterAreDropped)
+{
+    Open(PlayerClip::Numbered());
+    ASSERT_TRUE(AwaitFrame(0));
+    playback.Play();
+    ASSERT_TRUE(QTest::qWaitFor([&] {
+        now += FrameUs / 8;
+        return playback.CurrentFrame() == 1;
+    }));
+    // Frame 4 is due, and frames 2 and 3 have not been shown.
+    now += 3 * FrameUs + FrameUs / 4;
+    ASSERT_TRUE(QTest::qWaitFor([&] { return playback.CurrentFrame() != 1; }));
+    EXPECT_EQ(playback.CurrentFrame(), 4);
+    EXPECT_EQ(playback.DroppedFrames(), 2);
+}
+
 TEST_F(TestPlayback, LatePicturesAreDroppedAndCounted)
 {
     Open(PlayerClip::Numbered());
@@ -248,7 +291,8 @@ TEST_F(TestPlayback, APositionCanBeKept)
     playback.Seek(200);
     ASSERT_TRUE(AwaitFrame(200));
     playback.Open(PlayerClip::Source(PlayerClip::OneKeyFrame()), KxPlayback::After::Pause, KxPlayback::Position::Keep);
-    EXPECT_EQ(playback.CurrentFrame(), 0);
+    EXPECT_FALSE(playback.Picture());
+    EXPECT_EQ(playback.CurrentFrame(), 200);
     shown.clear();
     ASSERT_TRUE(AwaitFrame(200));
     // A shorter source has its last frame there.

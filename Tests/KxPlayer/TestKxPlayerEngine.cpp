@@ -36,8 +36,10 @@ protected:
     KxPlayerClock clock{[this] { return now.load(); }};
     std::mutex mutex;
     std::condition_variable told;
+    int timesTold = 0;
     KxPlayerEngine engine{clock, [this] {
                               const std::lock_guard<std::mutex> lock(mutex);
+                              ++timesTold;
                               told.notify_all();
                           }};
 };
@@ -132,11 +134,72 @@ TEST_F(TestEngine, LeavesOutWhatIsLate)
     ASSERT_TRUE(WaitFor([&] { return engine.IsPrimed(); }));
     clock.Start(0);
     now += 40 * 40000;
-    const auto last = engine.TakeUpTo(40);
-    ASSERT_TRUE(last);
-    EXPECT_LT(last->frame, 20);
-    ASSERT_TRUE(WaitFor([&] { return engine.NextFrame().has_value(); }));
-    EXPECT_GE(*engine.NextFrame(), 40);
+    std::vector<int> taken;
+    ASSERT_TRUE(WaitFor([&] {
+        while (const std::optional<int> next = engine.NextFrame()) {
+            taken.push_back(engine.Take(*next)->frame);
+        }
+        return taken.back() >= 45;
+    }));
+    // Those that waited, and from then on those whose time is not over for more than a frame.
+    for (size_t i = 0; i < taken.size(); ++i) {
+        EXPECT_TRUE(taken[i] == static_cast<int>(i) || taken[i] >= 39) << taken[i];
+    }
+    EXPECT_LT(taken.size(), 30U);
+}
+
+TEST_F(TestEngine, AFrameThatIsLateByOneIsStillMade)
+{
+    engine.Open(PlayerClip::Source(PlayerClip::Numbered()));
+    engine.SetArea(QSize(160, 96), std::nullopt);
+    engine.Play(0);
+    // It waits for room, so the next one is begun at a known time.
+    ASSERT_TRUE(WaitFor([&] { return timesTold == 12; }));
+    clock.Start(0);
+    now += 13 * 40000;
+    EXPECT_EQ(engine.TakeUpTo(13)->frame, 11);
+    ASSERT_TRUE(WaitFor([&] { return timesTold == 24; }));
+    EXPECT_EQ(engine.NextFrame(), 12);
+    now += 13 * 40000;
+    EXPECT_EQ(engine.TakeUpTo(26)->frame, 23);
+    ASSERT_TRUE(WaitFor([&] { return timesTold == 36; }));
+    EXPECT_GE(*engine.NextFrame(), 26);
+}
+
+TEST_F(TestEngine, MakesAsManyPicturesAheadAsItsMemoryHolds)
+{
+    EXPECT_EQ(KxPlayerEngine::PicturesAhead(QSize(1, 1)), 12U);
+    EXPECT_EQ(KxPlayerEngine::PicturesAhead(QSize(960, 540)), 12U);
+    EXPECT_EQ(KxPlayerEngine::PicturesAhead(QSize(1920, 1080)), 8U);
+    EXPECT_EQ(KxPlayerEngine::PicturesAhead(QSize(3840, 2160)), 6U);
+    engine.Open(PlayerClip::Source(PlayerClip::Numbered()));
+    engine.SetArea(QSize(160, 96), std::nullopt);
+    engine.Play(0);
+    // Nothing is taken meanwhile.
+    ASSERT_TRUE(WaitFor([&] { return timesTold == 12; }));
+    engine.Hold();
+    for (int frame = 0; frame < 12; ++frame) {
+        EXPECT_TRUE(engine.Take(frame)) << frame;
+    }
+}
+
+TEST_F(TestEngine, OrdersInTheMiddleOfALongReadGetTheirVeryFrame)
+{
+    const auto source = PlayerClip::Source(PlayerClip::OneKeyFrame());
+    engine.Open(source);
+    engine.SetArea(QSize(160, 96), std::nullopt);
+    // Each of them is on its way when the next one comes, wherever decoding stands by then.
+    std::mt19937 random(3);
+    for (int round = 0; round < 40; ++round) {
+        engine.Show(299);
+        for (auto spins = random() % 200000; spins > 0 && !engine.NextFrame(); --spins) {
+        }
+        const int frame = static_cast<int>(random() % 299);
+        engine.Show(frame);
+        const auto picture = Await(frame);
+        ASSERT_TRUE(picture);
+        EXPECT_EQ(MadeVideo::ReadNumber(picture->image), frame);
+    }
 }
 
 TEST_F(TestEngine, AStillFrameIsMadeAnewInAnotherSize)

@@ -373,3 +373,28 @@ TEST_F(KxRendererTest, FullDiskIsCalledFull)
     EXPECT_EQ(result.sentence, QStringLiteral("Cannot write %1: the disk is full.").arg(settings.outputPath));
     EXPECT_EQ(left, QStringList());
 }
+
+TEST_F(KxRendererTest, AnOverlayDrawsOnTheWholePictureOfEachFrame)
+{
+    KxRenderSource source = MakeClip(12, QStringLiteral("25"),
+                                     {QStringLiteral("-f"), QStringLiteral("lavfi"), QStringLiteral("-i"),
+                                      QStringLiteral("sine=frequency=440:duration=0.48")},
+                                     {QStringLiteral("-c:a"), QStringLiteral("aac")});
+    const QSize size(160, 90);
+    std::vector<int> found;
+    source.crops = WholePicture();
+    source.overlay = [&found, size](QImage& picture, qint64 frame) {
+        EXPECT_EQ(picture.size(), size);
+        found.push_back(MadeVideo::ReadNumber(picture).value_or(-1));
+        picture = MadeVideo::Draw(100 + static_cast<int>(frame), size).convertToFormat(QImage::Format_RGB32);
+    };
+    const KxRenderResult result = Render(source, SettingsFor(size));
+    ASSERT_EQ(result.outcome, KxOutcome::Done) << result.sentence.toStdString();
+    std::vector<int> before(12);
+    std::iota(before.begin(), before.end(), 0);
+    std::vector<int> after(12);
+    std::iota(after.begin(), after.end(), 100);
+    EXPECT_EQ(found, before);
+    EXPECT_EQ(Numbers(result.outputPath), after);
+    EXPECT_GT(SoundEnd(result.outputPath), 0.3);
+}

@@ -11,13 +11,13 @@ namespace
 {
 
 constexpr double FrameRate = 30.0;
-constexpr double CropExtent = 0.3164;
+const KxCropGeometry Portrait({1920, 1080}, {9, 16}, {0.0, 0.0, 1.0, 1.0});
 const KxSubjectOptions Options;
 
 std::vector<double> Draw(const std::vector<KxPathPoint>& points, std::int64_t first, std::int64_t end,
                          KxMotionSpeed speed = KxMotionSpeed::Auto)
 {
-    return KxCropPath(Options.path, Options.For(speed), CropExtent).Draw(points, first, end, FrameRate, 0.5);
+    return KxCropPath(Options.path, Options.For(speed), Portrait).Draw(points, first, end, FrameRate, 0.5);
 }
 
 template<typename Function>
@@ -113,9 +113,17 @@ TEST(KxCropPath, SparsePointsAreJoined)
     const auto line = Draw({{0, 0.3}, {90, 0.6}}, 0, 120);
     ASSERT_THAT(line, SizeIs(120));
     EXPECT_LT(line[10], line[80]);
-    for (const double centre : line) {
-        EXPECT_GE(centre, 0.3);
-        EXPECT_LE(centre, 0.6);
+    EXPECT_NEAR(line[0], 0.3, 0.03);
+    EXPECT_NEAR(line[90], 0.6, 0.03);
+}
+
+TEST(KxCropPath, TheEndOfWhatACropCanReachIsMetWithEase)
+{
+    const double lowest = Portrait.MinimumCentre();
+    const auto line = Draw(Points(0, 120, [lowest](double s) { return std::max(lowest, 0.5 - 0.1 * s); }), 0, 120);
+    for (std::size_t i = 0; i + 3 < line.size(); ++i) {
+        EXPECT_GE(line[i], lowest);
+        EXPECT_LT(std::abs(line[i + 3] - 3.0 * line[i + 2] + 3.0 * line[i + 1] - line[i]), 2e-4) << i;
     }
 }
 

@@ -50,6 +50,22 @@ protected:
         return m_tracks.ProfileAt(seconds, from, to, KxAxis::Across, EmptyFloor, PictureSize);
     }
 
+    /// The longest time from the coming of the face, after three seconds of `before`, to the look that finds it.
+    double LongestWait(const cv::Mat& before)
+    {
+        double longest = 0.0;
+        for (int first = 30; first < 51; first += 3) {
+            m_tracks = KxFaceTracks(Options.faces, KxFaceFinder(Options.faces, "", PictureSize));
+            m_without = before;
+            Play(first + 25, first, first + 25);
+            if (m_tracks.Tracks().empty()) {
+                return 100.0;
+            }
+            longest = std::max(longest, m_tracks.Tracks().front().looks.front().timeSeconds - first / 10.0);
+        }
+        return longest;
+    }
+
     cv::Mat m_withFace;
     cv::Mat m_without;
     KxFaceTracks m_tracks;
@@ -73,9 +89,9 @@ TEST_F(KxFaceTracksTest, AFaceThatStaysIsEvidenceWhereItIs)
 
 TEST_F(KxFaceTracksTest, AFaceSeenOnceIsNoEvidence)
 {
-    Play(30, 10, 11);
+    Play(30, 0, 1);
     EXPECT_FALSE(m_tracks.Tracks().empty());
-    EXPECT_EQ(At(1.0).Sum(), 0.0F);
+    EXPECT_EQ(At(0.0).Sum(), 0.0F);
 }
 
 TEST_F(KxFaceTracksTest, EvidenceEndsWithTheFace)
@@ -90,4 +106,53 @@ TEST_F(KxFaceTracksTest, LooksOfAnotherShotDoNotCount)
     Play(30, 0, 30);
     EXPECT_GT(At(1.5, 1.2, 2.4).Sum(), 0.0F);
     EXPECT_EQ(At(1.5, 1.5, 1.7).Sum(), 0.0F) << "too few looks in so short a shot";
+}
+
+TEST_F(KxFaceTracksTest, LooksAreRarerWhereNothingIsNewForLong)
+{
+    cv::Mat grey;
+    cv::cvtColor(m_withFace, grey, cv::COLOR_BGR2GRAY);
+    const std::vector<cv::Rect> faces =
+        KxFaceFinder(Options.faces, "", PictureSize).Find(m_withFace, grey, KxFaceView::Frontal);
+    ASSERT_EQ(faces.size(), 1U);
+    cv::Mat hidden = m_withFace.clone();
+    hidden(faces.front()).setTo(cv::mean(m_withFace));
+    const double longest = LongestWait(hidden);
+    EXPECT_GT(longest, Options.faces.frontalPeriodSeconds);
+    EXPECT_LT(longest, Options.faces.settledFactor * Options.faces.frontalPeriodSeconds + 0.05);
+}
+
+TEST_F(KxFaceTracksTest, ANewSceneIsLookedAtAtOnce)
+{
+    Play(60, 60, 60);
+    cv::Mat grey;
+    cv::cvtColor(m_withFace, grey, cv::COLOR_BGR2GRAY);
+    m_tracks.BeginScene();
+    m_tracks.AddPicture(6.0, m_withFace, grey);
+    ASSERT_EQ(m_tracks.Tracks().size(), 1U);
+    EXPECT_EQ(m_tracks.Tracks().front().looks.front().timeSeconds, 6.0);
+}
+
+TEST_F(KxFaceTracksTest, AFaceAtTheSamePlaceInANewSceneIsAnotherFace)
+{
+    Play(10, 0, 10);
+    ASSERT_EQ(m_tracks.Tracks().size(), 1U);
+    m_tracks.BeginScene();
+    cv::Mat grey;
+    cv::cvtColor(m_withFace, grey, cv::COLOR_BGR2GRAY);
+    m_tracks.AddPicture(1.0, m_withFace, grey);
+    EXPECT_EQ(m_tracks.Tracks().size(), 2U);
+}
+
+TEST_F(KxFaceTracksTest, LooksLeaveThePicturesAsTheyAre)
+{
+    cv::Mat grey;
+    cv::cvtColor(m_withFace, grey, cv::COLOR_BGR2GRAY);
+    const cv::Mat picture = m_withFace.clone();
+    const cv::Mat before = grey.clone();
+    for (int i = 0; i < 10; ++i) {
+        m_tracks.AddPicture(i / 10.0, m_withFace, grey);
+    }
+    EXPECT_EQ(cv::norm(grey, before, cv::NORM_INF), 0.0);
+    EXPECT_EQ(cv::norm(m_withFace, picture, cv::NORM_INF), 0.0);
 }

@@ -1,147 +1,182 @@
 #include "KxShotDetector.h"
 
-#include "MadePictures.h"
-
-#include <opencv2/core.hpp>
+#include "ShotPictures.h"
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
+#include <functional>
+
+using namespace ShotPictures;
 using testing::ElementsAre;
 using testing::IsEmpty;
+using testing::SizeIs;
 
 namespace
 {
 
 constexpr double FrameRate = 25.0;
-const cv::Size PictureSize(160, 90);
 
-std::vector<KxPictureChange> Calm(std::int64_t count)
+std::vector<KxShotBoundary> Boundaries(int frames, const std::function<cv::Mat(int frame)>& draw, int step = 1)
 {
-    std::vector<KxPictureChange> changes;
-    for (std::int64_t i = 0; i < count; ++i) {
-        KxPictureChange change;
-        change.frame = i;
-        change.grey = 1.0F + 0.1F * static_cast<float>(i % 3);
-        change.colour = 0.02F;
-        changes.push_back(change);
+    KxShotDetector detector(KxSubjectOptions().shots);
+    detector.Reserve(frames);
+    for (int frame = 0; frame < frames; frame += step) {
+        detector.AddPicture(frame, draw(frame));
     }
-    return changes;
+    return detector.Boundaries(FrameRate);
 }
 
-void Jump(std::vector<KxPictureChange>& changes, std::size_t at, float grey, float colour)
+std::vector<std::int64_t> Cuts(int frames, const std::function<cv::Mat(int frame)>& draw, int step = 1)
 {
-    changes[at].grey = grey;
-    changes[at].colour = colour;
+    std::vector<std::int64_t> cuts;
+    for (const KxShotBoundary& boundary : Boundaries(frames, draw, step)) {
+        cuts.push_back(boundary.frame);
+    }
+    return cuts;
 }
 
-std::vector<std::int64_t> Find(const std::vector<KxPictureChange>& changes)
+/// Shots that begin at these frames.
+std::function<cv::Mat(int)> Shots(const std::vector<int>& starts)
 {
-    return KxShotDetector::FindCuts(changes, FrameRate, KxSubjectOptions().shots);
+    return [starts](int frame) {
+        const auto shot = std::upper_bound(starts.begin(), starts.end(), frame) - starts.begin();
+        return Shot(Scene(static_cast<std::uint64_t>(shot) + 1), frame);
+    };
 }
 
 } // namespace
 
-TEST(KxShotDetector, AJumpOfBothSignalsIsACut)
+TEST(KxShotDetector, ACutIsOnItsFrame)
 {
-    auto changes = Calm(60);
-    Jump(changes, 30, 40.0F, 0.6F);
-    EXPECT_THAT(Find(changes), ElementsAre(30));
-}
-
-TEST(KxShotDetector, AJumpOfOneSignalAloneIsNone)
-{
-    auto changes = Calm(60);
-    Jump(changes, 20, 40.0F, 0.05F);
-    Jump(changes, 40, 3.0F, 0.6F);
-    EXPECT_THAT(Find(changes), IsEmpty());
-}
-
-TEST(KxShotDetector, AJumpUnderTheFloorIsNone)
-{
-    auto changes = Calm(60);
-    Jump(changes, 30, 8.5F, 0.17F);
-    EXPECT_THAT(Find(changes), IsEmpty());
-}
-
-TEST(KxShotDetector, AJumpThatIsUsualAroundItIsNone)
-{
-    auto changes = Calm(60);
-    for (KxPictureChange& change : changes) {
-        change.grey = 12.0F;
-        change.colour = 0.2F;
+    const auto found = Boundaries(75, Shots({31, 52}));
+    ASSERT_THAT(found, SizeIs(2));
+    for (const KxShotBoundary& cut : found) {
+        EXPECT_EQ(cut.kind, KxShotBoundaryKind::Cut);
+        EXPECT_EQ(cut.first, cut.frame);
+        EXPECT_EQ(cut.last, cut.frame);
     }
-    Jump(changes, 30, 22.0F, 0.38F);
-    EXPECT_THAT(Find(changes), IsEmpty());
-}
-
-TEST(KxShotDetector, OfTwoNearCutsTheStrongerStays)
-{
-    auto changes = Calm(60);
-    Jump(changes, 30, 30.0F, 0.5F);
-    Jump(changes, 33, 50.0F, 0.7F);
-    EXPECT_THAT(Find(changes), ElementsAre(33));
-}
-
-TEST(KxShotDetector, ACutRightAfterTheFirstPictureIsNone)
-{
-    auto changes = Calm(60);
-    Jump(changes, 2, 40.0F, 0.6F);
-    EXPECT_THAT(Find(changes), IsEmpty());
-}
-
-TEST(KxShotDetector, FrameNumbersAreThoseOfThePictures)
-{
-    auto changes = Calm(60);
-    for (KxPictureChange& change : changes) {
-        change.frame *= 4;
-    }
-    Jump(changes, 30, 40.0F, 0.6F);
-    EXPECT_THAT(Find(changes), ElementsAre(120));
-}
-
-TEST(KxShotDetector, FindsTheCutsOfAPanningVideoOnTheirFrames)
-{
-    const cv::Mat first = MadePictures::Texture({320, 90}, 1, 70.0);
-    const cv::Mat second = MadePictures::Texture({320, 90}, 2, 160.0);
-    KxShotDetector detector(KxSubjectOptions().shots);
-    for (int frame = 0; frame < 75; ++frame) {
-        const cv::Mat& scene = frame < 31 || frame >= 52 ? first : second;
-        detector.AddPicture(frame, MadePictures::View(scene, {frame * 0.8, 0.0}, PictureSize));
-    }
-    EXPECT_THAT(detector.Cuts(FrameRate), ElementsAre(31, 52));
-}
-
-TEST(KxShotDetector, AFlashIsNoCut)
-{
-    const cv::Mat scene = MadePictures::Texture({320, 90}, 3, 70.0);
-    for (const int length : {1, 2, 3}) {
-        KxShotDetector detector(KxSubjectOptions().shots);
-        for (int frame = 0; frame < 60; ++frame) {
-            cv::Mat picture = MadePictures::View(scene, {frame * 0.5, 0.0}, PictureSize);
-            if (frame >= 30 && frame < 30 + length) {
-                cv::add(picture, cv::Scalar::all(150), picture);
-            }
-            detector.AddPicture(frame, picture);
-        }
-        EXPECT_THAT(detector.Cuts(FrameRate), IsEmpty()) << "flash of " << length;
-    }
+    EXPECT_EQ(found[0].frame, 31);
+    EXPECT_EQ(found[1].frame, 52);
 }
 
 TEST(KxShotDetector, ACutBetweenMissingPicturesIsAtTheFirstOfTheNewShot)
 {
-    const cv::Mat first = MadePictures::Texture(PictureSize, 4, 70.0);
-    const cv::Mat second = MadePictures::Texture(PictureSize, 5, 160.0);
-    KxShotDetector detector(KxSubjectOptions().shots);
-    for (int frame = 0; frame < 90; frame += 3) {
-        detector.AddPicture(frame, frame < 44 ? first : second);
+    EXPECT_THAT(Cuts(90, Shots({44}), 3), ElementsAre(45));
+}
+
+TEST(KxShotDetector, ShotsOfFiveToTenFramesAreFound)
+{
+    EXPECT_THAT(Cuts(100, Shots({30, 35, 41, 48, 56, 65})), ElementsAre(30, 35, 41, 48, 56, 65));
+}
+
+TEST(KxShotDetector, AnInsertOfTenFramesHasTwoCuts)
+{
+    const cv::Mat one = Scene(1);
+    const cv::Mat other = Scene(2);
+    EXPECT_THAT(Cuts(75, [&](int frame) { return Shot(frame >= 30 && frame < 40 ? other : one, frame); }),
+                ElementsAre(30, 40));
+}
+
+TEST(KxShotDetector, Case3AFastPanIsNoCut)
+{
+    const cv::Mat scene = Scene(3);
+    EXPECT_THAT(Cuts(75, [&](int frame) { return MadePictures::View(scene, {frame * 15.0, 0.0}, Size); }), IsEmpty());
+}
+
+TEST(KxShotDetector, Case4AFlashIsNoCut)
+{
+    const cv::Mat scene = Scene(3);
+    for (const int length : {1, 2, 3, 4, 5}) {
+        for (const double light : {120.0, 255.0}) {
+            EXPECT_THAT(Cuts(60,
+                             [&](int frame) {
+                                 cv::Mat picture = Shot(scene, frame);
+                                 if (frame >= 30 && frame < 30 + length) {
+                                     cv::add(picture, cv::Scalar::all(light), picture);
+                                 }
+                                 return picture;
+                             }),
+                        IsEmpty())
+                << "flash of " << length << " by " << light;
+        }
     }
-    EXPECT_THAT(detector.Cuts(FrameRate), ElementsAre(45));
+}
+
+TEST(KxShotDetector, Case4AFlashOnACutLeavesTheCut)
+{
+    const cv::Mat one = Scene(1);
+    const cv::Mat other = Scene(5);
+    const auto cuts = Cuts(60, [&](int frame) {
+        return frame == 30 || frame == 31 ? Plain(255.0) : Shot(frame < 30 ? one : other, frame);
+    });
+    ASSERT_THAT(cuts, SizeIs(1));
+    EXPECT_GE(cuts[0], 30);
+    EXPECT_LE(cuts[0], 32);
+}
+
+TEST(KxShotDetector, Case5ALampThatIsTurnedOnIsNoCut)
+{
+    const cv::Mat scene = Scene(4);
+    EXPECT_THAT(Cuts(60,
+                     [&](int frame) {
+                         cv::Mat picture;
+                         Shot(scene, frame).convertTo(picture, CV_8UC3, frame < 30 ? 0.4 : 1.0, 0.0);
+                         return picture;
+                     }),
+                IsEmpty());
+}
+
+TEST(KxShotDetector, Case6AnExplosionIsNoCut)
+{
+    const cv::Mat scene = Scene(5);
+    EXPECT_THAT(Cuts(75,
+                     [&](int frame) {
+                         const cv::Mat picture = Shot(scene, frame);
+                         const double fire = frame < 30 ? 0.0 : std::max(0.0, 1.0 - (frame - 30) / 15.0);
+                         cv::Mat burning(Size, CV_8UC3, cv::Scalar(40, 160, 250));
+                         return Mixed(picture, burning, fire);
+                     }),
+                IsEmpty());
+}
+
+TEST(KxShotDetector, Case7AShortDissolveIsOneBoundary)
+{
+    const cv::Mat one = Scene(1);
+    const cv::Mat other = Scene(2);
+    const auto found = Boundaries(75, [&](int frame) {
+        return Mixed(Shot(one, frame), Shot(other, frame), std::clamp((frame - 30) / 4.0, 0.0, 1.0));
+    });
+    ASSERT_THAT(found, SizeIs(1));
+    EXPECT_EQ(found[0].kind, KxShotBoundaryKind::Dissolve);
+    EXPECT_NEAR(static_cast<double>(found[0].frame), 32.0, 1.0);
+}
+
+TEST(KxShotDetector, Case7AFadeOutThatEndsInACutIsACutOnItsFrame)
+{
+    const cv::Mat one = Scene(1);
+    const cv::Mat other = Scene(2);
+    const auto found = Boundaries(90, [&](int frame) {
+        return frame < 50 ? Mixed(Shot(one, frame), Plain(0.0), std::clamp((frame - 30) / 12.0, 0.0, 1.0))
+                          : Shot(other, frame);
+    });
+    ASSERT_THAT(found, SizeIs(1));
+    EXPECT_EQ(found[0].frame, 50);
+    EXPECT_EQ(found[0].kind, KxShotBoundaryKind::Cut);
+}
+
+TEST(KxShotDetector, Case8OfTwoNearCutsOneStays)
+{
+    EXPECT_THAT(Cuts(60, Shots({30, 33})), SizeIs(1));
+}
+
+TEST(KxShotDetector, Case8ACutRightAfterTheFirstPictureIsNone)
+{
+    EXPECT_THAT(Cuts(60, Shots({2})), IsEmpty());
 }
 
 TEST(KxShotDetector, NoPictureAndOnePictureHaveNoCut)
 {
-    KxShotDetector detector(KxSubjectOptions().shots);
-    EXPECT_THAT(detector.Cuts(FrameRate), IsEmpty());
-    detector.AddPicture(0, MadePictures::Texture(PictureSize, 6));
-    EXPECT_THAT(detector.Cuts(FrameRate), IsEmpty());
+    EXPECT_THAT(Cuts(0, Shots({})), IsEmpty());
+    EXPECT_THAT(Cuts(1, Shots({})), IsEmpty());
 }

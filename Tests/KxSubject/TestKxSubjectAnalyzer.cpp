@@ -1,12 +1,15 @@
 #include "KxSubjectAnalyzer.h"
 
+#include "KxSubjectFindings.h"
 #include "KxSubjectOptions.h"
 #include "MadePictures.h"
+#include "ShotPictures.h"
 
 #include <opencv2/imgproc.hpp>
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <functional>
 #include <limits>
@@ -52,6 +55,7 @@ KxSubjectOptions WithoutFaces()
     KxSubjectOptions options;
     options.faces.frontalPeriodSeconds = 1e6;
     options.faces.profilePeriodSeconds = 1e6;
+    options.faces.sidesAtFirst = 0;
     return options;
 }
 
@@ -164,6 +168,56 @@ TEST(KxSubjectAnalyzer, TheCropJumpsAtTheCutAndNowhereElse)
             EXPECT_LT(step, 0.02) << frame;
         }
     }
+}
+
+TEST(KxSubjectAnalyzer, TheCropJumpsInTheMiddleOfADissolve)
+{
+    const auto shot = [](std::uint64_t seed, double centre, std::int64_t frame) {
+        cv::Mat picture;
+        cv::resize(ShotPictures::Shot(ShotPictures::Scene(seed), static_cast<int>(frame)), picture, {320, 180});
+        const double sway = 0.03 * std::sin(static_cast<double>(frame) * 0.5);
+        MadePictures::PaintObject(picture, {cvRound((centre + sway) * 320.0) - 15, 80, 30, 40});
+        return picture;
+    };
+    const auto crops = Analyse(Request(160), [&shot](std::int64_t frame) {
+        const double part = std::clamp((static_cast<double>(frame) - 65.0) / 25.0, 0.0, 1.0);
+        return ShotPictures::Mixed(shot(1, 0.22, frame), shot(2, 0.76, frame), part);
+    });
+    ASSERT_EQ(crops.size(), 160U);
+    EXPECT_NEAR(Middle(crops[70]), Middle(crops[10]), 0.03);
+    EXPECT_NEAR(Middle(crops[85]), Middle(crops[150]), 0.03);
+    EXPECT_LT(Middle(crops[10]), 0.35);
+    EXPECT_GT(Middle(crops[150]), 0.65);
+}
+
+TEST(KxSubjectAnalyzer, FindingsNameTheShotsAndWhatCarriedThem)
+{
+    KxSubjectRequest request = Request(200);
+    request.wantsFindings = true;
+    KxSubjectAnalyzer analyzer(request, WithoutFaces());
+    for (std::int64_t frame = 0; frame < 200; ++frame) {
+        analyzer.AddPicture(frame, frame < 150 ? Walk(frame) : Picture(0.76, 40.0, 22));
+    }
+    const auto crops = analyzer.Finish();
+    const KxSubjectFindings& findings = analyzer.Findings();
+    ASSERT_EQ(findings.shots.size(), 2U);
+    EXPECT_EQ(findings.shots[0].first, 0);
+    EXPECT_EQ(findings.shots[0].end, 150);
+    EXPECT_EQ(findings.shots[1].end, 200);
+    EXPECT_TRUE(findings.shots[0].carrier == KxSignal::Movers || findings.shots[0].carrier == KxSignal::Motion);
+    EXPECT_EQ(findings.shots[1].carrier, KxSignal::Saliency) << "nothing moves";
+    ASSERT_FALSE(findings.samples.empty());
+    for (const KxSubjectFindings::Sample& sample : findings.samples) {
+        EXPECT_NEAR(sample.wanted, Middle(crops[static_cast<std::size_t>(sample.frame)]), 0.1) << sample.frame;
+    }
+}
+
+TEST(KxSubjectAnalyzer, NoFindingsAreKeptUnasked)
+{
+    KxSubjectAnalyzer analyzer(Request(30), WithoutFaces());
+    analyzer.AddPicture(0, Walk(0));
+    analyzer.Finish();
+    EXPECT_TRUE(analyzer.Findings().samples.empty());
 }
 
 TEST(KxSubjectAnalyzer, BarsStayOutside)

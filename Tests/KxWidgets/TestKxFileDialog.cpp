@@ -8,6 +8,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
+#include <QLineEdit>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -119,6 +120,29 @@ TEST_F(KxFileDialogTest, ShownFolderChooserGivesTheFolder)
         QMetaObject::invokeMethod(box->findChild<QFileDialog*>(), "accept");
     });
     EXPECT_EQ(KxFileDialog::getExistingDirectory(&parent, QStringLiteral("Choose"), folder.path()), folder.path());
+}
+
+TEST_F(KxFileDialogTest, AMissingFolderGivesTheNearestOneAbove)
+{
+    QTemporaryDir folder;
+    const auto openedIn = [](const QString& asked) {
+        QString opened;
+        QString named;
+        QTimer::singleShot(0, qApp, [&] {
+            auto* chooser = QApplication::activeModalWidget()->findChild<QFileDialog*>();
+            opened = chooser->directory().path();
+            named = chooser->findChild<QLineEdit*>()->text();
+            QMetaObject::invokeMethod(chooser, "reject");
+        });
+        KxFileDialog::getOpenFileNames(nullptr, QStringLiteral("Open"), asked, QStringLiteral("All(*.mp4;)"));
+        EXPECT_EQ(named, QString());
+        return opened;
+    };
+    EXPECT_EQ(openedIn(folder.path()), folder.path());
+    EXPECT_EQ(openedIn(folder.filePath(QStringLiteral("Videos"))), folder.path());
+    EXPECT_EQ(openedIn(folder.filePath(QStringLiteral("Videos/2024"))), folder.path());
+    EXPECT_EQ(openedIn(QStringLiteral("/")), QStringLiteral("/"));
+    EXPECT_EQ(openedIn(QString()), QDir::homePath());
 }
 
 } // namespace

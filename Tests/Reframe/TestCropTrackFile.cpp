@@ -91,14 +91,6 @@ TEST_F(CropTrackFileTest, WhatWasWrittenCanBeRead)
     EXPECT_TRUE(CropTrackFile::Read(Path("t.csv"))->aspect.isEmpty());
 }
 
-TEST_F(CropTrackFileTest, SupportsTwoSuffixes)
-{
-    EXPECT_TRUE(CropTrackFile::IsSupported(QStringLiteral("a.json")));
-    EXPECT_TRUE(CropTrackFile::IsSupported(QStringLiteral("a.CSV")));
-    EXPECT_FALSE(CropTrackFile::IsSupported(QStringLiteral("a.txt")));
-    EXPECT_FALSE(CropTrackFile::IsSupported(QStringLiteral("json")));
-}
-
 TEST_F(CropTrackFileTest, RefusesWhatIsNoTrackAndSaysWhy)
 {
     ExpectRefused(Path("missing.json"), "missing.json");

@@ -1,6 +1,8 @@
 #include "ReframeExit.h"
 #include "ReframeOptions.h"
 
+#include <QDir>
+#include <QFile>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -62,14 +64,33 @@ TEST(ReframeOptions, RefusesWhatIsNoAspectRatioAndNamesIt)
 
 TEST(ReframeOptions, WrongUseIsOneSentenceAndStatusTwo)
 {
-    for (const char* line : {"--speed quick a.mp4", "--no-such-option a.mp4", "--output o.mp4 --no-video a.mp4",
-                             "--output o.mp4 a.mp4 b.mp4", "--apply t.json a.mp4 b.mp4", "--aspect"}) {
+    for (const char* line :
+         {"--speed quick a.mp4", "--no-such-option a.mp4", "--output o.mp4 --no-video a.mp4",
+          "--output o.mp4 a.mp4 b.mp4", "--apply t.json a.mp4 b.mp4", "--aspect", "--output o.avi a.mp4",
+          "--output folder/ a.mp4", "--keyframes k.txt a.mp4", "--preview p.jpg a.mp4", "--report r.txt a.mp4",
+          "--report r.html --apply t.json a.mp4", "--report r.html a.mp4 b.mp4", "--preview p.mp4 a.mp4 b.mp4"}) {
         const auto parsed = Parse(Words(line));
         EXPECT_FALSE(parsed.options) << line;
         EXPECT_EQ(parsed.exitStatus, ReframeExit::WrongUse) << line;
         EXPECT_EQ(parsed.text.count(QLatin1Char('\n')), 1) << parsed.text.toStdString();
+        EXPECT_FALSE(parsed.text.contains(QStringLiteral(".."))) << parsed.text.toStdString();
     }
     EXPECT_EQ(Parse({}).exitStatus, ReframeExit::WrongUse);
+}
+
+TEST(ReframeOptions, AFileThatIsNamedLikeAnOptionIsExplained)
+{
+    const QTemporaryDir folder;
+    const QString before = QDir::currentPath();
+    ASSERT_TRUE(QDir::setCurrent(folder.path()));
+    ASSERT_TRUE(QFile(QStringLiteral("-clip.mp4")).open(QIODevice::WriteOnly));
+    const auto parsed = Parse({QStringLiteral("-clip.mp4")});
+    EXPECT_EQ(parsed.exitStatus, ReframeExit::WrongUse);
+    EXPECT_TRUE(parsed.text.startsWith(
+        QStringLiteral("-clip.mp4 begins like an option; as a file it is written ./-clip.mp4.\n")))
+        << parsed.text.toStdString();
+    EXPECT_TRUE(Parse({QStringLiteral("--"), QStringLiteral("-clip.mp4")}).options);
+    QDir::setCurrent(before);
 }
 
 TEST(ReframeOptions, SeveralInputsTakeFolders)
@@ -87,7 +108,7 @@ TEST(ReframeOptions, HelpAndVersionEndWellWithoutInput)
     EXPECT_FALSE(help.options);
     EXPECT_EQ(help.exitStatus, ReframeExit::Done);
     for (const char* option : {"--aspect", "--speed", "--output", "--keyframes", "--apply", "--no-video", "--preview",
-                               "--face-model", "--json", "--quiet", "--version", "--overwrite"}) {
+                               "--report", "--face-model", "--json", "--quiet", "--version", "--overwrite"}) {
         EXPECT_TRUE(help.text.contains(QLatin1String(option))) << option;
     }
     EXPECT_EQ(Parse({QStringLiteral("--version")}).exitStatus, ReframeExit::Done);

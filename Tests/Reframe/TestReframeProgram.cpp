@@ -137,7 +137,8 @@ TEST_F(ReframeProgramTest, RefusesSoundOnlySinglePicturesAndWhatIsTooShortOrTooS
     ExpectRefused(Path("sound.m4a"), "moving picture");
     ASSERT_TRUE(MadeVideo::Draw(1, QSize(160, 96)).save(Path("picture.png")));
     ExpectRefused(Path("picture.png"), "");
-    ExpectRefused(MakeClip("short.mp4", 31), "too short");
+    ExpectRefused(MakeClip("short.mp4", 31), "too short (31 frames; 32 are needed)");
+    ExpectRefused(MakeClip("frame.mp4", 1), "too short (1 frame; 32 are needed)");
     ASSERT_TRUE(MadeVideo::RunFfmpeg({QStringLiteral("-f"), QStringLiteral("lavfi"), QStringLiteral("-i"),
                                       QStringLiteral("testsrc=size=1x1:duration=2"), QStringLiteral("-pix_fmt"),
                                       QStringLiteral("gray"), QStringLiteral("-c:v"), QStringLiteral("ffv1"),
@@ -176,6 +177,25 @@ TEST_F(ReframeProgramTest, ACutOffVideoIsReframedAsFarAsItDecodesWithAWarning)
     EXPECT_LT((*reader)->Facts().video->frameCount, 90);
 }
 
+TEST_F(ReframeProgramTest, AVideoWithoutAnIndexThatWasCutOffIsToldOfToo)
+{
+    for (const char* suffix : {"mkv", "avi"}) {
+        SCOPED_TRACE(suffix);
+        const QString name = QStringLiteral("whole.%1").arg(QLatin1String(suffix));
+        QFile file(MakeClip(qPrintable(name), 100,
+                            {QStringLiteral("-g"), QStringLiteral("10"), QStringLiteral("-qp"), QStringLiteral("1")}));
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+        const QString cut = QStringLiteral("cut.%1").arg(QLatin1String(suffix));
+        MakeFile(qPrintable(cut), file.read(file.size() * 6 / 10));
+        const ReframeRun run(
+            {QStringLiteral("--overwrite"), QStringLiteral("--output"), Path("out.mp4"), Path(qPrintable(cut))});
+        EXPECT_EQ(run.exitStatus, 0) << run.standardError.toStdString();
+        EXPECT_TRUE(run.standardError.contains(cut + QStringLiteral(" is damaged or incomplete: only ")))
+            << run.standardError.toStdString();
+        EXPECT_TRUE(run.standardError.contains(QStringLiteral(" of 100 frames"))) << run.standardError.toStdString();
+    }
+}
+
 TEST_F(ReframeProgramTest, WrongUseIsStatusTwo)
 {
     EXPECT_EQ(ReframeRun({}).exitStatus, 2);
@@ -192,13 +212,43 @@ TEST_F(ReframeProgramTest, AnOutputThatCannotBeWrittenIsNamed)
     EXPECT_TRUE(run.standardError.contains(QStringLiteral("does not exist"))) << run.standardError.toStdString();
 }
 
+TEST_F(ReframeProgramTest, AnOutputThatCannotBeWrittenIsToldBeforeTheAnalysis)
+{
+    const QString clip = MakeClip("clip.mp4");
+    for (const auto& [option, suffix] : {std::pair("--output", "mp4"), std::pair("--keyframes", "json"),
+                                         std::pair("--preview", "png"), std::pair("--report", "html")}) {
+        const QString target = Path("no/such/folder/out.") + QLatin1String(suffix);
+        const ReframeRun run({QStringLiteral("--json"), QLatin1String(option), target, clip});
+        EXPECT_EQ(run.exitStatus, 1) << option;
+        EXPECT_TRUE(run.standardError.contains(QStringLiteral("does not exist"))) << option;
+        EXPECT_FALSE(run.standardOutput.contains(QStringLiteral("progress"))) << option;
+    }
+}
+
+TEST_F(ReframeProgramTest, OneRunNeverReplacesWhatItHasWritten)
+{
+    for (const char* folder : {"one", "two", "out"}) {
+        QDir(m_folder.path()).mkdir(QLatin1String(folder));
+    }
+    const QString one = MakeClip("one/clip.mp4");
+    const QString two = MakeClip("two/clip.mp4");
+    const QStringList both{QStringLiteral("clip-AutoReframe-9 16 (2).mp4"),
+                           QStringLiteral("clip-AutoReframe-9 16.mp4")};
+    for (const QStringList& more : {QStringList(), QStringList(QStringLiteral("--overwrite"))}) {
+        const ReframeRun run(more + QStringList{QStringLiteral("--output"), Path("out"), one, two});
+        EXPECT_EQ(run.exitStatus, 0) << run.standardError.toStdString();
+        EXPECT_EQ(QDir(Path("out")).entryList(QDir::Files), both);
+        QFile::remove(Path("out/clip-AutoReframe-9 16 (2).mp4"));
+    }
+}
+
 TEST_F(ReframeProgramTest, TheInputItselfIsNeverReplaced)
 {
     const QString clip = MakeClip("clip.mp4");
     const qint64 size = QFileInfo(clip).size();
     const ReframeRun run({QStringLiteral("--overwrite"), QStringLiteral("--output"), clip, clip});
     EXPECT_EQ(run.exitStatus, 1);
-    EXPECT_TRUE(run.standardError.contains(QStringLiteral("it is the input itself")))
+    EXPECT_TRUE(run.standardError.contains(QStringLiteral("it is one of the inputs")))
         << run.standardError.toStdString();
     EXPECT_EQ(QFileInfo(clip).size(), size);
 }

@@ -16,7 +16,8 @@ public:
     virtual QString name() const = 0;
 };
 
-/// A media file. User-interface thread only.
+/// A media file. It may be opened, and dropped again, on any thread; one thread at a time uses it, and from when it is
+/// shown or put on a timeline that is the user-interface thread.
 ///
 /// Life cycle: made with `createMediaItem`, given back with `releaseMediaItem` by whoever made it. Its clip and
 /// information live as long as the item; a timeline that was built around the clip shares what it needs and lives on.
@@ -37,7 +38,7 @@ public:
 };
 
 /// Opens the file `path` and reads its facts; null when it is no media file that can be read. Blocks while the file's
-/// header is read. The caller gives the item back with `releaseMediaItem`.
+/// header is read; any thread. The caller gives the item back with `releaseMediaItem`.
 KXMODEL_API IKxAbstractMediaItem* createMediaItem(const QString& path);
 
 /// Frees an item made by `createMediaItem`; null is allowed.

@@ -22,7 +22,7 @@ public:
     ~KxMediaPlayerPresenter() override;
 
     bool inPlaying() const;
-    /// The frame on the screen; 0 while no picture stands.
+    /// The frame on the screen; while no picture stands, the one that is going to.
     int currentFrame() const;
     /// Frames of the open timeline; 0 while nothing is open.
     int frameCount() const;

@@ -8,7 +8,8 @@
 
 class QWidget;
 
-/// The host's file choosers. User-interface thread; each call returns when the person has chosen.
+/// The host's file choosers. They open in `folder`, or in the nearest folder above it that is there; without one, in
+/// the home folder. User-interface thread; each call returns when the person has chosen.
 namespace KxFileDialog
 {
 /// Existing files; empty when the person cancelled. `filter` is one group "Name(*.mp4;*.mov;)" whose patterns are

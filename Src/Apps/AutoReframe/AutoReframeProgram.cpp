@@ -5,7 +5,6 @@
 #include "MainWindow.h"
 #include "StudioLoader.h"
 #include "UiReport.h"
-#include "WindowManagerCare.h"
 
 #include <KxWidgets/KxUIStyle.h>
 
@@ -40,7 +39,6 @@ void EndWhenInterrupted(QTimer& timer, MainWindow& window)
 int AutoReframeProgram::Run(QApplication& application, const AutoReframeOptions& options)
 {
     KxUIStyle::Apply(application);
-    new WindowManagerCare(application);
     QTranslator texts;
     if (texts.load(QStringLiteral(":/AutoReframe/auto-reframe_en.qm"))) {
         QCoreApplication::installTranslator(&texts);

@@ -24,13 +24,17 @@ using State = ExportItem::State;
 constexpr int CancelPx = 24;
 constexpr int SmallPx = 11;
 
+QFont Small(QFont font)
+{
+    font.setPixelSize(SmallPx);
+    return font;
+}
+
 KxLabel* MakeSmall(QWidget* parent, const QString& name)
 {
     KxLabel* const label = KxLabel::CreateLabel(parent, QString());
     label->setObjectName(name);
-    QFont font = KxUIStyle::TabularFont();
-    font.setPixelSize(SmallPx);
-    label->setFont(font);
+    label->setFont(Small(KxUIStyle::TabularFont()));
     label->setProperty("textRole", QStringLiteral("muted"));
     // As much as a link button has around its text, so that both stand on one line.
     label->setContentsMargins(0, 4, 0, 4);
@@ -120,6 +124,8 @@ void ExportCard::Show(const ExportItem& item)
     m_size->setVisible(isActive);
     m_retry->setVisible(item.state == State::Failed || item.state == State::Cancelled);
     m_show->setVisible(item.state == State::Done);
+    // Figures that run have to stand still; a sentence looks like every other text.
+    m_status->setFont(Small(isActive ? KxUIStyle::TabularFont() : font()));
     SetTextRole(*m_status, item.state == State::Failed ? QStringLiteral("error") : QStringLiteral("muted"));
     ShowTexts();
 }

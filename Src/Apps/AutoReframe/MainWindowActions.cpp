@@ -10,7 +10,6 @@
 #include <KxWidgets/KxFileDialog.h>
 
 #include <QApplication>
-#include <QDir>
 #include <QDropEvent>
 #include <QFileInfo>
 #include <QMimeData>
@@ -48,9 +47,8 @@ void MainWindow::ChooseFiles()
         Inform(m_studio.Sentence());
         return;
     }
-    const QString movies = QStandardPaths::writableLocation(QStandardPaths::MoviesLocation);
     const QString folder =
-        KxConfig::Instance().getDefaultImportDir(QFileInfo(movies).isDir() ? movies : QDir::homePath());
+        KxConfig::Instance().getDefaultImportDir(QStandardPaths::writableLocation(QStandardPaths::MoviesLocation));
     const QStringList chosen = KxFileDialog::getOpenFileNames(
         this, tr("Import"), folder, QStringLiteral("%1(%2;)").arg(tr("All supported files"), studio->ImportPatterns()));
     if (!chosen.isEmpty()) {

@@ -154,6 +154,7 @@ void MediaCardDelegate::PaintLength(QPainter& painter, const QRect& picture, con
     constexpr int paddingPx = 6;
     constexpr int heightPx = 18;
     constexpr int marginPx = 7;
+    painter.save();
     painter.setFont(Small(painter.font()));
     const int widthPx = painter.fontMetrics().horizontalAdvance(length) + 2 * paddingPx;
     const QRect badge(picture.right() + 1 - marginPx - widthPx, picture.bottom() + 1 - marginPx - heightPx, widthPx,
@@ -165,6 +166,7 @@ void MediaCardDelegate::PaintLength(QPainter& painter, const QRect& picture, con
     painter.drawRoundedRect(badge, radiusPx, radiusPx);
     painter.setPen(KxUIStyle::Colour(Role::Text));
     painter.drawText(badge, Qt::AlignCenter, length);
+    painter.restore();
 }
 
 void MediaCardDelegate::PaintTexts(QPainter& painter, const QRect& card, const QModelIndex& index) const

@@ -15,7 +15,7 @@
 
 class QWidget;
 
-/// What the studio keeps of an opened file. Ends on the user-interface thread, before the studio.
+/// What the studio keeps of an opened file. Used by one thread at a time; ends before the studio.
 class StudioItem
 {
 public:

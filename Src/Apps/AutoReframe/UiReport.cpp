@@ -64,6 +64,9 @@ void AddContent(const QWidget& widget, QJsonObject& object)
     if (const auto* const button = qobject_cast<const QAbstractButton*>(&widget)) {
         object.insert(text, button->text());
         object.insert(QStringLiteral("checked"), button->isChecked());
+        if (const QVariant face = button->property("face"); face.isValid()) {
+            object.insert(QStringLiteral("face"), face.toInt());
+        }
     } else if (const auto* const label = qobject_cast<const QLabel*>(&widget)) {
         object.insert(text, label->text());
     } else if (const auto* const line = qobject_cast<const QLineEdit*>(&widget)) {

@@ -12,7 +12,7 @@ class QWidget;
 ///
 /// The report is a JSON object: "serial" counts the reports, "window" and "focus" name the active window and the
 /// control with the focus, "widgets" lists the controls with "name", "class", "window", "rect" [x, y, width, height] in
-/// device pixels of the screen, "enabled" and, where they have them, "text", "value", "checked" and "items".
+/// device pixels of the screen, "enabled" and, where they have them, "text", "value", "checked", "face" and "items".
 class UiReport : public QObject
 {
     Q_OBJECT

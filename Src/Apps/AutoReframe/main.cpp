@@ -1,5 +1,6 @@
 #include "AutoReframeProgram.h"
 #include "KxInterrupt.h"
+#include "KxMemory.h"
 #include "KxSpdlog.h"
 
 #include <QApplication>
@@ -33,6 +34,7 @@ int main(int argc, char** argv)
         return *PrintAndEnd(early);
     }
 
+    KxMemory::KeepNoPictures();
     // Nothing here is drawn with OpenGL, and loading its driver takes longer than all the rest of the start.
     if (!qEnvironmentVariableIsSet("QT_XCB_GL_INTEGRATION")) {
         qputenv("QT_XCB_GL_INTEGRATION", "none");

@@ -1,5 +1,6 @@
 #include "ContactSheet.h"
 
+#include "DrawnCrop.h"
 #include "KxPictureScaler.h"
 #include "KxVideoReader.h"
 
@@ -16,22 +17,12 @@ constexpr int barPx = 4;
 
 const QColor background(0x1B, 0x1D, 0x21);
 const QColor barColor(0x3A, 0x3E, 0x46);
-const QColor accent(0x55, 0xE5, 0xC5);
-const QColor dimmed(0, 0, 0, 142);
+const QColor accent(DrawnCrop::accent);
 
 void DrawCell(QPainter& painter, const QRect& cell, const QImage& image, const QRectF& crop, double position)
 {
     painter.drawImage(cell.topLeft(), image);
-    const QRectF kept(cell.x() + crop.x() * cell.width(), cell.y() + crop.y() * cell.height(),
-                      crop.width() * cell.width(), crop.height() * cell.height());
-    QRegion outside(cell);
-    outside -= kept.toAlignedRect();
-    for (const QRect& part : outside) {
-        painter.fillRect(part, dimmed);
-    }
-    painter.setPen(QPen(accent, 2.0));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRect(kept.adjusted(1.0, 1.0, -1.0, -1.0));
+    DrawnCrop::Draw(painter, cell, crop);
 
     const QRect bar(cell.x(), cell.bottom() + 1 + barPx, cell.width(), barPx);
     painter.fillRect(bar, barColor);

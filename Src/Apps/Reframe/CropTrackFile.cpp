@@ -1,5 +1,7 @@
 #include "CropTrackFile.h"
 
+#include "KxSystemError.h"
+
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonArray>
@@ -117,7 +119,7 @@ KxResult<CropTrack> ReadJson(const QByteArray& content, const QString& name)
         track.aspect = QSize(aspect.at(0).toInt(), aspect.at(1).toInt());
     }
     track.speedName = root.value(QStringLiteral("speed")).toString();
-    for (const QJsonValue& frame : root.value(QStringLiteral("frames")).toArray()) {
+    for (const QJsonValue frame : root.value(QStringLiteral("frames")).toArray()) {
         const QJsonArray numbers = frame.toArray();
         std::array<double, 4> values{};
         for (std::size_t k = 0; k < values.size(); ++k) {
@@ -132,11 +134,6 @@ KxResult<CropTrack> ReadJson(const QByteArray& content, const QString& name)
 
 } // namespace
 
-bool CropTrackFile::IsSupported(const QString& path)
-{
-    return IsCsv(path) || QFileInfo(path).suffix().compare(QLatin1String("json"), Qt::CaseInsensitive) == 0;
-}
-
 QByteArray CropTrackFile::Format(const CropTrack& track, const QString& path)
 {
     return IsCsv(path) ? FormatCsv(track) : FormatJson(track);
@@ -147,8 +144,7 @@ KxResult<CropTrack> CropTrackFile::Read(const QString& path)
     const QString name = QFileInfo(path).fileName();
     QFile file(path);
     if (QFileInfo(path).isDir() || !file.open(QIODevice::ReadOnly)) {
-        const QString reason =
-            QFileInfo(path).isDir() ? QStringLiteral("it is a folder") : file.errorString().toLower();
+        const QString reason = QFileInfo(path).isDir() ? QStringLiteral("it is a folder") : KxFileErrorText(file);
         return KxResult<CropTrack>::Failure(QStringLiteral("Cannot open %1: %2.").arg(path, reason));
     }
     constexpr qint64 largestBytes = 512LL * 1024 * 1024;

@@ -20,9 +20,6 @@ struct CropTrack {
 
 namespace CropTrackFile
 {
-/// Whether the path ends in a suffix that can be written.
-bool IsSupported(const QString& path);
-
 /// The whole content of a file for `path`.
 QByteArray Format(const CropTrack& track, const QString& path);
 

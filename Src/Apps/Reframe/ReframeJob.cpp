@@ -1,25 +1,25 @@
 #include "ReframeJob.h"
 
-#include "ContactSheet.h"
-#include "CropTrackFile.h"
 #include "KrAutoReframeAnalyzer.h"
 #include "KrAutoReframeHelper.h"
 #include "KxAutoReframeService.h"
 #include "KxInterrupt.h"
-#include "ReframeReporter.h"
 #include "ReframeWait.h"
 
-#include <QBuffer>
 #include <QDir>
 #include <QEventLoop>
 #include <QFileInfo>
 
-ReframeJob::ReframeJob(const QString& input, const ReframeOptions& options, ReframeReporter& reporter)
+#include <algorithm>
+
+ReframeJob::ReframeJob(const QString& input, const ReframeOptions& options, ReframeReporter& reporter,
+                       QStringList& written)
     : m_input(input)
     , m_options(options)
     , m_reporter(reporter)
     , m_aspect(options.aspect)
     , m_process(std::make_unique<KrAutoReframeProcess>(nullptr))
+    , m_allWritten(written)
 {
 }
 
@@ -32,8 +32,9 @@ ReframeJob::~ReframeJob()
 
 KxOutcome ReframeJob::Run()
 {
-    for (Ended (ReframeJob::*step)() : {&ReframeJob::Open, &ReframeJob::FindCrops, &ReframeJob::WriteKeyframes,
-                                        &ReframeJob::WritePreview, &ReframeJob::WriteVideo}) {
+    for (Ended (ReframeJob::*step)() :
+         {&ReframeJob::Open, &ReframeJob::ReadTrack, &ReframeJob::CheckTargets, &ReframeJob::FindCrops,
+          &ReframeJob::WriteKeyframes, &ReframeJob::WriteReport, &ReframeJob::WritePreview, &ReframeJob::WriteVideo}) {
         if (KxInterrupt::IsRequested()) {
             return KxOutcome::Cancelled;
         }
@@ -41,13 +42,19 @@ KxOutcome ReframeJob::Run()
             return *ended;
         }
     }
-    const QString frames = QStringLiteral("%1 frames").arg(Helper().GetDuration());
+    const QString frames = FramesText();
     m_reporter.Succeed(m_input,
                        m_written.isEmpty()
                            ? QStringLiteral("%1: %2 analysed").arg(m_input, frames)
                            : QStringLiteral("%1: %2 -> %3").arg(m_input, frames, m_written.join(QStringLiteral(", "))),
                        m_facts);
     return KxOutcome::Done;
+}
+
+QString ReframeJob::FramesText() const
+{
+    const qint64 frames = m_media->duration();
+    return frames == 1 ? QStringLiteral("1 frame") : QStringLiteral("%1 frames").arg(frames);
 }
 
 ReframeJob::Ended ReframeJob::Open()
@@ -65,16 +72,58 @@ ReframeJob::Ended ReframeJob::Open()
     return std::nullopt;
 }
 
+ReframeJob::Ended ReframeJob::ReadTrack()
+{
+    if (m_options.apply.isEmpty()) {
+        return std::nullopt;
+    }
+    KxResult<CropTrack> track = CropTrackFile::Read(m_options.apply);
+    if (!track) {
+        return Fail(track.Sentence());
+    }
+    if (!track->aspect.isEmpty()) {
+        m_aspect = track->aspect;
+    }
+    m_track = std::move(*track);
+    return std::nullopt;
+}
+
+ReframeJob::Ended ReframeJob::CheckTargets()
+{
+    QStringList targets;
+    if (!m_options.keyframes.isEmpty()) {
+        targets += TargetPath(m_options.keyframes, QStringLiteral("json"));
+    }
+    if (!m_options.report.isEmpty()) {
+        targets += TargetPath(m_options.report, QStringLiteral("html"));
+    }
+    if (!m_options.preview.isEmpty()) {
+        targets += TargetPath(m_options.preview, QStringLiteral("png"));
+    }
+    if (m_options.writesVideo) {
+        targets += TargetPath(m_options.output, QStringLiteral("mp4"));
+    }
+    for (const QString& target : qAsConst(targets)) {
+        if (WouldReplaceInput(target)) {
+            return Fail(QStringLiteral("Cannot write %1: it is one of the inputs.").arg(target));
+        }
+        if (const auto tried = KxOutputFile::Create(target); !tried) {
+            return Fail(tried.Sentence());
+        }
+    }
+    return std::nullopt;
+}
+
 ReframeJob::Ended ReframeJob::FindCrops()
 {
     m_reporter.BeginStage(m_input, ReframeReporter::Stage::Analyze);
-    if (const Ended ended = m_options.apply.isEmpty() ? StartAnalysis() : StartApplying()) {
+    if (const Ended ended = m_track ? StartApplying() : StartAnalysis()) {
         return ended;
     }
     if (const Ended ended = WaitForCrops()) {
         return ended;
     }
-    if (m_options.apply.isEmpty()) {
+    if (!m_track) {
         const QStringList warnings = KxAutoReframeService::Instance().LastWarnings();
         for (const QString& warning : warnings) {
             m_reporter.Warn(m_input, warning);
@@ -89,9 +138,8 @@ ReframeJob::Ended ReframeJob::StartAnalysis()
     case 0:
         return std::nullopt;
     case 1:
-        return Fail(QStringLiteral("Cannot reframe %1: it is too short (%2 frames; 32 are needed).")
-                        .arg(m_input)
-                        .arg(m_media->duration()));
+        return Fail(
+            QStringLiteral("Cannot reframe %1: it is too short (%2; 32 are needed).").arg(m_input, FramesText()));
     case 3:
         return Fail(QStringLiteral("Cannot reframe %1: it has the aspect ratio %2:%3 already.")
                         .arg(m_input)
@@ -104,17 +152,9 @@ ReframeJob::Ended ReframeJob::StartAnalysis()
 
 ReframeJob::Ended ReframeJob::StartApplying()
 {
-    KxResult<CropTrack> track = CropTrackFile::Read(m_options.apply);
-    if (!track) {
-        return Fail(track.Sentence());
-    }
-    if (!track->aspect.isEmpty()) {
-        m_aspect = track->aspect;
-    }
-    if (!Helper().ApplyResults(track->crops)) {
-        return Fail(QStringLiteral("Cannot use %1: it holds %2 frames, %3 has %4.")
-                        .arg(m_options.apply, QString::number(track->crops.size()), m_input,
-                             QString::number(m_media->duration())));
+    if (!Helper().ApplyResults(m_track->crops)) {
+        return Fail(QStringLiteral("Cannot use %1: it holds %2 of the %3 of %4.")
+                        .arg(m_options.apply, QString::number(m_track->crops.size()), FramesText(), m_input));
     }
     return std::nullopt;
 }
@@ -141,11 +181,8 @@ ReframeJob::Ended ReframeJob::WaitForCrops()
     return std::nullopt;
 }
 
-ReframeJob::Ended ReframeJob::WriteKeyframes()
+CropTrack ReframeJob::Track() const
 {
-    if (m_options.keyframes.isEmpty()) {
-        return std::nullopt;
-    }
     CropTrack track;
     track.sourcePath = m_input;
     track.sourceSize = static_cast<const KxClip*>(m_media->clip())->StreamInfo().resolution();
@@ -153,40 +190,41 @@ ReframeJob::Ended ReframeJob::WriteKeyframes()
     track.aspect = m_aspect;
     track.speedName = m_options.speedName;
     track.crops = Helper().GetDisplayResults();
+    return track;
+}
+
+ReframeJob::Ended ReframeJob::WriteKeyframes()
+{
+    if (m_options.keyframes.isEmpty()) {
+        return std::nullopt;
+    }
     const QString path = TargetPath(m_options.keyframes, QStringLiteral("json"));
-    const KxResult<QString> written = KxOutputFile::Write(path, CropTrackFile::Format(track, path), WhenItExists());
+    return WriteFile(path, CropTrackFile::Format(Track(), path), QStringLiteral("keyframes"));
+}
+
+ReframeJob::Ended ReframeJob::WriteFile(const QString& path, const QByteArray& content, const QString& fact)
+{
+    const KxResult<QString> written = KxOutputFile::Write(path, content, WhenItExists(path));
     if (!written) {
         return Fail(written.Sentence());
     }
-    m_written += *written;
-    m_facts.insert(QStringLiteral("keyframes"), *written);
+    NoteWritten(*written, fact);
     return std::nullopt;
 }
 
-ReframeJob::Ended ReframeJob::WritePreview()
+bool ReframeJob::WouldReplaceInput(const QString& path) const
 {
-    if (m_options.preview.isEmpty()) {
-        return std::nullopt;
-    }
-    KxCancelToken cancel;
-    const KxResult<QImage> sheet = ContactSheet::Draw(m_input, Helper().GetDisplayResults(), cancel);
-    if (!sheet) {
-        return Fail(sheet.Sentence());
-    }
-    QByteArray png;
-    QBuffer buffer(&png);
-    buffer.open(QIODevice::WriteOnly);
-    if (!sheet->save(&buffer, "PNG")) {
-        return Fail(QStringLiteral("Cannot draw the contact sheet of %1.").arg(m_input));
-    }
-    const KxResult<QString> written =
-        KxOutputFile::Write(TargetPath(m_options.preview, QStringLiteral("png")), png, WhenItExists());
-    if (!written) {
-        return Fail(written.Sentence());
-    }
-    m_written += *written;
-    m_facts.insert(QStringLiteral("preview"), *written);
-    return std::nullopt;
+    const QFileInfo target(path);
+    return WhenItExists(path) == KxOutputFile::Existing::Replace &&
+           std::any_of(m_options.inputs.begin(), m_options.inputs.end(),
+                       [&target](const QString& input) { return QFileInfo(input) == target; });
+}
+
+void ReframeJob::NoteWritten(const QString& path, const QString& fact)
+{
+    m_written += path;
+    m_allWritten += QFileInfo(path).absoluteFilePath();
+    m_facts.insert(fact, path);
 }
 
 KrAutoReframeHelper& ReframeJob::Helper() const
@@ -212,7 +250,8 @@ QString ReframeJob::TargetPath(const QString& named, const QString& suffix) cons
     return QDir(named.isEmpty() ? input.absolutePath() : named).filePath(name);
 }
 
-KxOutputFile::Existing ReframeJob::WhenItExists() const
+KxOutputFile::Existing ReframeJob::WhenItExists(const QString& path) const
 {
-    return m_options.overwrites ? KxOutputFile::Existing::Replace : KxOutputFile::Existing::AddNumber;
+    const bool replaces = m_options.overwrites && !m_allWritten.contains(QFileInfo(path).absoluteFilePath());
+    return replaces ? KxOutputFile::Existing::Replace : KxOutputFile::Existing::AddNumber;
 }

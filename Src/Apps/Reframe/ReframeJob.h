@@ -1,24 +1,26 @@
 #pragma once
 
+#include "CropTrackFile.h"
 #include "KxCancelToken.h"
 #include "KxMediaItem.h"
 #include "KxOutputFile.h"
 #include "KxRenderJob.h"
 #include "KxResult.h"
 #include "ReframeOptions.h"
+#include "ReframeReporter.h"
 
 #include "KrAutoReframeProcess.h"
 
 #include <QJsonObject>
-
-class ReframeReporter;
 
 /// The whole way of one input: open, analyse (or take a track), write what was asked for. Main thread; it runs the
 /// event loop while it waits.
 class ReframeJob
 {
 public:
-    ReframeJob(const QString& input, const ReframeOptions& options, ReframeReporter& reporter);
+    /// `written` are the files of the inputs before, to which those of this one are added: one run never writes over
+    /// what it has written.
+    ReframeJob(const QString& input, const ReframeOptions& options, ReframeReporter& reporter, QStringList& written);
     ~ReframeJob();
     Q_DISABLE_COPY_MOVE(ReframeJob)
 
@@ -30,21 +32,35 @@ private:
     using Ended = std::optional<KxOutcome>;
 
     Ended Open();
+    Ended ReadTrack();
+    /// Before the work: what cannot be written, and what must not be replaced.
+    Ended CheckTargets();
     Ended FindCrops();
     Ended StartAnalysis();
     Ended StartApplying();
     Ended WaitForCrops();
     Ended WriteKeyframes();
+    Ended WriteReport();
     Ended WritePreview();
+    Ended WritePreviewVideo();
     Ended WriteVideo();
-    KxRenderResult Render(const KxRenderSource& source, const KxRenderSettings& settings);
+    /// Reports progress as that of `stage`, warnings, and the file as `fact`.
+    Ended Render(const KxRenderSource& source, const KxRenderSettings& settings, ReframeReporter::Stage stage,
+                 const QString& fact);
 
     KrAutoReframeHelper& Helper() const;
+    CropTrack Track() const;
+    /// The contact sheet as a file of the format that Qt calls `format`.
+    KxResult<QByteArray> ContactSheetFile(const char* format) const;
     KxOutcome Fail(const QString& sentence);
     /// Where to write: `named` itself, or a file called after the input in the folder `named`, or beside the input when
     /// `named` is empty.
     QString TargetPath(const QString& named, const QString& suffix) const;
-    KxOutputFile::Existing WhenItExists() const;
+    KxOutputFile::Existing WhenItExists(const QString& path) const;
+    bool WouldReplaceInput(const QString& path) const;
+    Ended WriteFile(const QString& path, const QByteArray& content, const QString& fact);
+    void NoteWritten(const QString& path, const QString& fact);
+    QString FramesText() const;
 
     const QString m_input;
     const ReframeOptions& m_options;
@@ -52,6 +68,9 @@ private:
     QSize m_aspect;
     std::unique_ptr<KxMediaItem> m_media;
     std::unique_ptr<KrAutoReframeProcess> m_process;
+    /// What is applied in place of an analysis.
+    std::optional<CropTrack> m_track;
     QJsonObject m_facts;
+    QStringList& m_allWritten;
     QStringList m_written;
 };

@@ -3,11 +3,9 @@
 #include "KrAutoReframeHelper.h"
 #include "KrExportParameters.h"
 #include "KxRenderJob.h"
-#include "ReframeReporter.h"
 #include "ReframeWait.h"
 
 #include <QEventLoop>
-#include <QFileInfo>
 
 namespace
 {
@@ -46,31 +44,20 @@ ReframeJob::Ended ReframeJob::WriteVideo()
                         .arg(size.height()));
     }
     settings.outputPath = TargetPath(m_options.output, QStringLiteral("mp4"));
-    settings.existing = WhenItExists();
-    if (m_options.overwrites && QFileInfo(settings.outputPath) == QFileInfo(m_input)) {
-        return Fail(QStringLiteral("Cannot write %1: it is the input itself.").arg(settings.outputPath));
-    }
+    settings.existing = WhenItExists(settings.outputPath);
 
-    m_reporter.BeginStage(m_input, ReframeReporter::Stage::Render);
-    const KxRenderResult result = Render(*source, settings);
-    if (result.outcome == KxOutcome::Cancelled) {
-        return KxOutcome::Cancelled;
+    if (const Ended ended = Render(*source, settings, ReframeReporter::Stage::Render, QStringLiteral("output"))) {
+        return ended;
     }
-    if (result.outcome == KxOutcome::Failed) {
-        return Fail(result.sentence);
-    }
-    if (!result.warning.isEmpty()) {
-        m_reporter.Warn(m_input, result.warning);
-    }
-    m_written += result.outputPath;
-    m_facts.insert(QStringLiteral("output"), result.outputPath);
     m_facts.insert(QStringLiteral("width"), settings.resolution.width());
     m_facts.insert(QStringLiteral("height"), settings.resolution.height());
     return std::nullopt;
 }
 
-KxRenderResult ReframeJob::Render(const KxRenderSource& source, const KxRenderSettings& settings)
+ReframeJob::Ended ReframeJob::Render(const KxRenderSource& source, const KxRenderSettings& settings,
+                                     ReframeReporter::Stage stage, const QString& fact)
 {
+    m_reporter.BeginStage(m_input, stage);
     QEventLoop loop;
     KxRenderResult result;
     KxRenderJob::Callbacks callbacks;
@@ -85,9 +72,15 @@ KxRenderResult ReframeJob::Render(const KxRenderSource& source, const KxRenderSe
         });
     };
     KxRenderJob job(source, settings, callbacks);
-    if (!ReframeWait::Run(loop)) {
-        job.Cancel();
-        result.outcome = KxOutcome::Cancelled;
+    if (!ReframeWait::Run(loop) || result.outcome == KxOutcome::Cancelled) {
+        return KxOutcome::Cancelled;
     }
-    return result;
+    if (result.outcome == KxOutcome::Failed) {
+        return Fail(result.sentence);
+    }
+    if (!result.warning.isEmpty()) {
+        m_reporter.Warn(m_input, result.warning);
+    }
+    NoteWritten(result.outputPath, fact);
+    return std::nullopt;
 }

@@ -23,8 +23,12 @@ struct Definitions {
     QCommandLineOption apply{QStringLiteral("apply"), QStringLiteral("Take the crops from FILE instead of analysing."),
                              QStringLiteral("FILE")};
     QCommandLineOption preview{QStringLiteral("preview"),
-                               QStringLiteral("Write a contact sheet of the source with the crop drawn."),
-                               QStringLiteral("FILE.png")};
+                               QStringLiteral("Write the source with the crop drawn: a contact sheet as .png, or all "
+                                              "of it, with sound and with what the analysis found, as .mp4."),
+                               QStringLiteral("FILE")};
+    QCommandLineOption report{QStringLiteral("report"),
+                              QStringLiteral("Write a page (.html) that shows what the analysis found."),
+                              QStringLiteral("FILE")};
     QCommandLineOption faceModel{QStringLiteral("face-model"),
                                  QStringLiteral("Use the neural face detector in FILE (YuNet, ONNX)."),
                                  QStringLiteral("FILE")};
@@ -38,8 +42,8 @@ struct Definitions {
 
     QList<QCommandLineOption> All() const
     {
-        return {aspect,  speed,     output, keyframes, apply, preview, faceModel,
-                noVideo, overwrite, json,   quiet,     help,  version};
+        return {aspect,    speed,   output,    keyframes, apply, preview, report,
+                faceModel, noVideo, overwrite, json,      quiet, help,    version};
     }
 };
 
@@ -89,6 +93,24 @@ std::optional<int> ModeOfSpeed(const QString& name)
     return std::nullopt;
 }
 
+/// A place to write to, as an option names it.
+struct Target {
+    QString option;
+    QString path;
+    QStringList suffixes;
+
+    bool IsFile() const { return !path.isEmpty() && !QFileInfo(path).isDir(); }
+    bool HasSuffix() const { return suffixes.contains(QFileInfo(path).suffix().toLower()); }
+};
+
+QList<Target> Targets(const ReframeOptions& options)
+{
+    return {{QStringLiteral("--output"), options.output, {QStringLiteral("mp4"), QStringLiteral("m4v")}},
+            {QStringLiteral("--keyframes"), options.keyframes, {QStringLiteral("json"), QStringLiteral("csv")}},
+            {QStringLiteral("--preview"), options.preview, {QStringLiteral("png"), QStringLiteral("mp4")}},
+            {QStringLiteral("--report"), options.report, {QStringLiteral("html")}}};
+}
+
 /// What options do not go together; empty when all is well.
 QString Contradiction(const ReframeOptions& options)
 {
@@ -98,24 +120,45 @@ QString Contradiction(const ReframeOptions& options)
     if (!options.writesVideo && !options.output.isEmpty()) {
         return QStringLiteral("--output and --no-video exclude each other.");
     }
-    if (options.inputs.size() > 1) {
-        const std::pair<QString, QString> targets[] = {{QStringLiteral("--output"), options.output},
-                                                       {QStringLiteral("--keyframes"), options.keyframes},
-                                                       {QStringLiteral("--preview"), options.preview}};
-        for (const auto& [name, path] : targets) {
-            if (!path.isEmpty() && !QFileInfo(path).isDir()) {
-                return QStringLiteral("With several inputs %1 must name an existing folder; %2 is none.")
-                    .arg(name, path);
-            }
+    if (!options.report.isEmpty() && !options.apply.isEmpty()) {
+        return QStringLiteral("--report shows what an analysis found, and with --apply there is none.");
+    }
+    const bool isOne = options.inputs.size() == 1;
+    if (!isOne && !options.apply.isEmpty()) {
+        return QStringLiteral("--apply takes one input.");
+    }
+    for (const Target& target : Targets(options)) {
+        if (!isOne && target.IsFile()) {
+            return QStringLiteral("With several inputs %1 must name an existing folder; %2 is none.")
+                .arg(target.option, target.path);
         }
-        if (!options.apply.isEmpty()) {
-            return QStringLiteral("--apply takes one input.");
+        if (target.IsFile() && !target.HasSuffix()) {
+            return QStringLiteral("%1 takes an existing folder or the name of a .%2 file; %3 is neither.")
+                .arg(target.option, target.suffixes.join(QStringLiteral(" or .")), target.path);
         }
     }
     return {};
 }
 
+/// What stands in an argument that could not be understood.
+QString Misunderstanding(const QCommandLineParser& parser, const QStringList& arguments)
+{
+    for (const QString& argument : arguments) {
+        if (argument.startsWith(QLatin1Char('-')) && QFileInfo::exists(argument)) {
+            return QStringLiteral("%1 begins like an option; as a file it is written ./%1.").arg(argument);
+        }
+    }
+    const QString text = parser.errorText();
+    return text.endsWith(QLatin1Char('.')) ? text : text + QLatin1Char('.');
+}
+
 } // namespace
+
+bool ReframeOptions::PreviewIsVideo() const
+{
+    const QFileInfo file(preview);
+    return file.suffix().compare(QLatin1String("mp4"), Qt::CaseInsensitive) == 0 && !file.isDir();
+}
 
 ReframeOptions::Parsed ReframeOptions::Parse(const QStringList& arguments)
 {
@@ -126,8 +169,9 @@ ReframeOptions::Parsed ReframeOptions::Parse(const QStringList& arguments)
     parser.addOptions(definitions.All());
     parser.addPositionalArgument(QStringLiteral("INPUT"), QStringLiteral("The video files to reframe."),
                                  QStringLiteral("INPUT..."));
+    parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
     if (!parser.parse(arguments)) {
-        return WrongUse(parser.errorText() + QLatin1Char('.'));
+        return WrongUse(Misunderstanding(parser, arguments));
     }
     if (parser.isSet(definitions.help)) {
         return Shown(parser.helpText());
@@ -139,7 +183,8 @@ ReframeOptions::Parsed ReframeOptions::Parse(const QStringList& arguments)
     ReframeOptions options;
     const std::optional<QSize> aspect = ParseAspect(parser.value(definitions.aspect));
     if (!aspect) {
-        return WrongUse(QStringLiteral("\"%1\" is no aspect ratio; write two whole numbers such as 9:16.")
+        return WrongUse(QStringLiteral("\"%1\" is no aspect ratio; write two whole numbers such as 9:16, neither more "
+                                       "than 20 times the other.")
                             .arg(parser.value(definitions.aspect)));
     }
     options.aspect = *aspect;
@@ -154,6 +199,7 @@ ReframeOptions::Parsed ReframeOptions::Parse(const QStringList& arguments)
     options.keyframes = parser.value(definitions.keyframes);
     options.apply = parser.value(definitions.apply);
     options.preview = parser.value(definitions.preview);
+    options.report = parser.value(definitions.report);
     options.faceModel = parser.value(definitions.faceModel);
     options.writesVideo = !parser.isSet(definitions.noVideo);
     options.overwrites = parser.isSet(definitions.overwrite);

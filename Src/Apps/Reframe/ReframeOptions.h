@@ -15,11 +15,15 @@ struct ReframeOptions {
     QString keyframes;                          ///< file (folder for several inputs); empty: none
     QString apply;                              ///< a crop track to take instead of an analysis; empty: none
     QString preview;                            ///< file (folder for several inputs); empty: none
+    QString report;                             ///< file (folder for several inputs); empty: none
     QString faceModel;                          ///< empty: none
     bool writesVideo = true;
     bool overwrites = false;
     bool json = false;
     bool quiet = false;
+
+    /// The preview is a video, not a contact sheet.
+    bool PreviewIsVideo() const;
 
     /// What a command line turned out to be: options to work with, or a text to show and an exit status.
     struct Parsed;

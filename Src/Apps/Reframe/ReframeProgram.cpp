@@ -11,10 +11,14 @@ int ReframeProgram::Run(const ReframeOptions& options)
 {
     KxAutoReframeService::Instance().SetFaceModel(options.faceModel.isEmpty() ? KxFaceModel::Find()
                                                                               : options.faceModel);
+    const bool explains = !options.report.isEmpty() || options.PreviewIsVideo();
+    KxAutoReframeService::Instance().SetFindings(explains ? KxAutoReframeService::Findings::Keep
+                                                          : KxAutoReframeService::Findings::Drop);
     ReframeReporter reporter(options);
+    QStringList written;
     int status = ReframeExit::Done;
     for (const QString& input : options.inputs) {
-        const KxOutcome outcome = ReframeJob(input, options, reporter).Run();
+        const KxOutcome outcome = ReframeJob(input, options, reporter, written).Run();
         if (outcome == KxOutcome::Cancelled || KxInterrupt::IsRequested()) {
             reporter.Fail(input, QStringLiteral("%1: interrupted.").arg(input));
             return ReframeExit::Interrupted;

@@ -28,6 +28,22 @@ QString TimeLeft(qint64 elapsedMs, int progress)
                         : QStringLiteral(", %1 min %2 s left").arg(seconds / 60).arg(seconds % 60);
 }
 
+enum class Form { Name, Doing };
+
+QString StageWord(ReframeReporter::Stage stage, Form form)
+{
+    const bool isName = form == Form::Name;
+    switch (stage) {
+    case ReframeReporter::Stage::Analyze:
+        return isName ? QStringLiteral("analyze") : QStringLiteral("analyzing");
+    case ReframeReporter::Stage::Preview:
+        return isName ? QStringLiteral("preview") : QStringLiteral("drawing the preview");
+    case ReframeReporter::Stage::Render:
+        return isName ? QStringLiteral("render") : QStringLiteral("rendering");
+    }
+    return {};
+}
+
 } // namespace
 
 ReframeReporter::ReframeReporter(const ReframeOptions& options)
@@ -58,15 +74,12 @@ void ReframeReporter::Progress(int progress)
         return;
     }
     m_lastPercent = percent;
-    const bool analyzing = m_stage == Stage::Analyze;
     if (m_voice == Voice::Json) {
         WriteJson(QStringLiteral("progress"), m_input,
-                  {{QStringLiteral("stage"), analyzing ? QStringLiteral("analyze") : QStringLiteral("render")},
-                   {QStringLiteral("percent"), percent}});
+                  {{QStringLiteral("stage"), StageWord(m_stage, Form::Name)}, {QStringLiteral("percent"), percent}});
     } else if (m_showsLine) {
         const QString line = QStringLiteral("%1: %2 %3 %%4")
-                                 .arg(QFileInfo(m_input).fileName(),
-                                      analyzing ? QStringLiteral("analyzing") : QStringLiteral("rendering"),
+                                 .arg(QFileInfo(m_input).fileName(), StageWord(m_stage, Form::Doing),
                                       QString::number(percent), TimeLeft(m_stageTimer.elapsed(), progress));
         WriteLine(stderr, "\r\033[K" + line.toLocal8Bit());
         m_lineShown = true;

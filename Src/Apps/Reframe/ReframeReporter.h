@@ -15,7 +15,7 @@ public:
     ~ReframeReporter();
     Q_DISABLE_COPY_MOVE(ReframeReporter)
 
-    enum class Stage { Analyze, Render };
+    enum class Stage { Analyze, Preview, Render };
     /// Starts to measure the time of a stage of one input.
     void BeginStage(const QString& input, Stage stage);
     /// `progress` in ten-thousandths of the stage.

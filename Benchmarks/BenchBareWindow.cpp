@@ -1,0 +1,32 @@
+// A bare Qt Widgets window in the size of the desktop program's: paints and ends.
+
+#include <QApplication>
+#include <QPaintEvent>
+#include <QWidget>
+
+#include <cstdlib>
+
+namespace
+{
+
+class Window : public QWidget
+{
+protected:
+    void paintEvent(QPaintEvent* event) override
+    {
+        QWidget::paintEvent(event);
+        QMetaObject::invokeMethod(
+            this, [] { std::_Exit(0); }, Qt::QueuedConnection);
+    }
+};
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QApplication application(argc, argv);
+    Window window;
+    window.resize(1180, 740);
+    window.show();
+    return QApplication::exec();
+}

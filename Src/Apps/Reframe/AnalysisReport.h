@@ -1,0 +1,11 @@
+#pragma once
+
+#include "CropTrackFile.h"
+#include "KxSubjectFindings.h"
+
+/// What an analysis found, as one page that needs nothing besides itself: no network, no scripts, no other file.
+namespace AnalysisReport
+{
+/// The page in UTF-8. `track` holds at least one crop; `sheet` is the contact sheet, a JPEG picture.
+QByteArray Format(const CropTrack& track, const KxSubjectFindings& findings, const QByteArray& sheet);
+} // namespace AnalysisReport

@@ -1,0 +1,105 @@
+#include "FoundSignals.h"
+
+#include <algorithm>
+#include <numeric>
+
+namespace
+{
+
+float SumOf(const KxSubjectFindings::Sample& sample)
+{
+    return std::accumulate(sample.said.begin(), sample.said.end(), 0.0F);
+}
+
+} // namespace
+
+QString FoundSignals::Name(KxSignal signal)
+{
+    switch (signal) {
+    case KxSignal::Motion:
+        return QStringLiteral("motion");
+    case KxSignal::Movers:
+        return QStringLiteral("movers");
+    case KxSignal::Saliency:
+        return QStringLiteral("saliency");
+    case KxSignal::Faces:
+        return QStringLiteral("faces");
+    }
+    return {};
+}
+
+QString FoundSignals::Explanation(KxSignal signal)
+{
+    switch (signal) {
+    case KxSignal::Motion:
+        return QStringLiteral("motion: what the camera's own movement does not explain");
+    case KxSignal::Movers:
+        return QStringLiteral("movers: what travels through the shot, however small");
+    case KxSignal::Saliency:
+        return QStringLiteral("saliency: what stands out in a still picture");
+    case KxSignal::Faces:
+        return QStringLiteral("faces");
+    }
+    return {};
+}
+
+QRgb FoundSignals::Colour(KxSignal signal)
+{
+    switch (signal) {
+    case KxSignal::Motion:
+        return 0xFFF08A4B;
+    case KxSignal::Movers:
+        return 0xFFE05C8A;
+    case KxSignal::Saliency:
+        return 0xFF6F7FD8;
+    case KxSignal::Faces:
+        return 0xFFF7E08A;
+    }
+    return 0;
+}
+
+const KxSubjectFindings::Sample* FoundSignals::SampleAt(const KxSubjectFindings& findings, qint64 frame)
+{
+    const auto& samples = findings.samples;
+    if (samples.empty() || findings.shots.empty()) {
+        return nullptr;
+    }
+    const auto after =
+        std::upper_bound(samples.begin(), samples.end(), frame,
+                         [](qint64 wanted, const KxSubjectFindings::Sample& sample) { return wanted < sample.frame; });
+    const KxSubjectFindings::Shot& shot = findings.shots[ShotAt(findings, frame)];
+    const bool hasBefore = after != samples.begin() && std::prev(after)->frame >= shot.first;
+    const bool hasAfter = after != samples.end() && after->frame < shot.end;
+    return hasBefore ? &*std::prev(after) : hasAfter ? &*after : nullptr;
+}
+
+std::size_t FoundSignals::ShotAt(const KxSubjectFindings& findings, qint64 frame)
+{
+    const auto& shots = findings.shots;
+    const auto after =
+        std::upper_bound(shots.begin(), shots.end(), frame,
+                         [](qint64 wanted, const KxSubjectFindings::Shot& shot) { return wanted < shot.first; });
+    return after == shots.begin() ? 0 : static_cast<std::size_t>(after - shots.begin()) - 1;
+}
+
+float FoundSignals::LoudestSum(const KxSubjectFindings& findings)
+{
+    float loudest = 1e-6F;
+    for (const KxSubjectFindings::Sample& sample : findings.samples) {
+        loudest = std::max(loudest, SumOf(sample));
+    }
+    return loudest;
+}
+
+double FoundSignals::CarrierShare(const KxSubjectFindings& findings, const KxSubjectFindings::Shot& shot)
+{
+    double carrier = 0.0;
+    double all = 0.0;
+    for (const KxSubjectFindings::Sample& sample : findings.samples) {
+        if (sample.frame >= shot.first && sample.frame < shot.end) {
+            carrier += static_cast<double>(sample.said[static_cast<std::size_t>(shot.carrier)]);
+            all += static_cast<double>(SumOf(sample));
+        }
+    }
+    return all > 0.0 ? carrier / all : 0.0;
+}

@@ -1,0 +1,128 @@
+#include "PreviewOverlay.h"
+
+#include "DrawnCrop.h"
+#include "FoundSignals.h"
+#include "FrameClock.h"
+
+#include <QPainter>
+
+#include <algorithm>
+
+namespace
+{
+
+constexpr double linesInAPicture = 36.0;
+constexpr int smallestTextPx = 6;
+constexpr double lineHeight = 1.5;
+constexpr double panelWidth = 17.0;
+const QColor panelGround(0x1B, 0x1D, 0x21, 224);
+const QColor barGround(255, 255, 255, 36);
+const QColor ink(0xF2, 0xF4, 0xF7);
+const QColor faintInk(0xB4, 0xBA, 0xC4);
+
+int TextPx(const QSizeF& picture)
+{
+    return std::max(smallestTextPx, qRound(std::min(picture.width(), picture.height()) / linesInAPicture));
+}
+
+} // namespace
+
+PreviewOverlay::PreviewOverlay(QList<IKxAutoReframeResult> crops, const KxRational& frameRate,
+                               std::shared_ptr<const KxSubjectFindings> findings)
+    : m_crops(std::move(crops))
+    , m_frameRate(frameRate)
+    , m_findings(std::move(findings))
+{
+    if (m_findings != nullptr) {
+        for (const KxSubjectFindings::Sample& sample : m_findings->samples) {
+            m_loudest = std::max(m_loudest, *std::max_element(sample.said.begin(), sample.said.end()));
+        }
+    }
+}
+
+void PreviewOverlay::Draw(QImage& picture, qint64 frame) const
+{
+    if (m_crops.isEmpty()) {
+        return;
+    }
+    const auto index = static_cast<int>(std::clamp<qint64>(frame, 0, m_crops.size() - 1));
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    DrawnCrop::Draw(painter, picture.rect(), m_crops.at(index).cropRect());
+    DrawWanted(painter, picture.size(), frame);
+    DrawPanel(painter, picture.size(), frame);
+}
+
+void PreviewOverlay::DrawWanted(QPainter& painter, const QSizeF& picture, qint64 frame) const
+{
+    const KxSubjectFindings::Sample* const sample =
+        m_findings != nullptr ? FoundSignals::SampleAt(*m_findings, frame) : nullptr;
+    if (sample == nullptr) {
+        return;
+    }
+    const double size = 0.8 * TextPx(picture);
+    painter.save();
+    if (m_findings->freeAxis == KxAxis::Across) {
+        painter.translate(sample->wanted * picture.width(), 0.0);
+    } else {
+        painter.translate(0.0, sample->wanted * picture.height());
+        painter.rotate(-90.0);
+    }
+    painter.setPen(QPen(QColor(0, 0, 0, 160), 1.0));
+    painter.setBrush(ink);
+    painter.drawPolygon(QPolygonF({QPointF(-size * 0.7, 0.0), QPointF(size * 0.7, 0.0), QPointF(0.0, size)}));
+    painter.restore();
+}
+
+void PreviewOverlay::DrawPanel(QPainter& painter, const QSizeF& picture, qint64 frame) const
+{
+    const int text = TextPx(picture);
+    const double line = lineHeight * text;
+    const bool explains = m_findings != nullptr && !m_findings->shots.empty();
+    const double lines = explains ? 2.3 + KxSignalCount : 1.0;
+    const QRectF panel(text, picture.height() - text - (lines + 0.8) * line, panelWidth * text, (lines + 0.8) * line);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(panelGround);
+    painter.drawRoundedRect(panel, 0.4 * text, 0.4 * text);
+
+    QFont font = painter.font();
+    font.setPixelSize(text);
+    painter.setFont(font);
+    QRectF row(panel.x() + 0.7 * text, panel.y() + 0.4 * line, panel.width() - 1.4 * text, line);
+    const auto write = [&painter](const QRectF& area, const QString& left, const QString& right) {
+        painter.setPen(ink);
+        painter.drawText(area, Qt::AlignLeft | Qt::AlignVCenter, left);
+        painter.setPen(faintInk);
+        painter.drawText(area, Qt::AlignRight | Qt::AlignVCenter, right);
+    };
+    write(row, QStringLiteral("Frame %1").arg(frame), FrameClock::Text(frame, m_frameRate));
+    if (!explains) {
+        return;
+    }
+    row.translate(0.0, line);
+    write(
+        row,
+        QStringLiteral("Shot %1 of %2").arg(FoundSignals::ShotAt(*m_findings, frame) + 1).arg(m_findings->shots.size()),
+        QString());
+    row.translate(0.0, 1.3 * line);
+    DrawSignals(painter, row, frame);
+}
+
+void PreviewOverlay::DrawSignals(QPainter& painter, const QRectF& area, qint64 frame) const
+{
+    const KxSubjectFindings::Sample* const sample = FoundSignals::SampleAt(*m_findings, frame);
+    QRectF row = area;
+    for (const KxSignal signal : FoundSignals::all) {
+        const float said = sample != nullptr ? sample->said[static_cast<std::size_t>(signal)] : 0.0F;
+        const double share = std::clamp(static_cast<double>(said / m_loudest), 0.0, 1.0);
+        painter.setPen(faintInk);
+        painter.drawText(row, Qt::AlignLeft | Qt::AlignVCenter, FoundSignals::Name(signal));
+        const double labels = 0.36 * row.width();
+        const QRectF bar(row.x() + labels, row.center().y() - 0.16 * row.height(), row.width() - labels,
+                         0.32 * row.height());
+        painter.fillRect(bar, barGround);
+        painter.fillRect(QRectF(bar.topLeft(), QSizeF(bar.width() * share, bar.height())),
+                         QColor(FoundSignals::Colour(signal)));
+        row.translate(0.0, row.height());
+    }
+}

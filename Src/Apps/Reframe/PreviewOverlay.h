@@ -1,0 +1,36 @@
+#pragma once
+
+#include <KxCore/KxRational.h>
+#include <KxModel/IKxAutoReframeResult.h>
+
+#include "KxSubjectFindings.h"
+
+#include <QImage>
+#include <QList>
+
+#include <memory>
+
+class QPainter;
+
+/// Draws on every frame of a video what the crop keeps and why: the crop, with what it leaves out dimmed; a triangle at
+/// the picture's edge where the evidence asks for the crop's middle; and in the lower left corner the shot, the frame,
+/// its time and what each signal says. Without findings the crop, the frame and its time. Any thread.
+class PreviewOverlay
+{
+public:
+    /// `crops` holds one entry a frame; `findings` may be null. Needs a QGuiApplication to write with.
+    PreviewOverlay(QList<IKxAutoReframeResult> crops, const KxRational& frameRate,
+                   std::shared_ptr<const KxSubjectFindings> findings);
+
+    void Draw(QImage& picture, qint64 frame) const;
+
+private:
+    void DrawWanted(QPainter& painter, const QSizeF& picture, qint64 frame) const;
+    void DrawPanel(QPainter& painter, const QSizeF& picture, qint64 frame) const;
+    void DrawSignals(QPainter& painter, const QRectF& area, qint64 frame) const;
+
+    QList<IKxAutoReframeResult> m_crops;
+    KxRational m_frameRate;
+    std::shared_ptr<const KxSubjectFindings> m_findings;
+    float m_loudest = 1e-6F; ///< the most that one signal says anywhere
+};

@@ -1,0 +1,85 @@
+#include "ReframeJob.h"
+
+#include "AnalysisReport.h"
+#include "ContactSheet.h"
+#include "KrAutoReframeHelper.h"
+#include "KxAutoReframeService.h"
+#include "PreviewOverlay.h"
+
+#include <QBuffer>
+
+#include <algorithm>
+
+namespace
+{
+
+/// At most 1280 wide, with even sides.
+QSize PreviewSize(const QSize& source)
+{
+    constexpr int widestPx = 1280;
+    const int width = std::min(source.width(), widestPx);
+    const int height = qRound(static_cast<double>(source.height()) * width / source.width());
+    return {width + width % 2, std::max(2, height + height % 2)};
+}
+
+} // namespace
+
+KxResult<QByteArray> ReframeJob::ContactSheetFile(const char* format) const
+{
+    const KxCancelToken cancel;
+    const KxResult<QImage> sheet = ContactSheet::Draw(m_input, Helper().GetDisplayResults(), cancel);
+    if (!sheet) {
+        return KxResult<QByteArray>::Failure(sheet.Sentence());
+    }
+    QByteArray file;
+    QBuffer buffer(&file);
+    buffer.open(QIODevice::WriteOnly);
+    if (!sheet->save(&buffer, format)) {
+        return KxResult<QByteArray>::Failure(QStringLiteral("Cannot draw the contact sheet of %1.").arg(m_input));
+    }
+    return file;
+}
+
+ReframeJob::Ended ReframeJob::WriteReport()
+{
+    if (m_options.report.isEmpty()) {
+        return std::nullopt;
+    }
+    const std::shared_ptr<const KxSubjectFindings> findings = KxAutoReframeService::Instance().LastFindings();
+    const KxResult<QByteArray> sheet = ContactSheetFile("JPEG");
+    if (!sheet) {
+        return Fail(sheet.Sentence());
+    }
+    return WriteFile(TargetPath(m_options.report, QStringLiteral("html")),
+                     AnalysisReport::Format(Track(), *findings, *sheet), QStringLiteral("report"));
+}
+
+ReframeJob::Ended ReframeJob::WritePreview()
+{
+    if (m_options.preview.isEmpty()) {
+        return std::nullopt;
+    }
+    if (m_options.PreviewIsVideo()) {
+        return WritePreviewVideo();
+    }
+    const KxResult<QByteArray> sheet = ContactSheetFile("PNG");
+    return sheet ? WriteFile(TargetPath(m_options.preview, QStringLiteral("png")), *sheet, QStringLiteral("preview"))
+                 : Fail(sheet.Sentence());
+}
+
+ReframeJob::Ended ReframeJob::WritePreviewVideo()
+{
+    const CropTrack track = Track();
+    const auto overlay = std::make_shared<const PreviewOverlay>(
+        track.crops, track.frameRate, m_track ? nullptr : KxAutoReframeService::Instance().LastFindings());
+    KxRenderSource source;
+    source.path = m_input;
+    source.overlay = [overlay](QImage& picture, qint64 frame) { overlay->Draw(picture, frame); };
+    KxRenderSettings settings;
+    settings.outputPath = m_options.preview;
+    settings.existing = WhenItExists(m_options.preview);
+    settings.resolution = PreviewSize(track.sourceSize);
+    // Text and thin lines want more than a picture of that size does by itself.
+    settings.videoBitRate = 4000000;
+    return Render(source, settings, ReframeReporter::Stage::Preview, QStringLiteral("preview"));
+}

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <cstdint>
+
+enum class KxShotBoundaryKind {
+    Cut,
+    Dissolve, ///< or a wipe
+    Fade      ///< to a plain picture and out of it
+};
+
+/// Where one shot gives way to the next.
+struct KxShotBoundary {
+    std::int64_t frame = 0; ///< the first of the new shot; the middle of a dissolve or fade
+    std::int64_t first = 0; ///< where the old shot begins to go; `frame` for a cut
+    std::int64_t last = 0;  ///< where the new shot stands whole; `frame` for a cut
+    KxShotBoundaryKind kind = KxShotBoundaryKind::Cut;
+};

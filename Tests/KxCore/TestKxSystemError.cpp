@@ -1,0 +1,49 @@
+#include "KxSystemError.h"
+
+#include <QFile>
+
+#include <gtest/gtest.h>
+
+#include <cerrno>
+
+namespace
+{
+
+QString TextOf(int number)
+{
+    return KxSystemErrorText(std::error_code(number, std::generic_category()));
+}
+
+} // namespace
+
+TEST(KxSystemError, SaysWhatAPersonCanActOn)
+{
+    EXPECT_EQ(TextOf(ENOSPC), QStringLiteral("the disk is full"));
+#ifdef EDQUOT
+    EXPECT_EQ(TextOf(EDQUOT), QStringLiteral("the disk is full"));
+#endif
+    EXPECT_EQ(TextOf(EACCES), QStringLiteral("permission is denied"));
+    EXPECT_EQ(TextOf(EPERM), QStringLiteral("permission is denied"));
+    EXPECT_EQ(TextOf(ENAMETOOLONG), QStringLiteral("its name is too long"));
+}
+
+TEST(KxSystemError, HasNoWordsForWhatIsNoError)
+{
+    EXPECT_TRUE(TextOf(0).isEmpty());
+    EXPECT_TRUE(TextOf(EDOM).isEmpty());
+}
+
+TEST(KxSystemError, KnowsErrorsOfTheSystemsOwnCategory)
+{
+    EXPECT_EQ(KxSystemErrorText(std::error_code(EACCES, std::system_category())),
+              QStringLiteral("permission is denied"));
+}
+
+TEST(KxSystemError, ExplainsWhyAFileCannotBeUsed)
+{
+    QFile missing(QStringLiteral("/no/such/file"));
+    ASSERT_FALSE(missing.open(QIODevice::ReadOnly));
+    EXPECT_EQ(KxFileErrorText(missing), QStringLiteral("there is no such file"));
+    errno = 0;
+    EXPECT_EQ(KxFileErrorText(missing), missing.errorString().toLower());
+}
