@@ -38,7 +38,7 @@ QMap<QString, double*> Values(KxSubjectOptions& options)
             {QStringLiteral("centrePriorUpDown"), &evidence.centrePriorUpDown},
             {QStringLiteral("moverExtentShare"), &movers.extentShare},
             {QStringLiteral("moverReach"), &movers.reach},
-            {QStringLiteral("moverHitsToFull"), &movers.hitsToFull},
+            {QStringLiteral("moverSecondsToFull"), &movers.secondsToFull},
             {QStringLiteral("moverFullTravel"), &movers.fullTravel},
             {QStringLiteral("moverEmptyFloor"), &movers.emptyFloor},
             {QStringLiteral("moveCost"), &path.moveCost},

@@ -11,7 +11,7 @@ namespace
 {
 
 constexpr int StructureBlockPx = 3;
-constexpr double LeastStrength = 64.0; ///< a slope of one grey level in each direction
+constexpr double LeastStrength = 4.0; ///< a slope of a quarter of a grey level
 constexpr int WindowPx = 15;
 constexpr int PyramidLevels = 3;
 

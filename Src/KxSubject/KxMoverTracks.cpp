@@ -120,6 +120,7 @@ void KxMoverTracks::Extend(Track& track, const Blob& blob) const
     track.place = blob.centre;
     track.area += m_options.areaGain * (blob.area - track.area);
     ++track.hits;
+    track.lastSeconds = m_nowSeconds;
 
     const Mover::PackedBox before = track.mover.boxes.back();
     const Mover::PackedBox now = Packed(blob.box);
@@ -169,6 +170,8 @@ void KxMoverTracks::Join(const std::vector<Blob>& blobs)
                             {},
                             {},
                             blobs[j].area,
+                            m_nowSeconds,
+                            m_nowSeconds,
                             1,
                             0,
                             {m_sample, 0.0F, {Packed(blobs[j].box)}}});
@@ -179,7 +182,9 @@ void KxMoverTracks::Join(const std::vector<Blob>& blobs)
 
 void KxMoverTracks::End(Track& track)
 {
-    const double lasted = (track.hits - m_options.hitsAtZero) / m_options.hitsToFull;
+    const double seconds = track.lastSeconds - track.firstSeconds;
+    const double lasted =
+        track.hits < m_options.leastHits ? 0.0 : (seconds - m_options.secondsAtZero) / m_options.secondsToFull;
     const double travelled = cv::norm(track.travel) / m_mapPx.width / m_options.fullTravel;
     const double confidence = std::clamp(lasted, 0.0, 1.0) * std::clamp(travelled, 0.0, 1.0);
     if (confidence > m_options.leastConfidence) {
@@ -190,9 +195,10 @@ void KxMoverTracks::End(Track& track)
     }
 }
 
-void KxMoverTracks::AddMap(const cv::Mat& map, const std::optional<cv::Matx33d>& camera)
+void KxMoverTracks::AddMap(double timeSeconds, const cv::Mat& map, const std::optional<cv::Matx33d>& camera)
 {
     ++m_sample;
+    m_nowSeconds = timeSeconds;
     cv::Mat half;
     cv::resize(map, half, {(map.cols + 1) / 2, (map.rows + 1) / 2}, 0.0, 0.0, cv::INTER_AREA);
     m_mapPx = half.size();

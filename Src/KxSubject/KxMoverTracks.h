@@ -15,9 +15,9 @@ class KXSUBJECT_API KxMoverTracks
 public:
     explicit KxMoverTracks(const KxSubjectOptions::Movers& options);
 
-    /// The next sample's motion map (CV_32FC1, of the size that the first one had). `camera` maps the sample before
-    /// onto this one; none ends every track, for the scene is another.
-    void AddMap(const cv::Mat& map, const std::optional<cv::Matx33d>& camera);
+    /// The next sample's motion map (CV_32FC1, of the size that the first one had) and its time. `camera` maps the
+    /// sample before onto this one; none ends every track, for the scene is another.
+    void AddMap(double timeSeconds, const cv::Mat& map, const std::optional<cv::Matx33d>& camera);
 
     /// Ends the tracks still open. Call once, after the last map.
     void Finish();
@@ -60,6 +60,8 @@ private:
         cv::Point2d velocity;   ///< before the background, a sample
         cv::Point2d travel;     ///< before the background, since it began
         double area = 0.0;
+        double firstSeconds = 0.0;
+        double lastSeconds = 0.0; ///< when it was seen last
         int hits = 1;
         int misses = 0;
         Mover mover;
@@ -76,6 +78,7 @@ private:
     KxSubjectOptions::Movers m_options;
     cv::Size m_mapPx; ///< of the halved map
     std::int32_t m_sample = -1;
+    double m_nowSeconds = 0.0;
     std::vector<Track> m_open;
     std::vector<Mover> m_movers;
     std::int32_t m_longest = 0; ///< samples, of all movers

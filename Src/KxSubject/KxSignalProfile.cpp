@@ -66,25 +66,28 @@ float KxSignalProfile::Sum() const
     return std::accumulate(share.begin(), share.end(), 0.0F);
 }
 
-KxPackedProfile::KxPackedProfile(const KxSignalProfile& profile)
+template<std::size_t BinsInOne>
+KxPackedProfileBy<BinsInOne>::KxPackedProfileBy(const KxSignalProfile& profile)
 {
-    std::array<float, KxSignalProfile::Bins / 2> pairs{};
-    for (std::size_t pair = 0; pair < pairs.size(); ++pair) {
-        pairs[pair] = std::max(0.0F, profile.share[2 * pair] + profile.share[2 * pair + 1]);
+    std::array<float, KxSignalProfile::Bins / BinsInOne> groups{};
+    for (std::size_t bin = 0; bin < KxSignalProfile::Bins; ++bin) {
+        groups[bin / BinsInOne] += std::max(0.0F, profile.share[bin]);
     }
-    m_largest = *std::max_element(pairs.begin(), pairs.end());
-    for (std::size_t pair = 0; m_largest > 0.0F && pair < pairs.size(); ++pair) {
-        m_pairs[pair] = static_cast<std::uint8_t>(std::lround(pairs[pair] / m_largest * PackedOne));
+    m_largest = *std::max_element(groups.begin(), groups.end());
+    for (std::size_t group = 0; m_largest > 0.0F && group < groups.size(); ++group) {
+        m_groups[group] = static_cast<std::uint8_t>(std::lround(groups[group] / m_largest * PackedOne));
     }
 }
 
-KxSignalProfile KxPackedProfile::Unpacked() const
+template<std::size_t BinsInOne>
+KxSignalProfile KxPackedProfileBy<BinsInOne>::Unpacked() const
 {
     KxSignalProfile profile;
-    for (std::size_t pair = 0; pair < m_pairs.size(); ++pair) {
-        const float share = m_largest * static_cast<float>(m_pairs[pair]) / PackedOne / 2.0F;
-        profile.share[2 * pair] = share;
-        profile.share[2 * pair + 1] = share;
+    for (std::size_t bin = 0; bin < KxSignalProfile::Bins; ++bin) {
+        profile.share[bin] = m_largest * static_cast<float>(m_groups[bin / BinsInOne]) / PackedOne / BinsInOne;
     }
     return profile;
 }
+
+template class KxPackedProfileBy<2>;
+template class KxPackedProfileBy<4>;

@@ -23,16 +23,19 @@ struct KXSUBJECT_API KxSignalProfile {
     float Sum() const;
 };
 
-/// A profile kept for every sample of a long video, in an eighth of the bytes: pairs of bins as one, each exact to
+/// A profile kept for every sample of a long video, in a fraction of the bytes: so many bins as one, each exact to
 /// 1/255 of the largest.
-class KXSUBJECT_API KxPackedProfile
+template<std::size_t BinsInOne>
+class KXSUBJECT_API KxPackedProfileBy
 {
 public:
-    KxPackedProfile() = default;
-    explicit KxPackedProfile(const KxSignalProfile& profile);
+    KxPackedProfileBy() = default;
+    explicit KxPackedProfileBy(const KxSignalProfile& profile);
     KxSignalProfile Unpacked() const;
 
 private:
     float m_largest = 0.0F;
-    std::array<std::uint8_t, KxSignalProfile::Bins / 2> m_pairs{};
+    std::array<std::uint8_t, KxSignalProfile::Bins / BinsInOne> m_groups{};
 };
+using KxPackedProfile = KxPackedProfileBy<2>;
+using KxCoarsePackedProfile = KxPackedProfileBy<4>; ///< for a map that is blurred more than that

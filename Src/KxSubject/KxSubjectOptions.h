@@ -87,21 +87,22 @@ struct KxSubjectOptions {
 
     /// Measured, all of them; lengths in pixels are of the map halved.
     struct Movers {
-        double threshold = 0.2;    ///< of the motion map: a peak below is noise
-        double extentShare = 0.35; ///< of the peak: what lies above it around it is one mover
-        int peakDistancePx = 4;    ///< each way in which a peak is the highest
-        int mostAtOnce = 10;       ///< bounds the cost of a crowd
-        double reach = 0.06;       ///< of the width: how far from where it is expected a mover is looked for
-        double reachBySize = 0.35; ///< of the root of its area, on top
-        double mostGrowth = 1.5;   ///< logarithm of the areas' ratio
-        double growthCost = 0.3;   ///< of that logarithm, against a distance of one reach
-        double ageGain = 0.02;     ///< for each sample seen: an old track is believed before a young one
-        double velocityGain = 0.4; ///< 0 to 1, of what is new
-        double areaGain = 0.4;     ///< 0 to 1, of what is new
-        int mostMisses = 3;        ///< samples in a row
-        double hitsAtZero = 3.0;   ///< samples seen that give no confidence yet
-        double hitsToFull = 20.0;  ///< samples beyond, for full confidence
-        double fullTravel = 0.3;   ///< of the width, before the background, for full confidence
+        double threshold = 0.2;     ///< of the motion map: a peak below is noise
+        double extentShare = 0.4;   ///< of the peak: what lies above it around it is one mover
+        int peakDistancePx = 4;     ///< each way in which a peak is the highest
+        int mostAtOnce = 10;        ///< bounds the cost of a crowd
+        double reach = 0.06;        ///< of the width: how far from where it is expected a mover is looked for
+        double reachBySize = 0.35;  ///< of the root of its area, on top
+        double mostGrowth = 1.5;    ///< logarithm of the areas' ratio
+        double growthCost = 0.3;    ///< of that logarithm, against a distance of one reach
+        double ageGain = 0.02;      ///< for each sample seen: an old track is believed before a young one
+        double velocityGain = 0.4;  ///< 0 to 1, of what is new
+        double areaGain = 0.4;      ///< 0 to 1, of what is new
+        int mostMisses = 3;         ///< samples in a row
+        int leastHits = 4;          ///< samples seen, of a mover that counts at all
+        double secondsAtZero = 0.3; ///< of being seen, that give no confidence yet
+        double secondsToFull = 1.5; ///< beyond, for full confidence
+        double fullTravel = 0.15;   ///< of the width, before the background, for full confidence
         double leastConfidence = 0.05;
         double areaPower = 0.5;  ///< a mover weighs as the side of its box does, not as its area
         double emptyFloor = 0.1; ///< the sum of weights at which movers say half of what they have to say
@@ -118,11 +119,11 @@ struct KxSubjectOptions {
         double profilePeriodSeconds = 1.2; ///< the same for one of the two sides in turn
         double modelPeriodSeconds = 0.2;   ///< the same for the neural detector
         double followPeriodSeconds = 0.2;  ///< between two looks near a known face
-        int sidesAtFirst = 2;              ///< looks from the sides in turn when a scene begins
+        int sidesAtFirst = 4;              ///< looks from the sides in turn when a scene begins
         int settledLooks = 4; ///< looks over the whole picture in a row without a new face: then they are rarer
         double settledFactor =
             3.0; ///< times the periods above; for the sides also while a face is followed; measured: cost
-        double scaleFactor = 1.2; ///< 1.05 to 1.3 from one window size to the next; measured: 1.25 misses profiles
+        double scaleFactor = 1.15; ///< 1.05 to 1.3 from one window size to the next; measured: 1.25 misses profiles
         double followScaleFactor = 1.1; ///< the same near a known face: a coarse step has too few sizes to agree
         int frontalNeighbours = 3;      ///< raw hits that make a face
         int profileNeighbours = 4;      ///< raw hits that make a face

@@ -32,7 +32,7 @@ KxMoverTracks Followed(int samples, Places places, double camera = 0.0)
 {
     KxMoverTracks tracks(Options);
     for (int i = 0; i < samples; ++i) {
-        tracks.AddMap(Map(places(i)), i == 0 ? std::nullopt : std::optional(Shift(camera)));
+        tracks.AddMap(i / 10.0, Map(places(i)), i == 0 ? std::nullopt : std::optional(Shift(camera)));
     }
     tracks.Finish();
     return tracks;
@@ -144,7 +144,7 @@ TEST(KxMoverTracks, AnotherSceneEndsEveryTrack)
     KxMoverTracks tracks(Options);
     for (int i = 0; i < 40; ++i) {
         const auto camera = i % 20 == 0 ? std::nullopt : std::optional(Shift(0.0));
-        tracks.AddMap(Map({{20 + 6 * i, 80, 24, 24}}), camera);
+        tracks.AddMap(i / 10.0, Map({{20 + 6 * i, 80, 24, 24}}), camera);
     }
     tracks.Finish();
     ASSERT_EQ(tracks.Movers().size(), 2U);
