@@ -37,7 +37,7 @@ QMap<QString, double*> Values(KxSubjectOptions& options)
             {QStringLiteral("centrePriorAcross"), &evidence.centrePriorAcross},
             {QStringLiteral("centrePriorUpDown"), &evidence.centrePriorUpDown},
             {QStringLiteral("moverExtentShare"), &movers.extentShare},
-            {QStringLiteral("moverReach"), &movers.reach},
+            {QStringLiteral("moverReach"), &movers.reachPerSecond},
             {QStringLiteral("moverSecondsToFull"), &movers.secondsToFull},
             {QStringLiteral("moverFullTravel"), &movers.fullTravel},
             {QStringLiteral("moverEmptyFloor"), &movers.emptyFloor},

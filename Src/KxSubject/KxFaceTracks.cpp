@@ -20,6 +20,17 @@ bool AreOneFace(const cv::Rect& a, const cv::Rect& b, double sameShare)
 
 } // namespace
 
+KxFaceTracks::Look::Look(double time, const std::optional<cv::Rect>& face)
+    : timeSeconds(static_cast<float>(time))
+    , box(face.value_or(cv::Rect()))
+{
+}
+
+std::optional<cv::Rect> KxFaceTracks::Look::Face() const
+{
+    return box.width > 0 ? std::optional<cv::Rect>(box) : std::nullopt;
+}
+
 KxFaceTracks::KxFaceTracks(const KxSubjectOptions::Faces& options, KxFaceFinder finder)
     : m_options(options)
     , m_finder(std::move(finder))
@@ -83,24 +94,24 @@ void KxFaceTracks::LookEverywhere(double timeSeconds, const cv::Mat& picture, co
         const auto same = std::find_if(faces.begin(), faces.end(), [this, &track](const cv::Rect& face) {
             return AreOneFace(face, track.last, m_options.sameShare);
         });
-        const bool looked = track.looks.back().timeSeconds >= timeSeconds;
+        const bool looked = track.looks.back().timeSeconds >= static_cast<float>(timeSeconds);
         if (same != faces.end()) {
-            if (looked && !track.looks.back().face) {
-                track.looks.back().face = *same;
+            if (looked && !track.looks.back().Face()) {
+                track.looks.back() = Look(timeSeconds, *same);
             } else if (!looked) {
-                track.looks.push_back({timeSeconds, *same});
+                track.looks.emplace_back(timeSeconds, *same);
             }
             track.last = *same;
             track.misses = 0;
             faces.erase(same);
         } else if (m_finder.UsesModel() && !looked) {
-            track.looks.push_back({timeSeconds, std::nullopt});
+            track.looks.emplace_back(timeSeconds, std::nullopt);
             ++track.misses;
         }
     }
     m_looksWithoutNews = faces.empty() ? m_looksWithoutNews + 1 : 0;
     for (const cv::Rect& face : faces) {
-        m_tracks.push_back({view, {{timeSeconds, face}}, face, 0});
+        m_tracks.push_back({view, {Look(timeSeconds, face)}, face, 0});
     }
 }
 
@@ -117,7 +128,7 @@ void KxFaceTracks::Follow(double timeSeconds, const cv::Mat& grey)
             continue;
         }
         const std::optional<cv::Rect> face = m_finder.FindNear(grey, track.view, track.last);
-        track.looks.push_back({timeSeconds, face});
+        track.looks.emplace_back(timeSeconds, face);
         track.misses = face ? 0 : track.misses + 1;
         track.last = face.value_or(track.last);
     }
@@ -138,10 +149,10 @@ KxFaceTracks::Sight KxFaceTracks::Seen(const Track& track, double fromSeconds, d
     for (auto look = std::lower_bound(track.looks.begin(), track.looks.end(), fromSeconds, isBefore);
          look != track.looks.end() && look->timeSeconds <= toSeconds; ++look) {
         ++sight.looks;
-        if (look->face) {
+        if (const std::optional<cv::Rect> face = look->Face()) {
             ++sight.hits;
-            sight.sum += cv::Vec4d(look->face->x, look->face->y, look->face->width, look->face->height);
-            sight.weight += SizeWeight(*look->face, picturePx);
+            sight.sum += cv::Vec4d(face->x, face->y, face->width, face->height);
+            sight.weight += SizeWeight(*face, picturePx);
         }
     }
     return sight;

@@ -20,10 +20,13 @@ public:
     /// Takes a look if one is due. Times grow from call to call.
     void AddPicture(double timeSeconds, const cv::Mat& picture, const cv::Mat& grey);
 
-    /// One look for one face: where it was, or that it was not there.
+    /// One look for one face: where it was, or that it was not there. Small, for hours of them are kept.
     struct Look {
-        double timeSeconds = 0.0;
-        std::optional<cv::Rect> face; ///< in pixels of the working picture
+        Look(double time, const std::optional<cv::Rect>& face);
+        std::optional<cv::Rect> Face() const; ///< in pixels of the working picture
+
+        float timeSeconds;
+        cv::Rect_<std::int16_t> box; ///< empty: no face
     };
     struct Track {
         KxFaceView view = KxFaceView::Frontal;

@@ -91,8 +91,8 @@ void KxMoverTracks::Carry(const cv::Matx33d& camera)
 
 std::optional<double> KxMoverTracks::Strangeness(const Track& track, const Blob& blob) const
 {
-    const double reach =
-        m_options.reach * m_mapPx.width + m_options.reachBySize * std::sqrt(std::max(track.area, blob.area));
+    const double reach = m_options.reachPerSecond * m_gapSeconds * m_mapPx.width +
+                         m_options.reachBySize * std::sqrt(std::max(track.area, blob.area));
     const double distance = cv::norm(blob.centre - track.place) / reach;
     const double growth = std::abs(std::log(blob.area / track.area));
     if (distance >= 1.0 || growth >= m_options.mostGrowth) {
@@ -198,6 +198,7 @@ void KxMoverTracks::End(Track& track)
 void KxMoverTracks::AddMap(double timeSeconds, const cv::Mat& map, const std::optional<cv::Matx33d>& camera)
 {
     ++m_sample;
+    m_gapSeconds = timeSeconds - m_nowSeconds;
     m_nowSeconds = timeSeconds;
     cv::Mat half;
     cv::resize(map, half, {(map.cols + 1) / 2, (map.rows + 1) / 2}, 0.0, 0.0, cv::INTER_AREA);

@@ -79,6 +79,7 @@ private:
     cv::Size m_mapPx; ///< of the halved map
     std::int32_t m_sample = -1;
     double m_nowSeconds = 0.0;
+    double m_gapSeconds = 0.0; ///< since the sample before
     std::vector<Track> m_open;
     std::vector<Mover> m_movers;
     std::int32_t m_longest = 0; ///< samples, of all movers

@@ -87,22 +87,22 @@ struct KxSubjectOptions {
 
     /// Measured, all of them; lengths in pixels are of the map halved.
     struct Movers {
-        double threshold = 0.2;     ///< of the motion map: a peak below is noise
-        double extentShare = 0.4;   ///< of the peak: what lies above it around it is one mover
-        int peakDistancePx = 4;     ///< each way in which a peak is the highest
-        int mostAtOnce = 10;        ///< bounds the cost of a crowd
-        double reach = 0.06;        ///< of the width: how far from where it is expected a mover is looked for
-        double reachBySize = 0.35;  ///< of the root of its area, on top
-        double mostGrowth = 1.5;    ///< logarithm of the areas' ratio
-        double growthCost = 0.3;    ///< of that logarithm, against a distance of one reach
-        double ageGain = 0.02;      ///< for each sample seen: an old track is believed before a young one
-        double velocityGain = 0.4;  ///< 0 to 1, of what is new
-        double areaGain = 0.4;      ///< 0 to 1, of what is new
-        int mostMisses = 3;         ///< samples in a row
-        int leastHits = 4;          ///< samples seen, of a mover that counts at all
-        double secondsAtZero = 0.3; ///< of being seen, that give no confidence yet
-        double secondsToFull = 1.5; ///< beyond, for full confidence
-        double fullTravel = 0.15;   ///< of the width, before the background, for full confidence
+        double threshold = 0.2;       ///< of the motion map: a peak below is noise
+        double extentShare = 0.345;   ///< of the peak: what lies above it around it is one mover
+        int peakDistancePx = 4;       ///< each way in which a peak is the highest
+        int mostAtOnce = 10;          ///< bounds the cost of a crowd
+        double reachPerSecond = 0.76; ///< of the width: how far from where it is expected a mover is looked for
+        double reachBySize = 0.35;    ///< of the root of its area, on top
+        double mostGrowth = 1.5;      ///< logarithm of the areas' ratio
+        double growthCost = 0.3;      ///< of that logarithm, against a distance of one reach
+        double ageGain = 0.02;        ///< for each sample seen: an old track is believed before a young one
+        double velocityGain = 0.4;    ///< 0 to 1, of what is new
+        double areaGain = 0.4;        ///< 0 to 1, of what is new
+        int mostMisses = 3;           ///< samples in a row
+        int leastHits = 4;            ///< samples seen, of a mover that counts at all
+        double secondsAtZero = 0.3;   ///< of being seen, that give no confidence yet
+        double secondsToFull = 1.5;   ///< beyond, for full confidence
+        double fullTravel = 0.15;     ///< of the width, before the background, for full confidence
         double leastConfidence = 0.05;
         double areaPower = 0.5;  ///< a mover weighs as the side of its box does, not as its area
         double emptyFloor = 0.1; ///< the sum of weights at which movers say half of what they have to say
@@ -142,7 +142,7 @@ struct KxSubjectOptions {
 
     struct Evidence {
         double motionWeight = 0.5;         ///< measured (study 1.0, alone)
-        double moverWeight = 0.5;          ///< measured
+        double moverWeight = 0.45;         ///< measured
         double saliencyWeightAcross = 0.5; ///< study
         double saliencyWeightUpDown = 0.1; ///< it misleads on tall pictures (study); measured
         double faceWeight = 1.0;           ///< study
@@ -154,9 +154,10 @@ struct KxSubjectOptions {
     } evidence;
 
     struct Path {
-        double moveCost = 1.0;        ///< of the tracker, a width, over the square root of a sample's seconds; study
-        double stepsPerSecond = 10.0; ///< nodes of the smoothed path
-        double speedWeight = 0.4;     ///< on the first derivative; study
+        double moveCost =
+            1.2; ///< of the tracker, a width, over the square root of a sample's seconds; measured (study 1.0)
+        double stepsPerSecond = 10.0;     ///< nodes of the smoothed path
+        double speedWeight = 0.4;         ///< on the first derivative; study
         double accelerationWeight = 0.15; ///< on the second; study
         double hasteWeight = 1.0;  ///< on what exceeds the top speed, which no rule forbids: the subject may need it
         double jerkWeight = 0.12;  ///< on the third; measured (study 0.03)

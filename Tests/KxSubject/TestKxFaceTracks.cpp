@@ -130,7 +130,7 @@ TEST_F(KxFaceTracksTest, ANewSceneIsLookedAtAtOnce)
     m_tracks.BeginScene();
     m_tracks.AddPicture(6.0, m_withFace, grey);
     ASSERT_EQ(m_tracks.Tracks().size(), 1U);
-    EXPECT_EQ(m_tracks.Tracks().front().looks.front().timeSeconds, 6.0);
+    EXPECT_EQ(m_tracks.Tracks().front().looks.front().timeSeconds, 6.0F);
 }
 
 TEST_F(KxFaceTracksTest, AFaceAtTheSamePlaceInANewSceneIsAnotherFace)
