@@ -44,6 +44,15 @@ protected:
             20000);
     }
 
+    /// Lets time go on in small steps until the frame shows.
+    bool PlayTo(int frame)
+    {
+        return QTest::qWaitFor([&] {
+            now += FrameUs / 8;
+            return playback.CurrentFrame() == frame;
+        });
+    }
+
     // Time stands still until it is moved.
     std::atomic<qint64> now{0};
     QList<int> shown;
@@ -96,10 +105,7 @@ TEST_F(TestPlayback, PlaysEachFrameAtItsTime)
     EXPECT_TRUE(playback.IsPlaying());
     qint64 firstAt = 0;
     for (int frame = 1; frame <= 20; ++frame) {
-        ASSERT_TRUE(QTest::qWaitFor([&] {
-            now += FrameUs / 8;
-            return playback.CurrentFrame() == frame;
-        })) << playback.CurrentFrame();
+        ASSERT_TRUE(PlayTo(frame)) << playback.CurrentFrame();
         firstAt = frame == 1 ? now.load() : firstAt;
         EXPECT_NEAR(static_cast<double>(now - firstAt), static_cast<double>((frame - 1) * FrameUs), 0.75 * FrameUs);
     }
@@ -112,10 +118,7 @@ TEST_F(TestPlayback, APictureThatIsLateByAFrameIsShownAndTheDelayMadeUpFor)
     Open(PlayerClip::Numbered());
     ASSERT_TRUE(AwaitFrame(0));
     playback.Play();
-    ASSERT_TRUE(QTest::qWaitFor([&] {
-        now += FrameUs / 8;
-        return playback.CurrentFrame() == 1;
-    }));
+    ASSERT_TRUE(PlayTo(1));
     // Frame 3 is due, and frame 2 has not been shown.
     now += 2 * FrameUs + FrameUs / 4;
     ASSERT_TRUE(QTest::qWaitFor([&] { return playback.CurrentFrame() != 1; }));
@@ -126,10 +129,7 @@ TEST_F(TestPlayback, APictureThatIsLateByAFrameIsShownAndTheDelayMadeUpFor)
     now += FrameUs / 2;
     ASSERT_TRUE(QTest::qWaitFor([&] { return playback.CurrentFrame() != 2; }));
     EXPECT_EQ(playback.CurrentFrame(), 3);
-    ASSERT_TRUE(QTest::qWaitFor([&] {
-        now += FrameUs / 8;
-        return playback.CurrentFrame() == 10;
-    }));
+    ASSERT_TRUE(PlayTo(10));
     EXPECT_EQ(shown.size(), 11);
     EXPECT_EQ(playback.DroppedFrames(), 0);
 }
@@ -139,10 +139,7 @@ TEST_F(TestPlayback, PicturesThatAreLaterAreDropped)
     Open(PlayerClip::Numbered());
     ASSERT_TRUE(AwaitFrame(0));
     playback.Play();
-    ASSERT_TRUE(QTest::qWaitFor([&] {
-        now += FrameUs / 8;
-        return playback.CurrentFrame() == 1;
-    }));
+    ASSERT_TRUE(PlayTo(1));
     // Frame 4 is due, and frames 2 and 3 have not been shown.
     now += 3 * FrameUs + FrameUs / 4;
     ASSERT_TRUE(QTest::qWaitFor([&] { return playback.CurrentFrame() != 1; }));
