@@ -35,15 +35,11 @@ KxMoverTracks::KxMoverTracks(const KxSubjectOptions::Movers& options)
 {
 }
 
-std::vector<KxMoverTracks::Blob> KxMoverTracks::BlobsOf(const cv::Mat& map) const
+std::vector<KxMoverTracks::Peak> KxMoverTracks::PeaksOf(const cv::Mat& map) const
 {
     cv::Mat around;
     const int side = 2 * m_options.peakDistancePx + 1;
     cv::dilate(map, around, cv::getStructuringElement(cv::MORPH_RECT, {side, side}));
-    struct Peak {
-        float value;
-        cv::Point place;
-    };
     std::vector<Peak> peaks;
     for (int y = 0; y < map.rows; ++y) {
         const auto* value = map.ptr<float>(y);
@@ -55,7 +51,14 @@ std::vector<KxMoverTracks::Blob> KxMoverTracks::BlobsOf(const cv::Mat& map) cons
         }
     }
     std::sort(peaks.begin(), peaks.end(), [](const Peak& a, const Peak& b) { return a.value > b.value; });
+    return peaks;
+}
 
+std::vector<KxMoverTracks::Blob> KxMoverTracks::BlobsAt(int level, const cv::Mat& map,
+                                                        const std::vector<Peak>& peaks) const
+{
+    const double fromMiddle = level - (m_options.levels - 1) / 2.0;
+    const double share = m_options.extentShare * std::pow(m_options.levelRatio, fromMiddle);
     // floodFill wants a rim of one pixel around the mask.
     cv::Mat taken(map.rows + 2, map.cols + 2, CV_8UC1, cv::Scalar(0));
     std::vector<Blob> blobs;
@@ -70,13 +73,15 @@ std::vector<KxMoverTracks::Blob> KxMoverTracks::BlobsOf(const cv::Mat& map) cons
         cv::Rect box;
         cv::Mat source = map;
         const int area = cv::floodFill(source, taken, peak.place, cv::Scalar(), &box,
-                                       cv::Scalar((1.0 - m_options.extentShare) * peak.value), cv::Scalar(peak.value),
+                                       cv::Scalar((1.0 - share) * peak.value), cv::Scalar(peak.value),
                                        4 | (label << 8) | cv::FLOODFILL_FIXED_RANGE | cv::FLOODFILL_MASK_ONLY);
         cv::Mat part;
         map(box).copyTo(part, taken(box + cv::Point(1, 1)) == label);
         const cv::Moments moments = cv::moments(part);
-        blobs.push_back(
-            {{box.x + moments.m10 / moments.m00, box.y + moments.m01 / moments.m00}, static_cast<double>(area), box});
+        blobs.push_back({{box.x + moments.m10 / moments.m00, box.y + moments.m01 / moments.m00},
+                         static_cast<double>(area),
+                         box,
+                         level});
     }
     return blobs;
 }
@@ -95,7 +100,7 @@ std::optional<double> KxMoverTracks::Strangeness(const Track& track, const Blob&
                          m_options.reachBySize * std::sqrt(std::max(track.area, blob.area));
     const double distance = cv::norm(blob.centre - track.place) / reach;
     const double growth = std::abs(std::log(blob.area / track.area));
-    if (distance >= 1.0 || growth >= m_options.mostGrowth) {
+    if (track.level != blob.level || distance >= 1.0 || growth >= m_options.mostGrowth) {
         return std::nullopt;
     }
     return distance + m_options.growthCost * growth - m_options.ageGain * std::min(track.hits, HitsThatCount);
@@ -174,7 +179,8 @@ void KxMoverTracks::Join(const std::vector<Blob>& blobs)
                             m_nowSeconds,
                             1,
                             0,
-                            {m_sample, 0.0F, {Packed(blobs[j].box)}}});
+                            {m_sample, 0.0F, {Packed(blobs[j].box)}},
+                            blobs[j].level});
         }
     }
     m_open = std::move(open);
@@ -209,7 +215,13 @@ void KxMoverTracks::AddMap(double timeSeconds, const cv::Mat& map, const std::op
         std::for_each(m_open.begin(), m_open.end(), [this](Track& track) { End(track); });
         m_open.clear();
     }
-    Join(BlobsOf(half));
+    const std::vector<Peak> peaks = PeaksOf(half);
+    std::vector<Blob> blobs;
+    for (int level = 0; level < m_options.levels; ++level) {
+        const std::vector<Blob> more = BlobsAt(level, half, peaks);
+        blobs.insert(blobs.end(), more.begin(), more.end());
+    }
+    Join(blobs);
 }
 
 void KxMoverTracks::Finish()
@@ -244,7 +256,8 @@ KxSignalProfile KxMoverTracks::ProfileAt(std::size_t sample, KxAxis axis) const
             continue;
         }
         const Box box = mover->At(sample);
-        const double weight = mover->confidence * std::pow(box.width * box.height, m_options.areaPower);
+        const double weight =
+            mover->confidence * std::pow(box.width * box.height, m_options.areaPower) / m_options.levels;
         const bool across = axis == KxAxis::Across;
         const double from = across ? box.x : box.y;
         movers.Add(from, from + (across ? box.width : box.height), weight);

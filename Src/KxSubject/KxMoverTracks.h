@@ -53,6 +53,7 @@ private:
         cv::Point2d centre;
         double area;
         cv::Rect box;
+        int level;
     };
     struct Track {
         cv::Point2d place;      ///< in the newest map: where it was seen, or where it is thought to be
@@ -65,8 +66,15 @@ private:
         int hits = 1;
         int misses = 0;
         Mover mover;
+        int level = 0;
     };
-    std::vector<Blob> BlobsOf(const cv::Mat& map) const;
+    struct Peak {
+        float value;
+        cv::Point place;
+    };
+    std::vector<Peak> PeaksOf(const cv::Mat& map) const;
+    /// The parts of the map that lie above one level's share of their peaks.
+    std::vector<Blob> BlobsAt(int level, const cv::Mat& map, const std::vector<Peak>& peaks) const;
     void Carry(const cv::Matx33d& camera);
     void Join(const std::vector<Blob>& blobs);
     void Extend(Track& track, const Blob& blob) const;

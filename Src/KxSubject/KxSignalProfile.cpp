@@ -66,12 +66,11 @@ float KxSignalProfile::Sum() const
     return std::accumulate(share.begin(), share.end(), 0.0F);
 }
 
-template<std::size_t BinsInOne>
-KxPackedProfileBy<BinsInOne>::KxPackedProfileBy(const KxSignalProfile& profile)
+KxPackedProfile::KxPackedProfile(const KxSignalProfile& profile)
 {
-    std::array<float, KxSignalProfile::Bins / BinsInOne> groups{};
+    std::array<float, KxSignalProfile::Bins / BinsInGroup> groups{};
     for (std::size_t bin = 0; bin < KxSignalProfile::Bins; ++bin) {
-        groups[bin / BinsInOne] += std::max(0.0F, profile.share[bin]);
+        groups[bin / BinsInGroup] += std::max(0.0F, profile.share[bin]);
     }
     m_largest = *std::max_element(groups.begin(), groups.end());
     for (std::size_t group = 0; m_largest > 0.0F && group < groups.size(); ++group) {
@@ -79,15 +78,19 @@ KxPackedProfileBy<BinsInOne>::KxPackedProfileBy(const KxSignalProfile& profile)
     }
 }
 
-template<std::size_t BinsInOne>
-KxSignalProfile KxPackedProfileBy<BinsInOne>::Unpacked() const
+KxSignalProfile KxPackedProfile::Unpacked() const
 {
+    constexpr std::size_t half = BinsInGroup / 2;
+    const float scale = m_largest / PackedOne / static_cast<float>(BinsInGroup);
     KxSignalProfile profile;
     for (std::size_t bin = 0; bin < KxSignalProfile::Bins; ++bin) {
-        profile.share[bin] = m_largest * static_cast<float>(m_groups[bin / BinsInOne]) / PackedOne / BinsInOne;
+        // A bin between the middles of two groups takes from both; at the ends there is one.
+        const std::size_t right = (bin + half) / BinsInGroup;
+        const std::size_t left = right - (right > 0 ? 1 : 0);
+        const float part = (static_cast<float>((bin + half) % BinsInGroup) + 0.5F) / static_cast<float>(BinsInGroup);
+        const float height = (1.0F - part) * static_cast<float>(m_groups[left]) +
+                             part * static_cast<float>(m_groups[std::min(right, m_groups.size() - 1)]);
+        profile.share[bin] = height * scale;
     }
     return profile;
 }
-
-template class KxPackedProfileBy<2>;
-template class KxPackedProfileBy<4>;

@@ -23,19 +23,17 @@ struct KXSUBJECT_API KxSignalProfile {
     float Sum() const;
 };
 
-/// A profile kept for every sample of a long video, in a fraction of the bytes: so many bins as one, each exact to
-/// 1/255 of the largest.
-template<std::size_t BinsInOne>
-class KXSUBJECT_API KxPackedProfileBy
+/// A profile kept for every sample of a long video, in a fraction of the bytes: four bins as one, each exact to 1/255
+/// of the largest. Unpacked it is a slope from group to group: without steps a crop can come to lie on any place.
+class KXSUBJECT_API KxPackedProfile
 {
 public:
-    KxPackedProfileBy() = default;
-    explicit KxPackedProfileBy(const KxSignalProfile& profile);
+    KxPackedProfile() = default;
+    explicit KxPackedProfile(const KxSignalProfile& profile);
     KxSignalProfile Unpacked() const;
 
 private:
+    static constexpr std::size_t BinsInGroup = 4;
     float m_largest = 0.0F;
-    std::array<std::uint8_t, KxSignalProfile::Bins / BinsInOne> m_groups{};
+    std::array<std::uint8_t, KxSignalProfile::Bins / BinsInGroup> m_groups{};
 };
-using KxPackedProfile = KxPackedProfileBy<2>;
-using KxCoarsePackedProfile = KxPackedProfileBy<4>; ///< for a map that is blurred more than that

@@ -40,12 +40,11 @@ void KxSignalTrack::Reserve(std::int64_t frameCount)
     m_samples.reserve(static_cast<std::size_t>(std::min(samples, mostSamples)));
 }
 
-template<typename Packed>
-std::array<Packed, 2> KxSignalTrack::Profiles(const cv::Mat& map, const cv::Rect& region) const
+std::array<KxPackedProfile, 2> KxSignalTrack::Profiles(const cv::Mat& map, const cv::Rect& region) const
 {
     const double emptyFloor = m_options.evidence.emptyFloor;
-    return {Packed(KxSignalProfile::Of(map, region, m_picturePx, KxAxis::Across, emptyFloor)),
-            Packed(KxSignalProfile::Of(map, region, m_picturePx, KxAxis::UpDown, emptyFloor))};
+    return {KxPackedProfile(KxSignalProfile::Of(map, region, m_picturePx, KxAxis::Across, emptyFloor)),
+            KxPackedProfile(KxSignalProfile::Of(map, region, m_picturePx, KxAxis::UpDown, emptyFloor))};
 }
 
 void KxSignalTrack::AddPicture(std::int64_t frame, const cv::Mat& picture)
@@ -67,7 +66,7 @@ void KxSignalTrack::AddPicture(std::int64_t frame, const cv::Mat& picture)
     const cv::Rect content = m_bars.Content();
     KxSignalSample sample;
     sample.frame = static_cast<std::int32_t>(frame);
-    sample.saliency = Profiles<KxCoarsePackedProfile>(m_saliency.Of(now.grey(content)), content);
+    sample.saliency = Profiles(m_saliency.Of(now.grey(content)), content);
     m_samples.push_back(sample);
     if (!now.cameraHere) {
         m_faces.BeginScene();
@@ -102,7 +101,7 @@ void KxSignalTrack::MeasureMotion(const Picture* after)
     }
     cv::Mat map(m_picturePx, CV_32FC1, cv::Scalar(0.0));
     m_motion.Of(m_newest->grey(content), neighbours).copyTo(map(content));
-    m_samples.back().motion = Profiles<KxPackedProfile>(map(content), content);
+    m_samples.back().motion = Profiles(map(content), content);
     m_movers.AddMap(SecondsAt(m_newest->frame), map, m_newest->cameraHere);
 }
 

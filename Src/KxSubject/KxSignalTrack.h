@@ -13,8 +13,8 @@
 /// What was measured at one sampled picture, along both axes.
 struct KxSignalSample {
     std::int32_t frame = 0;
-    std::array<KxPackedProfile, 2> motion;         ///< by axis
-    std::array<KxCoarsePackedProfile, 2> saliency; ///< by axis
+    std::array<KxPackedProfile, 2> motion;   ///< by axis
+    std::array<KxPackedProfile, 2> saliency; ///< by axis
 };
 
 /// Runs the signals over a video's pictures as they come and keeps what they say: profiles of the samples, movers,
@@ -59,8 +59,7 @@ private:
         std::optional<cv::Matx33d> cameraHere; ///< from the picture before, in the whole picture's pixels
     };
     double SecondsAt(std::int64_t frame) const { return static_cast<double>(frame) / m_frameRate; }
-    template<typename Packed>
-    std::array<Packed, 2> Profiles(const cv::Mat& map, const cv::Rect& region) const;
+    std::array<KxPackedProfile, 2> Profiles(const cv::Mat& map, const cv::Rect& region) const;
     std::optional<cv::Matx33d> CameraTo(const Picture& now) const;
     /// `after` may be missing.
     void MeasureMotion(const Picture* after);

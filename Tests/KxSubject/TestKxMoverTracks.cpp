@@ -10,7 +10,13 @@ namespace
 {
 
 const cv::Size MapSize(320, 180);
-const KxSubjectOptions::Movers Options;
+/// One level: the others follow what they see in the same way.
+KxSubjectOptions::Movers OneLevel()
+{
+    KxSubjectOptions::Movers options;
+    options.levels = 1;
+    return options;
+}
 
 cv::Matx33d Shift(double across)
 {
@@ -30,7 +36,7 @@ cv::Mat Map(const std::vector<cv::Rect>& moving)
 template<typename Places>
 KxMoverTracks Followed(int samples, Places places, double camera = 0.0)
 {
-    KxMoverTracks tracks(Options);
+    KxMoverTracks tracks(OneLevel());
     for (int i = 0; i < samples; ++i) {
         tracks.AddMap(i / 10.0, Map(places(i)), i == 0 ? std::nullopt : std::optional(Shift(camera)));
     }
@@ -45,6 +51,37 @@ double CentreOf(const KxSignalProfile& profile)
         sum += profile.share[bin] * (static_cast<double>(bin) + 0.5) / KxSignalProfile::Bins;
     }
     return sum / static_cast<double>(profile.Sum());
+}
+
+/// Two that cross the picture side by side, the map between them so high as `saddle` says.
+KxSignalProfile OfPair(float saddle, const KxSubjectOptions::Movers& options)
+{
+    KxMoverTracks tracks(options);
+    for (int i = 0; i < 30; ++i) {
+        const int left = 20 + 6 * i;
+        cv::Mat map = Map({{left, 80, 16, 24}, {left + 40, 80, 16, 24}});
+        map(cv::Rect(left + 16, 80, 24, 24)).setTo(saddle);
+        tracks.AddMap(i / 10.0, map, i == 0 ? std::nullopt : std::optional(Shift(0.0)));
+    }
+    tracks.Finish();
+    return tracks.ProfileAt(15, KxAxis::Across);
+}
+
+/// The largest part of a profile that a small change of the map moves.
+double LargestStep(const KxSubjectOptions::Movers& options)
+{
+    double largest = 0.0;
+    KxSignalProfile before = OfPair(0.2F, options);
+    for (float saddle = 0.22F; saddle < 0.5F; saddle += 0.02F) {
+        const KxSignalProfile now = OfPair(saddle, options);
+        double moved = 0.0;
+        for (std::size_t bin = 0; bin < KxSignalProfile::Bins; ++bin) {
+            moved += std::abs(now.share[bin] - before.share[bin]);
+        }
+        largest = std::max(largest, moved);
+        before = now;
+    }
+    return largest;
 }
 
 } // namespace
@@ -141,7 +178,7 @@ TEST(KxMoverTracks, TwoMoversThatPassEachOtherStayTwo)
 
 TEST(KxMoverTracks, AnotherSceneEndsEveryTrack)
 {
-    KxMoverTracks tracks(Options);
+    KxMoverTracks tracks(OneLevel());
     for (int i = 0; i < 40; ++i) {
         const auto camera = i % 20 == 0 ? std::nullopt : std::optional(Shift(0.0));
         tracks.AddMap(i / 10.0, Map({{20 + 6 * i, 80, 24, 24}}), camera);
@@ -158,4 +195,24 @@ TEST(KxMoverTracks, NothingMovesInEmptyMaps)
     const auto tracks = Followed(10, [](int) { return std::vector<cv::Rect>(); });
     EXPECT_TRUE(tracks.Movers().empty());
     EXPECT_EQ(tracks.ProfileAt(4, KxAxis::Across).Sum(), 0.0F);
+}
+
+TEST(KxMoverTracks, AMoverIsFollowedAtEachLevelAndWeighsAsOne)
+{
+    const auto place = [](int i) { return std::vector<cv::Rect>{{20 + 6 * i, 80, 24, 24}}; };
+    const KxSubjectOptions::Movers options;
+    KxMoverTracks tracks(options);
+    for (int i = 0; i < 30; ++i) {
+        tracks.AddMap(i / 10.0, Map(place(i)), i == 0 ? std::nullopt : std::optional(Shift(0.0)));
+    }
+    tracks.Finish();
+    EXPECT_EQ(tracks.Movers().size(), static_cast<std::size_t>(options.levels));
+    const KxSignalProfile alone = Followed(30, place).ProfileAt(15, KxAxis::Across);
+    EXPECT_NEAR(tracks.ProfileAt(15, KxAxis::Across).Sum(), alone.Sum(), 0.02);
+    EXPECT_NEAR(CentreOf(tracks.ProfileAt(15, KxAxis::Across)), CentreOf(alone), 0.005);
+}
+
+TEST(KxMoverTracks, WhetherTwoAreOneIsNotDecidedAtOnce)
+{
+    EXPECT_LT(LargestStep({}), 0.5 * LargestStep(OneLevel()));
 }

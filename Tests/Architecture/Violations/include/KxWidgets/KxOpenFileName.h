@@ -1,2 +1,2 @@
-#include <windows.h>
 #include <unistd.h>
+#include <windows.h>
