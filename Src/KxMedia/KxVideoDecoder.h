@@ -53,6 +53,8 @@ private:
     KxVideoDecoder(KxVideoPackets& packets, KxAvCodec codec);
     KxReadStatus Feed();
     bool CountError();
+    /// Packets that the decoder takes in before its first picture comes out.
+    int Latency() const;
     bool Accept(Picture& picture);
     std::optional<qint64> TimeOf(const AVFrame& frame);
 
@@ -68,7 +70,7 @@ private:
     bool m_isAtStart = true;
     int m_errorsInARow = 0;
     int m_damageCount = 0;
-    int m_packetsSincePicture = 0;
+    int m_packetsSincePicture; ///< below 0 while the decoder fills
     std::optional<qint64> m_latestSkippableTicks;
     std::optional<qint64> m_lastPacketTicks;
     std::optional<qint64> m_landingTicks;

@@ -23,6 +23,7 @@ public:
     {
         const int hole = static_cast<int>(source->Grid().Rate().ToDouble() / LargestHolesASecond);
         source->Decoder().SetLongestSkip(std::max(2, hole));
+        source->Decoder().SetSkip(KxVideoDecoder::Skip::NonReference);
     }
 
     std::unique_ptr<KxVideoSource> source;
@@ -64,7 +65,6 @@ KxReadStatus KxVideoScanner::Next(KxVideoFrame& picture)
         }
         if (next.Index() > impl.lastIndex && next.Index() < Facts().video->frameCount) {
             impl.lastIndex = next.Index();
-            impl.source->Decoder().SetSkip(KxVideoDecoder::Skip::NonReference);
             picture = std::move(next);
             return KxReadStatus::Picture;
         }

@@ -28,11 +28,12 @@ struct Scan {
     }
 };
 
-QString Made(const char* name, int frames, const char* output)
+QString Made(const char* name, int frames, const char* output, const char* rate = "25")
 {
     MadeVideo::Recipe recipe;
     recipe.size = {96, 64};
     recipe.frames = frames;
+    recipe.rate = QLatin1String(rate);
     recipe.output = Words(output);
     MadeVideo::Make(Path(QLatin1String(name)), recipe);
     return Path(QLatin1String(name));
@@ -75,6 +76,14 @@ TEST(KxVideoScanner, LeavesOutPicturesThatNoOtherNeeds)
     EXPECT_GT(scan.indices.size(), 40U);
     EXPECT_LE(scan.LargestHole(), 6);
     EXPECT_FALSE(scan.hasEndedEarly);
+}
+
+TEST(KxVideoScanner, AtALowRateTheDecodersStartIsNotTakenForAHole)
+{
+    const Scan scan = ScanOf(Made("slow.mp4", 60, "-c:v libx264 -g 30 -bf 1 -b_strategy 0 -pix_fmt yuv420p", "8"));
+    ExpectNumbersMatch(scan);
+    EXPECT_LT(scan.indices.size(), 45U);
+    EXPECT_LE(scan.LargestHole(), 2);
 }
 
 TEST(KxVideoScanner, GivesEveryPictureWhereEachIsNeeded)
