@@ -129,7 +129,7 @@ std::optional<cv::Matx33d> KxCameraMovement::Between(const cv::Mat& before, cons
         return std::nullopt;
     }
     cv::Mat agrees;
-    const cv::Mat movement = cv::findHomography(from, to, cv::RANSAC, m_options.inlierPx, agrees, 500, 0.995);
+    const cv::Mat movement = cv::findHomography(from, to, cv::USAC_FAST, m_options.inlierPx, agrees, 500, 0.995);
     if (cv::countNonZero(agrees) < m_options.agreeingShare * static_cast<double>(corners.size()) ||
         !IsPlausible(movement, now.size())) {
         return std::nullopt;

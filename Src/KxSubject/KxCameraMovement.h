@@ -7,8 +7,8 @@
 #include <optional>
 
 /// The camera's own movement between two pictures, from corners followed by pyramidal Lucas-Kanade and a homography
-/// fitted by RANSAC. Every part of the picture gives a like number of corners: else one large rich subject before a
-/// plain background would be taken for the world, and the world for what moves.
+/// fitted by a RANSAC (the framework of Raguram et al. 2013). Every part of the picture gives a like number of corners:
+/// else one large rich subject before a plain background would be taken for the world, and the world for what moves.
 class KXSUBJECT_API KxCameraMovement
 {
 public:

@@ -130,14 +130,21 @@ std::vector<double> KxSubjectAnalyzer::Impl::CentresOf(const Shot& shot, const K
 {
     const std::vector<KxSignalSample>& samples = m_signals.Samples();
     const KxSubjectOptions::Reaction& reaction = m_options.For(m_request.speed);
+    const auto isBefore = [](const KxSignalSample& sample, std::int64_t frame) { return sample.frame < frame; };
+    const auto from = std::lower_bound(samples.begin(), samples.end(), shot.first, isBefore);
+    const auto to = std::lower_bound(from, samples.end(), shot.end, isBefore);
+    const auto begin = static_cast<std::size_t>(from - samples.begin());
+    const auto end = static_cast<std::size_t>(to - samples.begin());
+
     const double patience = reaction.holdSeconds / m_options.automatic.holdSeconds;
-    const double costPerWidth = m_options.path.moveCost * patience * std::sqrt(m_options.sampling.samplesPerSecond);
+    const double usualRate = m_options.sampling.samplesPerSecond;
+    const double rate =
+        static_cast<double>(end - begin) * m_request.frameRate / static_cast<double>(shot.end - shot.first);
+    // Where pictures are missing the evidence comes in fewer samples, so that a move has fewer of them to pay it.
+    const double costPerWidth =
+        m_options.path.moveCost * patience * std::sqrt(usualRate) * std::min(1.0, rate / usualRate);
     KxSubjectTracker tracker(costPerWidth * score.Spacing());
-    const auto begin = static_cast<std::size_t>(
-        std::lower_bound(samples.begin(), samples.end(), shot.first,
-                         [](const KxSignalSample& sample, std::int64_t frame) { return sample.frame < frame; }) -
-        samples.begin());
-    for (std::size_t i = begin; i < samples.size() && samples[i].frame < shot.end; ++i) {
+    for (std::size_t i = begin; i < end; ++i) {
         const bool clear = samples[i].frame >= shot.clearFirst && samples[i].frame < shot.clearEnd;
         tracker.Add(clear ? score.Of(m_signals.EvidenceAt(i, shot.first, shot.end, geometry.FreeAxis()).Sum())
                           : KxCentreScore::Scores{});
