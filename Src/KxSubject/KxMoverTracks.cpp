@@ -32,6 +32,7 @@ cv::Point2d Moved(const cv::Matx33d& movement, cv::Point2d place)
 
 KxMoverTracks::KxMoverTracks(const KxSubjectOptions::Movers& options)
     : m_options(options)
+    , m_open(static_cast<std::size_t>(std::max(options.levels, 0)))
 {
 }
 
@@ -78,19 +79,19 @@ std::vector<KxMoverTracks::Blob> KxMoverTracks::BlobsAt(int level, const cv::Mat
         cv::Mat part;
         map(box).copyTo(part, taken(box + cv::Point(1, 1)) == label);
         const cv::Moments moments = cv::moments(part);
-        blobs.push_back({{box.x + moments.m10 / moments.m00, box.y + moments.m01 / moments.m00},
-                         static_cast<double>(area),
-                         box,
-                         level});
+        blobs.push_back(
+            {{box.x + moments.m10 / moments.m00, box.y + moments.m01 / moments.m00}, static_cast<double>(area), box});
     }
     return blobs;
 }
 
 void KxMoverTracks::Carry(const cv::Matx33d& camera)
 {
-    for (Track& track : m_open) {
-        track.background = Moved(camera, track.place);
-        track.place = track.background + track.velocity;
+    for (std::vector<Track>& open : m_open) {
+        for (Track& track : open) {
+            track.background = Moved(camera, track.place);
+            track.place = track.background + track.velocity;
+        }
     }
 }
 
@@ -100,7 +101,7 @@ std::optional<double> KxMoverTracks::Strangeness(const Track& track, const Blob&
                          m_options.reachBySize * std::sqrt(std::max(track.area, blob.area));
     const double distance = cv::norm(blob.centre - track.place) / reach;
     const double growth = std::abs(std::log(blob.area / track.area));
-    if (track.level != blob.level || distance >= 1.0 || growth >= m_options.mostGrowth) {
+    if (distance >= 1.0 || growth >= m_options.mostGrowth) {
         return std::nullopt;
     }
     return distance + m_options.growthCost * growth - m_options.ageGain * std::min(track.hits, HitsThatCount);
@@ -140,50 +141,49 @@ void KxMoverTracks::Extend(Track& track, const Blob& blob) const
     track.misses = 0;
 }
 
-void KxMoverTracks::Join(const std::vector<Blob>& blobs)
+void KxMoverTracks::Join(std::vector<Track>& open, const std::vector<Blob>& blobs)
 {
     std::vector<std::tuple<double, std::size_t, std::size_t>> pairs;
-    for (std::size_t i = 0; i < m_open.size(); ++i) {
+    for (std::size_t i = 0; i < open.size(); ++i) {
         for (std::size_t j = 0; j < blobs.size(); ++j) {
-            if (const std::optional<double> strangeness = Strangeness(m_open[i], blobs[j])) {
+            if (const std::optional<double> strangeness = Strangeness(open[i], blobs[j])) {
                 pairs.emplace_back(*strangeness, i, j);
             }
         }
     }
     std::sort(pairs.begin(), pairs.end());
-    std::vector<bool> followed(m_open.size(), false);
+    std::vector<bool> followed(open.size(), false);
     std::vector<bool> known(blobs.size(), false);
     for (const auto& [strangeness, i, j] : pairs) {
         if (!followed[i] && !known[j]) {
             followed[i] = true;
             known[j] = true;
-            Extend(m_open[i], blobs[j]);
+            Extend(open[i], blobs[j]);
         }
     }
-    std::vector<Track> open;
-    for (std::size_t i = 0; i < m_open.size(); ++i) {
-        if (!followed[i] && ++m_open[i].misses > m_options.mostMisses) {
-            End(m_open[i]);
+    std::vector<Track> staying;
+    for (std::size_t i = 0; i < open.size(); ++i) {
+        if (!followed[i] && ++open[i].misses > m_options.mostMisses) {
+            End(open[i]);
         } else {
-            open.push_back(std::move(m_open[i]));
+            staying.push_back(std::move(open[i]));
         }
     }
     for (std::size_t j = 0; j < blobs.size(); ++j) {
         if (!known[j]) {
-            open.push_back({blobs[j].centre,
-                            blobs[j].centre,
-                            {},
-                            {},
-                            blobs[j].area,
-                            m_nowSeconds,
-                            m_nowSeconds,
-                            1,
-                            0,
-                            {m_sample, 0.0F, {Packed(blobs[j].box)}},
-                            blobs[j].level});
+            staying.push_back({blobs[j].centre,
+                               blobs[j].centre,
+                               {},
+                               {},
+                               blobs[j].area,
+                               m_nowSeconds,
+                               m_nowSeconds,
+                               1,
+                               0,
+                               {m_sample, 0.0F, {Packed(blobs[j].box)}}});
         }
     }
-    m_open = std::move(open);
+    open = std::move(staying);
 }
 
 void KxMoverTracks::End(Track& track)
@@ -201,6 +201,14 @@ void KxMoverTracks::End(Track& track)
     }
 }
 
+void KxMoverTracks::EndAll()
+{
+    for (std::vector<Track>& open : m_open) {
+        std::for_each(open.begin(), open.end(), [this](Track& track) { End(track); });
+        open.clear();
+    }
+}
+
 void KxMoverTracks::AddMap(double timeSeconds, const cv::Mat& map, const std::optional<cv::Matx33d>& camera)
 {
     ++m_sample;
@@ -212,22 +220,17 @@ void KxMoverTracks::AddMap(double timeSeconds, const cv::Mat& map, const std::op
     if (camera) {
         Carry(Halved(*camera));
     } else {
-        std::for_each(m_open.begin(), m_open.end(), [this](Track& track) { End(track); });
-        m_open.clear();
+        EndAll();
     }
     const std::vector<Peak> peaks = PeaksOf(half);
-    std::vector<Blob> blobs;
-    for (int level = 0; level < m_options.levels; ++level) {
-        const std::vector<Blob> more = BlobsAt(level, half, peaks);
-        blobs.insert(blobs.end(), more.begin(), more.end());
+    for (std::size_t level = 0; level < m_open.size(); ++level) {
+        Join(m_open[level], BlobsAt(static_cast<int>(level), half, peaks));
     }
-    Join(blobs);
 }
 
 void KxMoverTracks::Finish()
 {
-    std::for_each(m_open.begin(), m_open.end(), [this](Track& track) { End(track); });
-    m_open.clear();
+    EndAll();
     std::stable_sort(m_movers.begin(), m_movers.end(),
                      [](const Mover& a, const Mover& b) { return a.firstSample < b.firstSample; });
 }

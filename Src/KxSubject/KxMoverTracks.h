@@ -9,7 +9,8 @@
 
 /// Associates what moves from sample to sample: the parts of each motion map are followed from where the camera and
 /// their own speed carry them. What lasts and travels before its background is a subject, however small; noise, leaves
-/// and parallax do neither, however large.
+/// and parallax do neither, however large. What one part is hangs on the height at which the map is cut: it is cut at
+/// several levels, the parts of each are followed by themselves, and each level has its share of the say.
 class KXSUBJECT_API KxMoverTracks
 {
 public:
@@ -53,7 +54,6 @@ private:
         cv::Point2d centre;
         double area;
         cv::Rect box;
-        int level;
     };
     struct Track {
         cv::Point2d place;      ///< in the newest map: where it was seen, or where it is thought to be
@@ -66,7 +66,6 @@ private:
         int hits = 1;
         int misses = 0;
         Mover mover;
-        int level = 0;
     };
     struct Peak {
         float value;
@@ -76,19 +75,21 @@ private:
     /// The parts of the map that lie above one level's share of their peaks.
     std::vector<Blob> BlobsAt(int level, const cv::Mat& map, const std::vector<Peak>& peaks) const;
     void Carry(const cv::Matx33d& camera);
-    void Join(const std::vector<Blob>& blobs);
+    /// Goes on with the tracks of one level.
+    void Join(std::vector<Track>& open, const std::vector<Blob>& blobs);
     void Extend(Track& track, const Blob& blob) const;
     /// What speaks against their being one, least first; none where it is out of the question.
     std::optional<double> Strangeness(const Track& track, const Blob& blob) const;
     Mover::PackedBox Packed(const cv::Rect& box) const;
     void End(Track& track);
+    void EndAll();
 
     KxSubjectOptions::Movers m_options;
     cv::Size m_mapPx; ///< of the halved map
     std::int32_t m_sample = -1;
     double m_nowSeconds = 0.0;
-    double m_gapSeconds = 0.0; ///< since the sample before
-    std::vector<Track> m_open;
+    double m_gapSeconds = 0.0;              ///< since the sample before
+    std::vector<std::vector<Track>> m_open; ///< by level
     std::vector<Mover> m_movers;
     std::int32_t m_longest = 0; ///< samples, of all movers
 };
