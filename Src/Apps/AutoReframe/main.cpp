@@ -6,6 +6,7 @@
 #include <QApplication>
 
 #include <cstdio>
+#include <optional>
 
 namespace
 {
