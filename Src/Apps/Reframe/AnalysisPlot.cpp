@@ -19,7 +19,7 @@ constexpr double topPx = 22.0;
 constexpr double pathHeightPx = 300.0;
 constexpr double signalsHeightPx = 130.0;
 constexpr double axisPx = 26.0;
-constexpr int rows = static_cast<int>(KxSignalProfile::Bins) / 2;
+constexpr int rows = static_cast<int>(KxSignalProfile::Bins);
 
 QString Number(double value)
 {
@@ -128,8 +128,7 @@ QString AnalysisPlot::Heat() const
         }
         const KxSignalProfile profile = sample->evidence.Unpacked();
         for (int row = 0; row < rows; ++row) {
-            const auto bin = static_cast<std::size_t>(2 * row);
-            shares[static_cast<std::size_t>(row * columns + column)] = profile.share[bin] + profile.share[bin + 1];
+            shares[static_cast<std::size_t>(row * columns + column)] = profile.share[static_cast<std::size_t>(row)];
         }
     }
     const float high = HighShare(shares);
