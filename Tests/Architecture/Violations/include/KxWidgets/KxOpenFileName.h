@@ -1,2 +1,2 @@
-#include <unistd.h>
 #include <windows.h>
+#include <unistd.h>
