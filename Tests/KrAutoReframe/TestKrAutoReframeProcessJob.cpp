@@ -37,12 +37,9 @@ TEST_F(TestKrAutoReframeProcess, AWholeJobRunsFromTheEventsToTheKeyFrames)
     Open(40);
     m_service.Answer(0, FakeHost::MakeResults(40));
     EXPECT_EQ(m_process->StartAnalyze(9, 16, 16), 0);
-    std::thread serviceThread([this] {
-        m_service.Fire(Running, 50);
-        m_service.Fire(Ended, 100);
-    });
+    m_service.FireFromThread(Running, 50);
+    m_service.FireFromThread(Ended, 100);
     EXPECT_TRUE(WaitForFinished());
-    serviceThread.join();
     std::vector<int> expected{4000, 8000};
     for (int frame = 1; frame < 40; ++frame) {
         expected.push_back(static_cast<int>(frame * 10000 / 40 / 10000.0 * 10000 * 0.2 + 8000));
@@ -163,11 +160,8 @@ TEST_F(TestKrAutoReframeProcess, TwoCompletionsEndTheJobOnce)
     Open(40);
     m_service.Answer(0, FakeHost::MakeResults(40));
     EXPECT_EQ(m_process->StartAnalyze(9, 16, 16), 0);
-    std::thread serviceThread([this] {
-        m_service.Fire(Ended, 100);
-        m_service.Fire(Ended, 100);
-    });
-    serviceThread.join();
+    m_service.FireFromThread(Ended, 100);
+    m_service.FireFromThread(Ended, 100);
     EXPECT_TRUE(WaitForFinished());
     QCoreApplication::sendPostedEvents();
     EXPECT_EQ(m_listener->ends, QStringList{QStringLiteral("finished true")});
