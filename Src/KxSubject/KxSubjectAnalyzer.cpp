@@ -70,6 +70,8 @@ private:
     KxCropRect ContentShare() const;
     KxCropGeometry Geometry() const;
     std::vector<Shot> Shots() const;
+    /// Of a width, in a shot seen at so many samples: where pictures are missing, a move has fewer of them to pay it.
+    double MoveCost(const Shot& shot, std::size_t samples) const;
     std::vector<double> CentresOf(const Shot& shot, const KxCropGeometry& geometry, const KxCentreScore& score);
     void Note(const Shot& shot, const std::vector<KxPathPoint>& points, std::size_t firstSample, KxAxis axis,
               const KxCentreScore& score);
@@ -125,25 +127,25 @@ std::vector<KxSubjectAnalyzer::Impl::Shot> KxSubjectAnalyzer::Impl::Shots() cons
     return shots;
 }
 
+double KxSubjectAnalyzer::Impl::MoveCost(const Shot& shot, std::size_t samples) const
+{
+    const double patience = m_options.For(m_request.speed).holdSeconds / m_options.automatic.holdSeconds;
+    const double usualRate = m_options.sampling.samplesPerSecond;
+    const double rate = static_cast<double>(samples) * m_request.frameRate / static_cast<double>(shot.end - shot.first);
+    return m_options.path.moveCost * patience * std::sqrt(usualRate) * std::min(1.0, rate / usualRate);
+}
+
 std::vector<double> KxSubjectAnalyzer::Impl::CentresOf(const Shot& shot, const KxCropGeometry& geometry,
                                                        const KxCentreScore& score)
 {
     const std::vector<KxSignalSample>& samples = m_signals.Samples();
-    const KxSubjectOptions::Reaction& reaction = m_options.For(m_request.speed);
     const auto isBefore = [](const KxSignalSample& sample, std::int64_t frame) { return sample.frame < frame; };
     const auto from = std::lower_bound(samples.begin(), samples.end(), shot.first, isBefore);
     const auto to = std::lower_bound(from, samples.end(), shot.end, isBefore);
     const auto begin = static_cast<std::size_t>(from - samples.begin());
     const auto end = static_cast<std::size_t>(to - samples.begin());
 
-    const double patience = reaction.holdSeconds / m_options.automatic.holdSeconds;
-    const double usualRate = m_options.sampling.samplesPerSecond;
-    const double rate =
-        static_cast<double>(end - begin) * m_request.frameRate / static_cast<double>(shot.end - shot.first);
-    // Where pictures are missing the evidence comes in fewer samples, so that a move has fewer of them to pay it.
-    const double costPerWidth =
-        m_options.path.moveCost * patience * std::sqrt(usualRate) * std::min(1.0, rate / usualRate);
-    KxSubjectTracker tracker(costPerWidth * score.Spacing());
+    KxSubjectTracker tracker(MoveCost(shot, end - begin) * score.Spacing());
     for (std::size_t i = begin; i < end; ++i) {
         const bool clear = samples[i].frame >= shot.clearFirst && samples[i].frame < shot.clearEnd;
         tracker.Add(clear ? score.Of(m_signals.EvidenceAt(i, shot.first, shot.end, geometry.FreeAxis()).Sum())
@@ -156,7 +158,8 @@ std::vector<double> KxSubjectAnalyzer::Impl::CentresOf(const Shot& shot, const K
     if (m_request.wantsFindings) {
         Note(shot, points, begin, geometry.FreeAxis(), score);
     }
-    return KxCropPath(m_options.path, reaction, geometry).Draw(points, shot.first, shot.end, m_request.frameRate, 0.5);
+    return KxCropPath(m_options.path, m_options.For(m_request.speed), geometry)
+        .Draw(points, shot.first, shot.end, m_request.frameRate, 0.5);
 }
 
 void KxSubjectAnalyzer::Impl::Note(const Shot& shot, const std::vector<KxPathPoint>& points, std::size_t firstSample,

@@ -12,6 +12,13 @@
 namespace MadePictures
 {
 
+cv::Mat Grey(const cv::Mat& picture)
+{
+    cv::Mat grey;
+    cv::cvtColor(picture, grey, cv::COLOR_BGR2GRAY);
+    return grey;
+}
+
 cv::Mat Texture(cv::Size size, std::uint64_t seed, double level)
 {
     cv::RNG random(seed);

@@ -11,6 +11,9 @@ namespace MadePictures
 /// Smooth random texture, CV_8UC3, the same for the same seed; mean about `level`.
 cv::Mat Texture(cv::Size size, std::uint64_t seed, double level = 110.0);
 
+/// CV_8UC1 of CV_8UC3.
+cv::Mat Grey(const cv::Mat& picture);
+
 /// The part of a wide texture that a camera sees when it has moved by `shift` (sub-pixel).
 cv::Mat View(const cv::Mat& scene, cv::Point2d shift, cv::Size size);
 

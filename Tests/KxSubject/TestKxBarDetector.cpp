@@ -2,7 +2,7 @@
 
 #include "MadePictures.h"
 
-#include <opencv2/imgproc.hpp>
+#include <opencv2/core.hpp>
 
 #include <gtest/gtest.h>
 
@@ -13,9 +13,7 @@ const cv::Size PictureSize(320, 180);
 
 cv::Mat GreyTexture(std::uint64_t seed)
 {
-    cv::Mat grey;
-    cv::cvtColor(MadePictures::Texture(PictureSize, seed), grey, cv::COLOR_BGR2GRAY);
-    return grey;
+    return MadePictures::Grey(MadePictures::Texture(PictureSize, seed));
 }
 
 cv::Rect ContentOf(const std::vector<cv::Mat>& pictures)

@@ -2,7 +2,7 @@
 
 #include "MadePictures.h"
 
-#include <opencv2/imgproc.hpp>
+#include <opencv2/core.hpp>
 
 #include <gtest/gtest.h>
 
@@ -11,16 +11,9 @@ namespace
 
 const cv::Size PictureSize(320, 180);
 
-cv::Mat Grey(const cv::Mat& picture)
-{
-    cv::Mat grey;
-    cv::cvtColor(picture, grey, cv::COLOR_BGR2GRAY);
-    return grey;
-}
-
 cv::Mat Seen(cv::Point2d camera, std::uint64_t seed = 11)
 {
-    return Grey(MadePictures::View(MadePictures::Texture({480, 260}, seed), camera, PictureSize));
+    return MadePictures::Grey(MadePictures::View(MadePictures::Texture({480, 260}, seed), camera, PictureSize));
 }
 
 std::optional<cv::Matx33d> Between(const cv::Mat& before, const cv::Mat& now)
@@ -59,7 +52,7 @@ TEST(KxCameraMovement, ALargeRichSubjectBeforeAFaintBackgroundIsNotTheWorld)
     const auto picture = [&scene](int subjectLeft) {
         cv::Mat seen = MadePictures::View(scene, {40.0, 20.0}, PictureSize);
         MadePictures::PaintObject(seen, {subjectLeft, 20, 110, 150});
-        return Grey(seen);
+        return MadePictures::Grey(seen);
     };
     const auto movement = Between(picture(150), picture(155));
     ASSERT_TRUE(movement);

@@ -3,7 +3,7 @@
 #include "KxCascadeFiles.h"
 #include "MadePictures.h"
 
-#include <opencv2/imgproc.hpp>
+#include <opencv2/core.hpp>
 
 #include <QByteArray>
 
@@ -23,13 +23,6 @@ cv::Mat PictureWithFace()
 {
     const cv::Mat photograph = MadePictures::Photograph();
     return photograph.empty() ? photograph : photograph(Part).clone();
-}
-
-cv::Mat Grey(const cv::Mat& picture)
-{
-    cv::Mat grey;
-    cv::cvtColor(picture, grey, cv::COLOR_BGR2GRAY);
-    return grey;
 }
 
 bool Meets(const cv::Rect& found, const cv::Rect& face)
@@ -72,7 +65,7 @@ TEST(KxFaceFinder, AFaceIsFoundAndFoundAgainNearItsPlace)
     if (!finder.Knows(KxFaceView::Frontal)) {
         GTEST_SKIP() << "needs the cascades of the package opencv-data";
     }
-    const cv::Mat grey = Grey(picture);
+    const cv::Mat grey = MadePictures::Grey(picture);
     const auto found = finder.Find(picture, grey, KxFaceView::Frontal);
     ASSERT_EQ(found.size(), 1U);
     EXPECT_TRUE(Meets(found[0], Face)) << found[0];
@@ -87,7 +80,7 @@ TEST(KxFaceFinder, APictureWithoutAFaceHasNone)
     KxFaceFinder finder(KxSubjectOptions().faces, "", PictureSize);
     const cv::Mat picture(PictureSize, CV_8UC3, cv::Scalar::all(80));
     for (const KxFaceView view : {KxFaceView::Frontal, KxFaceView::LeftProfile, KxFaceView::RightProfile}) {
-        EXPECT_TRUE(finder.Find(picture, Grey(picture), view).empty());
+        EXPECT_TRUE(finder.Find(picture, MadePictures::Grey(picture), view).empty());
     }
 }
 
@@ -103,7 +96,7 @@ TEST(KxFaceFinder, ANamedFolderOfCascadesComesFirst)
     KxFaceFinder finder(KxSubjectOptions().faces, "", PictureSize);
     EXPECT_FALSE(finder.Knows(KxFaceView::Frontal));
     const cv::Mat picture(PictureSize, CV_8UC3, cv::Scalar::all(80));
-    EXPECT_TRUE(finder.Find(picture, Grey(picture), KxFaceView::Frontal).empty());
+    EXPECT_TRUE(finder.Find(picture, MadePictures::Grey(picture), KxFaceView::Frontal).empty());
     std::filesystem::remove_all(folder);
 }
 
@@ -143,7 +136,7 @@ TEST(KxFaceFinder, AGoodModelFindsTheFace)
     if (picture.empty()) {
         GTEST_SKIP() << "needs messi5.jpg of the package opencv-doc";
     }
-    const auto found = finder.Find(picture, Grey(picture), KxFaceView::Frontal);
+    const auto found = finder.Find(picture, MadePictures::Grey(picture), KxFaceView::Frontal);
     ASSERT_EQ(found.size(), 1U);
     EXPECT_TRUE(Meets(found[0], Face)) << found[0];
     EXPECT_FALSE(finder.Knows(KxFaceView::LeftProfile));

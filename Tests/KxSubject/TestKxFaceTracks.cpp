@@ -2,7 +2,7 @@
 
 #include "MadePictures.h"
 
-#include <opencv2/imgproc.hpp>
+#include <opencv2/core.hpp>
 
 #include <gtest/gtest.h>
 
@@ -39,8 +39,7 @@ protected:
     {
         for (int i = 0; i < count; ++i) {
             const cv::Mat& picture = i >= first && i < end ? m_withFace : m_without;
-            cv::Mat grey;
-            cv::cvtColor(picture, grey, cv::COLOR_BGR2GRAY);
+            const cv::Mat grey = MadePictures::Grey(picture);
             m_tracks.AddPicture(i / 10.0, picture, grey);
         }
     }
@@ -110,8 +109,7 @@ TEST_F(KxFaceTracksTest, LooksOfAnotherShotDoNotCount)
 
 TEST_F(KxFaceTracksTest, LooksAreRarerWhereNothingIsNewForLong)
 {
-    cv::Mat grey;
-    cv::cvtColor(m_withFace, grey, cv::COLOR_BGR2GRAY);
+    const cv::Mat grey = MadePictures::Grey(m_withFace);
     const std::vector<cv::Rect> faces =
         KxFaceFinder(Options.faces, "", PictureSize).Find(m_withFace, grey, KxFaceView::Frontal);
     ASSERT_EQ(faces.size(), 1U);
@@ -125,8 +123,7 @@ TEST_F(KxFaceTracksTest, LooksAreRarerWhereNothingIsNewForLong)
 TEST_F(KxFaceTracksTest, ANewSceneIsLookedAtAtOnce)
 {
     Play(60, 60, 60);
-    cv::Mat grey;
-    cv::cvtColor(m_withFace, grey, cv::COLOR_BGR2GRAY);
+    const cv::Mat grey = MadePictures::Grey(m_withFace);
     m_tracks.BeginScene();
     m_tracks.AddPicture(6.0, m_withFace, grey);
     ASSERT_EQ(m_tracks.Tracks().size(), 1U);
@@ -138,16 +135,14 @@ TEST_F(KxFaceTracksTest, AFaceAtTheSamePlaceInANewSceneIsAnotherFace)
     Play(10, 0, 10);
     ASSERT_EQ(m_tracks.Tracks().size(), 1U);
     m_tracks.BeginScene();
-    cv::Mat grey;
-    cv::cvtColor(m_withFace, grey, cv::COLOR_BGR2GRAY);
+    const cv::Mat grey = MadePictures::Grey(m_withFace);
     m_tracks.AddPicture(1.0, m_withFace, grey);
     EXPECT_EQ(m_tracks.Tracks().size(), 2U);
 }
 
 TEST_F(KxFaceTracksTest, LooksLeaveThePicturesAsTheyAre)
 {
-    cv::Mat grey;
-    cv::cvtColor(m_withFace, grey, cv::COLOR_BGR2GRAY);
+    const cv::Mat grey = MadePictures::Grey(m_withFace);
     const cv::Mat picture = m_withFace.clone();
     const cv::Mat before = grey.clone();
     for (int i = 0; i < 10; ++i) {

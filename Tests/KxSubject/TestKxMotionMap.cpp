@@ -2,7 +2,7 @@
 
 #include "MadePictures.h"
 
-#include <opencv2/imgproc.hpp>
+#include <opencv2/core.hpp>
 
 #include <gtest/gtest.h>
 
@@ -11,13 +11,6 @@ namespace
 
 const cv::Size PictureSize(320, 180);
 
-cv::Mat Grey(const cv::Mat& picture)
-{
-    cv::Mat grey;
-    cv::cvtColor(picture, grey, cv::COLOR_BGR2GRAY);
-    return grey;
-}
-
 cv::Mat Picture(cv::Point2d camera, const cv::Rect& object)
 {
     static const cv::Mat scene = MadePictures::Texture({480, 260}, 11);
@@ -25,7 +18,7 @@ cv::Mat Picture(cv::Point2d camera, const cv::Rect& object)
     if (!object.empty()) {
         MadePictures::PaintObject(picture, object);
     }
-    return Grey(picture);
+    return MadePictures::Grey(picture);
 }
 
 cv::Matx33d Shift(double across, double down)

@@ -17,8 +17,7 @@ TEST(KxSaliencyMap, AnObjectOnAPlainGroundStandsOut)
 {
     cv::Mat picture(180, 320, CV_8UC3, cv::Scalar::all(120));
     MadePictures::PaintObject(picture, {220, 90, 36, 36});
-    cv::Mat grey;
-    cv::cvtColor(picture, grey, cv::COLOR_BGR2GRAY);
+    const cv::Mat grey = MadePictures::Grey(picture);
     const cv::Mat map = KxSaliencyMap(KxSubjectOptions().saliency).Of(grey);
     double largest = 0.0;
     cv::Point place;

@@ -21,8 +21,7 @@ std::vector<KxShotBoundary> Find(int frames, const std::function<cv::Mat(int fra
 {
     KxShotBlends blends(KxSubjectOptions().shots);
     for (int frame = 0; frame < frames; frame += step) {
-        cv::Mat grey;
-        cv::cvtColor(draw(frame), grey, cv::COLOR_BGR2GRAY);
+        const cv::Mat grey = MadePictures::Grey(draw(frame));
         blends.AddPicture(frame, grey);
     }
     return blends.Found();
