@@ -32,6 +32,7 @@ QMap<QString, double*> Values(KxSubjectOptions& options)
             {QStringLiteral("saliencyWeightUpDown"), &evidence.saliencyWeightUpDown},
             {QStringLiteral("faceWeight"), &evidence.faceWeight},
             {QStringLiteral("emptyFloor"), &evidence.emptyFloor},
+            {QStringLiteral("concentration"), &evidence.concentration},
             {QStringLiteral("windowFlatAcross"), &evidence.windowFlatAcross},
             {QStringLiteral("windowFlatUpDown"), &evidence.windowFlatUpDown},
             {QStringLiteral("centrePriorAcross"), &evidence.centrePriorAcross},

@@ -44,6 +44,14 @@ void Load(cv::CascadeClassifier& cascade, const char* fileName)
 
 } // namespace
 
+bool KxAreOneFace(const cv::Rect& a, const cv::Rect& b, double share)
+{
+    const cv::Point apart = (a.tl() + a.br()) / 2 - (b.tl() + b.br()) / 2;
+    const double size = std::max(a.width, b.width);
+    const double smaller = std::min(a.width, b.width);
+    return std::max(std::abs(apart.x), std::abs(apart.y)) < share * size && smaller > share * size;
+}
+
 KxFaceFinder::KxFaceFinder(const KxSubjectOptions::Faces& options, const std::string& modelPath, cv::Size picturePx)
     : m_options(options)
 {
@@ -94,7 +102,30 @@ std::vector<cv::Rect> KxFaceFinder::Find(const cv::Mat& picture, const cv::Mat& 
     if (UsesModel()) {
         return FindByModel(picture);
     }
-    return FindByCascade(grey, view, {m_options.minimumPx, std::min(grey.cols, grey.rows), m_options.scaleFactor});
+    std::vector<cv::Rect> suspects = FindByCascade(
+        grey, view, {m_options.minimumPx, std::min(grey.cols, grey.rows), m_options.searchScaleFactor, 0});
+    std::sort(suspects.begin(), suspects.end(),
+              [](const cv::Rect& a, const cv::Rect& b) { return a.area() > b.area(); });
+    const int neighbours = view == KxFaceView::Frontal ? m_options.frontalNeighbours : m_options.profileNeighbours;
+    std::vector<cv::Rect> faces;
+    const auto isKnown = [this, &faces](const cv::Rect& box) {
+        return std::any_of(faces.begin(), faces.end(),
+                           [this, &box](const cv::Rect& face) { return KxAreOneFace(face, box, m_options.sameShare); });
+    };
+    int looks = 0;
+    for (const cv::Rect& suspect : suspects) {
+        if (isKnown(suspect)) {
+            continue;
+        }
+        if (++looks > m_options.mostSuspects) {
+            break;
+        }
+        const std::optional<cv::Rect> face = LookNear(grey, view, suspect, neighbours);
+        if (face && !isKnown(*face)) {
+            faces.push_back(*face);
+        }
+    }
+    return faces;
 }
 
 std::optional<cv::Rect> KxFaceFinder::FindNear(const cv::Mat& grey, KxFaceView view, const cv::Rect& face)
@@ -102,14 +133,20 @@ std::optional<cv::Rect> KxFaceFinder::FindNear(const cv::Mat& grey, KxFaceView v
     if (UsesModel() || !Knows(view)) {
         return std::nullopt;
     }
+    return LookNear(grey, view, face, m_options.followNeighbours);
+}
+
+std::optional<cv::Rect> KxFaceFinder::LookNear(const cv::Mat& grey, KxFaceView view, const cv::Rect& face,
+                                               int neighbours)
+{
     const cv::Rect around =
         cv::Rect(face.x - face.width / 2, face.y - face.height / 2, face.width * 2, face.height * 2) &
         cv::Rect(0, 0, grey.cols, grey.rows);
     if (around.empty()) {
         return std::nullopt;
     }
-    const std::vector<cv::Rect> found =
-        FindByCascade(grey(around), view, {face.width * 4 / 5, face.width * 5 / 4 + 1, m_options.followScaleFactor});
+    const std::vector<cv::Rect> found = FindByCascade(
+        grey(around), view, {face.width * 4 / 5, face.width * 5 / 4 + 1, m_options.nearScaleFactor, neighbours});
     if (found.empty()) {
         return std::nullopt;
     }
@@ -144,11 +181,9 @@ std::vector<cv::Rect> KxFaceFinder::FindByCascade(const cv::Mat& grey, KxFaceVie
     } else {
         looked = grey;
     }
-    const bool frontal = view == KxFaceView::Frontal;
     std::vector<cv::Rect> faces;
-    (frontal ? m_frontal : m_profile)
-        .detectMultiScale(looked, faces, search.scaleFactor,
-                          frontal ? m_options.frontalNeighbours : m_options.profileNeighbours, 0,
+    (view == KxFaceView::Frontal ? m_frontal : m_profile)
+        .detectMultiScale(looked, faces, search.scaleFactor, search.neighbours, 0,
                           cv::Size(search.smallestPx, search.smallestPx), cv::Size(search.largestPx, search.largestPx));
     if (view == KxFaceView::RightProfile) {
         for (cv::Rect& face : faces) {

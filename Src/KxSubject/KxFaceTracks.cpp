@@ -10,14 +10,6 @@ namespace
 
 constexpr double Early = 1e-3; ///< seconds: a sample on the very time of a look is due
 
-bool AreOneFace(const cv::Rect& a, const cv::Rect& b, double sameShare)
-{
-    const cv::Point apart = (a.tl() + a.br()) / 2 - (b.tl() + b.br()) / 2;
-    const double size = std::max(a.width, b.width);
-    const double smaller = std::min(a.width, b.width);
-    return std::max(std::abs(apart.x), std::abs(apart.y)) < sameShare * size && smaller > sameShare * size;
-}
-
 } // namespace
 
 KxFaceTracks::Look::Look(double time, const std::optional<cv::Rect>& face)
@@ -92,7 +84,7 @@ void KxFaceTracks::LookEverywhere(double timeSeconds, const cv::Mat& picture, co
             continue;
         }
         const auto same = std::find_if(faces.begin(), faces.end(), [this, &track](const cv::Rect& face) {
-            return AreOneFace(face, track.last, m_options.sameShare);
+            return KxAreOneFace(face, track.last, m_options.sameShare);
         });
         const bool looked = track.looks.back().timeSeconds >= static_cast<float>(timeSeconds);
         if (same != faces.end()) {

@@ -66,6 +66,19 @@ float KxSignalProfile::Sum() const
     return std::accumulate(share.begin(), share.end(), 0.0F);
 }
 
+KxSignalProfile KxSignalProfile::Concentrated(double power) const
+{
+    KxSignalProfile raised;
+    std::transform(share.begin(), share.end(), raised.share.begin(),
+                   [power](float part) { return part > 0.0F ? std::pow(part, static_cast<float>(power)) : 0.0F; });
+    const float whole = raised.Sum();
+    KxSignalProfile concentrated;
+    if (whole > 0.0F) {
+        concentrated.Add(raised, static_cast<double>(Sum() / whole));
+    }
+    return concentrated;
+}
+
 KxPackedProfile::KxPackedProfile(const KxSignalProfile& profile)
 {
     std::array<float, KxSignalProfile::Bins / BinsInGroup> groups{};

@@ -21,6 +21,9 @@ struct KXSUBJECT_API KxSignalProfile {
     /// Adds `weight` times the other.
     void Add(const KxSignalProfile& other, double weight);
     float Sum() const;
+    /// The same sum, each bin's part of it raised to `power` (1 changes nothing): above 1 a peak gains and
+    /// what lies spread out loses.
+    KxSignalProfile Concentrated(double power) const;
 };
 
 /// A profile kept for every sample of a long video, in a fraction of the bytes: four bins as one, each exact to 1/255

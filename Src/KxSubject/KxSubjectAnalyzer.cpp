@@ -70,6 +70,8 @@ private:
     KxCropRect ContentShare() const;
     KxCropGeometry Geometry() const;
     std::vector<Shot> Shots() const;
+    /// What all signals say together; the peaks are brought out, so that a subject outweighs what is spread wide.
+    KxSignalProfile Said(const KxSignalTrack::Evidence& evidence) const;
     /// Of a width, in a shot seen at so many samples: where pictures are missing, a move has fewer of them to pay it.
     double MoveCost(const Shot& shot, std::size_t samples) const;
     std::vector<double> CentresOf(const Shot& shot, const KxCropGeometry& geometry, const KxCentreScore& score);
@@ -127,6 +129,11 @@ std::vector<KxSubjectAnalyzer::Impl::Shot> KxSubjectAnalyzer::Impl::Shots() cons
     return shots;
 }
 
+KxSignalProfile KxSubjectAnalyzer::Impl::Said(const KxSignalTrack::Evidence& evidence) const
+{
+    return evidence.Sum().Concentrated(m_options.evidence.concentration);
+}
+
 double KxSubjectAnalyzer::Impl::MoveCost(const Shot& shot, std::size_t samples) const
 {
     const double patience = m_options.For(m_request.speed).holdSeconds / m_options.automatic.holdSeconds;
@@ -148,7 +155,7 @@ std::vector<double> KxSubjectAnalyzer::Impl::CentresOf(const Shot& shot, const K
     KxSubjectTracker tracker(MoveCost(shot, end - begin) * score.Spacing());
     for (std::size_t i = begin; i < end; ++i) {
         const bool clear = samples[i].frame >= shot.clearFirst && samples[i].frame < shot.clearEnd;
-        tracker.Add(clear ? score.Of(m_signals.EvidenceAt(i, shot.first, shot.end, geometry.FreeAxis()).Sum())
+        tracker.Add(clear ? score.Of(Said(m_signals.EvidenceAt(i, shot.first, shot.end, geometry.FreeAxis())))
                           : KxCentreScore::Scores{});
     }
     std::vector<KxPathPoint> points;
@@ -171,7 +178,7 @@ void KxSubjectAnalyzer::Impl::Note(const Shot& shot, const std::vector<KxPathPoi
         KxSubjectFindings::Sample sample;
         sample.frame = points[i].frame;
         sample.wanted = points[i].centre;
-        sample.evidence = KxPackedProfile(evidence.Sum());
+        sample.evidence = KxPackedProfile(Said(evidence));
         const std::array<const KxSignalProfile*, KxSignalCount> signals{&evidence.motion, &evidence.movers,
                                                                         &evidence.saliency, &evidence.faces};
         for (std::size_t signal = 0; signal < KxSignalCount; ++signal) {

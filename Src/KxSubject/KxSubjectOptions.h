@@ -129,10 +129,12 @@ struct KxSubjectOptions {
         int sidesAtFirst = 4;       ///< 4 to 8 looks from the sides in turn at a new scene; measured: 3 miss faces
         int settledLooks = 4;       ///< 2 to 8 over the whole picture without a new face: then they are rarer; chosen
         double settledFactor = 3.0; ///< 1 to 4 times; for the sides also while a face is followed; measured: cost
-        double scaleFactor = 1.15;  ///< 1.05 to 1.2 from window to window; measured: 1.2 misses faces from the side
-        double followScaleFactor = 1.1; ///< 1.05 to 1.2 near a known face: a coarse step has too few that agree; chosen
-        int frontalNeighbours = 3;      ///< 2 to 6 raw hits that make a face; measured
-        int profileNeighbours = 4;      ///< 2 to 6 raw hits that make a face; measured
+        double searchScaleFactor = 1.4; ///< 1.2 to 1.5 from window to window in the whole picture; measured: cost
+        int mostSuspects = 24;          ///< 10 to 50 places of it looked at finely; bounds the cost of a crowd; chosen
+        double nearScaleFactor = 1.1;   ///< 1.05 to 1.2 near a suspect or known face: coarse, too few agree; chosen
+        int frontalNeighbours = 3;      ///< 2 to 6 raw hits near a suspect that make a face; measured
+        int profileNeighbours = 4;      ///< 2 to 6 raw hits near a suspect that make a face; measured
+        int followNeighbours = 2;       ///< 1 to 4 raw hits that keep a known face; measured: with 4 it is often lost
         int minimumPx = 24;             ///< 20 to 40, smallest face looked for; chosen
         double modelThreshold = 0.7;    ///< 0.5 to 0.9, the neural detector's own score; chosen
         int followedAtOnce = 6;         ///< 3 to 12 faces; bounds the cost of a crowd; chosen
@@ -148,11 +150,13 @@ struct KxSubjectOptions {
     struct Evidence {
         double motionWeight = 0.5;          ///< 0.3 to 1; measured (study 1.0, alone)
         double moverWeight = 0.45;          ///< 0.3 to 0.6; measured
-        double saliencyWeightAcross = 0.55; ///< 0.4 to 0.7; measured (study 0.5)
+        double saliencyWeightAcross = 0.65; ///< 0.5 to 0.8; measured (study 0.5)
         double saliencyWeightUpDown = 0.1;  ///< 0 to 0.3: it misleads on tall pictures (study); measured
         double faceWeight = 1.0;            ///< 0.7 to 1.5; study
         double emptyFloor = 0.01;           ///< 0.005 to 0.02 of the area: an empty map weighs little; study
-        double windowFlatAcross = 0.5; ///< 0.3 to 0.7 of the window that scores a centre, else cosine squared; measured
+        double concentration = 1.6;         ///< 1 to 2, power on what all signals say together; measured
+        double windowFlatAcross =
+            0.55; ///< 0.3 to 0.7 of the window that scores a centre, else cosine squared; measured
         double windowFlatUpDown =
             0.9; ///< 0.5 to 1: a tall subject wants to be in, not its head in the middle; measured
         double centrePriorAcross = 0.11; ///< 0.08 to 0.15 for a crop that moves sideways; measured (study 0.12)
@@ -160,8 +164,8 @@ struct KxSubjectOptions {
     } evidence;
 
     struct Path {
-        /// 1 to 2 of the tracker, a width, over the square root of a sample's seconds; measured (study 1.0)
-        double moveCost = 1.6;
+        /// 1.3 to 2.3 of the tracker, a width, over the square root of a sample's seconds; measured (study 1.0)
+        double moveCost = 1.8;
         double stepsPerSecond = 10.0;     ///< 5 to 20 nodes of the smoothed path; chosen
         double speedWeight = 0.35;        ///< 0.25 to 0.5 on the first derivative; measured (study 0.4)
         double accelerationWeight = 0.12; ///< 0.08 to 0.2 on the second; measured (study 0.15)
@@ -187,7 +191,7 @@ struct KxSubjectOptions {
         double holdSeconds;      ///< 0.3 to 2 before the subject changes
     };
     Reaction slow{0.25, 0.20, 0.08, 2.0, 1.5};
-    Reaction automatic{0.18, 0.12, 0.20, 1.0, 0.8};
+    Reaction automatic{0.19, 0.12, 0.20, 1.0, 0.8};
     Reaction fast{0.075, 0.05, 0.45, 0.35, 0.6};
 
     const Reaction& For(KxMotionSpeed speed) const

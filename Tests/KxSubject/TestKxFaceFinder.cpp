@@ -4,11 +4,13 @@
 #include "MadePictures.h"
 
 #include <opencv2/core.hpp>
+#include <opencv2/imgproc.hpp>
 
 #include <QByteArray>
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 
@@ -73,6 +75,63 @@ TEST(KxFaceFinder, AFaceIsFoundAndFoundAgainNearItsPlace)
     ASSERT_TRUE(again.has_value());
     EXPECT_TRUE(Meets(*again, Face));
     EXPECT_FALSE(finder.FindNear(grey, KxFaceView::Frontal, {20, 100, 60, 60}).has_value());
+}
+
+TEST(KxFaceFinder, AFaceOfAnySizeIsFoundBetweenTheCoarseStepsOfTheSearch)
+{
+    const cv::Mat picture = PictureWithFace();
+    KxFaceFinder finder(KxSubjectOptions().faces, "", PictureSize);
+    if (picture.empty() || !finder.Knows(KxFaceView::Frontal)) {
+        GTEST_SKIP() << "needs messi5.jpg of the package opencv-doc and the cascades of opencv-data";
+    }
+    const cv::Mat grey = MadePictures::Grey(picture);
+    for (double scale = 0.8; scale < 1.7; scale *= 1.07) {
+        cv::Mat scaled;
+        cv::resize(grey, scaled, {}, scale, scale, cv::INTER_AREA);
+        const auto found = finder.Find(picture, scaled, KxFaceView::Frontal);
+        const cv::Rect face(cvRound(Face.x * scale), cvRound(Face.y * scale), cvRound(Face.width * scale),
+                            cvRound(Face.height * scale));
+        EXPECT_TRUE(std::any_of(found.begin(), found.end(), [&face](const cv::Rect& box) { return Meets(box, face); }))
+            << scale;
+    }
+}
+
+TEST(KxFaceFinder, AKnownFaceIsBelievedOnFewerHitsThanANewOne)
+{
+    const cv::Mat picture = PictureWithFace();
+    KxSubjectOptions::Faces strict = KxSubjectOptions().faces;
+    strict.frontalNeighbours = 1000;
+    KxFaceFinder finder(strict, "", PictureSize);
+    if (picture.empty() || !finder.Knows(KxFaceView::Frontal)) {
+        GTEST_SKIP() << "needs messi5.jpg of the package opencv-doc and the cascades of opencv-data";
+    }
+    const cv::Mat grey = MadePictures::Grey(picture);
+    EXPECT_TRUE(finder.Find(picture, grey, KxFaceView::Frontal).empty());
+    EXPECT_TRUE(finder.FindNear(grey, KxFaceView::Frontal, Face).has_value());
+    strict.followNeighbours = 1000;
+    EXPECT_FALSE(KxFaceFinder(strict, "", PictureSize).FindNear(grey, KxFaceView::Frontal, Face).has_value());
+}
+
+TEST(KxFaceFinder, NoMorePlacesAreLookedAtThanTheBound)
+{
+    const cv::Mat picture = PictureWithFace();
+    KxSubjectOptions::Faces none = KxSubjectOptions().faces;
+    none.mostSuspects = 0;
+    KxFaceFinder finder(none, "", PictureSize);
+    if (picture.empty() || !finder.Knows(KxFaceView::Frontal)) {
+        GTEST_SKIP() << "needs messi5.jpg of the package opencv-doc and the cascades of opencv-data";
+    }
+    EXPECT_TRUE(finder.Find(picture, MadePictures::Grey(picture), KxFaceView::Frontal).empty());
+}
+
+TEST(KxFaceFinder, BoxesThatLieNearAndAreAlikeInSizeAreOneFace)
+{
+    const cv::Rect face(100, 50, 40, 40);
+    EXPECT_TRUE(KxAreOneFace(face, {110, 60, 40, 40}, 0.6));
+    EXPECT_TRUE(KxAreOneFace(face, {105, 55, 30, 30}, 0.6));
+    EXPECT_FALSE(KxAreOneFace(face, {125, 50, 40, 40}, 0.6));
+    EXPECT_FALSE(KxAreOneFace(face, {100, 74, 40, 40}, 0.6));
+    EXPECT_FALSE(KxAreOneFace(face, {108, 58, 24, 24}, 0.6));
 }
 
 TEST(KxFaceFinder, APictureWithoutAFaceHasNone)

@@ -71,6 +71,26 @@ TEST(KxSignalProfile, AddSpreadsEvenlyAndLosesWhatIsOutside)
     EXPECT_NEAR(profile.Sum(), 0.5F, 1e-5F);
 }
 
+TEST(KxSignalProfile, ConcentratedAPeakGainsWhatIsSpreadOutLoses)
+{
+    KxSignalProfile profile;
+    profile.Add(0.0, 0.5, 0.5);
+    profile.Add(0.75, 0.75 + 1.0 / KxSignalProfile::Bins, 0.25);
+    const std::size_t peak = KxSignalProfile::Bins * 3 / 4;
+
+    const KxSignalProfile concentrated = profile.Concentrated(2.0);
+    // The spread half holds 1/96 in each of 48 bins, the peak 0.25 in one: squared, the peak has twelve times as much.
+    EXPECT_NEAR(concentrated.Sum(), 0.75F, 1e-5F);
+    EXPECT_NEAR(concentrated.share[peak], 0.75F * 0.0625F / (0.0625F + 48.0F / (96.0F * 96.0F)), 1e-4F);
+    EXPECT_NEAR(concentrated.share[0], concentrated.share[KxSignalProfile::Bins / 2 - 1], 1e-6F);
+    EXPECT_EQ(concentrated.share[KxSignalProfile::Bins / 2], 0.0F);
+
+    const KxSignalProfile same = profile.Concentrated(1.0);
+    EXPECT_NEAR(same.share[0], profile.share[0], 1e-6F);
+    EXPECT_NEAR(same.share[peak], profile.share[peak], 1e-6F);
+    EXPECT_EQ(KxSignalProfile().Concentrated(2.0).Sum(), 0.0F);
+}
+
 TEST(KxSignalProfile, PackingKeepsMassAndPlace)
 {
     KxSignalProfile profile;

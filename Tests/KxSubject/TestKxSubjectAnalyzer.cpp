@@ -262,6 +262,30 @@ TEST(KxSubjectAnalyzer, ANarrowerReactionFollowsCloser)
     EXPECT_LT(distance(KxMotionSpeed::Fast), distance(KxMotionSpeed::Slow));
 }
 
+TEST(KxSubjectAnalyzer, OneObjectOutweighsMoreThatIsSpreadWide)
+{
+    const cv::Mat background = MadePictures::Texture({320, 180}, 21);
+    const auto middle = [&background](double concentration) {
+        KxSubjectOptions options = WithoutFaces();
+        options.evidence.concentration = concentration;
+        options.evidence.saliencyWeightAcross = 0.0;
+        const Scene scene = [&background](std::int64_t frame) {
+            const auto sway = [frame](double phase) {
+                return cvRound(4.0 * std::sin(static_cast<double>(frame) * 0.7 + phase));
+            };
+            cv::Mat picture = background.clone();
+            MadePictures::PaintObject(picture, {60 + sway(0.0), 30, 24, 120});
+            for (const int left : {190, 216, 242, 268}) {
+                MadePictures::PaintObject(picture, {left + sway(left), 80, 20, 20});
+            }
+            return picture;
+        };
+        return Middle(Analyse(Request(50), scene, 1, 50, options)[25]);
+    };
+    EXPECT_GT(middle(1.0), 0.6);
+    EXPECT_LT(middle(3.0), 0.4);
+}
+
 TEST(KxSubjectAnalyzer, WithoutPicturesTheCropIsInTheMiddle)
 {
     const auto crops = Analyse(Request(12), Walk, 1, 0);
