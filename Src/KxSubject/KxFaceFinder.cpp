@@ -102,6 +102,11 @@ std::vector<cv::Rect> KxFaceFinder::Find(const cv::Mat& picture, const cv::Mat& 
     if (UsesModel()) {
         return FindByModel(picture);
     }
+    return FindBySearch(grey, view);
+}
+
+std::vector<cv::Rect> KxFaceFinder::FindBySearch(const cv::Mat& grey, KxFaceView view)
+{
     std::vector<cv::Rect> suspects = FindByCascade(
         grey, view, {m_options.minimumPx, std::min(grey.cols, grey.rows), m_options.searchScaleFactor, 0});
     std::sort(suspects.begin(), suspects.end(),

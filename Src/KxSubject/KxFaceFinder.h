@@ -25,9 +25,7 @@ public:
     bool UsesModel() const { return !m_model.empty(); }
     bool Knows(KxFaceView view) const;
 
-    /// Faces anywhere. `picture` is CV_8UC3 (BGR), `grey` CV_8UC1, both of the size given at the start. With cascades
-    /// the whole picture is searched in coarse steps of size, and what may be a face is then looked at in fine ones: a
-    /// third of the cost of fine steps everywhere, and no face less.
+    /// Faces anywhere. `picture` is CV_8UC3 (BGR), `grey` CV_8UC1, both of the size given at the start.
     std::vector<cv::Rect> Find(const cv::Mat& picture, const cv::Mat& grey, KxFaceView view);
     /// The face of about this size near `face`, which is known: it is believed on fewer hits than a new one. Cascades
     /// only, and cheap.
@@ -44,6 +42,10 @@ private:
         int neighbours; ///< raw hits that make a face; 0: each is told
     };
     std::vector<cv::Rect> FindByCascade(const cv::Mat& grey, KxFaceView view, const Search& search);
+    /// Searches in coarse steps of size; what may be a face is then looked at in fine ones, which everywhere would cost
+    /// three times as much.
+    std::vector<cv::Rect> FindBySearch(const cv::Mat& grey, KxFaceView view);
+    /// The face of about the size of `face` near it; `neighbours` as in Search.
     std::optional<cv::Rect> LookNear(const cv::Mat& grey, KxFaceView view, const cv::Rect& face, int neighbours);
 
     KxSubjectOptions::Faces m_options;

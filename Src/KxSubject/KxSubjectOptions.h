@@ -155,8 +155,7 @@ struct KxSubjectOptions {
         double faceWeight = 1.0;            ///< 0.7 to 1.5; study
         double emptyFloor = 0.01;           ///< 0.005 to 0.02 of the area: an empty map weighs little; study
         double concentration = 1.6;         ///< 1 to 2, power on what all signals say together; measured
-        double windowFlatAcross =
-            0.55; ///< 0.3 to 0.7 of the window that scores a centre, else cosine squared; measured
+        double windowFlatAcross = 0.55;     ///< 0.3 to 0.7 of the scoring window, else cosine squared; measured
         double windowFlatUpDown =
             0.9; ///< 0.5 to 1: a tall subject wants to be in, not its head in the middle; measured
         double centrePriorAcross = 0.11; ///< 0.08 to 0.15 for a crop that moves sideways; measured (study 0.12)
