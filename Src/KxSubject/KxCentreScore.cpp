@@ -26,6 +26,7 @@ KxCentreScore::KxCentreScore(const KxSubjectOptions::Evidence& options, const Kx
                 m_windows[position].share[bin] = static_cast<float>((high - low) / binExtent * height);
             }
         }
+        m_meanWindow.Add(m_windows[position], 1.0 / static_cast<double>(Positions));
     }
 }
 
@@ -33,24 +34,25 @@ KxCentreScore::Scores KxCentreScore::Of(const KxSignalProfile& profile) const
 {
     Scores scores = m_prior;
     for (std::size_t position = 0; position < Positions; ++position) {
-        scores[position] += Sum(position, profile);
+        scores[position] += Sum(m_windows[position], profile);
     }
     return scores;
 }
 
-float KxCentreScore::Sum(std::size_t position, const KxSignalProfile& profile) const
+float KxCentreScore::Sum(const KxSignalProfile& window, const KxSignalProfile& profile)
 {
     float sum = 0.0F;
     for (std::size_t bin = 0; bin < KxSignalProfile::Bins; ++bin) {
-        sum += m_windows[position].share[bin] * profile.share[bin];
+        sum += window.share[bin] * profile.share[bin];
     }
     return sum;
 }
 
-float KxCentreScore::Under(double centre, const KxSignalProfile& profile) const
+float KxCentreScore::Excess(double centre, const KxSignalProfile& profile) const
 {
     const double position = m_spacing > 0.0 ? (centre - m_first) / m_spacing : 0.0;
-    return Sum(static_cast<std::size_t>(std::lround(std::clamp(position, 0.0, Positions - 1.0))), profile);
+    const auto nearest = static_cast<std::size_t>(std::lround(std::clamp(position, 0.0, Positions - 1.0)));
+    return std::max(Sum(m_windows[nearest], profile) - Sum(m_meanWindow, profile), 0.0F);
 }
 
 double KxCentreScore::CentreAt(std::size_t position) const

@@ -182,7 +182,7 @@ void KxSubjectAnalyzer::Impl::Note(const Shot& shot, const std::vector<KxPathPoi
         const std::array<const KxSignalProfile*, KxSignalCount> signals{&evidence.motion, &evidence.movers,
                                                                         &evidence.saliency, &evidence.faces};
         for (std::size_t signal = 0; signal < KxSignalCount; ++signal) {
-            sample.said[signal] = score.Under(points[i].centre, *signals[signal]);
+            sample.said[signal] = score.Excess(points[i].centre, *signals[signal]);
             whole[signal] += sample.said[signal];
         }
         m_findings.samples.push_back(sample);

@@ -17,7 +17,8 @@ struct KxSubjectFindings {
         std::int64_t frame = 0;
         double wanted =
             0.5; ///< the centre that the evidence asks for, before the path is drawn; fraction of the free axis
-        /// By KxSignal: what each signal says inside a crop at the wanted centre, weighed.
+        /// By KxSignal: how much more each signal says, weighed, inside a crop at the wanted centre than at all places
+        /// on average.
         std::array<float, KxSignalCount> said{};
         KxPackedProfile evidence; ///< of all signals, along the free axis
     };

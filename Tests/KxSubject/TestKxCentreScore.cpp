@@ -54,6 +54,26 @@ TEST(KxCentreScore, AScoreIsTheMassUnderTheWindowLessThePrior)
                 1e-5);
 }
 
+TEST(KxCentreScore, WhatIsSpreadEvenlyPrefersNoPlace)
+{
+    const KxCentreScore score(KxSubjectOptions().evidence, Portrait);
+    KxSignalProfile even;
+    even.Add(0.0, 1.0, 1.0);
+    EXPECT_NEAR(score.Excess(0.3, even), 0.0F, 1e-4F);
+
+    KxSignalProfile object = even;
+    const double centre = score.CentreAt(20);
+    object.Add(centre - 0.001, centre + 0.001, 0.5);
+    const KxCentreScore::Scores scores = score.Of(object);
+    const KxCentreScore::Scores without = score.Of(even);
+    double mean = 0.0;
+    for (std::size_t i = 0; i < scores.size(); ++i) {
+        mean += static_cast<double>(scores[i] - without[i]) / static_cast<double>(scores.size());
+    }
+    EXPECT_NEAR(score.Excess(centre, object), static_cast<double>(scores[20] - without[20]) - mean, 1e-4);
+    EXPECT_EQ(score.Excess(score.CentreAt(90), object), 0.0F) << "less than on average";
+}
+
 TEST(KxCentreScore, ACropThatFillsThePictureHasOnePlace)
 {
     const KxCentreScore score(KxSubjectOptions().evidence, KxCropGeometry({1920, 1080}, {16, 9}, {}));

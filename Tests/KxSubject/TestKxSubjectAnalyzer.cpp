@@ -194,10 +194,7 @@ TEST(KxSubjectAnalyzer, FindingsNameTheShotsAndWhatCarriedThem)
 {
     KxSubjectRequest request = Request(200);
     request.wantsFindings = true;
-    KxSubjectOptions options = WithoutFaces();
-    // The object stands out in a still picture as well: here its movement is to say more.
-    options.evidence.saliencyWeightAcross = 0.4;
-    KxSubjectAnalyzer analyzer(request, options);
+    KxSubjectAnalyzer analyzer(request, WithoutFaces());
     for (std::int64_t frame = 0; frame < 200; ++frame) {
         analyzer.AddPicture(frame, frame < 150 ? Walk(frame) : Picture(0.76, 40.0, 22));
     }

@@ -13,7 +13,7 @@ public:
     /// The evidence as a heat picture, shot boundaries, the place that the evidence asks for, and the crop's edges and
     /// middle.
     QString Path() const;
-    /// What each signal says inside the crop, one upon the other.
+    /// How much each signal says for the place, one upon the other.
     QString Signals() const;
 
     /// Of the free axis' start and end.

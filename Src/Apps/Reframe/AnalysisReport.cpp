@@ -123,8 +123,8 @@ public:
                               "at the foot and its %2 at the head. The lighter a spot, the more speaks for it.</p>\n")
                    .arg(Foot(), HeadName()) +
                m_plot.Path() + PathLegend() +
-               QStringLiteral("<h2>What speaks for the place</h2>\n<p>What each signal says inside a crop at the place "
-                              "that the evidence asks for.</p>\n") +
+               QStringLiteral("<h2>What speaks for the place</h2>\n<p>How much more each signal says for the place "
+                              "that the evidence asks for than for an average one.</p>\n") +
                m_plot.Signals() + SignalsLegend();
     }
 
