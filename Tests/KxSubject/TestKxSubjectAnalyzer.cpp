@@ -212,6 +212,24 @@ TEST(KxSubjectAnalyzer, FindingsNameTheShotsAndWhatCarriedThem)
     }
 }
 
+TEST(KxSubjectAnalyzer, FindingsHoldTheEvidenceAsItDecided)
+{
+    const auto peak = [](double concentration) {
+        KxSubjectRequest request = Request(50);
+        request.wantsFindings = true;
+        KxSubjectOptions options = WithoutFaces();
+        options.evidence.concentration = concentration;
+        KxSubjectAnalyzer analyzer(request, options);
+        for (std::int64_t frame = 0; frame < 50; ++frame) {
+            analyzer.AddPicture(frame, Walk(frame));
+        }
+        analyzer.Finish();
+        const KxSignalProfile evidence = analyzer.Findings().samples.at(10).evidence.Unpacked();
+        return *std::max_element(evidence.share.begin(), evidence.share.end());
+    };
+    EXPECT_GT(peak(2.0), 1.3F * peak(1.0));
+}
+
 TEST(KxSubjectAnalyzer, NoFindingsAreKeptUnasked)
 {
     KxSubjectAnalyzer analyzer(Request(30), WithoutFaces());
