@@ -3,6 +3,13 @@
 #include <algorithm>
 #include <cmath>
 
+namespace
+{
+
+constexpr double LeastSpacing = 1e-6; ///< of the picture; where positions lie nearer they are one place
+
+} // namespace
+
 KxCentreScore::KxCentreScore(const KxSubjectOptions::Evidence& options, const KxCropGeometry& geometry)
     : m_first(geometry.MinimumCentre())
     , m_spacing((geometry.MaximumCentre() - geometry.MinimumCentre()) / static_cast<double>(Positions - 1))
@@ -50,7 +57,10 @@ float KxCentreScore::Sum(const KxSignalProfile& window, const KxSignalProfile& p
 
 float KxCentreScore::Excess(double centre, const KxSignalProfile& profile) const
 {
-    const double position = m_spacing > 0.0 ? (centre - m_first) / m_spacing : 0.0;
+    if (m_spacing < LeastSpacing) {
+        return 0.0F;
+    }
+    const double position = (centre - m_first) / m_spacing;
     const auto nearest = static_cast<std::size_t>(std::lround(std::clamp(position, 0.0, Positions - 1.0)));
     return std::max(Sum(m_windows[nearest], profile) - Sum(m_meanWindow, profile), 0.0F);
 }

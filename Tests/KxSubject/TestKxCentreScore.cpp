@@ -81,4 +81,8 @@ TEST(KxCentreScore, ACropThatFillsThePictureHasOnePlace)
     KxSignalProfile profile;
     profile.Add(0.1, 0.2, 1.0);
     EXPECT_NEAR(BestCentre(score, profile), 0.5, 1e-9);
+    for (int bin = 0; bin < 96; ++bin) {
+        profile.Add(bin / 96.0, (bin + 1) / 96.0, 0.01 * bin);
+        EXPECT_EQ(score.Excess(0.5, profile), 0.0F) << "no place but this one, after " << bin;
+    }
 }

@@ -55,6 +55,31 @@ private:
     const char* m_name;
 };
 
+/// Cascades on a photograph with one face.
+class KxFaceFinderOnAPhotograph : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        if (picture.empty() || !KxFaceFinder(options, "", PictureSize).Knows(KxFaceView::Frontal)) {
+            GTEST_SKIP() << "needs messi5.jpg of the package opencv-doc and the cascades of opencv-data";
+        }
+        grey = MadePictures::Grey(picture);
+    }
+    std::vector<cv::Rect> Find()
+    {
+        return KxFaceFinder(options, "", PictureSize).Find(picture, grey, KxFaceView::Frontal);
+    }
+    std::optional<cv::Rect> FindNear()
+    {
+        return KxFaceFinder(options, "", PictureSize).FindNear(grey, KxFaceView::Frontal, Face);
+    }
+
+    KxSubjectOptions::Faces options;
+    cv::Mat picture = PictureWithFace();
+    cv::Mat grey;
+};
+
 } // namespace
 
 TEST(KxFaceFinder, AFaceIsFoundAndFoundAgainNearItsPlace)
@@ -77,18 +102,12 @@ TEST(KxFaceFinder, AFaceIsFoundAndFoundAgainNearItsPlace)
     EXPECT_FALSE(finder.FindNear(grey, KxFaceView::Frontal, {20, 100, 60, 60}).has_value());
 }
 
-TEST(KxFaceFinder, AFaceOfAnySizeIsFoundBetweenTheCoarseStepsOfTheSearch)
+TEST_F(KxFaceFinderOnAPhotograph, AFaceOfAnySizeIsFoundBetweenTheCoarseStepsOfTheSearch)
 {
-    const cv::Mat picture = PictureWithFace();
-    KxFaceFinder finder(KxSubjectOptions().faces, "", PictureSize);
-    if (picture.empty() || !finder.Knows(KxFaceView::Frontal)) {
-        GTEST_SKIP() << "needs messi5.jpg of the package opencv-doc and the cascades of opencv-data";
-    }
-    const cv::Mat grey = MadePictures::Grey(picture);
+    const cv::Mat whole = grey.clone();
     for (double scale = 0.8; scale < 1.7; scale *= 1.07) {
-        cv::Mat scaled;
-        cv::resize(grey, scaled, {}, scale, scale, cv::INTER_AREA);
-        const auto found = finder.Find(picture, scaled, KxFaceView::Frontal);
+        cv::resize(whole, grey, {}, scale, scale, cv::INTER_AREA);
+        const std::vector<cv::Rect> found = Find();
         const cv::Rect face(cvRound(Face.x * scale), cvRound(Face.y * scale), cvRound(Face.width * scale),
                             cvRound(Face.height * scale));
         EXPECT_TRUE(std::any_of(found.begin(), found.end(), [&face](const cv::Rect& box) { return Meets(box, face); }))
@@ -96,32 +115,20 @@ TEST(KxFaceFinder, AFaceOfAnySizeIsFoundBetweenTheCoarseStepsOfTheSearch)
     }
 }
 
-TEST(KxFaceFinder, AKnownFaceIsBelievedOnFewerHitsThanANewOne)
+TEST_F(KxFaceFinderOnAPhotograph, AKnownFaceIsBelievedOnFewerHitsThanANewOne)
 {
-    const cv::Mat picture = PictureWithFace();
-    KxSubjectOptions::Faces strict = KxSubjectOptions().faces;
-    strict.frontalNeighbours = 1000;
-    KxFaceFinder finder(strict, "", PictureSize);
-    if (picture.empty() || !finder.Knows(KxFaceView::Frontal)) {
-        GTEST_SKIP() << "needs messi5.jpg of the package opencv-doc and the cascades of opencv-data";
-    }
-    const cv::Mat grey = MadePictures::Grey(picture);
-    EXPECT_TRUE(finder.Find(picture, grey, KxFaceView::Frontal).empty());
-    EXPECT_TRUE(finder.FindNear(grey, KxFaceView::Frontal, Face).has_value());
-    strict.followNeighbours = 1000;
-    EXPECT_FALSE(KxFaceFinder(strict, "", PictureSize).FindNear(grey, KxFaceView::Frontal, Face).has_value());
+    options.frontalNeighbours = 1000;
+    EXPECT_TRUE(Find().empty());
+    EXPECT_TRUE(FindNear().has_value());
+    options.followNeighbours = 1000;
+    EXPECT_FALSE(FindNear().has_value());
 }
 
-TEST(KxFaceFinder, NoMorePlacesAreLookedAtThanTheBound)
+TEST_F(KxFaceFinderOnAPhotograph, NoMorePlacesAreLookedAtThanTheBound)
 {
-    const cv::Mat picture = PictureWithFace();
-    KxSubjectOptions::Faces none = KxSubjectOptions().faces;
-    none.mostSuspects = 0;
-    KxFaceFinder finder(none, "", PictureSize);
-    if (picture.empty() || !finder.Knows(KxFaceView::Frontal)) {
-        GTEST_SKIP() << "needs messi5.jpg of the package opencv-doc and the cascades of opencv-data";
-    }
-    EXPECT_TRUE(finder.Find(picture, MadePictures::Grey(picture), KxFaceView::Frontal).empty());
+    EXPECT_FALSE(Find().empty());
+    options.mostSuspects = 0;
+    EXPECT_TRUE(Find().empty());
 }
 
 TEST(KxFaceFinder, BoxesThatLieNearAndAreAlikeInSizeAreOneFace)
