@@ -1,8 +1,8 @@
 // How long an edit takes on a clip of two hours at 30 frames a second: from the call to keyframes handed to the host
 // and display rectangles rebuilt. The bar is one frame of a 60 Hz display.
 
-#include "KrAutoReframeHelper.h"
-#include "KxSimpleTimeline.h"
+#include <KrAutoReframe/Engine/KrAutoReframeHelper.h>
+#include <KxModel/KxSimpleTimeline.h>
 
 #include <QCoreApplication>
 #include <QEventLoop>

@@ -4,11 +4,11 @@
 //   BenchDesktop memory CLIP... [--times N]   memory after each round of import, analysis, export and removal
 // Prints one line of JSON.
 
-#include "ExportQueue.h"
-#include "KxMemory.h"
-#include "MainWindow.h"
-#include "MediaStudio.h"
-#include "StudioLoader.h"
+#include <Apps/AutoReframe/Backend/MediaStudio.h>
+#include <Apps/AutoReframe/Backend/StudioLoader.h>
+#include <Apps/AutoReframe/Exports/ExportQueue.h>
+#include <Apps/AutoReframe/MainWindow.h>
+#include <KxCore/KxMemory.h>
 
 #include <KxWidgets/KxUIStyle.h>
 

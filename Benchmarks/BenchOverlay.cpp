@@ -1,6 +1,6 @@
 // How long the crop overlay takes to paint itself while it is dragged over a player of 1920 x 1080 pixels.
 
-#include "ShadowForm.h"
+#include <KrAutoReframe/Player/ShadowForm.h>
 
 #include <QApplication>
 #include <QLabel>

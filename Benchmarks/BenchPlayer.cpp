@@ -4,8 +4,8 @@
 //   BenchPlayer ffplay CLIP [SECONDS]     processor time of ffplay for the same clip in the same size
 // Prints one line of JSON.
 
-#include "KxMediaItem.h"
-#include "KxVideoReader.h"
+#include <KxMedia/Read/KxVideoReader.h>
+#include <KxModel/KxMediaItem.h>
 
 #include <KxModel/IKxTimeline.h>
 #include <KxPlayer/KxMediaPlayerPresenter.h>

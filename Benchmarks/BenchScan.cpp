@@ -2,7 +2,7 @@
 //   BenchScan CLIP
 // Prints one line of JSON. What `reframe --no-video` takes beyond this program is the analysis itself.
 
-#include "KxVideoScanner.h"
+#include <KxMedia/Read/KxVideoScanner.h>
 
 #include <QCoreApplication>
 

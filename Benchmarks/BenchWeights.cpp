@@ -3,10 +3,10 @@
 //   BenchWeights names
 // Each named value is taken FACTOR times. OUT.json gets the crop track.
 
-#include "KxPictureScaler.h"
-#include "KxSubjectAnalyzer.h"
-#include "KxSubjectOptions.h"
-#include "KxVideoScanner.h"
+#include <KxMedia/Picture/KxPictureScaler.h>
+#include <KxMedia/Read/KxVideoScanner.h>
+#include <KxSubject/KxSubjectAnalyzer.h>
+#include <KxSubject/KxSubjectOptions.h>
 
 #include <QCoreApplication>
 #include <QFile>

@@ -54,10 +54,11 @@ function(kr_add_precompiled_headers)
         <QList> <QMap> <QObject> <QString> <algorithm> <functional> <memory> <optional> <string> <vector>)
 endfunction()
 
-# Options for a target that stands in a folder of its own: its headers are found by name by whoever links it, so that a
-# library can include only what it links.
+# Options for every target. Headers are included by library and folder, <KxMedia/Read/KxVideoReader.h>: those below Src/ and
+# those below include/ by one prefix.
 function(kr_configure_target target)
     target_link_libraries(${target} PRIVATE $<BUILD_INTERFACE:KrOptions>)
+    target_include_directories(${target} PRIVATE "${PROJECT_SOURCE_DIR}/Src" "${PROJECT_SOURCE_DIR}/include")
     target_precompile_headers(${target} REUSE_FROM KrHeaders)
 endfunction()
 
@@ -66,7 +67,6 @@ function(kr_add_library name)
     cmake_parse_arguments(ARG "" "" "SOURCES;PUBLIC;PRIVATE" ${ARGN})
     add_library(${name} SHARED ${ARG_SOURCES})
     add_library(KrAutoReframe::${name} ALIAS ${name})
-    target_include_directories(${name} PUBLIC $<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR}>)
     target_link_libraries(${name} PUBLIC ${ARG_PUBLIC} PRIVATE ${ARG_PRIVATE})
     set_target_properties(${name} PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR})
     kr_configure_target(${name})

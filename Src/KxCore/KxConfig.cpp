@@ -1,6 +1,6 @@
 #include <KxCore/KxConfig.h>
 
-#include "KxConfigFile.h"
+#include <KxCore/KxConfigFile.h>
 
 #include <QDir>
 #include <QFileInfo>

@@ -1,4 +1,4 @@
-#include "KxConfigFile.h"
+#include <KxCore/KxConfigFile.h>
 
 #include <QSettings>
 #include <QStandardPaths>

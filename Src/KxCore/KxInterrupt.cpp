@@ -1,4 +1,4 @@
-#include "KxInterrupt.h"
+#include <KxCore/KxInterrupt.h>
 
 #include <csignal>
 

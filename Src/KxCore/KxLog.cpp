@@ -1,4 +1,4 @@
-#include "KxSpdlog.h"
+#include <KxCore/KxSpdlog.h>
 
 #include <QByteArray>
 #include <QtGlobal>

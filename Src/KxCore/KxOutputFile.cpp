@@ -1,6 +1,6 @@
-#include "KxOutputFile.h"
+#include <KxCore/KxOutputFile.h>
 
-#include "KxSystemError.h"
+#include <KxCore/KxSystemError.h>
 
 #include <QDir>
 #include <QFile>

@@ -1,4 +1,4 @@
-#include "KxSystemError.h"
+#include <KxCore/KxSystemError.h>
 
 #include <QFileDevice>
 

@@ -1,4 +1,4 @@
-#include "KxTerminal.h"
+#include <KxCore/KxTerminal.h>
 
 #if defined(_WIN32)
 #include <io.h>

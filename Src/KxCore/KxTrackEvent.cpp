@@ -1,6 +1,6 @@
 #include <KxCore/KxTrackEvent.h>
 
-#include "KxConfigFile.h"
+#include <KxCore/KxConfigFile.h>
 
 #include <KxCore/KrAutoReframeClickEvent.h>
 #include <KxCore/KxLog.h>

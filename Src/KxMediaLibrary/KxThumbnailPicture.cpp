@@ -1,7 +1,7 @@
-#include "KxThumbnailPicture.h"
+#include <KxMediaLibrary/KxThumbnailPicture.h>
 
-#include "KxPictureScaler.h"
-#include "KxVideoReader.h"
+#include <KxMedia/Picture/KxPictureScaler.h>
+#include <KxMedia/Read/KxVideoReader.h>
 
 #include <QFileInfo>
 

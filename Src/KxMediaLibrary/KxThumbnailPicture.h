@@ -1,7 +1,7 @@
 #pragma once
 
-#include "KxCancelToken.h"
-#include "KxResult.h"
+#include <KxCore/KxCancelToken.h>
+#include <KxCore/KxResult.h>
 
 #include <QImage>
 #include <QSize>

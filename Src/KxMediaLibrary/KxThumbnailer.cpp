@@ -1,6 +1,6 @@
-#include "KxThumbnailer.h"
+#include <KxMediaLibrary/KxThumbnailer.h>
 
-#include "KxThumbnailPicture.h"
+#include <KxMediaLibrary/KxThumbnailPicture.h>
 
 #include <QHash>
 

@@ -1,4 +1,4 @@
-#include "KxAutoReframeService.h"
+#include <KxModel/KxAutoReframeService.h>
 
 namespace
 {

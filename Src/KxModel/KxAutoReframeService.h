@@ -2,8 +2,8 @@
 
 #include <KxModel/IKxAutoReframeService.h>
 
-#include "KxObserverList.h"
-#include "KxVideoAnalysis.h"
+#include <KxModel/KxObserverList.h>
+#include <KxModel/KxVideoAnalysis.h>
 
 #include <QStringList>
 

@@ -1,4 +1,4 @@
-#include "KxClip.h"
+#include <KxModel/KxClip.h>
 
 KxClip::KxClip(std::shared_ptr<const KxMediaFacts> facts)
     : m_facts(std::move(facts))

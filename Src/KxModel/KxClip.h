@@ -2,8 +2,8 @@
 
 #include <KxModel/IKxTimeline.h>
 
-#include "KxCropKeyFrames.h"
-#include "KxStreamInfo.h"
+#include <KxModel/KxCropKeyFrames.h>
+#include <KxModel/KxStreamInfo.h>
 
 /// A whole media file on a timeline, with its crop keyframes. Shares the facts of the file with the media item that it
 /// came from, so it outlives it.

@@ -1,4 +1,4 @@
-#include "KxCropKeyFrames.h"
+#include <KxModel/KxCropKeyFrames.h>
 
 #include <algorithm>
 

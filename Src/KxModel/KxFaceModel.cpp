@@ -1,6 +1,6 @@
-#include "KxFaceModel.h"
+#include <KxModel/KxFaceModel.h>
 
-#include "KxConfigFile.h"
+#include <KxCore/KxConfigFile.h>
 
 #include <QStandardPaths>
 

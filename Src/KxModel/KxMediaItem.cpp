@@ -1,4 +1,4 @@
-#include "KxMediaItem.h"
+#include <KxModel/KxMediaItem.h>
 
 #include <KxCore/KxLog.h>
 

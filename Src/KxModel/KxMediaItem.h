@@ -2,7 +2,7 @@
 
 #include <KxModel/IKxAbstractMedia.h>
 
-#include "KxClip.h"
+#include <KxModel/KxClip.h>
 
 /// A media file of the host's library. Threads as the interface says.
 class KXMODEL_API KxMediaItem final : public IKxAbstractMediaItem

@@ -1,4 +1,4 @@
-#include "KxObserverList.h"
+#include <KxModel/KxObserverList.h>
 
 #include <algorithm>
 

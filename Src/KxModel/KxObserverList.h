@@ -2,7 +2,7 @@
 
 #include <KxModel/IKxAutoReframeService.h>
 
-#include "KxCancelToken.h"
+#include <KxCore/KxCancelToken.h>
 
 #include <condition_variable>
 #include <mutex>

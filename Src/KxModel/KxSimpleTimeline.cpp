@@ -1,4 +1,4 @@
-#include "KxSimpleTimeline.h"
+#include <KxModel/KxSimpleTimeline.h>
 
 #include <KxModel/KxVBLMODEL.h>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "KxClip.h"
+#include <KxModel/KxClip.h>
 
 /// A timeline that plays one clip. User-interface thread only.
 class KXMODEL_API KxSimpleTimeline final : public IKxTimeline

@@ -1,4 +1,4 @@
-#include "KxStreamInfo.h"
+#include <KxModel/KxStreamInfo.h>
 
 #include <limits>
 

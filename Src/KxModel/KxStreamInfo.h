@@ -2,7 +2,7 @@
 
 #include <KxModel/IKxMediaInfo.h>
 
-#include "KxMediaFacts.h"
+#include <KxMedia/Read/KxMediaFacts.h>
 
 #include <memory>
 

@@ -1,12 +1,12 @@
-#include "KxVideoAnalysis.h"
+#include <KxModel/KxVideoAnalysis.h>
 
-#include "KxBoundedQueue.h"
-#include "KxMemory.h"
+#include <KxCore/KxBoundedQueue.h>
+#include <KxCore/KxMemory.h>
 
-#include "KxPictureScaler.h"
-#include "KxSubjectAnalyzer.h"
-#include "KxSubjectFindings.h"
-#include "KxVideoScanner.h"
+#include <KxMedia/Picture/KxPictureScaler.h>
+#include <KxMedia/Read/KxVideoScanner.h>
+#include <KxSubject/KxSubjectAnalyzer.h>
+#include <KxSubject/KxSubjectFindings.h>
 
 #include <QFileInfo>
 

@@ -3,8 +3,8 @@
 #include <KxModel/IKxAutoReframeParam.h>
 #include <KxModel/IKxAutoReframeResult.h>
 
-#include "KxCancelToken.h"
-#include "KxResult.h"
+#include <KxCore/KxCancelToken.h>
+#include <KxCore/KxResult.h>
 
 #include <QList>
 

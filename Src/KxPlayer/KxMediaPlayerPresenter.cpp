@@ -1,7 +1,7 @@
-#include "KxMediaPlayerPresenterImpl.h"
+#include <KxPlayer/KxMediaPlayerPresenterImpl.h>
 
-#include "KxPicturePlace.h"
-#include "KxQtSoundDevice.h"
+#include <KxPlayer/KxPicturePlace.h>
+#include <KxPlayer/KxQtSoundDevice.h>
 
 #include <KxModel/IKxTimeline.h>
 

@@ -3,7 +3,7 @@
 #include <KxPlayer/IKxMediaPlayer.h>
 #include <KxPlayer/KxMediaPlayerPresenter.h>
 
-#include "KxPlayback.h"
+#include <KxPlayer/KxPlayback.h>
 
 /// What a presenter is made of, and what its widget sees of it. User-interface thread only.
 class KxMediaPlayerPresenter::Impl final : public IKxMediaPlayer

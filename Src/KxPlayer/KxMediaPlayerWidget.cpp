@@ -1,6 +1,6 @@
 #include <KxPlayer/KxMediaPlayerWidget.h>
 
-#include "KxMediaPlayerPresenterImpl.h"
+#include <KxPlayer/KxMediaPlayerPresenterImpl.h>
 
 #include <QPaintEvent>
 #include <QPainter>

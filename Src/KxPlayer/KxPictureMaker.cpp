@@ -1,6 +1,6 @@
-#include "KxPictureMaker.h"
+#include <KxPlayer/KxPictureMaker.h>
 
-#include "KxPicturePlace.h"
+#include <KxPlayer/KxPicturePlace.h>
 
 #include <QPainter>
 

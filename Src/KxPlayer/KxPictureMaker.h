@@ -1,9 +1,9 @@
 #pragma once
 
-#include "KxPictureScaler.h"
-#include "KxPlaySource.h"
-#include "KxPlayerPicture.h"
-#include "KxVideoReader.h"
+#include <KxMedia/Picture/KxPictureScaler.h>
+#include <KxMedia/Read/KxVideoReader.h>
+#include <KxPlayer/KxPlaySource.h>
+#include <KxPlayer/KxPlayerPicture.h>
 
 #include <functional>
 

@@ -1,7 +1,7 @@
-#include "KxPlaySource.h"
+#include <KxPlayer/KxPlaySource.h>
 
-#include "KxClip.h"
-#include "KxCropKeyFrames.h"
+#include <KxModel/KxClip.h>
+#include <KxModel/KxCropKeyFrames.h>
 
 #include <KxModel/IKxMediaInfo.h>
 #include <KxModel/IKxTimeline.h>

@@ -1,4 +1,4 @@
-#include "KxPlayback.h"
+#include <KxPlayer/KxPlayback.h>
 
 #include <QPointer>
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "KxPlaySource.h"
-#include "KxPlayerEngine.h"
-#include "KxSoundPlayer.h"
+#include <KxPlayer/KxPlaySource.h>
+#include <KxPlayer/KxPlayerEngine.h>
+#include <KxPlayer/KxSoundPlayer.h>
 
 #include <QObject>
 #include <QTimer>

@@ -1,4 +1,4 @@
-#include "KxPlayerClock.h"
+#include <KxPlayer/KxPlayerClock.h>
 
 #include <algorithm>
 #include <chrono>

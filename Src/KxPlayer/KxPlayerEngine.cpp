@@ -1,6 +1,6 @@
-#include "KxPlayerEngine.h"
+#include <KxPlayer/KxPlayerEngine.h>
 
-#include "KxPictureMaker.h"
+#include <KxPlayer/KxPictureMaker.h>
 
 #include <QCoreApplication>
 #include <QFileInfo>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "KxCancelToken.h"
-#include "KxPlayerClock.h"
-#include "KxPlayerPicture.h"
+#include <KxCore/KxCancelToken.h>
+#include <KxPlayer/KxPlayerClock.h>
+#include <KxPlayer/KxPlayerPicture.h>
 
 #include <QString>
 

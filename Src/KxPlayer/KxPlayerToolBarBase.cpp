@@ -1,6 +1,6 @@
 #include <KxPlayer/KxPlayerToolBarBase.h>
 
-#include "KxPlayerToolBarImpl.h"
+#include <KxPlayer/KxPlayerToolBarImpl.h>
 
 KxPlayerToolBarBase::KxPlayerToolBarBase(QWidget* parent, KxToolSlider* slider, bool seeksWhileDragged)
     : KxWidget(parent)

@@ -1,4 +1,4 @@
-#include "KxPlayerToolBarImpl.h"
+#include <KxPlayer/KxPlayerToolBarImpl.h>
 
 #include <KxWidgets/IKxShortcutEditManager.h>
 #include <KxWidgets/KxSwitchToolButton.h>

@@ -1,4 +1,4 @@
-#include "KxQtSoundDevice.h"
+#include <KxPlayer/KxQtSoundDevice.h>
 
 #include <QAudioDeviceInfo>
 #include <QAudioFormat>

@@ -1,3 +1,3 @@
-#include "KxSoundDevice.h"
+#include <KxPlayer/KxSoundDevice.h>
 
 KxSoundDevice::~KxSoundDevice() = default;

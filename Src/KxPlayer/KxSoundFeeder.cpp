@@ -1,6 +1,6 @@
-#include "KxSoundFeeder.h"
+#include <KxPlayer/KxSoundFeeder.h>
 
-#include "KxPlaySource.h"
+#include <KxPlayer/KxPlaySource.h>
 
 #include <KxCore/KxLog.h>
 

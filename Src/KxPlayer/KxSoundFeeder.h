@@ -1,8 +1,8 @@
 #pragma once
 
-#include "KxAudioReader.h"
-#include "KxPlayerClock.h"
-#include "KxSoundDevice.h"
+#include <KxMedia/Read/KxAudioReader.h>
+#include <KxPlayer/KxPlayerClock.h>
+#include <KxPlayer/KxSoundDevice.h>
 
 #include <QObject>
 #include <QTimer>

@@ -1,6 +1,6 @@
-#include "KxSoundPlayer.h"
+#include <KxPlayer/KxSoundPlayer.h>
 
-#include "KxPlaySource.h"
+#include <KxPlayer/KxPlaySource.h>
 
 KxSoundPlayer::KxSoundPlayer(KxPlayerClock& clock, KxSoundDevice::Factory device)
     : m_feeder(new KxSoundFeeder(clock, std::move(device)))

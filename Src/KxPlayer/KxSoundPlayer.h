@@ -1,7 +1,7 @@
 #pragma once
 
-#include "KxCancelToken.h"
-#include "KxSoundFeeder.h"
+#include <KxCore/KxCancelToken.h>
+#include <KxPlayer/KxSoundFeeder.h>
 
 #include <QThread>
 

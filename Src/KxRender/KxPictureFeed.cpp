@@ -1,6 +1,6 @@
-#include "KxPictureFeed.h"
+#include <KxRender/KxPictureFeed.h>
 
-#include "KxDrawnFrame.h"
+#include <KxMedia/Picture/KxDrawnFrame.h>
 
 #include <cmath>
 #include <exception>

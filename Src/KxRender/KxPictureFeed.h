@@ -1,13 +1,13 @@
 #pragma once
 
-#include "KxBoundedQueue.h"
-#include "KxCancelToken.h"
-#include "KxFrameCutter.h"
-#include "KxOutputGrid.h"
-#include "KxPictureScaler.h"
-#include "KxRenderSource.h"
-#include "KxVideoFrame.h"
-#include "KxVideoReader.h"
+#include <KxCore/KxBoundedQueue.h>
+#include <KxCore/KxCancelToken.h>
+#include <KxMedia/Picture/KxFrameCutter.h>
+#include <KxMedia/Picture/KxPictureScaler.h>
+#include <KxMedia/Picture/KxVideoFrame.h>
+#include <KxMedia/Read/KxVideoReader.h>
+#include <KxRender/KxOutputGrid.h>
+#include <KxRender/KxRenderSource.h>
 
 #include <thread>
 

@@ -1,4 +1,4 @@
-#include "KxRenderJob.h"
+#include <KxRender/KxRenderJob.h>
 
 KxRenderJob::KxRenderJob(KxRenderSource source, KxRenderSettings settings, Callbacks callbacks)
     : m_thread([source = std::move(source), settings = std::move(settings), callbacks = std::move(callbacks),

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "KxRenderer.h"
+#include <KxRender/KxRenderer.h>
 
 #include <thread>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "KxOutputFile.h"
+#include <KxCore/KxOutputFile.h>
 
 #include <QSize>
 #include <QString>

@@ -2,7 +2,7 @@
 
 #include <KxCore/KxExport.h>
 
-#include "KxResult.h"
+#include <KxCore/KxResult.h>
 
 #include <QImage>
 #include <QRectF>

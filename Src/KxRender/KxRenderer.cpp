@@ -1,10 +1,10 @@
-#include "KxRenderer.h"
+#include <KxRender/KxRenderer.h>
 
-#include "KxMp4Writer.h"
-#include "KxOutputGrid.h"
-#include "KxPictureFeed.h"
-#include "KxSoundFeed.h"
-#include "KxVideoReader.h"
+#include <KxMedia/Read/KxVideoReader.h>
+#include <KxMedia/Write/KxMp4Writer.h>
+#include <KxRender/KxOutputGrid.h>
+#include <KxRender/KxPictureFeed.h>
+#include <KxRender/KxSoundFeed.h>
 
 #include <QFileInfo>
 

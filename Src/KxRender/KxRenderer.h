@@ -1,8 +1,8 @@
 #pragma once
 
-#include "KxCancelToken.h"
-#include "KxRenderSettings.h"
-#include "KxRenderSource.h"
+#include <KxCore/KxCancelToken.h>
+#include <KxRender/KxRenderSettings.h>
+#include <KxRender/KxRenderSource.h>
 
 #include <functional>
 

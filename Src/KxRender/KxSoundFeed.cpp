@@ -1,4 +1,4 @@
-#include "KxSoundFeed.h"
+#include <KxRender/KxSoundFeed.h>
 
 #include <algorithm>
 #include <cmath>

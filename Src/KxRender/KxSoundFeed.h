@@ -1,7 +1,7 @@
 #pragma once
 
-#include "KxAudioReader.h"
-#include "KxMp4Writer.h"
+#include <KxMedia/Read/KxAudioReader.h>
+#include <KxMedia/Write/KxMp4Writer.h>
 
 /// Passes sound from a reader to a writer, as far as the pictures have come and not a sample further, so that the
 /// file's sound ends with its last picture. One thread at a time.

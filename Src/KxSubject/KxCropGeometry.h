@@ -1,6 +1,6 @@
 #pragma once
 
-#include "KxSubjectAnalyzer.h"
+#include <KxSubject/KxSubjectAnalyzer.h>
 
 /// The direction in which a crop of full size can move.
 enum class KxAxis { Across, UpDown };

@@ -1,10 +1,10 @@
-#include "KxSubjectAnalyzer.h"
+#include <KxSubject/KxSubjectAnalyzer.h>
 
-#include "KxCropPath.h"
-#include "KxShotDetector.h"
-#include "KxSignalTrack.h"
-#include "KxSubjectFindings.h"
-#include "KxSubjectTracker.h"
+#include <KxSubject/Choice/KxSubjectTracker.h>
+#include <KxSubject/KxSubjectFindings.h>
+#include <KxSubject/Path/KxCropPath.h>
+#include <KxSubject/Shots/KxShotDetector.h>
+#include <KxSubject/Signals/KxSignalTrack.h>
 
 #include <algorithm>
 #include <cmath>

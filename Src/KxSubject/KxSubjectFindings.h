@@ -1,7 +1,7 @@
 #pragma once
 
-#include "KxCropGeometry.h"
-#include "KxSignalProfile.h"
+#include <KxSubject/KxCropGeometry.h>
+#include <KxSubject/Signals/KxSignalProfile.h>
 
 #include <array>
 #include <cstdint>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "KxSubjectAnalyzer.h"
+#include <KxSubject/KxSubjectAnalyzer.h>
 
 /// Every tuning value of the analysis. The range in front of a comment is where a value makes sense. "Study" in an
 /// origin means the measurement on 30 real clips that the engine began from, "human tracks" the 2,400 crop tracks drawn

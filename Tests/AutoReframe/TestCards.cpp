@@ -1,6 +1,6 @@
-#include "ExportCard.h"
-#include "MediaCardDelegate.h"
-#include "MediaLibraryModel.h"
+#include <Apps/AutoReframe/Exports/ExportCard.h>
+#include <Apps/AutoReframe/Library/MediaCardDelegate.h>
+#include <Apps/AutoReframe/Library/MediaLibraryModel.h>
 
 #include <KxWidgets/KxUIStyle.h>
 

@@ -1,8 +1,8 @@
-#include "ExportQueue.h"
-#include "FakeStudio.h"
-#include "MainWindow.h"
-#include "MediaLibraryView.h"
-#include "StudioLoader.h"
+#include <Apps/AutoReframe/Backend/StudioLoader.h>
+#include <Apps/AutoReframe/Exports/ExportQueue.h>
+#include <Apps/AutoReframe/Library/MediaLibraryView.h>
+#include <Apps/AutoReframe/MainWindow.h>
+#include <Tests/AutoReframe/Backend/FakeStudio.h>
 
 #include <KxWidgets/KrMessageDialog.h>
 #include <KxWidgets/KxFileDialog.h>

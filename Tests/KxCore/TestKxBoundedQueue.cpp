@@ -1,4 +1,4 @@
-#include "KxBoundedQueue.h"
+#include <KxCore/KxBoundedQueue.h>
 
 #include <gtest/gtest.h>
 

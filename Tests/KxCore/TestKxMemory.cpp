@@ -1,4 +1,4 @@
-#include "KxMemory.h"
+#include <KxCore/KxMemory.h>
 
 #include <gtest/gtest.h>
 

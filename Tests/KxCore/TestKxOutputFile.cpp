@@ -1,4 +1,4 @@
-#include "KxOutputFile.h"
+#include <KxCore/KxOutputFile.h>
 
 #include <QDir>
 #include <QFile>

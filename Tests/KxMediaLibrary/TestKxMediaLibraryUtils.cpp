@@ -1,5 +1,5 @@
-#include "KxMediaFacts.h"
-#include "MadeVideo.h"
+#include <KxMedia/Read/KxMediaFacts.h>
+#include <Tests/Support/MadeVideo.h>
 
 #include <KxMediaLibrary/KxMediaLibraryUtils.h>
 

@@ -1,5 +1,5 @@
-#include "KxThumbnailer.h"
-#include "MadeVideo.h"
+#include <KxMediaLibrary/KxThumbnailer.h>
+#include <Tests/Support/MadeVideo.h>
 
 #include <QSignalSpy>
 #include <QTemporaryDir>

@@ -1,6 +1,6 @@
-#include "KxAutoReframeService.h"
-#include "KxSubjectFindings.h"
-#include "MadeVideo.h"
+#include <KxModel/KxAutoReframeService.h>
+#include <KxSubject/KxSubjectFindings.h>
+#include <Tests/Support/MadeVideo.h>
 
 #include <QFile>
 #include <QTemporaryDir>

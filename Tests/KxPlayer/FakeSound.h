@@ -1,6 +1,6 @@
 #pragma once
 
-#include "KxSoundDevice.h"
+#include <KxPlayer/KxSoundDevice.h>
 
 #include <algorithm>
 #include <vector>

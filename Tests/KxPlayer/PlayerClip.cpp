@@ -1,7 +1,7 @@
-#include "PlayerClip.h"
+#include <Tests/KxPlayer/PlayerClip.h>
 
-#include "KxMediaItem.h"
-#include "MadeVideo.h"
+#include <KxModel/KxMediaItem.h>
+#include <Tests/Support/MadeVideo.h>
 
 #include <KxModel/IKxKeyFrameHelper.h>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "KxPlaySource.h"
+#include <KxPlayer/KxPlaySource.h>
 
 #include <KxModel/IKxTimeline.h>
 

@@ -1,6 +1,6 @@
-#include "KxPicturePlace.h"
-#include "MadeVideo.h"
-#include "PlayerClip.h"
+#include <KxPlayer/KxPicturePlace.h>
+#include <Tests/KxPlayer/PlayerClip.h>
+#include <Tests/Support/MadeVideo.h>
 
 #include <KxPlayer/IKxMediaPlayer.h>
 #include <KxPlayer/KxMediaPlayerPresenter.h>

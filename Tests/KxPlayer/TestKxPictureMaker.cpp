@@ -1,7 +1,7 @@
-#include "KxPictureMaker.h"
+#include <KxPlayer/KxPictureMaker.h>
 
-#include "MadeVideo.h"
-#include "PlayerClip.h"
+#include <Tests/KxPlayer/PlayerClip.h>
+#include <Tests/Support/MadeVideo.h>
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "KxPicturePlace.h"
+#include <KxPlayer/KxPicturePlace.h>
 
 #include <gtest/gtest.h>
 

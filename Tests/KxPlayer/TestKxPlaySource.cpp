@@ -1,4 +1,4 @@
-#include "PlayerClip.h"
+#include <Tests/KxPlayer/PlayerClip.h>
 
 #include <KxModel/IKxKeyFrameHelper.h>
 

@@ -1,7 +1,7 @@
-#include "KxPlayback.h"
+#include <KxPlayer/KxPlayback.h>
 
-#include "MadeVideo.h"
-#include "PlayerClip.h"
+#include <Tests/KxPlayer/PlayerClip.h>
+#include <Tests/Support/MadeVideo.h>
 
 #include <QSignalSpy>
 #include <QTest>

@@ -1,4 +1,4 @@
-#include "PlayerClip.h"
+#include <Tests/KxPlayer/PlayerClip.h>
 
 #include <KxPlayer/KxMediaPlayerPresenter.h>
 #include <KxPlayer/KxMediaPlayerWidget.h>

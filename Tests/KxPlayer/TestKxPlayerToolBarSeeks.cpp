@@ -1,4 +1,4 @@
-#include "FakePlayer/FakePlayer.h"
+#include <Tests/KrAutoReframe/FakePlayer/FakePlayer.h>
 
 #include <KxPlayer/KxMediaPlayerPresenter.h>
 #include <KxPlayer/KxMediaPlayerWidget.h>

@@ -1,6 +1,6 @@
-#include "FakeSound.h"
-#include "KxSoundPlayer.h"
-#include "PlayerClip.h"
+#include <KxPlayer/KxSoundPlayer.h>
+#include <Tests/KxPlayer/FakeSound.h>
+#include <Tests/KxPlayer/PlayerClip.h>
 
 #include <QTest>
 

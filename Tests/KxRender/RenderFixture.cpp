@@ -1,9 +1,9 @@
-#include "RenderFixture.h"
+#include <Tests/KxRender/RenderFixture.h>
 
-#include "KxAudioReader.h"
-#include "KxPictureScaler.h"
-#include "KxVideoReader.h"
-#include "MadeVideo.h"
+#include <KxMedia/Picture/KxPictureScaler.h>
+#include <KxMedia/Read/KxAudioReader.h>
+#include <KxMedia/Read/KxVideoReader.h>
+#include <Tests/Support/MadeVideo.h>
 
 #include <QDir>
 

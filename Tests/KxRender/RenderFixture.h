@@ -1,7 +1,7 @@
 #pragma once
 
-#include "KxRenderer.h"
-#include "KxVideoFrame.h"
+#include <KxMedia/Picture/KxVideoFrame.h>
+#include <KxRender/KxRenderer.h>
 
 #include <QTemporaryDir>
 

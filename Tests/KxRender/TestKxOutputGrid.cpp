@@ -1,4 +1,4 @@
-#include "KxOutputGrid.h"
+#include <KxRender/KxOutputGrid.h>
 
 #include <gtest/gtest.h>
 

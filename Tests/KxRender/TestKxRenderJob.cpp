@@ -1,6 +1,6 @@
-#include "KxRenderJob.h"
+#include <KxRender/KxRenderJob.h>
 
-#include "RenderFixture.h"
+#include <Tests/KxRender/RenderFixture.h>
 
 #include <atomic>
 #include <condition_variable>

@@ -1,4 +1,4 @@
-#include "KxRenderSource.h"
+#include <KxRender/KxRenderSource.h>
 
 #include <KxModel/IKxKeyFrameHelper.h>
 #include <KxModel/IKxTimeline.h>

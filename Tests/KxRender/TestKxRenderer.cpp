@@ -1,10 +1,10 @@
-#include "KxRenderer.h"
+#include <KxRender/KxRenderer.h>
 
-#include "KxFrameCutter.h"
-#include "KxVideoReader.h"
-#include "MadePicture.h"
-#include "MadeVideo.h"
-#include "RenderFixture.h"
+#include <KxMedia/Picture/KxFrameCutter.h>
+#include <KxMedia/Read/KxVideoReader.h>
+#include <Tests/KxMedia/Picture/MadePicture.h>
+#include <Tests/KxRender/RenderFixture.h>
+#include <Tests/Support/MadeVideo.h>
 
 #include <QDir>
 #include <QFile>

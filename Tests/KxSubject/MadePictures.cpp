@@ -1,4 +1,4 @@
-#include "MadePictures.h"
+#include <Tests/KxSubject/MadePictures.h>
 
 #include <opencv2/imgproc.hpp>
 

@@ -1,4 +1,4 @@
-#include "KxCropGeometry.h"
+#include <KxSubject/KxCropGeometry.h>
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,9 @@
-#include "KxSubjectAnalyzer.h"
+#include <KxSubject/KxSubjectAnalyzer.h>
 
-#include "KxSubjectFindings.h"
-#include "KxSubjectOptions.h"
-#include "MadePictures.h"
-#include "ShotPictures.h"
+#include <KxSubject/KxSubjectFindings.h>
+#include <KxSubject/KxSubjectOptions.h>
+#include <Tests/KxSubject/MadePictures.h>
+#include <Tests/KxSubject/Shots/ShotPictures.h>
 
 #include <opencv2/imgproc.hpp>
 

@@ -1,4 +1,4 @@
-#include "CropTrackFile.h"
+#include <Apps/Reframe/CropTrackFile.h>
 
 #include <QDir>
 #include <QFile>

@@ -1,5 +1,5 @@
-#include "ReframeExit.h"
-#include "ReframeOptions.h"
+#include <Apps/Reframe/ReframeExit.h>
+#include <Apps/Reframe/ReframeOptions.h>
 
 #include <QDir>
 #include <QFile>

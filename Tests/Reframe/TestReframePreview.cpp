@@ -1,9 +1,9 @@
-#include "ReframeRun.h"
+#include <Tests/Reframe/ReframeRun.h>
 
-#include "CropTrackFile.h"
-#include "KxPictureScaler.h"
-#include "KxVideoReader.h"
-#include "MadeVideo.h"
+#include <Apps/Reframe/CropTrackFile.h>
+#include <KxMedia/Picture/KxPictureScaler.h>
+#include <KxMedia/Read/KxVideoReader.h>
+#include <Tests/Support/MadeVideo.h>
 
 #include <QDir>
 #include <QFile>

@@ -1,7 +1,7 @@
-#include "ReframeRun.h"
+#include <Tests/Reframe/ReframeRun.h>
 
-#include "KxVideoReader.h"
-#include "MadeVideo.h"
+#include <KxMedia/Read/KxVideoReader.h>
+#include <Tests/Support/MadeVideo.h>
 
 #include <QDir>
 #include <QFile>

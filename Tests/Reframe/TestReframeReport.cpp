@@ -1,7 +1,7 @@
-#include "ReframeRun.h"
+#include <Tests/Reframe/ReframeRun.h>
 
-#include "CropTrackFile.h"
-#include "MadeVideo.h"
+#include <Apps/Reframe/CropTrackFile.h>
+#include <Tests/Support/MadeVideo.h>
 
 #include <QDir>
 #include <QFile>

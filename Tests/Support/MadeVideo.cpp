@@ -1,4 +1,4 @@
-#include "MadeVideo.h"
+#include <Tests/Support/MadeVideo.h>
 
 #include <QColor>
 #include <QPainter>

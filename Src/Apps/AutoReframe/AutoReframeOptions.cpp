@@ -1,4 +1,4 @@
-#include "AutoReframeOptions.h"
+#include <Apps/AutoReframe/AutoReframeOptions.h>
 
 namespace
 {

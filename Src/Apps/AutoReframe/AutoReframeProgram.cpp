@@ -1,10 +1,10 @@
-#include "AutoReframeProgram.h"
+#include <Apps/AutoReframe/AutoReframeProgram.h>
 
-#include "ExportQueue.h"
-#include "KxInterrupt.h"
-#include "MainWindow.h"
-#include "StudioLoader.h"
-#include "UiReport.h"
+#include <Apps/AutoReframe/Backend/StudioLoader.h>
+#include <Apps/AutoReframe/Exports/ExportQueue.h>
+#include <Apps/AutoReframe/MainWindow.h>
+#include <Apps/AutoReframe/UiReport.h>
+#include <KxCore/KxInterrupt.h>
 
 #include <KxWidgets/KxUIStyle.h>
 

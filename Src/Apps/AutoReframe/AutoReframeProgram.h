@@ -1,6 +1,6 @@
 #pragma once
 
-#include "AutoReframeOptions.h"
+#include <Apps/AutoReframe/AutoReframeOptions.h>
 
 class QApplication;
 

@@ -1,11 +1,11 @@
-#include "MainWindow.h"
+#include <Apps/AutoReframe/MainWindow.h>
 
-#include "ExportPanel.h"
-#include "ExportQueue.h"
-#include "MediaLibrary.h"
-#include "MediaLibraryView.h"
-#include "StudioLoader.h"
-#include "WindowMemory.h"
+#include <Apps/AutoReframe/Backend/StudioLoader.h>
+#include <Apps/AutoReframe/Exports/ExportPanel.h>
+#include <Apps/AutoReframe/Exports/ExportQueue.h>
+#include <Apps/AutoReframe/Library/MediaLibrary.h>
+#include <Apps/AutoReframe/Library/MediaLibraryView.h>
+#include <Apps/AutoReframe/WindowMemory.h>
 
 #include <KxWidgets/KrMessageDialog.h>
 #include <KxWidgets/KxLabel.h>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Studio.h"
+#include <Apps/AutoReframe/Backend/Studio.h>
 
 #include <KxWidgets/KxWidgetView.h>
 

@@ -1,9 +1,9 @@
-#include "MainWindow.h"
+#include <Apps/AutoReframe/MainWindow.h>
 
-#include "ExportQueue.h"
-#include "MediaLibrary.h"
-#include "MediaLibraryView.h"
-#include "StudioLoader.h"
+#include <Apps/AutoReframe/Backend/StudioLoader.h>
+#include <Apps/AutoReframe/Exports/ExportQueue.h>
+#include <Apps/AutoReframe/Library/MediaLibrary.h>
+#include <Apps/AutoReframe/Library/MediaLibraryView.h>
 
 #include <KxCore/KxConfig.h>
 #include <KxWidgets/KrMessageDialog.h>

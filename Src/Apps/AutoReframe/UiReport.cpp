@@ -1,4 +1,4 @@
-#include "UiReport.h"
+#include <Apps/AutoReframe/UiReport.h>
 
 #include <QAbstractButton>
 #include <QAbstractItemView>

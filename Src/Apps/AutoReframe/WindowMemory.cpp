@@ -1,6 +1,6 @@
-#include "WindowMemory.h"
+#include <Apps/AutoReframe/WindowMemory.h>
 
-#include "KxConfigFile.h"
+#include <KxCore/KxConfigFile.h>
 
 #include <QSettings>
 #include <QWidget>

@@ -1,7 +1,7 @@
-#include "AutoReframeProgram.h"
-#include "KxInterrupt.h"
-#include "KxMemory.h"
-#include "KxSpdlog.h"
+#include <Apps/AutoReframe/AutoReframeProgram.h>
+#include <KxCore/KxInterrupt.h>
+#include <KxCore/KxMemory.h>
+#include <KxCore/KxSpdlog.h>
 
 #include <QApplication>
 

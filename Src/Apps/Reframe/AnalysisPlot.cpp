@@ -1,6 +1,6 @@
-#include "AnalysisPlot.h"
+#include <Apps/Reframe/AnalysisPlot.h>
 
-#include "FoundSignals.h"
+#include <Apps/Reframe/FoundSignals.h>
 
 #include <QBuffer>
 #include <QImage>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "CropTrackFile.h"
-#include "KxSubjectFindings.h"
+#include <Apps/Reframe/CropTrackFile.h>
+#include <KxSubject/KxSubjectFindings.h>
 
 /// What an analysis found over a video's time, as inline SVG of one time axis. No text in it comes from a file. Pure.
 class AnalysisPlot

@@ -1,9 +1,9 @@
-#include "AnalysisReport.h"
+#include <Apps/Reframe/AnalysisReport.h>
 
-#include "AnalysisPlot.h"
-#include "DrawnCrop.h"
-#include "FoundSignals.h"
-#include "FrameClock.h"
+#include <Apps/Reframe/AnalysisPlot.h>
+#include <Apps/Reframe/DrawnCrop.h>
+#include <Apps/Reframe/FoundSignals.h>
+#include <Apps/Reframe/FrameClock.h>
 
 #include <QColor>
 #include <QFileInfo>

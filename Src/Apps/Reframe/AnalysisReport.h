@@ -1,7 +1,7 @@
 #pragma once
 
-#include "CropTrackFile.h"
-#include "KxSubjectFindings.h"
+#include <Apps/Reframe/CropTrackFile.h>
+#include <KxSubject/KxSubjectFindings.h>
 
 /// What an analysis found, as one page that needs nothing besides itself: no network, no scripts, no other file.
 namespace AnalysisReport

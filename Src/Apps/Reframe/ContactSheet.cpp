@@ -1,8 +1,8 @@
-#include "ContactSheet.h"
+#include <Apps/Reframe/ContactSheet.h>
 
-#include "DrawnCrop.h"
-#include "KxPictureScaler.h"
-#include "KxVideoReader.h"
+#include <Apps/Reframe/DrawnCrop.h>
+#include <KxMedia/Picture/KxPictureScaler.h>
+#include <KxMedia/Read/KxVideoReader.h>
 
 #include <QPainter>
 

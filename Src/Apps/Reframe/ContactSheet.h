@@ -2,8 +2,8 @@
 
 #include <KxModel/IKxAutoReframeResult.h>
 
-#include "KxCancelToken.h"
-#include "KxResult.h"
+#include <KxCore/KxCancelToken.h>
+#include <KxCore/KxResult.h>
 
 #include <QImage>
 #include <QList>

@@ -1,6 +1,6 @@
-#include "CropTrackFile.h"
+#include <Apps/Reframe/CropTrackFile.h>
 
-#include "KxSystemError.h"
+#include <KxCore/KxSystemError.h>
 
 #include <QFile>
 #include <QFileInfo>

@@ -3,7 +3,7 @@
 #include <KxCore/KxRational.h>
 #include <KxModel/IKxAutoReframeResult.h>
 
-#include "KxOutputFile.h"
+#include <KxCore/KxOutputFile.h>
 
 #include <QList>
 #include <QSize>

@@ -1,4 +1,4 @@
-#include "DrawnCrop.h"
+#include <Apps/Reframe/DrawnCrop.h>
 
 #include <QRegion>
 

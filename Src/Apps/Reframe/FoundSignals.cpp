@@ -1,4 +1,4 @@
-#include "FoundSignals.h"
+#include <Apps/Reframe/FoundSignals.h>
 
 #include <algorithm>
 #include <numeric>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "KxSubjectFindings.h"
+#include <KxSubject/KxSubjectFindings.h>
 
 #include <QRgb>
 #include <QString>

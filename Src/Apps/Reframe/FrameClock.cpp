@@ -1,4 +1,4 @@
-#include "FrameClock.h"
+#include <Apps/Reframe/FrameClock.h>
 
 #include <cmath>
 

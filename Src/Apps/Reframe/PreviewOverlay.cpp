@@ -1,8 +1,8 @@
-#include "PreviewOverlay.h"
+#include <Apps/Reframe/PreviewOverlay.h>
 
-#include "DrawnCrop.h"
-#include "FoundSignals.h"
-#include "FrameClock.h"
+#include <Apps/Reframe/DrawnCrop.h>
+#include <Apps/Reframe/FoundSignals.h>
+#include <Apps/Reframe/FrameClock.h>
 
 #include <QPainter>
 

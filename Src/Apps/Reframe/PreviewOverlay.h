@@ -3,7 +3,7 @@
 #include <KxCore/KxRational.h>
 #include <KxModel/IKxAutoReframeResult.h>
 
-#include "KxSubjectFindings.h"
+#include <KxSubject/KxSubjectFindings.h>
 
 #include <QImage>
 #include <QList>

@@ -1,10 +1,10 @@
-#include "ReframeJob.h"
+#include <Apps/Reframe/ReframeJob.h>
 
-#include "KrAutoReframeAnalyzer.h"
-#include "KrAutoReframeHelper.h"
-#include "KxAutoReframeService.h"
-#include "KxInterrupt.h"
-#include "ReframeWait.h"
+#include <Apps/Reframe/ReframeWait.h>
+#include <KrAutoReframe/Engine/KrAutoReframeAnalyzer.h>
+#include <KrAutoReframe/Engine/KrAutoReframeHelper.h>
+#include <KxCore/KxInterrupt.h>
+#include <KxModel/KxAutoReframeService.h>
 
 #include <QDir>
 #include <QEventLoop>

@@ -1,15 +1,15 @@
 #pragma once
 
-#include "CropTrackFile.h"
-#include "KxCancelToken.h"
-#include "KxMediaItem.h"
-#include "KxOutputFile.h"
-#include "KxRenderJob.h"
-#include "KxResult.h"
-#include "ReframeOptions.h"
-#include "ReframeReporter.h"
+#include <Apps/Reframe/CropTrackFile.h>
+#include <Apps/Reframe/ReframeOptions.h>
+#include <Apps/Reframe/ReframeReporter.h>
+#include <KxCore/KxCancelToken.h>
+#include <KxCore/KxOutputFile.h>
+#include <KxCore/KxResult.h>
+#include <KxModel/KxMediaItem.h>
+#include <KxRender/KxRenderJob.h>
 
-#include "KrAutoReframeProcess.h"
+#include <KrAutoReframe/Engine/KrAutoReframeProcess.h>
 
 #include <QJsonObject>
 

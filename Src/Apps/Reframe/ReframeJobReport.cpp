@@ -1,10 +1,10 @@
-#include "ReframeJob.h"
+#include <Apps/Reframe/ReframeJob.h>
 
-#include "AnalysisReport.h"
-#include "ContactSheet.h"
-#include "KrAutoReframeHelper.h"
-#include "KxAutoReframeService.h"
-#include "PreviewOverlay.h"
+#include <Apps/Reframe/AnalysisReport.h>
+#include <Apps/Reframe/ContactSheet.h>
+#include <Apps/Reframe/PreviewOverlay.h>
+#include <KrAutoReframe/Engine/KrAutoReframeHelper.h>
+#include <KxModel/KxAutoReframeService.h>
 
 #include <QBuffer>
 

@@ -1,9 +1,9 @@
-#include "ReframeJob.h"
+#include <Apps/Reframe/ReframeJob.h>
 
-#include "KrAutoReframeHelper.h"
-#include "KrExportParameters.h"
-#include "KxRenderJob.h"
-#include "ReframeWait.h"
+#include <Apps/Reframe/ReframeWait.h>
+#include <KrAutoReframe/Engine/KrAutoReframeHelper.h>
+#include <KrAutoReframe/Engine/KrExportParameters.h>
+#include <KxRender/KxRenderJob.h>
 
 #include <QEventLoop>
 

@@ -1,6 +1,6 @@
-#include "ReframeOptions.h"
+#include <Apps/Reframe/ReframeOptions.h>
 
-#include "ReframeExit.h"
+#include <Apps/Reframe/ReframeExit.h>
 
 #include <QCommandLineParser>
 #include <QFileInfo>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "KxResult.h"
+#include <KxCore/KxResult.h>
 
 #include <QSize>
 #include <QStringList>

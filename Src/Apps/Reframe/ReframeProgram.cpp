@@ -1,11 +1,11 @@
-#include "ReframeProgram.h"
+#include <Apps/Reframe/ReframeProgram.h>
 
-#include "KxAutoReframeService.h"
-#include "KxFaceModel.h"
-#include "KxInterrupt.h"
-#include "ReframeExit.h"
-#include "ReframeJob.h"
-#include "ReframeReporter.h"
+#include <Apps/Reframe/ReframeExit.h>
+#include <Apps/Reframe/ReframeJob.h>
+#include <Apps/Reframe/ReframeReporter.h>
+#include <KxCore/KxInterrupt.h>
+#include <KxModel/KxAutoReframeService.h>
+#include <KxModel/KxFaceModel.h>
 
 int ReframeProgram::Run(const ReframeOptions& options)
 {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ReframeOptions.h"
+#include <Apps/Reframe/ReframeOptions.h>
 
 /// The command line as a whole.
 namespace ReframeProgram

@@ -1,7 +1,7 @@
-#include "ReframeReporter.h"
+#include <Apps/Reframe/ReframeReporter.h>
 
-#include "KxTerminal.h"
-#include "ReframeOptions.h"
+#include <Apps/Reframe/ReframeOptions.h>
+#include <KxCore/KxTerminal.h>
 
 #include <QFileInfo>
 #include <QJsonDocument>

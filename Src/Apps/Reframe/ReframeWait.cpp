@@ -1,6 +1,6 @@
-#include "ReframeWait.h"
+#include <Apps/Reframe/ReframeWait.h>
 
-#include "KxInterrupt.h"
+#include <KxCore/KxInterrupt.h>
 
 #include <QEventLoop>
 #include <QTimer>

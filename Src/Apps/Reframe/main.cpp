@@ -1,6 +1,6 @@
-#include "KxInterrupt.h"
-#include "KxSpdlog.h"
-#include "ReframeProgram.h"
+#include <Apps/Reframe/ReframeProgram.h>
+#include <KxCore/KxInterrupt.h>
+#include <KxCore/KxSpdlog.h>
 
 #include <QGuiApplication>
 #include <QLoggingCategory>

@@ -1,4 +1,4 @@
-#include "FakePlayer.h"
+#include <Tests/KrAutoReframe/FakePlayer/FakePlayer.h>
 
 #include <KxPlayer/IKxMediaPlayer.h>
 #include <KxPlayer/KxMediaPlayerWidget.h>

@@ -1,2 +1,2 @@
-#include "KxVideoReader.h"
+#include <KxMedia/Read/KxVideoReader.h>
 #include <libavcodec/avcodec.h>

@@ -1,2 +1,2 @@
-#include "KxModelKnowsWidgets.h"
 #include <KxModel/IKxTimeline.h>
+#include <KxModel/KxModelKnowsWidgets.h>

@@ -1,1 +1,1 @@
-#include "KxVideoReader.h"
+#include <KxMedia/Read/KxVideoReader.h>

@@ -1,0 +1,202 @@
+#include <Apps/AutoReframe/Exports/ExportCard.h>
+
+#include <Apps/AutoReframe/Exports/LinkButton.h>
+#include <Apps/AutoReframe/Library/MediaText.h>
+
+#include <KxWidgets/KxLabel.h>
+#include <KxWidgets/KxToolButton.h>
+#include <KxWidgets/KxUIStyle.h>
+
+#include <QContextMenuEvent>
+#include <QDir>
+#include <QEvent>
+#include <QFileInfo>
+#include <QHBoxLayout>
+#include <QMenu>
+#include <QProgressBar>
+#include <QStyle>
+
+namespace
+{
+
+using State = ExportItem::State;
+
+constexpr int CancelPx = 24;
+constexpr int SmallPx = 11;
+
+QFont Small(QFont font)
+{
+    font.setPixelSize(SmallPx);
+    return font;
+}
+
+KxLabel* MakeSmall(QWidget* parent, const QString& name)
+{
+    KxLabel* const label = KxLabel::CreateLabel(parent, QString());
+    label->setObjectName(name);
+    label->setFont(Small(KxUIStyle::TabularFont()));
+    label->setProperty("textRole", QStringLiteral("muted"));
+    // As much as a link button has around its text, so that both stand on one line.
+    label->setContentsMargins(0, 4, 0, 4);
+    label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    return label;
+}
+
+// The style sheet looks at properties only when a widget is polished.
+void SetTextRole(QWidget& label, const QString& role)
+{
+    if (label.property("textRole").toString() != role) {
+        label.setProperty("textRole", role);
+        label.style()->unpolish(&label);
+        label.style()->polish(&label);
+    }
+}
+
+} // namespace
+
+ExportCard::ExportCard(QWidget* parent)
+    : QFrame(parent)
+{
+    setObjectName(QStringLiteral("ExportCard"));
+    setProperty("surface", true);
+    m_name = KxLabel::CreateLabel(this, QString());
+    m_name->setObjectName(QStringLiteral("ExportCard_name"));
+    m_name->SetElideMode(Qt::ElideMiddle);
+    m_cancel = KxToolButton::CreateToolButton(this, QStringLiteral("ExportCard_cancel"));
+    m_cancel->SetGlyph(QStringLiteral("close"));
+    m_cancel->setFixedSize(CancelPx, CancelPx);
+    m_cancel->setFocusPolicy(Qt::TabFocus);
+    m_bar = new QProgressBar(this);
+    m_bar->setObjectName(QStringLiteral("ExportCard_progress"));
+    m_bar->setRange(0, 10000);
+    m_bar->setTextVisible(false);
+    m_status = MakeSmall(this, QStringLiteral("ExportCard_status"));
+    m_status->setWordWrap(true);
+    m_size = MakeSmall(this, QStringLiteral("ExportCard_size"));
+    m_retry = new LinkButton(this);
+    m_retry->setObjectName(QStringLiteral("ExportCard_retry"));
+    m_show = new LinkButton(this);
+    m_show->setObjectName(QStringLiteral("ExportCard_show"));
+    InitLayout();
+    connect(m_cancel, &QAbstractButton::clicked, this, &ExportCard::sigCancel);
+    connect(m_retry, &QAbstractButton::clicked, this, &ExportCard::sigRetry);
+    connect(m_show, &QAbstractButton::clicked, this, &ExportCard::sigShowInFolder);
+    RetranslateUi();
+}
+
+ExportCard::~ExportCard() = default;
+
+void ExportCard::InitLayout()
+{
+    // The cross, not the button around it, ends where the texts below end.
+    constexpr int aroundCrossPx = 5;
+    auto* const head = new QHBoxLayout;
+    head->setSpacing(8);
+    head->addWidget(m_name, 1);
+    head->addWidget(m_cancel);
+    auto* const foot = new QHBoxLayout;
+    foot->setContentsMargins(0, 0, aroundCrossPx, 0);
+    foot->setSpacing(12);
+    foot->addWidget(m_status, 1);
+    for (QWidget* const end :
+         {static_cast<QWidget*>(m_size), static_cast<QWidget*>(m_retry), static_cast<QWidget*>(m_show)}) {
+        foot->addWidget(end, 0, Qt::AlignTop);
+    }
+    auto* const middle = new QHBoxLayout;
+    middle->setContentsMargins(0, 0, aroundCrossPx, 0);
+    middle->addWidget(m_bar);
+    auto* const column = new QVBoxLayout(this);
+    column->setContentsMargins(13, 8, 13 - aroundCrossPx, 7);
+    column->setSpacing(3);
+    column->addLayout(head);
+    column->addLayout(middle);
+    column->addLayout(foot);
+}
+
+void ExportCard::Show(const ExportItem& item)
+{
+    m_item = item;
+    const bool isActive = !item.IsFinished();
+    m_cancel->setVisible(isActive);
+    m_cancel->setEnabled(item.state != State::Cancelling);
+    m_bar->setVisible(isActive);
+    m_bar->setValue(item.progress);
+    m_size->setVisible(isActive);
+    m_retry->setVisible(item.state == State::Failed || item.state == State::Cancelled);
+    m_show->setVisible(item.state == State::Done);
+    // Figures that run have to stand still; a sentence looks like every other text.
+    m_status->setFont(Small(isActive ? KxUIStyle::TabularFont() : font()));
+    SetTextRole(*m_status, item.state == State::Failed ? QStringLiteral("error") : QStringLiteral("muted"));
+    ShowTexts();
+}
+
+void ExportCard::ShowTexts()
+{
+    const QString name = QFileInfo(m_item.filePath).fileName();
+    m_name->setText(name);
+    m_name->setToolTip(QDir::toNativeSeparators(m_item.filePath));
+    m_status->setText(StatusText());
+    m_status->setToolTip(m_item.sentence);
+    m_size->setText(MediaText::Resolution(m_item.order.resolution));
+    m_bar->setAccessibleName(tr("Progress of %1").arg(name));
+    m_cancel->setAccessibleName(tr("Cancel %1").arg(name));
+    m_retry->setAccessibleName(tr("Retry %1").arg(name));
+    m_show->setAccessibleName(tr("Show %1 in its folder").arg(name));
+}
+
+QString ExportCard::StatusText() const
+{
+    switch (m_item.state) {
+    case State::Waiting:
+        return tr("Waiting");
+    case State::Running: {
+        const QString percent = tr("%1 %").arg(m_item.progress / 100);
+        return m_item.secondsLeft ? QStringLiteral("%1 · %2").arg(percent, MediaText::TimeLeft(*m_item.secondsLeft))
+                                  : percent;
+    }
+    case State::Cancelling:
+        return tr("Cancelling…");
+    case State::Done: {
+        const QString done = tr("Done · %1").arg(MediaText::FileSize(m_item.fileBytes));
+        return m_item.sentence.isEmpty() ? done : QStringLiteral("%1 · %2").arg(done, m_item.sentence);
+    }
+    case State::Failed:
+        return m_item.sentence;
+    case State::Cancelled:
+        return tr("Cancelled");
+    }
+    return {};
+}
+
+void ExportCard::RetranslateUi()
+{
+    m_cancel->setToolTip(tr("Cancel"));
+    m_retry->setText(tr("Retry"));
+    m_show->setText(tr("Show in folder"));
+}
+
+void ExportCard::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        RetranslateUi();
+        ShowTexts();
+    }
+    QFrame::changeEvent(event);
+}
+
+void ExportCard::contextMenuEvent(QContextMenuEvent* event)
+{
+    QMenu menu(this);
+    menu.setObjectName(QStringLiteral("ExportCardMenu"));
+    if (!m_item.IsFinished()) {
+        menu.addAction(tr("Cancel"), this, &ExportCard::sigCancel);
+    } else {
+        if (m_item.state == State::Done) {
+            menu.addAction(tr("Show in folder"), this, &ExportCard::sigShowInFolder);
+        } else {
+            menu.addAction(tr("Retry"), this, &ExportCard::sigRetry);
+        }
+        menu.addAction(tr("Remove from list"), this, &ExportCard::sigRemove);
+    }
+    menu.exec(event->globalPos());
+}

@@ -1,0 +1,131 @@
+#include <Apps/AutoReframe/Exports/ExportPanel.h>
+
+#include <Apps/AutoReframe/Exports/ExportCard.h>
+#include <Apps/AutoReframe/Exports/LinkButton.h>
+
+#include <KxWidgets/KxLabel.h>
+#include <KxWidgets/KxUIStyle.h>
+
+#include <QHBoxLayout>
+#include <QScrollArea>
+#include <QVariant>
+
+namespace
+{
+
+constexpr int WidthPx = 340;
+constexpr int MarginPx = 16;
+constexpr int CardGapPx = 10;
+
+} // namespace
+
+ExportPanel::ExportPanel(ExportQueue& queue, QWidget* parent)
+    : KxWidget(parent)
+    , m_queue(queue)
+{
+    setObjectName(QStringLiteral("ExportPanel"));
+    setFixedWidth(WidthPx);
+    setStyleSheet(
+        QStringLiteral("#ExportPanel { background-color: %1; border: none; border-left: 1px solid %2; }"
+                       "#ExportPanel_list, #ExportPanel_content { background: transparent; }")
+            .arg(KxUIStyle::Colour(KxUIStyle::Role::Panel).name(), KxUIStyle::Colour(KxUIStyle::Role::Line).name()));
+    InitLayout();
+    connect(m_clear, &QAbstractButton::clicked, &m_queue, &ExportQueue::RemoveFinished);
+    connect(&m_queue, &ExportQueue::sigAdded, this, &ExportPanel::AddCard);
+    connect(&m_queue, &ExportQueue::sigChanged, this, &ExportPanel::UpdateCard);
+    connect(&m_queue, &ExportQueue::sigRemoved, this, &ExportPanel::RemoveCard);
+    RetranslateUi();
+    ShowHints();
+}
+
+ExportPanel::~ExportPanel() = default;
+
+void ExportPanel::InitLayout()
+{
+    m_heading = KxLabel::CreateLabel(this, QString());
+    m_heading->setObjectName(QStringLiteral("ExportPanel_heading"));
+    QFont bold = font();
+    bold.setWeight(QFont::DemiBold);
+    m_heading->setFont(bold);
+    m_heading->setProperty("textRole", QStringLiteral("muted"));
+    m_clear = new LinkButton(this);
+    m_clear->setObjectName(QStringLiteral("ExportPanel_clear"));
+    m_hint = KxLabel::CreateLabel(this, QString());
+    m_hint->setObjectName(QStringLiteral("ExportPanel_hint"));
+    m_hint->setProperty("textRole", QStringLiteral("muted"));
+    m_hint->setWordWrap(true);
+
+    auto* const head = new QHBoxLayout;
+    head->setContentsMargins(MarginPx, 0, MarginPx, 0);
+    head->addWidget(m_heading, 1);
+    head->addWidget(m_clear);
+
+    auto* const content = new QWidget;
+    content->setObjectName(QStringLiteral("ExportPanel_content"));
+    m_column = new QVBoxLayout(content);
+    m_column->setContentsMargins(MarginPx, 0, MarginPx, MarginPx);
+    m_column->setSpacing(CardGapPx);
+    m_column->addWidget(m_hint);
+    m_column->addStretch(1);
+    auto* const area = new QScrollArea(this);
+    area->setObjectName(QStringLiteral("ExportPanel_list"));
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidgetResizable(true);
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    area->setFocusPolicy(Qt::NoFocus);
+    area->setWidget(content);
+
+    auto* const column = new QVBoxLayout(this);
+    // The pixel at the left is the line between the areas.
+    column->setContentsMargins(1, 12, 0, 0);
+    column->setSpacing(8);
+    column->addLayout(head);
+    column->addWidget(area, 1);
+}
+
+void ExportPanel::RetranslateUi()
+{
+    m_heading->setText(tr("Exports"));
+    m_clear->setText(tr("Clear finished"));
+    m_hint->setText(tr("Videos that you export from the Auto Reframe window appear here."));
+}
+
+void ExportPanel::AddCard(int id)
+{
+    auto* const card = new ExportCard(m_column->parentWidget());
+    m_cards.insert(id, card);
+    connect(card, &ExportCard::sigCancel, &m_queue, [this, id] { m_queue.Cancel(id); });
+    connect(card, &ExportCard::sigRetry, &m_queue, [this, id] { m_queue.Retry(id); });
+    // Queued: the card must not go while its own menu is open.
+    connect(
+        card, &ExportCard::sigRemove, &m_queue, [this, id] { m_queue.Remove(id); }, Qt::QueuedConnection);
+    connect(card, &ExportCard::sigShowInFolder, this,
+            [this, id] { Q_EMIT sigShowInFolder(m_queue.Find(id)->filePath); });
+    // Before the stretch.
+    m_column->insertWidget(m_column->count() - 1, card);
+    UpdateCard(id);
+}
+
+void ExportPanel::UpdateCard(int id)
+{
+    const ExportItem* const item = m_queue.Find(id);
+    if (ExportCard* const card = m_cards.value(id); card != nullptr && item != nullptr) {
+        card->Show(*item);
+    }
+    ShowHints();
+}
+
+void ExportPanel::RemoveCard(int id)
+{
+    if (ExportCard* const card = m_cards.take(id)) {
+        card->hide();
+        card->deleteLater();
+    }
+    ShowHints();
+}
+
+void ExportPanel::ShowHints()
+{
+    m_hint->setVisible(m_cards.isEmpty());
+    m_clear->setVisible(m_queue.FinishedCount() > 0);
+}

@@ -1,0 +1,130 @@
+#include <Apps/AutoReframe/Library/MediaLibrary.h>
+
+#include <Apps/AutoReframe/Backend/StudioLoader.h>
+#include <Apps/AutoReframe/Library/MediaCardDelegate.h>
+#include <Apps/AutoReframe/Library/MediaLoader.h>
+
+#include <QFileInfo>
+
+MediaLibrary::MediaLibrary(StudioLoader& studio, QObject* parent)
+    : QObject(parent)
+    , m_studio(studio)
+    , m_model(this)
+{
+    connect(&m_studio, &StudioLoader::sigFinished, this, &MediaLibrary::StartLoading);
+}
+
+MediaLibrary::~MediaLibrary()
+{
+    // Its thread works for the studio, which may go next.
+    delete m_loader;
+    for (const quint64 request : qAsConst(m_thumbnails)) {
+        m_studio.IfThere()->CancelThumbnail(request);
+    }
+}
+
+MediaLibraryModel& MediaLibrary::Model()
+{
+    return m_model;
+}
+
+void MediaLibrary::Import(const QStringList& paths)
+{
+    QModelIndexList imported;
+    for (const QString& path : paths) {
+        QModelIndex index = m_model.IndexOfPath(path);
+        if (!index.isValid()) {
+            const int id = m_model.Add(QFileInfo(path).absoluteFilePath());
+            index = m_model.IndexOf(id);
+            m_opening.insert(id);
+            if (m_loader != nullptr) {
+                m_loader->Open(id, m_model.PathAt(index));
+            }
+        }
+        if (!imported.contains(index)) {
+            imported += index;
+        }
+    }
+    if (!imported.isEmpty()) {
+        Q_EMIT sigImported(imported);
+        m_studio.Start();
+    }
+}
+
+void MediaLibrary::StartLoading()
+{
+    Studio* const studio = m_studio.IfThere();
+    if (studio == nullptr) {
+        m_refused += m_studio.Sentence();
+        for (const int id : qAsConst(m_opening)) {
+            m_model.Remove(id);
+        }
+        m_opening.clear();
+        TellRefused();
+        return;
+    }
+    m_loader = new MediaLoader(*studio, this);
+    connect(m_loader, &MediaLoader::sigOpened, this, &MediaLibrary::HandleOpened);
+    QList<int> waiting = m_opening.values();
+    std::sort(waiting.begin(), waiting.end());
+    for (const int id : qAsConst(waiting)) {
+        m_loader->Open(id, m_model.PathAt(m_model.IndexOf(id)));
+    }
+}
+
+void MediaLibrary::HandleOpened(int id, const KxResult<StudioMedia>& media)
+{
+    if (!m_opening.remove(id)) {
+        return;
+    }
+    if (media) {
+        m_model.SetMedia(id, *media);
+        RequestThumbnail(id, media->path);
+        Q_EMIT sigOpened(id);
+    } else {
+        m_refused += media.Sentence();
+        m_model.Remove(id);
+    }
+    TellRefused();
+}
+
+void MediaLibrary::RequestThumbnail(int id, const QString& path)
+{
+    const QSize roomPx = (QSizeF(MediaCardDelegate::PictureSize()) * m_devicePixelRatio).toSize();
+    m_thumbnails[id] = m_studio.IfThere()->RequestThumbnail(path, roomPx, [this, id](const QImage& picture) {
+        m_thumbnails.remove(id);
+        m_model.SetThumbnail(id, QPixmap::fromImage(picture));
+    });
+}
+
+void MediaLibrary::Remove(const QModelIndexList& videos)
+{
+    QList<int> ids;
+    for (const QModelIndex& video : videos) {
+        ids += m_model.IdAt(video);
+    }
+    for (const int id : qAsConst(ids)) {
+        if (m_opening.remove(id) && m_loader != nullptr) {
+            m_loader->Forget(id);
+        }
+        if (m_thumbnails.contains(id)) {
+            m_studio.IfThere()->CancelThumbnail(m_thumbnails.take(id));
+        }
+        m_model.Remove(id);
+    }
+    TellRefused();
+}
+
+void MediaLibrary::SetDevicePixelRatio(qreal ratio)
+{
+    m_devicePixelRatio = ratio;
+}
+
+void MediaLibrary::TellRefused()
+{
+    if (m_opening.isEmpty() && !m_refused.isEmpty()) {
+        const QStringList sentences = m_refused;
+        m_refused.clear();
+        Q_EMIT sigRefused(sentences);
+    }
+}

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <Apps/AutoReframe/Library/MediaLibraryModel.h>
+
+#include <QMap>
+#include <QSet>
+
+class MediaLoader;
+class StudioLoader;
+
+/// The library behind the cards: takes files in and lets them go. User-interface thread.
+class MediaLibrary : public QObject
+{
+    Q_OBJECT
+public:
+    /// `studio` is borrowed; files wait until it is there.
+    MediaLibrary(StudioLoader& studio, QObject* parent);
+    ~MediaLibrary() override;
+
+    MediaLibraryModel& Model();
+
+    /// Takes files in; each appears at once and is opened in the background. One that is there already is not taken
+    /// again. Files that cannot be opened go away again and are told together, once none of them is left to try.
+    void Import(const QStringList& paths);
+    void Remove(const QModelIndexList& videos);
+
+    /// Device pixels in a pixel of a widget, for sharp thumbnails.
+    void SetDevicePixelRatio(qreal ratio);
+
+Q_SIGNALS:
+    /// Each with the name and the reason.
+    void sigRefused(const QStringList& sentences);
+    /// The videos that an import named, whether new or not.
+    void sigImported(const QModelIndexList& videos);
+    /// A video was opened.
+    void sigOpened(int id);
+
+private:
+    void StartLoading();
+    void HandleOpened(int id, const KxResult<StudioMedia>& media);
+    void RequestThumbnail(int id, const QString& path);
+    void TellRefused();
+
+    StudioLoader& m_studio;
+    MediaLibraryModel m_model;
+    MediaLoader* m_loader = nullptr;
+    QSet<int> m_opening;
+    QMap<int, quint64> m_thumbnails;
+    QStringList m_refused;
+    qreal m_devicePixelRatio = 1.0;
+};

@@ -1,0 +1,77 @@
+#include <Apps/AutoReframe/Library/MediaText.h>
+
+#include <QCoreApplication>
+
+#include <cmath>
+
+namespace
+{
+
+constexpr qint64 minute = 60;
+constexpr qint64 hour = 60 * minute;
+
+QString Translated(const char* text)
+{
+    return QCoreApplication::translate("MediaText", text);
+}
+
+QString TwoDigits(qint64 number)
+{
+    return QStringLiteral("%1").arg(number, 2, 10, QLatin1Char('0'));
+}
+
+} // namespace
+
+QString MediaText::Resolution(const QSize& resolution)
+{
+    return QStringLiteral("%1 × %2").arg(resolution.width()).arg(resolution.height());
+}
+
+QString MediaText::FrameRate(const KxRational& rate)
+{
+    if (!rate.IsPositive()) {
+        return {};
+    }
+    const double hundredths = std::round(rate.ToDouble() * 100.0) / 100.0;
+    return Translated("%1 fps").arg(QString::number(hundredths, 'g', 6));
+}
+
+QString MediaText::Details(const QSize& resolution, const KxRational& rate)
+{
+    const QString fps = FrameRate(rate);
+    return fps.isEmpty() ? Resolution(resolution) : QStringLiteral("%1 · %2").arg(Resolution(resolution), fps);
+}
+
+QString MediaText::Length(qint64 frameCount, const KxRational& rate)
+{
+    if (!rate.IsPositive()) {
+        return {};
+    }
+    const qint64 seconds = std::max<qint64>(1, frameCount * rate.denominator / rate.numerator);
+    const QString rest = QStringLiteral("%1:%2").arg(TwoDigits(seconds % hour / minute), TwoDigits(seconds % minute));
+    return seconds < hour ? rest : QStringLiteral("%1:%2").arg(seconds / hour).arg(rest);
+}
+
+QString MediaText::FileSize(qint64 bytes)
+{
+    constexpr double megabyte = 1024.0 * 1024.0;
+    const double megabytes = static_cast<double>(bytes) / megabyte;
+    if (megabytes >= 10.0) {
+        return Translated("%1 MB").arg(std::llround(megabytes));
+    }
+    if (megabytes >= 0.1) {
+        return Translated("%1 MB").arg(megabytes, 0, 'f', 1);
+    }
+    return Translated("%1 KB").arg(std::max<qint64>(1, bytes / 1024));
+}
+
+QString MediaText::TimeLeft(qint64 seconds)
+{
+    if (seconds < minute) {
+        return Translated("%1 s left").arg(seconds);
+    }
+    if (seconds < hour) {
+        return Translated("%1 min %2 s left").arg(seconds / minute).arg(seconds % minute);
+    }
+    return Translated("%1 h %2 min left").arg(seconds / hour).arg(seconds % hour / minute);
+}

@@ -1,0 +1,88 @@
+#include <KrAutoReframe/KrAutoReframeDialog.h>
+
+#include <KrAutoReframe/Engine/KrAutoReframeProcess.h>
+#include <KrAutoReframe/Engine/SendClickEvent.h>
+#include <KrAutoReframe/Player/KrAutoReframePlayerView.h>
+#include <KrAutoReframe/Settings/KrAutoReframePropertyPanel.h>
+
+#include <KxCore/KxConfig.h>
+#include <KxWidgets/KxProgressDialog.h>
+
+namespace
+{
+
+/// The number of the analysis among the host's algorithms.
+constexpr int autoReframeAlgorithm = 4;
+
+/// Once for the whole process: a person who was told that the machine is too weak, and tries again, is let through.
+bool unsupportedNoticeWasRequested = false;
+
+} // namespace
+
+void KrAutoReframeDialog::slotStartAnalysis()
+{
+    m_playerView->Pause();
+    // The name is the event's own, misspelling included: reports of years are kept under it.
+    SendClickEvent(QStringLiteral("anlyze_btn"));
+    if (!unsupportedNoticeWasRequested && !KxConfig::Instance().algorithmEnabled(autoReframeAlgorithm)) {
+        Q_EMIT sigShowUnsupportDlg();
+        unsupportedNoticeWasRequested = true;
+        return;
+    }
+    int width = 0;
+    int height = 0;
+    int mode = 0;
+    m_propertyPanel->GetParameters(width, height, mode);
+    switch (m_process->StartAnalyze(width, height, mode)) {
+    case 0:
+        break;
+    case 1:
+        ShowInformation(tr("This video is too short. Please try a different video."));
+        return;
+    case 3:
+        ShowInformation(
+            tr("You've chosen the same aspect ratio as the original video. Please select a different aspect ratio."));
+        return;
+    case 4:
+        ShowInformation(tr("Analysis error. Please try again."));
+        return;
+    default:
+        return;
+    }
+    m_progressDialog->SetProgressTitle(tr("Converting video. Please wait..."), QStringLiteral("None"));
+    slotUpdateProgress(0);
+    m_progressDialog->exec();
+}
+
+void KrAutoReframeDialog::slotUpdateProgress(int progress) const
+{
+    if (progress < 0) {
+        return;
+    }
+    m_progressDialog->SetProgress(progress);
+    m_progressDialog->SetInfoText(QStringLiteral("%1%").arg(progress / 100, 0, 10, QLatin1Char(' ')), QString(),
+                                  Qt::AlignLeft | Qt::AlignVCenter);
+}
+
+void KrAutoReframeDialog::slotAnalysisFinished(bool success)
+{
+    m_progressDialog->hide();
+    if (!success || !m_playerView->SwitchTimeline(false, true)) {
+        return;
+    }
+    m_propertyPanel->SetPreviewEnabled(true);
+    m_propertyPanel->OnAnalysisFinished();
+    m_playerView->Play();
+}
+
+void KrAutoReframeDialog::slotPreviewMode(bool checked)
+{
+    m_playerView->SwitchTimeline(!checked, false);
+}
+
+void KrAutoReframeDialog::HandleProgressRejected()
+{
+    m_process->StopProcess();
+    const bool byCancelButton = m_progressDialog->GetCloseReason() == KxProgressDialog::CancelButton;
+    SendClickEvent(byCancelButton ? QStringLiteral("convert_cancel_btn") : QStringLiteral("convert_close_window"));
+}

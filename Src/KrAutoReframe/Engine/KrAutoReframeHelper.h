@@ -1,0 +1,162 @@
+#pragma once
+
+#include <KrAutoReframe/Engine/KrEditSegment.h>
+
+#include <KxModel/IKxAutoReframeResult.h>
+#include <KxModel/KxCropPanZoomKeyFrameParam.h>
+
+#include <QFutureWatcher>
+#include <QList>
+#include <QMap>
+#include <QMutex>
+#include <QObject>
+#include <QRectF>
+
+#include <utility>
+
+class IKxClip;
+class IKxCropPanZoomKeyFrameHelper;
+class IKxTimeline;
+class QUndoStack;
+
+/// Everything that follows an analysis: a working copy of the source timeline, the keyframes in its first clip, the
+/// user's edit points with their undo stack, and the rectangle of each frame that the player shows.
+///
+/// User-interface thread. The keyframes of a whole analysis are made by one task at a time on the global thread pool.
+/// The worker never waits for the mutex. Operations that need what the task writes wait for its end (a fraction of a
+/// second); a new source and the destructor cancel it first.
+///
+/// A frame number with all bits set means no frame.
+class KrAutoReframeHelper : public QObject
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(KrAutoReframeHelper)
+
+public:
+    /// First and last frame of what an edit changed; both NoFrame when it changed nothing.
+    using FrameRange = std::pair<uint, uint>;
+
+    static constexpr uint NoFrame = 0xFFFFFFFFu;
+
+    KrAutoReframeHelper();
+    ~KrAutoReframeHelper() override;
+
+    /// Prepares for a new source, which stays the host's; edits and results of the one before are dropped. Null changes
+    /// nothing.
+    void SetTimeline(IKxTimeline* timeline);
+    IKxTimeline* GetSourceTimeline() const;
+    /// The working copy that carries the keyframes; null until a source with a clip was set. Owned by the helper and
+    /// replaced by the next source.
+    IKxTimeline* GetWorkTimeline() const;
+    /// Frame count of the source's first clip.
+    int GetDuration() const;
+
+    /// Replaces the working copy alone by a copy of `timeline`; edits, results and the undo stack stay. True when the
+    /// copy has a clip. A copy without clips is left to the host as it is: nothing of it was taken over that would be
+    /// ours to give back.
+    bool ResetWorkTimeline(IKxTimeline* timeline);
+
+    /// Starts the keyframe task on the first `GetDuration()` of `results`, frame 0 first. False when there are fewer;
+    /// true without a new start while a task runs. Ends with `sigApplyFinished`.
+    bool ApplyResults(const QList<IKxAutoReframeResult>& results);
+    /// Cancels a running keyframe task; what the task has stored by then stays.
+    void Cancel();
+
+    /// Sets an edit point, undoably; a frame after the last one counts as the last one. False when there are no frames.
+    bool AddKeyFrame(const uint& frame, const QRectF& rect);
+    /// Deletes an edit point, undoably; the frame counts as in `AddKeyFrame`. False when there is none.
+    bool RemoveKeyFrame(const uint& frame);
+    void Undo();
+    void Redo();
+
+    /// Frames of the edit points, ascending.
+    QList<uint> GetEditPointFrames() const;
+    bool IsEditFrame(const uint& frame) const;
+    /// The first edit point after `frame`, else NoFrame.
+    uint GetNextKeyFrame(const uint& frame) const;
+    /// The last edit point before `frame`, else NoFrame.
+    uint GetPrevKeyFrame(const uint& frame) const;
+
+    /// The rectangles that the analysis found, one a frame.
+    QList<IKxAutoReframeResult> GetResults() const;
+    /// The rectangles with the edits worked in, one a frame. Do not keep a copy: an edit then has to copy the whole
+    /// list before it writes.
+    const QList<IKxAutoReframeResult>& GetDisplayResults() const;
+
+    /// The edit of AddCropKeyFrameCommand: `rect` takes over one second of frames on both sides of `frame`, merged with
+    /// the segments that it meets. The walk over the segments steps on after one was taken out, so the one that moves
+    /// into its place is looked at by the next edit only; undo restores by snapshot whatever this leaves.
+    FrameRange DoAddKeyFrame(const uint& frame, const QRectF& rect);
+    /// The edit of RemoveCropKeyFrameCommand: the first segment that has the edit point gives it up.
+    FrameRange DoRemoveKeyFrame(const uint& frame);
+    /// Rebuilds the keyframes of a range after the edits were put back. Each segment wholly inside is rebuilt from
+    /// `from` on, in order, and the rest after the last one comes from the results; so a later segment lays results
+    /// over an earlier one.
+    void RestoreRange(uint from, uint to);
+
+Q_SIGNALS:
+    /// Below 1; emitted on the worker's thread.
+    void sigApplyProgress(double progress);
+    /// The keyframe task has ended; false when it was cancelled.
+    void sigApplyFinished(bool success);
+    /// A new source was set.
+    void sigOpenTimelineFinished();
+    void sigCanUndoRedo(bool canUndo, bool canRedo);
+
+private:
+    using KeyFrameMap = QMap<qint64, KxCropPanZoomKeyFrameParam>;
+
+    friend class AddCropKeyFrameCommand;
+    friend class RemoveCropKeyFrameCommand;
+    friend struct KrAutoReframeHelperPeer;
+
+    /// The mutex by its base class, whose fast path is inline: cheap once a frame, and seen by thread checkers, which
+    /// are blind inside Qt's libraries.
+    QBasicMutex& Guard() const { return m_mutex; }
+
+    void ReadClipFacts(const IKxTimeline& timeline);
+    void MarkCanceled();
+    void HandleTaskFinished();
+    void WaitForTask();
+    void StopTask();
+    void RunKeyFrameTask(IKxCropPanZoomKeyFrameHelper* target, const QList<IKxAutoReframeResult>& results);
+    bool IsTaskCanceled();
+    /// Worker's thread. Returns what to push, as the last thing for which the worker needs the helper.
+    QList<KxCropPanZoomKeyFrameParam> StoreTaskResults(const QList<IKxAutoReframeResult>& results,
+                                                       KeyFrameMap* keyFrames);
+
+    bool AreCountsValid(uint to) const;
+    void SetKeyFrame(qint64 frame, const QRectF& rect);
+    void FillFromResults(uint from, uint to);
+    void ApplyEditRange(uint from, uint to, const KrEditSegment& segment);
+    void RemoveKeyFramesIn(const KrEditSegment& segment);
+    void PushKeyFrames();
+    void RebuildDisplayResults();
+    void CopyResultsToDisplay();
+    void ShowSegment(const KrEditSegment& segment);
+
+    QFutureWatcher<void>* m_watcher;
+    /// Guards m_canceled and the hand-over of results and keyframes between the worker and the user-interface thread.
+    mutable QMutex m_mutex;
+    bool m_canceled = false;
+    /// While set, a rebuilt range is not pushed to the host.
+    bool m_suspendFlush = false;
+    /// Null when the working clip has no such keyframes.
+    IKxCropPanZoomKeyFrameHelper* m_keyFrameHelper = nullptr;
+    /// Owned.
+    IKxTimeline* m_workTimeline = nullptr;
+    IKxTimeline* m_sourceTimeline = nullptr;
+    IKxClip* m_clip = nullptr;
+    /// Stored by the worker while a task runs.
+    QList<IKxAutoReframeResult> m_results;
+    QList<IKxAutoReframeResult> m_displayResults;
+    /// By frame; the worker's alone while a task runs.
+    KeyFrameMap m_keyFrames;
+    /// In ascending order of starts.
+    QList<KrEditSegment> m_segments;
+    QMap<uint, QRectF> m_editPoints;
+    int m_frameCount = 0;
+    /// Frames a second; 0 when unknown.
+    float m_frameRate = 0.0f;
+    QUndoStack* m_undoStack;
+};

@@ -1,0 +1,169 @@
+#include <KrAutoReframe/Engine/KrAutoReframeHelper.h>
+
+#include <KxModel/IKxKeyFrameHelper.h>
+
+#include <algorithm>
+
+KrAutoReframeHelper::FrameRange KrAutoReframeHelper::DoAddKeyFrame(const uint& frame, const QRectF& rect)
+{
+    if (m_frameCount == 0) {
+        return {NoFrame, NoFrame};
+    }
+    m_editPoints[frame] = rect;
+    const qint64 radius = static_cast<qint64>(m_frameRate);
+    const qint64 low = std::max<qint64>(0, frame - radius);
+    const qint64 high = std::min<qint64>(m_frameCount - 1, frame + radius);
+    if (high < low) {
+        return {NoFrame, NoFrame};
+    }
+    KrEditSegment segment{static_cast<uint>(low), static_cast<int>(high - low), {frame}};
+    for (int index = 0; index < m_segments.size(); ++index) {
+        if (segment.Merge(m_segments.at(index))) {
+            m_segments.removeAt(index);
+        }
+    }
+    m_segments.append(segment);
+    std::stable_sort(m_segments.begin(), m_segments.end(),
+                     [](const KrEditSegment& a, const KrEditSegment& b) { return a.start < b.start; });
+    ApplyEditRange(segment.start, segment.End(), segment);
+    return {segment.start, segment.End()};
+}
+
+KrAutoReframeHelper::FrameRange KrAutoReframeHelper::DoRemoveKeyFrame(const uint& frame)
+{
+    for (int index = 0; index < m_segments.size(); ++index) {
+        const FrameRange oldRange(m_segments.at(index).start, m_segments.at(index).End());
+        KrEditSegment segment = m_segments.at(index);
+        if (!segment.RemovePoint(frame)) {
+            continue;
+        }
+        m_editPoints.remove(frame);
+        if (segment.points.empty()) {
+            m_segments.removeAt(index);
+            segment = KrEditSegment();
+        } else {
+            m_segments[index] = segment;
+        }
+        ApplyEditRange(oldRange.first, oldRange.second, segment);
+        return oldRange;
+    }
+    return {NoFrame, NoFrame};
+}
+
+void KrAutoReframeHelper::RestoreRange(uint from, uint to)
+{
+    WaitForTask();
+    if (from > to || !AreCountsValid(to)) {
+        return;
+    }
+    uint rest = from;
+    m_suspendFlush = true;
+    for (const KrEditSegment& segment : qAsConst(m_segments)) {
+        if (segment.start >= from && segment.End() <= to) {
+            rest = segment.End();
+            ApplyEditRange(from, rest, segment);
+        }
+    }
+    m_suspendFlush = false;
+    ApplyEditRange(rest, to, KrEditSegment());
+}
+
+bool KrAutoReframeHelper::AreCountsValid(uint to) const
+{
+    return m_frameCount > 0 && m_frameCount <= m_results.size() && to < static_cast<uint>(m_frameCount);
+}
+
+void KrAutoReframeHelper::SetKeyFrame(qint64 frame, const QRectF& rect)
+{
+    KxCropPanZoomKeyFrameParam keyFrame;
+    keyFrame.frame = frame;
+    keyFrame.kind = KxCropPanZoomKeyFrameParam::Linear;
+    keyFrame.cropRect = rect;
+    m_keyFrames.insert(frame, keyFrame);
+}
+
+void KrAutoReframeHelper::FillFromResults(uint from, uint to)
+{
+    if (from > to || !AreCountsValid(to)) {
+        return;
+    }
+    for (uint frame = from; frame <= to; ++frame) {
+        SetKeyFrame(frame, m_results.at(static_cast<int>(frame)).cropRect());
+    }
+}
+
+void KrAutoReframeHelper::ApplyEditRange(uint from, uint to, const KrEditSegment& segment)
+{
+    WaitForTask();
+    if (from > to || !AreCountsValid(to) || m_keyFrameHelper == nullptr) {
+        return;
+    }
+    if (segment.points.empty()) {
+        FillFromResults(from, to);
+    } else {
+        RemoveKeyFramesIn(segment);
+        FillFromResults(from, segment.start);
+        FillFromResults(segment.End(), to);
+        for (const uint point : segment.points) {
+            SetKeyFrame(point, m_editPoints.value(point));
+        }
+    }
+    if (!m_suspendFlush) {
+        PushKeyFrames();
+    }
+    RebuildDisplayResults();
+}
+
+void KrAutoReframeHelper::RemoveKeyFramesIn(const KrEditSegment& segment)
+{
+    if (segment.End() >= static_cast<uint>(m_frameCount)) {
+        return;
+    }
+    auto keyFrame = m_keyFrames.lowerBound(segment.start);
+    while (keyFrame != m_keyFrames.end() && keyFrame.key() <= segment.End()) {
+        keyFrame = m_keyFrames.erase(keyFrame);
+    }
+}
+
+void KrAutoReframeHelper::PushKeyFrames()
+{
+    m_keyFrameHelper->setKeyFrames(m_keyFrames.values());
+}
+
+void KrAutoReframeHelper::RebuildDisplayResults()
+{
+    CopyResultsToDisplay();
+    if (m_keyFrameHelper == nullptr) {
+        return;
+    }
+    for (const KrEditSegment& segment : qAsConst(m_segments)) {
+        ShowSegment(segment);
+    }
+}
+
+void KrAutoReframeHelper::CopyResultsToDisplay()
+{
+    const bool canAssignInPlace =
+        !m_segments.isEmpty() && m_displayResults.size() == m_results.size() && m_displayResults.isDetached();
+    if (canAssignInPlace) {
+        std::copy(m_results.cbegin(), m_results.cend(), m_displayResults.begin());
+    } else {
+        m_displayResults = m_results;
+    }
+}
+
+void KrAutoReframeHelper::ShowSegment(const KrEditSegment& segment)
+{
+    const uint end = std::min(segment.End() + 1, static_cast<uint>(m_displayResults.size()));
+    auto keyFrame = qAsConst(m_keyFrames).lowerBound(segment.start);
+    for (uint frame = segment.start; frame < end; ++frame) {
+        KxCropPanZoomKeyFrameParam shown;
+        if (keyFrame != m_keyFrames.constEnd() && keyFrame.key() == frame) {
+            shown = keyFrame.value();
+            ++keyFrame;
+        } else {
+            m_keyFrameHelper->interpolatedParam(frame, &shown);
+        }
+        m_displayResults[static_cast<int>(frame)].setCropRect(shown.cropRect);
+    }
+}

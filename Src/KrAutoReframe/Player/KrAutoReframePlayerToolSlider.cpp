@@ -1,0 +1,209 @@
+#include <KrAutoReframe/Player/KrAutoReframePlayerToolSlider.h>
+
+#include <QDebug>
+#include <QEvent>
+#include <QMutexLocker>
+#include <QPainter>
+#include <QPainterPath>
+#include <QPen>
+#include <QVariant>
+
+#include <algorithm>
+
+namespace
+{
+
+constexpr int SmallThicknessPx = 8;
+
+void SetSliderType(QWidget& slider, const QString& type)
+{
+    slider.setProperty("sliderType", type);
+}
+
+} // namespace
+
+KrAutoReframePlayerToolSlider* KrAutoReframePlayerToolSlider::CreateNormalSlider(QWidget* parent,
+                                                                                 Qt::Orientation orientation)
+{
+    auto* const slider = new KrAutoReframePlayerToolSlider(parent, orientation);
+    SetSliderType(*slider, QStringLiteral("normal"));
+    return slider;
+}
+
+KrAutoReframePlayerToolSlider* KrAutoReframePlayerToolSlider::CreateSmallSlider(QWidget* parent,
+                                                                                Qt::Orientation orientation)
+{
+    auto* const slider = new KrAutoReframePlayerToolSlider(parent, orientation);
+    if (orientation == Qt::Horizontal) {
+        slider->setFixedHeight(SmallThicknessPx);
+    } else {
+        slider->setFixedWidth(SmallThicknessPx);
+    }
+    SetSliderType(*slider, QStringLiteral("small"));
+    return slider;
+}
+
+KrAutoReframePlayerToolSlider::KrAutoReframePlayerToolSlider(QWidget* parent, Qt::Orientation orientation)
+    : KxToolSlider(parent, orientation)
+    , m_markWidget(new QWidget(this))
+{
+    setObjectName(QStringLiteral("KrUIStyle_ToolBarSlider"));
+    m_markWidget->setObjectName(QStringLiteral("KrUIStyle_ToolBarSlider_MarkWidget"));
+    m_markWidget->stackUnder(chunkWidget());
+    chunkWidget()->installEventFilter(this);
+    m_markWidget->installEventFilter(this);
+}
+
+KrAutoReframePlayerToolSlider::~KrAutoReframePlayerToolSlider() = default;
+
+void KrAutoReframePlayerToolSlider::SetEditFrames(const QList<uint>& frames)
+{
+    const QMutexLocker lock(&m_mutex);
+    m_editFrames = frames;
+    if (m_editFrames.isEmpty()) {
+        return;
+    }
+    std::sort(m_editFrames.begin(), m_editFrames.end());
+    if (qFuzzyCompare(static_cast<double>(m_editFrames.constLast()), duration() - 1.0)) {
+        m_editFrames.append(static_cast<uint>(duration()));
+    }
+    update();
+}
+
+void KrAutoReframePlayerToolSlider::SetMarkStyle(const QColor& penColor, double penWidth, const QColor& fillColor,
+                                                 int markWidth)
+{
+    m_markPenColor = penColor;
+    m_markPenWidth = penWidth;
+    m_markFillColor = fillColor;
+    m_markWidth = markWidth;
+}
+
+void KrAutoReframePlayerToolSlider::SetChunkStyle(const QColor& color1, int width, const QColor& color2,
+                                                  const QColor& editedColor)
+{
+    m_chunkColor1 = color1;
+    m_chunkStyleWidth = width;
+    m_chunkColor2 = color2;
+    m_editedChunkColor = editedColor;
+}
+
+void KrAutoReframePlayerToolSlider::slotOnAddOneEdit(uint frameIndex)
+{
+    m_editFrames.removeAll(frameIndex);
+    m_editFrames.append(frameIndex);
+    update();
+}
+
+void KrAutoReframePlayerToolSlider::slotOnDelOneEdit(uint frameIndex)
+{
+    m_editFrames.removeAll(frameIndex);
+    update();
+}
+
+void KrAutoReframePlayerToolSlider::slotOnDelAllEdit()
+{
+    m_editFrames.clear();
+    update();
+}
+
+void KrAutoReframePlayerToolSlider::slotOnToPreEdit()
+{
+    const auto position = static_cast<uint>(value());
+    std::sort(m_editFrames.begin(), m_editFrames.end());
+    const auto found =
+        std::find_if(m_editFrames.crbegin(), m_editFrames.crend(), [position](uint frame) { return frame < position; });
+    if (found != m_editFrames.crend()) {
+        const uint frame = *found;
+        MoveToEdit(frame);
+        qDebug() << "Find Pre Edit Pos:" << frame;
+    }
+}
+
+void KrAutoReframePlayerToolSlider::slotOnToNextEdit()
+{
+    const double position = value();
+    std::sort(m_editFrames.begin(), m_editFrames.end());
+    const auto found = std::upper_bound(m_editFrames.cbegin(), m_editFrames.cend(), static_cast<uint>(position));
+    if (found == m_editFrames.cend()) {
+        qDebug() << "Not found Next Edit Point:";
+        return;
+    }
+    const uint frame = *found;
+    MoveToEdit(frame);
+    qDebug() << "Find Next Edit Pos:" << frame;
+}
+
+void KrAutoReframePlayerToolSlider::slotRealCurrentFrame(uint frameIndex)
+{
+    m_currentFrame = frameIndex;
+}
+
+void KrAutoReframePlayerToolSlider::MoveToEdit(uint frame)
+{
+    // Positions are handed over in single precision, which is exact up to frame 16,777,216.
+    setValue(static_cast<double>(static_cast<float>(frame)), true);
+}
+
+bool KrAutoReframePlayerToolSlider::eventFilter(QObject* watched, QEvent* event)
+{
+    const bool isFiltered = QObject::eventFilter(watched, event);
+    if (event->type() != QEvent::Paint) {
+        return isFiltered;
+    }
+    if (watched == chunkWidget()) {
+        PaintChunk();
+        return true;
+    }
+    if (watched == m_markWidget) {
+        PaintMarks();
+        return true;
+    }
+    return isFiltered;
+}
+
+void KrAutoReframePlayerToolSlider::resizeEvent(QResizeEvent* event)
+{
+    m_markWidget->setGeometry(rect());
+    KxToolSlider::resizeEvent(event);
+    m_chunkRadius = std::max(chunkWidget()->width() / 2, chunkWidget()->height() / 2);
+}
+
+void KrAutoReframePlayerToolSlider::PaintChunk()
+{
+    if (!m_editFrames.contains(m_currentFrame)) {
+        return;
+    }
+    QWidget* const chunk = chunkWidget();
+    const QPointF centre = QPointF(chunk->rect().topLeft()) + QPointF(m_chunkRadius, m_chunkRadius);
+    QPainter painter(chunk);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(m_editedChunkColor);
+    painter.drawEllipse(centre, m_chunkRadius + 0.5, m_chunkRadius + 0.5);
+}
+
+void KrAutoReframePlayerToolSlider::PaintMarks()
+{
+    QPainter painter(m_markWidget);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(m_markFillColor);
+    painter.setPen(QPen(m_markPenColor, m_markPenWidth, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
+    for (const uint frame : qAsConst(m_editFrames)) {
+        QPainterPath path;
+        path.addRect(QRectF(MarkPosition(frame), rect().top(), m_markWidth, rect().height()));
+        painter.drawPath(path);
+    }
+}
+
+int KrAutoReframePlayerToolSlider::MarkPosition(uint frame) const
+{
+    if (frame == 0) {
+        return 0;
+    }
+    if (frame == m_currentFrame) {
+        return static_cast<int>(chunkWidget()->x() + m_chunkRadius);
+    }
+    const int chunkExtent = GetOrientation() == Qt::Horizontal ? GetChunkWidth() : GetChunkHeight();
+    const int position = static_cast<int>(GetWidth() * (frame / duration()));
+    return std::max(0, std::min(position + chunkExtent / 2, GetWidth()));
+}

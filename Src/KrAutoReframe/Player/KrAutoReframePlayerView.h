@@ -1,0 +1,82 @@
+#pragma once
+
+#include <KrAutoReframe/Engine/KrAutoReframeHelper.h>
+
+#include <KxWidgets/KxWidget.h>
+
+#include <QSharedPointer>
+
+#include <memory>
+
+class KrAutoReframePlayerControlBar;
+class KxMediaPlayerPresenter;
+class KxMediaPlayerWidget;
+class ShadowForm;
+
+/// The same helper with a share in its life, as the player view takes it; null for null.
+QSharedPointer<KrAutoReframeHelper> ShareHelper(const std::shared_ptr<KrAutoReframeHelper>& helper);
+
+/// The preview: a player with its control bar, and over the picture the crop of the current frame, which the person can
+/// move. Moving it makes the frame an edited one. It wires overlay, bar, player and helper together and owns no
+/// keyframes.
+///
+/// Without a helper it only plays. User-interface thread.
+class KrAutoReframePlayerView : public KxWidget
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(KrAutoReframePlayerView)
+
+public:
+    KrAutoReframePlayerView(const QSharedPointer<KrAutoReframeHelper>& helper, QWidget* parent);
+    explicit KrAutoReframePlayerView(QWidget* parent);
+    ~KrAutoReframePlayerView() override;
+
+    void Pause();
+    void Play();
+
+    /// Shows the reframed timeline, or the source with the crop over it: the crop is edited over the whole picture
+    /// only. Without `fromStart` the player goes on at the frame that it showed. False, with nothing done, when there
+    /// are no results.
+    bool SwitchTimeline(bool reframed, bool fromStart);
+    /// Lays the overlay over the video picture. Whoever moves the window calls it, as the overlay is a window of its
+    /// own. The picture's place is taken as the player tells it, only its size is turned from device pixels into the
+    /// window's.
+    void UpdateOverlayGeometry();
+    /// Sizes what stands for the picture in the overlay.
+    void UpdatePictureSize();
+    /// Shows the crop of `frame` and brings buttons and marks up to date. A negative frame changes nothing; a frame
+    /// just after the last result shows the last one, a later one changes the marks alone.
+    void RefreshFrame(int frame);
+
+protected:
+    void moveEvent(QMoveEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    /// Hides the overlay and no more.
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void InitLayout();
+    void ConnectSignals();
+
+    void PauseIfPlaying();
+    /// Neither can an edit while the picture moves on be aimed, nor does its outline keep still: while playing no frame
+    /// counts as edited, and the buttons that work on the frame are off.
+    void RefreshOverlay(int frame);
+    void RefreshButtons(int frame);
+    void SeekTo(uint frame);
+
+    void HandleTimelineOpened();
+    void HandleRectChanged(const QRectF& rect);
+    void HandleUndo();
+    void HandleRedo();
+    void HandleDelete();
+    void HandlePrevious();
+    void HandleNext();
+
+    /// Belongs to the player widget.
+    KxMediaPlayerPresenter* m_presenter = nullptr;
+    KxMediaPlayerWidget* m_playerWidget = nullptr;
+    ShadowForm* m_shadowForm = nullptr;
+    KrAutoReframePlayerControlBar* m_controlBar = nullptr;
+    QSharedPointer<KrAutoReframeHelper> m_helper;
+};

@@ -1,9 +1,0 @@
-#include "SendClickEvent.h"
-
-#include <KxCore/KrAutoReframeClickEvent.h>
-
-void SendClickEvent(const QString& name)
-{
-    KrAutoReframeClickEvent event(name);
-    event.sendEvent();
-}

@@ -1,0 +1,285 @@
+#include <KxMedia/Container/KxInputFile.h>
+
+#include <KxMedia/Container/KxAvError.h>
+#include <KxMedia/Container/KxAvLog.h>
+#include <KxMedia/Container/KxClaimedSize.h>
+
+extern "C" {
+#include <libavutil/avstring.h>
+}
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <algorithm>
+
+namespace
+{
+
+constexpr const char* Containers =
+    "mov,mp4,m4a,3gp,3g2,mj2,matroska,webm,avi,mpegts,mpeg,mpegvideo,flv,asf,ogg,mxf,dv,gif,apng,wtv,yuv4mpegpipe,ivf,"
+    "h264,hevc,m4v,h263,vc1,vc1test,mjpeg,obu,av1,dirac,nut,rm,gxf,mp3,wav,w64,flac,aac,ac3,eac3,aiff,amr,caf,au";
+constexpr int MostStreams = 64;
+constexpr int MostReadingErrors = 10;
+constexpr int64_t ProbeBytes = 16 * 1024 * 1024;
+constexpr int64_t ProbeUs = 10 * AV_TIME_BASE;
+constexpr std::chrono::seconds OpeningLimit{30};
+
+// Demuxers ask for the files that a list or a reference names.
+int RefuseOpening(AVFormatContext*, AVIOContext**, const char*, int, AVDictionary**)
+{
+    return AVERROR(EPERM);
+}
+
+QByteArray Head(const QString& path)
+{
+    constexpr qint64 enough = 256;
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.read(enough) : QByteArray();
+}
+
+class Options
+{
+public:
+    Options() = default;
+    Options(const Options&) = delete;
+    Options& operator=(const Options&) = delete;
+    ~Options() { av_dict_free(&m_options); }
+    void Set(const char* key, const char* value) { av_dict_set(&m_options, key, value, 0); }
+    void Set(const char* key, int64_t value) { av_dict_set_int(&m_options, key, value, 0); }
+    AVDictionary** Get() { return &m_options; }
+
+private:
+    AVDictionary* m_options = nullptr;
+};
+
+QString ReasonToRefuse(const AVInputFormat& format)
+{
+    const QLatin1String name(format.name);
+    if (name.endsWith(QLatin1String("_pipe")) || name == QLatin1String("image2") || name == QLatin1String("ico")) {
+        return QStringLiteral("it is a single picture, not a video");
+    }
+    if (name.startsWith(QLatin1String("hls")) || name == QLatin1String("concat") || name == QLatin1String("dash") ||
+        name == QLatin1String("imf") || name == QLatin1String("webm_dash_manifest") || name == QLatin1String("sdp")) {
+        return QStringLiteral("it is a list of other files, not a video");
+    }
+    return QStringLiteral("it is not a video file");
+}
+
+bool IsPicture(const AVStream& stream)
+{
+    constexpr int stillPictures =
+        AV_DISPOSITION_ATTACHED_PIC | AV_DISPOSITION_TIMED_THUMBNAILS | AV_DISPOSITION_STILL_IMAGE;
+    return (stream.disposition & stillPictures) != 0;
+}
+
+bool IsTooLarge(const AVStream& stream)
+{
+    return stream.codecpar->codec_type == AVMEDIA_TYPE_VIDEO && !IsPicture(stream) &&
+           int64_t{stream.codecpar->width} * stream.codecpar->height > KxInputFile::LargestPicturePixels;
+}
+
+bool IsBetter(const AVStream& a, const AVStream& b)
+{
+    const bool isDefaultA = (a.disposition & AV_DISPOSITION_DEFAULT) != 0;
+    const bool isDefaultB = (b.disposition & AV_DISPOSITION_DEFAULT) != 0;
+    if (isDefaultA != isDefaultB) {
+        return isDefaultA;
+    }
+    return int64_t{a.codecpar->width} * a.codecpar->height > int64_t{b.codecpar->width} * b.codecpar->height;
+}
+
+} // namespace
+
+KxResult<std::unique_ptr<KxInputFile>> KxInputFile::Open(const QString& path, const KxCancelToken& cancel)
+{
+    KxRouteAvLog();
+    std::unique_ptr<KxInputFile> input(new KxInputFile(path, cancel));
+    input->m_watch.deadline = std::chrono::steady_clock::now() + OpeningLimit;
+    for (const auto step : {&KxInputFile::OpenFile, &KxInputFile::OpenContainer, &KxInputFile::ReadStreamInfo}) {
+        if (const KxError reason = (input.get()->*step)()) {
+            return KxResult<std::unique_ptr<KxInputFile>>::Failure(Sentence(path, *reason));
+        }
+    }
+    input->m_watch.deadline.reset();
+    input->ChooseStreams();
+    return input;
+}
+
+KxInputFile::KxInputFile(const QString& path, const KxCancelToken& cancel)
+    : m_path(path)
+    , m_watch{cancel, std::nullopt}
+{
+}
+
+KxInputFile::~KxInputFile()
+{
+    m_context.reset();
+    avio_closep(&m_file);
+}
+
+QString KxInputFile::Sentence(const QString& path, const QString& reason)
+{
+    const QString name = QFileInfo(path).fileName();
+    return QStringLiteral("Cannot open %1: %2.").arg(name.isEmpty() ? QDir::toNativeSeparators(path) : name, reason);
+}
+
+int KxInputFile::IsInterrupted(void* watch)
+{
+    const Watch& state = *static_cast<const Watch*>(watch);
+    return state.cancel.IsCancelled() || (state.deadline && std::chrono::steady_clock::now() > *state.deadline) ? 1 : 0;
+}
+
+QString KxInputFile::Failure(int error) const
+{
+    if (IsCancelled()) {
+        return QStringLiteral("it was cancelled");
+    }
+    if (error == AVERROR_EXIT) {
+        return QStringLiteral("reading it takes too long");
+    }
+    // Demuxers report whatever comes to hand where a file makes no sense.
+    const bool isNoFaultOfTheFile = error == AVERROR(ENOMEM) || error == AVERROR(EIO) || error == AVERROR_PATCHWELCOME;
+    return isNoFaultOfTheFile ? KxAvErrorText(error) : QStringLiteral("it is damaged or incomplete");
+}
+
+KxError KxInputFile::OpenFile()
+{
+    const QFileInfo info(m_path);
+    if (!info.exists()) {
+        return info.isSymLink() ? QStringLiteral("it is a link to a file that does not exist")
+                                : QStringLiteral("there is no such file");
+    }
+    if (info.isDir()) {
+        return QStringLiteral("it is a folder");
+    }
+    if (!info.isFile()) {
+        return QStringLiteral("it is not a regular file");
+    }
+    if (!info.isReadable()) {
+        return QStringLiteral("permission is denied");
+    }
+    m_fileSize = info.size();
+    if (m_fileSize == 0) {
+        return QStringLiteral("it is empty");
+    }
+    m_isCutOff = KxClaimedSize(Head(m_path)).value_or(0) > m_fileSize;
+    Options options;
+    options.Set("protocol_whitelist", "file");
+    const QByteArray url = QByteArrayLiteral("file:") + info.absoluteFilePath().toUtf8();
+    const AVIOInterruptCB interrupt{&IsInterrupted, &m_watch};
+    const int error = avio_open2(&m_file, url.constData(), AVIO_FLAG_READ, &interrupt, options.Get());
+    return error < 0 ? KxError(IsCancelled() ? Failure(error) : KxAvErrorText(error)) : KxError();
+}
+
+KxError KxInputFile::OpenContainer()
+{
+    const QByteArray url = QByteArrayLiteral("file:") + QFileInfo(m_path).absoluteFilePath().toUtf8();
+    const AVInputFormat* format = nullptr;
+    const int score = av_probe_input_buffer2(m_file, &format, url.constData(), nullptr, 0, 0);
+    if (score < 0 || format == nullptr) {
+        return IsCancelled() ? Failure(score) : QStringLiteral("it is not a video file");
+    }
+    if (av_match_list(format->name, Containers, ',') <= 0) {
+        return ReasonToRefuse(*format);
+    }
+    AVFormatContext* context = avformat_alloc_context();
+    if (context == nullptr) {
+        return KxAvErrorText(AVERROR(ENOMEM));
+    }
+    context->pb = m_file;
+    context->io_open = &RefuseOpening;
+    context->interrupt_callback = {&IsInterrupted, &m_watch};
+    Options options;
+    options.Set("format_whitelist", Containers);
+    options.Set("protocol_whitelist", "file");
+    options.Set("max_streams", MostStreams);
+    options.Set("probesize", ProbeBytes);
+    options.Set("analyzeduration", ProbeUs);
+    const int error = avformat_open_input(&context, url.constData(), format, options.Get());
+    if (error < 0) {
+        // Guessed by the name alone.
+        const bool isGuess = score <= AVPROBE_SCORE_EXTENSION && !IsCancelled();
+        return isGuess ? QStringLiteral("it is not a video file") : Failure(error);
+    }
+    m_context.reset(context);
+    return std::nullopt;
+}
+
+KxError KxInputFile::ReadStreamInfo()
+{
+    const auto tooLarge = [this]() -> KxError {
+        for (unsigned i = 0; i < m_context->nb_streams; ++i) {
+            const AVStream& stream = *m_context->streams[i];
+            if (IsTooLarge(stream)) {
+                return QStringLiteral("its pictures are too large (%1 x %2)")
+                    .arg(stream.codecpar->width)
+                    .arg(stream.codecpar->height);
+            }
+        }
+        return std::nullopt;
+    };
+    if (KxError reason = tooLarge()) {
+        return reason;
+    }
+    const unsigned streams = m_context->nb_streams;
+    std::vector<AVDictionary*> options(streams, nullptr);
+    for (AVDictionary*& option : options) {
+        av_dict_set_int(&option, "max_pixels", LargestPicturePixels, 0);
+        av_dict_set_int(&option, "threads", 1, 0);
+    }
+    const int error = avformat_find_stream_info(m_context.get(), options.empty() ? nullptr : options.data());
+    for (AVDictionary*& option : options) {
+        av_dict_free(&option);
+    }
+    if (error < 0 || IsCancelled()) {
+        return Failure(error);
+    }
+    return tooLarge();
+}
+
+void KxInputFile::ChooseStreams()
+{
+    bool hasPicture = false;
+    for (unsigned i = 0; i < m_context->nb_streams; ++i) {
+        AVStream* stream = m_context->streams[i];
+        const AVCodecParameters& codec = *stream->codecpar;
+        if (codec.codec_type == AVMEDIA_TYPE_AUDIO && codec.codec_id != AV_CODEC_ID_NONE &&
+            codec.ch_layout.nb_channels > 0 && codec.sample_rate > 0) {
+            m_audioStreams.push_back(stream);
+        } else if (codec.codec_type == AVMEDIA_TYPE_VIDEO) {
+            hasPicture = hasPicture || IsPicture(*stream);
+            if (!IsPicture(*stream) && (m_videoStream == nullptr || IsBetter(*stream, *m_videoStream))) {
+                m_videoStream = stream;
+            }
+        }
+    }
+    m_reasonForNoVideo = !m_audioStreams.empty() ? QStringLiteral("it has sound but no moving picture")
+                         : hasPicture            ? QStringLiteral("it is a single picture, not a video")
+                                                 : QStringLiteral("it has no moving picture");
+}
+
+void KxInputFile::Select(const AVStream& stream)
+{
+    for (unsigned i = 0; i < m_context->nb_streams; ++i) {
+        m_context->streams[i]->discard = m_context->streams[i] == &stream ? AVDISCARD_DEFAULT : AVDISCARD_ALL;
+    }
+}
+
+KxReadStatus KxInputFile::Read(AVPacket& packet)
+{
+    for (int attempt = 0; attempt < MostReadingErrors; ++attempt) {
+        const int error = IsCancelled() ? AVERROR_EXIT : av_read_frame(m_context.get(), &packet);
+        if (error >= 0) {
+            return KxReadStatus::Picture;
+        }
+        if (IsCancelled()) {
+            return KxReadStatus::Cancelled;
+        }
+        if (error == AVERROR_EOF) {
+            return KxReadStatus::End;
+        }
+    }
+    return KxReadStatus::Failed;
+}

@@ -1,0 +1,73 @@
+#pragma once
+
+#include <KxCore/KxCancelToken.h>
+#include <KxCore/KxResult.h>
+#include <KxMedia/Container/KxAvHandles.h>
+#include <KxMedia/Container/KxReadStatus.h>
+
+#include <QSize>
+#include <QString>
+
+#include <chrono>
+#include <memory>
+#include <optional>
+#include <vector>
+
+/// A user's file, opened so that nothing but that file is read: a regular file of a real container format, no lists
+/// that name other files, no network, a bound on streams, on the size of pictures and on the time that opening takes.
+/// Cancelled by the token. One thread at a time.
+class KxInputFile
+{
+public:
+    /// Larger pictures are refused: their frames alone would fill the memory of a small machine.
+    static constexpr qint64 LargestPicturePixels = qint64{8192} * 8192;
+
+    /// The sentence names the file and the reason.
+    static KxResult<std::unique_ptr<KxInputFile>> Open(const QString& path, const KxCancelToken& cancel);
+    ~KxInputFile();
+
+    /// "Cannot open clip.mp4: <reason>."
+    static QString Sentence(const QString& path, const QString& reason);
+
+    const QString& Path() const { return m_path; }
+    qint64 FileSize() const { return m_fileSize; }
+    /// The file says in front that it is longer than it is.
+    bool IsCutOff() const { return m_isCutOff; }
+    AVFormatContext& Context() const { return *m_context; }
+    /// The stream of moving pictures; null without one.
+    AVStream* VideoStream() const { return m_videoStream; }
+    const std::vector<AVStream*>& AudioStreams() const { return m_audioStreams; }
+    /// Why there is no VideoStream(): "it has sound but no moving picture".
+    const QString& ReasonForNoVideo() const { return m_reasonForNoVideo; }
+
+    /// Packets of other streams are left out from now on, which is quicker.
+    void Select(const AVStream& stream);
+    /// The next packet. `Picture` stands for "a packet was delivered".
+    KxReadStatus Read(AVPacket& packet);
+    bool IsCancelled() const { return m_watch.cancel.IsCancelled(); }
+    const KxCancelToken& Cancel() const { return m_watch.cancel; }
+
+private:
+    struct Watch {
+        KxCancelToken cancel;
+        std::optional<std::chrono::steady_clock::time_point> deadline;
+    };
+
+    KxInputFile(const QString& path, const KxCancelToken& cancel);
+    KxError OpenFile();
+    KxError OpenContainer();
+    KxError ReadStreamInfo();
+    void ChooseStreams();
+    QString Failure(int error) const;
+    static int IsInterrupted(void* watch);
+
+    QString m_path;
+    qint64 m_fileSize = 0;
+    bool m_isCutOff = false;
+    Watch m_watch;
+    AVIOContext* m_file = nullptr;
+    KxAvInput m_context;
+    AVStream* m_videoStream = nullptr;
+    std::vector<AVStream*> m_audioStreams;
+    QString m_reasonForNoVideo;
+};

@@ -1,0 +1,75 @@
+#include <KxMedia/Container/KxMp4Muxer.h>
+
+namespace
+{
+
+struct DictionaryDelete {
+    void operator()(AVDictionary* dictionary) const { av_dict_free(&dictionary); }
+};
+
+} // namespace
+
+KxMp4Muxer::KxMp4Muxer(QString path)
+    : m_path(std::move(path))
+{
+}
+
+int KxMp4Muxer::AddStream(const AVCodecContext& encoder)
+{
+    if (m_context == nullptr) {
+        AVFormatContext* context = nullptr;
+        // A name with a colon in it must not be taken for a protocol. The path stays the muxer's own: it opens it once
+        // more to move the index.
+        const QByteArray url = QByteArrayLiteral("file:") + m_path.toUtf8();
+        const int error = avformat_alloc_output_context2(&context, nullptr, "mp4", url.constData());
+        if (error < 0) {
+            return error;
+        }
+        m_context.reset(context);
+    }
+    AVStream* const stream = avformat_new_stream(m_context.get(), nullptr);
+    if (stream == nullptr) {
+        return AVERROR(ENOMEM);
+    }
+    m_encoderTimeBases.push_back(encoder.time_base);
+    stream->time_base = encoder.time_base;
+    stream->sample_aspect_ratio = encoder.sample_aspect_ratio;
+    stream->avg_frame_rate = encoder.framerate;
+    return avcodec_parameters_from_context(stream->codecpar, &encoder);
+}
+
+int KxMp4Muxer::Begin()
+{
+    int error = avio_open(&m_context->pb, m_context->url, AVIO_FLAG_WRITE);
+    if (error < 0) {
+        return error;
+    }
+    AVDictionary* options = nullptr;
+    error = av_dict_set(&options, "movflags", "+faststart", 0);
+    if (error >= 0) {
+        error = avformat_write_header(m_context.get(), &options);
+    }
+    const std::unique_ptr<AVDictionary, DictionaryDelete> leftOptions(options);
+    m_hasBegun = error >= 0;
+    return error < 0 ? error : 0;
+}
+
+int KxMp4Muxer::Write(AVPacket& packet, int stream)
+{
+    const AVStream& target = *m_context->streams[stream];
+    av_packet_rescale_ts(&packet, m_encoderTimeBases[static_cast<size_t>(stream)], target.time_base);
+    packet.stream_index = stream;
+    const int error = av_interleaved_write_frame(m_context.get(), &packet);
+    return error < 0 ? error : m_context->pb->error;
+}
+
+int KxMp4Muxer::End()
+{
+    int error = av_write_trailer(m_context.get());
+    avio_flush(m_context->pb);
+    if (error >= 0) {
+        error = m_context->pb->error;
+    }
+    const int closing = avio_closep(&m_context->pb);
+    return error < 0 ? error : closing;
+}

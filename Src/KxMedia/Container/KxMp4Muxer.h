@@ -1,0 +1,31 @@
+#pragma once
+
+#include <KxMedia/Container/KxAvHandles.h>
+
+#include <QString>
+
+#include <vector>
+
+/// The container side of an MP4 file whose index stands at its front. Every failure is a negative libav* error. One
+/// thread at a time.
+class KxMp4Muxer
+{
+public:
+    explicit KxMp4Muxer(QString path);
+
+    /// Before Begin(). The stream's number is that of the order in which streams were added.
+    int AddStream(const AVCodecContext& encoder);
+    /// Opens the file over what has its name and writes the header.
+    int Begin();
+    bool HasBegun() const { return m_hasBegun; }
+    /// `packet` is in the time base of its encoder and blank afterwards.
+    int Write(AVPacket& packet, int stream);
+    /// Writes the rest, moves the index to the front and closes the file: errors that a disk tells late are seen here.
+    int End();
+
+private:
+    QString m_path;
+    KxAvOutput m_context;
+    std::vector<AVRational> m_encoderTimeBases;
+    bool m_hasBegun = false;
+};

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <KxCore/KxResult.h>
+#include <KxMedia/Picture/KxVideoFrame.h>
+
+#include <QRectF>
+
+#include <memory>
+
+/// Cuts a rectangle out of decoded pictures and scales it, once, to an upright 8-bit 4:2:0 picture of a fixed size.
+///
+/// The rectangle is met to a fraction of a pixel, in luma and chroma alike, so that a slow pan moves evenly. Pictures
+/// in high dynamic range (PQ, HLG) are tone-mapped to BT.709. One thread at a time.
+class KXMEDIA_API KxFrameCutter
+{
+public:
+    /// `size` is that of the result: even and positive.
+    explicit KxFrameCutter(const QSize& size);
+    ~KxFrameCutter();
+
+    /// `crop` in fractions of the upright picture; what reaches outside is moved back inside. The result keeps the
+    /// picture's place on the frame grid, is upright, has square pixels and carries the colour tags of the source
+    /// (those of BT.709 after tone mapping).
+    KxResult<KxVideoFrame> Cut(const KxVideoFrame& picture, const QRectF& crop);
+
+private:
+    class Impl;
+    std::unique_ptr<Impl> m_impl;
+};

@@ -1,0 +1,186 @@
+#include <KxMedia/Read/KxAudioReader.h>
+
+#include <KxMedia/Read/KxAudioTrack.h>
+#include <KxMedia/Read/KxVideoSource.h>
+
+#include <algorithm>
+#include <cmath>
+
+namespace
+{
+
+constexpr int BlocksASecond = 25;
+
+struct Line {
+    std::optional<qint64> zeroUs;
+    std::vector<KxVideoPackets::Jump> jumps;
+};
+
+// Where the file has pictures, the sound is placed against the first of them.
+KxResult<Line> MeasureLine(const QString& path, const KxCancelToken& cancel)
+{
+    KxResult<std::unique_ptr<KxInputFile>> input = KxInputFile::Open(path, cancel);
+    if (!input) {
+        return KxResult<Line>::Failure(input.Sentence());
+    }
+    if ((*input)->VideoStream() == nullptr) {
+        return Line{};
+    }
+    const KxResult<std::unique_ptr<KxVideoSource>> source =
+        KxVideoSource::Open(std::move(*input), KxVideoDecoder::Effort::Full);
+    if (!source) {
+        return KxResult<Line>::Failure(source.Sentence());
+    }
+    return Line{(*source)->Facts().video->firstPictureUs, (*source)->Packets().Jumps()};
+}
+
+} // namespace
+
+class KxAudioReader::Impl
+{
+public:
+    Impl(std::unique_ptr<KxAudioTrack> audioTrack, const Format& wanted)
+        : track(std::move(audioTrack))
+        , format(wanted)
+    {
+    }
+
+    KxReadStatus Next(KxAudioBlock& block);
+    void Seek(qint64 position);
+    KxReadStatus ReadRun();
+    void MakeBlock(qint64 frames, KxAudioBlock& block);
+
+    qint64 FramesIn(const KxAudioTrack::Run& some) const
+    {
+        return static_cast<qint64>(some.samples.size()) / format.channels;
+    }
+
+    std::unique_ptr<KxAudioTrack> track;
+    Format format;
+    /// Position of the next sample to deliver; nothing before the first sound.
+    std::optional<qint64> next;
+    /// Not delivered yet; begins at or after `next`, and in between is silence.
+    KxAudioTrack::Run run;
+    bool hasFailedToSeek = false;
+};
+
+KxReadStatus KxAudioReader::Impl::ReadRun()
+{
+    for (;;) {
+        KxAudioTrack::Run more;
+        const KxReadStatus status = track->Next(more);
+        if (status != KxReadStatus::Picture) {
+            return status;
+        }
+        // Before time zero, or before the place that was sought, or told twice.
+        const qint64 from = std::max<qint64>(0, next.value_or(0));
+        const qint64 late = std::clamp<qint64>(from - more.position, 0, FramesIn(more));
+        more.samples.erase(more.samples.begin(),
+                           more.samples.begin() + static_cast<std::ptrdiff_t>(late * format.channels));
+        more.position += late;
+        if (!more.samples.empty()) {
+            run = std::move(more);
+            next = next.value_or(run.position);
+            return status;
+        }
+    }
+}
+
+KxReadStatus KxAudioReader::Impl::Next(KxAudioBlock& block)
+{
+    if (hasFailedToSeek) {
+        return KxReadStatus::Failed;
+    }
+    const qint64 blockFrames = std::max(1, format.sampleRateHz / BlocksASecond);
+    block.channels = format.channels;
+    block.samples.clear();
+    while (static_cast<qint64>(block.samples.size()) < blockFrames * format.channels) {
+        if (run.samples.empty()) {
+            const KxReadStatus status = ReadRun();
+            if (status != KxReadStatus::Picture) {
+                const bool isLast = status == KxReadStatus::End && !block.samples.empty();
+                return isLast ? KxReadStatus::Picture : status;
+            }
+        }
+        MakeBlock(blockFrames, block);
+    }
+    return KxReadStatus::Picture;
+}
+
+void KxAudioReader::Impl::MakeBlock(qint64 frames, KxAudioBlock& block)
+{
+    const qint64 had = static_cast<qint64>(block.samples.size()) / format.channels;
+    if (had == 0) {
+        block.timeUs = *next * 1000000 / format.sampleRateHz;
+    }
+    const qint64 silence = std::min(frames - had, run.position - *next);
+    block.samples.insert(block.samples.end(), static_cast<size_t>(silence * format.channels), 0.0F);
+    const qint64 sound = std::min(frames - had - silence, FramesIn(run));
+    const auto end = run.samples.begin() + static_cast<std::ptrdiff_t>(sound * format.channels);
+    block.samples.insert(block.samples.end(), run.samples.begin(), end);
+    run.samples.erase(run.samples.begin(), end);
+    run.position += sound;
+    *next += silence + sound;
+}
+
+void KxAudioReader::Impl::Seek(qint64 position)
+{
+    const qint64 wanted = std::max<qint64>(0, position);
+    for (qint64 back = 0; back < 64 * qint64{format.sampleRateHz}; back = back * 4 + format.sampleRateHz) {
+        run = {};
+        next = wanted;
+        if (wanted - back <= 0 || !track->SeekBefore(wanted - back)) {
+            break;
+        }
+        const KxReadStatus status = ReadRun();
+        if (status == KxReadStatus::Cancelled || (status == KxReadStatus::Picture && run.position <= wanted)) {
+            return;
+        }
+    }
+    run = {};
+    next = wanted;
+    hasFailedToSeek = !track->Rewind();
+}
+
+KxAudioReader::KxAudioReader(std::unique_ptr<Impl> impl)
+    : m_impl(std::move(impl))
+{
+}
+
+KxAudioReader::~KxAudioReader() = default;
+
+KxResult<std::unique_ptr<KxAudioReader>> KxAudioReader::Open(const QString& path, int stream, const Format& format,
+                                                             const KxCancelToken& cancel)
+{
+    using Result = KxResult<std::unique_ptr<KxAudioReader>>;
+    KxResult<Line> line = MeasureLine(path, cancel);
+    if (!line) {
+        return Result::Failure(line.Sentence());
+    }
+    KxResult<std::unique_ptr<KxInputFile>> input = KxInputFile::Open(path, cancel);
+    if (!input) {
+        return Result::Failure(input.Sentence());
+    }
+    const std::vector<AVStream*>& streams = (*input)->AudioStreams();
+    if (stream < 0 || static_cast<size_t>(stream) >= streams.size()) {
+        return Result::Failure(KxInputFile::Sentence(path, QStringLiteral("it has no such sound track")));
+    }
+    AVStream& chosen = *streams[static_cast<size_t>(stream)];
+    KxResult<std::unique_ptr<KxAudioTrack>> track =
+        KxAudioTrack::Open(std::move(*input), chosen, format, line->zeroUs, std::move(line->jumps));
+    if (!track) {
+        return Result::Failure(KxInputFile::Sentence(path, track.Sentence()));
+    }
+    return std::unique_ptr<KxAudioReader>(new KxAudioReader(std::make_unique<Impl>(std::move(*track), format)));
+}
+
+KxReadStatus KxAudioReader::Next(KxAudioBlock& block)
+{
+    return m_impl->Next(block);
+}
+
+void KxAudioReader::Seek(qint64 timeUs)
+{
+    const double samples = static_cast<double>(timeUs) * m_impl->format.sampleRateHz / 1000000.0;
+    m_impl->Seek(std::llround(samples));
+}

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <KxMedia/Container/KxReadStatus.h>
+#include <KxMedia/Read/KxMediaFacts.h>
+
+#include <memory>
+#include <vector>
+
+/// Sound at one rate and channel count: interleaved floats, -1 to 1.
+struct KxAudioBlock {
+    /// Time of the first sample, microseconds after the first video picture (after the first sound in a file without
+    /// video).
+    qint64 timeUs = 0;
+    int channels = 0;
+    std::vector<float> samples;
+};
+
+/// Reads one audio stream of a file, converted to a wanted rate and channel count and laid on one unbroken line of
+/// time: gaps are filled with silence, overlaps are cut, and what lies before the first picture is left out. One thread
+/// at a time.
+class KXMEDIA_API KxAudioReader
+{
+public:
+    struct Format {
+        int sampleRateHz = 48000;
+        int channels = 2;
+    };
+
+    /// `stream` counts audio streams from 0.
+    static KxResult<std::unique_ptr<KxAudioReader>> Open(const QString& path, int stream, const Format& format,
+                                                         const KxCancelToken& cancel);
+    ~KxAudioReader();
+
+    /// The next block, some tens of milliseconds long.
+    KxReadStatus Next(KxAudioBlock& block);
+
+    /// The next block starts at `timeUs`: to the sample, or to the millisecond in containers (Matroska) that keep time
+    /// no finer. Where there is no sound yet it starts with silence; past the end nothing follows.
+    void Seek(qint64 timeUs);
+
+private:
+    class Impl;
+    explicit KxAudioReader(std::unique_ptr<Impl> impl);
+    std::unique_ptr<Impl> m_impl;
+};

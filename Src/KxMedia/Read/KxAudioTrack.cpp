@@ -1,0 +1,210 @@
+#include <KxMedia/Read/KxAudioTrack.h>
+
+#include <KxMedia/Container/KxAvError.h>
+
+extern "C" {
+#include <libavutil/channel_layout.h>
+}
+
+#include <algorithm>
+#include <cstdlib>
+
+namespace
+{
+
+constexpr int MostErrorsInARow = 200;
+// Time stamps are rounded to milliseconds in some containers, while the shortest thing that is ever lost is a packet.
+constexpr int JitterMs = 15;
+// Decoders need a packet or two before a seek's target until they are in swing.
+constexpr qint64 RunUpUs = 200000;
+
+} // namespace
+
+KxResult<std::unique_ptr<KxAudioTrack>> KxAudioTrack::Open(std::unique_ptr<KxInputFile> input, AVStream& stream,
+                                                           const KxAudioReader::Format& format,
+                                                           std::optional<qint64> zeroUs,
+                                                           std::vector<KxVideoPackets::Jump> jumps)
+{
+    using Result = KxResult<std::unique_ptr<KxAudioTrack>>;
+    const AVCodec* codec = avcodec_find_decoder(stream.codecpar->codec_id);
+    if (codec == nullptr) {
+        return Result::Failure(QStringLiteral("its sound format (%1) is not supported")
+                                   .arg(QLatin1String(avcodec_get_name(stream.codecpar->codec_id))));
+    }
+    KxAvCodec context(avcodec_alloc_context3(codec));
+    if (!context || avcodec_parameters_to_context(context.get(), stream.codecpar) < 0) {
+        return Result::Failure(KxAvErrorText(AVERROR(ENOMEM)));
+    }
+    context->pkt_timebase = stream.time_base;
+    context->thread_count = 1;
+    if (avcodec_open2(context.get(), codec, nullptr) < 0) {
+        return Result::Failure(QStringLiteral("its sound is damaged"));
+    }
+    return std::unique_ptr<KxAudioTrack>(
+        new KxAudioTrack(std::move(input), stream, std::move(context), format, zeroUs, std::move(jumps)));
+}
+
+KxAudioTrack::KxAudioTrack(std::unique_ptr<KxInputFile> input, AVStream& stream, KxAvCodec codec,
+                           const KxAudioReader::Format& format, std::optional<qint64> zeroUs,
+                           std::vector<KxVideoPackets::Jump> jumps)
+    : m_input(std::move(input))
+    , m_streamIndex(stream.index)
+    , m_timeBase(stream.time_base)
+    , m_codec(std::move(codec))
+    , m_format(format)
+    , m_zeroUs(zeroUs)
+    , m_jumps(std::move(jumps))
+    , m_packet(av_packet_alloc())
+    , m_frame(av_frame_alloc())
+{
+    m_input->Select(stream);
+}
+
+KxReadStatus KxAudioTrack::Next(Run& run)
+{
+    run.samples.clear();
+    if (!m_packet || !m_frame) {
+        return KxReadStatus::Failed;
+    }
+    for (;;) {
+        const int result = m_hasFrame ? 0 : avcodec_receive_frame(m_codec.get(), m_frame.get());
+        if (result >= 0) {
+            m_errorsInARow = 0;
+            m_hasFrame = true;
+            if (TakeFrame(run)) {
+                return KxReadStatus::Picture;
+            }
+        } else if (result == AVERROR_EOF) {
+            return EndRun(run) ? KxReadStatus::Picture : KxReadStatus::End;
+        } else if (result != AVERROR(EAGAIN)) {
+            if (++m_errorsInARow >= MostErrorsInARow) {
+                return KxReadStatus::Failed;
+            }
+        } else if (const KxReadStatus status = Feed(); status != KxReadStatus::Picture) {
+            return status;
+        }
+    }
+}
+
+KxReadStatus KxAudioTrack::Feed()
+{
+    KxReadStatus status = m_isDraining ? KxReadStatus::End : m_input->Read(*m_packet);
+    while (status == KxReadStatus::Picture && m_packet->stream_index != m_streamIndex) {
+        av_packet_unref(m_packet.get());
+        status = m_input->Read(*m_packet);
+    }
+    if (status == KxReadStatus::Cancelled) {
+        return status;
+    }
+    if (status != KxReadStatus::Picture) {
+        m_isDraining = true;
+        return avcodec_send_packet(m_codec.get(), nullptr) >= 0 ? KxReadStatus::Picture : KxReadStatus::End;
+    }
+    ShiftOverJumps(*m_packet);
+    const int result = avcodec_send_packet(m_codec.get(), m_packet.get());
+    av_packet_unref(m_packet.get());
+    const bool isBad = result < 0 && result != AVERROR(EAGAIN);
+    return isBad && ++m_errorsInARow >= MostErrorsInARow ? KxReadStatus::Failed : KxReadStatus::Picture;
+}
+
+// Sound and picture of a pasted stream jump together.
+void KxAudioTrack::ShiftOverJumps(AVPacket& packet) const
+{
+    qint64 offsetTicks = 0;
+    for (const KxVideoPackets::Jump& jump : m_jumps) {
+        if (packet.pos >= jump.position) {
+            offsetTicks = av_rescale_q(jump.offsetUs, KxMicroseconds, m_timeBase);
+        }
+    }
+    packet.pts += packet.pts != AV_NOPTS_VALUE ? offsetTicks : 0;
+    packet.dts += packet.dts != AV_NOPTS_VALUE ? offsetTicks : 0;
+}
+
+qint64 KxAudioTrack::PositionOf(int64_t ticks)
+{
+    const AVRational sample{1, m_format.sampleRateHz};
+    if (!m_zeroUs) {
+        m_zeroUs = av_rescale_q(ticks, m_timeBase, KxMicroseconds);
+    }
+    return av_rescale_q(ticks, m_timeBase, sample) - av_rescale_q(*m_zeroUs, KxMicroseconds, sample);
+}
+
+qint64 KxAudioTrack::Expected() const
+{
+    return m_anchor + av_rescale(m_samplesIn, m_format.sampleRateHz, m_frame->sample_rate);
+}
+
+// What the converter still holds is the end of a run.
+bool KxAudioTrack::EndRun(Run& run)
+{
+    if (!m_converter) {
+        return false;
+    }
+    run.position = m_nextOut;
+    const bool isDone = m_converter->Drain(run.samples);
+    m_converter.reset();
+    return isDone;
+}
+
+bool KxAudioTrack::TakeFrame(Run& run)
+{
+    const AVFrame& frame = *m_frame;
+    const int64_t ticks = frame.best_effort_timestamp;
+    const bool isUsable = frame.nb_samples > 0 && frame.sample_rate > 0 && (m_converter || ticks != AV_NOPTS_VALUE);
+    if (isUsable && m_converter) {
+        const qint64 jitter = qint64{m_format.sampleRateHz} * JitterMs / 1000;
+        const bool isElsewhere = ticks != AV_NOPTS_VALUE && std::abs(PositionOf(ticks) - Expected()) > jitter;
+        if (isElsewhere || !m_converter->Takes(frame)) {
+            return EndRun(run);
+        }
+    }
+    if (isUsable && !m_converter) {
+        m_converter = KxSampleConverter::Make(frame, m_format);
+        m_anchor = PositionOf(ticks);
+        m_nextOut = m_anchor;
+        m_samplesIn = 0;
+    }
+    bool isDone = false;
+    if (isUsable && m_converter) {
+        run.position = m_nextOut;
+        isDone = m_converter->Convert(frame, run.samples);
+        m_samplesIn += frame.nb_samples;
+        m_nextOut += static_cast<qint64>(run.samples.size()) / m_format.channels;
+    }
+    m_hasFrame = false;
+    av_frame_unref(m_frame.get());
+    return isDone;
+}
+
+void KxAudioTrack::StartAgain()
+{
+    avcodec_flush_buffers(m_codec.get());
+    av_frame_unref(m_frame.get());
+    m_hasFrame = false;
+    m_converter.reset();
+    m_isDraining = false;
+    m_errorsInARow = 0;
+}
+
+bool KxAudioTrack::SeekBefore(qint64 position)
+{
+    StartAgain();
+    if (!m_jumps.empty()) {
+        return false;
+    }
+    const qint64 timeUs = av_rescale(position, AV_TIME_BASE, m_format.sampleRateHz) + m_zeroUs.value_or(0) - RunUpUs;
+    return av_seek_frame(&m_input->Context(), m_streamIndex, av_rescale_q(timeUs, KxMicroseconds, m_timeBase),
+                         AVSEEK_FLAG_BACKWARD) >= 0;
+}
+
+bool KxAudioTrack::Rewind()
+{
+    StartAgain();
+    KxResult<std::unique_ptr<KxInputFile>> again = KxInputFile::Open(m_input->Path(), m_input->Cancel());
+    if (!again || m_streamIndex >= static_cast<int>((*again)->Context().nb_streams)) {
+        return false;
+    }
+    m_input = std::move(*again);
+    m_input->Select(*m_input->Context().streams[m_streamIndex]);
+    return true;
+}

@@ -1,0 +1,66 @@
+#pragma once
+
+#include <KxMedia/Container/KxInputFile.h>
+#include <KxMedia/Read/KxAudioReader.h>
+#include <KxMedia/Read/KxSampleConverter.h>
+#include <KxMedia/Read/KxVideoPackets.h>
+
+/// Decodes one audio stream into samples of a wanted format, each run of them with its place on the line of time. Gaps
+/// and overlaps are left to the reader above. One thread at a time.
+class KxAudioTrack
+{
+public:
+    /// Samples that follow each other.
+    struct Run {
+        /// Of the first sample, in samples of the wanted rate after time zero.
+        qint64 position = 0;
+        /// Interleaved.
+        std::vector<float> samples;
+    };
+
+    /// `zeroUs` is time zero on the file's own clock; nothing makes it the time of the first sound. The failure is the
+    /// end of a sentence.
+    static KxResult<std::unique_ptr<KxAudioTrack>> Open(std::unique_ptr<KxInputFile> input, AVStream& stream,
+                                                        const KxAudioReader::Format& format,
+                                                        std::optional<qint64> zeroUs,
+                                                        std::vector<KxVideoPackets::Jump> jumps);
+
+    /// `Picture` stands for "a run was delivered". Runs may be empty.
+    KxReadStatus Next(Run& run);
+    /// To a place that the container takes for one at or before `position`. False when there is none but the start.
+    bool SeekBefore(qint64 position);
+    /// To the first sound.
+    bool Rewind();
+
+private:
+    KxAudioTrack(std::unique_ptr<KxInputFile> input, AVStream& stream, KxAvCodec codec,
+                 const KxAudioReader::Format& format, std::optional<qint64> zeroUs,
+                 std::vector<KxVideoPackets::Jump> jumps);
+
+    KxReadStatus Feed();
+    void ShiftOverJumps(AVPacket& packet) const;
+    void StartAgain();
+    bool TakeFrame(Run& run);
+    bool EndRun(Run& run);
+    qint64 PositionOf(int64_t ticks);
+    qint64 Expected() const;
+
+    std::unique_ptr<KxInputFile> m_input;
+    int m_streamIndex;
+    AVRational m_timeBase;
+    KxAvCodec m_codec;
+    KxAudioReader::Format m_format;
+    std::optional<qint64> m_zeroUs;
+    std::vector<KxVideoPackets::Jump> m_jumps;
+    KxAvPacket m_packet;
+    KxAvFrame m_frame;
+    bool m_hasFrame = false;
+    std::unique_ptr<KxSampleConverter> m_converter;
+    /// Where the run began for which the converter was made, what it was given since, and where its next sample
+    /// belongs.
+    qint64 m_anchor = 0;
+    qint64 m_samplesIn = 0;
+    qint64 m_nextOut = 0;
+    bool m_isDraining = false;
+    int m_errorsInARow = 0;
+};

@@ -1,0 +1,176 @@
+#include <KxMedia/Read/KxExactReader.h>
+
+#include <algorithm>
+
+namespace
+{
+
+// Decoding a few pictures costs less than emptying the decoder's threads and filling them again.
+constexpr qint64 FewFrames = 16;
+// Without an index there is no telling where the next key frame is.
+constexpr double BlindSeekSeconds = 3.0;
+// Up to here before the frame, pictures may be left out.
+constexpr double FullBeforeSeconds = 1.0;
+// What a file lacks when a camera was switched off in mid-picture is no early end.
+constexpr qint64 ToleratedLoss = 2;
+
+} // namespace
+
+KxReadStatus KxExactReader::Read(qint64 frame, KxVideoFrame& picture)
+{
+    const qint64 count = m_decodedEnd.value_or(m_source->Facts().video->frameCount);
+    const qint64 wanted = std::clamp<qint64>(frame, 0, count - 1);
+    const bool isShown = !m_current.IsNull() && m_current.Index() <= wanted &&
+                         (m_isAtEnd || (!m_ahead.IsNull() && wanted < m_ahead.Index()));
+    KxReadStatus status = isShown ? KxReadStatus::Picture : GoTo(wanted, Haste::LeaveOut);
+    if (status == KxReadStatus::Picture && MayHaveLeftOutTheAnswer()) {
+        Forget();
+        status = GoTo(wanted, Haste::Exact);
+    }
+    if (status == KxReadStatus::Picture && m_landedIndex && LacksTheEnd(wanted)) {
+        status = GoFromFartherBack(wanted);
+    }
+    if (status != KxReadStatus::Picture) {
+        return status;
+    }
+    NoteEnd();
+    picture = m_current;
+    return KxReadStatus::Picture;
+}
+
+KxExactReader::Way KxExactReader::ChooseWay(qint64 frame)
+{
+    if (m_current.IsNull()) {
+        return m_isAtStart && frame <= FewFrames ? Way::Continue : Way::Seek;
+    }
+    if (frame < m_current.Index()) {
+        return Way::Seek;
+    }
+    const qint64 here = m_ahead.IsNull() ? m_current.Index() : m_ahead.Index();
+    if (frame <= here + FewFrames || m_isAtEnd) {
+        return Way::Continue;
+    }
+    const KxFrameGrid& grid = m_source->Grid();
+    if (const std::optional<qint64> keyFrame = m_source->Packets().KeyFrameAtOrBefore(grid.TicksAt(frame))) {
+        const std::optional<qint64> sent = m_source->Decoder().LastPacketTicks();
+        const qint64 reached = std::max(grid.TicksAt(here), sent.value_or(grid.TicksAt(here)));
+        return *keyFrame > reached + FewFrames * grid.StepTicks() ? Way::Seek : Way::Continue;
+    }
+    const double secondsAhead = static_cast<double>(frame - here) / grid.Rate().ToDouble();
+    return secondsAhead > BlindSeekSeconds ? Way::Seek : Way::Continue;
+}
+
+KxReadStatus KxExactReader::GoTo(qint64 frame, Haste haste)
+{
+    if (ChooseWay(frame) == Way::Seek) {
+        const KxReadStatus status = Land(frame);
+        if (status != KxReadStatus::Picture) {
+            return status;
+        }
+    }
+    return DecodeUpTo(frame, haste);
+}
+
+bool KxExactReader::LacksTheEnd(qint64 frame) const
+{
+    return m_isAtEnd && m_current.Index() < std::min(frame, m_source->LastPictureIndex());
+}
+
+KxReadStatus KxExactReader::GoFromFartherBack(qint64 frame)
+{
+    KxReadStatus status = Land(*m_landedIndex - 1);
+    status = status == KxReadStatus::Picture ? DecodeUpTo(frame, Haste::Exact) : status;
+    m_landedIndex.reset();
+    return status;
+}
+
+void KxExactReader::Forget()
+{
+    m_current = {};
+    m_ahead = {};
+    m_isAtEnd = false;
+    m_isAtStart = false;
+    m_landedIndex.reset();
+    m_source->Decoder().SetSkip(KxVideoDecoder::Skip::Nothing);
+}
+
+KxReadStatus KxExactReader::Land(qint64 frame)
+{
+    const KxFrameGrid& grid = m_source->Grid();
+    const qint64 step = grid.StepTicks();
+    qint64 target = grid.TicksAt(frame) + (step - 1) / 2;
+    Forget();
+    for (qint64 back = 2 * step; target > grid.FirstTicks(); back *= 4) {
+        if (!m_source->Seek(target)) {
+            break;
+        }
+        const KxReadStatus status = Advance();
+        if (status == KxReadStatus::Cancelled) {
+            return status;
+        }
+        if (status == KxReadStatus::Picture && m_ahead.Index() <= frame) {
+            m_landedIndex = m_ahead.Index();
+            return status;
+        }
+        m_ahead = {};
+        target -= back;
+    }
+    return Restart();
+}
+
+KxReadStatus KxExactReader::Restart()
+{
+    Forget();
+    m_isAtStart = true;
+    return m_source->Rewind() ? KxReadStatus::Picture : KxReadStatus::Failed;
+}
+
+KxReadStatus KxExactReader::Advance()
+{
+    KxVideoFrame next;
+    const KxReadStatus status = m_source->Next(next);
+    if (status == KxReadStatus::Picture) {
+        m_current = m_ahead.IsNull() ? m_current : m_ahead;
+        m_ahead = std::move(next);
+    }
+    return status;
+}
+
+KxReadStatus KxExactReader::DecodeUpTo(qint64 frame, Haste haste)
+{
+    const KxFrameGrid& grid = m_source->Grid();
+    const qint64 fullFrames = static_cast<qint64>(FullBeforeSeconds * grid.Rate().ToDouble()) + FewFrames;
+    m_isAtStart = false;
+    while (m_ahead.IsNull() || m_ahead.Index() <= frame) {
+        if (m_isUnwanted && m_isUnwanted()) {
+            return KxReadStatus::Cancelled;
+        }
+        const std::optional<qint64> sent = m_source->Decoder().LastPacketTicks();
+        const bool isFar = haste == Haste::LeaveOut && sent && grid.IndexOf(*sent) + fullFrames < frame;
+        m_source->Decoder().SetSkip(isFar ? KxVideoDecoder::Skip::NonReference : KxVideoDecoder::Skip::Nothing);
+        const KxReadStatus status = Advance();
+        if (status == KxReadStatus::Cancelled) {
+            return status;
+        }
+        if (status != KxReadStatus::Picture) {
+            m_current = m_ahead.IsNull() ? m_current : m_ahead;
+            m_ahead = {};
+            m_isAtEnd = true;
+            return m_current.IsNull() ? KxReadStatus::Failed : KxReadStatus::Picture;
+        }
+    }
+    return KxReadStatus::Picture;
+}
+
+void KxExactReader::NoteEnd()
+{
+    if (m_isAtEnd && m_current.Index() + ToleratedLoss < m_source->LastPictureIndex()) {
+        m_decodedEnd = m_current.Index() + 1;
+    }
+}
+
+bool KxExactReader::MayHaveLeftOutTheAnswer() const
+{
+    const std::optional<qint64> leftOut = m_source->LatestSkippable();
+    return leftOut && m_source->Grid().IndexOf(*leftOut) > m_current.Index();
+}

@@ -1,0 +1,183 @@
+#include <KxMedia/Read/KxVideoDecoder.h>
+
+#include <KxMedia/Container/KxAvError.h>
+
+#include <algorithm>
+#include <thread>
+
+namespace
+{
+
+constexpr int MostErrorsInARow = 200;
+
+// Each thread beyond the first delays the first picture after a seek by one picture. Whoever runs through a file does
+// not mind, and two threads a core keep all of them busy while some wait for their neighbours.
+int ThreadCount(KxVideoDecoder::Effort effort)
+{
+    const int cores = static_cast<int>(std::clamp(std::thread::hardware_concurrency(), 2U, 4U));
+    // Pictures wait for those that they refer to: with one thread more than twice the cores hardly a core waits with
+    // them (measured: 6 % less time than with twice the cores).
+    return effort == KxVideoDecoder::Effort::Full ? cores : 2 * cores + 1;
+}
+
+std::optional<qint64> Known(int64_t ticks)
+{
+    return ticks != AV_NOPTS_VALUE ? std::optional<qint64>(ticks) : std::nullopt;
+}
+
+} // namespace
+
+KxResult<std::unique_ptr<KxVideoDecoder>> KxVideoDecoder::Open(KxVideoPackets& packets, Effort effort)
+{
+    using Result = KxResult<std::unique_ptr<KxVideoDecoder>>;
+    const AVCodecParameters& parameters = *packets.Stream().codecpar;
+    const AVCodec* codec = avcodec_find_decoder(parameters.codec_id);
+    if (codec == nullptr) {
+        return Result::Failure(QStringLiteral("its video format (%1) is not supported")
+                                   .arg(QLatin1String(avcodec_get_name(parameters.codec_id))));
+    }
+    KxAvCodec context(avcodec_alloc_context3(codec));
+    if (!context || avcodec_parameters_to_context(context.get(), &parameters) < 0) {
+        return Result::Failure(KxAvErrorText(AVERROR(ENOMEM)));
+    }
+    context->pkt_timebase = packets.TimeBase();
+    context->thread_count = ThreadCount(effort);
+    context->max_pixels = KxInputFile::LargestPicturePixels;
+    if (effort == Effort::SkipLoopFilter) {
+        context->skip_loop_filter = AVDISCARD_ALL;
+    }
+    const int error = avcodec_open2(context.get(), codec, nullptr);
+    if (error < 0) {
+        return Result::Failure(error == AVERROR(ENOMEM) ? KxAvErrorText(error)
+                                                        : QStringLiteral("its video stream is damaged"));
+    }
+    return std::unique_ptr<KxVideoDecoder>(new KxVideoDecoder(packets, std::move(context)));
+}
+
+KxVideoDecoder::KxVideoDecoder(KxVideoPackets& packets, KxAvCodec codec)
+    : m_packets(packets)
+    , m_codec(std::move(codec))
+    , m_packet(av_packet_alloc())
+    , m_repair(std::max<qint64>(1, packets.StepTicks()))
+    , m_packetsSincePicture(-Latency())
+{
+}
+
+int KxVideoDecoder::Latency() const
+{
+    const bool threadsTakeFrames = (m_codec->active_thread_type & FF_THREAD_FRAME) != 0;
+    return m_codec->has_b_frames + (threadsTakeFrames ? m_codec->thread_count - 1 : 0);
+}
+
+KxReadStatus KxVideoDecoder::Next(Picture& picture)
+{
+    picture.frame.reset(av_frame_alloc());
+    if (!picture.frame || !m_packet) {
+        return KxReadStatus::Failed;
+    }
+    for (;;) {
+        const int result = avcodec_receive_frame(m_codec.get(), picture.frame.get());
+        if (result >= 0) {
+            m_errorsInARow = 0;
+            m_packetsSincePicture = 0;
+            if (Accept(picture)) {
+                return KxReadStatus::Picture;
+            }
+        } else if (result == AVERROR_EOF) {
+            return KxReadStatus::End;
+        } else if (result != AVERROR(EAGAIN)) {
+            if (!CountError()) {
+                return KxReadStatus::Failed;
+            }
+        } else if (const KxReadStatus status = Feed(); status != KxReadStatus::Picture) {
+            return status;
+        }
+    }
+}
+
+bool KxVideoDecoder::CountError()
+{
+    ++m_damageCount;
+    return ++m_errorsInARow < MostErrorsInARow;
+}
+
+KxReadStatus KxVideoDecoder::Feed()
+{
+    const KxReadStatus status = m_isDraining ? KxReadStatus::End : m_packets.Next(*m_packet);
+    if (status == KxReadStatus::Cancelled) {
+        return status;
+    }
+    if (status != KxReadStatus::Picture) {
+        // A file that cannot be read any further still has pictures waiting in the decoder.
+        m_isDraining = true;
+        return avcodec_send_packet(m_codec.get(), nullptr) >= 0 ? KxReadStatus::Picture : KxReadStatus::End;
+    }
+    const std::optional<qint64> ticks = Known(m_packet->pts != AV_NOPTS_VALUE ? m_packet->pts : m_packet->dts);
+    m_lastPacketTicks = ticks;
+    if (!m_firstPacketTicks) {
+        m_firstPacketTicks = ticks;
+    }
+    if (!m_isAtStart && !m_landingTicks) {
+        m_landingTicks = Known(m_packet->pts);
+    }
+    m_maySkip = m_maySkip && (!m_longestSkip || m_packetsSincePicture <= *m_longestSkip);
+    const bool isSkipping = m_maySkip && m_skip == Skip::NonReference && m_clock == Clock::Presentation;
+    m_codec->skip_frame = isSkipping ? AVDISCARD_NONREF : AVDISCARD_DEFAULT;
+    if (isSkipping && ticks && (!m_latestSkippableTicks || *ticks > *m_latestSkippableTicks)) {
+        m_latestSkippableTicks = ticks;
+    }
+    const int result = avcodec_send_packet(m_codec.get(), m_packet.get());
+    av_packet_unref(m_packet.get());
+    ++m_packetsSincePicture;
+    if (result < 0 && result != AVERROR(EAGAIN) && !CountError()) {
+        return KxReadStatus::Failed;
+    }
+    return KxReadStatus::Picture;
+}
+
+std::optional<qint64> KxVideoDecoder::TimeOf(const AVFrame& frame)
+{
+    if (m_clock == Clock::Unknown) {
+        m_clock = frame.pts != AV_NOPTS_VALUE ? Clock::Presentation : Clock::Decoding;
+        if (m_clock == Clock::Decoding && frame.pkt_dts == AV_NOPTS_VALUE) {
+            return m_firstPacketTicks;
+        }
+    }
+    return Known(m_clock == Clock::Presentation ? frame.pts : frame.pkt_dts);
+}
+
+bool KxVideoDecoder::Accept(Picture& picture)
+{
+    const AVFrame& frame = *picture.frame;
+    if ((frame.flags & AV_FRAME_FLAG_CORRUPT) != 0 || frame.decode_error_flags != 0) {
+        ++m_damageCount;
+    }
+    const std::optional<qint64> ticks = TimeOf(frame);
+    // What is shown before the key frame that a seek landed on may lean on pictures before it.
+    const bool isBeforeLanding = m_clock == Clock::Presentation && m_landingTicks && ticks && *ticks < *m_landingTicks;
+    const std::optional<qint64> repaired = isBeforeLanding ? std::nullopt : m_repair.Repair(ticks);
+    if (!repaired || frame.width <= 0 || frame.height <= 0) {
+        av_frame_unref(picture.frame.get());
+        return false;
+    }
+    picture.ticks = *repaired;
+    return true;
+}
+
+void KxVideoDecoder::Flush(Place place)
+{
+    avcodec_flush_buffers(m_codec.get());
+    m_repair.Reset();
+    m_isDraining = false;
+    m_isAtStart = place == Place::Start;
+    m_errorsInARow = 0;
+    m_packetsSincePicture = -Latency();
+    m_latestSkippableTicks.reset();
+    m_lastPacketTicks.reset();
+    m_landingTicks.reset();
+}
+
+void KxVideoDecoder::SetSkip(Skip skip)
+{
+    m_skip = skip;
+}

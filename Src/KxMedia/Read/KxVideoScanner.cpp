@@ -1,0 +1,78 @@
+#include <KxMedia/Read/KxVideoScanner.h>
+
+#include <KxMedia/Read/KxVideoSource.h>
+
+#include <algorithm>
+
+namespace
+{
+
+// Pictures that are left out may not tear a hole of more than a quarter of a second into the analysis: streams in which
+// hardly any picture is needed by another one are decoded in full.
+constexpr int LargestHolesASecond = 4;
+// What a truncated file lacks at the least. Less is lost by leaving out the last pictures.
+constexpr double EarlyEndSeconds = 0.5;
+
+} // namespace
+
+class KxVideoScanner::Impl
+{
+public:
+    explicit Impl(std::unique_ptr<KxVideoSource> videoSource)
+        : source(std::move(videoSource))
+    {
+        const int hole = static_cast<int>(source->Grid().Rate().ToDouble() / LargestHolesASecond);
+        source->Decoder().SetLongestSkip(std::max(2, hole));
+        source->Decoder().SetSkip(KxVideoDecoder::Skip::NonReference);
+    }
+
+    std::unique_ptr<KxVideoSource> source;
+    qint64 lastIndex = -1;
+    bool hasEnded = false;
+};
+
+KxVideoScanner::KxVideoScanner(std::unique_ptr<Impl> impl)
+    : m_impl(std::move(impl))
+{
+}
+
+KxVideoScanner::~KxVideoScanner() = default;
+
+KxResult<std::unique_ptr<KxVideoScanner>> KxVideoScanner::Open(const QString& path, const KxCancelToken& cancel)
+{
+    KxResult<std::unique_ptr<KxVideoSource>> source =
+        KxVideoSource::Open(path, cancel, KxVideoDecoder::Effort::SkipLoopFilter);
+    if (!source) {
+        return KxResult<std::unique_ptr<KxVideoScanner>>::Failure(source.Sentence());
+    }
+    return std::unique_ptr<KxVideoScanner>(new KxVideoScanner(std::make_unique<Impl>(std::move(*source))));
+}
+
+const KxMediaFacts& KxVideoScanner::Facts() const
+{
+    return m_impl->source->Facts();
+}
+
+KxReadStatus KxVideoScanner::Next(KxVideoFrame& picture)
+{
+    Impl& impl = *m_impl;
+    for (;;) {
+        KxVideoFrame next;
+        const KxReadStatus status = impl.source->Next(next);
+        if (status != KxReadStatus::Picture) {
+            impl.hasEnded = impl.hasEnded || status != KxReadStatus::Cancelled;
+            return status;
+        }
+        if (next.Index() > impl.lastIndex && next.Index() < Facts().video->frameCount) {
+            impl.lastIndex = next.Index();
+            picture = std::move(next);
+            return KxReadStatus::Picture;
+        }
+    }
+}
+
+bool KxVideoScanner::EndedEarly() const
+{
+    const double missing = static_cast<double>(m_impl->source->LastPictureIndex() - m_impl->lastIndex);
+    return m_impl->hasEnded && missing > EarlyEndSeconds * Facts().video->frameRate.ToDouble();
+}

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <KxMedia/Picture/KxFrameGrid.h>
+#include <KxMedia/Picture/KxVideoFrame.h>
+#include <KxMedia/Read/KxDeinterlacer.h>
+#include <KxMedia/Read/KxMediaFacts.h>
+#include <KxMedia/Read/KxVideoDecoder.h>
+
+/// A file's video stream made ready: packets at the start, a decoder, the frame grid, the facts. What the exact reader
+/// and the scanner share. With full effort, pictures that are woven from two fields are made whole. One thread at a
+/// time.
+class KxVideoSource
+{
+public:
+    /// Decodes the first picture and finds the end, then goes back to the start. `input` may have no video stream.
+    static KxResult<std::unique_ptr<KxVideoSource>> Open(std::unique_ptr<KxInputFile> input,
+                                                         KxVideoDecoder::Effort effort);
+    static KxResult<std::unique_ptr<KxVideoSource>> Open(const QString& path, const KxCancelToken& cancel,
+                                                         KxVideoDecoder::Effort effort);
+
+    const KxMediaFacts& Facts() const { return m_facts; }
+    const KxFrameGrid& Grid() const { return *m_grid; }
+    /// The grid point at which the last picture comes, as far as packets tell.
+    qint64 LastPictureIndex() const { return m_lastPictureIndex; }
+    KxVideoPackets& Packets() { return *m_packets; }
+    KxVideoDecoder& Decoder() { return *m_decoder; }
+    /// See KxVideoDecoder::LatestSkippableTicks().
+    std::optional<qint64> LatestSkippable() const { return m_decoder->LatestSkippableTicks(); }
+
+    /// Back to the first packet.
+    bool Rewind();
+    /// See KxVideoPackets::Seek().
+    bool Seek(qint64 ticks);
+    /// The next picture in order of time, with its place on the grid.
+    KxReadStatus Next(KxVideoFrame& picture);
+
+private:
+    KxVideoSource() = default;
+    KxError Prepare(std::unique_ptr<KxInputFile> input, KxVideoDecoder::Effort effort);
+    KxError MeasureLength(qint64 firstTicks);
+    bool IsStillPicture() const;
+    void Flush(KxVideoDecoder::Place place);
+    KxReadStatus NextWhole(KxVideoDecoder::Picture& picture);
+    KxVideoFrame MakeFrame(KxVideoDecoder::Picture picture) const;
+
+    std::unique_ptr<KxVideoPackets> m_packets;
+    std::unique_ptr<KxVideoDecoder> m_decoder;
+    /// Nothing where pictures may stay woven.
+    std::optional<KxDeinterlacer> m_deinterlacer;
+    std::optional<KxFrameGrid> m_grid;
+    KxVideoFrame::Orientation m_orientation;
+    KxMediaFacts m_facts;
+    qint64 m_lastPictureIndex = 0;
+};

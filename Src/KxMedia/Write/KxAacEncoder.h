@@ -1,0 +1,37 @@
+#pragma once
+
+#include <KxCore/KxResult.h>
+#include <KxMedia/Container/KxAvHandles.h>
+#include <KxMedia/Read/KxAudioReader.h>
+#include <KxMedia/Write/KxH264Encoder.h>
+
+#include <memory>
+#include <vector>
+
+/// AAC (low complexity) from blocks of any length. One thread at a time.
+class KxAacEncoder
+{
+public:
+    /// The reason of a failure is the end of a sentence.
+    static KxResult<std::unique_ptr<KxAacEncoder>> Open(const KxAudioReader::Format& format, qint64 bitRate);
+
+    const AVCodecContext& Context() const { return *m_context; }
+
+    /// Blocks follow each other; the time of the first one is where the sound starts. What the encoder puts before the
+    /// first sample is told by packets that begin earlier than that. 0, or a negative libav* error.
+    int Encode(const KxAudioBlock& block, const KxPacketSink& sink);
+    int Finish(const KxPacketSink& sink);
+
+private:
+    KxAacEncoder(KxAvCodec context, KxAvFrame frame, KxAvPacket packet);
+
+    int EncodeFrame(size_t firstValue, int samples, const KxPacketSink& sink);
+
+    KxAvCodec m_context;
+    KxAvFrame m_frame;
+    KxAvPacket m_packet;
+    /// Interleaved; what does not fill a frame of the encoder yet.
+    std::vector<float> m_waiting;
+    bool m_hasStarted = false;
+    qint64 m_nextSample = 0;
+};

@@ -1,0 +1,108 @@
+#include <KxMedia/Write/KxH264Encoder.h>
+
+#include <KxMedia/Container/KxAvError.h>
+
+extern "C" {
+#include <libavutil/opt.h>
+}
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+int KxEncode(AVCodecContext& encoder, const AVFrame* frame, AVPacket& packet, const KxPacketSink& sink)
+{
+    int error = avcodec_send_frame(&encoder, frame);
+    while (error >= 0) {
+        error = avcodec_receive_packet(&encoder, &packet);
+        if (error == AVERROR(EAGAIN) || error == AVERROR_EOF) {
+            return 0;
+        }
+        if (error >= 0) {
+            error = sink(packet);
+            av_packet_unref(&packet);
+        }
+    }
+    return error;
+}
+
+namespace
+{
+
+constexpr double SecondsPerGroup = 2.0;
+
+void SetUp(AVCodecContext& context, const KxH264Encoder::Settings& settings, const AVFrame& first)
+{
+    const AVRational rate{settings.frameRate.numerator, settings.frameRate.denominator};
+    context.width = settings.size.width();
+    context.height = settings.size.height();
+    context.pix_fmt = AV_PIX_FMT_YUV420P;
+    context.sample_aspect_ratio = AVRational{1, 1};
+    context.framerate = rate;
+    context.time_base = av_inv_q(rate);
+    context.gop_size = std::max(1, static_cast<int>(std::lround(SecondsPerGroup * av_q2d(rate))));
+    context.flags |= AV_CODEC_FLAG_GLOBAL_HEADER | AV_CODEC_FLAG_CLOSED_GOP;
+    // Peaks of twice the average for as long as a second: room for a busy scene, yet nothing a phone stumbles over.
+    const qint64 limit = std::numeric_limits<int>::max();
+    context.bit_rate = std::clamp<qint64>(settings.bitRate, 1000, limit / 2);
+    context.rc_max_rate = 2 * context.bit_rate;
+    context.rc_buffer_size = static_cast<int>(2 * context.bit_rate);
+    context.color_primaries = first.color_primaries;
+    context.color_trc = first.color_trc;
+    context.colorspace = first.colorspace;
+    context.color_range = first.color_range;
+    context.chroma_sample_location = first.chroma_location;
+}
+
+} // namespace
+
+KxH264Encoder::KxH264Encoder(KxAvCodec context, KxAvFrame frame, KxAvPacket packet)
+    : m_context(std::move(context))
+    , m_frame(std::move(frame))
+    , m_packet(std::move(packet))
+{
+}
+
+KxResult<std::unique_ptr<KxH264Encoder>> KxH264Encoder::Open(const Settings& settings, const AVFrame& first)
+{
+    using Opened = KxResult<std::unique_ptr<KxH264Encoder>>;
+    const AVCodec* const codec = avcodec_find_encoder_by_name("libx264");
+    if (codec == nullptr) {
+        return Opened::Failure(QStringLiteral("the H.264 encoder libx264 is missing"));
+    }
+    KxAvCodec context(avcodec_alloc_context3(codec));
+    KxAvFrame frame(av_frame_alloc());
+    KxAvPacket packet(av_packet_alloc());
+    if (context == nullptr || frame == nullptr || packet == nullptr) {
+        return Opened::Failure(KxAvErrorText(AVERROR(ENOMEM)));
+    }
+    SetUp(*context, settings, first);
+    int error = av_opt_set(context->priv_data, "preset", settings.preset.toLatin1().constData(), 0);
+    if (error >= 0) {
+        error = avcodec_open2(context.get(), codec, nullptr);
+    }
+    if (error < 0) {
+        return Opened::Failure(QStringLiteral("the video encoder does not start (%1)").arg(KxAvErrorText(error)));
+    }
+    return std::unique_ptr<KxH264Encoder>(new KxH264Encoder(std::move(context), std::move(frame), std::move(packet)));
+}
+
+int KxH264Encoder::Encode(const AVFrame& picture, qint64 index, const KxPacketSink& sink)
+{
+    av_frame_unref(m_frame.get());
+    const int error = av_frame_ref(m_frame.get(), &picture);
+    if (error < 0) {
+        return error;
+    }
+    m_frame->pts = index;
+    m_frame->pkt_duration = 1;
+    m_frame->pict_type = AV_PICTURE_TYPE_NONE;
+    const int result = KxEncode(*m_context, m_frame.get(), *m_packet, sink);
+    av_frame_unref(m_frame.get());
+    return result;
+}
+
+int KxH264Encoder::Finish(const KxPacketSink& sink)
+{
+    return KxEncode(*m_context, nullptr, *m_packet, sink);
+}

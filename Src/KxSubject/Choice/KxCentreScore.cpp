@@ -1,0 +1,71 @@
+#include <KxSubject/Choice/KxCentreScore.h>
+
+#include <algorithm>
+#include <cmath>
+
+namespace
+{
+
+constexpr double LeastSpacing = 1e-6; ///< of the picture; where positions lie nearer they are one place
+
+} // namespace
+
+KxCentreScore::KxCentreScore(const KxSubjectOptions::Evidence& options, const KxCropGeometry& geometry)
+    : m_first(geometry.MinimumCentre())
+    , m_spacing((geometry.MaximumCentre() - geometry.MinimumCentre()) / static_cast<double>(Positions - 1))
+{
+    const double half = geometry.Extent() / 2.0;
+    const bool across = geometry.FreeAxis() == KxAxis::Across;
+    const double priorWeight = across ? options.centrePriorAcross : options.centrePriorUpDown;
+    const double flat = across ? options.windowFlatAcross : options.windowFlatUpDown;
+    constexpr double binExtent = 1.0 / KxSignalProfile::Bins;
+    for (std::size_t position = 0; position < Positions; ++position) {
+        const double centre = CentreAt(position);
+        const double offCentre = (centre - 0.5) / 0.5;
+        m_prior[position] = static_cast<float>(-priorWeight * offCentre * offCentre);
+        for (std::size_t bin = 0; bin < KxSignalProfile::Bins; ++bin) {
+            const double from = static_cast<double>(bin) * binExtent;
+            const double low = std::max(from, centre - half);
+            const double high = std::min(from + binExtent, centre + half);
+            if (high > low) {
+                const double wave = std::cos(CV_PI / 2.0 * ((low + high) / 2.0 - centre) / half);
+                const double height = flat + (1.0 - flat) * wave * wave;
+                m_windows[position].share[bin] = static_cast<float>((high - low) / binExtent * height);
+            }
+        }
+        m_meanWindow.Add(m_windows[position], 1.0 / static_cast<double>(Positions));
+    }
+}
+
+KxCentreScore::Scores KxCentreScore::Of(const KxSignalProfile& profile) const
+{
+    Scores scores = m_prior;
+    for (std::size_t position = 0; position < Positions; ++position) {
+        scores[position] += Sum(m_windows[position], profile);
+    }
+    return scores;
+}
+
+float KxCentreScore::Sum(const KxSignalProfile& window, const KxSignalProfile& profile)
+{
+    float sum = 0.0F;
+    for (std::size_t bin = 0; bin < KxSignalProfile::Bins; ++bin) {
+        sum += window.share[bin] * profile.share[bin];
+    }
+    return sum;
+}
+
+float KxCentreScore::Excess(double centre, const KxSignalProfile& profile) const
+{
+    if (m_spacing < LeastSpacing) {
+        return 0.0F;
+    }
+    const double position = (centre - m_first) / m_spacing;
+    const auto nearest = static_cast<std::size_t>(std::lround(std::clamp(position, 0.0, Positions - 1.0)));
+    return std::max(Sum(m_windows[nearest], profile) - Sum(m_meanWindow, profile), 0.0F);
+}
+
+double KxCentreScore::CentreAt(std::size_t position) const
+{
+    return m_first + m_spacing * static_cast<double>(position);
+}

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <KxSubject/KxSubjectOptions.h>
+#include <KxSubject/Signals/KxSignalProfile.h>
+
+/// Rates the places that a crop's centre can take along its free axis: how much of a profile lies under a soft window
+/// of the crop's extent, less a charge for leaving the picture's middle.
+class KXSUBJECT_API KxCentreScore
+{
+public:
+    static constexpr std::size_t Positions = 97;
+    using Scores = std::array<float, Positions>;
+
+    KxCentreScore(const KxSubjectOptions::Evidence& options, const KxCropGeometry& geometry);
+
+    Scores Of(const KxSignalProfile& profile) const;
+    /// How much more of a profile lies under the window at the position nearest to a centre than at all positions on
+    /// average; 0 where it is less. What is spread evenly prefers no place, however much it is.
+    float Excess(double centre, const KxSignalProfile& profile) const;
+    /// The centre at a position, in fractions of the picture; positions are equally spaced between the geometry's ends.
+    double CentreAt(std::size_t position) const;
+    /// Between two neighbouring positions, in fractions of the picture; 0 when the crop cannot move.
+    double Spacing() const { return m_spacing; }
+
+private:
+    static float Sum(const KxSignalProfile& window, const KxSignalProfile& profile);
+
+    double m_first;
+    double m_spacing;
+    std::array<KxSignalProfile, Positions> m_windows{};
+    KxSignalProfile m_meanWindow;
+    Scores m_prior{};
+};

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <KxSubject/Choice/KxCentreScore.h>
+
+/// The best run of places through one shot: the sum of the scores on the way, less what moving costs. The cost is
+/// linear in the distance, so a subject is left for another only when the gain lasts.
+class KXSUBJECT_API KxSubjectTracker
+{
+public:
+    /// `costPerPosition`: of a step to the neighbouring position.
+    explicit KxSubjectTracker(double costPerPosition);
+
+    void Add(const KxCentreScore::Scores& scores);
+    /// The position at every sample added.
+    std::vector<std::size_t> BestRun() const;
+
+private:
+    using Origins = std::array<std::uint8_t, KxCentreScore::Positions>;
+
+    float m_cost;
+    KxCentreScore::Scores m_reached{}; ///< the best sum that ends at each position
+    std::vector<Origins> m_origins;    ///< where the best run came from, for each sample and position
+};

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <KxSubject/KxSubjectOptions.h>
+
+/// Finds black bars that stay through the whole video: rows or columns at opposite sides that no picture has lit. Dark
+/// pictures (a fade) say nothing either way, since what counts is the brightest that a row has been.
+class KXSUBJECT_API KxBarDetector
+{
+public:
+    KxBarDetector(const KxSubjectOptions::Bars& options, cv::Size picturePx);
+
+    /// `grey` is CV_8UC1 of the size given at the start.
+    void AddPicture(const cv::Mat& grey);
+
+    /// What remains of the picture without bars, after the pictures so far; the whole picture when there are none.
+    cv::Rect Content() const;
+
+private:
+    KxSubjectOptions::Bars m_options;
+    std::vector<int> m_litInRow;    ///< the most lit pixels seen, for each row
+    std::vector<int> m_litInColumn; ///< the same for each column
+};

@@ -1,0 +1,211 @@
+#include <KxSubject/Shots/KxShotDetector.h>
+
+#include <opencv2/imgproc.hpp>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace
+{
+
+constexpr std::size_t ReturnReach = 24;
+constexpr std::size_t FlashReach = 4;
+constexpr std::size_t BrightFlashReach = 7;
+constexpr std::ptrdiff_t ManyPictures = 6;
+
+bool IsInside(const KxShotBoundary& cut, const KxShotBoundary& blend, std::int64_t margin)
+{
+    return cut.frame >= blend.first - margin && cut.frame <= blend.last + margin;
+}
+
+} // namespace
+
+KxShotDetector::KxShotDetector(const KxSubjectOptions::Shots& options)
+    : m_options(options)
+    , m_blends(options)
+{
+}
+
+KxShotDetector::Histogram KxShotDetector::ColoursOf(const cv::Mat& small)
+{
+    cv::Mat hsv;
+    cv::cvtColor(small, hsv, cv::COLOR_BGR2HSV);
+    Histogram histogram{};
+    for (int y = 0; y < hsv.rows; ++y) {
+        const auto* row = hsv.ptr<cv::Vec3b>(y);
+        for (int x = 0; x < hsv.cols; ++x) {
+            const int bin = (row[x][0] * 12 / 180 * 6 + row[x][1] * 6 / 256) * 6 + row[x][2] * 6 / 256;
+            ++histogram[static_cast<std::size_t>(bin)];
+        }
+    }
+    return histogram;
+}
+
+void KxShotDetector::Reserve(std::int64_t pictures)
+{
+    // A header may claim anything: more than four hours grow as they come.
+    constexpr std::int64_t mostPictures = 500000;
+    m_changes.reserve(static_cast<std::size_t>(std::clamp<std::int64_t>(pictures, 0, mostPictures)));
+}
+
+void KxShotDetector::AddPicture(std::int64_t frame, const cv::Mat& picture)
+{
+    cv::Mat small;
+    cv::Mat grey;
+    cv::resize(picture, small, cv::Size(64, 36), 0.0, 0.0, cv::INTER_AREA);
+    cv::cvtColor(small, grey, cv::COLOR_BGR2GRAY);
+    cv::Scalar mean;
+    cv::Scalar deviation;
+    cv::meanStdDev(grey, mean, deviation);
+    const Histogram colours = ColoursOf(small);
+
+    m_pictures.push_back({grey, mean[0], deviation[0]});
+    KxPictureChange& change = m_changes.emplace_back();
+    change.frame = static_cast<std::int32_t>(frame);
+    if (m_pictures.size() > 1) {
+        int moved = 0;
+        for (std::size_t i = 0; i < colours.size(); ++i) {
+            moved += std::abs(colours[i] - m_lastColours[i]);
+        }
+        change.colour = static_cast<float>(moved) / static_cast<float>(2 * small.total());
+        change.grey = static_cast<float>(DifferenceTo(Earlier(1)));
+        change.likeness = cv::saturate_cast<std::uint8_t>(255.0 * LikenessTo(Earlier(1)));
+    }
+    for (std::size_t back = 2; back < m_pictures.size(); ++back) {
+        LookForReturn(back);
+    }
+    m_lastColours = colours;
+    if (m_pictures.size() > ReturnReach + 1) {
+        m_pictures.pop_front();
+    }
+    m_blends.AddPicture(frame, grey);
+}
+
+const KxShotDetector::Picture& KxShotDetector::Earlier(std::size_t pictures) const
+{
+    return m_pictures[m_pictures.size() - 1 - pictures];
+}
+
+double KxShotDetector::DifferenceTo(const Picture& earlier) const
+{
+    const cv::Mat& grey = m_pictures.back().grey;
+    return cv::norm(grey, earlier.grey, cv::NORM_L1) / static_cast<double>(grey.total());
+}
+
+double KxShotDetector::LikenessTo(const Picture& earlier) const
+{
+    // Keeps the noise of two plain pictures from being alike.
+    constexpr double noise = 4.0;
+    const Picture& newest = m_pictures.back();
+    const double covariance =
+        newest.grey.dot(earlier.grey) / static_cast<double>(newest.grey.total()) - newest.mean * earlier.mean;
+    return covariance / (newest.deviation * earlier.deviation + noise);
+}
+
+bool KxShotDetector::IsFlash(std::size_t back) const
+{
+    const std::size_t pictures = back - 1;
+    if (pictures <= FlashReach) {
+        return true;
+    }
+    const double bright = std::max(m_pictures.back().mean, Earlier(back).mean) + m_options.flashLight;
+    const auto last = m_pictures.end() - 1;
+    return pictures <= BrightFlashReach &&
+           std::all_of(last - static_cast<std::ptrdiff_t>(pictures), last,
+                       [bright](const Picture& picture) { return picture.mean > bright; });
+}
+
+void KxShotDetector::LookForReturn(std::size_t back)
+{
+    KxPictureChange& away = m_changes[m_changes.size() - back];
+    KxPictureChange& home = m_changes.back();
+    const bool awayAsks = KxShotCuts::IsAboveFloors(away, m_options) && away.backAfter == 0;
+    const bool homeAsks = KxShotCuts::IsAboveFloors(home, m_options) && home.backBefore == 0;
+    if (!awayAsks && !homeAsks) {
+        return;
+    }
+    const double difference = DifferenceTo(Earlier(back));
+    const bool isBack = awayAsks && difference < m_options.returnRatio * static_cast<double>(away.grey);
+    const bool hadBeen = homeAsks && difference < m_options.returnRatio * static_cast<double>(home.grey);
+    if (!isBack && !hadBeen) {
+        return;
+    }
+    const bool flash = IsFlash(back);
+    if (LikenessTo(Earlier(back)) < (flash ? m_options.flashLikeness : m_options.returnLikeness)) {
+        return;
+    }
+    if (isBack) {
+        away.backAfter = static_cast<std::uint8_t>(back - 1);
+        away.flash = away.flash || flash;
+    }
+    if (hadBeen) {
+        home.backBefore = static_cast<std::uint8_t>(back - 1);
+        home.flash = home.flash || flash;
+    }
+}
+
+std::ptrdiff_t KxShotDetector::PicturesIn(const KxShotBoundary& boundary) const
+{
+    const auto first =
+        std::lower_bound(m_changes.begin(), m_changes.end(), boundary.first,
+                         [](const KxPictureChange& change, std::int64_t frame) { return change.frame < frame; });
+    const auto end =
+        std::upper_bound(first, m_changes.end(), boundary.last,
+                         [](std::int64_t frame, const KxPictureChange& change) { return frame < change.frame; });
+    return end - first;
+}
+
+std::vector<KxShotDetector::Candidate> KxShotDetector::Candidates() const
+{
+    std::vector<Candidate> cuts;
+    for (const std::size_t i : KxShotCuts::Find(m_changes, m_options)) {
+        const std::int64_t frame = m_changes[i].frame;
+        cuts.push_back({{frame, frame, frame, KxShotBoundaryKind::Cut}, KxShotCuts::Strength(m_changes[i], m_options)});
+    }
+    std::vector<Candidate> candidates;
+    for (const KxShotBoundary& blend : m_blends.Found()) {
+        const bool dissolve = blend.kind == KxShotBoundaryKind::Dissolve;
+        const bool denied = dissolve && std::any_of(cuts.begin(), cuts.end(), [this, &blend](const Candidate& cut) {
+                                return IsInside(cut.boundary, blend, 0) && PicturesIn(blend) > ManyPictures;
+                            });
+        if (!denied) {
+            candidates.push_back({blend, std::numeric_limits<double>::infinity()});
+            cuts.erase(std::remove_if(cuts.begin(), cuts.end(),
+                                      [&blend](const Candidate& cut) { return IsInside(cut.boundary, blend, 1); }),
+                       cuts.end());
+        }
+    }
+    candidates.insert(candidates.end(), cuts.begin(), cuts.end());
+    std::sort(candidates.begin(), candidates.end(),
+              [](const Candidate& left, const Candidate& right) { return left.boundary.frame < right.boundary.frame; });
+    return candidates;
+}
+
+std::vector<KxShotBoundary> KxShotDetector::Boundaries(double frameRate) const
+{
+    const double minimumFrames = m_options.minimumShotSeconds * frameRate;
+    std::vector<Candidate> kept;
+    for (const Candidate& candidate : Candidates()) {
+        const std::int64_t last = kept.empty() ? 0 : kept.back().boundary.frame;
+        if (static_cast<double>(candidate.boundary.frame - last) >= minimumFrames) {
+            kept.push_back(candidate);
+        } else if (!kept.empty() && candidate.strength > kept.back().strength) {
+            kept.back() = candidate;
+        }
+    }
+    std::vector<KxShotBoundary> boundaries;
+    for (const Candidate& candidate : kept) {
+        boundaries.push_back(candidate.boundary);
+    }
+    return boundaries;
+}
+
+std::vector<std::int64_t> KxShotDetector::Cuts(double frameRate) const
+{
+    std::vector<std::int64_t> cuts;
+    for (const KxShotBoundary& boundary : Boundaries(frameRate)) {
+        cuts.push_back(boundary.frame);
+    }
+    return cuts;
+}

@@ -1,0 +1,61 @@
+#pragma once
+
+#include <KxSubject/Shots/KxShotBlends.h>
+#include <KxSubject/Shots/KxShotCuts.h>
+
+/// Finds the shot boundaries of a video from its pictures as they come, at any spacing.
+/// A cut is a picture whose grey and colour change are both
+/// 1. the largest of its neighbours,
+/// 2. above a floor,
+/// 3. well above what is usual around it (itself left out),
+/// and which is not
+/// 4. the beginning or the end of a flash: what was before is back within 4 pictures, or within 7 brighter ones,
+/// 5. a change of light: the structure stays,
+/// 6. an explosion or something that passes: what was before is back within 24 pictures, and not by a jump,
+/// 7. inside a dissolve or a fade (KxShotBlends); a cut in the middle of many pictures denies a dissolve, though, or
+/// 8. nearer than the shortest shot to a dissolve, a fade, a stronger cut or the first picture.
+/// A cut stands on its exact frame where that was among the pictures, else on the first picture of the new shot.
+class KXSUBJECT_API KxShotDetector
+{
+public:
+    explicit KxShotDetector(const KxSubjectOptions::Shots& options);
+
+    /// Makes room for so many pictures at once.
+    void Reserve(std::int64_t pictures);
+
+    /// `picture` is CV_8UC3 in BGR order, of any size; `frame` grows from call to call.
+    void AddPicture(std::int64_t frame, const cv::Mat& picture);
+
+    /// The first frames of the shots after the first one, growing.
+    std::vector<std::int64_t> Cuts(double frameRate) const;
+
+    /// The same with kind and extent.
+    std::vector<KxShotBoundary> Boundaries(double frameRate) const;
+
+private:
+    static constexpr int Bins = 12 * 6 * 6;
+    using Histogram = std::array<int, Bins>; ///< of points
+    struct Picture {
+        cv::Mat grey;
+        double mean;
+        double deviation;
+    };
+    struct Candidate {
+        KxShotBoundary boundary;
+        double strength;
+    };
+    static Histogram ColoursOf(const cv::Mat& small);
+    const Picture& Earlier(std::size_t pictures) const;
+    double DifferenceTo(const Picture& earlier) const;
+    double LikenessTo(const Picture& earlier) const;
+    bool IsFlash(std::size_t back) const;
+    void LookForReturn(std::size_t back);
+    std::ptrdiff_t PicturesIn(const KxShotBoundary& boundary) const;
+    std::vector<Candidate> Candidates() const;
+
+    KxSubjectOptions::Shots m_options;
+    std::vector<KxPictureChange> m_changes;
+    std::deque<Picture> m_pictures; ///< the newest last
+    Histogram m_lastColours{};
+    KxShotBlends m_blends;
+};

@@ -1,0 +1,178 @@
+#include <KxSubject/Signals/KxFaceTracks.h>
+
+#include <opencv2/core.hpp>
+
+#include <algorithm>
+#include <cmath>
+
+namespace
+{
+
+constexpr double Early = 1e-3; ///< seconds: a sample on the very time of a look is due
+
+} // namespace
+
+KxFaceTracks::Look::Look(double time, const std::optional<cv::Rect>& face)
+    : timeSeconds(static_cast<float>(time))
+    , box(face.value_or(cv::Rect()))
+{
+}
+
+std::optional<cv::Rect> KxFaceTracks::Look::Face() const
+{
+    return box.width > 0 ? std::optional<cv::Rect>(box) : std::nullopt;
+}
+
+KxFaceTracks::KxFaceTracks(const KxSubjectOptions::Faces& options, KxFaceFinder finder)
+    : m_options(options)
+    , m_finder(std::move(finder))
+{
+}
+
+void KxFaceTracks::AddPicture(double timeSeconds, const cv::Mat& picture, const cv::Mat& grey)
+{
+    while (m_firstOpen < m_tracks.size() && m_tracks[m_firstOpen].misses >= m_options.missesToDrop) {
+        ++m_firstOpen;
+    }
+    if (m_finder.UsesModel()) {
+        if (timeSeconds >= m_lastFrontal + m_options.modelPeriodSeconds - Early) {
+            m_lastFrontal = timeSeconds;
+            LookEverywhere(timeSeconds, picture, grey, KxFaceView::Frontal);
+        }
+        return;
+    }
+    if (timeSeconds >= m_lastFollow + m_options.followPeriodSeconds - Early) {
+        m_lastFollow = timeSeconds;
+        Follow(timeSeconds, grey);
+    }
+    const double rarer = m_looksWithoutNews >= m_options.settledLooks ? m_options.settledFactor : 1.0;
+    const double profileRarer = IsFollowing() ? m_options.settledFactor : rarer;
+    if (timeSeconds >= m_lastFrontal + rarer * m_options.frontalPeriodSeconds - Early) {
+        m_lastFrontal = timeSeconds;
+        LookEverywhere(timeSeconds, picture, grey, KxFaceView::Frontal);
+    } else if (m_sidesDue > 0 || timeSeconds >= m_lastProfile + profileRarer * m_options.profilePeriodSeconds - Early) {
+        m_sidesDue = std::max(m_sidesDue - 1, 0);
+        m_lastProfile = timeSeconds;
+        LookEverywhere(timeSeconds, picture, grey, m_nextSide);
+        m_nextSide = m_nextSide == KxFaceView::LeftProfile ? KxFaceView::RightProfile : KxFaceView::LeftProfile;
+    }
+}
+
+bool KxFaceTracks::IsFollowing() const
+{
+    return std::any_of(m_tracks.begin() + static_cast<std::ptrdiff_t>(m_firstOpen), m_tracks.end(),
+                       [this](const Track& track) { return track.misses < m_options.missesToDrop; });
+}
+
+void KxFaceTracks::BeginScene()
+{
+    m_lastFrontal = LongAgo;
+    m_sidesDue = m_options.sidesAtFirst;
+    m_looksWithoutNews = 0;
+    for (; m_firstOpen < m_tracks.size(); ++m_firstOpen) {
+        m_tracks[m_firstOpen].misses = m_options.missesToDrop;
+    }
+}
+
+void KxFaceTracks::LookEverywhere(double timeSeconds, const cv::Mat& picture, const cv::Mat& grey, KxFaceView view)
+{
+    std::vector<cv::Rect> faces = m_finder.Find(picture, grey, view);
+    std::sort(faces.begin(), faces.end(), [](const cv::Rect& a, const cv::Rect& b) { return a.area() > b.area(); });
+    for (std::size_t i = m_firstOpen; i < m_tracks.size(); ++i) {
+        Track& track = m_tracks[i];
+        if (track.misses >= m_options.missesToDrop) {
+            continue;
+        }
+        const auto same = std::find_if(faces.begin(), faces.end(), [this, &track](const cv::Rect& face) {
+            return KxAreOneFace(face, track.last, m_options.sameShare);
+        });
+        const bool looked = track.looks.back().timeSeconds >= static_cast<float>(timeSeconds);
+        if (same != faces.end()) {
+            if (looked && !track.looks.back().Face()) {
+                track.looks.back() = Look(timeSeconds, *same);
+            } else if (!looked) {
+                track.looks.emplace_back(timeSeconds, *same);
+            }
+            track.last = *same;
+            track.misses = 0;
+            faces.erase(same);
+        } else if (m_finder.UsesModel() && !looked) {
+            track.looks.emplace_back(timeSeconds, std::nullopt);
+            ++track.misses;
+        }
+    }
+    m_looksWithoutNews = faces.empty() ? m_looksWithoutNews + 1 : 0;
+    for (const cv::Rect& face : faces) {
+        m_tracks.push_back({view, {Look(timeSeconds, face)}, face, 0});
+    }
+}
+
+void KxFaceTracks::Follow(double timeSeconds, const cv::Mat& grey)
+{
+    int followed = 0;
+    for (std::size_t i = m_firstOpen; i < m_tracks.size(); ++i) {
+        Track& track = m_tracks[i];
+        if (track.misses >= m_options.missesToDrop) {
+            continue;
+        }
+        if (++followed > m_options.followedAtOnce) {
+            track.misses = m_options.missesToDrop;
+            continue;
+        }
+        const std::optional<cv::Rect> face = m_finder.FindNear(grey, track.view, track.last);
+        track.looks.emplace_back(timeSeconds, face);
+        track.misses = face ? 0 : track.misses + 1;
+        track.last = face.value_or(track.last);
+    }
+}
+
+double KxFaceTracks::SizeWeight(const cv::Rect& face, cv::Size picturePx) const
+{
+    const double share = static_cast<double>(face.width) / std::min(picturePx.width, picturePx.height);
+    return std::clamp((share - m_options.zeroWeightShare) / (m_options.fullWeightShare - m_options.zeroWeightShare),
+                      0.0, 1.0);
+}
+
+KxFaceTracks::Sight KxFaceTracks::Seen(const Track& track, double fromSeconds, double toSeconds,
+                                       cv::Size picturePx) const
+{
+    Sight sight;
+    const auto isBefore = [](const Look& look, double time) { return look.timeSeconds < time; };
+    for (auto look = std::lower_bound(track.looks.begin(), track.looks.end(), fromSeconds, isBefore);
+         look != track.looks.end() && look->timeSeconds <= toSeconds; ++look) {
+        ++sight.looks;
+        if (const std::optional<cv::Rect> face = look->Face()) {
+            ++sight.hits;
+            sight.sum += cv::Vec4d(face->x, face->y, face->width, face->height);
+            sight.weight += SizeWeight(*face, picturePx);
+        }
+    }
+    return sight;
+}
+
+KxSignalProfile KxFaceTracks::ProfileAt(double timeSeconds, double fromSeconds, double toSeconds, KxAxis axis,
+                                        double emptyFloor, cv::Size picturePx) const
+{
+    const double first = std::max(fromSeconds, timeSeconds - m_options.windowSeconds);
+    const double last = std::min(toSeconds, timeSeconds + m_options.windowSeconds);
+    const bool across = axis == KxAxis::Across;
+    const int lengthPx = across ? picturePx.width : picturePx.height;
+    KxSignalProfile faces;
+    for (const Track& track : m_tracks) {
+        if (track.looks.front().timeSeconds > last || track.looks.back().timeSeconds < first) {
+            continue;
+        }
+        const Sight sight = Seen(track, first, last, picturePx);
+        if (sight.hits <= m_options.agreeing) {
+            continue;
+        }
+        const cv::Vec4d face = sight.sum / sight.hits;
+        const double height = face[3] * (1.0 + m_options.growDown);
+        const double area = face[2] * height / picturePx.area();
+        const double from = (across ? face[0] : face[1]) / lengthPx;
+        faces.Add(from, from + (across ? face[2] : height) / lengthPx, sight.weight / sight.looks * area);
+    }
+    KxSignalProfile scaled;
+    scaled.Add(faces, 1.0 / (static_cast<double>(faces.Sum()) + emptyFloor));
+    return scaled;
+}

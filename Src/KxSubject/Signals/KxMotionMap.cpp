@@ -1,0 +1,93 @@
+#include <KxSubject/Signals/KxMotionMap.h>
+
+#include <opencv2/imgproc.hpp>
+
+#include <algorithm>
+#include <cmath>
+
+namespace
+{
+
+cv::Mat SlopeOf(const cv::Mat& grey)
+{
+    cv::Mat across;
+    cv::Mat down;
+    cv::spatialGradient(grey, across, down);
+    constexpr float sobelGain = 8.0F;
+    cv::Mat slope(grey.size(), CV_32FC1);
+    for (int y = 0; y < grey.rows; ++y) {
+        const auto* gx = across.ptr<short>(y);
+        const auto* gy = down.ptr<short>(y);
+        auto* out = slope.ptr<float>(y);
+        for (int x = 0; x < grey.cols; ++x) {
+            const auto a = static_cast<float>(gx[x]);
+            const auto b = static_cast<float>(gy[x]);
+            out[x] = std::sqrt(a * a + b * b) / sobelGain;
+        }
+    }
+    return slope;
+}
+
+} // namespace
+
+KxMotionMap::KxMotionMap(const KxSubjectOptions::Motion& options)
+    : m_options(options)
+{
+}
+
+void KxMotionMap::ClearBorder(cv::Mat& map, const cv::Matx33d& movement) const
+{
+    const auto right = static_cast<float>(map.cols - 1);
+    const auto bottom = static_cast<float>(map.rows - 1);
+    const std::vector<cv::Point2f> corners{{0.0F, 0.0F}, {right, 0.0F}, {right, bottom}, {0.0F, bottom}};
+    std::vector<cv::Point2f> warped;
+    cv::perspectiveTransform(corners, warped, movement);
+    std::vector<cv::Point> outline;
+    for (const cv::Point2f& corner : warped) {
+        outline.emplace_back(cvRound(corner.x), cvRound(corner.y));
+    }
+    cv::Mat inside(map.size(), CV_8UC1, cv::Scalar(0));
+    cv::fillConvexPoly(inside, outline, cv::Scalar(255));
+    const int border = std::min(m_options.borderPx, std::min(map.cols, map.rows) / 8);
+    cv::erode(inside, inside, cv::getStructuringElement(cv::MORPH_RECT, cv::Size(2 * border + 1, 2 * border + 1)),
+              cv::Point(-1, -1), 1, cv::BORDER_CONSTANT, cv::Scalar(0));
+    map.setTo(0.0F, inside == 0);
+}
+
+cv::Mat KxMotionMap::Difference(const cv::Mat& now, const cv::Mat& slope, const KxNeighbourPicture& other) const
+{
+    cv::Mat warped;
+    cv::warpPerspective(other.grey, warped, other.movement, now.size(), cv::INTER_LINEAR, cv::BORDER_REPLICATE);
+    cv::Mat difference;
+    cv::absdiff(warped, now, difference);
+    cv::Mat map(now.size(), CV_32FC1);
+    const auto tolerated = static_cast<float>(m_options.toleratedPx);
+    const auto full = static_cast<float>(m_options.fullPx);
+    const auto differenceFloor = static_cast<float>(m_options.differenceFloor);
+    const auto gradientFloor = static_cast<float>(m_options.gradientFloor);
+    for (int y = 0; y < map.rows; ++y) {
+        const auto* change = difference.ptr<uchar>(y);
+        const auto* steep = slope.ptr<float>(y);
+        auto* out = map.ptr<float>(y);
+        for (int x = 0; x < map.cols; ++x) {
+            const float excess = static_cast<float>(change[x]) - differenceFloor - tolerated * steep[x];
+            out[x] = std::clamp(excess / (gradientFloor + steep[x]), 0.0F, full);
+        }
+    }
+    ClearBorder(map, other.movement);
+    return map;
+}
+
+cv::Mat KxMotionMap::Of(const cv::Mat& now, const std::vector<KxNeighbourPicture>& neighbours) const
+{
+    if (neighbours.empty()) {
+        return cv::Mat::zeros(now.size(), CV_32FC1);
+    }
+    const cv::Mat slope = SlopeOf(now);
+    cv::Mat map = Difference(now, slope, neighbours.front());
+    for (std::size_t i = 1; i < neighbours.size(); ++i) {
+        map = cv::min(map, Difference(now, slope, neighbours[i]));
+    }
+    cv::GaussianBlur(map, map, cv::Size(), m_options.blurSigmaPx);
+    return map;
+}

@@ -1,0 +1,272 @@
+#include <KxSubject/Signals/KxMoverTracks.h>
+
+#include <opencv2/imgproc.hpp>
+
+#include <algorithm>
+#include <cmath>
+#include <tuple>
+
+namespace
+{
+
+constexpr double PackedOne = 255.0;
+constexpr int HitsThatCount = 20;
+
+/// The movement of a map given for one twice as large.
+cv::Matx33d Halved(cv::Matx33d movement)
+{
+    movement(0, 2) /= 2.0;
+    movement(1, 2) /= 2.0;
+    movement(2, 0) *= 2.0;
+    movement(2, 1) *= 2.0;
+    return movement;
+}
+
+cv::Point2d Moved(const cv::Matx33d& movement, cv::Point2d place)
+{
+    const cv::Vec3d moved = movement * cv::Vec3d(place.x, place.y, 1.0);
+    return {moved[0] / moved[2], moved[1] / moved[2]};
+}
+
+} // namespace
+
+KxMoverTracks::KxMoverTracks(const KxSubjectOptions::Movers& options)
+    : m_options(options)
+    , m_open(static_cast<std::size_t>(std::max(options.levels, 0)))
+{
+}
+
+std::vector<KxMoverTracks::Peak> KxMoverTracks::PeaksOf(const cv::Mat& map) const
+{
+    cv::Mat around;
+    const int side = 2 * m_options.peakDistancePx + 1;
+    cv::dilate(map, around, cv::getStructuringElement(cv::MORPH_RECT, {side, side}));
+    std::vector<Peak> peaks;
+    for (int y = 0; y < map.rows; ++y) {
+        const auto* value = map.ptr<float>(y);
+        const auto* largest = around.ptr<float>(y);
+        for (int x = 0; x < map.cols; ++x) {
+            if (value[x] > m_options.threshold && value[x] == largest[x]) {
+                peaks.push_back({value[x], {x, y}});
+            }
+        }
+    }
+    std::sort(peaks.begin(), peaks.end(), [](const Peak& a, const Peak& b) { return a.value > b.value; });
+    return peaks;
+}
+
+std::vector<KxMoverTracks::Blob> KxMoverTracks::BlobsAt(int level, const cv::Mat& map,
+                                                        const std::vector<Peak>& peaks) const
+{
+    const double fromMiddle = level - (m_options.levels - 1) / 2.0;
+    const double share = m_options.extentShare * std::pow(m_options.levelRatio, fromMiddle);
+    // floodFill wants a rim of one pixel around the mask.
+    cv::Mat taken(map.rows + 2, map.cols + 2, CV_8UC1, cv::Scalar(0));
+    std::vector<Blob> blobs;
+    for (const Peak& peak : peaks) {
+        if (blobs.size() >= static_cast<std::size_t>(m_options.mostAtOnce)) {
+            break;
+        }
+        if (taken.at<uchar>(peak.place + cv::Point(1, 1)) != 0) {
+            continue;
+        }
+        const int label = static_cast<int>(blobs.size()) + 1;
+        cv::Rect box;
+        cv::Mat source = map;
+        const int area = cv::floodFill(source, taken, peak.place, cv::Scalar(), &box,
+                                       cv::Scalar((1.0 - share) * peak.value), cv::Scalar(peak.value),
+                                       4 | (label << 8) | cv::FLOODFILL_FIXED_RANGE | cv::FLOODFILL_MASK_ONLY);
+        cv::Mat part;
+        map(box).copyTo(part, taken(box + cv::Point(1, 1)) == label);
+        const cv::Moments moments = cv::moments(part);
+        blobs.push_back(
+            {{box.x + moments.m10 / moments.m00, box.y + moments.m01 / moments.m00}, static_cast<double>(area), box});
+    }
+    return blobs;
+}
+
+void KxMoverTracks::Carry(const cv::Matx33d& camera)
+{
+    for (std::vector<Track>& open : m_open) {
+        for (Track& track : open) {
+            track.background = Moved(camera, track.place);
+            track.place = track.background + track.velocity;
+        }
+    }
+}
+
+std::optional<double> KxMoverTracks::Strangeness(const Track& track, const Blob& blob) const
+{
+    const double reach = m_options.reachPerSecond * m_gapSeconds * m_mapPx.width +
+                         m_options.reachBySize * std::sqrt(std::max(track.area, blob.area));
+    const double distance = cv::norm(blob.centre - track.place) / reach;
+    const double growth = std::abs(std::log(blob.area / track.area));
+    if (distance >= 1.0 || growth >= m_options.mostGrowth) {
+        return std::nullopt;
+    }
+    return distance + m_options.growthCost * growth - m_options.ageGain * std::min(track.hits, HitsThatCount);
+}
+
+KxMoverTracks::Mover::PackedBox KxMoverTracks::Packed(const cv::Rect& box) const
+{
+    const auto packed = [](double value, double whole) {
+        return static_cast<std::uint8_t>(std::lround(std::clamp(value / whole, 0.0, 1.0) * PackedOne));
+    };
+    return {packed(box.x, m_mapPx.width), packed(box.y, m_mapPx.height), packed(box.br().x, m_mapPx.width),
+            packed(box.br().y, m_mapPx.height)};
+}
+
+void KxMoverTracks::Extend(Track& track, const Blob& blob) const
+{
+    const cv::Point2d moved = blob.centre - track.background;
+    if (track.misses == 0) {
+        track.velocity += m_options.velocityGain * (moved - track.velocity);
+    }
+    track.travel += moved;
+    track.place = blob.centre;
+    track.area += m_options.areaGain * (blob.area - track.area);
+    ++track.hits;
+    track.lastSeconds = m_nowSeconds;
+
+    const Mover::PackedBox before = track.mover.boxes.back();
+    const Mover::PackedBox now = Packed(blob.box);
+    for (int missed = 1; missed <= track.misses; ++missed) {
+        Mover::PackedBox between;
+        for (std::size_t i = 0; i < between.size(); ++i) {
+            between[i] = static_cast<std::uint8_t>(before[i] + (now[i] - before[i]) * missed / (track.misses + 1));
+        }
+        track.mover.boxes.push_back(between);
+    }
+    track.mover.boxes.push_back(now);
+    track.misses = 0;
+}
+
+void KxMoverTracks::Join(std::vector<Track>& open, const std::vector<Blob>& blobs)
+{
+    std::vector<std::tuple<double, std::size_t, std::size_t>> pairs;
+    for (std::size_t i = 0; i < open.size(); ++i) {
+        for (std::size_t j = 0; j < blobs.size(); ++j) {
+            if (const std::optional<double> strangeness = Strangeness(open[i], blobs[j])) {
+                pairs.emplace_back(*strangeness, i, j);
+            }
+        }
+    }
+    std::sort(pairs.begin(), pairs.end());
+    std::vector<bool> followed(open.size(), false);
+    std::vector<bool> known(blobs.size(), false);
+    for (const auto& [strangeness, i, j] : pairs) {
+        if (!followed[i] && !known[j]) {
+            followed[i] = true;
+            known[j] = true;
+            Extend(open[i], blobs[j]);
+        }
+    }
+    std::vector<Track> staying;
+    for (std::size_t i = 0; i < open.size(); ++i) {
+        if (!followed[i] && ++open[i].misses > m_options.mostMisses) {
+            End(open[i]);
+        } else {
+            staying.push_back(std::move(open[i]));
+        }
+    }
+    for (std::size_t j = 0; j < blobs.size(); ++j) {
+        if (!known[j]) {
+            staying.push_back({blobs[j].centre,
+                               blobs[j].centre,
+                               {},
+                               {},
+                               blobs[j].area,
+                               m_nowSeconds,
+                               m_nowSeconds,
+                               1,
+                               0,
+                               {m_sample, 0.0F, {Packed(blobs[j].box)}}});
+        }
+    }
+    open = std::move(staying);
+}
+
+void KxMoverTracks::End(Track& track)
+{
+    const double seconds = track.lastSeconds - track.firstSeconds;
+    const double lasted =
+        track.hits < m_options.leastHits ? 0.0 : (seconds - m_options.secondsAtZero) / m_options.secondsToFull;
+    const double travelled = cv::norm(track.travel) / m_mapPx.width / m_options.fullTravel;
+    const double confidence = std::clamp(lasted, 0.0, 1.0) * std::clamp(travelled, 0.0, 1.0);
+    if (confidence > m_options.leastConfidence) {
+        track.mover.confidence = static_cast<float>(confidence);
+        track.mover.boxes.shrink_to_fit();
+        m_longest = std::max(m_longest, static_cast<std::int32_t>(track.mover.boxes.size()));
+        m_movers.push_back(std::move(track.mover));
+    }
+}
+
+void KxMoverTracks::EndAll()
+{
+    for (std::vector<Track>& open : m_open) {
+        std::for_each(open.begin(), open.end(), [this](Track& track) { End(track); });
+        open.clear();
+    }
+}
+
+void KxMoverTracks::AddMap(double timeSeconds, const cv::Mat& map, const std::optional<cv::Matx33d>& camera)
+{
+    ++m_sample;
+    m_gapSeconds = timeSeconds - m_nowSeconds;
+    m_nowSeconds = timeSeconds;
+    cv::Mat half;
+    cv::resize(map, half, {(map.cols + 1) / 2, (map.rows + 1) / 2}, 0.0, 0.0, cv::INTER_AREA);
+    m_mapPx = half.size();
+    if (camera) {
+        Carry(Halved(*camera));
+    } else {
+        EndAll();
+    }
+    const std::vector<Peak> peaks = PeaksOf(half);
+    for (std::size_t level = 0; level < m_open.size(); ++level) {
+        Join(m_open[level], BlobsAt(static_cast<int>(level), half, peaks));
+    }
+}
+
+void KxMoverTracks::Finish()
+{
+    EndAll();
+    std::stable_sort(m_movers.begin(), m_movers.end(),
+                     [](const Mover& a, const Mover& b) { return a.firstSample < b.firstSample; });
+}
+
+bool KxMoverTracks::Mover::Covers(std::size_t sample) const
+{
+    const auto first = static_cast<std::size_t>(firstSample);
+    return sample >= first && sample - first < boxes.size();
+}
+
+KxMoverTracks::Box KxMoverTracks::Mover::At(std::size_t sample) const
+{
+    const PackedBox& box = boxes[sample - static_cast<std::size_t>(firstSample)];
+    return {box[0] / PackedOne, box[1] / PackedOne, (box[2] - box[0]) / PackedOne, (box[3] - box[1]) / PackedOne};
+}
+
+KxSignalProfile KxMoverTracks::ProfileAt(std::size_t sample, KxAxis axis) const
+{
+    const auto last = static_cast<std::int32_t>(sample);
+    const auto begins = [](const Mover& mover, std::int32_t at) { return mover.firstSample < at; };
+    KxSignalProfile movers;
+    double whole = m_options.emptyFloor;
+    for (auto mover = std::lower_bound(m_movers.begin(), m_movers.end(), last - m_longest, begins);
+         mover != m_movers.end() && mover->firstSample <= last; ++mover) {
+        if (!mover->Covers(sample)) {
+            continue;
+        }
+        const Box box = mover->At(sample);
+        const double weight =
+            mover->confidence * std::pow(box.width * box.height, m_options.areaPower) / m_options.levels;
+        const bool across = axis == KxAxis::Across;
+        const double from = across ? box.x : box.y;
+        movers.Add(from, from + (across ? box.width : box.height), weight);
+        whole += weight;
+    }
+    KxSignalProfile scaled;
+    scaled.Add(movers, 1.0 / whole);
+    return scaled;
+}

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <KxSubject/KxSubjectOptions.h>
+
+/// What stands out in one picture: the part of its spectrum that its smoothed spectrum does not explain.
+class KXSUBJECT_API KxSaliencyMap
+{
+public:
+    explicit KxSaliencyMap(const KxSubjectOptions::Saliency& options);
+
+    /// CV_32FC1, a square of the side in the options that stands for the whole of `grey` (CV_8UC1), 0 to 1.
+    cv::Mat Of(const cv::Mat& grey) const;
+
+private:
+    KxSubjectOptions::Saliency m_options;
+};

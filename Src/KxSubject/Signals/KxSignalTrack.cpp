@@ -1,0 +1,139 @@
+#include <KxSubject/Signals/KxSignalTrack.h>
+
+#include <opencv2/imgproc.hpp>
+
+#include <algorithm>
+#include <cmath>
+
+namespace
+{
+
+/// The same movement for pixels that are counted from another corner.
+cv::Matx33d From(cv::Point origin, const cv::Matx33d& movement)
+{
+    const cv::Matx33d there(1, 0, origin.x, 0, 1, origin.y, 0, 0, 1);
+    const cv::Matx33d back(1, 0, -origin.x, 0, 1, -origin.y, 0, 0, 1);
+    return back * movement * there;
+}
+
+} // namespace
+
+KxSignalTrack::KxSignalTrack(const KxSubjectOptions& options, cv::Size picturePx, double frameRate,
+                             const std::string& faceModelPath)
+    : m_options(options)
+    , m_picturePx(picturePx)
+    , m_frameRate(frameRate)
+    , m_bars(options.bars, picturePx)
+    , m_camera(options.camera)
+    , m_motion(options.motion)
+    , m_movers(options.movers)
+    , m_saliency(options.saliency)
+    , m_faces(options.faces, KxFaceFinder(options.faces, faceModelPath, picturePx))
+{
+}
+
+void KxSignalTrack::Reserve(std::int64_t frameCount)
+{
+    // A header may claim anything: more than four hours grow as they come.
+    constexpr double mostSamples = 160000.0;
+    const double samples = SecondsAt(frameCount) * m_options.sampling.samplesPerSecond + 1.0;
+    m_samples.reserve(static_cast<std::size_t>(std::min(samples, mostSamples)));
+}
+
+std::array<KxPackedProfile, 2> KxSignalTrack::Profiles(const cv::Mat& map, const cv::Rect& region) const
+{
+    const double emptyFloor = m_options.evidence.emptyFloor;
+    return {KxPackedProfile(KxSignalProfile::Of(map, region, m_picturePx, KxAxis::Across, emptyFloor)),
+            KxPackedProfile(KxSignalProfile::Of(map, region, m_picturePx, KxAxis::UpDown, emptyFloor))};
+}
+
+void KxSignalTrack::AddPicture(std::int64_t frame, const cv::Mat& picture)
+{
+    const double tolerance = 0.25 / m_frameRate;
+    const auto slot =
+        static_cast<std::int64_t>(std::floor((SecondsAt(frame) + tolerance) * m_options.sampling.samplesPerSecond));
+    if (slot < m_nextSlot) {
+        return;
+    }
+    m_nextSlot = slot + 1;
+
+    Picture now{frame, {}, std::nullopt};
+    cv::cvtColor(picture, now.grey, cv::COLOR_BGR2GRAY);
+    m_bars.AddPicture(now.grey);
+    now.cameraHere = CameraTo(now);
+    MeasureMotion(&now);
+
+    const cv::Rect content = m_bars.Content();
+    KxSignalSample sample;
+    sample.frame = static_cast<std::int32_t>(frame);
+    sample.saliency = Profiles(m_saliency.Of(now.grey(content)), content);
+    m_samples.push_back(sample);
+    if (!now.cameraHere) {
+        m_faces.BeginScene();
+    }
+    m_faces.AddPicture(SecondsAt(frame), picture, now.grey);
+    m_before = std::move(m_newest);
+    m_newest = std::move(now);
+}
+
+std::optional<cv::Matx33d> KxSignalTrack::CameraTo(const Picture& now) const
+{
+    if (!m_newest || SecondsAt(now.frame - m_newest->frame) > m_options.camera.gapMaximumSeconds) {
+        return std::nullopt;
+    }
+    const cv::Rect content = m_bars.Content();
+    const std::optional<cv::Matx33d> movement = m_camera.Between(m_newest->grey(content), now.grey(content));
+    return movement ? std::optional(From(-content.tl(), *movement)) : std::nullopt;
+}
+
+void KxSignalTrack::MeasureMotion(const Picture* after)
+{
+    if (!m_newest) {
+        return;
+    }
+    const cv::Rect content = m_bars.Content();
+    std::vector<KxNeighbourPicture> neighbours;
+    if (m_before && m_newest->cameraHere) {
+        neighbours.push_back({m_before->grey(content), From(content.tl(), *m_newest->cameraHere)});
+    }
+    if (after != nullptr && after->cameraHere) {
+        neighbours.push_back({after->grey(content), From(content.tl(), after->cameraHere->inv())});
+    }
+    cv::Mat map(m_picturePx, CV_32FC1, cv::Scalar(0.0));
+    m_motion.Of(m_newest->grey(content), neighbours).copyTo(map(content));
+    m_samples.back().motion = Profiles(map(content), content);
+    m_movers.AddMap(SecondsAt(m_newest->frame), map, m_newest->cameraHere);
+}
+
+void KxSignalTrack::Finish()
+{
+    MeasureMotion(nullptr);
+    m_before.reset();
+    m_newest.reset();
+    m_movers.Finish();
+}
+
+KxSignalProfile KxSignalTrack::Evidence::Sum() const
+{
+    KxSignalProfile sum = motion;
+    sum.Add(movers, 1.0);
+    sum.Add(saliency, 1.0);
+    sum.Add(faces, 1.0);
+    return sum;
+}
+
+KxSignalTrack::Evidence KxSignalTrack::EvidenceAt(std::size_t sample, std::int64_t first, std::int64_t end,
+                                                  KxAxis axis) const
+{
+    const KxSubjectOptions::Evidence& weights = m_options.evidence;
+    const auto side = static_cast<std::size_t>(axis);
+    Evidence evidence;
+    evidence.motion.Add(m_samples[sample].motion[side].Unpacked(), weights.motionWeight);
+    evidence.movers.Add(m_movers.ProfileAt(sample, axis), weights.moverWeight);
+    evidence.saliency.Add(m_samples[sample].saliency[side].Unpacked(),
+                          axis == KxAxis::Across ? weights.saliencyWeightAcross : weights.saliencyWeightUpDown);
+    evidence.faces.Add(m_faces.ProfileAt(SecondsAt(m_samples[sample].frame), SecondsAt(first), SecondsAt(end - 1), axis,
+                                         weights.emptyFloor, m_picturePx),
+                       weights.faceWeight);
+    return evidence;
+}

@@ -1,0 +1,80 @@
+#pragma once
+
+#include <KxSubject/Shots/KxBarDetector.h>
+#include <KxSubject/Signals/KxCameraMovement.h>
+#include <KxSubject/Signals/KxFaceTracks.h>
+#include <KxSubject/Signals/KxMotionMap.h>
+#include <KxSubject/Signals/KxMoverTracks.h>
+#include <KxSubject/Signals/KxSaliencyMap.h>
+
+#include <optional>
+#include <vector>
+
+/// What was measured at one sampled picture, along both axes.
+struct KxSignalSample {
+    std::int32_t frame = 0;
+    std::array<KxPackedProfile, 2> motion;   ///< by axis
+    std::array<KxPackedProfile, 2> saliency; ///< by axis
+};
+
+/// Runs the signals over a video's pictures as they come and keeps what they say: profiles of the samples, movers,
+/// faces, bars. A sample's motion is measured against the samples beside it, so it is known one sample later. Keeps two
+/// pictures.
+class KXSUBJECT_API KxSignalTrack
+{
+public:
+    KxSignalTrack(const KxSubjectOptions& options, cv::Size picturePx, double frameRate,
+                  const std::string& faceModelPath);
+
+    /// Makes room for the samples of so many frames at once: hours of them stay in one piece, which does not hold back
+    /// the memory of pictures that come and go.
+    void Reserve(std::int64_t frameCount);
+
+    /// `picture` is CV_8UC3 (BGR) of the size given at the start; `frame` grows from call to call.
+    void AddPicture(std::int64_t frame, const cv::Mat& picture);
+
+    /// Measures what still waits for a later picture. Call once, after the last picture.
+    void Finish();
+
+    /// What each signal says at one sample, weighed; faces seen from the shot of frames `first` up to and without
+    /// `end`.
+    struct Evidence {
+        KxSignalProfile motion;
+        KxSignalProfile movers;
+        KxSignalProfile saliency;
+        KxSignalProfile faces;
+        KxSignalProfile Sum() const;
+    };
+    Evidence EvidenceAt(std::size_t sample, std::int64_t first, std::int64_t end, KxAxis axis) const;
+
+    const std::vector<KxSignalSample>& Samples() const { return m_samples; }
+    const KxFaceTracks& Faces() const { return m_faces; }
+    const KxMoverTracks& Movers() const { return m_movers; }
+    cv::Rect Content() const { return m_bars.Content(); }
+
+private:
+    struct Picture {
+        std::int64_t frame;
+        cv::Mat grey;
+        std::optional<cv::Matx33d> cameraHere; ///< from the picture before, in the whole picture's pixels
+    };
+    double SecondsAt(std::int64_t frame) const { return static_cast<double>(frame) / m_frameRate; }
+    std::array<KxPackedProfile, 2> Profiles(const cv::Mat& map, const cv::Rect& region) const;
+    std::optional<cv::Matx33d> CameraTo(const Picture& now) const;
+    /// `after` may be missing.
+    void MeasureMotion(const Picture* after);
+
+    KxSubjectOptions m_options;
+    cv::Size m_picturePx;
+    double m_frameRate;
+    KxBarDetector m_bars;
+    KxCameraMovement m_camera;
+    KxMotionMap m_motion;
+    KxMoverTracks m_movers;
+    KxSaliencyMap m_saliency;
+    KxFaceTracks m_faces;
+    std::vector<KxSignalSample> m_samples;
+    std::optional<Picture> m_before; ///< the sample before the newest
+    std::optional<Picture> m_newest;
+    std::int64_t m_nextSlot = 0; ///< samples are taken once in each slot of time
+};

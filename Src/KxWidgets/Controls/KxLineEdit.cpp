@@ -1,0 +1,32 @@
+#include <KxWidgets/KxLineEdit.h>
+
+#include <KxWidgets/Controls/KxFileNameValidator.h>
+
+namespace
+{
+
+constexpr int CompactHeightPx = 24;
+
+} // namespace
+
+KxLineEdit::KxLineEdit(QWidget* parent)
+    : QLineEdit(parent)
+{
+}
+
+KxLineEdit* KxLineEdit::creartNormalLineEdit(QWidget* parent, int heightPx)
+{
+    auto* edit = new KxLineEdit(parent);
+    edit->setProperty("compact", heightPx <= CompactHeightPx);
+    edit->setFixedHeight(heightPx);
+    return edit;
+}
+
+KxLineEdit::~KxLineEdit() = default;
+
+void KxLineEdit::SetFileNameValidator(bool on)
+{
+    const QValidator* old = validator();
+    setValidator(on ? new KxFileNameValidator(this) : nullptr);
+    delete old;
+}

@@ -1,0 +1,115 @@
+#include <KxWidgets/Style/KxGlyph.h>
+
+#include <KxWidgets/KxUIStyle.h>
+
+#include <QFile>
+#include <QIconEngine>
+#include <QPainter>
+#include <QPixmap>
+#include <QSvgRenderer>
+
+namespace
+{
+
+using KxUIStyle::Role;
+
+QString FileOf(const QString& name)
+{
+    return QStringLiteral(":/KxWidgets/Icons/%1.svg").arg(name);
+}
+
+QColor ColourOf(KxGlyph::State state)
+{
+    switch (state) {
+    case KxGlyph::State::Normal:
+        return KxUIStyle::Colour(Role::Icon);
+    case KxGlyph::State::Hover:
+        return KxUIStyle::Colour(Role::Strong);
+    case KxGlyph::State::Pressed:
+        return KxUIStyle::Colour(Role::Muted);
+    case KxGlyph::State::Disabled:
+        return KxUIStyle::Colour(Role::Off);
+    case KxGlyph::State::Checked:
+        return KxUIStyle::Colour(Role::Accent);
+    }
+    return {};
+}
+
+void PaintDrawing(QPainter& painter, const QString& name, const QRectF& area, const QColor& colour,
+                  const QColor& second)
+{
+    QFile file(FileOf(name));
+    if (!file.open(QIODevice::ReadOnly)) {
+        return;
+    }
+    QByteArray drawing = file.readAll();
+    drawing.replace("currentColor", colour.name().toLatin1());
+    drawing.replace("#FF8B55", second.name().toLatin1());
+    const qreal side = std::min(area.width(), area.height());
+    QRectF square(0, 0, side, side);
+    square.moveCenter(area.center());
+    QSvgRenderer(drawing).render(&painter, square);
+}
+
+class GlyphEngine : public QIconEngine
+{
+public:
+    explicit GlyphEngine(QString name)
+        : m_name(std::move(name))
+    {
+    }
+
+    void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override
+    {
+        KxGlyph::Paint(*painter, m_name, rect, StateOf(mode, state));
+    }
+
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override
+    {
+        QPixmap picture(size);
+        picture.fill(Qt::transparent);
+        QPainter painter(&picture);
+        paint(&painter, QRect(QPoint(), size), mode, state);
+        return picture;
+    }
+
+    QIconEngine* clone() const override { return new GlyphEngine(m_name); }
+
+private:
+    static KxGlyph::State StateOf(QIcon::Mode mode, QIcon::State state)
+    {
+        if (mode == QIcon::Disabled) {
+            return KxGlyph::State::Disabled;
+        }
+        if (state == QIcon::On) {
+            return KxGlyph::State::Checked;
+        }
+        return mode == QIcon::Active ? KxGlyph::State::Hover : KxGlyph::State::Normal;
+    }
+
+    const QString m_name;
+};
+
+} // namespace
+
+bool KxGlyph::Exists(const QString& name)
+{
+    return !name.isEmpty() && QFile::exists(FileOf(name));
+}
+
+void KxGlyph::Paint(QPainter& painter, const QString& name, const QRectF& area, State state)
+{
+    const QColor colour = ColourOf(state);
+    PaintDrawing(painter, name, area, colour,
+                 state == State::Disabled ? colour : KxUIStyle::Colour(KxUIStyle::Role::Edited));
+}
+
+void KxGlyph::Paint(QPainter& painter, const QString& name, const QRectF& area, const QColor& colour)
+{
+    PaintDrawing(painter, name, area, colour, colour);
+}
+
+QIcon KxGlyph::Icon(const QString& name)
+{
+    return Exists(name) ? QIcon(new GlyphEngine(name)) : QIcon();
+}

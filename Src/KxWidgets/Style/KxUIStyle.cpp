@@ -1,0 +1,36 @@
+#include <KxWidgets/KxUIStyle.h>
+
+#include <KxWidgets/Style/KxAccessible.h>
+#include <KxWidgets/Style/KxFocusRing.h>
+#include <KxWidgets/Style/KxGlyph.h>
+#include <KxWidgets/Style/KxTheme.h>
+
+#include <QApplication>
+#include <QStyle>
+#include <QStyleFactory>
+#include <QToolTip>
+
+void KxUIStyle::Apply(QApplication& application)
+{
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setPalette(KxTheme::Palette());
+    QApplication::setFont(KxTheme::Font());
+    QToolTip::setFont(KxTheme::Font());
+    application.setStyleSheet(KxTheme::StyleSheet());
+    KxAccessible::Install();
+    KxFocusRing::Install(application);
+}
+
+QIcon KxUIStyle::Icon(const QString& name)
+{
+    return KxGlyph::Icon(name);
+}
+
+void KxUIStyle::SetBGColorType(QWidget* widget, int type)
+{
+    widget->setProperty("bgColorType", type);
+    widget->setAttribute(Qt::WA_StyledBackground);
+    widget->style()->unpolish(widget);
+    widget->style()->polish(widget);
+    widget->update();
+}

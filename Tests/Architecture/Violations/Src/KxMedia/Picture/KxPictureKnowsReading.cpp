@@ -1,0 +1,1 @@
+#include <KxMedia/Read/KxVideoReader.h>

@@ -1,0 +1,2 @@
+#include "KxVideoReader.h"
+#include <KxMedia/KxVideoReader.h>

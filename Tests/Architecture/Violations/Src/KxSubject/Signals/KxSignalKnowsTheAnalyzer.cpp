@@ -1,0 +1,1 @@
+#include <KxSubject/KxSubjectAnalyzer.h>

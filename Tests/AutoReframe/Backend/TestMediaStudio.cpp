@@ -1,0 +1,73 @@
+#include <Apps/AutoReframe/Backend/MediaStudio.h>
+#include <Tests/Support/MadeVideo.h>
+
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace
+{
+
+class TestMediaStudio : public testing::Test
+{
+protected:
+    QString MakeClip(const QString& name)
+    {
+        MadeVideo::Recipe recipe;
+        recipe.size = QSize(192, 108);
+        recipe.frames = 50;
+        const QString path = m_folder.filePath(name);
+        EXPECT_TRUE(MadeVideo::Make(path, recipe));
+        return path;
+    }
+
+    QTemporaryDir m_folder;
+    MediaStudio m_studio;
+};
+
+} // namespace
+
+TEST_F(TestMediaStudio, OpensAVideoWithItsFacts)
+{
+    const KxResult<StudioMedia> media = m_studio.Open(MakeClip(QStringLiteral("clip.mp4")), KxCancelToken());
+    ASSERT_TRUE(media) << media.Sentence().toStdString();
+    EXPECT_EQ(media->resolution, QSize(192, 108));
+    EXPECT_EQ(media->frameCount, 50);
+    EXPECT_EQ(media->frameRate, (KxRational{25, 1}));
+}
+
+TEST_F(TestMediaStudio, RefusesWithTheNameAndTheReason)
+{
+    const QString sound = m_folder.filePath(QStringLiteral("tone.wav"));
+    ASSERT_TRUE(MadeVideo::RunFfmpeg({QStringLiteral("-f"), QStringLiteral("lavfi"), QStringLiteral("-i"),
+                                      QStringLiteral("sine=duration=1"), sound}));
+    EXPECT_EQ(m_studio.Open(sound, KxCancelToken()).Sentence(),
+              QStringLiteral("Cannot open tone.wav: it has no moving picture."));
+    EXPECT_TRUE(m_studio.Open(m_folder.path(), KxCancelToken()).Sentence().endsWith(QLatin1String("it is a folder.")));
+}
+
+TEST_F(TestMediaStudio, MakesAThumbnailThatFits)
+{
+    QImage thumbnail;
+    m_studio.RequestThumbnail(MakeClip(QStringLiteral("clip.mp4")), QSize(96, 96),
+                              [&thumbnail](const QImage& picture) { thumbnail = picture; });
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !thumbnail.isNull(); }, 20000));
+    EXPECT_EQ(thumbnail.size(), QSize(96, 54));
+}
+
+TEST_F(TestMediaStudio, ACancelledThumbnailIsNotDelivered)
+{
+    int delivered = 0;
+    const QString clip = MakeClip(QStringLiteral("clip.mp4"));
+    const quint64 first = m_studio.RequestThumbnail(clip, QSize(96, 96), [&](const QImage&) { delivered += 10; });
+    m_studio.CancelThumbnail(first);
+    m_studio.RequestThumbnail(clip, QSize(96, 96), [&](const QImage&) { delivered += 1; });
+    ASSERT_TRUE(QTest::qWaitFor([&] { return delivered > 0; }, 20000));
+    EXPECT_EQ(delivered, 1);
+}
+
+TEST_F(TestMediaStudio, OffersTheFormatsThatItReads)
+{
+    EXPECT_TRUE(m_studio.ImportPatterns().split(QLatin1Char(';')).contains(QStringLiteral("*.mp4")));
+}

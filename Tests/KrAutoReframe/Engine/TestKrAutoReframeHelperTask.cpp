@@ -1,0 +1,276 @@
+#include <Tests/KrAutoReframe/Engine/HelperTest.h>
+
+#include <QCoreApplication>
+#include <QThreadPool>
+#include <QtConcurrent>
+
+#include <atomic>
+
+using Peer = KrAutoReframeHelperPeer;
+
+namespace
+{
+
+/// A place at which the task stops until it is let go.
+struct HeldTask {
+    void Hold()
+    {
+        reached.Open();
+        release.Wait();
+    }
+
+    FakeHost::Gate reached;
+    FakeHost::Gate release;
+};
+
+/// All threads of the global pool are taken until they are freed.
+class BusyPool
+{
+public:
+    BusyPool()
+    {
+        for (int thread = 0; thread < QThreadPool::globalInstance()->maxThreadCount(); ++thread) {
+            m_threads << QtConcurrent::run([this] { m_release.Wait(); });
+        }
+    }
+    ~BusyPool()
+    {
+        Free();
+        for (QFuture<void>& thread : m_threads) {
+            thread.waitForFinished();
+        }
+    }
+    Q_DISABLE_COPY_MOVE(BusyPool)
+
+    void Free() { m_release.Open(); }
+
+private:
+    FakeHost::Gate m_release;
+    QList<QFuture<void>> m_threads;
+};
+
+} // namespace
+
+TEST_F(TestKrAutoReframeHelper, StartedTwiceItRunsOnce)
+{
+    Open(100);
+    HeldTask held;
+    AtFirstProgress([&held] { held.Hold(); });
+    EXPECT_TRUE(helper->ApplyResults(FakeHost::MakeResults(100)));
+    held.reached.Wait();
+    EXPECT_TRUE(helper->ApplyResults(FakeHost::MakeResults(100, 0.4)));
+    EXPECT_TRUE(helper->ApplyResults({}));
+    held.release.Open();
+    EXPECT_TRUE(WaitForFinished());
+    QCoreApplication::sendPostedEvents();
+    EXPECT_EQ(WorkKeyFrames().PushCount(), 1);
+    EXPECT_DOUBLE_EQ(PushedX(0), 0.0);
+}
+
+TEST_F(TestKrAutoReframeHelper, CancelledInTheMiddleItStopsAtTheNextFrameAndKeepsWhatItStored)
+{
+    Open(100);
+    HeldTask held;
+    AtFirstProgress([&held] { held.Hold(); });
+    QSignalSpy finished(helper.get(), &KrAutoReframeHelper::sigApplyFinished);
+    EXPECT_TRUE(helper->ApplyResults(FakeHost::MakeResults(100)));
+    held.reached.Wait();
+    helper->Cancel();
+    QCoreApplication::sendPostedEvents();
+    EXPECT_EQ(finished.count(), 0);
+    held.release.Open();
+    ASSERT_TRUE(finished.wait(WaitMs));
+    ASSERT_EQ(finished.count(), 1);
+    EXPECT_FALSE(finished.at(0).at(0).toBool());
+    EXPECT_EQ(PushedFrames(), QStringLiteral("0..1"));
+    EXPECT_EQ(helper->GetResults().size(), 100);
+    EXPECT_TRUE(helper->GetDisplayResults().isEmpty());
+}
+
+TEST_F(TestKrAutoReframeHelper, CancelledBeforeItsThreadIsFreeItMakesNothing)
+{
+    Open(100);
+    BusyPool busy;
+    QSignalSpy finished(helper.get(), &KrAutoReframeHelper::sigApplyFinished);
+    EXPECT_TRUE(helper->ApplyResults(FakeHost::MakeResults(100)));
+    helper->Cancel();
+    busy.Free();
+    ASSERT_TRUE(finished.wait(WaitMs));
+    EXPECT_FALSE(finished.at(0).at(0).toBool());
+    EXPECT_EQ(WorkKeyFrames().PushCount(), 0);
+    EXPECT_TRUE(helper->GetResults().isEmpty());
+}
+
+TEST_F(TestKrAutoReframeHelper, CancelledInItsLastStepItIsStillCancelled)
+{
+    OpenAndApply(100);
+    helper->AddKeyFrame(10, Rect(0.5));
+    HeldTask held;
+    WorkKeyFrames().SetOnPush([&held] { held.Hold(); });
+    QSignalSpy finished(helper.get(), &KrAutoReframeHelper::sigApplyFinished);
+    EXPECT_TRUE(helper->ApplyResults(FakeHost::MakeResults(100, 0.4)));
+    held.reached.Wait();
+    helper->Cancel();
+    held.release.Open();
+    ASSERT_TRUE(finished.wait(WaitMs));
+    EXPECT_FALSE(finished.at(0).at(0).toBool());
+    EXPECT_EQ(PushedFrames(), QStringLiteral("0..99"));
+    EXPECT_DOUBLE_EQ(helper->GetResults().at(0).cropRect().x(), 0.4);
+    EXPECT_EQ(EditFrames(), QList<uint>{10});
+}
+
+TEST_F(TestKrAutoReframeHelper, CancelledAfterItsEndItHasFinishedWell)
+{
+    Open(100);
+    EXPECT_TRUE(helper->ApplyResults(FakeHost::MakeResults(100)));
+    QThreadPool::globalInstance()->waitForDone();
+    helper->Cancel();
+    EXPECT_TRUE(WaitForFinished());
+    EXPECT_EQ(helper->GetDisplayResults().size(), 100);
+}
+
+TEST_F(TestKrAutoReframeHelper, CancellingWhileNothingRunsLeavesNoMark)
+{
+    Open(100);
+    helper->Cancel();
+    QCoreApplication::sendPostedEvents();
+    EXPECT_TRUE(Apply(100));
+    EXPECT_EQ(PushedFrames(), QStringLiteral("0..99"));
+}
+
+TEST_F(TestKrAutoReframeHelper, AfterACancellationItCanRunAgain)
+{
+    Open(100);
+    HeldTask held;
+    AtFirstProgress([&held] { held.Hold(); });
+    QSignalSpy finished(helper.get(), &KrAutoReframeHelper::sigApplyFinished);
+    EXPECT_TRUE(helper->ApplyResults(FakeHost::MakeResults(100)));
+    held.reached.Wait();
+    helper->Cancel();
+    held.release.Open();
+    ASSERT_TRUE(finished.wait(WaitMs));
+    EXPECT_TRUE(Apply(100, 0.4));
+    EXPECT_EQ(PushedFrames(), QStringLiteral("0..99"));
+    EXPECT_DOUBLE_EQ(PushedX(0), 0.4);
+}
+
+TEST_F(TestKrAutoReframeHelper, WhileTheMutexIsBusyNothingIsStoredAndTheOldKeyFramesArePushed)
+{
+    OpenAndApply(100);
+    HeldTask held;
+    FakeHost::Gate pushed;
+    AtFirstProgress([&held] { held.Hold(); });
+    WorkKeyFrames().SetOnPush([&pushed] { pushed.Open(); });
+    EXPECT_TRUE(helper->ApplyResults(FakeHost::MakeResults(100, 0.4)));
+    held.reached.Wait();
+    Peer::Mutex(*helper).lock();
+    Peer::SetCanceled(*helper);
+    held.release.Open();
+    pushed.Wait();
+    Peer::Mutex(*helper).unlock();
+    EXPECT_TRUE(WaitForFinished());
+    EXPECT_EQ(WorkKeyFrames().PushCount(), 2);
+    EXPECT_EQ(PushedFrames(), QStringLiteral("0..99"));
+    EXPECT_DOUBLE_EQ(PushedX(0), 0.0);
+    EXPECT_DOUBLE_EQ(helper->GetResults().at(0).cropRect().x(), 0.0);
+}
+
+TEST_F(TestKrAutoReframeHelper, WhileTheMutexIsBusyTheCancelMarkIsNotSeen)
+{
+    Open(100);
+    int progressCount = 0;
+    HeldTask held;
+    FakeHost::Gate pushed;
+    AtFirstProgress([&held] { held.Hold(); });
+    QObject::connect(helper.get(), &KrAutoReframeHelper::sigApplyProgress, helper.get(),
+                     [&progressCount] { ++progressCount; });
+    WorkKeyFrames().SetOnPush([&pushed] { pushed.Open(); });
+    EXPECT_TRUE(helper->ApplyResults(FakeHost::MakeResults(100)));
+    held.reached.Wait();
+    Peer::Mutex(*helper).lock();
+    Peer::SetCanceled(*helper);
+    held.release.Open();
+    pushed.Wait();
+    Peer::Mutex(*helper).unlock();
+    EXPECT_TRUE(WaitForFinished());
+    EXPECT_EQ(progressCount, 99);
+}
+
+TEST_F(TestKrAutoReframeHelper, CanBeDestroyedWhileTheTaskRuns)
+{
+    for (int round = 0; round < 10; ++round) {
+        helper = std::make_unique<KrAutoReframeHelper>();
+        Open(20000);
+        FakeHost::Gate reached;
+        AtFirstProgress([&reached] { reached.Open(); });
+        EXPECT_TRUE(helper->ApplyResults(FakeHost::MakeResults(20000)));
+        reached.Wait();
+        helper.reset();
+        FakeHost::Reset();
+        QCoreApplication::sendPostedEvents();
+    }
+}
+
+TEST_F(TestKrAutoReframeHelper, CanBeDestroyedBeforeTheTaskHasStarted)
+{
+    Open(100);
+    BusyPool busy;
+    EXPECT_TRUE(helper->ApplyResults(FakeHost::MakeResults(100)));
+    helper.reset();
+    EXPECT_EQ(FakeHost::LiveTimelines(), 1);
+    busy.Free();
+}
+
+TEST_F(TestKrAutoReframeHelper, CanBeDestroyedRightAfterACancel)
+{
+    Open(20000);
+    EXPECT_TRUE(helper->ApplyResults(FakeHost::MakeResults(20000)));
+    helper->Cancel();
+    helper.reset();
+    EXPECT_EQ(FakeHost::LiveTimelines(), 1);
+    QCoreApplication::sendPostedEvents();
+}
+
+TEST_F(TestKrAutoReframeHelper, ANewSourceWhileTheTaskRunsCancelsIt)
+{
+    Open(20000);
+    FakeHost::Gate reached;
+    AtFirstProgress([&reached] { reached.Open(); });
+    QSignalSpy finished(helper.get(), &KrAutoReframeHelper::sigApplyFinished);
+    EXPECT_TRUE(helper->ApplyResults(FakeHost::MakeResults(20000)));
+    reached.Wait();
+    Open(50);
+    EXPECT_TRUE(helper->GetResults().isEmpty());
+    EXPECT_EQ(FakeHost::LiveTimelines(), 3);
+    ASSERT_TRUE(finished.count() == 1 || finished.wait(WaitMs));
+    EXPECT_EQ(WorkKeyFrames().PushCount(), 0);
+    EXPECT_TRUE(Apply(50));
+    EXPECT_EQ(PushedFrames(), QStringLiteral("0..49"));
+}
+
+TEST_F(TestKrAutoReframeHelper, ResettingTheWorkingCopyWhileTheTaskRunsCancelsIt)
+{
+    Open(20000);
+    FakeHost::Gate reached;
+    AtFirstProgress([&reached] { reached.Open(); });
+    EXPECT_TRUE(helper->ApplyResults(FakeHost::MakeResults(20000)));
+    reached.Wait();
+    EXPECT_TRUE(helper->ResetWorkTimeline(helper->GetSourceTimeline()));
+    EXPECT_EQ(WorkKeyFrames().PushCount(), 0);
+    EXPECT_EQ(FakeHost::LiveTimelines(), 2);
+}
+
+TEST_F(TestKrAutoReframeHelper, AnEditWhileTheTaskRunsWaitsForItsResults)
+{
+    Open(20000);
+    FakeHost::Gate reached;
+    AtFirstProgress([&reached] { reached.Open(); });
+    EXPECT_TRUE(helper->ApplyResults(FakeHost::MakeResults(20000)));
+    reached.Wait();
+    EXPECT_LE(helper->GetResults().size(), 20000);
+    EXPECT_TRUE(helper->AddKeyFrame(100, Rect(0.5)));
+    EXPECT_EQ(PushedFrames(), QStringLiteral("0..75 100 125..19999"));
+    EXPECT_TRUE(WaitForFinished());
+    EXPECT_TRUE(EditFrames().isEmpty());
+    EXPECT_DOUBLE_EQ(ShownX(100), 0.1);
+}

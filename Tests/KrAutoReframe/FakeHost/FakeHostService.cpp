@@ -1,0 +1,134 @@
+#include <Tests/KrAutoReframe/FakeHost/FakeHost.h>
+
+#include <algorithm>
+
+namespace FakeHost
+{
+
+void Gate::Open()
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_isOpen = true;
+    m_changed.notify_all();
+}
+
+void Gate::Wait()
+{
+    std::unique_lock<std::mutex> lock(m_mutex);
+    m_changed.wait(lock, [this] { return m_isOpen; });
+}
+
+bool Service::StartTask(const QString& path, const IKxAutoReframeParam& param)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    Record(QStringLiteral("StartTask(%1, %2, %3x%4)")
+               .arg(path)
+               .arg(param.mode())
+               .arg(param.targetSize().width())
+               .arg(param.targetSize().height()));
+    return m_isAccepted;
+}
+
+void Service::StopTask(int task)
+{
+    std::unique_lock<std::mutex> lock(m_mutex);
+    Record(QStringLiteral("StopTask(%1)").arg(task));
+    WaitForEvent(lock);
+}
+
+int Service::GetResults(const QString& path, QList<IKxAutoReframeResult>* out)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    Record(QStringLiteral("GetResults(%1, %2 entries)").arg(path).arg(out->size()));
+    *out = m_results;
+    return m_status;
+}
+
+void Service::AddObserver(IKxAutoReframeEventObserver* observer)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    Record(QStringLiteral("AddObserver"));
+    m_observers.push_back(observer);
+}
+
+void Service::RemoveObserver(IKxAutoReframeEventObserver* observer)
+{
+    std::unique_lock<std::mutex> lock(m_mutex);
+    Record(QStringLiteral("RemoveObserver"));
+    m_observers.erase(std::remove(m_observers.begin(), m_observers.end(), observer), m_observers.end());
+    WaitForEvent(lock);
+}
+
+void Service::Fire(int state, int percent)
+{
+    std::unique_lock<std::mutex> lock(m_mutex);
+    WaitForEvent(lock);
+    const std::vector<IKxAutoReframeEventObserver*> observers = m_observers;
+    m_isInEvent = true;
+    m_eventThread = std::this_thread::get_id();
+    lock.unlock();
+    for (IKxAutoReframeEventObserver* const observer : observers) {
+        observer->OnAutoReframeEvent(17, state, percent);
+    }
+    lock.lock();
+    m_isInEvent = false;
+    m_eventEnded.notify_all();
+}
+
+void Service::FireFromThread(int state, int percent)
+{
+    std::thread([this, state, percent] { Fire(state, percent); }).join();
+}
+
+void Service::Accept(bool isAccepted)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_isAccepted = isAccepted;
+}
+
+void Service::Answer(int status, const QList<IKxAutoReframeResult>& results)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_status = status;
+    m_results = results;
+}
+
+QStringList Service::Calls() const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return m_calls;
+}
+
+void Service::ForgetCalls()
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_calls.clear();
+}
+
+void Service::Reset()
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_observers.clear();
+    m_calls.clear();
+    m_isAccepted = true;
+    m_status = 0;
+    m_results.clear();
+}
+
+void Service::Record(const QString& call)
+{
+    m_calls.append(call);
+}
+
+void Service::WaitForEvent(std::unique_lock<std::mutex>& lock)
+{
+    m_eventEnded.wait(lock, [this] { return !m_isInEvent || m_eventThread == std::this_thread::get_id(); });
+}
+
+Service& TheService()
+{
+    static Service service;
+    return service;
+}
+
+} // namespace FakeHost

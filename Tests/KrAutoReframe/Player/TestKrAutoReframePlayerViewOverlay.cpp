@@ -1,0 +1,104 @@
+#include <Tests/KrAutoReframe/Player/PlayerViewTest.h>
+
+#include <KxCore/KxScreen.h>
+#include <KxCore/KxUtility.h>
+#include <KxPlayer/KxMediaPlayerWidget.h>
+
+#include <QLabel>
+#include <QtTest>
+
+TEST_F(PlayerViewTest, LaysTheOverlayOverThePicture)
+{
+    ShowCrop();
+    view->move(100, 50);
+    KxSingleton<KxScreen>::instance()->setDevicePixelRatio(1.0);
+    Script().videoRect = QRect(10, 20, 600, 300);
+    view->UpdateOverlayGeometry();
+    EXPECT_EQ(overlay->pos(), view->mapToGlobal(QPoint(10, 20)));
+    EXPECT_EQ(overlay->size(), QSize(600, 300));
+    EXPECT_EQ(overlay->minimumSize(), overlay->maximumSize());
+}
+
+TEST_F(PlayerViewTest, ScalesTheOverlaysSizeButNotItsPlace)
+{
+    ShowCrop();
+    Script().videoRect = QRect(10, 20, 601, 301);
+    KxSingleton<KxScreen>::instance()->setDevicePixelRatio(2.0);
+    view->UpdateOverlayGeometry();
+    EXPECT_EQ(overlay->pos(), view->mapToGlobal(QPoint(10, 20)));
+    EXPECT_EQ(overlay->size(), QSize(301, 151));
+    KxSingleton<KxScreen>::instance()->setDevicePixelRatio(1.5);
+    view->UpdateOverlayGeometry();
+    EXPECT_EQ(overlay->size(), QSize(401, 201));
+}
+
+TEST_F(PlayerViewTest, ADevicePixelRatioOfZeroCountsAsOne)
+{
+    ShowCrop();
+    Script().videoRect = QRect(0, 0, 600, 300);
+    KxSingleton<KxScreen>::instance()->setDevicePixelRatio(0.0);
+    view->UpdateOverlayGeometry();
+    EXPECT_EQ(overlay->size(), QSize(600, 300));
+}
+
+TEST_F(PlayerViewTest, AHiddenOverlayKeepsItsPlace)
+{
+    ShowCrop();
+    overlay->hide();
+    const QRect before = overlay->geometry();
+    Script().videoRect = QRect(1, 2, 333, 222);
+    view->UpdateOverlayGeometry();
+    EXPECT_EQ(overlay->geometry(), before);
+}
+
+TEST_F(PlayerViewTest, TheOverlayFollowsMovesAndSizes)
+{
+    ShowCrop();
+    Script().videoRect = QRect(0, 0, 500, 250);
+    view->resize(700, 520);
+    QTRY_COMPARE(overlay->size(), QSize(500, 250));
+    const QSize player = view->findChild<KxMediaPlayerWidget*>()->size();
+    const QRect frame = KxUtility::getFitCentralWindowRectByRatio(QRect(QPoint(0, 0), player), QSize(1920, 1080));
+    const QRect picture = KxUtility::getFitCentralWindowRectByRatio(frame, QSize(1920, 1080));
+    EXPECT_EQ(Picture().size(), picture.size());
+    view->move(view->pos() + QPoint(30, 40));
+    QTRY_COMPARE(overlay->pos(), view->mapToGlobal(QPoint(0, 0)));
+}
+
+TEST_F(PlayerViewTest, FitsThePictureIntoTheWideFrameFirst)
+{
+    Open(QSize(1080, 1920));
+    helper->SetTimeline(timeline);
+    KxMediaPlayerWidget& player = *view->findChild<KxMediaPlayerWidget*>();
+    view->resize(640, view->height() - player.height() + 480);
+    QTRY_COMPARE(player.size(), QSize(640, 480));
+    // 640 x 360 of the widget, and of that 202 x 360 for the picture.
+    EXPECT_EQ(Picture().size(), QSize(202, 360));
+}
+
+TEST_F(PlayerViewTest, APictureIsWideWithoutASource)
+{
+    KxMediaPlayerWidget& player = *view->findChild<KxMediaPlayerWidget*>();
+    view->resize(640, view->height() - player.height() + 480);
+    QTRY_COMPARE(player.size(), QSize(640, 480));
+    EXPECT_EQ(Picture().size(), QSize(640, 360));
+}
+
+TEST_F(PlayerViewTest, ANewSourceOfAnotherShapeIsFittedAnew)
+{
+    ShowCrop();
+    FakeHost::Facts facts;
+    facts.frameCount = FrameCount;
+    facts.resolution = QSize(1000, 1000);
+    helper->SetTimeline(FakeHost::MakeTimeline({facts}));
+    const QSize picture = Picture().size();
+    EXPECT_EQ(picture.width(), picture.height());
+}
+
+TEST_F(PlayerViewTest, ClosingHidesTheOverlay)
+{
+    ShowCrop();
+    ASSERT_TRUE(overlay->isVisible());
+    EXPECT_TRUE(view->close());
+    EXPECT_FALSE(overlay->isVisible());
+}

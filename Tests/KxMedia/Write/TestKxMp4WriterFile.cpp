@@ -1,0 +1,232 @@
+#include <Tests/KxMedia/Write/WrittenClips.h>
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+
+#if !defined(_WIN32)
+#include <csignal>
+#include <sys/resource.h>
+#include <unistd.h>
+#endif
+
+using namespace WrittenClips;
+
+TEST_F(KxMp4WriterTest, FileOfTheSameNameIsKeptAndANumberIsAdded)
+{
+    const KxMp4Writer::Settings settings = SettingsFor(Path(QStringLiteral("out.mp4")));
+    QFile old(settings.path);
+    ASSERT_TRUE(old.open(QIODevice::WriteOnly));
+    old.write("old");
+    old.close();
+    EXPECT_EQ(WriteFlat(settings, 5), Path(QStringLiteral("out (2).mp4")));
+    EXPECT_EQ(WriteFlat(settings, 5), Path(QStringLiteral("out (3).mp4")));
+    EXPECT_EQ(Content(settings.path), QByteArray("old"));
+    EXPECT_EQ(DecodedLuma(Path(QStringLiteral("out (3).mp4"))).size(), 5U);
+}
+
+TEST_F(KxMp4WriterTest, FileOfTheSameNameIsReplacedOnRequestAndOnlyAtTheEnd)
+{
+    KxMp4Writer::Settings settings = SettingsFor(Path(QStringLiteral("out.mp4")));
+    settings.existing = KxMp4Writer::Existing::Replace;
+    QFile old(settings.path);
+    ASSERT_TRUE(old.open(QIODevice::WriteOnly));
+    old.write("old");
+    old.close();
+    const std::unique_ptr<KxMp4Writer> writer = Open(settings);
+    ASSERT_NE(writer, nullptr);
+    ASSERT_EQ(AddPictures(*writer, 5), std::nullopt);
+    EXPECT_EQ(Content(settings.path), QByteArray("old"));
+    ASSERT_TRUE(writer->Finish());
+    EXPECT_EQ(DecodedLuma(settings.path).size(), 5U);
+    EXPECT_EQ(FilesIn(m_folder.path()), QStringList{QStringLiteral("out.mp4")});
+}
+
+TEST_F(KxMp4WriterTest, NamesThatLookLikeSomethingElseAreNames)
+{
+    for (const QString& name :
+         {QStringLiteral("a:b.mp4"), QStringLiteral("50%1 %d.mp4"), QString::fromUtf8("größe ünd.mp4"),
+          QStringLiteral("pipe:1.mp4"), QStringLiteral("none")}) {
+        EXPECT_EQ(WriteFlat(SettingsFor(Path(name)), 3), Path(name));
+        EXPECT_EQ(DecodedLuma(QStringLiteral("file:") + Path(name)).size(), 3U);
+    }
+}
+
+TEST_F(KxMp4WriterTest, UnfinishedFileLeavesNothingBehind)
+{
+    KxMp4Writer::Settings settings = SettingsFor(Path(QStringLiteral("out.mp4")));
+    settings.hasAudio = true;
+    Open(settings).reset();
+    EXPECT_EQ(FilesIn(m_folder.path()), QStringList());
+    std::unique_ptr<KxMp4Writer> writer = Open(settings);
+    ASSERT_EQ(AddPictures(*writer, 40), std::nullopt);
+    ASSERT_EQ(writer->AddAudio(Clicks(1.0, {})), std::nullopt);
+    EXPECT_EQ(FilesIn(m_folder.path()).size(), 1);
+    EXPECT_FALSE(QFile::exists(settings.path));
+    writer.reset();
+    EXPECT_EQ(FilesIn(m_folder.path()), QStringList());
+}
+
+TEST_F(KxMp4WriterTest, NothingToWriteIsAFailure)
+{
+    std::unique_ptr<KxMp4Writer> writer = Open(SettingsFor(Path(QStringLiteral("out.mp4"))));
+    const KxResult<QString> path = writer->Finish();
+    EXPECT_FALSE(path);
+    EXPECT_EQ(path.Sentence(),
+              QStringLiteral("Cannot write %1: there is no picture to write.").arg(Path(QStringLiteral("out.mp4"))));
+    writer.reset();
+    EXPECT_EQ(FilesIn(m_folder.path()), QStringList());
+}
+
+TEST_F(KxMp4WriterTest, SettingsThatCannotBeAreRefused)
+{
+    const auto sentence = [](const KxMp4Writer::Settings& settings) { return KxMp4Writer::Open(settings).Sentence(); };
+    KxMp4Writer::Settings settings = SettingsFor(Path(QStringLiteral("out.mp4")));
+    settings.size = QSize(101, 200);
+    EXPECT_TRUE(sentence(settings).contains(QStringLiteral("out.mp4: pictures of 101 x 200")))
+        << sentence(settings).toStdString();
+    settings.size = QSize();
+    EXPECT_FALSE(sentence(settings).isEmpty());
+    settings = SettingsFor(settings.path);
+    settings.frameRate = {};
+    EXPECT_TRUE(sentence(settings).endsWith(QStringLiteral("out.mp4: the frame rate is unknown.")));
+    settings = SettingsFor(settings.path);
+    settings.hasAudio = true;
+    settings.audioFormat = {12345, 2};
+    EXPECT_TRUE(
+        sentence(settings).endsWith(QStringLiteral("out.mp4: sound of 12345 Hz and 2 channels is not supported.")));
+    settings = SettingsFor(settings.path);
+    settings.videoPreset = QStringLiteral("no such preset");
+    const std::unique_ptr<KxMp4Writer> writer = Open(settings);
+    const KxError error = AddPictures(*writer, 1);
+    ASSERT_TRUE(error);
+    EXPECT_TRUE(error->contains(QStringLiteral("out.mp4: the video encoder does not start"))) << error->toStdString();
+}
+
+TEST_F(KxMp4WriterTest, FolderThatCannotTakeTheFileIsNamed)
+{
+    const QString missing = Path(QStringLiteral("none/out.mp4"));
+    const QString sentence = KxMp4Writer::Open(SettingsFor(missing)).Sentence();
+    EXPECT_TRUE(sentence.startsWith(QStringLiteral("Cannot write %1: ").arg(missing))) << sentence.toStdString();
+    EXPECT_TRUE(sentence.contains(QStringLiteral("does not exist"))) << sentence.toStdString();
+    ASSERT_TRUE(QDir(m_folder.path()).mkdir(QStringLiteral("sub")));
+    const QString folder = Path(QStringLiteral("sub"));
+    EXPECT_EQ(KxMp4Writer::Open(SettingsFor(folder)).Sentence(),
+              QStringLiteral("Cannot write %1: it is a folder.").arg(folder));
+}
+
+#if !defined(_WIN32)
+
+TEST_F(KxMp4WriterTest, FolderWithoutPermissionIsNamed)
+{
+    ASSERT_TRUE(QFile::setPermissions(m_folder.path(),
+                                      QFile::ReadOwner | QFile::ExeOwner | QFile::ReadOther | QFile::ExeOther));
+    // For the one user who may do everything no folder is closed.
+    constexpr uid_t Nobody = 65534;
+    const bool isRoot = geteuid() == 0;
+    if (isRoot) {
+        ASSERT_EQ(seteuid(Nobody), 0);
+    }
+    const QString sentence = KxMp4Writer::Open(SettingsFor(Path(QStringLiteral("out.mp4")))).Sentence();
+    if (isRoot) {
+        ASSERT_EQ(seteuid(0), 0);
+    }
+    QFile::setPermissions(m_folder.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    EXPECT_EQ(sentence, QStringLiteral("Cannot write %1: permission is denied.").arg(Path(QStringLiteral("out.mp4"))));
+}
+
+namespace
+{
+
+// As long as it lives no file of this process grows beyond a limit.
+class FileSizeLimit
+{
+public:
+    explicit FileSizeLimit(qint64 bytes)
+    {
+        getrlimit(RLIMIT_FSIZE, &m_before);
+        rlimit limit = m_before;
+        limit.rlim_cur = static_cast<rlim_t>(bytes);
+        setrlimit(RLIMIT_FSIZE, &limit);
+        m_handlerBefore = std::signal(SIGXFSZ, SIG_IGN);
+    }
+    ~FileSizeLimit()
+    {
+        setrlimit(RLIMIT_FSIZE, &m_before);
+        std::signal(SIGXFSZ, m_handlerBefore);
+    }
+    Q_DISABLE_COPY_MOVE(FileSizeLimit)
+
+private:
+    rlimit m_before{};
+    void (*m_handlerBefore)(int) = nullptr;
+};
+
+} // namespace
+
+class KxMp4WriterLimit : public KxMp4WriterTest
+{
+protected:
+    void ExpectNoticed(qint64 limitBytes, qint64 pictures, KxVideoFrame (*make)(qint64))
+    {
+        const KxMp4Writer::Settings settings = SettingsFor(Path(QStringLiteral("out.mp4")));
+        const FileSizeLimit limited(limitBytes);
+        std::unique_ptr<KxMp4Writer> writer = Open(settings);
+        ASSERT_NE(writer, nullptr);
+        QString sentence = AddPictures(*writer, pictures, make).value_or(QString());
+        if (sentence.isEmpty()) {
+            sentence = writer->Finish().Sentence();
+        }
+        EXPECT_EQ(sentence,
+                  QStringLiteral("Cannot write %1: the file would become too large for its disk.").arg(settings.path))
+            << limitBytes;
+        writer.reset();
+        EXPECT_EQ(FilesIn(m_folder.path()), QStringList());
+    }
+};
+
+TEST_F(KxMp4WriterLimit, DiskThatTakesNoMoreIsNoticedWhilePicturesAreWritten)
+{
+    ExpectNoticed(10, 40, &BusyPicture);
+    ExpectNoticed(100000, 40, &BusyPicture);
+}
+
+TEST_F(KxMp4WriterLimit, DiskThatTakesNoMoreIsNoticedWhileTheIndexIsMoved)
+{
+    // Few bits, so that the encoder never has to hold back and makes the same file each time.
+    constexpr qint64 Pictures = 200;
+    const QString whole = WriteFlat(SettingsFor(Path(QStringLiteral("out.mp4"))), Pictures);
+    const qint64 bytes = QFile(whole).size();
+    ASSERT_TRUE(QFile::remove(whole));
+    for (const qint64 missing : {2500, 1000, 1}) {
+        ASSERT_GT(bytes, missing);
+        ExpectNoticed(bytes - missing, Pictures, &FlatPicture);
+    }
+}
+
+TEST_F(KxMp4WriterTest, FullDiskIsCalledFull)
+{
+    const QString disk = Path(QStringLiteral("disk"));
+    ASSERT_TRUE(QDir().mkdir(disk));
+    QProcess mount;
+    mount.start(QStringLiteral("mount"), {QStringLiteral("-t"), QStringLiteral("tmpfs"), QStringLiteral("-o"),
+                                          QStringLiteral("size=64k"), QStringLiteral("tmpfs"), disk});
+    if (!mount.waitForFinished() || mount.exitStatus() != QProcess::NormalExit || mount.exitCode() != 0) {
+        GTEST_SKIP() << "no small disk can be mounted here";
+    }
+    const KxMp4Writer::Settings settings = SettingsFor(disk + QStringLiteral("/out.mp4"));
+    QString sentence;
+    {
+        const std::unique_ptr<KxMp4Writer> writer = Open(settings);
+        sentence = AddPictures(*writer, 60, &BusyPicture).value_or(QString());
+        if (sentence.isEmpty()) {
+            sentence = writer->Finish().Sentence();
+        }
+    }
+    const QStringList left = FilesIn(disk);
+    QProcess::execute(QStringLiteral("umount"), {disk});
+    EXPECT_EQ(sentence, QStringLiteral("Cannot write %1: the disk is full.").arg(settings.path));
+    EXPECT_EQ(left, QStringList());
+}
+
+#endif

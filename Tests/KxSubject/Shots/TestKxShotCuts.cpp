@@ -1,0 +1,119 @@
+#include <KxSubject/Shots/KxShotCuts.h>
+
+#include <gmock/gmock.h>
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+namespace
+{
+
+std::vector<KxPictureChange> Calm(std::int32_t count)
+{
+    std::vector<KxPictureChange> changes;
+    for (std::int32_t i = 0; i < count; ++i) {
+        KxPictureChange change;
+        change.frame = i;
+        change.grey = 1.0F + 0.1F * static_cast<float>(i % 3);
+        change.colour = 0.02F;
+        change.likeness = 250;
+        changes.push_back(change);
+    }
+    return changes;
+}
+
+KxPictureChange& Jump(std::vector<KxPictureChange>& changes, std::size_t at, float grey = 40.0F, float colour = 0.6F)
+{
+    changes[at].grey = grey;
+    changes[at].colour = colour;
+    changes[at].likeness = 30;
+    return changes[at];
+}
+
+std::vector<std::size_t> Find(const std::vector<KxPictureChange>& changes)
+{
+    return KxShotCuts::Find(changes, KxSubjectOptions().shots);
+}
+
+} // namespace
+
+TEST(KxShotCuts, AJumpOfBothSignalsIsACut)
+{
+    auto changes = Calm(60);
+    Jump(changes, 30);
+    EXPECT_THAT(Find(changes), ElementsAre(30));
+}
+
+TEST(KxShotCuts, Case1OfTwoNeighboursTheLargerIsTheCut)
+{
+    auto changes = Calm(60);
+    Jump(changes, 30, 40.0F, 0.6F);
+    Jump(changes, 31, 50.0F, 0.7F);
+    EXPECT_THAT(Find(changes), ElementsAre(31));
+}
+
+TEST(KxShotCuts, Case1AJumpOfOneSignalAloneIsNone)
+{
+    auto changes = Calm(60);
+    Jump(changes, 20, 40.0F, 0.05F);
+    Jump(changes, 40, 3.0F, 0.6F);
+    EXPECT_THAT(Find(changes), IsEmpty());
+}
+
+TEST(KxShotCuts, Case2AJumpUnderTheFloorIsNone)
+{
+    auto changes = Calm(60);
+    Jump(changes, 30, 8.5F, 0.17F);
+    EXPECT_THAT(Find(changes), IsEmpty());
+}
+
+TEST(KxShotCuts, Case3AJumpThatIsUsualAroundItIsNone)
+{
+    auto changes = Calm(60);
+    for (KxPictureChange& change : changes) {
+        change.grey = 12.0F;
+        change.colour = 0.2F;
+    }
+    Jump(changes, 30, 22.0F, 0.38F);
+    EXPECT_THAT(Find(changes), IsEmpty());
+}
+
+TEST(KxShotCuts, Case3CutsFivePicturesApartAreNotUsual)
+{
+    auto changes = Calm(60);
+    for (std::size_t at = 20; at <= 40; at += 5) {
+        Jump(changes, at);
+    }
+    EXPECT_THAT(Find(changes), ElementsAre(20, 25, 30, 35, 40));
+}
+
+TEST(KxShotCuts, Case4AFlashIsNone)
+{
+    auto changes = Calm(60);
+    Jump(changes, 30).flash = true;
+    Jump(changes, 33).flash = true;
+    EXPECT_THAT(Find(changes), IsEmpty());
+}
+
+TEST(KxShotCuts, Case5ALightIsNone)
+{
+    auto changes = Calm(60);
+    Jump(changes, 30).likeness = 190;
+    EXPECT_THAT(Find(changes), IsEmpty());
+}
+
+TEST(KxShotCuts, Case6WhatComesBackWithoutAJumpWasNeverLeft)
+{
+    auto changes = Calm(60);
+    Jump(changes, 20).backAfter = 12;
+    Jump(changes, 45).backBefore = 12;
+    EXPECT_THAT(Find(changes), IsEmpty());
+}
+
+TEST(KxShotCuts, Case6AnInsertHasTwoCuts)
+{
+    auto changes = Calm(60);
+    Jump(changes, 20).backAfter = 12;
+    Jump(changes, 32).backBefore = 12;
+    EXPECT_THAT(Find(changes), ElementsAre(20, 32));
+}

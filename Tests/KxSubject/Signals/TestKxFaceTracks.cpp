@@ -1,0 +1,153 @@
+#include <KxSubject/Signals/KxFaceTracks.h>
+
+#include <Tests/KxSubject/MadePictures.h>
+
+#include <opencv2/core.hpp>
+
+#include <gtest/gtest.h>
+
+namespace
+{
+
+constexpr double EmptyFloor = 0.01;
+const cv::Size PictureSize(320, 180);
+const KxSubjectOptions Options;
+
+class KxFaceTracksTest : public testing::Test
+{
+protected:
+    KxFaceTracksTest()
+        : m_tracks(Options.faces, KxFaceFinder(Options.faces, "", PictureSize))
+    {
+    }
+
+    void SetUp() override
+    {
+        const cv::Mat photograph = MadePictures::Photograph();
+        if (photograph.empty()) {
+            GTEST_SKIP() << "needs messi5.jpg of the package opencv-doc";
+        }
+        if (!m_tracks.Finder().Knows(KxFaceView::Frontal)) {
+            GTEST_SKIP() << "needs the cascades of the package opencv-data";
+        }
+        photograph(cv::Rect(100, 20, 320, 180)).copyTo(m_withFace);
+        m_without = cv::Mat(PictureSize, CV_8UC3, cv::Scalar::all(90));
+    }
+
+    /// Ten pictures a second, the face in those from `first` up to and without `end`.
+    void Play(int count, int first, int end)
+    {
+        for (int i = 0; i < count; ++i) {
+            const cv::Mat& picture = i >= first && i < end ? m_withFace : m_without;
+            const cv::Mat grey = MadePictures::Grey(picture);
+            m_tracks.AddPicture(i / 10.0, picture, grey);
+        }
+    }
+
+    KxSignalProfile At(double seconds, double from = 0.0, double to = 100.0) const
+    {
+        return m_tracks.ProfileAt(seconds, from, to, KxAxis::Across, EmptyFloor, PictureSize);
+    }
+
+    /// The longest time from the coming of the face, after three seconds of `before`, to the look that finds it.
+    double LongestWait(const cv::Mat& before)
+    {
+        double longest = 0.0;
+        for (int first = 30; first < 51; first += 3) {
+            m_tracks = KxFaceTracks(Options.faces, KxFaceFinder(Options.faces, "", PictureSize));
+            m_without = before;
+            Play(first + 25, first, first + 25);
+            if (m_tracks.Tracks().empty()) {
+                return 100.0;
+            }
+            longest = std::max(longest, m_tracks.Tracks().front().looks.front().timeSeconds - first / 10.0);
+        }
+        return longest;
+    }
+
+    cv::Mat m_withFace;
+    cv::Mat m_without;
+    KxFaceTracks m_tracks;
+};
+
+} // namespace
+
+TEST_F(KxFaceTracksTest, AFaceThatStaysIsEvidenceWhereItIs)
+{
+    Play(30, 0, 30);
+    ASSERT_FALSE(m_tracks.Tracks().empty());
+    const KxSignalProfile profile = At(1.5);
+    EXPECT_GT(profile.Sum(), 0.5F);
+    float inside = 0.0F;
+    for (std::size_t bin = 0; bin < KxSignalProfile::Bins; ++bin) {
+        const double x = (static_cast<double>(bin) + 0.5) / KxSignalProfile::Bins * PictureSize.width;
+        inside += x > 110.0 && x < 185.0 ? profile.share[bin] : 0.0F;
+    }
+    EXPECT_NEAR(inside, profile.Sum(), 1e-3F);
+}
+
+TEST_F(KxFaceTracksTest, AFaceSeenOnceIsNoEvidence)
+{
+    Play(30, 0, 1);
+    EXPECT_FALSE(m_tracks.Tracks().empty());
+    EXPECT_EQ(At(0.0).Sum(), 0.0F);
+}
+
+TEST_F(KxFaceTracksTest, EvidenceEndsWithTheFace)
+{
+    Play(60, 0, 25);
+    EXPECT_GT(At(1.0).Sum(), 0.5F);
+    EXPECT_EQ(At(5.0).Sum(), 0.0F);
+}
+
+TEST_F(KxFaceTracksTest, LooksOfAnotherShotDoNotCount)
+{
+    Play(30, 0, 30);
+    EXPECT_GT(At(1.5, 1.2, 2.4).Sum(), 0.0F);
+    EXPECT_EQ(At(1.5, 1.5, 1.7).Sum(), 0.0F) << "too few looks in so short a shot";
+}
+
+TEST_F(KxFaceTracksTest, LooksAreRarerWhereNothingIsNewForLong)
+{
+    const cv::Mat grey = MadePictures::Grey(m_withFace);
+    const std::vector<cv::Rect> faces =
+        KxFaceFinder(Options.faces, "", PictureSize).Find(m_withFace, grey, KxFaceView::Frontal);
+    ASSERT_EQ(faces.size(), 1U);
+    cv::Mat hidden = m_withFace.clone();
+    hidden(faces.front()).setTo(cv::mean(m_withFace));
+    const double longest = LongestWait(hidden);
+    EXPECT_GT(longest, Options.faces.frontalPeriodSeconds);
+    EXPECT_LT(longest, Options.faces.settledFactor * Options.faces.frontalPeriodSeconds + 0.05);
+}
+
+TEST_F(KxFaceTracksTest, ANewSceneIsLookedAtAtOnce)
+{
+    Play(60, 60, 60);
+    const cv::Mat grey = MadePictures::Grey(m_withFace);
+    m_tracks.BeginScene();
+    m_tracks.AddPicture(6.0, m_withFace, grey);
+    ASSERT_EQ(m_tracks.Tracks().size(), 1U);
+    EXPECT_EQ(m_tracks.Tracks().front().looks.front().timeSeconds, 6.0F);
+}
+
+TEST_F(KxFaceTracksTest, AFaceAtTheSamePlaceInANewSceneIsAnotherFace)
+{
+    Play(10, 0, 10);
+    ASSERT_EQ(m_tracks.Tracks().size(), 1U);
+    m_tracks.BeginScene();
+    const cv::Mat grey = MadePictures::Grey(m_withFace);
+    m_tracks.AddPicture(1.0, m_withFace, grey);
+    EXPECT_EQ(m_tracks.Tracks().size(), 2U);
+}
+
+TEST_F(KxFaceTracksTest, LooksLeaveThePicturesAsTheyAre)
+{
+    const cv::Mat grey = MadePictures::Grey(m_withFace);
+    const cv::Mat picture = m_withFace.clone();
+    const cv::Mat before = grey.clone();
+    for (int i = 0; i < 10; ++i) {
+        m_tracks.AddPicture(i / 10.0, m_withFace, grey);
+    }
+    EXPECT_EQ(cv::norm(grey, before, cv::NORM_INF), 0.0);
+    EXPECT_EQ(cv::norm(m_withFace, picture, cv::NORM_INF), 0.0);
+}

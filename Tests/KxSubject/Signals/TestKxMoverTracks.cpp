@@ -1,0 +1,218 @@
+#include <KxSubject/Signals/KxMoverTracks.h>
+
+#include <opencv2/core.hpp>
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+namespace
+{
+
+const cv::Size MapSize(320, 180);
+/// One level: the others follow what they see in the same way.
+KxSubjectOptions::Movers OneLevel()
+{
+    KxSubjectOptions::Movers options;
+    options.levels = 1;
+    return options;
+}
+
+cv::Matx33d Shift(double across)
+{
+    return {1.0, 0.0, across, 0.0, 1.0, 0.0, 0.0, 0.0, 1.0};
+}
+
+cv::Mat Map(const std::vector<cv::Rect>& moving)
+{
+    cv::Mat map(MapSize, CV_32FC1, cv::Scalar(0.0));
+    for (const cv::Rect& place : moving) {
+        map(place & cv::Rect({}, MapSize)).setTo(1.0);
+    }
+    return map;
+}
+
+/// A map a sample; `place` gives what moves at a sample, `camera` how the picture shifts from one to the next.
+template<typename Places>
+KxMoverTracks Followed(int samples, Places places, double camera = 0.0)
+{
+    KxMoverTracks tracks(OneLevel());
+    for (int i = 0; i < samples; ++i) {
+        tracks.AddMap(i / 10.0, Map(places(i)), i == 0 ? std::nullopt : std::optional(Shift(camera)));
+    }
+    tracks.Finish();
+    return tracks;
+}
+
+double CentreOf(const KxSignalProfile& profile)
+{
+    double sum = 0.0;
+    for (std::size_t bin = 0; bin < KxSignalProfile::Bins; ++bin) {
+        sum += profile.share[bin] * (static_cast<double>(bin) + 0.5) / KxSignalProfile::Bins;
+    }
+    return sum / static_cast<double>(profile.Sum());
+}
+
+/// Two that cross the picture side by side, the map between them so high as `saddle` says.
+KxSignalProfile OfPair(float saddle, const KxSubjectOptions::Movers& options)
+{
+    KxMoverTracks tracks(options);
+    for (int i = 0; i < 30; ++i) {
+        const int left = 20 + 6 * i;
+        cv::Mat map = Map({{left, 80, 16, 24}, {left + 40, 80, 16, 24}});
+        map(cv::Rect(left + 16, 80, 24, 24)).setTo(saddle);
+        tracks.AddMap(i / 10.0, map, i == 0 ? std::nullopt : std::optional(Shift(0.0)));
+    }
+    tracks.Finish();
+    return tracks.ProfileAt(15, KxAxis::Across);
+}
+
+/// The largest part of a profile that a small change of the map moves.
+double LargestStep(const KxSubjectOptions::Movers& options)
+{
+    double largest = 0.0;
+    KxSignalProfile before = OfPair(0.2F, options);
+    for (float saddle = 0.22F; saddle < 0.5F; saddle += 0.02F) {
+        const KxSignalProfile now = OfPair(saddle, options);
+        double moved = 0.0;
+        for (std::size_t bin = 0; bin < KxSignalProfile::Bins; ++bin) {
+            moved += std::abs(now.share[bin] - before.share[bin]);
+        }
+        largest = std::max(largest, moved);
+        before = now;
+    }
+    return largest;
+}
+
+} // namespace
+
+TEST(KxMoverTracks, AMoverThatLastsAndTravelsIsFollowedWithFullConfidence)
+{
+    const auto tracks = Followed(30, [](int i) { return std::vector<cv::Rect>{{20 + 6 * i, 80, 24, 24}}; });
+    ASSERT_EQ(tracks.Movers().size(), 1U);
+    const KxMoverTracks::Mover& mover = tracks.Movers().front();
+    EXPECT_EQ(mover.confidence, 1.0F);
+    EXPECT_EQ(mover.firstSample, 0);
+    EXPECT_EQ(mover.boxes.size(), 30U);
+    for (const std::size_t sample : {0U, 12U, 29U}) {
+        const double centre = (32.0 + 6.0 * static_cast<double>(sample)) / 320.0;
+        EXPECT_NEAR(CentreOf(tracks.ProfileAt(sample, KxAxis::Across)), centre, 0.015) << sample;
+        EXPECT_NEAR(CentreOf(tracks.ProfileAt(sample, KxAxis::UpDown)), 92.0 / 180.0, 0.015) << sample;
+    }
+}
+
+TEST(KxMoverTracks, ATinyMoverCountsNearlyAsMuchAsALargeOne)
+{
+    const auto tiny = Followed(30, [](int i) { return std::vector<cv::Rect>{{20 + 6 * i, 80, 10, 10}}; });
+    const auto large = Followed(30, [](int i) { return std::vector<cv::Rect>{{20 + 6 * i, 60, 80, 80}}; });
+    ASSERT_EQ(tiny.Movers().size(), 1U);
+    const double ofTiny = tiny.ProfileAt(15, KxAxis::Across).Sum();
+    const double ofLarge = large.ProfileAt(15, KxAxis::Across).Sum();
+    EXPECT_GT(ofTiny, 0.2);
+    EXPECT_LT(ofLarge / ofTiny, 5.0) << "the areas differ by 64";
+}
+
+TEST(KxMoverTracks, WhatStirsOnItsPlaceIsNoSubject)
+{
+    const auto tracks = Followed(60, [](int i) { return std::vector<cv::Rect>{{100 + 2 * (i % 2), 80, 24, 24}}; });
+    for (const KxMoverTracks::Mover& mover : tracks.Movers()) {
+        EXPECT_LT(mover.confidence, 0.15F);
+    }
+}
+
+TEST(KxMoverTracks, WhatStaysWithTheBackgroundUnderAPanIsNoSubject)
+{
+    const auto tracks = Followed(
+        30,
+        [](int i) {
+            return std::vector<cv::Rect>{{20 + 6 * i, 80, 24, 24}};
+        },
+        6.0);
+    EXPECT_TRUE(tracks.Movers().empty());
+}
+
+TEST(KxMoverTracks, WhatThePanKeepsInPlaceTravelsBeforeTheBackground)
+{
+    const auto tracks = Followed(
+        30,
+        [](int) {
+            return std::vector<cv::Rect>{{140, 80, 24, 24}};
+        },
+        -6.0);
+    ASSERT_EQ(tracks.Movers().size(), 1U);
+    EXPECT_EQ(tracks.Movers().front().confidence, 1.0F);
+}
+
+TEST(KxMoverTracks, FlashesHereAndThereAreNoSubject)
+{
+    cv::RNG anywhere(7);
+    const auto tracks = Followed(200, [&anywhere](int) {
+        return std::vector<cv::Rect>{{anywhere.uniform(0, 300), anywhere.uniform(0, 160), 20, 20}};
+    });
+    for (const KxMoverTracks::Mover& mover : tracks.Movers()) {
+        EXPECT_LT(mover.confidence, 0.25F);
+    }
+}
+
+TEST(KxMoverTracks, AShortGapIsBridged)
+{
+    const auto tracks = Followed(30, [](int i) {
+        return i >= 12 && i < 15 ? std::vector<cv::Rect>() : std::vector<cv::Rect>{{20 + 6 * i, 80, 24, 24}};
+    });
+    ASSERT_EQ(tracks.Movers().size(), 1U);
+    EXPECT_EQ(tracks.Movers().front().boxes.size(), 30U);
+    EXPECT_NEAR(CentreOf(tracks.ProfileAt(13, KxAxis::Across)), (32.0 + 6.0 * 13.0) / 320.0, 0.02);
+}
+
+TEST(KxMoverTracks, TwoMoversThatPassEachOtherStayTwo)
+{
+    const auto tracks = Followed(40, [](int i) {
+        return std::vector<cv::Rect>{{10 + 7 * i, 40, 24, 24}, {290 - 7 * i, 110, 24, 24}};
+    });
+    ASSERT_EQ(tracks.Movers().size(), 2U);
+    for (const KxMoverTracks::Mover& mover : tracks.Movers()) {
+        EXPECT_EQ(mover.boxes.size(), 40U);
+        EXPECT_LT(std::abs(mover.At(39).y - mover.At(0).y), 0.02) << "each keeps to its height";
+    }
+}
+
+TEST(KxMoverTracks, AnotherSceneEndsEveryTrack)
+{
+    KxMoverTracks tracks(OneLevel());
+    for (int i = 0; i < 40; ++i) {
+        const auto camera = i % 20 == 0 ? std::nullopt : std::optional(Shift(0.0));
+        tracks.AddMap(i / 10.0, Map({{20 + 6 * i, 80, 24, 24}}), camera);
+    }
+    tracks.Finish();
+    ASSERT_EQ(tracks.Movers().size(), 2U);
+    EXPECT_TRUE(tracks.Movers()[0].Covers(19));
+    EXPECT_FALSE(tracks.Movers()[0].Covers(20));
+    EXPECT_EQ(tracks.Movers()[1].firstSample, 20);
+}
+
+TEST(KxMoverTracks, NothingMovesInEmptyMaps)
+{
+    const auto tracks = Followed(10, [](int) { return std::vector<cv::Rect>(); });
+    EXPECT_TRUE(tracks.Movers().empty());
+    EXPECT_EQ(tracks.ProfileAt(4, KxAxis::Across).Sum(), 0.0F);
+}
+
+TEST(KxMoverTracks, AMoverIsFollowedAtEachLevelAndWeighsAsOne)
+{
+    const auto place = [](int i) { return std::vector<cv::Rect>{{20 + 6 * i, 80, 24, 24}}; };
+    const KxSubjectOptions::Movers options;
+    KxMoverTracks tracks(options);
+    for (int i = 0; i < 30; ++i) {
+        tracks.AddMap(i / 10.0, Map(place(i)), i == 0 ? std::nullopt : std::optional(Shift(0.0)));
+    }
+    tracks.Finish();
+    EXPECT_EQ(tracks.Movers().size(), static_cast<std::size_t>(options.levels));
+    const KxSignalProfile alone = Followed(30, place).ProfileAt(15, KxAxis::Across);
+    EXPECT_NEAR(tracks.ProfileAt(15, KxAxis::Across).Sum(), alone.Sum(), 0.02);
+    EXPECT_NEAR(CentreOf(tracks.ProfileAt(15, KxAxis::Across)), CentreOf(alone), 0.005);
+}
+
+TEST(KxMoverTracks, WhetherTwoAreOneIsNotDecidedAtOnce)
+{
+    EXPECT_LT(LargestStep({}), 0.5 * LargestStep(OneLevel()));
+}

@@ -1,0 +1,121 @@
+#include <Tests/KxWidgets/Hand.h>
+
+#include <KxWidgets/KxComboBox.h>
+#include <KxWidgets/KxLabel.h>
+#include <KxWidgets/KxLineEdit.h>
+#include <KxWidgets/StringOperation.h>
+
+#include <QClipboard>
+#include <QFontMetrics>
+#include <QSignalSpy>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace
+{
+
+std::unique_ptr<KxLineEdit> MakeLineEdit()
+{
+    return std::unique_ptr<KxLineEdit>(KxLineEdit::creartNormalLineEdit(nullptr, 24));
+}
+
+TEST(KxLineEditTest, HeightIsTheKind)
+{
+    EXPECT_EQ(MakeLineEdit()->height(), 24);
+}
+
+TEST(KxLineEditTest, WithoutTheValidatorEverythingIsTyped)
+{
+    const auto edit = MakeLineEdit();
+    QTest::keyClicks(edit.get(), QStringLiteral("a:b*c?"));
+    EXPECT_EQ(edit->text(), QStringLiteral("a:b*c?"));
+}
+
+TEST(KxLineEditTest, ValidatorDropsWhatNoFileNameHolds)
+{
+    const auto edit = MakeLineEdit();
+    edit->SetFileNameValidator(true);
+    QTest::keyClicks(edit.get(), QStringLiteral("a*b|c<d>e\\f?g/h:i\"j.k"));
+    EXPECT_EQ(edit->text(), QStringLiteral("abcdefghij.k"));
+    edit->setText(QStringLiteral("x:y"));
+    EXPECT_EQ(edit->text(), QStringLiteral("xy"));
+}
+
+TEST(KxLineEditTest, PasteKeepsTheGoodCharactersAndTheCursor)
+{
+    const auto edit = MakeLineEdit();
+    edit->SetFileNameValidator(true);
+    edit->setText(QStringLiteral("AD"));
+    edit->setCursorPosition(1);
+    edit->insert(QStringLiteral("b?/c"));
+    EXPECT_EQ(edit->text(), QStringLiteral("AbcD"));
+    EXPECT_EQ(edit->cursorPosition(), 3);
+}
+
+TEST(KxLineEditTest, ValidatorCanBeTakenOffAgain)
+{
+    const auto edit = MakeLineEdit();
+    edit->SetFileNameValidator(true);
+    edit->SetFileNameValidator(false);
+    QTest::keyClicks(edit.get(), QStringLiteral("a:b"));
+    EXPECT_EQ(edit->text(), QStringLiteral("a:b"));
+}
+
+TEST(KxComboBoxTest, WheelChangesItOnlyWithTheFocus)
+{
+    QWidget window;
+    KxComboBox* box = KxComboBox::CreateComboBox(&window);
+    box->addItems({QStringLiteral("9:16"), QStringLiteral("1:1"), QStringLiteral("16:9")});
+    ASSERT_TRUE(Hand::ShowActive(window));
+    box->clearFocus();
+    Hand::Wheel(*box, -120);
+    EXPECT_EQ(box->currentIndex(), 0);
+    box->setFocus();
+    Hand::Wheel(*box, -120);
+    EXPECT_EQ(box->currentIndex(), 1);
+}
+
+TEST(StringOperationTest, TextThatFitsStays)
+{
+    const QString text = QStringLiteral("clip");
+    EXPECT_EQ(StringOperation::GetElidedString(text, QApplication::font(), 268, Qt::ElideRight), text);
+}
+
+TEST(StringOperationTest, LongTextIsShortenedToTheWidth)
+{
+    const QString text = QStringLiteral("a-recording-of-the-whole-afternoon-at-the-lake-with-everyone-there");
+    const QFontMetrics metrics(QApplication::font());
+    ASSERT_GT(metrics.horizontalAdvance(text), 268);
+    const QString right = StringOperation::GetElidedString(text, QApplication::font(), 268, Qt::ElideRight);
+    EXPECT_TRUE(right.endsWith(QChar(0x2026)));
+    EXPECT_TRUE(text.startsWith(right.chopped(1)));
+    EXPECT_LE(metrics.horizontalAdvance(right), 268);
+    const QString middle = StringOperation::GetElidedString(text, QApplication::font(), 268, Qt::ElideMiddle);
+    EXPECT_TRUE(middle.startsWith(text.left(5)) && middle.endsWith(text.right(5)));
+}
+
+TEST(KxLabelTest, ElidedLabelMayBeNarrowAndAPlainOneMayNot)
+{
+    const auto label = std::unique_ptr<KxLabel>(
+        KxLabel::CreateLabel(nullptr, QStringLiteral("a-recording-of-the-whole-afternoon.mp4")));
+    EXPECT_EQ(label->text(), QStringLiteral("a-recording-of-the-whole-afternoon.mp4"));
+    EXPECT_GT(label->minimumSizeHint().width(), 100);
+    label->SetElideMode(Qt::ElideMiddle);
+    EXPECT_EQ(label->minimumSizeHint().width(), 0);
+}
+
+TEST(KxLabelTest, ElidedLabelPaintsTheShortenedText)
+{
+    const QString text = QStringLiteral("a-recording-of-the-whole-afternoon.mp4");
+    const auto elided = std::unique_ptr<KxLabel>(KxLabel::CreateLabel(nullptr, text));
+    elided->SetElideMode(Qt::ElideRight);
+    elided->resize(120, 20);
+    const auto plain = std::unique_ptr<KxLabel>(
+        KxLabel::CreateLabel(nullptr, StringOperation::GetElidedString(text, elided->font(), 120, Qt::ElideRight)));
+    plain->resize(120, 20);
+    EXPECT_EQ(elided->grab().toImage(), plain->grab().toImage());
+}
+
+} // namespace

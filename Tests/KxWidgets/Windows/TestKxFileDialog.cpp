@@ -1,0 +1,148 @@
+#include <KxWidgets/Windows/KxFileFilter.h>
+#include <Tests/KxWidgets/Hand.h>
+
+#include <KxWidgets/KxFileDialog.h>
+#include <KxWidgets/KxOpenFileLineEdit.h>
+
+#include <QAbstractButton>
+#include <QDir>
+#include <QFile>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+namespace
+{
+
+class KxFileDialogTest : public testing::Test
+{
+protected:
+    ~KxFileDialogTest() override { KxFileDialog::SetResponder({}); }
+};
+
+TEST(KxFileFilterTest, GroupBecomesQts)
+{
+    EXPECT_EQ(KxFileFilter::ToQt(QStringLiteral("All supported files(*.mp4;*.mov;);")),
+              QStringLiteral("All supported files (*.mp4 *.mov)"));
+    EXPECT_EQ(KxFileFilter::ToQt(QStringLiteral("Videos (*.mp4 *.mov)")), QStringLiteral("Videos (*.mp4 *.mov)"));
+    EXPECT_EQ(KxFileFilter::ToQt(QStringLiteral("Anything")), QStringLiteral("Anything (*)"));
+    EXPECT_EQ(KxFileFilter::ToQt(QStringLiteral("Nothing(;)")), QStringLiteral("Nothing (*)"));
+}
+
+TEST_F(KxFileDialogTest, ResponderChoosesFiles)
+{
+    KxFileDialog::Shown seen;
+    KxFileDialog::SetResponder([&](const KxFileDialog::Shown& shown) {
+        seen = shown;
+        return QStringList{QStringLiteral("/v/a.mp4"), QStringLiteral("/v/b.mp4")};
+    });
+    const QStringList chosen = KxFileDialog::getOpenFileNames(nullptr, QStringLiteral("Open"), QStringLiteral("/v"),
+                                                              QStringLiteral("All(*.mp4;)"));
+    EXPECT_EQ(chosen.size(), 2);
+    EXPECT_FALSE(seen.picksFolder);
+    EXPECT_EQ(seen.caption, QStringLiteral("Open"));
+    EXPECT_EQ(seen.folder, QStringLiteral("/v"));
+    EXPECT_EQ(seen.filter, QStringLiteral("All(*.mp4;)"));
+}
+
+TEST_F(KxFileDialogTest, FolderFieldTakesWhatThePersonPicks)
+{
+    const auto edit = std::unique_ptr<KxOpenFileLineEdit>(KxOpenFileLineEdit::CreateOpenFileLineEdit(nullptr));
+    edit->SetText(QStringLiteral("/before"));
+    QSignalSpy changed(edit.get(), &KxOpenFileLineEdit::sigTextChanged);
+    QStringList answer;
+    KxFileDialog::Shown seen;
+    KxFileDialog::SetResponder([&](const KxFileDialog::Shown& shown) {
+        seen = shown;
+        return answer;
+    });
+    auto* button = edit->findChild<QAbstractButton*>(QStringLiteral("KxOpenFileLineEdit_button"));
+    button->click();
+    EXPECT_TRUE(seen.picksFolder);
+    EXPECT_EQ(seen.folder, QStringLiteral("/before"));
+    EXPECT_EQ(edit->Text(), QStringLiteral("/before"));
+    EXPECT_EQ(changed.count(), 0);
+    answer = QStringList{QStringLiteral("/after")};
+    button->click();
+    EXPECT_EQ(edit->Text(), QDir::toNativeSeparators(QStringLiteral("/after")));
+    EXPECT_EQ(changed.count(), 1);
+}
+
+TEST_F(KxFileDialogTest, FolderFieldTellsOfTyping)
+{
+    const auto edit = std::unique_ptr<KxOpenFileLineEdit>(KxOpenFileLineEdit::CreateOpenFileLineEdit(nullptr));
+    QSignalSpy changed(edit.get(), &KxOpenFileLineEdit::sigTextChanged);
+    QTest::keyClicks(edit->focusProxy(), QStringLiteral("/ab"));
+    EXPECT_EQ(edit->Text(), QStringLiteral("/ab"));
+    EXPECT_EQ(changed.count(), 3);
+}
+
+TEST_F(KxFileDialogTest, ShownChooserGivesTheFileOrNothing)
+{
+    QTemporaryDir folder;
+    QFile file(folder.filePath(QStringLiteral("clip.mp4")));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.close();
+    QWidget parent;
+    parent.show();
+    int shown = 0;
+    const auto choose = [&](bool accept) {
+        QTimer::singleShot(0, &parent, [&, accept] {
+            auto* box = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            ASSERT_NE(box, nullptr);
+            auto* chooser = box->findChild<QFileDialog*>();
+            ASSERT_NE(chooser, nullptr);
+            ++shown;
+            EXPECT_EQ(chooser->nameFilters().value(0), QStringLiteral("All (*.mp4)"));
+            chooser->selectFile(file.fileName());
+            accept ? QMetaObject::invokeMethod(chooser, "accept") : QMetaObject::invokeMethod(chooser, "reject");
+        });
+        return KxFileDialog::getOpenFileNames(&parent, QStringLiteral("Open"), folder.path(),
+                                              QStringLiteral("All(*.mp4;)"));
+    };
+    EXPECT_EQ(choose(true), QStringList{file.fileName()});
+    EXPECT_TRUE(choose(false).isEmpty());
+    EXPECT_EQ(shown, 2);
+}
+
+TEST_F(KxFileDialogTest, ShownFolderChooserGivesTheFolder)
+{
+    QTemporaryDir folder;
+    QWidget parent;
+    parent.show();
+    QTimer::singleShot(0, &parent, [&] {
+        auto* box = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        ASSERT_NE(box, nullptr);
+        QMetaObject::invokeMethod(box->findChild<QFileDialog*>(), "accept");
+    });
+    EXPECT_EQ(KxFileDialog::getExistingDirectory(&parent, QStringLiteral("Choose"), folder.path()), folder.path());
+}
+
+TEST_F(KxFileDialogTest, AMissingFolderGivesTheNearestOneAbove)
+{
+    QTemporaryDir folder;
+    const auto openedIn = [](const QString& asked) {
+        QString opened;
+        QString named;
+        QTimer::singleShot(0, qApp, [&] {
+            auto* chooser = QApplication::activeModalWidget()->findChild<QFileDialog*>();
+            opened = chooser->directory().path();
+            named = chooser->findChild<QLineEdit*>()->text();
+            QMetaObject::invokeMethod(chooser, "reject");
+        });
+        KxFileDialog::getOpenFileNames(nullptr, QStringLiteral("Open"), asked, QStringLiteral("All(*.mp4;)"));
+        EXPECT_EQ(named, QString());
+        return opened;
+    };
+    EXPECT_EQ(openedIn(folder.path()), folder.path());
+    EXPECT_EQ(openedIn(folder.filePath(QStringLiteral("Videos"))), folder.path());
+    EXPECT_EQ(openedIn(folder.filePath(QStringLiteral("Videos/2024"))), folder.path());
+    EXPECT_EQ(openedIn(QStringLiteral("/")), QStringLiteral("/"));
+    EXPECT_EQ(openedIn(QString()), QDir::homePath());
+}
+
+} // namespace
