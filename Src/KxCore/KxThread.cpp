@@ -1,0 +1,60 @@
+#include <KxCore/KxThread.h>
+
+#include <exception>
+#include <new>
+
+KxError KxCallGuarded(const std::function<void()>& work)
+{
+    try {
+        work();
+        return std::nullopt;
+    } catch (const std::bad_alloc&) {
+        return QStringLiteral("memory ran out");
+    } catch (const std::exception& exception) {
+        return QString::fromUtf8(exception.what());
+    } catch (...) {
+        return QStringLiteral("an unknown error occurred");
+    }
+}
+
+struct KxThread::State {
+    KxError failure;
+};
+
+KxThread::KxThread(std::function<void()> work)
+    : m_state(std::make_shared<State>())
+    , m_thread([state = m_state, work = std::move(work)] { state->failure = KxCallGuarded(work); })
+{
+}
+
+KxThread::~KxThread()
+{
+    Join();
+}
+
+KxThread::KxThread(KxThread&& other) noexcept = default;
+
+KxThread& KxThread::operator=(KxThread&& other) noexcept
+{
+    Join();
+    m_state = std::move(other.m_state);
+    m_thread = std::move(other.m_thread);
+    return *this;
+}
+
+void KxThread::Join()
+{
+    if (m_thread.joinable()) {
+        m_thread.join();
+    }
+}
+
+bool KxThread::IsCurrent() const
+{
+    return m_thread.get_id() == std::this_thread::get_id();
+}
+
+KxError KxThread::Failure() const
+{
+    return m_state ? m_state->failure : std::nullopt;
+}
