@@ -3,11 +3,11 @@
 #include <KxPlayer/KxPlaySource.h>
 
 KxSoundPlayer::KxSoundPlayer(KxPlayerClock& clock, KxSoundDevice::Factory device)
-    : m_feeder(new KxSoundFeeder(clock, std::move(device)))
+    : m_output(new KxAudioOutput(clock, std::move(device)))
 {
     m_thread.setObjectName(QStringLiteral("KxSoundPlayer"));
-    m_feeder->moveToThread(&m_thread);
-    QObject::connect(&m_thread, &QThread::finished, m_feeder, &QObject::deleteLater);
+    m_output->moveToThread(&m_thread);
+    QObject::connect(&m_thread, &QThread::finished, m_output, &QObject::deleteLater);
 }
 
 KxSoundPlayer::~KxSoundPlayer()
@@ -17,7 +17,7 @@ KxSoundPlayer::~KxSoundPlayer()
         m_thread.quit();
         m_thread.wait();
     } else {
-        delete m_feeder;
+        delete m_output;
     }
 }
 
@@ -29,15 +29,15 @@ void KxSoundPlayer::Start(const std::shared_ptr<const KxPlaySource>& source, qui
     if (!m_thread.isRunning()) {
         m_thread.start();
     }
-    KxSoundFeeder* const feeder = m_feeder;
+    KxAudioOutput* const output = m_output;
     QMetaObject::invokeMethod(
-        feeder, [feeder, source, run, cancel = m_cancel] { feeder->Start(source, run, cancel); }, Qt::QueuedConnection);
+        output, [output, source, run, cancel = m_cancel] { output->Start(source, run, cancel); }, Qt::QueuedConnection);
 }
 
 void KxSoundPlayer::Stop()
 {
     if (m_thread.isRunning()) {
-        QMetaObject::invokeMethod(m_feeder, &KxSoundFeeder::Stop, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(m_output, &KxAudioOutput::Stop, Qt::QueuedConnection);
     }
 }
 
@@ -46,6 +46,6 @@ void KxSoundPlayer::Close()
     m_cancel.Cancel();
     m_cancel = KxCancelToken();
     if (m_thread.isRunning()) {
-        QMetaObject::invokeMethod(m_feeder, &KxSoundFeeder::Close, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(m_output, &KxAudioOutput::Close, Qt::QueuedConnection);
     }
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <KxCore/KxCancelToken.h>
-#include <KxPlayer/KxSoundFeeder.h>
+#include <KxPlayer/KxAudioOutput.h>
 
 #include <QThread>
 
@@ -22,6 +22,6 @@ public:
 
 private:
     QThread m_thread;
-    KxSoundFeeder* m_feeder;
+    KxAudioOutput* m_output;
     KxCancelToken m_cancel;
 };

@@ -2,9 +2,9 @@
 
 #include <KxMedia/Read/KxVideoReader.h>
 #include <KxMedia/Write/KxMp4Writer.h>
+#include <KxRender/KxAudioInterleaver.h>
 #include <KxRender/KxOutputGrid.h>
 #include <KxRender/KxPictureFeed.h>
-#include <KxRender/KxSoundFeed.h>
 
 #include <QFileInfo>
 
@@ -95,7 +95,7 @@ private:
     const KxCancelToken& m_cancel;
     const QSize m_size;
     std::unique_ptr<KxVideoReader> m_reader;
-    std::unique_ptr<KxSoundFeed> m_sound;
+    std::unique_ptr<KxAudioInterleaver> m_sound;
     KxAudioReader::Format m_soundFormat;
     std::unique_ptr<KxMp4Writer> m_writer;
     QString m_warning;
@@ -128,7 +128,7 @@ void Rendering::OpenSound()
     KxResult<std::unique_ptr<KxAudioReader>> sound =
         KxAudioReader::Open(m_source.path, stream, m_soundFormat, m_cancel);
     if (sound) {
-        m_sound = std::make_unique<KxSoundFeed>(std::move(*sound), m_soundFormat);
+        m_sound = std::make_unique<KxAudioInterleaver>(std::move(*sound), m_soundFormat);
     } else {
         Warn(QStringLiteral("The sound is left out. %1").arg(sound.Sentence()));
     }

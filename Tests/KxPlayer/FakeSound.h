@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <vector>
 
-/// What a fake sound device was given and how far it is, for a test on the thread of the feeder.
+/// What a fake sound device was given and how far it is, for a test on the thread of the audio output.
 struct FakeSoundState {
     bool starts = true;
     bool isStarted = false;

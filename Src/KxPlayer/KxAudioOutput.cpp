@@ -1,4 +1,4 @@
-#include <KxPlayer/KxSoundFeeder.h>
+#include <KxPlayer/KxAudioOutput.h>
 
 #include <KxPlayer/KxPlaySource.h>
 
@@ -20,18 +20,18 @@ qint64 DurationUs(qint64 frames)
 
 } // namespace
 
-KxSoundFeeder::KxSoundFeeder(KxPlayerClock& clock, KxSoundDevice::Factory device)
+KxAudioOutput::KxAudioOutput(KxPlayerClock& clock, KxSoundDevice::Factory device)
     : m_clock(clock)
     , m_makeDevice(std::move(device))
     , m_timer(this)
 {
     m_timer.setTimerType(Qt::PreciseTimer);
-    connect(&m_timer, &QTimer::timeout, this, &KxSoundFeeder::Feed);
+    connect(&m_timer, &QTimer::timeout, this, &KxAudioOutput::Feed);
 }
 
-KxSoundFeeder::~KxSoundFeeder() = default;
+KxAudioOutput::~KxAudioOutput() = default;
 
-bool KxSoundFeeder::Prepare(const std::shared_ptr<const KxPlaySource>& source, const KxCancelToken& cancel)
+bool KxAudioOutput::Prepare(const std::shared_ptr<const KxPlaySource>& source, const KxCancelToken& cancel)
 {
     if (m_makeDevice) {
         m_device = std::exchange(m_makeDevice, nullptr)();
@@ -53,7 +53,7 @@ bool KxSoundFeeder::Prepare(const std::shared_ptr<const KxPlaySource>& source, c
     return m_reader != nullptr;
 }
 
-void KxSoundFeeder::Start(const std::shared_ptr<const KxPlaySource>& source, quint64 run, const KxCancelToken& cancel)
+void KxAudioOutput::Start(const std::shared_ptr<const KxPlaySource>& source, quint64 run, const KxCancelToken& cancel)
 {
     Stop();
     if (!m_clock.NowUs(run) || !Prepare(source, cancel) || !m_device->Start()) {
@@ -79,7 +79,7 @@ void KxSoundFeeder::Start(const std::shared_ptr<const KxPlaySource>& source, qui
     Feed();
 }
 
-void KxSoundFeeder::Stop()
+void KxAudioOutput::Stop()
 {
     m_timer.stop();
     if (m_isStarted) {
@@ -88,14 +88,14 @@ void KxSoundFeeder::Stop()
     }
 }
 
-void KxSoundFeeder::Close()
+void KxAudioOutput::Close()
 {
     Stop();
     m_reader.reset();
     m_source.reset();
 }
 
-bool KxSoundFeeder::Refill()
+bool KxAudioOutput::Refill()
 {
     m_usedFrames = 0;
     do {
@@ -104,7 +104,7 @@ bool KxSoundFeeder::Refill()
     return !m_hasEnded;
 }
 
-void KxSoundFeeder::Feed()
+void KxAudioOutput::Feed()
 {
     if (!m_clock.NowUs(m_run)) {
         Stop();
@@ -132,7 +132,7 @@ void KxSoundFeeder::Feed()
     }
 }
 
-void KxSoundFeeder::TellClock()
+void KxAudioOutput::TellClock()
 {
     // A device that makes no headway, or has nothing left to play, says nothing about the time.
     const qint64 heard = m_writtenFrames - m_device->WaitingFrames();
@@ -149,7 +149,7 @@ void KxSoundFeeder::TellClock()
     }
 }
 
-void KxSoundFeeder::SkipTo(qint64 clockUs)
+void KxAudioOutput::SkipTo(qint64 clockUs)
 {
     const qint64 nextUs = clockUs + DurationUs(m_device->WaitingFrames());
     m_reader->Seek(nextUs);

@@ -1,4 +1,4 @@
-#include <KxRender/KxSoundFeed.h>
+#include <KxRender/KxAudioInterleaver.h>
 
 #include <algorithm>
 #include <cmath>
@@ -10,13 +10,13 @@ constexpr qint64 MicrosecondsPerSecond = 1000000;
 
 } // namespace
 
-KxSoundFeed::KxSoundFeed(std::unique_ptr<KxAudioReader> reader, const KxAudioReader::Format& format)
+KxAudioInterleaver::KxAudioInterleaver(std::unique_ptr<KxAudioReader> reader, const KxAudioReader::Format& format)
     : m_reader(std::move(reader))
     , m_format(format)
 {
 }
 
-bool KxSoundFeed::Fill()
+bool KxAudioInterleaver::Fill()
 {
     if (m_hasEnded) {
         return false;
@@ -35,7 +35,7 @@ bool KxSoundFeed::Fill()
     return !m_hasEnded;
 }
 
-KxError KxSoundFeed::FeedUntil(qint64 frames, const KxRational& rate, KxMp4Writer& writer)
+KxError KxAudioInterleaver::FeedUntil(qint64 frames, const KxRational& rate, KxMp4Writer& writer)
 {
     const auto channels = static_cast<size_t>(m_format.channels);
     const double seconds = static_cast<double>(frames) * rate.denominator / rate.numerator;

@@ -13,13 +13,13 @@ namespace
 
 constexpr int RateHz = KxSoundDevice::SampleRateHz;
 
-class TestFeeder : public testing::Test
+class KxAudioOutputTest : public testing::Test
 {
 protected:
     quint64 StartAt(qint64 mediaUs)
     {
         const quint64 run = clock.Start(mediaUs);
-        feeder.Start(source, run, {});
+        output.Start(source, run, {});
         return run;
     }
 
@@ -39,13 +39,13 @@ protected:
     std::atomic<qint64> now{0};
     KxPlayerClock clock{[this] { return now.load(); }};
     FakeSoundState sound;
-    KxSoundFeeder feeder{clock, [this] { return std::make_unique<FakeSound>(sound); }};
+    KxAudioOutput output{clock, [this] { return std::make_unique<FakeSound>(sound); }};
     std::shared_ptr<const KxPlaySource> source = PlayerClip::Source(PlayerClip::WithSound());
 };
 
 } // namespace
 
-TEST_F(TestFeeder, FillsTheDeviceWithWhatTheClockShows)
+TEST_F(KxAudioOutputTest, FillsTheDeviceWithWhatTheClockShows)
 {
     StartAt(1000000);
     EXPECT_TRUE(sound.isStarted);
@@ -56,7 +56,7 @@ TEST_F(TestFeeder, FillsTheDeviceWithWhatTheClockShows)
     ExpectSineFrom(0);
 }
 
-TEST_F(TestFeeder, GoesOnWithoutAGap)
+TEST_F(KxAudioOutputTest, GoesOnWithoutAGap)
 {
     StartAt(0);
     for (int i = 0; i < 20; ++i) {
@@ -69,7 +69,7 @@ TEST_F(TestFeeder, GoesOnWithoutAGap)
     ExpectSineFrom(0);
 }
 
-TEST_F(TestFeeder, WhatIsHeardPullsTheClock)
+TEST_F(KxAudioOutputTest, WhatIsHeardPullsTheClock)
 {
     StartAt(0);
     // The device begins 50 ms late.
@@ -84,7 +84,7 @@ TEST_F(TestFeeder, WhatIsHeardPullsTheClock)
     EXPECT_NEAR(static_cast<double>(*clock.NowUs()), static_cast<double>(heardUs), 5000);
 }
 
-TEST_F(TestFeeder, ADeviceThatMakesNoHeadwayLeavesTheClockAlone)
+TEST_F(KxAudioOutputTest, ADeviceThatMakesNoHeadwayLeavesTheClockAlone)
 {
     StartAt(0);
     now += 700000;
@@ -92,7 +92,7 @@ TEST_F(TestFeeder, ADeviceThatMakesNoHeadwayLeavesTheClockAlone)
     EXPECT_EQ(clock.NowUs(), 700000);
 }
 
-TEST_F(TestFeeder, ADeviceThatBeginsLateSkipsToTheClock)
+TEST_F(KxAudioOutputTest, ADeviceThatBeginsLateSkipsToTheClock)
 {
     StartAt(0);
     const size_t before = sound.taken.size() / 2;
@@ -112,7 +112,7 @@ TEST_F(TestFeeder, ADeviceThatBeginsLateSkipsToTheClock)
     ExpectSineFrom(RateHz + 8640, before);
 }
 
-TEST_F(TestFeeder, EndsWithTheSound)
+TEST_F(KxAudioOutputTest, EndsWithTheSound)
 {
     StartAt(2300000);
     EXPECT_LE(sound.taken.size() / 2, 4900U);
@@ -123,18 +123,18 @@ TEST_F(TestFeeder, EndsWithTheSound)
     EXPECT_EQ(clock.NowUs(), 2800000);
 }
 
-TEST_F(TestFeeder, StopsWithTheRun)
+TEST_F(KxAudioOutputTest, StopsWithTheRun)
 {
     StartAt(0);
     clock.Stop();
     ASSERT_TRUE(QTest::qWaitFor([&] { return !sound.isStarted; }));
     const size_t before = sound.taken.size();
-    feeder.Start(source, 1, {});
+    output.Start(source, 1, {});
     EXPECT_FALSE(sound.isStarted);
     EXPECT_EQ(sound.taken.size(), before);
 }
 
-TEST_F(TestFeeder, ADeviceThatCannotBeOpenedLeavesTheClockRunning)
+TEST_F(KxAudioOutputTest, ADeviceThatCannotBeOpenedLeavesTheClockRunning)
 {
     sound.starts = false;
     const quint64 run = StartAt(0);
@@ -143,7 +143,7 @@ TEST_F(TestFeeder, ADeviceThatCannotBeOpenedLeavesTheClockRunning)
     EXPECT_TRUE(sound.taken.empty());
 }
 
-TEST_F(TestFeeder, ASourceWithoutSoundOpensNothing)
+TEST_F(KxAudioOutputTest, ASourceWithoutSoundOpensNothing)
 {
     source = PlayerClip::Source(PlayerClip::Numbered());
     StartAt(0);

@@ -5,10 +5,10 @@
 
 /// Passes sound from a reader to a writer, as far as the pictures have come and not a sample further, so that the
 /// file's sound ends with its last picture. One thread at a time.
-class KxSoundFeed
+class KxAudioInterleaver
 {
 public:
-    KxSoundFeed(std::unique_ptr<KxAudioReader> reader, const KxAudioReader::Format& format);
+    KxAudioInterleaver(std::unique_ptr<KxAudioReader> reader, const KxAudioReader::Format& format);
 
     /// Adds what comes before `frames` frames of `rate` have passed. The sentence of a failure is the writer's.
     KxError FeedUntil(qint64 frames, const KxRational& rate, KxMp4Writer& writer);

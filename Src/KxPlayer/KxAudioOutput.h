@@ -13,13 +13,13 @@ struct KxPlaySource;
 /// apart, because the device began late or stumbled, the sound skips to where the clock is: pictures never wait for it.
 /// Lives on the sound thread; made there or moved there before its first use. Where anything is missing (device,
 /// stream, file) it does nothing, and the clock goes its own way.
-class KXPLAYER_API KxSoundFeeder : public QObject
+class KXPLAYER_API KxAudioOutput : public QObject
 {
     Q_OBJECT
 public:
-    /// `device` is called on the sound thread, at the first Start. The clock outlives the feeder.
-    KxSoundFeeder(KxPlayerClock& clock, KxSoundDevice::Factory device);
-    ~KxSoundFeeder() override;
+    /// `device` is called on the sound thread, at the first Start. The clock outlives the output.
+    KxAudioOutput(KxPlayerClock& clock, KxSoundDevice::Factory device);
+    ~KxAudioOutput() override;
 
     /// Plays what the clock shows, as long as `run` lasts. `cancel` belongs to the source.
     void Start(const std::shared_ptr<const KxPlaySource>& source, quint64 run, const KxCancelToken& cancel);
