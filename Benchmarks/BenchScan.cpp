@@ -23,7 +23,7 @@ int main(int argc, char* argv[])
     }
     qint64 pictures = 0;
     KxVideoFrame picture;
-    while ((*scanner)->Next(picture) == KxReadStatus::Picture) {
+    while ((*scanner)->Next(picture) == KxReadStatus::Delivered) {
         ++pictures;
     }
     std::printf("{\"frames\":%lld,\"pictures\":%lld}\n", static_cast<long long>((*scanner)->Facts().video->frameCount),

@@ -64,7 +64,7 @@ QJsonArray Track(KxVideoScanner& scanner, const QSize& aspect, const KxSubjectOp
     const QSize size(analyzer.WorkingSize().width, analyzer.WorkingSize().height);
     KxPictureScaler scaler(KxPictureScaler::Detail::Coarse);
     KxVideoFrame picture;
-    while (scanner.Next(picture) == KxReadStatus::Picture) {
+    while (scanner.Next(picture) == KxReadStatus::Delivered) {
         QImage image = scaler.Scale(picture, size, QImage::Format_BGR888);
         analyzer.AddPicture(picture.Index(), cv::Mat(image.height(), image.width(), CV_8UC3, image.bits(),
                                                      static_cast<std::size_t>(image.bytesPerLine())));

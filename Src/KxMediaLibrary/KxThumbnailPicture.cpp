@@ -50,7 +50,7 @@ KxResult<QImage> KxThumbnailPicture::Make(const QString& path, const QSize& room
     for (const double place : places) {
         KxVideoFrame frame;
         if ((*reader)->Read(static_cast<qint64>(place * static_cast<double>(frameCount)), frame) !=
-            KxReadStatus::Picture) {
+            KxReadStatus::Delivered) {
             break;
         }
         const QImage picture = scaler.Scale(frame, FitInto(frame.DisplayedSize(), roomPx), QImage::Format_RGB32);

@@ -78,7 +78,7 @@ private:
                 return KxReadStatus::Cancelled;
             }
             const KxReadStatus status = m_scanner.Next(picture);
-            if (status != KxReadStatus::Picture) {
+            if (status != KxReadStatus::Delivered) {
                 return status;
             }
             if (m_analyzer.Wants(picture.Index())) {

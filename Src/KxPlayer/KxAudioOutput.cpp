@@ -99,7 +99,7 @@ bool KxAudioOutput::Refill()
 {
     m_usedFrames = 0;
     do {
-        m_hasEnded = m_hasEnded || m_reader->Next(m_block) != KxReadStatus::Picture;
+        m_hasEnded = m_hasEnded || m_reader->Next(m_block) != KxReadStatus::Delivered;
     } while (!m_hasEnded && m_block.samples.empty());
     return !m_hasEnded;
 }

@@ -28,7 +28,7 @@ KxReadStatus KxPictureMaker::Make(int frame, const QSize& area, KxPlayerPicture&
 {
     KxVideoFrame decoded;
     const KxReadStatus status = m_reader->Read(frame, decoded);
-    if (status != KxReadStatus::Picture) {
+    if (status != KxReadStatus::Delivered) {
         return status;
     }
     picture.frame = frame;
@@ -37,7 +37,7 @@ KxReadStatus KxPictureMaker::Make(int frame, const QSize& area, KxPlayerPicture&
     const QSize size = KxPicturePlace::In(area, picture.shape).size().expandedTo(QSize(1, 1));
     const std::optional<QRectF> crop = m_source->CropAt(frame);
     picture.image = crop ? Cut(decoded, *crop, size) : Whole(decoded, size);
-    return picture.image.isNull() ? KxReadStatus::Failed : KxReadStatus::Picture;
+    return picture.image.isNull() ? KxReadStatus::Failed : KxReadStatus::Delivered;
 }
 
 QImage KxPictureMaker::Whole(const KxVideoFrame& decoded, const QSize& size)

@@ -249,7 +249,7 @@ void KxPlayerEngine::Carry(const Job& job, std::unique_ptr<KxPictureMaker>& make
     KxPlayerPicture picture;
     maker->GiveUpWhen([this, order = job.order] { return IsReplaced(order); });
     const KxReadStatus status = maker->Make(job.frame, job.area, picture);
-    if (status == KxReadStatus::Picture) {
+    if (status == KxReadStatus::Delivered) {
         Deliver(job, std::move(picture), duration_cast<microseconds>(steady_clock::now() - begin).count());
     } else if (status == KxReadStatus::Cancelled) {
         // What is decoded so far serves the order that takes this one's place; without one the file was let go of.

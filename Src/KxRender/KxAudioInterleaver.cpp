@@ -26,7 +26,7 @@ bool KxAudioInterleaver::Fill()
     }
     const KxReadStatus status = m_reader->Next(m_block);
     m_usedValues = 0;
-    m_hasEnded = status != KxReadStatus::Picture;
+    m_hasEnded = status != KxReadStatus::Delivered;
     m_hasFailed = status == KxReadStatus::Failed;
     if (!m_hasEnded && !m_hasStarted) {
         m_hasStarted = true;

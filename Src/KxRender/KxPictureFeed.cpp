@@ -114,7 +114,7 @@ KxResult<KxVideoFrame> KxPictureFeed::Make(const KxVideoFrame& picture, qint64 f
 bool KxPictureFeed::Read(qint64 frame, KxVideoFrame& picture)
 {
     switch (m_reader.Read(frame, picture)) {
-    case KxReadStatus::Picture:
+    case KxReadStatus::Delivered:
         break;
     case KxReadStatus::Cancelled:
         return false;

@@ -21,7 +21,7 @@ std::optional<int> NumberAt(KxPictureMaker& maker, int frame)
 {
     KxPlayerPicture picture;
     const KxReadStatus status = maker.Make(frame, Area, picture);
-    return status == KxReadStatus::Picture ? MadeVideo::ReadNumber(picture.image) : std::nullopt;
+    return status == KxReadStatus::Delivered ? MadeVideo::ReadNumber(picture.image) : std::nullopt;
 }
 
 // How often it was asked until the way to the last frame was given up.

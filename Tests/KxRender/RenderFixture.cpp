@@ -19,7 +19,7 @@ void ForEachSample(const QString& path, Use use)
     KxResult<std::unique_ptr<KxAudioReader>> reader = KxAudioReader::Open(path, 0, format, KxCancelToken());
     ASSERT_TRUE(reader) << reader.Sentence().toStdString();
     KxAudioBlock block;
-    while ((*reader)->Next(block) == KxReadStatus::Picture) {
+    while ((*reader)->Next(block) == KxReadStatus::Delivered) {
         for (size_t i = 0; i < block.samples.size(); i += 2) {
             use(static_cast<double>(block.timeUs) * 1e-6 + static_cast<double>(i) / 2 / format.sampleRateHz,
                 block.samples[i]);
@@ -76,7 +76,7 @@ std::vector<KxVideoFrame> RenderFixture::Pictures(const QString& path)
     EXPECT_TRUE(reader) << reader.Sentence().toStdString();
     for (qint64 frame = 0; reader && frame < (*reader)->Facts().video->frameCount; ++frame) {
         KxVideoFrame picture;
-        EXPECT_EQ((*reader)->Read(frame, picture), KxReadStatus::Picture);
+        EXPECT_EQ((*reader)->Read(frame, picture), KxReadStatus::Delivered);
         EXPECT_FALSE((*reader)->EndedEarly());
         pictures.push_back(picture);
     }

@@ -64,7 +64,7 @@ protected:
     static QImage Frame(KxVideoReader& reader, int frame)
     {
         KxVideoFrame picture;
-        EXPECT_EQ(reader.Read(frame, picture), KxReadStatus::Picture);
+        EXPECT_EQ(reader.Read(frame, picture), KxReadStatus::Delivered);
         return KxPictureScaler().Scale(picture, reader.Facts().video->resolution, QImage::Format_RGB32);
     }
 

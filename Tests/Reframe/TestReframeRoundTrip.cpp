@@ -88,7 +88,7 @@ std::vector<qint64> Onsets(const QString& path)
     EXPECT_TRUE(reader) << reader.Sentence().toStdString();
     KxAudioBlock block;
     qint64 silentSamples = rateHz;
-    while (reader && (*reader)->Next(block) == KxReadStatus::Picture) {
+    while (reader && (*reader)->Next(block) == KxReadStatus::Delivered) {
         for (std::size_t i = 0; i < block.samples.size(); ++i) {
             if (std::abs(block.samples[i]) < 0.1F) {
                 ++silentSamples;
@@ -154,8 +154,8 @@ TEST_F(ReframeRoundTrip, EveryPictureIsTheCropOfTheSourceAndSoundStaysInStep)
     for (int frame = 0; frame < frames; ++frame) {
         KxVideoFrame a;
         KxVideoFrame b;
-        ASSERT_EQ((*source)->Read(frame, a), KxReadStatus::Picture);
-        ASSERT_EQ((*result)->Read(frame, b), KxReadStatus::Picture);
+        ASSERT_EQ((*source)->Read(frame, a), KxReadStatus::Delivered);
+        ASSERT_EQ((*result)->Read(frame, b), KxReadStatus::Delivered);
         const QImage whole = sourceScaler.Scale(a, sourceSize, QImage::Format_RGB32);
         const QImage expected = Reference(whole, track.crops.at(frame).cropRect(), size);
         const double psnr = Psnr(expected, resultScaler.Scale(b, size, QImage::Format_RGB32));

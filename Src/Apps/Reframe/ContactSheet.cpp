@@ -57,7 +57,7 @@ KxResult<QImage> ContactSheet::Draw(const QString& videoPath, const QList<IKxAut
         if (status == KxReadStatus::Cancelled) {
             return KxResult<QImage>::Failure(QStringLiteral("Interrupted."));
         }
-        if (status != KxReadStatus::Picture) {
+        if (status != KxReadStatus::Delivered) {
             break;
         }
         const QPoint corner(gapPx + (i % columns) * stepX, gapPx + (i / columns) * stepY);

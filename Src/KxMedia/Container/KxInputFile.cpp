@@ -272,7 +272,7 @@ KxReadStatus KxInputFile::Read(AVPacket& packet)
     for (int attempt = 0; attempt < MostReadingErrors; ++attempt) {
         const int error = IsCancelled() ? AVERROR_EXIT : av_read_frame(m_context.get(), &packet);
         if (error >= 0) {
-            return KxReadStatus::Picture;
+            return KxReadStatus::Delivered;
         }
         if (IsCancelled()) {
             return KxReadStatus::Cancelled;

@@ -42,7 +42,7 @@ public:
 
     /// Packets of other streams are left out from now on, which is quicker.
     void Select(const AVStream& stream);
-    /// The next packet. `Picture` stands for "a packet was delivered".
+    /// The next packet.
     KxReadStatus Read(AVPacket& packet);
     bool IsCancelled() const { return m_watch.cancel.IsCancelled(); }
     const KxCancelToken& Cancel() const { return m_watch.cancel; }

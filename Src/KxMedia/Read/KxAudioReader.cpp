@@ -69,7 +69,7 @@ KxReadStatus KxAudioReader::Impl::ReadRun()
     for (;;) {
         KxAudioTrack::Run more;
         const KxReadStatus status = track->Next(more);
-        if (status != KxReadStatus::Picture) {
+        if (status != KxReadStatus::Delivered) {
             return status;
         }
         // Before time zero, or before the place that was sought, or told twice.
@@ -97,14 +97,14 @@ KxReadStatus KxAudioReader::Impl::Next(KxAudioBlock& block)
     while (static_cast<qint64>(block.samples.size()) < blockFrames * format.channels) {
         if (run.samples.empty()) {
             const KxReadStatus status = ReadRun();
-            if (status != KxReadStatus::Picture) {
+            if (status != KxReadStatus::Delivered) {
                 const bool isLast = status == KxReadStatus::End && !block.samples.empty();
-                return isLast ? KxReadStatus::Picture : status;
+                return isLast ? KxReadStatus::Delivered : status;
             }
         }
         MakeBlock(blockFrames, block);
     }
-    return KxReadStatus::Picture;
+    return KxReadStatus::Delivered;
 }
 
 void KxAudioReader::Impl::MakeBlock(qint64 frames, KxAudioBlock& block)
@@ -133,7 +133,7 @@ void KxAudioReader::Impl::Seek(qint64 position)
             break;
         }
         const KxReadStatus status = ReadRun();
-        if (status == KxReadStatus::Cancelled || (status == KxReadStatus::Picture && run.position <= wanted)) {
+        if (status == KxReadStatus::Cancelled || (status == KxReadStatus::Delivered && run.position <= wanted)) {
             return;
         }
     }

@@ -72,15 +72,15 @@ KxReadStatus KxAudioTrack::Next(Run& run)
             m_errorsInARow = 0;
             m_hasFrame = true;
             if (TakeFrame(run)) {
-                return KxReadStatus::Picture;
+                return KxReadStatus::Delivered;
             }
         } else if (result == AVERROR_EOF) {
-            return EndRun(run) ? KxReadStatus::Picture : KxReadStatus::End;
+            return EndRun(run) ? KxReadStatus::Delivered : KxReadStatus::End;
         } else if (result != AVERROR(EAGAIN)) {
             if (++m_errorsInARow >= MostErrorsInARow) {
                 return KxReadStatus::Failed;
             }
-        } else if (const KxReadStatus status = Feed(); status != KxReadStatus::Picture) {
+        } else if (const KxReadStatus status = Feed(); status != KxReadStatus::Delivered) {
             return status;
         }
     }
@@ -89,22 +89,22 @@ KxReadStatus KxAudioTrack::Next(Run& run)
 KxReadStatus KxAudioTrack::Feed()
 {
     KxReadStatus status = m_isDraining ? KxReadStatus::End : m_input->Read(*m_packet);
-    while (status == KxReadStatus::Picture && m_packet->stream_index != m_streamIndex) {
+    while (status == KxReadStatus::Delivered && m_packet->stream_index != m_streamIndex) {
         av_packet_unref(m_packet.get());
         status = m_input->Read(*m_packet);
     }
     if (status == KxReadStatus::Cancelled) {
         return status;
     }
-    if (status != KxReadStatus::Picture) {
+    if (status != KxReadStatus::Delivered) {
         m_isDraining = true;
-        return avcodec_send_packet(m_codec.get(), nullptr) >= 0 ? KxReadStatus::Picture : KxReadStatus::End;
+        return avcodec_send_packet(m_codec.get(), nullptr) >= 0 ? KxReadStatus::Delivered : KxReadStatus::End;
     }
     ShiftOverJumps(*m_packet);
     const int result = avcodec_send_packet(m_codec.get(), m_packet.get());
     av_packet_unref(m_packet.get());
     const bool isBad = result < 0 && result != AVERROR(EAGAIN);
-    return isBad && ++m_errorsInARow >= MostErrorsInARow ? KxReadStatus::Failed : KxReadStatus::Picture;
+    return isBad && ++m_errorsInARow >= MostErrorsInARow ? KxReadStatus::Failed : KxReadStatus::Delivered;
 }
 
 // Sound and picture of a pasted stream jump together.

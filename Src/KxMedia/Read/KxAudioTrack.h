@@ -25,7 +25,7 @@ public:
                                                         std::optional<qint64> zeroUs,
                                                         std::vector<KxVideoPackets::Jump> jumps);
 
-    /// `Picture` stands for "a run was delivered". Runs may be empty.
+    /// The next run, which may be empty.
     KxReadStatus Next(Run& run);
     /// To a place that the container takes for one at or before `position`. False when there is none but the start.
     bool SeekBefore(qint64 position);

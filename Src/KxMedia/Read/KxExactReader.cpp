@@ -22,20 +22,20 @@ KxReadStatus KxExactReader::Read(qint64 frame, KxVideoFrame& picture)
     const qint64 wanted = std::clamp<qint64>(frame, 0, count - 1);
     const bool isShown = !m_current.IsNull() && m_current.Index() <= wanted &&
                          (m_isAtEnd || (!m_ahead.IsNull() && wanted < m_ahead.Index()));
-    KxReadStatus status = isShown ? KxReadStatus::Picture : GoTo(wanted, Haste::LeaveOut);
-    if (status == KxReadStatus::Picture && MayHaveLeftOutTheAnswer()) {
+    KxReadStatus status = isShown ? KxReadStatus::Delivered : GoTo(wanted, Haste::LeaveOut);
+    if (status == KxReadStatus::Delivered && MayHaveLeftOutTheAnswer()) {
         Forget();
         status = GoTo(wanted, Haste::Exact);
     }
-    if (status == KxReadStatus::Picture && m_landedIndex && LacksTheEnd(wanted)) {
+    if (status == KxReadStatus::Delivered && m_landedIndex && LacksTheEnd(wanted)) {
         status = GoFromFartherBack(wanted);
     }
-    if (status != KxReadStatus::Picture) {
+    if (status != KxReadStatus::Delivered) {
         return status;
     }
     NoteEnd();
     picture = m_current;
-    return KxReadStatus::Picture;
+    return KxReadStatus::Delivered;
 }
 
 KxExactReader::Way KxExactReader::ChooseWay(qint64 frame)
@@ -64,7 +64,7 @@ KxReadStatus KxExactReader::GoTo(qint64 frame, Haste haste)
 {
     if (ChooseWay(frame) == Way::Seek) {
         const KxReadStatus status = Land(frame);
-        if (status != KxReadStatus::Picture) {
+        if (status != KxReadStatus::Delivered) {
             return status;
         }
     }
@@ -79,7 +79,7 @@ bool KxExactReader::LacksTheEnd(qint64 frame) const
 KxReadStatus KxExactReader::GoFromFartherBack(qint64 frame)
 {
     KxReadStatus status = Land(*m_landedIndex - 1);
-    status = status == KxReadStatus::Picture ? DecodeUpTo(frame, Haste::Exact) : status;
+    status = status == KxReadStatus::Delivered ? DecodeUpTo(frame, Haste::Exact) : status;
     m_landedIndex.reset();
     return status;
 }
@@ -108,7 +108,7 @@ KxReadStatus KxExactReader::Land(qint64 frame)
         if (status == KxReadStatus::Cancelled) {
             return status;
         }
-        if (status == KxReadStatus::Picture && m_ahead.Index() <= frame) {
+        if (status == KxReadStatus::Delivered && m_ahead.Index() <= frame) {
             m_landedIndex = m_ahead.Index();
             return status;
         }
@@ -122,14 +122,14 @@ KxReadStatus KxExactReader::Restart()
 {
     Forget();
     m_isAtStart = true;
-    return m_source->Rewind() ? KxReadStatus::Picture : KxReadStatus::Failed;
+    return m_source->Rewind() ? KxReadStatus::Delivered : KxReadStatus::Failed;
 }
 
 KxReadStatus KxExactReader::Advance()
 {
     KxVideoFrame next;
     const KxReadStatus status = m_source->Next(next);
-    if (status == KxReadStatus::Picture) {
+    if (status == KxReadStatus::Delivered) {
         m_current = m_ahead.IsNull() ? m_current : m_ahead;
         m_ahead = std::move(next);
     }
@@ -152,14 +152,14 @@ KxReadStatus KxExactReader::DecodeUpTo(qint64 frame, Haste haste)
         if (status == KxReadStatus::Cancelled) {
             return status;
         }
-        if (status != KxReadStatus::Picture) {
+        if (status != KxReadStatus::Delivered) {
             m_current = m_ahead.IsNull() ? m_current : m_ahead;
             m_ahead = {};
             m_isAtEnd = true;
-            return m_current.IsNull() ? KxReadStatus::Failed : KxReadStatus::Picture;
+            return m_current.IsNull() ? KxReadStatus::Failed : KxReadStatus::Delivered;
         }
     }
-    return KxReadStatus::Picture;
+    return KxReadStatus::Delivered;
 }
 
 void KxExactReader::NoteEnd()

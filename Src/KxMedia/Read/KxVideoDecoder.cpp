@@ -81,7 +81,7 @@ KxReadStatus KxVideoDecoder::Next(Picture& picture)
             m_errorsInARow = 0;
             m_packetsSincePicture = 0;
             if (Accept(picture)) {
-                return KxReadStatus::Picture;
+                return KxReadStatus::Delivered;
             }
         } else if (result == AVERROR_EOF) {
             return KxReadStatus::End;
@@ -89,7 +89,7 @@ KxReadStatus KxVideoDecoder::Next(Picture& picture)
             if (!CountError()) {
                 return KxReadStatus::Failed;
             }
-        } else if (const KxReadStatus status = Feed(); status != KxReadStatus::Picture) {
+        } else if (const KxReadStatus status = Feed(); status != KxReadStatus::Delivered) {
             return status;
         }
     }
@@ -107,10 +107,10 @@ KxReadStatus KxVideoDecoder::Feed()
     if (status == KxReadStatus::Cancelled) {
         return status;
     }
-    if (status != KxReadStatus::Picture) {
+    if (status != KxReadStatus::Delivered) {
         // A file that cannot be read any further still has pictures waiting in the decoder.
         m_isDraining = true;
-        return avcodec_send_packet(m_codec.get(), nullptr) >= 0 ? KxReadStatus::Picture : KxReadStatus::End;
+        return avcodec_send_packet(m_codec.get(), nullptr) >= 0 ? KxReadStatus::Delivered : KxReadStatus::End;
     }
     const std::optional<qint64> ticks = Known(m_packet->pts != AV_NOPTS_VALUE ? m_packet->pts : m_packet->dts);
     m_lastPacketTicks = ticks;
@@ -132,7 +132,7 @@ KxReadStatus KxVideoDecoder::Feed()
     if (result < 0 && result != AVERROR(EAGAIN) && !CountError()) {
         return KxReadStatus::Failed;
     }
-    return KxReadStatus::Picture;
+    return KxReadStatus::Delivered;
 }
 
 std::optional<qint64> KxVideoDecoder::TimeOf(const AVFrame& frame)

@@ -117,7 +117,7 @@ KxReadStatus KxVideoPackets::Prepare()
             return KxReadStatus::Failed;
         }
     }
-    return KxReadStatus::Picture;
+    return KxReadStatus::Delivered;
 }
 
 std::optional<KxVideoPackets::Tail> KxVideoPackets::ReadToEnd()
@@ -125,7 +125,7 @@ std::optional<KxVideoPackets::Tail> KxVideoPackets::ReadToEnd()
     TailFinder finder;
     const KxAvPacket packet(av_packet_alloc());
     const bool isWalk = m_isCounted || m_mayJump;
-    while (packet && Next(*packet) == KxReadStatus::Picture) {
+    while (packet && Next(*packet) == KxReadStatus::Delivered) {
         finder.Add(*packet);
         if (isWalk) {
             NoteWalkedPacket(*packet);
@@ -212,7 +212,7 @@ KxReadStatus KxVideoPackets::ReadRaw(AVPacket& packet)
 {
     for (;;) {
         const KxReadStatus status = m_input->Read(packet);
-        if (status != KxReadStatus::Picture || packet.stream_index == Stream().index) {
+        if (status != KxReadStatus::Delivered || packet.stream_index == Stream().index) {
             return status;
         }
         av_packet_unref(&packet);
@@ -224,11 +224,11 @@ KxReadStatus KxVideoPackets::Next(AVPacket& packet)
     if (m_pushedBack) {
         av_packet_move_ref(&packet, m_pushedBack.get());
         m_pushedBack.reset();
-        return KxReadStatus::Picture;
+        return KxReadStatus::Delivered;
     }
     for (;;) {
         const KxReadStatus status = ReadRaw(packet);
-        if (status != KxReadStatus::Picture) {
+        if (status != KxReadStatus::Delivered) {
             return status;
         }
         if (!m_firstPacket) {

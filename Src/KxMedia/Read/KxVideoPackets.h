@@ -52,7 +52,7 @@ public:
     /// found.
     std::optional<Tail> FindTail();
 
-    /// `Picture` stands for "a packet was delivered". After a seek the first packet is a key frame's.
+    /// The next packet. After a seek the first one is that of a key frame.
     KxReadStatus Next(AVPacket& packet);
     /// To the first packet. False when the file could not be opened again.
     bool Rewind();

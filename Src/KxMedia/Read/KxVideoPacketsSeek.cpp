@@ -24,7 +24,7 @@ bool KxVideoPackets::Rewind()
                                : av_seek_frame(&context, Stream().index, start, AVSEEK_FLAG_BACKWARD);
     if (error >= 0) {
         KxAvPacket packet(av_packet_alloc());
-        if (packet && ReadRaw(*packet) == KxReadStatus::Picture && IsFirstPacket(*packet)) {
+        if (packet && ReadRaw(*packet) == KxReadStatus::Delivered && IsFirstPacket(*packet)) {
             PutTimes(*packet);
             m_pushedBack = std::move(packet);
             return true;
@@ -79,7 +79,7 @@ bool KxVideoPackets::SeekToTable(qint64 ticks)
     }
     // A count is worth nothing unless it goes on at the very packet that it was taken from.
     KxAvPacket packet(av_packet_alloc());
-    if (!packet || ReadRaw(*packet) != KxReadStatus::Picture || packet->pos != key.position) {
+    if (!packet || ReadRaw(*packet) != KxReadStatus::Delivered || packet->pos != key.position) {
         return false;
     }
     PutTimes(*packet);

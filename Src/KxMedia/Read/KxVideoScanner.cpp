@@ -59,14 +59,14 @@ KxReadStatus KxVideoScanner::Next(KxVideoFrame& picture)
     for (;;) {
         KxVideoFrame next;
         const KxReadStatus status = impl.source->Next(next);
-        if (status != KxReadStatus::Picture) {
+        if (status != KxReadStatus::Delivered) {
             impl.hasEnded = impl.hasEnded || status != KxReadStatus::Cancelled;
             return status;
         }
         if (next.Index() > impl.lastIndex && next.Index() < Facts().video->frameCount) {
             impl.lastIndex = next.Index();
             picture = std::move(next);
-            return KxReadStatus::Picture;
+            return KxReadStatus::Delivered;
         }
     }
 }

@@ -49,7 +49,7 @@ KxError KxVideoSource::Prepare(std::unique_ptr<KxInputFile> input, KxVideoDecode
     const KxRational rate = KxGridRateOf(*input);
     m_orientation = KxOrientationOf(*input->VideoStream());
     m_packets = std::make_unique<KxVideoPackets>(std::move(input), rate);
-    if (const KxReadStatus status = m_packets->Prepare(); status != KxReadStatus::Picture) {
+    if (const KxReadStatus status = m_packets->Prepare(); status != KxReadStatus::Delivered) {
         return status == KxReadStatus::Cancelled ? CancelledReason() : QStringLiteral("it is damaged");
     }
     KxResult<std::unique_ptr<KxVideoDecoder>> decoder = KxVideoDecoder::Open(*m_packets, effort);
@@ -63,7 +63,7 @@ KxError KxVideoSource::Prepare(std::unique_ptr<KxInputFile> input, KxVideoDecode
 
     KxVideoDecoder::Picture first;
     const KxReadStatus status = m_decoder->Next(first);
-    if (status != KxReadStatus::Picture) {
+    if (status != KxReadStatus::Delivered) {
         return status == KxReadStatus::Cancelled ? CancelledReason()
                                                  : QStringLiteral("no picture of it can be decoded, it is damaged");
     }
@@ -155,11 +155,11 @@ KxReadStatus KxVideoSource::NextWhole(KxVideoDecoder::Picture& picture)
     for (;;) {
         if (std::optional<KxVideoDecoder::Picture> whole = m_deinterlacer->Take()) {
             picture = std::move(*whole);
-            return KxReadStatus::Picture;
+            return KxReadStatus::Delivered;
         }
         KxVideoDecoder::Picture decoded;
         const KxReadStatus status = m_decoder->Next(decoded);
-        if (status == KxReadStatus::Picture) {
+        if (status == KxReadStatus::Delivered) {
             m_deinterlacer->Add(std::move(decoded));
         } else if (status == KxReadStatus::Cancelled || !m_deinterlacer->End()) {
             return status;
@@ -171,7 +171,7 @@ KxReadStatus KxVideoSource::Next(KxVideoFrame& picture)
 {
     KxVideoDecoder::Picture decoded;
     const KxReadStatus status = m_deinterlacer ? NextWhole(decoded) : m_decoder->Next(decoded);
-    if (status == KxReadStatus::Picture) {
+    if (status == KxReadStatus::Delivered) {
         picture = MakeFrame(std::move(decoded));
     }
     return status;

@@ -67,7 +67,7 @@ void ReadThrough(const QString& path)
         (*reader)->Read(frame, picture);
     }
     const auto scanner = KxVideoScanner::Open(path, KxCancelToken());
-    while (scanner && (*scanner)->Next(picture) == KxReadStatus::Picture) {
+    while (scanner && (*scanner)->Next(picture) == KxReadStatus::Delivered) {
     }
 }
 

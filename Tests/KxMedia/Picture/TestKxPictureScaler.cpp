@@ -52,7 +52,7 @@ KxVideoFrame FirstPicture(const QString& name, const QSize& size, const char* ou
     KxVideoFrame picture;
     if (MadeVideo::Make(Path(name), recipe)) {
         const std::unique_ptr<KxVideoReader> reader = ReadClips::OpenReader(Path(name));
-        EXPECT_TRUE(reader && reader->Read(0, picture) == KxReadStatus::Picture);
+        EXPECT_TRUE(reader && reader->Read(0, picture) == KxReadStatus::Delivered);
     }
     return picture;
 }
@@ -134,7 +134,7 @@ TEST(KxPictureScaler, CoarsePicturesDifferLittle)
         ASSERT_TRUE(MadeVideo::Make(Path(QLatin1String(file.name)), recipe));
         KxVideoFrame picture;
         const std::unique_ptr<KxVideoReader> reader = ReadClips::OpenReader(Path(QLatin1String(file.name)));
-        ASSERT_TRUE(reader && reader->Read(0, picture) == KxReadStatus::Picture);
+        ASSERT_TRUE(reader && reader->Read(0, picture) == KxReadStatus::Delivered);
         const QSize size(64, 36);
         const QImage full = KxPictureScaler().Scale(picture, size, QImage::Format_RGB32);
         const QImage coarse =

@@ -53,5 +53,5 @@ uint ReadClips::CheckSum(const KxVideoFrame& picture)
 int ReadClips::ReadNumber(KxVideoReader& reader, qint64 frame)
 {
     KxVideoFrame picture;
-    return reader.Read(frame, picture) == KxReadStatus::Picture ? NumberOf(picture) : -1;
+    return reader.Read(frame, picture) == KxReadStatus::Delivered ? NumberOf(picture) : -1;
 }

@@ -66,7 +66,7 @@ Sound ReadAll(KxAudioReader& reader)
     Sound sound;
     KxAudioBlock block;
     qint64 expectedUs = -1;
-    while (reader.Next(block) == KxReadStatus::Picture) {
+    while (reader.Next(block) == KxReadStatus::Delivered) {
         if (expectedUs < 0) {
             sound.startUs = block.timeUs;
             sound.channels = block.channels;
@@ -171,12 +171,12 @@ TEST(KxAudioReader, SeeksAsExactlyAsTheContainerKeepsTime)
         ASSERT_NE(reader, nullptr);
         std::vector<float> whole;
         KxAudioBlock block;
-        while (reader->Next(block) == KxReadStatus::Picture) {
+        while (reader->Next(block) == KxReadStatus::Delivered) {
             whole.insert(whole.end(), block.samples.begin(), block.samples.end());
         }
         for (const int position : {88200, 44100, 132311, 1000, 0}) {
             reader->Seek(qint64{position} * 1000000 / 44100);
-            ASSERT_EQ(reader->Next(block), KxReadStatus::Picture);
+            ASSERT_EQ(reader->Next(block), KxReadStatus::Delivered);
             EXPECT_NEAR(static_cast<double>(block.timeUs), position * 1e6 / 44100, 23.0);
             // Matroska keeps whole milliseconds.
             const int slack = QByteArray(name).endsWith(".mkv") ? 45 : 0;
@@ -244,10 +244,10 @@ TEST(KxAudioReader, StopsWhenCancelled)
         OpenAudio(Clicks(QStringLiteral("stop.mp4"), "-c:a aac"), 0, {}, cancel);
     ASSERT_NE(reader, nullptr);
     KxAudioBlock block;
-    EXPECT_EQ(reader->Next(block), KxReadStatus::Picture);
+    EXPECT_EQ(reader->Next(block), KxReadStatus::Delivered);
     cancel.Cancel();
-    KxReadStatus status = KxReadStatus::Picture;
-    for (int i = 0; i < 10 && status == KxReadStatus::Picture; ++i) {
+    KxReadStatus status = KxReadStatus::Delivered;
+    for (int i = 0; i < 10 && status == KxReadStatus::Delivered; ++i) {
         status = reader->Next(block);
     }
     EXPECT_EQ(status, KxReadStatus::Cancelled);

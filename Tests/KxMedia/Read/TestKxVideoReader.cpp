@@ -151,7 +151,7 @@ TEST(KxVideoReader, StandsPicturesUpright)
             ASSERT_NE(reader, nullptr);
             EXPECT_EQ(reader->Facts().video->resolution, upright);
             KxVideoFrame picture;
-            ASSERT_EQ(reader->Read(5, picture), KxReadStatus::Picture);
+            ASSERT_EQ(reader->Read(5, picture), KxReadStatus::Delivered);
             EXPECT_EQ(picture.DisplayedSize(), upright);
             EXPECT_EQ(ReadClips::NumberOf(picture), picture.Turn().clockwiseDegrees == clockwise ? 5 : -1);
             EXPECT_EQ(ReadClips::NumberOf(picture), NumberThatFfmpegShows(reader->Facts().path, 5));
@@ -178,7 +178,7 @@ TEST(KxVideoReader, MakesPicturesWholeThatAreWovenFromTwoFields)
     EXPECT_EQ(reader->Facts().video->frameCount, 24);
     for (const qint64 frame : {23, 0, 1, 12, 5, 22}) {
         KxVideoFrame picture;
-        ASSERT_EQ(reader->Read(frame, picture), KxReadStatus::Picture);
+        ASSERT_EQ(reader->Read(frame, picture), KxReadStatus::Delivered);
         EXPECT_EQ(picture.Index(), frame);
         EXPECT_EQ(DifferingLines(picture), 0) << "frame " << frame;
     }
@@ -209,9 +209,9 @@ TEST(KxVideoReader, JoinsTransportStreamsThatWerePastedTogether)
     ASSERT_NE(reader, nullptr);
     ExpectNumbers(*reader, 110, 0);
     KxVideoFrame picture;
-    ASSERT_EQ(reader->Read(20, picture), KxReadStatus::Picture);
+    ASSERT_EQ(reader->Read(20, picture), KxReadStatus::Delivered);
     EXPECT_EQ(picture.DisplayedSize(), QSize(96, 64));
-    ASSERT_EQ(reader->Read(90, picture), KxReadStatus::Picture);
+    ASSERT_EQ(reader->Read(90, picture), KxReadStatus::Delivered);
     EXPECT_EQ(picture.DisplayedSize(), QSize(160, 128));
 }
 
@@ -254,7 +254,7 @@ TEST(KxVideoReader, SurvivesADamagedMiddle)
     EXPECT_EQ(ReadNumber(*reader, 118), 118);
     for (qint64 frame = 0; frame < reader->Facts().video->frameCount; ++frame) {
         KxVideoFrame picture;
-        EXPECT_EQ(reader->Read(frame, picture), KxReadStatus::Picture);
+        EXPECT_EQ(reader->Read(frame, picture), KxReadStatus::Delivered);
     }
 }
 
@@ -266,7 +266,7 @@ TEST(KxVideoReader, StopsWhenCancelled)
     const auto reader = KxVideoReader::Open(path, cancel);
     ASSERT_TRUE(reader);
     KxVideoFrame picture;
-    EXPECT_EQ((*reader)->Read(1, picture), KxReadStatus::Picture);
+    EXPECT_EQ((*reader)->Read(1, picture), KxReadStatus::Delivered);
     cancel.Cancel();
     EXPECT_EQ((*reader)->Read(50, picture), KxReadStatus::Cancelled);
     EXPECT_EQ((*reader)->Read(0, picture), KxReadStatus::Cancelled);
@@ -282,7 +282,7 @@ TEST(KxVideoReader, KeepsPicturesValidAfterItIsGone)
     {
         const std::unique_ptr<KxVideoReader> reader = ReadClips::OpenReader(path);
         ASSERT_NE(reader, nullptr);
-        ASSERT_EQ(reader->Read(13, picture), KxReadStatus::Picture);
+        ASSERT_EQ(reader->Read(13, picture), KxReadStatus::Delivered);
     }
     EXPECT_EQ(picture.Index(), 13);
     EXPECT_EQ(ReadClips::NumberOf(picture), 13);
@@ -302,7 +302,7 @@ TEST(KxVideoReader, ReadsRealFootageTheSameInAnyOrder)
     EXPECT_EQ(inOrder->Facts().video->frameCount, 795);
     const auto checkSum = [](KxVideoReader& reader, qint64 frame) {
         KxVideoFrame picture;
-        EXPECT_EQ(reader.Read(frame, picture), KxReadStatus::Picture);
+        EXPECT_EQ(reader.Read(frame, picture), KxReadStatus::Delivered);
         EXPECT_EQ(picture.Index(), frame);
         return ReadClips::CheckSum(picture);
     };

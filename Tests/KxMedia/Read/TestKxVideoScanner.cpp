@@ -49,7 +49,7 @@ Scan ScanOf(const QString& path)
     }
     scan.frameCount = (*scanner)->Facts().video->frameCount;
     KxVideoFrame picture;
-    while ((*scanner)->Next(picture) == KxReadStatus::Picture) {
+    while ((*scanner)->Next(picture) == KxReadStatus::Delivered) {
         EXPECT_TRUE(scan.indices.empty() || picture.Index() > scan.indices.back());
         scan.indices.push_back(picture.Index());
         scan.numbers.push_back(ReadClips::NumberOf(picture));
@@ -129,11 +129,11 @@ TEST(KxVideoScanner, StopsWhenCancelled)
     const auto scanner = KxVideoScanner::Open(Made("stopped.mp4", 60, "-c:v libx264 -pix_fmt yuv420p"), cancel);
     ASSERT_TRUE(scanner);
     KxVideoFrame picture;
-    EXPECT_EQ((*scanner)->Next(picture), KxReadStatus::Picture);
+    EXPECT_EQ((*scanner)->Next(picture), KxReadStatus::Delivered);
     cancel.Cancel();
     // What waits inside the decoder may still come.
-    KxReadStatus status = KxReadStatus::Picture;
-    for (int i = 0; i < 10 && status == KxReadStatus::Picture; ++i) {
+    KxReadStatus status = KxReadStatus::Delivered;
+    for (int i = 0; i < 10 && status == KxReadStatus::Delivered; ++i) {
         status = (*scanner)->Next(picture);
     }
     EXPECT_EQ(status, KxReadStatus::Cancelled);
