@@ -205,7 +205,7 @@ void Person::WaitForExport(ExportItem::State state)
         for (int id = 1;; ++id) {
             if (const ExportItem* const item = exports.Find(id)) {
                 if (item->IsFinished() && item->state != state) {
-                    throw std::runtime_error("an export ended otherwise: " + item->sentence.toStdString());
+                    throw std::runtime_error("an export ended otherwise: " + item->message.toStdString());
                 }
                 return item->state == state;
             }

@@ -89,7 +89,7 @@ public:
     {
         auto item = KxMediaItem::Open(m_path, {});
         if (!item) {
-            std::fprintf(stderr, "%s\n", qUtf8Printable(item.Sentence()));
+            std::fprintf(stderr, "%s\n", qUtf8Printable(item.Message()));
             return false;
         }
         m_timeline.reset(IKxTimeline::createSimpleTimeline((*item)->clip()));

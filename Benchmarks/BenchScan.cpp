@@ -18,7 +18,7 @@ int main(int argc, char* argv[])
     }
     const KxResult<std::unique_ptr<KxVideoScanner>> scanner = KxVideoScanner::Open(arguments[1], KxCancelToken());
     if (!scanner) {
-        std::fprintf(stderr, "%s\n", qPrintable(scanner.Sentence()));
+        std::fprintf(stderr, "%s\n", qPrintable(scanner.Message()));
         return 1;
     }
     qint64 pictures = 0;

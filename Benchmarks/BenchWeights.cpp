@@ -103,7 +103,7 @@ int main(int argc, char* argv[])
     }
     const KxResult<std::unique_ptr<KxVideoScanner>> scanner = KxVideoScanner::Open(arguments[1], KxCancelToken());
     if (!scanner) {
-        std::fprintf(stderr, "%s\n", qPrintable(scanner.Sentence()));
+        std::fprintf(stderr, "%s\n", qPrintable(scanner.Message()));
         return 1;
     }
     const QJsonArray frames = Track(**scanner, QSize(aspect[0].toInt(), aspect[1].toInt()), options);

@@ -142,7 +142,7 @@ KxResult<QString> KxOutputFile::Write(const QString& targetPath, const QByteArra
 {
     KxResult<std::unique_ptr<KxOutputFile>> output = Create(targetPath);
     if (!output) {
-        return KxResult<QString>::Failure(output.Sentence());
+        return KxResult<QString>::Failure(output.Message());
     }
     QFile file((*output)->TemporaryPath());
     const bool written = file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.flush();

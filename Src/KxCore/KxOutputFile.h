@@ -18,7 +18,7 @@ public:
         AddNumber ///< a file of the target's name is kept and the new one is called "name (2).mp4"
     };
 
-    /// Creates the temporary file, empty. The sentence of a failure names the target and the reason (no such folder, no
+    /// Creates the temporary file, empty. The error message names the target and the reason (no such folder, no
     /// permission …).
     static KxResult<std::unique_ptr<KxOutputFile>> Create(const QString& targetPath);
     ~KxOutputFile();

@@ -5,7 +5,7 @@
 #include <optional>
 #include <utility>
 
-/// A value, or the sentence that tells a person why there is none.
+/// A value, or the error message that says why there is none.
 template<typename T>
 class KxResult
 {
@@ -14,10 +14,10 @@ public:
         : m_value(std::move(value))
     {
     }
-    static KxResult Failure(QString sentence)
+    static KxResult Failure(QString message)
     {
         KxResult result;
-        result.m_sentence = std::move(sentence);
+        result.m_message = std::move(message);
         return result;
     }
 
@@ -27,16 +27,16 @@ public:
     T* operator->() { return &*m_value; }
     const T* operator->() const { return &*m_value; }
     /// Empty when there is a value.
-    const QString& Sentence() const { return m_sentence; }
+    const QString& Message() const { return m_message; }
 
 private:
     KxResult() = default;
 
     std::optional<T> m_value;
-    QString m_sentence;
+    QString m_message;
 };
 
-/// For work that yields nothing: nothing on success, otherwise the sentence that tells a person what went wrong.
+/// For work that yields nothing: nothing on success, otherwise an error message.
 using KxError = std::optional<QString>;
 
 /// How a job ended. Being cancelled is no failure.

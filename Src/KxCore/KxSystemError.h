@@ -8,8 +8,8 @@
 
 class QFileDevice;
 
-/// What an error of the operating system means to a person, as the end of a sentence: "the disk is full". Empty where
-/// there are no such words for it.
+/// What an error of the operating system means to a person, as a clause to append to a message: "the disk is full".
+/// Empty where there are no such words for it.
 KXCORE_API QString KxSystemErrorText(const std::error_code& error);
 
 /// Why what was just done with `file` failed, in the same form; never empty. Right after the failure, on its thread.

@@ -42,7 +42,7 @@ KxResult<QImage> KxThumbnailPicture::Make(const QString& path, const QSize& room
 {
     KxResult<std::unique_ptr<KxVideoReader>> reader = KxVideoReader::Open(path, cancel);
     if (!reader) {
-        return KxResult<QImage>::Failure(reader.Sentence());
+        return KxResult<QImage>::Failure(reader.Message());
     }
     const qint64 frameCount = (*reader)->Facts().video->frameCount;
     KxPictureScaler scaler;

@@ -90,7 +90,7 @@ private:
             QMetaObject::invokeMethod(
                 m_owner,
                 [owner = m_owner, number = task->number, picture] {
-                    picture ? owner->HandleReady(number, *picture) : owner->HandleFailed(number, picture.Sentence());
+                    picture ? owner->HandleReady(number, *picture) : owner->HandleFailed(number, picture.Message());
                 },
                 Qt::QueuedConnection);
         }
@@ -140,9 +140,9 @@ void KxThumbnailer::HandleReady(quint64 request, const QImage& picture)
     }
 }
 
-void KxThumbnailer::HandleFailed(quint64 request, const QString& sentence)
+void KxThumbnailer::HandleFailed(quint64 request, const QString& message)
 {
     if (m_worker->Forget(request)) {
-        Q_EMIT sigFailed(request, sentence);
+        Q_EMIT sigFailed(request, message);
     }
 }

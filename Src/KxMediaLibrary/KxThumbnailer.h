@@ -30,14 +30,14 @@ public:
 
 Q_SIGNALS:
     void sigReady(quint64 request, const QImage& picture);
-    /// `sentence` is for the person.
-    void sigFailed(quint64 request, const QString& sentence);
+    /// `message` is for the person.
+    void sigFailed(quint64 request, const QString& message);
 
 private:
     class Worker;
 
     void HandleReady(quint64 request, const QImage& picture);
-    void HandleFailed(quint64 request, const QString& sentence);
+    void HandleFailed(quint64 request, const QString& message);
 
     quint64 m_lastRequest = 0;
     std::unique_ptr<Worker> m_worker;

@@ -51,7 +51,7 @@ bool KxAutoReframeService::StartTask(const QString& path, const IKxAutoReframePa
     m_resultPath.clear();
     m_result = {};
     if (!analysis) {
-        m_result.sentence = analysis.Sentence();
+        m_result.message = analysis.Message();
         return false;
     }
     if (findings == Findings::Keep) {
@@ -154,10 +154,10 @@ std::shared_ptr<const KxSubjectFindings> KxAutoReframeService::LastFindings() co
     return m_result.findings;
 }
 
-QString KxAutoReframeService::LastSentence() const
+QString KxAutoReframeService::LastErrorMessage() const
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    return m_result.sentence;
+    return m_result.message;
 }
 
 QStringList KxAutoReframeService::LastWarnings() const

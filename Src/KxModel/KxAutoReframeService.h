@@ -37,7 +37,7 @@ public:
     std::shared_ptr<const KxSubjectFindings> LastFindings() const;
 
     /// Why the last start was refused or the last task failed; empty when it went well. Any thread.
-    QString LastSentence() const;
+    QString LastErrorMessage() const;
     /// What a person should know of the last finished task. Any thread.
     QStringList LastWarnings() const;
 

@@ -16,7 +16,7 @@ KxResult<std::unique_ptr<KxMediaItem>> KxMediaItem::Open(const QString& path, co
 {
     KxResult<KxMediaFacts> facts = KxProbeMedia(path, cancel);
     if (!facts) {
-        return KxResult<std::unique_ptr<KxMediaItem>>::Failure(facts.Sentence());
+        return KxResult<std::unique_ptr<KxMediaItem>>::Failure(facts.Message());
     }
     return std::unique_ptr<KxMediaItem>(new KxMediaItem(std::make_shared<const KxMediaFacts>(std::move(*facts))));
 }
@@ -55,7 +55,7 @@ IKxAbstractMediaItem* createMediaItem(const QString& path)
 {
     KxResult<std::unique_ptr<KxMediaItem>> item = KxMediaItem::Open(path, KxCancelToken());
     if (!item) {
-        KX_LOG_WARNING(item.Sentence());
+        KX_LOG_WARNING(item.Message());
         return nullptr;
     }
     return item->release();

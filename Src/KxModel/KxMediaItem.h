@@ -8,7 +8,7 @@
 class KXMODEL_API KxMediaItem final : public IKxAbstractMediaItem
 {
 public:
-    /// Reads the facts of a file; the sentence of a failure names the file and the reason. Blocks.
+    /// Reads the facts of a file; the error message names the file and the reason. Blocks.
     static KxResult<std::unique_ptr<KxMediaItem>> Open(const QString& path, const KxCancelToken& cancel);
     ~KxMediaItem() override;
 

@@ -147,7 +147,7 @@ KxResult<std::unique_ptr<KxVideoAnalysis>> KxVideoAnalysis::Open(const QString& 
     }
     KxResult<std::unique_ptr<KxVideoScanner>> scanner = KxVideoScanner::Open(path, cancel);
     if (!scanner) {
-        return Opened::Failure(scanner.Sentence());
+        return Opened::Failure(scanner.Message());
     }
     return std::unique_ptr<KxVideoAnalysis>(new KxVideoAnalysis(std::move(*scanner), param, faceModelPath, cancel));
 }
@@ -172,7 +172,7 @@ KxVideoAnalysis::Result KxVideoAnalysis::Run(const std::function<void(int percen
 
     const QString name = QFileInfo(facts.path).fileName();
     if (!pipeline.Problem().isEmpty()) {
-        result.sentence = QStringLiteral("Cannot analyse %1: %2.").arg(name, pipeline.Problem());
+        result.message = QStringLiteral("Cannot analyse %1: %2.").arg(name, pipeline.Problem());
         return result;
     }
     if (!analyzer.FaceModelProblem().empty()) {

@@ -22,12 +22,12 @@ public:
     struct Result {
         KxOutcome outcome = KxOutcome::Failed;
         QList<IKxAutoReframeResult> crops;                 ///< one a frame; empty unless Done
-        QString sentence;                                  ///< why it failed
+        QString message;                                   ///< why it failed
         QStringList warnings;                              ///< what a person should know although it is Done
         std::shared_ptr<const KxSubjectFindings> findings; ///< null unless Done and wanted
     };
 
-    /// Reads the file's header. The sentence of a failure names the file and the reason.
+    /// Reads the file's header. The error message names the file and the reason.
     static KxResult<std::unique_ptr<KxVideoAnalysis>> Open(const QString& path, const IKxAutoReframeParam& param,
                                                            const QString& faceModelPath, const KxCancelToken& cancel);
     ~KxVideoAnalysis();

@@ -47,7 +47,7 @@ bool KxAudioOutput::Prepare(const std::shared_ptr<const KxPlaySource>& source, c
         if (reader) {
             m_reader = std::move(*reader);
         } else if (!cancel.IsCancelled()) {
-            KX_LOG_WARNING(reader.Sentence());
+            KX_LOG_WARNING(reader.Message());
         }
     }
     return m_reader != nullptr;

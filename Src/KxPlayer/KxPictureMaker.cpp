@@ -19,7 +19,7 @@ KxResult<std::unique_ptr<KxPictureMaker>> KxPictureMaker::Open(std::shared_ptr<c
 {
     KxResult<std::unique_ptr<KxVideoReader>> reader = KxVideoReader::Open(source->path, cancel);
     if (!reader) {
-        return KxResult<std::unique_ptr<KxPictureMaker>>::Failure(reader.Sentence());
+        return KxResult<std::unique_ptr<KxPictureMaker>>::Failure(reader.Message());
     }
     return std::unique_ptr<KxPictureMaker>(new KxPictureMaker(std::move(source), std::move(*reader)));
 }

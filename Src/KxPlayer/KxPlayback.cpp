@@ -266,14 +266,14 @@ void KxPlayback::ReachEnd()
     }
 }
 
-void KxPlayback::Fail(const QString& sentence)
+void KxPlayback::Fail(const QString& message)
 {
     const QPointer<KxPlayback> alive(this);
     StopClock();
     m_wanted.reset();
     SetPlaying(false);
     if (alive) {
-        Q_EMIT sigFailed(sentence);
+        Q_EMIT sigFailed(message);
     }
 }
 

@@ -63,7 +63,7 @@ Q_SIGNALS:
     void sigFrameChanged(int frame);
     void sigPlayingChanged(bool playing);
     void sigReachedEnd();
-    void sigFailed(const QString& sentence);
+    void sigFailed(const QString& message);
 
 private:
     void PostLook();
@@ -80,7 +80,7 @@ private:
     void SetPlaying(bool playing);
     void Halt();
     void ReachEnd();
-    void Fail(const QString& sentence);
+    void Fail(const QString& message);
     void SetPicture(KxPlayerPicture picture);
 
     KxPlayerClock m_clock;

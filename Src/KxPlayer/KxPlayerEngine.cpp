@@ -239,7 +239,7 @@ void KxPlayerEngine::Carry(const Job& job, std::unique_ptr<KxPictureMaker>& make
     if (!maker) {
         KxResult<std::unique_ptr<KxPictureMaker>> opened = KxPictureMaker::Open(job.source, job.cancel);
         if (!opened) {
-            Fail(job, opened.Sentence());
+            Fail(job, opened.Message());
             return;
         }
         maker = std::move(*opened);
@@ -281,14 +281,14 @@ void KxPlayerEngine::Deliver(const Job& job, KxPlayerPicture picture, qint64 too
     m_notify();
 }
 
-void KxPlayerEngine::Fail(const Job& job, const QString& sentence)
+void KxPlayerEngine::Fail(const Job& job, const QString& message)
 {
     {
         const std::lock_guard<std::mutex> lock(m_shared.mutex);
         if (m_shared.order != job.order) {
             return;
         }
-        m_shared.failure = sentence;
+        m_shared.failure = message;
         m_shared.mode = Mode::Idle;
     }
     m_notify();

@@ -78,7 +78,7 @@ private:
     int FrameToMake() const;
     void Carry(const Job& job, std::unique_ptr<KxPictureMaker>& maker);
     void Deliver(const Job& job, KxPlayerPicture picture, qint64 tookUs);
-    void Fail(const Job& job, const QString& sentence);
+    void Fail(const Job& job, const QString& message);
     bool KeepFrom(int frame);
     void NewOrder();
 

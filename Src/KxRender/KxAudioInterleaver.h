@@ -10,7 +10,7 @@ class KxAudioInterleaver
 public:
     KxAudioInterleaver(std::unique_ptr<KxAudioReader> reader, const KxAudioReader::Format& format);
 
-    /// Adds what comes before `frames` frames of `rate` have passed. The sentence of a failure is the writer's.
+    /// Adds what comes before `frames` frames of `rate` have passed. The error message is the writer's.
     KxError FeedUntil(qint64 frames, const KxRational& rate, KxMp4Writer& writer);
 
     /// Reading ended because the file could not be read any further.

@@ -83,7 +83,7 @@ void KxPictureFeed::DecodeAndCut()
             KxResult<KxVideoFrame> result = Make(picture, sourceFrame);
             if (!result) {
                 m_failure = QStringLiteral("Cannot render %1 at frame %2. %3")
-                                .arg(m_source.Name(), QString::number(sourceFrame), result.Sentence());
+                                .arg(m_source.Name(), QString::number(sourceFrame), result.Message());
                 return;
             }
             cut = std::move(*result);

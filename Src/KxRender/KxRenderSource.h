@@ -26,11 +26,11 @@ struct KXRENDER_API KxRenderSource {
     /// Where it is set nothing is cut.
     std::function<void(QImage& picture, qint64 frame)> overlay;
 
-    /// Takes the first clip of `timeline` and what its crop keyframes say at every frame. Fails with a sentence for a
-    /// timeline without a clip that stands for a file. User-interface thread.
+    /// Takes the first clip of `timeline` and what its crop keyframes say at every frame. Fails with an error message
+    /// for a timeline without a clip that stands for a file. User-interface thread.
     static KxResult<KxRenderSource> FromTimeline(IKxTimeline& timeline);
 
-    /// The file's name without its folder, as sentences call it.
+    /// The file's name without its folder, as messages call it.
     QString Name() const;
 
     /// The rectangle of `frame`. Without crops the largest part of a picture of size `picture` around its middle that

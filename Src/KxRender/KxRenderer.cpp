@@ -17,9 +17,9 @@ namespace
 
 constexpr int ProgressEnd = 10000;
 
-KxRenderResult Failed(const QString& sentence)
+KxRenderResult Failed(const QString& message)
 {
-    return {KxOutcome::Failed, sentence, {}, {}};
+    return {KxOutcome::Failed, message, {}, {}};
 }
 
 KxRenderResult Cancelled()
@@ -86,7 +86,7 @@ private:
     KxError OpenWriter(const KxOutputGrid& grid);
     KxError AddAll(KxPictureFeed& pictures, const KxOutputGrid& grid);
     KxRenderResult Finish(KxPictureFeed& pictures, const KxOutputGrid& grid);
-    void Warn(const QString& sentence);
+    void Warn(const QString& message);
     void Tell(qint64 done, qint64 all);
 
     const KxRenderSource& m_source;
@@ -103,9 +103,9 @@ private:
     int m_told = 0;
 };
 
-void Rendering::Warn(const QString& sentence)
+void Rendering::Warn(const QString& message)
 {
-    m_warning += m_warning.isEmpty() ? sentence : QLatin1Char(' ') + sentence;
+    m_warning += m_warning.isEmpty() ? message : QLatin1Char(' ') + message;
 }
 
 void Rendering::Tell(qint64 done, qint64 all)
@@ -130,7 +130,7 @@ void Rendering::OpenSound()
     if (sound) {
         m_sound = std::make_unique<KxAudioInterleaver>(std::move(*sound), m_soundFormat);
     } else {
-        Warn(QStringLiteral("The sound is left out. %1").arg(sound.Sentence()));
+        Warn(QStringLiteral("The sound is left out. %1").arg(sound.Message()));
     }
 }
 
@@ -147,7 +147,7 @@ KxError Rendering::OpenWriter(const KxOutputGrid& grid)
     settings.audioBitRate = m_settings.audioBitRate > 0 ? m_settings.audioBitRate : settings.audioBitRate;
     KxResult<std::unique_ptr<KxMp4Writer>> writer = KxMp4Writer::Open(settings);
     if (!writer) {
-        return writer.Sentence();
+        return writer.Message();
     }
     m_writer = std::move(*writer);
     return std::nullopt;
@@ -189,7 +189,7 @@ KxRenderResult Rendering::Finish(KxPictureFeed& pictures, const KxOutputGrid& gr
     }
     const KxResult<QString> path = m_writer->Finish();
     if (!path) {
-        return Failed(path.Sentence());
+        return Failed(path.Message());
     }
     if (m_progress) {
         m_progress(ProgressEnd);
@@ -207,7 +207,7 @@ KxRenderResult Rendering::Run()
         return Cancelled();
     }
     if (!reader) {
-        return Failed(reader.Sentence());
+        return Failed(reader.Message());
     }
     m_reader = std::move(*reader);
     const KxVideoFacts& video = *m_reader->Facts().video;

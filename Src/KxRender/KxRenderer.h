@@ -10,7 +10,7 @@
 struct KxRenderResult {
     KxOutcome outcome = KxOutcome::Failed;
     /// Why it failed, for a person; empty otherwise.
-    QString sentence;
+    QString message;
     /// The file that was written; empty unless done. Its name may have got a number.
     QString outputPath;
     /// What a person should know of a file that was written all the same (its source ends early …); mostly empty.

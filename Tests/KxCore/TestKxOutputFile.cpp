@@ -80,33 +80,33 @@ TEST_F(KxOutputFileTest, NamesTheFileAndTheReasonWhenItCannotWrite)
 {
     const auto noFolder = KxOutputFile::Create(Path("no/such/a.txt"));
     ASSERT_FALSE(noFolder);
-    EXPECT_TRUE(noFolder.Sentence().contains(QStringLiteral("a.txt: the folder"))) << noFolder.Sentence().toStdString();
+    EXPECT_TRUE(noFolder.Message().contains(QStringLiteral("a.txt: the folder"))) << noFolder.Message().toStdString();
 
     ASSERT_TRUE(KxOutputFile::Write(Path("file"), "x", KxOutputFile::Existing::Replace));
     const auto inFile = KxOutputFile::Create(Path("file/a.txt"));
     ASSERT_FALSE(inFile);
-    EXPECT_TRUE(inFile.Sentence().endsWith(QStringLiteral("is not a folder."))) << inFile.Sentence().toStdString();
+    EXPECT_TRUE(inFile.Message().endsWith(QStringLiteral("is not a folder."))) << inFile.Message().toStdString();
 
     QDir(m_folder.path()).mkdir(QStringLiteral("folder"));
     const auto onFolder = KxOutputFile::Create(Path("folder"));
     ASSERT_FALSE(onFolder);
-    EXPECT_TRUE(onFolder.Sentence().endsWith(QStringLiteral("folder: it is a folder.")))
-        << onFolder.Sentence().toStdString();
+    EXPECT_TRUE(onFolder.Message().endsWith(QStringLiteral("folder: it is a folder.")))
+        << onFolder.Message().toStdString();
 }
 
 TEST_F(KxOutputFileTest, ANameThatIsTooLongIsToldAtOnce)
 {
     const auto output = KxOutputFile::Create(Path(QByteArray(300, 'a').constData()));
     ASSERT_FALSE(output);
-    EXPECT_TRUE(output.Sentence().endsWith(QStringLiteral("aaa: its name is too long.")))
-        << output.Sentence().toStdString();
+    EXPECT_TRUE(output.Message().endsWith(QStringLiteral("aaa: its name is too long.")))
+        << output.Message().toStdString();
 }
 
 TEST_F(KxOutputFileTest, WhatIsNoFileIsNotReplaced)
 {
     const auto output = KxOutputFile::Create(QStringLiteral("/dev/null"));
     ASSERT_FALSE(output);
-    EXPECT_EQ(output.Sentence(), QStringLiteral("Cannot write /dev/null: it is not a regular file."));
+    EXPECT_EQ(output.Message(), QStringLiteral("Cannot write /dev/null: it is not a regular file."));
 }
 
 TEST_F(KxOutputFileTest, OthersMayReadWhatIsWritten)

@@ -72,7 +72,7 @@ TEST(KxMediaLibraryUtils, WhatTheFilterOffersCanBeRead)
         recipe.output = QString::fromLatin1(format.arguments).split(QLatin1Char(' '), Qt::SkipEmptyParts);
         ASSERT_TRUE(MadeVideo::Make(path, recipe));
         const KxResult<KxMediaFacts> facts = KxProbeMedia(path, KxCancelToken());
-        ASSERT_TRUE(facts) << facts.Sentence().toStdString();
+        ASSERT_TRUE(facts) << facts.Message().toStdString();
         EXPECT_TRUE(facts->video.has_value());
     }
 }

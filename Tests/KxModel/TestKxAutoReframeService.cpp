@@ -126,7 +126,7 @@ TEST_F(KxAutoReframeServiceTest, RefusesWhatIsNoVideoAtOnceAndSaysWhy)
 {
     Recorder recorder(m_service);
     EXPECT_FALSE(m_service.StartTask(m_folder.filePath(QStringLiteral("missing.mp4")), m_param));
-    EXPECT_TRUE(m_service.LastSentence().contains(QStringLiteral("missing.mp4")));
+    EXPECT_TRUE(m_service.LastErrorMessage().contains(QStringLiteral("missing.mp4")));
     EXPECT_FALSE(m_service.StartTask(m_folder.path(), m_param));
     EXPECT_FALSE(m_service.StartTask(MakeClip("clip.mp4", 40), IKxAutoReframeParam(16, QSize(0, 16))));
     m_service.StopTask(0);

@@ -137,7 +137,7 @@ PlayerClip::Timeline PlayerClip::Open(const QString& path)
 {
     auto item = KxMediaItem::Open(path, {});
     if (!item) {
-        ADD_FAILURE() << item.Sentence().toStdString();
+        ADD_FAILURE() << item.Message().toStdString();
         return nullptr;
     }
     return Timeline(IKxTimeline::createSimpleTimeline((*item)->clip()));

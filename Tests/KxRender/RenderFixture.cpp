@@ -17,7 +17,7 @@ void ForEachSample(const QString& path, Use use)
 {
     KxAudioReader::Format format;
     KxResult<std::unique_ptr<KxAudioReader>> reader = KxAudioReader::Open(path, 0, format, KxCancelToken());
-    ASSERT_TRUE(reader) << reader.Sentence().toStdString();
+    ASSERT_TRUE(reader) << reader.Message().toStdString();
     KxAudioBlock block;
     while ((*reader)->Next(block) == KxReadStatus::Delivered) {
         for (size_t i = 0; i < block.samples.size(); i += 2) {
@@ -73,7 +73,7 @@ std::vector<KxVideoFrame> RenderFixture::Pictures(const QString& path)
 {
     std::vector<KxVideoFrame> pictures;
     KxResult<std::unique_ptr<KxVideoReader>> reader = KxVideoReader::Open(path, KxCancelToken());
-    EXPECT_TRUE(reader) << reader.Sentence().toStdString();
+    EXPECT_TRUE(reader) << reader.Message().toStdString();
     for (qint64 frame = 0; reader && frame < (*reader)->Facts().video->frameCount; ++frame) {
         KxVideoFrame picture;
         EXPECT_EQ((*reader)->Read(frame, picture), KxReadStatus::Delivered);

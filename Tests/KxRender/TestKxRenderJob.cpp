@@ -88,7 +88,7 @@ TEST_F(KxRenderJobTest, Finishes)
     {
         KxRenderJob job(source, SettingsFor(QSize(90, 160)), m_listener.Callbacks());
         const KxRenderResult result = m_listener.WaitForEnd();
-        EXPECT_EQ(result.outcome, KxOutcome::Done) << result.sentence.toStdString();
+        EXPECT_EQ(result.outcome, KxOutcome::Done) << result.message.toStdString();
         EXPECT_EQ(result.outputPath, Path(QStringLiteral("out.mp4")));
     }
     ExpectOneEnd();
@@ -103,7 +103,7 @@ TEST_F(KxRenderJobTest, Fails)
         KxRenderJob job(source, SettingsFor(QSize(90, 160)), m_listener.Callbacks());
         const KxRenderResult result = m_listener.WaitForEnd();
         EXPECT_EQ(result.outcome, KxOutcome::Failed);
-        EXPECT_TRUE(result.sentence.contains(QStringLiteral("none.mp4"))) << result.sentence.toStdString();
+        EXPECT_TRUE(result.message.contains(QStringLiteral("none.mp4"))) << result.message.toStdString();
     }
     ExpectOneEnd();
 }

@@ -97,7 +97,7 @@ TEST(KxRenderSource, TimelineThatShowsNoFileIsRefused)
 {
     Timeline timeline;
     timeline.clip.path.clear();
-    EXPECT_EQ(KxRenderSource::FromTimeline(timeline).Sentence(),
+    EXPECT_EQ(KxRenderSource::FromTimeline(timeline).Message(),
               QStringLiteral("Cannot render the timeline: it shows no file."));
     timeline.isEmpty = true;
     EXPECT_FALSE(KxRenderSource::FromTimeline(timeline));

@@ -26,10 +26,10 @@ protected:
             source, settings, [this](int value) { m_progress.push_back(value); }, m_cancel);
     }
 
-    void ExpectFailure(const KxRenderResult& result, const QString& sentence)
+    void ExpectFailure(const KxRenderResult& result, const QString& message)
     {
         EXPECT_EQ(result.outcome, KxOutcome::Failed);
-        EXPECT_EQ(result.sentence, sentence);
+        EXPECT_EQ(result.message, message);
         EXPECT_EQ(result.outputPath, QString());
         EXPECT_EQ(Written(), QStringList());
     }
@@ -91,7 +91,7 @@ TEST_F(KxRendererTest, EveryPictureIsTheCropOfItsFrame)
     }
     source.crops = crops;
     const KxRenderResult result = Render(source, SettingsFor(QSize(102, 180)));
-    ASSERT_EQ(result.outcome, KxOutcome::Done) << result.sentence.toStdString();
+    ASSERT_EQ(result.outcome, KxOutcome::Done) << result.message.toStdString();
     EXPECT_EQ(result.outputPath, Path(QStringLiteral("out.mp4")));
     EXPECT_EQ(result.warning, QString());
     const std::vector<KxVideoFrame> before = Pictures(source.path);
@@ -131,7 +131,7 @@ TEST_F(KxRendererTest, RateOfTheSourceIsKeptExactly)
         settings.existing = KxOutputFile::Existing::Replace;
         settings.frameRate = rate;
         const KxRenderResult result = Render(source, settings);
-        ASSERT_EQ(result.outcome, KxOutcome::Done) << result.sentence.toStdString();
+        ASSERT_EQ(result.outcome, KxOutcome::Done) << result.message.toStdString();
         EXPECT_EQ(Numbers(result.outputPath), FromZero(48));
         const KxResult<KxMediaFacts> facts = KxProbeMedia(result.outputPath, KxCancelToken());
         ASSERT_TRUE(facts && facts->video);
@@ -149,7 +149,7 @@ TEST_F(KxRendererTest, OtherRateShowsTheFrameOfItsMoment)
     for (const double rate : {10.0, 30.0, 60.0}) {
         settings.frameRate = rate;
         const KxRenderResult result = Render(source, settings);
-        ASSERT_EQ(result.outcome, KxOutcome::Done) << result.sentence.toStdString();
+        ASSERT_EQ(result.outcome, KxOutcome::Done) << result.message.toStdString();
         const std::vector<int> numbers = Numbers(result.outputPath);
         ASSERT_EQ(numbers.size(), static_cast<size_t>(2 * rate));
         for (size_t frame = 0; frame < numbers.size(); ++frame) {
@@ -170,7 +170,7 @@ TEST_F(KxRendererTest, TurnedSourceIsRenderedUpright)
     source.path = turned;
     source.crops = WholePicture();
     const KxRenderResult result = Render(source, SettingsFor(QSize(160, 90)));
-    ASSERT_EQ(result.outcome, KxOutcome::Done) << result.sentence.toStdString();
+    ASSERT_EQ(result.outcome, KxOutcome::Done) << result.message.toStdString();
     EXPECT_EQ(Numbers(result.outputPath), FromZero(12));
 }
 
@@ -178,7 +178,7 @@ TEST_F(KxRendererTest, OddResolutionBecomesAPixelLarger)
 {
     const KxRenderSource source = MakeClip(5);
     const KxRenderResult result = Render(source, SettingsFor(QSize(101, 179)));
-    ASSERT_EQ(result.outcome, KxOutcome::Done) << result.sentence.toStdString();
+    ASSERT_EQ(result.outcome, KxOutcome::Done) << result.message.toStdString();
     EXPECT_EQ(Pictures(result.outputPath).front().DisplayedSize(), QSize(102, 180));
 }
 
@@ -213,7 +213,7 @@ TEST_F(KxRendererTest, SoundMeetsThePicture)
     source.path = Path(QStringLiteral("clip.mp4"));
     ASSERT_TRUE(MadeVideo::Make(source.path, recipe));
     const KxRenderResult result = Render(source, SettingsFor(QSize(90, 160)));
-    ASSERT_EQ(result.outcome, KxOutcome::Done) << result.sentence.toStdString();
+    ASSERT_EQ(result.outcome, KxOutcome::Done) << result.message.toStdString();
     std::vector<double> flashes;
     const std::vector<KxVideoFrame> pictures = Pictures(result.outputPath);
     for (size_t frame = 0; frame < pictures.size(); ++frame) {
@@ -234,7 +234,7 @@ TEST_F(KxRendererTest, LateSoundStaysLate)
         MakeClip(75, QStringLiteral("25"),
                  QStringList{QStringLiteral("-itsoffset"), QStringLiteral("0.4")} + Beeps(EverySecond()));
     const KxRenderResult result = Render(source, SettingsFor(QSize(90, 160)));
-    ASSERT_EQ(result.outcome, KxOutcome::Done) << result.sentence.toStdString();
+    ASSERT_EQ(result.outcome, KxOutcome::Done) << result.message.toStdString();
     const std::vector<double> beeps = SoundTimes(result.outputPath);
     ASSERT_EQ(beeps.size(), 2U);
     EXPECT_NEAR(beeps[0], 1.4, 0.010);
@@ -245,7 +245,7 @@ TEST_F(KxRendererTest, SoundEndsWithTheLastPicture)
 {
     const KxRenderSource source = MakeClip(30, QStringLiteral("25"), Beeps(EverySecond()));
     const KxRenderResult result = Render(source, SettingsFor(QSize(90, 160)));
-    ASSERT_EQ(result.outcome, KxOutcome::Done) << result.sentence.toStdString();
+    ASSERT_EQ(result.outcome, KxOutcome::Done) << result.message.toStdString();
     EXPECT_EQ(Pictures(result.outputPath).size(), 30U);
     EXPECT_NEAR(SoundEnd(result.outputPath), 1.2, 0.025);
 }
@@ -258,7 +258,7 @@ TEST_F(KxRendererTest, WantedAudioStreamIsTaken)
                                       QStringLiteral("1"), QStringLiteral("-map"), QStringLiteral("2")});
     source.audioStream = 1;
     const KxRenderResult result = Render(source, SettingsFor(QSize(90, 160)));
-    ASSERT_EQ(result.outcome, KxOutcome::Done) << result.sentence.toStdString();
+    ASSERT_EQ(result.outcome, KxOutcome::Done) << result.message.toStdString();
     const std::vector<double> beeps = SoundTimes(result.outputPath);
     ASSERT_EQ(beeps.size(), 1U);
     EXPECT_NEAR(beeps[0], 1.5, 0.010);
@@ -300,7 +300,7 @@ TEST_F(KxRendererTest, CancelledRenderingLeavesNoFile)
             },
             cancel);
         EXPECT_EQ(result.outcome, KxOutcome::Cancelled) << at;
-        EXPECT_EQ(result.sentence, QString());
+        EXPECT_EQ(result.message, QString());
         EXPECT_EQ(Written(), QStringList());
     }
 }
@@ -311,7 +311,7 @@ TEST_F(KxRendererTest, SourceThatIsNoVideoIsRefused)
     source.path = Path(QStringLiteral("clip.none.mp4"));
     const KxRenderResult missing = Render(source, SettingsFor(QSize(90, 160)));
     EXPECT_EQ(missing.outcome, KxOutcome::Failed);
-    EXPECT_TRUE(missing.sentence.contains(QStringLiteral("clip.none.mp4"))) << missing.sentence.toStdString();
+    EXPECT_TRUE(missing.message.contains(QStringLiteral("clip.none.mp4"))) << missing.message.toStdString();
     QFile text(source.path);
     ASSERT_TRUE(text.open(QIODevice::WriteOnly));
     text.write("no film at all");
@@ -327,8 +327,8 @@ TEST_F(KxRendererTest, FolderThatDoesNotExistIsNamed)
     settings.outputPath = Path(QStringLiteral("none/out.mp4"));
     const KxRenderResult result = Render(source, settings);
     EXPECT_EQ(result.outcome, KxOutcome::Failed);
-    EXPECT_TRUE(result.sentence.startsWith(QStringLiteral("Cannot write %1: the folder ").arg(settings.outputPath)))
-        << result.sentence.toStdString();
+    EXPECT_TRUE(result.message.startsWith(QStringLiteral("Cannot write %1: the folder ").arg(settings.outputPath)))
+        << result.message.toStdString();
 }
 
 TEST_F(KxRendererTest, FileThatIsCutOffIsRenderedAsFarAsItGoes)
@@ -340,7 +340,7 @@ TEST_F(KxRendererTest, FileThatIsCutOffIsRenderedAsFarAsItGoes)
     ASSERT_TRUE(file.resize(file.size() * 6 / 10));
     source.crops = WholePicture();
     const KxRenderResult result = Render(source, SettingsFor(QSize(160, 90)));
-    ASSERT_EQ(result.outcome, KxOutcome::Done) << result.sentence.toStdString();
+    ASSERT_EQ(result.outcome, KxOutcome::Done) << result.message.toStdString();
     const std::vector<int> numbers = Numbers(result.outputPath);
     EXPECT_GT(numbers.size(), 25U);
     EXPECT_LT(numbers.size(), 70U);
@@ -370,7 +370,7 @@ TEST_F(KxRendererTest, FullDiskIsCalledFull)
     const QStringList left = QDir(disk).entryList(QDir::Files | QDir::Hidden);
     QProcess::execute(QStringLiteral("umount"), {disk});
     EXPECT_EQ(result.outcome, KxOutcome::Failed);
-    EXPECT_EQ(result.sentence, QStringLiteral("Cannot write %1: the disk is full.").arg(settings.outputPath));
+    EXPECT_EQ(result.message, QStringLiteral("Cannot write %1: the disk is full.").arg(settings.outputPath));
     EXPECT_EQ(left, QStringList());
 }
 
@@ -389,7 +389,7 @@ TEST_F(KxRendererTest, AnOverlayDrawsOnTheWholePictureOfEachFrame)
         picture = MadeVideo::Draw(100 + static_cast<int>(frame), size).convertToFormat(QImage::Format_RGB32);
     };
     const KxRenderResult result = Render(source, SettingsFor(size));
-    ASSERT_EQ(result.outcome, KxOutcome::Done) << result.sentence.toStdString();
+    ASSERT_EQ(result.outcome, KxOutcome::Done) << result.message.toStdString();
     std::vector<int> before(12);
     std::iota(before.begin(), before.end(), 0);
     std::vector<int> after(12);

@@ -45,7 +45,7 @@ void ExpectRefused(const QString& path, const char* reason)
 {
     const KxResult<CropTrack> track = CropTrackFile::Read(path);
     ASSERT_FALSE(track) << path.toStdString();
-    EXPECT_TRUE(track.Sentence().contains(QLatin1String(reason))) << track.Sentence().toStdString();
+    EXPECT_TRUE(track.Message().contains(QLatin1String(reason))) << track.Message().toStdString();
 }
 
 } // namespace
@@ -80,7 +80,7 @@ TEST_F(CropTrackFileTest, WhatWasWrittenCanBeRead)
     for (const char* name : {"t.json", "t.csv"}) {
         const KxResult<CropTrack> track =
             CropTrackFile::Read(WithContent(name, CropTrackFile::Format(Track(), Path(name))));
-        ASSERT_TRUE(track) << track.Sentence().toStdString();
+        ASSERT_TRUE(track) << track.Message().toStdString();
         ASSERT_EQ(track->crops.size(), 3);
         for (int frame = 0; frame < 3; ++frame) {
             EXPECT_NEAR(track->crops.at(frame).cropRect().x(), Track().crops.at(frame).cropRect().x(), 1e-9);

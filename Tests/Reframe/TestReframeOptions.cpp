@@ -62,7 +62,7 @@ TEST(ReframeOptions, RefusesWhatIsNoAspectRatioAndNamesIt)
     }
 }
 
-TEST(ReframeOptions, WrongUseIsOneSentenceAndStatusTwo)
+TEST(ReframeOptions, WrongUseIsOneErrorMessageAndStatusTwo)
 {
     for (const char* line :
          {"--speed quick a.mp4", "--no-such-option a.mp4", "--output o.mp4 --no-video a.mp4",

@@ -57,7 +57,7 @@ protected:
     std::unique_ptr<KxVideoReader> Open(const char* name) const
     {
         auto reader = KxVideoReader::Open(Path(name), KxCancelToken());
-        EXPECT_TRUE(reader) << reader.Sentence().toStdString();
+        EXPECT_TRUE(reader) << reader.Message().toStdString();
         return reader ? std::move(*reader) : nullptr;
     }
 

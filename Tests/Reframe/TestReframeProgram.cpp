@@ -45,7 +45,7 @@ protected:
         return QDir(m_folder.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
     }
 
-    /// One clear sentence on standard error that names the file, and nothing written.
+    /// One clear message on standard error that names the file, and nothing written.
     void ExpectRefused(const QString& input, const char* reason) const
     {
         const QStringList before = Files();
@@ -85,7 +85,7 @@ TEST_F(ReframeProgramTest, TheOutputHasTheAspectAndEveryFrame)
         {QStringLiteral("--aspect"), QStringLiteral("1:1"), QStringLiteral("--output"), Path("out.mp4"), clip});
     ASSERT_EQ(run.exitStatus, 0) << run.standardError.toStdString();
     const auto reader = KxVideoReader::Open(Path("out.mp4"), KxCancelToken());
-    ASSERT_TRUE(reader) << reader.Sentence().toStdString();
+    ASSERT_TRUE(reader) << reader.Message().toStdString();
     EXPECT_EQ((*reader)->Facts().video->resolution, QSize(96, 96));
     EXPECT_EQ((*reader)->Facts().video->frameCount, 40);
 }
@@ -172,7 +172,7 @@ TEST_F(ReframeProgramTest, ACutOffVideoIsReframedAsFarAsItDecodesWithAWarning)
     EXPECT_TRUE(run.standardError.contains(QStringLiteral("Warning: "))) << run.standardError.toStdString();
     EXPECT_TRUE(run.standardError.contains(QStringLiteral("cut.mp4")));
     const auto reader = KxVideoReader::Open(Path("out.mp4"), KxCancelToken());
-    ASSERT_TRUE(reader) << reader.Sentence().toStdString();
+    ASSERT_TRUE(reader) << reader.Message().toStdString();
     EXPECT_GE((*reader)->Facts().video->frameCount, 20);
     EXPECT_LT((*reader)->Facts().video->frameCount, 90);
 }
@@ -288,6 +288,6 @@ TEST_F(ReframeProgramTest, RealFootageIsReframed)
     const auto source = KxVideoReader::Open(footage, KxCancelToken());
     const auto result = KxVideoReader::Open(Path("Megamind-AutoReframe-9 16.mp4"), KxCancelToken());
     ASSERT_TRUE(source);
-    ASSERT_TRUE(result) << result.Sentence().toStdString();
+    ASSERT_TRUE(result) << result.Message().toStdString();
     EXPECT_EQ((*result)->Facts().video->frameCount, (*source)->Facts().video->frameCount);
 }

@@ -136,7 +136,7 @@ TEST_F(ReframeReportTest, NumbersAreThoseOfTheTrack)
                           QStringLiteral("fast"), clip});
     ASSERT_EQ(run.exitStatus, 0) << run.standardError.toStdString();
     const KxResult<CropTrack> track = CropTrackFile::Read(Path(QStringLiteral("track.csv")));
-    ASSERT_TRUE(track) << track.Sentence().toStdString();
+    ASSERT_TRUE(track) << track.Message().toStdString();
     const QString page = Read(QStringLiteral("why.html"));
     for (const char* fact :
          {"320 × 180", "00:00:04.000 (100 frames)", "101 × 180, 9:16", "<dd>fast</dd>", "<dd>25</dd>"}) {

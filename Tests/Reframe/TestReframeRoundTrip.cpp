@@ -85,7 +85,7 @@ std::vector<qint64> Onsets(const QString& path)
     std::vector<qint64> onsets;
     constexpr int rateHz = 48000;
     auto reader = KxAudioReader::Open(path, 0, {rateHz, 1}, KxCancelToken());
-    EXPECT_TRUE(reader) << reader.Sentence().toStdString();
+    EXPECT_TRUE(reader) << reader.Message().toStdString();
     KxAudioBlock block;
     qint64 silentSamples = rateHz;
     while (reader && (*reader)->Next(block) == KxReadStatus::Delivered) {
@@ -142,7 +142,7 @@ TEST_F(ReframeRoundTrip, EveryPictureIsTheCropOfTheSourceAndSoundStaysInStep)
     auto source = KxVideoReader::Open(Path("scene.mp4"), KxCancelToken());
     auto result = KxVideoReader::Open(output, KxCancelToken());
     ASSERT_TRUE(source);
-    ASSERT_TRUE(result) << result.Sentence().toStdString();
+    ASSERT_TRUE(result) << result.Message().toStdString();
     EXPECT_EQ((*result)->Facts().video->frameCount, frames);
     EXPECT_EQ((*result)->Facts().video->frameRate, (KxRational{25, 1}));
     const QSize size = (*result)->Facts().video->resolution;
@@ -194,7 +194,7 @@ TEST_F(ReframeRoundTrip, AnalysisGivesOneRectangleOfTheAspectForEveryFrame)
                           QStringLiteral("--keyframes"), Path("found.json"), Path("scene.mp4")});
     ASSERT_EQ(run.exitStatus, 0) << run.standardError.toStdString();
     const KxResult<CropTrack> found = CropTrackFile::Read(Path("found.json"));
-    ASSERT_TRUE(found) << found.Sentence().toStdString();
+    ASSERT_TRUE(found) << found.Message().toStdString();
     ASSERT_EQ(found->crops.size(), frames);
     for (const IKxAutoReframeResult& crop : found->crops) {
         EXPECT_NEAR(crop.cropRect().width() * 320.0, crop.cropRect().height() * 180.0, 1.0);

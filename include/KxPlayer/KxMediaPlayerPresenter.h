@@ -57,8 +57,8 @@ Q_SIGNALS:
     void sigPlayingChanged(bool playing);
     /// The end of the timeline was reached while playing; playback is paused at the last frame.
     void sigReachedEnd();
-    /// What was asked for cannot be shown; `sentence` is for the person. Playback is paused.
-    void sigFailed(const QString& sentence);
+    /// What was asked for cannot be shown; `message` is for the person. Playback is paused.
+    void sigFailed(const QString& message);
     /// Frame count and frame rate are those of another timeline, or of none; its first picture follows.
     void sigTimelineOpened();
 

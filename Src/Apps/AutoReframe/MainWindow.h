@@ -53,7 +53,7 @@ private:
     void ShowState();
     void ChooseFiles();
     void SelectImported(const QModelIndexList& videos);
-    void TellRefused(const QStringList& sentences);
+    void TellRefused(const QStringList& messages);
     void RemoveSelected();
     void ReframeSelected();
     void Reframe(const QModelIndexList& videos);

@@ -20,7 +20,7 @@ namespace
 {
 
 /// More of them would not fit on a screen.
-constexpr int MostSentences = 8;
+constexpr int MostMessages = 8;
 
 QStringList LocalFiles(const QMimeData& data)
 {
@@ -44,7 +44,7 @@ void MainWindow::ChooseFiles()
 {
     Studio* const studio = m_studio.Get();
     if (studio == nullptr) {
-        Inform(m_studio.Sentence());
+        Inform(m_studio.Message());
         return;
     }
     const QString folder =
@@ -68,11 +68,11 @@ void MainWindow::SelectImported(const QModelIndexList& videos)
     m_view->scrollTo(videos.last());
 }
 
-void MainWindow::TellRefused(const QStringList& sentences)
+void MainWindow::TellRefused(const QStringList& messages)
 {
-    QStringList shown = sentences.mid(0, MostSentences);
-    if (shown.size() < sentences.size()) {
-        shown += tr("… and %n more.", nullptr, sentences.size() - shown.size());
+    QStringList shown = messages.mid(0, MostMessages);
+    if (shown.size() < messages.size()) {
+        shown += tr("… and %n more.", nullptr, messages.size() - shown.size());
     }
     Inform(shown.join(QLatin1Char('\n')));
 }
@@ -109,7 +109,7 @@ void MainWindow::Reframe(const QModelIndexList& videos)
     m_isReframing = true;
     ReframeCallbacks callbacks;
     callbacks.ordered = [this](const ExportOrder& order) { m_exports->Add(order); };
-    callbacks.refused = [this](const QString& sentence) { Inform(sentence); };
+    callbacks.refused = [this](const QString& message) { Inform(message); };
     callbacks.unsupported = [this] {
         Inform(tr("This computer may be too slow for the analysis. To try it all the same, start it once more."));
     };

@@ -36,7 +36,7 @@ KxResult<QImage> ContactSheet::Draw(const QString& videoPath, const QList<IKxAut
 {
     KxResult<std::unique_ptr<KxVideoReader>> reader = KxVideoReader::Open(videoPath, cancel);
     if (!reader) {
-        return KxResult<QImage>::Failure(reader.Sentence());
+        return KxResult<QImage>::Failure(reader.Message());
     }
     const QSize source = (*reader)->Facts().video->resolution;
     const QSize cell = source.scaled(cellLongSidePx, cellLongSidePx, Qt::KeepAspectRatio).expandedTo(QSize(2, 2));

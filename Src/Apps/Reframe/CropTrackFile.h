@@ -23,6 +23,6 @@ namespace CropTrackFile
 /// The whole content of a file for `path`.
 QByteArray Format(const CropTrack& track, const QString& path);
 
-/// Reads the crops and what else the file says. The sentence of a failure names the file, the reason, and the place.
+/// Reads the crops and what else the file says. The error message names the file, the reason, and the place.
 KxResult<CropTrack> Read(const QString& path);
 } // namespace CropTrackFile

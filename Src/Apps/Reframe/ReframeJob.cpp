@@ -61,7 +61,7 @@ ReframeJob::Ended ReframeJob::Open()
 {
     KxResult<std::unique_ptr<KxMediaItem>> media = KxMediaItem::Open(m_input, KxCancelToken());
     if (!media) {
-        return Fail(media.Sentence());
+        return Fail(media.Message());
     }
     m_media = std::move(*media);
     if (!m_media->mediaInfo()->hasVideoStream()) {
@@ -79,7 +79,7 @@ ReframeJob::Ended ReframeJob::ReadTrack()
     }
     KxResult<CropTrack> track = CropTrackFile::Read(m_options.apply);
     if (!track) {
-        return Fail(track.Sentence());
+        return Fail(track.Message());
     }
     if (!track->aspect.isEmpty()) {
         m_aspect = track->aspect;
@@ -108,7 +108,7 @@ ReframeJob::Ended ReframeJob::CheckTargets()
             return Fail(QStringLiteral("Cannot write %1: it is one of the inputs.").arg(target));
         }
         if (const auto tried = KxOutputFile::Create(target); !tried) {
-            return Fail(tried.Sentence());
+            return Fail(tried.Message());
         }
     }
     return std::nullopt;
@@ -146,7 +146,7 @@ ReframeJob::Ended ReframeJob::StartAnalysis()
                         .arg(m_aspect.width())
                         .arg(m_aspect.height()));
     default:
-        return Fail(KxAutoReframeService::Instance().LastSentence());
+        return Fail(KxAutoReframeService::Instance().LastErrorMessage());
     }
 }
 
@@ -174,7 +174,7 @@ ReframeJob::Ended ReframeJob::WaitForCrops()
         return KxOutcome::Cancelled;
     }
     if (!succeeded || Helper().GetDisplayResults().isEmpty()) {
-        const QString reason = KxAutoReframeService::Instance().LastSentence();
+        const QString reason = KxAutoReframeService::Instance().LastErrorMessage();
         return Fail(reason.isEmpty() ? QStringLiteral("Cannot reframe %1: the analysis found nothing.").arg(m_input)
                                      : reason);
     }
@@ -206,7 +206,7 @@ ReframeJob::Ended ReframeJob::WriteFile(const QString& path, const QByteArray& c
 {
     const KxResult<QString> written = KxOutputFile::Write(path, content, WhenItExists(path));
     if (!written) {
-        return Fail(written.Sentence());
+        return Fail(written.Message());
     }
     NoteWritten(*written, fact);
     return std::nullopt;
@@ -232,9 +232,9 @@ KrAutoReframeHelper& ReframeJob::Helper() const
     return *m_process->GetHelper();
 }
 
-KxOutcome ReframeJob::Fail(const QString& sentence)
+KxOutcome ReframeJob::Fail(const QString& message)
 {
-    m_reporter.Fail(m_input, sentence);
+    m_reporter.Fail(m_input, message);
     return KxOutcome::Failed;
 }
 

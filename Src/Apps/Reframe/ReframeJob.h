@@ -52,7 +52,7 @@ private:
     CropTrack Track() const;
     /// The contact sheet as a file of the format that Qt calls `format`.
     KxResult<QByteArray> ContactSheetFile(const char* format) const;
-    KxOutcome Fail(const QString& sentence);
+    KxOutcome Fail(const QString& message);
     /// Where to write: `named` itself, or a file called after the input in the folder `named`, or beside the input when
     /// `named` is empty.
     QString TargetPath(const QString& named, const QString& suffix) const;

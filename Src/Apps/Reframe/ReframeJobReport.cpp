@@ -29,7 +29,7 @@ KxResult<QByteArray> ReframeJob::ContactSheetFile(const char* format) const
     const KxCancelToken cancel;
     const KxResult<QImage> sheet = ContactSheet::Draw(m_input, Helper().GetDisplayResults(), cancel);
     if (!sheet) {
-        return KxResult<QByteArray>::Failure(sheet.Sentence());
+        return KxResult<QByteArray>::Failure(sheet.Message());
     }
     QByteArray file;
     QBuffer buffer(&file);
@@ -48,7 +48,7 @@ ReframeJob::Ended ReframeJob::WriteReport()
     const std::shared_ptr<const KxSubjectFindings> findings = KxAutoReframeService::Instance().LastFindings();
     const KxResult<QByteArray> sheet = ContactSheetFile("JPEG");
     if (!sheet) {
-        return Fail(sheet.Sentence());
+        return Fail(sheet.Message());
     }
     return WriteFile(TargetPath(m_options.report, QStringLiteral("html")),
                      AnalysisReport::Format(Track(), *findings, *sheet), QStringLiteral("report"));
@@ -64,7 +64,7 @@ ReframeJob::Ended ReframeJob::WritePreview()
     }
     const KxResult<QByteArray> sheet = ContactSheetFile("PNG");
     return sheet ? WriteFile(TargetPath(m_options.preview, QStringLiteral("png")), *sheet, QStringLiteral("preview"))
-                 : Fail(sheet.Sentence());
+                 : Fail(sheet.Message());
 }
 
 ReframeJob::Ended ReframeJob::WritePreviewVideo()

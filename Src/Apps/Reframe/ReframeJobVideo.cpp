@@ -33,7 +33,7 @@ ReframeJob::Ended ReframeJob::WriteVideo()
     }
     const KxResult<KxRenderSource> source = KxRenderSource::FromTimeline(*Helper().GetWorkTimeline());
     if (!source) {
-        return Fail(source.Sentence());
+        return Fail(source.Message());
     }
     KxRenderSettings settings = SettingsFor(*m_media, Helper().GetDisplayResults().first().cropRect());
     if (settings.resolution.isEmpty()) {
@@ -76,7 +76,7 @@ ReframeJob::Ended ReframeJob::Render(const KxRenderSource& source, const KxRende
         return KxOutcome::Cancelled;
     }
     if (result.outcome == KxOutcome::Failed) {
-        return Fail(result.sentence);
+        return Fail(result.message);
     }
     if (!result.warning.isEmpty()) {
         m_reporter.Warn(m_input, result.warning);

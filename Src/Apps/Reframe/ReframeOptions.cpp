@@ -47,10 +47,10 @@ struct Definitions {
     }
 };
 
-ReframeOptions::Parsed WrongUse(const QString& sentence)
+ReframeOptions::Parsed WrongUse(const QString& message)
 {
     ReframeOptions::Parsed parsed;
-    parsed.text = sentence + QStringLiteral("\nTry reframe --help.");
+    parsed.text = message + QStringLiteral("\nTry reframe --help.");
     parsed.exitStatus = ReframeExit::WrongUse;
     return parsed;
 }

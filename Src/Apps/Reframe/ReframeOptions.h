@@ -33,6 +33,6 @@ struct ReframeOptions {
 
 struct ReframeOptions::Parsed {
     std::optional<ReframeOptions> options;
-    QString text; ///< help or version for standard output, or the sentence for standard error
+    QString text; ///< help or version for standard output, or the error message for standard error
     int exitStatus = 0;
 };

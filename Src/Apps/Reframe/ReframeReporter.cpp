@@ -86,33 +86,33 @@ void ReframeReporter::Progress(int progress)
     }
 }
 
-void ReframeReporter::Warn(const QString& input, const QString& sentence)
+void ReframeReporter::Warn(const QString& input, const QString& message)
 {
     if (m_voice == Voice::Json) {
-        WriteJson(QStringLiteral("warning"), input, {{QStringLiteral("sentence"), sentence}});
+        WriteJson(QStringLiteral("warning"), input, {{QStringLiteral("message"), message}});
     }
     ClearLine();
     if (!m_quiet) {
-        WriteLine(stderr, "Warning: " + sentence.toLocal8Bit() + '\n');
+        WriteLine(stderr, "Warning: " + message.toLocal8Bit() + '\n');
     }
 }
 
-void ReframeReporter::Fail(const QString& input, const QString& sentence)
+void ReframeReporter::Fail(const QString& input, const QString& message)
 {
     if (m_voice == Voice::Json) {
-        WriteJson(QStringLiteral("error"), input, {{QStringLiteral("sentence"), sentence}});
+        WriteJson(QStringLiteral("error"), input, {{QStringLiteral("message"), message}});
     }
     ClearLine();
-    WriteLine(stderr, sentence.toLocal8Bit() + '\n');
+    WriteLine(stderr, message.toLocal8Bit() + '\n');
 }
 
-void ReframeReporter::Succeed(const QString& input, const QString& sentence, const QJsonObject& facts)
+void ReframeReporter::Succeed(const QString& input, const QString& message, const QJsonObject& facts)
 {
     ClearLine();
     if (m_voice == Voice::Json) {
         WriteJson(QStringLiteral("done"), input, facts);
     } else if (!m_quiet) {
-        WriteLine(stdout, sentence.toLocal8Bit() + '\n');
+        WriteLine(stdout, message.toLocal8Bit() + '\n');
     }
 }
 

@@ -6,7 +6,7 @@
 
 struct ReframeOptions;
 
-/// What the program tells: a progress line on a terminal, JSON lines for programs, sentences for errors. Main thread.
+/// What the program tells: a progress line on a terminal, JSON lines for programs, error messages. Main thread.
 class ReframeReporter
 {
 public:
@@ -21,10 +21,10 @@ public:
     /// `progress` in ten-thousandths of the stage.
     void Progress(int progress);
 
-    void Warn(const QString& input, const QString& sentence);
-    void Fail(const QString& input, const QString& sentence);
-    /// `facts` go into the JSON line; `sentence` is for people.
-    void Succeed(const QString& input, const QString& sentence, const QJsonObject& facts);
+    void Warn(const QString& input, const QString& message);
+    void Fail(const QString& input, const QString& message);
+    /// `facts` go into the JSON line; `message` is for people.
+    void Succeed(const QString& input, const QString& message, const QJsonObject& facts);
 
 private:
     enum class Voice { People, Json };

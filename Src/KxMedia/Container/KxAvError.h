@@ -2,5 +2,6 @@
 
 #include <QString>
 
-/// The reason behind a negative number that libav* returned, as the end of a sentence: "the disk is full". Never empty.
+/// The reason behind a negative number that libav* returned, as a clause to append to a message: "the disk is full".
+/// Never empty.
 QString KxAvErrorText(int error);

@@ -99,7 +99,7 @@ KxResult<std::unique_ptr<KxInputFile>> KxInputFile::Open(const QString& path, co
     input->m_watch.deadline = std::chrono::steady_clock::now() + OpeningLimit;
     for (const auto step : {&KxInputFile::OpenFile, &KxInputFile::OpenContainer, &KxInputFile::ReadStreamInfo}) {
         if (const KxError reason = (input.get()->*step)()) {
-            return KxResult<std::unique_ptr<KxInputFile>>::Failure(Sentence(path, *reason));
+            return KxResult<std::unique_ptr<KxInputFile>>::Failure(Message(path, *reason));
         }
     }
     input->m_watch.deadline.reset();
@@ -119,7 +119,7 @@ KxInputFile::~KxInputFile()
     avio_closep(&m_file);
 }
 
-QString KxInputFile::Sentence(const QString& path, const QString& reason)
+QString KxInputFile::Message(const QString& path, const QString& reason)
 {
     const QString name = QFileInfo(path).fileName();
     return QStringLiteral("Cannot open %1: %2.").arg(name.isEmpty() ? QDir::toNativeSeparators(path) : name, reason);

@@ -22,12 +22,12 @@ public:
     /// Larger pictures are refused: their frames alone would fill the memory of a small machine.
     static constexpr qint64 LargestPicturePixels = qint64{8192} * 8192;
 
-    /// The sentence names the file and the reason.
+    /// The message names the file and the reason.
     static KxResult<std::unique_ptr<KxInputFile>> Open(const QString& path, const KxCancelToken& cancel);
     ~KxInputFile();
 
     /// "Cannot open clip.mp4: <reason>."
-    static QString Sentence(const QString& path, const QString& reason);
+    static QString Message(const QString& path, const QString& reason);
 
     const QString& Path() const { return m_path; }
     qint64 FileSize() const { return m_fileSize; }

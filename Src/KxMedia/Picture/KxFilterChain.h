@@ -9,8 +9,8 @@
 class KxFilterChain
 {
 public:
-    /// For pictures such as `picture`; `steps` as libavfilter writes them. The failure is the end of a sentence, as are
-    /// those below.
+    /// For pictures such as `picture`; `steps` as libavfilter writes them. The failure is a clause to append to a
+    /// message, as are those below.
     static KxResult<KxFilterChain> Make(const char* steps, const AVFrame& picture);
 
     /// Whether `picture` has the size and the format that the chain was made for.

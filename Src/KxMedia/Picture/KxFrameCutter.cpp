@@ -205,7 +205,7 @@ KxResult<KxVideoFrame> KxFrameCutter::Impl::Cut(const KxVideoFrame& picture, con
         cut = m_toneMapper.Map(**cut);
     }
     if (!cut) {
-        return Result::Failure(cut.Sentence());
+        return Result::Failure(cut.Message());
     }
     (*cut)->sample_aspect_ratio = AVRational{1, 1};
     return KxVideoFrame(std::shared_ptr<const AVFrame>(std::move(*cut)), picture.Index(), {}, m_size);

@@ -10,7 +10,7 @@ namespace
 const char* const MappingSteps = "zscale=t=linear:npl=100,format=gbrpf32le,zscale=p=bt709,tonemap=hable:desat=0,"
                                  "zscale=t=bt709:m=bt709:r=tv:c=left:dither=ordered,format=yuv420p";
 
-QString Sentence(const QString& reason)
+QString Message(const QString& reason)
 {
     return QStringLiteral("Cannot convert a picture of high dynamic range: %1.").arg(reason);
 }
@@ -45,20 +45,20 @@ KxResult<KxAvFrame> KxToneMapper::Map(const AVFrame& picture)
         m_chain.reset();
         KxResult<KxFilterChain> chain = KxFilterChain::Make(MappingSteps, picture);
         if (!chain) {
-            return Result::Failure(Sentence(chain.Sentence()));
+            return Result::Failure(Message(chain.Message()));
         }
         m_chain.emplace(std::move(*chain));
     }
     KxAvFrame input(av_frame_clone(&picture));
     if (input == nullptr) {
-        return Result::Failure(Sentence(KxAvErrorText(AVERROR(ENOMEM))));
+        return Result::Failure(Message(KxAvErrorText(AVERROR(ENOMEM))));
     }
     FillGaps(*input);
     Result mapped = RunThrough(*m_chain, std::move(input));
     if (!mapped || *mapped == nullptr) {
         // A chain that failed once is not to be trusted with the next picture.
         m_chain.reset();
-        return Result::Failure(Sentence(mapped ? QStringLiteral("it yields no picture") : mapped.Sentence()));
+        return Result::Failure(Message(mapped ? QStringLiteral("it yields no picture") : mapped.Message()));
     }
     AVFrame& output = **mapped;
     output.color_primaries = AVCOL_PRI_BT709;

@@ -21,7 +21,7 @@ KxResult<Line> MeasureLine(const QString& path, const KxCancelToken& cancel)
 {
     KxResult<std::unique_ptr<KxInputFile>> input = KxInputFile::Open(path, cancel);
     if (!input) {
-        return KxResult<Line>::Failure(input.Sentence());
+        return KxResult<Line>::Failure(input.Message());
     }
     if ((*input)->VideoStream() == nullptr) {
         return Line{};
@@ -29,7 +29,7 @@ KxResult<Line> MeasureLine(const QString& path, const KxCancelToken& cancel)
     const KxResult<std::unique_ptr<KxVideoSource>> source =
         KxVideoSource::Open(std::move(*input), KxVideoDecoder::Effort::Full);
     if (!source) {
-        return KxResult<Line>::Failure(source.Sentence());
+        return KxResult<Line>::Failure(source.Message());
     }
     return Line{(*source)->Facts().video->firstPictureUs, (*source)->Packets().Jumps()};
 }
@@ -155,21 +155,21 @@ KxResult<std::unique_ptr<KxAudioReader>> KxAudioReader::Open(const QString& path
     using Result = KxResult<std::unique_ptr<KxAudioReader>>;
     KxResult<Line> line = MeasureLine(path, cancel);
     if (!line) {
-        return Result::Failure(line.Sentence());
+        return Result::Failure(line.Message());
     }
     KxResult<std::unique_ptr<KxInputFile>> input = KxInputFile::Open(path, cancel);
     if (!input) {
-        return Result::Failure(input.Sentence());
+        return Result::Failure(input.Message());
     }
     const std::vector<AVStream*>& streams = (*input)->AudioStreams();
     if (stream < 0 || static_cast<size_t>(stream) >= streams.size()) {
-        return Result::Failure(KxInputFile::Sentence(path, QStringLiteral("it has no such sound track")));
+        return Result::Failure(KxInputFile::Message(path, QStringLiteral("it has no such sound track")));
     }
     AVStream& chosen = *streams[static_cast<size_t>(stream)];
     KxResult<std::unique_ptr<KxAudioTrack>> track =
         KxAudioTrack::Open(std::move(*input), chosen, format, line->zeroUs, std::move(line->jumps));
     if (!track) {
-        return Result::Failure(KxInputFile::Sentence(path, track.Sentence()));
+        return Result::Failure(KxInputFile::Message(path, track.Message()));
     }
     return std::unique_ptr<KxAudioReader>(new KxAudioReader(std::make_unique<Impl>(std::move(*track), format)));
 }

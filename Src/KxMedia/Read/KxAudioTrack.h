@@ -18,8 +18,8 @@ public:
         std::vector<float> samples;
     };
 
-    /// `zeroUs` is time zero on the file's own clock; nothing makes it the time of the first sound. The failure is the
-    /// end of a sentence.
+    /// `zeroUs` is time zero on the file's own clock; nothing makes it the time of the first sound. On failure, returns
+    /// a clause to append to the caller's message.
     static KxResult<std::unique_ptr<KxAudioTrack>> Open(std::unique_ptr<KxInputFile> input, AVStream& stream,
                                                         const KxAudioReader::Format& format,
                                                         std::optional<qint64> zeroUs,

@@ -7,7 +7,7 @@ KxResult<KxMediaFacts> KxProbeMedia(const QString& path, const KxCancelToken& ca
 {
     KxResult<std::unique_ptr<KxInputFile>> input = KxInputFile::Open(path, cancel);
     if (!input) {
-        return KxResult<KxMediaFacts>::Failure(input.Sentence());
+        return KxResult<KxMediaFacts>::Failure(input.Message());
     }
     if ((*input)->VideoStream() == nullptr && !(*input)->AudioStreams().empty()) {
         return KxFactsWithoutVideo(**input);
@@ -15,7 +15,7 @@ KxResult<KxMediaFacts> KxProbeMedia(const QString& path, const KxCancelToken& ca
     const KxResult<std::unique_ptr<KxVideoSource>> source =
         KxVideoSource::Open(std::move(*input), KxVideoDecoder::Effort::Full);
     if (!source) {
-        return KxResult<KxMediaFacts>::Failure(source.Sentence());
+        return KxResult<KxMediaFacts>::Failure(source.Message());
     }
     return (*source)->Facts();
 }

@@ -43,6 +43,6 @@ struct KxMediaFacts {
     int defaultAudio = -1;
 };
 
-/// Reads the facts of a file without decoding more than its first picture. The sentence of a failure names the file and
+/// Reads the facts of a file without decoding more than its first picture. The error message names the file and
 /// the reason. Blocks; any thread.
 KXMEDIA_API KxResult<KxMediaFacts> KxProbeMedia(const QString& path, const KxCancelToken& cancel);

@@ -24,7 +24,7 @@ public:
         qint64 ticks = 0;
     };
 
-    /// The failure is the end of a sentence. `packets` is borrowed.
+    /// On failure, returns a clause to append to the caller's message. `packets` is borrowed.
     static KxResult<std::unique_ptr<KxVideoDecoder>> Open(KxVideoPackets& packets, Effort effort);
 
     KxReadStatus Next(Picture& picture);

@@ -23,7 +23,7 @@ KxResult<std::unique_ptr<KxVideoReader>> KxVideoReader::Open(const QString& path
 {
     KxResult<std::unique_ptr<KxVideoSource>> source = KxVideoSource::Open(path, cancel, KxVideoDecoder::Effort::Full);
     if (!source) {
-        return KxResult<std::unique_ptr<KxVideoReader>>::Failure(source.Sentence());
+        return KxResult<std::unique_ptr<KxVideoReader>>::Failure(source.Message());
     }
     return std::unique_ptr<KxVideoReader>(new KxVideoReader(std::make_unique<Impl>(std::move(*source))));
 }

@@ -12,7 +12,7 @@
 class KXMEDIA_API KxVideoReader
 {
 public:
-    /// Decodes the first picture. Fails with a sentence for a file without a video stream that can be decoded.
+    /// Decodes the first picture. Fails with an error message for a file without a video stream that can be decoded.
     static KxResult<std::unique_ptr<KxVideoReader>> Open(const QString& path, const KxCancelToken& cancel);
     ~KxVideoReader();
 

@@ -43,7 +43,7 @@ KxResult<std::unique_ptr<KxVideoScanner>> KxVideoScanner::Open(const QString& pa
     KxResult<std::unique_ptr<KxVideoSource>> source =
         KxVideoSource::Open(path, cancel, KxVideoDecoder::Effort::SkipLoopFilter);
     if (!source) {
-        return KxResult<std::unique_ptr<KxVideoScanner>>::Failure(source.Sentence());
+        return KxResult<std::unique_ptr<KxVideoScanner>>::Failure(source.Message());
     }
     return std::unique_ptr<KxVideoScanner>(new KxVideoScanner(std::make_unique<Impl>(std::move(*source))));
 }

@@ -24,7 +24,7 @@ KxResult<std::unique_ptr<KxVideoSource>> KxVideoSource::Open(const QString& path
 {
     KxResult<std::unique_ptr<KxInputFile>> input = KxInputFile::Open(path, cancel);
     if (!input) {
-        return KxResult<std::unique_ptr<KxVideoSource>>::Failure(input.Sentence());
+        return KxResult<std::unique_ptr<KxVideoSource>>::Failure(input.Message());
     }
     return Open(std::move(*input), effort);
 }
@@ -35,7 +35,7 @@ KxResult<std::unique_ptr<KxVideoSource>> KxVideoSource::Open(std::unique_ptr<KxI
     const QString path = input->Path();
     std::unique_ptr<KxVideoSource> source(new KxVideoSource);
     if (const KxError reason = source->Prepare(std::move(input), effort)) {
-        return KxResult<std::unique_ptr<KxVideoSource>>::Failure(KxInputFile::Sentence(path, *reason));
+        return KxResult<std::unique_ptr<KxVideoSource>>::Failure(KxInputFile::Message(path, *reason));
     }
     return source;
 }
@@ -54,7 +54,7 @@ KxError KxVideoSource::Prepare(std::unique_ptr<KxInputFile> input, KxVideoDecode
     }
     KxResult<std::unique_ptr<KxVideoDecoder>> decoder = KxVideoDecoder::Open(*m_packets, effort);
     if (!decoder) {
-        return decoder.Sentence();
+        return decoder.Message();
     }
     m_decoder = std::move(*decoder);
     if (effort == KxVideoDecoder::Effort::Full) {

@@ -12,7 +12,7 @@
 class KxAacEncoder
 {
 public:
-    /// The reason of a failure is the end of a sentence.
+    /// On failure, returns a clause to append to the caller's message.
     static KxResult<std::unique_ptr<KxAacEncoder>> Open(const KxAudioReader::Format& format, qint64 bitRate);
 
     const AVCodecContext& Context() const { return *m_context; }

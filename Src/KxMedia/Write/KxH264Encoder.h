@@ -30,7 +30,7 @@ public:
         QString preset;
     };
 
-    /// Takes its colour tags from `first`. The reason of a failure is the end of a sentence.
+    /// Takes its colour tags from `first`. On failure, returns a clause to append to the caller's message.
     static KxResult<std::unique_ptr<KxH264Encoder>> Open(const Settings& settings, const AVFrame& first);
 
     const AVCodecContext& Context() const { return *m_context; }

@@ -12,7 +12,7 @@ namespace
 constexpr int VideoStream = 0;
 constexpr int AudioStream = 1;
 
-QString Sentence(const QString& path, const QString& reason)
+QString Message(const QString& path, const QString& reason)
 {
     return QStringLiteral("Cannot write %1: %2.").arg(path, reason);
 }
@@ -21,13 +21,13 @@ KxError Check(const KxMp4Writer::Settings& settings)
 {
     const QSize& size = settings.size;
     if (size.width() <= 0 || size.height() <= 0 || size.width() % 2 != 0 || size.height() % 2 != 0) {
-        return Sentence(settings.path,
-                        QStringLiteral("pictures of %1 x %2 pixels cannot be encoded; both have to be even")
-                            .arg(size.width())
-                            .arg(size.height()));
+        return Message(settings.path,
+                       QStringLiteral("pictures of %1 x %2 pixels cannot be encoded; both have to be even")
+                           .arg(size.width())
+                           .arg(size.height()));
     }
     if (!settings.frameRate.IsPositive()) {
-        return Sentence(settings.path, QStringLiteral("the frame rate is unknown"));
+        return Message(settings.path, QStringLiteral("the frame rate is unknown"));
     }
     return std::nullopt;
 }
@@ -67,7 +67,7 @@ private:
 
 KxError KxMp4Writer::Impl::Told(int error) const
 {
-    return error < 0 ? KxError(Sentence(m_settings.path, KxAvErrorText(error))) : std::nullopt;
+    return error < 0 ? KxError(Message(m_settings.path, KxAvErrorText(error))) : std::nullopt;
 }
 
 KxPacketSink KxMp4Writer::Impl::Into(int stream)
@@ -84,7 +84,7 @@ KxError KxMp4Writer::Impl::OpenAudio()
 {
     KxResult<std::unique_ptr<KxAacEncoder>> audio = KxAacEncoder::Open(m_settings.audioFormat, m_settings.audioBitRate);
     if (!audio) {
-        return Sentence(m_settings.path, audio.Sentence());
+        return Message(m_settings.path, audio.Message());
     }
     m_audio = std::move(*audio);
     return std::nullopt;
@@ -95,7 +95,7 @@ KxError KxMp4Writer::Impl::Begin(const AVFrame& first)
     KxResult<std::unique_ptr<KxH264Encoder>> video = KxH264Encoder::Open(
         {m_settings.size, m_settings.frameRate, m_settings.videoBitRate, m_settings.videoPreset}, first);
     if (!video) {
-        return Sentence(m_settings.path, video.Sentence());
+        return Message(m_settings.path, video.Message());
     }
     m_video = std::move(*video);
     int error = m_muxer.AddStream(m_video->Context());
@@ -142,7 +142,7 @@ KxResult<QString> KxMp4Writer::Impl::Finish()
 {
     using Result = KxResult<QString>;
     if (!m_muxer.HasBegun()) {
-        return Result::Failure(Sentence(m_settings.path, QStringLiteral("there is no picture to write")));
+        return Result::Failure(Message(m_settings.path, QStringLiteral("there is no picture to write")));
     }
     int error = m_video->Finish(Into(VideoStream));
     if (error >= 0 && m_audio != nullptr) {
@@ -172,7 +172,7 @@ KxResult<std::unique_ptr<KxMp4Writer>> KxMp4Writer::Open(const Settings& setting
     }
     KxResult<std::unique_ptr<KxOutputFile>> file = KxOutputFile::Create(settings.path);
     if (!file) {
-        return Opened::Failure(file.Sentence());
+        return Opened::Failure(file.Message());
     }
     auto impl = std::make_unique<Impl>(settings, std::move(*file));
     if (KxError error = settings.hasAudio ? impl->OpenAudio() : std::nullopt) {

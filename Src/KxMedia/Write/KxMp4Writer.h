@@ -11,7 +11,7 @@
 
 /// Writes an MP4 file with H.264 video and, where wanted, AAC sound. The file grows under a temporary name beside its
 /// target and gets its own name in Finish(); a writer that is destroyed before that leaves nothing behind. One thread
-/// at a time. The sentence of every failure names the target and the reason; a writer that has failed once is only good
+/// at a time. Every error message names the target and the reason; a writer that has failed once is only good
 /// for being destroyed.
 class KXMEDIA_API KxMp4Writer
 {

@@ -42,7 +42,7 @@ TEST(TestExportRecord, WhatLacksANameAFolderOrASizeIsRefusedWithTheReason)
         record.remove(QLatin1String(key));
         const KxResult<ExportOrder> order = ExportRecord::Read(record);
         EXPECT_FALSE(order) << key;
-        EXPECT_TRUE(order.Sentence().startsWith(QLatin1String("Cannot export"))) << key;
+        EXPECT_TRUE(order.Message().startsWith(QLatin1String("Cannot export"))) << key;
     }
     EXPECT_FALSE(ExportRecord::Read(QVariant()));
 }

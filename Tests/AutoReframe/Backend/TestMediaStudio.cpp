@@ -31,7 +31,7 @@ protected:
 TEST_F(TestMediaStudio, OpensAVideoWithItsFacts)
 {
     const KxResult<StudioMedia> media = m_studio.Open(MakeClip(QStringLiteral("clip.mp4")), KxCancelToken());
-    ASSERT_TRUE(media) << media.Sentence().toStdString();
+    ASSERT_TRUE(media) << media.Message().toStdString();
     EXPECT_EQ(media->resolution, QSize(192, 108));
     EXPECT_EQ(media->frameCount, 50);
     EXPECT_EQ(media->frameRate, (KxRational{25, 1}));
@@ -42,9 +42,9 @@ TEST_F(TestMediaStudio, RefusesWithTheNameAndTheReason)
     const QString sound = m_folder.filePath(QStringLiteral("tone.wav"));
     ASSERT_TRUE(MadeVideo::RunFfmpeg({QStringLiteral("-f"), QStringLiteral("lavfi"), QStringLiteral("-i"),
                                       QStringLiteral("sine=duration=1"), sound}));
-    EXPECT_EQ(m_studio.Open(sound, KxCancelToken()).Sentence(),
+    EXPECT_EQ(m_studio.Open(sound, KxCancelToken()).Message(),
               QStringLiteral("Cannot open tone.wav: it has no moving picture."));
-    EXPECT_TRUE(m_studio.Open(m_folder.path(), KxCancelToken()).Sentence().endsWith(QLatin1String("it is a folder.")));
+    EXPECT_TRUE(m_studio.Open(m_folder.path(), KxCancelToken()).Message().endsWith(QLatin1String("it is a folder.")));
 }
 
 TEST_F(TestMediaStudio, MakesAThumbnailThatFits)

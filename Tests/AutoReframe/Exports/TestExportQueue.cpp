@@ -107,10 +107,10 @@ TEST_F(TestExportQueue, AFailureKeepsItsReasonAndCanBeTriedAgain)
     const int second = m_queue.Add(Order(QStringLiteral("b.mp4")));
     m_studio.task->End({KxOutcome::Failed, QStringLiteral("The disk is full."), QString(), QString()});
     ASSERT_TRUE(WaitFor(first, State::Failed));
-    EXPECT_EQ(m_queue.Find(first)->sentence, QStringLiteral("The disk is full."));
+    EXPECT_EQ(m_queue.Find(first)->message, QStringLiteral("The disk is full."));
     m_queue.Retry(first);
     EXPECT_EQ(StateOf(first), State::Waiting);
-    EXPECT_TRUE(m_queue.Find(first)->sentence.isEmpty());
+    EXPECT_TRUE(m_queue.Find(first)->message.isEmpty());
     m_studio.task->EndWell();
     ASSERT_TRUE(WaitFor(first, State::Running));
     EXPECT_EQ(StateOf(second), State::Done);

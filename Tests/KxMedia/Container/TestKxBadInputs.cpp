@@ -42,14 +42,14 @@ QString Clip(const QString& name, int frames = 30, const QStringList& more = {})
 }
 
 // What all three ways of opening say.
-std::string Sentence(const QString& path)
+std::string Message(const QString& path)
 {
     const auto reader = KxVideoReader::Open(path, KxCancelToken());
     const auto scanner = KxVideoScanner::Open(path, KxCancelToken());
     EXPECT_FALSE(reader);
     EXPECT_FALSE(scanner);
-    EXPECT_EQ(reader.Sentence(), scanner.Sentence());
-    return reader.Sentence().toStdString();
+    EXPECT_EQ(reader.Message(), scanner.Message());
+    return reader.Message().toStdString();
 }
 
 // Whatever happens, it ends.
@@ -57,7 +57,7 @@ void ReadThrough(const QString& path)
 {
     const auto reader = KxVideoReader::Open(path, KxCancelToken());
     if (!reader) {
-        EXPECT_FALSE(reader.Sentence().isEmpty());
+        EXPECT_FALSE(reader.Message().isEmpty());
         return;
     }
     ASSERT_LE((*reader)->Facts().video->frameCount, 10000000);
@@ -73,16 +73,16 @@ void ReadThrough(const QString& path)
 
 } // namespace
 
-TEST(KxBadInputs, EachHasItsSentence)
+TEST(KxBadInputs, EachHasItsErrorMessage)
 {
-    EXPECT_EQ(Sentence(Path(QStringLiteral("none.mp4"))), "Cannot open none.mp4: there is no such file.");
+    EXPECT_EQ(Message(Path(QStringLiteral("none.mp4"))), "Cannot open none.mp4: there is no such file.");
     QDir(Path(QStringLiteral("."))).mkdir(QStringLiteral("folder.mp4"));
-    EXPECT_EQ(Sentence(Path(QStringLiteral("folder.mp4"))), "Cannot open folder.mp4: it is a folder.");
-    EXPECT_EQ(Sentence(Written(QStringLiteral("empty.mp4"), {})), "Cannot open empty.mp4: it is empty.");
-    EXPECT_EQ(Sentence(Written(QStringLiteral("text.mp4"), "Dear reader,\nthis is a letter.\n")),
+    EXPECT_EQ(Message(Path(QStringLiteral("folder.mp4"))), "Cannot open folder.mp4: it is a folder.");
+    EXPECT_EQ(Message(Written(QStringLiteral("empty.mp4"), {})), "Cannot open empty.mp4: it is empty.");
+    EXPECT_EQ(Message(Written(QStringLiteral("text.mp4"), "Dear reader,\nthis is a letter.\n")),
               "Cannot open text.mp4: it is not a video file.");
-    EXPECT_EQ(Sentence(QStringLiteral("/dev/null")), "Cannot open null: it is not a regular file.");
-    EXPECT_EQ(Sentence(QString()), "Cannot open : there is no such file.");
+    EXPECT_EQ(Message(QStringLiteral("/dev/null")), "Cannot open null: it is not a regular file.");
+    EXPECT_EQ(Message(QString()), "Cannot open : there is no such file.");
 }
 
 TEST(KxBadInputs, AFileWithoutPermission)
@@ -92,13 +92,13 @@ TEST(KxBadInputs, AFileWithoutPermission)
     if (QFileInfo(path).isReadable()) {
         GTEST_SKIP() << "this user may read everything";
     }
-    EXPECT_EQ(Sentence(path), "Cannot open locked.mp4: permission is denied.");
+    EXPECT_EQ(Message(path), "Cannot open locked.mp4: permission is denied.");
 }
 
 TEST(KxBadInputs, AHeaderWithoutAnIndex)
 {
     const QByteArray clip = Contents(Clip(QStringLiteral("indexed.mp4")));
-    EXPECT_EQ(Sentence(Written(QStringLiteral("halfway.mp4"), clip.left(clip.size() / 2))),
+    EXPECT_EQ(Message(Written(QStringLiteral("halfway.mp4"), clip.left(clip.size() / 2))),
               "Cannot open halfway.mp4: it is damaged or incomplete.");
 }
 
@@ -106,7 +106,7 @@ TEST(KxBadInputs, SoundAlone)
 {
     const QString path = Path(QStringLiteral("sound.mp4"));
     ASSERT_TRUE(MadeVideo::RunFfmpeg(Words("-f lavfi -i sine=duration=1 -c:a aac") << path));
-    EXPECT_EQ(Sentence(path), "Cannot open sound.mp4: it has sound but no moving picture.");
+    EXPECT_EQ(Message(path), "Cannot open sound.mp4: it has sound but no moving picture.");
     const auto facts = KxProbeMedia(path, KxCancelToken());
     ASSERT_TRUE(facts);
     EXPECT_FALSE(facts->video);
@@ -120,7 +120,7 @@ TEST(KxBadInputs, SoundWithACoverPicture)
         Words("-f lavfi -i sine=duration=1 -f lavfi -i color=red:s=64x64:r=1:d=1 -map 0 -map 1 -c:v mjpeg "
               "-disposition:v attached_pic -c:a libmp3lame")
         << path));
-    EXPECT_EQ(Sentence(path), "Cannot open cover.mp3: it has sound but no moving picture.");
+    EXPECT_EQ(Message(path), "Cannot open cover.mp3: it has sound but no moving picture.");
 }
 
 TEST(KxBadInputs, ASinglePicture)
@@ -129,10 +129,10 @@ TEST(KxBadInputs, ASinglePicture)
         const QString picture = Path(QStringLiteral("picture.") + QLatin1String(suffix));
         ASSERT_TRUE(MadeVideo::RunFfmpeg(Words("-f lavfi -i color=red:s=64x64 -frames:v 1") << picture));
         const QString renamed = Written(QStringLiteral("renamed.mp4"), Contents(picture));
-        EXPECT_EQ(Sentence(picture), QStringLiteral("Cannot open picture.%1: it is a single picture, not a video.")
-                                         .arg(QLatin1String(suffix))
-                                         .toStdString());
-        EXPECT_EQ(Sentence(renamed), "Cannot open renamed.mp4: it is a single picture, not a video.");
+        EXPECT_EQ(Message(picture), QStringLiteral("Cannot open picture.%1: it is a single picture, not a video.")
+                                        .arg(QLatin1String(suffix))
+                                        .toStdString());
+        EXPECT_EQ(Message(renamed), "Cannot open renamed.mp4: it is a single picture, not a video.");
     }
 }
 
@@ -142,15 +142,15 @@ TEST(KxBadInputs, ListsOfOtherFilesAreRefused)
     const std::string refusal = "it is a list of other files, not a video.";
     const QByteArray playlist =
         "#EXTM3U\n#EXT-X-VERSION:3\n#EXT-X-TARGETDURATION:2\n#EXTINF:1.2,\nnamed.ts\n#EXT-X-ENDLIST\n";
-    EXPECT_EQ(Sentence(Written(QStringLiteral("list.mp4"), playlist)), "Cannot open list.mp4: " + refusal);
+    EXPECT_EQ(Message(Written(QStringLiteral("list.mp4"), playlist)), "Cannot open list.mp4: " + refusal);
     const QByteArray concat = "ffconcat version 1.0\nfile named.ts\n";
-    EXPECT_EQ(Sentence(Written(QStringLiteral("concat.mp4"), concat)), "Cannot open concat.mp4: " + refusal);
+    EXPECT_EQ(Message(Written(QStringLiteral("concat.mp4"), concat)), "Cannot open concat.mp4: " + refusal);
 }
 
 TEST(KxBadInputs, NamesAreNoProtocols)
 {
     const QString clip = Clip(QStringLiteral("a.ts"));
-    EXPECT_EQ(Sentence(QStringLiteral("concat:%1|%1").arg(clip)), "Cannot open a.ts: there is no such file.");
+    EXPECT_EQ(Message(QStringLiteral("concat:%1|%1").arg(clip)), "Cannot open a.ts: there is no such file.");
     const QString odd = Path(QStringLiteral("subfile,,start,0,end,9,,:100%d \xE4.mp4"));
     ASSERT_TRUE(QFile::copy(Clip(QStringLiteral("plain.mp4")), odd));
     const std::unique_ptr<KxVideoReader> reader = ReadClips::OpenReader(odd);
@@ -165,7 +165,7 @@ TEST(KxBadInputs, PicturesThatAreTooLarge)
     const int entry = clip.indexOf("avc1", clip.indexOf("stsd"));
     ASSERT_GT(entry, 0);
     clip.replace(entry + 28, 4, QByteArray::fromHex("40004000"));
-    EXPECT_EQ(Sentence(Written(QStringLiteral("huge.mp4"), clip)),
+    EXPECT_EQ(Message(Written(QStringLiteral("huge.mp4"), clip)),
               "Cannot open huge.mp4: its pictures are too large (16384 x 16384).");
 }
 

@@ -15,7 +15,7 @@ inline KxVideoFrame CutPixels(KxFrameCutter& cutter, const KxVideoFrame& picture
     const double height = picture.DisplayedSize().height();
     KxResult<KxVideoFrame> cut =
         cutter.Cut(picture, QRectF(crop.x() / width, crop.y() / height, crop.width() / width, crop.height() / height));
-    EXPECT_TRUE(cut) << cut.Sentence().toStdString();
+    EXPECT_TRUE(cut) << cut.Message().toStdString();
     return cut ? *cut : KxVideoFrame();
 }
 

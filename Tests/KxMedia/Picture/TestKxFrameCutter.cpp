@@ -148,7 +148,7 @@ TEST_P(KxFrameCutterSiting, EverySampleShowsItsPlace)
     const QSize size(64, 72);
     KxFrameCutter cutter(size);
     const KxResult<KxVideoFrame> cut = cutter.Cut(picture, crop);
-    ASSERT_TRUE(cut) << cut.Sentence().toStdString();
+    ASSERT_TRUE(cut) << cut.Message().toStdString();
     EXPECT_EQ(cut->Picture().chroma_location, AVCHROMA_LOC_LEFT);
     EXPECT_EQ(cut->Turn().clockwiseDegrees, 0);
     EXPECT_FALSE(cut->Turn().mirror);
@@ -235,7 +235,7 @@ TEST(KxFrameCutter, EmptyOrEndlessRectangleFails)
          {QRectF(), QRectF(0, 0, 0, 1), QRectF(0, 0, -1, 1), QRectF(nan, 0, 1, 1), QRectF(0, 0, infinite, 1)}) {
         const KxResult<KxVideoFrame> cut = cutter.Cut(picture, crop);
         EXPECT_FALSE(cut);
-        EXPECT_EQ(cut.Sentence(), QStringLiteral("Cannot cut a picture: the rectangle to cut out is empty."));
+        EXPECT_EQ(cut.Message(), QStringLiteral("Cannot cut a picture: the rectangle to cut out is empty."));
     }
     EXPECT_FALSE(cutter.Cut(KxVideoFrame(), QRectF(0, 0, 1, 1)));
 }
@@ -245,7 +245,7 @@ TEST(KxFrameCutter, SpeckOfAPictureIsCutAsOnePixel)
     const KxVideoFrame picture = Wrap(Make(AV_PIX_FMT_YUV420P, QSize(160, 90), &Texture));
     KxFrameCutter cutter(QSize(50, 90));
     const KxResult<KxVideoFrame> cut = cutter.Cut(picture, QRectF(0.9999, 0.9999, 1e-9, 1e-9));
-    EXPECT_TRUE(cut) << cut.Sentence().toStdString();
+    EXPECT_TRUE(cut) << cut.Message().toStdString();
 }
 
 TEST(KxFrameCutter, MemoryOfAPictureThatIsGoneIsUsedAgain)

@@ -26,7 +26,7 @@ std::unique_ptr<KxVideoReader> ReadClips::OpenReader(const QString& path)
 {
     KxResult<std::unique_ptr<KxVideoReader>> reader = KxVideoReader::Open(path, KxCancelToken());
     if (!reader) {
-        ADD_FAILURE() << reader.Sentence().toStdString();
+        ADD_FAILURE() << reader.Message().toStdString();
         return nullptr;
     }
     return std::move(*reader);

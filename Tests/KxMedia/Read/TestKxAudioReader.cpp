@@ -18,7 +18,7 @@ std::unique_ptr<KxAudioReader> OpenAudio(const QString& path, int stream = 0, co
 {
     KxResult<std::unique_ptr<KxAudioReader>> reader = KxAudioReader::Open(path, stream, format, cancel);
     if (!reader) {
-        ADD_FAILURE() << reader.Sentence().toStdString();
+        ADD_FAILURE() << reader.Message().toStdString();
         return nullptr;
     }
     return std::move(*reader);
@@ -233,7 +233,7 @@ TEST(KxAudioReader, ReadsTheTrackThatIsAskedFor)
         }
         EXPECT_NEAR(crossings, stream == 0 ? 500 : 2000, 3);
     }
-    EXPECT_EQ(KxAudioReader::Open(path, 2, {}, {}).Sentence(),
+    EXPECT_EQ(KxAudioReader::Open(path, 2, {}, {}).Message(),
               QStringLiteral("Cannot open tracks.mkv: it has no such sound track."));
 }
 

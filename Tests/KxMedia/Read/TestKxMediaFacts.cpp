@@ -77,5 +77,5 @@ TEST(KxMediaFacts, IsCancelled)
     ASSERT_TRUE(MadeVideo::Make(path, recipe));
     const auto facts = KxProbeMedia(path, cancel);
     ASSERT_FALSE(facts);
-    EXPECT_EQ(facts.Sentence(), QStringLiteral("Cannot open stopped.mp4: it was cancelled."));
+    EXPECT_EQ(facts.Message(), QStringLiteral("Cannot open stopped.mp4: it was cancelled."));
 }

@@ -44,7 +44,7 @@ Scan ScanOf(const QString& path)
     Scan scan;
     const auto scanner = KxVideoScanner::Open(path, KxCancelToken());
     if (!scanner) {
-        ADD_FAILURE() << scanner.Sentence().toStdString();
+        ADD_FAILURE() << scanner.Message().toStdString();
         return scan;
     }
     scan.frameCount = (*scanner)->Facts().video->frameCount;

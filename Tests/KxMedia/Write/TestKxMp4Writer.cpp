@@ -39,7 +39,7 @@ TEST_F(KxMp4WriterTest, StreamsSayWhatTheyAre)
     block.samples.resize(3 * 44100);
     ASSERT_EQ(writer->AddAudio(block), std::nullopt);
     const KxResult<QString> path = writer->Finish();
-    ASSERT_TRUE(path) << path.Sentence().toStdString();
+    ASSERT_TRUE(path) << path.Message().toStdString();
 
     const QJsonObject probed = Probe(*path);
     EXPECT_EQ(Field(probed, 0, "codec_name"), QStringLiteral("h264"));
@@ -170,6 +170,6 @@ TEST_F(KxMp4WriterTest, SoundThatIsNoNumberIsSilence)
     ASSERT_EQ(AddPictures(*writer, 25), std::nullopt);
     ASSERT_EQ(writer->AddAudio(block), std::nullopt);
     const KxResult<QString> path = writer->Finish();
-    ASSERT_TRUE(path) << path.Sentence().toStdString();
+    ASSERT_TRUE(path) << path.Message().toStdString();
     EXPECT_EQ(HeardClicks(*path).size(), 1U);
 }

@@ -72,7 +72,7 @@ TEST_F(KxMp4WriterTest, NothingToWriteIsAFailure)
     std::unique_ptr<KxMp4Writer> writer = Open(SettingsFor(Path(QStringLiteral("out.mp4"))));
     const KxResult<QString> path = writer->Finish();
     EXPECT_FALSE(path);
-    EXPECT_EQ(path.Sentence(),
+    EXPECT_EQ(path.Message(),
               QStringLiteral("Cannot write %1: there is no picture to write.").arg(Path(QStringLiteral("out.mp4"))));
     writer.reset();
     EXPECT_EQ(FilesIn(m_folder.path()), QStringList());
@@ -80,21 +80,21 @@ TEST_F(KxMp4WriterTest, NothingToWriteIsAFailure)
 
 TEST_F(KxMp4WriterTest, SettingsThatCannotBeAreRefused)
 {
-    const auto sentence = [](const KxMp4Writer::Settings& settings) { return KxMp4Writer::Open(settings).Sentence(); };
+    const auto message = [](const KxMp4Writer::Settings& settings) { return KxMp4Writer::Open(settings).Message(); };
     KxMp4Writer::Settings settings = SettingsFor(Path(QStringLiteral("out.mp4")));
     settings.size = QSize(101, 200);
-    EXPECT_TRUE(sentence(settings).contains(QStringLiteral("out.mp4: pictures of 101 x 200")))
-        << sentence(settings).toStdString();
+    EXPECT_TRUE(message(settings).contains(QStringLiteral("out.mp4: pictures of 101 x 200")))
+        << message(settings).toStdString();
     settings.size = QSize();
-    EXPECT_FALSE(sentence(settings).isEmpty());
+    EXPECT_FALSE(message(settings).isEmpty());
     settings = SettingsFor(settings.path);
     settings.frameRate = {};
-    EXPECT_TRUE(sentence(settings).endsWith(QStringLiteral("out.mp4: the frame rate is unknown.")));
+    EXPECT_TRUE(message(settings).endsWith(QStringLiteral("out.mp4: the frame rate is unknown.")));
     settings = SettingsFor(settings.path);
     settings.hasAudio = true;
     settings.audioFormat = {12345, 2};
     EXPECT_TRUE(
-        sentence(settings).endsWith(QStringLiteral("out.mp4: sound of 12345 Hz and 2 channels is not supported.")));
+        message(settings).endsWith(QStringLiteral("out.mp4: sound of 12345 Hz and 2 channels is not supported.")));
     settings = SettingsFor(settings.path);
     settings.videoPreset = QStringLiteral("no such preset");
     const std::unique_ptr<KxMp4Writer> writer = Open(settings);
@@ -106,12 +106,12 @@ TEST_F(KxMp4WriterTest, SettingsThatCannotBeAreRefused)
 TEST_F(KxMp4WriterTest, FolderThatCannotTakeTheFileIsNamed)
 {
     const QString missing = Path(QStringLiteral("none/out.mp4"));
-    const QString sentence = KxMp4Writer::Open(SettingsFor(missing)).Sentence();
-    EXPECT_TRUE(sentence.startsWith(QStringLiteral("Cannot write %1: ").arg(missing))) << sentence.toStdString();
-    EXPECT_TRUE(sentence.contains(QStringLiteral("does not exist"))) << sentence.toStdString();
+    const QString message = KxMp4Writer::Open(SettingsFor(missing)).Message();
+    EXPECT_TRUE(message.startsWith(QStringLiteral("Cannot write %1: ").arg(missing))) << message.toStdString();
+    EXPECT_TRUE(message.contains(QStringLiteral("does not exist"))) << message.toStdString();
     ASSERT_TRUE(QDir(m_folder.path()).mkdir(QStringLiteral("sub")));
     const QString folder = Path(QStringLiteral("sub"));
-    EXPECT_EQ(KxMp4Writer::Open(SettingsFor(folder)).Sentence(),
+    EXPECT_EQ(KxMp4Writer::Open(SettingsFor(folder)).Message(),
               QStringLiteral("Cannot write %1: it is a folder.").arg(folder));
 }
 
@@ -127,12 +127,12 @@ TEST_F(KxMp4WriterTest, FolderWithoutPermissionIsNamed)
     if (isRoot) {
         ASSERT_EQ(seteuid(Nobody), 0);
     }
-    const QString sentence = KxMp4Writer::Open(SettingsFor(Path(QStringLiteral("out.mp4")))).Sentence();
+    const QString message = KxMp4Writer::Open(SettingsFor(Path(QStringLiteral("out.mp4")))).Message();
     if (isRoot) {
         ASSERT_EQ(seteuid(0), 0);
     }
     QFile::setPermissions(m_folder.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    EXPECT_EQ(sentence, QStringLiteral("Cannot write %1: permission is denied.").arg(Path(QStringLiteral("out.mp4"))));
+    EXPECT_EQ(message, QStringLiteral("Cannot write %1: permission is denied.").arg(Path(QStringLiteral("out.mp4"))));
 }
 
 namespace
@@ -173,11 +173,11 @@ protected:
         const FileSizeLimit limited(limitBytes);
         std::unique_ptr<KxMp4Writer> writer = Open(settings);
         ASSERT_NE(writer, nullptr);
-        QString sentence = AddPictures(*writer, pictures, make).value_or(QString());
-        if (sentence.isEmpty()) {
-            sentence = writer->Finish().Sentence();
+        QString message = AddPictures(*writer, pictures, make).value_or(QString());
+        if (message.isEmpty()) {
+            message = writer->Finish().Message();
         }
-        EXPECT_EQ(sentence,
+        EXPECT_EQ(message,
                   QStringLiteral("Cannot write %1: the file would become too large for its disk.").arg(settings.path))
             << limitBytes;
         writer.reset();
@@ -215,17 +215,17 @@ TEST_F(KxMp4WriterTest, FullDiskIsCalledFull)
         GTEST_SKIP() << "no small disk can be mounted here";
     }
     const KxMp4Writer::Settings settings = SettingsFor(disk + QStringLiteral("/out.mp4"));
-    QString sentence;
+    QString message;
     {
         const std::unique_ptr<KxMp4Writer> writer = Open(settings);
-        sentence = AddPictures(*writer, 60, &BusyPicture).value_or(QString());
-        if (sentence.isEmpty()) {
-            sentence = writer->Finish().Sentence();
+        message = AddPictures(*writer, 60, &BusyPicture).value_or(QString());
+        if (message.isEmpty()) {
+            message = writer->Finish().Message();
         }
     }
     const QStringList left = FilesIn(disk);
     QProcess::execute(QStringLiteral("umount"), {disk});
-    EXPECT_EQ(sentence, QStringLiteral("Cannot write %1: the disk is full.").arg(settings.path));
+    EXPECT_EQ(message, QStringLiteral("Cannot write %1: the disk is full.").arg(settings.path));
     EXPECT_EQ(left, QStringList());
 }
 

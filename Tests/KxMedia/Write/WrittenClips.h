@@ -47,7 +47,7 @@ protected:
     std::unique_ptr<KxMp4Writer> Open(const KxMp4Writer::Settings& settings)
     {
         KxResult<std::unique_ptr<KxMp4Writer>> writer = KxMp4Writer::Open(settings);
-        EXPECT_TRUE(writer) << writer.Sentence().toStdString();
+        EXPECT_TRUE(writer) << writer.Message().toStdString();
         return writer ? std::move(*writer) : nullptr;
     }
 
@@ -59,7 +59,7 @@ protected:
             return {};
         }
         const KxResult<QString> path = writer->Finish();
-        EXPECT_TRUE(path) << path.Sentence().toStdString();
+        EXPECT_TRUE(path) << path.Message().toStdString();
         return path ? *path : QString();
     }
 

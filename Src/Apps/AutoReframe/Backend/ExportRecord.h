@@ -6,6 +6,6 @@
 
 namespace ExportRecord
 {
-/// What the dialog's record orders, without its source; the sentence of a failure says what the record lacks. Pure.
+/// What the dialog's record orders, without its source; the error message says what the record lacks. Pure.
 KxResult<ExportOrder> Read(const QVariant& record);
 } // namespace ExportRecord

@@ -55,12 +55,12 @@ void Order(IKxTimeline* timeline, const QVariant& record, const ReframeCallbacks
 {
     KxResult<ExportOrder> order = ExportRecord::Read(record);
     if (!order) {
-        callbacks.refused(order.Sentence());
+        callbacks.refused(order.Message());
         return;
     }
     KxResult<KxRenderSource> source = KxRenderSource::FromTimeline(*timeline);
     if (!source) {
-        callbacks.refused(source.Sentence());
+        callbacks.refused(source.Message());
         return;
     }
     order->source = std::make_shared<TimelineSource>(std::move(*source));
@@ -81,7 +81,7 @@ KxResult<StudioMedia> MediaStudio::Open(const QString& path, const KxCancelToken
     using Opened = KxResult<StudioMedia>;
     KxResult<std::unique_ptr<KxMediaItem>> item = KxMediaItem::Open(path, cancel);
     if (!item) {
-        return Opened::Failure(item.Sentence());
+        return Opened::Failure(item.Message());
     }
     if (!(*item)->mediaInfo()->hasVideoStream()) {
         return Opened::Failure(QCoreApplication::translate("MediaStudio", "Cannot open %1: it has no moving picture.")
@@ -163,7 +163,7 @@ std::unique_ptr<RenderTask> MediaStudio::Render(const ExportOrder& order, const 
     KxRenderJob::Callbacks heard;
     heard.progress = callbacks.progress;
     heard.finished = [finished = callbacks.finished](const KxRenderResult& result) {
-        finished({result.outcome, result.sentence, result.outputPath, result.warning});
+        finished({result.outcome, result.message, result.outputPath, result.warning});
     };
     return std::make_unique<JobTask>(static_cast<const TimelineSource&>(*order.source).source, settings, heard);
 }

@@ -62,7 +62,7 @@ struct ExportOrder {
 struct RenderEnd {
     KxOutcome outcome = KxOutcome::Failed;
     /// Why it failed, for a person; empty otherwise.
-    QString sentence;
+    QString message;
     /// The file that was written; empty unless done.
     QString filePath;
     /// What a person should know of a file that was written all the same; mostly empty.
@@ -92,8 +92,8 @@ protected:
 /// Heard while the dialog is open, on the user-interface thread.
 struct ReframeCallbacks {
     std::function<void(const ExportOrder& order)> ordered;
-    /// A result could not be ordered; the sentence says why.
-    std::function<void(const QString& sentence)> refused;
+    /// A result could not be ordered; the message says why.
+    std::function<void(const QString& message)> refused;
     /// The machine is said to be too weak for the analysis.
     std::function<void()> unsupported;
 };
@@ -105,7 +105,7 @@ class Studio
 public:
     virtual ~Studio();
 
-    /// Blocks while the file's header and first picture are read; any thread. The sentence of a failure names the file
+    /// Blocks while the file's header and first picture are read; any thread. The error message names the file
     /// and the reason.
     virtual KxResult<StudioMedia> Open(const QString& path, const KxCancelToken& cancel) = 0;
     /// Asks for a picture of the video that fits into `roomPx` and returns the request's number. `ready` is called

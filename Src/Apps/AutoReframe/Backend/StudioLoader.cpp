@@ -48,7 +48,7 @@ void StudioLoader::Start()
     m_thread = std::thread([this] {
         KxResult<std::shared_ptr<Studio>> made = m_maker();
         m_made = made ? *made : nullptr;
-        m_sentence = made.Sentence();
+        m_message = made.Message();
         QMetaObject::invokeMethod(this, &StudioLoader::Finish, Qt::QueuedConnection);
     });
 }
@@ -75,8 +75,8 @@ Studio* StudioLoader::IfThere() const
     return m_isFinished ? m_made.get() : nullptr;
 }
 
-const QString& StudioLoader::Sentence() const
+const QString& StudioLoader::Message() const
 {
     static const QString unknown;
-    return m_isFinished ? m_sentence : unknown;
+    return m_isFinished ? m_message : unknown;
 }

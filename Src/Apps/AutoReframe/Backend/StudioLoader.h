@@ -28,10 +28,10 @@ public:
     /// Null until it is there; never waits.
     Studio* IfThere() const;
     /// Why there is no studio; empty while that is not known.
-    const QString& Sentence() const;
+    const QString& Message() const;
 
 Q_SIGNALS:
-    /// Once; IfThere() or Sentence() tell the outcome.
+    /// Once; IfThere() or Message() tell the outcome.
     void sigFinished();
 
 private:
@@ -43,5 +43,5 @@ private:
     bool m_isFinished = false;
     // Written by the thread, read once it was joined.
     std::shared_ptr<Studio> m_made;
-    QString m_sentence;
+    QString m_message;
 };

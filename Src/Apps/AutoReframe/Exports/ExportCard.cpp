@@ -124,7 +124,7 @@ void ExportCard::Show(const ExportItem& item)
     m_size->setVisible(isActive);
     m_retry->setVisible(item.state == State::Failed || item.state == State::Cancelled);
     m_show->setVisible(item.state == State::Done);
-    // Figures that run have to stand still; a sentence looks like every other text.
+    // Figures that run have to stand still; a message looks like every other text.
     m_status->setFont(Small(isActive ? KxUIStyle::TabularFont() : font()));
     SetTextRole(*m_status, item.state == State::Failed ? QStringLiteral("error") : QStringLiteral("muted"));
     ShowTexts();
@@ -136,7 +136,7 @@ void ExportCard::ShowTexts()
     m_name->setText(name);
     m_name->setToolTip(QDir::toNativeSeparators(m_item.filePath));
     m_status->setText(StatusText());
-    m_status->setToolTip(m_item.sentence);
+    m_status->setToolTip(m_item.message);
     m_size->setText(MediaText::Resolution(m_item.order.resolution));
     m_bar->setAccessibleName(tr("Progress of %1").arg(name));
     m_cancel->setAccessibleName(tr("Cancel %1").arg(name));
@@ -158,10 +158,10 @@ QString ExportCard::StatusText() const
         return tr("Cancelling…");
     case State::Done: {
         const QString done = tr("Done · %1").arg(MediaText::FileSize(m_item.fileBytes));
-        return m_item.sentence.isEmpty() ? done : QStringLiteral("%1 · %2").arg(done, m_item.sentence);
+        return m_item.message.isEmpty() ? done : QStringLiteral("%1 · %2").arg(done, m_item.message);
     }
     case State::Failed:
-        return m_item.sentence;
+        return m_item.message;
     case State::Cancelled:
         return tr("Cancelled");
     }

@@ -70,7 +70,7 @@ void ExportQueue::Retry(int id)
     found->state = State::Waiting;
     found->progress = 0;
     found->secondsLeft.reset();
-    found->sentence.clear();
+    found->message.clear();
     found->filePath = found->order.filePath;
     // Behind the others in the queue, where it is on the list.
     std::rotate(found, found + 1, m_items.end());
@@ -184,14 +184,14 @@ void ExportQueue::HandleFinished(int id, const RenderEnd& end)
             item->progress = whole;
             item->filePath = end.filePath;
             item->fileBytes = QFileInfo(end.filePath).size();
-            item->sentence = end.warning;
+            item->message = end.warning;
             break;
         case KxOutcome::Cancelled:
             item->state = State::Cancelled;
             break;
         case KxOutcome::Failed:
             item->state = State::Failed;
-            item->sentence = end.sentence;
+            item->message = end.message;
             break;
         }
         Q_EMIT sigChanged(id);

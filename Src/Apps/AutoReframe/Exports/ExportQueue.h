@@ -20,7 +20,7 @@ struct ExportItem {
     std::optional<qint64> secondsLeft;
     QString filePath;     ///< the wished one, the written one once done
     qint64 fileBytes = 0; ///< once done
-    QString sentence;     ///< why it failed, or a warning about what was written
+    QString message;      ///< why it failed, or a warning about what was written
 
     bool IsFinished() const { return state == State::Done || state == State::Failed || state == State::Cancelled; }
 };

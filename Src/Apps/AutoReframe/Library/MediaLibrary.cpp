@@ -55,7 +55,7 @@ void MediaLibrary::StartLoading()
 {
     Studio* const studio = m_studio.IfThere();
     if (studio == nullptr) {
-        m_refused += m_studio.Sentence();
+        m_refused += m_studio.Message();
         for (const int id : qAsConst(m_opening)) {
             m_model.Remove(id);
         }
@@ -82,7 +82,7 @@ void MediaLibrary::HandleOpened(int id, const KxResult<StudioMedia>& media)
         RequestThumbnail(id, media->path);
         Q_EMIT sigOpened(id);
     } else {
-        m_refused += media.Sentence();
+        m_refused += media.Message();
         m_model.Remove(id);
     }
     TellRefused();
@@ -123,8 +123,8 @@ void MediaLibrary::SetDevicePixelRatio(qreal ratio)
 void MediaLibrary::TellRefused()
 {
     if (m_opening.isEmpty() && !m_refused.isEmpty()) {
-        const QStringList sentences = m_refused;
+        const QStringList messages = m_refused;
         m_refused.clear();
-        Q_EMIT sigRefused(sentences);
+        Q_EMIT sigRefused(messages);
     }
 }

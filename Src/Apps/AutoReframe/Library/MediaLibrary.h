@@ -29,7 +29,7 @@ public:
 
 Q_SIGNALS:
     /// Each with the name and the reason.
-    void sigRefused(const QStringList& sentences);
+    void sigRefused(const QStringList& messages);
     /// The videos that an import named, whether new or not.
     void sigImported(const QModelIndexList& videos);
     /// A video was opened.
