@@ -2,6 +2,7 @@
 
 #include <KxPlayer/KxPlaySource.h>
 
+#include <KxCore/KxFrameTime.h>
 #include <KxCore/KxLog.h>
 
 #include <algorithm>
@@ -15,7 +16,7 @@ constexpr qint64 SkipFromUs = 250000;
 
 qint64 DurationUs(qint64 frames)
 {
-    return frames * 1000000 / KxSoundDevice::SampleRateHz;
+    return KxFrameTime::ToMicroseconds(frames, {KxSoundDevice::SampleRateHz, 1}, KxFrameTime::Rounding::Down);
 }
 
 } // namespace

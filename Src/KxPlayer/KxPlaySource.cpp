@@ -1,5 +1,6 @@
 #include <KxPlayer/KxPlaySource.h>
 
+#include <KxCore/KxFrameTime.h>
 #include <KxModel/KxClip.h>
 #include <KxModel/KxCropKeyFrames.h>
 
@@ -12,7 +13,6 @@
 namespace
 {
 
-constexpr qint64 UsPerSecond = 1000000;
 // What a crop must be at least, so that dividing by it stays harmless.
 constexpr double SmallestCrop = 1e-3;
 
@@ -57,15 +57,13 @@ std::shared_ptr<const KxPlaySource> KxPlaySource::Of(const IKxTimeline& timeline
 
 qint64 KxPlaySource::TimeUs(qint64 frame) const
 {
-    // Rounded up, so that the frame at this time is `frame` again.
-    const qint64 scaled = frame * frameRate.denominator * UsPerSecond;
-    return (scaled + frameRate.numerator - 1) / frameRate.numerator;
+    // Rounded up, so that FrameAt() of this time is `frame`.
+    return KxFrameTime::ToMicroseconds(frame, frameRate, KxFrameTime::Rounding::Up);
 }
 
 int KxPlaySource::FrameAt(qint64 timeUs) const
 {
-    const qint64 inUnits = UsPerSecond * frameRate.denominator;
-    const qint64 frame = timeUs / inUnits * frameRate.numerator + timeUs % inUnits * frameRate.numerator / inUnits;
+    const qint64 frame = KxFrameTime::FromMicroseconds(timeUs, frameRate, KxFrameTime::Rounding::Down);
     return static_cast<int>(std::clamp<qint64>(frame, 0, std::numeric_limits<int>::max()));
 }
 

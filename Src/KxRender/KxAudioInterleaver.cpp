@@ -1,14 +1,10 @@
 #include <KxRender/KxAudioInterleaver.h>
 
+#include <KxCore/KxFrameTime.h>
+
 #include <algorithm>
-#include <cmath>
 
-namespace
-{
-
-constexpr qint64 MicrosecondsPerSecond = 1000000;
-
-} // namespace
+using KxFrameTime::Rounding;
 
 KxAudioInterleaver::KxAudioInterleaver(std::unique_ptr<KxAudioReader> reader, const KxAudioReader::Format& format)
     : m_reader(std::move(reader))
@@ -30,7 +26,7 @@ bool KxAudioInterleaver::Fill()
     m_hasFailed = status == KxReadStatus::Failed;
     if (!m_hasEnded && !m_hasStarted) {
         m_hasStarted = true;
-        m_nextSample = m_block.timeUs * m_format.sampleRateHz / MicrosecondsPerSecond;
+        m_nextSample = KxFrameTime::FromMicroseconds(m_block.timeUs, {m_format.sampleRateHz, 1}, Rounding::Nearest);
     }
     return !m_hasEnded;
 }
@@ -38,14 +34,14 @@ bool KxAudioInterleaver::Fill()
 KxError KxAudioInterleaver::FeedUntil(qint64 frames, const KxRational& rate, KxMp4Writer& writer)
 {
     const auto channels = static_cast<size_t>(m_format.channels);
-    const double seconds = static_cast<double>(frames) * rate.denominator / rate.numerator;
-    const auto endSample = static_cast<qint64>(std::floor(seconds * m_format.sampleRateHz));
+    const qint64 endSample =
+        KxFrameTime::Rescale(frames, qint64{rate.denominator} * m_format.sampleRateHz, rate.numerator, Rounding::Down);
     while (Fill() && m_nextSample < endSample) {
         const size_t left = (m_block.samples.size() - m_usedValues) / channels;
         const size_t taken = std::min(left, static_cast<size_t>(endSample - m_nextSample));
         const auto first = m_block.samples.begin() + static_cast<std::ptrdiff_t>(m_usedValues);
         KxAudioBlock part;
-        part.timeUs = m_nextSample * MicrosecondsPerSecond / m_format.sampleRateHz;
+        part.timeUs = KxFrameTime::ToMicroseconds(m_nextSample, {m_format.sampleRateHz, 1}, Rounding::Down);
         part.channels = m_format.channels;
         part.samples.assign(first, first + static_cast<std::ptrdiff_t>(taken * channels));
         m_nextSample += static_cast<qint64>(taken);

@@ -1,8 +1,9 @@
 #include <KxRender/KxOutputGrid.h>
 
+#include <KxCore/KxFrameTime.h>
+
 #include <algorithm>
 #include <cmath>
-#include <limits>
 #include <numeric>
 
 namespace
@@ -27,16 +28,6 @@ std::optional<KxRational> Rationalised(double rate)
     return KxRational{thousandths / divisor, 1000 / divisor};
 }
 
-// floor(value * numerator / denominator) for values of any size.
-qint64 Scaled(qint64 value, qint64 numerator, qint64 denominator)
-{
-    if (value <= std::numeric_limits<qint64>::max() / numerator) {
-        return value * numerator / denominator;
-    }
-    return static_cast<qint64>(std::floor(static_cast<long double>(value) * static_cast<long double>(numerator) /
-                                          static_cast<long double>(denominator)));
-}
-
 } // namespace
 
 std::optional<KxOutputGrid> KxOutputGrid::Make(const KxRational& sourceRate, qint64 sourceFrames, double wantedRate)
@@ -59,11 +50,12 @@ KxOutputGrid::KxOutputGrid(const KxRational& sourceRate, qint64 sourceFrames, co
     const qint64 divisor = std::gcd(numerator, denominator);
     m_stepNumerator = numerator / divisor;
     m_stepDenominator = denominator / divisor;
-    // Half a frame is rounded up: the doubled length, plus one, halved.
-    m_frames = std::max<qint64>(1, (Scaled(2 * sourceFrames, m_stepDenominator, m_stepNumerator) + 1) / 2);
+    m_frames = std::max<qint64>(
+        1, KxFrameTime::Rescale(sourceFrames, m_stepDenominator, m_stepNumerator, KxFrameTime::Rounding::Nearest));
 }
 
 qint64 KxOutputGrid::SourceFrame(qint64 frame) const
 {
-    return std::min(Scaled(frame, m_stepNumerator, m_stepDenominator), m_sourceFrames - 1);
+    return std::min(KxFrameTime::Rescale(frame, m_stepNumerator, m_stepDenominator, KxFrameTime::Rounding::Down),
+                    m_sourceFrames - 1);
 }

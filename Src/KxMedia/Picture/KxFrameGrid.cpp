@@ -1,8 +1,9 @@
 #include <KxMedia/Picture/KxFrameGrid.h>
 
+#include <KxCore/KxFrameTime.h>
+
 extern "C" {
 #include <libavutil/common.h>
-#include <libavutil/mathematics.h>
 }
 
 #include <algorithm>
@@ -10,6 +11,9 @@ extern "C" {
 
 namespace
 {
+
+// Far beyond any grid, and small enough to be added to.
+constexpr qint64 LargestIndex = std::numeric_limits<qint64>::max() / 2;
 
 bool IsSane(const KxRational& rate)
 {
@@ -39,22 +43,26 @@ qint64 KxFrameGrid::IndexOf(qint64 ticks) const
     if (distance <= 0) {
         return 0;
     }
-    const qint64 index = av_rescale_q_rnd(distance, {m_timeBase.numerator, m_timeBase.denominator},
-                                          {m_rate.denominator, m_rate.numerator}, AV_ROUND_NEAR_INF);
-    return index < 0 ? std::numeric_limits<qint64>::max() / 2 : index;
+    const qint64 index =
+        KxFrameTime::Rescale(distance, qint64{m_timeBase.numerator} * m_rate.numerator,
+                             qint64{m_timeBase.denominator} * m_rate.denominator, KxFrameTime::Rounding::Nearest);
+    return std::min(index, LargestIndex);
+}
+
+qint64 KxFrameGrid::Ticks(qint64 frames) const
+{
+    return KxFrameTime::Rescale(frames, qint64{m_rate.denominator} * m_timeBase.denominator,
+                                qint64{m_rate.numerator} * m_timeBase.numerator, KxFrameTime::Rounding::Nearest);
 }
 
 qint64 KxFrameGrid::TicksAt(qint64 index) const
 {
-    const qint64 distance = av_rescale_q_rnd(index, {m_rate.denominator, m_rate.numerator},
-                                             {m_timeBase.numerator, m_timeBase.denominator}, AV_ROUND_NEAR_INF);
-    return av_sat_add64(m_firstTicks, distance);
+    return av_sat_add64(m_firstTicks, Ticks(index));
 }
 
 qint64 KxFrameGrid::StepTicks() const
 {
-    return std::max<qint64>(
-        1, av_rescale_q(1, {m_rate.denominator, m_rate.numerator}, {m_timeBase.numerator, m_timeBase.denominator}));
+    return std::max<qint64>(1, Ticks(1));
 }
 
 qint64 KxFrameGrid::LengthUpTo(qint64 lastTicks, qint64 durationTicks) const

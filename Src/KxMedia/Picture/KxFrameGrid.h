@@ -34,6 +34,9 @@ public:
     qint64 LengthUpTo(qint64 lastTicks, qint64 durationTicks) const;
 
 private:
+    /// The length of that many frames.
+    qint64 Ticks(qint64 frames) const;
+
     KxRational m_rate;
     KxRational m_timeBase;
     qint64 m_firstTicks;

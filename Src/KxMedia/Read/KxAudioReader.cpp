@@ -1,10 +1,10 @@
 #include <KxMedia/Read/KxAudioReader.h>
 
+#include <KxCore/KxFrameTime.h>
 #include <KxMedia/Read/KxAudioTrack.h>
 #include <KxMedia/Read/KxVideoSource.h>
 
 #include <algorithm>
-#include <cmath>
 
 namespace
 {
@@ -111,7 +111,7 @@ void KxAudioReader::Impl::MakeBlock(qint64 frames, KxAudioBlock& block)
 {
     const qint64 had = static_cast<qint64>(block.samples.size()) / format.channels;
     if (had == 0) {
-        block.timeUs = *next * 1000000 / format.sampleRateHz;
+        block.timeUs = KxFrameTime::ToMicroseconds(*next, {format.sampleRateHz, 1}, KxFrameTime::Rounding::Down);
     }
     const qint64 silence = std::min(frames - had, run.position - *next);
     block.samples.insert(block.samples.end(), static_cast<size_t>(silence * format.channels), 0.0F);
@@ -181,6 +181,6 @@ KxReadStatus KxAudioReader::Next(KxAudioBlock& block)
 
 void KxAudioReader::Seek(qint64 timeUs)
 {
-    const double samples = static_cast<double>(timeUs) * m_impl->format.sampleRateHz / 1000000.0;
-    m_impl->Seek(std::llround(samples));
+    m_impl->Seek(
+        KxFrameTime::FromMicroseconds(timeUs, {m_impl->format.sampleRateHz, 1}, KxFrameTime::Rounding::Nearest));
 }
