@@ -1,6 +1,7 @@
 #include <Apps/Reframe/AnalysisPlot.h>
 
 #include <Apps/Reframe/FoundSignals.h>
+#include <KxCore/KxTimeText.h>
 
 #include <QBuffer>
 #include <QImage>
@@ -233,7 +234,7 @@ QString AnalysisPlot::TimeAxis(double top) const
     for (int i = 0; i * stepS <= lengthS; ++i) {
         const double x = X(i * stepS * rate);
         const auto seconds = static_cast<int>(std::floor(i * stepS + 1e-6));
-        QString label = QStringLiteral("%1:%2").arg(seconds / 60).arg(seconds % 60, 2, 10, QLatin1Char('0'));
+        QString label = KxTimeText::MinutesSeconds(seconds);
         if (stepS < 1.0) {
             label += QStringLiteral(".%1").arg(qRound(i * stepS * 10) % 10);
         }

@@ -3,7 +3,7 @@
 #include <Apps/Reframe/AnalysisPlot.h>
 #include <Apps/Reframe/DrawnCrop.h>
 #include <Apps/Reframe/FoundSignals.h>
-#include <Apps/Reframe/FrameClock.h>
+#include <KxCore/KxFrameTime.h>
 
 #include <QColor>
 #include <QFileInfo>
@@ -148,7 +148,7 @@ private:
     QString HeadName() const { return IsAcross() ? m_plot.EndName() : m_plot.StartName(); }
     bool IsAcross() const { return m_findings.freeAxis == KxAxis::Across; }
 
-    QString Clock(qint64 frame) const { return FrameClock::Text(frame, m_track.frameRate); }
+    QString Clock(qint64 frame) const { return KxFrameTime::Text(frame, m_track.frameRate); }
 
     QString PathLegend() const
     {

@@ -2,7 +2,7 @@
 
 #include <Apps/Reframe/DrawnCrop.h>
 #include <Apps/Reframe/FoundSignals.h>
-#include <Apps/Reframe/FrameClock.h>
+#include <KxCore/KxFrameTime.h>
 
 #include <QPainter>
 
@@ -95,7 +95,7 @@ void PreviewOverlay::DrawPanel(QPainter& painter, const QSizeF& picture, qint64 
         painter.setPen(faintInk);
         painter.drawText(area, Qt::AlignRight | Qt::AlignVCenter, right);
     };
-    write(row, QStringLiteral("Frame %1").arg(frame), FrameClock::Text(frame, m_frameRate));
+    write(row, QStringLiteral("Frame %1").arg(frame), KxFrameTime::Text(frame, m_frameRate));
     if (!explains) {
         return;
     }

@@ -1,16 +1,6 @@
 #include <KrAutoReframe/Engine/KrTimeCode.h>
 
-#include <QStringList>
-
-namespace
-{
-
-QString TwoDigits(int number)
-{
-    return (number < 10 ? QStringLiteral("0%1") : QStringLiteral("%1")).arg(number);
-}
-
-} // namespace
+#include <KxCore/KxTimeText.h>
 
 QString KrTimeCode::ToText(int frame, float frameRate, Detail detail)
 {
@@ -19,9 +9,6 @@ QString KrTimeCode::ToText(int frame, float frameRate, Detail detail)
     const int frames = frame % wholeRate;
     const int seconds = static_cast<int>(static_cast<float>(frame - frames) / frameRate);
 
-    QStringList parts{TwoDigits(seconds / 3600), TwoDigits(seconds / 60 % 60), TwoDigits(seconds % 60)};
-    if (detail == Detail::Frames) {
-        parts.append(TwoDigits(frames));
-    }
-    return parts.join(QLatin1Char(':'));
+    const QString text = KxTimeText::HoursMinutesSeconds(seconds);
+    return detail == Detail::Seconds ? text : QStringLiteral("%1:%2").arg(text, KxTimeText::Padded(frames, 2));
 }

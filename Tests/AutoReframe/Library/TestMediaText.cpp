@@ -13,14 +13,6 @@ TEST(TestMediaText, FrameRatesAreRoundedToHundredths)
     EXPECT_EQ(MediaText::FrameRate({0, 0}), QString());
 }
 
-TEST(TestMediaText, LengthsAreRoundedDownToSeconds)
-{
-    EXPECT_EQ(MediaText::Length(1260, {30, 1}), QStringLiteral("00:42"));
-    EXPECT_EQ(MediaText::Length(1, {30, 1}), QStringLiteral("00:01"));
-    EXPECT_EQ(MediaText::Length(3797 * 25, {25, 1}), QStringLiteral("1:03:17"));
-    EXPECT_EQ(MediaText::Length(10, {0, 1}), QString());
-}
-
 TEST(TestMediaText, FileSizesKeepTwoFigures)
 {
     EXPECT_EQ(MediaText::FileSize(34LL * 1024 * 1024), QStringLiteral("34 MB"));

@@ -1,6 +1,7 @@
 #include <Apps/AutoReframe/Library/MediaLibraryModel.h>
 
 #include <Apps/AutoReframe/Library/MediaText.h>
+#include <KxCore/KxFrameTime.h>
 
 #include <QDir>
 #include <QFileInfo>
@@ -141,7 +142,7 @@ QVariant MediaLibraryModel::EntryData(const Entry& entry, int role) const
     case DetailsRole:
         return entry.media ? MediaText::Details(entry.media->resolution, entry.media->frameRate) : tr("Opening…");
     case LengthRole:
-        return entry.media ? MediaText::Length(entry.media->frameCount, entry.media->frameRate) : QString();
+        return entry.media ? KxFrameTime::LengthText(entry.media->frameCount, entry.media->frameRate) : QString();
     case ThumbnailRole:
         return entry.thumbnail;
     default:

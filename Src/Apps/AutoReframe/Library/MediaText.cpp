@@ -15,11 +15,6 @@ QString Translated(const char* text)
     return QCoreApplication::translate("MediaText", text);
 }
 
-QString TwoDigits(qint64 number)
-{
-    return QStringLiteral("%1").arg(number, 2, 10, QLatin1Char('0'));
-}
-
 } // namespace
 
 QString MediaText::Resolution(const QSize& resolution)
@@ -40,16 +35,6 @@ QString MediaText::Details(const QSize& resolution, const KxRational& rate)
 {
     const QString fps = FrameRate(rate);
     return fps.isEmpty() ? Resolution(resolution) : QStringLiteral("%1 · %2").arg(Resolution(resolution), fps);
-}
-
-QString MediaText::Length(qint64 frameCount, const KxRational& rate)
-{
-    if (!rate.IsPositive()) {
-        return {};
-    }
-    const qint64 seconds = std::max<qint64>(1, frameCount * rate.denominator / rate.numerator);
-    const QString rest = QStringLiteral("%1:%2").arg(TwoDigits(seconds % hour / minute), TwoDigits(seconds % minute));
-    return seconds < hour ? rest : QStringLiteral("%1:%2").arg(seconds / hour).arg(rest);
 }
 
 QString MediaText::FileSize(qint64 bytes)

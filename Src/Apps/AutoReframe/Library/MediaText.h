@@ -14,8 +14,6 @@ QString Resolution(const QSize& resolution);
 QString FrameRate(const KxRational& rate);
 /// "1920 × 1080 · 30 fps".
 QString Details(const QSize& resolution, const KxRational& rate);
-/// "00:42", "1:03:17"; rounded down, yet at least a second. Empty when the rate is unknown.
-QString Length(qint64 frameCount, const KxRational& rate);
 /// "34 MB": whole megabytes from ten on, one decimal below, kilobytes below a tenth.
 QString FileSize(qint64 bytes);
 /// "8 s left", "2 min 5 s left", "1 h 5 min left".
