@@ -1,5 +1,6 @@
 #include <KxPlayer/KxPictureMaker.h>
 
+#include <KxCore/KxCropWindow.h>
 #include <KxPlayer/KxPicturePlace.h>
 
 #include <QPainter>
@@ -50,8 +51,8 @@ QImage KxPictureMaker::Cut(const KxVideoFrame& decoded, const QRectF& crop, cons
     // The whole picture shrinks first, in one good step, to where the crop has about the wanted size; never beyond the
     // source's own pixels, so that a small crop costs no more than a large one. Its fractions of a pixel are met below.
     const QSize displayed = decoded.DisplayedSize();
-    const double scale = std::min(1.0, std::max(size.width() / (crop.width() * displayed.width()),
-                                                size.height() / (crop.height() * displayed.height())));
+    const QRectF cropPx = KxCropWindow::Pixels(crop, displayed);
+    const double scale = std::min(1.0, std::max(size.width() / cropPx.width(), size.height() / cropPx.height()));
     const QSize wholeSize = (QSizeF(displayed) * scale).toSize().expandedTo(QSize(1, 1));
     const QImage whole = Whole(decoded, wholeSize);
     if (whole.isNull()) {
@@ -63,8 +64,8 @@ QImage KxPictureMaker::Cut(const KxVideoFrame& decoded, const QRectF& crop, cons
     }
     QPainter painter(&cut);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    painter.drawImage(QRectF(QPointF(0, 0), QSizeF(size)), whole,
-                      QRectF(crop.x() * wholeSize.width(), crop.y() * wholeSize.height(),
-                             crop.width() * wholeSize.width(), crop.height() * wholeSize.height()));
+    const QTransform toWhole = QTransform::fromScale(static_cast<double>(wholeSize.width()) / displayed.width(),
+                                                     static_cast<double>(wholeSize.height()) / displayed.height());
+    painter.drawImage(QRectF(QPointF(0, 0), QSizeF(size)), whole, toWhole.mapRect(cropPx));
     return cut;
 }

@@ -1,5 +1,6 @@
 #include <KxPlayer/KxPlaySource.h>
 
+#include <KxCore/KxCropWindow.h>
 #include <KxCore/KxFrameTime.h>
 #include <KxModel/KxClip.h>
 #include <KxModel/KxCropKeyFrames.h>
@@ -12,9 +13,6 @@
 
 namespace
 {
-
-// What a crop must be at least, so that dividing by it stays harmless.
-constexpr double SmallestCrop = 1e-3;
 
 std::optional<int> PlayedAudio(const IKxClip& clip)
 {
@@ -73,14 +71,11 @@ std::optional<QRectF> KxPlaySource::CropAt(int frame) const
     if (!KxCropKeyFrames::Interpolate(cropKeyFrames, frame, &param)) {
         return std::nullopt;
     }
-    const QRectF& wanted = param.cropRect;
-    const double width = std::clamp(wanted.width(), SmallestCrop, 1.0);
-    const double height = std::clamp(wanted.height(), SmallestCrop, 1.0);
-    return QRectF(std::clamp(wanted.x(), 0.0, 1.0 - width), std::clamp(wanted.y(), 0.0, 1.0 - height), width, height);
+    return KxCropWindow::Inside(param.cropRect);
 }
 
 QSizeF KxPlaySource::ShapeAt(int frame, const QSize& picture) const
 {
     const std::optional<QRectF> crop = CropAt(frame);
-    return crop ? QSizeF(crop->width() * picture.width(), crop->height() * picture.height()) : QSizeF(resolution);
+    return crop ? KxCropWindow::Pixels(*crop, picture).size() : QSizeF(resolution);
 }

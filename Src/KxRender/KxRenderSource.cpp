@@ -1,5 +1,6 @@
 #include <KxRender/KxRenderSource.h>
 
+#include <KxCore/KxCropWindow.h>
 #include <KxModel/IKxKeyFrameHelper.h>
 #include <KxModel/IKxTimeline.h>
 
@@ -42,9 +43,5 @@ QRectF KxRenderSource::CropAt(qint64 frame, const QSize& picture, const QSize& t
         const qint64 last = static_cast<qint64>(crops->size()) - 1;
         return (*crops)[static_cast<size_t>(std::clamp<qint64>(frame, 0, last))];
     }
-    const double pictureAspect = static_cast<double>(picture.width()) / picture.height();
-    const double targetAspect = static_cast<double>(target.width()) / target.height();
-    const double width = std::min(1.0, targetAspect / pictureAspect);
-    const double height = std::min(1.0, pictureAspect / targetAspect);
-    return {(1.0 - width) / 2, (1.0 - height) / 2, width, height};
+    return KxCropWindow::Central(picture, target);
 }

@@ -1,17 +1,13 @@
 #include <Apps/Reframe/DrawnCrop.h>
 
-#include <QRegion>
+#include <KxCore/KxCropWindow.h>
 
-QRectF DrawnCrop::Area(const QRectF& area, const QRectF& crop)
-{
-    return {area.x() + crop.x() * area.width(), area.y() + crop.y() * area.height(), crop.width() * area.width(),
-            crop.height() * area.height()};
-}
+#include <QRegion>
 
 void DrawnCrop::Draw(QPainter& painter, const QRect& area, const QRectF& crop)
 {
     const QColor dimmed(0, 0, 0, 142);
-    const QRectF kept = Area(area, crop);
+    const QRectF kept = KxCropWindow::MappedTo(area, crop);
     QRegion outside(area);
     outside -= kept.toAlignedRect();
     for (const QRect& part : outside) {

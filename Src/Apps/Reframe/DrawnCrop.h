@@ -8,9 +8,6 @@ namespace DrawnCrop
 {
 constexpr QRgb accent = 0xFF55E5C5;
 
-/// Where `crop` (fractions of a picture) lies when the picture fills `area`, pixels.
-QRectF Area(const QRectF& area, const QRectF& crop);
-
-/// Dims what lies outside of `crop` and outlines it.
+/// Dims what lies outside of `crop` (fractions of a picture that fills `area`) and outlines it.
 void Draw(QPainter& painter, const QRect& area, const QRectF& crop);
 } // namespace DrawnCrop

@@ -1,5 +1,6 @@
 #include <KxMedia/Picture/KxFrameCutter.h>
 
+#include <KxCore/KxCropWindow.h>
 #include <KxMedia/Picture/KxFramePool.h>
 #include <KxMedia/Picture/KxPictureColour.h>
 #include <KxMedia/Picture/KxPictureTurner.h>
@@ -14,7 +15,6 @@ extern "C" {
 }
 
 #include <algorithm>
-#include <cmath>
 #include <cstdint>
 #include <cstring>
 
@@ -23,26 +23,6 @@ namespace
 
 using KxPlaneGeometry::PlaneSampling;
 using KxPlaneGeometry::Span;
-
-// Fractions of a picture come with rounding errors; without this step a crop of whole pixels would be resampled for
-// nothing.
-double Snapped(double px)
-{
-    constexpr double stepsPerPixel = 4096.0;
-    return std::round(px * stepsPerPixel) / stepsPerPixel;
-}
-
-bool IsUsable(const QRectF& crop)
-{
-    return std::isfinite(crop.x()) && std::isfinite(crop.y()) && std::isfinite(crop.width()) &&
-           std::isfinite(crop.height()) && crop.width() > 0.0 && crop.height() > 0.0;
-}
-
-Span PixelSpan(double start, double length, int picturePx)
-{
-    const double lengthPx = std::clamp(Snapped(length * picturePx), 1.0, static_cast<double>(picturePx));
-    return {std::clamp(Snapped(start * picturePx), 0.0, picturePx - lengthPx), lengthPx};
-}
 
 PlaneSampling ChromaSampling(const AVFrame& picture, const AVPixFmtDescriptor& format)
 {
@@ -69,26 +49,20 @@ PlaneSampling ChromaSampling(const AVFrame& picture, const AVPixFmtDescriptor& f
     }
 }
 
-// What of the decoded picture is wanted, in luma pixels.
-struct Window {
-    Span across;
-    Span down;
-};
-
 const AVPixFmtDescriptor& Describe(const AVFrame& picture)
 {
     return *av_pix_fmt_desc_get(static_cast<AVPixelFormat>(picture.format));
 }
 
-KxPlaneResampler::Request LumaRequest(const AVFrame& source, const Window& window, const AVFrame& target)
+KxPlaneResampler::Request LumaRequest(const AVFrame& source, const QRectF& windowPx, const AVFrame& target)
 {
     KxPlaneResampler::Request request;
     request.source = QSize(source.width, source.height);
     request.sourceBits = Describe(source).comp[0].depth;
-    request.left = window.across.start;
-    request.top = window.down.start;
-    request.width = window.across.length;
-    request.height = window.down.length;
+    request.left = windowPx.x();
+    request.top = windowPx.y();
+    request.width = windowPx.width();
+    request.height = windowPx.height();
     request.target = QSize(target.width, target.height);
     request.targetBits = Describe(target).comp[0].depth;
     request.mapping = target.color_range == AVCOL_RANGE_JPEG ? KxPlaneResampler::DepthMapping::Stretch
@@ -96,7 +70,7 @@ KxPlaneResampler::Request LumaRequest(const AVFrame& source, const Window& windo
     return request;
 }
 
-KxPlaneResampler::Request ChromaRequest(const AVFrame& source, const Window& window,
+KxPlaneResampler::Request ChromaRequest(const AVFrame& source, const QRectF& windowPx,
                                         const KxVideoFrame::Orientation& turn, const AVFrame& target)
 {
     const AVPixFmtDescriptor& from = Describe(source);
@@ -104,14 +78,16 @@ KxPlaneResampler::Request ChromaRequest(const AVFrame& source, const Window& win
     const PlaneSampling sourceSampling = ChromaSampling(source, from);
     const PlaneSampling targetSampling =
         to.log2_chroma_w != 0 ? KxPlaneGeometry::LeftSitedAfterTurn(turn) : PlaneSampling{};
-    KxPlaneResampler::Request request = LumaRequest(source, window, target);
+    KxPlaneResampler::Request request = LumaRequest(source, windowPx, target);
     request.source =
         QSize(AV_CEIL_RSHIFT(source.width, from.log2_chroma_w), AV_CEIL_RSHIFT(source.height, from.log2_chroma_h));
     request.target = QSize(target.width >> to.log2_chroma_w, target.height >> to.log2_chroma_h);
-    const Span across = KxPlaneGeometry::PlaneSpan(window.across, target.width, sourceSampling.horizontal,
-                                                   targetSampling.horizontal, request.target.width());
-    const Span down = KxPlaneGeometry::PlaneSpan(window.down, target.height, sourceSampling.vertical,
-                                                 targetSampling.vertical, request.target.height());
+    const Span across =
+        KxPlaneGeometry::PlaneSpan({windowPx.x(), windowPx.width()}, target.width, sourceSampling.horizontal,
+                                   targetSampling.horizontal, request.target.width());
+    const Span down =
+        KxPlaneGeometry::PlaneSpan({windowPx.y(), windowPx.height()}, target.height, sourceSampling.vertical,
+                                   targetSampling.vertical, request.target.height());
     request.left = across.start;
     request.top = down.start;
     request.width = across.length;
@@ -182,7 +158,7 @@ private:
 KxResult<KxVideoFrame> KxFrameCutter::Impl::Cut(const KxVideoFrame& picture, const QRectF& crop)
 {
     using Result = KxResult<KxVideoFrame>;
-    if (picture.IsNull() || !IsUsable(crop)) {
+    if (picture.IsNull() || !KxCropWindow::IsUsable(crop)) {
         return Result::Failure(QStringLiteral("Cannot cut a picture: the rectangle to cut out is empty."));
     }
     const AVFrame* const source = m_converter.Convert(picture.Picture());
@@ -192,7 +168,7 @@ KxResult<KxVideoFrame> KxFrameCutter::Impl::Cut(const KxVideoFrame& picture, con
                                    .arg(QLatin1String(name != nullptr ? name : "unknown")));
     }
     const KxVideoFrame::Orientation& turn = picture.Turn();
-    const QRectF codedCrop = KxPlaneGeometry::ToCoded(KxPlaneGeometry::MovedInside(crop), turn);
+    const QRectF codedCrop = KxPlaneGeometry::ToCoded(KxCropWindow::Inside(crop), turn);
     const bool isHighRange = KxPictureColour::IsHighDynamicRange(*source);
     // Tone mapping wants fine steps, and chroma for each pixel spares it a scaling of its own.
     const AVPixelFormat format = isHighRange ? AV_PIX_FMT_YUV444P10 : AV_PIX_FMT_YUV420P;
@@ -222,15 +198,14 @@ KxFrameCutter::Impl::Cutting KxFrameCutter::Impl::CutCoded(const AVFrame& source
     }
     KxPictureColour::Copy(source, *target);
     target->chroma_location = format == AV_PIX_FMT_YUV420P ? AVCHROMA_LOC_LEFT : AVCHROMA_LOC_UNSPECIFIED;
-    const Window window{PixelSpan(codedCrop.x(), codedCrop.width(), source.width),
-                        PixelSpan(codedCrop.y(), codedCrop.height(), source.height)};
-    const KxPlaneResampler::Request luma = LumaRequest(source, window, *target);
-    const KxPlaneResampler::Request chroma = ChromaRequest(source, window, turn, *target);
+    const QRectF windowPx = KxCropWindow::Pixels(codedCrop, QSize(source.width, source.height));
+    const KxPlaneResampler::Request luma = LumaRequest(source, windowPx, *target);
+    const KxPlaneResampler::Request chroma = ChromaRequest(source, windowPx, turn, *target);
     if (!CutPlane(source, 0, luma, *target) || !CutPlane(source, 1, chroma, *target) ||
         !CutPlane(source, 2, chroma, *target)) {
         return Cutting::Failure(QStringLiteral("Cannot cut a picture: it cannot be scaled from %1 x %2 to %3 x %4.")
-                                    .arg(window.across.length)
-                                    .arg(window.down.length)
+                                    .arg(windowPx.width())
+                                    .arg(windowPx.height())
                                     .arg(size.width())
                                     .arg(size.height()));
     }

@@ -1,14 +1,5 @@
 #include <KxMedia/Picture/KxPlaneGeometry.h>
 
-#include <algorithm>
-
-QRectF KxPlaneGeometry::MovedInside(const QRectF& crop)
-{
-    const double width = std::min(crop.width(), 1.0);
-    const double height = std::min(crop.height(), 1.0);
-    return {std::clamp(crop.x(), 0.0, 1.0 - width), std::clamp(crop.y(), 0.0, 1.0 - height), width, height};
-}
-
 QRectF KxPlaneGeometry::ToCoded(const QRectF& upright, const KxVideoFrame::Orientation& turn)
 {
     const double x = upright.x();

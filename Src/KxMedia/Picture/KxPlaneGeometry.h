@@ -23,9 +23,6 @@ struct Span {
     double length = 0.0;
 };
 
-/// The rectangle, in fractions, moved and, where it is larger than the picture, shrunk so that it lies inside.
-QRectF MovedInside(const QRectF& crop);
-
 /// The part of the picture as decoded that shows `upright` once it is turned. Both in fractions.
 QRectF ToCoded(const QRectF& upright, const KxVideoFrame::Orientation& turn);
 
