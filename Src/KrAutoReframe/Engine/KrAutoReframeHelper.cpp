@@ -120,18 +120,22 @@ bool KrAutoReframeHelper::RemoveKeyFrame(const uint& frame)
     return true;
 }
 
-void KrAutoReframeHelper::Undo()
+bool KrAutoReframeHelper::Undo()
 {
-    if (m_undoStack->canUndo()) {
-        m_undoStack->undo();
+    if (!m_undoStack->canUndo()) {
+        return false;
     }
+    m_undoStack->undo();
+    return true;
 }
 
-void KrAutoReframeHelper::Redo()
+bool KrAutoReframeHelper::Redo()
 {
-    if (m_undoStack->canRedo()) {
-        m_undoStack->redo();
+    if (!m_undoStack->canRedo()) {
+        return false;
     }
+    m_undoStack->redo();
+    return true;
 }
 
 QList<uint> KrAutoReframeHelper::GetEditPointFrames() const

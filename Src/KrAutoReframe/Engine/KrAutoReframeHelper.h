@@ -66,8 +66,10 @@ public:
     bool AddKeyFrame(const uint& frame, const QRectF& rect);
     /// Deletes an edit point, undoably; the frame counts as in `AddKeyFrame`. False when there is none.
     bool RemoveKeyFrame(const uint& frame);
-    void Undo();
-    void Redo();
+    /// False when there is nothing to undo.
+    bool Undo();
+    /// False when there is nothing to redo.
+    bool Redo();
 
     /// Frames of the edit points, ascending.
     QList<uint> GetEditPointFrames() const;

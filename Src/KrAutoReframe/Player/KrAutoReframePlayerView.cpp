@@ -89,6 +89,8 @@ void KrAutoReframePlayerView::ConnectSignals()
     if (m_helper) {
         connect(m_helper.data(), &KrAutoReframeHelper::sigCanUndoRedo, m_controlBar, &Bar::SetUndoRedoEnabled);
     }
+    connect(m_presenter, &KxMediaPlayerPresenter::sigPlayingChanged, this,
+            [this] { RefreshFrame(m_presenter->currentFrame()); });
 }
 
 void KrAutoReframePlayerView::Pause()
@@ -118,6 +120,7 @@ bool KrAutoReframePlayerView::SwitchTimeline(bool reframed, bool fromStart)
     if (!fromStart) {
         m_presenter->seek(frame, 0, 0);
     }
+    m_isReframedShown = reframed;
     m_shadowForm->setVisible(!reframed);
     RefreshFrame(m_presenter->currentFrame());
     UpdatePictureSize();
@@ -200,8 +203,16 @@ void KrAutoReframePlayerView::SeekTo(uint frame)
     }
 }
 
+void KrAutoReframePlayerView::ShowEdit()
+{
+    if (m_isReframedShown) {
+        m_presenter->openTimeline(m_helper->GetWorkTimeline(), true, true);
+    }
+}
+
 void KrAutoReframePlayerView::HandleTimelineOpened()
 {
+    m_isReframedShown = false;
     m_presenter->stop();
     m_presenter->openTimeline(m_helper->GetSourceTimeline(), true, false);
     UpdatePictureSize();
@@ -219,7 +230,9 @@ void KrAutoReframePlayerView::HandleRectChanged(const QRectF& rect)
         return;
     }
     PauseIfPlaying();
-    m_helper->AddKeyFrame(static_cast<uint>(m_presenter->currentFrame()), rect);
+    if (m_helper->AddKeyFrame(static_cast<uint>(m_presenter->currentFrame()), rect)) {
+        ShowEdit();
+    }
     RefreshFrame(m_presenter->currentFrame());
 }
 
@@ -229,7 +242,9 @@ void KrAutoReframePlayerView::HandleUndo()
         return;
     }
     PauseIfPlaying();
-    m_helper->Undo();
+    if (m_helper->Undo()) {
+        ShowEdit();
+    }
     RefreshFrame(m_presenter->currentFrame());
 }
 
@@ -239,7 +254,9 @@ void KrAutoReframePlayerView::HandleRedo()
         return;
     }
     PauseIfPlaying();
-    m_helper->Redo();
+    if (m_helper->Redo()) {
+        ShowEdit();
+    }
     RefreshFrame(m_presenter->currentFrame());
 }
 
@@ -249,7 +266,9 @@ void KrAutoReframePlayerView::HandleDelete()
         return;
     }
     PauseIfPlaying();
-    m_helper->RemoveKeyFrame(static_cast<uint>(m_presenter->currentFrame()));
+    if (m_helper->RemoveKeyFrame(static_cast<uint>(m_presenter->currentFrame()))) {
+        ShowEdit();
+    }
     RefreshFrame(m_presenter->currentFrame());
 }
 

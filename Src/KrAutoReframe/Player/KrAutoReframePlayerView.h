@@ -59,11 +59,13 @@ private:
     void ConnectSignals();
 
     void PauseIfPlaying();
-    /// Neither can an edit while the picture moves on be aimed, nor does its outline keep still: while playing no frame
-    /// counts as edited, and the buttons that work on the frame are off.
+    /// During playback no frame counts as edited and the buttons that work on a frame are disabled: an edit could not be
+    /// aimed and the outline would flicker.
     void RefreshOverlay(int frame);
     void RefreshButtons(int frame);
     void SeekTo(uint frame);
+    /// The player works on a copy of the keyframes, so the reframed video is opened again after each edit.
+    void ShowEdit();
 
     void HandleTimelineOpened();
     void HandleRectChanged(const QRectF& rect);
@@ -79,4 +81,5 @@ private:
     ShadowForm* m_shadowForm = nullptr;
     KrAutoReframePlayerControlBar* m_controlBar = nullptr;
     QSharedPointer<KrAutoReframeHelper> m_helper;
+    bool m_isReframedShown = false;
 };

@@ -5,6 +5,8 @@
 
 #include <QHash>
 
+#include <utility>
+
 namespace
 {
 
@@ -44,6 +46,19 @@ void FakePlayer::ShowFrame(KxMediaPlayerPresenter& presenter, int frame)
 {
     ScriptOf(presenter).currentFrame = frame;
     Q_EMIT presenter.sigFrameChanged(frame);
+}
+
+void FakePlayer::SetPlaying(KxMediaPlayerPresenter& presenter, bool isPlaying)
+{
+    if (std::exchange(ScriptOf(presenter).isPlaying, isPlaying) != isPlaying) {
+        Q_EMIT presenter.sigPlayingChanged(isPlaying);
+    }
+}
+
+void FakePlayer::ReachEnd(KxMediaPlayerPresenter& presenter)
+{
+    SetPlaying(presenter, false);
+    Q_EMIT presenter.sigReachedEnd();
 }
 
 IKxMediaPlayer::~IKxMediaPlayer() = default;
@@ -93,19 +108,19 @@ IKxMediaPlayer* KxMediaPlayerPresenter::mediaPlayer() const
 void KxMediaPlayerPresenter::play()
 {
     m_impl->script.calls.append(QStringLiteral("play"));
-    m_impl->script.isPlaying = true;
+    FakePlayer::SetPlaying(*this, true);
 }
 
 void KxMediaPlayerPresenter::pause()
 {
     m_impl->script.calls.append(QStringLiteral("pause"));
-    m_impl->script.isPlaying = false;
+    FakePlayer::SetPlaying(*this, false);
 }
 
 void KxMediaPlayerPresenter::stop()
 {
     m_impl->script.calls.append(QStringLiteral("stop"));
-    m_impl->script.isPlaying = false;
+    FakePlayer::SetPlaying(*this, false);
     m_impl->script.currentFrame = 0;
 }
 
@@ -123,8 +138,12 @@ void KxMediaPlayerPresenter::openTimeline(IKxTimeline* timeline, bool paused, bo
 {
     m_impl->script.calls.append(QStringLiteral("open %1 %2").arg(ToText(paused), ToText(keepPosition)));
     m_impl->script.opened.append(timeline);
-    m_impl->script.isPlaying = m_impl->script.isPlaying && !paused;
-    m_impl->script.currentFrame = 0;
+    if (!keepPosition) {
+        m_impl->script.currentFrame = 0;
+    }
+    if (paused) {
+        FakePlayer::SetPlaying(*this, false);
+    }
 }
 
 void KxMediaPlayerPresenter::seek(int frame, int second, int third)

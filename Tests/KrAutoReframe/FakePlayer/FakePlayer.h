@@ -8,8 +8,7 @@
 
 class IKxTimeline;
 
-/// A player that decodes nothing: what it tells is scripted, what is asked of it is recorded. It takes the place of the
-/// player library.
+/// A player that decodes nothing: its state is scripted and every call is recorded. It replaces the player library.
 namespace FakePlayer
 {
 
@@ -18,16 +17,21 @@ struct Script {
     int currentFrame = 0;
     float frameRate = 25.0f;
     QRect videoRect{0, 0, 640, 360};
-    /// Every operation that was called, in order, with its arguments.
+    /// Every call in order, with its arguments.
     QStringList calls;
-    /// The timelines of the calls "open", in order.
+    /// The timelines that the "open" calls were given, in order.
     QList<IKxTimeline*> opened;
 };
 
-/// What `presenter` tells and was asked; lives as long as it. Neither playing nor seeking changes the current frame.
+/// The state of `presenter` and the calls that it received; valid as long as the presenter. Neither playing nor seeking
+/// changes the current frame.
 Script& ScriptOf(const KxMediaPlayerPresenter& presenter);
 
-/// The picture of `frame` is on the screen from now on.
+/// Puts the picture of `frame` on the screen and reports it.
 void ShowFrame(KxMediaPlayerPresenter& presenter, int frame);
+/// Starts or ends playing and reports a change.
+void SetPlaying(KxMediaPlayerPresenter& presenter, bool isPlaying);
+/// Ends playing as the end of the timeline does.
+void ReachEnd(KxMediaPlayerPresenter& presenter);
 
 } // namespace FakePlayer

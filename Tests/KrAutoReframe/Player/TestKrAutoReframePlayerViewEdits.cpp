@@ -98,6 +98,92 @@ TEST_F(PlayerViewTest, WhilePlayingNoFrameLooksEdited)
     EXPECT_TRUE(Next().isEnabled());
 }
 
+TEST_F(PlayerViewTest, AfterPauseAndAtTheEndOfPlayingButtonsAndOutlineAreThoseOfTheFrame)
+{
+    ShowCrop();
+    Edit(20, Moved);
+    Edit(80, Moved);
+    Edit(50, Moved);
+    const auto expectEditedFrame = [this] {
+        EXPECT_EQ(Outline(), Edited);
+        EXPECT_TRUE(Delete().isEnabled());
+        EXPECT_TRUE(Previous().isEnabled());
+        EXPECT_TRUE(Next().isEnabled());
+    };
+    const auto playToFrame50 = [this] {
+        presenter->play();
+        ShowFrame(50);
+        EXPECT_EQ(Outline(), Plain);
+        EXPECT_FALSE(Delete().isEnabled());
+        EXPECT_FALSE(Previous().isEnabled());
+        EXPECT_FALSE(Next().isEnabled());
+    };
+    playToFrame50();
+    presenter->pause();
+    expectEditedFrame();
+    playToFrame50();
+    FakePlayer::ReachEnd(*presenter);
+    expectEditedFrame();
+}
+
+TEST_F(PlayerViewTest, WhenPlayingStartsNoFrameLooksEdited)
+{
+    ShowCrop();
+    Edit(50, Moved);
+    presenter->play();
+    EXPECT_EQ(Outline(), Plain);
+    EXPECT_FALSE(Delete().isEnabled());
+}
+
+TEST_F(PlayerViewTest, AnEditShowsInTheReframedVideoAtOnce)
+{
+    ShowCrop();
+    Edit(50, Moved);
+    Edit(51, Moved);
+    view->SwitchTimeline(true, false);
+    ShowFrame(50);
+    const QStringList reopened{QStringLiteral("open true true")};
+    for (const auto edit : {&KrAutoReframePlayerControlBar::sigUndo, &KrAutoReframePlayerControlBar::sigRedo,
+                            &KrAutoReframePlayerControlBar::sigDelete}) {
+        Calls().clear();
+        Script().opened.clear();
+        Q_EMIT(bar->*edit)();
+        EXPECT_EQ(Calls(), reopened);
+        EXPECT_EQ(Script().opened, QList<IKxTimeline*>{helper->GetWorkTimeline()});
+        EXPECT_EQ(presenter->currentFrame(), 50);
+    }
+}
+
+TEST_F(PlayerViewTest, TheReframedVideoIsNotReopenedWithoutAnEdit)
+{
+    ShowCrop();
+    view->SwitchTimeline(true, false);
+    ShowFrame(50);
+    Calls().clear();
+    Q_EMIT bar->sigUndo();
+    Q_EMIT bar->sigRedo();
+    Q_EMIT bar->sigDelete();
+    EXPECT_TRUE(Calls().isEmpty());
+}
+
+TEST_F(PlayerViewTest, AnEditDoesNotReopenTheSource)
+{
+    ShowCrop();
+    Edit(50, Moved);
+    view->SwitchTimeline(true, false);
+    view->SwitchTimeline(false, false);
+    Calls().clear();
+    Q_EMIT bar->sigUndo();
+    EXPECT_TRUE(Calls().isEmpty());
+
+    view->SwitchTimeline(true, false);
+    helper->SetTimeline(timeline);
+    Analyse();
+    Calls().clear();
+    Q_EMIT overlay->sigRectFChanged(Moved);
+    EXPECT_TRUE(Calls().isEmpty());
+}
+
 TEST_F(PlayerViewTest, UnderTheReframedVideoNoFrameCanBeEdited)
 {
     ShowCrop();
