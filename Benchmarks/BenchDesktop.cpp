@@ -4,8 +4,8 @@
 //   BenchDesktop memory CLIP... [--times N]   memory after each round of import, analysis, export and removal
 // Prints one line of JSON.
 
-#include <Apps/AutoReframe/Backend/MediaStudio.h>
-#include <Apps/AutoReframe/Backend/StudioLoader.h>
+#include <Apps/AutoReframe/Backend/HostMediaBackend.h>
+#include <Apps/AutoReframe/Backend/MediaBackendLoader.h>
 #include <Apps/AutoReframe/Exports/ExportQueue.h>
 #include <Apps/AutoReframe/MainWindow.h>
 #include <KxCore/KxMemory.h>
@@ -331,8 +331,9 @@ int main(int argc, char** argv)
     QApplication application(argc, argv);
     const Wish wish = Read(application);
     KxUIStyle::Apply(application);
-    StudioLoader studio([] { return std::shared_ptr<Studio>(std::make_shared<MediaStudio>()); }, nullptr);
-    MainWindow window(studio);
+    MediaBackendLoader backend([] { return std::shared_ptr<MediaBackend>(std::make_shared<HostMediaBackend>()); },
+                               nullptr);
+    MainWindow window(backend);
     window.show();
     std::thread thread([&] {
         int status = 0;

@@ -9,7 +9,7 @@ install(TARGETS KxInterfaces KxCore KxMedia KxSubject KxModel KxRender KxWidgets
     ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}")
 install(TARGETS reframe auto-reframe RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
 # Where the desktop program looks for it.
-install(TARGETS AutoReframeStudio LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}")
+install(TARGETS AutoReframeBackend LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}")
 install(FILES Packaging/auto-reframe.desktop DESTINATION "${CMAKE_INSTALL_DATADIR}/applications")
 install(FILES Packaging/icon/auto-reframe.svg DESTINATION "${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps")
 install(DIRECTORY include/ DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}" FILES_MATCHING PATTERN "*.h")

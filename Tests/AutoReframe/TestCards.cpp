@@ -36,7 +36,7 @@ TEST(MediaCardDelegateTest, ANameLooksTheSameBeforeAndAfterTheFileIsOpened)
     const MediaCardDelegate delegate(nullptr);
     const int id = model.Add(QStringLiteral("/clips/morning.mp4"));
     const QImage before = PaintedName(delegate, model.IndexOf(id));
-    StudioMedia media;
+    MediaFile media;
     media.resolution = QSize(1920, 1080);
     media.frameRate = {30, 1};
     media.frameCount = 900;

@@ -1,8 +1,8 @@
-#include <Apps/AutoReframe/Backend/StudioLoader.h>
+#include <Apps/AutoReframe/Backend/MediaBackendLoader.h>
 #include <Apps/AutoReframe/Exports/ExportQueue.h>
 #include <Apps/AutoReframe/Library/MediaLibraryView.h>
 #include <Apps/AutoReframe/MainWindow.h>
-#include <Tests/AutoReframe/Backend/FakeStudio.h>
+#include <Tests/AutoReframe/Backend/FakeMediaBackend.h>
 
 #include <KxWidgets/KrMessageDialog.h>
 #include <KxWidgets/KxFileDialog.h>
@@ -71,16 +71,18 @@ protected:
     {
         return QTest::qWaitFor([&] { return Button("TopBar_reframe")->isEnabled(); }, 10000);
     }
-    ExportOrder Order(const QString& name) const
+    ExportRequest Request(const QString& name) const
     {
-        ExportOrder order;
-        order.filePath = m_folder.filePath(name);
-        order.resolution = QSize(608, 1080);
-        return order;
+        ExportRequest request;
+        request.settings.outputPath = m_folder.filePath(name);
+        request.settings.resolution = QSize(608, 1080);
+        return request;
     }
-    void OrderInDialog(const QString& name)
+    void ExportInDialog(const QString& name)
     {
-        m_studio->inDialog = [this, name](const ReframeCallbacks& callbacks) { callbacks.ordered(Order(name)); };
+        m_backend->inDialog = [this, name](const DialogCallbacks& callbacks) {
+            callbacks.exportRequested(Request(name));
+        };
         Button("TopBar_reframe")->click();
     }
     bool WaitForCard(const QString& status) const
@@ -89,8 +91,8 @@ protected:
     }
 
     QTemporaryDir m_folder;
-    std::shared_ptr<FakeStudio> m_studio = std::make_shared<FakeStudio>();
-    StudioLoader m_loader{[this] { return KxResult<std::shared_ptr<Studio>>(m_studio); }, nullptr};
+    std::shared_ptr<FakeMediaBackend> m_backend = std::make_shared<FakeMediaBackend>();
+    MediaBackendLoader m_loader{[this] { return KxResult<std::shared_ptr<MediaBackend>>(m_backend); }, nullptr};
     QStringList m_told;
     bool m_answer = false;
     QStringList m_shownFiles;
@@ -99,16 +101,16 @@ protected:
 
 } // namespace
 
-TEST_F(TestMainWindow, StartsEmptyAndWithoutTheStudio)
+TEST_F(TestMainWindow, StartsEmptyAndWithoutTheBackend)
 {
     EXPECT_EQ(Text("StatusBar_text"), QStringLiteral("No videos yet"));
     EXPECT_FALSE(Button("TopBar_reframe")->isEnabled());
     EXPECT_TRUE(Button("TopBar_import")->isEnabled());
     QApplication::processEvents();
-    EXPECT_EQ(m_loader.IfThere(), nullptr);
+    EXPECT_EQ(m_loader.IfLoaded(), nullptr);
 }
 
-TEST_F(TestMainWindow, TellsOnceThatItIsPainted)
+TEST_F(TestMainWindow, ReportsOnceThatItIsPainted)
 {
     int painted = 0;
     QObject::connect(m_window.get(), &MainWindow::sigPainted, m_window.get(), [&painted] { ++painted; });
@@ -209,31 +211,31 @@ TEST_F(TestMainWindow, SelectionButtonReturnAndDoubleClickOpenTheDialog)
             .endsWith(QLatin1String("fps"));
     }));
     Button("TopBar_reframe")->click();
-    EXPECT_EQ(m_studio->reframed, (QStringList{QStringLiteral("a.mp4"), QStringLiteral("b.mp4")}));
+    EXPECT_EQ(m_backend->reframed, (QStringList{QStringLiteral("a.mp4"), QStringLiteral("b.mp4")}));
     View()->setCurrentIndex(View()->model()->index(1, 0));
     QTest::keyClick(View(), Qt::Key_Return);
-    EXPECT_EQ(m_studio->reframed, QStringList(QStringLiteral("b.mp4")));
+    EXPECT_EQ(m_backend->reframed, QStringList(QStringLiteral("b.mp4")));
     const QPoint card = View()->visualRect(View()->model()->index(0, 0)).center();
     QTest::mouseClick(View()->viewport(), Qt::LeftButton, Qt::NoModifier, card);
     QTest::mouseDClick(View()->viewport(), Qt::LeftButton, Qt::NoModifier, card);
-    EXPECT_EQ(m_studio->reframed, QStringList(QStringLiteral("a.mp4")));
-    EXPECT_EQ(m_studio->dialogs, 3);
+    EXPECT_EQ(m_backend->reframed, QStringList(QStringLiteral("a.mp4")));
+    EXPECT_EQ(m_backend->dialogs, 3);
 }
 
 TEST_F(TestMainWindow, NoSecondDialogOpensOverTheFirst)
 {
     Open({QStringLiteral("a.mp4")});
     ASSERT_TRUE(WaitUntilUsable());
-    m_studio->inDialog = [this](const ReframeCallbacks&) { Button("TopBar_reframe")->click(); };
+    m_backend->inDialog = [this](const DialogCallbacks&) { Button("TopBar_reframe")->click(); };
     Button("TopBar_reframe")->click();
-    EXPECT_EQ(m_studio->dialogs, 1);
+    EXPECT_EQ(m_backend->dialogs, 1);
 }
 
 TEST_F(TestMainWindow, AWeakMachineIsToldByTheProgram)
 {
     Open({QStringLiteral("a.mp4")});
     ASSERT_TRUE(WaitUntilUsable());
-    m_studio->inDialog = [](const ReframeCallbacks& callbacks) { callbacks.unsupported(); };
+    m_backend->inDialog = [](const DialogCallbacks& callbacks) { callbacks.unsupported(); };
     Button("TopBar_reframe")->click();
     ASSERT_EQ(m_told.size(), 1);
     EXPECT_TRUE(m_told.first().startsWith(QLatin1String("This computer may be too slow")));
@@ -243,16 +245,16 @@ TEST_F(TestMainWindow, AnExportGoesThroughItsStatesOnItsCard)
 {
     Open({QStringLiteral("a.mp4")});
     ASSERT_TRUE(WaitUntilUsable());
-    OrderInDialog(QStringLiteral("out.mp4"));
+    ExportInDialog(QStringLiteral("out.mp4"));
     EXPECT_EQ(Text("ExportCard_name"), QStringLiteral("out.mp4"));
     EXPECT_EQ(Text("ExportCard_size"), QStringLiteral("608 × 1080"));
-    m_studio->task->callbacks.progress(6250);
+    m_backend->task->callbacks.progress(6250);
     ASSERT_TRUE(WaitForCard(QStringLiteral("62 %")));
     EXPECT_EQ(Child<QProgressBar>("ExportCard_progress")->value(), 6250);
 
     QFile written(m_folder.filePath(QStringLiteral("out.mp4")));
     ASSERT_TRUE(written.open(QIODevice::WriteOnly) && written.resize(34LL * 1024 * 1024));
-    m_studio->task->EndWell();
+    m_backend->task->EndWell();
     ASSERT_TRUE(WaitForCard(QStringLiteral("Done · 34 MB")));
     EXPECT_FALSE(Button("ExportCard_cancel")->isVisible());
     Button("ExportCard_show")->click();
@@ -265,12 +267,12 @@ TEST_F(TestMainWindow, AFailedExportShowsItsReasonAndIsTriedAgain)
 {
     Open({QStringLiteral("a.mp4")});
     ASSERT_TRUE(WaitUntilUsable());
-    OrderInDialog(QStringLiteral("out.mp4"));
-    m_studio->task->End({KxOutcome::Failed, QStringLiteral("The disk is full."), QString(), QString()});
+    ExportInDialog(QStringLiteral("out.mp4"));
+    m_backend->task->End({KxOutcome::Failed, QStringLiteral("The disk is full."), QString(), QString()});
     ASSERT_TRUE(WaitForCard(QStringLiteral("The disk is full.")));
     EXPECT_EQ(Child<QLabel>("ExportCard_status")->property("textRole").toString(), QStringLiteral("error"));
     Button("ExportCard_retry")->click();
-    EXPECT_NE(m_studio->task, nullptr);
+    EXPECT_NE(m_backend->task, nullptr);
     EXPECT_TRUE(WaitForCard(QStringLiteral("0 %")));
 }
 
@@ -278,7 +280,7 @@ TEST_F(TestMainWindow, TheCrossCancelsAnExport)
 {
     Open({QStringLiteral("a.mp4")});
     ASSERT_TRUE(WaitUntilUsable());
-    OrderInDialog(QStringLiteral("out.mp4"));
+    ExportInDialog(QStringLiteral("out.mp4"));
     Button("ExportCard_cancel")->click();
     EXPECT_TRUE(WaitForCard(QStringLiteral("Cancelled")));
     EXPECT_TRUE(Button("ExportCard_retry")->isVisible());
@@ -288,13 +290,13 @@ TEST_F(TestMainWindow, QuittingAsksWhileExportsRun)
 {
     Open({QStringLiteral("a.mp4")});
     ASSERT_TRUE(WaitUntilUsable());
-    OrderInDialog(QStringLiteral("out.mp4"));
+    ExportInDialog(QStringLiteral("out.mp4"));
     EXPECT_FALSE(m_window->close());
     EXPECT_TRUE(m_window->isVisible());
     EXPECT_EQ(m_told.size(), 1);
     m_answer = true;
     EXPECT_TRUE(m_window->close());
-    EXPECT_TRUE(m_studio->task->isCancelled);
+    EXPECT_TRUE(m_backend->task->isCancelled);
 }
 
 TEST_F(TestMainWindow, QuittingWithNothingToLoseAsksNothing)
@@ -311,10 +313,12 @@ TEST_F(TestMainWindow, ItsSizeIsRemembered)
     EXPECT_EQ(again.size(), QSize(900, 600));
 }
 
-TEST_F(TestMainWindow, AStudioThatCannotBeLoadedIsTold)
+TEST_F(TestMainWindow, ReportsABackendThatCannotBeLoaded)
 {
-    StudioLoader broken(
-        [] { return KxResult<std::shared_ptr<Studio>>::Failure(QStringLiteral("Cannot load the video engine.")); },
+    MediaBackendLoader broken(
+        [] {
+            return KxResult<std::shared_ptr<MediaBackend>>::Failure(QStringLiteral("Cannot load the video engine."));
+        },
         nullptr);
     MainWindow window(broken);
     window.Open({m_folder.filePath(QStringLiteral("a.mp4"))});
@@ -326,7 +330,7 @@ TEST_F(TestMainWindow, EveryControlHasANameAndIsReachedWithTab)
 {
     Open({QStringLiteral("a.mp4")});
     ASSERT_TRUE(WaitUntilUsable());
-    OrderInDialog(QStringLiteral("out.mp4"));
+    ExportInDialog(QStringLiteral("out.mp4"));
     QApplication::setActiveWindow(m_window.get());
     QSet<QWidget*> reached;
     Button("TopBar_import")->setFocus();

@@ -1,6 +1,6 @@
 #include <Apps/AutoReframe/AutoReframeProgram.h>
 
-#include <Apps/AutoReframe/Backend/StudioLoader.h>
+#include <Apps/AutoReframe/Backend/MediaBackendLoader.h>
 #include <Apps/AutoReframe/Exports/ExportQueue.h>
 #include <Apps/AutoReframe/MainWindow.h>
 #include <Apps/AutoReframe/UiReport.h>
@@ -43,14 +43,14 @@ int AutoReframeProgram::Run(QApplication& application, const AutoReframeOptions&
     if (texts.load(QStringLiteral(":/AutoReframe/auto-reframe_en.qm"))) {
         QCoreApplication::installTranslator(&texts);
     }
-    StudioLoader studio(&StudioLoader::LoadLibrary, nullptr);
-    MainWindow window(studio);
+    MediaBackendLoader backend(&MediaBackendLoader::LoadLibrary, nullptr);
+    MainWindow window(backend);
     if (qEnvironmentVariableIsSet("KR_END_WHEN_PAINTED")) {
         QObject::connect(&window, &MainWindow::sigPainted, &application, [] { std::_Exit(0); });
     }
-    QObject::connect(&window, &MainWindow::sigPainted, &studio, [&studio] {
+    QObject::connect(&window, &MainWindow::sigPainted, &backend, [&backend] {
         QApplication::setWindowIcon(QIcon(QStringLiteral(":/AutoReframe/auto-reframe.svg")));
-        studio.Start();
+        backend.Start();
     });
     window.show();
     window.Open(options.files);

@@ -1,6 +1,6 @@
 #include <Apps/AutoReframe/MainWindow.h>
 
-#include <Apps/AutoReframe/Backend/StudioLoader.h>
+#include <Apps/AutoReframe/Backend/MediaBackendLoader.h>
 #include <Apps/AutoReframe/Exports/ExportPanel.h>
 #include <Apps/AutoReframe/Exports/ExportQueue.h>
 #include <Apps/AutoReframe/Library/MediaLibrary.h>
@@ -49,14 +49,14 @@ KxWidget* MakeBar(const QString& name, const QString& lineSide, int heightPx, QW
 
 } // namespace
 
-MainWindow::MainWindow(StudioLoader& studio)
-    : m_studio(studio)
+MainWindow::MainWindow(MediaBackendLoader& backend)
+    : m_backend(backend)
     , m_exports(new ExportQueue(
-          [&studio](const ExportOrder& order, const RenderCallbacks& callbacks) {
-              return studio.Get()->Render(order, callbacks);
+          [&backend](const ExportRequest& request, const KxRenderJob::Callbacks& callbacks) {
+              return backend.Get()->Render(request, callbacks);
           },
           this))
-    , m_library(new MediaLibrary(studio, this))
+    , m_library(new MediaLibrary(backend, this))
     , m_showFolder(&ShowFolder)
 {
     setObjectName(QStringLiteral("MainWindow"));
@@ -74,7 +74,7 @@ MainWindow::MainWindow(StudioLoader& studio)
 
 MainWindow::~MainWindow()
 {
-    // They work for the studio, which may go next.
+    // They work for the backend, which may go next.
     delete m_exports;
     delete m_library;
 }

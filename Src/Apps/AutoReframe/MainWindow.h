@@ -1,6 +1,6 @@
 #pragma once
 
-#include <Apps/AutoReframe/Backend/Studio.h>
+#include <Apps/AutoReframe/Backend/MediaBackend.h>
 
 #include <KxWidgets/KxWidgetView.h>
 
@@ -12,15 +12,15 @@ class KxLabel;
 class KxPushButton;
 class MediaLibrary;
 class MediaLibraryView;
-class StudioLoader;
+class MediaBackendLoader;
 
-/// The program's window: library, exports, status. It paints itself first and brings the studio in afterwards.
+/// The program's window: library, exports, status. It paints itself first and brings the backend in afterwards.
 class MainWindow : public KxWidgetView
 {
     Q_OBJECT
 public:
-    /// `studio` is borrowed.
-    explicit MainWindow(StudioLoader& studio);
+    /// `backend` is borrowed.
+    explicit MainWindow(MediaBackendLoader& backend);
     ~MainWindow() override;
 
     /// Takes files into the library, as an import does.
@@ -60,7 +60,7 @@ private:
     void Inform(const QString& text);
     bool MayQuit();
 
-    StudioLoader& m_studio;
+    MediaBackendLoader& m_backend;
     ExportQueue* const m_exports;
     MediaLibrary* const m_library;
     FolderShower m_showFolder;

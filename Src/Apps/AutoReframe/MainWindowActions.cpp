@@ -1,6 +1,6 @@
 #include <Apps/AutoReframe/MainWindow.h>
 
-#include <Apps/AutoReframe/Backend/StudioLoader.h>
+#include <Apps/AutoReframe/Backend/MediaBackendLoader.h>
 #include <Apps/AutoReframe/Exports/ExportQueue.h>
 #include <Apps/AutoReframe/Library/MediaLibrary.h>
 #include <Apps/AutoReframe/Library/MediaLibraryView.h>
@@ -42,15 +42,16 @@ void MainWindow::Open(const QStringList& paths)
 
 void MainWindow::ChooseFiles()
 {
-    Studio* const studio = m_studio.Get();
-    if (studio == nullptr) {
-        Inform(m_studio.Message());
+    MediaBackend* const backend = m_backend.Get();
+    if (backend == nullptr) {
+        Inform(m_backend.Error());
         return;
     }
     const QString folder =
         KxConfig::Instance().getDefaultImportDir(QStandardPaths::writableLocation(QStandardPaths::MoviesLocation));
     const QStringList chosen = KxFileDialog::getOpenFileNames(
-        this, tr("Import"), folder, QStringLiteral("%1(%2;)").arg(tr("All supported files"), studio->ImportPatterns()));
+        this, tr("Import"), folder,
+        QStringLiteral("%1(%2;)").arg(tr("All supported files"), backend->ImportPatterns()));
     if (!chosen.isEmpty()) {
         KxConfig::Instance().setDefaultImportDir(QFileInfo(chosen.first()).absolutePath());
         m_library->Import(chosen);
@@ -96,9 +97,9 @@ void MainWindow::ReframeSelected()
 
 void MainWindow::Reframe(const QModelIndexList& videos)
 {
-    QList<StudioMedia> media;
+    QList<MediaFile> media;
     for (const QModelIndex& video : videos) {
-        if (const std::optional<StudioMedia> opened = m_library->Model().MediaAt(video)) {
+        if (const std::optional<MediaFile> opened = m_library->Model().MediaAt(video)) {
             media += *opened;
         }
     }
@@ -107,13 +108,13 @@ void MainWindow::Reframe(const QModelIndexList& videos)
         return;
     }
     m_isReframing = true;
-    ReframeCallbacks callbacks;
-    callbacks.ordered = [this](const ExportOrder& order) { m_exports->Add(order); };
-    callbacks.refused = [this](const QString& message) { Inform(message); };
+    DialogCallbacks callbacks;
+    callbacks.exportRequested = [this](const ExportRequest& request) { m_exports->Add(request); };
+    callbacks.exportRefused = [this](const QString& message) { Inform(message); };
     callbacks.unsupported = [this] {
         Inform(tr("This computer may be too slow for the analysis. To try it all the same, start it once more."));
     };
-    m_studio.Get()->Reframe(media, *this, callbacks);
+    m_backend.Get()->Reframe(media, *this, callbacks);
     m_isReframing = false;
     activateWindow();
 }

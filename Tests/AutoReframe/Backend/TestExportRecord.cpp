@@ -17,32 +17,32 @@ QVariantMap Record()
 
 } // namespace
 
-TEST(TestExportRecord, EveryValueIsTaken)
+TEST(TestExportRecord, ReadsEveryValue)
 {
-    const KxResult<ExportOrder> order = ExportRecord::Read(Record());
-    ASSERT_TRUE(order);
-    EXPECT_EQ(order->filePath, QStringLiteral("/videos/out/clip-AutoReframe-9 16.mp4"));
-    EXPECT_EQ(order->resolution, QSize(608, 1080));
-    EXPECT_NEAR(order->frameRate, 23.97, 1e-5);
-    EXPECT_EQ(order->videoBitRate, 4000000);
-    EXPECT_EQ(order->audioBitRate, 192000);
+    const KxResult<KxRenderSettings> settings = ExportRecord::Read(Record());
+    ASSERT_TRUE(settings);
+    EXPECT_EQ(settings->outputPath, QStringLiteral("/videos/out/clip-AutoReframe-9 16.mp4"));
+    EXPECT_EQ(settings->resolution, QSize(608, 1080));
+    EXPECT_NEAR(settings->frameRate, 23.97, 1e-5);
+    EXPECT_EQ(settings->videoBitRate, 4000000);
+    EXPECT_EQ(settings->audioBitRate, 192000);
 }
 
-TEST(TestExportRecord, TheRootFolderNeedsNoSecondSeparator)
+TEST(TestExportRecord, AddsNoSecondSeparatorToTheRootFolder)
 {
     QVariantMap record = Record();
     record.insert(QStringLiteral("path"), QStringLiteral("/"));
-    EXPECT_EQ(ExportRecord::Read(record)->filePath, QStringLiteral("/clip-AutoReframe-9 16.mp4"));
+    EXPECT_EQ(ExportRecord::Read(record)->outputPath, QStringLiteral("/clip-AutoReframe-9 16.mp4"));
 }
 
-TEST(TestExportRecord, WhatLacksANameAFolderOrASizeIsRefusedWithTheReason)
+TEST(TestExportRecord, RefusesARecordWithoutNameFolderOrSize)
 {
     for (const char* const key : {"name", "path", "resolution"}) {
         QVariantMap record = Record();
         record.remove(QLatin1String(key));
-        const KxResult<ExportOrder> order = ExportRecord::Read(record);
-        EXPECT_FALSE(order) << key;
-        EXPECT_TRUE(order.Message().startsWith(QLatin1String("Cannot export"))) << key;
+        const KxResult<KxRenderSettings> settings = ExportRecord::Read(record);
+        EXPECT_FALSE(settings) << key;
+        EXPECT_TRUE(settings.Message().startsWith(QLatin1String("Cannot export"))) << key;
     }
     EXPECT_FALSE(ExportRecord::Read(QVariant()));
 }

@@ -1,5 +1,5 @@
 #include <Apps/AutoReframe/Exports/ExportQueue.h>
-#include <Tests/AutoReframe/Backend/FakeStudio.h>
+#include <Tests/AutoReframe/Backend/FakeMediaBackend.h>
 
 #include <QSignalSpy>
 #include <QTest>
@@ -14,12 +14,12 @@ using State = ExportItem::State;
 class TestExportQueue : public testing::Test
 {
 protected:
-    static ExportOrder Order(const QString& name)
+    static ExportRequest Request(const QString& name)
     {
-        ExportOrder order;
-        order.filePath = QStringLiteral("/exports/") + name;
-        order.resolution = QSize(608, 1080);
-        return order;
+        ExportRequest request;
+        request.settings.outputPath = QStringLiteral("/exports/") + name;
+        request.settings.resolution = QSize(608, 1080);
+        return request;
     }
     State StateOf(int id) const { return m_queue.Find(id)->state; }
     bool WaitFor(int id, State state) const
@@ -27,9 +27,9 @@ protected:
         return QTest::qWaitFor([this, id, state] { return StateOf(id) == state; }, 10000);
     }
 
-    FakeStudio m_studio;
-    ExportQueue m_queue{[this](const ExportOrder& order, const RenderCallbacks& callbacks) {
-                            return m_studio.Render(order, callbacks);
+    FakeMediaBackend m_backend;
+    ExportQueue m_queue{[this](const ExportRequest& request, const KxRenderJob::Callbacks& callbacks) {
+                            return m_backend.Render(request, callbacks);
                         },
                         nullptr};
 };
@@ -38,29 +38,29 @@ protected:
 
 TEST_F(TestExportQueue, OneRendersAndTheOthersWaitInTheirOrder)
 {
-    const int first = m_queue.Add(Order(QStringLiteral("a.mp4")));
-    const int second = m_queue.Add(Order(QStringLiteral("b.mp4")));
-    const int third = m_queue.Add(Order(QStringLiteral("c.mp4")));
+    const int first = m_queue.Add(Request(QStringLiteral("a.mp4")));
+    const int second = m_queue.Add(Request(QStringLiteral("b.mp4")));
+    const int third = m_queue.Add(Request(QStringLiteral("c.mp4")));
     EXPECT_EQ(StateOf(first), State::Running);
     EXPECT_EQ(StateOf(second), State::Waiting);
     EXPECT_EQ(m_queue.UnfinishedCount(), 3);
-    m_studio.task->EndWell();
+    m_backend.task->EndWell();
     ASSERT_TRUE(WaitFor(second, State::Running));
     EXPECT_EQ(StateOf(first), State::Done);
     EXPECT_EQ(StateOf(third), State::Waiting);
-    EXPECT_EQ(m_studio.task->order.filePath, QStringLiteral("/exports/b.mp4"));
+    EXPECT_EQ(m_backend.task->request.settings.outputPath, QStringLiteral("/exports/b.mp4"));
 }
 
 TEST_F(TestExportQueue, ProgressTellsTheTimeLeftOnceThereIsSomethingToJudgeBy)
 {
-    const int id = m_queue.Add(Order(QStringLiteral("a.mp4")));
-    m_studio.task->callbacks.progress(2500);
+    const int id = m_queue.Add(Request(QStringLiteral("a.mp4")));
+    m_backend.task->callbacks.progress(2500);
     ASSERT_TRUE(QTest::qWaitFor([&] { return m_queue.Find(id)->progress == 2500; }));
     EXPECT_FALSE(m_queue.Find(id)->secondsLeft.has_value());
     // A second later the quarter has taken a second or more: three quarters take at least three.
     ASSERT_TRUE(QTest::qWaitFor(
         [&] {
-            m_studio.task->callbacks.progress(2500);
+            m_backend.task->callbacks.progress(2500);
             return m_queue.Find(id)->secondsLeft.has_value();
         },
         10000));
@@ -69,10 +69,10 @@ TEST_F(TestExportQueue, ProgressTellsTheTimeLeftOnceThereIsSomethingToJudgeBy)
 
 TEST_F(TestExportQueue, ProgressIsNotPostedForEveryStep)
 {
-    const int id = m_queue.Add(Order(QStringLiteral("a.mp4")));
+    const int id = m_queue.Add(Request(QStringLiteral("a.mp4")));
     QSignalSpy changes(&m_queue, &ExportQueue::sigChanged);
     for (int progress = 1; progress <= 9000; ++progress) {
-        m_studio.task->callbacks.progress(progress);
+        m_backend.task->callbacks.progress(progress);
     }
     ASSERT_TRUE(QTest::qWaitFor([&] { return m_queue.Find(id)->progress == 9000; }));
     EXPECT_EQ(changes.size(), 1);
@@ -80,22 +80,22 @@ TEST_F(TestExportQueue, ProgressIsNotPostedForEveryStep)
 
 TEST_F(TestExportQueue, CancellingWhatWaitsNeverStartsIt)
 {
-    m_queue.Add(Order(QStringLiteral("a.mp4")));
-    const int second = m_queue.Add(Order(QStringLiteral("b.mp4")));
+    m_queue.Add(Request(QStringLiteral("a.mp4")));
+    const int second = m_queue.Add(Request(QStringLiteral("b.mp4")));
     m_queue.Cancel(second);
     EXPECT_EQ(StateOf(second), State::Cancelled);
-    m_studio.task->EndWell();
+    m_backend.task->EndWell();
     ASSERT_TRUE(QTest::qWaitFor([this] { return m_queue.UnfinishedCount() == 0; }));
-    EXPECT_EQ(m_studio.task, nullptr);
+    EXPECT_EQ(m_backend.task, nullptr);
 }
 
 TEST_F(TestExportQueue, CancellingWhatRunsLetsTheNextOneRun)
 {
-    const int first = m_queue.Add(Order(QStringLiteral("a.mp4")));
-    const int second = m_queue.Add(Order(QStringLiteral("b.mp4")));
+    const int first = m_queue.Add(Request(QStringLiteral("a.mp4")));
+    const int second = m_queue.Add(Request(QStringLiteral("b.mp4")));
     m_queue.Cancel(first);
     EXPECT_EQ(StateOf(first), State::Cancelling);
-    EXPECT_TRUE(m_studio.task->isCancelled);
+    EXPECT_TRUE(m_backend.task->isCancelled);
     m_queue.Cancel(first);
     ASSERT_TRUE(WaitFor(second, State::Running));
     EXPECT_EQ(StateOf(first), State::Cancelled);
@@ -103,24 +103,24 @@ TEST_F(TestExportQueue, CancellingWhatRunsLetsTheNextOneRun)
 
 TEST_F(TestExportQueue, AFailureKeepsItsReasonAndCanBeTriedAgain)
 {
-    const int first = m_queue.Add(Order(QStringLiteral("a.mp4")));
-    const int second = m_queue.Add(Order(QStringLiteral("b.mp4")));
-    m_studio.task->End({KxOutcome::Failed, QStringLiteral("The disk is full."), QString(), QString()});
+    const int first = m_queue.Add(Request(QStringLiteral("a.mp4")));
+    const int second = m_queue.Add(Request(QStringLiteral("b.mp4")));
+    m_backend.task->End({KxOutcome::Failed, QStringLiteral("The disk is full."), QString(), QString()});
     ASSERT_TRUE(WaitFor(first, State::Failed));
     EXPECT_EQ(m_queue.Find(first)->message, QStringLiteral("The disk is full."));
     m_queue.Retry(first);
     EXPECT_EQ(StateOf(first), State::Waiting);
     EXPECT_TRUE(m_queue.Find(first)->message.isEmpty());
-    m_studio.task->EndWell();
+    m_backend.task->EndWell();
     ASSERT_TRUE(WaitFor(first, State::Running));
     EXPECT_EQ(StateOf(second), State::Done);
 }
 
 TEST_F(TestExportQueue, OnlyFinishedOnesLeaveTheList)
 {
-    const int first = m_queue.Add(Order(QStringLiteral("a.mp4")));
-    const int second = m_queue.Add(Order(QStringLiteral("b.mp4")));
-    m_studio.task->EndWell();
+    const int first = m_queue.Add(Request(QStringLiteral("a.mp4")));
+    const int second = m_queue.Add(Request(QStringLiteral("b.mp4")));
+    m_backend.task->EndWell();
     ASSERT_TRUE(WaitFor(first, State::Done));
     m_queue.Remove(second);
     EXPECT_NE(m_queue.Find(second), nullptr);
@@ -132,23 +132,23 @@ TEST_F(TestExportQueue, OnlyFinishedOnesLeaveTheList)
 TEST_F(TestExportQueue, CancelAllLeavesNothingToRun)
 {
     for (const char* const name : {"a.mp4", "b.mp4", "c.mp4"}) {
-        m_queue.Add(Order(QLatin1String(name)));
+        m_queue.Add(Request(QLatin1String(name)));
     }
     m_queue.CancelAll();
     ASSERT_TRUE(QTest::qWaitFor([this] { return m_queue.UnfinishedCount() == 0; }));
-    EXPECT_EQ(m_studio.task, nullptr);
+    EXPECT_EQ(m_backend.task, nullptr);
 }
 
 TEST_F(TestExportQueue, DestroyedWhileItRendersItWaitsForTheEnd)
 {
     auto queue = std::make_unique<ExportQueue>(
-        [this](const ExportOrder& order, const RenderCallbacks& callbacks) {
-            return m_studio.Render(order, callbacks);
+        [this](const ExportRequest& request, const KxRenderJob::Callbacks& callbacks) {
+            return m_backend.Render(request, callbacks);
         },
         nullptr);
-    queue->Add(Order(QStringLiteral("a.mp4")));
-    m_studio.task->EndWell();
+    queue->Add(Request(QStringLiteral("a.mp4")));
+    m_backend.task->EndWell();
     queue.reset();
-    EXPECT_EQ(m_studio.task, nullptr);
+    EXPECT_EQ(m_backend.task, nullptr);
     QCoreApplication::sendPostedEvents();
 }

@@ -3,25 +3,26 @@
 #include <QCoreApplication>
 #include <QDir>
 
-KxResult<ExportOrder> ExportRecord::Read(const QVariant& record)
+KxResult<KxRenderSettings> ExportRecord::Read(const QVariant& record)
 {
     const QVariantMap values = record.toMap();
     const QString name = values.value(QStringLiteral("name")).toString();
     const QString folder = QDir::fromNativeSeparators(values.value(QStringLiteral("path")).toString());
     if (name.isEmpty() || folder.isEmpty()) {
-        return KxResult<ExportOrder>::Failure(
+        return KxResult<KxRenderSettings>::Failure(
             QCoreApplication::translate("ExportRecord", "Cannot export: no name or no folder was given."));
     }
-    ExportOrder order;
-    // Not QDir::filePath: a name is never a path, whatever it begins with.
-    order.filePath = QDir::cleanPath(folder + QLatin1Char('/') + name + QStringLiteral(".mp4"));
-    order.resolution = values.value(QStringLiteral("resolution")).toSize();
-    order.frameRate = values.value(QStringLiteral("frame_rate")).toDouble();
-    order.videoBitRate = values.value(QStringLiteral("video_bit_rate")).toInt();
-    order.audioBitRate = values.value(QStringLiteral("audio_bit_rate")).toInt();
-    if (order.resolution.isEmpty()) {
-        return KxResult<ExportOrder>::Failure(
+    KxRenderSettings settings;
+    // QDir::filePath would take a name that begins with a separator for a path.
+    settings.outputPath = QDir::cleanPath(folder + QLatin1Char('/') + name + QStringLiteral(".mp4"));
+    settings.existing = KxOutputFile::Existing::AddNumber;
+    settings.resolution = values.value(QStringLiteral("resolution")).toSize();
+    settings.frameRate = values.value(QStringLiteral("frame_rate")).toDouble();
+    settings.videoBitRate = values.value(QStringLiteral("video_bit_rate")).toInt();
+    settings.audioBitRate = values.value(QStringLiteral("audio_bit_rate")).toInt();
+    if (settings.resolution.isEmpty()) {
+        return KxResult<KxRenderSettings>::Failure(
             QCoreApplication::translate("ExportRecord", "Cannot export %1: no picture size was given.").arg(name));
     }
-    return order;
+    return settings;
 }

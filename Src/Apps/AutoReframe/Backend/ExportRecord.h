@@ -1,11 +1,12 @@
 #pragma once
 
-#include <Apps/AutoReframe/Backend/Studio.h>
+#include <KxCore/KxResult.h>
+#include <KxRender/KxRenderSettings.h>
 
 #include <QVariant>
 
 namespace ExportRecord
 {
-/// What the dialog's record orders, without its source; the error message says what the record lacks. Pure.
-KxResult<ExportOrder> Read(const QVariant& record);
+/// The render settings that the dialog's record asks for; the error message names what the record lacks. Pure.
+KxResult<KxRenderSettings> Read(const QVariant& record);
 } // namespace ExportRecord

@@ -137,7 +137,7 @@ void ExportCard::ShowTexts()
     m_name->setToolTip(QDir::toNativeSeparators(m_item.filePath));
     m_status->setText(StatusText());
     m_status->setToolTip(m_item.message);
-    m_size->setText(MediaText::Resolution(m_item.order.resolution));
+    m_size->setText(MediaText::Resolution(m_item.request.settings.resolution));
     m_bar->setAccessibleName(tr("Progress of %1").arg(name));
     m_cancel->setAccessibleName(tr("Cancel %1").arg(name));
     m_retry->setAccessibleName(tr("Retry %1").arg(name));

@@ -9,9 +9,9 @@ namespace
 
 using State = ExportItem::State;
 
-constexpr int whole = 10000;
-/// Before this much has passed, the time left would be a guess.
-constexpr qint64 enoughToJudgeMs = 1000;
+constexpr int WholeProgress = 10000;
+/// An estimate of the time left from less than this would jump about.
+constexpr qint64 EnoughForEstimateMs = 1000;
 
 } // namespace
 
@@ -23,12 +23,12 @@ ExportQueue::ExportQueue(Renderer renderer, QObject* parent)
 
 ExportQueue::~ExportQueue() = default;
 
-int ExportQueue::Add(const ExportOrder& order)
+int ExportQueue::Add(const ExportRequest& request)
 {
     ExportItem item;
     item.id = ++m_lastId;
-    item.order = order;
-    item.filePath = order.filePath;
+    item.request = request;
+    item.filePath = request.settings.outputPath;
     m_items.push_back(item);
     Q_EMIT sigAdded(item.id);
     StartNext();
@@ -54,7 +54,7 @@ void ExportQueue::Cancel(int id)
 
 void ExportQueue::CancelAll()
 {
-    // From the end, so that nothing that waits gets its turn.
+    // From the end, so that no waiting export starts when the running one has ended.
     for (auto item = m_items.rbegin(); item != m_items.rend(); ++item) {
         Cancel(item->id);
     }
@@ -71,8 +71,8 @@ void ExportQueue::Retry(int id)
     found->progress = 0;
     found->secondsLeft.reset();
     found->message.clear();
-    found->filePath = found->order.filePath;
-    // Behind the others in the queue, where it is on the list.
+    found->filePath = found->request.settings.outputPath;
+    // The list shows the queue in its order, so the export moves to its end.
     std::rotate(found, found + 1, m_items.end());
     Q_EMIT sigChanged(id);
     StartNext();
@@ -142,56 +142,56 @@ void ExportQueue::Start(ExportItem& item)
     item.state = State::Running;
     m_timer.start();
     const auto mailbox = std::make_shared<Mailbox>();
-    RenderCallbacks callbacks;
+    KxRenderJob::Callbacks callbacks;
     callbacks.progress = [this, id, mailbox](int progress) {
         mailbox->progress = progress;
-        if (mailbox->isTold.exchange(false)) {
+        if (mailbox->isRead.exchange(false)) {
             QMetaObject::invokeMethod(
                 this, [this, id, mailbox] { HandleProgress(id, mailbox); }, Qt::QueuedConnection);
         }
     };
-    callbacks.finished = [this, id](const RenderEnd& end) {
+    callbacks.finished = [this, id](const KxRenderResult& result) {
         QMetaObject::invokeMethod(
-            this, [this, id, end] { HandleFinished(id, end); }, Qt::QueuedConnection);
+            this, [this, id, result] { HandleFinished(id, result); }, Qt::QueuedConnection);
     };
-    m_task = m_renderer(item.order, callbacks);
+    m_task = m_renderer(item.request, callbacks);
     Q_EMIT sigChanged(id);
 }
 
 void ExportQueue::HandleProgress(int id, const std::shared_ptr<Mailbox>& mailbox)
 {
-    mailbox->isTold = true;
+    mailbox->isRead = true;
     ExportItem* const item = Item(id);
     if (item == nullptr || item->state != State::Running) {
         return;
     }
     item->progress = mailbox->progress;
     const qint64 elapsedMs = m_timer.elapsed();
-    if (elapsedMs >= enoughToJudgeMs && item->progress > 0) {
-        item->secondsLeft = 1 + elapsedMs * (whole - item->progress) / item->progress / 1000;
+    if (elapsedMs >= EnoughForEstimateMs && item->progress > 0) {
+        item->secondsLeft = 1 + elapsedMs * (WholeProgress - item->progress) / item->progress / 1000;
     }
     Q_EMIT sigChanged(id);
 }
 
-void ExportQueue::HandleFinished(int id, const RenderEnd& end)
+void ExportQueue::HandleFinished(int id, const KxRenderResult& result)
 {
     m_task.reset();
     if (ExportItem* const item = Item(id)) {
         item->secondsLeft.reset();
-        switch (end.outcome) {
+        switch (result.outcome) {
         case KxOutcome::Done:
             item->state = State::Done;
-            item->progress = whole;
-            item->filePath = end.filePath;
-            item->fileBytes = QFileInfo(end.filePath).size();
-            item->message = end.warning;
+            item->progress = WholeProgress;
+            item->filePath = result.outputPath;
+            item->fileBytes = QFileInfo(result.outputPath).size();
+            item->message = result.warning;
             break;
         case KxOutcome::Cancelled:
             item->state = State::Cancelled;
             break;
         case KxOutcome::Failed:
             item->state = State::Failed;
-            item->message = end.message;
+            item->message = result.message;
             break;
         }
         Q_EMIT sigChanged(id);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <Apps/AutoReframe/Backend/Studio.h>
+#include <Apps/AutoReframe/Backend/MediaBackend.h>
 
 #include <QElapsedTimer>
 #include <QObject>
@@ -14,42 +14,43 @@ struct ExportItem {
 
     int id = 0;
     State state = State::Waiting;
-    ExportOrder order;
+    ExportRequest request;
     int progress = 0; ///< ten-thousandths
-    /// Nothing while there is too little to judge by.
+    /// Empty while there is too little progress for an estimate.
     std::optional<qint64> secondsLeft;
-    QString filePath;     ///< the wished one, the written one once done
+    QString filePath;     ///< the requested path; once done, that of the written file
     qint64 fileBytes = 0; ///< once done
-    QString message;      ///< why it failed, or a warning about what was written
+    QString message;      ///< why it failed, or a warning about the written file
 
     bool IsFinished() const { return state == State::Done || state == State::Failed || state == State::Cancelled; }
 };
 
-/// The exports: one renders at a time, the others wait in the order in which they came. User-interface thread.
+/// The exports: one is rendered at a time, the others wait in the order in which they were added. User-interface
+/// thread.
 class ExportQueue : public QObject
 {
     Q_OBJECT
 public:
-    /// Starts a rendering; not called again before the last one has ended.
-    using Renderer =
-        std::function<std::unique_ptr<RenderTask>(const ExportOrder& order, const RenderCallbacks& callbacks)>;
+    /// Starts a rendering; called again only after the last one has ended.
+    using Renderer = std::function<std::unique_ptr<RenderTask>(const ExportRequest& request,
+                                                               const KxRenderJob::Callbacks& callbacks)>;
 
     ExportQueue(Renderer renderer, QObject* parent);
-    /// Cancels what runs and waits for it.
+    /// Cancels the running export and waits for its end.
     ~ExportQueue() override;
 
     /// Returns the export's number.
-    int Add(const ExportOrder& order);
-    /// What waits is cancelled at once, what runs as soon as its thread has noticed.
+    int Add(const ExportRequest& request);
+    /// A waiting export is cancelled at once, a running one as soon as its thread sees the cancel mark.
     void Cancel(int id);
     void CancelAll();
     /// A failed or cancelled export goes to the end of the queue.
     void Retry(int id);
-    /// Takes a finished export off the list; its file stays.
+    /// Removes a finished export from the list; its file stays.
     void Remove(int id);
     void RemoveFinished();
 
-    /// Null when there is none of that number. Valid until the next change.
+    /// Null for an unknown number. Valid until the next change.
     const ExportItem* Find(int id) const;
     /// Running or waiting.
     int UnfinishedCount() const;
@@ -61,18 +62,18 @@ Q_SIGNALS:
     void sigRemoved(int id);
 
 private:
-    /// What the rendering's thread leaves for this one: progress is told when there is time for it, not a thousand
-    /// times a second.
+    /// Progress as the rendering's thread leaves it for the user interface, which takes the newest value when it has
+    /// time: there are thousands of steps in a second.
     struct Mailbox {
         std::atomic<int> progress{0};
-        std::atomic_bool isTold{true};
+        std::atomic_bool isRead{true};
     };
 
     ExportItem* Item(int id);
     void StartNext();
     void Start(ExportItem& item);
     void HandleProgress(int id, const std::shared_ptr<Mailbox>& mailbox);
-    void HandleFinished(int id, const RenderEnd& end);
+    void HandleFinished(int id, const KxRenderResult& result);
 
     const Renderer m_renderer;
     std::vector<ExportItem> m_items;

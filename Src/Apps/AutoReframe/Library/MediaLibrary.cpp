@@ -1,25 +1,25 @@
 #include <Apps/AutoReframe/Library/MediaLibrary.h>
 
-#include <Apps/AutoReframe/Backend/StudioLoader.h>
+#include <Apps/AutoReframe/Backend/MediaBackendLoader.h>
 #include <Apps/AutoReframe/Library/MediaCardDelegate.h>
 #include <Apps/AutoReframe/Library/MediaLoader.h>
 
 #include <QFileInfo>
 
-MediaLibrary::MediaLibrary(StudioLoader& studio, QObject* parent)
+MediaLibrary::MediaLibrary(MediaBackendLoader& backend, QObject* parent)
     : QObject(parent)
-    , m_studio(studio)
+    , m_backend(backend)
     , m_model(this)
 {
-    connect(&m_studio, &StudioLoader::sigFinished, this, &MediaLibrary::StartLoading);
+    connect(&m_backend, &MediaBackendLoader::sigFinished, this, &MediaLibrary::StartLoading);
 }
 
 MediaLibrary::~MediaLibrary()
 {
-    // Its thread works for the studio, which may go next.
+    // Its thread works for the backend, which may go next.
     delete m_loader;
     for (const quint64 request : qAsConst(m_thumbnails)) {
-        m_studio.IfThere()->CancelThumbnail(request);
+        m_backend.IfLoaded()->CancelThumbnail(request);
     }
 }
 
@@ -47,15 +47,15 @@ void MediaLibrary::Import(const QStringList& paths)
     }
     if (!imported.isEmpty()) {
         Q_EMIT sigImported(imported);
-        m_studio.Start();
+        m_backend.Start();
     }
 }
 
 void MediaLibrary::StartLoading()
 {
-    Studio* const studio = m_studio.IfThere();
-    if (studio == nullptr) {
-        m_refused += m_studio.Message();
+    MediaBackend* const backend = m_backend.IfLoaded();
+    if (backend == nullptr) {
+        m_refused += m_backend.Error();
         for (const int id : qAsConst(m_opening)) {
             m_model.Remove(id);
         }
@@ -63,7 +63,7 @@ void MediaLibrary::StartLoading()
         TellRefused();
         return;
     }
-    m_loader = new MediaLoader(*studio, this);
+    m_loader = new MediaLoader(*backend, this);
     connect(m_loader, &MediaLoader::sigOpened, this, &MediaLibrary::HandleOpened);
     QList<int> waiting = m_opening.values();
     std::sort(waiting.begin(), waiting.end());
@@ -72,7 +72,7 @@ void MediaLibrary::StartLoading()
     }
 }
 
-void MediaLibrary::HandleOpened(int id, const KxResult<StudioMedia>& media)
+void MediaLibrary::HandleOpened(int id, const KxResult<MediaFile>& media)
 {
     if (!m_opening.remove(id)) {
         return;
@@ -91,7 +91,7 @@ void MediaLibrary::HandleOpened(int id, const KxResult<StudioMedia>& media)
 void MediaLibrary::RequestThumbnail(int id, const QString& path)
 {
     const QSize roomPx = (QSizeF(MediaCardDelegate::PictureSize()) * m_devicePixelRatio).toSize();
-    m_thumbnails[id] = m_studio.IfThere()->RequestThumbnail(path, roomPx, [this, id](const QImage& picture) {
+    m_thumbnails[id] = m_backend.IfLoaded()->RequestThumbnail(path, roomPx, [this, id](const QImage& picture) {
         m_thumbnails.remove(id);
         m_model.SetThumbnail(id, QPixmap::fromImage(picture));
     });
@@ -108,7 +108,7 @@ void MediaLibrary::Remove(const QModelIndexList& videos)
             m_loader->Forget(id);
         }
         if (m_thumbnails.contains(id)) {
-            m_studio.IfThere()->CancelThumbnail(m_thumbnails.take(id));
+            m_backend.IfLoaded()->CancelThumbnail(m_thumbnails.take(id));
         }
         m_model.Remove(id);
     }

@@ -6,15 +6,15 @@
 #include <QSet>
 
 class MediaLoader;
-class StudioLoader;
+class MediaBackendLoader;
 
 /// The library behind the cards: takes files in and lets them go. User-interface thread.
 class MediaLibrary : public QObject
 {
     Q_OBJECT
 public:
-    /// `studio` is borrowed; files wait until it is there.
-    MediaLibrary(StudioLoader& studio, QObject* parent);
+    /// `backend` is borrowed; files wait until it is there.
+    MediaLibrary(MediaBackendLoader& backend, QObject* parent);
     ~MediaLibrary() override;
 
     MediaLibraryModel& Model();
@@ -37,11 +37,11 @@ Q_SIGNALS:
 
 private:
     void StartLoading();
-    void HandleOpened(int id, const KxResult<StudioMedia>& media);
+    void HandleOpened(int id, const KxResult<MediaFile>& media);
     void RequestThumbnail(int id, const QString& path);
     void TellRefused();
 
-    StudioLoader& m_studio;
+    MediaBackendLoader& m_backend;
     MediaLibraryModel m_model;
     MediaLoader* m_loader = nullptr;
     QSet<int> m_opening;

@@ -37,7 +37,7 @@ int MediaLibraryModel::Add(const QString& path)
     return m_lastId;
 }
 
-void MediaLibraryModel::SetMedia(int id, const StudioMedia& media)
+void MediaLibraryModel::SetMedia(int id, const MediaFile& media)
 {
     if (Entry* const entry = EntryOf(id)) {
         entry->media = media;
@@ -108,7 +108,7 @@ QString MediaLibraryModel::PathAt(const QModelIndex& index) const
     return entry != nullptr ? entry->path : QString();
 }
 
-std::optional<StudioMedia> MediaLibraryModel::MediaAt(const QModelIndex& index) const
+std::optional<MediaFile> MediaLibraryModel::MediaAt(const QModelIndex& index) const
 {
     const Entry* const entry = EntryAt(index);
     return entry != nullptr ? entry->media : std::nullopt;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <Apps/AutoReframe/Backend/Studio.h>
+#include <Apps/AutoReframe/Backend/MediaBackend.h>
 
 #include <QAbstractListModel>
 #include <QPixmap>
@@ -25,7 +25,7 @@ public:
 
     /// Appends a video that is not open yet and returns its number.
     int Add(const QString& path);
-    void SetMedia(int id, const StudioMedia& media);
+    void SetMedia(int id, const MediaFile& media);
     void SetThumbnail(int id, const QPixmap& thumbnail);
     /// A number that is not there is ignored.
     void Remove(int id);
@@ -40,7 +40,7 @@ public:
     int IdAt(const QModelIndex& index) const;
     QString PathAt(const QModelIndex& index) const;
     /// Nothing while the video is not open.
-    std::optional<StudioMedia> MediaAt(const QModelIndex& index) const;
+    std::optional<MediaFile> MediaAt(const QModelIndex& index) const;
 
     int rowCount(const QModelIndex& parent = QModelIndex()) const override;
     QVariant data(const QModelIndex& index, int role) const override;
@@ -50,7 +50,7 @@ private:
     struct Entry {
         int id = 0;
         QString path;
-        std::optional<StudioMedia> media;
+        std::optional<MediaFile> media;
         QPixmap thumbnail;
     };
 

@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
-MediaLoader::MediaLoader(Studio& studio, QObject* parent)
+MediaLoader::MediaLoader(MediaBackend& backend, QObject* parent)
     : QObject(parent)
-    , m_studio(studio)
+    , m_backend(backend)
     , m_thread([this] { Work(); })
 {
 }
@@ -57,7 +57,7 @@ std::optional<MediaLoader::Request> MediaLoader::Next()
 void MediaLoader::Work()
 {
     while (const std::optional<Request> request = Next()) {
-        const KxResult<StudioMedia> media = m_studio.Open(request->path, request->cancel);
+        const KxResult<MediaFile> media = m_backend.Open(request->path, request->cancel);
         if (!request->cancel.IsCancelled()) {
             QMetaObject::invokeMethod(this, [this, id = request->id, media] { Q_EMIT sigOpened(id, media); });
         }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <Apps/AutoReframe/Backend/Studio.h>
+#include <Apps/AutoReframe/Backend/MediaBackend.h>
 
 #include <QObject>
 
@@ -15,8 +15,8 @@ class MediaLoader : public QObject
 {
     Q_OBJECT
 public:
-    /// `studio` is borrowed.
-    MediaLoader(Studio& studio, QObject* parent);
+    /// `backend` is borrowed.
+    MediaLoader(MediaBackend& backend, QObject* parent);
     /// Cancels and waits; nothing more is told.
     ~MediaLoader() override;
 
@@ -25,7 +25,7 @@ public:
     void Forget(int id);
 
 Q_SIGNALS:
-    void sigOpened(int id, const KxResult<StudioMedia>& media);
+    void sigOpened(int id, const KxResult<MediaFile>& media);
 
 private:
     struct Request {
@@ -37,7 +37,7 @@ private:
     void Work();
     std::optional<Request> Next();
 
-    Studio& m_studio;
+    MediaBackend& m_backend;
     std::mutex m_mutex;
     std::condition_variable m_changed;
     // Under the mutex.

@@ -1,4 +1,4 @@
-#include <Apps/AutoReframe/Backend/MediaStudio.h>
+#include <Apps/AutoReframe/Backend/HostMediaBackend.h>
 #include <Tests/Support/MadeVideo.h>
 
 #include <QTemporaryDir>
@@ -9,7 +9,7 @@
 namespace
 {
 
-class TestMediaStudio : public testing::Test
+class TestHostMediaBackend : public testing::Test
 {
 protected:
     QString MakeClip(const QString& name)
@@ -23,51 +23,51 @@ protected:
     }
 
     QTemporaryDir m_folder;
-    MediaStudio m_studio;
+    HostMediaBackend m_backend;
 };
 
 } // namespace
 
-TEST_F(TestMediaStudio, OpensAVideoWithItsFacts)
+TEST_F(TestHostMediaBackend, OpensAVideoWithItsFacts)
 {
-    const KxResult<StudioMedia> media = m_studio.Open(MakeClip(QStringLiteral("clip.mp4")), KxCancelToken());
+    const KxResult<MediaFile> media = m_backend.Open(MakeClip(QStringLiteral("clip.mp4")), KxCancelToken());
     ASSERT_TRUE(media) << media.Message().toStdString();
     EXPECT_EQ(media->resolution, QSize(192, 108));
     EXPECT_EQ(media->frameCount, 50);
     EXPECT_EQ(media->frameRate, (KxRational{25, 1}));
 }
 
-TEST_F(TestMediaStudio, RefusesWithTheNameAndTheReason)
+TEST_F(TestHostMediaBackend, RefusesWithTheNameAndTheReason)
 {
     const QString sound = m_folder.filePath(QStringLiteral("tone.wav"));
     ASSERT_TRUE(MadeVideo::RunFfmpeg({QStringLiteral("-f"), QStringLiteral("lavfi"), QStringLiteral("-i"),
                                       QStringLiteral("sine=duration=1"), sound}));
-    EXPECT_EQ(m_studio.Open(sound, KxCancelToken()).Message(),
+    EXPECT_EQ(m_backend.Open(sound, KxCancelToken()).Message(),
               QStringLiteral("Cannot open tone.wav: it has no moving picture."));
-    EXPECT_TRUE(m_studio.Open(m_folder.path(), KxCancelToken()).Message().endsWith(QLatin1String("it is a folder.")));
+    EXPECT_TRUE(m_backend.Open(m_folder.path(), KxCancelToken()).Message().endsWith(QLatin1String("it is a folder.")));
 }
 
-TEST_F(TestMediaStudio, MakesAThumbnailThatFits)
+TEST_F(TestHostMediaBackend, MakesAThumbnailThatFits)
 {
     QImage thumbnail;
-    m_studio.RequestThumbnail(MakeClip(QStringLiteral("clip.mp4")), QSize(96, 96),
-                              [&thumbnail](const QImage& picture) { thumbnail = picture; });
+    m_backend.RequestThumbnail(MakeClip(QStringLiteral("clip.mp4")), QSize(96, 96),
+                               [&thumbnail](const QImage& picture) { thumbnail = picture; });
     ASSERT_TRUE(QTest::qWaitFor([&] { return !thumbnail.isNull(); }, 20000));
     EXPECT_EQ(thumbnail.size(), QSize(96, 54));
 }
 
-TEST_F(TestMediaStudio, ACancelledThumbnailIsNotDelivered)
+TEST_F(TestHostMediaBackend, ACancelledThumbnailIsNotDelivered)
 {
     int delivered = 0;
     const QString clip = MakeClip(QStringLiteral("clip.mp4"));
-    const quint64 first = m_studio.RequestThumbnail(clip, QSize(96, 96), [&](const QImage&) { delivered += 10; });
-    m_studio.CancelThumbnail(first);
-    m_studio.RequestThumbnail(clip, QSize(96, 96), [&](const QImage&) { delivered += 1; });
+    const quint64 first = m_backend.RequestThumbnail(clip, QSize(96, 96), [&](const QImage&) { delivered += 10; });
+    m_backend.CancelThumbnail(first);
+    m_backend.RequestThumbnail(clip, QSize(96, 96), [&](const QImage&) { delivered += 1; });
     ASSERT_TRUE(QTest::qWaitFor([&] { return delivered > 0; }, 20000));
     EXPECT_EQ(delivered, 1);
 }
 
-TEST_F(TestMediaStudio, OffersTheFormatsThatItReads)
+TEST_F(TestHostMediaBackend, OffersTheFormatsThatItReads)
 {
-    EXPECT_TRUE(m_studio.ImportPatterns().split(QLatin1Char(';')).contains(QStringLiteral("*.mp4")));
+    EXPECT_TRUE(m_backend.ImportPatterns().split(QLatin1Char(';')).contains(QStringLiteral("*.mp4")));
 }

@@ -1,4 +1,4 @@
-#include <Apps/AutoReframe/Backend/MediaStudio.h>
+#include <Apps/AutoReframe/Backend/HostMediaBackend.h>
 
 #include <Apps/AutoReframe/Backend/ExportRecord.h>
 #include <KxMediaLibrary/KxThumbnailer.h>
@@ -16,28 +16,6 @@
 namespace
 {
 
-class OpenedFile final : public StudioItem
-{
-public:
-    explicit OpenedFile(std::unique_ptr<KxMediaItem> opened)
-        : item(std::move(opened))
-    {
-    }
-
-    const std::unique_ptr<KxMediaItem> item;
-};
-
-class TimelineSource final : public ExportSource
-{
-public:
-    explicit TimelineSource(KxRenderSource taken)
-        : source(std::move(taken))
-    {
-    }
-
-    const KxRenderSource source;
-};
-
 class JobTask final : public RenderTask
 {
 public:
@@ -51,53 +29,53 @@ private:
     KxRenderJob m_job;
 };
 
-void Order(IKxTimeline* timeline, const QVariant& record, const ReframeCallbacks& callbacks)
+void RequestExport(IKxTimeline* timeline, const QVariant& record, const DialogCallbacks& callbacks)
 {
-    KxResult<ExportOrder> order = ExportRecord::Read(record);
-    if (!order) {
-        callbacks.refused(order.Message());
+    const KxResult<KxRenderSettings> settings = ExportRecord::Read(record);
+    if (!settings) {
+        callbacks.exportRefused(settings.Message());
         return;
     }
-    KxResult<KxRenderSource> source = KxRenderSource::FromTimeline(*timeline);
+    const KxResult<KxRenderSource> source = KxRenderSource::FromTimeline(*timeline);
     if (!source) {
-        callbacks.refused(source.Message());
+        callbacks.exportRefused(source.Message());
         return;
     }
-    order->source = std::make_shared<TimelineSource>(std::move(*source));
-    callbacks.ordered(*order);
+    callbacks.exportRequested({*source, *settings});
 }
 
 } // namespace
 
-MediaStudio::MediaStudio()
+HostMediaBackend::HostMediaBackend()
 {
     KxAutoReframeService::Instance().SetFaceModel(KxFaceModel::Find());
 }
 
-MediaStudio::~MediaStudio() = default;
+HostMediaBackend::~HostMediaBackend() = default;
 
-KxResult<StudioMedia> MediaStudio::Open(const QString& path, const KxCancelToken& cancel)
+KxResult<MediaFile> HostMediaBackend::Open(const QString& path, const KxCancelToken& cancel)
 {
-    using Opened = KxResult<StudioMedia>;
+    using Opened = KxResult<MediaFile>;
     KxResult<std::unique_ptr<KxMediaItem>> item = KxMediaItem::Open(path, cancel);
     if (!item) {
         return Opened::Failure(item.Message());
     }
     if (!(*item)->mediaInfo()->hasVideoStream()) {
-        return Opened::Failure(QCoreApplication::translate("MediaStudio", "Cannot open %1: it has no moving picture.")
-                                   .arg((*item)->name()));
+        return Opened::Failure(
+            QCoreApplication::translate("HostMediaBackend", "Cannot open %1: it has no moving picture.")
+                .arg((*item)->name()));
     }
     const KxStreamInfo& info = static_cast<const KxClip*>((*item)->clip())->StreamInfo();
-    StudioMedia media;
+    MediaFile media;
     media.path = (*item)->filePath();
     media.resolution = info.resolution();
     media.frameRate = info.frameRate();
     media.frameCount = info.frameCount();
-    media.item = std::make_shared<OpenedFile>(std::move(*item));
+    media.item = std::move(*item);
     return media;
 }
 
-KxThumbnailer& MediaStudio::Thumbnailer()
+KxThumbnailer& HostMediaBackend::Thumbnailer()
 {
     if (m_thumbnailer == nullptr) {
         m_thumbnailer = std::make_unique<KxThumbnailer>();
@@ -113,36 +91,36 @@ KxThumbnailer& MediaStudio::Thumbnailer()
     return *m_thumbnailer;
 }
 
-quint64 MediaStudio::RequestThumbnail(const QString& path, const QSize& roomPx,
-                                      const std::function<void(const QImage&)>& ready)
+quint64 HostMediaBackend::RequestThumbnail(const QString& path, const QSize& roomPx,
+                                           const std::function<void(const QImage&)>& ready)
 {
     const quint64 request = Thumbnailer().Request(path, roomPx);
     m_thumbnailRequests.insert(request, ready);
     return request;
 }
 
-void MediaStudio::CancelThumbnail(quint64 request)
+void HostMediaBackend::CancelThumbnail(quint64 request)
 {
     m_thumbnailRequests.remove(request);
     Thumbnailer().Cancel(request);
 }
 
-QString MediaStudio::ImportPatterns() const
+QString HostMediaBackend::ImportPatterns() const
 {
     return KxMediaLibraryUtils::getImportVideoFilter();
 }
 
-void MediaStudio::Reframe(const QList<StudioMedia>& media, QWidget& parent, const ReframeCallbacks& callbacks)
+void HostMediaBackend::Reframe(const QList<MediaFile>& media, QWidget& parent, const DialogCallbacks& callbacks)
 {
     QList<IKxAbstractMedia*> items;
-    for (const StudioMedia& video : media) {
-        items += static_cast<const OpenedFile&>(*video.item).item.get();
+    for (const MediaFile& video : media) {
+        items += video.item.get();
     }
     {
         const auto dialog = std::make_unique<KrAutoReframeDialog>(&parent);
         QObject::connect(dialog.get(), &KrAutoReframeDialog::sigExportToLocal, &parent,
                          [&callbacks](IKxTimeline* timeline, const QList<IKxAbstractMedia*>&, const QVariant& record) {
-                             Order(timeline, record, callbacks);
+                             RequestExport(timeline, record, callbacks);
                          });
         QObject::connect(dialog.get(), &KrAutoReframeDialog::sigShowUnsupportDlg, &parent, callbacks.unsupported);
         dialog->InitMediaItem(items);
@@ -151,19 +129,8 @@ void MediaStudio::Reframe(const QList<StudioMedia>& media, QWidget& parent, cons
     KxSimpleTimeline::ReleaseAll();
 }
 
-std::unique_ptr<RenderTask> MediaStudio::Render(const ExportOrder& order, const RenderCallbacks& callbacks)
+std::unique_ptr<RenderTask> HostMediaBackend::Render(const ExportRequest& request,
+                                                     const KxRenderJob::Callbacks& callbacks)
 {
-    KxRenderSettings settings;
-    settings.outputPath = order.filePath;
-    settings.existing = KxOutputFile::Existing::AddNumber;
-    settings.resolution = order.resolution;
-    settings.frameRate = order.frameRate;
-    settings.videoBitRate = order.videoBitRate;
-    settings.audioBitRate = order.audioBitRate;
-    KxRenderJob::Callbacks heard;
-    heard.progress = callbacks.progress;
-    heard.finished = [finished = callbacks.finished](const KxRenderResult& result) {
-        finished({result.outcome, result.message, result.outputPath, result.warning});
-    };
-    return std::make_unique<JobTask>(static_cast<const TimelineSource&>(*order.source).source, settings, heard);
+    return std::make_unique<JobTask>(request.source, request.settings, callbacks);
 }

@@ -1,32 +1,32 @@
 #pragma once
 
-#include <Apps/AutoReframe/Backend/Studio.h>
+#include <Apps/AutoReframe/Backend/MediaBackend.h>
 
 #include <QFileInfo>
 
 #include <thread>
 
-/// A studio without media libraries: every file whose name does not begin with "bad" is a video.
-class FakeStudio final : public Studio
+/// A backend without media libraries. Every file is a video unless its name begins with "bad".
+class FakeMediaBackend final : public MediaBackend
 {
 public:
-    /// A rendering that goes on until it is told how to end.
+    /// A rendering that runs until a test ends it.
     class Task final : public RenderTask
     {
     public:
-        Task(FakeStudio& studio, ExportOrder ordered, RenderCallbacks heard)
-            : order(std::move(ordered))
-            , callbacks(std::move(heard))
-            , m_studio(studio)
+        Task(FakeMediaBackend& backend, ExportRequest requested, KxRenderJob::Callbacks called)
+            : request(std::move(requested))
+            , callbacks(std::move(called))
+            , m_backend(backend)
         {
-            m_studio.task = this;
+            m_backend.task = this;
         }
         ~Task() override
         {
             if (m_thread.joinable()) {
                 m_thread.join();
             }
-            m_studio.task = nullptr;
+            m_backend.task = nullptr;
         }
         void Cancel() override
         {
@@ -34,28 +34,28 @@ public:
             End({KxOutcome::Cancelled, QString(), QString(), QString()});
         }
         /// On a thread of its own, as real renderings do.
-        void End(const RenderEnd& end)
+        void End(const KxRenderResult& result)
         {
-            m_thread = std::thread([heard = callbacks, end] { heard.finished(end); });
+            m_thread = std::thread([called = callbacks, result] { called.finished(result); });
         }
-        void EndWell() { End({KxOutcome::Done, QString(), order.filePath, QString()}); }
+        void EndWell() { End({KxOutcome::Done, QString(), request.settings.outputPath, QString()}); }
 
-        const ExportOrder order;
-        const RenderCallbacks callbacks;
+        const ExportRequest request;
+        const KxRenderJob::Callbacks callbacks;
         bool isCancelled = false;
 
     private:
-        FakeStudio& m_studio;
+        FakeMediaBackend& m_backend;
         std::thread m_thread;
     };
 
-    KxResult<StudioMedia> Open(const QString& path, const KxCancelToken&) override
+    KxResult<MediaFile> Open(const QString& path, const KxCancelToken&) override
     {
         const QString name = QFileInfo(path).fileName();
         if (name.startsWith(QLatin1String("bad"))) {
-            return KxResult<StudioMedia>::Failure(QStringLiteral("Cannot open %1: it is bad.").arg(name));
+            return KxResult<MediaFile>::Failure(QStringLiteral("Cannot open %1: it is bad.").arg(name));
         }
-        StudioMedia media;
+        MediaFile media;
         media.path = path;
         media.resolution = QSize(1920, 1080);
         media.frameRate = {30, 1};
@@ -72,10 +72,10 @@ public:
     }
     void CancelThumbnail(quint64) override {}
     QString ImportPatterns() const override { return QStringLiteral("*.mp4;*.mov"); }
-    void Reframe(const QList<StudioMedia>& media, QWidget&, const ReframeCallbacks& callbacks) override
+    void Reframe(const QList<MediaFile>& media, QWidget&, const DialogCallbacks& callbacks) override
     {
         reframed.clear();
-        for (const StudioMedia& video : media) {
+        for (const MediaFile& video : media) {
             reframed += QFileInfo(video.path).fileName();
         }
         ++dialogs;
@@ -83,16 +83,16 @@ public:
             inDialog(callbacks);
         }
     }
-    std::unique_ptr<RenderTask> Render(const ExportOrder& order, const RenderCallbacks& callbacks) override
+    std::unique_ptr<RenderTask> Render(const ExportRequest& request, const KxRenderJob::Callbacks& callbacks) override
     {
-        return std::make_unique<Task>(*this, order, callbacks);
+        return std::make_unique<Task>(*this, request, callbacks);
     }
 
     quint64 lastThumbnail = 0;
     int dialogs = 0;
     QStringList reframed;
     /// What the person does in the dialog.
-    std::function<void(const ReframeCallbacks&)> inDialog;
-    /// What renders now; null when nothing does.
+    std::function<void(const DialogCallbacks&)> inDialog;
+    /// The running rendering, or null.
     Task* task = nullptr;
 };

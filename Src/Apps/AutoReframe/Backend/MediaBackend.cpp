@@ -1,0 +1,4 @@
+#include <Apps/AutoReframe/Backend/MediaBackend.h>
+
+RenderTask::~RenderTask() = default;
+MediaBackend::~MediaBackend() = default;

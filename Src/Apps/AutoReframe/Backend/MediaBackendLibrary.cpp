@@ -1,0 +1,7 @@
+#include <Apps/AutoReframe/Backend/HostMediaBackend.h>
+
+/// The program resolves this function by its name; it is the library's only export.
+extern "C" Q_DECL_EXPORT MediaBackend* MakeMediaBackend()
+{
+    return new HostMediaBackend;
+}
