@@ -1,43 +1,39 @@
 #include <Apps/AutoReframe/AutoReframeOptions.h>
 
+#include <QCommandLineParser>
+
 namespace
 {
 
 constexpr int WrongUse = 2;
 
-QString HelpText()
-{
-    return QStringLiteral("Usage: auto-reframe [FILE...]\n"
-                          "Turns videos into another aspect ratio and keeps their subject in the picture.\n"
-                          "\n"
-                          "  FILE           Videos to open the library with.\n"
-                          "  -h, --help     Show this text.\n"
-                          "  --version      Show the version.\n"
-                          "\n"
-                          "The command line program for many files at once is reframe.\n");
-}
-
 } // namespace
 
 AutoReframeOptions::Parsed AutoReframeOptions::Parse(const QStringList& arguments)
 {
+    const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Show this text."));
+    const QCommandLineOption version(QStringLiteral("version"), QStringLiteral("Show the version."));
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        QStringLiteral("Turns videos into another aspect ratio and keeps their subject in the picture.\n"
+                       "The command line program for many files at once is reframe."));
+    parser.addOptions({help, version});
+    parser.addPositionalArgument(QStringLiteral("FILE"), QStringLiteral("Videos to open the library with."),
+                                 QStringLiteral("[FILE...]"));
+    parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
+    const bool isUnderstood = parser.parse(arguments);
+
     Parsed parsed;
-    bool onlyFiles = false;
-    for (const QString& argument : arguments) {
-        if (onlyFiles || !argument.startsWith(QLatin1Char('-')) || argument.size() == 1) {
-            parsed.options.files += argument;
-        } else if (argument == QLatin1String("--")) {
-            onlyFiles = true;
-        } else if (argument == QLatin1String("-h") || argument == QLatin1String("--help")) {
-            parsed.text = HelpText();
-            return parsed;
-        } else if (argument == QLatin1String("--version")) {
-            parsed.text = QStringLiteral("auto-reframe %1\n").arg(QStringLiteral(KR_VERSION));
-            return parsed;
-        } else if (parsed.text.isEmpty()) {
-            parsed.text = QStringLiteral("Unknown option %1.\nTry auto-reframe --help.\n").arg(argument);
-            parsed.exitStatus = WrongUse;
-        }
+    // Before unknown options: before the display is opened, Qt's own options are still among the arguments.
+    if (parser.isSet(help)) {
+        parsed.text = parser.helpText();
+    } else if (parser.isSet(version)) {
+        parsed.text = QStringLiteral("auto-reframe %1\n").arg(QStringLiteral(KR_VERSION));
+    } else if (!isUnderstood) {
+        parsed.text = QStringLiteral("%1\nTry auto-reframe --help.\n").arg(parser.errorText());
+        parsed.exitStatus = WrongUse;
+    } else {
+        parsed.options.files = parser.positionalArguments();
     }
     return parsed;
 }

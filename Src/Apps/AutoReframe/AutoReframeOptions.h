@@ -2,18 +2,19 @@
 
 #include <QStringList>
 
-/// What the command line says. A plain record.
+/// The command line. A plain record.
 struct AutoReframeOptions {
     QStringList files;
 
     struct Parsed;
-    /// `arguments` without the program's name, and without those that Qt takes for itself. Pure.
+    /// `arguments` begins with the program's name and lacks the options that Qt takes. Needs an application object: Qt
+    /// asks it for the program's name.
     static Parsed Parse(const QStringList& arguments);
 };
 
 struct AutoReframeOptions::Parsed {
     AutoReframeOptions options;
-    /// To print, then to end with `exitStatus`; empty: run.
+    /// To print before the program ends with `exitStatus`; empty if the program is to run.
     QString text;
     int exitStatus = 0;
 };

@@ -1,3 +1,4 @@
+#include <Apps/AutoReframe/AutoReframePlatform.h>
 #include <Apps/AutoReframe/AutoReframeProgram.h>
 #include <KxCore/KxInterrupt.h>
 #include <KxCore/KxMemory.h>
@@ -5,13 +6,14 @@
 
 #include <QApplication>
 
+#include <algorithm>
 #include <cstdio>
 #include <optional>
 
 namespace
 {
 
-/// Prints what there is to print; nothing when the program is to run.
+/// Prints the text that was asked for and returns the exit status; nothing if the program is to run.
 std::optional<int> PrintAndEnd(const AutoReframeOptions::Parsed& parsed)
 {
     if (parsed.text.isEmpty()) {
@@ -21,39 +23,49 @@ std::optional<int> PrintAndEnd(const AutoReframeOptions::Parsed& parsed)
     return parsed.exitStatus;
 }
 
-} // namespace
-
-int main(int argc, char** argv)
+/// Help and version need no display.
+bool PrintsWithoutDisplay(int argc, char** argv)
 {
-    // Help and version need no display.
-    QStringList given;
-    for (int i = 1; i < argc; ++i) {
-        given += QString::fromLocal8Bit(argv[i]);
+    if (std::none_of(argv + 1, argv + argc, [](const char* argument) { return *argument == '-'; })) {
+        return false;
     }
-    const AutoReframeOptions::Parsed early = AutoReframeOptions::Parse(given);
-    if (!early.text.isEmpty() && early.exitStatus == 0) {
-        return *PrintAndEnd(early);
-    }
+    const QCoreApplication application(argc, argv);
+    const AutoReframeOptions::Parsed parsed = AutoReframeOptions::Parse(QCoreApplication::arguments());
+    return parsed.exitStatus == 0 && PrintAndEnd(parsed);
+}
 
-    KxMemory::KeepNoPictures();
+void PrepareQt()
+{
     // Nothing here is drawn with OpenGL, and loading its driver takes longer than all the rest of the start.
     if (!qEnvironmentVariableIsSet("QT_XCB_GL_INTEGRATION")) {
         qputenv("QT_XCB_GL_INTEGRATION", "none");
     }
+    AutoReframePlatform::Apply();
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
 #if defined(Q_OS_WIN)
-    // Screens there are scaled by quarters, all of them sharp; elsewhere factors such as 1.04 come from a monitor's
-    // size.
+    // Windows scales screens by quarters, all of them sharp; elsewhere factors such as 1.04 come from a monitor's size.
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
 #endif
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    if (PrintsWithoutDisplay(argc, argv)) {
+        return 0;
+    }
+    KxMemory::KeepNoPictures();
+    PrepareQt();
     QApplication application(argc, argv);
+    AutoReframePlatform::Restore();
     QCoreApplication::setApplicationName(QStringLiteral("Auto Reframe"));
     QCoreApplication::setApplicationVersion(QStringLiteral(KR_VERSION));
     QGuiApplication::setDesktopFileName(QStringLiteral("auto-reframe"));
     KxLogSettings::RouteQtMessages();
 
-    const AutoReframeOptions::Parsed parsed = AutoReframeOptions::Parse(QCoreApplication::arguments().mid(1));
+    const AutoReframeOptions::Parsed parsed = AutoReframeOptions::Parse(QCoreApplication::arguments());
     if (const std::optional<int> status = PrintAndEnd(parsed)) {
         return *status;
     }

@@ -1,4 +1,3 @@
-#include <Apps/AutoReframe/AutoReframeOptions.h>
 #include <Apps/AutoReframe/Library/MediaText.h>
 
 #include <gtest/gtest.h>
@@ -26,29 +25,4 @@ TEST(TestMediaText, TimeLeftGrowsCoarser)
     EXPECT_EQ(MediaText::TimeLeft(8), QStringLiteral("8 s left"));
     EXPECT_EQ(MediaText::TimeLeft(125), QStringLiteral("2 min 5 s left"));
     EXPECT_EQ(MediaText::TimeLeft(3900), QStringLiteral("1 h 5 min left"));
-}
-
-TEST(TestAutoReframeOptions, EverythingWithoutADashIsAFile)
-{
-    const auto parsed =
-        AutoReframeOptions::Parse({QStringLiteral("a.mp4"), QStringLiteral("--"), QStringLiteral("-b")});
-    EXPECT_EQ(parsed.options.files, (QStringList{QStringLiteral("a.mp4"), QStringLiteral("-b")}));
-    EXPECT_TRUE(parsed.text.isEmpty());
-}
-
-TEST(TestAutoReframeOptions, HelpAndVersionArePrinted)
-{
-    const auto help = AutoReframeOptions::Parse({QStringLiteral("--help")});
-    EXPECT_TRUE(help.text.contains(QLatin1String("auto-reframe [FILE...]")));
-    EXPECT_EQ(help.exitStatus, 0);
-    const auto version = AutoReframeOptions::Parse({QStringLiteral("--version")});
-    EXPECT_EQ(version.text, QStringLiteral("auto-reframe " KR_VERSION "\n"));
-    EXPECT_EQ(version.exitStatus, 0);
-}
-
-TEST(TestAutoReframeOptions, AnUnknownOptionIsWrongUse)
-{
-    const auto parsed = AutoReframeOptions::Parse({QStringLiteral("--frobnicate"), QStringLiteral("a.mp4")});
-    EXPECT_TRUE(parsed.text.contains(QLatin1String("--frobnicate")));
-    EXPECT_EQ(parsed.exitStatus, 2);
 }

@@ -1,0 +1,33 @@
+#include <Apps/AutoReframe/AutoReframePlatform.h>
+
+#include <QByteArray>
+#include <QtGlobal>
+
+namespace
+{
+
+constexpr const char* Variable = "QT_QPA_PLATFORM";
+const QByteArray X11First = QByteArrayLiteral("xcb;wayland");
+
+} // namespace
+
+std::optional<QByteArray> AutoReframePlatform::Choose(const QByteArray& display, const QByteArray& wanted)
+{
+    return display.isEmpty() || !wanted.isEmpty() ? std::nullopt : std::optional<QByteArray>(X11First);
+}
+
+void AutoReframePlatform::Apply()
+{
+#if defined(Q_OS_UNIX) && !defined(Q_OS_DARWIN)
+    if (const std::optional<QByteArray> platform = Choose(qgetenv("DISPLAY"), qgetenv(Variable))) {
+        qputenv(Variable, *platform);
+    }
+#endif
+}
+
+void AutoReframePlatform::Restore()
+{
+    if (qgetenv(Variable) == X11First) {
+        qunsetenv(Variable);
+    }
+}
