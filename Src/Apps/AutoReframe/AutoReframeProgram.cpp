@@ -3,7 +3,6 @@
 #include <Apps/AutoReframe/Backend/MediaBackendLoader.h>
 #include <Apps/AutoReframe/Exports/ExportQueue.h>
 #include <Apps/AutoReframe/MainWindow.h>
-#include <Apps/AutoReframe/UiReport.h>
 #include <KxCore/KxInterrupt.h>
 
 #include <KxWidgets/KxUIStyle.h>
@@ -13,14 +12,12 @@
 #include <QTimer>
 #include <QTranslator>
 
-#include <cstdlib>
-
 namespace
 {
 
 constexpr int Interrupted = 130;
 
-/// What a person wants at once after they asked for it: nothing is asked, whatever is open.
+/// Ends the program without a question, whatever is open.
 void EndWhenInterrupted(QTimer& timer, MainWindow& window)
 {
     constexpr int lookEveryMs = 100;
@@ -45,9 +42,6 @@ int AutoReframeProgram::Run(QApplication& application, const AutoReframeOptions&
     }
     MediaBackendLoader backend(&MediaBackendLoader::LoadLibrary, nullptr);
     MainWindow window(backend);
-    if (qEnvironmentVariableIsSet("KR_END_WHEN_PAINTED")) {
-        QObject::connect(&window, &MainWindow::sigPainted, &application, [] { std::_Exit(0); });
-    }
     QObject::connect(&window, &MainWindow::sigPainted, &backend, [&backend] {
         QApplication::setWindowIcon(QIcon(QStringLiteral(":/AutoReframe/auto-reframe.svg")));
         backend.Start();
@@ -56,6 +50,5 @@ int AutoReframeProgram::Run(QApplication& application, const AutoReframeOptions&
     window.Open(options.files);
     QTimer interrupt;
     EndWhenInterrupted(interrupt, window);
-    const std::unique_ptr<UiReport> report = UiReport::MakeIfWanted();
     return QApplication::exec();
 }

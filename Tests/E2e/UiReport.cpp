@@ -1,4 +1,4 @@
-#include <Apps/AutoReframe/UiReport.h>
+#include <Tests/E2e/UiReport.h>
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
@@ -82,16 +82,20 @@ void AddContent(const QWidget& widget, QJsonObject& object)
     }
 }
 
-} // namespace
-
-std::unique_ptr<UiReport> UiReport::MakeIfWanted()
+void ReportFromTheStart()
 {
     const QString filePath = qEnvironmentVariable("KR_UI_REPORT");
-    return filePath.isEmpty() ? nullptr : std::unique_ptr<UiReport>(new UiReport(filePath));
+    if (!filePath.isEmpty() && qobject_cast<QApplication*>(QCoreApplication::instance()) != nullptr) {
+        new UiReport(filePath, qApp);
+    }
 }
+Q_COREAPP_STARTUP_FUNCTION(ReportFromTheStart)
 
-UiReport::UiReport(const QString& filePath)
-    : m_filePath(filePath)
+} // namespace
+
+UiReport::UiReport(const QString& filePath, QObject* parent)
+    : QObject(parent)
+    , m_filePath(filePath)
 {
     constexpr int everyMs = 100;
     auto* const timer = new QTimer(this);
@@ -119,6 +123,7 @@ QJsonObject UiReport::Describe() const
     const QWidget* const window = QApplication::activeWindow();
     const QWidget* const focus = QApplication::focusWidget();
     return {{QStringLiteral("serial"), m_serial},
+            {QStringLiteral("platform"), QGuiApplication::platformName()},
             {QStringLiteral("window"), window != nullptr ? NameOf(*window) : QString()},
             {QStringLiteral("focus"), focus != nullptr ? NameOf(*focus) : QString()},
             {QStringLiteral("widgets"), widgets}};
