@@ -10,10 +10,10 @@
 namespace
 {
 
-/// Where pictures are looked for, in parts of the video's length.
-constexpr double places[] = {0.1, 0.35, 0.65};
+/// Where pictures are taken, as fractions of the video's length.
+constexpr double Places[] = {0.1, 0.35, 0.65};
 
-/// Black, white or fog: nothing that tells one video from another.
+/// Black, white or fog: a picture that does not tell one video from another.
 bool IsOfOneColour(const QImage& picture)
 {
     constexpr int leastContrast = 24;
@@ -47,7 +47,7 @@ KxResult<QImage> KxThumbnailPicture::Make(const QString& path, const QSize& room
     const qint64 frameCount = (*reader)->Facts().video->frameCount;
     KxPictureScaler scaler;
     QImage first;
-    for (const double place : places) {
+    for (const double place : Places) {
         KxVideoFrame frame;
         if ((*reader)->Read(static_cast<qint64>(place * static_cast<double>(frameCount)), frame) !=
             KxReadStatus::Delivered) {

@@ -1,114 +1,50 @@
 #include <KxMediaLibrary/KxThumbnailer.h>
 
+#include <KxCore/KxWorker.h>
 #include <KxMediaLibrary/KxThumbnailPicture.h>
 
+#include <QFileInfo>
 #include <QHash>
 
-#include <condition_variable>
-#include <mutex>
-#include <thread>
-#include <vector>
-
-/// The thread and its stack of requests.
-class KxThumbnailer::Worker
-{
-public:
-    explicit Worker(KxThumbnailer* owner)
-        : m_owner(owner)
-        , m_thread([this] { Run(); })
+struct KxThumbnailer::Work {
+    explicit Work(Maker made)
+        : maker(std::move(made))
     {
     }
 
-    ~Worker()
+    /// On the worker's thread. Nothing is emitted for a request that was cancelled meanwhile.
+    void Deliver(KxThumbnailer& thumbnailer, quint64 request, const KxResult<QImage>& picture)
     {
-        {
-            const std::lock_guard<std::mutex> lock(m_mutex);
-            m_isOver = true;
-            for (KxCancelToken& token : m_tokens) {
-                token.Cancel();
-            }
-        }
-        m_changed.notify_one();
-        m_thread.join();
+        QMetaObject::invokeMethod(
+            &thumbnailer,
+            [this, &thumbnailer, request, picture] {
+                if (jobs.remove(request) == 0) {
+                    return;
+                }
+                if (picture) {
+                    Q_EMIT thumbnailer.sigReady(request, *picture);
+                } else {
+                    Q_EMIT thumbnailer.sigFailed(request, picture.Message());
+                }
+            },
+            Qt::QueuedConnection);
     }
 
-    void Push(quint64 number, const QString& path, const QSize& roomPx)
-    {
-        {
-            const std::lock_guard<std::mutex> lock(m_mutex);
-            m_waiting.push_back({number, path, roomPx, m_tokens[number]});
-        }
-        m_changed.notify_one();
-    }
-
-    /// False when there is no such request (any more): it was cancelled meanwhile.
-    bool Forget(quint64 number)
-    {
-        const std::lock_guard<std::mutex> lock(m_mutex);
-        const auto token = m_tokens.find(number);
-        if (token == m_tokens.end()) {
-            return false;
-        }
-        token->Cancel();
-        m_tokens.erase(token);
-        return true;
-    }
-
-    QList<quint64> Numbers() const
-    {
-        const std::lock_guard<std::mutex> lock(m_mutex);
-        return m_tokens.keys();
-    }
-
-private:
-    struct Task {
-        quint64 number;
-        QString path;
-        QSize roomPx;
-        KxCancelToken cancel;
-    };
-
-    std::optional<Task> Next()
-    {
-        std::unique_lock<std::mutex> lock(m_mutex);
-        m_changed.wait(lock, [this] { return m_isOver || !m_waiting.empty(); });
-        if (m_isOver) {
-            return std::nullopt;
-        }
-        Task task = std::move(m_waiting.back());
-        m_waiting.pop_back();
-        return task;
-    }
-
-    void Run()
-    {
-        while (const std::optional<Task> task = Next()) {
-            if (task->cancel.IsCancelled()) {
-                continue;
-            }
-            const KxResult<QImage> picture = KxThumbnailPicture::Make(task->path, task->roomPx, task->cancel);
-            QMetaObject::invokeMethod(
-                m_owner,
-                [owner = m_owner, number = task->number, picture] {
-                    picture ? owner->HandleReady(number, *picture) : owner->HandleFailed(number, picture.Message());
-                },
-                Qt::QueuedConnection);
-        }
-    }
-
-    KxThumbnailer* const m_owner;
-    mutable std::mutex m_mutex;
-    std::condition_variable m_changed;
-    std::vector<Task> m_waiting;
-    /// Of every request that has neither been answered nor cancelled.
-    QHash<quint64, KxCancelToken> m_tokens;
-    bool m_isOver = false;
-    std::thread m_thread;
+    const Maker maker;
+    /// The worker's job of each request that was neither answered nor cancelled. User-interface thread.
+    QHash<quint64, quint64> jobs;
+    // Last: its thread uses the others.
+    KxWorker worker{KxWorker::Order::NewestFirst};
 };
 
 KxThumbnailer::KxThumbnailer(QObject* parent)
+    : KxThumbnailer(&KxThumbnailPicture::Make, parent)
+{
+}
+
+KxThumbnailer::KxThumbnailer(Maker maker, QObject* parent)
     : QObject(parent)
-    , m_worker(std::make_unique<Worker>(this))
+    , m_work(std::make_unique<Work>(std::move(maker)))
 {
 }
 
@@ -116,33 +52,27 @@ KxThumbnailer::~KxThumbnailer() = default;
 
 quint64 KxThumbnailer::Request(const QString& path, const QSize& roomPx)
 {
-    m_worker->Push(++m_lastRequest, path, roomPx);
-    return m_lastRequest;
+    const quint64 request = ++m_lastRequest;
+    KxWorker::Job job;
+    job.work = [this, work = m_work.get(), request, path, roomPx](const KxCancelToken& cancel) {
+        work->Deliver(*this, request, work->maker(path, roomPx, cancel));
+    };
+    job.failed = [this, work = m_work.get(), request, path](const QString& message) {
+        work->Deliver(
+            *this, request,
+            KxResult<QImage>::Failure(QStringLiteral("Cannot show %1: %2.").arg(QFileInfo(path).fileName(), message)));
+    };
+    m_work->jobs.insert(request, m_work->worker.Add(std::move(job)));
+    return request;
 }
 
 void KxThumbnailer::Cancel(quint64 request)
 {
-    m_worker->Forget(request);
+    m_work->worker.Cancel(m_work->jobs.take(request));
 }
 
 void KxThumbnailer::CancelAll()
 {
-    const QList<quint64> numbers = m_worker->Numbers();
-    for (const quint64 number : numbers) {
-        m_worker->Forget(number);
-    }
-}
-
-void KxThumbnailer::HandleReady(quint64 request, const QImage& picture)
-{
-    if (m_worker->Forget(request)) {
-        Q_EMIT sigReady(request, picture);
-    }
-}
-
-void KxThumbnailer::HandleFailed(quint64 request, const QString& message)
-{
-    if (m_worker->Forget(request)) {
-        Q_EMIT sigFailed(request, message);
-    }
+    m_work->jobs.clear();
+    m_work->worker.CancelAll();
 }

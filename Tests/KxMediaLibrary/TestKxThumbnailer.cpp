@@ -3,10 +3,13 @@
 
 #include <QSignalSpy>
 #include <QTemporaryDir>
+#include <QTest>
 
 #include <gtest/gtest.h>
 
+#include <future>
 #include <memory>
+#include <new>
 
 namespace
 {
@@ -31,22 +34,16 @@ protected:
         return Clip(QStringLiteral("numbered.mp4"), recipe);
     }
 
-    /// Waits until the requests have had `count` answers.
+    /// Waits until `count` requests have been answered.
     bool WaitForAnswers(int count)
     {
-        while (ready.count() + failed.count() < count) {
-            if (!ready.wait(100) && ++rounds > WaitMs / 100) {
-                return false;
-            }
-        }
-        return true;
+        return QTest::qWaitFor([this, count] { return ready.count() + failed.count() >= count; }, WaitMs);
     }
 
     QTemporaryDir folder;
     std::unique_ptr<KxThumbnailer> thumbnailer = std::make_unique<KxThumbnailer>();
     QSignalSpy ready{thumbnailer.get(), &KxThumbnailer::sigReady};
     QSignalSpy failed{thumbnailer.get(), &KxThumbnailer::sigFailed};
-    int rounds = 0;
 };
 
 } // namespace
@@ -63,7 +60,7 @@ TEST_F(KxThumbnailerTest, APictureFitsIntoTheRoom)
     EXPECT_EQ(MadeVideo::ReadNumber(picture), FrameCount / 10);
 }
 
-TEST_F(KxThumbnailerTest, APictureIsNeverBlownUp)
+TEST_F(KxThumbnailerTest, APictureIsNeverEnlarged)
 {
     thumbnailer->Request(NumberedClip(), QSize(1000, 1000));
     ASSERT_TRUE(WaitForAnswers(1));
@@ -71,7 +68,7 @@ TEST_F(KxThumbnailerTest, APictureIsNeverBlownUp)
     EXPECT_EQ(ready.at(0).at(1).value<QImage>().size(), QSize(160, 96));
 }
 
-TEST_F(KxThumbnailerTest, ABlackBeginningIsLeftOut)
+TEST_F(KxThumbnailerTest, ABlackBeginningIsSkipped)
 {
     MadeVideo::Recipe recipe;
     recipe.frames = FrameCount;
@@ -121,25 +118,39 @@ TEST_F(KxThumbnailerTest, ASoundFileHasNoPicture)
     EXPECT_EQ(failed.count(), 1);
 }
 
-TEST_F(KxThumbnailerTest, TheNewestRequestIsServedFirst)
+TEST(KxThumbnailer, TheNewestRequestIsServedFirst)
 {
-    const QString path = NumberedClip();
-    QList<quint64> waiting;
-    for (int n = 0; n < 8; ++n) {
-        waiting.append(thumbnailer->Request(path, QSize(40, 40)));
+    std::promise<void> isBusy;
+    std::promise<void> mayGoOn;
+    QStringList made;
+    KxThumbnailer thumbnailer([&](const QString& path, const QSize&, const KxCancelToken&) {
+        if (path == QLatin1String("first")) {
+            isBusy.set_value();
+            mayGoOn.get_future().wait();
+        }
+        made += path;
+        return KxResult<QImage>(QImage(1, 1, QImage::Format_RGB32));
+    });
+    QSignalSpy ready(&thumbnailer, &KxThumbnailer::sigReady);
+    thumbnailer.Request(QStringLiteral("first"), QSize(1, 1));
+    isBusy.get_future().wait();
+    for (const char* const path : {"a", "b", "c"}) {
+        thumbnailer.Request(QLatin1String(path), QSize(1, 1));
     }
-    ASSERT_TRUE(WaitForAnswers(8));
-    QList<quint64> served;
-    for (const QList<QVariant>& signal : ready) {
-        served.append(signal.at(0).toULongLong());
-    }
-    // The thread may have taken some before the last ones were asked for; the newest of all was never kept waiting for
-    // an older one that had not begun.
-    const int newest = served.indexOf(waiting.last());
-    for (int n = newest + 1; n < served.size(); ++n) {
-        EXPECT_GT(served.at(n - 1), served.at(n));
-    }
-    EXPECT_EQ(served.size(), 8);
+    mayGoOn.set_value();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return ready.count() == 4; }, WaitMs));
+    EXPECT_EQ(made,
+              (QStringList{QStringLiteral("first"), QStringLiteral("c"), QStringLiteral("b"), QStringLiteral("a")}));
+}
+
+TEST(KxThumbnailer, AnExceptionIsReportedAsAFailure)
+{
+    KxThumbnailer thumbnailer(
+        [](const QString&, const QSize&, const KxCancelToken&) -> KxResult<QImage> { throw std::bad_alloc(); });
+    QSignalSpy failed(&thumbnailer, &KxThumbnailer::sigFailed);
+    thumbnailer.Request(QStringLiteral("/clips/50%1.mp4"), QSize(1, 1));
+    ASSERT_TRUE(failed.wait(WaitMs));
+    EXPECT_EQ(failed.at(0).at(1).toString(), QStringLiteral("Cannot show 50%1.mp4: memory ran out."));
 }
 
 TEST_F(KxThumbnailerTest, ACancelledRequestIsNeverAnswered)
