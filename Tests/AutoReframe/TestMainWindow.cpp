@@ -138,6 +138,14 @@ TEST_F(TestMainWindow, FilesThatCannotBeOpenedAreToldInOneNotice)
     EXPECT_EQ(View()->model()->rowCount(), 2);
 }
 
+TEST_F(TestMainWindow, AnExceptionWhileAFileIsOpenedIsReported)
+{
+    Open({QStringLiteral("throws.mp4"), QStringLiteral("a.mp4")});
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !m_told.isEmpty(); }, 10000));
+    EXPECT_EQ(m_told, QStringList(QStringLiteral("Cannot open throws.mp4: memory ran out.")));
+    EXPECT_EQ(View()->model()->rowCount(), 2);
+}
+
 TEST_F(TestMainWindow, AFileComesIntoTheLibraryOnce)
 {
     Open({QStringLiteral("a.mp4"), QStringLiteral("a.mp4")});

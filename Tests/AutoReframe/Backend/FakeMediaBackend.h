@@ -4,9 +4,11 @@
 
 #include <QFileInfo>
 
+#include <new>
 #include <thread>
 
-/// A backend without media libraries. Every file is a video unless its name begins with "bad".
+/// A backend without media libraries. Every file is a video, but opening fails if the name begins with "bad" and throws
+/// if it begins with "throws".
 class FakeMediaBackend final : public MediaBackend
 {
 public:
@@ -54,6 +56,9 @@ public:
         const QString name = QFileInfo(path).fileName();
         if (name.startsWith(QLatin1String("bad"))) {
             return KxResult<MediaFile>::Failure(QStringLiteral("Cannot open %1: it is bad.").arg(name));
+        }
+        if (name.startsWith(QLatin1String("throws"))) {
+            throw std::bad_alloc();
         }
         MediaFile media;
         media.path = path;

@@ -1,65 +1,39 @@
 #include <Apps/AutoReframe/Library/MediaLoader.h>
 
-#include <algorithm>
+#include <QFileInfo>
 
 MediaLoader::MediaLoader(MediaBackend& backend, QObject* parent)
     : QObject(parent)
     , m_backend(backend)
-    , m_thread([this] { Work(); })
 {
 }
 
-MediaLoader::~MediaLoader()
-{
-    {
-        const std::lock_guard<std::mutex> lock(m_mutex);
-        m_ends = true;
-        if (m_current) {
-            m_current->cancel.Cancel();
-        }
-    }
-    m_changed.notify_all();
-    m_thread.join();
-}
+MediaLoader::~MediaLoader() = default;
 
 void MediaLoader::Open(int id, const QString& path)
 {
-    {
-        const std::lock_guard<std::mutex> lock(m_mutex);
-        m_requests.push_back({id, path, KxCancelToken()});
-    }
-    m_changed.notify_all();
+    KxWorker::Job job;
+    job.work = [this, id, path](const KxCancelToken& cancel) { Deliver(id, m_backend.Open(path, cancel)); };
+    job.failed = [this, id, path](const QString& message) {
+        Deliver(id, KxResult<MediaFile>::Failure(tr("Cannot open %1: %2.").arg(QFileInfo(path).fileName(), message)));
+    };
+    m_jobs.insert(id, m_worker.Add(std::move(job)));
 }
 
 void MediaLoader::Forget(int id)
 {
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    const auto isOfFile = [id](const Request& request) { return request.id == id; };
-    m_requests.erase(std::remove_if(m_requests.begin(), m_requests.end(), isOfFile), m_requests.end());
-    if (m_current && isOfFile(*m_current)) {
-        m_current->cancel.Cancel();
-    }
+    m_worker.Cancel(m_jobs.take(id));
 }
 
-std::optional<MediaLoader::Request> MediaLoader::Next()
+void MediaLoader::Deliver(int id, const KxResult<MediaFile>& media)
 {
-    std::unique_lock<std::mutex> lock(m_mutex);
-    m_current.reset();
-    m_changed.wait(lock, [this] { return m_ends || !m_requests.empty(); });
-    if (m_ends) {
-        return std::nullopt;
-    }
-    m_current = m_requests.front();
-    m_requests.pop_front();
-    return m_current;
-}
-
-void MediaLoader::Work()
-{
-    while (const std::optional<Request> request = Next()) {
-        const KxResult<MediaFile> media = m_backend.Open(request->path, request->cancel);
-        if (!request->cancel.IsCancelled()) {
-            QMetaObject::invokeMethod(this, [this, id = request->id, media] { Q_EMIT sigOpened(id, media); });
-        }
-    }
+    QMetaObject::invokeMethod(
+        this,
+        [this, id, media] {
+            // The file may have been forgotten meanwhile.
+            if (m_jobs.remove(id) > 0) {
+                Q_EMIT sigOpened(id, media);
+            }
+        },
+        Qt::QueuedConnection);
 }
