@@ -5,7 +5,6 @@
 
 #include <KxWidgets/KxLabel.h>
 #include <KxWidgets/KxToolButton.h>
-#include <KxWidgets/KxUIStyle.h>
 
 #include <QContextMenuEvent>
 #include <QDir>
@@ -24,25 +23,22 @@ using State = ExportItem::State;
 constexpr int CancelPx = 24;
 constexpr int SmallPx = 11;
 
-QFont Small(QFont font)
-{
-    font.setPixelSize(SmallPx);
-    return font;
-}
-
 KxLabel* MakeSmall(QWidget* parent, const QString& name)
 {
     KxLabel* const label = KxLabel::CreateLabel(parent, QString());
     label->setObjectName(name);
-    label->setFont(Small(KxUIStyle::TabularFont()));
+    // Everything but the size is inherited.
+    QFont small;
+    small.setPixelSize(SmallPx);
+    label->setFont(small);
     label->setProperty("textRole", QStringLiteral("muted"));
-    // As much as a link button has around its text, so that both stand on one line.
+    // The margins of a link button, so that their texts have one baseline.
     label->setContentsMargins(0, 4, 0, 4);
     label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     return label;
 }
 
-// The style sheet looks at properties only when a widget is polished.
+// The style sheet reads properties only while a widget is polished.
 void SetTextRole(QWidget& label, const QString& role)
 {
     if (label.property("textRole").toString() != role) {
@@ -88,7 +84,7 @@ ExportCard::~ExportCard() = default;
 
 void ExportCard::InitLayout()
 {
-    // The cross, not the button around it, ends where the texts below end.
+    // The right edge of the cross, not of its button, is aligned with the texts below.
     constexpr int aroundCrossPx = 5;
     auto* const head = new QHBoxLayout;
     head->setSpacing(8);
@@ -124,8 +120,6 @@ void ExportCard::Show(const ExportItem& item)
     m_size->setVisible(isActive);
     m_retry->setVisible(item.state == State::Failed || item.state == State::Cancelled);
     m_show->setVisible(item.state == State::Done);
-    // Figures that run have to stand still; a message looks like every other text.
-    m_status->setFont(Small(isActive ? KxUIStyle::TabularFont() : font()));
     SetTextRole(*m_status, item.state == State::Failed ? QStringLiteral("error") : QStringLiteral("muted"));
     ShowTexts();
 }
