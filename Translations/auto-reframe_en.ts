@@ -39,6 +39,13 @@
         </translation>
     </message>
     <message numerus="yes">
+        <source>%n selected videos are left.</source>
+        <translation>
+            <numerusform>It is the last one of the selected videos.</numerusform>
+            <numerusform>%n selected videos are left.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
         <source>… and %n more.</source>
         <translation>
             <numerusform>… and %n more.</numerusform>

@@ -71,6 +71,21 @@ protected:
     {
         return QTest::qWaitFor([&] { return Button("TopBar_reframe")->isEnabled(); }, 10000);
     }
+    bool WaitUntilAllAreOpen() const
+    {
+        return QTest::qWaitFor(
+            [&] {
+                const QAbstractItemModel& model = *View()->model();
+                for (int row = 0; row + 1 < model.rowCount(); ++row) {
+                    const QString details = model.index(row, 0).data(Qt::AccessibleDescriptionRole).toString();
+                    if (!details.endsWith(QLatin1String("fps"))) {
+                        return false;
+                    }
+                }
+                return true;
+            },
+            10000);
+    }
     ExportRequest Request(const QString& name) const
     {
         ExportRequest request;
@@ -209,25 +224,40 @@ TEST_F(TestMainWindow, DeleteRemovesTheSelection)
 TEST_F(TestMainWindow, SelectionButtonReturnAndDoubleClickOpenTheDialog)
 {
     Open({QStringLiteral("a.mp4"), QStringLiteral("b.mp4")});
-    ASSERT_TRUE(WaitUntilUsable());
-    ASSERT_TRUE(QTest::qWaitFor([&] {
-        return View()
-            ->model()
-            ->index(1, 0)
-            .data(Qt::AccessibleDescriptionRole)
-            .toString()
-            .endsWith(QLatin1String("fps"));
-    }));
+    ASSERT_TRUE(WaitUntilAllAreOpen());
     Button("TopBar_reframe")->click();
-    EXPECT_EQ(m_backend->reframed, (QStringList{QStringLiteral("a.mp4"), QStringLiteral("b.mp4")}));
+    EXPECT_EQ(m_backend->reframed, QStringList(QStringLiteral("a.mp4")));
+    m_backend->reframed.clear();
     View()->setCurrentIndex(View()->model()->index(1, 0));
     QTest::keyClick(View(), Qt::Key_Return);
     EXPECT_EQ(m_backend->reframed, QStringList(QStringLiteral("b.mp4")));
+    m_backend->reframed.clear();
     const QPoint card = View()->visualRect(View()->model()->index(0, 0)).center();
     QTest::mouseClick(View()->viewport(), Qt::LeftButton, Qt::NoModifier, card);
     QTest::mouseDClick(View()->viewport(), Qt::LeftButton, Qt::NoModifier, card);
     EXPECT_EQ(m_backend->reframed, QStringList(QStringLiteral("a.mp4")));
     EXPECT_EQ(m_backend->dialogs, 3);
+}
+
+TEST_F(TestMainWindow, SeveralSelectedVideosAreReframedOneAfterTheOther)
+{
+    Open({QStringLiteral("a.mp4"), QStringLiteral("50%1.mp4"), QStringLiteral("c.mp4")});
+    ASSERT_TRUE(WaitUntilAllAreOpen());
+    m_answer = true;
+    Button("TopBar_reframe")->click();
+    EXPECT_EQ(m_backend->reframed,
+              (QStringList{QStringLiteral("a.mp4"), QStringLiteral("50%1.mp4"), QStringLiteral("c.mp4")}));
+    EXPECT_EQ(m_told, (QStringList{QStringLiteral("Continue with 50%1.mp4?"), QStringLiteral("Continue with c.mp4?")}));
+}
+
+TEST_F(TestMainWindow, TheRestOfTheSelectionCanBeLeftOut)
+{
+    Open({QStringLiteral("a.mp4"), QStringLiteral("b.mp4"), QStringLiteral("c.mp4")});
+    ASSERT_TRUE(WaitUntilAllAreOpen());
+    m_answer = false;
+    Button("TopBar_reframe")->click();
+    EXPECT_EQ(m_backend->reframed, QStringList(QStringLiteral("a.mp4")));
+    EXPECT_EQ(m_told.size(), 1);
 }
 
 TEST_F(TestMainWindow, NoSecondDialogOpensOverTheFirst)

@@ -57,6 +57,8 @@ private:
     void RemoveSelected();
     void ReframeSelected();
     void Reframe(const QModelIndexList& videos);
+    /// Asks the person before the dialog opens for the next one of `left` selected videos.
+    bool ContinuesWith(const MediaFile& video, int left);
     void Inform(const QString& text);
     bool MayQuit();
 

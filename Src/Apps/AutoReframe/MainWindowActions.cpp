@@ -114,9 +114,21 @@ void MainWindow::Reframe(const QModelIndexList& videos)
     callbacks.unsupported = [this] {
         Inform(tr("This computer may be too slow for the analysis. To try it all the same, start it once more."));
     };
-    m_backend.Get()->Reframe(media, *this, callbacks);
+    // The dialog works on one video.
+    m_backend.Get()->Reframe(media.first(), *this, callbacks);
+    for (int i = 1; i < media.size() && ContinuesWith(media.at(i), media.size() - i); ++i) {
+        m_backend.Get()->Reframe(media.at(i), *this, callbacks);
+    }
     m_isReframing = false;
     activateWindow();
+}
+
+bool MainWindow::ContinuesWith(const MediaFile& video, int left)
+{
+    return KrMessageDialog::Question_CustomYesNo(tr("Continue with %1?").arg(QFileInfo(video.path).fileName()),
+                                                 tr("Stop"), tr("Continue"), this, KrStandardButton::Yes,
+                                                 tr("%n selected videos are left.", nullptr, left), tr("Auto Reframe"),
+                                                 KrMessageType::Question);
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event)

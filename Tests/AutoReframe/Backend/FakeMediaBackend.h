@@ -77,12 +77,9 @@ public:
     }
     void CancelThumbnail(quint64) override {}
     QString ImportPatterns() const override { return QStringLiteral("*.mp4;*.mov"); }
-    void Reframe(const QList<MediaFile>& media, QWidget&, const DialogCallbacks& callbacks) override
+    void Reframe(const MediaFile& video, QWidget&, const DialogCallbacks& callbacks) override
     {
-        reframed.clear();
-        for (const MediaFile& video : media) {
-            reframed += QFileInfo(video.path).fileName();
-        }
+        reframed += QFileInfo(video.path).fileName();
         ++dialogs;
         if (inDialog) {
             inDialog(callbacks);
@@ -95,6 +92,7 @@ public:
 
     quint64 lastThumbnail = 0;
     int dialogs = 0;
+    /// The names of the videos that the dialog was opened for.
     QStringList reframed;
     /// What the person does in the dialog.
     std::function<void(const DialogCallbacks&)> inDialog;

@@ -110,12 +110,8 @@ QString HostMediaBackend::ImportPatterns() const
     return KxMediaLibraryUtils::getImportVideoFilter();
 }
 
-void HostMediaBackend::Reframe(const QList<MediaFile>& media, QWidget& parent, const DialogCallbacks& callbacks)
+void HostMediaBackend::Reframe(const MediaFile& video, QWidget& parent, const DialogCallbacks& callbacks)
 {
-    QList<IKxAbstractMedia*> items;
-    for (const MediaFile& video : media) {
-        items += video.item.get();
-    }
     {
         const auto dialog = std::make_unique<KrAutoReframeDialog>(&parent);
         QObject::connect(dialog.get(), &KrAutoReframeDialog::sigExportToLocal, &parent,
@@ -123,7 +119,7 @@ void HostMediaBackend::Reframe(const QList<MediaFile>& media, QWidget& parent, c
                              RequestExport(timeline, record, callbacks);
                          });
         QObject::connect(dialog.get(), &KrAutoReframeDialog::sigShowUnsupportDlg, &parent, callbacks.unsupported);
-        dialog->InitMediaItem(items);
+        dialog->InitMediaItem({video.item.get()});
         dialog->DoModal();
     }
     KxSimpleTimeline::ReleaseAll();

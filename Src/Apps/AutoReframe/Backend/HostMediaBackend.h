@@ -18,7 +18,7 @@ public:
                              const std::function<void(const QImage& picture)>& ready) override;
     void CancelThumbnail(quint64 request) override;
     QString ImportPatterns() const override;
-    void Reframe(const QList<MediaFile>& media, QWidget& parent, const DialogCallbacks& callbacks) override;
+    void Reframe(const MediaFile& video, QWidget& parent, const DialogCallbacks& callbacks) override;
     std::unique_ptr<RenderTask> Render(const ExportRequest& request, const KxRenderJob::Callbacks& callbacks) override;
 
 private:

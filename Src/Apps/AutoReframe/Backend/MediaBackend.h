@@ -7,7 +7,6 @@
 #include <KxRender/KxRenderJob.h>
 
 #include <QImage>
-#include <QList>
 #include <QSize>
 #include <QString>
 
@@ -75,7 +74,7 @@ public:
     /// File name patterns of the formats that can be opened, separated by ";".
     virtual QString ImportPatterns() const = 0;
     /// Shows the Auto Reframe dialog over `parent` and returns when it was closed. User-interface thread.
-    virtual void Reframe(const QList<MediaFile>& media, QWidget& parent, const DialogCallbacks& callbacks) = 0;
+    virtual void Reframe(const MediaFile& video, QWidget& parent, const DialogCallbacks& callbacks) = 0;
     /// Starts to render. User-interface thread.
     virtual std::unique_ptr<RenderTask> Render(const ExportRequest& request,
                                                const KxRenderJob::Callbacks& callbacks) = 0;
