@@ -13,7 +13,9 @@
 #include <QDropEvent>
 #include <QLabel>
 #include <QMimeData>
+#include <QProcess>
 #include <QProgressBar>
+#include <QScreen>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
@@ -343,12 +345,56 @@ TEST_F(TestMainWindow, QuittingWithNothingToLoseAsksNothing)
     EXPECT_TRUE(m_told.isEmpty());
 }
 
+TEST_F(TestMainWindow, TheFirstWindowFitsOnASmallScreen)
+{
+    const QRect screen = m_window->screen()->availableGeometry();
+    ASSERT_LT(screen.width(), 1180);
+    EXPECT_TRUE(screen.contains(m_window->frameGeometry()));
+}
+
+TEST_F(TestMainWindow, AnAbsurdConfigurationDoesNotEndTheProgram)
+{
+    for (const char* const value : {"@Variant(\\0\\0\\0\\t\\x7f\\xff\\xff\\xff)",
+                                    "@Variant(\\0\\0\\0\\b\\x7f\\xff\\xff\\xff)", "@Rect(9 9 99999999999 -7)"}) {
+        QFile config(m_folder.filePath(QStringLiteral("absurd.ini")));
+        ASSERT_TRUE(config.open(QIODevice::WriteOnly));
+        config.write(QByteArray("[Main%20Window]\nGeometry=") + value + "\n");
+        config.close();
+        qputenv("KX_CONFIG_FILE", config.fileName().toLocal8Bit());
+        const MainWindow window(m_loader);
+        EXPECT_EQ(window.size(), m_window->size()) << value;
+    }
+}
+
+TEST_F(TestMainWindow, AbsurdSavedGeometryIsIgnored)
+{
+    m_window->resize(730, 500);
+    const QByteArray saved = m_window->saveGeometry();
+    for (const QByteArray& content : {QByteArray(), QByteArray("1180x740"), QByteArray(5000, 'x'), saved.left(20),
+                                      QByteArray(saved).replace(8, 40, QByteArray(40, '\x7f')),
+                                      QByteArray(saved).replace(8, 40, QByteArray(40, '\xff'))}) {
+        QFile file(m_folder.filePath(QStringLiteral("config.window")));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(content);
+        file.close();
+        const MainWindow window(m_loader);
+        EXPECT_TRUE(window.screen()->availableGeometry().contains(window.geometry())) << content.toHex().toStdString();
+    }
+}
+
+TEST_F(TestMainWindow, AFifoInPlaceOfTheSavedGeometryDoesNotBlockTheStart)
+{
+    ASSERT_EQ(QProcess::execute(QStringLiteral("mkfifo"), {m_folder.filePath(QStringLiteral("config.window"))}), 0);
+    const MainWindow window(m_loader);
+    EXPECT_EQ(window.size(), m_window->size());
+}
+
 TEST_F(TestMainWindow, ItsSizeIsRemembered)
 {
-    m_window->resize(900, 600);
+    m_window->resize(730, 500);
     ASSERT_TRUE(m_window->close());
     MainWindow again(m_loader);
-    EXPECT_EQ(again.size(), QSize(900, 600));
+    EXPECT_EQ(again.size(), QSize(730, 500));
 }
 
 TEST_F(TestMainWindow, ReportsABackendThatCannotBeLoaded)

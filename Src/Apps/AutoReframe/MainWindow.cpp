@@ -67,7 +67,7 @@ MainWindow::MainWindow(MediaBackendLoader& backend)
     ConnectLibrary();
     RetranslateUi();
     if (!WindowMemory::Restore(*this)) {
-        resize(FirstSizePx);
+        WindowMemory::ResizeToFit(*this, FirstSizePx);
     }
     m_view->setFocus();
 }
