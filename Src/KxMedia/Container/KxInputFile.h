@@ -1,6 +1,7 @@
 #pragma once
 
 #include <KxCore/KxCancelToken.h>
+#include <KxCore/KxExport.h>
 #include <KxCore/KxResult.h>
 #include <KxMedia/Container/KxAvHandles.h>
 #include <KxMedia/Container/KxReadStatus.h>
@@ -16,7 +17,7 @@
 /// A user's file, opened so that nothing but that file is read: a regular file of a real container format, no lists
 /// that name other files, no network, a bound on streams, on the size of pictures and on the time that opening takes.
 /// Cancelled by the token. One thread at a time.
-class KxInputFile
+class KXMEDIA_API KxInputFile
 {
 public:
     /// Larger pictures are refused: their frames alone would fill the memory of a small machine.

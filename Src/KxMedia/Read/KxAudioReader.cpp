@@ -11,27 +11,22 @@ namespace
 
 constexpr int BlocksASecond = 25;
 
-struct Line {
-    std::optional<qint64> zeroUs;
-    std::vector<KxVideoPackets::Jump> jumps;
-};
-
 // Where the file has pictures, the sound is placed against the first of them.
-KxResult<Line> MeasureLine(const QString& path, const KxCancelToken& cancel)
+KxResult<KxAudioTrack::Line> MeasureLine(const QString& path, const KxCancelToken& cancel)
 {
     KxResult<std::unique_ptr<KxInputFile>> input = KxInputFile::Open(path, cancel);
     if (!input) {
-        return KxResult<Line>::Failure(input.Message());
+        return KxResult<KxAudioTrack::Line>::Failure(input.Message());
     }
     if ((*input)->VideoStream() == nullptr) {
-        return Line{};
+        return KxAudioTrack::Line{};
     }
     const KxResult<std::unique_ptr<KxVideoSource>> source =
         KxVideoSource::Open(std::move(*input), KxVideoDecoder::Effort::Full);
     if (!source) {
-        return KxResult<Line>::Failure(source.Message());
+        return KxResult<KxAudioTrack::Line>::Failure(source.Message());
     }
-    return Line{(*source)->Facts().video->firstPictureUs, (*source)->Packets().Jumps()};
+    return KxAudioTrack::Line{(*source)->Facts().video->firstPictureUs, (*source)->Packets().Jumps()};
 }
 
 } // namespace
@@ -153,7 +148,7 @@ KxResult<std::unique_ptr<KxAudioReader>> KxAudioReader::Open(const QString& path
                                                              const KxCancelToken& cancel)
 {
     using Result = KxResult<std::unique_ptr<KxAudioReader>>;
-    KxResult<Line> line = MeasureLine(path, cancel);
+    KxResult<KxAudioTrack::Line> line = MeasureLine(path, cancel);
     if (!line) {
         return Result::Failure(line.Message());
     }
@@ -167,7 +162,7 @@ KxResult<std::unique_ptr<KxAudioReader>> KxAudioReader::Open(const QString& path
     }
     AVStream& chosen = *streams[static_cast<size_t>(stream)];
     KxResult<std::unique_ptr<KxAudioTrack>> track =
-        KxAudioTrack::Open(std::move(*input), chosen, format, line->zeroUs, std::move(line->jumps));
+        KxAudioTrack::Open(std::move(*input), chosen, format, std::move(*line));
     if (!track) {
         return Result::Failure(KxInputFile::Message(path, track.Message()));
     }

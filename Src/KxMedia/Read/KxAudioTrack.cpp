@@ -4,6 +4,7 @@
 
 extern "C" {
 #include <libavutil/channel_layout.h>
+#include <libavutil/common.h>
 }
 
 #include <algorithm>
@@ -17,13 +18,13 @@ constexpr int MostErrorsInARow = 200;
 constexpr int JitterMs = 15;
 // Decoders need a packet or two before a seek's target until they are in swing.
 constexpr qint64 RunUpUs = 200000;
+// The distance of two packets where a clock is joined: 1024 samples at 48 kHz.
+constexpr qint64 UsualPacketUs = 21333;
 
 } // namespace
 
 KxResult<std::unique_ptr<KxAudioTrack>> KxAudioTrack::Open(std::unique_ptr<KxInputFile> input, AVStream& stream,
-                                                           const KxAudioReader::Format& format,
-                                                           std::optional<qint64> zeroUs,
-                                                           std::vector<KxVideoPackets::Jump> jumps)
+                                                           const KxAudioReader::Format& format, Line line)
 {
     using Result = KxResult<std::unique_ptr<KxAudioTrack>>;
     const AVCodec* codec = avcodec_find_decoder(stream.codecpar->codec_id);
@@ -41,22 +42,25 @@ KxResult<std::unique_ptr<KxAudioTrack>> KxAudioTrack::Open(std::unique_ptr<KxInp
         return Result::Failure(QStringLiteral("its sound is damaged"));
     }
     return std::unique_ptr<KxAudioTrack>(
-        new KxAudioTrack(std::move(input), stream, std::move(context), format, zeroUs, std::move(jumps)));
+        new KxAudioTrack(std::move(input), stream, std::move(context), format, std::move(line)));
 }
 
 KxAudioTrack::KxAudioTrack(std::unique_ptr<KxInputFile> input, AVStream& stream, KxAvCodec codec,
-                           const KxAudioReader::Format& format, std::optional<qint64> zeroUs,
-                           std::vector<KxVideoPackets::Jump> jumps)
+                           const KxAudioReader::Format& format, Line line)
     : m_input(std::move(input))
     , m_streamIndex(stream.index)
     , m_timeBase(stream.time_base)
     , m_codec(std::move(codec))
     , m_format(format)
-    , m_zeroUs(zeroUs)
-    , m_jumps(std::move(jumps))
+    , m_zeroUs(line.zeroUs)
+    , m_jumps(line.jumps.value_or(std::vector<KxClockJump>()))
     , m_packet(av_packet_alloc())
     , m_frame(av_frame_alloc())
 {
+    if (!line.jumps) {
+        m_join.emplace(std::max<qint64>(1, av_rescale_q(UsualPacketUs, KxMicroseconds, m_timeBase)),
+                       std::max<qint64>(1, av_rescale_q(AV_TIME_BASE, KxMicroseconds, m_timeBase)));
+    }
     m_input->Select(stream);
 }
 
@@ -107,17 +111,24 @@ KxReadStatus KxAudioTrack::Feed()
     return isBad && ++m_errorsInARow >= MostErrorsInARow ? KxReadStatus::Failed : KxReadStatus::Delivered;
 }
 
-// Sound and picture of a pasted stream jump together.
-void KxAudioTrack::ShiftOverJumps(AVPacket& packet) const
+// Sound and picture of a concatenated file jump together.
+void KxAudioTrack::ShiftOverJumps(AVPacket& packet)
 {
-    qint64 offsetTicks = 0;
-    for (const KxVideoPackets::Jump& jump : m_jumps) {
-        if (packet.pos >= jump.position) {
-            offsetTicks = av_rescale_q(jump.offsetUs, KxMicroseconds, m_timeBase);
-        }
+    const int64_t ticks = packet.dts != AV_NOPTS_VALUE ? packet.dts : packet.pts;
+    std::optional<qint64> position;
+    std::optional<qint64> timeUs;
+    if (packet.pos >= 0) {
+        position = packet.pos;
     }
-    packet.pts += packet.pts != AV_NOPTS_VALUE ? offsetTicks : 0;
-    packet.dts += packet.dts != AV_NOPTS_VALUE ? offsetTicks : 0;
+    if (ticks != AV_NOPTS_VALUE) {
+        timeUs = av_rescale_q(ticks, m_timeBase, KxMicroseconds);
+    }
+    qint64 offsetTicks = av_rescale_q(m_jumps.OffsetUs(position, timeUs), KxMicroseconds, m_timeBase);
+    if (m_join) {
+        offsetTicks = timeUs ? m_join->OffsetFor(ticks) : m_join->Offset();
+    }
+    packet.pts = packet.pts != AV_NOPTS_VALUE ? av_sat_add64(packet.pts, offsetTicks) : packet.pts;
+    packet.dts = packet.dts != AV_NOPTS_VALUE ? av_sat_add64(packet.dts, offsetTicks) : packet.dts;
 }
 
 qint64 KxAudioTrack::PositionOf(int64_t ticks)
@@ -182,6 +193,10 @@ void KxAudioTrack::StartAgain()
     av_frame_unref(m_frame.get());
     m_hasFrame = false;
     m_converter.reset();
+    m_jumps.Reset();
+    if (m_join) {
+        m_join->Reset(0);
+    }
     m_isDraining = false;
     m_errorsInARow = 0;
 }
@@ -189,7 +204,7 @@ void KxAudioTrack::StartAgain()
 bool KxAudioTrack::SeekBefore(qint64 position)
 {
     StartAgain();
-    if (!m_jumps.empty()) {
+    if (!m_jumps.IsEmpty()) {
         return false;
     }
     const qint64 timeUs = av_rescale(position, AV_TIME_BASE, m_format.sampleRateHz) + m_zeroUs.value_or(0) - RunUpUs;

@@ -2,12 +2,13 @@
 
 #include <KxMedia/Container/KxInputFile.h>
 #include <KxMedia/Read/KxAudioReader.h>
+#include <KxMedia/Read/KxClockJumps.h>
 #include <KxMedia/Read/KxSampleConverter.h>
-#include <KxMedia/Read/KxVideoPackets.h>
+#include <KxMedia/Read/KxTimestampRepair.h>
 
 /// Decodes one audio stream into samples of a wanted format, each run of them with its place on the line of time. Gaps
 /// and overlaps are left to the reader above. One thread at a time.
-class KxAudioTrack
+class KXMEDIA_API KxAudioTrack
 {
 public:
     /// Samples that follow each other.
@@ -18,12 +19,17 @@ public:
         std::vector<float> samples;
     };
 
-    /// `zeroUs` is time zero on the file's own clock; nothing makes it the time of the first sound. On failure, returns
-    /// a clause to append to the caller's message.
+    /// Where the sound belongs.
+    struct Line {
+        /// Time zero on the file's own clock; nothing makes it the time of the first sound.
+        std::optional<qint64> zeroUs;
+        /// Of the file's clock. Nothing when they are not known: then the clock is joined where the sound itself jumps.
+        std::optional<std::vector<KxClockJump>> jumps = std::vector<KxClockJump>();
+    };
+
+    /// On failure, returns a clause to append to the caller's message.
     static KxResult<std::unique_ptr<KxAudioTrack>> Open(std::unique_ptr<KxInputFile> input, AVStream& stream,
-                                                        const KxAudioReader::Format& format,
-                                                        std::optional<qint64> zeroUs,
-                                                        std::vector<KxVideoPackets::Jump> jumps);
+                                                        const KxAudioReader::Format& format, Line line);
 
     /// The next run, which may be empty.
     KxReadStatus Next(Run& run);
@@ -34,11 +40,10 @@ public:
 
 private:
     KxAudioTrack(std::unique_ptr<KxInputFile> input, AVStream& stream, KxAvCodec codec,
-                 const KxAudioReader::Format& format, std::optional<qint64> zeroUs,
-                 std::vector<KxVideoPackets::Jump> jumps);
+                 const KxAudioReader::Format& format, Line line);
 
     KxReadStatus Feed();
-    void ShiftOverJumps(AVPacket& packet) const;
+    void ShiftOverJumps(AVPacket& packet);
     void StartAgain();
     bool TakeFrame(Run& run);
     bool EndRun(Run& run);
@@ -51,7 +56,9 @@ private:
     KxAvCodec m_codec;
     KxAudioReader::Format m_format;
     std::optional<qint64> m_zeroUs;
-    std::vector<KxVideoPackets::Jump> m_jumps;
+    KxClockJumps m_jumps;
+    /// Only while the jumps are not known.
+    std::optional<KxTimestampJoin> m_join;
     KxAvPacket m_packet;
     KxAvFrame m_frame;
     bool m_hasFrame = false;

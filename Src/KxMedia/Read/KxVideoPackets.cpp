@@ -120,6 +120,12 @@ KxReadStatus KxVideoPackets::Prepare()
     return KxReadStatus::Delivered;
 }
 
+std::optional<std::vector<KxClockJump>> KxVideoPackets::Jumps() const
+{
+    const bool isUnknown = m_mayJump && !m_walkedTail;
+    return isUnknown ? std::nullopt : std::optional<std::vector<KxClockJump>>(m_jumps);
+}
+
 std::optional<KxVideoPackets::Tail> KxVideoPackets::ReadToEnd()
 {
     TailFinder finder;
@@ -143,8 +149,9 @@ void KxVideoPackets::NoteWalkedPacket(const AVPacket& packet)
     const qint64 offset = m_join.Offset();
     if (offset != m_notedOffset) {
         m_notedOffset = offset;
-        m_jumps.push_back({packet.pos, av_rescale_q(offset, m_timeBase, KxMicroseconds)});
+        m_jumps.push_back({m_notedPosition, packet.pos, av_rescale_q(offset, m_timeBase, KxMicroseconds)});
     }
+    m_notedPosition = packet.pos;
     if ((packet.flags & AV_PKT_FLAG_KEY) != 0 && TimeOf(packet) != AV_NOPTS_VALUE) {
         const qint64 halfFrames = m_isCounted ? packet.dts : 0;
         m_keyFrames.push_back({TimeOf(packet), packet.pos, halfFrames, offset});

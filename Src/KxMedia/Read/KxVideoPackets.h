@@ -1,6 +1,7 @@
 #pragma once
 
 #include <KxMedia/Container/KxInputFile.h>
+#include <KxMedia/Read/KxClockJumps.h>
 #include <KxMedia/Read/KxTimestampRepair.h>
 
 #include <KxCore/KxRational.h>
@@ -14,9 +15,9 @@
 ///
 /// 1. Containers with an index, or with times that a seek can search for, are used as they are.
 /// 2. Raw streams have no times: packets are counted, in half frames because a packet may be a single field.
-/// 3. Transport and program streams may be pasted from pieces whose clocks jump, and are searched by guessing. Up to a
-/// size
-///    they are walked through once, and the places of their key frames are kept; raw streams always are.
+/// 3. Transport and program streams may be concatenated from pieces whose clocks jump, and a seek in them is a guess.
+/// Up
+///    to a size they are walked through once, and the places of their key frames are kept; raw streams always are.
 ///
 /// One thread at a time.
 class KxVideoPackets
@@ -27,11 +28,6 @@ public:
         /// Of the packet that is shown last; 0 duration when the file does not say.
         qint64 lastTicks = 0;
         qint64 lastDurationTicks = 0;
-    };
-    /// From the byte at `position` of the file on, `offsetUs` is added to the container's times.
-    struct Jump {
-        qint64 position = 0;
-        qint64 offsetUs = 0;
     };
 
     /// `input` has a video stream.
@@ -44,7 +40,8 @@ public:
     /// One frame, at least 1.
     qint64 StepTicks() const { return m_stepTicks; }
     bool IsCounted() const { return m_isCounted; }
-    const std::vector<Jump>& Jumps() const { return m_jumps; }
+    /// After Prepare(). Nothing when the clock may jump and the file was too large to walk through.
+    std::optional<std::vector<KxClockJump>> Jumps() const;
 
     /// Walks through the file where that is needed (case 2 and 3). Before the first picture is decoded.
     KxReadStatus Prepare();
@@ -90,8 +87,9 @@ private:
     qint64 m_halfFrames = 0;
     bool m_waitsForKeyFrame = false;
     std::vector<KeyFrame> m_keyFrames;
-    std::vector<Jump> m_jumps;
+    std::vector<KxClockJump> m_jumps;
     qint64 m_notedOffset = 0;
+    qint64 m_notedPosition = 0;
     std::optional<Tail> m_walkedTail;
     struct FirstPacket {
         qint64 ticks = 0;
