@@ -3,7 +3,6 @@
 #include <KxMedia/Picture/KxDrawnFrame.h>
 
 #include <cmath>
-#include <exception>
 
 namespace
 {
@@ -32,14 +31,6 @@ KxPictureFeed::KxPictureFeed(KxVideoReader& reader, const KxRenderSource& source
 KxPictureFeed::~KxPictureFeed()
 {
     m_pictures.Close();
-    Join();
-}
-
-void KxPictureFeed::Join()
-{
-    if (m_thread.joinable()) {
-        m_thread.join();
-    }
 }
 
 std::optional<KxVideoFrame> KxPictureFeed::Next()
@@ -49,22 +40,20 @@ std::optional<KxVideoFrame> KxPictureFeed::Next()
 
 KxError KxPictureFeed::Failure()
 {
-    Join();
+    m_thread.Join();
     return m_failure;
 }
 
 bool KxPictureFeed::EndedEarly()
 {
-    Join();
+    m_thread.Join();
     return m_endedEarly;
 }
 
 void KxPictureFeed::Work()
 {
-    try {
-        DecodeAndCut();
-    } catch (const std::exception&) {
-        m_failure = QStringLiteral("Cannot render %1: memory ran out.").arg(m_source.Name());
+    if (const KxError reason = KxCallGuarded([this] { DecodeAndCut(); })) {
+        m_failure = QStringLiteral("Cannot render %1: %2.").arg(m_source.Name(), *reason);
     }
     m_pictures.Close();
 }

@@ -2,14 +2,13 @@
 
 #include <KxCore/KxBoundedQueue.h>
 #include <KxCore/KxCancelToken.h>
+#include <KxCore/KxThread.h>
 #include <KxMedia/Picture/KxFrameCutter.h>
 #include <KxMedia/Picture/KxPictureScaler.h>
 #include <KxMedia/Picture/KxVideoFrame.h>
 #include <KxMedia/Read/KxVideoReader.h>
 #include <KxRender/KxOutputGrid.h>
 #include <KxRender/KxRenderSource.h>
-
-#include <thread>
 
 /// Decodes and cuts on a thread of its own, a few pictures ahead of whoever takes them. Destroying it ends the thread.
 class KxPictureFeed
@@ -37,7 +36,6 @@ private:
     bool Read(qint64 frame, KxVideoFrame& picture);
     /// What the result shows of `picture` at the source's `frame`.
     KxResult<KxVideoFrame> Make(const KxVideoFrame& picture, qint64 frame);
-    void Join();
 
     KxVideoReader& m_reader;
     const KxRenderSource& m_source;
@@ -51,5 +49,6 @@ private:
     // Written by the thread; read once it has ended.
     KxError m_failure;
     bool m_endedEarly = false;
-    std::thread m_thread;
+    // Last: its work uses all of the above.
+    KxThread m_thread;
 };

@@ -14,7 +14,6 @@ KxRenderJob::KxRenderJob(KxRenderSource source, KxRenderSettings settings, Callb
 KxRenderJob::~KxRenderJob()
 {
     m_cancel.Cancel();
-    m_thread.join();
 }
 
 void KxRenderJob::Cancel()

@@ -1,8 +1,7 @@
 #pragma once
 
+#include <KxCore/KxThread.h>
 #include <KxRender/KxRenderer.h>
-
-#include <thread>
 
 /// A rendering on a thread of its own, which starts with the job and runs once. Destroying the job cancels what still
 /// runs and waits for it, so callbacks may refer to whatever lives as long as the job.
@@ -27,5 +26,5 @@ public:
 
 private:
     KxCancelToken m_cancel;
-    std::thread m_thread;
+    KxThread m_thread;
 };

@@ -1,5 +1,6 @@
 #include <KxRender/KxRenderer.h>
 
+#include <KxCore/KxThread.h>
 #include <KxMedia/Read/KxVideoReader.h>
 #include <KxMedia/Write/KxMp4Writer.h>
 #include <KxRender/KxAudioInterleaver.h>
@@ -10,7 +11,6 @@
 
 #include <algorithm>
 #include <array>
-#include <exception>
 
 namespace
 {
@@ -233,9 +233,11 @@ KxRenderResult Rendering::Run()
 KxRenderResult KxRenderer::Run(const KxRenderSource& source, const KxRenderSettings& settings, const Progress& progress,
                                const KxCancelToken& cancel)
 {
-    try {
-        return Rendering(source, settings, progress, cancel).Run();
-    } catch (const std::exception&) {
-        return Failed(QStringLiteral("Cannot render %1: memory ran out.").arg(source.Name()));
+    KxRenderResult result;
+    const KxError reason = KxCallGuarded([&] { result = Rendering(source, settings, progress, cancel).Run(); });
+    if (!reason) {
+        return result;
     }
+    return cancel.IsCancelled() ? Cancelled()
+                                : Failed(QStringLiteral("Cannot render %1: %2.").arg(source.Name(), *reason));
 }

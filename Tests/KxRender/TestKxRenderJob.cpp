@@ -5,6 +5,8 @@
 #include <atomic>
 #include <condition_variable>
 #include <mutex>
+#include <new>
+#include <stdexcept>
 
 namespace
 {
@@ -174,4 +176,79 @@ TEST_F(KxRenderJobTest, TwoJobsSideBySideWriteTwoFiles)
         EXPECT_EQ(other.WaitForEnd().outcome, KxOutcome::Done);
     }
     EXPECT_EQ(Written(), (QStringList{QStringLiteral("out (2).mp4"), QStringLiteral("out.mp4")}));
+}
+
+TEST_F(KxRenderJobTest, AnExceptionOfTheOverlayIsTheReasonOfTheFailure)
+{
+    KxRenderSource source = MakeClip(30);
+    source.overlay = [](QImage&, qint64 frame) {
+        if (frame == 12) {
+            throw std::runtime_error("the drawing went wrong");
+        }
+    };
+    {
+        KxRenderJob job(source, SettingsFor(QSize(160, 90)), m_listener.Callbacks());
+        const KxRenderResult result = m_listener.WaitForEnd();
+        EXPECT_EQ(result.outcome, KxOutcome::Failed);
+        EXPECT_EQ(result.sentence, QStringLiteral("Cannot render clip.mp4: the drawing went wrong."));
+    }
+    ExpectOneEnd();
+    EXPECT_EQ(Written(), QStringList());
+}
+
+TEST_F(KxRenderJobTest, MemoryThatRunsOutIsTheReasonOfTheFailure)
+{
+    KxRenderSource source = MakeClip(30);
+    source.overlay = [](QImage&, qint64) { throw std::bad_alloc(); };
+    KxRenderJob job(source, SettingsFor(QSize(160, 90)), m_listener.Callbacks());
+    EXPECT_EQ(m_listener.WaitForEnd().sentence, QStringLiteral("Cannot render clip.mp4: memory ran out."));
+}
+
+TEST_F(KxRenderJobTest, AnythingThatIsThrownEndsTheJobNotTheProgram)
+{
+    KxRenderSource source = MakeClip(30);
+    source.overlay = [](QImage&, qint64) { throw 7; };
+    {
+        KxRenderJob job(source, SettingsFor(QSize(160, 90)), m_listener.Callbacks());
+        const KxRenderResult result = m_listener.WaitForEnd();
+        EXPECT_EQ(result.outcome, KxOutcome::Failed);
+        EXPECT_EQ(result.sentence, QStringLiteral("Cannot render clip.mp4: an unknown error occurred."));
+    }
+    ExpectOneEnd();
+    EXPECT_EQ(Written(), QStringList());
+}
+
+TEST_F(KxRenderJobTest, AnExceptionOfTheProgressCallbackEndsTheJobAsFailed)
+{
+    const KxRenderSource source = MakeClip(30);
+    KxRenderJob::Callbacks callbacks = m_listener.Callbacks();
+    callbacks.progress = [](int value) {
+        if (value > 5000) {
+            throw std::runtime_error("nobody is there");
+        }
+    };
+    {
+        KxRenderJob job(source, SettingsFor(QSize(160, 90)), callbacks);
+        const KxRenderResult result = m_listener.WaitForEnd();
+        EXPECT_EQ(result.outcome, KxOutcome::Failed);
+        EXPECT_EQ(result.sentence, QStringLiteral("Cannot render clip.mp4: nobody is there."));
+    }
+    ExpectOneEnd();
+    EXPECT_EQ(Written(), QStringList());
+}
+
+TEST_F(KxRenderJobTest, AnExceptionOfTheFinishedCallbackEndsTheJobOnly)
+{
+    const KxRenderSource source = MakeClip(10);
+    KxRenderJob::Callbacks callbacks = m_listener.Callbacks();
+    callbacks.finished = [tell = callbacks.finished](const KxRenderResult& result) {
+        tell(result);
+        throw std::runtime_error("too late");
+    };
+    {
+        KxRenderJob job(source, SettingsFor(QSize(90, 160)), callbacks);
+        EXPECT_EQ(m_listener.WaitForEnd().outcome, KxOutcome::Done);
+    }
+    ExpectOneEnd();
+    EXPECT_EQ(Written(), QStringList{QStringLiteral("out.mp4")});
 }
