@@ -26,6 +26,13 @@ TEST(KxUtilityFit, RoundsSidesDownAndPutsTheOddPixelLast)
     EXPECT_EQ(getFitCentralWindowRectByRatio(QRect(0, 0, 101, 99), QSize(16, 9)), QRect(0, 21, 101, 56));
 }
 
+TEST(KxUtilityFit, TheOddPixelBesideATallRectangleIsOnItsRight)
+{
+    // 100 * 9 / 16 = 56.25; 101 - 56 leaves 45: 22 on the left, 23 on the right.
+    EXPECT_EQ(getFitCentralWindowRectByRatio(QRect(0, 0, 101, 100), QSize(9, 16)), QRect(22, 0, 56, 100));
+    EXPECT_EQ(getFitCentralWindowRectByRatio(QRect(7, 3, 101, 100), QSize(9, 16)), QRect(29, 3, 56, 100));
+}
+
 TEST(KxUtilityFit, IsEmptyWithoutARectangleOrARatio)
 {
     EXPECT_TRUE(getFitCentralWindowRectByRatio(QRect(0, 0, 0, 100), QSize(16, 9)).isEmpty());

@@ -56,6 +56,16 @@ TEST(KxOutputGrid, OtherRatesBecomeWhatTheirNamesRound)
     EXPECT_EQ(Grid({25, 1}, 100, 15.123).Rate(), (KxRational{15123, 1000}));
 }
 
+TEST(KxOutputGrid, WholeRatesStayWhole)
+{
+    // Up to 5 frames a second, n and n * 1000 / 1001 differ by no more than the rounding of a name.
+    for (int rate = 1; rate <= 240; ++rate) {
+        const KxOutputGrid grid = Grid({239, 7}, 100, rate);
+        EXPECT_EQ(grid.Rate().numerator, rate);
+        EXPECT_EQ(grid.Rate().denominator, 1);
+    }
+}
+
 TEST(KxOutputGrid, HalfTheRateTakesEverySecondFrame)
 {
     const KxOutputGrid grid = Grid({50, 1}, 101, 25.0);
