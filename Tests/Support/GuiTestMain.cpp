@@ -1,3 +1,5 @@
+#include <Tests/Support/QtSynchronization.h>
+
 #include <QApplication>
 #include <QFont>
 #include <QString>
@@ -41,7 +43,7 @@ void PinEnvironment()
 int main(int argc, char** argv)
 {
     PinEnvironment();
-    QApplication application(argc, argv);
+    QtSynchronization::ApplicationFor<QApplication> application(argc, argv);
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     QFont font(QStringLiteral("Noto Sans"));
     font.setPixelSize(13);

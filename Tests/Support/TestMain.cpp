@@ -1,3 +1,5 @@
+#include <Tests/Support/QtSynchronization.h>
+
 #include <QCoreApplication>
 #include <QString>
 
@@ -21,7 +23,7 @@ void FailOnWarning(QtMsgType type, const QMessageLogContext& context, const QStr
 
 int main(int argc, char** argv)
 {
-    QCoreApplication application(argc, argv);
+    QtSynchronization::ApplicationFor<QCoreApplication> application(argc, argv);
     testing::InitGoogleTest(&argc, argv);
     qInstallMessageHandler(&FailOnWarning);
     const int result = RUN_ALL_TESTS();
