@@ -99,7 +99,7 @@ Heard ReadAll(KxAudioReader& reader)
 void ExpectBothTones(const QString& path)
 {
     KxResult<std::unique_ptr<KxAudioReader>> reader = KxAudioReader::Open(path, 0, {RateHz, 2}, {});
-    ASSERT_TRUE(reader) << reader.Sentence().toStdString();
+    ASSERT_TRUE(reader) << reader.Message().toStdString();
     const Heard line = ReadAll(**reader);
     for (const double seconds : {0.5, 1.5, 2.7}) {
         EXPECT_NEAR(line.ToneAt(seconds), FirstToneHz, 10) << seconds;
@@ -143,11 +143,11 @@ TEST(KxAudioReaderJoins, SoundAfterTheJoinOfAFileTooLargeToWalkThroughIsKept)
 {
     const QString path = Concatenated(QStringLiteral("large.ts"), H264, 0);
     KxResult<std::unique_ptr<KxInputFile>> input = KxInputFile::Open(path, {});
-    ASSERT_TRUE(input) << input.Sentence().toStdString();
+    ASSERT_TRUE(input) << input.Message().toStdString();
     AVStream& stream = *(*input)->AudioStreams().front();
     KxResult<std::unique_ptr<KxAudioTrack>> track =
         KxAudioTrack::Open(std::move(*input), stream, {RateHz, 2}, KxAudioTrack::Line{std::nullopt, std::nullopt});
-    ASSERT_TRUE(track) << track.Sentence().toStdString();
+    ASSERT_TRUE(track) << track.Message().toStdString();
     KxAudioTrack::Run run;
     qint64 endPosition = 0;
     while ((*track)->Next(run) == KxReadStatus::Delivered) {
