@@ -1,12 +1,29 @@
 #include <KxCore/KxDir.h>
 
-#include <QTemporaryFile>
+#include <KxCore/KxPartFile.h>
+#include <KxCore/KxSystemError.h>
+
+#include <QFile>
+
+#include <cerrno>
 
 bool KxDir::IsPathWriteAndReadable(const QString& path)
 {
-    // Asking for permissions tells nothing about read-only file systems and network shares; making a file does.
-    QTemporaryFile probe(path + QStringLiteral("/.auto-reframe-XXXXXX.probe"));
-    constexpr char content[] = "probe";
-    return probe.open() && probe.write(content) == qint64(sizeof content) - 1 && probe.flush() && probe.seek(0) &&
-           probe.readAll() == content;
+    // Permission bits say nothing about read-only file systems and network shares; a new file does.
+    std::error_code problem;
+    std::unique_ptr<KxPartFile> part = KxPartFile::Create(path, problem);
+    if (!part) {
+        return KxIsDiskFull(problem);
+    }
+    QFile file(part->Path());
+    const QByteArray content("probe");
+    errno = 0;
+    const bool isWritten =
+        file.open(QIODevice::ReadWrite | QIODevice::Unbuffered) && file.write(content) == content.size();
+    const bool isFull = !isWritten && KxIsDiskFull(std::error_code(errno, std::generic_category()));
+    const bool isRead = isWritten && file.seek(0) && file.readAll() == content;
+    // Some systems let nobody remove a file that is locked.
+    part.reset();
+    file.remove();
+    return isRead || isFull;
 }

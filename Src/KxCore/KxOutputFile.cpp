@@ -5,8 +5,8 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QTemporaryFile>
 
+#include <cerrno>
 #include <filesystem>
 
 namespace
@@ -32,7 +32,7 @@ QString Meaning(const std::error_code& problem)
     return text.isEmpty() ? QString::fromStdString(problem.message()).toLower() : text;
 }
 
-/// A name that cannot be is found out before the work, not after it. What is no file (a device …) stays.
+/// Reports an impossible name before the work, not after it. Devices and the like are never replaced.
 KxError ReasonNotToReplace(const QString& path)
 {
     std::error_code problem;
@@ -47,50 +47,56 @@ KxError ReasonNotToReplace(const QString& path)
     return isOther ? KxError(QStringLiteral("it is not a regular file")) : std::nullopt;
 }
 
-/// Reserves the name by an empty file; false when there is already something of that name, or it cannot be made.
-bool Reserve(const QString& path)
+/// Reserves the name by an empty file.
+std::error_code Reserve(const QString& path)
 {
     QFile file(path);
-    return file.open(QIODevice::WriteOnly | QIODevice::NewOnly);
+    errno = 0;
+    if (file.open(QIODevice::WriteOnly | QIODevice::NewOnly)) {
+        return {};
+    }
+    return {errno != 0 ? errno : EIO, std::generic_category()};
 }
 
 QString Numbered(const QString& path, int number)
 {
     const QFileInfo info(path);
     const QString suffix = info.suffix().isEmpty() ? QString() : QLatin1Char('.') + info.suffix();
-    return info.dir().filePath(QStringLiteral("%1 (%2)%3").arg(info.completeBaseName()).arg(number).arg(suffix));
+    return info.dir().filePath(
+        QStringLiteral("%1 (%2)%3").arg(info.completeBaseName(), QString::number(number), suffix));
 }
 
-QString ReserveFreeName(const QString& path)
+KxResult<QString> ReserveFreeName(const QString& path)
 {
-    if (Reserve(path)) {
-        return path;
-    }
     constexpr int lastNumber = 9999;
-    for (int number = 2; number <= lastNumber; ++number) {
-        const QString candidate = Numbered(path, number);
-        if (Reserve(candidate)) {
+    for (int number = 1; number <= lastNumber; ++number) {
+        const QString candidate = number == 1 ? path : Numbered(path, number);
+        const std::error_code problem = Reserve(candidate);
+        if (!problem) {
             return candidate;
         }
-        if (!QFileInfo::exists(candidate)) {
-            break; // not taken, yet it cannot be made
+        if (problem != std::errc::file_exists) {
+            return KxResult<QString>::Failure(CannotWrite(candidate, Meaning(problem)));
         }
     }
-    return {};
+    return KxResult<QString>::Failure(CannotWrite(path, QStringLiteral("no free name was found in its folder")));
 }
 
 } // namespace
 
-KxOutputFile::KxOutputFile(QString targetPath, QString temporaryPath)
+KxOutputFile::KxOutputFile(QString targetPath, std::unique_ptr<KxPartFile> part)
     : m_targetPath(std::move(targetPath))
-    , m_temporaryPath(std::move(temporaryPath))
+    , m_part(std::move(part))
 {
 }
 
 KxOutputFile::~KxOutputFile()
 {
-    if (!m_temporaryPath.isEmpty()) {
-        QFile::remove(m_temporaryPath);
+    if (!m_isCommitted) {
+        // Some systems let nobody remove a file that is locked.
+        const QString path = m_part->Path();
+        m_part.reset();
+        QFile::remove(path);
     }
 }
 
@@ -109,32 +115,34 @@ KxResult<std::unique_ptr<KxOutputFile>> KxOutputFile::Create(const QString& targ
     if (const KxError reason = ReasonNotToReplace(target.absoluteFilePath())) {
         return Created::Failure(CannotWrite(targetPath, *reason));
     }
-    QTemporaryFile temporary(folder.filePath() + QStringLiteral("/.auto-reframe-XXXXXX.part"));
-    temporary.setAutoRemove(false);
-    if (!temporary.open()) {
-        return Created::Failure(CannotWrite(targetPath, KxFileErrorText(temporary)));
+    KxPartFile::RemoveAbandoned(folder.filePath());
+    std::error_code problem;
+    std::unique_ptr<KxPartFile> part = KxPartFile::Create(folder.filePath(), problem);
+    if (!part) {
+        return Created::Failure(CannotWrite(targetPath, Meaning(problem)));
     }
-    // What a program writes for a person is as readable as any file of theirs; temporary files start private.
-    temporary.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther);
-    return std::unique_ptr<KxOutputFile>(new KxOutputFile(target.absoluteFilePath(), temporary.fileName()));
+    return std::unique_ptr<KxOutputFile>(new KxOutputFile(target.absoluteFilePath(), std::move(part)));
 }
 
 KxResult<QString> KxOutputFile::Commit(Existing existing)
 {
-    const QString path = existing == Existing::Replace ? m_targetPath : ReserveFreeName(m_targetPath);
-    if (path.isEmpty()) {
-        return KxResult<QString>::Failure(
-            CannotWrite(m_targetPath, QStringLiteral("no free name was found in its folder")));
+    if (const std::error_code problem = m_part->Sync()) {
+        return KxResult<QString>::Failure(CannotWrite(m_targetPath, Meaning(problem)));
+    }
+    KxResult<QString> path = existing == Existing::Replace ? m_targetPath : ReserveFreeName(m_targetPath);
+    if (!path) {
+        return path;
     }
     std::error_code problem;
-    std::filesystem::rename(ToNative(m_temporaryPath), ToNative(path), problem);
+    std::filesystem::rename(ToNative(m_part->Path()), ToNative(*path), problem);
     if (problem) {
         if (existing == Existing::AddNumber) {
-            QFile::remove(path);
+            QFile::remove(*path);
         }
-        return KxResult<QString>::Failure(CannotWrite(path, Meaning(problem)));
+        return KxResult<QString>::Failure(CannotWrite(*path, Meaning(problem)));
     }
-    m_temporaryPath.clear();
+    m_isCommitted = true;
+    KxPartFile::SyncFolder(QFileInfo(*path).absolutePath());
     return path;
 }
 

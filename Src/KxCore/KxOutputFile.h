@@ -2,14 +2,16 @@
 
 #include <KxCore/KxExport.h>
 
+#include <KxCore/KxPartFile.h>
 #include <KxCore/KxResult.h>
 
 #include <QByteArray>
 
 #include <memory>
 
-/// A file that is written under a temporary name beside its target and gets its own name only when it is whole.
-/// Destroyed before that, it leaves nothing behind.
+/// A file that is written under a temporary name beside its target and gets its own name only when it is whole and on
+/// the disk: after a power cut there is the old file or the new one. Destroyed before that, it leaves nothing behind;
+/// what a killed process leaves, the next writer in that folder removes.
 class KXCORE_API KxOutputFile
 {
 public:
@@ -22,19 +24,24 @@ public:
     /// permission …).
     static KxResult<std::unique_ptr<KxOutputFile>> Create(const QString& targetPath);
     ~KxOutputFile();
+    KxOutputFile(const KxOutputFile&) = delete;
+    KxOutputFile& operator=(const KxOutputFile&) = delete;
 
-    const QString& TemporaryPath() const { return m_temporaryPath; }
+    const QString& TemporaryPath() const { return m_part->Path(); }
     const QString& TargetPath() const { return m_targetPath; }
 
-    /// Gives the file its name and returns the full path. Call once, with the file closed.
+    /// Gives the file its name and returns the full path. Blocks until the content is on the disk. Call once, with the
+    /// file closed.
     KxResult<QString> Commit(Existing existing);
 
-    /// Creates, fills and commits in one go.
+    /// Creates, fills and commits at once. QSaveFile would not do: a killed process leaves its temporary file for ever,
+    /// and it writes through symbolic links and does not sync the folder.
     static KxResult<QString> Write(const QString& targetPath, const QByteArray& content, Existing existing);
 
 private:
-    KxOutputFile(QString targetPath, QString temporaryPath);
+    KxOutputFile(QString targetPath, std::unique_ptr<KxPartFile> part);
 
-    QString m_targetPath;
-    QString m_temporaryPath;
+    const QString m_targetPath;
+    std::unique_ptr<KxPartFile> m_part;
+    bool m_isCommitted = false;
 };

@@ -6,10 +6,19 @@
 #include <cerrno>
 #include <utility>
 
+bool KxIsDiskFull(const std::error_code& error)
+{
+#ifdef EDQUOT
+    if (error == std::error_code(EDQUOT, std::generic_category())) {
+        return true;
+    }
+#endif
+    return error == std::errc::no_space_on_device;
+}
+
 QString KxSystemErrorText(const std::error_code& error)
 {
     constexpr std::array<std::pair<std::errc, const char*>, 12> texts{{
-        {std::errc::no_space_on_device, "the disk is full"},
         {std::errc::file_too_large, "the file would become too large for its disk"},
         {std::errc::no_such_file_or_directory, "there is no such file"},
         {std::errc::permission_denied, "permission is denied"},
@@ -21,18 +30,14 @@ QString KxSystemErrorText(const std::error_code& error)
         {std::errc::too_many_files_open_in_system, "too many files are open"},
         {std::errc::filename_too_long, "its name is too long"},
         {std::errc::is_a_directory, "it is a folder"},
+        {std::errc::broken_pipe, "its reader has gone"},
     }};
     for (const auto& [condition, text] : texts) {
         if (error == condition) {
             return QLatin1String(text);
         }
     }
-#ifdef EDQUOT
-    if (error == std::error_code(EDQUOT, std::generic_category())) {
-        return QStringLiteral("the disk is full");
-    }
-#endif
-    return {};
+    return KxIsDiskFull(error) ? QStringLiteral("the disk is full") : QString();
 }
 
 QString KxFileErrorText(const QFileDevice& file)

@@ -12,5 +12,8 @@ class QFileDevice;
 /// Empty where there are no such words for it.
 KXCORE_API QString KxSystemErrorText(const std::error_code& error);
 
+/// Whether the error says that there is no room: a full disk or a used-up quota.
+KXCORE_API bool KxIsDiskFull(const std::error_code& error);
+
 /// Why what was just done with `file` failed, in the same form; never empty. Right after the failure, on its thread.
 KXCORE_API QString KxFileErrorText(const QFileDevice& file);

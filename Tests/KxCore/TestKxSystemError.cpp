@@ -16,7 +16,7 @@ QString TextOf(int number)
 
 } // namespace
 
-TEST(KxSystemError, SaysWhatAPersonCanActOn)
+TEST(KxSystemError, GivesAReasonThatAPersonCanActOn)
 {
     EXPECT_EQ(TextOf(ENOSPC), QStringLiteral("the disk is full"));
 #ifdef EDQUOT
@@ -27,7 +27,20 @@ TEST(KxSystemError, SaysWhatAPersonCanActOn)
     EXPECT_EQ(TextOf(ENAMETOOLONG), QStringLiteral("its name is too long"));
 }
 
-TEST(KxSystemError, HasNoWordsForWhatIsNoError)
+TEST(KxSystemError, AFullDiskIsNotAMissingPermission)
+{
+    const auto isFull = [](int number) { return KxIsDiskFull(std::error_code(number, std::generic_category())); };
+    EXPECT_TRUE(isFull(ENOSPC));
+#ifdef EDQUOT
+    EXPECT_TRUE(isFull(EDQUOT));
+#endif
+    EXPECT_TRUE(KxIsDiskFull(std::error_code(ENOSPC, std::system_category())));
+    for (const int number : {0, EACCES, EPERM, EROFS, ENOENT, EIO}) {
+        EXPECT_FALSE(isFull(number)) << number;
+    }
+}
+
+TEST(KxSystemError, ASuccessAndUnknownErrorsHaveNoText)
 {
     EXPECT_TRUE(TextOf(0).isEmpty());
     EXPECT_TRUE(TextOf(EDOM).isEmpty());

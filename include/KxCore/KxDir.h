@@ -6,6 +6,7 @@
 
 namespace KxDir
 {
-/// Whether files can be made in and read from the folder `path`; found out by making one.
+/// Whether the folder `path` permits creating and reading files; tried by creating one. A full disk does not count as
+/// a missing permission.
 KXCORE_API bool IsPathWriteAndReadable(const QString& path);
 } // namespace KxDir
