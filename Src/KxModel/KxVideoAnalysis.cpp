@@ -141,9 +141,9 @@ KxResult<std::unique_ptr<KxVideoAnalysis>> KxVideoAnalysis::Open(const QString& 
 {
     using Opened = KxResult<std::unique_ptr<KxVideoAnalysis>>;
     if (param.targetSize().isEmpty()) {
-        return Opened::Failure(QStringLiteral("The aspect ratio %1:%2 has a side that is not positive.")
-                                   .arg(param.targetSize().width())
-                                   .arg(param.targetSize().height()));
+        return Opened::Failure(
+            QStringLiteral("The aspect ratio %1:%2 has a side that is not positive.")
+                .arg(QString::number(param.targetSize().width()), QString::number(param.targetSize().height())));
     }
     KxResult<std::unique_ptr<KxVideoScanner>> scanner = KxVideoScanner::Open(path, cancel);
     if (!scanner) {

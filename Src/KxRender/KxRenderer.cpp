@@ -42,8 +42,8 @@ KxError Check(const KxRenderSource& source, const KxRenderSettings& settings)
     constexpr int longestSidePx = 16384;
     const QSize size = settings.resolution;
     if (size.isEmpty() || size.width() > longestSidePx || size.height() > longestSidePx) {
-        return CannotWrite(
-            settings, QStringLiteral("a resolution of %1 x %2 is not possible").arg(size.width()).arg(size.height()));
+        return CannotWrite(settings, QStringLiteral("a resolution of %1 x %2 is not possible")
+                                         .arg(QString::number(size.width()), QString::number(size.height())));
     }
     const QString target = QFileInfo(settings.outputPath).canonicalFilePath();
     if (settings.existing == KxOutputFile::Existing::Replace && !target.isEmpty() &&

@@ -45,7 +45,8 @@ TEST(ReframeOptions, AcceptsEveryPresetAndOtherWholeNumbers)
     for (const char* aspect : {"9:16", "1:1", "16:9", "4:3", "4:5", "21:9", "1080:1920"}) {
         const auto parsed = Parse({QStringLiteral("--aspect"), QLatin1String(aspect), QStringLiteral("a.mp4")});
         ASSERT_TRUE(parsed.options) << aspect;
-        EXPECT_EQ(QStringLiteral("%1:%2").arg(parsed.options->aspect.width()).arg(parsed.options->aspect.height()),
+        EXPECT_EQ(QStringLiteral("%1:%2").arg(QString::number(parsed.options->aspect.width()),
+                                              QString::number(parsed.options->aspect.height())),
                   QLatin1String(aspect));
     }
 }

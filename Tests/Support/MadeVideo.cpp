@@ -118,8 +118,9 @@ bool MadeVideo::Make(const QString& path, const Recipe& recipe)
     QStringList arguments = QuietArguments();
     arguments << QStringLiteral("-f") << QStringLiteral("rawvideo") << QStringLiteral("-pix_fmt")
               << QStringLiteral("rgb24") << QStringLiteral("-s")
-              << QStringLiteral("%1x%2").arg(recipe.size.width()).arg(recipe.size.height()) << QStringLiteral("-r")
-              << recipe.rate << QStringLiteral("-i") << QStringLiteral("pipe:0");
+              << QStringLiteral("%1x%2").arg(QString::number(recipe.size.width()),
+                                             QString::number(recipe.size.height()))
+              << QStringLiteral("-r") << recipe.rate << QStringLiteral("-i") << QStringLiteral("pipe:0");
     arguments << recipe.inputs << recipe.output << QStringLiteral("file:") + path;
     arguments.removeAll(QStringLiteral("-nostdin"));
     QProcess process;

@@ -58,7 +58,7 @@ QString Frames(qint64 count)
 
 QString Size(const QSizeF& size)
 {
-    return QStringLiteral("%1 × %2").arg(qRound(size.width())).arg(qRound(size.height()));
+    return QStringLiteral("%1 × %2").arg(QString::number(qRound(size.width())), QString::number(qRound(size.height())));
 }
 
 QString Swatch(QRgb colour)
@@ -103,9 +103,8 @@ public:
                Fact(QStringLiteral("Length"),
                     QStringLiteral("%1 (%2)").arg(Clock(m_track.crops.size()), Frames(m_track.crops.size()))) +
                Fact(QStringLiteral("Crop"), QStringLiteral("%1, %2:%3")
-                                                .arg(Size(cropPx))
-                                                .arg(m_track.aspect.width())
-                                                .arg(m_track.aspect.height())) +
+                                                .arg(Size(cropPx), QString::number(m_track.aspect.width()),
+                                                     QString::number(m_track.aspect.height()))) +
                Fact(QStringLiteral("Speed"), m_track.speedName) +
                Fact(QStringLiteral("Shots"), QString::number(m_findings.shots.size())) + QStringLiteral("</dl>\n");
     }
@@ -173,8 +172,8 @@ private:
         const double share = FoundSignals::CarrierShare(m_findings, shot);
         return share <= 0.0 ? QStringLiteral("nothing: the crop stays in the middle")
                             : QStringLiteral("%1%2, %3 %")
-                                  .arg(Swatch(FoundSignals::Colour(shot.carrier)), FoundSignals::Name(shot.carrier))
-                                  .arg(qRound(share * 100.0));
+                                  .arg(Swatch(FoundSignals::Colour(shot.carrier)), FoundSignals::Name(shot.carrier),
+                                       QString::number(qRound(share * 100.0)));
     }
 
     double Travel(const KxSubjectFindings::Shot& shot) const

@@ -79,7 +79,8 @@ bool AppendCrop(CropTrack& track, const std::array<double, 4>& values)
 
 QString BadFrame(const QString& name, int frame)
 {
-    return QStringLiteral("Cannot use %1: frame %2 is no rectangle inside the picture.").arg(name).arg(frame);
+    return QStringLiteral("Cannot use %1: frame %2 is no rectangle inside the picture.")
+        .arg(name, QString::number(frame));
 }
 
 KxResult<CropTrack> ReadCsv(const QByteArray& content, const QString& name)

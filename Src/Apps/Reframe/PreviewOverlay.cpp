@@ -100,10 +100,11 @@ void PreviewOverlay::DrawPanel(QPainter& painter, const QSizeF& picture, qint64 
         return;
     }
     row.translate(0.0, line);
-    write(
-        row,
-        QStringLiteral("Shot %1 of %2").arg(FoundSignals::ShotAt(*m_findings, frame) + 1).arg(m_findings->shots.size()),
-        QString());
+    write(row,
+          QStringLiteral("Shot %1 of %2")
+              .arg(QString::number(FoundSignals::ShotAt(*m_findings, frame) + 1),
+                   QString::number(m_findings->shots.size())),
+          QString());
     row.translate(0.0, 1.3 * line);
     DrawSignals(painter, row, frame);
 }

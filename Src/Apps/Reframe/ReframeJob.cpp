@@ -142,9 +142,7 @@ ReframeJob::Ended ReframeJob::StartAnalysis()
             QStringLiteral("Cannot reframe %1: it is too short (%2; 32 are needed).").arg(m_input, FramesText()));
     case 3:
         return Fail(QStringLiteral("Cannot reframe %1: it has the aspect ratio %2:%3 already.")
-                        .arg(m_input)
-                        .arg(m_aspect.width())
-                        .arg(m_aspect.height()));
+                        .arg(m_input, QString::number(m_aspect.width()), QString::number(m_aspect.height())));
     default:
         return Fail(KxAutoReframeService::Instance().LastErrorMessage());
     }

@@ -24,8 +24,9 @@ QString TimeLeft(qint64 elapsedMs, int progress)
         return {};
     }
     const qint64 seconds = (elapsedMs * (10000 - progress) / progress + 999) / 1000;
-    return seconds < 60 ? QStringLiteral(", %1 s left").arg(seconds)
-                        : QStringLiteral(", %1 min %2 s left").arg(seconds / 60).arg(seconds % 60);
+    return seconds < 60
+               ? QStringLiteral(", %1 s left").arg(seconds)
+               : QStringLiteral(", %1 min %2 s left").arg(QString::number(seconds / 60), QString::number(seconds % 60));
 }
 
 enum class Form { Name, Doing };

@@ -95,8 +95,7 @@ void KrAutoReframeExportDlg::slotExportButtonClicked()
     if (freeMb < neededMb) {
         ShowInformation(tr("There is not enough space in the specified output directory, please choose another one.\n"
                            "Dise Space needed :%1 MB, remaining:%2 MB.")
-                            .arg(neededMb)
-                            .arg(freeMb));
+                            .arg(QString::number(neededMb), QString::number(freeMb)));
         return;
     }
     done(QDialog::Accepted);

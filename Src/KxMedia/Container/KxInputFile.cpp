@@ -214,8 +214,7 @@ KxError KxInputFile::ReadStreamInfo()
             const AVStream& stream = *m_context->streams[i];
             if (IsTooLarge(stream)) {
                 return QStringLiteral("its pictures are too large (%1 x %2)")
-                    .arg(stream.codecpar->width)
-                    .arg(stream.codecpar->height);
+                    .arg(QString::number(stream.codecpar->width), QString::number(stream.codecpar->height));
             }
         }
         return std::nullopt;

@@ -58,11 +58,10 @@ KxResult<KxFilterChain> KxFilterChain::Make(const char* steps, const AVFrame& pi
         return Result::Failure(KxAvErrorText(AVERROR(ENOMEM)));
     }
     AVFilterGraph* const graph = chain.m_graph.get();
-    const QByteArray arguments = QStringLiteral("video_size=%1x%2:pix_fmt=%3:time_base=1/1:pixel_aspect=1/1")
-                                     .arg(picture.width)
-                                     .arg(picture.height)
-                                     .arg(picture.format)
-                                     .toLatin1();
+    const QByteArray arguments =
+        QStringLiteral("video_size=%1x%2:pix_fmt=%3:time_base=1/1:pixel_aspect=1/1")
+            .arg(QString::number(picture.width), QString::number(picture.height), QString::number(picture.format))
+            .toLatin1();
     int error = avfilter_graph_create_filter(&chain.m_source, avfilter_get_by_name("buffer"), "in",
                                              arguments.constData(), nullptr, graph);
     if (error >= 0) {

@@ -204,10 +204,8 @@ KxFrameCutter::Impl::Cutting KxFrameCutter::Impl::CutCoded(const AVFrame& source
     if (!CutPlane(source, 0, luma, *target) || !CutPlane(source, 1, chroma, *target) ||
         !CutPlane(source, 2, chroma, *target)) {
         return Cutting::Failure(QStringLiteral("Cannot cut a picture: it cannot be scaled from %1 x %2 to %3 x %4.")
-                                    .arg(windowPx.width())
-                                    .arg(windowPx.height())
-                                    .arg(size.width())
-                                    .arg(size.height()));
+                                    .arg(QString::number(windowPx.width()), QString::number(windowPx.height()),
+                                         QString::number(size.width()), QString::number(size.height())));
     }
     return Cutting(std::move(target));
 }

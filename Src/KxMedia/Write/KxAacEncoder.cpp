@@ -36,8 +36,7 @@ KxResult<std::unique_ptr<KxAacEncoder>> KxAacEncoder::Open(const KxAudioReader::
     }
     if (!Supports(*codec, format.sampleRateHz) || format.channels < 1) {
         return Opened::Failure(QStringLiteral("sound of %1 Hz and %2 channels is not supported")
-                                   .arg(format.sampleRateHz)
-                                   .arg(format.channels));
+                                   .arg(QString::number(format.sampleRateHz), QString::number(format.channels)));
     }
     KxAvCodec context(avcodec_alloc_context3(codec));
     KxAvFrame frame(av_frame_alloc());

@@ -23,8 +23,7 @@ KxError Check(const KxMp4Writer::Settings& settings)
     if (size.width() <= 0 || size.height() <= 0 || size.width() % 2 != 0 || size.height() % 2 != 0) {
         return Message(settings.path,
                        QStringLiteral("pictures of %1 x %2 pixels cannot be encoded; both have to be even")
-                           .arg(size.width())
-                           .arg(size.height()));
+                           .arg(QString::number(size.width()), QString::number(size.height())));
     }
     if (!settings.frameRate.IsPositive()) {
         return Message(settings.path, QStringLiteral("the frame rate is unknown"));

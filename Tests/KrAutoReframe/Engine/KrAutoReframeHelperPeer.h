@@ -23,7 +23,8 @@ struct KrAutoReframeHelperPeer {
     {
         QStringList texts;
         for (const KrEditSegment& segment : helper.m_segments) {
-            QString text = QStringLiteral("%1..%2:").arg(segment.start).arg(segment.End());
+            QString text =
+                QStringLiteral("%1..%2:").arg(QString::number(segment.start), QString::number(segment.End()));
             for (const uint point : segment.points) {
                 text += QStringLiteral(" %1").arg(point);
             }
@@ -75,7 +76,8 @@ public:
             }
             const qint64 last = keyFrames.at(next - 1).frame;
             texts << (next - first == 1 ? QString::number(last)
-                                        : QStringLiteral("%1..%2").arg(keyFrames.at(first).frame).arg(last));
+                                        : QStringLiteral("%1..%2").arg(QString::number(keyFrames.at(first).frame),
+                                                                       QString::number(last)));
         }
         return texts.join(QLatin1Char(' '));
     }

@@ -28,7 +28,7 @@ protected:
         QStringList texts{Segments(), PushedFrames()};
         const QMap<uint, QRectF> editPoints = KrAutoReframeHelperPeer::EditPoints(*helper);
         for (auto point = editPoints.cbegin(); point != editPoints.cend(); ++point) {
-            texts << QStringLiteral("%1=%2").arg(point.key()).arg(point.value().x());
+            texts << QStringLiteral("%1=%2").arg(QString::number(point.key()), QString::number(point.value().x()));
         }
         QString shown;
         for (const IKxAutoReframeResult& result : helper->GetDisplayResults()) {
@@ -41,7 +41,8 @@ protected:
     {
         QStringList texts;
         for (const QList<QVariant>& arguments : spy) {
-            texts << QStringLiteral("%1%2").arg(arguments.at(0).toInt()).arg(arguments.at(1).toInt());
+            texts << QStringLiteral("%1%2").arg(QString::number(arguments.at(0).toInt()),
+                                                QString::number(arguments.at(1).toInt()));
         }
         return texts.join(QLatin1Char(' '));
     }

@@ -22,10 +22,8 @@ bool Service::StartTask(const QString& path, const IKxAutoReframeParam& param)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     Record(QStringLiteral("StartTask(%1, %2, %3x%4)")
-               .arg(path)
-               .arg(param.mode())
-               .arg(param.targetSize().width())
-               .arg(param.targetSize().height()));
+               .arg(path, QString::number(param.mode()), QString::number(param.targetSize().width()),
+                    QString::number(param.targetSize().height())));
     return m_isAccepted;
 }
 
@@ -39,7 +37,7 @@ void Service::StopTask(int task)
 int Service::GetResults(const QString& path, QList<IKxAutoReframeResult>* out)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    Record(QStringLiteral("GetResults(%1, %2 entries)").arg(path).arg(out->size()));
+    Record(QStringLiteral("GetResults(%1, %2 entries)").arg(path, QString::number(out->size())));
     *out = m_results;
     return m_status;
 }

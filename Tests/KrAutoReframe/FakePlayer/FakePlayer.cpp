@@ -148,7 +148,8 @@ void KxMediaPlayerPresenter::openTimeline(IKxTimeline* timeline, bool paused, bo
 
 void KxMediaPlayerPresenter::seek(int frame, int second, int third)
 {
-    m_impl->script.calls.append(QStringLiteral("seek %1 %2 %3").arg(frame).arg(second).arg(third));
+    m_impl->script.calls.append(
+        QStringLiteral("seek %1 %2 %3").arg(QString::number(frame), QString::number(second), QString::number(third)));
 }
 
 KxMediaPlayerWidget::KxMediaPlayerWidget(QWidget* parent)

@@ -19,7 +19,7 @@ QString Translated(const char* text)
 
 QString MediaText::Resolution(const QSize& resolution)
 {
-    return QStringLiteral("%1 × %2").arg(resolution.width()).arg(resolution.height());
+    return QStringLiteral("%1 × %2").arg(QString::number(resolution.width()), QString::number(resolution.height()));
 }
 
 QString MediaText::FrameRate(const KxRational& rate)
@@ -56,7 +56,8 @@ QString MediaText::TimeLeft(qint64 seconds)
         return Translated("%1 s left").arg(seconds);
     }
     if (seconds < hour) {
-        return Translated("%1 min %2 s left").arg(seconds / minute).arg(seconds % minute);
+        return Translated("%1 min %2 s left").arg(QString::number(seconds / minute), QString::number(seconds % minute));
     }
-    return Translated("%1 h %2 min left").arg(seconds / hour).arg(seconds % hour / minute);
+    return Translated("%1 h %2 min left")
+        .arg(QString::number(seconds / hour), QString::number(seconds % hour / minute));
 }
