@@ -18,6 +18,7 @@
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPainter>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -41,9 +42,21 @@ QImage Red(int)
     return picture;
 }
 
+QImage RedBesideBlue(int)
+{
+    QImage picture = Red(0);
+    QPainter(&picture).fillRect(Coded.width() / 2, 0, Coded.width() / 2, Coded.height(), Qt::blue);
+    return picture;
+}
+
 bool IsRed(const QColor& colour)
 {
     return colour.red() > 150 && colour.green() < 100 && colour.blue() < 100;
+}
+
+bool IsBlue(const QColor& colour)
+{
+    return colour.blue() > 150 && colour.red() < 100 && colour.green() < 100;
 }
 
 bool IsOutline(const QColor& colour)
@@ -87,6 +100,8 @@ protected:
         recipe.frames = FrameCount;
         recipe.draw = &Red;
         ASSERT_TRUE(MadeVideo::Make(folder->filePath(QStringLiteral("red.mp4")), recipe));
+        recipe.draw = &RedBesideBlue;
+        ASSERT_TRUE(MadeVideo::Make(folder->filePath(QStringLiteral("halves.mp4")), recipe));
     }
     static void TearDownTestSuite() { folder.reset(); }
 
@@ -98,9 +113,9 @@ protected:
         KxSimpleTimeline::ReleaseAll();
     }
 
-    void ShowCrop()
+    void ShowCrop(const QString& fileName = QStringLiteral("red.mp4"))
     {
-        item = createMediaItem(folder->filePath(QStringLiteral("red.mp4")));
+        item = createMediaItem(folder->filePath(fileName));
         ASSERT_NE(item, nullptr);
         helper = QSharedPointer<KrAutoReframeHelper>::create();
         window = std::make_unique<QWidget>();
@@ -173,7 +188,7 @@ TEST_F(PlayerViewWithHostTest, TheOverlayLiesOverThePictureAtEveryScale)
     ASSERT_EQ(ratio, wanted.toDouble());
     for (const QSize& size : {QSize(901, 523), QSize(700, 640), QSize(1100, 400)}) {
         window->resize(size);
-        QTest::qWait(0);
+        QCoreApplication::sendPostedEvents();
         const QImage painted = player->grab().toImage();
         ASSERT_EQ(painted.size(), (QSizeF(player->size()) * ratio).toSize());
         const QRectF picture = Bounds(painted, &IsRed);
@@ -187,6 +202,21 @@ TEST_F(PlayerViewWithHostTest, TheOverlayLiesOverThePictureAtEveryScale)
                           Crop.width() * picture.width(), Crop.height() * picture.height());
         ExpectNear(crop, part, 2 * ratio);
     }
+}
+
+TEST_F(PlayerViewWithHostTest, TheReframedPreviewShowsAnUndoneEditAtOnce)
+{
+    ShowCrop(QStringLiteral("halves.mp4"));
+    Q_EMIT overlay->sigRectFChanged(QRectF(0.0, 0.0, 0.375, 1.0));
+    QSignalSpy shown(player->getOrCreatePresenter(), &KxMediaPlayerPresenter::sigFrameChanged);
+    ASSERT_TRUE(view->SwitchTimeline(true, true));
+    ASSERT_TRUE(shown.wait(WaitMs));
+    EXPECT_TRUE(Bounds(player->grab().toImage(), &IsBlue).isEmpty());
+    view->findChild<QAbstractButton*>(QStringLiteral("KrAutoReframe_undo"))->click();
+    ASSERT_TRUE(shown.wait(WaitMs));
+    const QImage undone = player->grab().toImage();
+    EXPECT_FALSE(Bounds(undone, &IsRed).isEmpty());
+    EXPECT_FALSE(Bounds(undone, &IsBlue).isEmpty());
 }
 
 TEST_F(PlayerViewWithHostTest, EveryControlHasANameAndIsReachedWithTab)
