@@ -4,18 +4,10 @@
 
 #include <QSize>
 
-#include <mutex>
-
 namespace
 {
 
 constexpr int EndedState = 2;
-
-std::mutex& ParamMutex()
-{
-    static std::mutex mutex;
-    return mutex;
-}
 
 } // namespace
 
@@ -33,13 +25,13 @@ KrAutoReframeAnalyzer::~KrAutoReframeAnalyzer()
 
 void KrAutoReframeAnalyzer::SetParam(const KrAutoReframeAnalyzeParam& param)
 {
-    const std::lock_guard<std::mutex> lock(ParamMutex());
+    const std::lock_guard<std::mutex> lock(m_paramMutex);
     m_param = param;
 }
 
 KrAutoReframeAnalyzeParam KrAutoReframeAnalyzer::GetParam() const
 {
-    const std::lock_guard<std::mutex> lock(ParamMutex());
+    const std::lock_guard<std::mutex> lock(m_paramMutex);
     return m_param;
 }
 

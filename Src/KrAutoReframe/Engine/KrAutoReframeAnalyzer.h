@@ -7,6 +7,8 @@
 #include <QObject>
 #include <QString>
 
+#include <mutex>
+
 /// What one analysis is asked for.
 struct KrAutoReframeAnalyzeParam {
     /// The media file.
@@ -35,8 +37,8 @@ public:
     KrAutoReframeAnalyzer();
     ~KrAutoReframeAnalyzer() override;
 
-    /// Any thread, as is `GetParam`: the next job is set up while the last completion of the one before may still read
-    /// its path.
+    /// Any thread, like `GetParam`: the next job is set up while the last completion of the previous one may still read
+    /// the path.
     void SetParam(const KrAutoReframeAnalyzeParam& param);
     /// The parameters of the last start.
     KrAutoReframeAnalyzeParam GetParam() const;
@@ -69,6 +71,7 @@ public Q_SLOTS:
 
 private:
     bool m_canceled = false;
+    mutable std::mutex m_paramMutex;
     KrAutoReframeAnalyzeParam m_param;
     QList<IKxAutoReframeResult> m_results;
 };

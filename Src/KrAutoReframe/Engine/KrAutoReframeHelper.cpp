@@ -37,6 +37,8 @@ void KrAutoReframeHelper::SetTimeline(IKxTimeline* timeline)
         return;
     }
     StopTask();
+    m_isEndDue = false;
+    m_earlier.reset();
     ReadClipFacts(*timeline);
     ResetWorkTimeline(timeline);
     m_sourceTimeline = timeline;

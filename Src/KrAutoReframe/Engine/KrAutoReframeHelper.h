@@ -12,6 +12,7 @@
 #include <QObject>
 #include <QRectF>
 
+#include <optional>
 #include <utility>
 
 class IKxClip;
@@ -23,8 +24,10 @@ class QUndoStack;
 /// user's edit points with their undo stack, and the rectangle of each frame that the player shows.
 ///
 /// User-interface thread. The keyframes of a whole analysis are made by one task at a time on the global thread pool.
-/// The worker never waits for the mutex. Operations that need what the task writes wait for its end (a fraction of a
-/// second); a new source and the destructor cancel it first.
+/// The worker never waits for the mutex. Operations that need the task's output wait for its end (a fraction of a
+/// second); a new source and the destructor cancel the task first. The end of a task is delivered through the event
+/// loop; until then the task can still be cancelled. If results had been applied before, a cancelled task leaves those
+/// results, their keyframes and the edits unchanged.
 ///
 /// A frame number with all bits set means no frame.
 class KrAutoReframeHelper : public QObject
@@ -41,8 +44,8 @@ public:
     KrAutoReframeHelper();
     ~KrAutoReframeHelper() override;
 
-    /// Prepares for a new source, which stays the host's; edits and results of the one before are dropped. Null changes
-    /// nothing.
+    /// Prepares for a new source, which stays the host's. Edits and results of the previous one are dropped; a task whose
+    /// end was not delivered yet is stopped and reports no end. Null changes nothing.
     void SetTimeline(IKxTimeline* timeline);
     IKxTimeline* GetSourceTimeline() const;
     /// The working copy that carries the keyframes; null until a source with a clip was set. Owned by the helper and
@@ -59,8 +62,11 @@ public:
     /// Starts the keyframe task on the first `GetDuration()` of `results`, frame 0 first. False when there are fewer;
     /// true without a new start while a task runs. Ends with `sigApplyFinished`.
     bool ApplyResults(const QList<IKxAutoReframeResult>& results);
-    /// Cancels a running keyframe task; what the task has stored by then stays.
+    /// Cancels the keyframe task if its end was not delivered yet; `sigApplyFinished` still follows. If this was the
+    /// first application for the source, what the task has stored stays.
     void Cancel();
+    /// Like `Cancel`, but returns when the task has ended, and `sigApplyFinished` does not follow.
+    void AbandonTask();
 
     /// Sets an edit point, undoably; a frame after the last one counts as the last one. False when there are no frames.
     bool AddKeyFrame(const uint& frame, const QRectF& rect);
@@ -108,6 +114,11 @@ Q_SIGNALS:
 private:
     using KeyFrameMap = QMap<qint64, KxCropPanZoomKeyFrameParam>;
 
+    struct AppliedResults {
+        QList<IKxAutoReframeResult> results;
+        KeyFrameMap keyFrames;
+    };
+
     friend class AddCropKeyFrameCommand;
     friend class RemoveCropKeyFrameCommand;
     friend struct KrAutoReframeHelperPeer;
@@ -121,6 +132,7 @@ private:
     void HandleTaskFinished();
     void WaitForTask();
     void StopTask();
+    void RestoreEarlierResults();
     void RunKeyFrameTask(IKxCropPanZoomKeyFrameHelper* target, const QList<IKxAutoReframeResult>& results);
     bool IsTaskCanceled();
     /// Worker's thread. Returns what to push, as the last thing for which the worker needs the helper.
@@ -141,6 +153,10 @@ private:
     /// Guards m_canceled and the hand-over of results and keyframes between the worker and the user-interface thread.
     mutable QMutex m_mutex;
     bool m_canceled = false;
+    /// A task was started and its end was not delivered yet.
+    bool m_isEndDue = false;
+    /// What the running task replaces; empty for the first application, and after an edit of the task's results.
+    std::optional<AppliedResults> m_earlier;
     /// While set, a rebuilt range is not pushed to the host.
     bool m_suspendFlush = false;
     /// Null when the working clip has no such keyframes.

@@ -95,6 +95,7 @@ void KrAutoReframeHelper::FillFromResults(uint from, uint to)
 void KrAutoReframeHelper::ApplyEditRange(uint from, uint to, const KrEditSegment& segment)
 {
     WaitForTask();
+    m_earlier.reset();
     if (from > to || !AreCountsValid(to) || m_keyFrameHelper == nullptr) {
         return;
     }

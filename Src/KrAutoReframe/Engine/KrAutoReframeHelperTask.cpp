@@ -19,6 +19,10 @@ bool KrAutoReframeHelper::ApplyResults(const QList<IKxAutoReframeResult>& result
         const std::lock_guard<QBasicMutex> lock(Guard());
         m_canceled = false;
     }
+    if (!m_isEndDue && !m_results.isEmpty()) {
+        m_earlier = AppliedResults{m_results, m_keyFrames};
+    }
+    m_isEndDue = true;
     const QList<IKxAutoReframeResult> applied = results.mid(0, m_frameCount);
     IKxCropPanZoomKeyFrameHelper* const target = m_keyFrameHelper;
     m_watcher->setFuture(QtConcurrent::run([this, target, applied] { RunKeyFrameTask(target, applied); }));
@@ -27,8 +31,29 @@ bool KrAutoReframeHelper::ApplyResults(const QList<IKxAutoReframeResult>& result
 
 void KrAutoReframeHelper::Cancel()
 {
-    if (m_watcher->isRunning()) {
+    if (m_isEndDue) {
         m_watcher->cancel();
+    }
+}
+
+void KrAutoReframeHelper::AbandonTask()
+{
+    if (std::exchange(m_isEndDue, false)) {
+        StopTask();
+        RestoreEarlierResults();
+    }
+}
+
+void KrAutoReframeHelper::RestoreEarlierResults()
+{
+    if (!m_earlier) {
+        return;
+    }
+    m_results.swap(m_earlier->results);
+    m_keyFrames.swap(m_earlier->keyFrames);
+    m_earlier.reset();
+    if (m_keyFrameHelper != nullptr) {
+        PushKeyFrames();
     }
 }
 
@@ -57,11 +82,16 @@ void KrAutoReframeHelper::StopTask()
 
 void KrAutoReframeHelper::HandleTaskFinished()
 {
-    if (m_watcher->isCanceled()) {
-        Q_EMIT sigApplyFinished(false);
+    if (!std::exchange(m_isEndDue, false)) {
         return;
     }
     WaitForTask();
+    if (m_watcher->isCanceled()) {
+        RestoreEarlierResults();
+        Q_EMIT sigApplyFinished(false);
+        return;
+    }
+    m_earlier.reset();
     m_editPoints.clear();
     m_segments.clear();
     m_undoStack->clear();

@@ -1,12 +1,15 @@
 #include <KrAutoReframe/Engine/KrAutoReframeProcess.h>
 
 #include <KxModel/IKxAbstractMedia.h>
+#include <KxModel/IKxAutoReframeParam.h>
 #include <KxModel/IKxAutoReframeService.h>
 #include <KxModel/IKxMediaInfo.h>
 #include <KxModel/IKxTimeline.h>
 #include <KxModel/KxVBLMODEL.h>
 
+#include <QCoreApplication>
 #include <QDebug>
+#include <QEvent>
 #include <QSize>
 
 #include <algorithm>
@@ -14,7 +17,7 @@
 namespace
 {
 
-constexpr int ShortestFrames = 32;
+constexpr int FewestFrames = 32;
 
 enum StartCode { Started = 0, TooShort = 1, NoSource = 2, SameAspectRatio = 3, Refused = 4 };
 
@@ -27,16 +30,18 @@ double AspectRatio(int width, int height)
 
 KrAutoReframeProcess::KrAutoReframeProcess(QObject* parent)
     : QObject(parent)
+    , m_jobEvents(new QObject(this))
     , m_analyzer(std::make_shared<KrAutoReframeAnalyzer>())
     , m_helper(std::make_shared<KrAutoReframeHelper>())
 {
-    connect(m_analyzer.get(), &KrAutoReframeAnalyzer::sigAnalyzeProgress, this,
-            &KrAutoReframeProcess::HandleAnalyzeProgress);
-    connect(m_helper.get(), &KrAutoReframeHelper::sigApplyProgress, this, &KrAutoReframeProcess::HandleApplyProgress);
-    connect(m_analyzer.get(), &KrAutoReframeAnalyzer::sigAnalyzeCanceled, this,
+    connect(m_analyzer.get(), &KrAutoReframeAnalyzer::sigAnalyzeProgress, m_jobEvents,
+            [this](double progress) { HandleAnalyzeProgress(progress); });
+    connect(m_helper.get(), &KrAutoReframeHelper::sigApplyProgress, m_jobEvents,
+            [this](double progress) { HandleApplyProgress(progress); });
+    connect(m_analyzer.get(), &KrAutoReframeAnalyzer::sigAnalyzeCanceled, m_jobEvents,
             [this] { Q_EMIT sigProcessFinished(false); });
-    connect(m_analyzer.get(), &KrAutoReframeAnalyzer::sigAnalyzeFinished, this,
-            &KrAutoReframeProcess::HandleAnalyzeFinished);
+    connect(m_analyzer.get(), &KrAutoReframeAnalyzer::sigAnalyzeFinished, m_jobEvents,
+            [this](bool success) { HandleAnalyzeFinished(success); });
     connect(m_helper.get(), &KrAutoReframeHelper::sigApplyFinished, this, &KrAutoReframeProcess::sigProcessFinished);
 }
 
@@ -92,11 +97,16 @@ int KrAutoReframeProcess::StartAnalyze(int width, int height, int mode)
     if (AspectRatio(resolution.width(), resolution.height()) == AspectRatio(width, height)) {
         return SameAspectRatio;
     }
-    if (timeline->duration() < ShortestFrames) {
+    if (timeline->duration() < FewestFrames) {
         return TooShort;
     }
     m_analyzer->SetParam({m_path, width, height, mode});
-    return m_analyzer->Start() ? Started : Refused;
+    IKxAutoReframeService* const service = getAutoReframeService();
+    service->StopTask(0);
+    m_helper->AbandonTask();
+    DropQueuedEvents();
+    const IKxAutoReframeParam param(mode, QSize(width, height));
+    return service->StartTask(m_path, param) ? Started : Refused;
 }
 
 KrAutoReframeAnalyzeParam KrAutoReframeProcess::GetParam() const
@@ -107,7 +117,13 @@ KrAutoReframeAnalyzeParam KrAutoReframeProcess::GetParam() const
 void KrAutoReframeProcess::StopProcess()
 {
     getAutoReframeService()->StopTask(0);
+    DropQueuedEvents();
     m_helper->Cancel();
+}
+
+void KrAutoReframeProcess::DropQueuedEvents()
+{
+    QCoreApplication::removePostedEvents(m_jobEvents, QEvent::MetaCall);
 }
 
 bool KrAutoReframeProcess::ApplyResults()

@@ -35,6 +35,39 @@ protected:
         ASSERT_TRUE(Apply(frameCount));
     }
 
+    /// Results whose x is 0.000 at frame 0 and 0.099 at frame 99, with an edit at frame 10.
+    void OpenAndEdit()
+    {
+        OpenAndApply(100);
+        helper->AddKeyFrame(10, Rect(0.5));
+    }
+
+    void ExpectUnchanged()
+    {
+        EXPECT_EQ(helper->GetResults().size(), 100);
+        EXPECT_DOUBLE_EQ(helper->GetResults().at(0).cropRect().x(), 0.0);
+        EXPECT_EQ(Segments(), QStringLiteral("0..35: 10"));
+        EXPECT_EQ(PushedFrames(), QStringLiteral("0 10 35..99"));
+        EXPECT_DOUBLE_EQ(PushedX(10), 0.5);
+        EXPECT_DOUBLE_EQ(PushedX(99), 0.099);
+        EXPECT_DOUBLE_EQ(ShownX(10), 0.5);
+        helper->AddKeyFrame(90, Rect(0.7));
+        EXPECT_EQ(PushedFrames(), QStringLiteral("0 10 35..65 90 99"));
+        EXPECT_DOUBLE_EQ(ShownX(50), 0.05);
+        helper->Undo();
+        helper->Undo();
+        EXPECT_EQ(PushedFrames(), QStringLiteral("0..99"));
+        EXPECT_DOUBLE_EQ(PushedX(10), 0.01);
+    }
+
+    void ExpectCancelledAndUnchanged()
+    {
+        QSignalSpy finished(helper.get(), &KrAutoReframeHelper::sigApplyFinished);
+        ASSERT_TRUE(finished.wait(WaitMs));
+        EXPECT_FALSE(finished.at(0).at(0).toBool());
+        ExpectUnchanged();
+    }
+
     /// Calls `atProgress` on the worker's thread at the first progress that it reports.
     void AtFirstProgress(const std::function<void()>& atProgress)
     {

@@ -101,32 +101,84 @@ TEST_F(TestKrAutoReframeHelper, CancelledBeforeItsThreadIsFreeItMakesNothing)
     EXPECT_TRUE(helper->GetResults().isEmpty());
 }
 
-TEST_F(TestKrAutoReframeHelper, CancelledInItsLastStepItIsStillCancelled)
+TEST_F(TestKrAutoReframeHelper, CancelledBeforeItsEndIsDeliveredItIsCancelled)
 {
-    OpenAndApply(100);
-    helper->AddKeyFrame(10, Rect(0.5));
+    Open(100);
+    QSignalSpy finished(helper.get(), &KrAutoReframeHelper::sigApplyFinished);
+    EXPECT_TRUE(helper->ApplyResults(FakeHost::MakeResults(100)));
+    QThreadPool::globalInstance()->waitForDone();
+    helper->Cancel();
+    ASSERT_TRUE(finished.wait(WaitMs));
+    ASSERT_EQ(finished.count(), 1);
+    EXPECT_FALSE(finished.at(0).at(0).toBool());
+    EXPECT_EQ(helper->GetResults().size(), 100);
+    EXPECT_TRUE(helper->GetDisplayResults().isEmpty());
+    EXPECT_TRUE(Apply(100, 0.4));
+    EXPECT_DOUBLE_EQ(ShownX(0), 0.4);
+}
+
+TEST_F(TestKrAutoReframeHelper, CancelledAgainInTheMiddleItLeavesWhatWasThere)
+{
+    OpenAndEdit();
+    HeldTask held;
+    AtFirstProgress([&held] { held.Hold(); });
+    EXPECT_TRUE(helper->ApplyResults(FakeHost::MakeResults(100, 0.4)));
+    held.reached.Wait();
+    helper->Cancel();
+    QCoreApplication::sendPostedEvents();
+    held.release.Open();
+    ExpectCancelledAndUnchanged();
+}
+
+TEST_F(TestKrAutoReframeHelper, CancelledAgainInItsLastStepItLeavesWhatWasThere)
+{
+    OpenAndEdit();
     HeldTask held;
     WorkKeyFrames().SetOnPush([&held] { held.Hold(); });
-    QSignalSpy finished(helper.get(), &KrAutoReframeHelper::sigApplyFinished);
     EXPECT_TRUE(helper->ApplyResults(FakeHost::MakeResults(100, 0.4)));
     held.reached.Wait();
     helper->Cancel();
     held.release.Open();
-    ASSERT_TRUE(finished.wait(WaitMs));
-    EXPECT_FALSE(finished.at(0).at(0).toBool());
-    EXPECT_EQ(PushedFrames(), QStringLiteral("0..99"));
-    EXPECT_DOUBLE_EQ(helper->GetResults().at(0).cropRect().x(), 0.4);
-    EXPECT_EQ(EditFrames(), QList<uint>{10});
+    ExpectCancelledAndUnchanged();
 }
 
-TEST_F(TestKrAutoReframeHelper, CancelledAfterItsEndItHasFinishedWell)
+TEST_F(TestKrAutoReframeHelper, CancelledAgainBeforeItsEndIsDeliveredItLeavesWhatWasThere)
 {
-    Open(100);
-    EXPECT_TRUE(helper->ApplyResults(FakeHost::MakeResults(100)));
+    OpenAndEdit();
+    EXPECT_TRUE(helper->ApplyResults(FakeHost::MakeResults(100, 0.4)));
     QThreadPool::globalInstance()->waitForDone();
     helper->Cancel();
-    EXPECT_TRUE(WaitForFinished());
-    EXPECT_EQ(helper->GetDisplayResults().size(), 100);
+    ExpectCancelledAndUnchanged();
+}
+
+TEST_F(TestKrAutoReframeHelper, AnAbandonedTaskReportsNoEndAndLeavesWhatWasThere)
+{
+    OpenAndEdit();
+    QSignalSpy finished(helper.get(), &KrAutoReframeHelper::sigApplyFinished);
+    EXPECT_TRUE(helper->ApplyResults(FakeHost::MakeResults(100, 0.4)));
+    helper->AbandonTask();
+    QCoreApplication::sendPostedEvents();
+    EXPECT_EQ(finished.count(), 0);
+    ExpectUnchanged();
+    helper->AbandonTask();
+    EXPECT_TRUE(Apply(100, 0.4));
+    EXPECT_DOUBLE_EQ(ShownX(0), 0.4);
+}
+
+TEST_F(TestKrAutoReframeHelper, AnEditOfResultsWhoseApplicationIsCancelledAfterwardsStays)
+{
+    OpenAndEdit();
+    QSignalSpy finished(helper.get(), &KrAutoReframeHelper::sigApplyFinished);
+    EXPECT_TRUE(helper->ApplyResults(FakeHost::MakeResults(100, 0.4)));
+    QThreadPool::globalInstance()->waitForDone();
+    helper->AddKeyFrame(90, Rect(0.7));
+    helper->Cancel();
+    ASSERT_TRUE(finished.wait(WaitMs));
+    EXPECT_FALSE(finished.at(0).at(0).toBool());
+    EXPECT_EQ(EditFrames(), (QList<uint>{10, 90}));
+    EXPECT_DOUBLE_EQ(ShownX(90), 0.7);
+    EXPECT_DOUBLE_EQ(ShownX(50), 0.45);
+    EXPECT_DOUBLE_EQ(PushedX(50), 0.45);
 }
 
 TEST_F(TestKrAutoReframeHelper, CancellingWhileNothingRunsLeavesNoMark)
@@ -231,7 +283,7 @@ TEST_F(TestKrAutoReframeHelper, CanBeDestroyedRightAfterACancel)
     QCoreApplication::sendPostedEvents();
 }
 
-TEST_F(TestKrAutoReframeHelper, ANewSourceWhileTheTaskRunsCancelsIt)
+TEST_F(TestKrAutoReframeHelper, ANewSourceStopsTheRunningTaskWithoutAnEnd)
 {
     Open(20000);
     FakeHost::Gate reached;
@@ -242,10 +294,24 @@ TEST_F(TestKrAutoReframeHelper, ANewSourceWhileTheTaskRunsCancelsIt)
     Open(50);
     EXPECT_TRUE(helper->GetResults().isEmpty());
     EXPECT_EQ(FakeHost::LiveTimelines(), 3);
-    ASSERT_TRUE(finished.count() == 1 || finished.wait(WaitMs));
+    QCoreApplication::sendPostedEvents();
+    EXPECT_EQ(finished.count(), 0);
     EXPECT_EQ(WorkKeyFrames().PushCount(), 0);
     EXPECT_TRUE(Apply(50));
     EXPECT_EQ(PushedFrames(), QStringLiteral("0..49"));
+}
+
+TEST_F(TestKrAutoReframeHelper, ANewSourceDropsAnEndThatWasNotDelivered)
+{
+    Open(100);
+    QSignalSpy finished(helper.get(), &KrAutoReframeHelper::sigApplyFinished);
+    EXPECT_TRUE(helper->ApplyResults(FakeHost::MakeResults(100)));
+    QThreadPool::globalInstance()->waitForDone();
+    Open(50);
+    QCoreApplication::sendPostedEvents();
+    EXPECT_EQ(finished.count(), 0);
+    EXPECT_TRUE(helper->GetDisplayResults().isEmpty());
+    EXPECT_TRUE(Apply(50));
 }
 
 TEST_F(TestKrAutoReframeHelper, ResettingTheWorkingCopyWhileTheTaskRunsCancelsIt)

@@ -1,6 +1,7 @@
 #include <Tests/KrAutoReframe/Engine/ProcessTest.h>
 
 #include <QCoreApplication>
+#include <QThreadPool>
 
 #include <atomic>
 #include <thread>
@@ -131,6 +132,102 @@ TEST_F(TestKrAutoReframeProcess, StoppingCancelsTheKeyFrameTask)
     reached.Wait();
     m_process->StopProcess();
     release.Open();
+    EXPECT_TRUE(WaitForFinished());
+    EXPECT_EQ(m_listener->ends, QStringList{QStringLiteral("finished false")});
+}
+
+TEST_F(TestKrAutoReframeProcess, ACompletionThatWaitsWhenTheJobIsStoppedChangesNothing)
+{
+    Open(40);
+    m_service.Answer(0, FakeHost::MakeResults(40));
+    EXPECT_EQ(m_process->StartAnalyze(9, 16, 16), 0);
+    m_service.FireFromThread(Running, 50);
+    m_service.FireFromThread(Ended, 100);
+    m_process->StopProcess();
+    QCoreApplication::sendPostedEvents();
+    QThreadPool::globalInstance()->waitForDone();
+    QCoreApplication::sendPostedEvents();
+    EXPECT_THAT(m_listener->said, IsEmpty());
+    EXPECT_EQ(WorkKeyFrames().PushCount(), 0);
+}
+
+TEST_F(TestKrAutoReframeProcess, ACompletionOfAnOlderJobDoesNotReachANewerOne)
+{
+    Open(40);
+    m_service.Answer(0, FakeHost::MakeResults(40, 0.1));
+    EXPECT_EQ(m_process->StartAnalyze(9, 16, 16), 0);
+    m_service.FireFromThread(Running, 50);
+    m_service.FireFromThread(Ended, 100);
+    EXPECT_EQ(m_process->StartAnalyze(1, 1, 16), 0);
+    QCoreApplication::sendPostedEvents();
+    EXPECT_THAT(m_listener->said, IsEmpty());
+    EXPECT_EQ(WorkKeyFrames().PushCount(), 0);
+
+    m_service.Answer(0, FakeHost::MakeResults(40, 0.2));
+    m_service.FireFromThread(Ended, 100);
+    EXPECT_TRUE(WaitForFinished());
+    EXPECT_EQ(m_listener->ends, QStringList{QStringLiteral("finished true")});
+    EXPECT_DOUBLE_EQ(WorkKeyFrames().KeyFrames().first().cropRect.x(), 0.2);
+}
+
+TEST_F(TestKrAutoReframeProcess, AFailureOfAnOlderJobDoesNotReachANewerOne)
+{
+    Open(40);
+    m_service.Answer(-1, {});
+    EXPECT_EQ(m_process->StartAnalyze(9, 16, 16), 0);
+    m_service.FireFromThread(Ended, 100);
+    EXPECT_EQ(m_process->StartAnalyze(1, 1, 16), 0);
+    QCoreApplication::sendPostedEvents();
+    EXPECT_THAT(m_listener->said, IsEmpty());
+}
+
+TEST_F(TestKrAutoReframeProcess, TheKeyFrameTaskOfAnOlderJobDoesNotEndANewerOne)
+{
+    Open(40);
+    m_service.Answer(0, FakeHost::MakeResults(40, 0.1));
+    m_service.Fire(Ended, 100);
+    m_process->StopProcess();
+    QThreadPool::globalInstance()->waitForDone();
+    EXPECT_EQ(m_process->StartAnalyze(1, 1, 16), 0);
+    QCoreApplication::sendPostedEvents();
+    EXPECT_THAT(m_listener->ends, IsEmpty());
+
+    m_service.Answer(0, FakeHost::MakeResults(40, 0.2));
+    m_service.FireFromThread(Ended, 100);
+    EXPECT_TRUE(WaitForFinished());
+    EXPECT_EQ(m_listener->ends, QStringList{QStringLiteral("finished true")});
+    EXPECT_DOUBLE_EQ(WorkKeyFrames().KeyFrames().first().cropRect.x(), 0.2);
+}
+
+TEST_F(TestKrAutoReframeProcess, AKeyFrameTaskThatStillRunsIsStoppedByANewerJob)
+{
+    Open(20000);
+    FakeHost::Gate reached;
+    QObject::connect(
+        m_process->GetHelper().get(), &KrAutoReframeHelper::sigApplyProgress, m_process->GetHelper().get(),
+        [&reached] { reached.Open(); }, Qt::DirectConnection);
+    m_service.Answer(0, FakeHost::MakeResults(20000, 0.1));
+    m_service.Fire(Ended, 100);
+    reached.Wait();
+    m_listener->said.clear();
+    EXPECT_EQ(m_process->StartAnalyze(1, 1, 16), 0);
+    QCoreApplication::sendPostedEvents();
+    EXPECT_THAT(m_listener->said, IsEmpty());
+
+    m_service.Answer(0, FakeHost::MakeResults(20000, 0.2));
+    m_service.FireFromThread(Ended, 100);
+    EXPECT_TRUE(WaitForFinished());
+    EXPECT_EQ(m_listener->ends, QStringList{QStringLiteral("finished true")});
+    EXPECT_DOUBLE_EQ(WorkKeyFrames().KeyFrames().first().cropRect.x(), 0.2);
+}
+
+TEST_F(TestKrAutoReframeProcess, StoppedBeforeTheEndOfTheKeyFramesIsDeliveredTheJobIsCancelled)
+{
+    Open(40);
+    m_service.Answer(0, FakeHost::MakeResults(40));
+    m_service.Fire(Ended, 100);
+    QThreadPool::globalInstance()->waitForDone();
+    m_process->StopProcess();
     EXPECT_TRUE(WaitForFinished());
     EXPECT_EQ(m_listener->ends, QStringList{QStringLiteral("finished false")});
 }
