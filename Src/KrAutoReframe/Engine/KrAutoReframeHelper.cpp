@@ -44,6 +44,7 @@ void KrAutoReframeHelper::SetTimeline(IKxTimeline* timeline)
     m_sourceTimeline = timeline;
     m_results.clear();
     m_displayResults.clear();
+    m_isDisplayCurrent = false;
     m_segments.clear();
     m_editPoints.clear();
     m_undoStack->clear();

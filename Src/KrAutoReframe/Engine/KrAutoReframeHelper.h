@@ -1,6 +1,7 @@
 #pragma once
 
 #include <KrAutoReframe/Engine/KrEditSegment.h>
+#include <KrAutoReframe/Engine/KrKeyFrameLists.h>
 
 #include <KxModel/IKxAutoReframeResult.h>
 #include <KxModel/KxCropPanZoomKeyFrameParam.h>
@@ -87,8 +88,8 @@ public:
 
     /// The rectangles that the analysis found, one a frame.
     QList<IKxAutoReframeResult> GetResults() const;
-    /// The rectangles with the edits worked in, one a frame. Do not keep a copy: an edit then has to copy the whole
-    /// list before it writes.
+    /// The rectangles including the edits, one a frame. Do not keep a copy: the next edit would have to copy the whole
+    /// list before it writes to it.
     const QList<IKxAutoReframeResult>& GetDisplayResults() const;
 
     /// The edit of AddCropKeyFrameCommand: `rect` takes over one second of frames on both sides of `frame`, merged with
@@ -112,7 +113,7 @@ Q_SIGNALS:
     void sigCanUndoRedo(bool canUndo, bool canRedo);
 
 private:
-    using KeyFrameMap = QMap<qint64, KxCropPanZoomKeyFrameParam>;
+    using KeyFrameMap = KrKeyFrameLists::KeyFrameMap;
 
     struct AppliedResults {
         QList<IKxAutoReframeResult> results;
@@ -135,7 +136,7 @@ private:
     void RestoreEarlierResults();
     void RunKeyFrameTask(IKxCropPanZoomKeyFrameHelper* target, const QList<IKxAutoReframeResult>& results);
     bool IsTaskCanceled();
-    /// Worker's thread. Returns what to push, as the last thing for which the worker needs the helper.
+    /// Worker's thread. Returns the keyframes to push; the worker does not use the helper afterwards.
     QList<KxCropPanZoomKeyFrameParam> StoreTaskResults(const QList<IKxAutoReframeResult>& results,
                                                        KeyFrameMap* keyFrames);
 
@@ -144,10 +145,14 @@ private:
     void FillFromResults(uint from, uint to);
     void ApplyEditRange(uint from, uint to, const KrEditSegment& segment);
     void RemoveKeyFramesIn(const KrEditSegment& segment);
-    void PushKeyFrames();
+    /// Hands the keyframes to the host and shows those that have changed since the last time.
+    void FlushChanges();
     void RebuildDisplayResults();
-    void CopyResultsToDisplay();
-    void ShowSegment(const KrEditSegment& segment);
+    void UpdateDisplayResults(const KrFrameRange& changed);
+    /// The frames whose rectangle depends on a keyframe in `changed`: up to the keyframes around it.
+    KrFrameRange AffectedFrames(const KrFrameRange& changed) const;
+    /// Shows what of `segment` lies in `frames`.
+    void ShowSegment(const KrEditSegment& segment, const KrFrameRange& frames);
 
     QFutureWatcher<void>* m_watcher;
     /// Guards m_canceled and the hand-over of results and keyframes between the worker and the user-interface thread.
@@ -168,8 +173,14 @@ private:
     /// Stored by the worker while a task runs.
     QList<IKxAutoReframeResult> m_results;
     QList<IKxAutoReframeResult> m_displayResults;
-    /// By frame; the worker's alone while a task runs.
+    /// The display shows m_results with the edits. While false, the next edit rebuilds all of it.
+    bool m_isDisplayCurrent = false;
+    /// By frame; only the worker accesses it while a task runs.
     KeyFrameMap m_keyFrames;
+    /// m_keyFrames as lists for the host.
+    KrKeyFrameLists m_keyFrameLists;
+    /// Where m_keyFrames has changed since the last push.
+    KrFrameRange m_changedFrames;
     /// In ascending order of starts.
     QList<KrEditSegment> m_segments;
     QMap<uint, QRectF> m_editPoints;

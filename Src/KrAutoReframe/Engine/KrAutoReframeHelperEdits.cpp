@@ -3,6 +3,7 @@
 #include <KxModel/IKxKeyFrameHelper.h>
 
 #include <algorithm>
+#include <utility>
 
 KrAutoReframeHelper::FrameRange KrAutoReframeHelper::DoAddKeyFrame(const uint& frame, const QRectF& rect)
 {
@@ -109,10 +110,10 @@ void KrAutoReframeHelper::ApplyEditRange(uint from, uint to, const KrEditSegment
             SetKeyFrame(point, m_editPoints.value(point));
         }
     }
+    m_changedFrames.Cover(from, to);
     if (!m_suspendFlush) {
-        PushKeyFrames();
+        FlushChanges();
     }
-    RebuildDisplayResults();
 }
 
 void KrAutoReframeHelper::RemoveKeyFramesIn(const KrEditSegment& segment)
@@ -126,38 +127,55 @@ void KrAutoReframeHelper::RemoveKeyFramesIn(const KrEditSegment& segment)
     }
 }
 
-void KrAutoReframeHelper::PushKeyFrames()
+void KrAutoReframeHelper::FlushChanges()
 {
-    m_keyFrameHelper->setKeyFrames(m_keyFrames.values());
+    const KrFrameRange changed = std::exchange(m_changedFrames, KrFrameRange());
+    m_keyFrameLists.Update(m_keyFrames, changed);
+    m_keyFrameHelper->setKeyFrames(m_keyFrameLists.Current());
+    if (m_isDisplayCurrent) {
+        UpdateDisplayResults(AffectedFrames(changed));
+    } else {
+        RebuildDisplayResults();
+    }
 }
 
 void KrAutoReframeHelper::RebuildDisplayResults()
 {
-    CopyResultsToDisplay();
+    m_displayResults = m_results;
+    m_isDisplayCurrent = true;
     if (m_keyFrameHelper == nullptr) {
         return;
     }
     for (const KrEditSegment& segment : qAsConst(m_segments)) {
-        ShowSegment(segment);
+        ShowSegment(segment, {0, m_frameCount - 1});
     }
 }
 
-void KrAutoReframeHelper::CopyResultsToDisplay()
+KrFrameRange KrAutoReframeHelper::AffectedFrames(const KrFrameRange& changed) const
 {
-    const bool canAssignInPlace =
-        !m_segments.isEmpty() && m_displayResults.size() == m_results.size() && m_displayResults.isDetached();
-    if (canAssignInPlace) {
-        std::copy(m_results.cbegin(), m_results.cend(), m_displayResults.begin());
-    } else {
-        m_displayResults = m_results;
+    const auto from = m_keyFrames.lowerBound(changed.first);
+    const auto after = m_keyFrames.upperBound(changed.last);
+    return {from != m_keyFrames.constBegin() ? std::prev(from).key() + 1 : 0,
+            after != m_keyFrames.constEnd() ? after.key() - 1 : m_frameCount - 1};
+}
+
+void KrAutoReframeHelper::UpdateDisplayResults(const KrFrameRange& changed)
+{
+    for (qint64 frame = changed.first; frame <= changed.last; ++frame) {
+        const int index = static_cast<int>(frame);
+        m_displayResults[index] = m_results.at(index);
+    }
+    for (const KrEditSegment& segment : qAsConst(m_segments)) {
+        ShowSegment(segment, changed);
     }
 }
 
-void KrAutoReframeHelper::ShowSegment(const KrEditSegment& segment)
+void KrAutoReframeHelper::ShowSegment(const KrEditSegment& segment, const KrFrameRange& frames)
 {
-    const uint end = std::min(segment.End() + 1, static_cast<uint>(m_displayResults.size()));
-    auto keyFrame = qAsConst(m_keyFrames).lowerBound(segment.start);
-    for (uint frame = segment.start; frame < end; ++frame) {
+    const qint64 first = std::max<qint64>(segment.start, frames.first);
+    const qint64 last = std::min<qint64>(segment.End(), frames.last);
+    auto keyFrame = qAsConst(m_keyFrames).lowerBound(first);
+    for (qint64 frame = first; frame <= last; ++frame) {
         KxCropPanZoomKeyFrameParam shown;
         if (keyFrame != m_keyFrames.constEnd() && keyFrame.key() == frame) {
             shown = keyFrame.value();

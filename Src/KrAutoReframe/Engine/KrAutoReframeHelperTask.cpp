@@ -23,6 +23,7 @@ bool KrAutoReframeHelper::ApplyResults(const QList<IKxAutoReframeResult>& result
         m_earlier = AppliedResults{m_results, m_keyFrames};
     }
     m_isEndDue = true;
+    m_isDisplayCurrent = false;
     const QList<IKxAutoReframeResult> applied = results.mid(0, m_frameCount);
     IKxCropPanZoomKeyFrameHelper* const target = m_keyFrameHelper;
     m_watcher->setFuture(QtConcurrent::run([this, target, applied] { RunKeyFrameTask(target, applied); }));
@@ -52,8 +53,9 @@ void KrAutoReframeHelper::RestoreEarlierResults()
     m_results.swap(m_earlier->results);
     m_keyFrames.swap(m_earlier->keyFrames);
     m_earlier.reset();
+    m_keyFrameLists.Rebuild(m_keyFrames);
     if (m_keyFrameHelper != nullptr) {
-        PushKeyFrames();
+        m_keyFrameHelper->setKeyFrames(m_keyFrameLists.Current());
     }
 }
 
@@ -132,10 +134,13 @@ void KrAutoReframeHelper::RunKeyFrameTask(IKxCropPanZoomKeyFrameHelper* target,
 QList<KxCropPanZoomKeyFrameParam> KrAutoReframeHelper::StoreTaskResults(const QList<IKxAutoReframeResult>& results,
                                                                         KeyFrameMap* keyFrames)
 {
+    KrKeyFrameLists lists;
+    lists.Rebuild(*keyFrames);
     const std::unique_lock<QBasicMutex> lock(Guard(), std::try_to_lock);
     if (lock.owns_lock()) {
         m_results = results;
         m_keyFrames.swap(*keyFrames);
+        std::swap(m_keyFrameLists, lists);
     }
-    return m_keyFrames.values();
+    return m_keyFrameLists.Current();
 }
