@@ -37,6 +37,7 @@ enum class Role {
     Button,
     ButtonLine,
     PlayedTrack,
+    DropFrame,
 };
 
 /// Sets style, font and style sheet of the whole program. Once, before the first widget. From then on the control that

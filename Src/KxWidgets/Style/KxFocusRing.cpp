@@ -22,7 +22,7 @@ QRect RingedPart(const QWidget& target)
     return part.isValid() ? part : target.rect();
 }
 
-// Inside a scroll area the ring is clipped with the rest of it.
+// Inside a scroll area the ring is clipped like the rest of its content.
 QWidget* Canvas(const QWidget& target)
 {
     for (QWidget* ancestor = target.parentWidget(); ancestor != nullptr && !ancestor->isWindow();
@@ -33,6 +33,19 @@ QWidget* Canvas(const QWidget& target)
         }
     }
     return target.window();
+}
+
+/// The part of `canvas` on which the ring of `target` may be drawn. The items of a scroll area move with its content: a
+/// ring around one of them ends where the content ends.
+QRect Limits(const QWidget& target, const QWidget& canvas)
+{
+    const auto* area = qobject_cast<const QAbstractScrollArea*>(&target);
+    if (area == nullptr || !target.property("focusRingRect").isValid()) {
+        return canvas.rect();
+    }
+    constexpr int outside = GapPx + RingPx;
+    const QRect content = area->viewport()->geometry().adjusted(-outside, -outside, outside, outside) & target.rect();
+    return {target.mapTo(&canvas, content.topLeft()), content.size()};
 }
 
 } // namespace
@@ -49,6 +62,15 @@ public:
         setFocusPolicy(Qt::NoFocus);
     }
 
+    /// Draws the ring along the inside of `whole`, clipped to `limits`; both in the canvas's coordinates.
+    void Place(const QRect& whole, const QRect& limits)
+    {
+        m_whole = whole;
+        setGeometry(whole & limits);
+        update();
+    }
+    bool IsInside() const { return !size().isEmpty(); }
+
 protected:
     void paintEvent(QPaintEvent* /*event*/) override
     {
@@ -57,11 +79,13 @@ protected:
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setPen(QPen(KxUIStyle::Colour(KxUIStyle::Role::Accent), RingPx));
-        painter.drawRoundedRect(QRectF(rect()).adjusted(half, half, -half, -half), radius, radius);
+        const QRectF ring = QRectF(m_whole.translated(-pos())).adjusted(half, half, -half, -half);
+        painter.drawRoundedRect(ring, radius, radius);
     }
 
 private:
     const qreal m_radiusPx;
+    QRect m_whole;
 };
 
 void KxFocusRing::Install(QApplication& application)
@@ -156,9 +180,9 @@ void KxFocusRing::Place()
     constexpr int outside = GapPx + RingPx;
     const QRect part = RingedPart(*m_target);
     const QRect place(m_target->mapTo(canvas, part.topLeft()), part.size());
-    m_ring->setGeometry(place.adjusted(-outside, -outside, outside, outside));
+    m_ring->Place(place.adjusted(-outside, -outside, outside, outside), Limits(*m_target, *canvas));
     m_ring->raise();
-    m_ring->setVisible(m_target->isVisible());
+    m_ring->setVisible(m_target->isVisible() && m_ring->IsInside());
 }
 
 bool KxFocusRing::Needs(const QKeyEvent& event) const

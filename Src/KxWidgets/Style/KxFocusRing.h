@@ -5,17 +5,18 @@
 
 class QApplication;
 
-/// The ring around the control that has the focus, drawn over its window: only where the keyboard brought the focus
-/// there, and gone at the next press of a mouse button. A control says by its property "focusRingRect" (QRect, its own
-/// coordinates) which part of it wears the ring and by "focusRingRadius" (pixels) how round that part is.
+/// The ring around the control that has the focus, drawn over its window. It appears when the keyboard moved the focus
+/// and disappears when a mouse button is pressed. Two properties of the control change it: "focusRingRect" (QRect, the
+/// control's coordinates) is the part that the ring surrounds, and "focusRingRadius" (pixels) is the radius of that
+/// part's corners.
 ///
-/// While a control wears the ring, Space presses it and the arrows move it even where these keys are shortcuts of the
-/// window: someone who works without a mouse could otherwise not use it.
+/// While a control has the ring, Space presses it and the arrow keys move it even if the window uses these keys as
+/// shortcuts. A person without a mouse could not use the control otherwise.
 class KxFocusRing : public QObject
 {
     Q_OBJECT
 public:
-    /// Works from now on in every window of `application`, which owns it. A second call changes nothing.
+    /// Serves every window of `application`, which owns it. A second call changes nothing.
     static void Install(QApplication& application);
 
     ~KxFocusRing() override;

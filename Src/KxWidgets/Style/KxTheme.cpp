@@ -31,6 +31,7 @@ constexpr std::array Colours{
     NamedColour{Role::Edited, 0xFFFF8B55},      NamedColour{Role::Error, 0xFFFF8B7A},
     NamedColour{Role::Icon, 0xFFD3D6DB},        NamedColour{Role::Button, 0xFF2F333A},
     NamedColour{Role::ButtonLine, 0xFF444952},  NamedColour{Role::PlayedTrack, 0xFF7A818C},
+    NamedColour{Role::DropFrame, 0xFF7A818C},
 };
 
 QHash<QString, QString> Words()

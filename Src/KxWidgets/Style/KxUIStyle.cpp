@@ -3,16 +3,16 @@
 #include <KxWidgets/Style/KxAccessible.h>
 #include <KxWidgets/Style/KxFocusRing.h>
 #include <KxWidgets/Style/KxGlyph.h>
+#include <KxWidgets/Style/KxStyle.h>
 #include <KxWidgets/Style/KxTheme.h>
 
 #include <QApplication>
 #include <QStyle>
-#include <QStyleFactory>
 #include <QToolTip>
 
 void KxUIStyle::Apply(QApplication& application)
 {
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setStyle(new KxStyle);
     QApplication::setPalette(KxTheme::Palette());
     QApplication::setFont(KxTheme::Font());
     QToolTip::setFont(KxTheme::Font());

@@ -12,6 +12,9 @@
 #include <QAccessible>
 #include <QDir>
 #include <QFontMetricsF>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
 #include <QShortcut>
 #include <QSignalSpy>
 #include <QVBoxLayout>
@@ -80,6 +83,8 @@ TEST_F(KxUIStyleTest, TextsAndIconsStandOutFromTheirBackgrounds)
     EXPECT_GE(Contrast(Role::OnAccent, Role::Accent), 4.5);
     EXPECT_GE(Contrast(Role::Text, Role::Button), 4.5);
     EXPECT_GE(Contrast(Role::PlayedTrack, Role::Window), 3.0);
+    EXPECT_GE(Contrast(Role::DropFrame, Role::Window), 3.0);
+    EXPECT_GE(Contrast(Role::DropFrame, Role::Panel), 3.0);
 }
 
 TEST_F(KxUIStyleTest, EveryIconOfTheFamilyPaintsAndDimsWhenDisabled)
@@ -284,6 +289,70 @@ TEST_F(KxUIStyleTest, RingSurroundsThePartThatTheControlNames)
     EXPECT_EQ(Ring(window)->geometry(), handle().adjusted(-4, -4, 4, 4));
     slider->setValue(0.5, false);
     EXPECT_EQ(Ring(window)->geometry(), handle().adjusted(-4, -4, 4, 4));
+}
+
+TEST_F(KxUIStyleTest, RingIsNotPaintedOutsideTheScrollAreaOfItsControl)
+{
+    QWidget window;
+    auto* layout = new QVBoxLayout(&window);
+    auto* title = new QLabel(QStringLiteral("Videos"), &window);
+    title->setMinimumHeight(40);
+    auto* list = new QListWidget(&window);
+    list->setProperty("focusRingRect", QRect(20, 20, 100, 60));
+    layout->addWidget(title);
+    layout->addWidget(list);
+    window.resize(300, 300);
+    ASSERT_TRUE(Hand::ShowActive(window));
+    title->setFocus();
+    QTest::keyClick(&window, Qt::Key_Tab);
+    ASSERT_EQ(QApplication::focusWidget(), list);
+    const auto accentIn = [&](const QRect& area) {
+        const QImage picture = window.grab(area).toImage();
+        int count = 0;
+        for (int y = 0; y < picture.height(); ++y) {
+            for (int x = 0; x < picture.width(); ++x) {
+                count += picture.pixelColor(x, y) == KxUIStyle::Colour(Role::Accent) ? 1 : 0;
+            }
+        }
+        return count;
+    };
+    EXPECT_GT(accentIn(list->geometry()), 300);
+    // Scrolled: the ringed part stands half above the list, then above it altogether.
+    list->setProperty("focusRingRect", QRect(20, -30, 100, 60));
+    EXPECT_EQ(accentIn(title->geometry()), 0);
+    EXPECT_GT(accentIn(list->geometry()), 100);
+    list->setProperty("focusRingRect", QRect(20, -90, 100, 60));
+    EXPECT_EQ(accentIn(window.rect()), 0);
+    list->setProperty("focusRingRect", QRect(20, 20, 100, 60));
+    EXPECT_GT(accentIn(list->geometry()), 300);
+}
+
+TEST_F(KxUIStyleTest, TheStylesOwnFocusRectangleIsNotDrawnInsideControls)
+{
+    QWidget window;
+    auto* layout = new QVBoxLayout(&window);
+    const QList<QAbstractButton*> buttons{KxPushButton::CreatePrimaryButton(&window, 32),
+                                          KxPushButton::CreateSecondaryButton(&window, 32), new QPushButton(&window),
+                                          KxToolButton::CreateToolButton(&window, QStringLiteral("tool"))};
+    for (QAbstractButton* button : buttons) {
+        button->setText(QStringLiteral("Export"));
+        layout->addWidget(button);
+    }
+    auto* box = KxComboBox::CreateComboBox(&window);
+    box->addItem(QStringLiteral("9:16"));
+    layout->addWidget(box);
+    ASSERT_TRUE(Hand::ShowActive(window));
+    box->setFocus();
+    for (QAbstractButton* button : buttons) {
+        const QImage before = button->grab().toImage();
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        ASSERT_EQ(QApplication::focusWidget(), button);
+        EXPECT_EQ(button->grab().toImage(), before) << button->metaObject()->className();
+    }
+    const QImage before = box->grab().toImage();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    ASSERT_EQ(QApplication::focusWidget(), box);
+    EXPECT_EQ(box->grab().toImage(), before);
 }
 
 TEST_F(KxUIStyleTest, SpacePressesTheRingedButtonElseItIsTheWindows)

@@ -70,7 +70,7 @@ QSize MediaCardDelegate::sizeHint(const QStyleOptionViewItem& /*option*/, const 
 
 void MediaCardDelegate::PaintDropFrame(QPainter& painter, const QRect& frame, bool isActive)
 {
-    QPen pen(KxUIStyle::Colour(isActive ? Role::Accent : Role::FieldLine), isActive ? 2.0 : 1.0);
+    QPen pen(KxUIStyle::Colour(isActive ? Role::Accent : Role::DropFrame), isActive ? 2.0 : 1.0);
     pen.setDashPattern(isActive ? QVector<qreal>{3.0, 2.0} : QVector<qreal>{4.0, 3.0});
     painter.setPen(pen);
     painter.setBrush(Qt::NoBrush);
