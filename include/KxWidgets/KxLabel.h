@@ -4,7 +4,7 @@
 
 #include <QLabel>
 
-/// A line of text.
+/// A line of text. Text and tooltip are plain text, also where they look like markup.
 class KXWIDGETS_API KxLabel : public QLabel
 {
     Q_OBJECT
@@ -12,8 +12,8 @@ public:
     static KxLabel* CreateLabel(QWidget* parent, const QString& text);
     ~KxLabel() override;
 
-    /// How a plain text that is wider than the label is shortened; the tooltip then shows the whole. Qt::ElideNone (as
-    /// at first) shortens nothing and leaves the tooltip alone.
+    /// How a text that is wider than the label is shortened. A label without a tooltip then shows its whole text as one.
+    /// With Qt::ElideNone, the initial mode, nothing is shortened.
     void SetElideMode(Qt::TextElideMode mode);
 
     QSize minimumSizeHint() const override;

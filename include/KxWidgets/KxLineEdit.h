@@ -13,7 +13,11 @@ public:
     static KxLineEdit* creartNormalLineEdit(QWidget* parent, int heightPx);
     ~KxLineEdit() override;
 
-    /// With `on`, characters that no file name may hold are left out of whatever is typed, pasted or set.
+    /// As QLineEdit::setText, but a text longer than maxLength() is cut between two visible characters: QLineEdit cuts
+    /// through emoji and accented letters.
+    void setText(const QString& text);
+
+    /// With `on`, characters that a file name may not contain are dropped from everything that is typed, pasted or set.
     void SetFileNameValidator(bool on);
 
 private:

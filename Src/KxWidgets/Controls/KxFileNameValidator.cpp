@@ -1,5 +1,7 @@
 #include <KxWidgets/Controls/KxFileNameValidator.h>
 
+#include <KxWidgets/Controls/KxVisibleCharacters.h>
+
 namespace
 {
 
@@ -28,7 +30,7 @@ QValidator::State KxFileNameValidator::validate(QString& input, int& cursor) con
             --keptCursor;
         }
     }
-    input = kept;
+    input = KxVisibleCharacters::WithoutHalves(kept, keptCursor);
     cursor = keptCursor;
     return Acceptable;
 }

@@ -2,7 +2,8 @@
 
 #include <QValidator>
 
-/// Drops the characters that no file name may hold on any of our platforms; everything else is acceptable.
+/// Drops the characters that a file name may not contain on one of our platforms, and halves of surrogate pairs. What
+/// remains is always acceptable.
 class KxFileNameValidator : public QValidator
 {
     Q_OBJECT

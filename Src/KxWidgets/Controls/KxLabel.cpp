@@ -1,5 +1,7 @@
 #include <KxWidgets/KxLabel.h>
 
+#include <KxWidgets/KxToolTipHelper.h>
+
 #include <QEvent>
 #include <QHelpEvent>
 #include <QPainter>
@@ -10,6 +12,8 @@
 KxLabel::KxLabel(QWidget* parent)
     : QLabel(parent)
 {
+    // Most texts contain what a person named, and names may look like markup.
+    setTextFormat(Qt::PlainText);
 }
 
 KxLabel* KxLabel::CreateLabel(QWidget* parent, const QString& text)
@@ -41,8 +45,9 @@ bool KxLabel::IsElided() const
 
 bool KxLabel::event(QEvent* event)
 {
-    if (event->type() == QEvent::ToolTip && IsElided() && toolTip().isEmpty()) {
-        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), text(), this);
+    if (event->type() == QEvent::ToolTip) {
+        const QString shown = toolTip().isEmpty() && IsElided() ? text() : toolTip();
+        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), KxToolTipHelper::AsPlainText(shown), this);
         return true;
     }
     return QLabel::event(event);

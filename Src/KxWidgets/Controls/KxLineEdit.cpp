@@ -1,6 +1,7 @@
 #include <KxWidgets/KxLineEdit.h>
 
 #include <KxWidgets/Controls/KxFileNameValidator.h>
+#include <KxWidgets/Controls/KxVisibleCharacters.h>
 
 namespace
 {
@@ -23,6 +24,11 @@ KxLineEdit* KxLineEdit::creartNormalLineEdit(QWidget* parent, int heightPx)
 }
 
 KxLineEdit::~KxLineEdit() = default;
+
+void KxLineEdit::setText(const QString& text)
+{
+    QLineEdit::setText(KxVisibleCharacters::Left(text, maxLength()));
+}
 
 void KxLineEdit::SetFileNameValidator(bool on)
 {

@@ -13,16 +13,17 @@ constexpr int GapPx = 6;
 const QPoint PointerOffset(2, 16);
 constexpr int LongTextCharacters = 60;
 
-// Rich text is the one kind that QToolTip wraps.
-QString Wrapped(const QString& text)
+} // namespace
+
+QString KxToolTipHelper::AsPlainText(const QString& text)
 {
-    if (text.size() <= LongTextCharacters || Qt::mightBeRichText(text)) {
+    // QToolTip breaks lines only in rich text, and takes for rich text what looks like it.
+    if (text.size() <= LongTextCharacters && !Qt::mightBeRichText(text)) {
         return text;
     }
-    return QStringLiteral("<div>%1</div>").arg(text.toHtmlEscaped());
+    return QStringLiteral("<div>") + text.toHtmlEscaped().replace(QLatin1Char('\n'), QStringLiteral("<br>")) +
+           QStringLiteral("</div>");
 }
-
-} // namespace
 
 KxToolTipHelper::KxToolTipHelper() = default;
 
@@ -50,7 +51,7 @@ bool KxToolTipHelper::eventFilter(QObject* watched, QEvent* event)
         auto* widget = qobject_cast<QWidget*>(watched);
         if (widget != nullptr && !widget->toolTip().isEmpty()) {
             const QPoint below = widget->mapToGlobal(QPoint(0, widget->height() + GapPx));
-            QToolTip::showText(below - PointerOffset, Wrapped(widget->toolTip()), widget, {},
+            QToolTip::showText(below - PointerOffset, AsPlainText(widget->toolTip()), widget, {},
                                widget->toolTipDuration());
             return true;
         }

@@ -69,6 +69,7 @@ KxMessageBox::KxMessageBox(KrMessageType type, const Texts& texts, QWidget* pare
         auto* link =
             KxLabel::CreateLabel(content, QStringLiteral("<a href=\"%1\">%1</a>").arg(texts.link.toHtmlEscaped()));
         link->setObjectName(QStringLiteral("KxMessageBox_link"));
+        link->setTextFormat(Qt::RichText);
         link->setOpenExternalLinks(true);
         link->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
         m_texts->addWidget(link);

@@ -1,4 +1,5 @@
 #include <Tests/KxWidgets/Hand.h>
+#include <Tests/KxWidgets/ShownToolTip.h>
 
 #include <KxWidgets/KxDialogButtonBar.h>
 #include <KxWidgets/KxPushButton.h>
@@ -208,6 +209,20 @@ TEST_F(KxToolTipHelperTest, LongTextIsWrappedAndNotTakenForMarkup)
     Ask(*child);
     EXPECT_TRUE(QToolTip::text().startsWith(QStringLiteral("<div>")));
     EXPECT_TRUE(QToolTip::text().contains(QStringLiteral("&amp; b")));
+}
+
+TEST_F(KxToolTipHelperTest, MarkupInATextIsShownAsItIs)
+{
+    QWidget bar;
+    bar.installEventFilter(KxToolTipHelper::GetInstance());
+    auto* child = new QWidget(&bar);
+    bar.show();
+    const QString shortName = QStringLiteral("<b>clip</b>.mp4");
+    for (const QString& text : {shortName, shortName + QString(70, QLatin1Char('x'))}) {
+        child->setToolTip(text);
+        Ask(*child);
+        EXPECT_EQ(ShownToolTip(), text);
+    }
 }
 
 } // namespace

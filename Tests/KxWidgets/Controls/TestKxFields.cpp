@@ -1,4 +1,5 @@
 #include <Tests/KxWidgets/Hand.h>
+#include <Tests/KxWidgets/ShownToolTip.h>
 
 #include <KxWidgets/KxComboBox.h>
 #include <KxWidgets/KxLabel.h>
@@ -7,7 +8,9 @@
 
 #include <QClipboard>
 #include <QFontMetrics>
+#include <QHelpEvent>
 #include <QSignalSpy>
+#include <QValidator>
 
 #include <gtest/gtest.h>
 
@@ -52,6 +55,51 @@ TEST(KxLineEditTest, PasteKeepsTheGoodCharactersAndTheCursor)
     edit->insert(QStringLiteral("b?/c"));
     EXPECT_EQ(edit->text(), QStringLiteral("AbcD"));
     EXPECT_EQ(edit->cursorPosition(), 3);
+}
+
+TEST(KxLineEditTest, CursorMovesBackOnlyForCharactersDroppedBeforeIt)
+{
+    const auto edit = MakeLineEdit();
+    edit->SetFileNameValidator(true);
+    // "a:b": the cursor stands behind the characters of its number.
+    for (const auto& [before, after] : {std::pair(0, 0), std::pair(1, 1), std::pair(2, 1), std::pair(3, 2)}) {
+        QString text = QStringLiteral("a:b");
+        int cursor = before;
+        EXPECT_EQ(edit->validator()->validate(text, cursor), QValidator::Acceptable);
+        EXPECT_EQ(text, QStringLiteral("ab"));
+        EXPECT_EQ(cursor, after) << "from " << before;
+    }
+}
+
+TEST(KxLineEditTest, LengthLimitCutsThroughNoVisibleCharacter)
+{
+    const QString emoji = QString::fromUtf8("\xF0\x9F\x98\x80");
+    const QString family =
+        QString::fromUtf8("\xF0\x9F\x91\xA8\xE2\x80\x8D\xF0\x9F\x91\xA9\xE2\x80\x8D\xF0\x9F\x91\xA7");
+    const QString accented = QString::fromUtf8("e\xCC\x81");
+    const auto edit = MakeLineEdit();
+    edit->SetFileNameValidator(true);
+    edit->setMaxLength(42);
+    for (const QString& character : {emoji, family, accented}) {
+        const QString before(43 - character.size(), QLatin1Char('a'));
+        edit->setText(before + character + QStringLiteral(" and more"));
+        EXPECT_EQ(edit->text(), before);
+        edit->setText(before.mid(1) + character + QStringLiteral(" and more"));
+        EXPECT_EQ(edit->text(), before.mid(1) + character);
+    }
+}
+
+TEST(KxLineEditTest, HalfACharacterThatIsPastedAtTheLimitIsDropped)
+{
+    const auto edit = MakeLineEdit();
+    edit->SetFileNameValidator(true);
+    edit->setMaxLength(3);
+    edit->setText(QStringLiteral("ab"));
+    edit->insert(QString::fromUtf8("\xF0\x9F\x98\x80"));
+    EXPECT_EQ(edit->text(), QStringLiteral("ab"));
+    edit->setMaxLength(4);
+    edit->insert(QString::fromUtf8("\xF0\x9F\x98\x80"));
+    EXPECT_EQ(edit->text(), QString::fromUtf8("ab\xF0\x9F\x98\x80"));
 }
 
 TEST(KxLineEditTest, ValidatorCanBeTakenOffAgain)
@@ -116,6 +164,20 @@ TEST(KxLabelTest, ElidedLabelPaintsTheShortenedText)
         KxLabel::CreateLabel(nullptr, StringOperation::GetElidedString(text, elided->font(), 120, Qt::ElideRight)));
     plain->resize(120, 20);
     EXPECT_EQ(elided->grab().toImage(), plain->grab().toImage());
+}
+
+TEST(KxLabelTest, MarkupInATextIsShownAsItIs)
+{
+    const QString name = QStringLiteral("<b>holiday</b><br>.mp4");
+    const auto label = std::unique_ptr<KxLabel>(KxLabel::CreateLabel(nullptr, name));
+    EXPECT_GE(label->sizeHint().width(), label->fontMetrics().horizontalAdvance(name));
+    label->SetElideMode(Qt::ElideRight);
+    label->resize(20, 20);
+    label->show();
+    QHelpEvent event(QEvent::ToolTip, QPoint(1, 1), label->mapToGlobal(QPoint(1, 1)));
+    QApplication::sendEvent(label.get(), &event);
+    EXPECT_EQ(ShownToolTip(), name);
+    QToolTip::hideText();
 }
 
 } // namespace
