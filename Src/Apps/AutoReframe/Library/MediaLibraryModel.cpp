@@ -3,6 +3,8 @@
 #include <Apps/AutoReframe/Library/MediaText.h>
 #include <KxCore/KxFrameTime.h>
 
+#include <KxWidgets/KxToolTipHelper.h>
+
 #include <QDir>
 #include <QFileInfo>
 
@@ -137,7 +139,7 @@ QVariant MediaLibraryModel::EntryData(const Entry& entry, int role) const
     case Qt::DisplayRole:
         return QFileInfo(entry.path).fileName();
     case Qt::ToolTipRole:
-        return QDir::toNativeSeparators(entry.path);
+        return KxToolTipHelper::AsPlainText(QDir::toNativeSeparators(entry.path));
     case Qt::AccessibleDescriptionRole:
     case DetailsRole:
         return entry.media ? MediaText::Details(entry.media->resolution, entry.media->frameRate) : tr("Opening…");
