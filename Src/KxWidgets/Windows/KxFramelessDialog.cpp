@@ -50,7 +50,9 @@ KxFramelessDialog::KxFramelessDialog(const QString& title, QWidget* parent, bool
     if (parent != nullptr) {
         parent->window()->installEventFilter(this);
     }
-    new KxWindowManagerCare(*this);
+    if (KxWindowManagerCare::IsNeededOn(QGuiApplication::platformName())) {
+        new KxWindowManagerCare(*this);
+    }
     SetTitleName(title, false);
 }
 

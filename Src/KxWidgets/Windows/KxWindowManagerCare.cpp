@@ -8,7 +8,7 @@
 namespace
 {
 
-constexpr int SettledMs = 5000;
+constexpr int SettlingMs = 5000;
 
 QWidget* WindowUnder(const QWidget& dialog)
 {
@@ -17,11 +17,16 @@ QWidget* WindowUnder(const QWidget& dialog)
 
 } // namespace
 
+bool KxWindowManagerCare::IsNeededOn(const QString& platform)
+{
+    return platform == QLatin1String("xcb");
+}
+
 KxWindowManagerCare::KxWindowManagerCare(QWidget& dialog)
     : QObject(&dialog)
     , m_dialog(dialog)
 {
-    m_settled.setSingleShot(true);
+    m_settling.setSingleShot(true);
     dialog.installEventFilter(this);
 }
 
@@ -43,7 +48,7 @@ bool KxWindowManagerCare::eventFilter(QObject* watched, QEvent* event)
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonRelease:
     case QEvent::WindowActivate:
-        PutInOrder();
+        RestoreOrder();
         break;
     default:
         break;
@@ -53,26 +58,26 @@ bool KxWindowManagerCare::eventFilter(QObject* watched, QEvent* event)
 
 void KxWindowManagerCare::HandleShow()
 {
-    // A press that a control takes does not come to the dialog itself.
+    // A press that a control accepts does not reach the dialog itself.
     m_dialog.windowHandle()->installEventFilter(this);
-    m_place = m_dialog.pos();
-    m_settled.start(SettledMs);
+    m_position = m_dialog.pos();
+    m_settling.start(SettlingMs);
 }
 
 void KxWindowManagerCare::HandleMove()
 {
-    if (!m_settled.isActive()) {
+    if (!m_settling.isActive()) {
         return;
     }
     if (!m_dialog.pos().isNull()) {
-        m_place = m_dialog.pos();
-    } else if (!m_place.isNull()) {
-        m_settled.stop();
-        QTimer::singleShot(0, &m_dialog, [this] { m_dialog.move(m_place); });
+        m_position = m_dialog.pos();
+    } else if (!m_position.isNull()) {
+        m_settling.stop();
+        QTimer::singleShot(0, &m_dialog, [this] { m_dialog.move(m_position); });
     }
 }
 
-void KxWindowManagerCare::PutInOrder()
+void KxWindowManagerCare::RestoreOrder()
 {
     QList<QWidget*> fromBelow;
     for (QWidget* window = &m_dialog; window != nullptr; window = WindowUnder(*window)) {

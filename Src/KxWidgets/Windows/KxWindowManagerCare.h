@@ -1,21 +1,26 @@
 #pragma once
 
+#include <KxCore/KxExport.h>
+
 #include <QObject>
 #include <QPoint>
 #include <QTimer>
 
 class QWidget;
 
-/// Makes good what window managers do to a dialog under X11.
+/// Corrects what window managers under X11 do to a dialog.
 ///
-/// Place: a manager first makes a frame in the corner of the screen and then places it. When Qt asks in between, it
-/// holds the corner for the dialog's place from then on, and whatever is laid over the dialog by its place lands
-/// elsewhere. Order: some managers raise a dialog over its own tool windows when it is clicked, and so hide what lies
-/// over it.
-class KxWindowManagerCare : public QObject
+/// Position: a manager first creates a frame in the corner of the screen and then places it. If Qt reads the position
+/// in between, it keeps reporting the corner, and windows that are placed over the dialog appear elsewhere. Order: some
+/// managers raise a dialog above its own tool windows when it is clicked, which hides them.
+class KXWIDGETS_API KxWindowManagerCare : public QObject
 {
     Q_OBJECT
 public:
+    /// Whether the windows of this platform (QGuiApplication::platformName()) are managed under X11. Elsewhere the
+    /// corrections would do harm: raising windows at each click, moving a dialog out of the corner where it was put.
+    static bool IsNeededOn(const QString& platform);
+
     /// Owned by `dialog`.
     explicit KxWindowManagerCare(QWidget& dialog);
     ~KxWindowManagerCare() override;
@@ -24,16 +29,16 @@ public:
 
 private:
     void HandleShow();
-    /// Keeps the last place that is none of the manager's corner, and takes it up again after the corner.
+    /// Remembers the last position outside the corner, and restores it after a move into the corner.
     void HandleMove();
-    /// The tool windows of each dialog, then the dialogs over it: a dialog over another one brings that one up with
-    /// itself, yet stays above its tool windows.
-    void PutInOrder();
-    /// Whether there are any.
+    /// Raises the tool windows of each dialog, then the dialogs above it: a dialog raises the dialog below it together
+    /// with itself, but stays above the tool windows of that one.
+    void RestoreOrder();
+    /// Returns whether there are any.
     static bool RaiseToolWindows(const QWidget& owner);
 
     QWidget& m_dialog;
-    QPoint m_place;
-    /// Runs from when the dialog was shown until a dialog in the corner was put there by the person.
-    QTimer m_settled;
+    QPoint m_position;
+    /// Runs after the dialog was shown. Later, a dialog is in the corner because the person moved it there.
+    QTimer m_settling;
 };

@@ -1,3 +1,4 @@
+#include <KxWidgets/Windows/KxWindowManagerCare.h>
 #include <Tests/KxWidgets/Hand.h>
 
 #include <KxWidgets/KxFramelessDialog.h>
@@ -36,6 +37,9 @@ protected:
         overlay.setAttribute(Qt::WA_ShowWithoutActivating);
         box.setObjectName(QStringLiteral("box"));
         boxOverBox.setObjectName(QStringLiteral("boxOverBox"));
+        for (KxFramelessDialog* window : {&dialog, &box, &boxOverBox}) {
+            new KxWindowManagerCare(*window);
+        }
         dialog.SetContentWidget(content);
         dialog.resize(400, 300);
     }
@@ -61,7 +65,18 @@ protected:
     KxFramelessDialog boxOverBox{QStringLiteral("Box"), &box, true, true};
 };
 
-TEST_F(KxWindowManagerCareTest, TheCornerThatAManagerBeginsInIsNoPlace)
+TEST(KxWindowManagerCarePlatformTest, OnlyDialogsUnderX11AreCorrected)
+{
+    EXPECT_TRUE(KxWindowManagerCare::IsNeededOn(QStringLiteral("xcb")));
+    for (const char* platform : {"windows", "wayland", "cocoa", "offscreen"}) {
+        EXPECT_FALSE(KxWindowManagerCare::IsNeededOn(QString::fromLatin1(platform)));
+    }
+    const KxFramelessDialog dialog(QStringLiteral("Dialog"), nullptr, false, true);
+    const bool isCorrected = dialog.findChild<KxWindowManagerCare*>() != nullptr;
+    EXPECT_EQ(isCorrected, QGuiApplication::platformName() == QStringLiteral("xcb"));
+}
+
+TEST_F(KxWindowManagerCareTest, ADialogInTheCornerIsMovedBackToItsPosition)
 {
     Show(dialog);
     const QPoint place = dialog.pos();
@@ -71,7 +86,7 @@ TEST_F(KxWindowManagerCareTest, TheCornerThatAManagerBeginsInIsNoPlace)
     EXPECT_EQ(dialog.pos(), place);
 }
 
-TEST_F(KxWindowManagerCareTest, NorIsItBeforeAnythingElseCouldHappen)
+TEST_F(KxWindowManagerCareTest, ADialogInTheCornerIsMovedBackBeforeItIsActive)
 {
     dialog.show();
     const QPoint place = dialog.pos();
@@ -81,7 +96,7 @@ TEST_F(KxWindowManagerCareTest, NorIsItBeforeAnythingElseCouldHappen)
     EXPECT_EQ(dialog.pos(), place);
 }
 
-TEST_F(KxWindowManagerCareTest, AnyOtherPlaceStays)
+TEST_F(KxWindowManagerCareTest, EveryOtherPositionIsKept)
 {
     Show(dialog);
     dialog.move(20, 0);
@@ -89,7 +104,7 @@ TEST_F(KxWindowManagerCareTest, AnyOtherPlaceStays)
     EXPECT_EQ(dialog.pos(), QPoint(20, 0));
 }
 
-TEST_F(KxWindowManagerCareTest, APressOnAControlBringsTheOverlayUp)
+TEST_F(KxWindowManagerCareTest, APressOnAControlRaisesTheOverlay)
 {
     Show(dialog);
     overlay.show();
@@ -98,7 +113,7 @@ TEST_F(KxWindowManagerCareTest, APressOnAControlBringsTheOverlayUp)
     EXPECT_EQ(RaisedByPressOn(dialog), QStringList());
 }
 
-TEST_F(KxWindowManagerCareTest, ABoxStaysOverTheOverlay)
+TEST_F(KxWindowManagerCareTest, ABoxStaysAboveTheOverlay)
 {
     Show(dialog);
     overlay.show();
@@ -106,7 +121,7 @@ TEST_F(KxWindowManagerCareTest, ABoxStaysOverTheOverlay)
     EXPECT_EQ(RaisedByPressOn(box), QStringList({QStringLiteral("overlay"), QStringLiteral("box")}));
 }
 
-TEST_F(KxWindowManagerCareTest, ABoxOverABoxStaysOverBoth)
+TEST_F(KxWindowManagerCareTest, ABoxAboveABoxStaysAboveBoth)
 {
     Show(dialog);
     overlay.show();
