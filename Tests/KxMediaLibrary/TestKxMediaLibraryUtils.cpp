@@ -4,6 +4,7 @@
 #include <KxMediaLibrary/KxMediaLibraryUtils.h>
 
 #include <QDir>
+#include <QFile>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -75,4 +76,44 @@ TEST(KxMediaLibraryUtils, WhatTheFilterOffersCanBeRead)
         ASSERT_TRUE(facts) << facts.Message().toStdString();
         EXPECT_TRUE(facts->video.has_value());
     }
+}
+
+TEST(KxMediaLibraryUtils, OnlyAFileWithMovingPicturesPassesTheCheck)
+{
+    const QTemporaryDir folder;
+    const QString video = folder.filePath(QStringLiteral("video.mp4"));
+    MadeVideo::Recipe recipe;
+    recipe.frames = 10;
+    ASSERT_TRUE(MadeVideo::Make(video, recipe));
+    EXPECT_EQ(KxMediaLibraryUtils::CheckVideoFile(video), std::nullopt);
+
+    const QString damaged = folder.filePath(QStringLiteral("damaged.mp4"));
+    QFile file(damaged);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(QByteArray(4096, 'x'));
+    file.close();
+    const std::optional<QString> unreadable = KxMediaLibraryUtils::CheckVideoFile(damaged);
+    ASSERT_TRUE(unreadable);
+    EXPECT_TRUE(unreadable->contains(QStringLiteral("damaged.mp4"))) << unreadable->toStdString();
+
+    const QString sound = folder.filePath(QStringLiteral("sound.wav"));
+    QFile wave(sound);
+    ASSERT_TRUE(wave.open(QIODevice::WriteOnly));
+    QByteArray header = QByteArray::fromHex("52494646"
+                                            "a43e0000"
+                                            "57415645"
+                                            "666d7420"
+                                            "10000000"
+                                            "0100"
+                                            "0100"
+                                            "401f0000"
+                                            "803e0000"
+                                            "0200"
+                                            "1000"
+                                            "64617461"
+                                            "803e0000");
+    wave.write(header + QByteArray(16000, '\0'));
+    wave.close();
+    EXPECT_EQ(KxMediaLibraryUtils::CheckVideoFile(sound),
+              QStringLiteral("Cannot open sound.wav: it has no moving picture."));
 }

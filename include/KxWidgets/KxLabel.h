@@ -12,8 +12,8 @@ public:
     static KxLabel* CreateLabel(QWidget* parent, const QString& text);
     ~KxLabel() override;
 
-    /// How a text that is wider than the label is shortened. A label without a tooltip then shows its whole text as one.
-    /// With Qt::ElideNone, the initial mode, nothing is shortened.
+    /// How a text that is wider than the label is shortened. A label without a tooltip then shows its whole text as
+    /// one. With Qt::ElideNone, the initial mode, nothing is shortened.
     void SetElideMode(Qt::TextElideMode mode);
 
     QSize minimumSizeHint() const override;

@@ -1,9 +1,9 @@
 #include <KxWidgets/Windows/KxFileBox.h>
 
-#include <KxWidgets/KxUIStyle.h>
-
+#include <KxWidgets/KrMessageDialog.h>
 #include <KxWidgets/KxDialogButtonBar.h>
 #include <KxWidgets/KxTopLevelWindowTitleBar.h>
+#include <KxWidgets/KxUIStyle.h>
 
 #include <QDialogButtonBox>
 #include <QDir>
@@ -55,23 +55,56 @@ QIcon KxFileIcons::icon(const QFileInfo& info) const
     return icon(info.isDir() ? Folder : File);
 }
 
+/// Refuses what does not pass the check, and stays open then.
+class KxFileBox::Chooser : public QFileDialog
+{
+public:
+    Chooser(QWidget* parent, const QString& caption, const QString& folder)
+        : QFileDialog(parent, caption, folder)
+    {
+    }
+
+    KxFileDialog::FileCheck check;
+
+protected:
+    void done(int result) override
+    {
+        if (result != QDialog::Accepted || PassesCheck()) {
+            QFileDialog::done(result);
+        }
+    }
+
+private:
+    bool PassesCheck()
+    {
+        const QStringList files = check ? selectedFiles() : QStringList();
+        for (const QString& file : files) {
+            if (const std::optional<QString> refusal = check(file)) {
+                KrMessageDialog::Infomation(*refusal, window(), KrStandardButton::Ok, {}, {}, {}, false);
+                return false;
+            }
+        }
+        return true;
+    }
+};
+
 KxFileBox::KxFileBox(Picks picks, const QString& caption, const QString& folder, QWidget* parent)
     : KxFramelessDialog(caption, parent, false, true)
-    , m_chooser(new QFileDialog(this, caption, folder))
+    , m_chooser(new Chooser(this, caption, folder))
 {
     setObjectName(QStringLiteral("KxFileDialog"));
     GetTitleBar()->SetButtons(KxTopLevelWindowTitleBar::MaximizeButton | KxTopLevelWindowTitleBar::CloseButton);
     SetTitleName(caption, true);
     SetBottomBarVisible(false);
-    // The options come first: a chooser that is already a child window has made up its mind.
+    // The options come first: they have no effect on a chooser that is already a child widget.
     m_chooser->setOption(QFileDialog::DontUseNativeDialog);
     m_chooser->setOption(QFileDialog::ShowDirsOnly, picks == Picks::Folder);
     m_chooser->setFileMode(picks == Picks::Folder ? QFileDialog::Directory : QFileDialog::ExistingFiles);
     m_chooser->setIconProvider(&m_icons);
     m_chooser->setWindowFlags(Qt::Widget);
     m_chooser->setSizeGripEnabled(false);
-    DressButtons();
-    DressLists();
+    StyleButtons();
+    StyleLists();
     SetContentWidget(m_chooser);
     connect(m_chooser, &QDialog::finished, this, &QDialog::done);
     resize(WidthPx, HeightPx);
@@ -79,7 +112,7 @@ KxFileBox::KxFileBox(Picks picks, const QString& caption, const QString& folder,
 
 KxFileBox::~KxFileBox()
 {
-    // It uses the icons to its last breath, and they are a member.
+    // The chooser uses the icons, a member of this class, until it is destroyed.
     delete m_chooser;
 }
 
@@ -88,12 +121,17 @@ void KxFileBox::SetFilter(const QString& filter)
     m_chooser->setNameFilter(filter);
 }
 
+void KxFileBox::SetFileCheck(KxFileDialog::FileCheck check)
+{
+    m_chooser->check = std::move(check);
+}
+
 QStringList KxFileBox::Chosen() const
 {
     return result() == QDialog::Accepted ? m_chooser->selectedFiles() : QStringList();
 }
 
-void KxFileBox::DressLists()
+void KxFileBox::StyleLists()
 {
     if (m_chooser->layout() != nullptr) {
         m_chooser->layout()->setContentsMargins(MarginPx, MarginPx, MarginPx, MarginPx);
@@ -120,7 +158,7 @@ void KxFileBox::DressLists()
     m_chooser->setSidebarUrls(places);
 }
 
-void KxFileBox::DressButtons()
+void KxFileBox::StyleButtons()
 {
     const QMap<QString, QString> icons{
         {QStringLiteral("backButton"), QStringLiteral("chevron-left")},

@@ -1,12 +1,11 @@
 #pragma once
 
+#include <KxWidgets/KxFileDialog.h>
 #include <KxWidgets/KxFramelessDialog.h>
 
 #include <QFileIconProvider>
 
-class QFileDialog;
-
-/// Icons of the style's family for files and folders.
+/// The style's icons for files and folders.
 class KxFileIcons : public QFileIconProvider
 {
 public:
@@ -27,14 +26,19 @@ public:
     KxFileBox(Picks picks, const QString& caption, const QString& folder, QWidget* parent);
     ~KxFileBox() override;
 
-    /// As KxFileFilter::ToQt() gives it.
+    /// In the form that KxFileFilter::ToQt() returns.
     void SetFilter(const QString& filter);
+    /// Without a check every file is accepted.
+    void SetFileCheck(KxFileDialog::FileCheck check);
+    /// Empty unless the person accepted a choice.
     QStringList Chosen() const;
 
 private:
-    void DressButtons();
-    void DressLists();
+    class Chooser;
+
+    void StyleButtons();
+    void StyleLists();
 
     KxFileIcons m_icons;
-    QFileDialog* m_chooser = nullptr;
+    Chooser* m_chooser = nullptr;
 };

@@ -2,9 +2,7 @@
 
 #include <KxWidgets/Windows/KxFileBox.h>
 #include <KxWidgets/Windows/KxFileFilter.h>
-
-#include <QDir>
-#include <QFileInfo>
+#include <KxWidgets/Windows/KxNearestFolder.h>
 
 namespace
 {
@@ -15,17 +13,28 @@ KxFileDialog::Responder& CurrentResponder()
     return responder;
 }
 
-// A folder that is not there would leave the chooser somewhere else, with the folder's name for a file's.
-QString NearestFolder(const QString& folder)
+KxFileDialog::FileCheck& CurrentCheck()
 {
-    if (QDir::isRelativePath(folder)) {
-        return QDir::homePath();
+    static KxFileDialog::FileCheck check;
+    return check;
+}
+
+// QFileDialog opens another folder in place of a missing one and takes the missing folder's name for that of a file.
+QString FolderToOpen(const QString& folder)
+{
+    return KxNearestFolder::To(folder, &KxNearestFolder::IsFolder);
+}
+
+QStringList ChooseFiles(QWidget* parent, const KxFileDialog::Shown& request, const KxFileDialog::FileCheck& check)
+{
+    if (CurrentResponder()) {
+        return CurrentResponder()(request);
     }
-    QFileInfo nearest(folder);
-    while (!nearest.isDir() && !nearest.isRoot()) {
-        nearest.setFile(nearest.path());
-    }
-    return nearest.filePath();
+    KxFileBox box(KxFileBox::Picks::Files, request.caption, FolderToOpen(request.folder), parent);
+    box.SetFilter(KxFileFilter::ToQt(request.filter));
+    box.SetFileCheck(check);
+    box.DoModal();
+    return box.Chosen();
 }
 
 } // namespace
@@ -33,13 +42,18 @@ QString NearestFolder(const QString& folder)
 QStringList KxFileDialog::getOpenFileNames(QWidget* parent, const QString& caption, const QString& folder,
                                            const QString& filter)
 {
-    if (CurrentResponder()) {
-        return CurrentResponder()({false, caption, folder, filter});
-    }
-    KxFileBox box(KxFileBox::Picks::Files, caption, NearestFolder(folder), parent);
-    box.SetFilter(KxFileFilter::ToQt(filter));
-    box.DoModal();
-    return box.Chosen();
+    return ChooseFiles(parent, {false, caption, folder, filter}, CurrentCheck());
+}
+
+QStringList KxFileDialog::GetOpenFileNamesUnchecked(QWidget* parent, const QString& caption, const QString& folder,
+                                                    const QString& filter)
+{
+    return ChooseFiles(parent, {false, caption, folder, filter}, {});
+}
+
+void KxFileDialog::SetFileCheck(FileCheck check)
+{
+    CurrentCheck() = std::move(check);
 }
 
 QString KxFileDialog::getExistingDirectory(QWidget* parent, const QString& caption, const QString& folder)
@@ -47,7 +61,7 @@ QString KxFileDialog::getExistingDirectory(QWidget* parent, const QString& capti
     if (CurrentResponder()) {
         return CurrentResponder()({true, caption, folder, QString()}).value(0);
     }
-    KxFileBox box(KxFileBox::Picks::Folder, caption, NearestFolder(folder), parent);
+    KxFileBox box(KxFileBox::Picks::Folder, caption, FolderToOpen(folder), parent);
     box.DoModal();
     return box.Chosen().value(0);
 }

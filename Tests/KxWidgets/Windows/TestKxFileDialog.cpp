@@ -1,6 +1,8 @@
 #include <KxWidgets/Windows/KxFileFilter.h>
+#include <KxWidgets/Windows/KxNearestFolder.h>
 #include <Tests/KxWidgets/Hand.h>
 
+#include <KxWidgets/KrMessageDialog.h>
 #include <KxWidgets/KxFileDialog.h>
 #include <KxWidgets/KxOpenFileLineEdit.h>
 
@@ -21,7 +23,12 @@ namespace
 class KxFileDialogTest : public testing::Test
 {
 protected:
-    ~KxFileDialogTest() override { KxFileDialog::SetResponder({}); }
+    ~KxFileDialogTest() override
+    {
+        KxFileDialog::SetResponder({});
+        KxFileDialog::SetFileCheck({});
+        KrMessageDialog::SetResponder({});
+    }
 };
 
 TEST(KxFileFilterTest, GroupBecomesQts)
@@ -107,6 +114,83 @@ TEST_F(KxFileDialogTest, ShownChooserGivesTheFileOrNothing)
     EXPECT_EQ(choose(true), QStringList{file.fileName()});
     EXPECT_TRUE(choose(false).isEmpty());
     EXPECT_EQ(shown, 2);
+}
+
+TEST_F(KxFileDialogTest, AFileThatTheHostRefusesIsReportedAndTheChooserStaysOpen)
+{
+    QTemporaryDir folder;
+    for (const QString& name : {QStringLiteral("sound.mp4"), QStringLiteral("video.mp4")}) {
+        QFile file(folder.filePath(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    }
+    const QString reason = QStringLiteral("Cannot open sound.mp4: it has no moving picture.");
+    KxFileDialog::SetFileCheck([&](const QString& path) -> std::optional<QString> {
+        return path.endsWith(QStringLiteral("sound.mp4")) ? std::optional<QString>(reason) : std::nullopt;
+    });
+    QStringList reported;
+    KrMessageDialog::SetResponder([&](const KrMessageDialog::Shown& shown) {
+        reported += shown.text;
+        EXPECT_NE(shown.parent, nullptr);
+        return true;
+    });
+    bool stayedOpen = false;
+    QTimer::singleShot(0, qApp, [&] {
+        auto* box = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        auto* chooser = box->findChild<QFileDialog*>();
+        const auto accept = [&](const QString& name) {
+            chooser->selectFile(folder.filePath(name));
+            QMetaObject::invokeMethod(chooser, "accept");
+        };
+        accept(QStringLiteral("sound.mp4"));
+        stayedOpen = box->isVisible() && chooser->isVisible();
+        if (stayedOpen) {
+            accept(QStringLiteral("video.mp4"));
+        }
+        if (box->isVisible()) {
+            box->reject();
+        }
+    });
+    const QStringList chosen =
+        KxFileDialog::getOpenFileNames(nullptr, QStringLiteral("Open"), folder.path(), QStringLiteral("All(*.mp4;)"));
+    EXPECT_TRUE(stayedOpen);
+    EXPECT_EQ(reported, QStringList{reason});
+    EXPECT_EQ(chosen, QStringList{folder.filePath(QStringLiteral("video.mp4"))});
+}
+
+TEST_F(KxFileDialogTest, ARefusedFileCanBeCancelledAndAnUncheckedChoiceIsNotRefused)
+{
+    QTemporaryDir folder;
+    QFile file(folder.filePath(QStringLiteral("sound.mp4")));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.close();
+    KxFileDialog::SetFileCheck([](const QString&) { return std::optional<QString>(QStringLiteral("No.")); });
+    int reported = 0;
+    KrMessageDialog::SetResponder([&](const KrMessageDialog::Shown&) { return ++reported > 0; });
+    const auto acceptThenReject = [&] {
+        QTimer::singleShot(0, qApp, [&] {
+            auto* chooser = QApplication::activeModalWidget()->findChild<QFileDialog*>();
+            chooser->selectFile(file.fileName());
+            QMetaObject::invokeMethod(chooser, "accept");
+            if (chooser->isVisible()) {
+                QMetaObject::invokeMethod(chooser, "reject");
+            }
+        });
+    };
+    const QString filter = QStringLiteral("All(*.mp4;)");
+    acceptThenReject();
+    EXPECT_EQ(KxFileDialog::getOpenFileNames(nullptr, QStringLiteral("Open"), folder.path(), filter), QStringList());
+    EXPECT_EQ(reported, 1);
+    acceptThenReject();
+    EXPECT_EQ(KxFileDialog::GetOpenFileNamesUnchecked(nullptr, QStringLiteral("Import"), folder.path(), filter),
+              QStringList{file.fileName()});
+    EXPECT_EQ(reported, 1);
+}
+
+TEST(KxNearestFolderTest, ADriveThatIsGoneGivesTheHomeFolder)
+{
+    const auto isNoFolder = [](const QString&) { return false; };
+    EXPECT_EQ(KxNearestFolder::To(QStringLiteral("/gone/videos"), isNoFolder), QDir::homePath());
+    EXPECT_EQ(KxNearestFolder::To(QStringLiteral("/"), isNoFolder), QDir::homePath());
 }
 
 TEST_F(KxFileDialogTest, ShownFolderChooserGivesTheFolder)
