@@ -49,7 +49,7 @@ void MainWindow::ChooseFiles()
     }
     const QString folder =
         KxConfig::Instance().getDefaultImportDir(QStandardPaths::writableLocation(QStandardPaths::MoviesLocation));
-    const QStringList chosen = KxFileDialog::getOpenFileNames(
+    const QStringList chosen = KxFileDialog::GetOpenFileNamesUnchecked(
         this, tr("Import"), folder,
         QStringLiteral("%1(%2;)").arg(tr("All supported files"), backend->ImportPatterns()));
     if (!chosen.isEmpty()) {

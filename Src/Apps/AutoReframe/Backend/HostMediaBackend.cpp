@@ -10,6 +10,7 @@
 
 #include <KrAutoReframe/KrAutoReframeDialog.h>
 #include <KxMediaLibrary/KxMediaLibraryUtils.h>
+#include <KxWidgets/KxFileDialog.h>
 
 #include <QCoreApplication>
 
@@ -49,6 +50,7 @@ void RequestExport(IKxTimeline* timeline, const QVariant& record, const DialogCa
 HostMediaBackend::HostMediaBackend()
 {
     KxAutoReframeService::Instance().SetFaceModel(KxFaceModel::Find());
+    KxFileDialog::SetFileCheck(&KxMediaLibraryUtils::CheckVideoFile);
 }
 
 HostMediaBackend::~HostMediaBackend() = default;
