@@ -15,7 +15,7 @@ std::optional<QString> KxMediaLibraryUtils::CheckVideoFile(const QString& path)
 {
     const KxResult<KxMediaFacts> facts = KxProbeMedia(path, KxCancelToken());
     if (!facts) {
-        return facts.Sentence();
+        return facts.Message();
     }
     if (!facts->video) {
         return QCoreApplication::translate("KxMediaLibraryUtils", "Cannot open %1: it has no moving picture.")

@@ -190,7 +190,7 @@ TEST_F(KxRenderJobTest, AnExceptionOfTheOverlayIsTheReasonOfTheFailure)
         KxRenderJob job(source, SettingsFor(QSize(160, 90)), m_listener.Callbacks());
         const KxRenderResult result = m_listener.WaitForEnd();
         EXPECT_EQ(result.outcome, KxOutcome::Failed);
-        EXPECT_EQ(result.sentence, QStringLiteral("Cannot render clip.mp4: the drawing went wrong."));
+        EXPECT_EQ(result.message, QStringLiteral("Cannot render clip.mp4: the drawing went wrong."));
     }
     ExpectOneEnd();
     EXPECT_EQ(Written(), QStringList());
@@ -201,7 +201,7 @@ TEST_F(KxRenderJobTest, MemoryThatRunsOutIsTheReasonOfTheFailure)
     KxRenderSource source = MakeClip(30);
     source.overlay = [](QImage&, qint64) { throw std::bad_alloc(); };
     KxRenderJob job(source, SettingsFor(QSize(160, 90)), m_listener.Callbacks());
-    EXPECT_EQ(m_listener.WaitForEnd().sentence, QStringLiteral("Cannot render clip.mp4: memory ran out."));
+    EXPECT_EQ(m_listener.WaitForEnd().message, QStringLiteral("Cannot render clip.mp4: memory ran out."));
 }
 
 TEST_F(KxRenderJobTest, AnythingThatIsThrownEndsTheJobNotTheProgram)
@@ -212,7 +212,7 @@ TEST_F(KxRenderJobTest, AnythingThatIsThrownEndsTheJobNotTheProgram)
         KxRenderJob job(source, SettingsFor(QSize(160, 90)), m_listener.Callbacks());
         const KxRenderResult result = m_listener.WaitForEnd();
         EXPECT_EQ(result.outcome, KxOutcome::Failed);
-        EXPECT_EQ(result.sentence, QStringLiteral("Cannot render clip.mp4: an unknown error occurred."));
+        EXPECT_EQ(result.message, QStringLiteral("Cannot render clip.mp4: an unknown error occurred."));
     }
     ExpectOneEnd();
     EXPECT_EQ(Written(), QStringList());
@@ -231,7 +231,7 @@ TEST_F(KxRenderJobTest, AnExceptionOfTheProgressCallbackEndsTheJobAsFailed)
         KxRenderJob job(source, SettingsFor(QSize(160, 90)), callbacks);
         const KxRenderResult result = m_listener.WaitForEnd();
         EXPECT_EQ(result.outcome, KxOutcome::Failed);
-        EXPECT_EQ(result.sentence, QStringLiteral("Cannot render clip.mp4: nobody is there."));
+        EXPECT_EQ(result.message, QStringLiteral("Cannot render clip.mp4: nobody is there."));
     }
     ExpectOneEnd();
     EXPECT_EQ(Written(), QStringList());

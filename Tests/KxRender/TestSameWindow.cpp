@@ -140,11 +140,11 @@ std::vector<Shown> LookAtFile(const QString& path)
 {
     std::vector<Shown> shown;
     auto reader = KxVideoReader::Open(path, KxCancelToken());
-    EXPECT_TRUE(reader) << reader.Sentence().toStdString();
+    EXPECT_TRUE(reader) << reader.Message().toStdString();
     KxPictureScaler scaler;
     for (qint64 frame = 0; reader && frame < (*reader)->Facts().video->frameCount; ++frame) {
         KxVideoFrame picture;
-        EXPECT_EQ((*reader)->Read(frame, picture), KxReadStatus::Picture);
+        EXPECT_EQ((*reader)->Read(frame, picture), KxReadStatus::Delivered);
         shown.push_back(Look(scaler.Scale(picture, picture.DisplayedSize(), QImage::Format_RGB32)));
     }
     return shown;
@@ -255,7 +255,7 @@ protected:
     Timeline MakeTimeline(const std::vector<QRectF>& crops) const
     {
         auto item = KxMediaItem::Open(Path("clip.mp4"), {});
-        EXPECT_TRUE(item) << item.Sentence().toStdString();
+        EXPECT_TRUE(item) << item.Message().toStdString();
         Timeline timeline(IKxTimeline::createSimpleTimeline((*item)->clip()));
         QList<KxCropPanZoomKeyFrameParam> keyFrames;
         for (const QRectF& crop : crops) {
@@ -286,10 +286,10 @@ protected:
     {
         std::vector<Shown> shown;
         auto maker = KxPictureMaker::Open(KxPlaySource::Of(timeline), {});
-        EXPECT_TRUE(maker) << maker.Sentence().toStdString();
+        EXPECT_TRUE(maker) << maker.Message().toStdString();
         for (int frame = 0; maker && frame < (*maker)->Source()->frameCount; ++frame) {
             KxPlayerPicture picture;
-            EXPECT_EQ((*maker)->Make(frame, QSize(960, 540), picture), KxReadStatus::Picture);
+            EXPECT_EQ((*maker)->Make(frame, QSize(960, 540), picture), KxReadStatus::Delivered);
             shown.push_back(Look(picture.image));
         }
         return shown;
@@ -304,7 +304,7 @@ protected:
         settings.resolution = QSize(320, 288);
         settings.videoBitRate = 12000000;
         const KxRenderResult result = KxRenderer::Run(*source, settings, {}, {});
-        EXPECT_EQ(result.outcome, KxOutcome::Done) << result.sentence.toStdString();
+        EXPECT_EQ(result.outcome, KxOutcome::Done) << result.message.toStdString();
         return LookAtFile(result.outputPath);
     }
 

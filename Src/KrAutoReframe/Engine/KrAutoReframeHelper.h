@@ -45,8 +45,8 @@ public:
     KrAutoReframeHelper();
     ~KrAutoReframeHelper() override;
 
-    /// Prepares for a new source, which stays the host's. Edits and results of the previous one are dropped; a task whose
-    /// end was not delivered yet is stopped and reports no end. Null changes nothing.
+    /// Prepares for a new source, which stays the host's. Edits and results of the previous one are dropped; a task
+    /// whose end was not delivered yet is stopped and reports no end. Null changes nothing.
     void SetTimeline(IKxTimeline* timeline);
     IKxTimeline* GetSourceTimeline() const;
     /// The working copy that carries the keyframes; null until a source with a clip was set. Owned by the helper and

@@ -44,8 +44,8 @@ public:
     /// The parameters of the last start.
     KrAutoReframeAnalyzeParam GetParam() const;
     /// Stops the job. During the analysis no signal follows; a stopped keyframe task ends with
-    /// `sigProcessFinished(false)`. The analyzer is not marked as cancelled: no completion follows that could consume the
-    /// mark, so the next job would be reported as cancelled.
+    /// `sigProcessFinished(false)`. The analyzer is not marked as cancelled: no completion follows that could consume
+    /// the mark, so the next job would be reported as cancelled.
     void StopProcess();
     /// Makes keyframes from the analyzer's results; false when there are none or too few.
     bool ApplyResults();
@@ -54,8 +54,8 @@ Q_SIGNALS:
     /// In ten-thousandths: the analysis takes 0 to 8000, the keyframes 8000 to 10000.
     void sigProcessProgress(int progress);
     void sigProcessFinished(bool success);
-    /// Follows `sigProcessFinished`, also when the analysis succeeded but there was nothing to apply. The text is always
-    /// empty: the listener chooses the message.
+    /// Follows `sigProcessFinished`, also when the analysis succeeded but there was nothing to apply. The text is
+    /// always empty: the listener chooses the message.
     void sigProcessError(QString text);
 
 private:

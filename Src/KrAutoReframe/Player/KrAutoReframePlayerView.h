@@ -59,8 +59,8 @@ private:
     void ConnectSignals();
 
     void PauseIfPlaying();
-    /// During playback no frame counts as edited and the buttons that work on a frame are disabled: an edit could not be
-    /// aimed and the outline would flicker.
+    /// During playback no frame counts as edited and the buttons that work on a frame are disabled: an edit could not
+    /// be aimed and the outline would flicker.
     void RefreshOverlay(int frame);
     void RefreshButtons(int frame);
     void SeekTo(uint frame);
