@@ -5,6 +5,8 @@
 
 #include <KxMedia/Picture/KxPictureScaler.h>
 #include <KxMedia/Read/KxVideoScanner.h>
+#include <KxModel/KxFaceModelFiles.h>
+#include <KxSubject/KxPictureView.h>
 #include <KxSubject/KxSubjectAnalyzer.h>
 #include <KxSubject/KxSubjectOptions.h>
 
@@ -60,17 +62,18 @@ QJsonArray Track(KxVideoScanner& scanner, const QSize& aspect, const KxSubjectOp
     request.frameCount = facts.video->frameCount;
     request.aspectWidth = aspect.width();
     request.aspectHeight = aspect.height();
-    KxSubjectAnalyzer analyzer(request, options);
+    KxSubjectAnalyzer analyzer(request, KxFaceModelFiles::Read({}).models, options);
     const QSize size(analyzer.WorkingSize().width, analyzer.WorkingSize().height);
     KxPictureScaler scaler(KxPictureScaler::Detail::Coarse);
     KxVideoFrame picture;
     while (scanner.Next(picture) == KxReadStatus::Delivered) {
-        QImage image = scaler.Scale(picture, size, QImage::Format_BGR888);
-        analyzer.AddPicture(picture.Index(), cv::Mat(image.height(), image.width(), CV_8UC3, image.bits(),
-                                                     static_cast<std::size_t>(image.bytesPerLine())));
+        const QImage image = scaler.Scale(picture, size, QImage::Format_BGR888);
+        analyzer.AddPicture(
+            picture.Index(),
+            {image.constBits(), {image.width(), image.height()}, static_cast<std::size_t>(image.bytesPerLine())});
     }
     QJsonArray frames;
-    for (const KxCropRect& crop : analyzer.Finish()) {
+    for (const KxCropRect& crop : analyzer.Finish(KxCancelToken())) {
         frames.append(QJsonArray{crop.x, crop.y, crop.width, crop.height});
     }
     return frames;

@@ -19,7 +19,15 @@ KxAutoReframeService& KxAutoReframeService::Instance()
     return service;
 }
 
-KxAutoReframeService::KxAutoReframeService() = default;
+KxAutoReframeService::KxAutoReframeService()
+    : KxAutoReframeService(&KxVideoAnalysis::Open)
+{
+}
+
+KxAutoReframeService::KxAutoReframeService(Open open)
+    : m_open(std::move(open))
+{
+}
 
 KxAutoReframeService::~KxAutoReframeService()
 {
@@ -31,16 +39,14 @@ bool KxAutoReframeService::StartTask(const QString& path, const IKxAutoReframePa
     StopTask(0);
     auto task = std::make_unique<Task>();
     task->path = path;
-    QString faceModel;
-    Findings findings = Findings::Drop;
+    KxAnalysisSettings settings;
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
         task->key = ++m_lastKey;
-        faceModel = m_faceModel;
-        findings = m_findings;
+        settings = m_settings;
     }
 
-    KxResult<std::unique_ptr<KxVideoAnalysis>> analysis = KxVideoAnalysis::Open(path, param, faceModel, task->cancel);
+    KxResult<std::unique_ptr<KxAnalysis>> analysis = m_open(path, param, settings, task->cancel);
     std::unique_lock<std::mutex> lock(m_mutex);
     while (std::unique_ptr<Task> other = std::move(m_task)) {
         // Another thread started one meanwhile; the newest start wins.
@@ -54,19 +60,16 @@ bool KxAutoReframeService::StartTask(const QString& path, const IKxAutoReframePa
         m_result.message = analysis.Message();
         return false;
     }
-    if (findings == Findings::Keep) {
-        (*analysis)->WantFindings();
-    }
     task->thread =
         std::thread([this, key = task->key, path, cancel = task->cancel,
-                     work = std::shared_ptr<KxVideoAnalysis>(std::move(*analysis))] { Run(key, path, cancel, *work); });
+                     work = std::shared_ptr<KxAnalysis>(std::move(*analysis))] { Run(key, path, cancel, *work); });
     m_task = std::move(task);
     return true;
 }
 
-void KxAutoReframeService::Run(qint64 key, const QString& path, const KxCancelToken& cancel, KxVideoAnalysis& analysis)
+void KxAutoReframeService::Run(qint64 key, const QString& path, const KxCancelToken& cancel, KxAnalysis& analysis)
 {
-    KxVideoAnalysis::Result result =
+    KxAnalysis::Result result =
         analysis.Run([&](int percent) { m_observers.Notify(key, stateRunning, percent, cancel); });
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
@@ -139,13 +142,13 @@ void KxAutoReframeService::RemoveObserver(IKxAutoReframeEventObserver* observer)
 void KxAutoReframeService::SetFaceModel(const QString& path)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    m_faceModel = path;
+    m_settings.faceDetectorPath = path;
 }
 
 void KxAutoReframeService::SetFindings(Findings findings)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    m_findings = findings;
+    m_settings.wantsFindings = findings == Findings::Keep;
 }
 
 std::shared_ptr<const KxSubjectFindings> KxAutoReframeService::LastFindings() const

@@ -16,7 +16,13 @@ public:
     /// The one behind getAutoReframeService().
     static KxAutoReframeService& Instance();
 
+    /// Opens one analysis; KxVideoAnalysis::Open in the product.
+    using Open = std::function<KxResult<std::unique_ptr<KxAnalysis>>(
+        const QString& path, const IKxAutoReframeParam& param, const KxAnalysisSettings& settings,
+        const KxCancelToken& cancel)>;
+
     KxAutoReframeService();
+    explicit KxAutoReframeService(Open open);
     /// Stops what runs.
     ~KxAutoReframeService() override;
 
@@ -49,9 +55,10 @@ private:
         std::thread thread;
     };
 
-    void Run(qint64 key, const QString& path, const KxCancelToken& cancel, KxVideoAnalysis& analysis);
+    void Run(qint64 key, const QString& path, const KxCancelToken& cancel, KxAnalysis& analysis);
     void StopAndJoin(std::unique_ptr<Task> task);
 
+    const Open m_open;
     KxObserverList m_observers;
 
     mutable std::mutex m_mutex;
@@ -59,8 +66,7 @@ private:
     std::unique_ptr<Task> m_task;
     /// Threads that could not be joined because they themselves asked to stop.
     std::vector<std::thread> m_retired;
-    QString m_faceModel;
-    Findings m_findings = Findings::Drop;
+    KxAnalysisSettings m_settings;
     QString m_resultPath;
-    KxVideoAnalysis::Result m_result;
+    KxAnalysis::Result m_result;
 };

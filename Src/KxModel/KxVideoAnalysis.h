@@ -7,6 +7,7 @@
 #include <KxCore/KxResult.h>
 
 #include <QList>
+#include <QStringList>
 
 #include <functional>
 #include <memory>
@@ -14,38 +15,58 @@
 class KxVideoScanner;
 struct KxSubjectFindings;
 
-/// One analysis of one file, on the calling thread and one more: this thread decodes and shrinks pictures, the other
-/// finds the subject in them, with a short queue between the two, so that memory does not grow with the file's length.
-class KXMODEL_API KxVideoAnalysis
+/// One analysis of one file, as the service runs it.
+class KXMODEL_API KxAnalysis
 {
 public:
     struct Result {
         KxOutcome outcome = KxOutcome::Failed;
         QList<IKxAutoReframeResult> crops;                 ///< one a frame; empty unless Done
-        QString message;                                   ///< why it failed
+        QString message;                                  ///< the error message of a failure
         QStringList warnings;                              ///< what a person should know although it is Done
         std::shared_ptr<const KxSubjectFindings> findings; ///< null unless Done and wanted
     };
 
-    /// Reads the file's header. The error message names the file and the reason.
-    static KxResult<std::unique_ptr<KxVideoAnalysis>> Open(const QString& path, const IKxAutoReframeParam& param,
-                                                           const QString& faceModelPath, const KxCancelToken& cancel);
-    ~KxVideoAnalysis();
-
-    /// Before Run(): its result shall tell what was found on the way to the crops.
-    void WantFindings() { m_wantsFindings = true; }
+    virtual ~KxAnalysis();
 
     /// Blocks until the end. `onProgress` is called on this thread with 0 to 99, each number at most once. Call once.
-    Result Run(const std::function<void(int percent)>& onProgress);
+    virtual Result Run(const std::function<void(int percent)>& onProgress) = 0;
+
+protected:
+    KxAnalysis() = default;
+    KxAnalysis(const KxAnalysis&) = delete;
+    KxAnalysis& operator=(const KxAnalysis&) = delete;
+};
+
+/// What the service passes on to an analysis besides the file and the client's parameters.
+struct KxAnalysisSettings {
+    QString faceDetectorPath; ///< empty: none
+    bool wantsFindings = false;
+};
+
+/// The analysis of a video file: the calling thread decodes and shrinks pictures, another one finds the subject in them
+/// (KxPicturePipeline).
+class KXMODEL_API KxVideoAnalysis final : public KxAnalysis
+{
+public:
+    /// Beyond this number of frames (a day at 60 frames a second) a file is refused: one whose time stamps have a gap
+    /// of months would need more memory for its crops than any computer has.
+    static constexpr qint64 MostFrames = 6000000;
+
+    /// Reads the file's header. The error message of a failure names the file and the reason.
+    static KxResult<std::unique_ptr<KxAnalysis>> Open(const QString& path, const IKxAutoReframeParam& param,
+                                                      const KxAnalysisSettings& settings, const KxCancelToken& cancel);
+    ~KxVideoAnalysis() override;
+
+    Result Run(const std::function<void(int percent)>& onProgress) override;
 
 private:
-    class Pipeline;
+    class Job;
     KxVideoAnalysis(std::unique_ptr<KxVideoScanner> scanner, const IKxAutoReframeParam& param,
-                    const QString& faceModelPath, const KxCancelToken& cancel);
+                    const KxAnalysisSettings& settings, const KxCancelToken& cancel);
 
     std::unique_ptr<KxVideoScanner> m_scanner;
     IKxAutoReframeParam m_param;
-    QString m_faceModelPath;
+    KxAnalysisSettings m_settings;
     KxCancelToken m_cancel;
-    bool m_wantsFindings = false;
 };

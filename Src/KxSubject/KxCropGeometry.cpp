@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-KxCropGeometry::KxCropGeometry(cv::Size picturePx, cv::Size aspect, const KxCropRect& content)
+KxCropGeometry::KxCropGeometry(KxIntSize picturePx, KxIntSize aspect, const KxCropRect& content)
     : m_content(content)
 {
     const double widthPx = std::max(picturePx.width, 1) * content.width;

@@ -1,6 +1,9 @@
 #pragma once
 
-#include <KxSubject/KxSubjectAnalyzer.h>
+#include <KxCore/KxExport.h>
+
+#include <KxSubject/KxCropRect.h>
+#include <KxSubject/KxIntSize.h>
 
 /// The direction in which a crop of full size can move.
 enum class KxAxis { Across, UpDown };
@@ -10,7 +13,7 @@ class KXSUBJECT_API KxCropGeometry
 {
 public:
     /// `content` in fractions of the picture. Sizes and aspect below 1 count as 1.
-    KxCropGeometry(cv::Size picturePx, cv::Size aspect, const KxCropRect& content);
+    KxCropGeometry(KxIntSize picturePx, KxIntSize aspect, const KxCropRect& content);
 
     KxAxis FreeAxis() const { return m_axis; }
     /// The crop's extent along the free axis, as a fraction of the picture's.

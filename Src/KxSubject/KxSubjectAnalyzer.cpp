@@ -1,10 +1,13 @@
 #include <KxSubject/KxSubjectAnalyzer.h>
 
 #include <KxSubject/Choice/KxSubjectTracker.h>
+#include <KxSubject/KxFaceModels.h>
+#include <KxSubject/KxPictureView.h>
 #include <KxSubject/KxSubjectFindings.h>
 #include <KxSubject/Path/KxCropPath.h>
 #include <KxSubject/Shots/KxShotDetector.h>
-#include <KxSubject/Signals/KxSignalTrack.h>
+#include <KxSubject/Signals/KxOpenCvError.h>
+#include <KxSubject/Signals/KxSignalRecorder.h>
 
 #include <algorithm>
 #include <cmath>
@@ -14,6 +17,7 @@ namespace
 {
 
 constexpr double UsualFrameRate = 25.0;
+constexpr std::size_t BytesPerPixel = 3;
 
 KxSubjectRequest Checked(KxSubjectRequest request)
 {
@@ -39,12 +43,12 @@ cv::Size WorkingSizeOf(const KxSubjectRequest& request, const KxSubjectOptions::
 class KxSubjectAnalyzer::Impl
 {
 public:
-    Impl(const KxSubjectRequest& request, const KxSubjectOptions& options)
+    Impl(const KxSubjectRequest& request, const KxFaceModels& faceModels, const KxSubjectOptions& options)
         : m_request(Checked(request))
         , m_options(options)
         , m_workingSize(WorkingSizeOf(m_request, options.sampling))
         , m_shots(options.shots)
-        , m_signals(options, m_workingSize, m_request.frameRate, request.faceModelPath)
+        , m_signals(options, m_workingSize, m_request.frameRate, faceModels)
         , m_step(std::max<std::int64_t>(1, static_cast<std::int64_t>(std::floor(
                                                m_request.frameRate / options.sampling.wantedPicturesPerSecond + 0.01))))
     {
@@ -52,54 +56,58 @@ public:
         m_signals.Reserve(m_request.frameCount);
     }
 
-    cv::Size WorkingSize() const { return m_workingSize; }
-    const std::string& FaceModelProblem() const { return m_signals.Faces().Finder().ModelProblem(); }
+    KxIntSize WorkingSize() const { return {m_workingSize.width, m_workingSize.height}; }
+    bool IsFaceDetectorRefused() const { return m_signals.Faces().Finder().IsDetectorRefused(); }
     bool Wants(std::int64_t frame) const { return frame >= 0 && frame < m_request.frameCount && frame % m_step == 0; }
-    void AddPicture(std::int64_t frame, const cv::Mat& picture);
-    std::vector<KxCropRect> Finish();
+    void AddPicture(std::int64_t frame, const KxPictureView& view);
+    std::vector<KxCropRect> Finish(const KxCancelToken& cancel);
     const KxSubjectFindings& Findings() const { return m_findings; }
 
 private:
     struct Shot {
         std::int64_t first;
         std::int64_t end;
-        /// What lies outside these is blended with the shot beside it and says nothing.
+        /// Frames outside these are blended with the neighbouring shot and are no evidence.
         std::int64_t clearFirst;
         std::int64_t clearEnd;
     };
     KxCropRect ContentShare() const;
     KxCropGeometry Geometry() const;
     std::vector<Shot> Shots() const;
-    /// What all signals say together; the peaks are brought out, so that a subject outweighs what is spread wide.
-    KxSignalProfile Said(const KxSignalTrack::Evidence& evidence) const;
-    /// Of a width, in a shot seen at so many samples: where pictures are missing, a move has fewer of them to pay it.
+    /// The evidence of all signals, its peaks amplified, so that one subject outweighs what is spread wide.
+    KxSignalProfile Combined(const KxSignalRecorder::Evidence& evidence) const;
+    /// The tracker's cost of a move by one width, in a shot with so many samples: where pictures are missing, fewer
+    /// samples have to pay for a move.
     double MoveCost(const Shot& shot, std::size_t samples) const;
-    std::vector<double> CentresOf(const Shot& shot, const KxCropGeometry& geometry, const KxCentreScore& score);
-    void Note(const Shot& shot, const std::vector<KxPathPoint>& points, std::size_t firstSample, KxAxis axis,
-              const KxCentreScore& score);
+    std::vector<double> CentresOf(const Shot& shot, const KxCropGeometry& geometry, const KxCentreScore& score,
+                                  const KxCancelToken& cancel);
+    void RecordFindings(const Shot& shot, const std::vector<KxPathPoint>& points, std::size_t firstSample, KxAxis axis,
+                        const KxCentreScore& score);
 
     KxSubjectRequest m_request;
     KxSubjectOptions m_options;
     cv::Size m_workingSize;
     KxShotDetector m_shots;
-    KxSignalTrack m_signals;
-    std::int64_t m_step; ///< every so many frames one is wanted
+    KxSignalRecorder m_signals;
+    std::int64_t m_step; ///< one frame of this many is wanted
     std::int64_t m_lastFrame = -1;
     KxSubjectFindings m_findings;
 };
 
-void KxSubjectAnalyzer::Impl::AddPicture(std::int64_t frame, const cv::Mat& picture)
+void KxSubjectAnalyzer::Impl::AddPicture(std::int64_t frame, const KxPictureView& view)
 {
-    if (frame <= m_lastFrame || frame >= m_request.frameCount || picture.size() != m_workingSize ||
-        picture.type() != CV_8UC3) {
+    if (frame <= m_lastFrame || frame >= m_request.frameCount || view.data == nullptr || view.sizePx != WorkingSize() ||
+        view.bytesPerRow < BytesPerPixel * static_cast<std::size_t>(view.sizePx.width)) {
         return;
     }
     m_lastFrame = frame;
+    // OpenCV has no header of constant data; nothing here writes to it.
+    const cv::Mat picture(m_workingSize, CV_8UC3, const_cast<std::uint8_t*>(view.data), view.bytesPerRow);
     try {
         m_shots.AddPicture(frame, picture);
         m_signals.AddPicture(frame, picture);
-    } catch (const cv::Exception&) {
-        return;
+    } catch (const cv::Exception& problem) {
+        KxThrowIfOutOfMemory(problem);
     }
 }
 
@@ -129,7 +137,7 @@ std::vector<KxSubjectAnalyzer::Impl::Shot> KxSubjectAnalyzer::Impl::Shots() cons
     return shots;
 }
 
-KxSignalProfile KxSubjectAnalyzer::Impl::Said(const KxSignalTrack::Evidence& evidence) const
+KxSignalProfile KxSubjectAnalyzer::Impl::Combined(const KxSignalRecorder::Evidence& evidence) const
 {
     return evidence.Sum().Concentrated(m_options.evidence.concentration);
 }
@@ -143,7 +151,7 @@ double KxSubjectAnalyzer::Impl::MoveCost(const Shot& shot, std::size_t samples) 
 }
 
 std::vector<double> KxSubjectAnalyzer::Impl::CentresOf(const Shot& shot, const KxCropGeometry& geometry,
-                                                       const KxCentreScore& score)
+                                                       const KxCentreScore& score, const KxCancelToken& cancel)
 {
     const std::vector<KxSignalSample>& samples = m_signals.Samples();
     const auto isBefore = [](const KxSignalSample& sample, std::int64_t frame) { return sample.frame < frame; };
@@ -153,9 +161,9 @@ std::vector<double> KxSubjectAnalyzer::Impl::CentresOf(const Shot& shot, const K
     const auto end = static_cast<std::size_t>(to - samples.begin());
 
     KxSubjectTracker tracker(MoveCost(shot, end - begin) * score.Spacing());
-    for (std::size_t i = begin; i < end; ++i) {
+    for (std::size_t i = begin; i < end && !cancel.IsCancelled(); ++i) {
         const bool clear = samples[i].frame >= shot.clearFirst && samples[i].frame < shot.clearEnd;
-        tracker.Add(clear ? score.Of(Said(m_signals.EvidenceAt(i, shot.first, shot.end, geometry.FreeAxis())))
+        tracker.Add(clear ? score.Of(Combined(m_signals.EvidenceAt(i, shot.first, shot.end, geometry.FreeAxis())))
                           : KxCentreScore::Scores{});
     }
     std::vector<KxPathPoint> points;
@@ -163,35 +171,35 @@ std::vector<double> KxSubjectAnalyzer::Impl::CentresOf(const Shot& shot, const K
         points.push_back({samples[begin + points.size()].frame, score.CentreAt(position)});
     }
     if (m_request.wantsFindings) {
-        Note(shot, points, begin, geometry.FreeAxis(), score);
+        RecordFindings(shot, points, begin, geometry.FreeAxis(), score);
     }
     return KxCropPath(m_options.path, m_options.For(m_request.speed), geometry)
-        .Draw(points, shot.first, shot.end, m_request.frameRate, 0.5);
+        .Draw(points, {shot.first, shot.end, m_request.frameRate}, 0.5, cancel);
 }
 
-void KxSubjectAnalyzer::Impl::Note(const Shot& shot, const std::vector<KxPathPoint>& points, std::size_t firstSample,
-                                   KxAxis axis, const KxCentreScore& score)
+void KxSubjectAnalyzer::Impl::RecordFindings(const Shot& shot, const std::vector<KxPathPoint>& points,
+                                             std::size_t firstSample, KxAxis axis, const KxCentreScore& score)
 {
-    std::array<float, KxSignalCount> whole{};
+    std::array<float, KxSignalCount> totals{};
     for (std::size_t i = 0; i < points.size(); ++i) {
-        const KxSignalTrack::Evidence evidence = m_signals.EvidenceAt(firstSample + i, shot.first, shot.end, axis);
+        const KxSignalRecorder::Evidence evidence = m_signals.EvidenceAt(firstSample + i, shot.first, shot.end, axis);
         KxSubjectFindings::Sample sample;
         sample.frame = points[i].frame;
         sample.wanted = points[i].centre;
-        sample.evidence = KxPackedProfile(Said(evidence));
+        sample.evidence = KxPackedProfile(Combined(evidence));
         const std::array<const KxSignalProfile*, KxSignalCount> signals{&evidence.motion, &evidence.movers,
                                                                         &evidence.saliency, &evidence.faces};
         for (std::size_t signal = 0; signal < KxSignalCount; ++signal) {
-            sample.said[signal] = score.Excess(points[i].centre, *signals[signal]);
-            whole[signal] += sample.said[signal];
+            sample.scores[signal] = score.Excess(points[i].centre, *signals[signal]);
+            totals[signal] += sample.scores[signal];
         }
         m_findings.samples.push_back(sample);
     }
-    const auto carrier = std::max_element(whole.begin(), whole.end()) - whole.begin();
-    m_findings.shots.push_back({shot.first, shot.end, static_cast<KxSignal>(carrier)});
+    const auto dominant = std::max_element(totals.begin(), totals.end()) - totals.begin();
+    m_findings.shots.push_back({shot.first, shot.end, static_cast<KxSignal>(dominant)});
 }
 
-std::vector<KxCropRect> KxSubjectAnalyzer::Impl::Finish()
+std::vector<KxCropRect> KxSubjectAnalyzer::Impl::Finish(const KxCancelToken& cancel)
 {
     m_signals.Finish();
     std::vector<KxCropRect> crops;
@@ -201,26 +209,30 @@ std::vector<KxCropRect> KxSubjectAnalyzer::Impl::Finish()
     m_findings.freeAxis = geometry.FreeAxis();
     m_findings.content = ContentShare();
     for (const Shot& shot : Shots()) {
-        for (const double centre : CentresOf(shot, geometry, score)) {
+        for (const double centre : CentresOf(shot, geometry, score, cancel)) {
             crops.push_back(geometry.At(centre));
+        }
+        if (cancel.IsCancelled()) {
+            return {};
         }
     }
     return crops;
 }
 
-KxSubjectAnalyzer::KxSubjectAnalyzer(const KxSubjectRequest& request)
-    : KxSubjectAnalyzer(request, KxSubjectOptions())
+KxSubjectAnalyzer::KxSubjectAnalyzer(const KxSubjectRequest& request, const KxFaceModels& faceModels)
+    : KxSubjectAnalyzer(request, faceModels, KxSubjectOptions())
 {
 }
 
-KxSubjectAnalyzer::KxSubjectAnalyzer(const KxSubjectRequest& request, const KxSubjectOptions& options)
-    : m_impl(std::make_unique<Impl>(request, options))
+KxSubjectAnalyzer::KxSubjectAnalyzer(const KxSubjectRequest& request, const KxFaceModels& faceModels,
+                                     const KxSubjectOptions& options)
+    : m_impl(std::make_unique<Impl>(request, faceModels, options))
 {
 }
 
 KxSubjectAnalyzer::~KxSubjectAnalyzer() = default;
 
-cv::Size KxSubjectAnalyzer::WorkingSize() const
+KxIntSize KxSubjectAnalyzer::WorkingSize() const
 {
     return m_impl->WorkingSize();
 }
@@ -230,22 +242,22 @@ bool KxSubjectAnalyzer::Wants(std::int64_t frame) const
     return m_impl->Wants(frame);
 }
 
-void KxSubjectAnalyzer::AddPicture(std::int64_t frame, const cv::Mat& picture)
+void KxSubjectAnalyzer::AddPicture(std::int64_t frame, const KxPictureView& picture)
 {
     m_impl->AddPicture(frame, picture);
 }
 
-std::vector<KxCropRect> KxSubjectAnalyzer::Finish()
+std::vector<KxCropRect> KxSubjectAnalyzer::Finish(const KxCancelToken& cancel)
 {
-    return m_impl->Finish();
-}
-
-const std::string& KxSubjectAnalyzer::FaceModelProblem() const
-{
-    return m_impl->FaceModelProblem();
+    return m_impl->Finish(cancel);
 }
 
 const KxSubjectFindings& KxSubjectAnalyzer::Findings() const
 {
     return m_impl->Findings();
+}
+
+bool KxSubjectAnalyzer::IsFaceDetectorRefused() const
+{
+    return m_impl->IsFaceDetectorRefused();
 }

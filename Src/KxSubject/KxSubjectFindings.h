@@ -1,31 +1,30 @@
 #pragma once
 
 #include <KxSubject/KxCropGeometry.h>
-#include <KxSubject/Signals/KxSignalProfile.h>
+#include <KxSubject/KxSignalProfile.h>
 
 #include <array>
 #include <cstdint>
 #include <vector>
 
-/// What speaks for a place.
+/// A signal of the analysis.
 enum class KxSignal { Motion, Movers, Saliency, Faces };
 constexpr std::size_t KxSignalCount = 4;
 
-/// What an analysis found on its way to the crops, for a person who wants to see why.
+/// Intermediate results of an analysis, for a person who wants to see why a crop is where it is.
 struct KxSubjectFindings {
     struct Sample {
         std::int64_t frame = 0;
-        double wanted =
-            0.5; ///< the centre that the evidence asks for, before the path is drawn; fraction of the free axis
-        /// By KxSignal: how much more each signal says, weighed, inside a crop at the wanted centre than at all places
-        /// on average.
-        std::array<float, KxSignalCount> said{};
+        /// The centre that the evidence asks for, before the path is drawn; fraction of the free axis.
+        double wanted = 0.5;
+        /// By KxSignal: the weighted evidence inside a crop at the wanted centre, less that of an average place.
+        std::array<float, KxSignalCount> scores{};
         KxPackedProfile evidence; ///< of all signals, along the free axis
     };
     struct Shot {
         std::int64_t first = 0;
         std::int64_t end = 0;
-        KxSignal carrier = KxSignal::Saliency; ///< said most through the shot
+        KxSignal dominantSignal = KxSignal::Saliency; ///< the one with the highest score over the shot
     };
 
     KxAxis freeAxis = KxAxis::Across;

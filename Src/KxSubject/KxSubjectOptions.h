@@ -1,6 +1,8 @@
 #pragma once
 
-#include <KxSubject/KxSubjectAnalyzer.h>
+#include <KxSubject/KxMotionSpeed.h>
+
+#include <cstddef>
 
 /// Every tuning value of the analysis. The range in front of a comment is where a value makes sense. "Study" in an
 /// origin means the measurement on 30 real clips that the engine began from, "human tracks" the 2,400 crop tracks drawn
@@ -25,34 +27,34 @@ struct KxSubjectOptions {
         /// 0.1 to 0.5: of two boundaries nearer than this the stronger stays: five frames of 30; measured
         double minimumShotSeconds = 0.165;
         /// 0.5 to 0.9: a jump to a picture more alike in structure (a correlation) is one of light; measured
-        double lightLikeness = 0.7;
-        double returnRatio = 0.5;     ///< 0.2 to 0.8 of a jump: a picture is back that differs by less; measured
-        double flashLikeness = 0.2;   ///< 0 to 0.5: and that is so much alike in structure, after a flash; measured
-        double returnLikeness = 0.35; ///< 0.1 to 0.6: the same after longer; measured
-        double flashLight = 8.0;      ///< 4 to 20 of 255 above both sides: what may be a long flash; measured
+        double lightSimilarity = 0.7;
+        double returnRatio = 0.5;       ///< 0.2 to 0.8 of a jump: a picture is back that differs by less; measured
+        double flashSimilarity = 0.2;   ///< 0 to 0.5: and that is so much alike in structure, after a flash; measured
+        double returnSimilarity = 0.35; ///< 0.1 to 0.6: the same after longer; measured
+        double flashLight = 8.0;        ///< 4 to 20 of 255 above both sides: what may be a long flash; measured
 
         /// Dissolves, wipes and fades. Distances are parts of the distance of the two ends.
         struct Blends {
-            double plainContrast = 12.0;   ///< 5 to 20 of 255: a picture with a smaller deviation is plain; measured
-            double floor = 22.0;           ///< 10 to 40 of 255: ends nearer than this are one shot's; measured
-            double middleShare = 0.25;     ///< 0.1 to 0.5: the middle is at least so much of both ends; measured
-            double misfit = 0.47;          ///< 0.3 to 0.7, of the middle from the blend of the ends; measured
-            double likeness = 0.5;         ///< 0.3 to 0.8: ends more alike in structure are one shot's; measured
-            double contrastExcess = 0.15;  ///< 0.05 to 0.4 of the ends' variance, over the blend's; measured
-            double outside = 0.25;         ///< 0.1 to 0.4 of the points, outside what is between the ends'; measured
-            double back = 0.3;             ///< 0.1 to 0.5 of the way, gone back in all; measured
-            double step = 0.5;             ///< 0.3 to 0.7 of the way, gone at once: more is a cut; measured
-            double fadeMisfit = 0.25;      ///< 0.1 to 0.4, the mean of half a fade's pictures; measured
-            double fadeStep = 0.8;         ///< 0.5 to 0.9: `step` for half a fade, of two pictures maybe; measured
-            double unrestWeight = 0.15;    ///< 0 to 0.5, of the movement before and after; measured
-            double doubt = 0.53;           ///< 0.4 to 0.7, most of misfit and unrest together; measured
-            double movedLikeness = 0.85;   ///< 0.7 to 0.95: halves that are each a movement so well are one; measured
-            double returnRatio = 0.5;      ///< 0.2 to 0.8: a picture is back that is nearer than this; measured
-            std::size_t leastPictures = 4; ///< 3 to 8, from end to end; measured
+            double plainContrast = 12.0;     ///< 5 to 20 of 255: a picture with a smaller deviation is plain; measured
+            double floor = 22.0;             ///< 10 to 40 of 255: ends nearer than this are one shot's; measured
+            double middleShare = 0.25;       ///< 0.1 to 0.5: the middle is at least so much of both ends; measured
+            double misfit = 0.47;            ///< 0.3 to 0.7, of the middle from the blend of the ends; measured
+            double similarity = 0.5;         ///< 0.3 to 0.8: ends more alike in structure are one shot's; measured
+            double contrastExcess = 0.15;    ///< 0.05 to 0.4 of the ends' variance, over the blend's; measured
+            double outside = 0.25;           ///< 0.1 to 0.4 of the points, outside what is between the ends'; measured
+            double back = 0.3;               ///< 0.1 to 0.5 of the way, gone back in all; measured
+            double step = 0.5;               ///< 0.3 to 0.7 of the way, gone at once: more is a cut; measured
+            double fadeMisfit = 0.25;        ///< 0.1 to 0.4, the mean of half a fade's pictures; measured
+            double fadeStep = 0.8;           ///< 0.5 to 0.9: `step` for half a fade, of two pictures maybe; measured
+            double jitterWeight = 0.15;      ///< 0 to 0.5, of the movement (jitter) before and after; measured
+            double minimumConfidence = 0.47; ///< 0.3 to 0.6; confidence is 1 less misfit and weighted jitter; measured
+            double movedSimilarity = 0.85;   ///< 0.7 to 0.95: halves that are each a movement so well are one; measured
+            double returnRatio = 0.5;        ///< 0.2 to 0.8: a picture is back that is nearer than this; measured
+            std::size_t leastPictures = 4;   ///< 3 to 8, from end to end; measured
             std::size_t wipeLeastPictures = 8; ///< 4 to 15: the same for a wipe; measured
             double wipeFloor = 45.0;           ///< 20 to 80: `floor` for a wipe; measured
             double wipeMisfit = 0.62;          ///< 0.4 to 0.8: `misfit` for a wipe; measured
-            double wipeLikeness = 0.25;        ///< 0.1 to 0.5: `likeness` for a wipe; measured
+            double wipeSimilarity = 0.25;      ///< 0.1 to 0.5: `similarity` for a wipe; measured
             double wipeOutside = 0.2;          ///< 0.1 to 0.4: `outside` for a wipe; measured
         } blends;
     } shots;
@@ -170,8 +172,10 @@ struct KxSubjectOptions {
         double accelerationWeight = 0.12; ///< 0.08 to 0.2 on the second; measured (study 0.15)
         double jerkWeight = 0.1;          ///< 0.03 to 0.2 on the third; measured (study 0.03)
         /// 0 to 5 on what exceeds the top speed, which no rule forbids: the subject may need it; chosen
-        double hasteWeight = 1.0;
-        double wallWeight = 200.0; ///< 50 to 1000 on leaving the places a crop can take; measured: 1000 does the same
+        double overspeedWeight = 1.0;
+        double boundsWeight = 200.0; ///< 50 to 1000 on leaving the places a crop can take; 1000 does the same
+        /// 10 to 120: after a longer pause in the pictures the path starts anew, as at a cut; chosen: bounds the work
+        double longestHoldSeconds = 30.0;
         int iterations = 60; ///< 40 to 100; measured: 1600 draw random walks up to 0.04 widths elsewhere, these alike
         /// 0.001 to 0.01 widths a second below which the smoothed path is made to stand exactly; chosen
         double stillSpeed = 0.004;

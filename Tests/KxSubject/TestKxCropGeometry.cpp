@@ -7,11 +7,11 @@
 namespace
 {
 
-const std::vector<cv::Size> Pictures{{1920, 1080}, {1280, 720}, {3840, 2160}, {1080, 1920}, {368, 480},
-                                     {720, 720},   {853, 479},  {1919, 801},  {401, 1203},  {4096, 64}};
-const std::vector<cv::Size> Aspects{{9, 16}, {1, 1}, {16, 9}, {4, 3}, {4, 5}, {21, 9}};
+const std::vector<KxIntSize> Pictures{{1920, 1080}, {1280, 720}, {3840, 2160}, {1080, 1920}, {368, 480},
+                                      {720, 720},   {853, 479},  {1919, 801},  {401, 1203},  {4096, 64}};
+const std::vector<KxIntSize> Aspects{{9, 16}, {1, 1}, {16, 9}, {4, 3}, {4, 5}, {21, 9}};
 
-void ExpectGood(const KxCropRect& crop, cv::Size picture, cv::Size aspect, const KxCropRect& content)
+void ExpectGood(const KxCropRect& crop, KxIntSize picture, KxIntSize aspect, const KxCropRect& content)
 {
     EXPECT_GE(crop.x, content.x - 1e-12);
     EXPECT_GE(crop.y, content.y - 1e-12);
@@ -30,8 +30,8 @@ void ExpectGood(const KxCropRect& crop, cv::Size picture, cv::Size aspect, const
 TEST(KxCropGeometry, EveryPresetOnEveryPictureIsInsideLargestAndOfTheAspect)
 {
     for (const KxCropRect& content : {KxCropRect{}, KxCropRect{0.0, 0.12, 1.0, 0.76}, KxCropRect{0.2, 0.0, 0.6, 1.0}}) {
-        for (const cv::Size& picture : Pictures) {
-            for (const cv::Size& aspect : Aspects) {
+        for (const KxIntSize& picture : Pictures) {
+            for (const KxIntSize& aspect : Aspects) {
                 const KxCropGeometry geometry(picture, aspect, content);
                 for (const double centre : {-1.0, 0.0, 0.21, 0.5, 0.83, 1.0, 7.0}) {
                     ExpectGood(geometry.At(centre), picture, aspect, content);
@@ -62,7 +62,7 @@ TEST(KxCropGeometry, TheCentreIsKeptWhereItCanBe)
 
 TEST(KxCropGeometry, SenselessNumbersStillGiveARectangle)
 {
-    for (const cv::Size& aspect : {cv::Size(0, 0), cv::Size(-3, 4), cv::Size(1, 0)}) {
+    for (const KxIntSize& aspect : {KxIntSize{0, 0}, KxIntSize{-3, 4}, KxIntSize{1, 0}}) {
         const KxCropRect crop = KxCropGeometry({0, -5}, aspect, {}).At(0.5);
         EXPECT_GT(crop.width, 0.0);
         EXPECT_GT(crop.height, 0.0);

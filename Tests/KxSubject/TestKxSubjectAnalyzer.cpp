@@ -1,7 +1,10 @@
 #include <KxSubject/KxSubjectAnalyzer.h>
 
+#include <KxSubject/KxFaceModels.h>
+#include <KxSubject/KxPictureView.h>
 #include <KxSubject/KxSubjectFindings.h>
 #include <KxSubject/KxSubjectOptions.h>
+#include <Tests/KxSubject/InstalledModels.h>
 #include <Tests/KxSubject/MadePictures.h>
 #include <Tests/KxSubject/Shots/ShotPictures.h>
 
@@ -19,7 +22,15 @@ namespace
 
 const cv::Size SceneSize(480, 240);
 
-KxSubjectRequest Request(std::int64_t frameCount, cv::Size aspect = {9, 16}, KxMotionSpeed speed = KxMotionSpeed::Auto)
+/// The pictures have no faces, and searching for them takes most of the time.
+const KxFaceModels NoFaceModels;
+
+KxPictureView ViewOf(const cv::Mat& picture)
+{
+    return {picture.data, {picture.cols, picture.rows}, picture.step[0]};
+}
+
+KxSubjectRequest Request(std::int64_t frameCount, KxIntSize aspect = {9, 16}, KxMotionSpeed speed = KxMotionSpeed::Auto)
 {
     KxSubjectRequest request;
     request.pictureWidthPx = 1280;
@@ -49,27 +60,17 @@ cv::Mat Picture(double centre, double camera, std::uint64_t seed = 21)
 
 using Scene = std::function<cv::Mat(std::int64_t frame)>;
 
-/// Looking for faces takes most of the time, and the pictures have none.
-KxSubjectOptions WithoutFaces()
-{
-    KxSubjectOptions options;
-    options.faces.frontalPeriodSeconds = 1e6;
-    options.faces.profilePeriodSeconds = 1e6;
-    options.faces.sidesAtFirst = 0;
-    return options;
-}
-
 std::vector<KxCropRect> Analyse(const KxSubjectRequest& request, const Scene& scene, std::int64_t every = 1,
                                 std::int64_t last = std::numeric_limits<std::int64_t>::max(),
-                                const KxSubjectOptions& options = WithoutFaces())
+                                const KxSubjectOptions& options = {}, const KxFaceModels& faceModels = NoFaceModels)
 {
-    KxSubjectAnalyzer analyzer(request, options);
+    KxSubjectAnalyzer analyzer(request, faceModels, options);
     for (std::int64_t frame = 0; frame < std::min(request.frameCount, last); frame += every) {
         if (analyzer.Wants(frame)) {
-            analyzer.AddPicture(frame, scene(frame));
+            analyzer.AddPicture(frame, ViewOf(scene(frame)));
         }
     }
-    return analyzer.Finish();
+    return analyzer.Finish(KxCancelToken());
 }
 
 cv::Mat Walk(std::int64_t frame)
@@ -99,24 +100,24 @@ double Middle(const KxCropRect& crop)
 TEST(KxSubjectAnalyzer, TheWorkingSizeKeepsTheAspectAndIs320AtItsLongerSide)
 {
     KxSubjectRequest request = Request(10);
-    EXPECT_EQ(KxSubjectAnalyzer(request).WorkingSize(), cv::Size(320, 180));
+    EXPECT_EQ(KxSubjectAnalyzer(request, NoFaceModels).WorkingSize(), (KxIntSize{320, 180}));
     std::swap(request.pictureWidthPx, request.pictureHeightPx);
-    EXPECT_EQ(KxSubjectAnalyzer(request).WorkingSize(), cv::Size(180, 320));
+    EXPECT_EQ(KxSubjectAnalyzer(request, NoFaceModels).WorkingSize(), (KxIntSize{180, 320}));
     request.pictureWidthPx = 64;
     request.pictureHeightPx = 48;
-    EXPECT_EQ(KxSubjectAnalyzer(request).WorkingSize(), cv::Size(320, 240));
+    EXPECT_EQ(KxSubjectAnalyzer(request, NoFaceModels).WorkingSize(), (KxIntSize{320, 240}));
 }
 
 TEST(KxSubjectAnalyzer, FramesOutsideAreNotWantedAndHighRatesAreThinned)
 {
     KxSubjectRequest request = Request(100);
-    const KxSubjectAnalyzer usual(request);
+    const KxSubjectAnalyzer usual(request, NoFaceModels);
     EXPECT_TRUE(usual.Wants(0));
     EXPECT_TRUE(usual.Wants(99));
     EXPECT_FALSE(usual.Wants(-1));
     EXPECT_FALSE(usual.Wants(100));
     request.frameRate = 240.0;
-    const KxSubjectAnalyzer quick(request);
+    const KxSubjectAnalyzer quick(request, NoFaceModels);
     int wanted = 0;
     for (int frame = 0; frame < 100; ++frame) {
         wanted += quick.Wants(frame) ? 1 : 0;
@@ -131,7 +132,7 @@ TEST(KxSubjectAnalyzer, TheCropHoldsAMovingObjectThroughAPan)
         [](std::int64_t frame) {
             return Picture(0.2 + 0.004 * static_cast<double>(frame), 20.0 + 0.9 * static_cast<double>(frame));
         },
-        1, 125, KxSubjectOptions());
+        1, 125, {}, InstalledModels::Cascades());
     ASSERT_EQ(crops.size(), 125U);
     ExpectOneSizeInside(crops);
     for (std::size_t frame = 0; frame < crops.size(); ++frame) {
@@ -190,22 +191,23 @@ TEST(KxSubjectAnalyzer, TheCropJumpsInTheMiddleOfADissolve)
     EXPECT_GT(Middle(crops[150]), 0.65);
 }
 
-TEST(KxSubjectAnalyzer, FindingsNameTheShotsAndWhatCarriedThem)
+TEST(KxSubjectAnalyzer, FindingsNameTheShotsAndTheirDominantSignals)
 {
     KxSubjectRequest request = Request(200);
     request.wantsFindings = true;
-    KxSubjectAnalyzer analyzer(request, WithoutFaces());
+    KxSubjectAnalyzer analyzer(request, NoFaceModels);
     for (std::int64_t frame = 0; frame < 200; ++frame) {
-        analyzer.AddPicture(frame, frame < 150 ? Walk(frame) : Picture(0.76, 40.0, 22));
+        analyzer.AddPicture(frame, ViewOf(frame < 150 ? Walk(frame) : Picture(0.76, 40.0, 22)));
     }
-    const auto crops = analyzer.Finish();
+    const auto crops = analyzer.Finish(KxCancelToken());
     const KxSubjectFindings& findings = analyzer.Findings();
     ASSERT_EQ(findings.shots.size(), 2U);
     EXPECT_EQ(findings.shots[0].first, 0);
     EXPECT_EQ(findings.shots[0].end, 150);
     EXPECT_EQ(findings.shots[1].end, 200);
-    EXPECT_TRUE(findings.shots[0].carrier == KxSignal::Movers || findings.shots[0].carrier == KxSignal::Motion);
-    EXPECT_EQ(findings.shots[1].carrier, KxSignal::Saliency) << "nothing moves";
+    EXPECT_TRUE(findings.shots[0].dominantSignal == KxSignal::Movers ||
+                findings.shots[0].dominantSignal == KxSignal::Motion);
+    EXPECT_EQ(findings.shots[1].dominantSignal, KxSignal::Saliency) << "nothing moves";
     ASSERT_FALSE(findings.samples.empty());
     for (const KxSubjectFindings::Sample& sample : findings.samples) {
         EXPECT_NEAR(sample.wanted, Middle(crops[static_cast<std::size_t>(sample.frame)]), 0.1) << sample.frame;
@@ -217,13 +219,13 @@ TEST(KxSubjectAnalyzer, FindingsHoldTheEvidenceAsItDecided)
     const auto peak = [](double concentration) {
         KxSubjectRequest request = Request(50);
         request.wantsFindings = true;
-        KxSubjectOptions options = WithoutFaces();
+        KxSubjectOptions options;
         options.evidence.concentration = concentration;
-        KxSubjectAnalyzer analyzer(request, options);
+        KxSubjectAnalyzer analyzer(request, NoFaceModels, options);
         for (std::int64_t frame = 0; frame < 50; ++frame) {
-            analyzer.AddPicture(frame, Walk(frame));
+            analyzer.AddPicture(frame, ViewOf(Walk(frame)));
         }
-        analyzer.Finish();
+        analyzer.Finish(KxCancelToken());
         const KxSignalProfile evidence = analyzer.Findings().samples.at(10).evidence.Unpacked();
         return *std::max_element(evidence.share.begin(), evidence.share.end());
     };
@@ -232,9 +234,9 @@ TEST(KxSubjectAnalyzer, FindingsHoldTheEvidenceAsItDecided)
 
 TEST(KxSubjectAnalyzer, NoFindingsAreKeptUnasked)
 {
-    KxSubjectAnalyzer analyzer(Request(30), WithoutFaces());
-    analyzer.AddPicture(0, Walk(0));
-    analyzer.Finish();
+    KxSubjectAnalyzer analyzer(Request(30), NoFaceModels);
+    analyzer.AddPicture(0, ViewOf(Walk(0)));
+    analyzer.Finish(KxCancelToken());
     EXPECT_TRUE(analyzer.Findings().samples.empty());
 }
 
@@ -254,8 +256,7 @@ TEST(KxSubjectAnalyzer, BarsStayOutside)
 
 TEST(KxSubjectAnalyzer, EveryPresetGivesOneSizeInside)
 {
-    for (const cv::Size& aspect :
-         {cv::Size(9, 16), cv::Size(1, 1), cv::Size(16, 9), cv::Size(4, 3), cv::Size(4, 5), cv::Size(21, 9)}) {
+    for (const KxIntSize aspect : {KxIntSize{9, 16}, {1, 1}, {16, 9}, {4, 3}, {4, 5}, {21, 9}}) {
         const auto crops = Analyse(Request(30, aspect), Walk, 3);
         ASSERT_EQ(crops.size(), 30U);
         ExpectOneSizeInside(crops);
@@ -284,7 +285,7 @@ TEST(KxSubjectAnalyzer, OneObjectOutweighsMoreThatIsSpreadWide)
 {
     const cv::Mat background = MadePictures::Texture({320, 180}, 21);
     const auto middle = [&background](double concentration) {
-        KxSubjectOptions options = WithoutFaces();
+        KxSubjectOptions options;
         options.evidence.concentration = concentration;
         options.evidence.saliencyWeightAcross = 0.0;
         const Scene scene = [&background](std::int64_t frame) {
@@ -354,12 +355,14 @@ TEST(KxSubjectAnalyzer, SenselessRequestsAreAnswered)
     request.frameRate = std::numeric_limits<double>::quiet_NaN();
     request.frameCount = 4;
     request.aspectHeight = 0;
-    KxSubjectAnalyzer analyzer(request);
-    analyzer.AddPicture(0, cv::Mat());
-    analyzer.AddPicture(1, cv::Mat(3, 3, CV_8UC1));
-    EXPECT_EQ(analyzer.Finish().size(), 4U);
+    KxSubjectAnalyzer analyzer(request, NoFaceModels);
+    const cv::Mat small(3, 3, CV_8UC3, cv::Scalar::all(0));
+    analyzer.AddPicture(0, KxPictureView());
+    analyzer.AddPicture(1, ViewOf(small));
+    analyzer.AddPicture(2, {small.data, analyzer.WorkingSize(), 9});
+    EXPECT_EQ(analyzer.Finish(KxCancelToken()).size(), 4U);
     request.frameCount = -7;
-    EXPECT_TRUE(KxSubjectAnalyzer(request).Finish().empty());
+    EXPECT_TRUE(KxSubjectAnalyzer(request, NoFaceModels).Finish(KxCancelToken()).empty());
 }
 
 TEST(KxSubjectAnalyzer, ExtremeShapesAreTaken)
@@ -368,13 +371,13 @@ TEST(KxSubjectAnalyzer, ExtremeShapesAreTaken)
         KxSubjectRequest request = Request(20);
         request.pictureWidthPx = size.width;
         request.pictureHeightPx = size.height;
-        KxSubjectAnalyzer analyzer(request);
+        KxSubjectAnalyzer analyzer(request, NoFaceModels);
         for (int frame = 0; frame < 20; ++frame) {
-            cv::Mat picture = MadePictures::Texture(analyzer.WorkingSize(), 5);
+            cv::Mat picture = MadePictures::Texture({analyzer.WorkingSize().width, analyzer.WorkingSize().height}, 5);
             MadePictures::PaintObject(picture, {frame, frame, 12, 12});
-            analyzer.AddPicture(frame, picture);
+            analyzer.AddPicture(frame, ViewOf(picture));
         }
-        const auto crops = analyzer.Finish();
+        const auto crops = analyzer.Finish(KxCancelToken());
         ASSERT_EQ(crops.size(), 20U);
         ExpectOneSizeInside(crops);
     }
@@ -391,11 +394,8 @@ TEST(KxSubjectAnalyzer, TheSamePicturesGiveTheSameCrops)
     }
 }
 
-TEST(KxSubjectAnalyzer, AFaceModelThatIsMissingIsTold)
+TEST(KxSubjectAnalyzer, AFaceDetectorThatCannotBeRunIsReported)
 {
-    KxSubjectRequest request = Request(5);
-    EXPECT_TRUE(KxSubjectAnalyzer(request).FaceModelProblem().empty());
-    request.faceModelPath = "/no/such/model.onnx";
-    EXPECT_EQ(KxSubjectAnalyzer(request).FaceModelProblem(),
-              "Cannot use the face model /no/such/model.onnx: there is no such file.");
+    EXPECT_FALSE(KxSubjectAnalyzer(Request(5), NoFaceModels).IsFaceDetectorRefused());
+    EXPECT_TRUE(KxSubjectAnalyzer(Request(5), {{}, {}, "no network"}).IsFaceDetectorRefused());
 }

@@ -274,7 +274,7 @@ QString AnalysisPlot::Signals() const
             const double next = X(static_cast<double>(FrameOf(column + 1, columns)));
             const double from = bottom - signalsHeightPx * level;
             if (sample != nullptr) {
-                level += static_cast<double>(sample->said[static_cast<std::size_t>(*signal)]) / loudest;
+                level += static_cast<double>(sample->scores[static_cast<std::size_t>(*signal)]) / loudest;
             }
             const double to = bottom - signalsHeightPx * level;
             upper += Point(x, to) + Point(next, to);

@@ -172,7 +172,7 @@ private:
         const double share = FoundSignals::CarrierShare(m_findings, shot);
         return share <= 0.0 ? QStringLiteral("nothing: the crop stays in the middle")
                             : QStringLiteral("%1%2, %3 %")
-                                  .arg(Swatch(FoundSignals::Colour(shot.carrier)), FoundSignals::Name(shot.carrier),
+                                  .arg(Swatch(FoundSignals::Colour(shot.dominantSignal)), FoundSignals::Name(shot.dominantSignal),
                                        QString::number(qRound(share * 100.0)));
     }
 

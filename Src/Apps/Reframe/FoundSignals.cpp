@@ -8,7 +8,7 @@ namespace
 
 float SumOf(const KxSubjectFindings::Sample& sample)
 {
-    return std::accumulate(sample.said.begin(), sample.said.end(), 0.0F);
+    return std::accumulate(sample.scores.begin(), sample.scores.end(), 0.0F);
 }
 
 } // namespace
@@ -97,7 +97,7 @@ double FoundSignals::CarrierShare(const KxSubjectFindings& findings, const KxSub
     double all = 0.0;
     for (const KxSubjectFindings::Sample& sample : findings.samples) {
         if (sample.frame >= shot.first && sample.frame < shot.end) {
-            carrier += static_cast<double>(sample.said[static_cast<std::size_t>(shot.carrier)]);
+            carrier += static_cast<double>(sample.scores[static_cast<std::size_t>(shot.dominantSignal)]);
             all += static_cast<double>(SumOf(sample));
         }
     }

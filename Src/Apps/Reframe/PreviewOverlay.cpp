@@ -35,7 +35,7 @@ PreviewOverlay::PreviewOverlay(QList<IKxAutoReframeResult> crops, const KxRation
 {
     if (m_findings != nullptr) {
         for (const KxSubjectFindings::Sample& sample : m_findings->samples) {
-            m_loudest = std::max(m_loudest, *std::max_element(sample.said.begin(), sample.said.end()));
+            m_loudest = std::max(m_loudest, *std::max_element(sample.scores.begin(), sample.scores.end()));
         }
     }
 }
@@ -114,7 +114,7 @@ void PreviewOverlay::DrawSignals(QPainter& painter, const QRectF& area, qint64 f
     const KxSubjectFindings::Sample* const sample = FoundSignals::SampleAt(*m_findings, frame);
     QRectF row = area;
     for (const KxSignal signal : FoundSignals::all) {
-        const float said = sample != nullptr ? sample->said[static_cast<std::size_t>(signal)] : 0.0F;
+        const float said = sample != nullptr ? sample->scores[static_cast<std::size_t>(signal)] : 0.0F;
         const double share = std::clamp(static_cast<double>(said / m_loudest), 0.0, 1.0);
         painter.setPen(faintInk);
         painter.drawText(row, Qt::AlignLeft | Qt::AlignVCenter, FoundSignals::Name(signal));

@@ -5,11 +5,11 @@
 #include <Apps/Reframe/ReframeReporter.h>
 #include <KxCore/KxInterrupt.h>
 #include <KxModel/KxAutoReframeService.h>
-#include <KxModel/KxFaceModel.h>
+#include <KxModel/KxFaceModelFiles.h>
 
 int ReframeProgram::Run(const ReframeOptions& options)
 {
-    KxAutoReframeService::Instance().SetFaceModel(options.faceModel.isEmpty() ? KxFaceModel::Find()
+    KxAutoReframeService::Instance().SetFaceModel(options.faceModel.isEmpty() ? KxFaceModelFiles::FindDetector()
                                                                               : options.faceModel);
     const bool explains = !options.report.isEmpty() || options.PreviewIsVideo();
     KxAutoReframeService::Instance().SetFindings(explains ? KxAutoReframeService::Findings::Keep

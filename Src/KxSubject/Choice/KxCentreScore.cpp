@@ -6,6 +6,7 @@
 namespace
 {
 
+constexpr double Pi = 3.1415926535897932384626433832795;
 constexpr double LeastSpacing = 1e-6; ///< of the picture; where positions lie nearer they are one place
 
 } // namespace
@@ -28,7 +29,7 @@ KxCentreScore::KxCentreScore(const KxSubjectOptions::Evidence& options, const Kx
             const double low = std::max(from, centre - half);
             const double high = std::min(from + binExtent, centre + half);
             if (high > low) {
-                const double wave = std::cos(CV_PI / 2.0 * ((low + high) / 2.0 - centre) / half);
+                const double wave = std::cos(Pi / 2.0 * ((low + high) / 2.0 - centre) / half);
                 const double height = flat + (1.0 - flat) * wave * wave;
                 m_windows[position].share[bin] = static_cast<float>((high - low) / binExtent * height);
             }

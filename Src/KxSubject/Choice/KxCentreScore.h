@@ -1,7 +1,13 @@
 #pragma once
 
+#include <KxCore/KxExport.h>
+
+#include <KxSubject/KxCropGeometry.h>
+#include <KxSubject/KxSignalProfile.h>
 #include <KxSubject/KxSubjectOptions.h>
-#include <KxSubject/Signals/KxSignalProfile.h>
+
+#include <array>
+#include <cstddef>
 
 /// Rates the places that a crop's centre can take along its free axis: how much of a profile lies under a soft window
 /// of the crop's extent, less a charge for leaving the picture's middle.

@@ -8,6 +8,9 @@
 namespace
 {
 
+/// Bounds time and memory where a shot lasts for days: beyond this many, the nodes of the path are farther apart.
+constexpr double MostNodes = 1e6;
+
 /// A cubic B-spline with the nodes as its controls: smooth in speed and acceleration. It is summed relative
 /// to one node, so that a still span comes out bit for bit still.
 double SplineAt(const std::vector<double>& nodes, double position)
@@ -34,41 +37,16 @@ double SplineAt(const std::vector<double>& nodes, double position)
            outerRight * (node(base + 2) - start);
 }
 
-} // namespace
-
-KxCropPath::KxCropPath(const KxSubjectOptions::Path& options, const KxSubjectOptions::Reaction& reaction,
-                       const KxCropGeometry& geometry)
-    : m_options(options)
-    , m_reaction(reaction)
-    , m_geometry(geometry)
+/// The centres asked for at equal steps of time, interpolated between the points.
+std::vector<double> NodesOf(const std::vector<KxPathPoint>& points, const KxFrameSpan& span, double stepsPerSecond)
 {
-}
-
-std::optional<double> KxCropPath::StandingPlace(const std::vector<KxPathPoint>& points) const
-{
-    std::vector<double> centres;
-    for (const KxPathPoint& point : points) {
-        centres.push_back(point.centre);
-    }
-    std::sort(centres.begin(), centres.end());
-    const auto trimmed = static_cast<std::size_t>(m_options.stillTrim * static_cast<double>(centres.size()));
-    const double range = centres[centres.size() - 1 - trimmed] - centres[trimmed];
-    if (range >= m_reaction.stillRange * m_geometry.Extent()) {
-        return std::nullopt;
-    }
-    return centres[centres.size() / 2];
-}
-
-std::vector<double> KxCropPath::Nodes(const std::vector<KxPathPoint>& points, std::int64_t first, std::int64_t end,
-                                      double frameRate) const
-{
-    const double seconds = static_cast<double>(end - first) / frameRate;
-    const auto count = static_cast<std::size_t>(std::ceil(seconds * m_options.stepsPerSecond)) + 1;
+    const double seconds = static_cast<double>(span.end - span.first) / span.frameRate;
+    const auto count = static_cast<std::size_t>(std::ceil(seconds * stepsPerSecond)) + 1;
     std::vector<double> nodes;
     nodes.reserve(count);
     std::size_t next = 0;
     for (std::size_t i = 0; i < count; ++i) {
-        const double frame = static_cast<double>(first) + static_cast<double>(i) / m_options.stepsPerSecond * frameRate;
+        const double frame = static_cast<double>(span.first) + static_cast<double>(i) / stepsPerSecond * span.frameRate;
         while (next < points.size() && static_cast<double>(points[next].frame) < frame) {
             ++next;
         }
@@ -85,33 +63,79 @@ std::vector<double> KxCropPath::Nodes(const std::vector<KxPathPoint>& points, st
     return nodes;
 }
 
-std::vector<double> KxCropPath::Draw(const std::vector<KxPathPoint>& points, std::int64_t first, std::int64_t end,
-                                     double frameRate, double fallback) const
+} // namespace
+
+KxCropPath::KxCropPath(const KxSubjectOptions::Path& options, const KxSubjectOptions::Reaction& reaction,
+                       const KxCropGeometry& geometry)
+    : m_options(options)
+    , m_reaction(reaction)
+    , m_geometry(geometry)
 {
-    const auto frames = static_cast<std::size_t>(std::max<std::int64_t>(end - first, 0));
-    if (points.empty()) {
+}
+
+std::optional<double> KxCropPath::StillCentre(const std::vector<KxPathPoint>& points) const
+{
+    std::vector<double> centres;
+    for (const KxPathPoint& point : points) {
+        centres.push_back(point.centre);
+    }
+    std::sort(centres.begin(), centres.end());
+    const auto trimmed = static_cast<std::size_t>(m_options.stillTrim * static_cast<double>(centres.size()));
+    const double range = centres[centres.size() - 1 - trimmed] - centres[trimmed];
+    if (range >= m_reaction.stillRange * m_geometry.Extent()) {
+        return std::nullopt;
+    }
+    return centres[centres.size() / 2];
+}
+
+KxFrameSpan KxCropPath::DrawnSpan(const std::vector<KxPathPoint>& points, const KxFrameSpan& shot) const
+{
+    const auto hold = static_cast<std::int64_t>(std::ceil(m_options.longestHoldSeconds * shot.frameRate));
+    return {std::max(shot.first, points.front().frame - hold), std::min(shot.end, points.back().frame + hold + 1),
+            shot.frameRate};
+}
+
+std::vector<double> KxCropPath::Draw(const std::vector<KxPathPoint>& points, const KxFrameSpan& shot, double fallback,
+                                     const KxCancelToken& cancel) const
+{
+    const auto frames = static_cast<std::size_t>(std::max<std::int64_t>(shot.end - shot.first, 0));
+    if (points.empty() || frames == 0) {
         return std::vector<double>(frames, fallback);
     }
-    if (const std::optional<double> place = StandingPlace(points)) {
-        return std::vector<double>(frames, *place);
+    if (const std::optional<double> centre = StillCentre(points)) {
+        return std::vector<double>(frames, *centre);
     }
+    const KxFrameSpan drawn = DrawnSpan(points, shot);
+    const std::vector<double> smooth = DrawSmooth(points, drawn, cancel);
+    std::vector<double> centres(static_cast<std::size_t>(drawn.first - shot.first), smooth.front());
+    centres.reserve(frames);
+    centres.insert(centres.end(), smooth.begin(), smooth.end());
+    centres.resize(frames, smooth.back());
+    return centres;
+}
+
+std::vector<double> KxCropPath::DrawSmooth(const std::vector<KxPathPoint>& points, const KxFrameSpan& span,
+                                           const KxCancelToken& cancel) const
+{
+    const double seconds = static_cast<double>(span.end - span.first) / span.frameRate;
+    const double stepsPerSecond = std::min(m_options.stepsPerSecond, MostNodes / seconds);
     KxTrendFilter::Settings settings;
-    settings.stepSeconds = 1.0 / m_options.stepsPerSecond;
-    settings.foot = m_reaction.deadZone * m_geometry.Extent() / 2.0;
+    settings.stepSeconds = 1.0 / stepsPerSecond;
+    settings.huberDelta = m_reaction.deadZone * m_geometry.Extent() / 2.0;
     settings.speedWeight = m_options.speedWeight * m_reaction.smoothingSeconds;
     settings.accelerationWeight = m_options.accelerationWeight * m_reaction.smoothingSeconds;
     settings.jerkWeight = m_options.jerkWeight * m_reaction.smoothingSeconds;
     settings.stillSpeed = m_options.stillSpeed;
     settings.topSpeed = m_reaction.topSpeed;
-    settings.hasteWeight = m_options.hasteWeight * m_reaction.smoothingSeconds;
+    settings.overspeedWeight = m_options.overspeedWeight * m_reaction.smoothingSeconds;
     settings.lowest = m_geometry.MinimumCentre();
     settings.highest = m_geometry.MaximumCentre();
-    settings.wallWeight = m_options.wallWeight;
+    settings.boundsWeight = m_options.boundsWeight;
     settings.iterations = m_options.iterations;
-    const std::vector<double> nodes = KxTrendFilter(settings).Smooth(Nodes(points, first, end, frameRate));
-    std::vector<double> centres(frames);
-    for (std::size_t i = 0; i < frames; ++i) {
-        centres[i] = SplineAt(nodes, static_cast<double>(i) / frameRate * m_options.stepsPerSecond);
+    const std::vector<double> nodes = KxTrendFilter(settings).Smooth(NodesOf(points, span, stepsPerSecond), cancel);
+    std::vector<double> centres(static_cast<std::size_t>(span.end - span.first));
+    for (std::size_t i = 0; i < centres.size(); ++i) {
+        centres[i] = SplineAt(nodes, static_cast<double>(i) / span.frameRate * stepsPerSecond);
     }
     return centres;
 }

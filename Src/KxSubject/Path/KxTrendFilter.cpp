@@ -11,8 +11,9 @@ constexpr double FirstPrecision = 1e-2;
 constexpr double LastPrecision = 1e-6;
 constexpr double PrecisionGain = 0.75;
 constexpr double Rigid = 1e8;
-constexpr double HasteRise = 0.25;
-constexpr int RoundsBeforeWalls = 3; ///< in so many parts: one passes before the line has found its shape
+constexpr double OverspeedRise = 0.25; ///< of the top speed, over which the extra cost grows to its full weight
+constexpr int PartWithoutBounds =
+    3; ///< the bounds wait for this part of the iterations: first the line finds its shape
 
 /// The lower half of a symmetric matrix of seven diagonals: row i holds columns i-3 to i.
 using Band = std::vector<std::array<double, 4>>;
@@ -71,9 +72,9 @@ double ThirdDifference(const std::vector<double>& line, std::size_t i)
 
 } // namespace
 
-struct KxTrendFilter::Walls {
+struct KxTrendFilter::BoundsPenalty {
     std::vector<double> weight;
-    std::vector<double> end;
+    std::vector<double> bound;
 };
 
 struct KxTrendFilter::Weights {
@@ -82,13 +83,13 @@ struct KxTrendFilter::Weights {
     std::vector<double> acceleration;
     std::vector<double> jerk;
 
-    std::vector<double> SolveFor(const std::vector<double>& wanted, const Walls& walls) const
+    std::vector<double> SolveFor(const std::vector<double>& wanted, const BoundsPenalty& penalty) const
     {
         Band band(wanted.size(), {0.0, 0.0, 0.0, 0.0});
         std::vector<double> line(wanted.size());
         for (std::size_t i = 0; i < wanted.size(); ++i) {
-            band[i][3] += data[i] + walls.weight[i];
-            line[i] = data[i] * wanted[i] + walls.weight[i] * walls.end[i];
+            band[i][3] += data[i] + penalty.weight[i];
+            line[i] = data[i] * wanted[i] + penalty.weight[i] * penalty.bound[i];
         }
         for (std::size_t i = 0; i < speed.size(); ++i) {
             AddSquare(band, i, {-1.0, 1.0, 0.0, 0.0}, 2, speed[i]);
@@ -117,12 +118,12 @@ KxTrendFilter::Weights KxTrendFilter::WeightsOf(const std::vector<double>& line,
     const std::size_t size = line.size();
     Weights weights;
     for (std::size_t i = 0; i < size; ++i) {
-        weights.data.push_back(1.0 / std::max(std::abs(line[i] - wanted[i]), m_settings.foot));
+        weights.data.push_back(1.0 / std::max(std::abs(line[i] - wanted[i]), m_settings.huberDelta));
     }
     for (std::size_t i = 0; i + 1 < size; ++i) {
         const double speed = std::abs(FirstDifference(line, i)) / step;
-        const double haste = std::clamp((speed / m_settings.topSpeed - 1.0) / HasteRise, 0.0, 1.0);
-        weights.speed.push_back((m_settings.speedWeight + m_settings.hasteWeight * haste) / step *
+        const double overspeed = std::clamp((speed / m_settings.topSpeed - 1.0) / OverspeedRise, 0.0, 1.0);
+        weights.speed.push_back((m_settings.speedWeight + m_settings.overspeedWeight * overspeed) / step *
                                 inverse(FirstDifference(line, i)));
     }
     for (std::size_t i = 0; i + 2 < size; ++i) {
@@ -135,18 +136,18 @@ KxTrendFilter::Weights KxTrendFilter::WeightsOf(const std::vector<double>& line,
     return weights;
 }
 
-void KxTrendFilter::Build(Walls& walls, const std::vector<double>& line) const
+void KxTrendFilter::Extend(BoundsPenalty& penalty, const std::vector<double>& line) const
 {
     for (std::size_t i = 0; i < line.size(); ++i) {
-        walls.end[i] = std::clamp(line[i], m_settings.lowest, m_settings.highest);
-        if (line[i] != walls.end[i]) {
-            walls.weight[i] = m_settings.wallWeight;
+        penalty.bound[i] = std::clamp(line[i], m_settings.lowest, m_settings.highest);
+        if (line[i] != penalty.bound[i]) {
+            penalty.weight[i] = m_settings.boundsWeight;
         }
     }
 }
 
 void KxTrendFilter::HoldStillSpans(std::vector<double>& line, const std::vector<double>& wanted,
-                                   const Walls& walls) const
+                                   const BoundsPenalty& penalty) const
 {
     std::vector<bool> still(line.size(), false);
     Weights weights = WeightsOf(line, wanted, LastPrecision);
@@ -156,7 +157,7 @@ void KxTrendFilter::HoldStillSpans(std::vector<double>& line, const std::vector<
             weights.speed[i] = Rigid;
         }
     }
-    line = weights.SolveFor(wanted, walls);
+    line = weights.SolveFor(wanted, penalty);
     for (std::size_t i = 0; i + 1 < line.size(); ++i) {
         if (still[i]) {
             line[i + 1] = line[i];
@@ -164,22 +165,22 @@ void KxTrendFilter::HoldStillSpans(std::vector<double>& line, const std::vector<
     }
 }
 
-std::vector<double> KxTrendFilter::Smooth(const std::vector<double>& wanted) const
+std::vector<double> KxTrendFilter::Smooth(const std::vector<double>& wanted, const KxCancelToken& cancel) const
 {
     if (wanted.size() < 2) {
         return wanted;
     }
     std::vector<double> line = wanted;
-    Walls walls{std::vector<double>(wanted.size(), 0.0), std::vector<double>(wanted.size(), 0.0)};
+    BoundsPenalty penalty{std::vector<double>(wanted.size(), 0.0), std::vector<double>(wanted.size(), 0.0)};
     double precision = FirstPrecision;
-    for (int i = 0; i < m_settings.iterations; ++i) {
-        line = WeightsOf(line, wanted, precision).SolveFor(wanted, walls);
+    for (int i = 0; i < m_settings.iterations && !cancel.IsCancelled(); ++i) {
+        line = WeightsOf(line, wanted, precision).SolveFor(wanted, penalty);
         precision = std::max(precision * PrecisionGain, LastPrecision);
-        if (i > m_settings.iterations / RoundsBeforeWalls) {
-            Build(walls, line);
+        if (i > m_settings.iterations / PartWithoutBounds) {
+            Extend(penalty, line);
         }
     }
-    HoldStillSpans(line, wanted, walls);
+    HoldStillSpans(line, wanted, penalty);
     for (double& value : line) {
         value = std::clamp(value, m_settings.lowest, m_settings.highest);
     }

@@ -1,6 +1,12 @@
 #pragma once
 
+#include <KxCore/KxExport.h>
+
 #include <KxSubject/KxSubjectOptions.h>
+
+#include <opencv2/core/mat.hpp>
+
+#include <vector>
 
 /// Finds black bars that stay through the whole video: rows or columns at opposite sides that no picture has lit. Dark
 /// pictures (a fade) say nothing either way, since what counts is the brightest that a row has been.

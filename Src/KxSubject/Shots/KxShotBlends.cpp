@@ -15,7 +15,7 @@ bool Overlap(const KxShotBoundary& left, const KxShotBoundary& right)
     return left.first <= right.last && right.first <= left.last;
 }
 
-double Likeness(const KxShotPicture& left, const KxShotPicture& right)
+double Similarity(const KxShotPicture& left, const KxShotPicture& right)
 {
     double product = 0.0;
     for (std::size_t i = 0; i < left.grey.size(); ++i) {
@@ -91,7 +91,7 @@ std::vector<KxShotBoundary> KxShotBlends::FadesOf(const Parts& parts) const
     for (const Part& out : parts.fadesOut) {
         const auto in = std::find_if(parts.fadesIn.begin(), parts.fadesIn.end(),
                                      [&out](const Part& part) { return part.plainSince == out.plainSince; });
-        if (in != parts.fadesIn.end() && Likeness(out.shot, in->shot) < m_options.blends.likeness) {
+        if (in != parts.fadesIn.end() && Similarity(out.shot, in->shot) < m_options.blends.similarity) {
             const std::int64_t first = out.passage.first;
             const std::int64_t last = in->passage.last;
             fades.push_back({(first + last) / 2, first, last, KxShotBoundaryKind::Fade});

@@ -1,7 +1,15 @@
 #pragma once
 
+#include <KxCore/KxExport.h>
+
 #include <KxSubject/Shots/KxShotBoundary.h>
 #include <KxSubject/Shots/KxShotWindow.h>
+
+#include <opencv2/core/mat.hpp>
+
+#include <cstdint>
+#include <deque>
+#include <vector>
 
 /// Finds the gradual shot boundaries of a video from its pictures as they come. Every picture is compared with some
 /// before it, 2 to 128 pictures back:

@@ -67,7 +67,8 @@ std::vector<std::size_t> KxShotCuts::Find(const std::vector<KxPictureChange>& ch
 {
     std::vector<std::size_t> jumps;
     for (std::size_t i = 1; i < changes.size(); ++i) {
-        if (!changes[i].flash && changes[i].likeness <= options.lightLikeness * 255.0 && IsJump(changes, i, options)) {
+        if (!changes[i].flash && changes[i].similarity <= options.lightSimilarity * 255.0 &&
+            IsJump(changes, i, options)) {
             jumps.push_back(i);
         }
     }

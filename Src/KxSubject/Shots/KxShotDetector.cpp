@@ -70,7 +70,7 @@ void KxShotDetector::AddPicture(std::int64_t frame, const cv::Mat& picture)
         }
         change.colour = static_cast<float>(moved) / static_cast<float>(2 * small.total());
         change.grey = static_cast<float>(DifferenceTo(Earlier(1)));
-        change.likeness = cv::saturate_cast<std::uint8_t>(255.0 * LikenessTo(Earlier(1)));
+        change.similarity = cv::saturate_cast<std::uint8_t>(255.0 * SimilarityTo(Earlier(1)));
     }
     for (std::size_t back = 2; back < m_pictures.size(); ++back) {
         LookForReturn(back);
@@ -93,7 +93,7 @@ double KxShotDetector::DifferenceTo(const Picture& earlier) const
     return cv::norm(grey, earlier.grey, cv::NORM_L1) / static_cast<double>(grey.total());
 }
 
-double KxShotDetector::LikenessTo(const Picture& earlier) const
+double KxShotDetector::SimilarityTo(const Picture& earlier) const
 {
     // Keeps the noise of two plain pictures from being alike.
     constexpr double noise = 4.0;
@@ -132,7 +132,7 @@ void KxShotDetector::LookForReturn(std::size_t back)
         return;
     }
     const bool flash = IsFlash(back);
-    if (LikenessTo(Earlier(back)) < (flash ? m_options.flashLikeness : m_options.returnLikeness)) {
+    if (SimilarityTo(Earlier(back)) < (flash ? m_options.flashSimilarity : m_options.returnSimilarity)) {
         return;
     }
     if (isBack) {

@@ -1,7 +1,16 @@
 #pragma once
 
+#include <KxCore/KxExport.h>
+
 #include <KxSubject/Shots/KxShotBlends.h>
 #include <KxSubject/Shots/KxShotCuts.h>
+
+#include <opencv2/core/mat.hpp>
+
+#include <array>
+#include <cstdint>
+#include <deque>
+#include <vector>
 
 /// Finds the shot boundaries of a video from its pictures as they come, at any spacing.
 /// A cut is a picture whose grey and colour change are both
@@ -47,7 +56,7 @@ private:
     static Histogram ColoursOf(const cv::Mat& small);
     const Picture& Earlier(std::size_t pictures) const;
     double DifferenceTo(const Picture& earlier) const;
-    double LikenessTo(const Picture& earlier) const;
+    double SimilarityTo(const Picture& earlier) const;
     bool IsFlash(std::size_t back) const;
     void LookForReturn(std::size_t back);
     std::ptrdiff_t PicturesIn(const KxShotBoundary& boundary) const;

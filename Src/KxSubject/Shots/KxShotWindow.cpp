@@ -41,7 +41,7 @@ int SquaredDistanceOutside(const KxShotPicture& begin, const KxShotPicture& pict
 }
 
 /// -1 to 1: how well the middle of `other` is to be found in `picture`, moved or zoomed.
-double LikenessMoved(const KxShotPicture& picture, const KxShotPicture& other)
+double SimilarityMoved(const KxShotPicture& picture, const KxShotPicture& other)
 {
     const cv::Mat scene = MatOf(picture);
     const cv::Mat part = MatOf(other)(cv::Rect(6, 4, KxShotPicture::WidthPx - 12, KxShotPicture::HeightPx - 8));
@@ -49,10 +49,10 @@ double LikenessMoved(const KxShotPicture& picture, const KxShotPicture& other)
     for (const double zoom : {0.8, 1.0, 1.25}) {
         cv::Mat zoomed;
         cv::resize(scene, zoomed, cv::Size(), zoom, zoom, cv::INTER_LINEAR);
-        cv::Mat likeness;
-        cv::matchTemplate(zoomed, part, likeness, cv::TM_CCOEFF_NORMED);
+        cv::Mat similarity;
+        cv::matchTemplate(zoomed, part, similarity, cv::TM_CCOEFF_NORMED);
         double here = 0.0;
-        cv::minMaxLoc(likeness, nullptr, &here);
+        cv::minMaxLoc(similarity, nullptr, &here);
         best = std::max(best, here);
     }
     return best;
@@ -110,9 +110,9 @@ KxShotWindow::Sort KxShotWindow::SortOfMiddle() const
     // |begin - end|^2 = variances + squared difference of the means - 2 covariance
     const double means = (m_end.mean - m_begin.mean) * (m_end.mean - m_begin.mean);
     const double covariance = (m_begin.variance + m_end.variance + means - m_distance / Points) / 2.0;
-    const double likeness = covariance / std::sqrt(std::max(1.0, m_begin.variance * m_end.variance));
+    const double similarity = covariance / std::sqrt(std::max(1.0, m_begin.variance * m_end.variance));
     const bool fade = m_begin.plainSince || m_end.plainSince;
-    if (!fade && likeness >= m_options.likeness) {
+    if (!fade && similarity >= m_options.similarity) {
         return Sort::None;
     }
     const std::size_t span = m_endIndex - m_beginIndex;
@@ -133,7 +133,7 @@ KxShotWindow::Sort KxShotWindow::SortOfMiddle() const
     }
     const bool wipe = span >= m_options.wipeLeastPictures && misfit < m_options.wipeMisfit &&
                       m_distance > Points * m_options.wipeFloor * m_options.wipeFloor &&
-                      likeness < m_options.wipeLikeness;
+                      similarity < m_options.wipeSimilarity;
     return wipe ? Sort::Wipe : Sort::None;
 }
 
@@ -164,7 +164,7 @@ bool KxShotWindow::Passes(const Fit& fit, Sort sort) const
            (sort != Sort::Fade || fit.misfit <= m_options.fadeMisfit);
 }
 
-double KxShotWindow::Unrest() const
+double KxShotWindow::Jitter() const
 {
     const std::size_t reach = RestReach(m_endIndex - m_beginIndex);
     const auto moved = [this, reach](const KxShotPicture& end, std::size_t other, std::size_t apart) {
@@ -181,8 +181,8 @@ double KxShotWindow::Unrest() const
 bool KxShotWindow::IsMovement() const
 {
     const KxShotPicture& middle = m_pictures[(m_beginIndex + m_endIndex) / 2];
-    return LikenessMoved(m_begin, middle) > m_options.movedLikeness &&
-           LikenessMoved(middle, m_end) > m_options.movedLikeness;
+    return SimilarityMoved(m_begin, middle) > m_options.movedSimilarity &&
+           SimilarityMoved(middle, m_end) > m_options.movedSimilarity;
 }
 
 bool KxShotWindow::ComesBack() const
@@ -221,8 +221,9 @@ std::optional<KxShotWindow::Passage> KxShotWindow::Find() const
         return {};
     }
     const Fit fit = FitAll();
-    const double doubt = fit.misfit + m_options.unrestWeight * Unrest();
-    if (!Passes(fit, sort) || (sort != Sort::Fade && (doubt > m_options.doubt || ComesBack() || IsMovement()))) {
+    const double confidence = 1.0 - (fit.misfit + m_options.jitterWeight * Jitter());
+    if (!Passes(fit, sort) ||
+        (sort != Sort::Fade && (confidence < m_options.minimumConfidence || ComesBack() || IsMovement()))) {
         return {};
     }
     // The quarters are surer than the ends, where what moves drowns what passes.
@@ -232,5 +233,5 @@ std::optional<KxShotWindow::Passage> KxShotWindow::Find() const
     const double half = threeQuarters - quarter;
     return Passage{std::max<std::int64_t>(std::llround(middle - half), m_begin.frame), std::llround(middle),
                    std::min<std::int64_t>(std::llround(middle + half), m_end.frame),
-                   std::sqrt(m_distance) * (1.0 - doubt)};
+                   std::sqrt(m_distance) * confidence};
 }

@@ -3,8 +3,10 @@
 #include <KxSubject/KxSubjectOptions.h>
 
 #include <array>
+#include <cstdint>
 #include <deque>
 #include <optional>
+#include <vector>
 
 /// A picture as the search for dissolves and fades keeps it.
 struct KxShotPicture {
@@ -46,7 +48,7 @@ private:
     double ShareOf(const KxShotPicture& picture) const;
     Fit FitAll() const;
     bool Passes(const Fit& fit, Sort sort) const;
-    double Unrest() const;
+    double Jitter() const;
     bool ComesBack() const;
     bool IsMovement() const;
     double CrossingOf(const std::vector<double>& shares, double level) const;

@@ -1,10 +1,14 @@
 #pragma once
 
+#include <KxCore/KxExport.h>
+
 #include <KxSubject/KxSubjectOptions.h>
 
+#include <opencv2/core/mat.hpp>
 #include <opencv2/core/matx.hpp>
 
 #include <optional>
+#include <vector>
 
 /// The camera's own movement between two pictures, from corners followed by pyramidal Lucas-Kanade and a homography
 /// fitted by a RANSAC (the framework of Raguram et al. 2013). Every part of the picture gives a like number of corners:

@@ -1,45 +1,31 @@
 #include <KxSubject/Signals/KxFaceFinder.h>
 
-#include <KxSubject/Signals/KxCascadeFiles.h>
+#include <KxSubject/Signals/KxOpenCvError.h>
 
 #include <opencv2/core/utility.hpp>
-#include <opencv2/core/utils/logger.hpp>
 #include <opencv2/imgproc.hpp>
 
 #include <algorithm>
-#include <filesystem>
 
 namespace
 {
 
-/// OpenCV writes what it thinks of a model to the terminal, which belongs to the program.
-class QuietOpenCv
+/// An empty classifier where `xml` is no cascade.
+cv::CascadeClassifier CascadeOf(const std::string& xml)
 {
-public:
-    QuietOpenCv()
-        : m_level(cv::utils::logging::setLogLevel(cv::utils::logging::LOG_LEVEL_SILENT))
-    {
+    cv::CascadeClassifier cascade;
+    if (xml.empty()) {
+        return cascade;
     }
-    ~QuietOpenCv() { cv::utils::logging::setLogLevel(m_level); }
-    QuietOpenCv(const QuietOpenCv&) = delete;
-    QuietOpenCv& operator=(const QuietOpenCv&) = delete;
-
-private:
-    cv::utils::logging::LogLevel m_level;
-};
-
-void Load(cv::CascadeClassifier& cascade, const char* fileName)
-{
-    const std::optional<std::string> path = KxFindCascade(fileName);
-    if (!path) {
-        return;
-    }
-    const QuietOpenCv quiet;
     try {
-        cascade.load(*path);
-    } catch (const cv::Exception&) {
-        cascade = cv::CascadeClassifier();
+        const cv::FileStorage storage(xml, cv::FileStorage::READ | cv::FileStorage::MEMORY);
+        if (cascade.read(storage.getFirstTopLevelNode())) {
+            return cascade;
+        }
+    } catch (const cv::Exception& problem) {
+        KxThrowIfOutOfMemory(problem);
     }
+    return {};
 }
 
 } // namespace
@@ -52,43 +38,36 @@ bool KxAreOneFace(const cv::Rect& a, const cv::Rect& b, double share)
     return std::max(std::abs(apart.x), std::abs(apart.y)) < share * size && smaller > share * size;
 }
 
-KxFaceFinder::KxFaceFinder(const KxSubjectOptions::Faces& options, const std::string& modelPath, cv::Size picturePx)
+KxFaceFinder::KxFaceFinder(const KxSubjectOptions::Faces& options, const KxFaceModels& models, cv::Size picturePx)
     : m_options(options)
 {
     cv::setNumThreads(1);
-    if (!modelPath.empty()) {
-        LoadModel(modelPath, picturePx);
+    if (!models.detector.empty()) {
+        LoadDetector(models.detector, picturePx);
     }
-    if (m_model.empty()) {
-        Load(m_frontal, "haarcascade_frontalface_alt2.xml");
-        Load(m_profile, "haarcascade_profileface.xml");
+    if (!UsesDetector()) {
+        m_frontal = CascadeOf(models.frontalCascade);
+        m_profile = CascadeOf(models.profileCascade);
     }
 }
 
-void KxFaceFinder::LoadModel(const std::string& path, cv::Size picturePx)
+void KxFaceFinder::LoadDetector(const std::string& onnx, cv::Size picturePx)
 {
-    std::error_code problem;
-    if (!std::filesystem::exists(path, problem)) {
-        m_modelProblem = "Cannot use the face model " + path + ": there is no such file.";
-        return;
-    }
-    if (std::filesystem::is_directory(path, problem)) {
-        m_modelProblem = "Cannot use the face model " + path + ": it is a folder.";
-        return;
-    }
-    const QuietOpenCv quiet;
     try {
-        m_model = cv::FaceDetectorYN::create(path, "", picturePx, static_cast<float>(m_options.modelThreshold));
-        FindByModel(cv::Mat(picturePx, CV_8UC3, cv::Scalar::all(0)));
+        m_detector.emplace(onnx, picturePx, m_options.modelThreshold);
+    } catch (const cv::Exception& problem) {
+        KxThrowIfOutOfMemory(problem);
+        m_isDetectorRefused = true;
+    } catch (const std::bad_alloc&) {
+        throw;
     } catch (const std::exception&) {
-        m_model.reset();
-        m_modelProblem = "Cannot use the face model " + path + ": it is not a face detector that OpenCV can run.";
+        m_isDetectorRefused = true;
     }
 }
 
 bool KxFaceFinder::Knows(KxFaceView view) const
 {
-    if (UsesModel()) {
+    if (UsesDetector()) {
         return view == KxFaceView::Frontal;
     }
     return view == KxFaceView::Frontal ? !m_frontal.empty() : !m_profile.empty();
@@ -99,8 +78,8 @@ std::vector<cv::Rect> KxFaceFinder::Find(const cv::Mat& picture, const cv::Mat& 
     if (!Knows(view)) {
         return {};
     }
-    if (UsesModel()) {
-        return FindByModel(picture);
+    if (UsesDetector()) {
+        return FindByDetector(picture);
     }
     return FindBySearch(grey, view);
 }
@@ -135,7 +114,7 @@ std::vector<cv::Rect> KxFaceFinder::FindBySearch(const cv::Mat& grey, KxFaceView
 
 std::optional<cv::Rect> KxFaceFinder::FindNear(const cv::Mat& grey, KxFaceView view, const cv::Rect& face)
 {
-    if (UsesModel() || !Knows(view)) {
+    if (UsesDetector() || !Knows(view)) {
         return std::nullopt;
     }
     return LookNear(grey, view, face, m_options.followNeighbours);
@@ -162,17 +141,13 @@ std::optional<cv::Rect> KxFaceFinder::LookNear(const cv::Mat& grey, KxFaceView v
     return *nearest + around.tl();
 }
 
-std::vector<cv::Rect> KxFaceFinder::FindByModel(const cv::Mat& picture)
+std::vector<cv::Rect> KxFaceFinder::FindByDetector(const cv::Mat& picture)
 {
-    cv::Mat rows;
-    m_model->detect(picture, rows);
     std::vector<cv::Rect> faces;
-    for (int i = 0; i < rows.rows; ++i) {
-        const auto* row = rows.ptr<float>(i);
-        const cv::Rect face(cvRound(row[0]), cvRound(row[1]), cvRound(row[2]), cvRound(row[3]));
-        const cv::Rect seen = face & cv::Rect(0, 0, picture.cols, picture.rows);
-        if (!seen.empty()) {
-            faces.push_back(seen);
+    for (const cv::Rect& face : m_detector->Detect(picture)) {
+        const cv::Rect visible = face & cv::Rect(0, 0, picture.cols, picture.rows);
+        if (!visible.empty()) {
+            faces.push_back(visible);
         }
     }
     return faces;

@@ -34,7 +34,7 @@ void KxFaceTracks::AddPicture(double timeSeconds, const cv::Mat& picture, const 
     while (m_firstOpen < m_tracks.size() && m_tracks[m_firstOpen].misses >= m_options.missesToDrop) {
         ++m_firstOpen;
     }
-    if (m_finder.UsesModel()) {
+    if (m_finder.UsesDetector()) {
         if (timeSeconds >= m_lastFrontal + m_options.modelPeriodSeconds - Early) {
             m_lastFrontal = timeSeconds;
             LookEverywhere(timeSeconds, picture, grey, KxFaceView::Frontal);
@@ -96,7 +96,7 @@ void KxFaceTracks::LookEverywhere(double timeSeconds, const cv::Mat& picture, co
             track.last = *same;
             track.misses = 0;
             faces.erase(same);
-        } else if (m_finder.UsesModel() && !looked) {
+        } else if (m_finder.UsesDetector() && !looked) {
             track.looks.emplace_back(timeSeconds, std::nullopt);
             ++track.misses;
         }

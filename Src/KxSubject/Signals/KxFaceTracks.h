@@ -1,7 +1,14 @@
 #pragma once
 
+#include <KxCore/KxExport.h>
+
+#include <KxSubject/KxCropGeometry.h>
+#include <KxSubject/KxSignalProfile.h>
 #include <KxSubject/Signals/KxFaceFinder.h>
-#include <KxSubject/Signals/KxSignalProfile.h>
+
+#include <cstdint>
+#include <optional>
+#include <vector>
 
 /// The faces of a video over time. Looks over the whole picture are rare; a face once found is looked for in its place,
 /// which is cheap, so that a false one is told from a true one by its persistence. Where nothing new was seen for a

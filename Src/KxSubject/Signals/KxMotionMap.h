@@ -1,8 +1,13 @@
 #pragma once
 
+#include <KxCore/KxExport.h>
+
 #include <KxSubject/KxSubjectOptions.h>
 
+#include <opencv2/core/mat.hpp>
 #include <opencv2/core/matx.hpp>
+
+#include <vector>
 
 /// A picture near in time, and the camera's movement that maps it onto the one looked at.
 struct KxNeighbourPicture {

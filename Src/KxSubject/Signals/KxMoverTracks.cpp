@@ -95,7 +95,7 @@ void KxMoverTracks::Carry(const cv::Matx33d& camera)
     }
 }
 
-std::optional<double> KxMoverTracks::Strangeness(const Track& track, const Blob& blob) const
+std::optional<double> KxMoverTracks::AssociationCost(const Track& track, const Blob& blob) const
 {
     const double reach = m_options.reachPerSecond * m_gapSeconds * m_mapPx.width +
                          m_options.reachBySize * std::sqrt(std::max(track.area, blob.area));
@@ -146,15 +146,15 @@ void KxMoverTracks::Join(std::vector<Track>& open, const std::vector<Blob>& blob
     std::vector<std::tuple<double, std::size_t, std::size_t>> pairs;
     for (std::size_t i = 0; i < open.size(); ++i) {
         for (std::size_t j = 0; j < blobs.size(); ++j) {
-            if (const std::optional<double> strangeness = Strangeness(open[i], blobs[j])) {
-                pairs.emplace_back(*strangeness, i, j);
+            if (const std::optional<double> cost = AssociationCost(open[i], blobs[j])) {
+                pairs.emplace_back(*cost, i, j);
             }
         }
     }
     std::sort(pairs.begin(), pairs.end());
     std::vector<bool> followed(open.size(), false);
     std::vector<bool> known(blobs.size(), false);
-    for (const auto& [strangeness, i, j] : pairs) {
+    for (const auto& [cost, i, j] : pairs) {
         if (!followed[i] && !known[j]) {
             followed[i] = true;
             known[j] = true;

@@ -1,11 +1,18 @@
 #pragma once
 
-#include <KxSubject/KxSubjectOptions.h>
-#include <KxSubject/Signals/KxSignalProfile.h>
+#include <KxCore/KxExport.h>
 
+#include <KxSubject/KxCropGeometry.h>
+#include <KxSubject/KxSignalProfile.h>
+#include <KxSubject/KxSubjectOptions.h>
+
+#include <opencv2/core/mat.hpp>
 #include <opencv2/core/matx.hpp>
 
+#include <array>
+#include <cstdint>
 #include <optional>
+#include <vector>
 
 /// Associates what moves from sample to sample: the parts of each motion map are followed from where the camera and
 /// their own speed carry them. What lasts and travels before its background is a subject, however small; noise, leaves
@@ -79,7 +86,7 @@ private:
     void Join(std::vector<Track>& open, const std::vector<Blob>& blobs);
     void Extend(Track& track, const Blob& blob) const;
     /// What speaks against their being one, least first; none where it is out of the question.
-    std::optional<double> Strangeness(const Track& track, const Blob& blob) const;
+    std::optional<double> AssociationCost(const Track& track, const Blob& blob) const;
     Mover::PackedBox Packed(const cv::Rect& box) const;
     void End(Track& track);
     void EndAll();

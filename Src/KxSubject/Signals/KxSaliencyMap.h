@@ -1,6 +1,10 @@
 #pragma once
 
+#include <KxCore/KxExport.h>
+
 #include <KxSubject/KxSubjectOptions.h>
+
+#include <opencv2/core/mat.hpp>
 
 /// What stands out in one picture: the part of its spectrum that its smoothed spectrum does not explain.
 class KXSUBJECT_API KxSaliencyMap

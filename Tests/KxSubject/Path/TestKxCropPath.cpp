@@ -17,7 +17,8 @@ const KxSubjectOptions Options;
 std::vector<double> Draw(const std::vector<KxPathPoint>& points, std::int64_t first, std::int64_t end,
                          KxMotionSpeed speed = KxMotionSpeed::Auto)
 {
-    return KxCropPath(Options.path, Options.For(speed), Portrait).Draw(points, first, end, FrameRate, 0.5);
+    return KxCropPath(Options.path, Options.For(speed), Portrait)
+        .Draw(points, {first, end, FrameRate}, 0.5, KxCancelToken());
 }
 
 template<typename Function>
@@ -47,19 +48,19 @@ TEST(KxCropPath, NoPointGivesTheFallback)
     EXPECT_THAT(Draw({}, 5, 5), SizeIs(0));
 }
 
-TEST(KxCropPath, OnePointStandsThere)
+TEST(KxCropPath, WithOnePointTheCropStaysThere)
 {
     EXPECT_THAT(Draw({{7, 0.3}}, 5, 12), testing::AllOf(SizeIs(7), Each(0.3)));
 }
 
-TEST(KxCropPath, ASmallRangeStandsExactly)
+TEST(KxCropPath, ASmallRangeIsExactlyStill)
 {
     const auto line = Draw(Points(0, 300, [](double s) { return 0.4 + 0.02 * std::sin(s); }), 0, 300);
     EXPECT_THAT(line, Each(line.front()));
     EXPECT_NEAR(line.front(), 0.4, 0.02);
 }
 
-TEST(KxCropPath, AFewStraySamplesDoNotMakeItMove)
+TEST(KxCropPath, AFewOutliersDoNotMakeItMove)
 {
     auto points = Points(0, 300, [](double) { return 0.4; });
     points[30].centre = 0.8;

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace
 {
@@ -37,10 +38,10 @@ double LargestStep(const std::vector<double>& line)
 
 TEST(KxTrendFilter, ShortLinesAreTaken)
 {
-    EXPECT_TRUE(KxTrendFilter(Usual()).Smooth({}).empty());
-    EXPECT_EQ(KxTrendFilter(Usual()).Smooth({0.4}), std::vector<double>{0.4});
+    EXPECT_TRUE(KxTrendFilter(Usual()).Smooth({}, KxCancelToken()).empty());
+    EXPECT_EQ(KxTrendFilter(Usual()).Smooth({0.4}, KxCancelToken()), std::vector<double>{0.4});
     for (std::size_t size = 2; size < 6; ++size) {
-        const std::vector<double> line = KxTrendFilter(Usual()).Smooth(std::vector<double>(size, 0.3));
+        const std::vector<double> line = KxTrendFilter(Usual()).Smooth(std::vector<double>(size, 0.3), KxCancelToken());
         ASSERT_EQ(line.size(), size);
         for (const double value : line) {
             EXPECT_NEAR(value, 0.3, 1e-9);
@@ -48,13 +49,13 @@ TEST(KxTrendFilter, ShortLinesAreTaken)
     }
 }
 
-TEST(KxTrendFilter, ANervousStandingLineStandsExactly)
+TEST(KxTrendFilter, ANoisyStillLineBecomesExactlyStill)
 {
     std::vector<double> wanted;
     for (int i = 0; i < 100; ++i) {
         wanted.push_back(0.4 + 0.015 * std::sin(i * 2.3) + 0.01 * std::sin(i * 0.7));
     }
-    const std::vector<double> line = KxTrendFilter(Usual()).Smooth(wanted);
+    const std::vector<double> line = KxTrendFilter(Usual()).Smooth(wanted, KxCancelToken());
     EXPECT_EQ(LargestStep(line), 0.0);
     EXPECT_NEAR(line.front(), 0.4, 0.01);
 }
@@ -65,7 +66,7 @@ TEST(KxTrendFilter, ARampBecomesAConstantPan)
     for (int i = 0; i < 80; ++i) {
         wanted.push_back(0.2 + 0.006 * i + 0.008 * std::sin(i * 1.9));
     }
-    const std::vector<double> line = KxTrendFilter(Usual()).Smooth(wanted);
+    const std::vector<double> line = KxTrendFilter(Usual()).Smooth(wanted, KxCancelToken());
     for (std::size_t i = 15; i + 16 < line.size(); ++i) {
         EXPECT_NEAR(line[i + 1] - line[i], 0.006, 0.0012) << i;
     }
@@ -78,7 +79,7 @@ TEST(KxTrendFilter, AStepIsPassedSmoothlyBetweenTwoStillSpans)
 {
     std::vector<double> wanted(100, 0.3);
     std::fill(wanted.begin() + 50, wanted.end(), 0.6);
-    const std::vector<double> line = KxTrendFilter(Usual()).Smooth(wanted);
+    const std::vector<double> line = KxTrendFilter(Usual()).Smooth(wanted, KxCancelToken());
     EXPECT_EQ(line[0], line[20]);
     EXPECT_EQ(line[80], line[99]);
     EXPECT_NEAR(line[0], 0.3, 0.02);
@@ -91,10 +92,10 @@ TEST(KxTrendFilter, AShortExcursionIsNotFollowed)
 {
     std::vector<double> wanted(80, 0.3);
     wanted[40] = wanted[41] = 0.8;
-    EXPECT_EQ(LargestStep(KxTrendFilter(Usual()).Smooth(wanted)), 0.0);
+    EXPECT_EQ(LargestStep(KxTrendFilter(Usual()).Smooth(wanted, KxCancelToken())), 0.0);
 }
 
-TEST(KxTrendFilter, ALineNeverLeavesItsEnds)
+TEST(KxTrendFilter, ALineNeverLeavesItsBounds)
 {
     std::vector<double> wanted;
     for (int i = 0; i < 120; ++i) {
@@ -103,13 +104,13 @@ TEST(KxTrendFilter, ALineNeverLeavesItsEnds)
     KxTrendFilter::Settings settings = Usual();
     settings.lowest = 0.2;
     settings.highest = 0.8;
-    for (const double value : KxTrendFilter(settings).Smooth(wanted)) {
+    for (const double value : KxTrendFilter(settings).Smooth(wanted, KxCancelToken())) {
         EXPECT_GE(value, 0.2);
         EXPECT_LE(value, 0.8);
     }
 }
 
-TEST(KxTrendFilter, HasteSlowsAQuickPanDown)
+TEST(KxTrendFilter, TheCostOfOverspeedSlowsAFastPanDown)
 {
     std::vector<double> wanted(60, 0.2);
     for (std::size_t i = 20; i < wanted.size(); ++i) {
@@ -117,10 +118,10 @@ TEST(KxTrendFilter, HasteSlowsAQuickPanDown)
     }
     KxTrendFilter::Settings settings = Usual();
     settings.topSpeed = 0.2;
-    settings.hasteWeight = 0.0;
-    const double free = LargestStep(KxTrendFilter(settings).Smooth(wanted));
-    settings.hasteWeight = 3.0;
-    const double held = LargestStep(KxTrendFilter(settings).Smooth(wanted));
+    settings.overspeedWeight = 0.0;
+    const double free = LargestStep(KxTrendFilter(settings).Smooth(wanted, KxCancelToken()));
+    settings.overspeedWeight = 3.0;
+    const double held = LargestStep(KxTrendFilter(settings).Smooth(wanted, KxCancelToken()));
     EXPECT_LT(held, 0.8 * free);
 }
 
@@ -135,8 +136,17 @@ TEST(KxTrendFilter, MoreSmoothingTravelsLess)
         settings.speedWeight *= scale;
         settings.accelerationWeight *= scale;
         settings.jerkWeight *= scale;
-        return Travel(KxTrendFilter(settings).Smooth(wanted));
+        return Travel(KxTrendFilter(settings).Smooth(wanted, KxCancelToken()));
     };
     EXPECT_GT(travel(0.35), travel(1.0));
     EXPECT_GT(travel(1.0), travel(2.0));
+}
+
+TEST(KxTrendFilter, ACancelledFilterDoesNotIterate)
+{
+    KxTrendFilter::Settings settings = Usual();
+    settings.iterations = std::numeric_limits<int>::max();
+    KxCancelToken cancel;
+    cancel.Cancel();
+    EXPECT_EQ(KxTrendFilter(settings).Smooth({0.2, 0.8, 0.2, 0.8, 0.2}, cancel).size(), 5U);
 }

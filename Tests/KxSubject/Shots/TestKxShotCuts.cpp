@@ -16,7 +16,7 @@ std::vector<KxPictureChange> Calm(std::int32_t count)
         change.frame = i;
         change.grey = 1.0F + 0.1F * static_cast<float>(i % 3);
         change.colour = 0.02F;
-        change.likeness = 250;
+        change.similarity = 250;
         changes.push_back(change);
     }
     return changes;
@@ -26,7 +26,7 @@ KxPictureChange& Jump(std::vector<KxPictureChange>& changes, std::size_t at, flo
 {
     changes[at].grey = grey;
     changes[at].colour = colour;
-    changes[at].likeness = 30;
+    changes[at].similarity = 30;
     return changes[at];
 }
 
@@ -98,7 +98,7 @@ TEST(KxShotCuts, Case4AFlashIsNone)
 TEST(KxShotCuts, Case5ALightIsNone)
 {
     auto changes = Calm(60);
-    Jump(changes, 30).likeness = 190;
+    Jump(changes, 30).similarity = 190;
     EXPECT_THAT(Find(changes), IsEmpty());
 }
 

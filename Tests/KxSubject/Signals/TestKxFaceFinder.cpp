@@ -1,18 +1,14 @@
 #include <KxSubject/Signals/KxFaceFinder.h>
 
-#include <KxSubject/Signals/KxCascadeFiles.h>
+#include <Tests/KxSubject/InstalledModels.h>
 #include <Tests/KxSubject/MadePictures.h>
 
 #include <opencv2/core.hpp>
 #include <opencv2/imgproc.hpp>
 
-#include <QByteArray>
-
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <filesystem>
-#include <fstream>
 
 namespace
 {
@@ -33,27 +29,12 @@ bool Meets(const cv::Rect& found, const cv::Rect& face)
     return common > 0.5 * std::min(found.area(), face.area());
 }
 
-std::string TestModel()
+KxFaceModels Detector(const std::string& contents)
 {
-    return (std::filesystem::path(KX_SOURCE_FOLDER) / "../shared/models/face_detection_yunet_2022mar.onnx").string();
+    KxFaceModels models = InstalledModels::Cascades();
+    models.detector = contents;
+    return models;
 }
-
-/// Sets a variable of the environment for as long as it lives.
-class Environment
-{
-public:
-    Environment(const char* name, const std::string& value)
-        : m_name(name)
-    {
-        qputenv(name, QByteArray::fromStdString(value));
-    }
-    ~Environment() { qunsetenv(m_name); }
-    Environment(const Environment&) = delete;
-    Environment& operator=(const Environment&) = delete;
-
-private:
-    const char* m_name;
-};
 
 /// Cascades on a photograph with one face.
 class KxFaceFinderOnAPhotograph : public testing::Test
@@ -61,18 +42,20 @@ class KxFaceFinderOnAPhotograph : public testing::Test
 protected:
     void SetUp() override
     {
-        if (picture.empty() || !KxFaceFinder(options, "", PictureSize).Knows(KxFaceView::Frontal)) {
+        if (picture.empty() ||
+            !KxFaceFinder(options, InstalledModels::Cascades(), PictureSize).Knows(KxFaceView::Frontal)) {
             GTEST_SKIP() << "needs messi5.jpg of the package opencv-doc and the cascades of opencv-data";
         }
         grey = MadePictures::Grey(picture);
     }
     std::vector<cv::Rect> Find()
     {
-        return KxFaceFinder(options, "", PictureSize).Find(picture, grey, KxFaceView::Frontal);
+        return KxFaceFinder(options, InstalledModels::Cascades(), PictureSize).Find(picture, grey, KxFaceView::Frontal);
     }
     std::optional<cv::Rect> FindNear()
     {
-        return KxFaceFinder(options, "", PictureSize).FindNear(grey, KxFaceView::Frontal, Face);
+        return KxFaceFinder(options, InstalledModels::Cascades(), PictureSize)
+            .FindNear(grey, KxFaceView::Frontal, Face);
     }
 
     KxSubjectOptions::Faces options;
@@ -88,7 +71,7 @@ TEST(KxFaceFinder, AFaceIsFoundAndFoundAgainNearItsPlace)
     if (picture.empty()) {
         GTEST_SKIP() << "needs messi5.jpg of the package opencv-doc";
     }
-    KxFaceFinder finder(KxSubjectOptions().faces, "", PictureSize);
+    KxFaceFinder finder(KxSubjectOptions().faces, InstalledModels::Cascades(), PictureSize);
     if (!finder.Knows(KxFaceView::Frontal)) {
         GTEST_SKIP() << "needs the cascades of the package opencv-data";
     }
@@ -143,67 +126,75 @@ TEST(KxFaceFinder, BoxesThatLieNearAndAreAlikeInSizeAreOneFace)
 
 TEST(KxFaceFinder, APictureWithoutAFaceHasNone)
 {
-    KxFaceFinder finder(KxSubjectOptions().faces, "", PictureSize);
+    KxFaceFinder finder(KxSubjectOptions().faces, InstalledModels::Cascades(), PictureSize);
     const cv::Mat picture(PictureSize, CV_8UC3, cv::Scalar::all(80));
     for (const KxFaceView view : {KxFaceView::Frontal, KxFaceView::LeftProfile, KxFaceView::RightProfile}) {
         EXPECT_TRUE(finder.Find(picture, MadePictures::Grey(picture), view).empty());
     }
 }
 
-TEST(KxFaceFinder, ANamedFolderOfCascadesComesFirst)
+TEST(KxFaceFinder, WithoutModelsNothingIsFound)
 {
-    const std::filesystem::path folder = std::filesystem::path(testing::TempDir()) / "kx-cascades";
-    std::filesystem::create_directories(folder);
-    std::ofstream(folder / "haarcascade_frontalface_alt2.xml") << "not a cascade";
-    const Environment named("KX_CASCADES", "/no/such/folder:" + folder.string());
-    EXPECT_EQ(KxFindCascade("haarcascade_frontalface_alt2.xml"),
-              (folder / "haarcascade_frontalface_alt2.xml").string());
-    // A damaged cascade is no face signal, not a fault.
-    KxFaceFinder finder(KxSubjectOptions().faces, "", PictureSize);
-    EXPECT_FALSE(finder.Knows(KxFaceView::Frontal));
-    const cv::Mat picture(PictureSize, CV_8UC3, cv::Scalar::all(80));
-    EXPECT_TRUE(finder.Find(picture, MadePictures::Grey(picture), KxFaceView::Frontal).empty());
-    std::filesystem::remove_all(folder);
-}
-
-TEST(KxFaceFinder, ACascadeThatIsNowhereIsNotFound)
-{
-    EXPECT_FALSE(KxFindCascade("no-such-cascade.xml").has_value());
-}
-
-TEST(KxFaceFinder, ABadModelIsToldAndTheCascadesStay)
-{
-    const std::string folder = testing::TempDir();
-    const std::string bad = (std::filesystem::path(folder) / "kx-bad-model.onnx").string();
-    std::ofstream(bad) << "this is no model";
-    const KxFaceFinder fromBad(KxSubjectOptions().faces, bad, PictureSize);
-    EXPECT_EQ(fromBad.ModelProblem(),
-              "Cannot use the face model " + bad + ": it is not a face detector that OpenCV can run.");
-    EXPECT_FALSE(fromBad.UsesModel());
-    EXPECT_EQ(fromBad.Knows(KxFaceView::Frontal), KxFindCascade("haarcascade_frontalface_alt2.xml").has_value());
-    std::filesystem::remove(bad);
-
-    const KxFaceFinder fromNone(KxSubjectOptions().faces, bad, PictureSize);
-    EXPECT_EQ(fromNone.ModelProblem(), "Cannot use the face model " + bad + ": there is no such file.");
-    const KxFaceFinder fromFolder(KxSubjectOptions().faces, folder, PictureSize);
-    EXPECT_EQ(fromFolder.ModelProblem(), "Cannot use the face model " + folder + ": it is a folder.");
-    EXPECT_TRUE(KxFaceFinder(KxSubjectOptions().faces, "", PictureSize).ModelProblem().empty());
-}
-
-TEST(KxFaceFinder, AGoodModelFindsTheFace)
-{
-    if (!std::filesystem::exists(TestModel())) {
-        GTEST_SKIP() << "needs ../shared/models/face_detection_yunet_2022mar.onnx beside the source tree";
+    for (const std::string contents : {"", "not a cascade", "<opencv_storage/>"}) {
+        KxFaceFinder finder(KxSubjectOptions().faces, {contents, contents, {}}, PictureSize);
+        EXPECT_FALSE(finder.Knows(KxFaceView::Frontal)) << contents;
+        EXPECT_FALSE(finder.Knows(KxFaceView::LeftProfile)) << contents;
+        const cv::Mat picture(PictureSize, CV_8UC3, cv::Scalar::all(80));
+        EXPECT_TRUE(finder.Find(picture, MadePictures::Grey(picture), KxFaceView::Frontal).empty()) << contents;
     }
-    KxFaceFinder finder(KxSubjectOptions().faces, TestModel(), PictureSize);
-    EXPECT_EQ(finder.ModelProblem(), "");
-    ASSERT_TRUE(finder.UsesModel());
+}
+
+TEST(KxFaceFinder, ADetectorThatIsNoneIsRefusedAndTheCascadesAreUsed)
+{
+    const KxFaceFinder finder(KxSubjectOptions().faces, Detector("this is no model"), PictureSize);
+    EXPECT_TRUE(finder.IsDetectorRefused());
+    EXPECT_FALSE(finder.UsesDetector());
+    EXPECT_EQ(finder.Knows(KxFaceView::Frontal), !InstalledModels::Cascades().frontalCascade.empty());
+    EXPECT_FALSE(KxFaceFinder(KxSubjectOptions().faces, InstalledModels::Cascades(), PictureSize).IsDetectorRefused());
+}
+
+TEST(KxFaceFinder, AGoodDetectorFindsTheFace)
+{
+    const std::string detector = InstalledModels::ContentsOf(InstalledModels::DetectorPath());
     const cv::Mat picture = PictureWithFace();
-    if (picture.empty()) {
-        GTEST_SKIP() << "needs messi5.jpg of the package opencv-doc";
+    if (detector.empty() || picture.empty()) {
+        GTEST_SKIP()
+            << "needs ../shared/models/face_detection_yunet_2022mar.onnx beside the source tree and messi5.jpg "
+               "of the package opencv-doc";
     }
+    KxFaceFinder finder(KxSubjectOptions().faces, Detector(detector), PictureSize);
+    EXPECT_FALSE(finder.IsDetectorRefused());
+    ASSERT_TRUE(finder.UsesDetector());
     const auto found = finder.Find(picture, MadePictures::Grey(picture), KxFaceView::Frontal);
     ASSERT_EQ(found.size(), 1U);
     EXPECT_TRUE(Meets(found[0], Face)) << found[0];
     EXPECT_FALSE(finder.Knows(KxFaceView::LeftProfile));
+}
+
+TEST(KxFaceFinder, TheDetectorFindsWhatOpenCvsOwnClassFinds)
+{
+    const std::string detector = InstalledModels::ContentsOf(InstalledModels::DetectorPath());
+    const cv::Mat photograph = MadePictures::Photograph();
+    if (detector.empty() || photograph.empty()) {
+        GTEST_SKIP()
+            << "needs ../shared/models/face_detection_yunet_2022mar.onnx beside the source tree and messi5.jpg "
+               "of the package opencv-doc";
+    }
+    for (const cv::Size size : {cv::Size(320, 180), cv::Size(180, 320), cv::Size(320, 133)}) {
+        constexpr double threshold = 0.3;
+        cv::Mat picture;
+        cv::resize(photograph, picture, size);
+        cv::Mat expected;
+        cv::FaceDetectorYN::create(InstalledModels::DetectorPath(), "", size, static_cast<float>(threshold))
+            ->detect(picture, expected);
+        const std::vector<cv::Rect> found = KxFaceDetector(detector, size, threshold).Detect(picture);
+        ASSERT_EQ(static_cast<int>(found.size()), expected.rows) << size;
+        EXPECT_GT(found.size(), 0U) << size;
+        for (int i = 0; i < expected.rows; ++i) {
+            const auto* row = expected.ptr<float>(i);
+            EXPECT_EQ(found[static_cast<std::size_t>(i)],
+                      cv::Rect(cvRound(row[0]), cvRound(row[1]), cvRound(row[2]), cvRound(row[3])))
+                << size;
+        }
+    }
 }

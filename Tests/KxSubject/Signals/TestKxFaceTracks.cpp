@@ -1,5 +1,6 @@
 #include <KxSubject/Signals/KxFaceTracks.h>
 
+#include <Tests/KxSubject/InstalledModels.h>
 #include <Tests/KxSubject/MadePictures.h>
 
 #include <opencv2/core.hpp>
@@ -12,12 +13,13 @@ namespace
 constexpr double EmptyFloor = 0.01;
 const cv::Size PictureSize(320, 180);
 const KxSubjectOptions Options;
+const KxFaceModels Cascades = InstalledModels::Cascades();
 
 class KxFaceTracksTest : public testing::Test
 {
 protected:
     KxFaceTracksTest()
-        : m_tracks(Options.faces, KxFaceFinder(Options.faces, "", PictureSize))
+        : m_tracks(Options.faces, KxFaceFinder(Options.faces, Cascades, PictureSize))
     {
     }
 
@@ -54,7 +56,7 @@ protected:
     {
         double longest = 0.0;
         for (int first = 30; first < 51; first += 3) {
-            m_tracks = KxFaceTracks(Options.faces, KxFaceFinder(Options.faces, "", PictureSize));
+            m_tracks = KxFaceTracks(Options.faces, KxFaceFinder(Options.faces, Cascades, PictureSize));
             m_without = before;
             Play(first + 25, first, first + 25);
             if (m_tracks.Tracks().empty()) {
@@ -111,7 +113,7 @@ TEST_F(KxFaceTracksTest, LooksAreRarerWhereNothingIsNewForLong)
 {
     const cv::Mat grey = MadePictures::Grey(m_withFace);
     const std::vector<cv::Rect> faces =
-        KxFaceFinder(Options.faces, "", PictureSize).Find(m_withFace, grey, KxFaceView::Frontal);
+        KxFaceFinder(Options.faces, Cascades, PictureSize).Find(m_withFace, grey, KxFaceView::Frontal);
     ASSERT_EQ(faces.size(), 1U);
     cv::Mat hidden = m_withFace.clone();
     hidden(faces.front()).setTo(cv::mean(m_withFace));

@@ -1,4 +1,6 @@
-#include <KxSubject/Signals/KxSignalProfile.h>
+#include <KxSubject/KxSignalProfile.h>
+
+#include <KxSubject/Signals/KxMapProfile.h>
 
 #include <gtest/gtest.h>
 
@@ -26,30 +28,29 @@ float ShareBetween(const KxSignalProfile& profile, std::size_t first, std::size_
 
 } // namespace
 
-TEST(KxSignalProfile, AnEmptyMapAndAnEvenMapSayNothing)
+TEST(KxSignalProfile, AnEmptyMapAndAnEvenMapAreNoEvidence)
 {
-    EXPECT_EQ(KxSignalProfile::Of(MapWith({0, 0, 1, 1}, 0.0F), Whole, PictureSize, KxAxis::Across, EmptyFloor).Sum(),
-              0.0F);
-    EXPECT_NEAR(KxSignalProfile::Of(MapWith(Whole, 0.7F), Whole, PictureSize, KxAxis::Across, EmptyFloor).Sum(), 0.0F,
+    EXPECT_EQ(KxProfileOfMap(MapWith({0, 0, 1, 1}, 0.0F), Whole, PictureSize, KxAxis::Across, EmptyFloor).Sum(), 0.0F);
+    EXPECT_NEAR(KxProfileOfMap(MapWith(Whole, 0.7F), Whole, PictureSize, KxAxis::Across, EmptyFloor).Sum(), 0.0F,
                 1e-3F);
 }
 
 TEST(KxSignalProfile, MassLiesWhereTheMapHasIt)
 {
     const cv::Mat map = MapWith({80, 45, 80, 45}, 1.0F);
-    const auto across = KxSignalProfile::Of(map, Whole, PictureSize, KxAxis::Across, EmptyFloor);
-    const auto upDown = KxSignalProfile::Of(map, Whole, PictureSize, KxAxis::UpDown, EmptyFloor);
+    const auto across = KxProfileOfMap(map, Whole, PictureSize, KxAxis::Across, EmptyFloor);
+    const auto upDown = KxProfileOfMap(map, Whole, PictureSize, KxAxis::UpDown, EmptyFloor);
     EXPECT_NEAR(ShareBetween(across, 24, 48), across.Sum(), 1e-5F);
     EXPECT_NEAR(ShareBetween(upDown, 24, 48), upDown.Sum(), 1e-5F);
     EXPECT_GT(across.Sum(), 0.8F);
     EXPECT_LT(across.Sum(), 1.0F);
 }
 
-TEST(KxSignalProfile, AMapWithAsMuchAsTheFloorSaysHalf)
+TEST(KxSignalProfile, AMapWithAsMuchAsTheFloorGivesHalf)
 {
     // 24 x 24 px of 1 are 1 % of the area; a little goes with the mean.
     const auto profile =
-        KxSignalProfile::Of(MapWith({100, 50, 24, 24}, 1.0F), Whole, PictureSize, KxAxis::Across, EmptyFloor);
+        KxProfileOfMap(MapWith({100, 50, 24, 24}, 1.0F), Whole, PictureSize, KxAxis::Across, EmptyFloor);
     EXPECT_NEAR(profile.Sum(), 0.5F, 0.01F);
 }
 
@@ -57,7 +58,7 @@ TEST(KxSignalProfile, AMapOfAPartLiesInItsPart)
 {
     cv::Mat part = cv::Mat::zeros(180, 160, CV_32FC1);
     part.colRange(0, 40).setTo(1.0F);
-    const auto profile = KxSignalProfile::Of(part, cv::Rect(80, 0, 160, 180), PictureSize, KxAxis::Across, EmptyFloor);
+    const auto profile = KxProfileOfMap(part, cv::Rect(80, 0, 160, 180), PictureSize, KxAxis::Across, EmptyFloor);
     EXPECT_NEAR(ShareBetween(profile, 24, 36), profile.Sum(), 1e-5F);
 }
 
@@ -115,7 +116,7 @@ TEST(KxSignalProfile, UnpackedItHasNoSteps)
     }
 }
 
-TEST(KxSignalProfile, PackingKeepsThatNothingWasSaid)
+TEST(KxSignalProfile, APackedEmptyProfileIsEmpty)
 {
     EXPECT_EQ(KxPackedProfile(KxSignalProfile()).Unpacked().Sum(), 0.0F);
     EXPECT_EQ(KxPackedProfile().Unpacked().Sum(), 0.0F);

@@ -3,7 +3,7 @@
 #include <Apps/AutoReframe/Backend/ExportRecord.h>
 #include <KxMediaLibrary/KxThumbnailer.h>
 #include <KxModel/KxAutoReframeService.h>
-#include <KxModel/KxFaceModel.h>
+#include <KxModel/KxFaceModelFiles.h>
 #include <KxModel/KxMediaItem.h>
 #include <KxModel/KxSimpleTimeline.h>
 #include <KxRender/KxRenderJob.h>
@@ -49,7 +49,7 @@ void RequestExport(IKxTimeline* timeline, const QVariant& record, const DialogCa
 
 HostMediaBackend::HostMediaBackend()
 {
-    KxAutoReframeService::Instance().SetFaceModel(KxFaceModel::Find());
+    KxAutoReframeService::Instance().SetFaceModel(KxFaceModelFiles::FindDetector());
     KxFileDialog::SetFileCheck(&KxMediaLibraryUtils::CheckVideoFile);
 }
 

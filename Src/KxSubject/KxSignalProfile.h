@@ -1,20 +1,16 @@
 #pragma once
 
-#include <KxSubject/KxCropGeometry.h>
+#include <KxCore/KxExport.h>
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 
-/// What a signal says along one axis of the whole picture: the share of its mass in each of equal bins. The sum is
-/// between 0 (says nothing) and 1 (says all it has to say).
+/// The evidence of a signal along one axis of the whole picture: the share of its mass in each of equal bins. The sum
+/// is between 0 (no evidence) and 1 (all that a signal can give).
 struct KXSUBJECT_API KxSignalProfile {
     static constexpr std::size_t Bins = 96;
     std::array<float, Bins> share{};
-
-    /// `map` is CV_32FC1 and covers `region`, a part of a picture of `picturePx`; what exceeds the map's mean counts.
-    /// `emptyFloor`: the mass, as a share of the area, at which a map says half of what it has to say.
-    static KxSignalProfile Of(const cv::Mat& map, const cv::Rect& region, cv::Size picturePx, KxAxis axis,
-                              double emptyFloor);
 
     /// Spreads `mass` evenly from `from` to `to`, fractions of the axis; what lies outside the axis is lost.
     void Add(double from, double to, double mass);

@@ -1,4 +1,6 @@
-#include <KxSubject/Signals/KxSignalTrack.h>
+#include <KxSubject/Signals/KxSignalRecorder.h>
+
+#include <KxSubject/Signals/KxMapProfile.h>
 
 #include <opencv2/imgproc.hpp>
 
@@ -18,8 +20,8 @@ cv::Matx33d From(cv::Point origin, const cv::Matx33d& movement)
 
 } // namespace
 
-KxSignalTrack::KxSignalTrack(const KxSubjectOptions& options, cv::Size picturePx, double frameRate,
-                             const std::string& faceModelPath)
+KxSignalRecorder::KxSignalRecorder(const KxSubjectOptions& options, cv::Size picturePx, double frameRate,
+                                   const KxFaceModels& faceModels)
     : m_options(options)
     , m_picturePx(picturePx)
     , m_frameRate(frameRate)
@@ -28,11 +30,11 @@ KxSignalTrack::KxSignalTrack(const KxSubjectOptions& options, cv::Size picturePx
     , m_motion(options.motion)
     , m_movers(options.movers)
     , m_saliency(options.saliency)
-    , m_faces(options.faces, KxFaceFinder(options.faces, faceModelPath, picturePx))
+    , m_faces(options.faces, KxFaceFinder(options.faces, faceModels, picturePx))
 {
 }
 
-void KxSignalTrack::Reserve(std::int64_t frameCount)
+void KxSignalRecorder::Reserve(std::int64_t frameCount)
 {
     // A header may claim anything: more than four hours grow as they come.
     constexpr double mostSamples = 160000.0;
@@ -40,14 +42,14 @@ void KxSignalTrack::Reserve(std::int64_t frameCount)
     m_samples.reserve(static_cast<std::size_t>(std::min(samples, mostSamples)));
 }
 
-std::array<KxPackedProfile, 2> KxSignalTrack::Profiles(const cv::Mat& map, const cv::Rect& region) const
+std::array<KxPackedProfile, 2> KxSignalRecorder::Profiles(const cv::Mat& map, const cv::Rect& region) const
 {
     const double emptyFloor = m_options.evidence.emptyFloor;
-    return {KxPackedProfile(KxSignalProfile::Of(map, region, m_picturePx, KxAxis::Across, emptyFloor)),
-            KxPackedProfile(KxSignalProfile::Of(map, region, m_picturePx, KxAxis::UpDown, emptyFloor))};
+    return {KxPackedProfile(KxProfileOfMap(map, region, m_picturePx, KxAxis::Across, emptyFloor)),
+            KxPackedProfile(KxProfileOfMap(map, region, m_picturePx, KxAxis::UpDown, emptyFloor))};
 }
 
-void KxSignalTrack::AddPicture(std::int64_t frame, const cv::Mat& picture)
+void KxSignalRecorder::AddPicture(std::int64_t frame, const cv::Mat& picture)
 {
     const double tolerance = 0.25 / m_frameRate;
     const auto slot =
@@ -76,7 +78,7 @@ void KxSignalTrack::AddPicture(std::int64_t frame, const cv::Mat& picture)
     m_newest = std::move(now);
 }
 
-std::optional<cv::Matx33d> KxSignalTrack::CameraTo(const Picture& now) const
+std::optional<cv::Matx33d> KxSignalRecorder::CameraTo(const Picture& now) const
 {
     if (!m_newest || SecondsAt(now.frame - m_newest->frame) > m_options.camera.gapMaximumSeconds) {
         return std::nullopt;
@@ -86,7 +88,7 @@ std::optional<cv::Matx33d> KxSignalTrack::CameraTo(const Picture& now) const
     return movement ? std::optional(From(-content.tl(), *movement)) : std::nullopt;
 }
 
-void KxSignalTrack::MeasureMotion(const Picture* after)
+void KxSignalRecorder::MeasureMotion(const Picture* after)
 {
     if (!m_newest) {
         return;
@@ -105,7 +107,7 @@ void KxSignalTrack::MeasureMotion(const Picture* after)
     m_movers.AddMap(SecondsAt(m_newest->frame), map, m_newest->cameraHere);
 }
 
-void KxSignalTrack::Finish()
+void KxSignalRecorder::Finish()
 {
     MeasureMotion(nullptr);
     m_before.reset();
@@ -113,7 +115,7 @@ void KxSignalTrack::Finish()
     m_movers.Finish();
 }
 
-KxSignalProfile KxSignalTrack::Evidence::Sum() const
+KxSignalProfile KxSignalRecorder::Evidence::Sum() const
 {
     KxSignalProfile sum = motion;
     sum.Add(movers, 1.0);
@@ -122,8 +124,8 @@ KxSignalProfile KxSignalTrack::Evidence::Sum() const
     return sum;
 }
 
-KxSignalTrack::Evidence KxSignalTrack::EvidenceAt(std::size_t sample, std::int64_t first, std::int64_t end,
-                                                  KxAxis axis) const
+KxSignalRecorder::Evidence KxSignalRecorder::EvidenceAt(std::size_t sample, std::int64_t first, std::int64_t end,
+                                                        KxAxis axis) const
 {
     const KxSubjectOptions::Evidence& weights = m_options.evidence;
     const auto side = static_cast<std::size_t>(axis);

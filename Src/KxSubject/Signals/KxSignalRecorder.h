@@ -1,5 +1,7 @@
 #pragma once
 
+#include <KxCore/KxExport.h>
+
 #include <KxSubject/Shots/KxBarDetector.h>
 #include <KxSubject/Signals/KxCameraMovement.h>
 #include <KxSubject/Signals/KxFaceTracks.h>
@@ -10,34 +12,34 @@
 #include <optional>
 #include <vector>
 
-/// What was measured at one sampled picture, along both axes.
+/// The measurements of one sampled picture, along both axes.
 struct KxSignalSample {
     std::int32_t frame = 0;
     std::array<KxPackedProfile, 2> motion;   ///< by axis
     std::array<KxPackedProfile, 2> saliency; ///< by axis
 };
 
-/// Runs the signals over a video's pictures as they come and keeps what they say: profiles of the samples, movers,
-/// faces, bars. A sample's motion is measured against the samples beside it, so it is known one sample later. Keeps two
-/// pictures.
-class KXSUBJECT_API KxSignalTrack
+/// Runs the signals over a video's pictures as they come and records their evidence: profiles of the samples, movers,
+/// faces, bars. The motion of a sample is measured against both of its neighbours, so it is known one sample later.
+/// Keeps two pictures.
+class KXSUBJECT_API KxSignalRecorder
 {
 public:
-    KxSignalTrack(const KxSubjectOptions& options, cv::Size picturePx, double frameRate,
-                  const std::string& faceModelPath);
+    KxSignalRecorder(const KxSubjectOptions& options, cv::Size picturePx, double frameRate,
+                     const KxFaceModels& faceModels);
 
-    /// Makes room for the samples of so many frames at once: hours of them stay in one piece, which does not hold back
-    /// the memory of pictures that come and go.
+    /// Reserves memory for the samples of so many frames: one block, allocated early, does not fragment the memory of
+    /// pictures that come and go.
     void Reserve(std::int64_t frameCount);
 
     /// `picture` is CV_8UC3 (BGR) of the size given at the start; `frame` grows from call to call.
     void AddPicture(std::int64_t frame, const cv::Mat& picture);
 
-    /// Measures what still waits for a later picture. Call once, after the last picture.
+    /// Measures the motion of the last sample. Call once, after the last picture.
     void Finish();
 
-    /// What each signal says at one sample, weighed; faces seen from the shot of frames `first` up to and without
-    /// `end`.
+    /// The weighted evidence of each signal at one sample; for faces, looks in the shot from frame `first` up to, but
+    /// without, `end` count.
     struct Evidence {
         KxSignalProfile motion;
         KxSignalProfile movers;

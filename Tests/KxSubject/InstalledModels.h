@@ -1,0 +1,18 @@
+#pragma once
+
+#include <KxSubject/KxFaceModels.h>
+
+#include <string>
+
+/// Face models that lie on this machine.
+namespace InstalledModels
+{
+/// The bytes of a file; empty if it cannot be read.
+std::string ContentsOf(const std::string& path);
+
+/// OpenCV's cascades; both empty where the package opencv-data is missing.
+KxFaceModels Cascades();
+
+/// The path of a neural face detector beside the source tree, which need not be there.
+std::string DetectorPath();
+} // namespace InstalledModels
