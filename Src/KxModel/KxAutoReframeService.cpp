@@ -1,10 +1,17 @@
 #include <KxModel/KxAutoReframeService.h>
 
+#include <QFileInfo>
+
 namespace
 {
 
-constexpr int stateRunning = 1;
-constexpr int stateEnded = 2;
+constexpr int StateRunning = 1;
+constexpr int StateEnded = 2;
+
+QString FailureMessage(const QString& path, const QString& reason)
+{
+    return QStringLiteral("Cannot analyse %1: %2.").arg(QFileInfo(path).fileName(), reason.simplified());
+}
 
 } // namespace
 
@@ -36,86 +43,113 @@ KxAutoReframeService::~KxAutoReframeService()
 
 bool KxAutoReframeService::StartTask(const QString& path, const IKxAutoReframeParam& param)
 {
-    StopTask(0);
-    auto task = std::make_unique<Task>();
+    bool accepted = false;
+    const KxError failure = KxCallGuarded([&] { accepted = Start(path, param); });
+    if (failure) {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_result = {};
+        m_result.message = FailureMessage(path, *failure);
+    }
+    return accepted;
+}
+
+bool KxAutoReframeService::Start(const QString& path, const IKxAutoReframeParam& param)
+{
+    const auto task = std::make_shared<Task>();
     task->path = path;
     KxAnalysisSettings settings;
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
-        task->key = ++m_lastKey;
+        m_newestStart.Cancel();
+        m_newestStart = task->cancel;
+        task->number = ++m_lastStarted;
         settings = m_settings;
     }
+    WaitForTasks();
+    auto analysis = KxResult<std::unique_ptr<KxAnalysis>>::Failure({});
+    const KxError failure = KxCallGuarded([&] { analysis = m_open(path, param, settings, task->cancel); });
 
-    KxResult<std::unique_ptr<KxAnalysis>> analysis = m_open(path, param, settings, task->cancel);
-    std::unique_lock<std::mutex> lock(m_mutex);
-    while (std::unique_ptr<Task> other = std::move(m_task)) {
-        // Another thread started one meanwhile; the newest start wins.
-        lock.unlock();
-        StopAndJoin(std::move(other));
-        lock.lock();
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    if (task->cancel.IsCancelled()) {
+        // A stop or a newer start came during the opening. It is the same as if it had come right after this call.
+        return true;
     }
     m_resultPath.clear();
     m_result = {};
     if (!analysis) {
-        m_result.message = analysis.Message();
+        m_result.message = failure ? FailureMessage(path, *failure) : analysis.Message();
         return false;
     }
-    task->thread =
-        std::thread([this, key = task->key, path, cancel = task->cancel,
-                     work = std::shared_ptr<KxAnalysis>(std::move(*analysis))] { Run(key, path, cancel, *work); });
-    m_task = std::move(task);
+    task->analysis = std::move(*analysis);
+    if (!m_worker) {
+        m_worker = std::make_unique<KxWorker>(KxWorker::Order::OldestFirst);
+    }
+    m_worker->Add({[this, task](const KxCancelToken&) { RunTask(*task); }, {}});
+    m_lastAdded = task->number;
     return true;
 }
 
-void KxAutoReframeService::Run(qint64 key, const QString& path, const KxCancelToken& cancel, KxAnalysis& analysis)
+void KxAutoReframeService::RunTask(Task& task)
 {
-    KxAnalysis::Result result =
-        analysis.Run([&](int percent) { m_observers.Notify(key, stateRunning, percent, cancel); });
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
-        if (cancel.IsCancelled()) {
+        m_taskThread = std::this_thread::get_id();
+    }
+    const KxError failure = KxCallGuarded([&] { Analyse(task); });
+    if (failure) {
+        KxCallGuarded([&] {
+            KxAnalysis::Result result;
+            result.message = FailureMessage(task.path, *failure);
+            Report(task, std::move(result));
+        });
+    }
+    // The file is closed before anybody learns that the task has ended.
+    task.analysis.reset();
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_taskThread = {};
+    m_lastEnded = task.number;
+    m_taskEnded.notify_all();
+}
+
+void KxAutoReframeService::Analyse(Task& task)
+{
+    KxAnalysis::Result result;
+    if (!task.cancel.IsCancelled()) {
+        result = task.analysis->Run(
+            [&](int percent) { m_observers.Notify(task.number, StateRunning, percent, task.cancel); });
+    }
+    Report(task, std::move(result));
+}
+
+void KxAutoReframeService::Report(const Task& task, KxAnalysis::Result result)
+{
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        if (task.cancel.IsCancelled()) {
             return;
         }
-        m_resultPath = path;
+        m_resultPath = task.path;
         m_result = std::move(result);
     }
-    m_observers.Notify(key, stateEnded, 100, cancel);
+    m_observers.Notify(task.number, StateEnded, 100, task.cancel);
 }
 
-void KxAutoReframeService::StopTask(int)
+void KxAutoReframeService::StopTask(int /*task*/)
 {
-    std::unique_ptr<Task> task;
-    std::vector<std::thread> retired;
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
-        task = std::move(m_task);
-        for (auto thread = m_retired.begin(); thread != m_retired.end();) {
-            if (thread->get_id() == std::this_thread::get_id()) {
-                ++thread;
-                continue;
-            }
-            retired.push_back(std::move(*thread));
-            thread = m_retired.erase(thread);
-        }
+        m_newestStart.Cancel();
     }
-    for (std::thread& thread : retired) {
-        thread.join();
-    }
-    if (task) {
-        StopAndJoin(std::move(task));
-    }
+    WaitForTasks();
 }
 
-void KxAutoReframeService::StopAndJoin(std::unique_ptr<Task> task)
+void KxAutoReframeService::WaitForTasks()
 {
-    task->cancel.Cancel();
-    m_observers.WaitForCallsOf(task->key);
-    if (task->thread.get_id() != std::this_thread::get_id()) {
-        task->thread.join();
+    std::unique_lock<std::mutex> lock(m_mutex);
+    if (m_taskThread == std::this_thread::get_id()) {
         return;
     }
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    m_retired.push_back(std::move(task->thread));
+    m_taskEnded.wait(lock, [this, last = m_lastAdded] { return m_lastEnded >= last; });
 }
 
 int KxAutoReframeService::GetResults(const QString& path, QList<IKxAutoReframeResult>* out)

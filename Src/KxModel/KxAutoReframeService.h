@@ -5,15 +5,22 @@
 #include <KxModel/KxObserverList.h>
 #include <KxModel/KxVideoAnalysis.h>
 
+#include <KxCore/KxWorker.h>
+
 #include <QStringList>
 
-#include <atomic>
+#include <condition_variable>
+#include <functional>
+#include <memory>
+#include <mutex>
+#include <thread>
 
-/// The analysis service: one task at a time, each on a thread of its own.
+/// The analysis service: one task at a time, on a thread of its own. No exception leaves it: what an analysis throws
+/// becomes a failed task with an error message.
 class KXMODEL_API KxAutoReframeService final : public IKxAutoReframeService
 {
 public:
-    /// The one behind getAutoReframeService().
+    /// The service that getAutoReframeService() returns.
     static KxAutoReframeService& Instance();
 
     /// Opens one analysis; KxVideoAnalysis::Open in the product.
@@ -23,7 +30,7 @@ public:
 
     KxAutoReframeService();
     explicit KxAutoReframeService(Open open);
-    /// Stops what runs.
+    /// Stops the running task. Not from an event.
     ~KxAutoReframeService() override;
 
     bool StartTask(const QString& path, const IKxAutoReframeParam& param) override;
@@ -35,38 +42,48 @@ public:
     /// A neural face detector's file for the tasks that start from now on; empty: none. Any thread.
     void SetFaceModel(const QString& path);
 
-    /// Whether the tasks that start from now on leave what they found on the way to the crops; they do not unless
-    /// asked. Any thread.
+    /// Whether the tasks that start from now on keep their intermediate results; by default they do not. Any thread.
     enum class Findings { Drop, Keep };
     void SetFindings(Findings findings);
-    /// Of the last task, as `GetResults`; null when it did not keep them, or is not done. Any thread.
+    /// Of the task whose results `GetResults` returns; null if it did not keep them, or failed. Any thread.
     std::shared_ptr<const KxSubjectFindings> LastFindings() const;
 
-    /// Why the last start was refused or the last task failed; empty when it went well. Any thread.
-    QString LastErrorMessage() const;
-    /// What a person should know of the last finished task. Any thread.
+    /// The error message of the last start if it was refused, or of the last task if it failed; otherwise empty. Any
+    /// thread.
+    QString LastSentence() const;
+    /// What a person should know about the last finished task. Any thread.
     QStringList LastWarnings() const;
 
 private:
+    /// One start and what came of it.
     struct Task {
-        qint64 key = 0;
+        qint64 number = 0;
         QString path;
         KxCancelToken cancel;
-        std::thread thread;
+        std::unique_ptr<KxAnalysis> analysis;
     };
 
-    void Run(qint64 key, const QString& path, const KxCancelToken& cancel, KxAnalysis& analysis);
-    void StopAndJoin(std::unique_ptr<Task> task);
+    bool Start(const QString& path, const IKxAutoReframeParam& param);
+    void RunTask(Task& task);
+    void Analyse(Task& task);
+    /// Keeps the result and reports the end, unless the task was stopped.
+    void Report(const Task& task, KxAnalysis::Result result);
+    /// Returns when every task added so far has ended; at once if called from an event, on the tasks' own thread.
+    void WaitForTasks();
 
     const Open m_open;
     KxObserverList m_observers;
 
     mutable std::mutex m_mutex;
-    qint64 m_lastKey = 0;
-    std::unique_ptr<Task> m_task;
-    /// Threads that could not be joined because they themselves asked to stop.
-    std::vector<std::thread> m_retired;
+    std::condition_variable m_taskEnded;
+    // Guarded by the mutex. Tasks are numbered by their starts; they are added, and end, in the order of their numbers.
+    KxCancelToken m_newestStart;
+    qint64 m_lastStarted = 0;
+    qint64 m_lastAdded = 0;
+    qint64 m_lastEnded = 0;
+    std::thread::id m_taskThread; ///< while a task runs
     KxAnalysisSettings m_settings;
     QString m_resultPath;
     KxAnalysis::Result m_result;
+    std::unique_ptr<KxWorker> m_worker; ///< null until the first task; last, because its jobs use all of the above
 };

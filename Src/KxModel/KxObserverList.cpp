@@ -1,5 +1,8 @@
 #include <KxModel/KxObserverList.h>
 
+#include <KxCore/KxLog.h>
+#include <KxCore/KxThread.h>
+
 #include <algorithm>
 
 void KxObserverList::Add(IKxAutoReframeEventObserver* observer)
@@ -31,23 +34,16 @@ void KxObserverList::Notify(qint64 key, int state, int percent, const KxCancelTo
             continue;
         }
         const std::thread::id self = std::this_thread::get_id();
-        m_calls.push_back({observer, key, self});
+        m_calls.push_back({observer, self});
         lock.unlock();
-        observer->OnAutoReframeEvent(key, state, percent);
+        const KxError failure = KxCallGuarded([&] { observer->OnAutoReframeEvent(key, state, percent); });
+        if (failure) {
+            KX_LOG_WARNING(QStringLiteral("An observer of the analysis failed: %1.").arg(*failure));
+        }
         lock.lock();
         m_calls.erase(std::find_if(m_calls.begin(), m_calls.end(), [observer, self](const Call& call) {
             return call.observer == observer && call.thread == self;
         }));
         m_callEnded.notify_all();
     }
-}
-
-void KxObserverList::WaitForCallsOf(qint64 key)
-{
-    std::unique_lock<std::mutex> lock(m_mutex);
-    m_callEnded.wait(lock, [this, key] {
-        return std::none_of(m_calls.begin(), m_calls.end(), [key](const Call& call) {
-            return call.key == key && call.thread != std::this_thread::get_id();
-        });
-    });
 }

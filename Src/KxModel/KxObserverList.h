@@ -9,26 +9,22 @@
 #include <thread>
 #include <vector>
 
-/// Who hears the events of the service, and which calls to them are running right now. Any thread; no lock is held
-/// during a call.
+/// The observers of the service, and the calls to them that are running right now. Any thread; no lock is held during a
+/// call.
 class KXMODEL_API KxObserverList
 {
 public:
     void Add(IKxAutoReframeEventObserver* observer);
 
-    /// Returns when no call to `observer` is running, other than one on this very thread.
+    /// Returns when no call to `observer` is running, other than one on the calling thread.
     void Remove(IKxAutoReframeEventObserver* observer);
 
-    /// Calls every observer, one after the other. None is called any more once `cancel` is set.
+    /// Calls every observer, one after the other, and none once `cancel` is set. An exception of an observer is logged.
     void Notify(qint64 key, int state, int percent, const KxCancelToken& cancel);
-
-    /// Returns when no call with this key is running, other than one on this very thread.
-    void WaitForCallsOf(qint64 key);
 
 private:
     struct Call {
         IKxAutoReframeEventObserver* observer;
-        qint64 key;
         std::thread::id thread;
     };
 

@@ -29,7 +29,8 @@ class KXMODEL_API IKxAutoReframeService
 {
 public:
     /// Starts to analyse the file `path`. False when the file is no readable video; nothing runs then. No observer is
-    /// called from inside this call. Blocks while the file's header is read.
+    /// called from inside this call. Blocks while the file's header is read. A start that is stopped during that time,
+    /// or followed by a newer one, returns true and runs nothing.
     virtual bool StartTask(const QString& path, const IKxAutoReframeParam& param) = 0;
 
     /// Stops the running task, if any. After it has returned no event of that task comes any more (except that an
