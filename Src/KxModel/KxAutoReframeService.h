@@ -50,7 +50,7 @@ public:
 
     /// The error message of the last start if it was refused, or of the last task if it failed; otherwise empty. Any
     /// thread.
-    QString LastSentence() const;
+    QString LastErrorMessage() const;
     /// What a person should know about the last finished task. Any thread.
     QStringList LastWarnings() const;
 

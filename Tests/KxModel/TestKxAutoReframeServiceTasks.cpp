@@ -161,7 +161,7 @@ TEST_F(KxAutoReframeServiceTasks, AnExceptionInTheAnalysisIsAFailedTaskWithAMess
         ASSERT_TRUE(Start(m_bad));
         ASSERT_TRUE(recorder.WaitForEnds(++ends));
         EXPECT_LT(ResultsOf(m_bad), 0);
-        EXPECT_EQ(m_service.LastSentence(), QStringLiteral("Cannot analyse bad.mp4: %1.").arg(reason));
+        EXPECT_EQ(m_service.LastErrorMessage(), QStringLiteral("Cannot analyse bad.mp4: %1.").arg(reason));
     }
     m_files.Add(m_quick, [](const Progress&) { return Done(); });
     ASSERT_TRUE(Start(m_quick)) << "the service works on";
@@ -174,7 +174,7 @@ TEST_F(KxAutoReframeServiceTasks, AnExceptionWhileOpeningRefusesTheStartWithAMes
     m_files.AddOpening(m_bad,
                        [](const KxCancelToken&) -> KxResult<std::unique_ptr<KxAnalysis>> { throw std::bad_alloc(); });
     EXPECT_FALSE(Start(m_bad));
-    EXPECT_EQ(m_service.LastSentence(), QStringLiteral("Cannot analyse bad.mp4: memory ran out."));
+    EXPECT_EQ(m_service.LastErrorMessage(), QStringLiteral("Cannot analyse bad.mp4: memory ran out."));
 }
 
 TEST_F(KxAutoReframeServiceTasks, AnObserverThatThrowsHarmsNeitherTheTaskNorOtherObservers)
@@ -343,5 +343,5 @@ TEST_F(KxAutoReframeServiceTasks, ARefusedStartStopsTheTaskBeforeIt)
     ASSERT_TRUE(Start(m_slow));
     EXPECT_FALSE(Start(QStringLiteral("text.txt")));
     EXPECT_TRUE(token.get_future().get().IsCancelled());
-    EXPECT_EQ(m_service.LastSentence(), QStringLiteral("text.txt is no video."));
+    EXPECT_EQ(m_service.LastErrorMessage(), QStringLiteral("text.txt is no video."));
 }
