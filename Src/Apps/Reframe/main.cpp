@@ -1,6 +1,7 @@
 #include <Apps/Reframe/ReframeProgram.h>
 #include <KxCore/KxInterrupt.h>
 #include <KxCore/KxSpdlog.h>
+#include <KxMedia/Container/KxAvLog.h>
 
 #include <QGuiApplication>
 #include <QLoggingCategory>
@@ -38,6 +39,7 @@ int main(int argc, char** argv)
     QCoreApplication::setApplicationName(QStringLiteral("reframe"));
     QCoreApplication::setApplicationVersion(QStringLiteral(KR_VERSION));
     KxLogSettings::RouteQtMessages();
+    KxRouteAvLog();
 
     const ReframeOptions::Parsed parsed = Parse(argc, argv);
     if (!parsed.options) {

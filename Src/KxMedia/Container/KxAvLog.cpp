@@ -3,6 +3,7 @@
 #include <KxCore/KxLog.h>
 
 extern "C" {
+#include <libavcodec/avcodec.h>
 #include <libavutil/log.h>
 }
 
@@ -13,9 +14,22 @@ extern "C" {
 namespace
 {
 
+constexpr int MutedOffset = AV_LOG_DEBUG - AV_LOG_ERROR;
+
+// The level that the message had before its context's offset was added.
+int OwnLevel(const void* source, int level)
+{
+    const AVClass* const description = source != nullptr ? *static_cast<const AVClass* const*>(source) : nullptr;
+    if (description == nullptr || description->log_level_offset_offset == 0 || level < AV_LOG_FATAL) {
+        return level;
+    }
+    return level -
+           *reinterpret_cast<const int*>(static_cast<const char*>(source) + description->log_level_offset_offset);
+}
+
 void WriteToLog(void* source, int level, const char* format, va_list arguments)
 {
-    if (level > AV_LOG_ERROR) {
+    if (OwnLevel(source, level) > AV_LOG_ERROR) {
         return;
     }
     std::array<char, 512> line{};
@@ -30,4 +44,9 @@ void KxRouteAvLog()
 {
     static std::once_flag once;
     std::call_once(once, [] { av_log_set_callback(&WriteToLog); });
+}
+
+void KxMuteAvCodec(AVCodecContext& codec)
+{
+    codec.log_level_offset = MutedOffset;
 }

@@ -1,7 +1,6 @@
 #include <KxMedia/Container/KxInputFile.h>
 
 #include <KxMedia/Container/KxAvError.h>
-#include <KxMedia/Container/KxAvLog.h>
 #include <KxMedia/Container/KxClaimedSize.h>
 
 extern "C" {
@@ -20,7 +19,9 @@ namespace
 constexpr const char* Containers =
     "mov,mp4,m4a,3gp,3g2,mj2,matroska,webm,avi,mpegts,mpeg,mpegvideo,flv,asf,ogg,mxf,dv,gif,apng,wtv,yuv4mpegpipe,ivf,"
     "h264,hevc,m4v,h263,vc1,vc1test,mjpeg,obu,av1,dirac,nut,rm,gxf,mp3,wav,w64,flac,aac,ac3,eac3,aiff,amr,caf,au";
-constexpr int MostStreams = 64;
+constexpr unsigned MostStreams = 64;
+// libavformat reports that its own limit was met as memory that ran out.
+constexpr int MostStreamsWhileOpening = 256;
 constexpr int MostReadingErrors = 10;
 constexpr int64_t ProbeBytes = 16 * 1024 * 1024;
 constexpr int64_t ProbeUs = 10 * AV_TIME_BASE;
@@ -67,6 +68,11 @@ QString ReasonToRefuse(const AVInputFormat& format)
     return QStringLiteral("it is not a video file");
 }
 
+QString TooManyStreams()
+{
+    return QStringLiteral("it has more than %1 streams").arg(MostStreams);
+}
+
 bool IsPicture(const AVStream& stream)
 {
     constexpr int stillPictures =
@@ -94,7 +100,6 @@ bool IsBetter(const AVStream& a, const AVStream& b)
 
 KxResult<std::unique_ptr<KxInputFile>> KxInputFile::Open(const QString& path, const KxCancelToken& cancel)
 {
-    KxRouteAvLog();
     std::unique_ptr<KxInputFile> input(new KxInputFile(path, cancel));
     input->m_watch.deadline = std::chrono::steady_clock::now() + OpeningLimit;
     for (const auto step : {&KxInputFile::OpenFile, &KxInputFile::OpenContainer, &KxInputFile::ReadStreamInfo}) {
@@ -127,7 +132,10 @@ QString KxInputFile::Message(const QString& path, const QString& reason)
 
 int KxInputFile::IsInterrupted(void* watch)
 {
-    const Watch& state = *static_cast<const Watch*>(watch);
+    Watch& state = *static_cast<Watch*>(watch);
+    if (state.opening != nullptr) {
+        state.streams = std::max(state.streams, state.opening->nb_streams);
+    }
     return state.cancel.IsCancelled() || (state.deadline && std::chrono::steady_clock::now() > *state.deadline) ? 1 : 0;
 }
 
@@ -194,10 +202,15 @@ KxError KxInputFile::OpenContainer()
     Options options;
     options.Set("format_whitelist", Containers);
     options.Set("protocol_whitelist", "file");
-    options.Set("max_streams", MostStreams);
+    options.Set("max_streams", MostStreamsWhileOpening);
     options.Set("probesize", ProbeBytes);
     options.Set("analyzeduration", ProbeUs);
+    m_watch.opening = context;
     const int error = avformat_open_input(&context, url.constData(), format, options.Get());
+    m_watch.opening = nullptr;
+    if (error == AVERROR(ENOMEM) && m_watch.streams > MostStreams) {
+        return TooManyStreams();
+    }
     if (error < 0) {
         // Guessed by the name alone.
         const bool isGuess = score <= AVPROBE_SCORE_EXTENSION && !IsCancelled();
@@ -207,19 +220,24 @@ KxError KxInputFile::OpenContainer()
     return std::nullopt;
 }
 
+KxError KxInputFile::ReasonToRefuseStreams() const
+{
+    if (m_context->nb_streams > MostStreams) {
+        return TooManyStreams();
+    }
+    for (unsigned i = 0; i < m_context->nb_streams; ++i) {
+        const AVStream& stream = *m_context->streams[i];
+        if (IsTooLarge(stream)) {
+            return QStringLiteral("its pictures are too large (%1 x %2)")
+                .arg(QString::number(stream.codecpar->width), QString::number(stream.codecpar->height));
+        }
+    }
+    return std::nullopt;
+}
+
 KxError KxInputFile::ReadStreamInfo()
 {
-    const auto tooLarge = [this]() -> KxError {
-        for (unsigned i = 0; i < m_context->nb_streams; ++i) {
-            const AVStream& stream = *m_context->streams[i];
-            if (IsTooLarge(stream)) {
-                return QStringLiteral("its pictures are too large (%1 x %2)")
-                    .arg(QString::number(stream.codecpar->width), QString::number(stream.codecpar->height));
-            }
-        }
-        return std::nullopt;
-    };
-    if (KxError reason = tooLarge()) {
+    if (KxError reason = ReasonToRefuseStreams()) {
         return reason;
     }
     const unsigned streams = m_context->nb_streams;
@@ -235,7 +253,8 @@ KxError KxInputFile::ReadStreamInfo()
     if (error < 0 || IsCancelled()) {
         return Failure(error);
     }
-    return tooLarge();
+    m_context->max_streams = MostStreams;
+    return ReasonToRefuseStreams();
 }
 
 void KxInputFile::ChooseStreams()

@@ -52,6 +52,9 @@ private:
     struct Watch {
         KxCancelToken cancel;
         std::optional<std::chrono::steady_clock::time_point> deadline;
+        /// While the container is opened, and how many streams it had at most.
+        const AVFormatContext* opening = nullptr;
+        unsigned streams = 0;
     };
 
     KxInputFile(const QString& path, const KxCancelToken& cancel);
@@ -60,6 +63,7 @@ private:
     KxError ReadStreamInfo();
     void ChooseStreams();
     QString Failure(int error) const;
+    KxError ReasonToRefuseStreams() const;
     static int IsInterrupted(void* watch);
 
     QString m_path;

@@ -1,7 +1,6 @@
 #include <KxMedia/Picture/KxFilterChain.h>
 
 #include <KxMedia/Container/KxAvError.h>
-#include <KxMedia/Container/KxAvLog.h>
 
 extern "C" {
 #include <libavfilter/buffersink.h>
@@ -49,7 +48,6 @@ KxError Told(int error)
 KxResult<KxFilterChain> KxFilterChain::Make(const char* steps, const AVFrame& picture)
 {
     using Result = KxResult<KxFilterChain>;
-    KxRouteAvLog();
     KxFilterChain chain;
     chain.m_size = QSize(picture.width, picture.height);
     chain.m_format = picture.format;

@@ -1,6 +1,7 @@
 #include <KxMedia/Read/KxAudioTrack.h>
 
 #include <KxMedia/Container/KxAvError.h>
+#include <KxMedia/Container/KxAvLog.h>
 
 extern "C" {
 #include <libavutil/channel_layout.h>
@@ -36,6 +37,7 @@ KxResult<std::unique_ptr<KxAudioTrack>> KxAudioTrack::Open(std::unique_ptr<KxInp
     if (!context || avcodec_parameters_to_context(context.get(), stream.codecpar) < 0) {
         return Result::Failure(KxAvErrorText(AVERROR(ENOMEM)));
     }
+    KxMuteAvCodec(*context);
     context->pkt_timebase = stream.time_base;
     context->thread_count = 1;
     if (avcodec_open2(context.get(), codec, nullptr) < 0) {

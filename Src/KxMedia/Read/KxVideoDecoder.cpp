@@ -1,6 +1,7 @@
 #include <KxMedia/Read/KxVideoDecoder.h>
 
 #include <KxMedia/Container/KxAvError.h>
+#include <KxMedia/Container/KxAvLog.h>
 
 #include <algorithm>
 #include <thread>
@@ -40,6 +41,7 @@ KxResult<std::unique_ptr<KxVideoDecoder>> KxVideoDecoder::Open(KxVideoPackets& p
     if (!context || avcodec_parameters_to_context(context.get(), &parameters) < 0) {
         return Result::Failure(KxAvErrorText(AVERROR(ENOMEM)));
     }
+    KxMuteAvCodec(*context);
     context->pkt_timebase = packets.TimeBase();
     context->thread_count = ThreadCount(effort);
     context->max_pixels = KxInputFile::LargestPicturePixels;

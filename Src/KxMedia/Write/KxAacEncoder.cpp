@@ -1,6 +1,7 @@
 #include <KxMedia/Write/KxAacEncoder.h>
 
 #include <KxMedia/Container/KxAvError.h>
+#include <KxMedia/Container/KxAvLog.h>
 
 #include <algorithm>
 #include <cmath>
@@ -44,6 +45,7 @@ KxResult<std::unique_ptr<KxAacEncoder>> KxAacEncoder::Open(const KxAudioReader::
     if (context == nullptr || frame == nullptr || packet == nullptr) {
         return Opened::Failure(KxAvErrorText(AVERROR(ENOMEM)));
     }
+    KxMuteAvCodec(*context);
     context->sample_fmt = AV_SAMPLE_FMT_FLTP;
     context->sample_rate = format.sampleRateHz;
     context->time_base = AVRational{1, format.sampleRateHz};

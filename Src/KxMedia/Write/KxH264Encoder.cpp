@@ -1,6 +1,7 @@
 #include <KxMedia/Write/KxH264Encoder.h>
 
 #include <KxMedia/Container/KxAvError.h>
+#include <KxMedia/Container/KxAvLog.h>
 
 extern "C" {
 #include <libavutil/opt.h>
@@ -76,6 +77,7 @@ KxResult<std::unique_ptr<KxH264Encoder>> KxH264Encoder::Open(const Settings& set
     if (context == nullptr || frame == nullptr || packet == nullptr) {
         return Opened::Failure(KxAvErrorText(AVERROR(ENOMEM)));
     }
+    KxMuteAvCodec(*context);
     SetUp(*context, settings, first);
     int error = av_opt_set(context->priv_data, "preset", settings.preset.toLatin1().constData(), 0);
     if (error >= 0) {

@@ -1,7 +1,6 @@
 #include <KxMedia/Write/KxMp4Writer.h>
 
 #include <KxMedia/Container/KxAvError.h>
-#include <KxMedia/Container/KxAvLog.h>
 #include <KxMedia/Container/KxMp4Muxer.h>
 #include <KxMedia/Write/KxAacEncoder.h>
 #include <KxMedia/Write/KxH264Encoder.h>
@@ -165,7 +164,6 @@ KxMp4Writer::~KxMp4Writer() = default;
 KxResult<std::unique_ptr<KxMp4Writer>> KxMp4Writer::Open(const Settings& settings)
 {
     using Opened = KxResult<std::unique_ptr<KxMp4Writer>>;
-    KxRouteAvLog();
     if (KxError error = Check(settings)) {
         return Opened::Failure(*error);
     }
