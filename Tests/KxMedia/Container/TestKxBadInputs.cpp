@@ -1,5 +1,6 @@
 #include <Tests/KxMedia/Read/ReadClips.h>
 
+#include <KxMedia/Container/KxAvLog.h>
 #include <KxMedia/Read/KxVideoScanner.h>
 
 #include <QDir>
@@ -15,6 +16,9 @@ using ReadClips::Words;
 
 namespace
 {
+
+// What libav* reports of bad files would hide what the tests report.
+const bool IsLogRouted = (KxRouteAvLog(), true);
 
 QString Written(const QString& name, const QByteArray& contents)
 {
@@ -167,6 +171,27 @@ TEST(KxBadInputs, PicturesThatAreTooLarge)
     clip.replace(entry + 28, 4, QByteArray::fromHex("40004000"));
     EXPECT_EQ(Message(Written(QStringLiteral("huge.mp4"), clip)),
               "Cannot open huge.mp4: its pictures are too large (16384 x 16384).");
+}
+
+TEST(KxBadInputs, MoreStreamsThanAnyoneUses)
+{
+    const QString path = Path(QStringLiteral("streams.mov"));
+    QStringList maps = Words("-f lavfi -i color=red:s=64x64:d=0.2 -f lavfi -i sine=sample_rate=8000:d=0.1 -map 0");
+    for (int i = 0; i < 64; ++i) {
+        maps += Words("-map 1");
+    }
+    const QStringList codecs = Words("-c:v libx264 -c:a pcm_u8");
+    ASSERT_TRUE(MadeVideo::RunFfmpeg(maps + codecs << path));
+    EXPECT_EQ(Sentence(path), "Cannot open streams.mov: it has more than 64 streams.");
+
+    ASSERT_TRUE(MadeVideo::RunFfmpeg(maps.mid(0, maps.size() - 2) + codecs << path));
+    EXPECT_NE(ReadClips::OpenReader(path), nullptr);
+
+    for (int i = 0; i < 250; ++i) {
+        maps += Words("-map 1");
+    }
+    ASSERT_TRUE(MadeVideo::RunFfmpeg(maps + codecs << path));
+    EXPECT_EQ(Sentence(path), "Cannot open streams.mov: it has more than 64 streams.");
 }
 
 TEST(KxBadInputs, RandomBytesBehindAVideosHeader)
