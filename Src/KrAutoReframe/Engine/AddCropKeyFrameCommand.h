@@ -1,16 +1,15 @@
 #pragma once
 
-#include <KrAutoReframe/Engine/KrEditSegment.h>
+#include <KrAutoReframe/Engine/KrSegmentChange.h>
 
-#include <QList>
 #include <QMap>
 #include <QRectF>
 #include <QUndoCommand>
 
 class KrAutoReframeHelper;
 
-/// Sets an edit point: the user's rectangle at one frame. Each redo takes a snapshot of the helper's edits first, and
-/// undo puts it back, because two edits may have grown into one segment that cannot be taken apart again by rule.
+/// Sets an edit point: the user's rectangle at one frame. Each redo saves what it replaces in the helper's edits, and
+/// undo puts that back: two edits that were merged into one segment cannot be separated again by rule.
 ///
 /// Owned by the helper's undo stack. User-interface thread.
 class AddCropKeyFrameCommand : public QUndoCommand
@@ -26,7 +25,8 @@ public:
 private:
     Q_DISABLE_COPY_MOVE(AddCropKeyFrameCommand)
 
-    QList<KrEditSegment> m_savedSegments;
+    KrSegmentChange m_savedSegments;
+    /// The edit point at m_frame before the last redo, if there was one.
     QMap<uint, QRectF> m_savedEditPoints;
     uint m_from = 0;
     uint m_to = 0;

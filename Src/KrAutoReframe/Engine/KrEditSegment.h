@@ -16,15 +16,20 @@ struct KrEditSegment {
     /// Last frame of the range.
     uint End() const { return start + static_cast<uint>(length); }
 
-    /// Takes the range and the points of `other` in when the two ranges overlap or touch; else changes nothing and
-    /// returns false. Where both start at one frame, `other` counts as the lower of the two.
+    /// Adds the range and the points of `other` if the two ranges overlap or touch; otherwise changes nothing and
+    /// returns false. If both start at the same frame, `other` counts as the lower of the two.
     bool Merge(const KrEditSegment& other);
 
-    /// Takes the edit point at `frame` out; false when the range has none there. What is left of the range:
+    /// Removes the edit point at `frame`; false when the range has none there. The remaining range:
     /// 1. the only point: frame 0 alone, without points;
-    /// 2. the first of several: the range starts half way to the next point, rounded down, and ends where it did;
-    /// 3. the last of several: the range ends half way from the previous point, rounded up, and starts where it did;
+    /// 2. the first of several: the range starts halfway to the next point, rounded down, and its end stays;
+    /// 3. the last of several: the range ends halfway from the previous point, rounded up, and its start stays;
     /// 4. any other: the range stays.
-    /// Half ways are found in single precision, as exact as a clip of up to 16 million frames needs.
+    /// Midpoints are computed in single precision, which is exact for clips of up to 16 million frames.
     bool RemovePoint(uint frame);
+
+    bool operator==(const KrEditSegment& other) const
+    {
+        return start == other.start && length == other.length && points == other.points;
+    }
 };

@@ -1,15 +1,14 @@
 #pragma once
 
-#include <KrAutoReframe/Engine/KrEditSegment.h>
+#include <KrAutoReframe/Engine/KrSegmentChange.h>
 
-#include <QList>
 #include <QMap>
 #include <QRectF>
 #include <QUndoCommand>
 
 class KrAutoReframeHelper;
 
-/// Deletes an edit point. Each redo takes a snapshot of the helper's edits first, and undo puts it back.
+/// Deletes an edit point. Each redo saves what it replaces in the helper's edits, and undo puts that back.
 ///
 /// Owned by the helper's undo stack. User-interface thread.
 class RemoveCropKeyFrameCommand : public QUndoCommand
@@ -25,7 +24,8 @@ public:
 private:
     Q_DISABLE_COPY_MOVE(RemoveCropKeyFrameCommand)
 
-    QList<KrEditSegment> m_savedSegments;
+    KrSegmentChange m_savedSegments;
+    /// The edit point at m_frame before the last redo, if there was one.
     QMap<uint, QRectF> m_savedEditPoints;
     uint m_from = 0;
     uint m_to = 0;

@@ -6,10 +6,26 @@
 
 #include <gtest/gtest.h>
 
+#include <random>
+
+#if defined(__GLIBC__)
+#include <malloc.h>
+#endif
+
 namespace
 {
 
 constexpr int WaitMs = 60000;
+/// Two hours at 30 frames a second.
+constexpr uint LongClip = 216000;
+
+#if defined(__GLIBC__)
+qint64 AllocatedBytes()
+{
+    const struct mallinfo2 info = mallinfo2();
+    return static_cast<qint64>(info.uordblks + info.hblkhd);
+}
+#endif
 
 class TestCropKeyFrameCommands : public testing::Test, protected HelperFixture
 {
@@ -35,6 +51,27 @@ protected:
             shown += QStringLiteral("%1 ").arg(result.cropRect().x(), 0, 'f', 6);
         }
         return texts.join(QLatin1Char('\n')) + QLatin1Char('\n') + shown;
+    }
+
+    /// The display as its rule gives it from the segments, the results and the keyframes that the host has.
+    void ExpectDisplayIsComplete() const
+    {
+        QList<QRectF> expected;
+        for (const IKxAutoReframeResult& result : helper->GetResults()) {
+            expected.append(result.cropRect());
+        }
+        for (const KrEditSegment& segment : KrAutoReframeHelperPeer::Segments(*helper)) {
+            for (uint frame = segment.start; frame <= segment.End(); ++frame) {
+                KxCropPanZoomKeyFrameParam shown;
+                ASSERT_TRUE(WorkKeyFrames().interpolatedParam(frame, &shown));
+                expected[static_cast<int>(frame)] = shown.cropRect;
+            }
+        }
+        ASSERT_EQ(helper->GetDisplayResults().size(), expected.size());
+        for (int frame = 0; frame < expected.size(); ++frame) {
+            const QRectF rect = helper->GetDisplayResults().at(frame).cropRect();
+            ASSERT_NEAR(rect.x(), expected.at(frame).x(), 1e-12) << frame << "; " << Segments().toStdString();
+        }
     }
 
     QString CanUndoRedo(const QSignalSpy& spy) const
@@ -265,5 +302,59 @@ TEST_F(TestCropKeyFrameCommands, ManyStepsComeBackOneByOne)
     while (!states.isEmpty()) {
         helper->Undo();
         EXPECT_EQ(State(), states.takeLast());
+    }
+}
+
+#if defined(__GLIBC__) && !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
+TEST_F(TestCropKeyFrameCommands, ThreeThousandEditsOfALongClipTakeLessThan50Megabytes)
+{
+    constexpr uint Edits = 3000;
+    constexpr qint64 MostBytes = 50'000'000;
+    // Apart, each edit has a segment of its own; together, all share one.
+    for (const uint distance : {LongClip / Edits, 2u}) {
+        OpenAndApply(LongClip);
+        const qint64 before = AllocatedBytes();
+        for (uint edit = 0; edit < Edits; ++edit) {
+            helper->AddKeyFrame(edit * distance, Rect(0.5));
+        }
+        EXPECT_EQ(helper->GetEditPointFrames().size(), static_cast<int>(Edits));
+        EXPECT_LT(AllocatedBytes() - before, MostBytes) << "at a distance of " << distance << " frames";
+        for (uint edit = 0; edit < Edits; ++edit) {
+            helper->Undo();
+        }
+        EXPECT_EQ(Segments(), QString());
+        EXPECT_EQ(PushedFrames(), QStringLiteral("0..215999"));
+        // The edits took keyframes out; with all of them back, only the undo stack is left to count.
+        EXPECT_LT(AllocatedBytes() - before, MostBytes) << "at a distance of " << distance << " frames";
+    }
+}
+#endif
+
+TEST_F(TestCropKeyFrameCommands, AnyOrderOfStepsLeavesTheDisplayComplete)
+{
+    OpenAndApply(600);
+    std::mt19937 random(1);
+    const auto pick = [&random](int count) { return static_cast<uint>(random() % static_cast<unsigned>(count)); };
+    for (int step = 0; step < 400; ++step) {
+        const QList<uint> points = helper->GetEditPointFrames();
+        switch (pick(5)) {
+        case 0:
+            helper->Undo();
+            break;
+        case 1:
+            helper->Redo();
+            break;
+        case 2:
+            if (!points.isEmpty()) {
+                helper->RemoveKeyFrame(points.at(static_cast<int>(pick(points.size()))));
+            }
+            break;
+        default:
+            helper->AddKeyFrame(pick(600), Rect(pick(750) / 1000.0));
+        }
+        ExpectDisplayIsComplete();
+        if (HasFatalFailure()) {
+            FAIL() << "step " << step;
+        }
     }
 }

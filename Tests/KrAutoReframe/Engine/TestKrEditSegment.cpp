@@ -1,4 +1,5 @@
 #include <KrAutoReframe/Engine/KrEditSegment.h>
+#include <KrAutoReframe/Engine/KrSegmentChange.h>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -180,4 +181,35 @@ TEST(TestKrEditSegment, PointsOnBothEndsOfTheRangeBelongToIt)
     EXPECT_TRUE(segment.RemovePoint(30));
     EXPECT_TRUE(segment.RemovePoint(10));
     EXPECT_THAT(segment.points, IsEmpty());
+}
+
+TEST(TestKrSegmentChange, HoldsOnlyWhatWasReplacedAndTakesItBack)
+{
+    const KrEditSegment a{0, 10, {5}};
+    const KrEditSegment b{20, 10, {25}};
+    const KrEditSegment c{40, 10, {45}};
+    const KrEditSegment merged{15, 40, {25, 35, 45}};
+    const struct {
+        QList<KrEditSegment> before;
+        QList<KrEditSegment> after;
+        int replacedCount;
+    } cases[] = {
+        {{}, {}, 0},
+        {{}, {a}, 0},
+        {{a}, {}, 1},
+        {{a, b}, {a, b}, 0},
+        {{a, c}, {a, b, c}, 0},
+        {{a, b, c}, {a, c}, 1},
+        {{a, b, c}, {a, merged}, 2},
+        {{a, a, b}, {a, b}, 1},
+        {{a, b}, {a, a, b}, 0},
+        {{a, b, c}, {c, b, a}, 3},
+    };
+    for (const auto& example : cases) {
+        const KrSegmentChange change = KrSegmentChange::Between(example.before, example.after);
+        EXPECT_EQ(change.replaced.size(), example.replacedCount);
+        QList<KrEditSegment> segments = example.after;
+        change.Revert(&segments);
+        EXPECT_EQ(segments, example.before);
+    }
 }
