@@ -3,6 +3,9 @@
 #include <QGuiApplication>
 #include <QScreen>
 #include <QWindow>
+#if defined(KX_HAS_X11)
+#include <QX11Info>
+#endif
 
 double KxScreen::devicePixelRatio() const
 {
@@ -17,6 +20,24 @@ double KxScreen::devicePixelRatio() const
 void KxScreen::setDevicePixelRatio(std::optional<double> ratio)
 {
     m_ratio = ratio;
+}
+
+bool KxScreen::canOverlayWindows() const
+{
+    if (m_canOverlay) {
+        return *m_canOverlay;
+    }
+#if defined(KX_HAS_X11)
+    if (QX11Info::isPlatformX11()) {
+        return QX11Info::isCompositingManagerRunning();
+    }
+#endif
+    return !QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
+}
+
+void KxScreen::setCanOverlayWindows(std::optional<bool> can)
+{
+    m_canOverlay = can;
 }
 
 template<>

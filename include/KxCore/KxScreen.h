@@ -17,8 +17,17 @@ public:
     /// its windows by itself.
     void setDevicePixelRatio(std::optional<double> ratio);
 
+    /// Whether a translucent window of the program can lie over another one. False under X11 without a compositing
+    /// manager, where it would be opaque, and under Wayland, where it cannot be placed.
+    bool canOverlayWindows() const;
+
+    /// From now on this is reported instead of what the platform supports; without a value the platform's answer again.
+    /// For a host that composes its windows itself.
+    void setCanOverlayWindows(std::optional<bool> can);
+
 private:
     std::optional<double> m_ratio;
+    std::optional<bool> m_canOverlay;
 };
 
 template<>
