@@ -23,6 +23,11 @@ namespace
 // The player fits its picture into a frame of this aspect.
 const QSize PlayerFrame(1920, 1080);
 
+ShadowForm::Kind OverlayKind()
+{
+    return KxSingleton<KxScreen>::instance()->canOverlayWindows() ? ShadowForm::Kind::Window : ShadowForm::Kind::Child;
+}
+
 bool IsSameRect(const QRectF& a, const QRectF& b)
 {
     return qFuzzyCompare(a.x(), b.x()) && qFuzzyCompare(a.y(), b.y()) && qFuzzyCompare(a.width(), b.width()) &&
@@ -49,7 +54,7 @@ KrAutoReframePlayerView::KrAutoReframePlayerView(const QSharedPointer<KrAutoRefr
     m_playerWidget = mediaPlayerFactory()->createPlayerWidget(this);
     m_presenter = m_playerWidget->getOrCreatePresenter();
     m_controlBar = new KrAutoReframePlayerControlBar(m_presenter, this);
-    m_shadowForm = new ShadowForm(this);
+    m_shadowForm = new ShadowForm(this, OverlayKind());
     m_shadowForm->hide();
     InitLayout();
     ConnectSignals();
@@ -138,7 +143,7 @@ void KrAutoReframePlayerView::UpdateOverlayGeometry()
         ratio = 1.0;
     }
     const QRect video = m_presenter->mediaPlayer()->videoRect();
-    m_shadowForm->move(mapToGlobal(video.topLeft()));
+    m_shadowForm->move(m_shadowForm->isWindow() ? mapToGlobal(video.topLeft()) : video.topLeft());
     m_shadowForm->setFixedSize(qRound(video.width() / ratio), qRound(video.height() / ratio));
 }
 

@@ -38,9 +38,9 @@ public:
     /// only. Without `fromStart` the player goes on at the frame that it showed. False, with nothing done, when there
     /// are no results.
     bool SwitchTimeline(bool reframed, bool fromStart);
-    /// Lays the overlay over the video picture. Whoever moves the window calls it, as the overlay is a window of its
-    /// own. The picture's place is taken as the player tells it, only its size is turned from device pixels into the
-    /// window's.
+    /// Places the overlay over the video picture. Call it when the dialog was moved: the overlay is a window of its
+    /// own, unless windows cannot overlay each other. The picture's position is used as the player reports it; only its
+    /// size is converted from device pixels.
     void UpdateOverlayGeometry();
     /// Sizes what stands for the picture in the overlay.
     void UpdatePictureSize();

@@ -6,8 +6,23 @@
 #include <QPainter>
 #include <QVBoxLayout>
 
-ShadowForm::ShadowForm(QWidget* parent)
-    : QWidget(parent, Qt::Tool | Qt::FramelessWindowHint | Qt::WindowDoesNotAcceptFocus)
+namespace
+{
+
+constexpr QColor Shade(0, 0, 0, 142);
+
+Qt::WindowFlags FlagsOf(ShadowForm::Kind kind)
+{
+    if (kind == ShadowForm::Kind::Child) {
+        return Qt::Widget;
+    }
+    return Qt::Tool | Qt::FramelessWindowHint | Qt::WindowDoesNotAcceptFocus;
+}
+
+} // namespace
+
+ShadowForm::ShadowForm(QWidget* parent, Kind kind)
+    : QWidget(parent, FlagsOf(kind))
 {
     setObjectName(QStringLiteral("KrAutoReframe_overlay"));
     setAttribute(Qt::WA_TranslucentBackground);
@@ -66,19 +81,35 @@ QRect ShadowForm::CropPixels() const
 void ShadowForm::paintEvent(QPaintEvent*)
 {
     const QRect crop = CropPixels();
-    // Not fully transparent, else the system would hand the mouse over the crop to the window below.
-    const QColor almostClear(0, 0, 0, 1);
-
     QPainter painter(this);
     painter.save();
-    painter.fillRect(rect(), QColor(0, 0, 0, 142));
     painter.setPen(QPen(m_editedFrame ? QColor(0xFF, 0x8B, 0x55) : QColor(0x55, 0xE5, 0xC5), 1));
+    if (isWindow()) {
+        PaintOverWindow(painter, crop);
+    } else {
+        PaintOverParent(painter, crop);
+    }
+    painter.drawRects(&crop, 1);
+    painter.restore();
+}
+
+void ShadowForm::PaintOverWindow(QPainter& painter, const QRect& crop) const
+{
+    // Not fully transparent: otherwise the system would send mouse events over the crop to the window below.
+    const QColor almostClear(0, 0, 0, 1);
+    painter.fillRect(rect(), Shade);
     painter.setCompositionMode(QPainter::CompositionMode_Clear);
     painter.fillRect(crop, almostClear);
     painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
     painter.fillRect(crop, almostClear);
-    painter.drawRects(&crop, 1);
-    painter.restore();
+}
+
+void ShadowForm::PaintOverParent(QPainter& painter, const QRect& crop) const
+{
+    // A child shares its parent's pixels, so nothing may be cleared.
+    painter.setClipRegion(QRegion(rect()) - crop);
+    painter.fillRect(rect(), Shade);
+    painter.setClipping(false);
 }
 
 void ShadowForm::mousePressEvent(QMouseEvent* event)

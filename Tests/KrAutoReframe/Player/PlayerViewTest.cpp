@@ -27,6 +27,7 @@ PlayerViewTest::~PlayerViewTest()
     helper.reset();
     FakeHost::Reset();
     KxSingleton<KxScreen>::instance()->setDevicePixelRatio(std::nullopt);
+    KxSingleton<KxScreen>::instance()->setCanOverlayWindows(std::nullopt);
 }
 
 void PlayerViewTest::Open(const QSize& resolution)

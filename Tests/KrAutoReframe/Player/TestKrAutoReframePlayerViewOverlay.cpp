@@ -41,6 +41,25 @@ TEST_F(PlayerViewTest, ADevicePixelRatioOfZeroCountsAsOne)
     EXPECT_EQ(overlay->size(), QSize(600, 300));
 }
 
+TEST_F(PlayerViewTest, TheOverlayIsAChildWhereWindowsCannotLieOverEachOther)
+{
+    KxSingleton<KxScreen>::instance()->setCanOverlayWindows(false);
+    Open(QSize(1920, 1080));
+    EXPECT_FALSE(overlay->isVisible());
+    ShowCrop();
+    EXPECT_FALSE(overlay->isWindow());
+    EXPECT_EQ(overlay->parentWidget(), view.get());
+    EXPECT_TRUE(overlay->isVisible());
+    view->move(100, 50);
+    KxSingleton<KxScreen>::instance()->setDevicePixelRatio(2.0);
+    Script().videoRect = QRect(10, 20, 601, 301);
+    view->UpdateOverlayGeometry();
+    EXPECT_EQ(overlay->geometry(), QRect(10, 20, 301, 151));
+    EXPECT_EQ(view->childAt(20, 30), &Picture());
+    view->SwitchTimeline(true, false);
+    EXPECT_FALSE(overlay->isVisible());
+}
+
 TEST_F(PlayerViewTest, AHiddenOverlayKeepsItsPlace)
 {
     ShowCrop();

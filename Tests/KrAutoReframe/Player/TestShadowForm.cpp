@@ -131,6 +131,50 @@ TEST_F(ShadowFormTest, PaintsACropOfTheWholePicture)
     ExpectPainted(Paint(*form), QRect(0, 0, 400, 200), QColor(0x55, 0xE5, 0xC5));
 }
 
+TEST_F(ShadowFormTest, AsAChildItLeavesTheCropOfWhatLiesBelowClear)
+{
+    QWidget picture;
+    picture.setPalette(QPalette(Qt::white));
+    picture.setFixedSize(Picture);
+    auto* const child = new ShadowForm(&picture, ShadowForm::Kind::Child);
+    EXPECT_FALSE(child->isWindow());
+    EXPECT_EQ(child->focusPolicy(), Qt::NoFocus);
+    child->GetPictureLabel()->setFixedSize(Picture);
+    child->setFixedSize(Picture);
+    child->SetCropRect(Crop);
+    const QImage painted = picture.grab().toImage();
+    const QRect crop(100, 50, 100, 100);
+    const QRect hole = crop.adjusted(1, 1, -1, -1);
+    const QColor dimmed(113, 113, 113);
+    for (int y = 0; y < painted.height(); ++y) {
+        for (int x = 0; x < painted.width(); ++x) {
+            const QColor expected = hole.contains(x, y)   ? QColor(Qt::white)
+                                    : crop.contains(x, y) ? QColor(0x55, 0xE5, 0xC5)
+                                                          : dimmed;
+            ASSERT_EQ(painted.pixelColor(x, y), expected) << "at " << x << ", " << y;
+        }
+    }
+}
+
+TEST_F(ShadowFormTest, AsAChildItIsDraggedAsWell)
+{
+    QWidget picture;
+    picture.setFixedSize(Picture);
+    form = std::make_unique<ShadowForm>(&picture, ShadowForm::Kind::Child);
+    form->GetPictureLabel()->setFixedSize(Picture);
+    form->setFixedSize(Picture);
+    form->SetCropRect(Crop);
+    picture.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&picture));
+    QSignalSpy dragged(form.get(), &ShadowForm::sigRectFChanged);
+    PressAt(Inside);
+    MoveHeld(*form, Inside + QPoint(30, 20));
+    Release(*form, Inside + QPoint(30, 20));
+    EXPECT_EQ(dragged.count(), 1);
+    ExpectCrop(130, 70);
+    form.reset();
+}
+
 TEST_F(ShadowFormTest, APressInsideTellsSo)
 {
     Press(*form, Inside);
