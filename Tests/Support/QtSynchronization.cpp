@@ -14,6 +14,8 @@
 #include <dlfcn.h>
 #include <sanitizer/tsan_interface.h>
 
+#include <utility>
+
 namespace
 {
 
@@ -33,8 +35,10 @@ public:
     explicit HandedOver(QRunnable* task)
         : m_task(task)
     {
-        __tsan_release(this);
     }
+
+    bool IsOf(const QRunnable* task) const { return m_task == task; }
+    void Release() { __tsan_release(this); }
 
     void run() override
     {
@@ -48,6 +52,9 @@ public:
 private:
     QRunnable* const m_task;
 };
+
+// Made for a future that this thread is about to start.
+thread_local HandedOver* s_handedOver = nullptr;
 
 } // namespace
 
@@ -84,10 +91,24 @@ void QMutex::unlock() noexcept
     next(this);
 }
 
+// A future takes its task back from the pool where nobody has begun it, so it has to know what the pool was given.
+void QFutureInterfaceBase::setRunnable(QRunnable* runnable)
+{
+    static const auto next =
+        Next<void (*)(QFutureInterfaceBase*, QRunnable*)>("_ZN20QFutureInterfaceBase11setRunnableEP9QRunnable");
+    s_handedOver = new HandedOver(runnable);
+    next(this, s_handedOver);
+}
+
 void QThreadPool::start(QRunnable* runnable, int priority)
 {
     static const auto next = Next<void (*)(QThreadPool*, QRunnable*, int)>("_ZN11QThreadPool5startEP9QRunnablei");
-    next(this, new HandedOver(runnable), priority);
+    HandedOver* task = std::exchange(s_handedOver, nullptr);
+    if (task == nullptr || !task->IsOf(runnable)) {
+        task = new HandedOver(runnable);
+    }
+    task->Release();
+    next(this, task, priority);
 }
 
 // The watcher gets the end of a task as an event.
