@@ -180,6 +180,8 @@ def main():
         with tempfile.TemporaryDirectory(prefix='hostile-') as folder:
             fault = run.perform(program, sanitized, folder)
             kept = keep(run, fault, folder, findings) if fault or arguments.only is not None else None
+        # The peak memory of a new process starts from that of this one, so this one stays small.
+        run.files.clear()
         return run, fault, kept
 
     if arguments.only is None and not reads_undamaged(program, inputs):
