@@ -1,4 +1,4 @@
-"""A desktop of its own for a program under test: X server, window manager, compositor. Ends what it started."""
+"""A desktop for one program under test: X server, window manager, compositor. Ends what it started."""
 
 import os
 import subprocess
@@ -6,15 +6,16 @@ import time
 
 
 class Desktop:
-    def __init__(self, folder, size="1600x1000"):
+    def __init__(self, folder, size="1600x1000", composites=True):
         self.folder = folder
         self.size = size
+        self.composites = composites
         self.processes = []
 
     def __enter__(self):
         read_end, write_end = os.pipe()
-        # The server chooses a free number and says it once it takes clients.
-        # Without -noreset it begins anew, and turns clients away, whenever its last client leaves.
+        # The server chooses a free number and writes it when it accepts clients. Without -noreset it would restart, and
+        # refuse clients meanwhile, whenever its last client leaves.
         self._start("Xvfb", ["-displayfd", str(write_end), "-noreset", "-screen", "0", self.size + "x24", "-dpi", "96"],
                     os.environ, (write_end,))
         os.close(write_end)
@@ -25,12 +26,13 @@ class Desktop:
         os.makedirs(runtime, mode=0o700, exist_ok=True)
         self.environment = dict(os.environ, DISPLAY=":" + number, XDG_RUNTIME_DIR=runtime, QT_QPA_PLATFORM="xcb",
                                 QT_FONT_DPI="96", QT_ACCESSIBILITY="0", DBUS_SESSION_BUS_ADDRESS="disabled:")
-        for name in ("QT_STYLE_OVERRIDE", "QT_QPA_PLATFORMTHEME", "QT_SCALE_FACTOR", "WAYLAND_DISPLAY"):
+        for name in ("QT_STYLE_OVERRIDE", "QT_QPA_PLATFORMTHEME", "QT_SCALE_FACTOR", "WAYLAND_DISPLAY", "XDG_SESSION_TYPE"):
             self.environment.pop(name, None)
         self._start("openbox", ["--sm-disable"], self.environment)
-        self._start("picom", ["--backend", "xrender"], self.environment)
         self._wait_for("the window manager", ["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"], "window id")
-        self._wait_for("the compositor", ["xwininfo", "-root", "-tree"], '"picom"')
+        if self.composites:
+            self._start("picom", ["--backend", "xrender"], self.environment)
+            self._wait_for("the compositor", ["xwininfo", "-root", "-tree"], '"picom"')
         return self
 
     def __exit__(self, *_):

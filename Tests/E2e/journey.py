@@ -1,8 +1,11 @@
 #!/usr/bin/env python3
 """The whole journey of a person through the desktop program, with a real mouse and real keys.
 
-journey.py PROGRAM FOLDER [VIDEO]: pictures of every step stay in FOLDER. Without VIDEO all is done on footage made for it,
-with VIDEO analysis and export are cancelled and the program is interrupted.
+journey.py PROGRAM FOLDER NAME [VIDEO]: pictures of every step stay in FOLDER. The journeys by NAME:
+  whole       import, analysis, edits, export and quitting, on footage made for it
+  cancelling  analysis and export of VIDEO are cancelled, the program is interrupted
+  plain       analysis and preview on a desktop without a compositor
+  dense       the first window on a screen of scale 2, in a session that also offers Wayland
 """
 
 import fcntl
@@ -13,6 +16,7 @@ import sys
 import time
 
 import footage
+import short_journeys
 from desktop import Desktop
 from screen import Screen
 
@@ -197,6 +201,19 @@ class Journey:
     def expect_edit_at(self, left):
         self.screen.until(lambda: abs(self.outline(EDITED)[0] - left) < 0.01, f"an edited crop at {left}", fresh=False)
 
+    def expect_video(self, name):
+        """The player of that class shows the ramp of the footage: darker at its left than at its right."""
+        def look(report):
+            player = next((widget["rect"] for widget in report["widgets"] if widget["class"] == name), None)
+            if player is None:
+                return False
+            x, y, width, height = player
+            row = self.screen.pixels((x, y + height // 10, width, 1))[0]
+            greys = [pixel[1] for pixel in row if max(pixel) - min(pixel) < 12 and pixel[1] > 35]
+            fifth = len(greys) // 5
+            return fifth > 10 and sum(greys[-fifth:]) - sum(greys[:fifth]) > 20 * fifth
+        self.screen.until(look, "the video on the screen")
+
     def switch_preview(self):
         screen = self.screen
         switch = "KrAutoReframePropertyPanel_previewSwitch"
@@ -335,8 +352,7 @@ class Journey:
 
 
 def main():
-    program, folder = sys.argv[1], os.path.abspath(sys.argv[2])
-    video = os.path.abspath(sys.argv[3]) if len(sys.argv) > 3 else None
+    program, folder, name = sys.argv[1], os.path.abspath(sys.argv[2]), sys.argv[3]
     # Two journeys in one folder would read each other's reports.
     lock = open(folder + ".lock", "w", encoding="utf-8")
     fcntl.flock(lock, fcntl.LOCK_EX)
@@ -346,23 +362,33 @@ def main():
     with open(config, "w", encoding="utf-8") as file:
         file.write(f"[Auto%20Reframe]\nOutputPath={folder}/exports\n")
     clip = os.path.join(folder, "walk.mp4")
-    if video is None:
+    environment = {"KX_CONFIG_FILE": config, "HOME": folder}
+    size = "1600x1000"
+    if name == "cancelling":
+        clip = os.path.abspath(sys.argv[4])
+    elif name == "dense":
+        short_journeys.make_striped(clip)
+        size = f"{short_journeys.SCREEN[0]}x{short_journeys.SCREEN[1]}"
+        environment.update(QT_SCALE_FACTOR=str(short_journeys.SCALE), QT_QPA_PLATFORM="", XDG_SESSION_TYPE="wayland")
+    else:
         footage.make(clip)
     started = time.monotonic()
-    with Desktop(folder) as desktop:
-        screen = Screen(desktop, folder, program, [video] if video else [], {"KX_CONFIG_FILE": config, "HOME": folder})
+    with Desktop(folder, size, composites=name != "plain") as desktop:
+        screen = Screen(desktop, folder, program, [] if name == "whole" else [clip], environment)
         try:
             journey = Journey(screen, folder, clip)
-            journey.run_on_real_footage() if video else journey.run()
+            {"whole": journey.run, "cancelling": journey.run_on_real_footage,
+             "plain": lambda: short_journeys.run_without_compositor(journey),
+             "dense": lambda: short_journeys.run_on_a_dense_screen(screen)}[name]()
         finally:
             screen.stop()
             with open(screen.log_path, encoding="utf-8", errors="replace") as log:
-                said = log.read()
-            print(said, end="")
-    # Qt asks the server about windows that have just gone, and says so; and it says that there is no sound server.
+                output = log.read()
+            print(output, end="")
+    # Qt warns when it asks the server about a window that has just gone, and when there is no sound server.
     usual = ("QXcbConnection: XCB error: 3", "PulseAudioService: pa_context_connect() failed")
-    complaints = [line for line in said.splitlines() if line.strip() and not any(text in line for text in usual)]
-    assert not complaints, "the program complained on the terminal"
+    complaints = [line for line in output.splitlines() if line.strip() and not any(text in line for text in usual)]
+    assert not complaints, "the program wrote warnings"
     print(f"The journey took {time.monotonic() - started:.0f} s; its pictures are in {folder}")
 
 

@@ -1,4 +1,4 @@
-"""Eyes and hands on a program that writes KR_UI_REPORT: waits for conditions, never for times."""
+"""Eyes and hands on a program that writes reports (UiReport.h): waits for conditions, never for times."""
 
 import json
 import os
@@ -47,8 +47,12 @@ class Screen:
                 return value
             if time.monotonic() > end:
                 self.shoot("gave-up")
-                raise AssertionError(f"waited {patience} s in vain for {what}")
+                raise AssertionError(f"waited {patience} s for {what}")
             time.sleep(0.02)
+
+    def find_report(self, condition, what):
+        """The first report for which `condition` is true."""
+        return self.until(lambda report: report if condition(report) else None, what)
 
     @staticmethod
     def all(report, name, window=None):

@@ -5,6 +5,7 @@
 #include <Apps/AutoReframe/Library/MediaLoader.h>
 
 #include <QFileInfo>
+#include <QGuiApplication>
 
 MediaLibrary::MediaLibrary(MediaBackendLoader& backend, QObject* parent)
     : QObject(parent)
@@ -90,7 +91,8 @@ void MediaLibrary::HandleOpened(int id, const KxResult<MediaFile>& media)
 
 void MediaLibrary::RequestThumbnail(int id, const QString& path)
 {
-    const QSize roomPx = (QSizeF(MediaCardDelegate::PictureSize()) * m_devicePixelRatio).toSize();
+    // That of the densest screen: windows move from screen to screen.
+    const QSize roomPx = (QSizeF(MediaCardDelegate::PictureSize()) * qGuiApp->devicePixelRatio()).toSize();
     m_thumbnails[id] = m_backend.IfLoaded()->RequestThumbnail(path, roomPx, [this, id](const QImage& picture) {
         m_thumbnails.remove(id);
         m_model.SetThumbnail(id, QPixmap::fromImage(picture));
@@ -113,11 +115,6 @@ void MediaLibrary::Remove(const QModelIndexList& videos)
         m_model.Remove(id);
     }
     TellRefused();
-}
-
-void MediaLibrary::SetDevicePixelRatio(qreal ratio)
-{
-    m_devicePixelRatio = ratio;
 }
 
 void MediaLibrary::TellRefused()

@@ -24,9 +24,6 @@ public:
     void Import(const QStringList& paths);
     void Remove(const QModelIndexList& videos);
 
-    /// Device pixels in a pixel of a widget, for sharp thumbnails.
-    void SetDevicePixelRatio(qreal ratio);
-
 Q_SIGNALS:
     /// Each with the name and the reason.
     void sigRefused(const QStringList& messages);
@@ -47,5 +44,4 @@ private:
     QSet<int> m_opening;
     QMap<int, quint64> m_thumbnails;
     QStringList m_refused;
-    qreal m_devicePixelRatio = 1.0;
 };
