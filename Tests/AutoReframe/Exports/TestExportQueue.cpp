@@ -27,16 +27,26 @@ protected:
         return QTest::qWaitFor([this, id, state] { return StateOf(id) == state; }, 10000);
     }
 
+    /// The running rendering reports `progress`.
+    void Progress(int id, int progress)
+    {
+        QSignalSpy changes(&m_queue, &ExportQueue::sigChanged);
+        m_backend.task->callbacks.progress(progress);
+        ASSERT_TRUE(changes.wait(10000));
+        ASSERT_EQ(m_queue.Find(id)->progress, progress);
+    }
+
     FakeMediaBackend m_backend;
+    qint64 m_nowMs = 1000;
     ExportQueue m_queue{[this](const ExportRequest& request, const KxRenderJob::Callbacks& callbacks) {
                             return m_backend.Render(request, callbacks);
                         },
-                        nullptr};
+                        [this] { return m_nowMs; }, nullptr};
 };
 
 } // namespace
 
-TEST_F(TestExportQueue, OneRendersAndTheOthersWaitInTheirOrder)
+TEST_F(TestExportQueue, OneIsRenderedAndTheOthersWaitInTheirOrder)
 {
     const int first = m_queue.Add(Request(QStringLiteral("a.mp4")));
     const int second = m_queue.Add(Request(QStringLiteral("b.mp4")));
@@ -51,23 +61,34 @@ TEST_F(TestExportQueue, OneRendersAndTheOthersWaitInTheirOrder)
     EXPECT_EQ(m_backend.task->request.settings.outputPath, QStringLiteral("/exports/b.mp4"));
 }
 
-TEST_F(TestExportQueue, ProgressTellsTheTimeLeftOnceThereIsSomethingToJudgeBy)
+TEST_F(TestExportQueue, TheTimeLeftIsEstimatedAfterASecond)
 {
     const int id = m_queue.Add(Request(QStringLiteral("a.mp4")));
-    m_backend.task->callbacks.progress(2500);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return m_queue.Find(id)->progress == 2500; }));
+    m_nowMs += 999;
+    Progress(id, 2500);
     EXPECT_FALSE(m_queue.Find(id)->secondsLeft.has_value());
-    // A second later the quarter has taken a second or more: three quarters take at least three.
-    ASSERT_TRUE(QTest::qWaitFor(
-        [&] {
-            m_backend.task->callbacks.progress(2500);
-            return m_queue.Find(id)->secondsLeft.has_value();
-        },
-        10000));
-    EXPECT_GE(*m_queue.Find(id)->secondsLeft, 3);
+    // A quarter took 4 s, so the rest takes 12 s; the second that has begun is counted.
+    m_nowMs += 3001;
+    Progress(id, 2501);
+    EXPECT_EQ(m_queue.Find(id)->secondsLeft, 12);
+    m_nowMs += 4000;
+    Progress(id, 5000);
+    EXPECT_EQ(m_queue.Find(id)->secondsLeft, 9);
 }
 
-TEST_F(TestExportQueue, ProgressIsNotPostedForEveryStep)
+TEST_F(TestExportQueue, TheTimeLeftCountsFromTheStartOfTheRendering)
+{
+    m_queue.Add(Request(QStringLiteral("a.mp4")));
+    const int second = m_queue.Add(Request(QStringLiteral("b.mp4")));
+    m_nowMs += 60000;
+    m_backend.task->EndWell();
+    ASSERT_TRUE(WaitFor(second, State::Running));
+    m_nowMs += 2000;
+    Progress(second, 5000);
+    EXPECT_EQ(m_queue.Find(second)->secondsLeft, 3);
+}
+
+TEST_F(TestExportQueue, StepsThatCameTogetherAreOneChange)
 {
     const int id = m_queue.Add(Request(QStringLiteral("a.mp4")));
     QSignalSpy changes(&m_queue, &ExportQueue::sigChanged);
@@ -78,7 +99,7 @@ TEST_F(TestExportQueue, ProgressIsNotPostedForEveryStep)
     EXPECT_EQ(changes.size(), 1);
 }
 
-TEST_F(TestExportQueue, CancellingWhatWaitsNeverStartsIt)
+TEST_F(TestExportQueue, AWaitingExportThatIsCancelledNeverStarts)
 {
     m_queue.Add(Request(QStringLiteral("a.mp4")));
     const int second = m_queue.Add(Request(QStringLiteral("b.mp4")));
@@ -89,7 +110,7 @@ TEST_F(TestExportQueue, CancellingWhatWaitsNeverStartsIt)
     EXPECT_EQ(m_backend.task, nullptr);
 }
 
-TEST_F(TestExportQueue, CancellingWhatRunsLetsTheNextOneRun)
+TEST_F(TestExportQueue, TheNextExportStartsWhenTheRunningOneIsCancelled)
 {
     const int first = m_queue.Add(Request(QStringLiteral("a.mp4")));
     const int second = m_queue.Add(Request(QStringLiteral("b.mp4")));
@@ -101,7 +122,7 @@ TEST_F(TestExportQueue, CancellingWhatRunsLetsTheNextOneRun)
     EXPECT_EQ(StateOf(first), State::Cancelled);
 }
 
-TEST_F(TestExportQueue, AFailureKeepsItsReasonAndCanBeTriedAgain)
+TEST_F(TestExportQueue, AFailureKeepsItsReasonAndCanBeRetried)
 {
     const int first = m_queue.Add(Request(QStringLiteral("a.mp4")));
     const int second = m_queue.Add(Request(QStringLiteral("b.mp4")));
@@ -116,7 +137,7 @@ TEST_F(TestExportQueue, AFailureKeepsItsReasonAndCanBeTriedAgain)
     EXPECT_EQ(StateOf(second), State::Done);
 }
 
-TEST_F(TestExportQueue, OnlyFinishedOnesLeaveTheList)
+TEST_F(TestExportQueue, OnlyFinishedExportsCanBeRemoved)
 {
     const int first = m_queue.Add(Request(QStringLiteral("a.mp4")));
     const int second = m_queue.Add(Request(QStringLiteral("b.mp4")));
@@ -129,7 +150,7 @@ TEST_F(TestExportQueue, OnlyFinishedOnesLeaveTheList)
     EXPECT_NE(m_queue.Find(second), nullptr);
 }
 
-TEST_F(TestExportQueue, CancelAllLeavesNothingToRun)
+TEST_F(TestExportQueue, CancelAllLeavesNothingRunning)
 {
     for (const char* const name : {"a.mp4", "b.mp4", "c.mp4"}) {
         m_queue.Add(Request(QLatin1String(name)));
@@ -139,7 +160,7 @@ TEST_F(TestExportQueue, CancelAllLeavesNothingToRun)
     EXPECT_EQ(m_backend.task, nullptr);
 }
 
-TEST_F(TestExportQueue, DestroyedWhileItRendersItWaitsForTheEnd)
+TEST_F(TestExportQueue, TheDestructorWaitsForTheRunningExport)
 {
     auto queue = std::make_unique<ExportQueue>(
         [this](const ExportRequest& request, const KxRenderJob::Callbacks& callbacks) {

@@ -3,6 +3,7 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <chrono>
 
 namespace
 {
@@ -13,11 +14,23 @@ constexpr int WholeProgress = 10000;
 /// An estimate of the time left from less than this would jump about.
 constexpr qint64 EnoughForEstimateMs = 1000;
 
+qint64 SteadyMs()
+{
+    const auto now = std::chrono::steady_clock::now().time_since_epoch();
+    return std::chrono::duration_cast<std::chrono::milliseconds>(now).count();
+}
+
 } // namespace
 
 ExportQueue::ExportQueue(Renderer renderer, QObject* parent)
+    : ExportQueue(std::move(renderer), &SteadyMs, parent)
+{
+}
+
+ExportQueue::ExportQueue(Renderer renderer, Clock clock, QObject* parent)
     : QObject(parent)
     , m_renderer(std::move(renderer))
+    , m_clock(std::move(clock))
 {
 }
 
@@ -140,7 +153,7 @@ void ExportQueue::Start(ExportItem& item)
 {
     const int id = item.id;
     item.state = State::Running;
-    m_timer.start();
+    m_startedMs = m_clock();
     const auto mailbox = std::make_shared<Mailbox>();
     KxRenderJob::Callbacks callbacks;
     callbacks.progress = [this, id, mailbox](int progress) {
@@ -166,7 +179,7 @@ void ExportQueue::HandleProgress(int id, const std::shared_ptr<Mailbox>& mailbox
         return;
     }
     item->progress = mailbox->progress;
-    const qint64 elapsedMs = m_timer.elapsed();
+    const qint64 elapsedMs = m_clock() - m_startedMs;
     if (elapsedMs >= EnoughForEstimateMs && item->progress > 0) {
         item->secondsLeft = 1 + elapsedMs * (WholeProgress - item->progress) / item->progress / 1000;
     }

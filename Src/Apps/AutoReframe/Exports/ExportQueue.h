@@ -2,7 +2,6 @@
 
 #include <Apps/AutoReframe/Backend/MediaBackend.h>
 
-#include <QElapsedTimer>
 #include <QObject>
 
 #include <atomic>
@@ -35,7 +34,12 @@ public:
     using Renderer = std::function<std::unique_ptr<RenderTask>(const ExportRequest& request,
                                                                const KxRenderJob::Callbacks& callbacks)>;
 
+    /// A steady clock in milliseconds.
+    using Clock = std::function<qint64()>;
+
+    /// With the system's clock.
     ExportQueue(Renderer renderer, QObject* parent);
+    ExportQueue(Renderer renderer, Clock clock, QObject* parent);
     /// Cancels the running export and waits for its end.
     ~ExportQueue() override;
 
@@ -76,8 +80,9 @@ private:
     void HandleFinished(int id, const KxRenderResult& result);
 
     const Renderer m_renderer;
+    const Clock m_clock;
     std::vector<ExportItem> m_items;
-    QElapsedTimer m_timer;
+    qint64 m_startedMs = 0;
     int m_lastId = 0;
     std::unique_ptr<RenderTask> m_task;
 };
