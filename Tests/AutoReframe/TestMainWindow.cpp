@@ -9,6 +9,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QDesktopServices>
 #include <QDir>
 #include <QDropEvent>
 #include <QLabel>
@@ -26,6 +27,17 @@
 namespace
 {
 
+/// Stands in for the system's file manager.
+class FileManager : public QObject
+{
+    Q_OBJECT
+public:
+    QStringList shown;
+
+public Q_SLOTS:
+    void Show(const QUrl& folder) { shown += folder.toLocalFile(); }
+};
+
 class TestMainWindow : public testing::Test
 {
 protected:
@@ -33,16 +45,17 @@ protected:
     {
         qputenv("KX_CONFIG_FILE", m_folder.filePath(QStringLiteral("config.ini")).toLocal8Bit());
         KrMessageDialog::SetResponder([this](const KrMessageDialog::Shown& shown) {
-            m_told += shown.text;
+            m_boxes += shown.text;
             return m_answer;
         });
         m_window = std::make_unique<MainWindow>(m_loader);
-        m_window->SetFolderShower([this](const QString& path) { m_shownFiles += path; });
+        QDesktopServices::setUrlHandler(QStringLiteral("file"), &m_fileManager, "Show");
         m_window->show();
     }
     void TearDown() override
     {
         m_window.reset();
+        QDesktopServices::unsetUrlHandler(QStringLiteral("file"));
         KrMessageDialog::SetResponder({});
         KxFileDialog::SetResponder({});
         qputenv("KX_CONFIG_FILE", m_folder.filePath(QStringLiteral("none.ini")).toLocal8Bit());
@@ -110,9 +123,9 @@ protected:
     QTemporaryDir m_folder;
     std::shared_ptr<FakeMediaBackend> m_backend = std::make_shared<FakeMediaBackend>();
     MediaBackendLoader m_loader{[this] { return KxResult<std::shared_ptr<MediaBackend>>(m_backend); }, nullptr};
-    QStringList m_told;
+    QStringList m_boxes;
     bool m_answer = false;
-    QStringList m_shownFiles;
+    FileManager m_fileManager;
     std::unique_ptr<MainWindow> m_window;
 };
 
@@ -137,20 +150,20 @@ TEST_F(TestMainWindow, ReportsOnceThatItIsPainted)
     EXPECT_EQ(painted, 1);
 }
 
-TEST_F(TestMainWindow, OpenedFilesAreThereAtOnceAndSelected)
+TEST_F(TestMainWindow, OpenedFilesAppearAtOnceAndAreSelected)
 {
     Open({QStringLiteral("a.mp4"), QStringLiteral("b.mov")});
     EXPECT_EQ(View()->model()->rowCount(), 3);
     EXPECT_EQ(View()->SelectedVideos().size(), 2);
     EXPECT_TRUE(WaitUntilUsable());
-    EXPECT_FALSE(m_told.size());
+    EXPECT_FALSE(m_boxes.size());
 }
 
-TEST_F(TestMainWindow, FilesThatCannotBeOpenedAreToldInOneNotice)
+TEST_F(TestMainWindow, FilesThatCannotBeOpenedAreReportedInOneBox)
 {
     Open({QStringLiteral("bad1.mp4"), QStringLiteral("a.mp4"), QStringLiteral("bad2.mp4")});
-    ASSERT_TRUE(QTest::qWaitFor([&] { return !m_told.isEmpty(); }, 10000));
-    EXPECT_EQ(m_told,
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !m_boxes.isEmpty(); }, 10000));
+    EXPECT_EQ(m_boxes,
               QStringList(QStringLiteral("Cannot open bad1.mp4: it is bad.\nCannot open bad2.mp4: it is bad.")));
     EXPECT_EQ(View()->model()->rowCount(), 2);
 }
@@ -158,12 +171,12 @@ TEST_F(TestMainWindow, FilesThatCannotBeOpenedAreToldInOneNotice)
 TEST_F(TestMainWindow, AnExceptionWhileAFileIsOpenedIsReported)
 {
     Open({QStringLiteral("throws.mp4"), QStringLiteral("a.mp4")});
-    ASSERT_TRUE(QTest::qWaitFor([&] { return !m_told.isEmpty(); }, 10000));
-    EXPECT_EQ(m_told, QStringList(QStringLiteral("Cannot open throws.mp4: memory ran out.")));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !m_boxes.isEmpty(); }, 10000));
+    EXPECT_EQ(m_boxes, QStringList(QStringLiteral("Cannot open throws.mp4: memory ran out.")));
     EXPECT_EQ(View()->model()->rowCount(), 2);
 }
 
-TEST_F(TestMainWindow, AFileComesIntoTheLibraryOnce)
+TEST_F(TestMainWindow, AFileIsInTheLibraryOnce)
 {
     Open({QStringLiteral("a.mp4"), QStringLiteral("a.mp4")});
     ASSERT_TRUE(WaitUntilUsable());
@@ -190,7 +203,7 @@ TEST_F(TestMainWindow, ImportRemembersTheFolder)
     EXPECT_EQ(folders.last(), m_folder.filePath(QStringLiteral("holiday")));
 }
 
-TEST_F(TestMainWindow, DroppedFilesAreTakenAndOtherThingsRefused)
+TEST_F(TestMainWindow, DroppedFilesAreImportedAndOtherThingsRefused)
 {
     QMimeData files;
     files.setUrls({QUrl::fromLocalFile(m_folder.filePath(QStringLiteral("a.mp4")))});
@@ -249,7 +262,8 @@ TEST_F(TestMainWindow, SeveralSelectedVideosAreReframedOneAfterTheOther)
     Button("TopBar_reframe")->click();
     EXPECT_EQ(m_backend->reframed,
               (QStringList{QStringLiteral("a.mp4"), QStringLiteral("50%1.mp4"), QStringLiteral("c.mp4")}));
-    EXPECT_EQ(m_told, (QStringList{QStringLiteral("Continue with 50%1.mp4?"), QStringLiteral("Continue with c.mp4?")}));
+    EXPECT_EQ(m_boxes,
+              (QStringList{QStringLiteral("Continue with 50%1.mp4?"), QStringLiteral("Continue with c.mp4?")}));
 }
 
 TEST_F(TestMainWindow, TheRestOfTheSelectionCanBeLeftOut)
@@ -259,7 +273,7 @@ TEST_F(TestMainWindow, TheRestOfTheSelectionCanBeLeftOut)
     m_answer = false;
     Button("TopBar_reframe")->click();
     EXPECT_EQ(m_backend->reframed, QStringList(QStringLiteral("a.mp4")));
-    EXPECT_EQ(m_told.size(), 1);
+    EXPECT_EQ(m_boxes.size(), 1);
 }
 
 TEST_F(TestMainWindow, NoSecondDialogOpensOverTheFirst)
@@ -271,17 +285,17 @@ TEST_F(TestMainWindow, NoSecondDialogOpensOverTheFirst)
     EXPECT_EQ(m_backend->dialogs, 1);
 }
 
-TEST_F(TestMainWindow, AWeakMachineIsToldByTheProgram)
+TEST_F(TestMainWindow, ATooSlowComputerIsReported)
 {
     Open({QStringLiteral("a.mp4")});
     ASSERT_TRUE(WaitUntilUsable());
     m_backend->inDialog = [](const DialogCallbacks& callbacks) { callbacks.unsupported(); };
     Button("TopBar_reframe")->click();
-    ASSERT_EQ(m_told.size(), 1);
-    EXPECT_TRUE(m_told.first().startsWith(QLatin1String("This computer may be too slow")));
+    ASSERT_EQ(m_boxes.size(), 1);
+    EXPECT_TRUE(m_boxes.first().startsWith(QLatin1String("This computer may be too slow")));
 }
 
-TEST_F(TestMainWindow, AnExportGoesThroughItsStatesOnItsCard)
+TEST_F(TestMainWindow, ACardShowsTheStatesOfItsExport)
 {
     Open({QStringLiteral("a.mp4")});
     ASSERT_TRUE(WaitUntilUsable());
@@ -298,12 +312,12 @@ TEST_F(TestMainWindow, AnExportGoesThroughItsStatesOnItsCard)
     ASSERT_TRUE(WaitForCard(QStringLiteral("Done · 34 MB")));
     EXPECT_FALSE(Button("ExportCard_cancel")->isVisible());
     Button("ExportCard_show")->click();
-    EXPECT_EQ(m_shownFiles, QStringList(written.fileName()));
+    EXPECT_EQ(m_fileManager.shown, QStringList(m_folder.path()));
     Button("ExportPanel_clear")->click();
     EXPECT_TRUE(Child<QLabel>("ExportPanel_hint")->isVisible());
 }
 
-TEST_F(TestMainWindow, AFailedExportShowsItsReasonAndIsTriedAgain)
+TEST_F(TestMainWindow, AFailedExportShowsItsReasonAndCanBeRetried)
 {
     Open({QStringLiteral("a.mp4")});
     ASSERT_TRUE(WaitUntilUsable());
@@ -333,16 +347,16 @@ TEST_F(TestMainWindow, QuittingAsksWhileExportsRun)
     ExportInDialog(QStringLiteral("out.mp4"));
     EXPECT_FALSE(m_window->close());
     EXPECT_TRUE(m_window->isVisible());
-    EXPECT_EQ(m_told.size(), 1);
+    EXPECT_EQ(m_boxes.size(), 1);
     m_answer = true;
     EXPECT_TRUE(m_window->close());
     EXPECT_TRUE(m_backend->task->isCancelled);
 }
 
-TEST_F(TestMainWindow, QuittingWithNothingToLoseAsksNothing)
+TEST_F(TestMainWindow, QuittingWithoutExportsAsksNothing)
 {
     EXPECT_TRUE(m_window->close());
-    EXPECT_TRUE(m_told.isEmpty());
+    EXPECT_TRUE(m_boxes.isEmpty());
 }
 
 TEST_F(TestMainWindow, TheFirstWindowFitsOnASmallScreen)
@@ -406,8 +420,8 @@ TEST_F(TestMainWindow, ReportsABackendThatCannotBeLoaded)
         nullptr);
     MainWindow window(broken);
     window.Open({m_folder.filePath(QStringLiteral("a.mp4"))});
-    ASSERT_TRUE(QTest::qWaitFor([&] { return !m_told.isEmpty(); }, 10000));
-    EXPECT_EQ(m_told, QStringList(QStringLiteral("Cannot load the video engine.")));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !m_boxes.isEmpty(); }, 10000));
+    EXPECT_EQ(m_boxes, QStringList(QStringLiteral("Cannot load the video engine.")));
 }
 
 TEST_F(TestMainWindow, EveryControlHasANameAndIsReachedWithTab)
@@ -430,3 +444,5 @@ TEST_F(TestMainWindow, EveryControlHasANameAndIsReachedWithTab)
         }
     }
 }
+
+#include "TestMainWindow.moc"

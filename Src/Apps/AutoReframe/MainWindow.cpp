@@ -35,7 +35,7 @@ void ShowFolder(const QString& filePath)
     QDesktopServices::openUrl(QUrl::fromLocalFile(QFileInfo(filePath).absolutePath()));
 }
 
-/// A bar or an area with a line along one of its sides.
+/// A bar with a line along one of its sides.
 KxWidget* MakeBar(const QString& name, const QString& lineSide, int heightPx, QWidget* parent)
 {
     auto* const bar = new KxWidget(parent);
@@ -57,7 +57,6 @@ MainWindow::MainWindow(MediaBackendLoader& backend)
           },
           this))
     , m_library(new MediaLibrary(backend, this))
-    , m_showFolder(&ShowFolder)
 {
     setObjectName(QStringLiteral("MainWindow"));
     setAcceptDrops(true);
@@ -74,7 +73,7 @@ MainWindow::MainWindow(MediaBackendLoader& backend)
 
 MainWindow::~MainWindow()
 {
-    // They work for the backend, which may go next.
+    // Both use the backend, which may be destroyed next.
     delete m_exports;
     delete m_library;
 }
@@ -133,7 +132,7 @@ void MainWindow::ConnectSignals()
     connect(m_reframe, &QAbstractButton::clicked, this, &MainWindow::ReframeSelected);
     connect(new QShortcut(QKeySequence::Open, this), &QShortcut::activated, this, &MainWindow::ChooseFiles);
     connect(new QShortcut(Qt::CTRL + Qt::Key_Q, this), &QShortcut::activated, this, &QWidget::close);
-    connect(m_panel, &ExportPanel::sigShowInFolder, this, [this](const QString& path) { m_showFolder(path); });
+    connect(m_panel, &ExportPanel::sigShowInFolder, this, &ShowFolder);
 }
 
 void MainWindow::ConnectLibrary()
@@ -145,10 +144,10 @@ void MainWindow::ConnectLibrary()
     connect(m_view, &MediaLibraryView::sigRemove, this, &MainWindow::RemoveSelected);
     connect(m_view, &MediaLibraryView::sigReframe, this, &MainWindow::ReframeSelected);
     connect(m_view, &MediaLibraryView::sigShowInFolder, this,
-            [this](const QModelIndex& video) { m_showFolder(m_library->Model().PathAt(video)); });
+            [this](const QModelIndex& video) { ShowFolder(m_library->Model().PathAt(video)); });
     connect(m_library, &MediaLibrary::sigImported, this, &MainWindow::SelectImported);
     connect(m_library, &MediaLibrary::sigOpened, this, &MainWindow::ShowState);
-    connect(m_library, &MediaLibrary::sigRefused, this, &MainWindow::TellRefused);
+    connect(m_library, &MediaLibrary::sigRefused, this, &MainWindow::ReportRefused);
     connect(&m_library->Model(), &QAbstractItemModel::rowsInserted, this, &MainWindow::ShowState);
     connect(&m_library->Model(), &QAbstractItemModel::rowsRemoved, this, &MainWindow::ShowState);
 }
@@ -180,7 +179,7 @@ void MainWindow::paintEvent(QPaintEvent* event)
     KxWidgetView::paintEvent(event);
     if (!m_isPainted) {
         m_isPainted = true;
-        // Once the children have painted, too.
+        // Queued: the children have not painted yet.
         QMetaObject::invokeMethod(this, &MainWindow::sigPainted, Qt::QueuedConnection);
     }
 }
@@ -188,11 +187,6 @@ void MainWindow::paintEvent(QPaintEvent* event)
 ExportQueue& MainWindow::Exports()
 {
     return *m_exports;
-}
-
-void MainWindow::SetFolderShower(FolderShower shower)
-{
-    m_showFolder = std::move(shower);
 }
 
 bool MainWindow::MayQuit()

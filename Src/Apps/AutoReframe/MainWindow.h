@@ -14,7 +14,7 @@ class MediaLibrary;
 class MediaLibraryView;
 class MediaBackendLoader;
 
-/// The program's window: library, exports, status. It paints itself first and brings the backend in afterwards.
+/// The program's window: library, exports, status.
 class MainWindow : public KxWidgetView
 {
     Q_OBJECT
@@ -23,16 +23,12 @@ public:
     explicit MainWindow(MediaBackendLoader& backend);
     ~MainWindow() override;
 
-    /// Takes files into the library, as an import does.
+    /// Imports files.
     void Open(const QStringList& paths);
     ExportQueue& Exports();
 
-    /// Shows a file's folder in the system's file manager; for tests, another one may be put in its place.
-    using FolderShower = std::function<void(const QString& filePath)>;
-    void SetFolderShower(FolderShower shower);
-
 Q_SIGNALS:
-    /// Once.
+    /// Once, after the first paint: what takes long to load is loaded from then on.
     void sigPainted();
 
 protected:
@@ -53,7 +49,7 @@ private:
     void ShowState();
     void ChooseFiles();
     void SelectImported(const QModelIndexList& videos);
-    void TellRefused(const QStringList& messages);
+    void ReportRefused(const QStringList& messages);
     void RemoveSelected();
     void ReframeSelected();
     void Reframe(const QModelIndexList& videos);
@@ -65,7 +61,6 @@ private:
     MediaBackendLoader& m_backend;
     ExportQueue* const m_exports;
     MediaLibrary* const m_library;
-    FolderShower m_showFolder;
     KxLabel* m_title = nullptr;
     KxPushButton* m_import = nullptr;
     KxPushButton* m_reframe = nullptr;

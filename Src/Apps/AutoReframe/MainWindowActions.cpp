@@ -19,7 +19,7 @@
 namespace
 {
 
-/// More of them would not fit on a screen.
+/// More would not fit on the screen.
 constexpr int MostMessages = 8;
 
 QStringList LocalFiles(const QMimeData& data)
@@ -69,7 +69,7 @@ void MainWindow::SelectImported(const QModelIndexList& videos)
     m_view->scrollTo(videos.last());
 }
 
-void MainWindow::TellRefused(const QStringList& messages)
+void MainWindow::ReportRefused(const QStringList& messages)
 {
     QStringList shown = messages.mid(0, MostMessages);
     if (shown.size() < messages.size()) {
@@ -103,7 +103,7 @@ void MainWindow::Reframe(const QModelIndexList& videos)
             media += *opened;
         }
     }
-    // Files may come in behind the dialog; a second dialog may not.
+    // The window still takes dropped files while the dialog is open, but must not open a second dialog.
     if (media.isEmpty() || m_isReframing) {
         return;
     }
@@ -112,7 +112,7 @@ void MainWindow::Reframe(const QModelIndexList& videos)
     callbacks.exportRequested = [this](const ExportRequest& request) { m_exports->Add(request); };
     callbacks.exportRefused = [this](const QString& message) { Inform(message); };
     callbacks.unsupported = [this] {
-        Inform(tr("This computer may be too slow for the analysis. To try it all the same, start it once more."));
+        Inform(tr("This computer may be too slow for the analysis. To try anyway, start it again."));
     };
     // The dialog works on one video.
     m_backend.Get()->Reframe(media.first(), *this, callbacks);
