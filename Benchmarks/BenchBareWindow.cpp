@@ -1,4 +1,4 @@
-// A bare Qt Widgets window in the size of the desktop program's: paints and ends.
+// A bare Qt Widgets window of the desktop program's size; the process ends when it is painted.
 
 #include <QApplication>
 #include <QPaintEvent>

@@ -1,6 +1,5 @@
-// The desktop program's own window, dialog and queue, worked as a person would, over and over. Needs a display (Xvfb
-// does):
-//   BenchDesktop cancel CLIP [--times N]      from the press on cancel until an analysis, and an export, has ended
+// Uses the desktop program's window, dialog and queue as a person does, again and again. Needs a display, such as Xvfb.
+//   BenchDesktop cancel CLIP [--times N]      time from pressing Cancel until an analysis, and an export, has ended
 //   BenchDesktop memory CLIP... [--times N]   memory after each round of import, analysis, export and removal
 // Prints one line of JSON.
 
@@ -60,7 +59,7 @@ qint64 ResidentBytes()
     return file.readAll().split(' ').value(1).toLongLong() * sysconf(_SC_PAGESIZE);
 }
 
-// What was asked of the allocator and not given back; its own reserves, which come and go, are not in it.
+// The memory that was allocated and not freed, without the allocator's own reserves, which vary.
 double UsedBytes()
 {
     char* text = nullptr;
@@ -70,7 +69,7 @@ double UsedBytes()
     std::fclose(file);
     const QByteArray report(text, static_cast<int>(length));
     std::free(text);
-    // The figures of all arenas together stand at the end.
+    // The totals of all arenas are at the end.
     const QByteArray total = report.mid(report.lastIndexOf("</heap>"));
     const auto size = [&total](const QByteArray& element) {
         const int from = total.indexOf("size=\"", total.indexOf(element)) + 6;
@@ -80,8 +79,8 @@ double UsedBytes()
            size("<total type=\"rest\"");
 }
 
-// Lives on a thread of its own and does everything on the user-interface thread, which dialogs hold in loops of their
-// own. What it presses is posted, as pressing may open a dialog.
+// Runs on a thread of its own and acts on the user-interface thread, where dialogs run event loops of their own. Clicks
+// are posted because a click may open a dialog.
 class Person
 {
 public:
@@ -110,13 +109,13 @@ private:
         const auto start = Clock::now();
         while (!OnUi(isTrue)) {
             if (MsSince(start) > 300'000) {
-                throw std::runtime_error(std::string("waited in vain for ") + what);
+                throw std::runtime_error(std::string("waited too long for ") + what);
             }
             std::this_thread::sleep_for(std::chrono::milliseconds(1));
         }
     }
 
-    // On the user-interface thread.
+    // Called on the user-interface thread.
     template<typename Widget = QWidget>
     static Widget* Shown(const char* name)
     {
@@ -205,7 +204,7 @@ void Person::WaitForExport(ExportItem::State state)
         for (int id = 1;; ++id) {
             if (const ExportItem* const item = exports.Find(id)) {
                 if (item->IsFinished() && item->state != state) {
-                    throw std::runtime_error("an export ended otherwise: " + item->message.toStdString());
+                    throw std::runtime_error("an export had another outcome: " + item->message.toStdString());
                 }
                 return item->state == state;
             }
@@ -229,7 +228,7 @@ double Person::CancelAnalysisMs(int progress)
     WaitForProgress("KxProgressDialog_bar", progress);
     const auto start = Clock::now();
     Press("KxProgressDialog_cancel");
-    // The dialog goes first and the task is joined then, in one go of the user-interface thread.
+    // The task is joined before the user-interface thread looks here again.
     WaitUntilGone("KxProgressDialog_bar");
     return MsSince(start);
 }
@@ -295,13 +294,13 @@ QJsonObject Person::Memory(const QStringList& clips, int rounds)
     return {{QStringLiteral("residentBytes"), residentBytes}, {QStringLiteral("usedBytes"), usedBytes}};
 }
 
-struct Wish {
+struct Arguments {
     QString mode;
     QStringList clips;
     int times = 0;
 };
 
-Wish Read(const QApplication& application)
+Arguments Read(const QApplication& application)
 {
     QCommandLineParser parser;
     const QCommandLineOption times(QStringLiteral("times"), QString(), QStringLiteral("number"), QStringLiteral("10"));
@@ -329,7 +328,7 @@ int main(int argc, char** argv)
     QSettings(config, QSettings::IniFormat).setValue(QStringLiteral("Auto Reframe/OutputPath"), outputFolder);
 
     QApplication application(argc, argv);
-    const Wish wish = Read(application);
+    const Arguments given = Read(application);
     KxUIStyle::Apply(application);
     MediaBackendLoader backend([] { return std::shared_ptr<MediaBackend>(std::make_shared<HostMediaBackend>()); },
                                nullptr);
@@ -339,15 +338,15 @@ int main(int argc, char** argv)
         int status = 0;
         try {
             Person person(window, outputFolder);
-            const QJsonObject found = wish.mode == QLatin1String("cancel")
-                                          ? person.Cancel(wish.clips.first(), wish.times)
-                                          : person.Memory(wish.clips, wish.times);
+            const QJsonObject found = given.mode == QLatin1String("cancel")
+                                          ? person.Cancel(given.clips.first(), given.times)
+                                          : person.Memory(given.clips, given.times);
             std::printf("%s\n", QJsonDocument(found).toJson(QJsonDocument::Compact).constData());
         } catch (const std::exception& error) {
             std::fprintf(stderr, "%s\n", error.what());
             status = 1;
         }
-        // Whatever is still open.
+        // A dialog may still be open.
         std::fflush(stdout);
         folder.remove();
         std::_Exit(status);

@@ -1,4 +1,4 @@
-"""Footage whose every column can be told from the others, and a look at what was cut out of it."""
+"""Footage in which every column is different, and functions that find out what was cut out of it."""
 
 import json
 import subprocess
@@ -9,7 +9,7 @@ TOP_ROWS = 60
 
 
 def make(path):
-    """A grey ramp with a comb on it, a red figure that walks to the right, a tone."""
+    """A grey ramp with waves on it, a red figure that walks to the right, and a tone."""
     seconds = FRAMES / RATE
     subprocess.run(
         ["ffmpeg", "-loglevel", "error", "-y",
@@ -34,7 +34,7 @@ def stream(path, kind):
 
 
 def top_profile(path, frame, width):
-    """The mean brightness of each column in the upper rows of one frame."""
+    """The mean brightness of each column in the top rows of one frame."""
     raw = subprocess.run(["ffmpeg", "-loglevel", "error", "-i", path, "-vf",
                           f"select=eq(n\\,{frame}),crop={width}:{TOP_ROWS}:0:0", "-frames:v", "1", "-f", "rawvideo",
                           "-pix_fmt", "rgb24", "-"], check=True, capture_output=True).stdout
@@ -44,7 +44,7 @@ def top_profile(path, frame, width):
 
 
 def cut_position(source, result, frame, result_width):
-    """Where in the source the result's left edge lies, in source pixels, and how well it fits (0 is perfect)."""
+    """The column of the source at the left edge of the result, and the mean difference there (0: identical)."""
     whole = top_profile(source, frame, WIDTH)
     part = top_profile(result, frame, result_width)
     best = min((sum(abs(whole[left + column] - part[column]) for column in range(8, result_width - 8)), left)

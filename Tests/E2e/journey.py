@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""The whole journey of a person through the desktop program, with a real mouse and real keys.
+"""Uses the desktop program as a person does, with a real mouse and real keys.
 
 journey.py PROGRAM FOLDER NAME [VIDEO]: pictures of every step stay in FOLDER. The journeys by NAME:
   whole       import, analysis, edits, export and quitting, on footage made for it
@@ -39,17 +39,17 @@ class Journey:
         self.output = os.path.join(folder, "exports")
         os.makedirs(self.output, exist_ok=True)
 
-    # What the screen says
+    # Looking
 
     def shadow(self):
-        """The overlay's place once the dialog stands still."""
+        """The rectangle of the crop's overlay once it is the same in several reports."""
         def read(report):
             found = [widget for widget in report["widgets"] if widget["class"] == "ShadowForm"]
             return found[0]["rect"] if found else None
         return self.screen.steady(read, "the crop's overlay")
 
     def outline(self, colour):
-        """Left and right edge of the crop, drawn in that colour, in fractions of the picture; once it stands still."""
+        """Left and right edge of the crop's outline of that colour, in fractions of the picture, once they are steady."""
         x, y, width, height = self.shadow()
         seen = []
 
@@ -73,7 +73,7 @@ class Journey:
     def results(self):
         return sorted(name for name in os.listdir(self.output) if name.endswith(".mp4"))
 
-    # What a person does
+    # Steps
 
     def open_dialog(self):
         self.screen.press("TopBar_reframe")
@@ -83,7 +83,7 @@ class Journey:
         self.screen.steady(lambda report: self.screen.first(report, DIALOG, "rect"), "the dialog")
 
     def open_with_double_click(self, card):
-        """Again when nothing comes of it: on a busy machine the clicks can be too far apart for one double click."""
+        """Repeated if no dialog opens: on a busy machine the clicks can be too far apart for a double click."""
         clicked_at = None
 
         def look(report):
@@ -98,14 +98,14 @@ class Journey:
         self.wait_for_dialog()
 
     def pause(self):
-        """Whether it plays, or has come to its end meanwhile; should it just then, it is waited for once more."""
+        """Playback may also have ended by itself."""
         button = self.screen.find("KxPlayerToolBar_play", enabled=True)
         if button["face"] == PLAYING:
             self.screen.click(button["rect"])
         self.screen.find("KxPlayerToolBar_play", face=PAUSED)
 
     def go_to(self, fraction):
-        """To a frame, with the slider; returns its number. The picture comes after the click, when it has been read."""
+        """Clicks the slider and returns the number of the frame that is shown then."""
         x, y, width, height = self.screen.find("KrUIStyle_ToolBarSlider")["rect"]
         self.screen.move(x + int(width * fraction), y + height // 2)
         self.screen.tool("click", 1)
@@ -117,7 +117,7 @@ class Journey:
         return self.screen.steady(read, f"the frame at {fraction} of the clip")
 
     def drag_crop(self, by):
-        """Drags the crop sideways by a fraction of the picture; returns where it came to lie."""
+        """Drags the crop sideways by a fraction of the picture; returns its new left edge."""
         x, y, width, height = self.shadow()
         left, right = self.outline(ACCENT)
         start = (x + int((left + right) / 2 * width), y + height // 2)
@@ -128,7 +128,7 @@ class Journey:
         assert abs(moved - by) < 0.05, f"dragged by {by}, moved by {moved}"
         return landed[0]
 
-    # The journey
+    # Parts of the journeys
 
     def import_through_chooser(self):
         screen = self.screen
@@ -153,7 +153,7 @@ class Journey:
         self.open_dialog()
         screen.shoot("dialog")
         screen.press("KrAutoReframePropertyPanel_analyze")
-        # A short clip can be done between two reports; that the dialog shows is seen on the real footage, which takes longer.
+        # A short clip can be analysed between two reports; the journey on real footage requires the progress dialog.
         screen.until(lambda report: report["window"] == "KxProgressDialog"
                      or screen.all(report, "KrAutoReframePropertyPanel_restart"), "the progress dialog, or the end")
         screen.shoot("analysing")
@@ -220,7 +220,7 @@ class Journey:
         screen.press(switch)
         screen.find(switch, checked=False)
         screen.until(lambda report: not any(widget["class"] == "ShadowForm" for widget in report["widgets"]),
-                     "the overlay to go")
+                     "the overlay to disappear")
         screen.shoot("reframed-preview")
         screen.press(switch)
         screen.find(switch, checked=True)
@@ -264,12 +264,12 @@ class Journey:
         found, misfit = footage.cut_position(self.clip, path, frame, 304)
         wanted = left * footage.WIDTH
         print(f"{name}: frame {frame} was dragged to x = {wanted:.1f} and cut at {found} (misfit {misfit:.2f} of 255)")
-        # A pixel of the preview is more than one of the source.
+        # A pixel of the preview is larger than one of the source.
         assert abs(found - wanted) <= 3, f"dragged to {wanted}, cut at {found}"
         assert misfit < 6, f"the picture differs by {misfit}"
 
     def cancel_an_analysis(self):
-        """In its middle: once there is some progress, and before it is over."""
+        """After some progress and before its end."""
         screen = self.screen
         screen.press("KrAutoReframePropertyPanel_analyze")
         screen.until(lambda report: (screen.first(report, "KxProgressDialog_bar", "value") or 0) >= 500, "some progress")
@@ -299,7 +299,7 @@ class Journey:
         screen.gone(DIALOG)
 
     def interrupt(self):
-        """As Ctrl-C in the terminal does, in the middle of an export."""
+        """In the middle of an export, as Ctrl-C in the terminal does."""
         self.screen.find("ExportCard_cancel", enabled=True)
         started = time.monotonic()
         self.screen.process.send_signal(signal.SIGINT)
@@ -312,7 +312,7 @@ class Journey:
         self.screen.click(self.screen.find("StatusBar")["rect"])
         self.screen.until(lambda report: report["window"] == "MainWindow", "the main window to be active")
         self.screen.key("ctrl+q")
-        assert self.screen.wait_for_end() == 0, "the program ends well"
+        assert self.screen.wait_for_end() == 0, "the exit status is not 0"
 
     def run(self):
         self.import_through_chooser()

@@ -24,7 +24,7 @@ class Screen:
     # Looking
 
     def report(self):
-        """The newest report; one that was written after this call began."""
+        """A report that was written after this call began."""
         seen = self._read().get("serial", -1)
         return self.until(lambda: (lambda now: now if now.get("serial", -1) > seen else None)(self._read()),
                           "a new report of the program", fresh=False)
@@ -37,7 +37,7 @@ class Screen:
             return {}
 
     def until(self, condition, what, fresh=True, patience=PATIENCE):
-        """The first true value of `condition`; with `fresh` it gets a new report each time."""
+        """The first true value of `condition`; with `fresh` it is given a new report each time."""
         end = time.monotonic() + patience
         while True:
             if self.process.poll() is not None:
@@ -60,11 +60,11 @@ class Screen:
                 if widget["name"] == name and (window is None or widget["window"] == window)]
 
     def first(self, report, name, key, window=None):
-        """That value of the first control of that name; None where there is no such control, or not yet."""
+        """The value `key` of the first control called `name`, or None."""
         return next((widget[key] for widget in self.all(report, name, window) if key in widget), None)
 
     def find(self, name, window=None, **wanted):
-        """Waits for a visible control of that name whose values are as wanted."""
+        """Waits for a visible control called `name` with the `wanted` values."""
         def look(report):
             for widget in self.all(report, name, window):
                 if all(widget.get(key) == value for key, value in wanted.items()):
@@ -73,10 +73,10 @@ class Screen:
         return self.until(look, f"{name} {wanted or ''}")
 
     def gone(self, name):
-        self.until(lambda report: not self.all(report, name), f"{name} to go")
+        self.until(lambda report: not self.all(report, name), f"{name} to disappear")
 
     def steady(self, read, what):
-        """What `read` says of three reports in a row."""
+        """The value of `read` once it is the same for three reports in a row."""
         values = []
 
         def look(report):
@@ -92,7 +92,7 @@ class Screen:
         return path
 
     def pixels(self, rect):
-        """Rows of (r, g, b) of a part of the screen."""
+        """The rows of a part of the screen, each a list of (r, g, b)."""
         x, y, width, height = rect
         raw = subprocess.run(["import", "-window", "root", "-crop", f"{width}x{height}+{x}+{y}", "+repage", "-depth",
                               "8", "rgb:-"], env=self.environment, check=True, capture_output=True).stdout
@@ -117,12 +117,12 @@ class Screen:
         self.tool("click", "--repeat", repeat, "--delay", 80, button)
 
     def press(self, name, window=None, **wanted):
-        """Clicks a control once it is there and can be used."""
+        """Clicks a control once it is visible and enabled."""
         self.click(self.find(name, window, enabled=True, **wanted)["rect"])
 
     def drag(self, start, end, steps=12):
-        """With the left button, in steps, so that the program sees a drag and not a jump: as a hand does, it begins with
-        a move below the distance from which a drag counts, and goes on when the program has seen that."""
+        """With the left button and in steps, as by hand. The first move is shorter than Qt's drag distance; the drag
+        continues when the program has seen it."""
         self.move(*start)
         self.tool("mousedown", 1)
         self.move(start[0] + 2, start[1])

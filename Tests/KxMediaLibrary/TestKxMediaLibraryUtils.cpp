@@ -14,11 +14,11 @@ namespace
 
 struct Format {
     const char* suffix;
-    /// Arguments to ffmpeg where the suffix does not say it all.
+    /// Arguments for ffmpeg where the suffix does not determine them.
     const char* arguments;
 };
 
-const Format formats[] = {
+const Format Formats[] = {
     {"mp4", ""},
     {"mov", ""},
     {"m4v", ""},
@@ -53,19 +53,19 @@ QStringList Patterns()
 
 } // namespace
 
-TEST(KxMediaLibraryUtils, EveryPatternIsASuffixThatIsTriedHere)
+TEST(KxMediaLibraryUtils, EveryPatternIsTestedHere)
 {
     QStringList tried;
-    for (const Format& format : formats) {
+    for (const Format& format : Formats) {
         tried += QStringLiteral("*.%1").arg(QLatin1String(format.suffix));
     }
     EXPECT_EQ(Patterns(), tried);
 }
 
-TEST(KxMediaLibraryUtils, WhatTheFilterOffersCanBeRead)
+TEST(KxMediaLibraryUtils, EveryOfferedFormatCanBeRead)
 {
     const QTemporaryDir folder;
-    for (const Format& format : formats) {
+    for (const Format& format : Formats) {
         SCOPED_TRACE(format.suffix);
         const QString path = folder.filePath(QStringLiteral("clip.%1").arg(QLatin1String(format.suffix)));
         MadeVideo::Recipe recipe;

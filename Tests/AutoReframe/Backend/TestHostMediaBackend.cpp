@@ -37,7 +37,7 @@ TEST_F(TestHostMediaBackend, OpensAVideoWithItsFacts)
     EXPECT_EQ(media->frameRate, (KxRational{25, 1}));
 }
 
-TEST_F(TestHostMediaBackend, RefusesWithTheNameAndTheReason)
+TEST_F(TestHostMediaBackend, AnErrorNamesTheFileAndTheReason)
 {
     const QString sound = m_folder.filePath(QStringLiteral("tone.wav"));
     ASSERT_TRUE(MadeVideo::RunFfmpeg({QStringLiteral("-f"), QStringLiteral("lavfi"), QStringLiteral("-i"),
@@ -67,7 +67,7 @@ TEST_F(TestHostMediaBackend, ACancelledThumbnailIsNotDelivered)
     EXPECT_EQ(delivered, 1);
 }
 
-TEST_F(TestHostMediaBackend, OffersTheFormatsThatItReads)
+TEST_F(TestHostMediaBackend, ImportPatternsIncludeMp4)
 {
     EXPECT_TRUE(m_backend.ImportPatterns().split(QLatin1Char(';')).contains(QStringLiteral("*.mp4")));
 }

@@ -9,7 +9,7 @@ class KxToolButton;
 class LinkButton;
 class QProgressBar;
 
-/// One export of the queue on a card. Tells what the person wants and does none of it.
+/// One export of the queue on a card. Only reports what the person asks for.
 class ExportCard : public QFrame
 {
     Q_OBJECT

@@ -76,7 +76,7 @@ void ExportPanel::InitLayout()
     area->setWidget(content);
 
     auto* const column = new QVBoxLayout(this);
-    // The pixel at the left is the line between the areas.
+    // The line between the areas takes one pixel at the left.
     column->setContentsMargins(1, 12, 0, 0);
     column->setSpacing(8);
     column->addLayout(head);
@@ -96,7 +96,7 @@ void ExportPanel::AddCard(int id)
     m_cards.insert(id, card);
     connect(card, &ExportCard::sigCancel, &m_queue, [this, id] { m_queue.Cancel(id); });
     connect(card, &ExportCard::sigRetry, &m_queue, [this, id] { m_queue.Retry(id); });
-    // Queued: the card must not go while its own menu is open.
+    // Queued: the signal comes from the menu of the card, which must outlive it.
     connect(
         card, &ExportCard::sigRemove, &m_queue, [this, id] { m_queue.Remove(id); }, Qt::QueuedConnection);
     connect(card, &ExportCard::sigShowInFolder, this,

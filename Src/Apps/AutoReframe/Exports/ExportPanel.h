@@ -10,7 +10,7 @@ class KxLabel;
 class LinkButton;
 class QVBoxLayout;
 
-/// The export queue beside the library, a card for each export.
+/// The export queue beside the library, one card for each export.
 class ExportPanel : public KxWidget
 {
     Q_OBJECT

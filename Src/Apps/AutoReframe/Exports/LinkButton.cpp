@@ -9,7 +9,7 @@ namespace
 {
 
 constexpr int FontPx = 11;
-// Room to hit it with the pointer; the text keeps its right edge on the layout's line.
+// Makes the target larger than the text, but not at the right, where the text is aligned with others.
 constexpr int MarginPx = 4;
 
 } // namespace

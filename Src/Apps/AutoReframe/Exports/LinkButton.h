@@ -2,7 +2,7 @@
 
 #include <QAbstractButton>
 
-/// A small text in the accent colour that can be pressed.
+/// A button that is a small text in the accent colour.
 class LinkButton : public QAbstractButton
 {
     Q_OBJECT

@@ -116,7 +116,7 @@ void MediaCardDelegate::PaintCard(QPainter& painter, const QStyleOptionViewItem&
 void MediaCardDelegate::PaintPicture(QPainter& painter, const QRect& picture, const QModelIndex& index) const
 {
     painter.save();
-    // The lower corners of the rounded shape lie below the picture, behind the texts.
+    // Only the upper corners are round: the lower ones of the shape are below the clip.
     painter.setClipRect(picture);
     const QRectF rounded = QRectF(picture).adjusted(0.0, 0.0, 0.0, 2.0 * RadiusPx);
     painter.fillPath(Rounded(rounded), KxUIStyle::Colour(Role::Picture));
@@ -128,7 +128,7 @@ void MediaCardDelegate::PaintPicture(QPainter& painter, const QRect& picture, co
         KxUIStyle::Icon(QStringLiteral("film")).paint(&painter, icon, Qt::AlignCenter, QIcon::Disabled);
     } else {
         QSizeF size = QSizeF(thumbnail.size()).scaled(picture.size(), Qt::KeepAspectRatio);
-        // A pixel of background beside a picture that all but fills its room would look like a fault.
+        // A line of one background pixel beside the picture would look like a defect.
         if (picture.width() - size.width() < 2.0 && picture.height() - size.height() < 2.0) {
             size = picture.size();
         }

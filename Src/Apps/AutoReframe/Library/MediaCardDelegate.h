@@ -10,16 +10,16 @@ public:
     explicit MediaCardDelegate(QObject* parent);
     ~MediaCardDelegate() override;
 
-    /// Of a card's place, its share of the gaps around it included.
+    /// A card with its half of the gaps around it.
     static QSize CellSize();
-    /// The card inside its place.
+    /// The card inside its cell.
     static QRect CardRect(const QRect& cell);
-    /// The room of the picture, in widget pixels.
+    /// The area of the picture, in widget pixels.
     static QSize PictureSize();
 
-    /// Whether something that can be dropped hovers over the library.
+    /// Whether files that can be dropped are being dragged over the library.
     void SetDropActive(bool isActive);
-    /// The dashed frame that asks for videos.
+    /// The dashed frame of the place where videos can be dropped.
     static void PaintDropFrame(QPainter& painter, const QRect& frame, bool isActive);
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;

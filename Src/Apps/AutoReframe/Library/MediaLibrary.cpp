@@ -17,7 +17,7 @@ MediaLibrary::MediaLibrary(MediaBackendLoader& backend, QObject* parent)
 
 MediaLibrary::~MediaLibrary()
 {
-    // Its thread works for the backend, which may go next.
+    // Its thread uses the backend, which may be destroyed next.
     delete m_loader;
     for (const quint64 request : qAsConst(m_thumbnails)) {
         m_backend.IfLoaded()->CancelThumbnail(request);
@@ -61,7 +61,7 @@ void MediaLibrary::StartLoading()
             m_model.Remove(id);
         }
         m_opening.clear();
-        TellRefused();
+        ReportRefused();
         return;
     }
     m_loader = new MediaLoader(*backend, this);
@@ -86,7 +86,7 @@ void MediaLibrary::HandleOpened(int id, const KxResult<MediaFile>& media)
         m_refused += media.Message();
         m_model.Remove(id);
     }
-    TellRefused();
+    ReportRefused();
 }
 
 void MediaLibrary::RequestThumbnail(int id, const QString& path)
@@ -114,10 +114,10 @@ void MediaLibrary::Remove(const QModelIndexList& videos)
         }
         m_model.Remove(id);
     }
-    TellRefused();
+    ReportRefused();
 }
 
-void MediaLibrary::TellRefused()
+void MediaLibrary::ReportRefused()
 {
     if (m_opening.isEmpty() && !m_refused.isEmpty()) {
         const QStringList messages = m_refused;

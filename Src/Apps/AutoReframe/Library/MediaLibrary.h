@@ -8,35 +8,34 @@
 class MediaLoader;
 class MediaBackendLoader;
 
-/// The library behind the cards: takes files in and lets them go. User-interface thread.
+/// The videos behind the cards: imports files and removes them. User-interface thread.
 class MediaLibrary : public QObject
 {
     Q_OBJECT
 public:
-    /// `backend` is borrowed; files wait until it is there.
+    /// `backend` is borrowed; files wait until it is loaded.
     MediaLibrary(MediaBackendLoader& backend, QObject* parent);
     ~MediaLibrary() override;
 
     MediaLibraryModel& Model();
 
-    /// Takes files in; each appears at once and is opened in the background. One that is there already is not taken
-    /// again. Files that cannot be opened go away again and are told together, once none of them is left to try.
+    /// Each file appears at once and is opened in the background; a file that the library already has is not added
+    /// again. Files that cannot be opened are removed and reported together, after the last one was tried.
     void Import(const QStringList& paths);
     void Remove(const QModelIndexList& videos);
 
 Q_SIGNALS:
     /// Each with the name and the reason.
     void sigRefused(const QStringList& messages);
-    /// The videos that an import named, whether new or not.
+    /// All videos that were passed to Import(), new or not.
     void sigImported(const QModelIndexList& videos);
-    /// A video was opened.
     void sigOpened(int id);
 
 private:
     void StartLoading();
     void HandleOpened(int id, const KxResult<MediaFile>& media);
     void RequestThumbnail(int id, const QString& path);
-    void TellRefused();
+    void ReportRefused();
 
     MediaBackendLoader& m_backend;
     MediaLibraryModel m_model;

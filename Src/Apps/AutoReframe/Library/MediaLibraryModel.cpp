@@ -13,7 +13,7 @@
 namespace
 {
 
-/// Two names of one file have one identity; a file that is not there has its name.
+/// Equal for two paths of one file. For a missing file, its absolute path.
 QString Identity(const QString& path)
 {
     const QFileInfo file(path);
@@ -32,7 +32,7 @@ MediaLibraryModel::~MediaLibraryModel() = default;
 int MediaLibraryModel::Add(const QString& path)
 {
     const int row = Count();
-    // The first video brings the drop place with it.
+    // The drop place appears with the first video.
     beginInsertRows(QModelIndex(), row, m_entries.empty() ? 1 : row);
     m_entries.push_back({++m_lastId, path, std::nullopt, QPixmap()});
     endInsertRows();
@@ -43,7 +43,7 @@ void MediaLibraryModel::SetMedia(int id, const MediaFile& media)
 {
     if (Entry* const entry = EntryOf(id)) {
         entry->media = media;
-        TellChanged(id);
+        NotifyChanged(id);
     }
 }
 
@@ -51,7 +51,7 @@ void MediaLibraryModel::SetThumbnail(int id, const QPixmap& thumbnail)
 {
     if (Entry* const entry = EntryOf(id)) {
         entry->thumbnail = thumbnail;
-        TellChanged(id);
+        NotifyChanged(id);
     }
 }
 
@@ -173,7 +173,7 @@ MediaLibraryModel::Entry* MediaLibraryModel::EntryOf(int id)
     return found != m_entries.end() ? &*found : nullptr;
 }
 
-void MediaLibraryModel::TellChanged(int id)
+void MediaLibraryModel::NotifyChanged(int id)
 {
     const QModelIndex changed = IndexOf(id);
     Q_EMIT dataChanged(changed, changed);

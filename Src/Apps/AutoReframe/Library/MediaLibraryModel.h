@@ -7,27 +7,27 @@
 
 #include <vector>
 
-/// The videos of the library, in the order in which they came. While there are any, one more row at the end stands for
-/// the place where videos can be dropped; it cannot be selected. User-interface thread.
+/// The videos of the library, in the order of their import. If there are any, one more row at the end is the place
+/// where videos can be dropped; it cannot be selected. User-interface thread.
 class MediaLibraryModel : public QAbstractListModel
 {
     Q_OBJECT
 public:
     enum Role {
-        DetailsRole = Qt::UserRole, ///< "1920 × 1080 · 30 fps", or what is being done
-        LengthRole,                 ///< "00:42"; empty while unknown
-        ThumbnailRole,              ///< QPixmap, null while there is none
+        DetailsRole = Qt::UserRole, ///< "1920 × 1080 · 30 fps", or "Opening…"
+        LengthRole,                 ///< "00:42"; empty until known
+        ThumbnailRole,              ///< QPixmap, null until there is one
         IsDropPlaceRole,            ///< bool
     };
 
     explicit MediaLibraryModel(QObject* parent);
     ~MediaLibraryModel() override;
 
-    /// Appends a video that is not open yet and returns its number.
+    /// Adds a video that is not open yet at the end and returns its number.
     int Add(const QString& path);
     void SetMedia(int id, const MediaFile& media);
     void SetThumbnail(int id, const QPixmap& thumbnail);
-    /// A number that is not there is ignored.
+    /// Unknown numbers are ignored.
     void Remove(int id);
 
     /// Videos, open or not.
@@ -57,7 +57,7 @@ private:
     const Entry* EntryAt(const QModelIndex& index) const;
     Entry* EntryOf(int id);
     QVariant EntryData(const Entry& entry, int role) const;
-    void TellChanged(int id);
+    void NotifyChanged(int id);
 
     std::vector<Entry> m_entries;
     int m_lastId = 0;

@@ -18,7 +18,7 @@ namespace
 
 using KxUIStyle::Role;
 
-// None at the right: the scroll bar stands there.
+// None at the right, where the scroll bar is.
 constexpr int MarginPx = 12;
 constexpr int CardRadiusPx = 8;
 
@@ -133,7 +133,7 @@ void MediaLibraryView::mouseMoveEvent(QMouseEvent* event)
 void MediaLibraryView::mousePressEvent(QMouseEvent* event)
 {
     if (event->button() == Qt::LeftButton && InvitesImport(event->pos())) {
-        // Once the press is dealt with: a chooser opened inside it would leave the view waiting for the release.
+        // Queued: with a chooser opened inside this event the view would never see the release.
         QMetaObject::invokeMethod(this, &MediaLibraryView::sigImport, Qt::QueuedConnection);
         return;
     }

@@ -5,7 +5,7 @@
 class MediaCardDelegate;
 class MediaLibraryModel;
 
-/// The library's cards. Tells what the person wants to do with them and does none of it. User-interface thread.
+/// The library's cards. Only reports what the person asks for. User-interface thread.
 class MediaLibraryView : public QListView
 {
     Q_OBJECT
@@ -14,7 +14,7 @@ public:
     MediaLibraryView(MediaLibraryModel& model, QWidget* parent);
     ~MediaLibraryView() override;
 
-    /// Whether something that can be dropped hovers over the window.
+    /// Whether files that can be dropped are being dragged over the window.
     void SetDropActive(bool isActive);
     /// In the order of the library.
     QModelIndexList SelectedVideos() const;

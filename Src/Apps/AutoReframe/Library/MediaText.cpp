@@ -7,8 +7,8 @@
 namespace
 {
 
-constexpr qint64 minute = 60;
-constexpr qint64 hour = 60 * minute;
+constexpr qint64 Minute = 60;
+constexpr qint64 Hour = 60 * Minute;
 
 QString Translated(const char* text)
 {
@@ -52,12 +52,12 @@ QString MediaText::FileSize(qint64 bytes)
 
 QString MediaText::TimeLeft(qint64 seconds)
 {
-    if (seconds < minute) {
+    if (seconds < Minute) {
         return Translated("%1 s left").arg(seconds);
     }
-    if (seconds < hour) {
-        return Translated("%1 min %2 s left").arg(QString::number(seconds / minute), QString::number(seconds % minute));
+    if (seconds < Hour) {
+        return Translated("%1 min %2 s left").arg(QString::number(seconds / Minute), QString::number(seconds % Minute));
     }
     return Translated("%1 h %2 min left")
-        .arg(QString::number(seconds / hour), QString::number(seconds % hour / minute));
+        .arg(QString::number(seconds / Hour), QString::number(seconds % Hour / Minute));
 }

@@ -5,7 +5,7 @@
 #include <QSize>
 #include <QString>
 
-/// The facts of videos and files in words. Pure.
+/// Facts of videos and files as texts. Pure.
 namespace MediaText
 {
 /// "1920 × 1080".
