@@ -182,7 +182,7 @@ TEST(KxBadInputs, MoreStreamsThanAnyoneUses)
     }
     const QStringList codecs = Words("-c:v libx264 -c:a pcm_u8");
     ASSERT_TRUE(MadeVideo::RunFfmpeg(maps + codecs << path));
-    EXPECT_EQ(Sentence(path), "Cannot open streams.mov: it has more than 64 streams.");
+    EXPECT_EQ(Message(path), "Cannot open streams.mov: it has more than 64 streams.");
 
     ASSERT_TRUE(MadeVideo::RunFfmpeg(maps.mid(0, maps.size() - 2) + codecs << path));
     EXPECT_NE(ReadClips::OpenReader(path), nullptr);
@@ -191,7 +191,7 @@ TEST(KxBadInputs, MoreStreamsThanAnyoneUses)
         maps += Words("-map 1");
     }
     ASSERT_TRUE(MadeVideo::RunFfmpeg(maps + codecs << path));
-    EXPECT_EQ(Sentence(path), "Cannot open streams.mov: it has more than 64 streams.");
+    EXPECT_EQ(Message(path), "Cannot open streams.mov: it has more than 64 streams.");
 }
 
 TEST(KxBadInputs, RandomBytesBehindAVideosHeader)
