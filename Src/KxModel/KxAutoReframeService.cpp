@@ -1,5 +1,7 @@
 #include <KxModel/KxAutoReframeService.h>
 
+#include <KxSubject/KxOpenCvProcess.h>
+
 #include <QFileInfo>
 
 namespace
@@ -24,6 +26,11 @@ KxAutoReframeService& KxAutoReframeService::Instance()
 {
     static KxAutoReframeService service;
     return service;
+}
+
+void KxAutoReframeService::PrepareProgram()
+{
+    KxOpenCvProcess::Prepare();
 }
 
 KxAutoReframeService::KxAutoReframeService()

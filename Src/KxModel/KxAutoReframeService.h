@@ -23,6 +23,10 @@ public:
     /// The service that getAutoReframeService() returns.
     static KxAutoReframeService& Instance();
 
+    /// For a program of this product, at its start: sets what an analysis would like the whole process to have, and a
+    /// host that loads this library must decide by itself (KxOpenCvProcess).
+    static void PrepareProgram();
+
     /// Opens one analysis; KxVideoAnalysis::Open in the product.
     using Open = std::function<KxResult<std::unique_ptr<KxAnalysis>>(
         const QString& path, const IKxAutoReframeParam& param, const KxAnalysisSettings& settings,

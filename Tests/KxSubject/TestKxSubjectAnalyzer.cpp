@@ -8,6 +8,8 @@
 #include <Tests/KxSubject/MadePictures.h>
 #include <Tests/KxSubject/Shots/ShotPictures.h>
 
+#include <opencv2/core/utility.hpp>
+#include <opencv2/core/utils/logger.hpp>
 #include <opencv2/imgproc.hpp>
 
 #include <gtest/gtest.h>
@@ -398,4 +400,19 @@ TEST(KxSubjectAnalyzer, AFaceDetectorThatCannotBeRunIsReported)
 {
     EXPECT_FALSE(KxSubjectAnalyzer(Request(5), NoFaceModels).IsFaceDetectorRefused());
     EXPECT_TRUE(KxSubjectAnalyzer(Request(5), {{}, {}, "no network"}).IsFaceDetectorRefused());
+}
+
+TEST(KxSubjectAnalyzer, TheHostsSettingsOfOpenCvAreLeftAlone)
+{
+    const int threads = cv::getNumThreads();
+    const cv::utils::logging::LogLevel level = cv::utils::logging::getLogLevel();
+    cv::setNumThreads(3);
+    cv::utils::logging::setLogLevel(cv::utils::logging::LOG_LEVEL_FATAL);
+    KxFaceModels models = InstalledModels::Cascades();
+    models.detector = "no network";
+    Analyse(Request(20), Walk, 1, 20, {}, models);
+    EXPECT_EQ(cv::getNumThreads(), 3);
+    EXPECT_EQ(cv::utils::logging::getLogLevel(), cv::utils::logging::LOG_LEVEL_FATAL);
+    cv::setNumThreads(threads);
+    cv::utils::logging::setLogLevel(level);
 }

@@ -9,6 +9,7 @@
 
 int ReframeProgram::Run(const ReframeOptions& options)
 {
+    KxAutoReframeService::PrepareProgram();
     KxAutoReframeService::Instance().SetFaceModel(options.faceModel.isEmpty() ? KxFaceModelFiles::FindDetector()
                                                                               : options.faceModel);
     const bool explains = !options.report.isEmpty() || options.PreviewIsVideo();

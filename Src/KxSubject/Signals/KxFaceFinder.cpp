@@ -6,9 +6,12 @@
 #include <opencv2/imgproc.hpp>
 
 #include <algorithm>
+#include <tuple>
 
 namespace
 {
+
+constexpr double GroupingShare = 0.2; ///< of the size, that raw hits of one face differ by; OpenCV's own value
 
 /// An empty classifier where `xml` is no cascade.
 cv::CascadeClassifier CascadeOf(const std::string& xml)
@@ -41,7 +44,6 @@ bool KxAreOneFace(const cv::Rect& a, const cv::Rect& b, double share)
 KxFaceFinder::KxFaceFinder(const KxSubjectOptions::Faces& options, const KxFaceModels& models, cv::Size picturePx)
     : m_options(options)
 {
-    cv::setNumThreads(1);
     if (!models.detector.empty()) {
         LoadDetector(models.detector, picturePx);
     }
@@ -163,8 +165,13 @@ std::vector<cv::Rect> KxFaceFinder::FindByCascade(const cv::Mat& grey, KxFaceVie
     }
     std::vector<cv::Rect> faces;
     (view == KxFaceView::Frontal ? m_frontal : m_profile)
-        .detectMultiScale(looked, faces, search.scaleFactor, search.neighbours, 0,
-                          cv::Size(search.smallestPx, search.smallestPx), cv::Size(search.largestPx, search.largestPx));
+        .detectMultiScale(looked, faces, search.scaleFactor, 0, 0, cv::Size(search.smallestPx, search.smallestPx),
+                          cv::Size(search.largestPx, search.largestPx));
+    // OpenCV's threads deliver the raw hits in any order, and the order decides between equals later on.
+    std::sort(faces.begin(), faces.end(), [](const cv::Rect& a, const cv::Rect& b) {
+        return std::tie(a.width, a.y, a.x) < std::tie(b.width, b.y, b.x);
+    });
+    cv::groupRectangles(faces, search.neighbours, GroupingShare);
     if (view == KxFaceView::RightProfile) {
         for (cv::Rect& face : faces) {
             face.x = grey.cols - face.x - face.width;

@@ -4,6 +4,7 @@
 #include <Tests/KxSubject/MadePictures.h>
 
 #include <opencv2/core.hpp>
+#include <opencv2/core/utility.hpp>
 #include <opencv2/imgproc.hpp>
 
 #include <gtest/gtest.h>
@@ -112,6 +113,24 @@ TEST_F(KxFaceFinderOnAPhotograph, NoMorePlacesAreLookedAtThanTheBound)
     EXPECT_FALSE(Find().empty());
     options.mostSuspects = 0;
     EXPECT_TRUE(Find().empty());
+}
+
+TEST_F(KxFaceFinderOnAPhotograph, TheNumberOfOpenCvsThreadsDoesNotChangeTheFaces)
+{
+    // Many hits, few agreeing ones needed: the order in which threads deliver them would show.
+    options.frontalNeighbours = 1;
+    options.mostSuspects = 6;
+    const cv::Mat part = grey;
+    cv::repeat(part, 3, 3, grey);
+    const int threads = cv::getNumThreads();
+    cv::setNumThreads(1);
+    const std::vector<cv::Rect> expected = Find();
+    EXPECT_FALSE(expected.empty());
+    cv::setNumThreads(8);
+    for (int i = 0; i < 5; ++i) {
+        EXPECT_EQ(Find(), expected);
+    }
+    cv::setNumThreads(threads);
 }
 
 TEST(KxFaceFinder, BoxesThatLieNearAndAreAlikeInSizeAreOneFace)

@@ -49,6 +49,7 @@ void RequestExport(IKxTimeline* timeline, const QVariant& record, const DialogCa
 
 HostMediaBackend::HostMediaBackend()
 {
+    KxAutoReframeService::PrepareProgram();
     KxAutoReframeService::Instance().SetFaceModel(KxFaceModelFiles::FindDetector());
     KxFileDialog::SetFileCheck(&KxMediaLibraryUtils::CheckVideoFile);
 }
