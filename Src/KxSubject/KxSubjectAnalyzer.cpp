@@ -73,12 +73,16 @@ private:
     };
     KxCropRect ContentShare() const;
     KxCropGeometry Geometry() const;
+    /// The boundaries that were found, and the ends of long pauses in the pictures: what follows hours later is
+    /// another shot, and no path has to be computed through the pause.
+    std::vector<KxShotBoundary> Boundaries() const;
     std::vector<Shot> Shots() const;
+    std::int64_t LongestHoldFrames() const;
     /// The evidence of all signals, its peaks amplified, so that one subject outweighs what is spread wide.
     KxSignalProfile Combined(const KxSignalRecorder::Evidence& evidence) const;
-    /// The tracker's cost of a move by one width, in a shot with so many samples: where pictures are missing, fewer
-    /// samples have to pay for a move.
-    double MoveCost(const Shot& shot, std::size_t samples) const;
+    /// The tracker's cost of a move by one width, in a shot with samples from `begin` up to, but without, `end`: where
+    /// pictures are missing, fewer samples have to pay for a move.
+    double MoveCost(const Shot& shot, std::size_t begin, std::size_t end) const;
     std::vector<double> CentresOf(const Shot& shot, const KxCropGeometry& geometry, const KxCentreScore& score,
                                   const KxCancelToken& cancel);
     void RecordFindings(const Shot& shot, const std::vector<KxPathPoint>& points, std::size_t firstSample, KxAxis axis,
@@ -125,10 +129,38 @@ KxCropGeometry KxSubjectAnalyzer::Impl::Geometry() const
                           {m_request.aspectWidth, m_request.aspectHeight}, ContentShare());
 }
 
+std::int64_t KxSubjectAnalyzer::Impl::LongestHoldFrames() const
+{
+    // At a very low rate every picture is held for long.
+    constexpr double leastFrames = 4.0;
+    return std::llround(std::max(m_options.path.longestHoldSeconds * m_request.frameRate, leastFrames));
+}
+
+std::vector<KxShotBoundary> KxSubjectAnalyzer::Impl::Boundaries() const
+{
+    std::vector<KxShotBoundary> boundaries = m_shots.Boundaries(m_request.frameRate);
+    const std::vector<KxSignalSample>& samples = m_signals.Samples();
+    std::vector<KxShotBoundary> pauses;
+    for (std::size_t i = 1; i < samples.size(); ++i) {
+        const std::int64_t frame = samples[i].frame;
+        const std::int64_t before = samples[i - 1].frame;
+        const auto isFound = [before, frame](const KxShotBoundary& boundary) {
+            return boundary.frame > before && boundary.frame <= frame;
+        };
+        if (frame - before > LongestHoldFrames() && std::none_of(boundaries.begin(), boundaries.end(), isFound)) {
+            pauses.push_back({frame, frame, frame, KxShotBoundaryKind::Cut});
+        }
+    }
+    boundaries.insert(boundaries.end(), pauses.begin(), pauses.end());
+    std::sort(boundaries.begin(), boundaries.end(),
+              [](const KxShotBoundary& a, const KxShotBoundary& b) { return a.frame < b.frame; });
+    return boundaries;
+}
+
 std::vector<KxSubjectAnalyzer::Impl::Shot> KxSubjectAnalyzer::Impl::Shots() const
 {
     std::vector<Shot> shots{{0, m_request.frameCount, 0, m_request.frameCount}};
-    for (const KxShotBoundary& boundary : m_shots.Boundaries(m_request.frameRate)) {
+    for (const KxShotBoundary& boundary : Boundaries()) {
         shots.back().end = boundary.frame;
         shots.back().clearEnd = std::min(boundary.first, boundary.frame);
         shots.push_back(
@@ -142,11 +174,17 @@ KxSignalProfile KxSubjectAnalyzer::Impl::Combined(const KxSignalRecorder::Eviden
     return evidence.Sum().Concentrated(m_options.evidence.concentration);
 }
 
-double KxSubjectAnalyzer::Impl::MoveCost(const Shot& shot, std::size_t samples) const
+double KxSubjectAnalyzer::Impl::MoveCost(const Shot& shot, std::size_t begin, std::size_t end) const
 {
+    if (begin == end) {
+        return 0.0;
+    }
+    const std::vector<KxSignalSample>& samples = m_signals.Samples();
+    const std::int64_t first = std::max(shot.first, samples[begin].frame - LongestHoldFrames());
+    const std::int64_t last = std::min(shot.end - 1, samples[end - 1].frame + LongestHoldFrames());
     const double patience = m_options.For(m_request.speed).holdSeconds / m_options.automatic.holdSeconds;
     const double usualRate = m_options.sampling.samplesPerSecond;
-    const double rate = static_cast<double>(samples) * m_request.frameRate / static_cast<double>(shot.end - shot.first);
+    const double rate = static_cast<double>(end - begin) * m_request.frameRate / static_cast<double>(last + 1 - first);
     return m_options.path.moveCost * patience * std::sqrt(usualRate) * std::min(1.0, rate / usualRate);
 }
 
@@ -160,7 +198,7 @@ std::vector<double> KxSubjectAnalyzer::Impl::CentresOf(const Shot& shot, const K
     const auto begin = static_cast<std::size_t>(from - samples.begin());
     const auto end = static_cast<std::size_t>(to - samples.begin());
 
-    KxSubjectTracker tracker(MoveCost(shot, end - begin) * score.Spacing());
+    KxSubjectTracker tracker(MoveCost(shot, begin, end) * score.Spacing());
     for (std::size_t i = begin; i < end && !cancel.IsCancelled(); ++i) {
         const bool clear = samples[i].frame >= shot.clearFirst && samples[i].frame < shot.clearEnd;
         tracker.Add(clear ? score.Of(Combined(m_signals.EvidenceAt(i, shot.first, shot.end, geometry.FreeAxis())))

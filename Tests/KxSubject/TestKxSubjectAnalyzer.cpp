@@ -18,6 +18,7 @@
 #include <cmath>
 #include <functional>
 #include <limits>
+#include <thread>
 
 namespace
 {
@@ -340,6 +341,41 @@ TEST(KxSubjectAnalyzer, PicturesThatEndEarlyHoldTheLastPlace)
     ExpectOneSizeInside(crops);
     EXPECT_NEAR(Middle(crops[199]), Middle(crops[105]), 0.05);
     EXPECT_NEAR(Middle(crops[199]), 0.6, 0.1);
+}
+
+TEST(KxSubjectAnalyzer, APauseOfWeeksInTheTimeStampsIsHeldAndStartsAnotherShot)
+{
+    constexpr std::int64_t pause = 20 * 24 * 3600;
+    KxSubjectRequest request = Request(40 + pause);
+    request.frameRate = 1.0;
+    request.wantsFindings = true;
+    KxSubjectAnalyzer analyzer(request, NoFaceModels);
+    const auto place = [](std::int64_t picture) { return 0.2 + 0.015 * static_cast<double>(picture); };
+    for (std::int64_t picture = 0; picture < 40; ++picture) {
+        const std::int64_t frame = picture < 20 ? picture : picture + pause;
+        analyzer.AddPicture(frame, ViewOf(Picture(place(picture), 60.0)));
+    }
+    const auto crops = analyzer.Finish(KxCancelToken());
+    ASSERT_EQ(crops.size(), static_cast<std::size_t>(40 + pause));
+    ASSERT_EQ(analyzer.Findings().shots.size(), 2U);
+    EXPECT_EQ(analyzer.Findings().shots[1].first, 20 + pause);
+    EXPECT_EQ(crops[1000].x, crops[static_cast<std::size_t>(pause)].x);
+    EXPECT_NEAR(Middle(crops[1000]), place(19), 0.15);
+    EXPECT_NEAR(Middle(crops.back()), place(39), 0.15);
+}
+
+TEST(KxSubjectAnalyzer, AnalysisEndsEarlyOnceCancelled)
+{
+    KxSubjectOptions options;
+    options.path.iterations = std::numeric_limits<int>::max();
+    KxSubjectAnalyzer analyzer(Request(60), NoFaceModels, options);
+    for (std::int64_t frame = 0; frame < 60; ++frame) {
+        analyzer.AddPicture(frame, ViewOf(Picture(0.1 + 0.013 * static_cast<double>(frame), 60.0)));
+    }
+    KxCancelToken cancel;
+    std::thread canceller([&cancel] { cancel.Cancel(); });
+    EXPECT_TRUE(analyzer.Finish(cancel).empty());
+    canceller.join();
 }
 
 TEST(KxSubjectAnalyzer, AVeryLowRateIsTaken)

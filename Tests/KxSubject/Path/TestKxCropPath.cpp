@@ -132,3 +132,15 @@ TEST(KxCropPath, OneFrameIsDrawn)
 {
     EXPECT_THAT(Draw({{0, 0.7}}, 0, 1), testing::ElementsAre(0.7));
 }
+
+TEST(KxCropPath, FarFromItsPointsThePathIsHeld)
+{
+    const std::int64_t weeks = 50000000;
+    const auto points = Points(weeks, weeks + 240, [](double s) { return 0.25 + 0.06 * s; });
+    const auto line = Draw(points, weeks - 2000000, weeks + 2000000);
+    ASSERT_THAT(line, SizeIs(4000000));
+    EXPECT_NEAR(line.front(), points.front().centre, 0.05);
+    EXPECT_EQ(line[1000000], line.front());
+    EXPECT_NEAR(line.back(), points.back().centre, 0.05);
+    EXPECT_EQ(line[3000000], line.back());
+}
