@@ -130,6 +130,15 @@ QString KxInputFile::Message(const QString& path, const QString& reason)
     return QStringLiteral("Cannot open %1: %2.").arg(name.isEmpty() ? QDir::toNativeSeparators(path) : name, reason);
 }
 
+bool KxInputFile::HasChanged() const
+{
+    const QFileInfo info(m_path);
+    if (!info.exists() || (info.size() >= m_fileSize && info.lastModified() == m_modified)) {
+        return false;
+    }
+    return info.size() <= m_fileSize || Head(m_path) != m_head;
+}
+
 int KxInputFile::IsInterrupted(void* watch)
 {
     Watch& state = *static_cast<Watch*>(watch);
@@ -172,7 +181,9 @@ KxError KxInputFile::OpenFile()
     if (m_fileSize == 0) {
         return QStringLiteral("it is empty");
     }
-    m_isCutOff = KxClaimedSize(Head(m_path)).value_or(0) > m_fileSize;
+    m_modified = info.lastModified();
+    m_head = Head(m_path);
+    m_isCutOff = KxClaimedSize(m_head).value_or(0) > m_fileSize;
     Options options;
     options.Set("protocol_whitelist", "file");
     const QByteArray url = QByteArrayLiteral("file:") + info.absoluteFilePath().toUtf8();

@@ -6,6 +6,8 @@
 #include <KxMedia/Container/KxAvHandles.h>
 #include <KxMedia/Container/KxReadStatus.h>
 
+#include <QByteArray>
+#include <QDateTime>
 #include <QSize>
 #include <QString>
 
@@ -32,6 +34,9 @@ public:
 
     const QString& Path() const { return m_path; }
     qint64 FileSize() const { return m_fileSize; }
+    /// It was truncated or written to since it was opened. That it grows, or is deleted, is no change. Costs a look at
+    /// the file's entry in its folder.
+    bool HasChanged() const;
     /// The file says in front that it is longer than it is.
     bool IsCutOff() const { return m_isCutOff; }
     AVFormatContext& Context() const { return *m_context; }
@@ -68,6 +73,8 @@ private:
 
     QString m_path;
     qint64 m_fileSize = 0;
+    QDateTime m_modified;
+    QByteArray m_head;
     bool m_isCutOff = false;
     Watch m_watch;
     AVIOContext* m_file = nullptr;

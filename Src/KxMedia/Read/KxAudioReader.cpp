@@ -171,7 +171,8 @@ KxResult<std::unique_ptr<KxAudioReader>> KxAudioReader::Open(const QString& path
 
 KxReadStatus KxAudioReader::Next(KxAudioBlock& block)
 {
-    return m_impl->Next(block);
+    const KxReadStatus status = m_impl->Next(block);
+    return status != KxReadStatus::Cancelled && m_impl->track->FileHasChanged() ? KxReadStatus::Failed : status;
 }
 
 void KxAudioReader::Seek(qint64 timeUs)

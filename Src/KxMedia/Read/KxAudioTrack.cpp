@@ -217,6 +217,9 @@ bool KxAudioTrack::SeekBefore(qint64 position)
 bool KxAudioTrack::Rewind()
 {
     StartAgain();
+    if (m_input->HasChanged()) {
+        return false;
+    }
     KxResult<std::unique_ptr<KxInputFile>> again = KxInputFile::Open(m_input->Path(), m_input->Cancel());
     if (!again || m_streamIndex >= static_cast<int>((*again)->Context().nb_streams)) {
         return false;

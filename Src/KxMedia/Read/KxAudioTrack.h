@@ -35,6 +35,7 @@ public:
     KxReadStatus Next(Run& run);
     /// To a place that the container takes for one at or before `position`. False when there is none but the start.
     bool SeekBefore(qint64 position);
+    bool FileHasChanged() const { return m_input->HasChanged(); }
     /// To the first sound.
     bool Rewind();
 

@@ -30,6 +30,9 @@ bool KxVideoPackets::Rewind()
             return true;
         }
     }
+    if (m_input->HasChanged()) {
+        return false;
+    }
     // Some containers cannot be taken back to their very first packet; a file that is opened anew always stands there.
     KxCancelToken cancel = m_input->Cancel();
     KxResult<std::unique_ptr<KxInputFile>> again = KxInputFile::Open(m_input->Path(), cancel);

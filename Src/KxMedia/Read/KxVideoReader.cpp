@@ -35,12 +35,18 @@ const KxMediaFacts& KxVideoReader::Facts() const
 
 KxReadStatus KxVideoReader::Read(qint64 frame, KxVideoFrame& picture)
 {
-    return m_impl->reader.Read(frame, picture);
+    const KxReadStatus status = m_impl->reader.Read(frame, picture);
+    return status != KxReadStatus::Cancelled && FileHasChanged() ? KxReadStatus::Failed : status;
 }
 
 void KxVideoReader::GiveUpWhen(std::function<bool()> isUnwanted)
 {
     m_impl->reader.GiveUpWhen(std::move(isUnwanted));
+}
+
+bool KxVideoReader::FileHasChanged() const
+{
+    return m_impl->reader.Source().FileHasChanged();
 }
 
 bool KxVideoReader::EndedEarly() const

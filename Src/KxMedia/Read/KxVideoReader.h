@@ -31,6 +31,10 @@ public:
     /// How many frames of the grid could be decoded; the grid's length until an early end was met.
     qint64 DecodableFrames() const;
 
+    /// The file was truncated or written to since it was opened: reading fails until it is opened anew. That it grows,
+    /// as a recording does, or is deleted, is no change.
+    bool FileHasChanged() const;
+
 private:
     class Impl;
     explicit KxVideoReader(std::unique_ptr<Impl> impl);

@@ -58,7 +58,10 @@ KxReadStatus KxVideoScanner::Next(KxVideoFrame& picture)
     Impl& impl = *m_impl;
     for (;;) {
         KxVideoFrame next;
-        const KxReadStatus status = impl.source->Next(next);
+        KxReadStatus status = impl.source->Next(next);
+        if (status != KxReadStatus::Cancelled && FileHasChanged()) {
+            status = KxReadStatus::Failed;
+        }
         if (status != KxReadStatus::Delivered) {
             impl.hasEnded = impl.hasEnded || status != KxReadStatus::Cancelled;
             return status;
@@ -69,6 +72,11 @@ KxReadStatus KxVideoScanner::Next(KxVideoFrame& picture)
             return KxReadStatus::Delivered;
         }
     }
+}
+
+bool KxVideoScanner::FileHasChanged() const
+{
+    return m_impl->source->FileHasChanged();
 }
 
 bool KxVideoScanner::EndedEarly() const

@@ -18,6 +18,10 @@ public:
     /// Decoding ended, or failed for good, well before the last frame of the grid.
     bool EndedEarly() const;
 
+    /// The file was truncated or written to since it was opened: reading fails until it is opened anew. That it grows,
+    /// as a recording does, or is deleted, is no change.
+    bool FileHasChanged() const;
+
 private:
     class Impl;
     explicit KxVideoScanner(std::unique_ptr<Impl> impl);

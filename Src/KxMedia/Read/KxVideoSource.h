@@ -27,6 +27,8 @@ public:
     /// See KxVideoDecoder::LatestSkippableTicks().
     std::optional<qint64> LatestSkippable() const { return m_decoder->LatestSkippableTicks(); }
 
+    bool FileHasChanged() const { return m_packets->Input().HasChanged(); }
+
     /// Back to the first packet.
     bool Rewind();
     /// See KxVideoPackets::Seek().
