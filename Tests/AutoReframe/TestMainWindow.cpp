@@ -317,6 +317,19 @@ TEST_F(TestMainWindow, ACardShowsTheStatesOfItsExport)
     EXPECT_TRUE(Child<QLabel>("ExportPanel_hint")->isVisible());
 }
 
+TEST_F(TestMainWindow, CardsDoNotMoveWhenTheFirstExportEnds)
+{
+    Open({QStringLiteral("a.mp4")});
+    ASSERT_TRUE(WaitUntilUsable());
+    ExportInDialog(QStringLiteral("out.mp4"));
+    QApplication::sendPostedEvents();
+    const QPoint before = Child<QWidget>("ExportCard")->mapTo(m_window.get(), QPoint());
+    m_backend->task->EndWell();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return Button("ExportPanel_clear")->isVisible(); }, 10000));
+    QApplication::sendPostedEvents();
+    EXPECT_EQ(Child<QWidget>("ExportCard")->mapTo(m_window.get(), QPoint()), before);
+}
+
 TEST_F(TestMainWindow, AFailedExportShowsItsReasonAndCanBeRetried)
 {
     Open({QStringLiteral("a.mp4")});

@@ -50,6 +50,10 @@ void ExportPanel::InitLayout()
     m_heading->setProperty("textRole", QStringLiteral("muted"));
     m_clear = new LinkButton(this);
     m_clear->setObjectName(QStringLiteral("ExportPanel_clear"));
+    // The list must not move when the button appears.
+    QSizePolicy clearPolicy = m_clear->sizePolicy();
+    clearPolicy.setRetainSizeWhenHidden(true);
+    m_clear->setSizePolicy(clearPolicy);
     m_hint = KxLabel::CreateLabel(this, QString());
     m_hint->setObjectName(QStringLiteral("ExportPanel_hint"));
     m_hint->setProperty("textRole", QStringLiteral("muted"));

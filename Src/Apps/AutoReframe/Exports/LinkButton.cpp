@@ -53,6 +53,13 @@ void LinkButton::keyPressEvent(QKeyEvent* event)
     QAbstractButton::keyPressEvent(event);
 }
 
+void LinkButton::resizeEvent(QResizeEvent* event)
+{
+    // The same distance at both sides of the text.
+    setProperty("focusRingRect", rect().adjusted(0, 0, MarginPx, 0));
+    QAbstractButton::resizeEvent(event);
+}
+
 void LinkButton::paintEvent(QPaintEvent* /*event*/)
 {
     using KxUIStyle::Role;
