@@ -24,6 +24,8 @@
 
 #include <gtest/gtest.h>
 
+#include <future>
+
 namespace
 {
 
@@ -173,6 +175,29 @@ TEST_F(TestMainWindow, AnExceptionWhileAFileIsOpenedIsReported)
     Open({QStringLiteral("throws.mp4"), QStringLiteral("a.mp4")});
     ASSERT_TRUE(QTest::qWaitFor([&] { return !m_boxes.isEmpty(); }, 10000));
     EXPECT_EQ(m_boxes, QStringList(QStringLiteral("Cannot open throws.mp4: memory ran out.")));
+    EXPECT_EQ(View()->model()->rowCount(), 2);
+}
+
+TEST_F(TestMainWindow, AFileThatIsRemovedWhileItIsOpenedIsCancelledAndNotReported)
+{
+    std::promise<KxCancelToken> entered;
+    std::promise<void> released;
+    m_backend->whileOpening = [&](const QString& name, const KxCancelToken& cancel) {
+        if (name == QLatin1String("bad.mp4")) {
+            entered.set_value(cancel);
+            released.get_future().wait();
+        }
+    };
+    m_loader.Get();
+    Open({QStringLiteral("bad.mp4")});
+    const KxCancelToken cancel = entered.get_future().get();
+    QTest::keyClick(View(), Qt::Key_Delete);
+    EXPECT_EQ(View()->model()->rowCount(), 0);
+    EXPECT_TRUE(cancel.IsCancelled());
+    released.set_value();
+    Open({QStringLiteral("a.mp4")});
+    ASSERT_TRUE(WaitUntilUsable());
+    EXPECT_TRUE(m_boxes.isEmpty());
     EXPECT_EQ(View()->model()->rowCount(), 2);
 }
 

@@ -51,9 +51,12 @@ public:
         std::thread m_thread;
     };
 
-    KxResult<MediaFile> Open(const QString& path, const KxCancelToken&) override
+    KxResult<MediaFile> Open(const QString& path, const KxCancelToken& cancel) override
     {
         const QString name = QFileInfo(path).fileName();
+        if (whileOpening) {
+            whileOpening(name, cancel);
+        }
         if (name.startsWith(QLatin1String("bad"))) {
             return KxResult<MediaFile>::Failure(QStringLiteral("Cannot open %1: it is bad.").arg(name));
         }
@@ -90,6 +93,8 @@ public:
         return std::make_unique<Task>(*this, request, callbacks);
     }
 
+    /// Called by the thread that opens a file.
+    std::function<void(const QString& name, const KxCancelToken& cancel)> whileOpening;
     quint64 lastThumbnail = 0;
     int dialogs = 0;
     /// The names of the videos that the dialog was opened for.
