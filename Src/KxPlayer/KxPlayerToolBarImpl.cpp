@@ -86,16 +86,13 @@ void KxPlayerToolBarBase::Impl::ConnectSlider()
     connect(m_slider, &KxToolSlider::sigValueChanged, this, &Impl::Drag);
     connect(m_slider, &KxToolSlider::sigValueChangeEnd, this, &Impl::EndDrag);
     connect(m_play, &QAbstractButton::clicked, this, &Impl::TogglePlaying);
-    const auto call = [this](int number, void (KxMediaPlayerPresenter::*what)()) {
-        connect(m_buttons[number], &QAbstractButton::clicked, this, [this, what] {
-            if (m_presenter) {
-                (m_presenter->*what)();
-            }
-        });
-    };
-    call(StopButton, &KxMediaPlayerPresenter::stop);
-    call(BackwardButton, &KxMediaPlayerPresenter::stepBackward);
-    call(ForwardButton, &KxMediaPlayerPresenter::stepForward);
+    connect(m_buttons[StopButton], &QAbstractButton::clicked, this, [this] {
+        if (m_presenter) {
+            m_presenter->stop();
+        }
+    });
+    connect(m_buttons[BackwardButton], &QAbstractButton::clicked, this, [this] { Step(-1); });
+    connect(m_buttons[ForwardButton], &QAbstractButton::clicked, this, [this] { Step(1); });
 }
 
 void KxPlayerToolBarBase::Impl::SetPresenter(KxMediaPlayerPresenter* presenter)
@@ -165,18 +162,44 @@ void KxPlayerToolBarBase::Impl::TakeRange()
 void KxPlayerToolBarBase::Impl::ShowFrame(int frame)
 {
     SeekNext();
-    if (m_slider && !m_isDragging && !m_seeking) {
+    if (m_slider && !m_isDragging && (!m_seeking || m_isStepping)) {
         m_slider->setValue(frame, false);
+    }
+}
+
+void KxPlayerToolBarBase::Impl::Step(int frames)
+{
+    if (!m_presenter || m_presenter->frameCount() == 0) {
+        return;
+    }
+    m_isStepping = true;
+    const int from = m_nextSeek.value_or(m_seeking.value_or(m_presenter->currentFrame()));
+    const int frame = std::clamp(from + frames, 0, m_presenter->frameCount() - 1);
+    if (m_seeking) {
+        if (m_presenter->inPlaying()) {
+            m_presenter->pause();
+        }
+        SeekTo(frame);
+        return;
+    }
+    m_seeking = frame;
+    m_patience.start();
+    if (frames > 0) {
+        m_presenter->stepForward();
+    } else {
+        m_presenter->stepBackward();
     }
 }
 
 void KxPlayerToolBarBase::Impl::BeginDrag()
 {
+    m_isStepping = false;
     m_isDragging = true;
 }
 
 void KxPlayerToolBarBase::Impl::Drag(double value)
 {
+    m_isStepping = false;
     // Keys and the wheel move the slider without a drag.
     if (m_seeksWhileDragged || !m_isDragging) {
         SeekTo(FrameOf(value));

@@ -44,6 +44,9 @@ private:
     void BeginDrag();
     void Drag(double value);
     void EndDrag(double value);
+    /// Shows the frame before (-1) or after (1). While a picture is awaited, steps add up and wait for it as a drag
+    /// does: a held key shows pictures go by.
+    void Step(int frames);
     void SeekTo(int frame);
     void SeekNext();
     /// Gives up the picture that has not come for long, where there is another place to go to.
@@ -58,6 +61,8 @@ private:
     QPointer<KxMediaPlayerPresenter> m_presenter;
 
     bool m_isDragging = false;
+    /// What is awaited was asked for by steps; the slider follows the pictures.
+    bool m_isStepping = false;
     std::optional<int> m_seeking;
     std::optional<int> m_nextSeek;
     /// Runs from each seek.

@@ -5,6 +5,7 @@
 #include <KxPlayer/KxPlayerToolBarBase.h>
 #include <KxWidgets/KxToolSlider.h>
 
+#include <QAbstractButton>
 #include <QTest>
 #include <QTimer>
 
@@ -24,6 +25,7 @@ protected:
     }
 
     QStringList& Calls() { return FakePlayer::ScriptOf(player).calls; }
+    void Click(int number) { bar.button(number)->click(); }
     void DragTo(double value) { bar.slider()->setValue(value, true); }
 
     KxMediaPlayerWidget widget{nullptr};
@@ -80,4 +82,51 @@ TEST_F(TestToolBarSeeks, WhoeverMovesLaterDoesNotWaitForAPictureThatTakesLong)
     EXPECT_EQ(Calls(), QStringList{Seek30});
     DragTo(50);
     EXPECT_EQ(Calls(), (QStringList{Seek30, Seek50}));
+}
+
+TEST_F(TestToolBarSeeks, StepsOfAHeldKeyWaitForThePictureAndShowTheNewestPlace)
+{
+    FakePlayer::ShowFrame(player, 10);
+    for (int repeat = 0; repeat < 4; ++repeat) {
+        Click(KxPlayerToolBarBase::ForwardButton);
+    }
+    EXPECT_EQ(Calls(), QStringList{QStringLiteral("stepForward")});
+    FakePlayer::ShowFrame(player, 11);
+    EXPECT_EQ(Calls(), (QStringList{QStringLiteral("stepForward"), QStringLiteral("seek 14 0 0")}));
+    EXPECT_EQ(bar.slider()->value(), 11);
+    Click(KxPlayerToolBarBase::ForwardButton);
+    Click(KxPlayerToolBarBase::BackwardButton);
+    FakePlayer::ShowFrame(player, 14);
+    EXPECT_EQ(Calls().size(), 2);
+    EXPECT_EQ(bar.slider()->value(), 14);
+    Click(KxPlayerToolBarBase::BackwardButton);
+    EXPECT_EQ(Calls().last(), QStringLiteral("stepBackward"));
+    FakePlayer::ShowFrame(player, 13);
+    EXPECT_EQ(Calls().size(), 3);
+}
+
+TEST_F(TestToolBarSeeks, StepsDoNotLeaveTheTimeline)
+{
+    FakePlayer::ShowFrame(player, 98);
+    for (int repeat = 0; repeat < 4; ++repeat) {
+        Click(KxPlayerToolBarBase::ForwardButton);
+    }
+    FakePlayer::ShowFrame(player, 99);
+    EXPECT_EQ(Calls(), QStringList{QStringLiteral("stepForward")});
+    FakePlayer::ShowFrame(player, 1);
+    for (int repeat = 0; repeat < 4; ++repeat) {
+        Click(KxPlayerToolBarBase::BackwardButton);
+    }
+    FakePlayer::ShowFrame(player, 0);
+    EXPECT_EQ(Calls(), (QStringList{QStringLiteral("stepForward"), QStringLiteral("stepBackward")}));
+}
+
+TEST_F(TestToolBarSeeks, AStepAfterASeekWhilePlayingPauses)
+{
+    FakePlayer::SetPlaying(player, true);
+    DragTo(30);
+    Click(KxPlayerToolBarBase::ForwardButton);
+    EXPECT_FALSE(player.inPlaying());
+    FakePlayer::ShowFrame(player, 30);
+    EXPECT_EQ(Calls(), (QStringList{Seek30, QStringLiteral("pause"), QStringLiteral("seek 31 0 0")}));
 }
