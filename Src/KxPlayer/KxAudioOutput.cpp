@@ -4,6 +4,7 @@
 
 #include <KxCore/KxFrameTime.h>
 #include <KxCore/KxLog.h>
+#include <KxCore/KxThread.h>
 
 #include <algorithm>
 #include <cstdlib>
@@ -27,7 +28,7 @@ KxAudioOutput::KxAudioOutput(KxPlayerClock& clock, KxSoundDevice::Factory device
     , m_timer(this)
 {
     m_timer.setTimerType(Qt::PreciseTimer);
-    connect(&m_timer, &QTimer::timeout, this, &KxAudioOutput::Feed);
+    connect(&m_timer, &QTimer::timeout, this, [this] { GoWithoutSoundOnException([this] { Feed(); }); });
 }
 
 KxAudioOutput::~KxAudioOutput() = default;
@@ -54,7 +55,23 @@ bool KxAudioOutput::Prepare(const std::shared_ptr<const KxPlaySource>& source, c
     return m_reader != nullptr;
 }
 
+void KxAudioOutput::GoWithoutSoundOnException(const std::function<void()>& work)
+{
+    if (const KxError failure = KxCallGuarded(work)) {
+        KX_LOG_WARNING(QStringLiteral("Playing without sound: %1.").arg(*failure));
+        m_timer.stop();
+        m_isStarted = false;
+        m_device.reset();
+        m_reader.reset();
+    }
+}
+
 void KxAudioOutput::Start(const std::shared_ptr<const KxPlaySource>& source, quint64 run, const KxCancelToken& cancel)
+{
+    GoWithoutSoundOnException([&] { Begin(source, run, cancel); });
+}
+
+void KxAudioOutput::Begin(const std::shared_ptr<const KxPlaySource>& source, quint64 run, const KxCancelToken& cancel)
 {
     Stop();
     if (!m_clock.NowUs(run) || !Prepare(source, cancel) || !m_device->Start()) {
@@ -111,7 +128,7 @@ void KxAudioOutput::Feed()
         Stop();
         return;
     }
-    TellClock();
+    CorrectClock();
     int room = m_device->FreeFrames();
     while (room > 0) {
         int left = static_cast<int>(m_block.samples.size()) / KxSoundDevice::Channels - m_usedFrames;
@@ -133,9 +150,9 @@ void KxAudioOutput::Feed()
     }
 }
 
-void KxAudioOutput::TellClock()
+void KxAudioOutput::CorrectClock()
 {
-    // A device that makes no headway, or has nothing left to play, says nothing about the time.
+    // Only a device that plays measures time: not one that has not played anything more, nor one that has run dry.
     const qint64 heard = m_writtenFrames - m_device->WaitingFrames();
     const std::optional<qint64> now = m_clock.NowUs(m_run);
     if (!now || heard <= std::max(m_heardFrames, m_skippedAtFrames) || heard >= m_writtenFrames) {

@@ -9,10 +9,10 @@
 
 struct KxPlaySource;
 
-/// Keeps a sound device supplied with the sound of a source and tells the clock what was heard. Where the two are far
-/// apart, because the device began late or stumbled, the sound skips to where the clock is: pictures never wait for it.
-/// Lives on the sound thread; made there or moved there before its first use. Where anything is missing (device,
-/// stream, file) it does nothing, and the clock goes its own way.
+/// Keeps a sound device supplied with the sound of a source and reports to the clock what was heard. If the two are far
+/// apart, because the device began late or stopped for a moment, the sound skips to the clock's time: pictures never
+/// wait for it. Lives on the sound thread. Without a device, an audio stream or a readable file it does nothing, and
+/// the clock runs by itself; the same after an exception, which is logged.
 class KXPLAYER_API KxAudioOutput : public QObject
 {
     Q_OBJECT
@@ -21,18 +21,20 @@ public:
     KxAudioOutput(KxPlayerClock& clock, KxSoundDevice::Factory device);
     ~KxAudioOutput() override;
 
-    /// Plays what the clock shows, as long as `run` lasts. `cancel` belongs to the source.
+    /// Plays the sound of the clock's time until `run` ends. `cancel` belongs to the source.
     void Start(const std::shared_ptr<const KxPlaySource>& source, quint64 run, const KxCancelToken& cancel);
     void Stop();
-    /// Lets go of the file.
+    /// Closes the file.
     void Close();
 
 private:
+    void GoWithoutSoundOnException(const std::function<void()>& work);
+    void Begin(const std::shared_ptr<const KxPlaySource>& source, quint64 run, const KxCancelToken& cancel);
     bool Prepare(const std::shared_ptr<const KxPlaySource>& source, const KxCancelToken& cancel);
     void Feed();
     /// False at the end of the sound.
     bool Refill();
-    void TellClock();
+    void CorrectClock();
     void SkipTo(qint64 clockUs);
 
     KxPlayerClock& m_clock;

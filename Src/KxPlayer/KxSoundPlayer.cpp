@@ -2,23 +2,35 @@
 
 #include <KxPlayer/KxPlaySource.h>
 
+#include <QEventLoop>
+
+#include <future>
+
 KxSoundPlayer::KxSoundPlayer(KxPlayerClock& clock, KxSoundDevice::Factory device)
-    : m_output(new KxAudioOutput(clock, std::move(device)))
+    : m_clock(clock)
+    , m_makeDevice(std::move(device))
 {
-    m_thread.setObjectName(QStringLiteral("KxSoundPlayer"));
-    m_output->moveToThread(&m_thread);
-    QObject::connect(&m_thread, &QThread::finished, m_output, &QObject::deleteLater);
 }
 
 KxSoundPlayer::~KxSoundPlayer()
 {
     m_cancel.Cancel();
-    if (m_thread.isRunning()) {
-        m_thread.quit();
-        m_thread.wait();
-    } else {
-        delete m_output;
+    if (m_onThread.loop != nullptr) {
+        QMetaObject::invokeMethod(m_onThread.loop, &QEventLoop::quit, Qt::QueuedConnection);
     }
+}
+
+KxSoundPlayer::OnThread KxSoundPlayer::BeginThread()
+{
+    std::promise<OnThread> begun;
+    std::future<OnThread> onThread = begun.get_future();
+    m_thread = KxThread([this, &begun] {
+        QEventLoop loop;
+        KxAudioOutput output(m_clock, m_makeDevice);
+        begun.set_value({&output, &loop});
+        loop.exec();
+    });
+    return onThread.get();
 }
 
 void KxSoundPlayer::Start(const std::shared_ptr<const KxPlaySource>& source, quint64 run)
@@ -26,18 +38,18 @@ void KxSoundPlayer::Start(const std::shared_ptr<const KxPlaySource>& source, qui
     if (!source->audioStream) {
         return;
     }
-    if (!m_thread.isRunning()) {
-        m_thread.start();
+    if (m_onThread.output == nullptr) {
+        m_onThread = BeginThread();
     }
-    KxAudioOutput* const output = m_output;
+    KxAudioOutput* const output = m_onThread.output;
     QMetaObject::invokeMethod(
         output, [output, source, run, cancel = m_cancel] { output->Start(source, run, cancel); }, Qt::QueuedConnection);
 }
 
 void KxSoundPlayer::Stop()
 {
-    if (m_thread.isRunning()) {
-        QMetaObject::invokeMethod(m_output, &KxAudioOutput::Stop, Qt::QueuedConnection);
+    if (m_onThread.output != nullptr) {
+        QMetaObject::invokeMethod(m_onThread.output, &KxAudioOutput::Stop, Qt::QueuedConnection);
     }
 }
 
@@ -45,7 +57,7 @@ void KxSoundPlayer::Close()
 {
     m_cancel.Cancel();
     m_cancel = KxCancelToken();
-    if (m_thread.isRunning()) {
-        QMetaObject::invokeMethod(m_output, &KxAudioOutput::Close, Qt::QueuedConnection);
+    if (m_onThread.output != nullptr) {
+        QMetaObject::invokeMethod(m_onThread.output, &KxAudioOutput::Close, Qt::QueuedConnection);
     }
 }

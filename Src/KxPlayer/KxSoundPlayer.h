@@ -1,12 +1,13 @@
 #pragma once
 
 #include <KxCore/KxCancelToken.h>
+#include <KxCore/KxThread.h>
 #include <KxPlayer/KxAudioOutput.h>
 
-#include <QThread>
+class QEventLoop;
 
 /// Plays the sound of a source beside its pictures, on a thread of its own whose event loop the sound device needs; the
-/// thread begins with the first sound. User-interface thread; nothing here waits but the destructor, which cancels
+/// thread begins with the first sound. User-interface thread. Only the destructor waits for the thread; it cancels
 /// first.
 class KXPLAYER_API KxSoundPlayer
 {
@@ -17,11 +18,21 @@ public:
     /// Plays along with the clock's run `run`. Nothing happens for a source without sound.
     void Start(const std::shared_ptr<const KxPlaySource>& source, quint64 run);
     void Stop();
-    /// Gives the file back.
+    /// Closes the file.
     void Close();
 
 private:
-    QThread m_thread;
-    KxAudioOutput* m_output;
+    /// What lives on the sound thread while that runs; null before the first sound.
+    struct OnThread {
+        KxAudioOutput* output = nullptr;
+        QEventLoop* loop = nullptr;
+    };
+
+    OnThread BeginThread();
+
+    KxPlayerClock& m_clock;
+    const KxSoundDevice::Factory m_makeDevice;
     KxCancelToken m_cancel;
+    OnThread m_onThread;
+    KxThread m_thread;
 };

@@ -3,6 +3,7 @@
 #include <KxPlayer/KxSoundDevice.h>
 
 #include <algorithm>
+#include <stdexcept>
 #include <vector>
 
 /// What a fake sound device was given and how far it is, for a test on the thread of the audio output.
@@ -12,6 +13,10 @@ struct FakeSoundState {
     int capacity = 9600;
     std::vector<float> taken;
     int heardFrames = 0;
+    /// How often the output looked for room, which is the end of each look at the clock.
+    mutable int looks = 0;
+    /// Foreign code may throw.
+    bool throws = false;
 
     int WaitingFrames() const { return static_cast<int>(taken.size()) / KxSoundDevice::Channels - heardFrames; }
     /// The device plays on.
@@ -34,10 +39,17 @@ public:
         return m_state.starts;
     }
     void Stop() override { m_state.isStarted = false; }
-    int FreeFrames() const override { return m_state.capacity - m_state.WaitingFrames(); }
+    int FreeFrames() const override
+    {
+        ++m_state.looks;
+        return m_state.capacity - m_state.WaitingFrames();
+    }
     int WaitingFrames() const override { return m_state.WaitingFrames(); }
     int Write(const float* samples, int frames) override
     {
+        if (m_state.throws) {
+            throw std::runtime_error("the device broke");
+        }
         m_state.taken.insert(m_state.taken.end(), samples, samples + static_cast<std::ptrdiff_t>(frames) * Channels);
         return frames;
     }

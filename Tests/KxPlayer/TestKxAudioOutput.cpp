@@ -23,6 +23,13 @@ protected:
         return run;
     }
 
+    // The output has looked at the device and the clock after this was called.
+    bool AwaitLooks()
+    {
+        const int before = sound.looks;
+        return QTest::qWaitFor([&] { return sound.looks >= before + 2; });
+    }
+
     // What a sine of 440 Hz is that many frames after its start; ffmpeg's source has an amplitude of 1/8.
     static double Sine(qint64 frame) { return std::sin(2 * M_PI * 440 * static_cast<double>(frame) / RateHz) / 8; }
 
@@ -88,7 +95,7 @@ TEST_F(KxAudioOutputTest, ADeviceThatMakesNoHeadwayLeavesTheClockAlone)
 {
     StartAt(0);
     now += 700000;
-    QTest::qWait(60);
+    ASSERT_TRUE(AwaitLooks());
     EXPECT_EQ(clock.NowUs(), 700000);
 }
 
@@ -119,8 +126,30 @@ TEST_F(KxAudioOutputTest, EndsWithTheSound)
     EXPECT_GE(sound.taken.size() / 2, 4700U);
     sound.Hear(9600);
     now += 500000;
-    QTest::qWait(60);
+    ASSERT_TRUE(AwaitLooks());
     EXPECT_EQ(clock.NowUs(), 2800000);
+}
+
+TEST_F(KxAudioOutputTest, ADeviceThatHasRunDryLeavesTheClockAlone)
+{
+    // The last 100 ms of the sound.
+    StartAt(2300000);
+    ASSERT_LT(sound.WaitingFrames(), sound.capacity);
+    sound.Hear(sound.capacity);
+    ASSERT_EQ(sound.WaitingFrames(), 0);
+    // The clock is ahead of what was heard, but by less than what makes the sound skip.
+    now += 200000;
+    ASSERT_TRUE(AwaitLooks());
+    EXPECT_EQ(clock.NowUs(), 2500000);
+}
+
+TEST_F(KxAudioOutputTest, AnExceptionOfTheDeviceEndsTheSoundAndNotTheClock)
+{
+    sound.throws = true;
+    const quint64 run = StartAt(0);
+    now += 40000;
+    EXPECT_EQ(clock.NowUs(run), 40000);
+    EXPECT_TRUE(sound.taken.empty());
 }
 
 TEST_F(KxAudioOutputTest, StopsWithTheRun)

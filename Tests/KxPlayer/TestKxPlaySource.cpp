@@ -70,11 +70,15 @@ TEST(KxPlaySource, IsASnapshot)
 TEST(KxPlaySource, ACropStaysInsideThePicture)
 {
     KxPlaySource source;
-    source.cropKeyFrames = {Key(0, QRectF(-0.5, 0.9, 0.4, 0.4)), Key(1, QRectF(0.2, 0.2, 0, 7))};
+    source.cropKeyFrames = {Key(0, QRectF(-0.5, 0.9, 0.4, 0.4)), Key(1, QRectF(0.2, 0.2, 0, 7)),
+                            Key(2, QRectF(0.9, -0.5, 0.4, 0.4))};
     EXPECT_NEAR(source.CropAt(0)->x(), 0.0, 1e-12);
     EXPECT_NEAR(source.CropAt(0)->y(), 0.6, 1e-12);
     EXPECT_GT(source.CropAt(1)->width(), 0);
     EXPECT_LE(source.CropAt(1)->bottom(), 1.0);
+    EXPECT_NEAR(source.CropAt(2)->x(), 0.6, 1e-12);
+    EXPECT_NEAR(source.CropAt(2)->y(), 0.0, 1e-12);
+    EXPECT_NEAR(source.CropAt(2)->right(), 1.0, 1e-12);
 }
 
 TEST(KxPlaySource, KnowsTheStreamThatPlays)
