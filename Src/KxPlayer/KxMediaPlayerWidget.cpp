@@ -1,9 +1,14 @@
 #include <KxPlayer/KxMediaPlayerWidget.h>
 
+#include <KxPlayer/KxErrorText.h>
 #include <KxPlayer/KxMediaPlayerPresenterImpl.h>
 
+#include <KxWidgets/KxToolTipHelper.h>
+
+#include <QHelpEvent>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QToolTip>
 
 IKxMediaPlayerFactory::~IKxMediaPlayerFactory() = default;
 
@@ -51,9 +56,32 @@ KxMediaPlayerPresenter* KxMediaPlayerWidget::getOrCreatePresenter()
     if (m_presenter == nullptr) {
         m_presenter = new KxMediaPlayerPresenter(this);
         m_presenter->m_impl->SetArea(DeviceSize(*this), devicePixelRatioF());
-        connect(&m_presenter->m_impl->playback, &KxPlayback::sigPictureChanged, this, qOverload<>(&QWidget::update));
+        connect(&m_presenter->m_impl->playback, &KxPlayback::sigPictureChanged, this,
+                &KxMediaPlayerWidget::HandlePictureChanged);
     }
     return m_presenter;
+}
+
+QString KxMediaPlayerWidget::Failure() const
+{
+    return m_presenter != nullptr ? m_presenter->m_impl->playback.Failure().value_or(QString()) : QString();
+}
+
+void KxMediaPlayerWidget::HandlePictureChanged()
+{
+    setAccessibleDescription(Failure());
+    update();
+}
+
+bool KxMediaPlayerWidget::event(QEvent* event)
+{
+    const QString failure = Failure();
+    if (event->type() == QEvent::ToolTip && !failure.isEmpty()) {
+        // The painted message may be shortened.
+        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), KxToolTipHelper::AsPlainText(failure), this);
+        return true;
+    }
+    return KxWidget::event(event);
 }
 
 void KxMediaPlayerWidget::paintEvent(QPaintEvent* event)
@@ -70,6 +98,9 @@ void KxMediaPlayerWidget::paintEvent(QPaintEvent* event)
         QPainter painter(this);
         painter.setRenderHint(QPainter::SmoothPixmapTransform, picture->image.size() != place.size());
         painter.drawImage(Logical(place, devicePixelRatioF()), picture->image, QRectF(picture->image.rect()));
+    } else if (const QString failure = Failure(); !failure.isEmpty()) {
+        QPainter painter(this);
+        KxErrorText::Paint(painter, rect(), failure);
     }
 }
 

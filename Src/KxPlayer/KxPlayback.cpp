@@ -44,6 +44,8 @@ void KxPlayback::Open(std::shared_ptr<const KxPlaySource> source, After after, P
     m_source = std::move(source);
     m_picture.reset();
     m_wanted.reset();
+    m_failure.reset();
+    m_failedFrame = 0;
     m_dropped = 0;
     if (!goesOn) {
         SetPlaying(false);
@@ -148,9 +150,11 @@ void KxPlayback::PostLook()
 
 void KxPlayback::Look()
 {
-    if (const std::optional<QString> failure = m_engine->TakeFailure()) {
-        Fail(*failure);
-        return;
+    if (IsFailureDue()) {
+        if (const std::optional<QString> failure = m_engine->TakeFailure()) {
+            Fail(*failure);
+            return;
+        }
     }
     // Whoever is told of a picture may do anything, even delete this player.
     const QPointer<KxPlayback> alive(this);
@@ -159,6 +163,12 @@ void KxPlayback::Look()
         RunClock();
         ShowDue();
     }
+}
+
+bool KxPlayback::IsFailureDue() const
+{
+    const std::optional<qint64> now = m_clock.NowUs();
+    return !now || !m_picture || *now >= m_source->TimeUs(m_picture->frame + 1);
 }
 
 void KxPlayback::TakeWanted()
@@ -231,6 +241,9 @@ void KxPlayback::WakeForNext(qint64 nowUs)
         WakeAt(m_source->TimeUs(last + 1), nowUs);
     } else if (const std::optional<int> next = m_engine->NextFrame()) {
         WakeAt(ShowTimeUs(*next), nowUs);
+    } else if (m_engine->HasFailed()) {
+        // The last picture before the failure is shown for its full duration.
+        WakeAt(m_source->TimeUs(m_picture->frame + 1), nowUs);
     }
 }
 
@@ -270,8 +283,14 @@ void KxPlayback::Fail(const QString& message)
 {
     const QPointer<KxPlayback> alive(this);
     StopClock();
+    m_failure = message;
+    m_failedFrame = TargetFrame();
     m_wanted.reset();
+    m_picture.reset();
     SetPlaying(false);
+    if (alive) {
+        Q_EMIT sigPictureChanged();
+    }
     if (alive) {
         Q_EMIT sigFailed(message);
     }
@@ -282,6 +301,7 @@ void KxPlayback::SetPicture(KxPlayerPicture picture)
     const QPointer<KxPlayback> alive(this);
     const int frame = picture.frame;
     m_picture = std::move(picture);
+    m_failure.reset();
     Q_EMIT sigPictureChanged();
     if (alive) {
         Q_EMIT sigFrameChanged(frame);

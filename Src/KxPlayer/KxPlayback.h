@@ -48,17 +48,19 @@ public:
 
     bool IsPlaying() const { return m_isPlaying; }
     const std::shared_ptr<const KxPlaySource>& Source() const { return m_source; }
-    /// What is to be painted now.
+    /// The picture to paint now.
     const std::optional<KxPlayerPicture>& Picture() const { return m_picture; }
-    /// The frame that stands; while none does, the one that is wanted; else 0.
-    int CurrentFrame() const { return m_picture ? m_picture->frame : m_wanted.value_or(0); }
-    /// The frame that is wanted, else the one that stands.
+    /// The error message to paint in place of a picture: the frame that was wanted last cannot be shown.
+    const std::optional<QString>& Failure() const { return m_failure; }
+    /// The frame that is shown. Without a picture, the wanted frame or the one that cannot be shown; otherwise 0.
+    int CurrentFrame() const { return m_picture ? m_picture->frame : m_wanted.value_or(m_failedFrame); }
+    /// The frame that is wanted, otherwise the current one.
     int TargetFrame() const { return m_wanted.value_or(CurrentFrame()); }
     /// Frames that were left out while playing, since the source was opened.
     int DroppedFrames() const { return m_dropped; }
 
 Q_SIGNALS:
-    /// Another picture, or none, is to be painted.
+    /// Another picture, an error message, or neither is to be painted.
     void sigPictureChanged();
     void sigFrameChanged(int frame);
     void sigPlayingChanged(bool playing);
@@ -68,6 +70,8 @@ Q_SIGNALS:
 private:
     void PostLook();
     void Look();
+    /// While the clock runs, a failure waits until the time of the frame that is shown is over.
+    bool IsFailureDue() const;
     void TakeWanted();
     void RunClock();
     void ShowDue();
@@ -91,6 +95,8 @@ private:
     std::shared_ptr<const KxPlaySource> m_source;
     std::optional<KxPlayerPicture> m_picture;
     std::optional<int> m_wanted;
+    std::optional<QString> m_failure;
+    int m_failedFrame = 0;
     QSize m_area{1, 1};
     bool m_isPlaying = false;
     int m_dropped = 0;

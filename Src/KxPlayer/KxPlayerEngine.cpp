@@ -17,10 +17,10 @@ constexpr size_t PrimedPictures = 6;
 constexpr size_t MostPictures = 12;
 constexpr size_t MostBytes = 64U << 20U;
 
-QString CannotShow(const KxPlaySource& source)
+QString CannotShow(const KxPlaySource& source, const QString& reason)
 {
-    return QCoreApplication::translate("KxMediaPlayerPresenter", "Cannot show %1: its pictures cannot be decoded.")
-        .arg(QFileInfo(source.path).fileName());
+    return QCoreApplication::translate("KxMediaPlayerPresenter", "Cannot show %1: %2.")
+        .arg(QFileInfo(source.path).fileName(), reason);
 }
 
 } // namespace
@@ -40,7 +40,7 @@ KxPlayerEngine::~KxPlayerEngine()
         m_shared.cancel.Cancel();
     }
     m_shared.changed.notify_all();
-    m_thread.join();
+    m_thread.Join();
 }
 
 void KxPlayerEngine::NewOrder()
@@ -163,7 +163,7 @@ std::optional<int> KxPlayerEngine::NextFrame() const
 bool KxPlayerEngine::IsPrimed() const
 {
     const std::lock_guard<std::mutex> lock(m_shared.mutex);
-    return m_shared.ready.size() >= PrimedPictures ||
+    return m_shared.ready.size() >= PrimedPictures || m_shared.failure.has_value() ||
            (m_shared.source != nullptr && m_shared.next >= m_shared.source->frameCount);
 }
 
@@ -176,7 +176,13 @@ size_t KxPlayerEngine::PicturesAhead(const QSize& area)
 std::optional<QString> KxPlayerEngine::TakeFailure()
 {
     const std::lock_guard<std::mutex> lock(m_shared.mutex);
-    return std::exchange(m_shared.failure, std::nullopt);
+    return m_shared.ready.empty() ? std::exchange(m_shared.failure, std::nullopt) : std::nullopt;
+}
+
+bool KxPlayerEngine::HasFailed() const
+{
+    const std::lock_guard<std::mutex> lock(m_shared.mutex);
+    return m_shared.failure.has_value();
 }
 
 void KxPlayerEngine::Run()
@@ -187,8 +193,12 @@ void KxPlayerEngine::Run()
         if (maker && maker->Source() != job.source) {
             maker.reset();
         }
-        if (job.source) {
-            Carry(job, maker);
+        if (!job.source) {
+            continue;
+        }
+        if (const KxError thrown = KxCallGuarded([&] { CarryOut(job, maker); })) {
+            maker.reset();
+            KxCallGuarded([&] { Fail(job, CannotShow(*job.source, *thrown)); });
         }
     }
 }
@@ -234,7 +244,7 @@ int KxPlayerEngine::FrameToMake() const
     return std::clamp(inTime, m_shared.next, source.LastFrame());
 }
 
-void KxPlayerEngine::Carry(const Job& job, std::unique_ptr<KxPictureMaker>& maker)
+void KxPlayerEngine::CarryOut(const Job& job, std::unique_ptr<KxPictureMaker>& maker)
 {
     if (!maker) {
         KxResult<std::unique_ptr<KxPictureMaker>> opened = KxPictureMaker::Open(job.source, job.cancel);
@@ -259,7 +269,8 @@ void KxPlayerEngine::Carry(const Job& job, std::unique_ptr<KxPictureMaker>& make
     } else {
         // The next order tries the file afresh.
         maker.reset();
-        Fail(job, CannotShow(*job.source));
+        Fail(job, CannotShow(*job.source,
+                             QCoreApplication::translate("KxMediaPlayerPresenter", "its pictures cannot be decoded")));
     }
 }
 

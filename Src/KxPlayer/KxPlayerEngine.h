@@ -1,6 +1,7 @@
 #pragma once
 
 #include <KxCore/KxCancelToken.h>
+#include <KxCore/KxThread.h>
 #include <KxPlayer/KxPlayerClock.h>
 #include <KxPlayer/KxPlayerPicture.h>
 
@@ -10,7 +11,6 @@
 #include <deque>
 #include <memory>
 #include <mutex>
-#include <thread>
 
 class KxPictureMaker;
 struct KxPlaySource;
@@ -23,8 +23,9 @@ struct KxPlaySource;
 /// 2. A picture that was made ahead and is asked for next is not made again.
 /// 3. While the clock runs, frames whose time has been over for a frame before they are begun are left out.
 /// 4. A source is opened when the first picture of it is wanted, and closed when another one takes its place.
+/// 5. After a failure, the pictures that were made before it can still be taken. The next order tries the file again.
 ///
-/// All members for the thread that owns the engine. Destroying it cancels what goes on and waits for the thread.
+/// All members are for the thread that owns the engine. The destructor cancels the work and waits for the thread.
 class KXPLAYER_API KxPlayerEngine
 {
 public:
@@ -52,13 +53,15 @@ public:
     std::optional<KxPlayerPicture> TakeUpTo(int frame);
     /// The number of the next picture that can be taken.
     std::optional<int> NextFrame() const;
-    /// Enough pictures wait to begin with, or all that are left.
+    /// Whether playback can begin: enough pictures are ready, or no more will come.
     bool IsPrimed() const;
     /// How many pictures are made ahead for a player of this size: as many as a fixed amount of memory holds, within
     /// limits.
     static size_t PicturesAhead(const QSize& area);
-    /// Why the newest order cannot be carried out; given once.
+    /// Why the newest order cannot be carried out; returned once, after all pictures have been taken.
     std::optional<QString> TakeFailure();
+    /// Whether TakeFailure() will return an error message when all pictures have been taken.
+    bool HasFailed() const;
 
 private:
     enum class Mode { Idle, Still, Playing };
@@ -76,7 +79,7 @@ private:
     bool WaitForJob(Job& job, const KxPlaySource* opened);
     bool HasWork() const;
     int FrameToMake() const;
-    void Carry(const Job& job, std::unique_ptr<KxPictureMaker>& maker);
+    void CarryOut(const Job& job, std::unique_ptr<KxPictureMaker>& maker);
     void Deliver(const Job& job, KxPlayerPicture picture, qint64 tookUs);
     void Fail(const Job& job, const QString& message);
     bool KeepFrom(int frame);
@@ -100,5 +103,5 @@ private:
         qint64 makingUs = 0;
     };
     Shared m_shared;
-    std::thread m_thread;
+    KxThread m_thread;
 };

@@ -1,12 +1,15 @@
 #include <KxPlayer/KxPicturePlace.h>
 #include <Tests/KxPlayer/PlayerClip.h>
+#include <Tests/KxWidgets/ShownToolTip.h>
 #include <Tests/Support/MadeVideo.h>
 
 #include <KxPlayer/IKxMediaPlayer.h>
 #include <KxPlayer/KxMediaPlayerPresenter.h>
 #include <KxPlayer/KxMediaPlayerWidget.h>
+#include <KxWidgets/KxUIStyle.h>
 
 #include <QFile>
+#include <QHelpEvent>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -36,6 +39,23 @@ protected:
     std::optional<int> PaintedNumber() const
     {
         return MadeVideo::ReadNumber(Painted().copy(player.mediaPlayer()->videoRect()));
+    }
+
+    /// What surrounds the pixels of this colour, and of mixtures in which it dominates.
+    QRect Coloured(const QColor& colour) const
+    {
+        const QImage picture = Painted();
+        QRect found;
+        for (int y = 0; y < picture.height(); ++y) {
+            for (int x = 0; x < picture.width(); ++x) {
+                const QColor pixel = picture.pixelColor(x, y);
+                const bool isAlike = std::abs(pixel.red() - colour.red()) < 40 &&
+                                     std::abs(pixel.green() - colour.green()) < 40 &&
+                                     std::abs(pixel.blue() - colour.blue()) < 40;
+                found |= isAlike ? QRect(x, y, 1, 1) : QRect();
+            }
+        }
+        return found;
     }
 
     void Open(const PlayerClip::Timeline& timeline) { player.openTimeline(timeline.get(), true, false); }
@@ -252,6 +272,34 @@ TEST_F(TestMediaPlayer, ABrokenOrVanishedFileIsTold)
     Open(good);
     ASSERT_TRUE(Await(0));
     EXPECT_EQ(failed.size(), 2);
+}
+
+TEST_F(TestMediaPlayer, AFileThatIsGoneIsReportedInThePlayer)
+{
+    // As long as a file system allows.
+    const QString path = PlayerClip::Numbered() + QString(200, QLatin1Char('n')) + QStringLiteral(".mp4");
+    ASSERT_TRUE(QFile::copy(PlayerClip::Numbered(), path));
+    const auto timeline = PlayerClip::Open(path);
+    QFile::remove(path);
+    Open(timeline);
+    ASSERT_TRUE(failed.wait());
+    const QString message = failed[0][0].toString();
+    const QRect text = Coloured(KxUIStyle::Colour(KxUIStyle::Role::Error));
+    EXPECT_GT(text.width(), 200);
+    EXPECT_GE(text.left(), 16);
+    EXPECT_LE(std::abs(text.left() - (widget->width() - 1 - text.right())), 24);
+    EXPECT_LE(std::abs(text.top() - (widget->height() - 1 - text.bottom())), 24);
+    EXPECT_EQ(widget->accessibleDescription(), message);
+    QHelpEvent hover(QEvent::ToolTip, QPoint(1, 1), widget->mapToGlobal(QPoint(1, 1)));
+    QApplication::sendEvent(widget.get(), &hover);
+    EXPECT_EQ(ShownToolTip(), message);
+    QToolTip::hideText();
+
+    const auto good = PlayerClip::Open(PlayerClip::Numbered());
+    Open(good);
+    ASSERT_TRUE(Await(0));
+    EXPECT_TRUE(Coloured(KxUIStyle::Colour(KxUIStyle::Role::Error)).isEmpty());
+    EXPECT_EQ(widget->accessibleDescription(), QString());
 }
 
 TEST_F(TestMediaPlayer, ATruncatedFileHoldsItsLastPicture)

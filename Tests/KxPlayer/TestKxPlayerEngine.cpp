@@ -5,7 +5,9 @@
 
 #include <gtest/gtest.h>
 
+#include <future>
 #include <random>
+#include <stdexcept>
 
 namespace
 {
@@ -192,8 +194,6 @@ TEST_F(TestEngine, OrdersInTheMiddleOfALongReadGetTheirVeryFrame)
     std::mt19937 random(3);
     for (int round = 0; round < 40; ++round) {
         engine.Show(299);
-        for (auto spins = random() % 200000; spins > 0 && !engine.NextFrame(); --spins) {
-        }
         const int frame = static_cast<int>(random() % 299);
         engine.Show(frame);
         const auto picture = Await(frame);
@@ -260,19 +260,68 @@ TEST_F(TestEngine, AnotherSourceTakesThePlaceOfTheOne)
     EXPECT_FALSE(engine.NextFrame());
 }
 
+TEST(KxPlayerEngine, AnExceptionOnTheDecodingThreadIsReportedAfterThePicturesBeforeIt)
+{
+    const KxPlayerClock clock;
+    std::atomic_int calls{0};
+    std::promise<void> reported;
+    std::promise<void> triedAgain;
+    // The fourth picture fails behind the decoder, in foreign code.
+    KxPlayerEngine engine(clock, [&] {
+        const int call = ++calls;
+        if (call == 4) {
+            throw std::runtime_error("the decoder broke");
+        }
+        if (call == 5) {
+            reported.set_value();
+        }
+        if (call == 6) {
+            triedAgain.set_value();
+        }
+    });
+    engine.Open(PlayerClip::Source(PlayerClip::Numbered()));
+    engine.SetArea(QSize(160, 96), std::nullopt);
+    engine.Play(0);
+    ASSERT_EQ(reported.get_future().wait_for(Patience), std::future_status::ready);
+    // Playback can begin although fewer pictures are ready than usual.
+    EXPECT_TRUE(engine.IsPrimed());
+    for (int frame = 0; frame < 4; ++frame) {
+        EXPECT_FALSE(engine.TakeFailure());
+        ASSERT_TRUE(engine.Take(frame));
+    }
+    EXPECT_TRUE(engine.HasFailed());
+    EXPECT_EQ(engine.TakeFailure(), QStringLiteral("Cannot show numbered.mp4: the decoder broke."));
+    EXPECT_FALSE(engine.TakeFailure());
+    // The next order tries the file again.
+    engine.Play(7);
+    ASSERT_EQ(triedAgain.get_future().wait_for(Patience), std::future_status::ready);
+    EXPECT_FALSE(engine.HasFailed());
+    EXPECT_EQ(MadeVideo::ReadNumber(engine.Take(7)->image), 7);
+}
+
 TEST(KxPlayerEngine, IsDestroyedAtAnyMoment)
 {
     const auto source = PlayerClip::Source(PlayerClip::OneKeyFrame());
     const KxPlayerClock clock;
     for (int round = 0; round < 50; ++round) {
-        KxPlayerEngine engine(clock, [] {});
+        std::mutex mutex;
+        std::condition_variable told;
+        int timesTold = 0;
+        KxPlayerEngine engine(clock, [&] {
+            const std::lock_guard<std::mutex> lock(mutex);
+            ++timesTold;
+            told.notify_all();
+        });
         engine.Open(source);
         if (round % 3 == 0) {
             engine.Play(0);
         } else if (round % 3 == 1) {
             engine.Show(299);
         }
-        for (int spins = 0; spins < round * 2000 && !engine.NextFrame(); ++spins) {
+        // At once, or while the picture after the first ones is decoded.
+        if (round % 6 == 0) {
+            std::unique_lock<std::mutex> lock(mutex);
+            EXPECT_TRUE(told.wait_for(lock, Patience, [&] { return timesTold > round / 6; }));
         }
     }
 }

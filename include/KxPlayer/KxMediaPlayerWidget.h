@@ -4,7 +4,8 @@
 
 class KxMediaPlayerPresenter;
 
-/// Shows the pictures of a player, fitted into its area. Made by the factory alone.
+/// Shows the pictures of a player, fitted into its area. If a picture cannot be shown, it shows the presenter's error
+/// message instead (see KxMediaPlayerPresenter::sigFailed), until the next picture. Made by the factory only.
 class KXPLAYER_API KxMediaPlayerWidget : public KxWidget
 {
     Q_OBJECT
@@ -16,10 +17,14 @@ public:
     KxMediaPlayerPresenter* getOrCreatePresenter();
 
 protected:
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    QString Failure() const;
+    void HandlePictureChanged();
+
     KxMediaPlayerPresenter* m_presenter = nullptr;
 };
 
