@@ -2,6 +2,13 @@
 
 include(CMakePackageConfigHelpers)
 
+# ./run builds one program. What else is to be installed is built by the installation.
+add_custom_target(installed-parts)
+add_dependencies(installed-parts KxCore KxMedia KxSubject KxModel KxRender KxWidgets KxPlayer KxMediaLibrary KrAutoReframe
+    reframe auto-reframe AutoReframeBackend)
+install(CODE "execute_process(
+    COMMAND \"${CMAKE_COMMAND}\" --build \"${CMAKE_BINARY_DIR}\" --target installed-parts COMMAND_ERROR_IS_FATAL ANY)")
+
 install(TARGETS KxInterfaces KxCore KxMedia KxSubject KxModel KxRender KxWidgets KxPlayer KxMediaLibrary KrAutoReframe
     EXPORT KrAutoReframeTargets
     RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}"
@@ -12,6 +19,8 @@ install(TARGETS reframe auto-reframe RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR
 install(TARGETS AutoReframeBackend LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}")
 install(FILES Packaging/auto-reframe.desktop DESTINATION "${CMAKE_INSTALL_DATADIR}/applications")
 install(FILES Packaging/icon/auto-reframe.svg DESTINATION "${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps")
+# For programs that load the translation themselves; KxUIStyle::InstallTranslation() needs no file.
+install(FILES "${KR_TRANSLATION}" DESTINATION "${CMAKE_INSTALL_DATADIR}/auto-reframe/translations")
 install(DIRECTORY include/ DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}" FILES_MATCHING PATTERN "*.h")
 
 set(KR_PACKAGE_FOLDER "${CMAKE_INSTALL_LIBDIR}/cmake/KrAutoReframe")

@@ -10,12 +10,14 @@
 class QApplication;
 class QWidget;
 
-/// The host's look. User-interface thread. The style sheet tells areas and texts apart by dynamic properties: a QFrame
-/// with "surface" true is a card; a QLabel's "textRole" is "heading", "muted", "small" or "error"; "tabularFigures"
-/// true gives it digits of one width.
+/// The host's look. User-interface thread. A program calls Apply() and InstallTranslation() once, before its first
+/// widget; dialogs of a program that does not are unreadable.
+///
+/// The style sheet distinguishes areas and texts by dynamic properties: a QFrame with "surface" true is a card; a
+/// QLabel's "textRole" is "heading", "muted", "small" or "error"; "tabularFigures" true gives it digits of equal width.
 namespace KxUIStyle
 {
-/// The colours by what they are for; the style sheet knows them by the same names.
+/// The colours, named by their use. The style sheet uses the same names.
 enum class Role {
     Window,
     Panel,
@@ -40,20 +42,23 @@ enum class Role {
     DropFrame,
 };
 
-/// Sets style, font and style sheet of the whole program. Once, before the first widget. From then on the control that
-/// was reached with the keyboard wears a ring, and takes the keys that it needs before a shortcut of its window does.
+/// Sets style, palette, font and style sheet of the whole program. From then on a control that the keyboard focus has
+/// reached is surrounded by a ring, and takes the keys that it needs before a shortcut of its window does.
 KXWIDGETS_API void Apply(QApplication& application);
+
+/// Installs the English texts of the host and of the module, whose sources contain keys in place of some of them
+/// ("AutoReframe_Exit"). A program with translations of its own installs those after it: the last one is asked first.
+KXWIDGETS_API void InstallTranslation(QApplication& application);
 
 KXWIDGETS_API QColor Colour(Role role);
 
-/// An icon of the family by its name ("folder", "close", …), sharp at every size and tinted by state. Null for a name
-/// that the family does not have.
+/// An icon by its name ("folder", "close", …), sharp at every size and tinted by state. Null for an unknown name.
 KXWIDGETS_API QIcon Icon(const QString& name);
 
-/// The program's font, or the nearest one in which every digit is as wide as the others.
+/// The program's font, or the most similar one whose digits all have the same width.
 KXWIDGETS_API QFont TabularFont();
 
-/// Background of an area: 0 window, 1 picture area, 5 panel. Sets the property "bgColorType", by which the style sheet
-/// paints.
+/// Sets the background of an area: 0 window, 1 picture area, 5 panel. The style sheet reads it from the property
+/// "bgColorType".
 KXWIDGETS_API void SetBGColorType(QWidget* widget, int type);
 } // namespace KxUIStyle

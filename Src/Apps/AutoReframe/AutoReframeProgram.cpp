@@ -10,7 +10,6 @@
 #include <QApplication>
 #include <QIcon>
 #include <QTimer>
-#include <QTranslator>
 
 namespace
 {
@@ -36,10 +35,7 @@ void EndWhenInterrupted(QTimer& timer, MainWindow& window)
 int AutoReframeProgram::Run(QApplication& application, const AutoReframeOptions& options)
 {
     KxUIStyle::Apply(application);
-    QTranslator texts;
-    if (texts.load(QStringLiteral(":/AutoReframe/auto-reframe_en.qm"))) {
-        QCoreApplication::installTranslator(&texts);
-    }
+    KxUIStyle::InstallTranslation(application);
     MediaBackendLoader backend(&MediaBackendLoader::LoadLibrary, nullptr);
     MainWindow window(backend);
     QObject::connect(&window, &MainWindow::sigPainted, &backend, [&backend] {

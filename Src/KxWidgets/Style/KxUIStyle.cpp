@@ -9,6 +9,7 @@
 #include <QApplication>
 #include <QStyle>
 #include <QToolTip>
+#include <QTranslator>
 
 void KxUIStyle::Apply(QApplication& application)
 {
@@ -19,6 +20,15 @@ void KxUIStyle::Apply(QApplication& application)
     application.setStyleSheet(KxTheme::StyleSheet());
     KxAccessible::Install();
     KxFocusRing::Install(application);
+}
+
+void KxUIStyle::InstallTranslation(QApplication& application)
+{
+    auto* translator = new QTranslator(&application);
+    const bool isLoaded = translator->load(QStringLiteral(":/KxWidgets/Translations/auto-reframe_en.qm"));
+    Q_ASSERT_X(isLoaded, "KxUIStyle", "the translation is not among the resources");
+    Q_UNUSED(isLoaded)
+    QCoreApplication::installTranslator(translator);
 }
 
 QIcon KxUIStyle::Icon(const QString& name)

@@ -5,6 +5,7 @@
 #include <KxModel/IKxAbstractMedia.h>
 #include <KxModel/IKxAutoReframeService.h>
 #include <KxModel/IKxTimeline.h>
+#include <KxWidgets/KxUIStyle.h>
 
 #include <QApplication>
 
@@ -32,12 +33,16 @@ int main(int argc, char** argv)
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
     QApplication application(argc, argv);
+    KxUIStyle::Apply(application);
+    KxUIStyle::InstallTranslation(application);
+    const bool textsFound =
+        QCoreApplication::translate("KrAutoReframeDialog", "AutoReframe_Exit") == QStringLiteral("Exit");
     const bool dialogRan = RunsTheDialog();
     const bool serviceFound = getAutoReframeService() != nullptr;
     const bool logFound = GetGlobalLogInstance() != nullptr;
     const bool refusesMissingFile = createMediaItem(QStringLiteral("/no/such/video.mp4")) == nullptr;
     const bool refusesNoClip = IKxTimeline::createSimpleTimeline(nullptr) == nullptr;
-    std::printf("dialog %d, service %d, log %d, missing file refused %d, missing clip refused %d\n", dialogRan,
-                serviceFound, logFound, refusesMissingFile, refusesNoClip);
-    return dialogRan && serviceFound && logFound && refusesMissingFile && refusesNoClip ? 0 : 1;
+    std::printf("texts %d, dialog %d, service %d, log %d, missing file refused %d, missing clip refused %d\n",
+                textsFound, dialogRan, serviceFound, logFound, refusesMissingFile, refusesNoClip);
+    return textsFound && dialogRan && serviceFound && logFound && refusesMissingFile && refusesNoClip ? 0 : 1;
 }
