@@ -126,7 +126,7 @@ void Rendering::OpenSound()
     }
     m_soundFormat = SoundFormat(facts.audio.at(stream));
     KxResult<std::unique_ptr<KxAudioReader>> sound =
-        KxAudioReader::Open(m_source.path, stream, m_soundFormat, m_cancel);
+        KxAudioReader::Open(m_source.path, stream, m_soundFormat, m_reader->Clock(), m_cancel);
     if (sound) {
         m_sound = std::make_unique<KxAudioInterleaver>(std::move(*sound), m_soundFormat);
     } else {

@@ -33,11 +33,22 @@ int RefuseOpening(AVFormatContext*, AVIOContext**, const char*, int, AVDictionar
     return AVERROR(EPERM);
 }
 
-QByteArray Head(const QString& path)
+constexpr int HeadBytes = 256;
+
+/// The first bytes; the place in the file is its start again.
+QByteArray Head(AVIOContext& file)
 {
-    constexpr qint64 enough = 256;
+    QByteArray head(HeadBytes, '\0');
+    head.resize(std::max(0, avio_read(&file, reinterpret_cast<unsigned char*>(head.data()), HeadBytes)));
+    avio_seek(&file, 0, SEEK_SET);
+    return head;
+}
+
+/// The first bytes of whatever lies at `path` now.
+QByteArray HeadAt(const QString& path)
+{
     QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.read(enough) : QByteArray();
+    return file.open(QIODevice::ReadOnly) ? file.read(HeadBytes) : QByteArray();
 }
 
 class Options
@@ -136,7 +147,7 @@ bool KxInputFile::HasChanged() const
     if (!info.exists() || (info.size() >= m_fileSize && info.lastModified() == m_modified)) {
         return false;
     }
-    return info.size() <= m_fileSize || Head(m_path) != m_head;
+    return info.size() <= m_fileSize || HeadAt(m_path) != m_head;
 }
 
 int KxInputFile::IsInterrupted(void* watch)
@@ -182,14 +193,17 @@ KxError KxInputFile::OpenFile()
         return QStringLiteral("it is empty");
     }
     m_modified = info.lastModified();
-    m_head = Head(m_path);
-    m_isCutOff = KxClaimedSize(m_head).value_or(0) > m_fileSize;
     Options options;
     options.Set("protocol_whitelist", "file");
     const QByteArray url = QByteArrayLiteral("file:") + info.absoluteFilePath().toUtf8();
     const AVIOInterruptCB interrupt{&IsInterrupted, &m_watch};
     const int error = avio_open2(&m_file, url.constData(), AVIO_FLAG_READ, &interrupt, options.Get());
-    return error < 0 ? KxError(IsCancelled() ? Failure(error) : KxAvErrorText(error)) : KxError();
+    if (error < 0) {
+        return IsCancelled() ? Failure(error) : KxAvErrorText(error);
+    }
+    m_head = Head(*m_file);
+    m_isCutOff = KxClaimedSize(m_head).value_or(0) > m_fileSize;
+    return std::nullopt;
 }
 
 KxError KxInputFile::OpenContainer()

@@ -12,21 +12,21 @@ namespace
 constexpr int BlocksASecond = 25;
 
 // Where the file has pictures, the sound is placed against the first of them.
-KxResult<KxAudioTrack::Line> MeasureLine(const QString& path, const KxCancelToken& cancel)
+KxResult<KxMediaClock> MeasureClock(const QString& path, const KxCancelToken& cancel)
 {
     KxResult<std::unique_ptr<KxInputFile>> input = KxInputFile::Open(path, cancel);
     if (!input) {
-        return KxResult<KxAudioTrack::Line>::Failure(input.Message());
+        return KxResult<KxMediaClock>::Failure(input.Message());
     }
     if ((*input)->VideoStream() == nullptr) {
-        return KxAudioTrack::Line{};
+        return KxMediaClock{};
     }
     const KxResult<std::unique_ptr<KxVideoSource>> source =
         KxVideoSource::Open(std::move(*input), KxVideoDecoder::Effort::Full);
     if (!source) {
-        return KxResult<KxAudioTrack::Line>::Failure(source.Message());
+        return KxResult<KxMediaClock>::Failure(source.Message());
     }
-    return KxAudioTrack::Line{(*source)->Facts().video->firstPictureUs, (*source)->Packets().Jumps()};
+    return (*source)->Clock();
 }
 
 } // namespace
@@ -148,10 +148,14 @@ KxResult<std::unique_ptr<KxAudioReader>> KxAudioReader::Open(const QString& path
                                                              const KxCancelToken& cancel)
 {
     using Result = KxResult<std::unique_ptr<KxAudioReader>>;
-    KxResult<KxAudioTrack::Line> line = MeasureLine(path, cancel);
-    if (!line) {
-        return Result::Failure(line.Message());
-    }
+    const KxResult<KxMediaClock> clock = MeasureClock(path, cancel);
+    return clock ? Open(path, stream, format, *clock, cancel) : Result::Failure(clock.Message());
+}
+
+KxResult<std::unique_ptr<KxAudioReader>> KxAudioReader::Open(const QString& path, int stream, const Format& format,
+                                                             const KxMediaClock& clock, const KxCancelToken& cancel)
+{
+    using Result = KxResult<std::unique_ptr<KxAudioReader>>;
     KxResult<std::unique_ptr<KxInputFile>> input = KxInputFile::Open(path, cancel);
     if (!input) {
         return Result::Failure(input.Message());
@@ -161,8 +165,7 @@ KxResult<std::unique_ptr<KxAudioReader>> KxAudioReader::Open(const QString& path
         return Result::Failure(KxInputFile::Message(path, QStringLiteral("it has no such sound track")));
     }
     AVStream& chosen = *streams[static_cast<size_t>(stream)];
-    KxResult<std::unique_ptr<KxAudioTrack>> track =
-        KxAudioTrack::Open(std::move(*input), chosen, format, std::move(*line));
+    KxResult<std::unique_ptr<KxAudioTrack>> track = KxAudioTrack::Open(std::move(*input), chosen, format, clock);
     if (!track) {
         return Result::Failure(KxInputFile::Message(path, track.Message()));
     }

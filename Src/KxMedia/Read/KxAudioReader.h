@@ -1,6 +1,7 @@
 #pragma once
 
 #include <KxMedia/Container/KxReadStatus.h>
+#include <KxMedia/Read/KxMediaClock.h>
 #include <KxMedia/Read/KxMediaFacts.h>
 
 #include <memory>
@@ -26,9 +27,12 @@ public:
         int channels = 2;
     };
 
-    /// `stream` counts audio streams from 0.
+    /// `stream` counts audio streams from 0. Opens the file twice, because the first picture is time zero.
     static KxResult<std::unique_ptr<KxAudioReader>> Open(const QString& path, int stream, const Format& format,
                                                          const KxCancelToken& cancel);
+    /// With the clock of a KxVideoReader for the same file: opens the file once.
+    static KxResult<std::unique_ptr<KxAudioReader>> Open(const QString& path, int stream, const Format& format,
+                                                         const KxMediaClock& clock, const KxCancelToken& cancel);
     ~KxAudioReader();
 
     /// The next block, some tens of milliseconds long.

@@ -25,7 +25,7 @@ constexpr qint64 UsualPacketUs = 21333;
 } // namespace
 
 KxResult<std::unique_ptr<KxAudioTrack>> KxAudioTrack::Open(std::unique_ptr<KxInputFile> input, AVStream& stream,
-                                                           const KxAudioReader::Format& format, Line line)
+                                                           const KxAudioReader::Format& format, KxMediaClock clock)
 {
     using Result = KxResult<std::unique_ptr<KxAudioTrack>>;
     const AVCodec* codec = avcodec_find_decoder(stream.codecpar->codec_id);
@@ -44,22 +44,22 @@ KxResult<std::unique_ptr<KxAudioTrack>> KxAudioTrack::Open(std::unique_ptr<KxInp
         return Result::Failure(QStringLiteral("its sound is damaged"));
     }
     return std::unique_ptr<KxAudioTrack>(
-        new KxAudioTrack(std::move(input), stream, std::move(context), format, std::move(line)));
+        new KxAudioTrack(std::move(input), stream, std::move(context), format, std::move(clock)));
 }
 
 KxAudioTrack::KxAudioTrack(std::unique_ptr<KxInputFile> input, AVStream& stream, KxAvCodec codec,
-                           const KxAudioReader::Format& format, Line line)
+                           const KxAudioReader::Format& format, KxMediaClock clock)
     : m_input(std::move(input))
     , m_streamIndex(stream.index)
     , m_timeBase(stream.time_base)
     , m_codec(std::move(codec))
     , m_format(format)
-    , m_zeroUs(line.zeroUs)
-    , m_jumps(line.jumps.value_or(std::vector<KxClockJump>()))
+    , m_zeroUs(clock.zeroUs)
+    , m_jumps(clock.jumps.value_or(std::vector<KxClockJump>()))
     , m_packet(av_packet_alloc())
     , m_frame(av_frame_alloc())
 {
-    if (!line.jumps) {
+    if (!clock.jumps) {
         m_join.emplace(std::max<qint64>(1, av_rescale_q(UsualPacketUs, KxMicroseconds, m_timeBase)),
                        std::max<qint64>(1, av_rescale_q(AV_TIME_BASE, KxMicroseconds, m_timeBase)));
     }

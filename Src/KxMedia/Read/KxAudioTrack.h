@@ -3,6 +3,7 @@
 #include <KxMedia/Container/KxInputFile.h>
 #include <KxMedia/Read/KxAudioReader.h>
 #include <KxMedia/Read/KxClockJumps.h>
+#include <KxMedia/Read/KxMediaClock.h>
 #include <KxMedia/Read/KxSampleConverter.h>
 #include <KxMedia/Read/KxTimestampRepair.h>
 
@@ -19,17 +20,9 @@ public:
         std::vector<float> samples;
     };
 
-    /// Where the sound belongs.
-    struct Line {
-        /// Time zero on the file's own clock; nothing makes it the time of the first sound.
-        std::optional<qint64> zeroUs;
-        /// Of the file's clock. Nothing when they are not known: then the clock is joined where the sound itself jumps.
-        std::optional<std::vector<KxClockJump>> jumps = std::vector<KxClockJump>();
-    };
-
     /// On failure, returns a clause to append to the caller's message.
     static KxResult<std::unique_ptr<KxAudioTrack>> Open(std::unique_ptr<KxInputFile> input, AVStream& stream,
-                                                        const KxAudioReader::Format& format, Line line);
+                                                        const KxAudioReader::Format& format, KxMediaClock clock);
 
     /// The next run, which may be empty.
     KxReadStatus Next(Run& run);
@@ -41,7 +34,7 @@ public:
 
 private:
     KxAudioTrack(std::unique_ptr<KxInputFile> input, AVStream& stream, KxAvCodec codec,
-                 const KxAudioReader::Format& format, Line line);
+                 const KxAudioReader::Format& format, KxMediaClock clock);
 
     KxReadStatus Feed();
     void ShiftOverJumps(AVPacket& packet);

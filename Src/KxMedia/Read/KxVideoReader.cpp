@@ -33,6 +33,11 @@ const KxMediaFacts& KxVideoReader::Facts() const
     return m_impl->reader.Source().Facts();
 }
 
+KxMediaClock KxVideoReader::Clock() const
+{
+    return m_impl->reader.Source().Clock();
+}
+
 KxReadStatus KxVideoReader::Read(qint64 frame, KxVideoFrame& picture)
 {
     const KxReadStatus status = m_impl->reader.Read(frame, picture);

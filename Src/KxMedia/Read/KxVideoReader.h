@@ -2,6 +2,7 @@
 
 #include <KxMedia/Container/KxReadStatus.h>
 #include <KxMedia/Picture/KxVideoFrame.h>
+#include <KxMedia/Read/KxMediaClock.h>
 #include <KxMedia/Read/KxMediaFacts.h>
 
 #include <functional>
@@ -17,6 +18,8 @@ public:
     ~KxVideoReader();
 
     const KxMediaFacts& Facts() const;
+    /// Places the sound of the same file, see KxAudioReader::Open().
+    KxMediaClock Clock() const;
 
     /// The picture shown at `frame` (0-based; a frame past the end counts as the last one). Where decoding ended before
     /// `frame` the last picture that decoded is delivered and EndedEarly() becomes true.

@@ -3,6 +3,7 @@
 #include <KxMedia/Picture/KxFrameGrid.h>
 #include <KxMedia/Picture/KxVideoFrame.h>
 #include <KxMedia/Read/KxDeinterlacer.h>
+#include <KxMedia/Read/KxMediaClock.h>
 #include <KxMedia/Read/KxMediaFacts.h>
 #include <KxMedia/Read/KxVideoDecoder.h>
 
@@ -19,6 +20,7 @@ public:
                                                          KxVideoDecoder::Effort effort);
 
     const KxMediaFacts& Facts() const { return m_facts; }
+    KxMediaClock Clock() const { return {m_facts.video->firstPictureUs, m_packets->Jumps()}; }
     const KxFrameGrid& Grid() const { return *m_grid; }
     /// The grid point at which the last picture comes, as far as packets tell.
     qint64 LastPictureIndex() const { return m_lastPictureIndex; }

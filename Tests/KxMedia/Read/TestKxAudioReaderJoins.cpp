@@ -146,7 +146,7 @@ TEST(KxAudioReaderJoins, SoundAfterTheJoinOfAFileTooLargeToWalkThroughIsKept)
     ASSERT_TRUE(input) << input.Message().toStdString();
     AVStream& stream = *(*input)->AudioStreams().front();
     KxResult<std::unique_ptr<KxAudioTrack>> track =
-        KxAudioTrack::Open(std::move(*input), stream, {RateHz, 2}, KxAudioTrack::Line{std::nullopt, std::nullopt});
+        KxAudioTrack::Open(std::move(*input), stream, {RateHz, 2}, KxMediaClock{std::nullopt, std::nullopt});
     ASSERT_TRUE(track) << track.Message().toStdString();
     KxAudioTrack::Run run;
     qint64 endPosition = 0;

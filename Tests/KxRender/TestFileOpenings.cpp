@@ -1,0 +1,91 @@
+#include <KxMedia/Read/KxAudioReader.h>
+#include <KxMedia/Read/KxMediaFacts.h>
+#include <KxMedia/Read/KxVideoScanner.h>
+#include <Tests/KxRender/RenderFixture.h>
+
+#include <atomic>
+#include <cstdarg>
+#include <cstring>
+
+#include <fcntl.h>
+#include <sys/syscall.h>
+#include <unistd.h>
+
+// How often a job opens its input file. Programs and libraries open files through these functions of the C library;
+// this program's own definitions come before them.
+
+namespace
+{
+
+std::atomic_int openings{0};
+
+int Open(const char* path, int flags, unsigned mode)
+{
+    if (std::strstr(path, "/clip.") != nullptr) {
+        ++openings;
+    }
+    return static_cast<int>(syscall(SYS_openat, AT_FDCWD, path, flags, mode));
+}
+
+class FileOpenings : public RenderFixture
+{
+protected:
+    KxRenderSource MakeSource()
+    {
+        KxRenderSource source = MakeClip(25, QStringLiteral("25"),
+                                         {QStringLiteral("-f"), QStringLiteral("lavfi"), QStringLiteral("-i"),
+                                          QStringLiteral("sine=frequency=440:duration=1")},
+                                         {QStringLiteral("-c:a"), QStringLiteral("aac")});
+        openings = 0;
+        return source;
+    }
+};
+
+} // namespace
+
+extern "C" __attribute__((visibility("default"))) int open(const char* path, int flags,
+                                                           ...) // NOLINT(cert-dcl50-cpp): as the C library declares it
+{
+    va_list arguments;
+    va_start(arguments, flags);
+    const auto mode = va_arg(arguments, unsigned);
+    va_end(arguments);
+    return Open(path, flags, mode);
+}
+
+extern "C" __attribute__((visibility("default"))) int
+open64(const char* path, int flags, ...) // NOLINT(cert-dcl50-cpp): as the C library declares it
+{
+    va_list arguments;
+    va_start(arguments, flags);
+    const auto mode = va_arg(arguments, unsigned);
+    va_end(arguments);
+    return Open(path, flags, mode);
+}
+
+TEST_F(FileOpenings, FactsTakeOne)
+{
+    const KxRenderSource source = MakeSource();
+    ASSERT_TRUE(KxProbeMedia(source.path, {}));
+    EXPECT_EQ(openings, 1);
+}
+
+TEST_F(FileOpenings, AnAnalysisTakesOne)
+{
+    const KxRenderSource source = MakeSource();
+    auto scanner = KxVideoScanner::Open(source.path, {});
+    ASSERT_TRUE(scanner);
+    KxVideoFrame picture;
+    while ((*scanner)->Next(picture) == KxReadStatus::Delivered) {
+    }
+    EXPECT_EQ(openings, 1);
+}
+
+TEST_F(FileOpenings, ARenderingTakesOneForPicturesAndOneForSound)
+{
+    const KxRenderSource source = MakeSource();
+    const KxRenderResult result = KxRenderer::Run(source, SettingsFor(QSize(90, 160)), {}, {});
+    EXPECT_EQ(openings, 2);
+    ASSERT_EQ(result.outcome, KxOutcome::Done);
+    EXPECT_GT(SoundEnd(result.outputPath), 0.9);
+}
