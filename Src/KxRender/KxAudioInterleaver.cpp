@@ -31,7 +31,7 @@ bool KxAudioInterleaver::Fill()
     return !m_hasEnded;
 }
 
-KxError KxAudioInterleaver::FeedUntil(qint64 frames, const KxRational& rate, KxMp4Writer& writer)
+KxError KxAudioInterleaver::WriteUntil(qint64 frames, const KxRational& rate, KxMp4Writer& writer)
 {
     const auto channels = static_cast<size_t>(m_format.channels);
     const qint64 endSample =

@@ -12,13 +12,13 @@ namespace
 constexpr double SameRate = 0.0005;
 constexpr double HighestRate = 1000.0;
 
-std::optional<KxRational> Rationalised(double rate)
+std::optional<KxRational> Rationalized(double rate)
 {
     if (!std::isfinite(rate) || rate < 0.001 || rate > HighestRate) {
         return std::nullopt;
     }
     const double whole = std::round(rate);
-    constexpr double nameRounding = 0.005; // names of rates have two decimals at the least
+    constexpr double nameRounding = 0.005; // rates are written with two decimals or more
     const double video = std::round(rate * 1.001);
     if (std::abs(rate - whole) > nameRounding && std::abs(rate - video / 1.001) < nameRounding) {
         return KxRational{static_cast<int>(video) * 1000, 1001};
@@ -34,7 +34,7 @@ std::optional<KxOutputGrid> KxOutputGrid::Make(const KxRational& sourceRate, qin
 {
     const double source = sourceRate.ToDouble();
     const bool isSame = std::abs(wantedRate) < 1e-9 || std::abs(wantedRate - source) <= source * SameRate;
-    const std::optional<KxRational> rate = isSame ? sourceRate : Rationalised(wantedRate);
+    const std::optional<KxRational> rate = isSame ? sourceRate : Rationalized(wantedRate);
     if (!rate) {
         return std::nullopt;
     }

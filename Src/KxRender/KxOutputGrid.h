@@ -5,20 +5,21 @@
 
 #include <optional>
 
-/// The frames of a rendered file against those of its source. Pure; any thread.
+/// Maps the frames of a rendered file to the frames of its source. Pure; any thread.
 class KXRENDER_API KxOutputGrid
 {
 public:
-    /// `sourceRate` is positive and `sourceFrames` at least 1. `wantedRate` is in frames a second; 0, or what differs
-    /// from the source's by no more than 0.05 %, is the source's very rate. Any other one becomes the rate of film or
-    /// video that it rounds (23.98, 29.97, 59.94), or thousandths. Nothing for what is no rate at all, or one above
-    /// 1000.
+    /// `sourceRate` is positive and `sourceFrames` at least 1. `wantedRate` is in frames a second:
+    /// 1. 0, or a rate within 0.05 % of the source's, gives exactly the source's rate;
+    /// 2. a rounded rate of film or video (23.98, 29.97, 59.94) gives n * 1000 / 1001;
+    /// 3. any other rate is rounded to thousandths.
+    /// Nothing for a rate that is not positive and finite, or above 1000.
     static std::optional<KxOutputGrid> Make(const KxRational& sourceRate, qint64 sourceFrames, double wantedRate);
 
     const KxRational& Rate() const { return m_rate; }
-    /// At least 1: as many as last as long as the source.
+    /// The source's duration in output frames, at least 1.
     qint64 Frames() const { return m_frames; }
-    /// The source's frame that is shown at `frame` of the output.
+    /// The source's frame that is shown at the output's frame `frame`.
     qint64 SourceFrame(qint64 frame) const;
 
 private:
@@ -27,7 +28,7 @@ private:
     KxRational m_rate;
     qint64 m_sourceFrames;
     qint64 m_frames = 1;
-    // Source frames for each frame of the output.
+    // Source frames per output frame.
     qint64 m_stepNumerator = 1;
     qint64 m_stepDenominator = 1;
 };

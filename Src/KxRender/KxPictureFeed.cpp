@@ -7,11 +7,11 @@
 namespace
 {
 
-// Decoding runs in bursts; a few pictures of reserve keep the encoder busy meanwhile.
+// Decoding comes in bursts; a few pictures in reserve keep the encoder busy between them.
 constexpr size_t PicturesAhead = 6;
 
-// Many whole files promise a few frames more than they hold. As long as nobody sees it the last picture is held.
-constexpr double UnnoticedS = 0.25;
+// Many intact files claim a few frames more than they contain. For up to this time the last picture is held instead.
+constexpr double LongestHoldS = 0.25;
 
 } // namespace
 
@@ -115,7 +115,7 @@ bool KxPictureFeed::Read(qint64 frame, KxVideoFrame& picture)
     if (m_reader.EndedEarly() && frame >= m_reader.DecodableFrames()) {
         const KxVideoFacts& video = *m_reader.Facts().video;
         const auto missing = static_cast<double>(video.frameCount - m_reader.DecodableFrames());
-        m_endedEarly = missing > UnnoticedS * video.frameRate.ToDouble();
+        m_endedEarly = missing > LongestHoldS * video.frameRate.ToDouble();
     }
     return !m_endedEarly;
 }

@@ -10,31 +10,32 @@
 #include <KxRender/KxOutputGrid.h>
 #include <KxRender/KxRenderSource.h>
 
-/// Decodes and cuts on a thread of its own, a few pictures ahead of whoever takes them. Destroying it ends the thread.
+/// Decodes and cuts pictures on a thread of its own, a few pictures ahead of the encoder. The destructor ends the
+/// thread.
 class KxPictureFeed
 {
 public:
-    /// `reader` and `source` are borrowed; nobody else touches the reader while this lives.
+    /// `reader` and `source` are borrowed; nothing else uses the reader during the lifetime of this object.
     KxPictureFeed(KxVideoReader& reader, const KxRenderSource& source, const KxOutputGrid& grid, const QSize& size,
                   const KxCancelToken& cancel);
     ~KxPictureFeed();
     KxPictureFeed(const KxPictureFeed&) = delete;
     KxPictureFeed& operator=(const KxPictureFeed&) = delete;
 
-    /// The picture of the output's next frame. Nothing at the end, when cancelled and after a failure. Waits.
+    /// Waits for the picture of the output's next frame. Nothing at the end, after a failure, or when cancelled.
     std::optional<KxVideoFrame> Next();
 
-    /// After the last picture: why there are no more, where that is a failure.
+    /// After the last picture: the error message of a failure.
     KxError Failure();
-    /// After the last picture: the source could not be decoded to its end.
+    /// After the last picture: whether the source could not be decoded to its end.
     bool EndedEarly();
 
 private:
     void Work();
     void DecodeAndCut();
-    /// False when there is nothing (more) to show at the source's `frame`.
+    /// Reads the source's frame `frame`. False at the end, after a failure, or when cancelled.
     bool Read(qint64 frame, KxVideoFrame& picture);
-    /// What the result shows of `picture` at the source's `frame`.
+    /// Cuts `picture`, which is the source's frame `frame`, or draws the overlay on it.
     KxResult<KxVideoFrame> Make(const KxVideoFrame& picture, qint64 frame);
 
     KxVideoReader& m_reader;
@@ -43,10 +44,10 @@ private:
     const QSize m_size;
     const KxCancelToken m_cancel;
     KxBoundedQueue<KxVideoFrame> m_pictures;
-    // Of the thread alone.
+    // Used by the thread only.
     KxFrameCutter m_cutter;
     KxPictureScaler m_scaler;
-    // Written by the thread; read once it has ended.
+    // Written by the thread, read after it has ended.
     KxError m_failure;
     bool m_endedEarly = false;
     // Last: its work uses all of the above.

@@ -3,12 +3,13 @@
 #include <KxCore/KxThread.h>
 #include <KxRender/KxRenderer.h>
 
-/// A rendering on a thread of its own, which starts with the job and runs once. Destroying the job cancels what still
-/// runs and waits for it, so callbacks may refer to whatever lives as long as the job.
+/// One rendering on a thread of its own, which the constructor starts. The destructor cancels a rendering that is still
+/// running and waits for it, so callbacks may refer to objects that live as long as the job.
 class KXRENDER_API KxRenderJob
 {
 public:
-    /// Both are called on the job's thread, may be empty, and must not destroy the job.
+    /// Both are called on the job's thread, may be empty, and must not destroy the job. An exception that leaves
+    /// `progress` fails the rendering; one that leaves `finished` is dropped.
     struct Callbacks {
         KxRenderer::Progress progress;
         /// Exactly once, as the last call.
@@ -20,7 +21,7 @@ public:
     KxRenderJob(const KxRenderJob&) = delete;
     KxRenderJob& operator=(const KxRenderJob&) = delete;
 
-    /// Returns at once; the end is told as ever, with the outcome Cancelled unless the job was done already. Any
+    /// Returns at once. `finished` is called as always, with the outcome Cancelled unless the job had ended. Any
     /// thread.
     void Cancel();
 

@@ -5,14 +5,13 @@
 #include <QSize>
 #include <QString>
 
-/// How a rendered file is to be. A plain record.
+/// What to render to.
 struct KxRenderSettings {
     QString outputPath;
     KxOutputFile::Existing existing = KxOutputFile::Existing::AddNumber;
-    /// An odd side becomes a pixel longer.
+    /// An odd side becomes one pixel longer.
     QSize resolution;
-    /// Frames a second; 0 is the source's, and so is what differs from it by no more than rounding (29.97 for
-    /// 30000/1001).
+    /// Frames a second. 0, or the source's rate as it is rounded for people (29.97), gives exactly the source's rate.
     double frameRate = 0.0;
     int videoBitRate = 2000000; ///< bits a second
     int audioBitRate = 192000;  ///< bits a second

@@ -53,8 +53,7 @@ KxError Check(const KxRenderSource& source, const KxRenderSettings& settings)
     return std::nullopt;
 }
 
-// What the sound is written as: as it is where AAC can carry that rate, and two channels at most, which is what phones
-// play.
+// The source's sample rate if AAC supports it, and at most two channels, which is what phones play.
 KxAudioReader::Format SoundFormat(const KxAudioFacts& facts)
 {
     constexpr std::array<int, 9> ratesHz{8000, 11025, 12000, 16000, 22050, 24000, 32000, 44100, 48000};
@@ -87,7 +86,7 @@ private:
     KxError AddAll(KxPictureFeed& pictures, const KxOutputGrid& grid);
     KxRenderResult Finish(KxPictureFeed& pictures, const KxOutputGrid& grid);
     void Warn(const QString& message);
-    void Tell(qint64 done, qint64 all);
+    void ReportProgress(qint64 done, qint64 all);
 
     const KxRenderSource& m_source;
     const KxRenderSettings& m_settings;
@@ -100,7 +99,7 @@ private:
     std::unique_ptr<KxMp4Writer> m_writer;
     QString m_warning;
     qint64 m_written = 0;
-    int m_told = 0;
+    int m_reported = 0;
 };
 
 void Rendering::Warn(const QString& message)
@@ -108,11 +107,11 @@ void Rendering::Warn(const QString& message)
     m_warning += m_warning.isEmpty() ? message : QLatin1Char(' ') + message;
 }
 
-void Rendering::Tell(qint64 done, qint64 all)
+void Rendering::ReportProgress(qint64 done, qint64 all)
 {
     const auto value = static_cast<int>(std::min<qint64>(done * ProgressEnd / all, ProgressEnd - 1));
-    if (value > m_told && m_progress) {
-        m_told = value;
+    if (value > m_reported && m_progress) {
+        m_reported = value;
         m_progress(value);
     }
 }
@@ -164,10 +163,11 @@ KxError Rendering::AddAll(KxPictureFeed& pictures, const KxOutputGrid& grid)
             return error;
         }
         ++m_written;
-        if (KxError error = m_sound != nullptr ? m_sound->FeedUntil(m_written, grid.Rate(), *m_writer) : std::nullopt) {
+        if (KxError error =
+                m_sound != nullptr ? m_sound->WriteUntil(m_written, grid.Rate(), *m_writer) : std::nullopt) {
             return error;
         }
-        Tell(m_written, grid.Frames());
+        ReportProgress(m_written, grid.Frames());
     }
     return std::nullopt;
 }

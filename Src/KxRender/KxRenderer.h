@@ -6,25 +6,26 @@
 
 #include <functional>
 
-/// What became of a rendering.
+/// The end of a rendering.
 struct KxRenderResult {
     KxOutcome outcome = KxOutcome::Failed;
-    /// Why it failed, for a person; empty otherwise.
+    /// The error message of a failure; empty otherwise.
     QString message;
-    /// The file that was written; empty unless done. Its name may have got a number.
+    /// The file that was written, possibly with a number added to its name; empty unless done.
     QString outputPath;
-    /// What a person should know of a file that was written all the same (its source ends early …); mostly empty.
+    /// What the user should know about a file that was written nevertheless, such as a damaged source; usually empty.
     QString warning;
 };
 
-/// Renders a source into an MP4 file: crop by crop, sound alongside, as long as the source. A rendering that is
-/// cancelled or fails leaves no file. Memory does not grow with the length.
+/// Renders a source to an MP4 file with its sound, as long as the source. A rendering that is cancelled or fails leaves
+/// no file. Memory does not grow with the length.
 namespace KxRenderer
 {
-/// In ten-thousandths, ascending; 10000 is told once the file has its name. Called on the thread of Run().
+/// Called on the thread of Run() with ascending ten-thousandths; 10000 means that the file has its final name.
 using Progress = std::function<void(int tenThousandths)>;
 
-/// Blocks until all is done, on any thread; uses a second one for decoding. `cancel` is looked at once a frame.
+/// Blocks until the rendering has ended. Any thread; a second one decodes. `cancel` is checked once a frame. No
+/// exception leaves this function.
 KXRENDER_API KxRenderResult Run(const KxRenderSource& source, const KxRenderSettings& settings,
                                 const Progress& progress, const KxCancelToken& cancel);
 } // namespace KxRenderer

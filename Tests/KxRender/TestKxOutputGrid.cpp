@@ -19,7 +19,7 @@ constexpr KxRational Film{24000, 1001};
 
 } // namespace
 
-TEST(KxOutputGrid, UnknownRateIsTheSources)
+TEST(KxOutputGrid, RateZeroIsTheRateOfTheSource)
 {
     const KxOutputGrid grid = Grid(Film, 100, 0.0);
     EXPECT_EQ(grid.Rate(), Film);
@@ -29,7 +29,7 @@ TEST(KxOutputGrid, UnknownRateIsTheSources)
     }
 }
 
-TEST(KxOutputGrid, RoundedNameOfTheSourcesRateIsThatRate)
+TEST(KxOutputGrid, RoundedRateOfTheSourceIsItsExactRate)
 {
     for (const double wanted : {23.97, 23.976, 23.98, static_cast<double>(23.976F)}) {
         const KxOutputGrid grid = Grid(Film, 1000000, wanted);
@@ -47,7 +47,7 @@ TEST(KxOutputGrid, NeighbouringStandardRatesAreDifferentRates)
     EXPECT_EQ(Grid({30000, 1001}, 100, 30.0).Rate(), (KxRational{30, 1}));
 }
 
-TEST(KxOutputGrid, OtherRatesBecomeWhatTheirNamesRound)
+TEST(KxOutputGrid, OtherRatesBecomeRatesOfVideoOrThousandths)
 {
     EXPECT_EQ(Grid({25, 1}, 100, 59.94).Rate(), (KxRational{60000, 1001}));
     EXPECT_EQ(Grid({25, 1}, 100, 23.98).Rate(), (KxRational{24000, 1001}));
@@ -58,7 +58,7 @@ TEST(KxOutputGrid, OtherRatesBecomeWhatTheirNamesRound)
 
 TEST(KxOutputGrid, WholeRatesStayWhole)
 {
-    // Up to 5 frames a second, n and n * 1000 / 1001 differ by no more than the rounding of a name.
+    // Up to 5 frames a second, n * 1000 / 1001 lies within the rounding to two decimals of n.
     for (int rate = 1; rate <= 240; ++rate) {
         const KxOutputGrid grid = Grid({239, 7}, 100, rate);
         EXPECT_EQ(grid.Rate().numerator, rate);
@@ -84,7 +84,7 @@ TEST(KxOutputGrid, HigherRateRepeatsFrames)
     }
 }
 
-TEST(KxOutputGrid, LengthInTimeIsKeptAndTheLastFrameExists)
+TEST(KxOutputGrid, KeepsTheDurationAndNeverPassesTheLastFrame)
 {
     for (const double wanted : {10.0, 23.976, 24.0, 25.0, 29.97, 50.0, 59.94, 120.0}) {
         for (const qint64 frames : {1, 2, 7, 1000, 54321}) {
@@ -98,7 +98,7 @@ TEST(KxOutputGrid, LengthInTimeIsKeptAndTheLastFrameExists)
     }
 }
 
-TEST(KxOutputGrid, OddRatesOfLongFilesDoNotOverflow)
+TEST(KxOutputGrid, LargeRatiosOfLongFilesDoNotOverflow)
 {
     const KxRational odd{2147483647, 71582788};
     const KxOutputGrid grid = Grid(odd, 10000000, 59.94);
@@ -106,7 +106,7 @@ TEST(KxOutputGrid, OddRatesOfLongFilesDoNotOverflow)
     EXPECT_NEAR(static_cast<double>(grid.SourceFrame(grid.Frames() / 2)), 5000000.0, 2.0);
 }
 
-TEST(KxOutputGrid, WhatIsNoRateIsRefused)
+TEST(KxOutputGrid, RefusesRatesThatAreNotPositiveFiniteOrUpTo1000)
 {
     for (const double wanted :
          {-25.0, 1e-5, 1001.0, std::numeric_limits<double>::quiet_NaN(), std::numeric_limits<double>::infinity()}) {

@@ -11,13 +11,13 @@
 namespace
 {
 
-/// Hears a job and lets a test wait for what it hears.
+/// Records the callbacks of a job and lets a test wait for them.
 class Listener
 {
 public:
     KxRenderJob::Callbacks Callbacks()
     {
-        return {[this](int value) { Hear(value); }, [this](const KxRenderResult& result) { End(result); }};
+        return {[this](int value) { Progress(value); }, [this](const KxRenderResult& result) { End(result); }};
     }
 
     void WaitForProgress(int value)
@@ -39,18 +39,18 @@ public:
         return m_ends;
     }
 
-    bool HeardAfterEnd()
+    bool CalledAfterEnd()
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
-        return m_heardAfterEnd;
+        return m_calledAfterEnd;
     }
 
 private:
-    void Hear(int value)
+    void Progress(int value)
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
         m_progress = value;
-        m_heardAfterEnd = m_heardAfterEnd || m_ends > 0;
+        m_calledAfterEnd = m_calledAfterEnd || m_ends > 0;
         m_changed.notify_all();
     }
 
@@ -66,7 +66,7 @@ private:
     std::condition_variable m_changed;
     int m_progress = 0;
     int m_ends = 0;
-    bool m_heardAfterEnd = false;
+    bool m_calledAfterEnd = false;
     KxRenderResult m_result;
 };
 
@@ -76,7 +76,7 @@ protected:
     void ExpectOneEnd()
     {
         EXPECT_EQ(m_listener.Ends(), 1);
-        EXPECT_FALSE(m_listener.HeardAfterEnd());
+        EXPECT_FALSE(m_listener.CalledAfterEnd());
     }
 
     Listener m_listener;
@@ -146,7 +146,7 @@ TEST_F(KxRenderJobTest, DestroyedWhileRunning)
     EXPECT_EQ(Written(), QStringList());
 }
 
-TEST_F(KxRenderJobTest, CancelledAfterItsEndStaysDone)
+TEST_F(KxRenderJobTest, StaysDoneWhenCancelledAfterItsEnd)
 {
     const KxRenderSource source = MakeClip(10);
     {
@@ -158,14 +158,14 @@ TEST_F(KxRenderJobTest, CancelledAfterItsEndStaysDone)
     EXPECT_EQ(Written(), QStringList{QStringLiteral("out.mp4")});
 }
 
-TEST_F(KxRenderJobTest, NobodyNeedsToListen)
+TEST_F(KxRenderJobTest, RunsWithoutCallbacks)
 {
     const KxRenderSource source = MakeClip(10);
     KxRenderJob(source, SettingsFor(QSize(90, 160)), {});
     EXPECT_EQ(Written(), QStringList());
 }
 
-TEST_F(KxRenderJobTest, TwoJobsSideBySideWriteTwoFiles)
+TEST_F(KxRenderJobTest, TwoConcurrentJobsWriteTwoFiles)
 {
     const KxRenderSource source = MakeClip(30);
     Listener other;
@@ -178,7 +178,7 @@ TEST_F(KxRenderJobTest, TwoJobsSideBySideWriteTwoFiles)
     EXPECT_EQ(Written(), (QStringList{QStringLiteral("out (2).mp4"), QStringLiteral("out.mp4")}));
 }
 
-TEST_F(KxRenderJobTest, AnExceptionOfTheOverlayIsTheReasonOfTheFailure)
+TEST_F(KxRenderJobTest, ReportsTheExceptionOfAnOverlay)
 {
     KxRenderSource source = MakeClip(30);
     source.overlay = [](QImage&, qint64 frame) {
@@ -196,7 +196,7 @@ TEST_F(KxRenderJobTest, AnExceptionOfTheOverlayIsTheReasonOfTheFailure)
     EXPECT_EQ(Written(), QStringList());
 }
 
-TEST_F(KxRenderJobTest, MemoryThatRunsOutIsTheReasonOfTheFailure)
+TEST_F(KxRenderJobTest, ReportsThatMemoryRanOut)
 {
     KxRenderSource source = MakeClip(30);
     source.overlay = [](QImage&, qint64) { throw std::bad_alloc(); };
@@ -204,7 +204,7 @@ TEST_F(KxRenderJobTest, MemoryThatRunsOutIsTheReasonOfTheFailure)
     EXPECT_EQ(m_listener.WaitForEnd().message, QStringLiteral("Cannot render clip.mp4: memory ran out."));
 }
 
-TEST_F(KxRenderJobTest, AnythingThatIsThrownEndsTheJobNotTheProgram)
+TEST_F(KxRenderJobTest, FailsWhenAnOverlayThrowsAnyType)
 {
     KxRenderSource source = MakeClip(30);
     source.overlay = [](QImage&, qint64) { throw 7; };
@@ -218,31 +218,31 @@ TEST_F(KxRenderJobTest, AnythingThatIsThrownEndsTheJobNotTheProgram)
     EXPECT_EQ(Written(), QStringList());
 }
 
-TEST_F(KxRenderJobTest, AnExceptionOfTheProgressCallbackEndsTheJobAsFailed)
+TEST_F(KxRenderJobTest, FailsWhenTheProgressCallbackThrows)
 {
     const KxRenderSource source = MakeClip(30);
     KxRenderJob::Callbacks callbacks = m_listener.Callbacks();
     callbacks.progress = [](int value) {
         if (value > 5000) {
-            throw std::runtime_error("nobody is there");
+            throw std::runtime_error("the receiver has gone");
         }
     };
     {
         KxRenderJob job(source, SettingsFor(QSize(160, 90)), callbacks);
         const KxRenderResult result = m_listener.WaitForEnd();
         EXPECT_EQ(result.outcome, KxOutcome::Failed);
-        EXPECT_EQ(result.message, QStringLiteral("Cannot render clip.mp4: nobody is there."));
+        EXPECT_EQ(result.message, QStringLiteral("Cannot render clip.mp4: the receiver has gone."));
     }
     ExpectOneEnd();
     EXPECT_EQ(Written(), QStringList());
 }
 
-TEST_F(KxRenderJobTest, AnExceptionOfTheFinishedCallbackEndsTheJobOnly)
+TEST_F(KxRenderJobTest, SurvivesAnExceptionOfTheFinishedCallback)
 {
     const KxRenderSource source = MakeClip(10);
     KxRenderJob::Callbacks callbacks = m_listener.Callbacks();
-    callbacks.finished = [tell = callbacks.finished](const KxRenderResult& result) {
-        tell(result);
+    callbacks.finished = [report = callbacks.finished](const KxRenderResult& result) {
+        report(result);
         throw std::runtime_error("too late");
     };
     {

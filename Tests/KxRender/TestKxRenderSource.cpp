@@ -62,7 +62,7 @@ void ExpectNear(const QRectF& a, const QRectF& b)
 
 } // namespace
 
-TEST(KxRenderSource, TakesTheFileAndTheRectangleOfEveryFrame)
+TEST(KxRenderSource, TakesTheFileAndTheCropOfEveryFrame)
 {
     KxResult<KxRenderSource> source = KxResult<KxRenderSource>::Failure({});
     {
@@ -81,7 +81,7 @@ TEST(KxRenderSource, TakesTheFileAndTheRectangleOfEveryFrame)
     ExpectNear(source->CropAt(1000, {320, 180}, {90, 160}), QRectF(0.039, 0.1, 0.3, 0.9));
 }
 
-TEST(KxRenderSource, WithoutKeyframesTheMiddleOfTheWantedShapeIsTaken)
+TEST(KxRenderSource, UsesTheCentralWindowWithoutKeyframes)
 {
     Timeline timeline;
     timeline.clip.keyFrames.hasAny = false;
@@ -93,7 +93,7 @@ TEST(KxRenderSource, WithoutKeyframesTheMiddleOfTheWantedShapeIsTaken)
     ExpectNear(source->CropAt(0, {320, 180}, {160, 90}), QRectF(0, 0, 1, 1));
 }
 
-TEST(KxRenderSource, TimelineThatShowsNoFileIsRefused)
+TEST(KxRenderSource, RefusesATimelineWithoutAFile)
 {
     Timeline timeline;
     timeline.clip.path.clear();

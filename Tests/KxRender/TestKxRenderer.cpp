@@ -44,13 +44,13 @@ QStringList Beeps(const QString& expression)
             QStringLiteral("aevalsrc='%1':s=48000:d=3").arg(expression)};
 }
 
-// Ten milliseconds of a tone at the start of each second but the first.
+// A tone of 10 ms at the start of each second except the first.
 QString EverySecond()
 {
     return QStringLiteral("if(lt(mod(t,1),0.01)*gte(t,0.5),0.8*sin(2*PI*1000*t),0)");
 }
 
-// A texture that drifts a little from picture to picture, so that no place and no picture is like another.
+// A texture that drifts from picture to picture, so that no two places and no two pictures are alike.
 MadeVideo::Recipe Textured(int frames)
 {
     MadeVideo::Recipe recipe;
@@ -80,7 +80,7 @@ std::vector<int> FromZero(int count)
 
 } // namespace
 
-TEST_F(KxRendererTest, EveryPictureIsTheCropOfItsFrame)
+TEST_F(KxRendererTest, CutsTheCropOfEachFrame)
 {
     KxRenderSource source;
     source.path = Path(QStringLiteral("clip.mp4"));
@@ -110,7 +110,7 @@ TEST_F(KxRendererTest, EveryPictureIsTheCropOfItsFrame)
     }
 }
 
-TEST_F(KxRendererTest, ProgressAscendsToTheEnd)
+TEST_F(KxRendererTest, ReportsAscendingProgressUpToTheEnd)
 {
     KxRenderSource source = MakeClip(50);
     ASSERT_EQ(Render(source, SettingsFor(QSize(64, 36))).outcome, KxOutcome::Done);
@@ -122,7 +122,7 @@ TEST_F(KxRendererTest, ProgressAscendsToTheEnd)
     EXPECT_EQ(std::count(m_progress.begin(), m_progress.end(), 10000), 1);
 }
 
-TEST_F(KxRendererTest, RateOfTheSourceIsKeptExactly)
+TEST_F(KxRendererTest, KeepsTheRateOfTheSourceExactly)
 {
     KxRenderSource source = MakeClip(48, QStringLiteral("24000/1001"));
     source.crops = WholePicture();
@@ -140,7 +140,7 @@ TEST_F(KxRendererTest, RateOfTheSourceIsKeptExactly)
     }
 }
 
-TEST_F(KxRendererTest, OtherRateShowsTheFrameOfItsMoment)
+TEST_F(KxRendererTest, ShowsTheFrameOfTheSameTimeAtAnotherRate)
 {
     KxRenderSource source = MakeClip(50);
     source.crops = WholePicture();
@@ -158,7 +158,7 @@ TEST_F(KxRendererTest, OtherRateShowsTheFrameOfItsMoment)
     }
 }
 
-TEST_F(KxRendererTest, TurnedSourceIsRenderedUpright)
+TEST_F(KxRendererTest, RendersARotatedSourceUpright)
 {
     KxRenderSource source = MakeClip(12);
     const QString lying = Path(QStringLiteral("clip.lying.mp4"));
@@ -174,7 +174,7 @@ TEST_F(KxRendererTest, TurnedSourceIsRenderedUpright)
     EXPECT_EQ(Numbers(result.outputPath), FromZero(12));
 }
 
-TEST_F(KxRendererTest, OddResolutionBecomesAPixelLarger)
+TEST_F(KxRendererTest, MakesAnOddResolutionOnePixelLarger)
 {
     const KxRenderSource source = MakeClip(5);
     const KxRenderResult result = Render(source, SettingsFor(QSize(101, 179)));
@@ -182,7 +182,7 @@ TEST_F(KxRendererTest, OddResolutionBecomesAPixelLarger)
     EXPECT_EQ(Pictures(result.outputPath).front().DisplayedSize(), QSize(102, 180));
 }
 
-TEST_F(KxRendererTest, ResolutionOrRateThatCannotBeIsRefused)
+TEST_F(KxRendererTest, RefusesImpossibleResolutionsAndRates)
 {
     const KxRenderSource source = MakeClip(5);
     const QString path = Path(QStringLiteral("out.mp4"));
@@ -196,7 +196,7 @@ TEST_F(KxRendererTest, ResolutionOrRateThatCannotBeIsRefused)
                   QStringLiteral("Cannot write %1: -25 frames a second are not possible.").arg(path));
 }
 
-TEST_F(KxRendererTest, SoundMeetsThePicture)
+TEST_F(KxRendererTest, KeepsSoundAndPictureInSync)
 {
     MadeVideo::Recipe recipe;
     recipe.size = QSize(320, 180);
@@ -228,7 +228,7 @@ TEST_F(KxRendererTest, SoundMeetsThePicture)
     EXPECT_NEAR(beeps[1], flashes[1], 0.010);
 }
 
-TEST_F(KxRendererTest, LateSoundStaysLate)
+TEST_F(KxRendererTest, KeepsTheOffsetOfLateSound)
 {
     const KxRenderSource source =
         MakeClip(75, QStringLiteral("25"),
@@ -241,7 +241,7 @@ TEST_F(KxRendererTest, LateSoundStaysLate)
     EXPECT_NEAR(beeps[1], 2.4, 0.010);
 }
 
-TEST_F(KxRendererTest, SoundEndsWithTheLastPicture)
+TEST_F(KxRendererTest, EndsTheSoundWithTheLastPicture)
 {
     const KxRenderSource source = MakeClip(30, QStringLiteral("25"), Beeps(EverySecond()));
     const KxRenderResult result = Render(source, SettingsFor(QSize(90, 160)));
@@ -250,7 +250,7 @@ TEST_F(KxRendererTest, SoundEndsWithTheLastPicture)
     EXPECT_NEAR(SoundEnd(result.outputPath), 1.2, 0.025);
 }
 
-TEST_F(KxRendererTest, WantedAudioStreamIsTaken)
+TEST_F(KxRendererTest, UsesTheSelectedAudioStream)
 {
     KxRenderSource source = MakeClip(50, QStringLiteral("25"),
                                      Beeps(EverySecond()) + Beeps(QStringLiteral("if(between(t,1.5,1.51),0.8,0)")),
@@ -264,7 +264,7 @@ TEST_F(KxRendererTest, WantedAudioStreamIsTaken)
     EXPECT_NEAR(beeps[0], 1.5, 0.010);
 }
 
-TEST_F(KxRendererTest, FileOfTheSameNameIsKept)
+TEST_F(KxRendererTest, KeepsAnExistingFileOfTheSameName)
 {
     const KxRenderSource source = MakeClip(5);
     const KxRenderSettings settings = SettingsFor(QSize(64, 36));
@@ -273,7 +273,7 @@ TEST_F(KxRendererTest, FileOfTheSameNameIsKept)
     EXPECT_EQ(Written(), (QStringList{QStringLiteral("out (2).mp4"), QStringLiteral("out.mp4")}));
 }
 
-TEST_F(KxRendererTest, SourceIsNeverReplacedByItsOwnRendering)
+TEST_F(KxRendererTest, NeverReplacesItsOwnSource)
 {
     const KxRenderSource source = MakeClip(5);
     KxRenderSettings settings = SettingsFor(QSize(64, 36));
@@ -284,7 +284,7 @@ TEST_F(KxRendererTest, SourceIsNeverReplacedByItsOwnRendering)
     EXPECT_EQ(Numbers(source.path), FromZero(5));
 }
 
-TEST_F(KxRendererTest, CancelledRenderingLeavesNoFile)
+TEST_F(KxRendererTest, LeavesNoFileWhenCancelled)
 {
     const KxRenderSource source = MakeClip(60);
     m_cancel.Cancel();
@@ -305,7 +305,7 @@ TEST_F(KxRendererTest, CancelledRenderingLeavesNoFile)
     }
 }
 
-TEST_F(KxRendererTest, SourceThatIsNoVideoIsRefused)
+TEST_F(KxRendererTest, RefusesASourceThatIsNotAVideo)
 {
     KxRenderSource source;
     source.path = Path(QStringLiteral("clip.none.mp4"));
@@ -320,7 +320,7 @@ TEST_F(KxRendererTest, SourceThatIsNoVideoIsRefused)
     EXPECT_EQ(Written(), QStringList());
 }
 
-TEST_F(KxRendererTest, FolderThatDoesNotExistIsNamed)
+TEST_F(KxRendererTest, NamesTheMissingFolder)
 {
     const KxRenderSource source = MakeClip(5);
     KxRenderSettings settings = SettingsFor(QSize(64, 36));
@@ -331,7 +331,7 @@ TEST_F(KxRendererTest, FolderThatDoesNotExistIsNamed)
         << result.message.toStdString();
 }
 
-TEST_F(KxRendererTest, FileThatIsCutOffIsRenderedAsFarAsItGoes)
+TEST_F(KxRendererTest, RendersATruncatedFileUpToItsEnd)
 {
     KxRenderSource source = MakeClip(
         75, QStringLiteral("25"), {},
@@ -351,7 +351,7 @@ TEST_F(KxRendererTest, FileThatIsCutOffIsRenderedAsFarAsItGoes)
     }
 }
 
-TEST_F(KxRendererTest, FullDiskIsCalledFull)
+TEST_F(KxRendererTest, ReportsAFullDisk)
 {
     KxRenderSource source;
     source.path = Path(QStringLiteral("clip.mp4"));
@@ -374,7 +374,7 @@ TEST_F(KxRendererTest, FullDiskIsCalledFull)
     EXPECT_EQ(left, QStringList());
 }
 
-TEST_F(KxRendererTest, AnOverlayDrawsOnTheWholePictureOfEachFrame)
+TEST_F(KxRendererTest, DrawsTheOverlayOnTheWholePictureOfEachFrame)
 {
     KxRenderSource source = MakeClip(12, QStringLiteral("25"),
                                      {QStringLiteral("-f"), QStringLiteral("lavfi"), QStringLiteral("-i"),

@@ -56,7 +56,7 @@ QImage DrawRuler(int number)
     return image;
 }
 
-/// Smooth weights with which a sum over a part of a wave is hardly moved by where the part ends.
+/// A Hann window: sums over a part of a wave hardly depend on where the part ends.
 double Weight(size_t at, size_t from, size_t to)
 {
     const double place = (static_cast<double>(at - from) + 0.5) / static_cast<double>(to - from);
@@ -72,7 +72,7 @@ double WeightedMean(const std::vector<double>& levels)
     return sum / static_cast<double>(levels.size());
 }
 
-/// The stretch of one axis that was expected, and by how much its ends lie elsewhere.
+/// The expected stretch of one axis, and the errors of its two ends.
 struct Axis {
     double startPx = 0.0;
     double lengthPx = 0.0;
@@ -81,7 +81,8 @@ struct Axis {
     double contrast = 0.0;
 };
 
-/// How far the middle of samples `from` to `to` is shifted against the expected stretch, up to half a period.
+/// The amplitude of the wave in the samples `from` to `to`; its argument is their shift against the expected stretch,
+/// as a phase.
 std::complex<double> Demodulated(const std::vector<double>& levels, const Axis& expected, size_t from, size_t to)
 {
     const double mean = WeightedMean(levels);
@@ -107,7 +108,7 @@ Axis Compared(const std::vector<double>& levels, Axis axis)
     return axis;
 }
 
-/// What a picture shows: levels along both axes.
+/// The mean levels of a picture along both axes.
 struct Shown {
     std::vector<double> across;
     std::vector<double> down;
@@ -160,14 +161,14 @@ void ExpectStretch(const std::vector<double>& levels, double startPx, double len
 
 enum class Crops { Inside, Beyond };
 
-/// Crops that jump from frame to frame; every third one lies at an edge or, with Crops::Beyond, beyond it.
+/// Crops that jump from frame to frame; every third one touches an edge or, with Crops::Beyond, lies beyond it.
 std::vector<QRectF> JumpingCrops(Crops where, size_t count, unsigned seed)
 {
     std::mt19937 random(seed);
     const auto pick = [&random](double from, double to) {
         return std::uniform_real_distribution<double>(from, to)(random);
     };
-    std::vector<QRectF> crops{QRectF(0.3, 0.1, 0.4, 0.8)}; // the first one decides the size of the file
+    std::vector<QRectF> crops{QRectF(0.3, 0.1, 0.4, 0.8)}; // determines the size of the file
     while (crops.size() < count) {
         const double width = pick(0.2, 0.9);
         const double height = pick(0.25, 1.0);
@@ -197,7 +198,7 @@ std::vector<QRectF> JumpingCrops(Crops where, size_t count, unsigned seed)
     return crops;
 }
 
-/// Where the rectangle of a frame has to lie: shortened to the picture, then moved into it.
+/// Where the crop has to lie: shortened to the picture, then moved into it.
 QRectF ExpectedPx(const QRectF& crop)
 {
     const double width = std::min(crop.width(), 1.0);
