@@ -3,8 +3,8 @@
 #include <atomic>
 #include <memory>
 
-/// The one mark by which a job is told to stop. Copies share the mark; any thread may set or read it. A job looks at it
-/// once a frame and inside every wait.
+/// Asks a job to stop. Copies share one flag, which any thread may set or read. A job checks it once a frame and in
+/// every wait.
 class KxCancelToken
 {
 public:
@@ -13,7 +13,7 @@ public:
     {
     }
 
-    void Cancel() { m_mark->store(true, std::memory_order_release); }
+    void Cancel() const { m_mark->store(true, std::memory_order_release); }
     bool IsCancelled() const { return m_mark->load(std::memory_order_acquire); }
 
 private:

@@ -5,24 +5,56 @@
 namespace
 {
 
-volatile std::sig_atomic_t g_requested = 0;
-
 extern "C" void HandleInterrupt(int number)
 {
-    g_requested = 1;
-    // The second one finds the system's own handling again and ends a program that hangs.
+    KxInterrupt::Request();
+    // The second one finds the system's own handling and ends a program that hangs.
     std::signal(number, SIG_DFL);
 }
+
+#if defined(SIGHUP)
+extern "C" void HandleHangUp(int)
+{
+    // Without a limit: a closed terminal sends it more than once.
+    KxInterrupt::Request();
+}
+#endif
 
 } // namespace
 
 void KxInterrupt::Install()
 {
+    // Made before a signal can ask for it.
+    Token();
     std::signal(SIGINT, &HandleInterrupt);
     std::signal(SIGTERM, &HandleInterrupt);
+#if defined(SIGHUP)
+    if (std::signal(SIGHUP, &HandleHangUp) == SIG_IGN) {
+        std::signal(SIGHUP, SIG_IGN);
+    }
+#endif
+#if defined(SIGPIPE)
+    std::signal(SIGPIPE, SIG_IGN);
+#endif
+#if defined(SIGXFSZ)
+    std::signal(SIGXFSZ, SIG_IGN);
+#endif
+}
+
+void KxInterrupt::Request()
+{
+    // Setting an atomic flag is one of the few things that a signal handler may do.
+    Token().Cancel();
 }
 
 bool KxInterrupt::IsRequested()
 {
-    return g_requested != 0;
+    return Token().IsCancelled();
+}
+
+const KxCancelToken& KxInterrupt::Token()
+{
+    // Never destroyed: a signal may come until the very end of the process.
+    static const KxCancelToken* const token = new KxCancelToken;
+    return *token;
 }
