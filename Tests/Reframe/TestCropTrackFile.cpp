@@ -9,6 +9,8 @@
 
 #include <gtest/gtest.h>
 
+#include <sys/stat.h>
+
 namespace
 {
 
@@ -41,9 +43,29 @@ protected:
     QTemporaryDir m_folder;
 };
 
+/// The largest size that this process has had in memory, since the last reset.
+qint64 PeakMemoryKb()
+{
+    QFile status(QStringLiteral("/proc/self/status"));
+    if (!status.open(QIODevice::ReadOnly)) {
+        return -1;
+    }
+    const QByteArray content = status.readAll();
+    const QByteArray peak = content.mid(content.indexOf("VmHWM:") + 6);
+    return peak.left(peak.indexOf("kB")).trimmed().toLongLong();
+}
+
+void ResetPeakMemory()
+{
+    QFile file(QStringLiteral("/proc/self/clear_refs"));
+    if (file.open(QIODevice::WriteOnly)) {
+        file.write("5");
+    }
+}
+
 void ExpectRefused(const QString& path, const char* reason)
 {
-    const KxResult<CropTrack> track = CropTrackFile::Read(path);
+    const KxResult<CropTrack> track = CropTrackFile::Read(path, 3);
     ASSERT_FALSE(track) << path.toStdString();
     EXPECT_TRUE(track.Message().contains(QLatin1String(reason))) << track.Message().toStdString();
 }
@@ -79,7 +101,7 @@ TEST_F(CropTrackFileTest, WhatWasWrittenCanBeRead)
 {
     for (const char* name : {"t.json", "t.csv"}) {
         const KxResult<CropTrack> track =
-            CropTrackFile::Read(WithContent(name, CropTrackFile::Format(Track(), Path(name))));
+            CropTrackFile::Read(WithContent(name, CropTrackFile::Format(Track(), Path(name))), 3);
         ASSERT_TRUE(track) << track.Message().toStdString();
         ASSERT_EQ(track->crops.size(), 3);
         for (int frame = 0; frame < 3; ++frame) {
@@ -87,11 +109,11 @@ TEST_F(CropTrackFileTest, WhatWasWrittenCanBeRead)
             EXPECT_EQ(track->crops.at(frame).frame(), frame);
         }
     }
-    EXPECT_EQ(CropTrackFile::Read(Path("t.json"))->aspect, QSize(9, 16));
-    EXPECT_TRUE(CropTrackFile::Read(Path("t.csv"))->aspect.isEmpty());
+    EXPECT_EQ(CropTrackFile::Read(Path("t.json"), 3)->aspect, QSize(9, 16));
+    EXPECT_TRUE(CropTrackFile::Read(Path("t.csv"), 3)->aspect.isEmpty());
 }
 
-TEST_F(CropTrackFileTest, RefusesWhatIsNoTrackAndSaysWhy)
+TEST_F(CropTrackFileTest, RefusesAnInvalidTrackWithTheReason)
 {
     ExpectRefused(Path("missing.json"), "missing.json");
     ExpectRefused(m_folder.path(), "it is a folder");
@@ -105,4 +127,93 @@ TEST_F(CropTrackFileTest, RefusesWhatIsNoTrackAndSaysWhy)
     ExpectRefused(WithContent("flat.json", "{\"frames\":[[0,0,0,1]]}"), "frame 0 is no rectangle");
     ExpectRefused(WithContent("gap.csv", "frame,x,y,w,h\n0,0,0,1,1\n2,0,0,1,1\n"), "frame 1 is no rectangle");
     ExpectRefused(WithContent("nan.csv", "frame,x,y,w,h\n0,nan,0,1,1\n"), "frame 0 is no rectangle");
+}
+
+TEST_F(CropTrackFileTest, RefusesAFileThatIsTooLargeForTheVideoBeforeItIsRead)
+{
+    for (const char* name : {"huge.json", "huge.csv"}) {
+        QFile file(WithContent(name, {}));
+        ASSERT_TRUE(file.resize(511LL * 1024 * 1024));
+        ExpectRefused(file.fileName(), "it is too large for a crop track of a video of 3 frames");
+    }
+}
+
+TEST_F(CropTrackFileTest, RefusesADeviceAndAPipe)
+{
+    ExpectRefused(QStringLiteral("/dev/zero"), "it is not a regular file");
+    ASSERT_EQ(::mkfifo(QFile::encodeName(Path("pipe.json")).constData(), 0600), 0);
+    ExpectRefused(Path("pipe.json"), "it is not a regular file");
+}
+
+TEST_F(CropTrackFileTest, EmptyLinesAreNoFrames)
+{
+    ExpectRefused(WithContent("lines.csv", QByteArray(60000, '\n')), "holds no frames");
+    ExpectRefused(WithContent("lines.json", QByteArray(60000, '\n')), "no crop track (line 60001)");
+}
+
+TEST_F(CropTrackFileTest, RefusesAnotherVersionWhereverItIsWritten)
+{
+    const QByteArray frames = "\"frames\":[[0,0,1,1]]";
+    for (const QByteArray& content : {"{\"version\":2," + frames + "}", "{" + frames + ",\"version\":2}"}) {
+        ExpectRefused(WithContent("later.json", content), "of version 2, and this program reads version 1");
+    }
+    ExpectRefused(WithContent("text.json", "{\"version\":\"1\"," + frames + "}"), "no crop track");
+    EXPECT_TRUE(CropTrackFile::Read(WithContent("one.json", "{\"version\":1," + frames + "}"), 3));
+}
+
+TEST_F(CropTrackFileTest, RefusesMoreFramesThanTheVideoHas)
+{
+    for (const char* name : {"t.json", "t.csv"}) {
+        const QString path = WithContent(name, CropTrackFile::Format(Track(), Path(name)));
+        const KxResult<CropTrack> track = CropTrackFile::Read(path, 2);
+        ASSERT_FALSE(track);
+        EXPECT_TRUE(track.Message().endsWith(QStringLiteral("it holds more frames than the video, which has 2.")))
+            << track.Message().toStdString();
+    }
+}
+
+TEST_F(CropTrackFileTest, UnknownMembersAreSkipped)
+{
+    const QByteArray content = "\xEF\xBB\xBF{\"a\":{\"b\":[1,[true,null],{\"c\":\"}]\"}]},\"frames\":[[0,0,1,1]],"
+                               "\"note\":\"\\u0041 \\\"quoted\\\"\",\"speed\":\"fa\\u0073t\"}\n";
+    const KxResult<CropTrack> track = CropTrackFile::Read(WithContent("more.json", content), 3);
+    ASSERT_TRUE(track) << track.Message().toStdString();
+    EXPECT_EQ(track->crops.size(), 1);
+    EXPECT_EQ(track->speedName, QStringLiteral("fast"));
+}
+
+TEST_F(CropTrackFileTest, RefusesDamagedJson)
+{
+    const QByteArray whole = CropTrackFile::Format(Track(), Path("t.json")).trimmed();
+    for (int length = 0; length < whole.size(); ++length) {
+        EXPECT_FALSE(CropTrackFile::Read(WithContent("cut.json", whole.left(length)), 3)) << length;
+    }
+    for (const char* content : {"{\"frames\":[[0,0,1,1],]}", "{\"frames\":[[0,0,1,1]]}}", "{\"frames\":[[0,0,1,1]],}",
+                                "{,}", "{\"a\":,\"frames\":[[0,0,1,1]]}", "{\"a\":]}", "{\"frames\":[[0,0,1e999,1]]}",
+                                "{\"aspect\":[9],\"frames\":[]}", "{\"aspect\":[9,1e300],\"frames\":[[0,0,1,1]]}",
+                                "{\"a\":\"\\q\"}", "{\"a\":nul}"}) {
+        EXPECT_FALSE(CropTrackFile::Read(WithContent("bad.json", content), 3)) << content;
+    }
+    ExpectRefused(WithContent("deep.json", "{\"a\":" + QByteArray(60000, '[')), "no crop track");
+    ExpectRefused(WithContent("key.json", "{\"" + QByteArray(64000, 'a')), "no crop track");
+}
+
+TEST_F(CropTrackFileTest, ALongTrackNeedsLittleMoreMemoryThanItsCrops)
+{
+    constexpr int frames = 300000;
+    CropTrack track = Track();
+    track.crops.clear();
+    for (int frame = 0; frame < frames; ++frame) {
+        track.crops.append(IKxAutoReframeResult(frame, QRectF(0.123456789, 0.0, 0.31640625, 1.0)));
+    }
+    for (const char* name : {"long.json", "long.csv"}) {
+        const QString path = WithContent(name, CropTrackFile::Format(track, Path(name)));
+        ResetPeakMemory();
+        const qint64 before = PeakMemoryKb();
+        const KxResult<CropTrack> read = CropTrackFile::Read(path, frames);
+        ASSERT_TRUE(read) << read.Message().toStdString();
+        EXPECT_EQ(read->crops.size(), frames);
+        // The crops take 24 MB; a tree of JSON values would take ten times as much.
+        EXPECT_LT(PeakMemoryKb() - before, 40 * 1024) << name;
+    }
 }

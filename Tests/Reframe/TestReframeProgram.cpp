@@ -90,7 +90,7 @@ TEST_F(ReframeProgramTest, TheOutputHasTheAspectAndEveryFrame)
     EXPECT_EQ((*reader)->Facts().video->frameCount, 40);
 }
 
-TEST_F(ReframeProgramTest, TheOtherInputsAreDoneWhenOneFails)
+TEST_F(ReframeProgramTest, OneFailedInputDoesNotStopTheOthers)
 {
     QDir(m_folder.path()).mkdir(QStringLiteral("out"));
     const ReframeRun run(
@@ -101,7 +101,7 @@ TEST_F(ReframeProgramTest, TheOtherInputsAreDoneWhenOneFails)
               (QStringList{QStringLiteral("a-AutoReframe-9 16.mp4"), QStringLiteral("b-AutoReframe-9 16.mp4")}));
 }
 
-TEST_F(ReframeProgramTest, JsonLinesTellProgressAndResult)
+TEST_F(ReframeProgramTest, JsonLinesReportProgressAndResult)
 {
     const ReframeRun run({QStringLiteral("--json"), MakeClip("clip.mp4")});
     ASSERT_EQ(run.exitStatus, 0) << run.standardError.toStdString();
@@ -146,7 +146,7 @@ TEST_F(ReframeProgramTest, RefusesSoundOnlySinglePicturesAndWhatIsTooShortOrTooS
     ExpectRefused(Path("dot.mkv"), "1 x 1 pixels is too small");
 }
 
-TEST_F(ReframeProgramTest, RefusesTheAspectThatTheSourceHas)
+TEST_F(ReframeProgramTest, RefusesTheAspectRatioOfTheSource)
 {
     MadeVideo::Recipe recipe;
     recipe.size = QSize(160, 90);
@@ -159,7 +159,7 @@ TEST_F(ReframeProgramTest, RefusesTheAspectThatTheSourceHas)
         << run.standardError.toStdString();
 }
 
-TEST_F(ReframeProgramTest, ACutOffVideoIsReframedAsFarAsItDecodesWithAWarning)
+TEST_F(ReframeProgramTest, ATruncatedVideoIsReframedAsFarAsItDecodesWithAWarning)
 {
     const QString whole = MakeClip(
         "whole.mp4", 100,
@@ -177,7 +177,7 @@ TEST_F(ReframeProgramTest, ACutOffVideoIsReframedAsFarAsItDecodesWithAWarning)
     EXPECT_LT((*reader)->Facts().video->frameCount, 90);
 }
 
-TEST_F(ReframeProgramTest, AVideoWithoutAnIndexThatWasCutOffIsToldOfToo)
+TEST_F(ReframeProgramTest, ATruncatedVideoWithoutAnIndexGivesAWarningToo)
 {
     for (const char* suffix : {"mkv", "avi"}) {
         SCOPED_TRACE(suffix);
@@ -212,7 +212,7 @@ TEST_F(ReframeProgramTest, AnOutputThatCannotBeWrittenIsNamed)
     EXPECT_TRUE(run.standardError.contains(QStringLiteral("does not exist"))) << run.standardError.toStdString();
 }
 
-TEST_F(ReframeProgramTest, AnOutputThatCannotBeWrittenIsToldBeforeTheAnalysis)
+TEST_F(ReframeProgramTest, AnOutputThatCannotBeWrittenIsReportedBeforeTheAnalysis)
 {
     const QString clip = MakeClip("clip.mp4");
     for (const auto& [option, suffix] : {std::pair("--output", "mp4"), std::pair("--keyframes", "json"),
@@ -225,7 +225,7 @@ TEST_F(ReframeProgramTest, AnOutputThatCannotBeWrittenIsToldBeforeTheAnalysis)
     }
 }
 
-TEST_F(ReframeProgramTest, OneRunNeverReplacesWhatItHasWritten)
+TEST_F(ReframeProgramTest, ARunNeverReplacesItsOwnOutput)
 {
     for (const char* folder : {"one", "two", "out"}) {
         QDir(m_folder.path()).mkdir(QLatin1String(folder));
@@ -253,27 +253,35 @@ TEST_F(ReframeProgramTest, TheInputItselfIsNeverReplaced)
     EXPECT_EQ(QFileInfo(clip).size(), size);
 }
 
-TEST_F(ReframeProgramTest, AnInterruptEndsAtOnceAndLeavesNothingBehind)
+TEST_F(ReframeProgramTest, AMissingInputDoesNotFailTheOthersWithOverwrite)
 {
-    const QString clip = MakeClip("long.mp4", 3000);
-    const QStringList before = Files();
-    for (const char* stage : {"analyze", "render"}) {
-        QProcess process;
-        process.start(QStringLiteral(REFRAME_PROGRAM), {QStringLiteral("--json"), clip});
-        const QString wanted = QStringLiteral("\"stage\":\"%1\"").arg(QLatin1String(stage));
-        QString output;
-        while (!output.contains(wanted) && process.waitForReadyRead(60000)) {
-            output += QString::fromUtf8(process.readAllStandardOutput());
-        }
-        ASSERT_TRUE(output.contains(wanted)) << output.toStdString();
-        ASSERT_EQ(
-            QProcess::execute(QStringLiteral("kill"), {QStringLiteral("-INT"), QString::number(process.processId())}),
-            0);
-        ASSERT_TRUE(process.waitForFinished(20000));
-        EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
-        EXPECT_EQ(process.exitCode(), 130);
-        EXPECT_EQ(Files(), before) << stage;
+    const QString clip = MakeClip("clip.mp4");
+    const ReframeRun run({QStringLiteral("--overwrite"), Path("missing.mp4"), clip});
+    EXPECT_EQ(run.exitStatus, 1);
+    EXPECT_EQ(run.standardError, QStringLiteral("Cannot open missing.mp4: there is no such file.\n"));
+    EXPECT_TRUE(QFile::exists(Path("clip-AutoReframe-9 16.mp4")));
+}
+
+TEST_F(ReframeProgramTest, ALinkToAnInputIsNotReplacedEither)
+{
+    const QString clip = MakeClip("clip.mp4");
+    ASSERT_TRUE(QFile::link(clip, Path("link.mp4")));
+    const ReframeRun run({QStringLiteral("--overwrite"), QStringLiteral("--output"), Path("link.mp4"), clip});
+    EXPECT_EQ(run.exitStatus, 1);
+    EXPECT_TRUE(run.standardError.contains(QStringLiteral("it is one of the inputs")));
+}
+
+TEST_F(ReframeProgramTest, ATrackOfMoreFramesThanTheVideoIsRefused)
+{
+    const QString clip = MakeClip("clip.mp4");
+    QByteArray content = "frame,x,y,w,h\n";
+    for (int frame = 0; frame < 41; ++frame) {
+        content += QByteArray::number(frame) + ",0.3,0,0.3,1\n";
     }
+    const ReframeRun run({QStringLiteral("--apply"), MakeFile("track.csv", content), clip});
+    EXPECT_EQ(run.exitStatus, 1);
+    EXPECT_EQ(run.standardError,
+              QStringLiteral("Cannot use track.csv: it holds more frames than the video, which has 40.\n"));
 }
 
 TEST_F(ReframeProgramTest, RealFootageIsReframed)

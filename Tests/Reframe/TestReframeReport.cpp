@@ -135,7 +135,7 @@ TEST_F(ReframeReportTest, NumbersAreThoseOfTheTrack)
                           QStringLiteral("--keyframes"), Path(QStringLiteral("track.csv")), QStringLiteral("--speed"),
                           QStringLiteral("fast"), clip});
     ASSERT_EQ(run.exitStatus, 0) << run.standardError.toStdString();
-    const KxResult<CropTrack> track = CropTrackFile::Read(Path(QStringLiteral("track.csv")));
+    const KxResult<CropTrack> track = CropTrackFile::Read(Path(QStringLiteral("track.csv")), frames);
     ASSERT_TRUE(track) << track.Message().toStdString();
     const QString page = Read(QStringLiteral("why.html"));
     for (const char* fact :

@@ -180,7 +180,7 @@ TEST_F(ReframeRoundTrip, TheTrackThatIsWrittenIsTheTrackThatWasApplied)
     const ReframeRun run({QStringLiteral("--apply"), Path("track.json"), QStringLiteral("--no-video"),
                           QStringLiteral("--keyframes"), Path("again.csv"), Path("scene.mp4")});
     ASSERT_EQ(run.exitStatus, 0) << run.standardError.toStdString();
-    const KxResult<CropTrack> again = CropTrackFile::Read(Path("again.csv"));
+    const KxResult<CropTrack> again = CropTrackFile::Read(Path("again.csv"), frames);
     ASSERT_TRUE(again);
     ASSERT_EQ(again->crops.size(), frames);
     for (int frame = 0; frame < frames; ++frame) {
@@ -193,7 +193,7 @@ TEST_F(ReframeRoundTrip, AnalysisGivesOneRectangleOfTheAspectForEveryFrame)
     const ReframeRun run({QStringLiteral("--no-video"), QStringLiteral("--aspect"), QStringLiteral("1:1"),
                           QStringLiteral("--keyframes"), Path("found.json"), Path("scene.mp4")});
     ASSERT_EQ(run.exitStatus, 0) << run.standardError.toStdString();
-    const KxResult<CropTrack> found = CropTrackFile::Read(Path("found.json"));
+    const KxResult<CropTrack> found = CropTrackFile::Read(Path("found.json"), frames);
     ASSERT_TRUE(found) << found.Message().toStdString();
     ASSERT_EQ(found->crops.size(), frames);
     for (const IKxAutoReframeResult& crop : found->crops) {

@@ -8,13 +8,13 @@
 #include <QList>
 #include <QSize>
 
-/// The crop of every frame of one video, as it stands in a file (JSON or CSV, by the file's suffix).
+/// The crop of every frame of one video, as it is stored in a file (JSON or CSV, by the file's suffix).
 struct CropTrack {
     QString sourcePath;
     QSize sourceSize;
     KxRational frameRate;
-    QSize aspect;      ///< empty in what was read from CSV
-    QString speedName; ///< empty in what was read from CSV
+    QSize aspect;      ///< empty in a track that was read from CSV
+    QString speedName; ///< empty in a track that was read from CSV
     QList<IKxAutoReframeResult> crops;
 };
 
@@ -23,6 +23,8 @@ namespace CropTrackFile
 /// The whole content of a file for `path`.
 QByteArray Format(const CropTrack& track, const QString& path);
 
-/// Reads the crops and what else the file says. The error message names the file, the reason, and the place.
-KxResult<CropTrack> Read(const QString& path);
+/// Reads the crops of a video of `frameCount` frames, the aspect and the speed. Refuses a file of more frames, and one
+/// of more than 64 KiB and 256 bytes a frame, before it is read; needs the memory of the crops and 256 KiB. The error
+/// message names the file, the reason and the frame or line.
+KxResult<CropTrack> Read(const QString& path, qint64 frameCount);
 } // namespace CropTrackFile

@@ -32,6 +32,15 @@ ReframeJob::~ReframeJob()
 
 KxOutcome ReframeJob::Run()
 {
+    const KxOutcome outcome = RunSteps();
+    if (outcome == KxOutcome::Cancelled) {
+        m_reporter.Interrupted(m_input, m_written);
+    }
+    return outcome;
+}
+
+KxOutcome ReframeJob::RunSteps()
+{
     for (Ended (ReframeJob::*step)() :
          {&ReframeJob::Open, &ReframeJob::ReadTrack, &ReframeJob::CheckTargets, &ReframeJob::FindCrops,
           &ReframeJob::WriteKeyframes, &ReframeJob::WriteReport, &ReframeJob::WritePreview, &ReframeJob::WriteVideo}) {
@@ -59,9 +68,9 @@ QString ReframeJob::FramesText() const
 
 ReframeJob::Ended ReframeJob::Open()
 {
-    KxResult<std::unique_ptr<KxMediaItem>> media = KxMediaItem::Open(m_input, KxCancelToken());
+    KxResult<std::unique_ptr<KxMediaItem>> media = KxMediaItem::Open(m_input, KxInterrupt::Token());
     if (!media) {
-        return Fail(media.Message());
+        return FailUnlessInterrupted(media.Message());
     }
     m_media = std::move(*media);
     if (!m_media->mediaInfo()->hasVideoStream()) {
@@ -77,7 +86,7 @@ ReframeJob::Ended ReframeJob::ReadTrack()
     if (m_options.apply.isEmpty()) {
         return std::nullopt;
     }
-    KxResult<CropTrack> track = CropTrackFile::Read(m_options.apply);
+    KxResult<CropTrack> track = CropTrackFile::Read(m_options.apply, m_media->duration());
     if (!track) {
         return Fail(track.Message());
     }
@@ -212,10 +221,11 @@ ReframeJob::Ended ReframeJob::WriteFile(const QString& path, const QByteArray& c
 
 bool ReframeJob::WouldReplaceInput(const QString& path) const
 {
-    const QFileInfo target(path);
-    return WhenItExists(path) == KxOutputFile::Existing::Replace &&
+    // Empty for a file that does not exist.
+    const QString target = QFileInfo(path).canonicalFilePath();
+    return WhenItExists(path) == KxOutputFile::Existing::Replace && !target.isEmpty() &&
            std::any_of(m_options.inputs.begin(), m_options.inputs.end(),
-                       [&target](const QString& input) { return QFileInfo(input) == target; });
+                       [&target](const QString& input) { return QFileInfo(input).canonicalFilePath() == target; });
 }
 
 void ReframeJob::NoteWritten(const QString& path, const QString& fact)
@@ -234,6 +244,11 @@ KxOutcome ReframeJob::Fail(const QString& message)
 {
     m_reporter.Fail(m_input, message);
     return KxOutcome::Failed;
+}
+
+KxOutcome ReframeJob::FailUnlessInterrupted(const QString& message)
+{
+    return KxInterrupt::IsRequested() ? KxOutcome::Cancelled : Fail(message);
 }
 
 QString ReframeJob::TargetPath(const QString& named, const QString& suffix) const

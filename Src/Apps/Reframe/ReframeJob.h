@@ -7,7 +7,7 @@
 #include <KxCore/KxOutputFile.h>
 #include <KxCore/KxResult.h>
 #include <KxModel/KxMediaItem.h>
-#include <KxRender/KxRenderJob.h>
+#include <KxRender/KxRenderer.h>
 
 #include <KrAutoReframe/Engine/KrAutoReframeProcess.h>
 
@@ -24,16 +24,18 @@ public:
     ~ReframeJob();
     Q_DISABLE_COPY_MOVE(ReframeJob)
 
-    /// Reports how it goes and how it ended; Cancelled when the person interrupted it.
+    /// Reports progress and the end. Cancelled when the person interrupted it: then the video was not written. An
+    /// interrupt that comes later is left to the caller, and the outcome is Done.
     KxOutcome Run();
 
 private:
-    /// Nothing when the step is done, else how the job ended (already reported).
+    /// Nothing when the step is done, otherwise how the job ended. A failure is reported already.
     using Ended = std::optional<KxOutcome>;
 
+    KxOutcome RunSteps();
     Ended Open();
     Ended ReadTrack();
-    /// Before the work: what cannot be written, and what must not be replaced.
+    /// Reports before the work what cannot be written and what must not be replaced.
     Ended CheckTargets();
     Ended FindCrops();
     Ended StartAnalysis();
@@ -53,6 +55,7 @@ private:
     /// The contact sheet as a file of the format that Qt calls `format`.
     KxResult<QByteArray> ContactSheetFile(const char* format) const;
     KxOutcome Fail(const QString& message);
+    KxOutcome FailUnlessInterrupted(const QString& message);
     /// Where to write: `named` itself, or a file called after the input in the folder `named`, or beside the input when
     /// `named` is empty.
     QString TargetPath(const QString& named, const QString& suffix) const;
@@ -68,7 +71,7 @@ private:
     QSize m_aspect;
     std::unique_ptr<KxMediaItem> m_media;
     std::unique_ptr<KrAutoReframeProcess> m_process;
-    /// What is applied in place of an analysis.
+    /// Applied in place of an analysis.
     std::optional<CropTrack> m_track;
     QJsonObject m_facts;
     QStringList& m_allWritten;

@@ -4,6 +4,7 @@
 #include <Apps/Reframe/ContactSheet.h>
 #include <Apps/Reframe/PreviewOverlay.h>
 #include <KrAutoReframe/Engine/KrAutoReframeHelper.h>
+#include <KxCore/KxInterrupt.h>
 #include <KxModel/KxAutoReframeService.h>
 
 #include <QBuffer>
@@ -26,8 +27,7 @@ QSize PreviewSize(const QSize& source)
 
 KxResult<QByteArray> ReframeJob::ContactSheetFile(const char* format) const
 {
-    const KxCancelToken cancel;
-    const KxResult<QImage> sheet = ContactSheet::Draw(m_input, Helper().GetDisplayResults(), cancel);
+    const KxResult<QImage> sheet = ContactSheet::Draw(m_input, Helper().GetDisplayResults(), KxInterrupt::Token());
     if (!sheet) {
         return KxResult<QByteArray>::Failure(sheet.Message());
     }
@@ -48,7 +48,7 @@ ReframeJob::Ended ReframeJob::WriteReport()
     const std::shared_ptr<const KxSubjectFindings> findings = KxAutoReframeService::Instance().LastFindings();
     const KxResult<QByteArray> sheet = ContactSheetFile("JPEG");
     if (!sheet) {
-        return Fail(sheet.Message());
+        return FailUnlessInterrupted(sheet.Message());
     }
     return WriteFile(TargetPath(m_options.report, QStringLiteral("html")),
                      AnalysisReport::Format(Track(), *findings, *sheet), QStringLiteral("report"));
@@ -64,7 +64,7 @@ ReframeJob::Ended ReframeJob::WritePreview()
     }
     const KxResult<QByteArray> sheet = ContactSheetFile("PNG");
     return sheet ? WriteFile(TargetPath(m_options.preview, QStringLiteral("png")), *sheet, QStringLiteral("preview"))
-                 : Fail(sheet.Message());
+                 : FailUnlessInterrupted(sheet.Message());
 }
 
 ReframeJob::Ended ReframeJob::WritePreviewVideo()

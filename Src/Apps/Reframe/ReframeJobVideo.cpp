@@ -1,9 +1,10 @@
 #include <Apps/Reframe/ReframeJob.h>
 
-#include <Apps/Reframe/ReframeWait.h>
 #include <KrAutoReframe/Engine/KrAutoReframeHelper.h>
 #include <KrAutoReframe/Engine/KrExportParameters.h>
-#include <KxRender/KxRenderJob.h>
+#include <KxCore/KxInterrupt.h>
+#include <KxCore/KxThread.h>
+#include <KxRender/KxRenderer.h>
 
 #include <QEventLoop>
 
@@ -58,19 +59,22 @@ ReframeJob::Ended ReframeJob::Render(const KxRenderSource& source, const KxRende
     m_reporter.BeginStage(m_input, stage);
     QEventLoop loop;
     KxRenderResult result;
-    KxRenderJob::Callbacks callbacks;
-    // The job calls on its own thread; what it says is heard on this one.
-    callbacks.progress = [this, &loop](int progress) {
-        QMetaObject::invokeMethod(&loop, [this, progress] { m_reporter.Progress(progress); });
+    // Called on the rendering's thread; the reporter belongs to this one.
+    const auto progress = [this, &loop](int done) {
+        QMetaObject::invokeMethod(&loop, [this, done] { m_reporter.Progress(done); });
     };
-    callbacks.finished = [&](const KxRenderResult& ended) {
-        QMetaObject::invokeMethod(&loop, [&result, &loop, ended] {
-            result = ended;
-            loop.quit();
-        });
-    };
-    KxRenderJob job(source, settings, callbacks);
-    if (!ReframeWait::Run(loop) || result.outcome == KxOutcome::Cancelled) {
+    KxThread thread([&] {
+        // The interrupt is the rendering's own cancel token: it ends as cancelled, or its file is complete.
+        const KxError failure =
+            KxCallGuarded([&] { result = KxRenderer::Run(source, settings, progress, KxInterrupt::Token()); });
+        if (failure) {
+            result = {KxOutcome::Failed, QStringLiteral("Cannot reframe %1: %2.").arg(m_input, *failure), {}, {}};
+        }
+        QMetaObject::invokeMethod(&loop, &QEventLoop::quit, Qt::QueuedConnection);
+    });
+    loop.exec();
+    thread.Join();
+    if (result.outcome == KxOutcome::Cancelled) {
         return KxOutcome::Cancelled;
     }
     if (result.outcome == KxOutcome::Failed) {

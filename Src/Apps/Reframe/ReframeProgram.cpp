@@ -3,7 +3,7 @@
 #include <Apps/Reframe/ReframeExit.h>
 #include <Apps/Reframe/ReframeJob.h>
 #include <Apps/Reframe/ReframeReporter.h>
-#include <KxCore/KxInterrupt.h>
+#include <KxCore/KxThread.h>
 #include <KxModel/KxAutoReframeService.h>
 #include <KxModel/KxFaceModelFiles.h>
 
@@ -19,14 +19,17 @@ int ReframeProgram::Run(const ReframeOptions& options)
     QStringList written;
     int status = ReframeExit::Done;
     for (const QString& input : options.inputs) {
-        const KxOutcome outcome = ReframeJob(input, options, reporter, written).Run();
-        if (outcome == KxOutcome::Cancelled || KxInterrupt::IsRequested()) {
-            reporter.Fail(input, QStringLiteral("%1: interrupted.").arg(input));
-            return ReframeExit::Interrupted;
+        KxOutcome outcome = KxOutcome::Failed;
+        const KxError failure = KxCallGuarded([&] { outcome = ReframeJob(input, options, reporter, written).Run(); });
+        if (failure) {
+            reporter.Fail(input, QStringLiteral("Cannot reframe %1: %2.").arg(input, *failure));
+        }
+        if (outcome == KxOutcome::Cancelled) {
+            return reporter.OutputProblem() ? ReframeExit::SomeFailed : ReframeExit::Interrupted;
         }
         if (outcome == KxOutcome::Failed) {
             status = ReframeExit::SomeFailed;
         }
     }
-    return status;
+    return reporter.OutputProblem() ? ReframeExit::SomeFailed : status;
 }

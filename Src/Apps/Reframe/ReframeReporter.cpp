@@ -1,20 +1,24 @@
 #include <Apps/Reframe/ReframeReporter.h>
 
 #include <Apps/Reframe/ReframeOptions.h>
+#include <KxCore/KxInterrupt.h>
+#include <KxCore/KxSystemError.h>
 #include <KxCore/KxTerminal.h>
 
 #include <QFileInfo>
 #include <QJsonDocument>
 
+#include <cerrno>
 #include <cstdio>
 
 namespace
 {
 
-void WriteLine(std::FILE* stream, const QByteArray& text)
+/// Standard error has no other place to report its own failure to.
+void WriteError(const QByteArray& text)
 {
-    std::fwrite(text.constData(), 1, static_cast<std::size_t>(text.size()), stream);
-    std::fflush(stream);
+    std::fwrite(text.constData(), 1, static_cast<std::size_t>(text.size()), stderr);
+    std::fflush(stderr);
 }
 
 QString TimeLeft(qint64 elapsedMs, int progress)
@@ -82,7 +86,7 @@ void ReframeReporter::Progress(int progress)
         const QString line = QStringLiteral("%1: %2 %3 %%4")
                                  .arg(QFileInfo(m_input).fileName(), StageWord(m_stage, Form::Doing),
                                       QString::number(percent), TimeLeft(m_stageTimer.elapsed(), progress));
-        WriteLine(stderr, "\r\033[K" + line.toLocal8Bit());
+        WriteError("\r\033[K" + line.toLocal8Bit());
         m_lineShown = true;
     }
 }
@@ -94,7 +98,7 @@ void ReframeReporter::Warn(const QString& input, const QString& message)
     }
     ClearLine();
     if (!m_quiet) {
-        WriteLine(stderr, "Warning: " + message.toLocal8Bit() + '\n');
+        WriteError("Warning: " + message.toLocal8Bit() + '\n');
     }
 }
 
@@ -104,7 +108,7 @@ void ReframeReporter::Fail(const QString& input, const QString& message)
         WriteJson(QStringLiteral("error"), input, {{QStringLiteral("message"), message}});
     }
     ClearLine();
-    WriteLine(stderr, message.toLocal8Bit() + '\n');
+    WriteError(message.toLocal8Bit() + '\n');
 }
 
 void ReframeReporter::Succeed(const QString& input, const QString& message, const QJsonObject& facts)
@@ -113,7 +117,7 @@ void ReframeReporter::Succeed(const QString& input, const QString& message, cons
     if (m_voice == Voice::Json) {
         WriteJson(QStringLiteral("done"), input, facts);
     } else if (!m_quiet) {
-        WriteLine(stdout, message.toLocal8Bit() + '\n');
+        WriteOutput(message.toLocal8Bit() + '\n');
     }
 }
 
@@ -121,13 +125,42 @@ void ReframeReporter::WriteJson(const QString& event, const QString& input, QJso
 {
     facts.insert(QStringLiteral("event"), event);
     facts.insert(QStringLiteral("input"), input);
-    WriteLine(stdout, QJsonDocument(facts).toJson(QJsonDocument::Compact) + '\n');
+    WriteOutput(QJsonDocument(facts).toJson(QJsonDocument::Compact) + '\n');
+}
+
+void ReframeReporter::WriteOutput(const QByteArray& text)
+{
+    if (m_outputProblem) {
+        return;
+    }
+    errno = 0;
+    const auto length = static_cast<std::size_t>(text.size());
+    if (std::fwrite(text.constData(), 1, length, stdout) == length && std::fflush(stdout) == 0) {
+        return;
+    }
+    const QString reason = KxSystemErrorText(std::error_code(errno, std::generic_category()));
+    m_outputProblem = QStringLiteral("Cannot write to standard output: %1.")
+                          .arg(reason.isEmpty() ? QStringLiteral("an error occurred") : reason);
+    ClearLine();
+    WriteError(m_outputProblem->toLocal8Bit() + '\n');
+    KxInterrupt::Request();
+}
+
+void ReframeReporter::Interrupted(const QString& input, const QStringList& written)
+{
+    if (m_outputProblem) {
+        return;
+    }
+    Fail(input,
+         written.isEmpty()
+             ? QStringLiteral("%1: interrupted.").arg(input)
+             : QStringLiteral("%1: interrupted after %2 was written.").arg(input, written.join(QStringLiteral(", "))));
 }
 
 void ReframeReporter::ClearLine()
 {
     if (m_lineShown) {
-        WriteLine(stderr, "\r\033[K");
+        WriteError("\r\033[K");
         m_lineShown = false;
     }
 }

@@ -1,12 +1,18 @@
 #pragma once
 
+#include <KxCore/KxResult.h>
+
 #include <QElapsedTimer>
 #include <QJsonObject>
 #include <QString>
+#include <QStringList>
 
 struct ReframeOptions;
 
-/// What the program tells: a progress line on a terminal, JSON lines for programs, error messages. Main thread.
+/// The program's output: a progress line on a terminal, JSON lines for programs, error messages. Main thread.
+///
+/// When standard output can no longer be written, because its reader has gone or its disk is full, the reporter asks
+/// the program to stop (KxInterrupt).
 class ReframeReporter
 {
 public:
@@ -23,13 +29,19 @@ public:
 
     void Warn(const QString& input, const QString& message);
     void Fail(const QString& input, const QString& message);
+    /// `written` are files that were complete before the interrupt.
+    void Interrupted(const QString& input, const QStringList& written);
     /// `facts` go into the JSON line; `message` is for people.
     void Succeed(const QString& input, const QString& message, const QJsonObject& facts);
+
+    /// Why standard output could not be written; nothing while it can.
+    const KxError& OutputProblem() const { return m_outputProblem; }
 
 private:
     enum class Voice { People, Json };
 
     void WriteJson(const QString& event, const QString& input, QJsonObject facts);
+    void WriteOutput(const QByteArray& text);
     void ClearLine();
 
     const Voice m_voice;
@@ -40,4 +52,5 @@ private:
     QElapsedTimer m_stageTimer;
     int m_lastPercent = -1;
     bool m_lineShown = false;
+    KxError m_outputProblem;
 };

@@ -4,6 +4,6 @@ class QEventLoop;
 
 namespace ReframeWait
 {
-/// Runs `loop` until it is told to quit or the person interrupts the program; false for the latter.
+/// Runs `loop` until it quits by itself or the program is interrupted; false for the latter.
 bool Run(QEventLoop& loop);
 } // namespace ReframeWait

@@ -1,6 +1,8 @@
+#include <Apps/Reframe/ReframeExit.h>
 #include <Apps/Reframe/ReframeProgram.h>
 #include <KxCore/KxInterrupt.h>
 #include <KxCore/KxSpdlog.h>
+#include <KxCore/KxThread.h>
 #include <KxMedia/Container/KxAvLog.h>
 
 #include <QGuiApplication>
@@ -18,23 +20,21 @@ ReframeOptions::Parsed Parse(int argc, char** argv)
     return ReframeOptions::Parse(QCoreApplication::arguments());
 }
 
-// Only what writes on pictures needs fonts, and those come with the larger kind of program; neither needs a display.
+// Only a preview video needs fonts, which come with the larger kind of application; neither kind needs a display.
 std::unique_ptr<QCoreApplication> MakeApplication(const ReframeOptions& options, int& argc, char** argv)
 {
     if (!options.PreviewIsVideo()) {
         return std::make_unique<QCoreApplication>(argc, argv);
     }
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    // Qt misses what a desktop's session sets up, which is no news to a person who has none.
+    // Qt warns about the missing desktop session, which a person without one does not need to read.
     QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false"));
     auto application = std::make_unique<QGuiApplication>(argc, argv);
     QLoggingCategory::setFilterRules(QString());
     return application;
 }
 
-} // namespace
-
-int main(int argc, char** argv)
+int Run(int argc, char** argv)
 {
     QCoreApplication::setApplicationName(QStringLiteral("reframe"));
     QCoreApplication::setApplicationVersion(QStringLiteral(KR_VERSION));
@@ -44,10 +44,22 @@ int main(int argc, char** argv)
     const ReframeOptions::Parsed parsed = Parse(argc, argv);
     if (!parsed.options) {
         const QByteArray text = parsed.text.toLocal8Bit();
-        std::fprintf(parsed.exitStatus == 0 ? stdout : stderr, "%s\n", text.constData());
-        return parsed.exitStatus;
+        std::FILE* const stream = parsed.exitStatus == 0 ? stdout : stderr;
+        const bool isShown = std::fprintf(stream, "%s\n", text.constData()) >= 0 && std::fflush(stream) == 0;
+        return isShown ? parsed.exitStatus : ReframeExit::SomeFailed;
     }
     const std::unique_ptr<QCoreApplication> application = MakeApplication(*parsed.options, argc, argv);
     KxInterrupt::Install();
     return ReframeProgram::Run(*parsed.options);
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    int status = ReframeExit::SomeFailed;
+    if (const KxError failure = KxCallGuarded([&] { status = Run(argc, argv); })) {
+        std::fprintf(stderr, "reframe: %s.\n", failure->toLocal8Bit().constData());
+    }
+    return status;
 }
