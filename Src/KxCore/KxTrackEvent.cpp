@@ -39,6 +39,11 @@ void Write(const QString& name)
     if (path.isEmpty()) {
         return;
     }
+    const QFileInfo info(path);
+    if (info.exists() && !info.isFile()) {
+        KX_LOG_WARNING(QStringLiteral("Cannot write the usage log %1: it is not a regular file.").arg(path));
+        return;
+    }
     const QString line = QStringLiteral("%1 %2\n").arg(QDateTime::currentDateTimeUtc().toString(Qt::ISODate), name);
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Append) || file.write(line.toUtf8()) < 0 || !file.flush()) {

@@ -10,6 +10,8 @@
 
 #include <gtest/gtest.h>
 
+#include <sys/stat.h>
+
 namespace
 {
 
@@ -119,4 +121,13 @@ TEST_F(KxTrackEventTest, ARecorderHearsTheNamesInPlaceOfTheLog)
     const QStringList lines = LinesOf(PathOf(QStringLiteral("usage.log")));
     ASSERT_EQ(lines.size(), 1);
     EXPECT_TRUE(lines.at(0).endsWith(QStringLiteral(" export_btn")));
+}
+
+TEST_F(KxTrackEventTest, ALogThatIsAPipeIsNotWritten)
+{
+    const QString pipe = PathOf(QStringLiteral("pipe"));
+    ASSERT_EQ(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    NameLog(pipe);
+    // Opening it would wait for a reader.
+    Send(QStringLiteral("close_window"));
 }
