@@ -3,6 +3,7 @@
 #include <KxCore/KxInterrupt.h>
 #include <KxCore/KxMemory.h>
 #include <KxCore/KxSpdlog.h>
+#include <KxCore/KxThread.h>
 
 #include <QApplication>
 
@@ -49,9 +50,7 @@ void PrepareQt()
 #endif
 }
 
-} // namespace
-
-int main(int argc, char** argv)
+int Run(int argc, char** argv)
 {
     if (PrintsWithoutDisplay(argc, argv)) {
         return 0;
@@ -71,4 +70,15 @@ int main(int argc, char** argv)
     }
     KxInterrupt::Install();
     return AutoReframeProgram::Run(application, parsed.options);
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    int status = 1;
+    if (const KxError failure = KxCallGuarded([&] { status = Run(argc, argv); })) {
+        std::fprintf(stderr, "auto-reframe: %s.\n", failure->toLocal8Bit().constData());
+    }
+    return status;
 }
