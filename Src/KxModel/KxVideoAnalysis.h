@@ -22,7 +22,7 @@ public:
     struct Result {
         KxOutcome outcome = KxOutcome::Failed;
         QList<IKxAutoReframeResult> crops;                 ///< one a frame; empty unless Done
-        QString message;                                  ///< the error message of a failure
+        QString message;                                   ///< the error message of a failure
         QStringList warnings;                              ///< what a person should know although it is Done
         std::shared_ptr<const KxSubjectFindings> findings; ///< null unless Done and wanted
     };

@@ -44,7 +44,7 @@ QString Text(double x, double y, const char* anchor, const QString& text)
         .arg(Number(x), Number(y), QLatin1String(anchor), text);
 }
 
-/// From the ground over violet and red to a warm white, growing lighter all the way.
+/// From the background through violet and red to a warm white, with increasing lightness.
 QRgb HeatColour(double share)
 {
     struct Stop {
@@ -102,7 +102,7 @@ double AnalysisPlot::X(double frame) const
 
 double AnalysisPlot::Y(double place) const
 {
-    // A picture's top belongs at the top; of the two sides the right one is taken for up.
+    // The top of the picture is at the top; of its two sides, the right one is.
     return topPx + pathHeightPx * (m_findings.freeAxis == KxAxis::Across ? 1.0 - place : place);
 }
 
@@ -154,7 +154,7 @@ QString AnalysisPlot::Heat() const
 QString AnalysisPlot::ShotLines(double height, bool numbered) const
 {
     constexpr double leastGapPx = 30.0;
-    // Where shots are dense, lines from top to bottom would hide what they divide.
+    // Many full lines would hide the plot.
     constexpr std::size_t mostWholeLines = 80;
     constexpr double markPx = 7.0;
     const double length = m_findings.shots.size() > mostWholeLines ? markPx : height;
@@ -283,7 +283,7 @@ QString AnalysisPlot::Signals() const
         areas += QStringLiteral("<polygon fill=\"%1\" points=\"%2%3\"/>\n")
                      .arg(QColor(FoundSignals::Colour(*signal)).name(), upper, lower);
     }
-    return Opening("signals", bottom + axisPx, QStringLiteral("What the signals say")) + areas +
-           ShotLines(signalsHeightPx, false) + Text(leftPx - 8.0, topPx + 10.0, "end", QStringLiteral("much")) +
-           Text(leftPx - 8.0, bottom, "end", QStringLiteral("nothing")) + TimeAxis(bottom) + QStringLiteral("</svg>\n");
+    return Opening("signals", bottom + axisPx, QStringLiteral("Evidence by signal")) + areas +
+           ShotLines(signalsHeightPx, false) + Text(leftPx - 8.0, topPx + 10.0, "end", QStringLiteral("strong")) +
+           Text(leftPx - 8.0, bottom, "end", QStringLiteral("none")) + TimeAxis(bottom) + QStringLiteral("</svg>\n");
 }
