@@ -2,6 +2,8 @@
 
 #include <KxSubject/Choice/KxCentreScore.h>
 
+#include <vector>
+
 /// The best run of places through one shot: the sum of the scores on the way, less what moving costs. The cost is
 /// linear in the distance, so a subject is left for another only when the gain lasts.
 class KXSUBJECT_API KxSubjectTracker
