@@ -109,10 +109,11 @@ bool IsBetter(const AVStream& a, const AVStream& b)
 
 } // namespace
 
-KxResult<std::unique_ptr<KxInputFile>> KxInputFile::Open(const QString& path, const KxCancelToken& cancel)
+KxResult<std::unique_ptr<KxInputFile>> KxInputFile::Open(const QString& path, const KxCancelToken& cancel,
+                                                         const Clock& clock)
 {
-    std::unique_ptr<KxInputFile> input(new KxInputFile(path, cancel));
-    input->m_watch.deadline = std::chrono::steady_clock::now() + OpeningLimit;
+    std::unique_ptr<KxInputFile> input(new KxInputFile(path, cancel, clock));
+    input->m_watch.deadline = clock() + OpeningLimit;
     for (const auto step : {&KxInputFile::OpenFile, &KxInputFile::OpenContainer, &KxInputFile::ReadStreamInfo}) {
         if (const KxError reason = (input.get()->*step)()) {
             return KxResult<std::unique_ptr<KxInputFile>>::Failure(Message(path, *reason));
@@ -123,9 +124,9 @@ KxResult<std::unique_ptr<KxInputFile>> KxInputFile::Open(const QString& path, co
     return input;
 }
 
-KxInputFile::KxInputFile(const QString& path, const KxCancelToken& cancel)
+KxInputFile::KxInputFile(const QString& path, const KxCancelToken& cancel, const Clock& clock)
     : m_path(path)
-    , m_watch{cancel, std::nullopt}
+    , m_watch{cancel, clock, std::nullopt}
 {
 }
 
@@ -156,7 +157,8 @@ int KxInputFile::IsInterrupted(void* watch)
     if (state.opening != nullptr) {
         state.streams = std::max(state.streams, state.opening->nb_streams);
     }
-    return state.cancel.IsCancelled() || (state.deadline && std::chrono::steady_clock::now() > *state.deadline) ? 1 : 0;
+    state.isLate = state.isLate || (state.deadline && state.clock() > *state.deadline);
+    return state.cancel.IsCancelled() || state.isLate ? 1 : 0;
 }
 
 QString KxInputFile::Failure(int error) const
@@ -164,7 +166,7 @@ QString KxInputFile::Failure(int error) const
     if (IsCancelled()) {
         return QStringLiteral("it was cancelled");
     }
-    if (error == AVERROR_EXIT) {
+    if (error == AVERROR_EXIT || m_watch.isLate) {
         return QStringLiteral("reading it takes too long");
     }
     // Demuxers report whatever comes to hand where a file makes no sense.
@@ -212,7 +214,7 @@ KxError KxInputFile::OpenContainer()
     const AVInputFormat* format = nullptr;
     const int score = av_probe_input_buffer2(m_file, &format, url.constData(), nullptr, 0, 0);
     if (score < 0 || format == nullptr) {
-        return IsCancelled() ? Failure(score) : QStringLiteral("it is not a video file");
+        return IsCancelled() || m_watch.isLate ? Failure(score) : QStringLiteral("it is not a video file");
     }
     if (av_match_list(format->name, Containers, ',') <= 0) {
         return ReasonToRefuse(*format);

@@ -12,6 +12,7 @@
 #include <QString>
 
 #include <chrono>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -25,8 +26,11 @@ public:
     /// Larger pictures are refused: their frames alone would fill the memory of a small machine.
     static constexpr qint64 LargestPicturePixels = qint64{8192} * 8192;
 
-    /// The message names the file and the reason.
-    static KxResult<std::unique_ptr<KxInputFile>> Open(const QString& path, const KxCancelToken& cancel);
+    using Clock = std::function<std::chrono::steady_clock::time_point()>;
+
+    /// The message names the file and the reason. `clock` bounds the time that opening takes, not what comes after.
+    static KxResult<std::unique_ptr<KxInputFile>> Open(const QString& path, const KxCancelToken& cancel,
+                                                       const Clock& clock = &std::chrono::steady_clock::now);
     ~KxInputFile();
 
     /// "Cannot open clip.mp4: <reason>."
@@ -56,13 +60,15 @@ public:
 private:
     struct Watch {
         KxCancelToken cancel;
+        Clock clock;
         std::optional<std::chrono::steady_clock::time_point> deadline;
+        bool isLate = false;
         /// While the container is opened, and how many streams it had at most.
         const AVFormatContext* opening = nullptr;
         unsigned streams = 0;
     };
 
-    KxInputFile(const QString& path, const KxCancelToken& cancel);
+    KxInputFile(const QString& path, const KxCancelToken& cancel, const Clock& clock);
     KxError OpenFile();
     KxError OpenContainer();
     KxError ReadStreamInfo();
