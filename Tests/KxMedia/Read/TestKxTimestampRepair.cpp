@@ -69,6 +69,22 @@ TEST(KxTimestampJoin, JoinsAClockThatStartsAgain)
     EXPECT_EQ(join.OffsetFor(90040), 5160 - 90000);
 }
 
+TEST(KxTimestampJoin, AStepBackOfOneSecondIsNoJoinAndALongerOneIs)
+{
+    KxTimestampJoin join(40, 1000);
+    EXPECT_EQ(join.OffsetFor(5000), 0);
+    EXPECT_EQ(join.OffsetFor(4000), 0);
+    EXPECT_EQ(join.OffsetFor(2999), 4040 - 2999);
+}
+
+TEST(KxTimestampJoin, AStepAheadOfTenSecondsIsNoJoinAndALongerOneIs)
+{
+    KxTimestampJoin join(40, 1000);
+    EXPECT_EQ(join.OffsetFor(0), 0);
+    EXPECT_EQ(join.OffsetFor(10000), 0);
+    EXPECT_EQ(join.OffsetFor(20001), 10040 - 20001);
+}
+
 TEST(KxTimestampJoin, GoesOnWithTheOffsetOfTheSeeksTarget)
 {
     KxTimestampJoin join(40, 1000);

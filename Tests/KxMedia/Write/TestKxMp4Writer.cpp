@@ -99,6 +99,15 @@ TEST_F(KxMp4WriterTest, BitRateIsMetOnAverage)
     EXPECT_NEAR(Field(Probe(*path), 0, "bit_rate").toDouble(), 600000, 90000);
 }
 
+// The encoder writes its settings into the stream.
+TEST_F(KxMp4WriterTest, PeaksAreLimitedToTwiceTheBitRate)
+{
+    KxMp4Writer::Settings settings = SettingsFor(Path(QStringLiteral("peaks.mp4")));
+    settings.videoBitRate = 600000;
+    const QByteArray content = Content(WriteFlat(settings, 10));
+    EXPECT_TRUE(content.contains(" vbv_maxrate=1200 vbv_bufsize=1200 "));
+}
+
 TEST_F(KxMp4WriterTest, SoundStaysInStep)
 {
     KxMp4Writer::Settings settings = SettingsFor(Path(QStringLiteral("out.mp4")));
