@@ -143,11 +143,12 @@ TEST_F(PlayerViewTest, AnEditShowsInTheReframedVideoAtOnce)
     view->SwitchTimeline(true, false);
     ShowFrame(50);
     const QStringList reopened{QStringLiteral("open true true")};
-    for (const auto edit : {&KrAutoReframePlayerControlBar::sigUndo, &KrAutoReframePlayerControlBar::sigRedo,
-                            &KrAutoReframePlayerControlBar::sigDelete}) {
+    const std::vector<std::function<void()>> edits{[this] { Q_EMIT bar->sigUndo(); }, [this] { Q_EMIT bar->sigRedo(); },
+                                                   [this] { Q_EMIT bar->sigDelete(); }};
+    for (const std::function<void()>& edit : edits) {
         Calls().clear();
         Script().opened.clear();
-        Q_EMIT(bar->*edit)();
+        edit();
         EXPECT_EQ(Calls(), reopened);
         EXPECT_EQ(Script().opened, QList<IKxTimeline*>{helper->GetWorkTimeline()});
         EXPECT_EQ(presenter->currentFrame(), 50);
