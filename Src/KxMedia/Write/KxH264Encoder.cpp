@@ -32,22 +32,50 @@ namespace
 
 constexpr double SecondsPerGroup = 2.0;
 
+// Threads that take a picture each look at how far their neighbours have come when they hold the peaks down, so each
+// run would give other bytes. Threads that take a slice each give the same ones, and a fixed number of slices does so
+// on machines with any number of cores.
+constexpr int Slices = 4;
+constexpr int PeakSeconds = 3;
+
+// What the encoder looks ahead holds whole pictures, about three bytes a pixel with what is computed from them.
+constexpr qint64 LookaheadBytes = qint64{320} * 1024 * 1024;
+constexpr qint64 LookaheadBytesPerPixel = 3;
+constexpr int LongestLookahead = 40;
+// Beyond every H.264 level: one reference instead of several spares a quarter of a gigabyte each.
+constexpr qint64 HugePicturePixels = qint64{4096} * 4096;
+
+int Lookahead(const QSize& size)
+{
+    const qint64 pixels = qint64{size.width()} * size.height();
+    return static_cast<int>(
+        std::clamp<qint64>(LookaheadBytes / (LookaheadBytesPerPixel * pixels), 1, LongestLookahead));
+}
+
 void SetUp(AVCodecContext& context, const KxH264Encoder::Settings& settings, const AVFrame& first)
 {
     const AVRational rate{settings.frameRate.numerator, settings.frameRate.denominator};
     context.width = settings.size.width();
     context.height = settings.size.height();
     context.pix_fmt = AV_PIX_FMT_YUV420P;
+    context.thread_type = FF_THREAD_SLICE;
+    context.thread_count = Slices;
+    if (qint64{context.width} * context.height > HugePicturePixels) {
+        context.refs = 1;
+        context.max_b_frames = 0;
+    }
     context.sample_aspect_ratio = AVRational{1, 1};
     context.framerate = rate;
     context.time_base = av_inv_q(rate);
     context.gop_size = std::max(1, static_cast<int>(std::lround(SecondsPerGroup * av_q2d(rate))));
     context.flags |= AV_CODEC_FLAG_GLOBAL_HEADER | AV_CODEC_FLAG_CLOSED_GOP;
-    // Peaks of twice the average for as long as a second: room for a busy scene, yet nothing a phone stumbles over.
+    // Peaks of twice the average for a few seconds: room for a busy scene, yet nothing a phone stumbles over. In a
+    // shorter buffer the encoder would correct single rows by what its other slices have come to, which differs from
+    // run to run.
     const qint64 limit = std::numeric_limits<int>::max();
-    context.bit_rate = std::clamp<qint64>(settings.bitRate, 1000, limit / 2);
+    context.bit_rate = std::clamp<qint64>(settings.bitRate, 1000, limit / (2 * PeakSeconds));
     context.rc_max_rate = 2 * context.bit_rate;
-    context.rc_buffer_size = static_cast<int>(2 * context.bit_rate);
+    context.rc_buffer_size = static_cast<int>(PeakSeconds * context.rc_max_rate);
     context.color_primaries = first.color_primaries;
     context.color_trc = first.color_trc;
     context.colorspace = first.colorspace;
@@ -80,6 +108,11 @@ KxResult<std::unique_ptr<KxH264Encoder>> KxH264Encoder::Open(const Settings& set
     KxMuteAvCodec(*context);
     SetUp(*context, settings, first);
     int error = av_opt_set(context->priv_data, "preset", settings.preset.toLatin1().constData(), 0);
+    // Fast presets look ahead less than this anyway.
+    const int lookahead = Lookahead(settings.size);
+    if (error >= 0 && lookahead < LongestLookahead) {
+        error = av_opt_set_int(context->priv_data, "rc-lookahead", lookahead, 0);
+    }
     if (error >= 0) {
         error = avcodec_open2(context.get(), codec, nullptr);
     }

@@ -13,6 +13,10 @@
 /// target and gets its own name in Finish(); a writer that is destroyed before that leaves nothing behind. One thread
 /// at a time. Every error message names the target and the reason; a writer that has failed once is only good
 /// for being destroyed.
+///
+/// Equal settings, pictures and sound give equal bytes in each run and on each machine with the same libraries: no time
+/// of creation is written, and the encoders do not depend on the number of cores. Only where a scene needs so many bits
+/// that it fills the buffer of the peak limit may libx264 code rows of it a little differently from run to run.
 class KXMEDIA_API KxMp4Writer
 {
 public:

@@ -230,3 +230,32 @@ TEST_F(KxMp4WriterTest, FullDiskIsCalledFull)
 }
 
 #endif
+
+TEST_F(KxMp4WriterTest, SamePicturesGiveTheSameBytes)
+{
+    const auto written = [this](const QString& name) {
+        KxMp4Writer::Settings settings = SettingsFor(Path(name));
+        settings.size = QSize(320, 576);
+        settings.hasAudio = true;
+        const std::unique_ptr<KxMp4Writer> writer = Open(settings);
+        for (qint64 index = 0; writer != nullptr && index < 75; ++index) {
+            const int scene = static_cast<int>(index / 25) * 40;
+            const auto texture = [&](int plane, int x, int y) {
+                return MadePicture::Texture(plane, x + 2 * static_cast<int>(index), y + scene);
+            };
+            EXPECT_EQ(
+                writer->AddPicture(
+                    MadePicture::Wrap(MadePicture::Make(AV_PIX_FMT_YUV420P, settings.size, texture), index), index),
+                std::nullopt);
+        }
+        EXPECT_EQ(writer->AddAudio(Clicks(3.0, {0.5, 1.5})), std::nullopt);
+        EXPECT_TRUE(writer->Finish());
+        return Content(Path(name));
+    };
+    const QByteArray first = written(QStringLiteral("first.mp4"));
+    EXPECT_FALSE(first.isEmpty());
+    for (int run = 0; run < 3; ++run) {
+        // Not compared by EXPECT_EQ, which would print the files.
+        EXPECT_TRUE(written(QStringLiteral("again%1.mp4").arg(run)) == first);
+    }
+}
