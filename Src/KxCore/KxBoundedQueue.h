@@ -6,8 +6,7 @@
 #include <mutex>
 #include <optional>
 
-/// A short queue between two threads: the one that puts in waits while it is full, the one that takes out waits while
-/// it is empty.
+/// A short queue between two threads: the producer waits while it is full, the consumer while it is empty.
 template<typename T>
 class KxBoundedQueue
 {
@@ -18,7 +17,7 @@ public:
     {
     }
 
-    /// False, without taking `item`, once the queue is closed.
+    /// False, without adding `item`, if the queue is closed.
     bool Push(T item)
     {
         std::unique_lock<std::mutex> lock(m_mutex);
@@ -31,7 +30,7 @@ public:
         return true;
     }
 
-    /// Nothing once the queue is closed and empty.
+    /// Nothing if the queue is closed and empty.
     std::optional<T> Pop()
     {
         std::unique_lock<std::mutex> lock(m_mutex);
@@ -45,7 +44,7 @@ public:
         return item;
     }
 
-    /// Nothing more comes in; what is inside can still be taken out. Wakes both sides.
+    /// Refuses further items; the present ones can still be taken. Wakes both sides.
     void Close()
     {
         const std::lock_guard<std::mutex> lock(m_mutex);

@@ -11,7 +11,7 @@
 namespace
 {
 
-const QString importFolderKey = QStringLiteral("Import/Folder");
+const QString ImportFolderKey = QStringLiteral("Import/Folder");
 
 KxConfig::MachineFacts& CurrentFacts()
 {
@@ -45,7 +45,7 @@ bool KxConfig::algorithmEnabled(int algorithm) const
     if (CurrentFacts().algorithmEnabled) {
         return CurrentFacts().algorithmEnabled(algorithm);
     }
-    // The analysis needs nothing that a machine of these days could lack; the host knows no other algorithm.
+    // The analysis runs on every machine that the program supports; the host knows no other algorithm.
     constexpr int autoReframe = 4;
     return algorithm == autoReframe;
 }
@@ -53,14 +53,14 @@ bool KxConfig::algorithmEnabled(int algorithm) const
 QString KxConfig::getDefaultImportDir(const QString& fallback) const
 {
     const QSettings settings(GetKorviConfigFile(), QSettings::IniFormat);
-    const QString folder = settings.value(importFolderKey).toString();
+    const QString folder = settings.value(ImportFolderKey).toString();
     return !folder.isEmpty() && QFileInfo(folder).isDir() ? folder : fallback;
 }
 
 void KxConfig::setDefaultImportDir(const QString& folder)
 {
     QSettings settings(GetKorviConfigFile(), QSettings::IniFormat);
-    settings.setValue(importFolderKey, folder);
+    settings.setValue(ImportFolderKey, folder);
 }
 
 QString KxConfig::GetKorviConfigFile()

@@ -8,14 +8,14 @@ namespace
 extern "C" void HandleInterrupt(int number)
 {
     KxInterrupt::Request();
-    // The second one finds the system's own handling and ends a program that hangs.
+    // The second signal gets the default handling, which ends a program that hangs.
     std::signal(number, SIG_DFL);
 }
 
 #if defined(SIGHUP)
 extern "C" void HandleHangUp(int)
 {
-    // Without a limit: a closed terminal sends it more than once.
+    // The handler stays: a closed terminal may send the signal more than once.
     KxInterrupt::Request();
 }
 #endif
@@ -24,7 +24,7 @@ extern "C" void HandleHangUp(int)
 
 void KxInterrupt::Install()
 {
-    // Made before a signal can ask for it.
+    // Created before a signal handler can use it.
     Token();
     std::signal(SIGINT, &HandleInterrupt);
     std::signal(SIGTERM, &HandleInterrupt);

@@ -4,20 +4,20 @@
 
 #include <KxCore/KxCancelToken.h>
 
-/// The wish to stop the program: from the terminal (Ctrl-C, a closed window), by a signal that asks a process to end,
-/// or by the program itself.
+/// The request to stop the program: from the terminal (Ctrl-C, a closed window), by a termination signal, or by the
+/// program itself.
 namespace KxInterrupt
 {
-/// From now on such a signal sets the mark instead of ending the process, so that no temporary file stays behind. A
+/// From now on such a signal sets a flag instead of ending the process, so that no temporary file stays behind. A
 /// second Ctrl-C or termination signal ends the process at once. A closed pipe and a file that exceeds the permitted
-/// size become errors of the write that meets them. A process that was started to survive the end of its terminal
-/// still does. Call once, from `main`.
+/// size become errors of the write call. A process that was started to ignore the end of its terminal (nohup) still
+/// ignores it. Call once, from `main`.
 KXCORE_API void Install();
 
-/// Sets the mark. Any thread.
+/// Sets the flag. Any thread.
 KXCORE_API void Request();
 /// Any thread.
 KXCORE_API bool IsRequested();
-/// The mark as the token of a job. Any thread.
+/// The flag as the cancel token of a job. Any thread.
 KXCORE_API const KxCancelToken& Token();
 } // namespace KxInterrupt

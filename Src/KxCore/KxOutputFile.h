@@ -9,9 +9,9 @@
 
 #include <memory>
 
-/// A file that is written under a temporary name beside its target and gets its own name only when it is whole and on
-/// the disk: after a power cut there is the old file or the new one. Destroyed before that, it leaves nothing behind;
-/// what a killed process leaves, the next writer in that folder removes.
+/// A file that is written under a temporary name beside its target and renamed when it is complete and on the disk:
+/// after a power cut there is the old file or the new one. Without Commit() the destructor removes it; the part of a
+/// killed process is removed by the next writer in that folder.
 class KXCORE_API KxOutputFile
 {
 public:

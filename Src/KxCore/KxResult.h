@@ -5,7 +5,7 @@
 #include <optional>
 #include <utility>
 
-/// A value, or the error message that says why there is none.
+/// A value, or an error message that says why there is none.
 template<typename T>
 class KxResult
 {
@@ -39,5 +39,5 @@ private:
 /// For work that yields nothing: nothing on success, otherwise an error message.
 using KxError = std::optional<QString>;
 
-/// How a job ended. Being cancelled is no failure.
+/// How a job ended. A cancelled job has not failed.
 enum class KxOutcome { Done, Cancelled, Failed };

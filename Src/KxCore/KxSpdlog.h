@@ -2,13 +2,13 @@
 
 #include <KxCore/KxLog.h>
 
-/// Where the process-wide log writes to.
+/// Settings of the process-wide log.
 namespace KxLogSettings
 {
 /// Lines below this level are dropped. The default is Warning; the environment variable KX_LOG_LEVEL (debug, info,
 /// warning, error) overrides it at start. Any thread.
 KXCORE_API void SetLevel(IKxLog::Level level);
 
-/// Sends what Qt's debug stream prints (qDebug, qWarning …) into the log instead of to the terminal.
+/// Sends the messages of qDebug(), qWarning() and so on to the log instead of the terminal.
 KXCORE_API void RouteQtMessages();
 } // namespace KxLogSettings

@@ -8,12 +8,13 @@
 
 class QFileDevice;
 
-/// What an error of the operating system means to a person, as a clause to append to a message: "the disk is full".
-/// Empty where there are no such words for it.
+/// The reason of an operating system error as a clause to append to a message: "the disk is full". Empty for an unknown
+/// error.
 KXCORE_API QString KxSystemErrorText(const std::error_code& error);
 
-/// Whether the error says that there is no room: a full disk or a used-up quota.
+/// Whether the error is a full disk or an exhausted quota.
 KXCORE_API bool KxIsDiskFull(const std::error_code& error);
 
-/// Why what was just done with `file` failed, in the same form; never empty. Right after the failure, on its thread.
+/// The reason why the last operation on `file` failed, in the same form; never empty. Call it right after the failure,
+/// on the same thread.
 KXCORE_API QString KxFileErrorText(const QFileDevice& file);

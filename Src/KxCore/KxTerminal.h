@@ -4,6 +4,6 @@
 
 namespace KxTerminal
 {
-/// Whether a person reads standard error on a terminal, so that a line may be written over and over.
+/// Whether standard error is a terminal, so that a progress line may overwrite itself.
 KXCORE_API bool IsErrorStreamInteractive();
 } // namespace KxTerminal

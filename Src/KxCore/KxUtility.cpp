@@ -6,7 +6,7 @@ QRect KxUtility::getFitCentralWindowRectByRatio(const QRect& rect, const QSize& 
         return QRect(rect.topLeft(), QSize(0, 0));
     }
     QSize fitted(rect.size());
-    // Whole products in 64 bits: a pixel size of a large picture times that of a large screen passes 32 bits.
+    // In 64 bits: the product of a large picture's size and a large screen's size exceeds 32 bits.
     const qint64 widthAtFullHeight = static_cast<qint64>(rect.height()) * ratio.width() / ratio.height();
     if (widthAtFullHeight <= rect.width()) {
         fitted.setWidth(static_cast<int>(widthAtFullHeight));

@@ -70,12 +70,12 @@ TEST_F(KxConfigTest, TheImportFolderIsSaved)
     EXPECT_EQ(config.getDefaultImportDir(fallback), fallback);
 }
 
-TEST_F(KxConfigTest, FreeSpaceIsThatOfTheFolderSFileSystem)
+TEST_F(KxConfigTest, FreeSpaceIsThatOfTheFileSystemOfTheFolder)
 {
     const qint64 here = KxConfig::GetDiskFreeSpaceSize(nullptr, folder.path());
     const qint64 measured = QStorageInfo(folder.path()).bytesAvailable() / 1048576;
     EXPECT_GT(here, 0);
-    EXPECT_NEAR(double(here), double(measured), 200.0) << "others write to the disk meanwhile";
+    EXPECT_NEAR(double(here), double(measured), 200.0) << "other programs write to the disk, too";
     EXPECT_GT(KxConfig::GetDiskFreeSpaceSize(nullptr, folder.filePath(QStringLiteral("not/yet/there"))), 0);
 }
 

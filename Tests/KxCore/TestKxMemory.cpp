@@ -15,12 +15,12 @@ constexpr size_t PictureBytes = size_t{4} << 20;
 std::unique_ptr<char[]> Make(size_t bytes)
 {
     std::unique_ptr<char[]> block(new char[bytes]);
-    // Else the compiler leaves both out, the making and the freeing.
+    // Otherwise the compiler removes the allocation.
     *static_cast<char volatile*>(block.get()) = 1;
     return block;
 }
 
-TEST(KxMemory, AFreedPictureGoesBackToTheSystem)
+TEST(KxMemory, AFreedPictureIsReturnedToTheSystem)
 {
     KxMemory::KeepNoPictures();
     // After a large block was freed, the allocator would otherwise keep smaller ones in reserve.

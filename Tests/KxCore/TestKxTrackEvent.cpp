@@ -92,7 +92,7 @@ TEST_F(KxTrackEventTest, AppendsTimeAndNameOfEachEvent)
     EXPECT_TRUE(lines.at(1).endsWith(QStringLiteral(" export_btn")));
 }
 
-TEST_F(KxTrackEventTest, ARelativeLogStandsBesideTheConfigurationFile)
+TEST_F(KxTrackEventTest, ARelativeLogIsBesideTheConfigurationFile)
 {
     NameLog(QStringLiteral("usage.log"));
     Send(QStringLiteral("close_window"));
@@ -108,7 +108,7 @@ TEST_F(KxTrackEventTest, ALogThatCannotBeWrittenIsNoFailure)
     EXPECT_FALSE(QFile::exists(PathOf(QStringLiteral("no"))));
 }
 
-TEST_F(KxTrackEventTest, ARecorderHearsTheNamesInPlaceOfTheLog)
+TEST_F(KxTrackEventTest, ARecorderReceivesTheNamesInsteadOfTheLog)
 {
     NameLog(QStringLiteral("usage.log"));
     QStringList heard;

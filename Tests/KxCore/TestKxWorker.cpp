@@ -133,6 +133,7 @@ TEST(KxWorker, DestroyingItCancelsTheRunningJobAndWaits)
         KxWorker worker(KxWorker::Order::OldestFirst);
         worker.Add({[&](const KxCancelToken& cancel) {
                         entered.set_value();
+                        // As a job does between two frames.
                         while (!cancel.IsCancelled()) {
                             std::this_thread::yield();
                         }

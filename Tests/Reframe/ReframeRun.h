@@ -4,7 +4,7 @@
 #include <QString>
 #include <QStringList>
 
-/// One run of the program `reframe`, to its end.
+/// One complete run of the program `reframe`.
 struct ReframeRun {
     explicit ReframeRun(const QStringList& arguments)
     {

@@ -20,12 +20,12 @@
 namespace
 {
 
-constexpr int frames = 40;
+constexpr int Frames = 40;
 // See InterruptedReframe.cpp. The file is opened for its facts and then for the analysis; its part is created to try
 // the folder, created to render, and opened by the writer.
-const QString analysisStarts = QStringLiteral("open clip.mp4 2");
-const QString renderStarts = QStringLiteral("create .part 3");
-const QString video = QStringLiteral("clip-AutoReframe-9 16.mp4");
+const QString AnalysisStarts = QStringLiteral("open clip.mp4 2");
+const QString RenderStarts = QStringLiteral("create .part 3");
+const QString Video = QStringLiteral("clip-AutoReframe-9 16.mp4");
 
 struct Ended {
     int exitStatus = -1; ///< -1: it was ended by a signal or did not end
@@ -41,7 +41,7 @@ protected:
     QString MakeClip(const QString& name) const
     {
         MadeVideo::Recipe recipe;
-        recipe.frames = frames;
+        recipe.frames = Frames;
         recipe.output = QStringList{QStringLiteral("-c:v"), QStringLiteral("libx264"), QStringLiteral("-pix_fmt"),
                                     QStringLiteral("yuv420p")};
         EXPECT_TRUE(MadeVideo::Make(Path(name), recipe));
@@ -52,7 +52,7 @@ protected:
     {
         CropTrack track;
         track.aspect = QSize(9, 16);
-        for (int frame = 0; frame < frames; ++frame) {
+        for (int frame = 0; frame < Frames; ++frame) {
             track.crops.append(IKxAutoReframeResult(frame, QRectF(0.3, 0.0, 0.3375, 1.0)));
         }
         QFile file(Path(QStringLiteral("track.json")));
@@ -114,8 +114,8 @@ TEST_F(ReframeInterruptTest, ASignalThatAsksToEndLeavesNothingBehind)
 {
     const QString clip = MakeClip(QStringLiteral("clip.mp4"));
     const QStringList before = Files();
-    for (const auto& [place, number] : {std::pair(analysisStarts, SIGINT), std::pair(renderStarts, SIGINT),
-                                        std::pair(renderStarts, SIGTERM), std::pair(renderStarts, SIGHUP)}) {
+    for (const auto& [place, number] : {std::pair(AnalysisStarts, SIGINT), std::pair(RenderStarts, SIGINT),
+                                        std::pair(RenderStarts, SIGTERM), std::pair(RenderStarts, SIGHUP)}) {
         QProcess process;
         StartStopped(process, place, {clip});
         Send(process, number);
@@ -129,21 +129,21 @@ TEST_F(ReframeInterruptTest, AProcessThatIsToSurviveItsTerminalDoes)
 {
     QProcess process;
     std::signal(SIGHUP, SIG_IGN);
-    StartStopped(process, renderStarts, {MakeClip(QStringLiteral("clip.mp4"))});
+    StartStopped(process, RenderStarts, {MakeClip(QStringLiteral("clip.mp4"))});
     std::signal(SIGHUP, SIG_DFL);
     Send(process, SIGHUP);
     Send(process, SIGCONT);
     EXPECT_EQ(End(process).exitStatus, 0);
-    EXPECT_TRUE(QFile::exists(Path(video)));
+    EXPECT_TRUE(QFile::exists(Path(Video)));
 }
 
 TEST_F(ReframeInterruptTest, TheNextRunRemovesThePartOfAKilledOne)
 {
     const QString clip = MakeClip(QStringLiteral("clip.mp4"));
     QProcess killed;
-    StartStopped(killed, renderStarts, {clip});
+    StartStopped(killed, RenderStarts, {clip});
     QProcess living;
-    StartStopped(living, renderStarts, {QStringLiteral("--output"), Path(QStringLiteral("second.mp4")), clip});
+    StartStopped(living, RenderStarts, {QStringLiteral("--output"), Path(QStringLiteral("second.mp4")), clip});
     EXPECT_EQ(Files().size(), 3) << "the clip and two parts";
     killed.kill();
     End(killed);
@@ -188,7 +188,7 @@ TEST_F(ReframeInterruptTest, AReaderThatGoesAwayEndsTheProgramWithoutATrace)
     ASSERT_GE(reader, 0);
     QProcess process;
     process.setStandardOutputFile(pipe);
-    StartStopped(process, renderStarts, {QStringLiteral("--json"), clip});
+    StartStopped(process, RenderStarts, {QStringLiteral("--json"), clip});
     ::close(reader);
     Send(process, SIGCONT);
     const Ended ended = End(process);

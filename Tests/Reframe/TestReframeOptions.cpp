@@ -51,7 +51,7 @@ TEST(ReframeOptions, AcceptsEveryPresetAndOtherWholeNumbers)
     }
 }
 
-TEST(ReframeOptions, RefusesWhatIsNoAspectRatioAndNamesIt)
+TEST(ReframeOptions, RefusesAnInvalidAspectRatioAndQuotesIt)
 {
     for (const char* aspect :
          {"", "9", "9:0", "0:16", "-9:16", "9:16:1", "nine:sixteen", "9.5:16", "9x16", "1:100", "99999:99999"}) {
@@ -79,7 +79,7 @@ TEST(ReframeOptions, WrongUseIsOneErrorMessageAndStatusTwo)
     EXPECT_EQ(Parse({}).exitStatus, ReframeExit::WrongUse);
 }
 
-TEST(ReframeOptions, AFileThatIsNamedLikeAnOptionIsExplained)
+TEST(ReframeOptions, AFileNamedLikeAnOptionIsExplained)
 {
     const QTemporaryDir folder;
     const QString before = QDir::currentPath();
@@ -103,7 +103,7 @@ TEST(ReframeOptions, SeveralInputsTakeFolders)
     EXPECT_EQ(parsed.options->inputs.size(), 2);
 }
 
-TEST(ReframeOptions, HelpAndVersionEndWellWithoutInput)
+TEST(ReframeOptions, HelpAndVersionNeedNoInput)
 {
     const auto help = Parse({QStringLiteral("--help")});
     EXPECT_FALSE(help.options);

@@ -76,7 +76,7 @@ bool IsAccent(QRgb colour)
     return qGreen(colour) > qRed(colour) + 40;
 }
 
-/// The columns of a row that have the outline's colour, from the first to the last.
+/// The first and the last column of a row that have the outline's colour.
 QList<int> AccentColumns(const QImage& image, int row)
 {
     QList<int> columns;
@@ -88,7 +88,7 @@ QList<int> AccentColumns(const QImage& image, int row)
     return columns;
 }
 
-/// How many pixels of the corner where the panel stands are as light as writing.
+/// The number of pixels in the panel's corner that are as light as text.
 int LightPixels(const QImage& image)
 {
     int count = 0;
@@ -125,7 +125,7 @@ TEST_F(ReframePreviewTest, ShowsEveryFrameWithTheCropWhereTheTrackHasIt)
     }
 }
 
-TEST_F(ReframePreviewTest, TellsTheFrameAndAfterAnAnalysisMore)
+TEST_F(ReframePreviewTest, ShowsTheFrameAndAfterAnAnalysisTheSignals)
 {
     const QString clip = MakeClip("clip.mp4", QSize(640, 360));
     const ReframeRun applied({QStringLiteral("--no-video"), QStringLiteral("--apply"), MakeTrack(),

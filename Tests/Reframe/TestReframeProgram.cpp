@@ -39,7 +39,7 @@ protected:
         return file.fileName();
     }
 
-    /// Everything in the folder, hidden files too.
+    /// Everything in the folder, including hidden files.
     QStringList Files() const
     {
         return QDir(m_folder.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
@@ -119,7 +119,7 @@ TEST_F(ReframeProgramTest, JsonLinesReportProgressAndResult)
     EXPECT_EQ(done.value(QStringLiteral("frames")).toInt(), 40);
 }
 
-TEST_F(ReframeProgramTest, RefusesFilesThatAreNoVideo)
+TEST_F(ReframeProgramTest, RefusesFilesOtherThanVideos)
 {
     ExpectRefused(Path("missing.mp4"), "");
     QDir(m_folder.path()).mkdir(QStringLiteral("folder.mp4"));
@@ -130,7 +130,7 @@ TEST_F(ReframeProgramTest, RefusesFilesThatAreNoVideo)
                   "");
 }
 
-TEST_F(ReframeProgramTest, RefusesSoundOnlySinglePicturesAndWhatIsTooShortOrTooSmall)
+TEST_F(ReframeProgramTest, RefusesSoundOnlySinglePicturesAndTooShortOrTooSmallVideos)
 {
     ASSERT_TRUE(MadeVideo::RunFfmpeg({QStringLiteral("-f"), QStringLiteral("lavfi"), QStringLiteral("-i"),
                                       QStringLiteral("sine=duration=1"), Path("sound.m4a")}));

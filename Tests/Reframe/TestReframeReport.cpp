@@ -28,7 +28,7 @@ double SquareCentre(int frame)
     return frame < cut ? 0.1 + 0.8 * frame / cut : 0.25;
 }
 
-/// A square that crosses a textured ground; from `cut` on another ground, on which it hops up and down at the left.
+/// A square that moves across a textured background; from `cut` on, it jumps up and down at the left of another one.
 QImage DrawScene(int frame)
 {
     QImage image(sourceSize, QImage::Format_RGB32);
@@ -96,7 +96,7 @@ QImage HeatOf(const QString& page)
     return QImage::fromData(QByteArray::fromBase64(match.captured(1).toLatin1()));
 }
 
-/// Where a column of the heat picture is lightest, as a fraction of the source's width.
+/// The position of the lightest row in a column of the heat map, as a fraction of the source's width.
 double LightestPlace(const QImage& heat, int column)
 {
     int lightest = 0;
@@ -106,7 +106,7 @@ double LightestPlace(const QImage& heat, int column)
     return 1.0 - (lightest + 0.5) / heat.height();
 }
 
-/// What a browser made of a page.
+/// The result of opening a page in a browser.
 struct Shown {
     bool isEnded = false;
     QString messages; ///< lines of the page's console
@@ -144,7 +144,7 @@ Shown Show(const QString& page, const QString& screenshot, const QSize& window)
     return shown;
 }
 
-/// How many pixels have nearly `colour`.
+/// The number of pixels that have nearly `colour`.
 int CountOf(const QImage& picture, const QColor& colour)
 {
     int count = 0;
@@ -217,7 +217,7 @@ TEST_F(ReframeReportTest, NumbersAreThoseOfTheTrack)
     EXPECT_NE(rows.at(0).at(6), QStringLiteral("0.0 %"));
 }
 
-TEST_F(ReframeReportTest, TheHeatPictureIsLightestWhereTheSubjectIs)
+TEST_F(ReframeReportTest, TheHeatMapIsLightestAtTheSubject)
 {
     const QString clip = MakeClip(QStringLiteral("clip.mp4"));
     const ReframeRun run(

@@ -21,7 +21,7 @@ namespace
 constexpr int frames = 50;
 const QSize sourceSize(320, 180);
 
-/// Soft shapes that differ from place to place and from frame to frame, so that a wrong cut or a wrong frame shows.
+/// Soft shapes that vary over the picture and over time, so that a wrong crop or a wrong frame is detected.
 QImage DrawScene(int number)
 {
     QImage image(sourceSize, QImage::Format_RGB32);
@@ -132,7 +132,7 @@ protected:
 
 } // namespace
 
-TEST_F(ReframeRoundTrip, EveryPictureIsTheCropOfTheSourceAndSoundStaysInStep)
+TEST_F(ReframeRoundTrip, EveryFrameIsTheCropOfTheSourceAndSoundStaysInSync)
 {
     const ReframeRun run({QStringLiteral("--apply"), Path("track.json"), Path("scene.mp4")});
     ASSERT_EQ(run.exitStatus, 0) << run.standardError.toStdString();
@@ -146,7 +146,7 @@ TEST_F(ReframeRoundTrip, EveryPictureIsTheCropOfTheSourceAndSoundStaysInStep)
     EXPECT_EQ((*result)->Facts().video->frameCount, frames);
     EXPECT_EQ((*result)->Facts().video->frameRate, (KxRational{25, 1}));
     const QSize size = (*result)->Facts().video->resolution;
-    EXPECT_EQ(size, QSize(102, 180)); // 101.25 pixels become the even neighbour
+    EXPECT_EQ(size, QSize(102, 180)); // 101.25 pixels, rounded to an even number
 
     KxPictureScaler sourceScaler;
     KxPictureScaler resultScaler;
@@ -160,7 +160,7 @@ TEST_F(ReframeRoundTrip, EveryPictureIsTheCropOfTheSourceAndSoundStaysInStep)
         const QImage expected = Reference(whole, track.crops.at(frame).cropRect(), size);
         const double psnr = Psnr(expected, resultScaler.Scale(b, size, QImage::Format_RGB32));
         EXPECT_GT(psnr, 30.0) << "frame " << frame;
-        // The same cut at a place 3 % of the width away is clearly another picture: the comparison can fail.
+        // A crop 3 % of the width away differs clearly: the comparison can fail.
         const QRectF elsewhere = track.crops.at(frame).cropRect().translated(frame < frames / 2 ? 0.03 : -0.03, 0.0);
         EXPECT_LT(Psnr(Reference(whole, elsewhere, size), resultScaler.Scale(b, size, QImage::Format_RGB32)),
                   psnr - 3.0);
@@ -201,7 +201,7 @@ TEST_F(ReframeRoundTrip, AnalysisGivesOneRectangleOfTheAspectForEveryFrame)
     }
 }
 
-TEST_F(ReframeRoundTrip, AContactSheetShowsTheCrop)
+TEST_F(ReframeRoundTrip, TheContactSheetShowsTheCrop)
 {
     const ReframeRun run({QStringLiteral("--apply"), Path("track.json"), QStringLiteral("--no-video"),
                           QStringLiteral("--preview"), Path("sheet.png"), Path("scene.mp4")});
@@ -209,11 +209,11 @@ TEST_F(ReframeRoundTrip, AContactSheetShowsTheCrop)
     const QImage sheet(Path("sheet.png"));
     ASSERT_FALSE(sheet.isNull());
     EXPECT_EQ(sheet.width(), 4 * (400 + 12) + 12);
-    // The first of twelve frames is number 2 of 50: the crop's outline stands there, in the accent colour.
+    // The first of twelve frames is number 2 of 50; its crop is outlined in the accent colour.
     const QRectF crop = PanningTrack().crops.at(2).cropRect();
     const QPoint outline(12 + qRound(crop.x() * 400) + 1, 12 + 112);
     EXPECT_EQ(QColor(sheet.pixel(outline)), QColor(0x55, 0xE5, 0xC5));
-    // In every cell the kept part is brighter than what is left out right beside it.
+    // In every cell the crop is brighter than the dimmed part right beside it.
     for (const int cell : {0, 5, 11}) {
         const QRectF kept = PanningTrack().crops.at((2 * cell + 1) * frames / 24).cropRect();
         const QPoint corner(12 + (cell % 4) * 412, 12 + (cell / 4) * (sheet.height() - 12) / 3);

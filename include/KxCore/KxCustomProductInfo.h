@@ -4,7 +4,7 @@
 
 #include <QString>
 
-/// Facts of the product that the module runs in.
+/// Properties of the product that the module runs in.
 class KXCORE_API KxCustomProductInfo
 {
 public:

@@ -4,10 +4,10 @@
 
 #include <QString>
 
-/// The host's log: one instance for the process, written to by any thread at any time.
+/// The host's log: one instance for the process. Any thread may write to it at any time.
 ///
-/// A record carries the place in the source that wrote it; use the KX_LOG macros, which fill it in. Where the lines go
-/// (a file, the terminal, nowhere) is the host's choice.
+/// A record contains its place in the source; use the KX_LOG macros, which fill it in. The host decides where the lines
+/// are written (a file, the terminal, nowhere).
 class KXCORE_API IKxLog
 {
 public:

@@ -2,7 +2,7 @@
 
 #include <QMetaType>
 
-/// A ratio of two whole numbers, such as a frame rate in frames a second (30000/1001). A denominator that is not
+/// A ratio of two whole numbers, such as a frame rate in frames per second (30000/1001). A denominator that is not
 /// positive means that the value is unknown.
 struct KxRational {
     int numerator = 0;

@@ -5,16 +5,15 @@
 
 #include <optional>
 
-/// Facts of the screen that the program is worked on: that of the window with the focus, else the primary one. Get it
-/// from KxSingleton<KxScreen>. User-interface thread.
+/// Properties of the current screen: that of the window with the focus, otherwise the primary one. Get it from
+/// KxSingleton<KxScreen>. User-interface thread.
 class KXCORE_API KxScreen
 {
 public:
-    /// Device pixels in a pixel of a widget; 1 without a screen.
+    /// Device pixels per pixel of a widget; 1 without a screen.
     double devicePixelRatio() const;
 
-    /// From now on `ratio` is told in place of the screen's; without a value the screen's again. For a host that scales
-    /// its windows by itself.
+    /// Replaces the screen's ratio by `ratio`; no value restores it. For a host that scales its windows itself.
     void setDevicePixelRatio(std::optional<double> ratio);
 
     /// Whether a translucent window of the program can lie over another one. False under X11 without a compositing

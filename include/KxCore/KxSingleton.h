@@ -1,7 +1,7 @@
 #pragma once
 
-/// Gives the one object of type T that the process has. A T that is one declares its own `instance()` beside it, so
-/// that every library of the process sees the same object.
+/// Access to the only object of type T in the process. T declares its own specialisation of `instance()`, so that every
+/// library of the process uses the same object.
 template<class T>
 class KxSingleton
 {

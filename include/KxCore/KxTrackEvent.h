@@ -6,7 +6,7 @@
 
 #include <functional>
 
-/// Something that the person did, for the host's usage tracker. Built, sent and destroyed on the spot; any thread.
+/// An action of the person, for the host's usage tracker. Created, sent and destroyed at once; any thread.
 class KXCORE_API KxTrackEvent
 {
 public:
@@ -16,20 +16,20 @@ public:
     virtual ~KxTrackEvent();
 
     const QString& name() const { return m_name; }
-    /// Hands the event to the tracker. Never fails: what cannot be written is left out.
+    /// Sends the event to the tracker. Never fails: an event that cannot be written is dropped.
     virtual void sendEvent();
 
 private:
     QString m_name;
 };
 
-/// Where usage events go: one line each, time and name, at the end of the file that the key "UsageLog" of the group
-/// "Auto Reframe" of the configuration file names (a relative name counts from the configuration file's folder).
-/// Without the key nothing is kept. Nothing ever leaves the machine.
+/// Usage events are appended, one line each with time and name, to the file that the configuration file names in the
+/// key "UsageLog" of the group "Auto Reframe" (a relative name is relative to the configuration file's folder). Without
+/// the key they are dropped. Nothing is sent anywhere.
 namespace KxUsageTracker
 {
-/// Hears the names of the events, on the thread that sends them.
+/// Receives the names of the events, on the thread that sends them.
 using Recorder = std::function<void(const QString& name)>;
-/// From now on `recorder` hears every event and none is written; an empty one undoes that.
+/// From now on `recorder` receives every event and none is written; an empty one restores writing.
 KXCORE_API void SetRecorder(Recorder recorder);
 } // namespace KxUsageTracker

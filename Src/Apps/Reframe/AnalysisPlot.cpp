@@ -12,15 +12,15 @@
 namespace
 {
 
-constexpr int mostColumns = 1200;
-constexpr double leftPx = 64.0;
-constexpr double widthPx = 1120.0;
-constexpr double rightPx = 16.0;
-constexpr double topPx = 22.0;
-constexpr double pathHeightPx = 300.0;
-constexpr double signalsHeightPx = 130.0;
-constexpr double axisPx = 26.0;
-constexpr int rows = static_cast<int>(KxSignalProfile::Bins);
+constexpr int MostColumns = 1200;
+constexpr double LeftPx = 64.0;
+constexpr double WidthPx = 1120.0;
+constexpr double RightPx = 16.0;
+constexpr double TopPx = 22.0;
+constexpr double PathHeightPx = 300.0;
+constexpr double SignalsHeightPx = 130.0;
+constexpr double AxisPx = 26.0;
+constexpr int Rows = static_cast<int>(KxSignalProfile::Bins);
 
 QString Number(double value)
 {
@@ -35,7 +35,7 @@ QString Point(double x, double y)
 QString Opening(const char* id, double height, const QString& label)
 {
     return QStringLiteral("<svg id=\"%1\" viewBox=\"0 0 %2 %3\" role=\"img\" aria-label=\"%4\">\n")
-        .arg(QLatin1String(id), Number(leftPx + widthPx + rightPx), Number(height), label);
+        .arg(QLatin1String(id), Number(LeftPx + WidthPx + RightPx), Number(height), label);
 }
 
 QString Text(double x, double y, const char* anchor, const QString& text)
@@ -97,13 +97,13 @@ QString AnalysisPlot::EndName() const
 
 double AnalysisPlot::X(double frame) const
 {
-    return leftPx + widthPx * frame / static_cast<double>(m_frames);
+    return LeftPx + WidthPx * frame / static_cast<double>(m_frames);
 }
 
 double AnalysisPlot::Y(double place) const
 {
     // The top of the picture is at the top; of its two sides, the right one is.
-    return topPx + pathHeightPx * (m_findings.freeAxis == KxAxis::Across ? 1.0 - place : place);
+    return TopPx + PathHeightPx * (m_findings.freeAxis == KxAxis::Across ? 1.0 - place : place);
 }
 
 qint64 AnalysisPlot::FrameOf(int column, int columns) const
@@ -120,22 +120,22 @@ std::pair<double, double> AnalysisPlot::CropEnds(qint64 frame) const
 
 QString AnalysisPlot::Heat() const
 {
-    const int columns = static_cast<int>(std::min<qint64>(mostColumns, m_frames));
-    std::vector<float> shares(static_cast<std::size_t>(columns) * rows, 0.0F);
+    const int columns = static_cast<int>(std::min<qint64>(MostColumns, m_frames));
+    std::vector<float> shares(static_cast<std::size_t>(columns) * Rows, 0.0F);
     for (int column = 0; column < columns; ++column) {
         const KxSubjectFindings::Sample* const sample = FoundSignals::SampleAt(m_findings, FrameOf(column, columns));
         if (sample == nullptr) {
             continue;
         }
         const KxSignalProfile profile = sample->evidence.Unpacked();
-        for (int row = 0; row < rows; ++row) {
+        for (int row = 0; row < Rows; ++row) {
             shares[static_cast<std::size_t>(row * columns + column)] = profile.share[static_cast<std::size_t>(row)];
         }
     }
     const float high = HighShare(shares);
-    QImage image(columns, rows, QImage::Format_RGB32);
-    for (int row = 0; row < rows; ++row) {
-        const int line = m_findings.freeAxis == KxAxis::Across ? rows - 1 - row : row;
+    QImage image(columns, Rows, QImage::Format_RGB32);
+    for (int row = 0; row < Rows; ++row) {
+        const int line = m_findings.freeAxis == KxAxis::Across ? Rows - 1 - row : row;
         auto* const pixels = reinterpret_cast<QRgb*>(image.scanLine(line));
         for (int column = 0; column < columns; ++column) {
             const float share = shares[static_cast<std::size_t>(row * columns + column)];
@@ -148,7 +148,7 @@ QString AnalysisPlot::Heat() const
     image.save(&buffer, "PNG");
     return QStringLiteral("<image x=\"%1\" y=\"%2\" width=\"%3\" height=\"%4\" preserveAspectRatio=\"none\" "
                           "xlink:href=\"data:image/png;base64,%5\"/>\n")
-        .arg(Number(leftPx), Number(topPx), Number(widthPx), Number(pathHeightPx), QString::fromLatin1(png.toBase64()));
+        .arg(Number(LeftPx), Number(TopPx), Number(WidthPx), Number(PathHeightPx), QString::fromLatin1(png.toBase64()));
 }
 
 QString AnalysisPlot::ShotLines(double height, bool numbered) const
@@ -164,10 +164,10 @@ QString AnalysisPlot::ShotLines(double height, bool numbered) const
         const double x = X(static_cast<double>(m_findings.shots[i].first));
         if (i > 0) {
             lines += QStringLiteral("<line class=\"cut\" x1=\"%1\" x2=\"%1\" y1=\"%2\" y2=\"%3\"/>\n")
-                         .arg(Number(x), Number(topPx), Number(topPx + length));
+                         .arg(Number(x), Number(TopPx), Number(TopPx + length));
         }
         if (numbered && x - lastNumber >= leastGapPx) {
-            lines += Text(x + 3.0, topPx - 7.0, "start", QString::number(i + 1));
+            lines += Text(x + 3.0, TopPx - 7.0, "start", QString::number(i + 1));
             lastNumber = x;
         }
     }
@@ -176,7 +176,7 @@ QString AnalysisPlot::ShotLines(double height, bool numbered) const
 
 QString AnalysisPlot::WantedLine() const
 {
-    const int columns = static_cast<int>(std::min<qint64>(mostColumns, m_frames));
+    const int columns = static_cast<int>(std::min<qint64>(MostColumns, m_frames));
     QString points;
     const KxSubjectFindings::Sample* last = nullptr;
     for (int column = 0; column < columns; ++column) {
@@ -194,7 +194,7 @@ QString AnalysisPlot::WantedLine() const
 
 QString AnalysisPlot::CropLines() const
 {
-    const int columns = static_cast<int>(std::min<qint64>(mostColumns, m_frames));
+    const int columns = static_cast<int>(std::min<qint64>(MostColumns, m_frames));
     std::array<QString, 3> paths;
     std::optional<std::size_t> lastShot;
     const auto add = [&](char command, double x, qint64 frame) {
@@ -247,23 +247,23 @@ QString AnalysisPlot::TimeAxis(double top) const
 
 QString AnalysisPlot::Path() const
 {
-    const double bottom = topPx + pathHeightPx;
+    const double bottom = TopPx + PathHeightPx;
     const bool startsBelow = m_findings.freeAxis == KxAxis::Across;
-    return Opening("path", bottom + axisPx, QStringLiteral("The crop's path over the evidence")) + Heat() +
-           ShotLines(pathHeightPx, true) + WantedLine() + CropLines() +
-           Text(leftPx - 8.0, bottom, "end", startsBelow ? StartName() : EndName()) +
-           Text(leftPx - 8.0, topPx + 10.0, "end", startsBelow ? EndName() : StartName()) + TimeAxis(bottom) +
+    return Opening("path", bottom + AxisPx, QStringLiteral("The crop's path over the evidence")) + Heat() +
+           ShotLines(PathHeightPx, true) + WantedLine() + CropLines() +
+           Text(LeftPx - 8.0, bottom, "end", startsBelow ? StartName() : EndName()) +
+           Text(LeftPx - 8.0, TopPx + 10.0, "end", startsBelow ? EndName() : StartName()) + TimeAxis(bottom) +
            QStringLiteral("</svg>\n");
 }
 
 QString AnalysisPlot::Signals() const
 {
-    const double bottom = topPx + signalsHeightPx;
-    const double loudest = static_cast<double>(FoundSignals::LoudestSum(m_findings));
-    const int columns = static_cast<int>(std::min<qint64>(mostColumns, m_frames));
+    const double bottom = TopPx + SignalsHeightPx;
+    const double strongest = static_cast<double>(FoundSignals::StrongestSum(m_findings));
+    const int columns = static_cast<int>(std::min<qint64>(MostColumns, m_frames));
     std::vector<double> below(static_cast<std::size_t>(columns), 0.0);
     QString areas;
-    for (auto signal = FoundSignals::all.rbegin(); signal != FoundSignals::all.rend(); ++signal) {
+    for (auto signal = FoundSignals::All.rbegin(); signal != FoundSignals::All.rend(); ++signal) {
         QString upper;
         QString lower;
         for (int column = 0; column < columns; ++column) {
@@ -272,18 +272,18 @@ QString AnalysisPlot::Signals() const
             double& level = below[static_cast<std::size_t>(column)];
             const double x = X(static_cast<double>(frame));
             const double next = X(static_cast<double>(FrameOf(column + 1, columns)));
-            const double from = bottom - signalsHeightPx * level;
+            const double from = bottom - SignalsHeightPx * level;
             if (sample != nullptr) {
-                level += static_cast<double>(sample->scores[static_cast<std::size_t>(*signal)]) / loudest;
+                level += static_cast<double>(sample->scores[static_cast<std::size_t>(*signal)]) / strongest;
             }
-            const double to = bottom - signalsHeightPx * level;
+            const double to = bottom - SignalsHeightPx * level;
             upper += Point(x, to) + Point(next, to);
             lower = Point(next, from) + Point(x, from) + lower;
         }
         areas += QStringLiteral("<polygon fill=\"%1\" points=\"%2%3\"/>\n")
                      .arg(QColor(FoundSignals::Colour(*signal)).name(), upper, lower);
     }
-    return Opening("signals", bottom + axisPx, QStringLiteral("Evidence by signal")) + areas +
-           ShotLines(signalsHeightPx, false) + Text(leftPx - 8.0, topPx + 10.0, "end", QStringLiteral("strong")) +
-           Text(leftPx - 8.0, bottom, "end", QStringLiteral("none")) + TimeAxis(bottom) + QStringLiteral("</svg>\n");
+    return Opening("signals", bottom + AxisPx, QStringLiteral("Evidence by signal")) + areas +
+           ShotLines(SignalsHeightPx, false) + Text(LeftPx - 8.0, TopPx + 10.0, "end", QStringLiteral("strong")) +
+           Text(LeftPx - 8.0, bottom, "end", QStringLiteral("none")) + TimeAxis(bottom) + QStringLiteral("</svg>\n");
 }

@@ -3,20 +3,21 @@
 #include <Apps/Reframe/CropTrackFile.h>
 #include <KxSubject/KxSubjectFindings.h>
 
-/// What an analysis found over a video's time, as inline SVG of one time axis. No text in it comes from a file. Pure.
+/// The findings of an analysis over the time of a video, as inline SVG with one time axis. It contains no text from a
+/// file. Pure.
 class AnalysisPlot
 {
 public:
     /// Both are borrowed. `track` holds at least one crop.
     AnalysisPlot(const CropTrack& track, const KxSubjectFindings& findings);
 
-    /// The evidence as a heat picture, shot boundaries, the place that the evidence asks for, and the crop's edges and
-    /// middle.
+    /// The evidence as a heat map, with shot boundaries, the centre with the most evidence, and the crop's centre and
+    /// edges.
     QString Path() const;
-    /// How much each signal says for the place, one upon the other.
+    /// The strength of each signal, as stacked areas.
     QString Signals() const;
 
-    /// Of the free axis' start and end.
+    /// Names of the two ends of the free axis.
     QString StartName() const;
     QString EndName() const;
 

@@ -81,7 +81,7 @@ public:
 
     QString Text(const QByteArray& jpeg) const
     {
-        const QHash<QString, QString> look{{QStringLiteral("accent"), QColor(DrawnCrop::accent).name()}};
+        const QHash<QString, QString> look{{QStringLiteral("accent"), QColor(DrawnCrop::Accent).name()}};
         return Filled(
             Resource("report.html"),
             {{QStringLiteral("title"), Title()},
@@ -139,7 +139,7 @@ private:
     static QString SignalsLegend()
     {
         QString legend;
-        for (const KxSignal signal : FoundSignals::all) {
+        for (const KxSignal signal : FoundSignals::All) {
             legend += QStringLiteral("<li>%1%2</li>\n")
                           .arg(Swatch(FoundSignals::Colour(signal)), FoundSignals::Explanation(signal));
         }
@@ -148,7 +148,7 @@ private:
 
     QString DominantSignal(const KxSubjectFindings::Shot& shot) const
     {
-        const double share = FoundSignals::CarrierShare(m_findings, shot);
+        const double share = FoundSignals::DominantShare(m_findings, shot);
         return share <= 0.0 ? QStringLiteral("none: the crop is centred")
                             : QStringLiteral("%1%2, %3 %")
                                   .arg(Swatch(FoundSignals::Colour(shot.dominantSignal)),

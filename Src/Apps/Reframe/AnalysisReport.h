@@ -3,7 +3,7 @@
 #include <Apps/Reframe/CropTrackFile.h>
 #include <KxSubject/KxSubjectFindings.h>
 
-/// What an analysis found, as one page that needs nothing besides itself: no network, no scripts, no other file.
+/// The findings of an analysis as one self-contained page: no network, no scripts, no other file.
 namespace AnalysisReport
 {
 /// The page in UTF-8. `track` holds at least one crop; `sheet` is the contact sheet, a JPEG picture.

@@ -8,8 +8,8 @@
 #include <QImage>
 #include <QList>
 
-/// A picture of a whole video: frames spread evenly over it, with what the crop leaves out dimmed and the crop
-/// outlined. Under each frame a bar shows where in the video it stands.
+/// A picture of a whole video: frames at equal distances, with the crop outlined and its surroundings dimmed. A bar
+/// under each frame shows its position in the video.
 namespace ContactSheet
 {
 /// Blocks while it reads the frames. `crops` holds one entry a frame.

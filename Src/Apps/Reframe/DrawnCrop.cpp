@@ -13,7 +13,7 @@ void DrawnCrop::Draw(QPainter& painter, const QRect& area, const QRectF& crop)
     for (const QRect& part : outside) {
         painter.fillRect(part, dimmed);
     }
-    painter.setPen(QPen(QColor(accent), 2.0));
+    painter.setPen(QPen(QColor(Accent), 2.0));
     painter.setBrush(Qt::NoBrush);
     painter.drawRect(kept.adjusted(1.0, 1.0, -1.0, -1.0));
 }

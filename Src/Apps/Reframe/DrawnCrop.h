@@ -3,10 +3,10 @@
 #include <QPainter>
 #include <QRectF>
 
-/// How every picture of this program shows a crop. Any thread.
+/// Draws a crop, in the same way in every picture of this program. Any thread.
 namespace DrawnCrop
 {
-constexpr QRgb accent = 0xFF55E5C5;
+constexpr QRgb Accent = 0xFF55E5C5;
 
 /// Dims what lies outside of `crop` (fractions of a picture that fills `area`) and outlines it.
 void Draw(QPainter& painter, const QRect& area, const QRectF& crop);

@@ -82,24 +82,24 @@ std::size_t FoundSignals::ShotAt(const KxSubjectFindings& findings, qint64 frame
     return after == shots.begin() ? 0 : static_cast<std::size_t>(after - shots.begin()) - 1;
 }
 
-float FoundSignals::LoudestSum(const KxSubjectFindings& findings)
+float FoundSignals::StrongestSum(const KxSubjectFindings& findings)
 {
-    float loudest = 1e-6F;
+    float strongest = 1e-6F;
     for (const KxSubjectFindings::Sample& sample : findings.samples) {
-        loudest = std::max(loudest, SumOf(sample));
+        strongest = std::max(strongest, SumOf(sample));
     }
-    return loudest;
+    return strongest;
 }
 
-double FoundSignals::CarrierShare(const KxSubjectFindings& findings, const KxSubjectFindings::Shot& shot)
+double FoundSignals::DominantShare(const KxSubjectFindings& findings, const KxSubjectFindings::Shot& shot)
 {
-    double carrier = 0.0;
+    double dominant = 0.0;
     double all = 0.0;
     for (const KxSubjectFindings::Sample& sample : findings.samples) {
         if (sample.frame >= shot.first && sample.frame < shot.end) {
-            carrier += static_cast<double>(sample.scores[static_cast<std::size_t>(shot.dominantSignal)]);
+            dominant += static_cast<double>(sample.scores[static_cast<std::size_t>(shot.dominantSignal)]);
             all += static_cast<double>(SumOf(sample));
         }
     }
-    return all > 0.0 ? carrier / all : 0.0;
+    return all > 0.0 ? dominant / all : 0.0;
 }

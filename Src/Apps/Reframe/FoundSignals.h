@@ -5,23 +5,24 @@
 #include <QRgb>
 #include <QString>
 
-/// What an analysis found, looked up and named for people. Pure; any thread.
+/// Looks up the findings of an analysis and names them for people. Pure; any thread.
 namespace FoundSignals
 {
 QString Name(KxSignal signal);
-/// What it looks for, in a few words after its name.
+/// Its name and, in a few words, what it looks for.
 QString Explanation(KxSignal signal);
-/// For a dark ground.
+/// For a dark background.
 QRgb Colour(KxSignal signal);
-constexpr std::array<KxSignal, KxSignalCount> all{KxSignal::Faces, KxSignal::Movers, KxSignal::Motion,
+constexpr std::array<KxSignal, KxSignalCount> All{KxSignal::Faces, KxSignal::Movers, KxSignal::Motion,
                                                   KxSignal::Saliency};
 
-/// The sample that holds at `frame`: the one before it, or the first, of the same shot. Null where the shot has none.
+/// The sample that applies to `frame`: the last one before it in the same shot, otherwise the first one of that shot.
+/// Null if the shot has none.
 const KxSubjectFindings::Sample* SampleAt(const KxSubjectFindings& findings, qint64 frame);
-/// Counted from 0; 0 where there are none.
+/// Counted from 0; 0 if there are no shots.
 std::size_t ShotAt(const KxSubjectFindings& findings, qint64 frame);
-/// The most that all signals together say anywhere; positive.
-float LoudestSum(const KxSubjectFindings& findings);
-/// The part of all that is said in a shot that its carrier says, 0 to 1; 0 where nothing is said.
-double CarrierShare(const KxSubjectFindings& findings, const KxSubjectFindings::Shot& shot);
+/// The largest sum of all signals in a sample; positive.
+float StrongestSum(const KxSubjectFindings& findings);
+/// The share of the dominant signal in all signals of a shot, 0 to 1; 0 without any.
+double DominantShare(const KxSubjectFindings& findings, const KxSubjectFindings::Shot& shot);
 } // namespace FoundSignals

@@ -11,18 +11,18 @@
 namespace
 {
 
-constexpr double linesInAPicture = 36.0;
-constexpr int smallestTextPx = 6;
-constexpr double lineHeight = 1.5;
-constexpr double panelWidth = 17.0;
-const QColor panelGround(0x1B, 0x1D, 0x21, 224);
-const QColor barGround(255, 255, 255, 36);
-const QColor ink(0xF2, 0xF4, 0xF7);
-const QColor faintInk(0xB4, 0xBA, 0xC4);
+constexpr double LinesInAPicture = 36.0;
+constexpr int SmallestTextPx = 6;
+constexpr double LineHeight = 1.5;
+constexpr double PanelWidth = 17.0;
+const QColor PanelGround(0x1B, 0x1D, 0x21, 224);
+const QColor BarGround(255, 255, 255, 36);
+const QColor Ink(0xF2, 0xF4, 0xF7);
+const QColor FaintInk(0xB4, 0xBA, 0xC4);
 
 int TextPx(const QSizeF& picture)
 {
-    return std::max(smallestTextPx, qRound(std::min(picture.width(), picture.height()) / linesInAPicture));
+    return std::max(SmallestTextPx, qRound(std::min(picture.width(), picture.height()) / LinesInAPicture));
 }
 
 } // namespace
@@ -35,7 +35,7 @@ PreviewOverlay::PreviewOverlay(QList<IKxAutoReframeResult> crops, const KxRation
 {
     if (m_findings != nullptr) {
         for (const KxSubjectFindings::Sample& sample : m_findings->samples) {
-            m_loudest = std::max(m_loudest, *std::max_element(sample.scores.begin(), sample.scores.end()));
+            m_strongest = std::max(m_strongest, *std::max_element(sample.scores.begin(), sample.scores.end()));
         }
     }
 }
@@ -69,7 +69,7 @@ void PreviewOverlay::DrawWanted(QPainter& painter, const QSizeF& picture, qint64
         painter.rotate(-90.0);
     }
     painter.setPen(QPen(QColor(0, 0, 0, 160), 1.0));
-    painter.setBrush(ink);
+    painter.setBrush(Ink);
     painter.drawPolygon(QPolygonF({QPointF(-size * 0.7, 0.0), QPointF(size * 0.7, 0.0), QPointF(0.0, size)}));
     painter.restore();
 }
@@ -77,12 +77,12 @@ void PreviewOverlay::DrawWanted(QPainter& painter, const QSizeF& picture, qint64
 void PreviewOverlay::DrawPanel(QPainter& painter, const QSizeF& picture, qint64 frame) const
 {
     const int text = TextPx(picture);
-    const double line = lineHeight * text;
+    const double line = LineHeight * text;
     const bool explains = m_findings != nullptr && !m_findings->shots.empty();
     const double lines = explains ? 2.3 + KxSignalCount : 1.0;
-    const QRectF panel(text, picture.height() - text - (lines + 0.8) * line, panelWidth * text, (lines + 0.8) * line);
+    const QRectF panel(text, picture.height() - text - (lines + 0.8) * line, PanelWidth * text, (lines + 0.8) * line);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(panelGround);
+    painter.setBrush(PanelGround);
     painter.drawRoundedRect(panel, 0.4 * text, 0.4 * text);
 
     QFont font = painter.font();
@@ -90,9 +90,9 @@ void PreviewOverlay::DrawPanel(QPainter& painter, const QSizeF& picture, qint64 
     painter.setFont(font);
     QRectF row(panel.x() + 0.7 * text, panel.y() + 0.4 * line, panel.width() - 1.4 * text, line);
     const auto write = [&painter](const QRectF& area, const QString& left, const QString& right) {
-        painter.setPen(ink);
+        painter.setPen(Ink);
         painter.drawText(area, Qt::AlignLeft | Qt::AlignVCenter, left);
-        painter.setPen(faintInk);
+        painter.setPen(FaintInk);
         painter.drawText(area, Qt::AlignRight | Qt::AlignVCenter, right);
     };
     write(row, QStringLiteral("Frame %1").arg(frame), KxFrameTime::Text(frame, m_frameRate));
@@ -113,15 +113,15 @@ void PreviewOverlay::DrawSignals(QPainter& painter, const QRectF& area, qint64 f
 {
     const KxSubjectFindings::Sample* const sample = FoundSignals::SampleAt(*m_findings, frame);
     QRectF row = area;
-    for (const KxSignal signal : FoundSignals::all) {
-        const float said = sample != nullptr ? sample->scores[static_cast<std::size_t>(signal)] : 0.0F;
-        const double share = std::clamp(static_cast<double>(said / m_loudest), 0.0, 1.0);
-        painter.setPen(faintInk);
+    for (const KxSignal signal : FoundSignals::All) {
+        const float strength = sample != nullptr ? sample->scores[static_cast<std::size_t>(signal)] : 0.0F;
+        const double share = std::clamp(static_cast<double>(strength / m_strongest), 0.0, 1.0);
+        painter.setPen(FaintInk);
         painter.drawText(row, Qt::AlignLeft | Qt::AlignVCenter, FoundSignals::Name(signal));
         const double labels = 0.36 * row.width();
         const QRectF bar(row.x() + labels, row.center().y() - 0.16 * row.height(), row.width() - labels,
                          0.32 * row.height());
-        painter.fillRect(bar, barGround);
+        painter.fillRect(bar, BarGround);
         painter.fillRect(QRectF(bar.topLeft(), QSizeF(bar.width() * share, bar.height())),
                          QColor(FoundSignals::Colour(signal)));
         row.translate(0.0, row.height());

@@ -12,13 +12,13 @@
 
 class QPainter;
 
-/// Draws on every frame of a video what the crop keeps and why: the crop, with what it leaves out dimmed; a triangle at
-/// the picture's edge where the evidence asks for the crop's middle; and in the lower left corner the shot, the frame,
-/// its time and what each signal says. Without findings the crop, the frame and its time. Any thread.
+/// Draws the crop and its reasons on every frame of a video: the crop with its surroundings dimmed, a triangle at the
+/// picture's edge at the centre with the most evidence, and in the lower left corner the shot, the frame, its time and
+/// the strength of each signal. Without findings, only the crop, the frame and its time. Any thread.
 class PreviewOverlay
 {
 public:
-    /// `crops` holds one entry a frame; `findings` may be null. Needs a QGuiApplication to write with.
+    /// `crops` holds one entry a frame; `findings` may be null. Needs a QGuiApplication, for fonts.
     PreviewOverlay(QList<IKxAutoReframeResult> crops, const KxRational& frameRate,
                    std::shared_ptr<const KxSubjectFindings> findings);
 
@@ -32,5 +32,5 @@ private:
     QList<IKxAutoReframeResult> m_crops;
     KxRational m_frameRate;
     std::shared_ptr<const KxSubjectFindings> m_findings;
-    float m_loudest = 1e-6F; ///< the most that one signal says anywhere
+    float m_strongest = 1e-6F; ///< the strongest signal of all samples
 };

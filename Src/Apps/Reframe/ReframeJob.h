@@ -13,13 +13,13 @@
 
 #include <QJsonObject>
 
-/// The whole way of one input: open, analyse (or take a track), write what was asked for. Main thread; it runs the
-/// event loop while it waits.
+/// Processes one input: opens it, analyses it or reads a crop track, and writes the requested files. Main thread; runs
+/// the event loop while it waits.
 class ReframeJob
 {
 public:
-    /// `written` are the files of the inputs before, to which those of this one are added: one run never writes over
-    /// what it has written.
+    /// `written` are the files of the earlier inputs, to which this job adds its own: a run never replaces its own
+    /// output.
     ReframeJob(const QString& input, const ReframeOptions& options, ReframeReporter& reporter, QStringList& written);
     ~ReframeJob();
     Q_DISABLE_COPY_MOVE(ReframeJob)
@@ -46,18 +46,18 @@ private:
     Ended WritePreview();
     Ended WritePreviewVideo();
     Ended WriteVideo();
-    /// Reports progress as that of `stage`, warnings, and the file as `fact`.
+    /// Reports progress (as that of `stage`) and warnings, and notes the file as `fact`.
     Ended Render(const KxRenderSource& source, const KxRenderSettings& settings, ReframeReporter::Stage stage,
                  const QString& fact);
 
     KrAutoReframeHelper& Helper() const;
     CropTrack Track() const;
-    /// The contact sheet as a file of the format that Qt calls `format`.
+    /// The content of a contact sheet file; `format` is one of QImageWriter.
     KxResult<QByteArray> ContactSheetFile(const char* format) const;
     KxOutcome Fail(const QString& message);
     KxOutcome FailUnlessInterrupted(const QString& message);
-    /// Where to write: `named` itself, or a file called after the input in the folder `named`, or beside the input when
-    /// `named` is empty.
+    /// The file `named` itself; if that is a folder, a file in it that is named after the input; if it is empty, such a
+    /// file beside the input.
     QString TargetPath(const QString& named, const QString& suffix) const;
     KxOutputFile::Existing WhenItExists(const QString& path) const;
     bool WouldReplaceInput(const QString& path) const;

@@ -14,7 +14,7 @@
 namespace
 {
 
-/// At most 1280 wide, with even sides.
+/// At most 1280 pixels wide, with even sides.
 QSize PreviewSize(const QSize& source)
 {
     constexpr int widestPx = 1280;
@@ -79,7 +79,7 @@ ReframeJob::Ended ReframeJob::WritePreviewVideo()
     settings.outputPath = m_options.preview;
     settings.existing = WhenItExists(m_options.preview);
     settings.resolution = PreviewSize(track.sourceSize);
-    // Text and thin lines want more than a picture of that size does by itself.
+    // Text and thin lines need a higher bit rate than pictures of that size usually do.
     settings.videoBitRate = 4000000;
     return Render(source, settings, ReframeReporter::Stage::Preview, QStringLiteral("preview"));
 }

@@ -93,7 +93,7 @@ std::optional<int> ModeOfSpeed(const QString& name)
     return std::nullopt;
 }
 
-/// A place to write to, as an option names it.
+/// An output path, as an option gives it.
 struct Target {
     QString option;
     QString path;
@@ -111,7 +111,7 @@ QList<Target> Targets(const ReframeOptions& options)
             {QStringLiteral("--report"), options.report, {QStringLiteral("html")}}};
 }
 
-/// What options do not go together; empty when all is well.
+/// The message about options that exclude each other; empty if there are none.
 QString Contradiction(const ReframeOptions& options)
 {
     if (options.inputs.isEmpty()) {
@@ -140,7 +140,7 @@ QString Contradiction(const ReframeOptions& options)
     return {};
 }
 
-/// What stands in an argument that could not be understood.
+/// The message about an argument that was not understood.
 QString Misunderstanding(const QCommandLineParser& parser, const QStringList& arguments)
 {
     for (const QString& argument : arguments) {

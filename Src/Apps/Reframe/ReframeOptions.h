@@ -5,15 +5,15 @@
 #include <QSize>
 #include <QStringList>
 
-/// What the command line asks for. Complete and checked once made.
+/// The options of a command line, complete and valid.
 struct ReframeOptions {
     QStringList inputs;
     QSize aspect = QSize(9, 16);
     QString speedName = QStringLiteral("auto"); ///< auto, fast or slow
-    int speedMode = 16;                         ///< the number that the analysis takes for it
+    int speedMode = 16;                         ///< the number by which the analysis knows it
     QString output;                             ///< file or folder; empty: beside each input
     QString keyframes;                          ///< file (folder for several inputs); empty: none
-    QString apply;                              ///< a crop track to take instead of an analysis; empty: none
+    QString apply;                              ///< a crop track that replaces the analysis; empty: none
     QString preview;                            ///< file (folder for several inputs); empty: none
     QString report;                             ///< file (folder for several inputs); empty: none
     QString faceModel;                          ///< empty: none
@@ -22,12 +22,12 @@ struct ReframeOptions {
     bool json = false;
     bool quiet = false;
 
-    /// The preview is a video, not a contact sheet.
+    /// Whether the preview is a video and not a contact sheet.
     bool PreviewIsVideo() const;
 
-    /// What a command line turned out to be: options to work with, or a text to show and an exit status.
+    /// The result of parsing: options, or a text to print and an exit status.
     struct Parsed;
-    /// `arguments` as in main, the program's name first.
+    /// `arguments` start with the program's name, as in main.
     static Parsed Parse(const QStringList& arguments);
 };
 

@@ -2,9 +2,10 @@
 
 #include <Apps/Reframe/ReframeOptions.h>
 
-/// The command line as a whole.
+/// The command-line program.
 namespace ReframeProgram
 {
-/// Does every input, one after the other, also when one fails, and returns the exit status. Needs a QCoreApplication.
+/// Processes the inputs one after the other, also after a failure, and returns the exit status. Needs a
+/// QCoreApplication.
 int Run(const ReframeOptions& options);
 } // namespace ReframeProgram

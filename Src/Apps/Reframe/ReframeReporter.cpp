@@ -52,7 +52,7 @@ QString StageWord(ReframeReporter::Stage stage, Form form)
 } // namespace
 
 ReframeReporter::ReframeReporter(const ReframeOptions& options)
-    : m_voice(options.json ? Voice::Json : Voice::People)
+    : m_format(options.json ? Format::Json : Format::Text)
     , m_quiet(options.quiet)
     , m_showsLine(!options.quiet && !options.json && KxTerminal::IsErrorStreamInteractive())
 {
@@ -79,7 +79,7 @@ void ReframeReporter::Progress(int progress)
         return;
     }
     m_lastPercent = percent;
-    if (m_voice == Voice::Json) {
+    if (m_format == Format::Json) {
         WriteJson(QStringLiteral("progress"), m_input,
                   {{QStringLiteral("stage"), StageWord(m_stage, Form::Name)}, {QStringLiteral("percent"), percent}});
     } else if (m_showsLine) {
@@ -93,7 +93,7 @@ void ReframeReporter::Progress(int progress)
 
 void ReframeReporter::Warn(const QString& input, const QString& message)
 {
-    if (m_voice == Voice::Json) {
+    if (m_format == Format::Json) {
         WriteJson(QStringLiteral("warning"), input, {{QStringLiteral("message"), message}});
     }
     ClearLine();
@@ -104,7 +104,7 @@ void ReframeReporter::Warn(const QString& input, const QString& message)
 
 void ReframeReporter::Fail(const QString& input, const QString& message)
 {
-    if (m_voice == Voice::Json) {
+    if (m_format == Format::Json) {
         WriteJson(QStringLiteral("error"), input, {{QStringLiteral("message"), message}});
     }
     ClearLine();
@@ -114,7 +114,7 @@ void ReframeReporter::Fail(const QString& input, const QString& message)
 void ReframeReporter::Succeed(const QString& input, const QString& message, const QJsonObject& facts)
 {
     ClearLine();
-    if (m_voice == Voice::Json) {
+    if (m_format == Format::Json) {
         WriteJson(QStringLiteral("done"), input, facts);
     } else if (!m_quiet) {
         WriteOutput(message.toLocal8Bit() + '\n');

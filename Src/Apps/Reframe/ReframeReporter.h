@@ -17,12 +17,12 @@ class ReframeReporter
 {
 public:
     explicit ReframeReporter(const ReframeOptions& options);
-    /// Leaves no half line on the terminal.
+    /// Clears the progress line.
     ~ReframeReporter();
     Q_DISABLE_COPY_MOVE(ReframeReporter)
 
     enum class Stage { Analyze, Preview, Render };
-    /// Starts to measure the time of a stage of one input.
+    /// Starts the clock of a stage of one input.
     void BeginStage(const QString& input, Stage stage);
     /// `progress` in ten-thousandths of the stage.
     void Progress(int progress);
@@ -38,13 +38,13 @@ public:
     const KxError& OutputProblem() const { return m_outputProblem; }
 
 private:
-    enum class Voice { People, Json };
+    enum class Format { Text, Json };
 
     void WriteJson(const QString& event, const QString& input, QJsonObject facts);
     void WriteOutput(const QByteArray& text);
     void ClearLine();
 
-    const Voice m_voice;
+    const Format m_format;
     const bool m_quiet;
     const bool m_showsLine;
     QString m_input;
