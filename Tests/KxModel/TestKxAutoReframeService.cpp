@@ -251,7 +251,41 @@ TEST_F(KxAutoReframeServiceTest, ACutOffFileGivesAsManyResultsAsItsIndexHasFrame
     EXPECT_TRUE(m_service.LastWarnings().first().contains(QStringLiteral("cut.mp4")));
 }
 
-TEST_F(KxAutoReframeServiceTest, AFaceModelThatIsNoneIsToldAndTheAnalysisGoesOn)
+TEST_F(KxAutoReframeServiceTest, TimeStampsThatSpanMoreFramesThanAnyVideoHasAreRefused)
+{
+    MadeVideo::Recipe recipe;
+    recipe.frames = 40;
+    recipe.output = QStringList{QStringLiteral("-vf"),    QStringLiteral("setpts='if(lt(N,20),N,N+43200000)/25/TB'"),
+                                QStringLiteral("-vsync"), QStringLiteral("passthrough"),
+                                QStringLiteral("-c:v"),   QStringLiteral("libx264"),
+                                QStringLiteral("-bf"),    QStringLiteral("0")};
+    const QString path = m_folder.filePath(QStringLiteral("pause.mkv"));
+    ASSERT_TRUE(MadeVideo::Make(path, recipe));
+    EXPECT_FALSE(m_service.StartTask(path, m_param));
+    EXPECT_EQ(m_service.LastSentence(),
+              QStringLiteral("Cannot analyse pause.mkv: its time stamps span 43200040 frames, the limit is 6000000."));
+}
+
+TEST_F(KxAutoReframeServiceTest, APauseOfDaysInTheTimeStampsIsHeld)
+{
+    MadeVideo::Recipe recipe;
+    recipe.frames = 40;
+    recipe.rate = QStringLiteral("1");
+    recipe.output = QStringList{QStringLiteral("-vf"),    QStringLiteral("setpts='if(lt(N,20),N,N+172800)/TB'"),
+                                QStringLiteral("-vsync"), QStringLiteral("passthrough"),
+                                QStringLiteral("-c:v"),   QStringLiteral("libx264"),
+                                QStringLiteral("-bf"),    QStringLiteral("0")};
+    const QString path = m_folder.filePath(QStringLiteral("pause.mkv"));
+    ASSERT_TRUE(MadeVideo::Make(path, recipe));
+    Recorder recorder(m_service);
+    ASSERT_TRUE(m_service.StartTask(path, m_param));
+    ASSERT_TRUE(recorder.WaitForEnd());
+    QList<IKxAutoReframeResult> results;
+    EXPECT_EQ(m_service.GetResults(path, &results), 0);
+    EXPECT_EQ(results.size(), 172840);
+}
+
+TEST_F(KxAutoReframeServiceTest, AFaceModelThatIsNoneIsReportedAndTheAnalysisGoesOn)
 {
     QFile model(m_folder.filePath(QStringLiteral("model.onnx")));
     ASSERT_TRUE(model.open(QIODevice::WriteOnly));

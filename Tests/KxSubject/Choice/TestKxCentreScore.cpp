@@ -55,6 +55,25 @@ TEST(KxCentreScore, AScoreIsTheMassUnderTheWindowLessThePrior)
                 1e-5);
 }
 
+TEST(KxCentreScore, TheWindowFallsAsTheSquaredCosineToItsFlatPart)
+{
+    constexpr std::size_t middle = KxCentreScore::Positions / 2;
+    constexpr double pi = 3.14159265358979;
+    for (const double flat : {0.0, 0.4}) {
+        KxSubjectOptions::Evidence options;
+        options.centrePriorAcross = 0.0;
+        options.windowFlatAcross = flat;
+        const KxCentreScore score(options, Portrait);
+        for (const std::size_t bin : {48U, 52U, 55U, 58U, 61U}) {
+            KxSignalProfile profile;
+            profile.share[bin] = 1.0F;
+            const double offset = (static_cast<double>(bin) + 0.5) / KxSignalProfile::Bins - score.CentreAt(middle);
+            const double cosine = std::cos(pi * offset / Portrait.Extent());
+            EXPECT_NEAR(score.Of(profile)[middle], flat + (1.0 - flat) * cosine * cosine, 1e-4) << bin << ", " << flat;
+        }
+    }
+}
+
 TEST(KxCentreScore, WhatIsSpreadEvenlyPrefersNoPlace)
 {
     const KxCentreScore score(KxSubjectOptions().evidence, Portrait);

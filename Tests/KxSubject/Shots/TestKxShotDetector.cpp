@@ -70,6 +70,24 @@ TEST(KxShotDetector, ShotsOfFiveToTenFramesAreFound)
     EXPECT_THAT(Cuts(100, Shots({30, 35, 41, 48, 56, 65})), ElementsAre(30, 35, 41, 48, 56, 65));
 }
 
+TEST(KxShotDetector, Case8AShotOfExactlyTheMinimumLengthIsKeptAndAShorterOneIsNot)
+{
+    KxSubjectOptions::Shots options;
+    options.minimumShotSeconds = 0.25;
+    constexpr double rate = 32.0; // 8 frames, with no rounding
+    const auto cuts = [&options](const std::vector<int>& starts) {
+        KxShotDetector detector(options);
+        for (int frame = 0; frame < 90; ++frame) {
+            detector.AddPicture(frame, Shots(starts)(frame));
+        }
+        return detector.Cuts(rate);
+    };
+    EXPECT_THAT(cuts({40, 48}), ElementsAre(40, 48));
+    EXPECT_THAT(cuts({40, 47}), SizeIs(1));
+    EXPECT_THAT(cuts({8, 50}), ElementsAre(8, 50)) << "the first shot";
+    EXPECT_THAT(cuts({7, 50}), ElementsAre(50));
+}
+
 TEST(KxShotDetector, AnInsertOfTenFramesHasTwoCuts)
 {
     const cv::Mat one = Scene(1);

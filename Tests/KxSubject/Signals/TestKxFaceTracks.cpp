@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace
 {
 
@@ -51,7 +53,7 @@ protected:
         return m_tracks.ProfileAt(seconds, from, to, KxAxis::Across, EmptyFloor, PictureSize);
     }
 
-    /// The longest time from the coming of the face, after three seconds of `before`, to the look that finds it.
+    /// The longest time from the appearance of the face, after three seconds of `before`, to the look that finds it.
     double LongestWait(const cv::Mat& before)
     {
         double longest = 0.0;
@@ -95,6 +97,46 @@ TEST_F(KxFaceTracksTest, AFaceSeenOnceIsNoEvidence)
     EXPECT_EQ(At(0.0).Sum(), 0.0F);
 }
 
+TEST_F(KxFaceTracksTest, AsManyLooksMustAgreeAsTheOptionsSayBesidesTheFirst)
+{
+    // Looks at 0, 0.2 and 0.4 seconds; the face is there for two of them, then for three.
+    ASSERT_EQ(Options.faces.agreeing, 2);
+    Play(3, 0, 3);
+    ASSERT_EQ(m_tracks.Tracks().size(), 1U);
+    ASSERT_EQ(m_tracks.Tracks().front().looks.size(), 2U);
+    EXPECT_EQ(At(0.1).Sum(), 0.0F);
+    m_tracks = KxFaceTracks(Options.faces, KxFaceFinder(Options.faces, Cascades, PictureSize));
+    Play(5, 0, 5);
+    ASSERT_EQ(m_tracks.Tracks().front().looks.size(), 3U);
+    EXPECT_GT(At(0.1).Sum(), 0.0F);
+}
+
+TEST_F(KxFaceTracksTest, LooksThatMissTheFaceWeakenItsEvidenceInItsPlace)
+{
+    const auto centre = [](const KxSignalProfile& profile) {
+        double sum = 0.0;
+        for (std::size_t bin = 0; bin < KxSignalProfile::Bins; ++bin) {
+            sum += profile.share[bin] * (static_cast<double>(bin) + 0.5) / KxSignalProfile::Bins;
+        }
+        return sum / static_cast<double>(profile.Sum());
+    };
+    Play(30, 0, 30);
+    const KxSignalProfile always = At(1.5);
+    m_tracks = KxFaceTracks(Options.faces, KxFaceFinder(Options.faces, Cascades, PictureSize));
+    for (int i = 0; i < 30; ++i) {
+        const cv::Mat& picture = i >= 10 && i < 13 ? m_without : m_withFace;
+        m_tracks.AddPicture(i / 10.0, picture, MadePictures::Grey(picture));
+    }
+    ASSERT_EQ(m_tracks.Tracks().size(), 1U);
+    const auto& looks = m_tracks.Tracks().front().looks;
+    const auto missed =
+        std::count_if(looks.begin(), looks.end(), [](const KxFaceTracks::Look& look) { return !look.Face(); });
+    ASSERT_EQ(missed, 2);
+    EXPECT_NEAR(centre(At(1.5)), centre(always), 0.01);
+    EXPECT_NEAR(centre(At(1.1)), centre(always), 0.01) << "between the looks that missed it";
+    EXPECT_LT(At(1.5).Sum(), always.Sum());
+}
+
 TEST_F(KxFaceTracksTest, EvidenceEndsWithTheFace)
 {
     Play(60, 0, 25);
@@ -102,14 +144,14 @@ TEST_F(KxFaceTracksTest, EvidenceEndsWithTheFace)
     EXPECT_EQ(At(5.0).Sum(), 0.0F);
 }
 
-TEST_F(KxFaceTracksTest, LooksOfAnotherShotDoNotCount)
+TEST_F(KxFaceTracksTest, LooksInAnotherShotDoNotCount)
 {
     Play(30, 0, 30);
     EXPECT_GT(At(1.5, 1.2, 2.4).Sum(), 0.0F);
     EXPECT_EQ(At(1.5, 1.5, 1.7).Sum(), 0.0F) << "too few looks in so short a shot";
 }
 
-TEST_F(KxFaceTracksTest, LooksAreRarerWhereNothingIsNewForLong)
+TEST_F(KxFaceTracksTest, LooksAreRarerWhereNothingHasBeenNewForLong)
 {
     const cv::Mat grey = MadePictures::Grey(m_withFace);
     const std::vector<cv::Rect> faces =
@@ -122,7 +164,7 @@ TEST_F(KxFaceTracksTest, LooksAreRarerWhereNothingIsNewForLong)
     EXPECT_LT(longest, Options.faces.settledFactor * Options.faces.frontalPeriodSeconds + 0.05);
 }
 
-TEST_F(KxFaceTracksTest, ANewSceneIsLookedAtAtOnce)
+TEST_F(KxFaceTracksTest, ANewSceneIsSearchedAtOnce)
 {
     Play(60, 60, 60);
     const cv::Mat grey = MadePictures::Grey(m_withFace);
@@ -142,7 +184,7 @@ TEST_F(KxFaceTracksTest, AFaceAtTheSamePlaceInANewSceneIsAnotherFace)
     EXPECT_EQ(m_tracks.Tracks().size(), 2U);
 }
 
-TEST_F(KxFaceTracksTest, LooksLeaveThePicturesAsTheyAre)
+TEST_F(KxFaceTracksTest, LooksDoNotChangeThePictures)
 {
     const cv::Mat grey = MadePictures::Grey(m_withFace);
     const cv::Mat picture = m_withFace.clone();

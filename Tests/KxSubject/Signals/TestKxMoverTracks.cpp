@@ -10,7 +10,7 @@ namespace
 {
 
 const cv::Size MapSize(320, 180);
-/// One level: the others follow what they see in the same way.
+/// One level: the others work in the same way.
 KxSubjectOptions::Movers OneLevel()
 {
     KxSubjectOptions::Movers options;
@@ -53,7 +53,7 @@ double CentreOf(const KxSignalProfile& profile)
     return sum / static_cast<double>(profile.Sum());
 }
 
-/// Two that cross the picture side by side, the map between them so high as `saddle` says.
+/// Two movers that cross the picture side by side; between them the map has the height `saddle`.
 KxSignalProfile OfPair(float saddle, const KxSubjectOptions::Movers& options)
 {
     KxMoverTracks tracks(options);
@@ -112,7 +112,7 @@ TEST(KxMoverTracks, ATinyMoverCountsNearlyAsMuchAsALargeOne)
     EXPECT_LT(ofLarge / ofTiny, 5.0) << "the areas differ by 64";
 }
 
-TEST(KxMoverTracks, WhatStirsOnItsPlaceIsNoSubject)
+TEST(KxMoverTracks, WhatMovesInPlaceIsNoSubject)
 {
     const auto tracks = Followed(60, [](int i) { return std::vector<cv::Rect>{{100 + 2 * (i % 2), 80, 24, 24}}; });
     for (const KxMoverTracks::Mover& mover : tracks.Movers()) {
@@ -120,7 +120,7 @@ TEST(KxMoverTracks, WhatStirsOnItsPlaceIsNoSubject)
     }
 }
 
-TEST(KxMoverTracks, WhatStaysWithTheBackgroundUnderAPanIsNoSubject)
+TEST(KxMoverTracks, WhatStaysWithTheBackgroundInAPanIsNoSubject)
 {
     const auto tracks = Followed(
         30,
@@ -131,7 +131,7 @@ TEST(KxMoverTracks, WhatStaysWithTheBackgroundUnderAPanIsNoSubject)
     EXPECT_TRUE(tracks.Movers().empty());
 }
 
-TEST(KxMoverTracks, WhatThePanKeepsInPlaceTravelsBeforeTheBackground)
+TEST(KxMoverTracks, WhatThePanKeepsInPlaceTravelsInFrontOfTheBackground)
 {
     const auto tracks = Followed(
         30,
@@ -143,7 +143,7 @@ TEST(KxMoverTracks, WhatThePanKeepsInPlaceTravelsBeforeTheBackground)
     EXPECT_EQ(tracks.Movers().front().confidence, 1.0F);
 }
 
-TEST(KxMoverTracks, FlashesHereAndThereAreNoSubject)
+TEST(KxMoverTracks, RandomFlashesAreNoSubject)
 {
     cv::RNG anywhere(7);
     const auto tracks = Followed(200, [&anywhere](int) {
@@ -164,7 +164,29 @@ TEST(KxMoverTracks, AShortGapIsBridged)
     EXPECT_NEAR(CentreOf(tracks.ProfileAt(13, KxAxis::Across)), (32.0 + 6.0 * 13.0) / 320.0, 0.02);
 }
 
-TEST(KxMoverTracks, TwoMoversThatPassEachOtherStayTwo)
+TEST(KxMoverTracks, BoxesOfMissedSamplesLieOnTheLineBetweenTheirNeighbours)
+{
+    const auto tracks = Followed(30, [](int i) {
+        return i >= 12 && i < 15 ? std::vector<cv::Rect>() : std::vector<cv::Rect>{{10 + 9 * i, 20 + 4 * i, 24, 24}};
+    });
+    ASSERT_EQ(tracks.Movers().size(), 1U);
+    const KxMoverTracks::Mover& mover = tracks.Movers().front();
+    ASSERT_EQ(mover.boxes.size(), 30U);
+    const KxMoverTracks::Box before = mover.At(11);
+    const KxMoverTracks::Box after = mover.At(15);
+    ASSERT_GT(after.x - before.x, 0.09);
+    for (std::size_t missed = 1; missed <= 3; ++missed) {
+        const double part = static_cast<double>(missed) / 4.0;
+        const KxMoverTracks::Box box = mover.At(11 + missed);
+        constexpr double packing = 1.5 / 255.0;
+        EXPECT_NEAR(box.x, before.x + part * (after.x - before.x), packing) << missed;
+        EXPECT_NEAR(box.y, before.y + part * (after.y - before.y), packing) << missed;
+        EXPECT_NEAR(box.width, before.width + part * (after.width - before.width), 2.0 * packing) << missed;
+        EXPECT_NEAR(box.height, before.height + part * (after.height - before.height), 2.0 * packing) << missed;
+    }
+}
+
+TEST(KxMoverTracks, TwoMoversThatPassEachOtherStayTwoMovers)
 {
     const auto tracks = Followed(40, [](int i) {
         return std::vector<cv::Rect>{{10 + 7 * i, 40, 24, 24}, {290 - 7 * i, 110, 24, 24}};
@@ -197,7 +219,7 @@ TEST(KxMoverTracks, NothingMovesInEmptyMaps)
     EXPECT_EQ(tracks.ProfileAt(4, KxAxis::Across).Sum(), 0.0F);
 }
 
-TEST(KxMoverTracks, AMoverIsFollowedAtEachLevelAndWeighsAsOne)
+TEST(KxMoverTracks, AMoverIsFollowedAtEachLevelAndCountsOnce)
 {
     const auto place = [](int i) { return std::vector<cv::Rect>{{20 + 6 * i, 80, 24, 24}}; };
     const KxSubjectOptions::Movers options;
@@ -212,7 +234,7 @@ TEST(KxMoverTracks, AMoverIsFollowedAtEachLevelAndWeighsAsOne)
     EXPECT_NEAR(CentreOf(tracks.ProfileAt(15, KxAxis::Across)), CentreOf(alone), 0.005);
 }
 
-TEST(KxMoverTracks, WhetherTwoAreOneIsNotDecidedAtOnce)
+TEST(KxMoverTracks, WhetherTwoMoversAreOneChangesGradually)
 {
     EXPECT_LT(LargestStep({}), 0.5 * LargestStep(OneLevel()));
 }
