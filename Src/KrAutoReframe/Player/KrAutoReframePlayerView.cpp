@@ -94,6 +94,8 @@ void KrAutoReframePlayerView::ConnectSignals()
     if (m_helper) {
         connect(m_helper.data(), &KrAutoReframeHelper::sigCanUndoRedo, m_controlBar, &Bar::SetUndoRedoEnabled);
     }
+    connect(m_presenter, &KxMediaPlayerPresenter::sigFrameChanged, this, [this] { m_seeking.reset(); });
+    connect(m_presenter, &KxMediaPlayerPresenter::sigFailed, this, [this] { m_seeking.reset(); });
     connect(m_presenter, &KxMediaPlayerPresenter::sigPlayingChanged, this,
             [this] { RefreshFrame(m_presenter->currentFrame()); });
 }
@@ -203,7 +205,8 @@ void KrAutoReframePlayerView::RefreshButtons(int frame)
 void KrAutoReframePlayerView::SeekTo(uint frame)
 {
     const auto target = static_cast<int>(frame);
-    if (target >= 0) {
+    if (target >= 0 && m_seeking != target) {
+        m_seeking = target;
         m_presenter->seek(target, 0, 0);
     }
 }

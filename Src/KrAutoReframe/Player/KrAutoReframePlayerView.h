@@ -7,6 +7,7 @@
 #include <QSharedPointer>
 
 #include <memory>
+#include <optional>
 
 class KrAutoReframePlayerControlBar;
 class KxMediaPlayerPresenter;
@@ -63,6 +64,8 @@ private:
     /// be aimed and the outline would flicker.
     void RefreshOverlay(int frame);
     void RefreshButtons(int frame);
+    /// Does not repeat a seek whose picture is awaited: a held key would restart it and the picture would never be
+    /// shown.
     void SeekTo(uint frame);
     /// The player works on a copy of the keyframes, so the reframed video is opened again after each edit.
     void ShowEdit();
@@ -82,4 +85,6 @@ private:
     KrAutoReframePlayerControlBar* m_controlBar = nullptr;
     QSharedPointer<KrAutoReframeHelper> m_helper;
     bool m_isReframedShown = false;
+    /// The target of a seek to an edit whose picture is awaited.
+    std::optional<int> m_seeking;
 };

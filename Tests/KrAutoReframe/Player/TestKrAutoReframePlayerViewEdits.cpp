@@ -246,6 +246,28 @@ TEST_F(PlayerViewTest, SeeksToTheNeighbouringEdits)
     EXPECT_EQ(Calls(), QStringList{QStringLiteral("seek 80 0 0")});
 }
 
+TEST_F(PlayerViewTest, AHeldKeyDoesNotRestartTheSeekToAnEdit)
+{
+    ShowCrop();
+    Edit(20, Moved);
+    Edit(80, Moved);
+    ShowFrame(50);
+    Calls().clear();
+    Q_EMIT bar->sigNext();
+    Q_EMIT bar->sigNext();
+    const QString seek80 = QStringLiteral("seek 80 0 0");
+    EXPECT_EQ(Calls(), QStringList{seek80});
+    Q_EMIT bar->sigPrevious();
+    Q_EMIT bar->sigNext();
+    EXPECT_EQ(Calls(), (QStringList{seek80, QStringLiteral("seek 20 0 0"), seek80}));
+    ShowFrame(50);
+    Q_EMIT bar->sigNext();
+    EXPECT_EQ(Calls().size(), 4);
+    Q_EMIT presenter->sigFailed(QStringLiteral("Cannot show frame 80."));
+    Q_EMIT bar->sigNext();
+    EXPECT_EQ(Calls().size(), 5);
+}
+
 TEST_F(PlayerViewTest, SeeksNowhereWithoutANeighbour)
 {
     ShowCrop();
