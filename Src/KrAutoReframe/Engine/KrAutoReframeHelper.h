@@ -122,7 +122,6 @@ private:
 
     friend class AddCropKeyFrameCommand;
     friend class RemoveCropKeyFrameCommand;
-    friend struct KrAutoReframeHelperPeer;
 
     /// The mutex by its base class, whose fast path is inline: cheap once a frame, and seen by thread checkers, which
     /// are blind inside Qt's libraries.

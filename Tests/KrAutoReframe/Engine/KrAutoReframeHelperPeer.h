@@ -6,35 +6,21 @@
 
 #include <QMutexLocker>
 
-/// Looks at what the helper shows to nobody: the segments, and its mutex as a thread that holds it at a chosen moment.
-struct KrAutoReframeHelperPeer {
-    static QList<KrEditSegment> Segments(const KrAutoReframeHelper& helper) { return helper.m_segments; }
-    static QMap<uint, QRectF> EditPoints(const KrAutoReframeHelper& helper) { return helper.m_editPoints; }
-    static void SetSegments(KrAutoReframeHelper& helper, const QList<KrEditSegment>& segments)
-    {
-        helper.m_segments = segments;
-    }
-    static QMutex& Mutex(KrAutoReframeHelper& helper) { return helper.m_mutex; }
-    static void SetCanceled(KrAutoReframeHelper& helper) { helper.m_canceled = true; }
-    static bool IsFlushSuspended(const KrAutoReframeHelper& helper) { return helper.m_suspendFlush; }
+/// Access to the private state of a helper: its edits, its flags, and its mutex, which a test holds at a chosen moment.
+namespace KrAutoReframeHelperPeer
+{
+QList<KrEditSegment> Segments(const KrAutoReframeHelper& helper);
+QMap<uint, QRectF> EditPoints(const KrAutoReframeHelper& helper);
+void SetSegments(KrAutoReframeHelper& helper, const QList<KrEditSegment>& segments);
+QMutex& Mutex(KrAutoReframeHelper& helper);
+void SetCanceled(KrAutoReframeHelper& helper);
+bool IsFlushSuspended(const KrAutoReframeHelper& helper);
 
-    /// "start..end: point point; start..end: point" of all segments in order.
-    static QString Describe(const KrAutoReframeHelper& helper)
-    {
-        QStringList texts;
-        for (const KrEditSegment& segment : helper.m_segments) {
-            QString text =
-                QStringLiteral("%1..%2:").arg(QString::number(segment.start), QString::number(segment.End()));
-            for (const uint point : segment.points) {
-                text += QStringLiteral(" %1").arg(point);
-            }
-            texts << text;
-        }
-        return texts.join(QStringLiteral("; "));
-    }
-};
+/// "start..end: point point; start..end: point" of all segments in order.
+QString Describe(const KrAutoReframeHelper& helper);
+} // namespace KrAutoReframeHelperPeer
 
-/// A helper on a clip of the fake host, with what its tests ask again and again.
+/// A helper on a clip of the fake host, and the queries that its tests share.
 class HelperFixture
 {
 public:

@@ -5,7 +5,7 @@
 
 using testing::ElementsAre;
 using testing::IsEmpty;
-using Peer = KrAutoReframeHelperPeer;
+namespace Peer = KrAutoReframeHelperPeer;
 
 TEST_F(TestKrAutoReframeHelper, IsEmptyAtFirst)
 {

@@ -6,7 +6,7 @@
 
 #include <atomic>
 
-using Peer = KrAutoReframeHelperPeer;
+namespace Peer = KrAutoReframeHelperPeer;
 
 namespace
 {
