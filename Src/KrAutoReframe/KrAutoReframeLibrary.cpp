@@ -1,1 +1,1 @@
-// The shared library is made of the module's static library as a whole; CMake wants one source of its own.
+// The shared library consists of the module's whole static library; CMake requires one source of its own.

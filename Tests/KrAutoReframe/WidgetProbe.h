@@ -10,11 +10,11 @@
 #include <QStringList>
 #include <QWidget>
 
-/// How the tests of the module's widgets look at them and touch them.
+/// Functions to inspect and operate the module's widgets.
 namespace WidgetProbe
 {
 
-/// What `widget` itself paints, without its children and without what lies behind it.
+/// The picture of `widget` itself, without its children and background.
 inline QImage Paint(QWidget& widget)
 {
     QImage image(widget.size(), QImage::Format_ARGB32_Premultiplied);
@@ -23,7 +23,7 @@ inline QImage Paint(QWidget& widget)
     return image;
 }
 
-/// Paints at once whatever of the window waits to be painted, and nothing else.
+/// Paints the window's pending areas at once and delivers no other event.
 inline void PaintPending(QWidget& window)
 {
     QEvent request(QEvent::UpdateRequest);

@@ -17,11 +17,11 @@ class KrAutoReframePropertyPanel;
 class KxLabel;
 class KxProgressDialog;
 
-/// The tool dialog that an editor loads: a person analyses one video, adjusts the crop and exports the reframed result.
+/// The tool dialog that an editor loads: the user analyses one video, adjusts the crop and exports the reframed result.
 ///
-/// Life cycle: the host constructs it, hands it media (InitMediaItem) or a timeline (InitTimeline), runs it with
-/// DoModal() and deletes it; each run gets a dialog of its own. Media and timelines that the host hands over stay the
-/// host's and have to outlive the dialog. User-interface thread.
+/// Life cycle: the host constructs it, passes media (InitMediaItem) or a timeline (InitTimeline), runs it with
+/// DoModal() and deletes it; each run needs a new dialog. The host keeps the ownership of media and timelines, which
+/// have to outlive the dialog. User-interface thread.
 class KRAUTOREFRAME_API KrAutoReframeDialog : public KxFramelessDialog
 {
     Q_OBJECT
@@ -31,14 +31,14 @@ public:
     explicit KrAutoReframeDialog(QWidget* parent);
     ~KrAutoReframeDialog() override;
 
-    /// Takes the first item of `media` with a video stream as the source. Without one nothing but the list changes.
+    /// Takes the first item of `media` with a video stream as the source. Without one only the list changes.
     void InitMediaItem(const QList<IKxAbstractMedia*>& media);
-    /// Takes `timeline` as the source; its first clip names the file to analyse. Null changes nothing.
+    /// Takes `timeline` as the source; its first clip's file is analysed. Null changes nothing.
     void InitTimeline(IKxTimeline* timeline);
     /// Shows a file's name in the title bar; an empty one changes nothing.
     void UpdateProjectName(const QString& fileName);
     /// The system's own file chooser. `filter` is a list of zero-terminated pairs of name and patterns that ends with
-    /// an empty one. Paths come with slashes; the list is empty when the person cancelled. `caption` is not shown: the
+    /// an empty one. Paths have slashes; the list is empty if the user cancelled. `caption` is not shown: the
     /// system has its own title.
     QStringList GetOpenFileNames(const QString& caption, const QString& initialDir, const wchar_t* filter,
                                  QWidget* owner, bool multiSelect);
@@ -53,7 +53,7 @@ public:
     void slotExportToLocal();
 
 Q_SIGNALS:
-    /// The person wants the result as a file. `timeline` carries the keyframes and stays the dialog's: it is valid
+    /// The user wants the result as a file. `timeline` carries the keyframes and stays the dialog's: it is valid
     /// while the signal is delivered. `info` is a QVariantMap, the export record:
     /// - where: "path" (folder, native separators), "name" (file name without suffix), "org_file_name" (as typed);
     /// - how: "resolution" (QSize, pixels), "frame_rate" (float, frames a second, 0 where unknown), "video_bit_rate",

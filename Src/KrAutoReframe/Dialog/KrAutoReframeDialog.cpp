@@ -24,11 +24,11 @@
 namespace
 {
 
-constexpr int minimizeButton = 4;
-constexpr int maximizeButton = 16;
-constexpr int closeButton = 32;
-constexpr QSize titleSizePx(300, 24);
-constexpr int longestTitlePx = 268;
+constexpr int MinimizeButton = 4;
+constexpr int MaximizeButton = 16;
+constexpr int CloseButton = 32;
+constexpr QSize TitleSizePx(300, 24);
+constexpr int LongestTitlePx = 268;
 
 } // namespace
 
@@ -37,7 +37,7 @@ KrAutoReframeDialog::KrAutoReframeDialog(QWidget* parent)
 {
     SetBottomBarVisible(false);
     GetTitleBar()->SetResizeble(true);
-    GetTitleBar()->SetButtons(minimizeButton | maximizeButton | closeButton);
+    GetTitleBar()->SetButtons(MinimizeButton | MaximizeButton | CloseButton);
     m_process = new KrAutoReframeProcess(this);
     m_contentWidget = new QWidget(this);
     m_propertyPanel = new KrAutoReframePropertyPanel(this);
@@ -58,7 +58,7 @@ KrAutoReframeDialog::KrAutoReframeDialog(QWidget* parent)
 
 KrAutoReframeDialog::~KrAutoReframeDialog()
 {
-    // The player may still read the file, and the task analyse it: both stop before the item goes.
+    // The player may still read the file and the task may still analyse it; both stop before the item is released.
     m_playerView->Pause();
     m_process->StopProcess();
     releaseMediaItem(m_importedMedia);
@@ -80,8 +80,8 @@ void KrAutoReframeDialog::InitLayout()
 
 void KrAutoReframeDialog::ConnectSignal()
 {
-    connect(GetTitleBar()->GetButton(minimizeButton), &QAbstractButton::clicked, this, [this] { MinimizeHost(); });
-    connect(GetTitleBar()->GetButton(closeButton), &QAbstractButton::clicked, this,
+    connect(GetTitleBar()->GetButton(MinimizeButton), &QAbstractButton::clicked, this, [this] { MinimizeHost(); });
+    connect(GetTitleBar()->GetButton(CloseButton), &QAbstractButton::clicked, this,
             [] { SendClickEvent(QStringLiteral("close_window")); });
     connect(m_propertyPanel, &KrAutoReframePropertyPanel::sigImportFile, this,
             &KrAutoReframeDialog::slotOpenImportDialog);
@@ -157,11 +157,11 @@ void KrAutoReframeDialog::UpdateProjectName(const QString& fileName)
     }
     const QString base = QFileInfo(fileName).completeBaseName();
     const QString suffix = QFileInfo(fileName).suffix();
-    const QString elided = StringOperation::GetElidedString(base, m_titleLabel->font(), longestTitlePx, Qt::ElideRight);
-    // The blank keeps the ellipsis and the dot of the suffix apart.
+    const QString elided = StringOperation::GetElidedString(base, m_titleLabel->font(), LongestTitlePx, Qt::ElideRight);
+    // The space separates the ellipsis from the dot of the suffix.
     const QString text = elided == base ? elided + QLatin1Char('.') + suffix : elided + QStringLiteral(" .") + suffix;
-    m_titleLabel->setGeometry((width() - titleSizePx.width()) / 2, (GetTitleBar()->height() - titleSizePx.height()) / 2,
-                              titleSizePx.width(), titleSizePx.height());
+    m_titleLabel->setGeometry((width() - TitleSizePx.width()) / 2, (GetTitleBar()->height() - TitleSizePx.height()) / 2,
+                              TitleSizePx.width(), TitleSizePx.height());
     m_titleLabel->setText(text);
 }
 

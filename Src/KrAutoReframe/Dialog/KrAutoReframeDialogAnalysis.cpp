@@ -12,9 +12,9 @@ namespace
 {
 
 /// The number of the analysis among the host's algorithms.
-constexpr int autoReframeAlgorithm = 4;
+constexpr int AutoReframeAlgorithm = 4;
 
-/// Once for the whole process: a person who was told that the machine is too weak, and tries again, is let through.
+/// Once per process: if the notice about a weak machine was shown, the next attempt is allowed.
 bool unsupportedNoticeWasRequested = false;
 
 } // namespace
@@ -22,9 +22,9 @@ bool unsupportedNoticeWasRequested = false;
 void KrAutoReframeDialog::slotStartAnalysis()
 {
     m_playerView->Pause();
-    // The name is the event's own, misspelling included: reports of years are kept under it.
+    // The misspelling is part of the event's name: earlier reports are stored under it.
     SendClickEvent(QStringLiteral("anlyze_btn"));
-    if (!unsupportedNoticeWasRequested && !KxConfig::Instance().algorithmEnabled(autoReframeAlgorithm)) {
+    if (!unsupportedNoticeWasRequested && !KxConfig::Instance().algorithmEnabled(AutoReframeAlgorithm)) {
         Q_EMIT sigShowUnsupportDlg();
         unsupportedNoticeWasRequested = true;
         return;

@@ -10,7 +10,7 @@
 
 bool KrAutoReframeDialog::AskToExit(const QString& refuseText)
 {
-    // "AutoReframe_Exit" is a key; the translation files hold the text that is shown.
+    // "AutoReframe_Exit" is a key; the translation files contain the text.
     return KrMessageDialog::Question_CustomYesNo(tr("Are you sure you want to exit?"), refuseText,
                                                  tr("AutoReframe_Exit"), this, KrStandardButton::No, QString(),
                                                  tr("Auto Reframe"), KrMessageType::Question);
@@ -33,7 +33,7 @@ void KrAutoReframeDialog::closeEvent(QCloseEvent* event)
 void KrAutoReframeDialog::keyPressEvent(QKeyEvent* event)
 {
     const bool asks = event->key() == Qt::Key_Escape && HasSource();
-    // The refusing button is labelled "No" here and "Cancel" on the title bar's way out: people know both texts.
+    // The refusing button is labelled "No" here and "Cancel" after a click on the title bar's close button.
     if (asks && !AskToExit(tr("No"))) {
         event->ignore();
         return;
@@ -43,7 +43,7 @@ void KrAutoReframeDialog::keyPressEvent(QKeyEvent* event)
         m_playerView->close();
     }
     KxDialog::keyPressEvent(event);
-    // The base takes Escape alone for a way out; held with another key it was agreed to all the same.
+    // The base closes on Escape without modifiers only, but the user has agreed to exit.
     if (asks && isVisible()) {
         reject();
     }

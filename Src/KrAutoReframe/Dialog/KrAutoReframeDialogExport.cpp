@@ -20,8 +20,8 @@
 namespace
 {
 
-/// The number by which usage reports know an aspect ratio. The host's conversion does not know 4:5, which reports count
-/// all the same.
+/// The number of an aspect ratio in usage reports. The host's conversion does not know 4:5, which has a number of its
+/// own there.
 int TrackRatio(int width, int height)
 {
     constexpr int fourToFive = 5;

@@ -23,20 +23,20 @@
 namespace
 {
 
-/// Characters that the system's chooser may fill: enough for thousands of chosen files.
-constexpr std::size_t bufferLength = 260000;
-/// The longest folder that the system's chooser gives.
-constexpr std::size_t longestFolder = 260;
+/// Characters for the system chooser's answer: enough for thousands of files.
+constexpr std::size_t BufferLength = 260000;
+/// The longest folder that the system's chooser returns, in characters.
+constexpr std::size_t LongestFolder = 260;
 
-/// Adds to `lines` the chosen paths, one a line, out of what the chooser left: a folder of `nameOffset` characters,
-/// then names. False when the folder or the whole list is too long.
+/// Appends the chosen paths to `lines`, one a line. `chosen` is the chooser's answer: a folder of `nameOffset`
+/// characters, then names. False when the folder or the list is too long.
 bool JoinPaths(const std::vector<wchar_t>& chosen, std::size_t nameOffset, std::wstring& lines)
 {
-    if (nameOffset > longestFolder) {
+    if (nameOffset > LongestFolder) {
         KX_LOG_ERROR(QStringLiteral("the chosen folder is too long"));
         return false;
     }
-    // With several files a zero ends the folder; it does not belong to it.
+    // With several files the folder is zero-terminated.
     const auto folderEnd = chosen.begin() + static_cast<std::ptrdiff_t>(nameOffset);
     std::wstring folder(chosen.begin(), std::find(chosen.begin(), folderEnd, L'\0'));
     if (folder.empty() || (folder.back() != L'\\' && folder.back() != L'/')) {
@@ -46,7 +46,7 @@ bool JoinPaths(const std::vector<wchar_t>& chosen, std::size_t nameOffset, std::
     while (name != chosen.end() && *name != L'\0') {
         const auto nameEnd = std::find(name, chosen.end(), L'\0');
         const auto lineLength = folder.size() + static_cast<std::size_t>(nameEnd - name) + 1;
-        if (lines.size() + lineLength >= bufferLength) {
+        if (lines.size() + lineLength >= BufferLength) {
             KX_LOG_ERROR(QStringLiteral("the list of chosen files is too long"));
             return false;
         }
@@ -73,7 +73,7 @@ void KrAutoReframeDialog::slotOpenImportDialog()
     m_sourceSuffix = QFileInfo(path).suffix();
     KX_LOG_INFO(QStringLiteral("select file: %1, suffix: %2").arg(path, m_sourceSuffix));
     qDebug() << "get file name:" << path << "file suffix: " << m_sourceSuffix;
-    // A link to the web is no file of its own.
+    // A web shortcut is not a video.
     if (m_sourceSuffix.contains(QLatin1String("url"), Qt::CaseInsensitive)) {
         ShowInformation(tr("Unknown error, please try again"));
         return;
@@ -97,8 +97,8 @@ QStringList KrAutoReframeDialog::GetOpenFileNames(const QString&, const QString&
     std::vector<wchar_t> chosen;
     std::wstring lines;
     try {
-        chosen.assign(bufferLength, L'\0');
-        lines.reserve(bufferLength);
+        chosen.assign(BufferLength, L'\0');
+        lines.reserve(BufferLength);
     } catch (const std::bad_alloc&) {
         return {};
     }
@@ -111,7 +111,7 @@ QStringList KrAutoReframeDialog::GetOpenFileNames(const QString&, const QString&
     }
     request.lpstrFilter = filter;
     request.lpstrFile = chosen.data();
-    request.nMaxFile = bufferLength;
+    request.nMaxFile = BufferLength;
     request.lpstrInitialDir = folder.c_str();
     request.Flags = OFN_EXPLORER | OFN_FILEMUSTEXIST | OFN_PATHMUSTEXIST;
     if (multiSelect) {

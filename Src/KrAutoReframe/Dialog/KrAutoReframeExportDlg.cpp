@@ -15,12 +15,12 @@
 namespace
 {
 
-const QString settingsGroup = QStringLiteral("Auto Reframe");
-const QString outputPathKey = QStringLiteral("OutputPath");
-constexpr QSize fieldSizePx(219, 24);
-constexpr int captionWidthPx = 100;
-constexpr int longestName = 42;
-constexpr int primaryButton = 0;
+const QString SettingsGroup = QStringLiteral("Auto Reframe");
+const QString OutputPathKey = QStringLiteral("OutputPath");
+constexpr QSize FieldSizePx(219, 24);
+constexpr int CaptionWidthPx = 100;
+constexpr int LongestName = 42;
+constexpr int PrimaryButton = 0;
 
 QString ConfigFile()
 {
@@ -30,7 +30,7 @@ QString ConfigFile()
 KxLabel* MakeCaption(QWidget* parent)
 {
     KxLabel* const caption = KxLabel::CreateLabel(parent, QString());
-    caption->setFixedWidth(captionWidthPx);
+    caption->setFixedWidth(CaptionWidthPx);
     caption->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     return caption;
 }
@@ -49,19 +49,19 @@ KrAutoReframeExportDlg::~KrAutoReframeExportDlg() = default;
 
 void KrAutoReframeExportDlg::InitUi()
 {
-    m_nameEdit = KxLineEdit::creartNormalLineEdit(this, fieldSizePx.height());
+    m_nameEdit = KxLineEdit::creartNormalLineEdit(this, FieldSizePx.height());
     m_nameEdit->setObjectName(QStringLiteral("KrAutoReframeExport_name"));
-    m_nameEdit->setFixedSize(fieldSizePx);
+    m_nameEdit->setFixedSize(FieldSizePx);
     m_nameLabel = MakeCaption(this);
     m_pathEdit = KxOpenFileLineEdit::CreateOpenFileLineEdit(this);
     m_pathEdit->setObjectName(QStringLiteral("KrAutoReframeExport_folder"));
-    m_pathEdit->setFixedSize(fieldSizePx);
+    m_pathEdit->setFixedSize(FieldSizePx);
     m_pathLabel = MakeCaption(this);
-    m_exportButton = GetButtonBar()->AddPushButton_R(primaryButton, -1);
+    m_exportButton = GetButtonBar()->AddPushButton_R(PrimaryButton, -1);
     m_exportButton->setObjectName(QStringLiteral("KrAutoReframeExport_export"));
     m_exportButton->setFixedWidth(104);
     m_nameEdit->SetFileNameValidator(true);
-    m_nameEdit->setMaxLength(longestName);
+    m_nameEdit->setMaxLength(LongestName);
     m_pathEdit->SetText(LoadOutputPath());
     SetContentWidget(MakeForm());
     resize(480, 208);
@@ -84,7 +84,7 @@ QWidget* KrAutoReframeExportDlg::MakeForm()
 void KrAutoReframeExportDlg::ConnectSignals()
 {
     connect(m_exportButton, &QAbstractButton::clicked, this, &KrAutoReframeExportDlg::slotExportButtonClicked);
-    // While a person types, an empty field is a step on the way to another name; it counts when they have done.
+    // The field may be empty while the user types another name, so it is checked at the end of editing.
     connect(m_nameEdit, &QLineEdit::editingFinished, this, &KrAutoReframeExportDlg::RestoreDefaultName);
     connect(m_pathEdit, &KxOpenFileLineEdit::sigTextChanged, this, &KrAutoReframeExportDlg::SaveOutputPath);
 }
@@ -104,16 +104,16 @@ QString KrAutoReframeExportDlg::LoadOutputPath()
         return m_defaultOutputDir;
     }
     QSettings settings(ConfigFile(), QSettings::IniFormat);
-    settings.beginGroup(settingsGroup);
-    const QString saved = settings.value(outputPathKey).toString();
+    settings.beginGroup(SettingsGroup);
+    const QString saved = settings.value(OutputPathKey).toString();
     return !saved.isEmpty() && QFileInfo(saved).isDir() ? saved : m_defaultOutputDir;
 }
 
 void KrAutoReframeExportDlg::SaveOutputPath(const QString& path) const
 {
     QSettings settings(ConfigFile(), QSettings::IniFormat);
-    settings.beginGroup(settingsGroup);
-    settings.setValue(outputPathKey, path);
+    settings.beginGroup(SettingsGroup);
+    settings.setValue(OutputPathKey, path);
 }
 
 void KrAutoReframeExportDlg::RestoreDefaultName()

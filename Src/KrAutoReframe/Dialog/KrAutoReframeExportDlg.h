@@ -11,8 +11,8 @@ class KxLineEdit;
 class KxOpenFileLineEdit;
 class KxPushButton;
 
-/// Asks for name and folder of an export, checks them, and carries the parameters of the export to the record that the
-/// host gets. Lives for one export; the folder is remembered in the host's configuration file. User-interface thread.
+/// Asks for the name and folder of an export, checks them and adds the export's parameters to the record that the host
+/// gets. Lives for one export; the folder is stored in the host's configuration file. User-interface thread.
 class KrAutoReframeExportDlg : public KxFramelessDialog
 {
     Q_OBJECT
@@ -35,14 +35,14 @@ public:
     void SetTrackRatio(int trackRatio);
     void SetEstimatedSize(qint64 bytes);
 
-    /// Without line feeds and without what no file name may hold.
+    /// Without line feeds and characters that a file name cannot contain.
     QString GetOutputName() const;
-    /// With native separators and without one at its end.
+    /// With native separators and without a trailing one.
     QString GetOutputPath() const;
     /// The export record, a QVariantMap.
     QVariant GetExportInfo() const;
 
-    /// Checks name and folder; closes with result 1 when all is well, else says what is wrong and stays open.
+    /// Checks name and folder. Closes with result 1 if both are usable; otherwise shows the reason and stays open.
     void slotExportButtonClicked();
 
 protected:

@@ -14,10 +14,10 @@
 namespace
 {
 
-constexpr int longestPath = 260;
+constexpr int LongestPath = 260;
 
-/// A drive's letter stands for its file system; any other path is asked for whole, so that the answer is for the file
-/// system that holds the folder.
+/// The path whose free space is checked: a drive is enough for its file system; any other path is used whole, because
+/// another file system may be mounted below its root.
 QString WhereSpaceIsNeeded(const QString& path)
 {
     return path.size() >= 2 && path.at(1) == QLatin1Char(':') ? path.left(2) : path;
@@ -57,7 +57,7 @@ QVariant KrAutoReframeExportDlg::GetExportInfo() const
     info.insert(QStringLiteral("frame_rate"), m_frameRate);
     info.insert(QStringLiteral("video_bit_rate"), m_videoBitRate);
     info.insert(QStringLiteral("audio_bit_rate"), m_audioBitRate);
-    // The two keys are spelt so wherever records are read.
+    // Readers of the record expect this spelling of the two keys.
     info.insert(QStringLiteral("radio_w"), m_ratioWidth);
     info.insert(QStringLiteral("radio_h"), m_ratioHeight);
     info.insert(QStringLiteral("speed"), m_speed);
@@ -84,7 +84,7 @@ void KrAutoReframeExportDlg::slotExportButtonClicked()
         ShowInformation(tr("Please check write permission, or choose another path to continue."));
         return;
     }
-    if (path.length() + 1 + name.length() >= longestPath) {
+    if (path.length() + 1 + name.length() >= LongestPath) {
         ShowInformation(tr("The outputted file path is too long, please choose another path to continue."));
         return;
     }

@@ -9,7 +9,7 @@
 
 #include <mutex>
 
-/// What one analysis is asked for.
+/// The request for one analysis.
 struct KrAutoReframeAnalyzeParam {
     /// The media file.
     QString path;

@@ -21,7 +21,7 @@ class IKxCropPanZoomKeyFrameHelper;
 class IKxTimeline;
 class QUndoStack;
 
-/// Everything that follows an analysis: a working copy of the source timeline, the keyframes in its first clip, the
+/// The state that follows an analysis: a working copy of the source timeline, the keyframes in its first clip, the
 /// user's edit points with their undo stack, and the rectangle of each frame that the player shows.
 ///
 /// User-interface thread. The keyframes of a whole analysis are made by one task at a time on the global thread pool.
@@ -92,15 +92,15 @@ public:
     /// list before it writes to it.
     const QList<IKxAutoReframeResult>& GetDisplayResults() const;
 
-    /// The edit of AddCropKeyFrameCommand: `rect` takes over one second of frames on both sides of `frame`, merged with
-    /// the segments that it meets. The walk over the segments steps on after one was taken out, so the one that moves
-    /// into its place is looked at by the next edit only; undo restores by snapshot whatever this leaves.
+    /// The edit of AddCropKeyFrameCommand: `rect` affects one second of frames on both sides of `frame`, merged with
+    /// the segments that it meets. After a segment was merged, the one that follows it is skipped in this edit; undo
+    /// restores the segments whatever the result.
     FrameRange DoAddKeyFrame(const uint& frame, const QRectF& rect);
-    /// The edit of RemoveCropKeyFrameCommand: the first segment that has the edit point gives it up.
+    /// The edit of RemoveCropKeyFrameCommand: removes the edit point from the first segment that has it.
     FrameRange DoRemoveKeyFrame(const uint& frame);
-    /// Rebuilds the keyframes of a range after the edits were put back. Each segment wholly inside is rebuilt from
-    /// `from` on, in order, and the rest after the last one comes from the results; so a later segment lays results
-    /// over an earlier one.
+    /// Rebuilds the keyframes of a range after the edits were restored. Each segment inside it is rebuilt from `from`
+    /// on, in order, and the rest after the last one from the results; so a later segment overwrites an earlier one
+    /// with results.
     void RestoreRange(uint from, uint to);
 
 Q_SIGNALS:
@@ -123,8 +123,8 @@ private:
     friend class AddCropKeyFrameCommand;
     friend class RemoveCropKeyFrameCommand;
 
-    /// The mutex by its base class, whose fast path is inline: cheap once a frame, and seen by thread checkers, which
-    /// are blind inside Qt's libraries.
+    /// The mutex as its base class, whose inline fast path is cheap enough for each frame and visible to thread
+    /// checkers, which cannot see into Qt's libraries.
     QBasicMutex& Guard() const { return m_mutex; }
 
     void ReadClipFacts(const IKxTimeline& timeline);
@@ -150,7 +150,7 @@ private:
     void UpdateDisplayResults(const KrFrameRange& changed);
     /// The frames whose rectangle depends on a keyframe in `changed`: up to the keyframes around it.
     KrFrameRange AffectedFrames(const KrFrameRange& changed) const;
-    /// Shows what of `segment` lies in `frames`.
+    /// Shows the part of `segment` in `frames`.
     void ShowSegment(const KrEditSegment& segment, const KrFrameRange& frames);
 
     QFutureWatcher<void>* m_watcher;
@@ -159,7 +159,7 @@ private:
     bool m_canceled = false;
     /// A task was started and its end was not delivered yet.
     bool m_isEndDue = false;
-    /// What the running task replaces; empty for the first application, and after an edit of the task's results.
+    /// The state that the running task replaces; empty for the first application and after an edit of its results.
     std::optional<AppliedResults> m_earlier;
     /// While set, a rebuilt range is not pushed to the host.
     bool m_suspendFlush = false;

@@ -64,7 +64,7 @@ private:
     void HandleApplyProgress(double progress);
     void HandleAnalyzeFinished(bool success);
 
-    /// Receives what the service's and the worker's thread report, so that the queued part of it can be dropped.
+    /// Receives the signals of the service's and the worker's thread, so that queued ones can be dropped.
     QObject* m_jobEvents;
     QString m_path;
     std::shared_ptr<KrAutoReframeAnalyzer> m_analyzer;

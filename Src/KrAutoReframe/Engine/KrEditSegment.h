@@ -4,7 +4,7 @@
 
 #include <vector>
 
-/// A range of frames that edit points have taken over from the analysis. A plain record; its operations are pure.
+/// A range of frames in which edit points replace the analysis. A plain record; its operations are pure.
 struct KrEditSegment {
     /// First frame of the range.
     uint start = 0;

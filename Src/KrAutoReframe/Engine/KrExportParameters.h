@@ -5,7 +5,7 @@
 #include <QRectF>
 #include <QSize>
 
-/// The rules by which the facts of a source become the parameters of an export. Pure.
+/// The rules that derive export parameters from a source. Pure.
 namespace KrExportParameters
 {
 constexpr float DefaultFrameRate = 25.0F;

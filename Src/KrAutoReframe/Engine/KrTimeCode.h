@@ -2,10 +2,10 @@
 
 #include <QString>
 
-/// Time as the player's label shows it.
+/// Time text for the player's label.
 namespace KrTimeCode
 {
-/// Down to what a time is written.
+/// The smallest unit in the text.
 enum class Detail { Seconds, Frames };
 
 /// The time of `frame` (0 or more) as "HH:MM:SS", with `Detail::Frames` "HH:MM:SS:FF"; hours may have three digits.

@@ -175,7 +175,7 @@ void KrAutoReframePlayerControlBar::SlotUpdateSliderPaint(QList<uint> frameIndex
         return;
     }
     marks->SetEditFrames(frameIndexs);
-    // The slider takes an empty list without a repaint, which would leave the old marks on the screen.
+    // The slider does not repaint for an empty list, so the old marks would remain on the screen.
     if (frameIndexs.isEmpty() || m_undoButton->isEnabled() != m_redoButton->isEnabled()) {
         marks->update();
     }

@@ -10,11 +10,11 @@ class KxMediaPlayerPresenter;
 class KxToolButton;
 
 /// The bar under the preview: the edit-point slider, and below it the editing buttons, the transport buttons and the
-/// time. It turns clicks and shortcuts into signals; what they do, and which buttons are enabled, is its owner's.
+/// time. It turns clicks and shortcuts into signals; its owner acts on them and decides which buttons are enabled.
 /// User-interface thread.
 ///
-/// The editing buttons start enabled, the transport buttons disabled. Without a presenter the bar is deaf: none of its
-/// connections is made.
+/// Initially the editing buttons are enabled and the transport buttons disabled. Without a presenter the bar makes no
+/// connections.
 class KrAutoReframePlayerControlBar : public KxPlayerToolBarBase
 {
     Q_OBJECT
@@ -30,14 +30,13 @@ public:
     bool IsUndoRedoEnabled() const;
     void SetDeleteEnabled(bool isEnabled);
     void SetPrevNextEnabled(bool hasPrevious, bool hasNext);
-    /// Enables play/pause, stop and forward. Backward stays as it is: the edit points are the way back.
+    /// Enables play/pause, stop and forward. Backward is unchanged.
     void EnableTransport();
 
     void updateToolTip() override;
 
 Q_SIGNALS:
-    // A shortcut emits its signal even while its button is disabled: the listener knows best whether there is something
-    // to do.
+    // A shortcut emits its signal even while its button is disabled; the listener decides whether it applies.
     void sigDelete();
     void sigPrevious();
     void sigNext();

@@ -9,7 +9,7 @@
 /// The player's position slider with a mark at each edited frame, and a coloured disc on its handle while the current
 /// frame is one. Range and value count frames. User-interface thread; the duration is above 0.
 ///
-/// The marks stand on a widget of their own between slider and handle: the slider paints itself as ever, and the handle
+/// The marks are painted on a widget between slider and handle: the slider's own painting is unchanged and the handle
 /// stays on top.
 class KrAutoReframePlayerToolSlider : public KxToolSlider
 {
@@ -17,34 +17,33 @@ class KrAutoReframePlayerToolSlider : public KxToolSlider
     Q_DISABLE_COPY_MOVE(KrAutoReframePlayerToolSlider)
 
 public:
-    /// The style sheet tells the two kinds apart by the property "sliderType": "normal" or "small".
+    /// The style sheet distinguishes the two kinds by the property "sliderType": "normal" or "small".
     static KrAutoReframePlayerToolSlider* CreateNormalSlider(QWidget* parent, Qt::Orientation orientation);
     static KrAutoReframePlayerToolSlider* CreateSmallSlider(QWidget* parent, Qt::Orientation orientation);
 
     KrAutoReframePlayerToolSlider(QWidget* parent, Qt::Orientation orientation);
     ~KrAutoReframePlayerToolSlider() override;
 
-    /// Replaces the marks; none are taken without a repaint. When the media's last frame is among them the duration
-    /// itself joins the list as one more entry, so that there is a mark, and a stop for the search, at the slider's
-    /// very end.
+    /// Replaces the marks; an empty list causes no repaint. If the media's last frame is among them, the duration is
+    /// added as another entry, so that the slider's end has a mark that the searches find.
     void SetEditFrames(const QList<uint>& frames);
 
     /// Widths in pixels.
     void SetMarkStyle(const QColor& penColor, double penWidth, const QColor& fillColor, int markWidth);
-    /// Only `editedColor` is painted with so far; the others are kept for handles that are drawn without a style sheet.
+    /// Only `editedColor` is painted; the others are stored for handles without a style sheet.
     void SetChunkStyle(const QColor& color1, int width, const QColor& color2, const QColor& editedColor);
 
 public Q_SLOTS:
-    /// Adds the frame at the end of the list, or moves it there.
+    /// Appends the frame to the list, or moves it to the end.
     void slotOnAddOneEdit(uint frameIndex);
     void slotOnDelOneEdit(uint frameIndex);
     void slotOnDelAllEdit();
-    /// Moves the slider to the last edited frame before its position; unlike the search ahead it logs only what it
-    /// found, as standing at the first edited frame is nothing to look into.
+    /// Moves the slider to the last edited frame before its position. Unlike the forward search, it logs nothing if
+    /// there is none.
     void slotOnToPreEdit();
     /// Moves the slider to the first edited frame after its position.
     void slotOnToNextEdit();
-    /// Repaints nothing: whoever changes the frame moves the handle, and that does.
+    /// Does not repaint: a change of the frame also moves the handle, which repaints.
     void slotRealCurrentFrame(uint frameIndex);
 
 protected:

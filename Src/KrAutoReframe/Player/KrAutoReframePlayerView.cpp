@@ -41,7 +41,7 @@ QSharedPointer<KrAutoReframeHelper> ShareHelper(const std::shared_ptr<KrAutoRefr
     if (!helper) {
         return {};
     }
-    // The deleter's copy is the share; it goes when the last of these pointers does.
+    // The deleter's copy keeps the helper alive until the last of these pointers is gone.
     return QSharedPointer<KrAutoReframeHelper>(helper.get(), [share = helper](KrAutoReframeHelper*) {});
 }
 

@@ -14,11 +14,11 @@ class KxMediaPlayerPresenter;
 class KxMediaPlayerWidget;
 class ShadowForm;
 
-/// The same helper with a share in its life, as the player view takes it; null for null.
+/// A pointer to the same helper that shares its ownership; null for null.
 QSharedPointer<KrAutoReframeHelper> ShareHelper(const std::shared_ptr<KrAutoReframeHelper>& helper);
 
-/// The preview: a player with its control bar, and over the picture the crop of the current frame, which the person can
-/// move. Moving it makes the frame an edited one. It wires overlay, bar, player and helper together and owns no
+/// The preview: a player with its control bar, and over the picture the crop of the current frame, which the user can
+/// move. Moving it makes the frame an edited one. The view connects overlay, bar, player and helper; it owns no
 /// keyframes.
 ///
 /// Without a helper it only plays. User-interface thread.
@@ -35,24 +35,24 @@ public:
     void Pause();
     void Play();
 
-    /// Shows the reframed timeline, or the source with the crop over it: the crop is edited over the whole picture
-    /// only. Without `fromStart` the player goes on at the frame that it showed. False, with nothing done, when there
-    /// are no results.
+    /// Shows the reframed timeline, or the source with the crop over it: the crop is edited only over the whole
+    /// picture. Without `fromStart` the player stays at the current frame. Without results it does nothing and returns
+    /// false.
     bool SwitchTimeline(bool reframed, bool fromStart);
     /// Places the overlay over the video picture. Call it when the dialog was moved: the overlay is a window of its
     /// own, unless windows cannot overlay each other. The picture's position is used as the player reports it; only its
     /// size is converted from device pixels.
     void UpdateOverlayGeometry();
-    /// Sizes what stands for the picture in the overlay.
+    /// Sets the size of the overlay's picture.
     void UpdatePictureSize();
-    /// Shows the crop of `frame` and brings buttons and marks up to date. A negative frame changes nothing; a frame
-    /// just after the last result shows the last one, a later one changes the marks alone.
+    /// Shows the crop of `frame` and updates buttons and marks. A negative frame changes nothing; the frame after the
+    /// last result shows the last result; a later one only updates the marks.
     void RefreshFrame(int frame);
 
 protected:
     void moveEvent(QMoveEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
-    /// Hides the overlay and no more.
+    /// Only hides the overlay.
     void closeEvent(QCloseEvent* event) override;
 
 private:

@@ -23,7 +23,7 @@ constexpr int ImportHeightPx = 81;
 constexpr int ImportIconPx = 30;
 constexpr int ButtonWidthPx = 225;
 constexpr int ButtonHeightPx = 32;
-// Pulls a box up to its caption.
+// Moves a box closer to its caption.
 constexpr int CaptionGapPx = -8;
 
 } // namespace
@@ -62,7 +62,7 @@ void KrAutoReframePropertyPanel::InitUi()
     m_motionSpeedCombo = KxComboBox::CreateComboBox(this);
     m_aspectRatioCombo->setObjectName(QStringLiteral("KrAutoReframePropertyPanel_aspectRatio"));
     m_motionSpeedCombo->setObjectName(QStringLiteral("KrAutoReframePropertyPanel_motionSpeed"));
-    // A screen reader tells a box by the label whose buddy it is.
+    // A screen reader names a box by the label whose buddy it is.
     m_aspectRatioLabel->setBuddy(m_aspectRatioCombo);
     m_motionSpeedLabel->setBuddy(m_motionSpeedCombo);
 

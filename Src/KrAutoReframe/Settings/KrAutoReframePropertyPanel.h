@@ -8,8 +8,8 @@ class KxPushButton;
 class KxToggleSwitch;
 class KxToolButton;
 
-/// The settings column: it shows controls and tells of clicks; what they lead to, and when which control is enabled, is
-/// its owner's. User-interface thread.
+/// The settings column: shows controls and reports clicks. Its owner acts on the clicks and decides which controls are
+/// enabled. User-interface thread.
 class KrAutoReframePropertyPanel : public KxWidget
 {
     Q_OBJECT
@@ -21,19 +21,19 @@ public:
 
     void RetranslateUi() override;
 
-    /// The chosen aspect ratio as whole numbers, and the speed as the analysis takes it: 8 fast, 16 auto, 24 slow.
+    /// The chosen aspect ratio as whole numbers, and the speed in the analysis's values: 8 fast, 16 auto, 24 slow.
     void GetParameters(int& ratioWidth, int& ratioHeight, int& motionSpeed) const;
-    /// The number by which usage reports know a speed; -1 for a speed that is not offered.
+    /// The number of a speed in usage reports; -1 for a speed that is not offered.
     int MotionSpeedToTrackValue(int motionSpeed) const;
 
-    /// A file is there from now on: it can only be replaced.
+    /// Call it when a file was imported: from then on it can only be replaced.
     void OnFileImported();
-    /// Also brings the analyse button back: the next analysis counts as the first one again.
+    /// Also restores the analyse button: the next analysis counts as the first one again.
     void SetParameterEnabled(bool isEnabled);
-    /// Preview switch and export button. A switch that is off is put on first, without a signal: the preview starts
-    /// over with the source video.
+    /// Preview switch and export button. A switch that is off is first turned on without a signal: the preview restarts
+    /// with the source video.
     void SetPreviewEnabled(bool isEnabled);
-    /// After the first analysis the restart button takes the analyse button's place.
+    /// After the first analysis the restart button replaces the analyse button.
     void OnAnalysisFinished();
 
 Q_SIGNALS:

@@ -59,7 +59,7 @@ public:
     }
 
     QTemporaryDir folder;
-    /// What the person answers to a question.
+    /// The user's answer to a question.
     bool confirms = true;
     std::vector<KrMessageDialog::Shown> boxes;
     /// The files or the folder that the person picks.

@@ -9,7 +9,7 @@
 namespace
 {
 
-/// What the chooser is to leave in the record, and the record that it was given.
+/// The answer that the chooser writes to the record, and the record that it was given.
 struct Chooser {
     int answer = 1;
     std::wstring buffer;
@@ -28,7 +28,7 @@ Chooser& TheChooser()
 
 } // namespace
 
-// The program's own takes the place of the host's.
+// The program's definition replaces the host's.
 int GetOpenFileNameW(OPENFILENAMEW* request)
 {
     Chooser& chooser = TheChooser();
@@ -92,7 +92,7 @@ TEST_F(GetOpenFileNamesTest, FillsTheRecord)
     EXPECT_EQ(TheChooser().calls, 2);
 }
 
-TEST_F(GetOpenFileNamesTest, OneFileComesWithItsFolder)
+TEST_F(GetOpenFileNamesTest, OneFileIsReturnedWithItsFolder)
 {
     EXPECT_EQ(Ask(L"C:\\v\\a.mp4", 5), Native({QStringLiteral("C:\\v\\a.mp4")}));
     EXPECT_EQ(Ask(L"/v/a.mp4", 3), QStringList{QStringLiteral("/v/a.mp4")});
@@ -112,7 +112,7 @@ TEST_F(GetOpenFileNamesTest, AFolderThatEndsInASeparatorGetsNoSecondOne)
               (QStringList{QStringLiteral("/a.mp4"), QStringLiteral("/b.mp4")}));
 }
 
-TEST_F(GetOpenFileNamesTest, CancelledThereIsNothing)
+TEST_F(GetOpenFileNamesTest, CancelledItReturnsNothing)
 {
     TheChooser().answer = 0;
     EXPECT_TRUE(Ask(L"C:\\v\\a.mp4", 5).isEmpty());

@@ -38,7 +38,7 @@ protected:
 } // namespace
 
 // One test, as the notice is asked for once in a process.
-TEST_F(CapabilityTest, AMachineThatIsTooWeakIsToldOnce)
+TEST_F(CapabilityTest, AMachineThatIsTooWeakIsReportedOnce)
 {
     QSignalSpy notices(dialog.get(), &KrAutoReframeDialog::sigShowUnsupportDlg);
     Load(Video(QStringLiteral("/v/clip.mp4")));

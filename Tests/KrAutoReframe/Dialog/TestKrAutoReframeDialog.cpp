@@ -16,7 +16,7 @@ using namespace WidgetProbe;
 namespace
 {
 
-/// A dialog's bit rates, title and so on do not matter here: what a source is, and how it is shown.
+/// Tests how the dialog takes a source and shows it.
 class KrAutoReframeDialogTest : public DialogTest
 {
 protected:
@@ -32,7 +32,7 @@ protected:
 
 } // namespace
 
-TEST_F(KrAutoReframeDialogTest, TheMetaObjectHasTheTwoSignalsAndNothingElse)
+TEST_F(KrAutoReframeDialogTest, TheMetaObjectHasOnlyTheTwoSignals)
 {
     const QMetaObject& meta = KrAutoReframeDialog::staticMetaObject;
     EXPECT_STREQ(meta.superClass()->className(), "KxFramelessDialog");
@@ -71,7 +71,7 @@ TEST_F(KrAutoReframeDialogTest, ItsPartsAreMadeInOrder)
     EXPECT_STREQ(content->metaObject()->className(), "QWidget");
 }
 
-TEST_F(KrAutoReframeDialogTest, PanelAndPlayerStandSideBySide)
+TEST_F(KrAutoReframeDialogTest, PanelAndPlayerAreSideBySide)
 {
     auto* const column = qobject_cast<QVBoxLayout*>(panel->parentWidget()->layout());
     ASSERT_NE(column, nullptr);
@@ -145,7 +145,7 @@ TEST_F(KrAutoReframeDialogTest, WithoutAVideoTheSourceBeforeStays)
     EXPECT_EQ(Helper().GetSourceTimeline(), before);
     EXPECT_EQ(NameLabel().text(), QStringLiteral("clip.mp4"));
     EXPECT_TRUE(Export().isEnabled());
-    // There is no source item any more: nothing can be exported.
+    // Without a source item nothing can be exported.
     recorders.events.clear();
     dialog->slotExportToLocal();
     EXPECT_TRUE(recorders.events.isEmpty());
@@ -205,7 +205,7 @@ TEST_F(KrAutoReframeDialogTest, NoTimelineOnlyPauses)
     EXPECT_TRUE(Export().isEnabled());
 }
 
-TEST_F(KrAutoReframeDialogTest, ANameThatFitsStandsBeforeItsSuffix)
+TEST_F(KrAutoReframeDialogTest, ANameThatFitsPrecedesItsSuffix)
 {
     dialog->UpdateProjectName(QStringLiteral("my.holiday.mp4"));
     EXPECT_EQ(NameLabel().text(), QStringLiteral("my.holiday.mp4"));
@@ -225,7 +225,7 @@ TEST_F(KrAutoReframeDialogTest, ALongNameIsElidedWithABlankBeforeItsSuffix)
     EXPECT_EQ(NameLabel().text(), elided + QStringLiteral(" .MOV"));
 }
 
-TEST_F(KrAutoReframeDialogTest, TheNameStandsInTheMiddleOfTheBar)
+TEST_F(KrAutoReframeDialogTest, TheNameIsInTheMiddleOfTheBar)
 {
     dialog->UpdateProjectName(QStringLiteral("clip.mp4"));
     const int barHeight = dialog->GetTitleBar()->height();
@@ -238,7 +238,7 @@ TEST_F(KrAutoReframeDialogTest, SizesAreEven)
     EXPECT_EQ(dialog->CalculateResolution(QSize(601, 402), QRectF(0, 0, 0.5, 0.5)), QSize(300, 202));
 }
 
-TEST_F(KrAutoReframeDialogTest, MinimisingTakesTheHostsWindowAlong)
+TEST_F(KrAutoReframeDialogTest, MinimisingAlsoMinimisesTheHostsWindow)
 {
     KxWidgetView host;
     host.show();
@@ -271,7 +271,7 @@ TEST_F(KrAutoReframeDialogTest, EachClickOnTheCloseButtonIsReportedOnce)
     EXPECT_FALSE(dialog->isVisible());
 }
 
-TEST_F(KrAutoReframeDialogTest, AnErrorOfTheProcessIsToldWithoutItsText)
+TEST_F(KrAutoReframeDialogTest, AnErrorOfTheProcessIsReportedWithoutItsText)
 {
     Q_EMIT process->sigProcessError(QStringLiteral("inner workings"));
     ASSERT_EQ(recorders.boxes.size(), 1u);

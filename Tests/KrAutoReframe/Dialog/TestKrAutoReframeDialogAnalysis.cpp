@@ -62,7 +62,7 @@ protected:
 
 } // namespace
 
-TEST_F(DialogAnalysisTest, AsksForWhatThePanelSays)
+TEST_F(DialogAnalysisTest, AsksForTheSettingsOfThePanel)
 {
     Load(Video(QStringLiteral("/v/clip.mp4")));
     ChooseRatio(QStringLiteral("4:5"));
@@ -115,14 +115,14 @@ TEST_F(DialogAnalysisTest, ANearlyEqualAspectRatioIsAnother)
     EXPECT_TRUE(recorders.boxes.empty());
 }
 
-TEST_F(DialogAnalysisTest, ARefusalOfTheServiceIsTold)
+TEST_F(DialogAnalysisTest, ARefusalOfTheServiceIsReported)
 {
     Load(Video(QStringLiteral("/v/clip.mp4")));
     service.Accept(false);
     ExpectRefused({Failed});
 }
 
-TEST_F(DialogAnalysisTest, WithoutASourceNothingIsSaid)
+TEST_F(DialogAnalysisTest, WithoutASourceNoMessageIsShown)
 {
     dialog->slotStartAnalysis();
     EXPECT_TRUE(recorders.boxes.empty());
@@ -130,7 +130,7 @@ TEST_F(DialogAnalysisTest, WithoutASourceNothingIsSaid)
     EXPECT_EQ(recorders.events, QStringList{QStringLiteral("anlyze_btn")});
 }
 
-TEST_F(DialogAnalysisTest, TheProgressStartsAtNothing)
+TEST_F(DialogAnalysisTest, TheProgressStartsAtZero)
 {
     Load(Video(QStringLiteral("/v/clip.mp4")));
     dialog->slotUpdateProgress(5000);
@@ -200,7 +200,7 @@ TEST_F(DialogAnalysisTest, ASecondAnalysisStartsFromTheRestartButton)
     EXPECT_FALSE(RestartButton().isHidden());
 }
 
-TEST_F(DialogAnalysisTest, AFailureIsToldAndLeavesEverything)
+TEST_F(DialogAnalysisTest, AFailureIsReportedAndChangesNothing)
 {
     Load(Video(QStringLiteral("/v/clip.mp4")));
     service.Answer(-1, {});
@@ -288,7 +288,7 @@ TEST_F(DialogAnalysisTest, AfterACancelTheNextAnalysisSucceeds)
     EXPECT_TRUE(Export().isEnabled());
 }
 
-TEST_F(DialogAnalysisTest, CancelledWhileKeyframesAreMadeItChangesNothing)
+TEST_F(DialogAnalysisTest, CancelledDuringTheKeyframesItChangesNothing)
 {
     Load(Video(QStringLiteral("/v/clip.mp4")));
     service.Answer(0, FakeHost::MakeResults(FrameCount));

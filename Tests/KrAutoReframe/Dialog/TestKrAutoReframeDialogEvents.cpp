@@ -132,7 +132,7 @@ TEST_F(DialogEventsTest, TheTitleBarsCloseButtonAsks)
 TEST_F(DialogEventsTest, TheCropFollowsTheDialog)
 {
     LoadAndAnalyse();
-    // What a move brings, and nothing that a layout of the dialog might.
+    // Only the effect of a move, not that of a layout.
     Player().videoRect = QRect(10, 20, 600, 300);
     ASSERT_NE(overlay->size(), QSize(600, 300));
     QMoveEvent moved(dialog->pos(), dialog->pos());

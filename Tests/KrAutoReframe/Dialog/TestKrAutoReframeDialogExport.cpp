@@ -11,7 +11,7 @@
 namespace
 {
 
-/// Facts of a media item that are neither those of a video nor of sound.
+/// Information of a media item that has neither video nor sound.
 class BareInfo : public IKxMediaInfo
 {
 public:
@@ -128,7 +128,7 @@ TEST_F(DialogExportTest, WithoutResultsNothingIsReported)
     EXPECT_TRUE(exported.empty());
 }
 
-TEST_F(DialogExportTest, AConfirmedExportGivesTimelineMediaAndRecord)
+TEST_F(DialogExportTest, AConfirmedExportEmitsTimelineMediaAndRecord)
 {
     LoadAndAnalyse(Source());
     ASSERT_TRUE(Helper().AddKeyFrame(40, QRectF(0.5, 0.0, 0.31640625, 1.0)));
@@ -261,7 +261,7 @@ TEST_F(DialogExportTest, BitRatesStayBetweenTheirBounds)
     EXPECT_EQ(Value(facts, "audio_bit_rate").toInt(), 192000);
 }
 
-TEST_F(DialogExportTest, WhereNothingIsKnownTheDefaultsHold)
+TEST_F(DialogExportTest, UnknownParametersHaveDefaults)
 {
     const BareItem* const bare = new BareItem(Video(QStringLiteral("/v/clip.mp4")));
     items.emplace_back(const_cast<BareItem*>(bare));
@@ -297,7 +297,7 @@ TEST_F(DialogExportTest, AnotherUnknownRatioIsReportedAsNone)
     EXPECT_EQ(exported.front().record.value(QStringLiteral("track_ratio")), QVariant(0));
 }
 
-TEST_F(DialogExportTest, TheRecordTellsOfTheAnalysisNotOfThePanel)
+TEST_F(DialogExportTest, TheRecordDescribesTheAnalysisNotThePanel)
 {
     LoadAndAnalyse(Source());
     ChooseRatio(QStringLiteral("21:9"));
@@ -310,7 +310,7 @@ TEST_F(DialogExportTest, TheRecordTellsOfTheAnalysisNotOfThePanel)
     EXPECT_EQ(exported.front().record.value(QStringLiteral("speed")), QVariant(16));
 }
 
-TEST_F(DialogExportTest, TheFirstResultGivesTheSizeNotAnEdit)
+TEST_F(DialogExportTest, TheFirstResultDeterminesTheSizeNotAnEdit)
 {
     LoadAndAnalyse(Source(), 0.5625);
     Helper().AddKeyFrame(0, QRectF(0.0, 0.0, 0.25, 0.5));

@@ -153,7 +153,7 @@ TEST_F(DialogImportTest, AFileThatCannotBeOpenedStillNamesTheDialog)
     EXPECT_EQ(FakeHost::MediaCalls().last(), QStringLiteral("release nothing"));
 }
 
-TEST_F(DialogImportTest, TheSystemsChooserGivesPathsWithSlashes)
+TEST_F(DialogImportTest, TheSystemsChooserReturnsPathsWithSlashes)
 {
     recorders.chosen = QStringList{QStringLiteral("/v/a.mp4"), QStringLiteral("/v/b.mp4"), QStringLiteral("/v/c.mp4")};
     EXPECT_EQ(dialog->GetOpenFileNames(QStringLiteral("ignored"), QStringLiteral("/v"), L"Videos\0*.mp4\0",

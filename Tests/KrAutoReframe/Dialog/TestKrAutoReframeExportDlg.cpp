@@ -137,7 +137,7 @@ TEST_F(ExportDlgTest, OpensOnTheFolderOfTheLastExport)
     EXPECT_EQ(path->Text(), recorders.folder.path());
 }
 
-TEST_F(ExportDlgTest, AFolderThatIsGoneGivesWayToTheHosts)
+TEST_F(ExportDlgTest, AMissingFolderIsReplacedByTheHosts)
 {
     StoreFolder(recorders.folder.filePath(QStringLiteral("deleted")));
     Make();
@@ -159,7 +159,7 @@ TEST_F(ExportDlgTest, EveryChangeOfTheFolderIsStoredAtOnce)
     EXPECT_EQ(StoredFolder(), QDir::toNativeSeparators(recorders.folder.path()));
 }
 
-TEST_F(ExportDlgTest, AClearedNameComesBack)
+TEST_F(ExportDlgTest, AClearedNameIsRestored)
 {
     dialog->SetDefaultName(QStringLiteral("clip"));
     EXPECT_EQ(name->text(), QStringLiteral("clip"));
@@ -197,7 +197,7 @@ TEST_F(ExportDlgTest, ANameLosesWhatNoFileNameMayHold)
     QTest::keyClicks(name, QStringLiteral("a:b*c?"));
     EXPECT_EQ(name->text(), QStringLiteral("abc"));
     EXPECT_EQ(dialog->GetOutputName(), QStringLiteral("abc"));
-    // The field keeps such characters out by itself; what comes past it is cleaned all the same.
+    // The field rejects such characters; text that gets past it is cleaned as well.
     name->setValidator(nullptr);
     name->setText(QStringLiteral("a:b*c?"));
     EXPECT_EQ(name->text(), QStringLiteral("a:b*c?"));
@@ -234,7 +234,7 @@ TEST_F(ExportDlgTest, GoodEntriesCloseItWithOne)
     EXPECT_TRUE(recorders.boxes.empty());
 }
 
-TEST_F(ExportDlgTest, ClosedByThePersonItGivesZero)
+TEST_F(ExportDlgTest, ClosedByTheUserItReturnsZero)
 {
     QTimer::singleShot(0, dialog.get(), &QWidget::close);
     EXPECT_EQ(dialog->DoModal(), 0);
@@ -249,7 +249,7 @@ TEST_F(ExportDlgTest, AMissingFolderIsMade)
     EXPECT_TRUE(QFileInfo(folder).isDir());
 }
 
-TEST_F(ExportDlgTest, AFolderThatCannotBeMadeComesBeforeEverythingElse)
+TEST_F(ExportDlgTest, AFolderThatCannotBeCreatedIsReportedFirst)
 {
     dialog->SetDefaultName(QString(42, QLatin1Char('n')));
     QFile file(recorders.folder.filePath(QStringLiteral("file")));
@@ -265,7 +265,7 @@ TEST_F(ExportDlgTest, AFolderThatCannotBeMadeComesBeforeEverythingElse)
     EXPECT_TRUE(recorders.spaceAskedFor.isEmpty());
 }
 
-TEST_F(ExportDlgTest, ABoxNamesTheProductAndStandsOverTheDialog)
+TEST_F(ExportDlgTest, ABoxNamesTheProductAndBelongsToTheDialog)
 {
     path->SetText(QString());
     EXPECT_FALSE(Export());
@@ -276,7 +276,7 @@ TEST_F(ExportDlgTest, ABoxNamesTheProductAndStandsOverTheDialog)
     EXPECT_EQ(box.type, KrMessageType::Information);
 }
 
-TEST_F(ExportDlgTest, AFolderThatCannotBeWrittenIsToldBeforeItsLength)
+TEST_F(ExportDlgTest, AFolderThatCannotBeWrittenIsReportedBeforeItsLength)
 {
     dialog->SetDefaultName(QStringLiteral("clip"));
     recorders.freeSpaceMb = 0;
@@ -331,7 +331,7 @@ TEST_F(ExportDlgTest, SpaceIsAskedForWhereTheFolderIs)
     path->SetText(recorders.folder.path());
     EXPECT_TRUE(Export());
     EXPECT_EQ(recorders.spaceAskedFor, QStringList{recorders.folder.path()});
-    // On this system a folder may well be called like a drive.
+    // On this system a folder can have the name of a drive.
     ASSERT_TRUE(QDir::setCurrent(recorders.folder.path()));
     path->SetText(QStringLiteral("D:/out"));
     EXPECT_TRUE(Export());

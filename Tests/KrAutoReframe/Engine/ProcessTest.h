@@ -26,7 +26,7 @@ inline FakeHost::Facts Clip(qint64 frameCount, const QSize& resolution = QSize(1
     return facts;
 }
 
-/// What a process told, as words in order, with the thread that it told it on.
+/// Records the signals of a process in order, and whether they came on its own thread.
 class Listener
 {
 public:
@@ -61,7 +61,7 @@ private:
     QThread* m_thread = QThread::currentThread();
 };
 
-/// A process on a scripted host. Its tests stand in two sources: what a job starts from, and how it runs and ends.
+/// A process on a scripted host. Its tests are in two sources: the start of a job, and its course and end.
 class TestKrAutoReframeProcess : public testing::Test
 {
 protected:

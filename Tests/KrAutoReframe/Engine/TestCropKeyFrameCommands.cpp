@@ -38,7 +38,7 @@ protected:
         ASSERT_TRUE(finished.wait(WaitMs));
     }
 
-    /// All that an edit changes, as one text.
+    /// Everything that an edit changes, as one text.
     QString State() const
     {
         QStringList texts{Segments(), PushedFrames()};
@@ -53,7 +53,7 @@ protected:
         return texts.join(QLatin1Char('\n')) + QLatin1Char('\n') + shown;
     }
 
-    /// The display as its rule gives it from the segments, the results and the keyframes that the host has.
+    /// Compares the display with one computed from the segments, the results and the host's keyframes.
     void ExpectDisplayIsComplete() const
     {
         QList<QRectF> expected;
@@ -254,7 +254,7 @@ TEST_F(TestCropKeyFrameCommands, ARefusedEditIsNoStep)
     EXPECT_EQ(spy.count(), 0);
 }
 
-TEST_F(TestCropKeyFrameCommands, AvailabilityIsToldForBothDirectionsAtEachStep)
+TEST_F(TestCropKeyFrameCommands, AvailabilityIsReportedForBothDirectionsAtEachStep)
 {
     OpenAndApply(100);
     QSignalSpy spy(helper.get(), &KrAutoReframeHelper::sigCanUndoRedo);
@@ -324,7 +324,7 @@ TEST_F(TestCropKeyFrameCommands, ThreeThousandEditsOfALongClipTakeLessThan50Mega
         }
         EXPECT_EQ(Segments(), QString());
         EXPECT_EQ(PushedFrames(), QStringLiteral("0..215999"));
-        // The edits took keyframes out; with all of them back, only the undo stack is left to count.
+        // The edits removed keyframes. With all of them restored, only the undo stack is counted.
         EXPECT_LT(AllocatedBytes() - before, MostBytes) << "at a distance of " << distance << " frames";
     }
 }

@@ -81,7 +81,7 @@ TEST_F(TestKrAutoReframeAnalyzer, StartedTwiceStopsTheFirstTask)
     EXPECT_EQ(m_service.Calls(), expected);
 }
 
-TEST_F(TestKrAutoReframeAnalyzer, ARefusedStartIsToldWithoutASignal)
+TEST_F(TestKrAutoReframeAnalyzer, ARefusedStartEmitsNoSignal)
 {
     KrAutoReframeAnalyzer analyzer;
     QSignalSpy progress(&analyzer, &KrAutoReframeAnalyzer::sigAnalyzeProgress);
@@ -261,7 +261,7 @@ TEST_F(TestKrAutoReframeAnalyzer, TwoStopsLeaveOneMark)
     EXPECT_EQ(finished.count(), 1);
 }
 
-TEST_F(TestKrAutoReframeAnalyzer, TheMarkStandsUntilTheCancellationWasTold)
+TEST_F(TestKrAutoReframeAnalyzer, TheMarkIsKeptUntilTheCancellationWasReported)
 {
     KrAutoReframeAnalyzer analyzer;
     QSignalSpy canceled(&analyzer, &KrAutoReframeAnalyzer::sigAnalyzeCanceled);

@@ -18,7 +18,7 @@ TEST_F(TestKrAutoReframeHelper, IsEmptyAtFirst)
     EXPECT_TRUE(EditFrames().isEmpty());
 }
 
-TEST_F(TestKrAutoReframeHelper, SignalsStandInTheirOrder)
+TEST_F(TestKrAutoReframeHelper, SignalsAreDeclaredInOrder)
 {
     const QMetaObject& meta = KrAutoReframeHelper::staticMetaObject;
     QStringList methods;
@@ -54,7 +54,7 @@ TEST_F(TestKrAutoReframeHelper, ASourceIsClonedWithKeyFramesOfItsOwn)
     EXPECT_EQ(opened.count(), 1);
 }
 
-TEST_F(TestKrAutoReframeHelper, EverythingIsInPlaceWhenTheOpeningIsTold)
+TEST_F(TestKrAutoReframeHelper, EverythingIsReadyWhenTheOpeningIsReported)
 {
     OpenAndApply(100);
     helper->AddKeyFrame(10, Rect(0.5));
@@ -215,7 +215,7 @@ TEST_F(TestKrAutoReframeHelper, FramesAreNumberedByPlaceNotByTheResultsOwnNumber
     EXPECT_EQ(PushedFrames(), QStringLiteral("0..1"));
 }
 
-TEST_F(TestKrAutoReframeHelper, ProgressIsToldWhenItGrowsInTenThousandths)
+TEST_F(TestKrAutoReframeHelper, ProgressIsReportedWhenItGrowsInTenThousandths)
 {
     Open(8);
     std::vector<double> progress;
@@ -225,7 +225,7 @@ TEST_F(TestKrAutoReframeHelper, ProgressIsToldWhenItGrowsInTenThousandths)
     EXPECT_THAT(progress, ElementsAre(0.125, 0.25, 0.375, 0.5, 0.625, 0.75, 0.875));
 }
 
-TEST_F(TestKrAutoReframeHelper, ProgressIsCutToTenThousandths)
+TEST_F(TestKrAutoReframeHelper, ProgressIsTruncatedToTenThousandths)
 {
     Open(7);
     std::vector<double> progress;
@@ -281,7 +281,7 @@ TEST_F(TestKrAutoReframeHelper, AppliedAgainTheResultsAreReplacedAndEditsDropped
     EXPECT_TRUE(EditFrames().isEmpty());
 }
 
-TEST_F(TestKrAutoReframeHelper, EditsAreGoneAndTheDisplayIsThereWhenTheEndIsTold)
+TEST_F(TestKrAutoReframeHelper, EditsAreGoneAndTheDisplayIsReadyWhenTheEndIsReported)
 {
     OpenAndApply(100);
     helper->AddKeyFrame(10, Rect(0.5));
@@ -296,7 +296,7 @@ TEST_F(TestKrAutoReframeHelper, EditsAreGoneAndTheDisplayIsThereWhenTheEndIsTold
     EXPECT_TRUE(isTold);
 }
 
-TEST_F(TestKrAutoReframeHelper, WithoutKeyFramesInTheClipTheTaskEndsWellAndStoresNothing)
+TEST_F(TestKrAutoReframeHelper, WithoutKeyFramesInTheClipTheTaskSucceedsAndStoresNothing)
 {
     FakeHost::Facts facts = Clip(100);
     facts.hasCropKeyFrames = false;

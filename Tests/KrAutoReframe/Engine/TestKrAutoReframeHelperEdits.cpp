@@ -85,7 +85,7 @@ TEST_F(TestKrAutoReframeHelper, TheDisplayIsInterpolatedBetweenTheKeyFramesOfAnE
     EXPECT_DOUBLE_EQ(helper->GetResults().at(10).cropRect().x(), 0.010);
 }
 
-TEST_F(TestKrAutoReframeHelper, AListOfTheDisplayThatWasTakenStaysAsItWas)
+TEST_F(TestKrAutoReframeHelper, AKeptCopyOfTheDisplayDoesNotChange)
 {
     OpenAndApply(100);
     helper->AddKeyFrame(10, Rect(0.9));
@@ -248,7 +248,7 @@ TEST_F(TestKrAutoReframeHelper, RemovingWhereNoPointIsFails)
     EXPECT_EQ(EditFrames(), QList<uint>{50});
 }
 
-TEST_F(TestKrAutoReframeHelper, TheFirstSegmentThatHasThePointGivesItUp)
+TEST_F(TestKrAutoReframeHelper, ThePointIsRemovedFromTheFirstSegmentThatHasIt)
 {
     OpenAndApply(200);
     helper->AddKeyFrame(50, Rect(0.9));

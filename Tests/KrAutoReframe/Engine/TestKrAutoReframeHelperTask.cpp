@@ -87,7 +87,7 @@ TEST_F(TestKrAutoReframeHelper, CancelledInTheMiddleItStopsAtTheNextFrameAndKeep
     EXPECT_TRUE(helper->GetDisplayResults().isEmpty());
 }
 
-TEST_F(TestKrAutoReframeHelper, CancelledBeforeItsThreadIsFreeItMakesNothing)
+TEST_F(TestKrAutoReframeHelper, CancelledBeforeItsThreadIsFreeItStoresNothing)
 {
     Open(100);
     BusyPool busy;
@@ -117,7 +117,7 @@ TEST_F(TestKrAutoReframeHelper, CancelledBeforeItsEndIsDeliveredItIsCancelled)
     EXPECT_DOUBLE_EQ(ShownX(0), 0.4);
 }
 
-TEST_F(TestKrAutoReframeHelper, CancelledAgainInTheMiddleItLeavesWhatWasThere)
+TEST_F(TestKrAutoReframeHelper, ASecondApplicationCancelledInTheMiddleChangesNothing)
 {
     OpenAndEdit();
     HeldTask held;
@@ -130,7 +130,7 @@ TEST_F(TestKrAutoReframeHelper, CancelledAgainInTheMiddleItLeavesWhatWasThere)
     ExpectCancelledAndUnchanged();
 }
 
-TEST_F(TestKrAutoReframeHelper, CancelledAgainInItsLastStepItLeavesWhatWasThere)
+TEST_F(TestKrAutoReframeHelper, ASecondApplicationCancelledInItsLastStepChangesNothing)
 {
     OpenAndEdit();
     HeldTask held;
@@ -142,7 +142,7 @@ TEST_F(TestKrAutoReframeHelper, CancelledAgainInItsLastStepItLeavesWhatWasThere)
     ExpectCancelledAndUnchanged();
 }
 
-TEST_F(TestKrAutoReframeHelper, CancelledAgainBeforeItsEndIsDeliveredItLeavesWhatWasThere)
+TEST_F(TestKrAutoReframeHelper, ASecondApplicationCancelledBeforeItsEndIsDeliveredChangesNothing)
 {
     OpenAndEdit();
     EXPECT_TRUE(helper->ApplyResults(FakeHost::MakeResults(100, 0.4)));
@@ -151,7 +151,7 @@ TEST_F(TestKrAutoReframeHelper, CancelledAgainBeforeItsEndIsDeliveredItLeavesWha
     ExpectCancelledAndUnchanged();
 }
 
-TEST_F(TestKrAutoReframeHelper, AnAbandonedTaskReportsNoEndAndLeavesWhatWasThere)
+TEST_F(TestKrAutoReframeHelper, AnAbandonedTaskReportsNoEndAndChangesNothing)
 {
     OpenAndEdit();
     QSignalSpy finished(helper.get(), &KrAutoReframeHelper::sigApplyFinished);

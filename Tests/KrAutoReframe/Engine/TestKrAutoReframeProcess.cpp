@@ -14,7 +14,7 @@ TEST_F(TestKrAutoReframeProcess, MakesTheAnalyzerAndTheHelper)
     EXPECT_EQ(&process->GetHelper(), &process->GetHelper());
 }
 
-TEST_F(TestKrAutoReframeProcess, SignalsStandInTheirOrder)
+TEST_F(TestKrAutoReframeProcess, SignalsAreDeclaredInOrder)
 {
     const QMetaObject& meta = KrAutoReframeProcess::staticMetaObject;
     QStringList methods;
@@ -97,7 +97,7 @@ TEST_F(TestKrAutoReframeProcess, AStartStopsWhatRunsAndAsksForTheFile)
     EXPECT_EQ(param.mode, 24);
 }
 
-TEST_F(TestKrAutoReframeProcess, ARefusedStartKeepsItsParametersAndTellsNothing)
+TEST_F(TestKrAutoReframeProcess, ARefusedStartKeepsItsParametersAndEmitsNothing)
 {
     Open(100);
     m_service.Accept(false);

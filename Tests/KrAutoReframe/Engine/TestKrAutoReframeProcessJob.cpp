@@ -14,7 +14,7 @@ TEST_F(TestKrAutoReframeProcess, AnalysisProgressCoversEightThousand)
     for (const int percent : {0, 1, 29, 50, 57, 99, 100}) {
         m_service.Fire(Running, percent);
     }
-    // 0.57 * 10000 * 0.8 lies a hair below 4560, and whole numbers are cut off.
+    // 0.57 * 10000 * 0.8 is slightly below 4560 and is truncated.
     EXPECT_THAT(m_listener->progress, ElementsAre(0, 80, 2320, 4000, 4559, 7920, 8000));
 }
 
@@ -53,7 +53,7 @@ TEST_F(TestKrAutoReframeProcess, AWholeJobRunsFromTheEventsToTheKeyFrames)
     EXPECT_EQ(WorkKeyFrames().KeyFrames().size(), 40);
 }
 
-TEST_F(TestKrAutoReframeProcess, AFailedAnalysisFinishesFirstAndThenTellsTheError)
+TEST_F(TestKrAutoReframeProcess, AFailedAnalysisReportsItsEndAndThenTheError)
 {
     Open(40);
     m_service.Answer(-1, {});
@@ -76,7 +76,7 @@ TEST_F(TestKrAutoReframeProcess, AFailedAnalysisAppliesNothingEvenWhereResultsWe
     EXPECT_EQ(WorkKeyFrames().PushCount(), 0);
 }
 
-TEST_F(TestKrAutoReframeProcess, AnAnalysisWithNothingToApplyFinishesWellAndTellsTheError)
+TEST_F(TestKrAutoReframeProcess, AnAnalysisWithNothingToApplySucceedsAndReportsTheError)
 {
     Open(40);
     m_service.Answer(0, {});
@@ -136,7 +136,7 @@ TEST_F(TestKrAutoReframeProcess, StoppingCancelsTheKeyFrameTask)
     EXPECT_EQ(m_listener->ends, QStringList{QStringLiteral("finished false")});
 }
 
-TEST_F(TestKrAutoReframeProcess, ACompletionThatWaitsWhenTheJobIsStoppedChangesNothing)
+TEST_F(TestKrAutoReframeProcess, ACompletionThatIsQueuedWhenTheJobIsStoppedIsDropped)
 {
     Open(40);
     m_service.Answer(0, FakeHost::MakeResults(40));
@@ -244,7 +244,7 @@ TEST_F(TestKrAutoReframeProcess, ApplyResultsNeedsResults)
     EXPECT_EQ(WorkKeyFrames().PushCount(), 2);
 }
 
-TEST_F(TestKrAutoReframeProcess, ApplyResultsTellsWhereTheHelperRefuses)
+TEST_F(TestKrAutoReframeProcess, ApplyResultsReportsARefusalOfTheHelper)
 {
     Open(40);
     m_service.Answer(0, FakeHost::MakeResults(20));

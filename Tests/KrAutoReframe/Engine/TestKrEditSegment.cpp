@@ -30,7 +30,7 @@ TEST(TestKrEditSegment, TheEndIsInsideTheRange)
     EXPECT_EQ(Segment(10, 25, {}).End(), 35u);
 }
 
-TEST(TestKrEditSegment, MergeTakesInALowerOneThatOverlaps)
+TEST(TestKrEditSegment, MergeAddsALowerSegmentThatOverlaps)
 {
     KrEditSegment segment = Segment(15, 50, {40});
     EXPECT_TRUE(segment.Merge(Segment(0, 35, {10})));
@@ -39,7 +39,7 @@ TEST(TestKrEditSegment, MergeTakesInALowerOneThatOverlaps)
     EXPECT_THAT(segment.points, ElementsAre(10, 40));
 }
 
-TEST(TestKrEditSegment, MergeTakesInAHigherOneThatOverlaps)
+TEST(TestKrEditSegment, MergeAddsAHigherSegmentThatOverlaps)
 {
     KrEditSegment segment = Segment(0, 35, {10});
     EXPECT_TRUE(segment.Merge(Segment(15, 50, {40})));
@@ -48,7 +48,7 @@ TEST(TestKrEditSegment, MergeTakesInAHigherOneThatOverlaps)
     EXPECT_THAT(segment.points, ElementsAre(10, 40));
 }
 
-TEST(TestKrEditSegment, MergeTakesInOneThatStartsOnTheLastFrame)
+TEST(TestKrEditSegment, MergeAddsASegmentThatStartsOnTheLastFrame)
 {
     KrEditSegment segment = Segment(0, 35, {10});
     EXPECT_TRUE(segment.Merge(Segment(35, 20, {45})));
@@ -183,7 +183,7 @@ TEST(TestKrEditSegment, PointsOnBothEndsOfTheRangeBelongToIt)
     EXPECT_THAT(segment.points, IsEmpty());
 }
 
-TEST(TestKrSegmentChange, HoldsOnlyWhatWasReplacedAndTakesItBack)
+TEST(TestKrSegmentChange, StoresAndRestoresOnlyReplacedSegments)
 {
     const KrEditSegment a{0, 10, {5}};
     const KrEditSegment b{20, 10, {25}};

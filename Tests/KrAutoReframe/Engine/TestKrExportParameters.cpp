@@ -56,7 +56,7 @@ TEST(KrExportParameters, BitRatesStayBetweenTheirBounds)
     EXPECT_EQ(KrExportParameters::AudioBitRate(448000), 320000);
 }
 
-TEST(KrExportParameters, TheDefaultsHoldWhereNothingIsKnown)
+TEST(KrExportParameters, UnknownParametersHaveDefaults)
 {
     EXPECT_FLOAT_EQ(KrExportParameters::DefaultFrameRate, 25.0F);
     EXPECT_EQ(KrExportParameters::DefaultVideoBitRate, 2000000);

@@ -58,7 +58,7 @@ protected:
 
     KrKeyFrameLists::KeyFrameMap keyFrames;
     KrKeyFrameLists lists;
-    /// What the host holds.
+    /// The host's list.
     QList<KeyFrame> host;
 };
 
@@ -94,7 +94,7 @@ TEST_F(TestKrKeyFrameLists, UpdatesThatRemoveReplaceAndInsertFollowEachOther)
     ExpectHostIsUpToDate();
 }
 
-TEST_F(TestKrKeyFrameLists, AListThatSomebodyKeptStaysAsItWas)
+TEST_F(TestKrKeyFrameLists, AKeptCopyOfAListDoesNotChange)
 {
     const QList<KeyFrame> kept = host;
     Thin(10, 20, 5, 0.1);
@@ -115,7 +115,7 @@ TEST_F(TestKrKeyFrameLists, AnUpdateDoesNotCopyTheList)
     EXPECT_EQ(&host.constFirst(), first);
 }
 
-TEST_F(TestKrKeyFrameLists, AnyOrderOfUpdatesGivesTheKeyFrames)
+TEST_F(TestKrKeyFrameLists, RandomUpdatesMatchTheKeyFrames)
 {
     std::mt19937 random(1);
     const auto pick = [&random](int count) { return static_cast<int>(random() % static_cast<unsigned>(count)); };

@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-TEST(SendClickEvent, TellsTheTrackerTheNameOnce)
+TEST(SendClickEvent, ReportsTheNameToTheTrackerOnce)
 {
     QStringList heard;
     KxUsageTracker::SetRecorder([&heard](const QString& name) { heard.append(name); });

@@ -194,7 +194,7 @@ QList<IKxAutoReframeResult> MakeResults(int count, double firstX)
 
 } // namespace FakeHost
 
-// What the host's model library supplies to the module.
+// The functions of the host's model library.
 
 IKxTimeline* IKxTimeline::createSimpleTimeline(IKxClip* clip)
 {
@@ -262,7 +262,7 @@ void releaseMediaItem(IKxAbstractMediaItem* item)
     delete item;
 }
 
-// What its media library supplies.
+// The functions of its media library.
 
 QString KxMediaLibraryUtils::getImportVideoFilter()
 {

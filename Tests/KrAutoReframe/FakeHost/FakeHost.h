@@ -20,12 +20,12 @@
 #include <thread>
 #include <vector>
 
-/// A host made of plain records, so that the module's engine can be tested alone. What the tests ask of it is scripted;
-/// what the module asks of it is recorded.
+/// A host made of plain records, so that the module's engine can be tested alone. Tests script its answers, and it
+/// records the module's calls.
 namespace FakeHost
 {
 
-/// A door between threads: whoever waits goes on once it was opened.
+/// A gate between threads: waiting threads continue once it is open.
 class Gate
 {
 public:
@@ -38,7 +38,7 @@ private:
     bool m_isOpen = false;
 };
 
-/// What a clip or a media item stands for.
+/// The properties of a clip or media item.
 struct Facts {
     QString path;
     qint64 frameCount = 100;
@@ -50,7 +50,7 @@ struct Facts {
     /// Bits a second of each audio stream; a file without sound has none.
     QList<int> audioBitRates;
     int audioStream = -1;
-    /// Whether clips carry crop keyframes; else those of some other kind.
+    /// Whether clips have crop keyframes; otherwise they have keyframes of another kind.
     bool hasCropKeyFrames = true;
 };
 
@@ -133,7 +133,7 @@ private:
     Content m_content;
 };
 
-/// The scripted service. It analyses nothing: a test fires the events, from whatever thread it likes.
+/// The scripted service. It analyses nothing: the tests fire the events, from any thread.
 class Service : public IKxAutoReframeService
 {
 public:
@@ -186,12 +186,12 @@ void RefuseSimpleTimelines(bool isRefused);
 void OfferFile(const Facts& facts);
 /// Every making and releasing of a media item, in order, with its path.
 QStringList MediaCalls();
-/// What the host's media library can import from now on.
+/// Sets the import filter of the host's media library.
 void SetImportFilter(const QString& filter);
 /// Frees the timelines that are left and forgets everything scripted and recorded.
 void Reset();
 
-/// One result a frame whose rectangle tells the frame: x is `firstX` + frame / 1000.
+/// One result a frame whose rectangle identifies the frame: x is `firstX` + frame / 1000.
 QList<IKxAutoReframeResult> MakeResults(int count, double firstX = 0.0);
 
 } // namespace FakeHost

@@ -167,7 +167,7 @@ TEST_F(ControlBarTest, ShowsTheTimeOfTheFrame)
     EXPECT_EQ(Time().text(), QStringLiteral("01:00:02:11"));
 }
 
-TEST_F(ControlBarTest, TellsTheSliderTheFrame)
+TEST_F(ControlBarTest, PassesTheFrameToTheSlider)
 {
     Slider().SetEditFrames({40});
     QWidget& chunk = *Slider().chunkWidget();
@@ -178,7 +178,7 @@ TEST_F(ControlBarTest, TellsTheSliderTheFrame)
     EXPECT_NE(Paint(chunk).pixelColor(centre), QColor(255, 174, 52));
 }
 
-TEST_F(ControlBarTest, EachEditingButtonTellsItsSignal)
+TEST_F(ControlBarTest, EachEditingButtonEmitsItsSignal)
 {
     const Heard heard(bar);
     for (const char* const name : Editing) {
@@ -188,7 +188,7 @@ TEST_F(ControlBarTest, EachEditingButtonTellsItsSignal)
                                        QStringLiteral("delete"), QStringLiteral("next")}));
 }
 
-TEST_F(ControlBarTest, DisabledButtonsTellNothing)
+TEST_F(ControlBarTest, DisabledButtonsEmitNothing)
 {
     const Heard heard(bar);
     bar->SetUndoRedoEnabled(false, true);
@@ -287,7 +287,7 @@ TEST_F(ControlBarTest, TextsAreTakenFromTheBarsOwnContext)
     QTRY_COMPARE(Button("KrAutoReframe_undo").toolTip(), QStringLiteral("[Undo (Ctrl+Z)]"));
     EXPECT_EQ(bar->button(Bar::PlayPauseButton)->toolTip(), QStringLiteral("[Play (%1)]").arg(Keys(Action::PlayPause)));
     QCoreApplication::removeTranslator(&brackets);
-    QCoreApplication::processEvents();
+    QCoreApplication::sendPostedEvents();
 }
 
 TEST_F(ControlBarTest, NoButtonShowsItsName)
@@ -319,7 +319,7 @@ TEST_F(ControlBarTest, ClearingTheMarksRepaintsTheSlider)
     EXPECT_EQ(paints.count, 1);
 }
 
-TEST_F(ControlBarTest, AClickThatMovesNothingIsNoDrag)
+TEST_F(ControlBarTest, AClickWithoutAMoveIsNoDrag)
 {
     const QSignalSpy started(bar->slider(), &KxToolSlider::sigValueChangeStart);
     const QSignalSpy ended(bar->slider(), &KxToolSlider::sigValueChangeEnd);

@@ -18,7 +18,7 @@ namespace
 const QColor Orange(255, 139, 85);
 const QColor Disc(255, 174, 52);
 
-/// Catches what the code under test says to Qt's debug stream.
+/// Captures the messages that the code under test writes to Qt's debug stream.
 class DebugLines
 {
 public:
@@ -109,7 +109,7 @@ TEST_F(SliderTest, DeclaresItsSlotsInOrder)
     EXPECT_TRUE(MethodsOf(metaObject, QMetaMethod::Signal).isEmpty());
 }
 
-TEST_F(SliderTest, TheStyleSheetCanTellTheKindsApart)
+TEST_F(SliderTest, TheStyleSheetCanDistinguishTheKinds)
 {
     EXPECT_EQ(slider->objectName(), QStringLiteral("KrUIStyle_ToolBarSlider"));
     EXPECT_EQ(slider->property("sliderType").toString(), QStringLiteral("normal"));
@@ -307,7 +307,7 @@ TEST_F(SliderTest, SearchesFromTheTruncatedPosition)
     EXPECT_EQ(slider->value(), 20.0);
 }
 
-TEST_F(SliderTest, TheSearchBackSaysNothingWhenThereIsNone)
+TEST_F(SliderTest, TheSearchBackLogsNothingWhenThereIsNone)
 {
     const DebugLines debug;
     slider->slotOnToPreEdit();

@@ -64,7 +64,7 @@ bool IsOutline(const QColor& colour)
     return colour.alpha() == 255;
 }
 
-/// What of the image is of that kind; the kind fills a rectangle.
+/// The rectangle that the pixels of that kind fill.
 QRect Bounds(const QImage& image, bool (*isOfKind)(const QColor&))
 {
     QRect bounds;
@@ -78,7 +78,7 @@ QRect Bounds(const QImage& image, bool (*isOfKind)(const QColor&))
     return bounds;
 }
 
-/// Each side lies where it should, but for the rounding to whole points.
+/// Compares each side, except for the rounding to whole points.
 void ExpectNear(const QRectF& actual, const QRectF& expected, double tolerance)
 {
     EXPECT_NEAR(actual.left(), expected.left(), tolerance);
@@ -157,7 +157,7 @@ protected:
 
 std::unique_ptr<QTemporaryDir> PlayerViewWithHostTest::folder;
 
-/// What the person can use now.
+/// The controls that are visible and enabled.
 QList<QWidget*> ControlsOf(const QWidget& window)
 {
     QList<QWidget*> controls;
@@ -195,7 +195,7 @@ TEST_F(PlayerViewWithHostTest, TheOverlayLiesOverThePictureAtEveryScale)
         const QPointF corner = overlay->pos() - player->mapToGlobal(QPoint(0, 0));
         const QRectF covered(corner * ratio, QSizeF(overlay->size()) * ratio);
         ExpectNear(covered, picture, ratio);
-        // The label in the overlay stands for the picture, and the crop for its part of it.
+        // The overlay's label represents the picture, and the crop is relative to it.
         const QImage dimmed = overlay->grab().toImage();
         const QRectF crop = QRectF(Bounds(dimmed, &IsOutline)).translated(covered.topLeft());
         const QRectF part(picture.x() + Crop.x() * picture.width(), picture.y() + Crop.y() * picture.height(),

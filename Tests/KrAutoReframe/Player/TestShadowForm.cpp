@@ -59,8 +59,7 @@ protected:
     std::unique_ptr<QSignalSpy> pressed;
 };
 
-/// Every pixel against what it must be: dimmed outside, the outline, almost clear inside. `crop` is what the crop
-/// covers, outline included.
+/// Checks every pixel: dimmed outside, the outline, almost clear inside. `crop` includes the outline.
 void ExpectPainted(const QImage& image, const QRect& crop, const QColor& outline)
 {
     const QRect hole = crop.adjusted(1, 1, -1, -1);
@@ -131,7 +130,7 @@ TEST_F(ShadowFormTest, PaintsACropOfTheWholePicture)
     ExpectPainted(Paint(*form), QRect(0, 0, 400, 200), QColor(0x55, 0xE5, 0xC5));
 }
 
-TEST_F(ShadowFormTest, AsAChildItLeavesTheCropOfWhatLiesBelowClear)
+TEST_F(ShadowFormTest, AsAChildItDimsThePictureOutsideTheCrop)
 {
     QWidget picture;
     picture.setPalette(QPalette(Qt::white));
@@ -156,7 +155,7 @@ TEST_F(ShadowFormTest, AsAChildItLeavesTheCropOfWhatLiesBelowClear)
     }
 }
 
-TEST_F(ShadowFormTest, AsAChildItIsDraggedAsWell)
+TEST_F(ShadowFormTest, AsAChildItCanBeDragged)
 {
     QWidget picture;
     picture.setFixedSize(Picture);
@@ -175,7 +174,7 @@ TEST_F(ShadowFormTest, AsAChildItIsDraggedAsWell)
     form.reset();
 }
 
-TEST_F(ShadowFormTest, APressInsideTellsSo)
+TEST_F(ShadowFormTest, APressInsideIsReported)
 {
     Press(*form, Inside);
     EXPECT_EQ(pressed->count(), 1);
@@ -188,7 +187,7 @@ TEST_F(ShadowFormTest, APressInsideTellsSo)
 
 TEST_F(ShadowFormTest, TheCropsEdgesBelongToIt)
 {
-    // A pixel less than what it covers on the right and at the bottom: the tested rectangle is that of the fill.
+    // Right and bottom are one pixel inside the painted outline: hits are tested against the filled rectangle.
     for (const QPoint& edge : {QPoint(100, 50), QPoint(198, 148), QPoint(100, 148), QPoint(198, 50)}) {
         Press(*form, edge);
         Release(*form, edge);
@@ -234,7 +233,7 @@ TEST_F(ShadowFormTest, AReleaseOfAnotherButtonDoesNotEndADrag)
     EXPECT_EQ(changed->count(), 1);
 }
 
-TEST_F(ShadowFormTest, TheCursorTellsWhetherTheCropCanBeTaken)
+TEST_F(ShadowFormTest, TheCursorShowsWhetherTheCropCanBeDragged)
 {
     Hover(*form, Inside);
     EXPECT_EQ(Cursor(), Qt::OpenHandCursor);
@@ -287,7 +286,7 @@ TEST_F(ShadowFormTest, RefusesAStepPastTheRightEdgeWhileTheOtherAxisMoves)
     EXPECT_EQ(changed->count(), 1);
 }
 
-TEST_F(ShadowFormTest, TakesAStepThatJustFits)
+TEST_F(ShadowFormTest, AcceptsAStepThatJustFits)
 {
     PressAt(Inside);
     MoveHeld(*form, Inside + QPoint(200, 50));
@@ -307,7 +306,7 @@ TEST_F(ShadowFormTest, StopsShortOfTheEdgeInsteadOfBeingPushedUpToIt)
     ExpectCrop(300, 50);
 }
 
-TEST_F(ShadowFormTest, TakesOrRefusesEachAxisAloneInACorner)
+TEST_F(ShadowFormTest, AcceptsOrRefusesEachAxisAloneInACorner)
 {
     PressAt(Inside);
     MoveHeld(*form, Inside + QPoint(190, 45));
@@ -322,7 +321,7 @@ TEST_F(ShadowFormTest, TakesOrRefusesEachAxisAloneInACorner)
 
 TEST_F(ShadowFormTest, TheFirstStepCountsFromWhereTheDragBeforeEnded)
 {
-    // Nothing was dragged yet: from the corner.
+    // Before the first drag the last position is the corner.
     Press(*form, Inside);
     MoveHeld(*form, Inside + QPoint(10, 0));
     ExpectCrop(100 + 160, 50);
@@ -344,7 +343,7 @@ TEST_F(ShadowFormTest, TheFirstStepCountsFromWhereTheDragBeforeEnded)
     ExpectCrop(270, 85);
 }
 
-TEST_F(ShadowFormTest, BackNearThePressNothingMovesButThePointerIsFollowed)
+TEST_F(ShadowFormTest, NearThePressTheCropStaysButThePositionIsUpdated)
 {
     PressAt(Inside);
     MoveHeld(*form, Inside + QPoint(20, 0));
@@ -355,7 +354,7 @@ TEST_F(ShadowFormTest, BackNearThePressNothingMovesButThePointerIsFollowed)
     ExpectCrop(142, 50);
 }
 
-TEST_F(ShadowFormTest, TellsOfADragWhoseEveryStepWasRefused)
+TEST_F(ShadowFormTest, ReportsADragWhoseStepsWereAllRefused)
 {
     form->SetCropRect(QRectF(0.0, 0.0, 0.25, 1.0));
     PressAt(QPoint(50, 100));

@@ -242,7 +242,7 @@ TEST_F(PropertyPanelTest, PutsThePreviewSwitchOnInSilence)
     EXPECT_EQ(previews.count(), 2);
 }
 
-TEST_F(PropertyPanelTest, TellsOfClicks)
+TEST_F(PropertyPanelTest, ReportsClicks)
 {
     Import().click();
     EXPECT_EQ(imports.count(), 1);
