@@ -165,6 +165,7 @@ class Journey:
         screen = self.screen
         # The preview plays after an analysis.
         self.pause()
+        self.expect_video_under_crop()
         first = self.go_to(0.2)
         first_left = self.drag_crop(0.1)
         screen.shoot("first-edit")
@@ -213,6 +214,17 @@ class Journey:
             fifth = len(greys) // 5
             return fifth > 10 and sum(greys[-fifth:]) - sum(greys[:fifth]) > 20 * fifth
         self.screen.until(look, "the video on the screen")
+
+    def expect_video_under_crop(self):
+        """The waves of the footage are visible inside the crop's outline."""
+        x, y, width, height = self.shadow()
+        left, right = self.outline(ACCENT)
+        inside = (x + int(left * width) + 5, y + height // 10, int((right - left) * width) - 10, 1)
+
+        def look():
+            greys = [pixel[1] for pixel in self.screen.pixels(inside)[0]]
+            return max(greys) - min(greys) > 30
+        self.screen.until(look, "the video under the crop", fresh=False)
 
     def switch_preview(self):
         screen = self.screen

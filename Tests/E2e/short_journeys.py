@@ -47,13 +47,15 @@ def run_on_a_dense_screen(screen):
 
 
 def run_without_compositor(journey):
-    """Analysis and reframed preview where no window can be translucent."""
+    """Analysis, crop and reframed preview where no window can be translucent."""
     screen = journey.screen
     screen.find("StatusBar_text", text="1 video · 1 selected")
     journey.open_dialog()
     screen.press("KrAutoReframePropertyPanel_analyze")
     screen.find("KrAutoReframePropertyPanel_restart", enabled=True)
     journey.pause()
+    journey.expect_video_under_crop()
+    screen.shoot("crop-over-the-video")
     screen.press("KrAutoReframePropertyPanel_previewSwitch")
     screen.find("KrAutoReframePropertyPanel_previewSwitch", checked=False)
     journey.expect_video("KxMediaPlayerWidget")
