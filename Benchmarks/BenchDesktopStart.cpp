@@ -9,7 +9,7 @@
 namespace
 {
 
-/// Waits for the window to be shown and ends the process when it is painted.
+/// Ends the process when the window is painted, before the program goes on with what it does after that.
 class Watch : public QObject
 {
 public:
@@ -18,11 +18,10 @@ public:
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override
     {
-        if (event->type() == QEvent::Show) {
-            if (const auto* const window = qobject_cast<MainWindow*>(watched)) {
-                connect(window, &MainWindow::sigPainted, this, [] { std::_Exit(0); });
-                qApp->removeEventFilter(this);
-            }
+        if (event->type() == QEvent::Paint && qobject_cast<MainWindow*>(watched) != nullptr) {
+            // Queued: the window and its children have not painted yet.
+            QMetaObject::invokeMethod(
+                this, [] { std::_Exit(0); }, Qt::QueuedConnection);
         }
         return QObject::eventFilter(watched, event);
     }
