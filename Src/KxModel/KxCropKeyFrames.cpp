@@ -11,7 +11,7 @@ QRectF Between(const QRectF& a, const QRectF& b, double part)
     return QRectF(mix(a.x(), b.x()), mix(a.y(), b.y()), mix(a.width(), b.width()), mix(a.height(), b.height()));
 }
 
-/// How many keyframes stand at or before `frame`.
+/// The number of keyframes at or before `frame`.
 int Passed(const QList<KxCropPanZoomKeyFrameParam>& keyFrames, qint64 frame)
 {
     const auto after =
@@ -20,14 +20,14 @@ int Passed(const QList<KxCropPanZoomKeyFrameParam>& keyFrames, qint64 frame)
     return static_cast<int>(after - keyFrames.cbegin());
 }
 
-/// Whether exactly `passed` keyframes stand at or before `frame`.
+/// Whether exactly `passed` keyframes are at or before `frame`.
 bool HasPassed(const QList<KxCropPanZoomKeyFrameParam>& keyFrames, int passed, qint64 frame)
 {
     return passed <= keyFrames.size() && (passed == 0 || keyFrames.at(passed - 1).frame <= frame) &&
            (passed == keyFrames.size() || frame < keyFrames.at(passed).frame);
 }
 
-/// What holds at `frame`, of which `passed` keyframes (there are some) stand at or before.
+/// The interpolated keyframe at `frame`; `passed` keyframes are at or before it. The list is not empty.
 KxCropPanZoomKeyFrameParam Between(const QList<KxCropPanZoomKeyFrameParam>& keyFrames, int passed, qint64 frame)
 {
     KxCropPanZoomKeyFrameParam param = keyFrames.at(std::max(passed - 1, 0));

@@ -5,7 +5,8 @@
 #include <mutex>
 
 /// The crop/pan/zoom keyframes of one clip: the list as it was set, and linear interpolation between its entries by
-/// binary search. Any thread.
+/// binary search. Setting a list costs the same whatever its length: the storage is shared with the caller, and the
+/// previous list is released, so that a caller with two lists can update one of them in place. Any thread.
 class KXMODEL_API KxCropKeyFrames final : public IKxCropPanZoomKeyFrameHelper
 {
 public:
@@ -18,13 +19,13 @@ public:
     /// The keyframes of this moment, sharing their storage.
     QList<KxCropPanZoomKeyFrameParam> KeyFrames() const;
 
-    /// The rule of interpolatedParam over a list, for whoever holds a copy of it. False when `keyFrames` is empty.
+    /// interpolatedParam for a copy of a list. False if `keyFrames` is empty.
     static bool Interpolate(const QList<KxCropPanZoomKeyFrameParam>& keyFrames, qint64 frame,
                             KxCropPanZoomKeyFrameParam* out);
 
 private:
     mutable std::mutex m_mutex;
     QList<KxCropPanZoomKeyFrameParam> m_keyFrames;
-    /// The number of keyframes at or before the frame that was asked for last: frames are mostly asked for in order.
+    /// The number of keyframes at or before the frame of the last call: most calls are in the order of frames.
     mutable int m_passed = 0;
 };

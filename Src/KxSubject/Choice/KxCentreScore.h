@@ -9,8 +9,8 @@
 #include <array>
 #include <cstddef>
 
-/// Rates the places that a crop's centre can take along its free axis: how much of a profile lies under a soft window
-/// of the crop's extent, less a charge for leaving the picture's middle.
+/// Scores the positions that a crop's centre can take along its free axis: the evidence under a soft window of the
+/// crop's extent, less a penalty for leaving the picture's middle.
 class KXSUBJECT_API KxCentreScore
 {
 public:
@@ -20,8 +20,8 @@ public:
     KxCentreScore(const KxSubjectOptions::Evidence& options, const KxCropGeometry& geometry);
 
     Scores Of(const KxSignalProfile& profile) const;
-    /// How much more of a profile lies under the window at the position nearest to a centre than at all positions on
-    /// average; 0 where it is less. What is spread evenly prefers no place, however much it is.
+    /// The evidence under the window at the position nearest to a centre, less the average over all positions; not
+    /// below 0. Evidence that is spread evenly prefers no position, however much it is.
     float Excess(double centre, const KxSignalProfile& profile) const;
     /// The centre at a position, in fractions of the picture; positions are equally spaced between the geometry's ends.
     double CentreAt(std::size_t position) const;

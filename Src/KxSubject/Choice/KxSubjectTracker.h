@@ -4,8 +4,8 @@
 
 #include <vector>
 
-/// The best run of places through one shot: the sum of the scores on the way, less what moving costs. The cost is
-/// linear in the distance, so a subject is left for another only when the gain lasts.
+/// The best sequence of positions through one shot (Viterbi): the sum of their scores less the cost of the moves. The
+/// cost is linear in the distance, so the crop leaves one subject for another only if the gain lasts.
 class KXSUBJECT_API KxSubjectTracker
 {
 public:

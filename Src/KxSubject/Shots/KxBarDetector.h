@@ -9,7 +9,7 @@
 #include <vector>
 
 /// Finds black bars that stay through the whole video: rows or columns at opposite sides that no picture has lit. Dark
-/// pictures (a fade) say nothing either way, since what counts is the brightest that a row has been.
+/// pictures (a fade) change nothing, because the brightest state of a row counts.
 class KXSUBJECT_API KxBarDetector
 {
 public:

@@ -12,17 +12,18 @@
 #include <vector>
 
 /// Finds the gradual shot boundaries of a video from its pictures as they come. Every picture is compared with some
-/// before it, 2 to 128 pictures back:
-/// 1. Dissolve: the two differ in structure; what lies between is their blend in every point and in contrast, and
-///    passes from the one to the other steadily. Before and after it rests, compared with that.
-/// 2. Wipe: the two differ more; what lies between is in every point between them, if not to the same part.
-/// 3. Fade: one shot passes into plain pictures (black, white) like this, and another out of them. Where a cut
-///    leads into or out of the plain pictures there is no fade: the boundary is the cut's.
-/// No boundary are
-/// 4. a pan, a zoom, a shake: what lies between has a structure of its own, and contrast;
-/// 5. a change of light, black and back again: the two are alike in structure;
-/// 6. a subject that passes close in front of the camera: soon what was before comes back;
-/// 7. a cut: nothing lies between.
+/// earlier ones, 2 to 128 pictures back:
+/// 1. Dissolve: the two differ in structure; every intermediate frame is a blend of them, point by point and in
+///    contrast, and the blend progresses steadily. Before and after it, the pictures change less.
+/// 2. Wipe: the two differ more; every point of an intermediate frame lies between theirs, not all in the same ratio.
+/// 3. Fade: one shot turns into plain pictures (black, white) like this, and another one emerges from them. If a cut
+/// leads
+///    into or out of the plain pictures, there is no fade: the boundary is that cut.
+/// These are no boundaries:
+/// 4. a pan, a zoom, a shake: the intermediate frames have a structure of their own, and contrast;
+/// 5. a change of light, or black and back again: the two are similar in structure;
+/// 6. a subject that passes close in front of the camera: the earlier picture soon comes back;
+/// 7. a cut: there are no intermediate frames.
 class KXSUBJECT_API KxShotBlends
 {
 public:
@@ -31,7 +32,7 @@ public:
     /// `grey` is CV_8UC1, of any size; `frame` grows from call to call.
     void AddPicture(std::int64_t frame, const cv::Mat& grey);
 
-    /// Growing, none over another.
+    /// In order of time; they do not overlap.
     std::vector<KxShotBoundary> Found() const;
 
 private:
@@ -39,7 +40,7 @@ private:
     struct Part {
         KxShotWindow::Passage passage;
         std::optional<std::int64_t> plainSince; ///< of the plain end
-        KxShotPicture shot;                     ///< the other one
+        KxShotPicture shot;                     ///< the end that is not plain
     };
     struct Parts {
         std::vector<Part> dissolves;

@@ -18,18 +18,18 @@
 /// 2. above a floor,
 /// 3. well above what is usual around it (itself left out),
 /// and which is not
-/// 4. the beginning or the end of a flash: what was before is back within 4 pictures, or within 7 brighter ones,
-/// 5. a change of light: the structure stays,
-/// 6. an explosion or something that passes: what was before is back within 24 pictures, and not by a jump,
-/// 7. inside a dissolve or a fade (KxShotBlends); a cut in the middle of many pictures denies a dissolve, though, or
-/// 8. nearer than the shortest shot to a dissolve, a fade, a stronger cut or the first picture.
-/// A cut stands on its exact frame where that was among the pictures, else on the first picture of the new shot.
+/// 4. the start or the end of a flash: the earlier picture is back within 4 pictures, or within 7 brighter ones,
+/// 5. a change of light: the structure stays the same,
+/// 6. an explosion or something that passes: the earlier picture is back within 24 pictures, and not by a jump,
+/// 7. inside a dissolve or a fade (KxShotBlends), unless it is a cut among many pictures: then there is no dissolve, or
+/// 8. closer than the shortest shot to a dissolve, a fade, a stronger cut or the first picture.
+/// A cut is at its exact frame if that was among the pictures, otherwise at the first picture of the new shot.
 class KXSUBJECT_API KxShotDetector
 {
 public:
     explicit KxShotDetector(const KxSubjectOptions::Shots& options);
 
-    /// Makes room for so many pictures at once.
+    /// Reserves memory for so many pictures.
     void Reserve(std::int64_t pictures);
 
     /// `picture` is CV_8UC3 in BGR order, of any size; `frame` grows from call to call.

@@ -17,16 +17,16 @@ struct KxShotPicture {
     std::int64_t frame = 0;
     double mean = 0.0;
     double variance = 0.0;
-    std::optional<std::int64_t> plainSince; ///< the frame that began the run of plain pictures that this one is in
+    std::optional<std::int64_t> plainSince; ///< the first frame of the plain pictures around this one
     Grey grey{};
 };
 
-/// Whether a stretch of pictures is its first one passing into its last: a dissolve, a wipe, or half a fade
-/// (KxShotBlends names the cases). Borrows the pictures.
+/// Decides whether a run of pictures is a transition from its first to its last: a dissolve, a wipe, or half a fade
+/// (the cases of KxShotBlends). Borrows the pictures.
 class KxShotWindow
 {
 public:
-    /// How many pictures before and behind a stretch are looked at, where there are so many.
+    /// How many pictures before and after a run are examined, as far as there are so many.
     static std::size_t Reach(std::size_t pictures);
 
     KxShotWindow(const std::deque<KxShotPicture>& pictures, std::size_t begin, std::size_t end,

@@ -11,15 +11,16 @@
 #include <vector>
 
 /// The camera's own movement between two pictures, from corners followed by pyramidal Lucas-Kanade and a homography
-/// fitted by a RANSAC (the framework of Raguram et al. 2013). Every part of the picture gives a like number of corners:
-/// else one large rich subject before a plain background would be taken for the world, and the world for what moves.
+/// fitted by a RANSAC (the framework of Raguram et al. 2013). Every part of the picture gives a similar number of
+/// corners: otherwise one large, richly textured subject in front of a plain background would be taken for the scene,
+/// and the scene for what moves.
 class KXSUBJECT_API KxCameraMovement
 {
 public:
     explicit KxCameraMovement(const KxSubjectOptions::Camera& options);
 
-    /// Maps `before` onto `now`, both CV_8UC1 of one size. The identity where there is too little to follow; none
-    /// where there is plenty and next to nothing agrees: the pictures show different scenes.
+    /// Maps `before` onto `now`, both CV_8UC1 of one size. The identity if there are too few corners to
+    /// follow; nothing if there are many and hardly any agree: the pictures show different scenes.
     std::optional<cv::Matx33d> Between(const cv::Mat& before, const cv::Mat& now) const;
 
 private:

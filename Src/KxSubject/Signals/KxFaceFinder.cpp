@@ -88,9 +88,9 @@ std::vector<cv::Rect> KxFaceFinder::Find(const cv::Mat& picture, const cv::Mat& 
 
 std::vector<cv::Rect> KxFaceFinder::FindBySearch(const cv::Mat& grey, KxFaceView view)
 {
-    std::vector<cv::Rect> suspects = FindByCascade(
+    std::vector<cv::Rect> candidates = FindByCascade(
         grey, view, {m_options.minimumPx, std::min(grey.cols, grey.rows), m_options.searchScaleFactor, 0});
-    std::sort(suspects.begin(), suspects.end(),
+    std::sort(candidates.begin(), candidates.end(),
               [](const cv::Rect& a, const cv::Rect& b) { return a.area() > b.area(); });
     const int neighbours = view == KxFaceView::Frontal ? m_options.frontalNeighbours : m_options.profileNeighbours;
     std::vector<cv::Rect> faces;
@@ -99,14 +99,14 @@ std::vector<cv::Rect> KxFaceFinder::FindBySearch(const cv::Mat& grey, KxFaceView
                            [this, &box](const cv::Rect& face) { return KxAreOneFace(face, box, m_options.sameShare); });
     };
     int looks = 0;
-    for (const cv::Rect& suspect : suspects) {
-        if (isKnown(suspect)) {
+    for (const cv::Rect& candidate : candidates) {
+        if (isKnown(candidate)) {
             continue;
         }
-        if (++looks > m_options.mostSuspects) {
+        if (++looks > m_options.mostCandidates) {
             break;
         }
-        const std::optional<cv::Rect> face = LookNear(grey, view, suspect, neighbours);
+        const std::optional<cv::Rect> face = LookNear(grey, view, candidate, neighbours);
         if (face && !isKnown(*face)) {
             faces.push_back(*face);
         }

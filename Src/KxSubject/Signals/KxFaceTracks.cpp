@@ -133,21 +133,21 @@ double KxFaceTracks::SizeWeight(const cv::Rect& face, cv::Size picturePx) const
                       0.0, 1.0);
 }
 
-KxFaceTracks::Sight KxFaceTracks::Seen(const Track& track, double fromSeconds, double toSeconds,
-                                       cv::Size picturePx) const
+KxFaceTracks::Detections KxFaceTracks::DetectionsOf(const Track& track, double fromSeconds, double toSeconds,
+                                                    cv::Size picturePx) const
 {
-    Sight sight;
+    Detections detections;
     const auto isBefore = [](const Look& look, double time) { return look.timeSeconds < time; };
     for (auto look = std::lower_bound(track.looks.begin(), track.looks.end(), fromSeconds, isBefore);
          look != track.looks.end() && look->timeSeconds <= toSeconds; ++look) {
-        ++sight.looks;
+        ++detections.looks;
         if (const std::optional<cv::Rect> face = look->Face()) {
-            ++sight.hits;
-            sight.sum += cv::Vec4d(face->x, face->y, face->width, face->height);
-            sight.weight += SizeWeight(*face, picturePx);
+            ++detections.hits;
+            detections.sum += cv::Vec4d(face->x, face->y, face->width, face->height);
+            detections.weight += SizeWeight(*face, picturePx);
         }
     }
-    return sight;
+    return detections;
 }
 
 KxSignalProfile KxFaceTracks::ProfileAt(double timeSeconds, double fromSeconds, double toSeconds, KxAxis axis,
@@ -162,15 +162,15 @@ KxSignalProfile KxFaceTracks::ProfileAt(double timeSeconds, double fromSeconds, 
         if (track.looks.front().timeSeconds > last || track.looks.back().timeSeconds < first) {
             continue;
         }
-        const Sight sight = Seen(track, first, last, picturePx);
-        if (sight.hits <= m_options.agreeing) {
+        const Detections detections = DetectionsOf(track, first, last, picturePx);
+        if (detections.hits <= m_options.agreeing) {
             continue;
         }
-        const cv::Vec4d face = sight.sum / sight.hits;
+        const cv::Vec4d face = detections.sum / detections.hits;
         const double height = face[3] * (1.0 + m_options.growDown);
         const double area = face[2] * height / picturePx.area();
         const double from = (across ? face[0] : face[1]) / lengthPx;
-        faces.Add(from, from + (across ? face[2] : height) / lengthPx, sight.weight / sight.looks * area);
+        faces.Add(from, from + (across ? face[2] : height) / lengthPx, detections.weight / detections.looks * area);
     }
     KxSignalProfile scaled;
     scaled.Add(faces, 1.0 / (static_cast<double>(faces.Sum()) + emptyFloor));

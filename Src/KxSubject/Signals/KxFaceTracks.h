@@ -10,9 +10,9 @@
 #include <optional>
 #include <vector>
 
-/// The faces of a video over time. Looks over the whole picture are rare; a face once found is looked for in its place,
-/// which is cheap, so that a false one is told from a true one by its persistence. Where nothing new was seen for a
-/// while and the picture stays the same, looks over the whole of it are rarer still.
+/// The faces of a video over time. The whole picture is searched rarely; a face once found is searched for in its
+/// place, which is cheap. A face that persists is taken for a true one. Where no new face has been found for a while
+/// and the scene stays the same, the whole picture is searched more rarely still.
 class KXSUBJECT_API KxFaceTracks
 {
 public:
@@ -20,14 +20,13 @@ public:
 
     const KxFaceFinder& Finder() const { return m_finder; }
 
-    /// The scene is another from the next picture on: no face of before is in it, and it is looked at at once, from all
-    /// sides.
+    /// A new scene starts with the next picture: earlier faces end, and the picture is searched at once, for all views.
     void BeginScene();
 
     /// Takes a look if one is due. Times grow from call to call.
     void AddPicture(double timeSeconds, const cv::Mat& picture, const cv::Mat& grey);
 
-    /// One look for one face: where it was, or that it was not there. Small, for hours of them are kept.
+    /// One look for one face: its box, or that it was not there. Small, because hours of them are kept.
     struct Look {
         Look(double time, const std::optional<cv::Rect>& face);
         std::optional<cv::Rect> Face() const; ///< in pixels of the working picture
@@ -43,19 +42,19 @@ public:
     };
     const std::vector<Track>& Tracks() const { return m_tracks; }
 
-    /// The profile of all faces at a time, from looks between `fromSeconds` and `toSeconds` (a shot) alone.
+    /// The profile of all faces at a time. Only looks between `fromSeconds` and `toSeconds` (a shot) count.
     KxSignalProfile ProfileAt(double timeSeconds, double fromSeconds, double toSeconds, KxAxis axis, double emptyFloor,
                               cv::Size picturePx) const;
 
 private:
-    /// What the looks at one face between two times add up to.
-    struct Sight {
+    /// Sums over the looks for one face between two times.
+    struct Detections {
         int looks = 0;
         int hits = 0;
         cv::Vec4d sum; ///< of the boxes: x, y, width, height
         double weight = 0.0;
     };
-    Sight Seen(const Track& track, double fromSeconds, double toSeconds, cv::Size picturePx) const;
+    Detections DetectionsOf(const Track& track, double fromSeconds, double toSeconds, cv::Size picturePx) const;
     bool IsFollowing() const;
     void LookEverywhere(double timeSeconds, const cv::Mat& picture, const cv::Mat& grey, KxFaceView view);
     void Follow(double timeSeconds, const cv::Mat& grey);
@@ -70,6 +69,6 @@ private:
     double m_lastProfile = LongAgo;
     double m_lastFollow = LongAgo;
     KxFaceView m_nextSide = KxFaceView::LeftProfile;
-    int m_sidesDue = 0; ///< looks from the sides at a scene that began, taken without a pause
+    int m_sidesDue = 0; ///< searches for profiles that a new scene still gets, without a pause between them
     int m_looksWithoutNews = 0;
 };

@@ -9,15 +9,15 @@
 
 #include <vector>
 
-/// A picture near in time, and the camera's movement that maps it onto the one looked at.
+/// A picture close in time, and the camera's movement that maps it onto the picture under examination.
 struct KxNeighbourPicture {
     cv::Mat grey;
     cv::Matx33d movement;
 };
 
-/// What moves by itself in a picture, the camera's own movement taken out. Seen from a picture before and from one
-/// after, only the mover itself differs from both; the background that it covered or lays bare differs from one alone
-/// and is not taken for it. Keeps no picture.
+/// What moves by itself in a picture, with the camera's own movement removed. A mover differs from the picture before
+/// and from the one after; the background that it covers or uncovers differs from only one of them, so it does not
+/// count. Keeps no picture.
 class KXSUBJECT_API KxMotionMap
 {
 public:

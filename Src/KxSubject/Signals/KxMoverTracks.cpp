@@ -85,7 +85,7 @@ std::vector<KxMoverTracks::Blob> KxMoverTracks::BlobsAt(int level, const cv::Mat
     return blobs;
 }
 
-void KxMoverTracks::Carry(const cv::Matx33d& camera)
+void KxMoverTracks::Predict(const cv::Matx33d& camera)
 {
     for (std::vector<Track>& open : m_open) {
         for (Track& track : open) {
@@ -141,7 +141,7 @@ void KxMoverTracks::Extend(Track& track, const Blob& blob) const
     track.misses = 0;
 }
 
-void KxMoverTracks::Join(std::vector<Track>& open, const std::vector<Blob>& blobs)
+void KxMoverTracks::Associate(std::vector<Track>& open, const std::vector<Blob>& blobs)
 {
     std::vector<std::tuple<double, std::size_t, std::size_t>> pairs;
     for (std::size_t i = 0; i < open.size(); ++i) {
@@ -218,13 +218,13 @@ void KxMoverTracks::AddMap(double timeSeconds, const cv::Mat& map, const std::op
     cv::resize(map, half, {(map.cols + 1) / 2, (map.rows + 1) / 2}, 0.0, 0.0, cv::INTER_AREA);
     m_mapPx = half.size();
     if (camera) {
-        Carry(Halved(*camera));
+        Predict(Halved(*camera));
     } else {
         EndAll();
     }
     const std::vector<Peak> peaks = PeaksOf(half);
     for (std::size_t level = 0; level < m_open.size(); ++level) {
-        Join(m_open[level], BlobsAt(static_cast<int>(level), half, peaks));
+        Associate(m_open[level], BlobsAt(static_cast<int>(level), half, peaks));
     }
 }
 

@@ -14,20 +14,20 @@
 #include <optional>
 #include <vector>
 
-/// Associates what moves from sample to sample: the parts of each motion map are followed from where the camera and
-/// their own speed carry them. What lasts and travels before its background is a subject, however small; noise, leaves
-/// and parallax do neither, however large. What one part is hangs on the height at which the map is cut: it is cut at
-/// several levels, the parts of each are followed by themselves, and each level has its share of the say.
+/// Associates movers from sample to sample: segments of the motion maps are tracked, with positions predicted from the
+/// camera's movement and their own. A track that lasts and travels relative to its background is a subject, however
+/// small; noise, leaves and parallax do neither, however large. Segmentation depends on the threshold, so each map is
+/// segmented at several levels; every level tracks its own segments and has an equal weight in the evidence.
 class KXSUBJECT_API KxMoverTracks
 {
 public:
     explicit KxMoverTracks(const KxSubjectOptions::Movers& options);
 
     /// The next sample's motion map (CV_32FC1, of the size that the first one had) and its time. `camera` maps the
-    /// sample before onto this one; none ends every track, for the scene is another.
+    /// previous sample onto this one; without it every track ends, because the scene is another.
     void AddMap(double timeSeconds, const cv::Mat& map, const std::optional<cv::Matx33d>& camera);
 
-    /// Ends the tracks still open. Call once, after the last map.
+    /// Ends the open tracks. Call once, after the last map.
     void Finish();
 
     /// In fractions of the map.
@@ -37,7 +37,7 @@ public:
         double width = 0.0;
         double height = 0.0;
     };
-    /// A mover that was followed long enough to count.
+    /// A mover that was tracked long enough to count.
     struct Mover {
         /// A box in 255ths of the map: hours of them are kept.
         using PackedBox = std::array<std::uint8_t, 4>;
@@ -63,13 +63,13 @@ private:
         cv::Rect box;
     };
     struct Track {
-        cv::Point2d place;      ///< in the newest map: where it was seen, or where it is thought to be
-        cv::Point2d background; ///< where its last place would lie, had it moved with the background alone
-        cv::Point2d velocity;   ///< before the background, a sample
-        cv::Point2d travel;     ///< before the background, since it began
+        cv::Point2d place;      ///< in the newest map: where it was detected or, if missed, predicted
+        cv::Point2d background; ///< its last place, moved with the background alone
+        cv::Point2d velocity;   ///< relative to the background, a sample
+        cv::Point2d travel;     ///< relative to the background, since it began
         double area = 0.0;
         double firstSeconds = 0.0;
-        double lastSeconds = 0.0; ///< when it was seen last
+        double lastSeconds = 0.0; ///< of the last detection
         int hits = 1;
         int misses = 0;
         Mover mover;
@@ -81,11 +81,11 @@ private:
     std::vector<Peak> PeaksOf(const cv::Mat& map) const;
     /// The parts of the map that lie above one level's share of their peaks.
     std::vector<Blob> BlobsAt(int level, const cv::Mat& map, const std::vector<Peak>& peaks) const;
-    void Carry(const cv::Matx33d& camera);
-    /// Goes on with the tracks of one level.
-    void Join(std::vector<Track>& open, const std::vector<Blob>& blobs);
+    void Predict(const cv::Matx33d& camera);
+    /// Continues the tracks of one level.
+    void Associate(std::vector<Track>& open, const std::vector<Blob>& blobs);
     void Extend(Track& track, const Blob& blob) const;
-    /// What speaks against their being one, least first; none where it is out of the question.
+    /// Lower is better; nothing if the two cannot match.
     std::optional<double> AssociationCost(const Track& track, const Blob& blob) const;
     Mover::PackedBox Packed(const cv::Rect& box) const;
     void End(Track& track);

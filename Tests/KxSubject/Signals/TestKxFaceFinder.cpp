@@ -99,7 +99,7 @@ TEST_F(KxFaceFinderOnAPhotograph, AFaceOfAnySizeIsFoundBetweenTheCoarseStepsOfTh
     }
 }
 
-TEST_F(KxFaceFinderOnAPhotograph, AKnownFaceIsBelievedOnFewerHitsThanANewOne)
+TEST_F(KxFaceFinderOnAPhotograph, AKnownFaceNeedsFewerHitsThanANewOne)
 {
     options.frontalNeighbours = 1000;
     EXPECT_TRUE(Find().empty());
@@ -108,10 +108,10 @@ TEST_F(KxFaceFinderOnAPhotograph, AKnownFaceIsBelievedOnFewerHitsThanANewOne)
     EXPECT_FALSE(FindNear().has_value());
 }
 
-TEST_F(KxFaceFinderOnAPhotograph, NoMorePlacesAreLookedAtThanTheBound)
+TEST_F(KxFaceFinderOnAPhotograph, NoMoreCandidatesAreExaminedThanTheBound)
 {
     EXPECT_FALSE(Find().empty());
-    options.mostSuspects = 0;
+    options.mostCandidates = 0;
     EXPECT_TRUE(Find().empty());
 }
 
@@ -119,7 +119,7 @@ TEST_F(KxFaceFinderOnAPhotograph, TheNumberOfOpenCvsThreadsDoesNotChangeTheFaces
 {
     // Many hits, few agreeing ones needed: the order in which threads deliver them would show.
     options.frontalNeighbours = 1;
-    options.mostSuspects = 6;
+    options.mostCandidates = 6;
     const cv::Mat part = grey;
     cv::repeat(part, 3, 3, grey);
     const int threads = cv::getNumThreads();
@@ -133,7 +133,7 @@ TEST_F(KxFaceFinderOnAPhotograph, TheNumberOfOpenCvsThreadsDoesNotChangeTheFaces
     cv::setNumThreads(threads);
 }
 
-TEST(KxFaceFinder, BoxesThatLieNearAndAreAlikeInSizeAreOneFace)
+TEST(KxFaceFinder, BoxesThatAreCloseAndOfSimilarSizeAreOneFace)
 {
     const cv::Rect face(100, 50, 40, 40);
     EXPECT_TRUE(KxAreOneFace(face, {110, 60, 40, 40}, 0.6));
