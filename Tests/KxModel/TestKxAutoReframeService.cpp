@@ -255,7 +255,7 @@ TEST_F(KxAutoReframeServiceTest, TimeStampsThatSpanMoreFramesThanAnyVideoHasAreR
 {
     MadeVideo::Recipe recipe;
     recipe.frames = 40;
-    recipe.output = QStringList{QStringLiteral("-vf"),    QStringLiteral("setpts='if(lt(N,20),N,N+43200000)/25/TB'"),
+    recipe.output = QStringList{QStringLiteral("-vf"),    QStringLiteral("setpts='if(lt(N,20),N,N+7000000)/25/TB'"),
                                 QStringLiteral("-vsync"), QStringLiteral("passthrough"),
                                 QStringLiteral("-c:v"),   QStringLiteral("libx264"),
                                 QStringLiteral("-bf"),    QStringLiteral("0")};
@@ -263,7 +263,7 @@ TEST_F(KxAutoReframeServiceTest, TimeStampsThatSpanMoreFramesThanAnyVideoHasAreR
     ASSERT_TRUE(MadeVideo::Make(path, recipe));
     EXPECT_FALSE(m_service.StartTask(path, m_param));
     EXPECT_EQ(m_service.LastSentence(),
-              QStringLiteral("Cannot analyse pause.mkv: its time stamps span 43200040 frames, the limit is 6000000."));
+              QStringLiteral("Cannot analyse pause.mkv: its time stamps span 7000040 frames, the limit is 6000000."));
 }
 
 TEST_F(KxAutoReframeServiceTest, APauseOfDaysInTheTimeStampsIsHeld)

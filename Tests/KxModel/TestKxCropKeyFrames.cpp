@@ -57,7 +57,7 @@ TEST(KxCropKeyFrames, HoldsTheFirstAndTheLastOutside)
     EXPECT_EQ(RectAt(keyFrames, 1000000), QRectF(0.5, 0.0, 0.4, 1.0));
 }
 
-TEST(KxCropKeyFrames, TheOrderOfQuestionsChangesNoAnswer)
+TEST(KxCropKeyFrames, TheOrderOfCallsChangesNoResult)
 {
     KxCropKeyFrames keyFrames;
     QList<KxCropPanZoomKeyFrameParam> keys;
@@ -83,6 +83,18 @@ TEST(KxCropKeyFrames, SettingReplacesAll)
     keyFrames.setKeyFrames({Key(3, QRectF(0.3, 0.0, 0.4, 1.0))});
     EXPECT_EQ(keyFrames.KeyFrames().size(), 1);
     EXPECT_EQ(RectAt(keyFrames, 0), QRectF(0.3, 0.0, 0.4, 1.0));
+}
+
+TEST(KxCropKeyFrames, SettingSharesTheListAndReleasesThePreviousOne)
+{
+    KxCropKeyFrames keyFrames;
+    QList<KxCropPanZoomKeyFrameParam> first{Key(0, QRectF(0.1, 0.0, 0.4, 1.0))};
+    QList<KxCropPanZoomKeyFrameParam> second{Key(0, QRectF(0.2, 0.0, 0.4, 1.0))};
+    keyFrames.setKeyFrames(first);
+    EXPECT_FALSE(first.isDetached()) << "an edit that copied the list would cost as much as the clip is long";
+    keyFrames.setKeyFrames(second);
+    EXPECT_TRUE(first.isDetached()) << "the caller may write to it without a copy";
+    EXPECT_FALSE(second.isDetached());
 }
 
 TEST(KxCropKeyFrames, EachReadSeesTheKeyframesOfOneMoment)
