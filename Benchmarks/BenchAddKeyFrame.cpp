@@ -14,7 +14,7 @@
 namespace
 {
 
-constexpr int frameCount = 216000;
+constexpr int FrameCount = 216000;
 
 std::shared_ptr<const KxMediaFacts> LongClip()
 {
@@ -23,7 +23,7 @@ std::shared_ptr<const KxMediaFacts> LongClip()
     KxVideoFacts video;
     video.resolution = QSize(1920, 1080);
     video.frameRate = {30, 1};
-    video.frameCount = frameCount;
+    video.frameCount = FrameCount;
     facts.video = video;
     return std::make_shared<const KxMediaFacts>(facts);
 }
@@ -31,8 +31,8 @@ std::shared_ptr<const KxMediaFacts> LongClip()
 QList<IKxAutoReframeResult> Results()
 {
     QList<IKxAutoReframeResult> results;
-    results.reserve(frameCount);
-    for (int frame = 0; frame < frameCount; ++frame) {
+    results.reserve(FrameCount);
+    for (int frame = 0; frame < FrameCount; ++frame) {
         results.append(IKxAutoReframeResult(frame, QRectF((frame % 600) / 1000.0, 0.0, 0.31640625, 1.0)));
     }
     return results;
@@ -70,7 +70,7 @@ void AddKeyFrame(benchmark::State& state)
         edited.helper.AddKeyFrame(edited.frame, QRectF(0.3, 0.0, 0.31640625, 1.0));
         benchmark::DoNotOptimize(edited.helper.GetDisplayResults().size());
     }
-    edited.frame = (edited.frame + 7919) % frameCount;
+    edited.frame = (edited.frame + 7919) % FrameCount;
 }
 BENCHMARK(AddKeyFrame)->Unit(benchmark::kMillisecond)->Iterations(1)->Repetitions(101)->ReportAggregatesOnly();
 

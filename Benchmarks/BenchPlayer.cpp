@@ -30,7 +30,7 @@
 namespace
 {
 
-constexpr QSize windowSize{960, 540};
+constexpr QSize WindowSize{960, 540};
 
 double ProcessorSeconds(int whose)
 {
@@ -93,7 +93,7 @@ public:
             return false;
         }
         m_timeline.reset(IKxTimeline::createSimpleTimeline((*item)->clip()));
-        m_widget->resize(windowSize);
+        m_widget->resize(WindowSize);
         m_widget->show();
         QEventLoop loop;
         QObject::connect(m_player, &KxMediaPlayerPresenter::sigFrameChanged, &loop, &QEventLoop::quit);
@@ -187,8 +187,8 @@ void RunFfplay(const QString& path, int seconds)
     wall.start();
     QProcess::execute(QStringLiteral("ffplay"),
                       {QStringLiteral("-loglevel"), QStringLiteral("quiet"), QStringLiteral("-autoexit"),
-                       QStringLiteral("-an"), QStringLiteral("-x"), QString::number(windowSize.width()),
-                       QStringLiteral("-y"), QString::number(windowSize.height()), QStringLiteral("-t"),
+                       QStringLiteral("-an"), QStringLiteral("-x"), QString::number(WindowSize.width()),
+                       QStringLiteral("-y"), QString::number(WindowSize.height()), QStringLiteral("-t"),
                        QString::number(seconds), path});
     Print({{QStringLiteral("what"), QStringLiteral("ffplay")},
            {QStringLiteral("seconds"), static_cast<double>(wall.elapsed()) / 1000},

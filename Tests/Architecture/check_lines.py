@@ -7,7 +7,7 @@
 """
 import os, re, sys
 
-CONSTANT = re.compile(r'^(\s*)((?:static |inline |thread_local )*)constexpr (?!auto \[)[^(={;]*?[\s*&](?!operator)(\w+)(?:\[\w*\])?\s*(?:[={;]|$)')
+CONSTANT = re.compile(r'^(\s*)((?:static |inline |thread_local )*)(?:constexpr|(?<![\w ])const) (?!auto \[)[^(={;]*?[\s*&](?!operator)(\w+)(?:\[\w*\])?\s*(?:[={;]|$)')
 SLEEP = re.compile(r'\b(?:qWait|qSleep|sleep_for|sleep_until|msleep|usleep|nanosleep)\s*\(|'
                    r'\bQThread::sleep\s*\(')
 

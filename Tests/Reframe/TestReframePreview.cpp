@@ -15,8 +15,8 @@
 namespace
 {
 
-constexpr int frames = 40;
-constexpr int grey = 150;
+constexpr int Frames = 40;
+constexpr int Grey = 150;
 
 class ReframePreviewTest : public testing::Test
 {
@@ -27,10 +27,10 @@ protected:
     {
         MadeVideo::Recipe recipe;
         recipe.size = size;
-        recipe.frames = frames;
+        recipe.frames = Frames;
         recipe.draw = [size](int) {
             QImage image(size, QImage::Format_RGB32);
-            image.fill(QColor(grey, grey, grey));
+            image.fill(QColor(Grey, Grey, Grey));
             return image;
         };
         recipe.inputs = QStringList{QStringLiteral("-f"), QStringLiteral("lavfi"), QStringLiteral("-i"),
@@ -45,7 +45,7 @@ protected:
     QString MakeTrack() const
     {
         CropTrack track;
-        for (int frame = 0; frame < frames; ++frame) {
+        for (int frame = 0; frame < Frames; ++frame) {
             track.crops.append(IKxAutoReframeResult(frame, QRectF(0.01 * frame, 0.0, 0.25, 1.0)));
         }
         QFile file(Path("track.csv"));
@@ -110,7 +110,7 @@ TEST_F(ReframePreviewTest, ShowsEveryFrameWithTheCropWhereTheTrackHasIt)
     EXPECT_EQ(run.standardError, QString());
     const auto reader = Open("look.mp4");
     ASSERT_NE(reader, nullptr);
-    EXPECT_EQ(reader->Facts().video->frameCount, frames);
+    EXPECT_EQ(reader->Facts().video->frameCount, Frames);
     EXPECT_EQ(reader->Facts().video->resolution, QSize(640, 360));
     EXPECT_EQ(reader->Facts().audio.size(), 1);
     for (const int frame : {0, 13, 39}) {
@@ -120,8 +120,8 @@ TEST_F(ReframePreviewTest, ShowsEveryFrameWithTheCropWhereTheTrackHasIt)
         const double left = 6.4 * frame;
         EXPECT_NEAR(columns.first(), left, 3.0) << frame;
         EXPECT_NEAR(columns.last(), left + 160.0, 3.0) << frame;
-        EXPECT_NEAR(qGray(image.pixel(qRound(left) + 80, 60)), grey, 6) << frame;
-        EXPECT_LT(qGray(image.pixel(600, 60)), grey / 2) << frame;
+        EXPECT_NEAR(qGray(image.pixel(qRound(left) + 80, 60)), Grey, 6) << frame;
+        EXPECT_LT(qGray(image.pixel(600, 60)), Grey / 2) << frame;
     }
 }
 

@@ -19,29 +19,29 @@
 namespace
 {
 
-constexpr int frames = 100;
-constexpr int cut = 60;
-const QSize sourceSize(320, 180);
+constexpr int Frames = 100;
+constexpr int Cut = 60;
+const QSize SourceSize(320, 180);
 
 double SquareCentre(int frame)
 {
-    return frame < cut ? 0.1 + 0.8 * frame / cut : 0.25;
+    return frame < Cut ? 0.1 + 0.8 * frame / Cut : 0.25;
 }
 
 /// A square that moves across a textured background; from `cut` on, it jumps up and down at the left of another one.
 QImage DrawScene(int frame)
 {
-    QImage image(sourceSize, QImage::Format_RGB32);
+    QImage image(SourceSize, QImage::Format_RGB32);
     QPainter painter(&image);
-    const bool isFirst = frame < cut;
+    const bool isFirst = frame < Cut;
     painter.fillRect(image.rect(), isFirst ? QColor(40, 60, 90) : QColor(170, 120, 60));
     for (int i = 0; i < 60; ++i) {
-        const int x = (i * 83 + (isFirst ? 0 : 41)) % sourceSize.width();
-        const int y = (i * 47 + (isFirst ? 0 : 29)) % sourceSize.height();
+        const int x = (i * 83 + (isFirst ? 0 : 41)) % SourceSize.width();
+        const int y = (i * 47 + (isFirst ? 0 : 29)) % SourceSize.height();
         painter.fillRect(x, y, 12, 6, isFirst ? QColor(60, 80, 110) : QColor(140, 90, 50));
     }
     const int hop = isFirst ? 0 : 10 * ((frame / 4) % 3);
-    painter.fillRect(qRound(SquareCentre(frame) * sourceSize.width()) - 16, 70 + hop, 32, 40, Qt::white);
+    painter.fillRect(qRound(SquareCentre(frame) * SourceSize.width()) - 16, 70 + hop, 32, 40, Qt::white);
     painter.end();
     return image;
 }
@@ -54,8 +54,8 @@ protected:
     QString MakeClip(const QString& name) const
     {
         MadeVideo::Recipe recipe;
-        recipe.size = sourceSize;
-        recipe.frames = frames;
+        recipe.size = SourceSize;
+        recipe.frames = Frames;
         recipe.draw = DrawScene;
         recipe.output = QStringList{QStringLiteral("-c:v"), QStringLiteral("libx264"), QStringLiteral("-pix_fmt"),
                                     QStringLiteral("yuv420p")};
@@ -190,7 +190,7 @@ TEST_F(ReframeReportTest, NumbersAreThoseOfTheTrack)
                           QStringLiteral("--keyframes"), Path(QStringLiteral("track.csv")), QStringLiteral("--speed"),
                           QStringLiteral("fast"), clip});
     ASSERT_EQ(run.exitStatus, 0) << run.standardError.toStdString();
-    const KxResult<CropTrack> track = CropTrackFile::Read(Path(QStringLiteral("track.csv")), frames);
+    const KxResult<CropTrack> track = CropTrackFile::Read(Path(QStringLiteral("track.csv")), Frames);
     ASSERT_TRUE(track) << track.Message().toStdString();
     const QString page = Read(QStringLiteral("why.html"));
     for (const char* fact :
@@ -200,7 +200,7 @@ TEST_F(ReframeReportTest, NumbersAreThoseOfTheTrack)
 
     const QList<QStringList> rows = ShotRows(page);
     ASSERT_EQ(rows.size(), 2) << page.right(2000).toStdString();
-    const QList<int> starts{0, cut, frames};
+    const QList<int> starts{0, Cut, Frames};
     for (int shot = 0; shot < 2; ++shot) {
         const QStringList& row = rows.at(shot);
         ASSERT_EQ(row.size(), 7);
@@ -224,8 +224,8 @@ TEST_F(ReframeReportTest, TheHeatMapIsLightestAtTheSubject)
         {QStringLiteral("--no-video"), QStringLiteral("--report"), Path(QStringLiteral("why.html")), clip});
     ASSERT_EQ(run.exitStatus, 0) << run.standardError.toStdString();
     const QImage heat = HeatOf(Read(QStringLiteral("why.html")));
-    ASSERT_EQ(heat.width(), frames);
-    for (const int frame : {15, 30, 50, cut, 80}) {
+    ASSERT_EQ(heat.width(), Frames);
+    for (const int frame : {15, 30, 50, Cut, 80}) {
         EXPECT_NEAR(LightestPlace(heat, frame), SquareCentre(frame), 0.12) << frame;
     }
 }

@@ -18,7 +18,7 @@
 namespace
 {
 
-constexpr int frames = 50;
+constexpr int Frames = 50;
 const QSize sourceSize(320, 180);
 
 /// Soft shapes that vary over the picture and over time, so that a wrong crop or a wrong frame is detected.
@@ -46,8 +46,8 @@ CropTrack PanningTrack()
     track.aspect = QSize(9, 16);
     track.speedName = QStringLiteral("auto");
     const double width = 180.0 * 9.0 / 16.0 / 320.0;
-    for (int frame = 0; frame < frames; ++frame) {
-        const double x = (1.0 - width) * frame / (frames - 1);
+    for (int frame = 0; frame < Frames; ++frame) {
+        const double x = (1.0 - width) * frame / (Frames - 1);
         track.crops.append(IKxAutoReframeResult(frame, QRectF(x, 0.0, width, 1.0)));
     }
     return track;
@@ -110,7 +110,7 @@ protected:
     {
         MadeVideo::Recipe recipe;
         recipe.size = sourceSize;
-        recipe.frames = frames;
+        recipe.frames = Frames;
         recipe.draw = &DrawScene;
         recipe.inputs =
             QStringList{QStringLiteral("-f"), QStringLiteral("lavfi"), QStringLiteral("-i"),
@@ -143,7 +143,7 @@ TEST_F(ReframeRoundTrip, EveryFrameIsTheCropOfTheSourceAndSoundStaysInSync)
     auto result = KxVideoReader::Open(output, KxCancelToken());
     ASSERT_TRUE(source);
     ASSERT_TRUE(result) << result.Message().toStdString();
-    EXPECT_EQ((*result)->Facts().video->frameCount, frames);
+    EXPECT_EQ((*result)->Facts().video->frameCount, Frames);
     EXPECT_EQ((*result)->Facts().video->frameRate, (KxRational{25, 1}));
     const QSize size = (*result)->Facts().video->resolution;
     EXPECT_EQ(size, QSize(102, 180)); // 101.25 pixels, rounded to an even number
@@ -151,7 +151,7 @@ TEST_F(ReframeRoundTrip, EveryFrameIsTheCropOfTheSourceAndSoundStaysInSync)
     KxPictureScaler sourceScaler;
     KxPictureScaler resultScaler;
     const CropTrack track = PanningTrack();
-    for (int frame = 0; frame < frames; ++frame) {
+    for (int frame = 0; frame < Frames; ++frame) {
         KxVideoFrame a;
         KxVideoFrame b;
         ASSERT_EQ((*source)->Read(frame, a), KxReadStatus::Delivered);
@@ -161,7 +161,7 @@ TEST_F(ReframeRoundTrip, EveryFrameIsTheCropOfTheSourceAndSoundStaysInSync)
         const double psnr = Psnr(expected, resultScaler.Scale(b, size, QImage::Format_RGB32));
         EXPECT_GT(psnr, 30.0) << "frame " << frame;
         // A crop 3 % of the width away differs clearly: the comparison can fail.
-        const QRectF elsewhere = track.crops.at(frame).cropRect().translated(frame < frames / 2 ? 0.03 : -0.03, 0.0);
+        const QRectF elsewhere = track.crops.at(frame).cropRect().translated(frame < Frames / 2 ? 0.03 : -0.03, 0.0);
         EXPECT_LT(Psnr(Reference(whole, elsewhere, size), resultScaler.Scale(b, size, QImage::Format_RGB32)),
                   psnr - 3.0);
     }
@@ -180,10 +180,10 @@ TEST_F(ReframeRoundTrip, TheTrackThatIsWrittenIsTheTrackThatWasApplied)
     const ReframeRun run({QStringLiteral("--apply"), Path("track.json"), QStringLiteral("--no-video"),
                           QStringLiteral("--keyframes"), Path("again.csv"), Path("scene.mp4")});
     ASSERT_EQ(run.exitStatus, 0) << run.standardError.toStdString();
-    const KxResult<CropTrack> again = CropTrackFile::Read(Path("again.csv"), frames);
+    const KxResult<CropTrack> again = CropTrackFile::Read(Path("again.csv"), Frames);
     ASSERT_TRUE(again);
-    ASSERT_EQ(again->crops.size(), frames);
-    for (int frame = 0; frame < frames; ++frame) {
+    ASSERT_EQ(again->crops.size(), Frames);
+    for (int frame = 0; frame < Frames; ++frame) {
         EXPECT_NEAR(again->crops.at(frame).cropRect().x(), PanningTrack().crops.at(frame).cropRect().x(), 1e-8);
     }
 }
@@ -193,9 +193,9 @@ TEST_F(ReframeRoundTrip, AnalysisGivesOneRectangleOfTheAspectForEveryFrame)
     const ReframeRun run({QStringLiteral("--no-video"), QStringLiteral("--aspect"), QStringLiteral("1:1"),
                           QStringLiteral("--keyframes"), Path("found.json"), Path("scene.mp4")});
     ASSERT_EQ(run.exitStatus, 0) << run.standardError.toStdString();
-    const KxResult<CropTrack> found = CropTrackFile::Read(Path("found.json"), frames);
+    const KxResult<CropTrack> found = CropTrackFile::Read(Path("found.json"), Frames);
     ASSERT_TRUE(found) << found.Message().toStdString();
-    ASSERT_EQ(found->crops.size(), frames);
+    ASSERT_EQ(found->crops.size(), Frames);
     for (const IKxAutoReframeResult& crop : found->crops) {
         EXPECT_NEAR(crop.cropRect().width() * 320.0, crop.cropRect().height() * 180.0, 1.0);
     }
@@ -215,7 +215,7 @@ TEST_F(ReframeRoundTrip, TheContactSheetShowsTheCrop)
     EXPECT_EQ(QColor(sheet.pixel(outline)), QColor(0x55, 0xE5, 0xC5));
     // In every cell the crop is brighter than the dimmed part right beside it.
     for (const int cell : {0, 5, 11}) {
-        const QRectF kept = PanningTrack().crops.at((2 * cell + 1) * frames / 24).cropRect();
+        const QRectF kept = PanningTrack().crops.at((2 * cell + 1) * Frames / 24).cropRect();
         const QPoint corner(12 + (cell % 4) * 412, 12 + (cell / 4) * (sheet.height() - 12) / 3);
         const int edge = kept.x() > 0.5 ? qRound(kept.left() * 400) : qRound(kept.right() * 400);
         const int inward = kept.x() > 0.5 ? 6 : -6;

@@ -308,24 +308,24 @@ TEST_F(TestCropKeyFrameCommands, ManyStepsComeBackOneByOne)
 #if defined(__GLIBC__) && !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
 TEST_F(TestCropKeyFrameCommands, ThreeThousandEditsOfALongClipTakeLessThan50Megabytes)
 {
-    constexpr uint Edits = 3000;
-    constexpr qint64 MostBytes = 50'000'000;
+    constexpr uint editCount = 3000;
+    constexpr qint64 mostBytes = 50'000'000;
     // Apart, each edit has a segment of its own; together, all share one.
-    for (const uint distance : {LongClip / Edits, 2u}) {
+    for (const uint distance : {LongClip / editCount, 2u}) {
         OpenAndApply(LongClip);
         const qint64 before = AllocatedBytes();
-        for (uint edit = 0; edit < Edits; ++edit) {
+        for (uint edit = 0; edit < editCount; ++edit) {
             helper->AddKeyFrame(edit * distance, Rect(0.5));
         }
-        EXPECT_EQ(helper->GetEditPointFrames().size(), static_cast<int>(Edits));
-        EXPECT_LT(AllocatedBytes() - before, MostBytes) << "at a distance of " << distance << " frames";
-        for (uint edit = 0; edit < Edits; ++edit) {
+        EXPECT_EQ(helper->GetEditPointFrames().size(), static_cast<int>(editCount));
+        EXPECT_LT(AllocatedBytes() - before, mostBytes) << "at a distance of " << distance << " frames";
+        for (uint edit = 0; edit < editCount; ++edit) {
             helper->Undo();
         }
         EXPECT_EQ(Segments(), QString());
         EXPECT_EQ(PushedFrames(), QStringLiteral("0..215999"));
         // The edits removed keyframes. With all of them restored, only the undo stack is counted.
-        EXPECT_LT(AllocatedBytes() - before, MostBytes) << "at a distance of " << distance << " frames";
+        EXPECT_LT(AllocatedBytes() - before, mostBytes) << "at a distance of " << distance << " frames";
     }
 }
 #endif

@@ -248,8 +248,8 @@ TEST_F(TestKrAutoReframeHelper, ASingleFrameReportsNoProgress)
 
 TEST_F(TestKrAutoReframeHelper, ProgressOfAClipOfHoursDoesNotWrap)
 {
-    constexpr int FrameCount = 440000;
-    Open(FrameCount);
+    constexpr int frameCount = 440000;
+    Open(frameCount);
     std::atomic<double> last{0.0};
     std::atomic_int progressCount{0};
     std::atomic_bool isAscending{true};
@@ -261,7 +261,7 @@ TEST_F(TestKrAutoReframeHelper, ProgressOfAClipOfHoursDoesNotWrap)
             ++progressCount;
         },
         Qt::DirectConnection);
-    EXPECT_TRUE(Apply(FrameCount));
+    EXPECT_TRUE(Apply(frameCount));
     EXPECT_TRUE(isAscending);
     EXPECT_DOUBLE_EQ(last, 0.9999);
     EXPECT_EQ(progressCount, 9999);

@@ -321,11 +321,11 @@ TEST_F(SliderTest, TheSearchBackLogsNothingWhenThereIsNone)
 TEST_F(SliderTest, AddingAFrameAgainMovesItToTheEnd)
 {
     // Wide bars that overlap: the one painted last shows both its edges.
-    constexpr int Wide = 60;
-    slider->SetMarkStyle(Qt::black, 2.0, Orange, Wide);
+    constexpr int wide = 60;
+    slider->SetMarkStyle(Qt::black, 2.0, Orange, wide);
     slider->SetEditFrames({10, 20, 30});
     slider->slotRealCurrentFrame(70);
-    const int rightEdge = MarkX(20) + Wide;
+    const int rightEdge = MarkX(20) + wide;
     ASSERT_LT(MarkX(30) + 2, rightEdge);
     EXPECT_EQ(Paint(*marks).pixelColor(rightEdge, 12), Orange);
     slider->slotOnAddOneEdit(20);

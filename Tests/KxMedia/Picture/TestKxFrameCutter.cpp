@@ -54,9 +54,9 @@ TEST(KxFrameCutter, SlowPanMovesASoftEdgeEvenly)
         return plane == 0 ? Rounded(16 + 219 / (1 + std::exp(-(x + 0.5 - 160) / 2.0))) : 128;
     }));
     KxFrameCutter cutter(QSize(128, 32));
-    constexpr double Start = 100.0;
+    constexpr double start = 100.0;
     for (int n = 0; n < 60; ++n) {
-        const double left = Start + 0.1 * n;
+        const double left = start + 0.1 * n;
         const KxVideoFrame cut = CutPixels(cutter, picture, QRectF(left, 0, 128, 32));
         ASSERT_FALSE(cut.IsNull());
         const double edge = 128 - (Mean(cut.Picture(), 0) - 16) / 219 * 128;

@@ -122,10 +122,10 @@ TEST_F(KxMp4WriterTest, FolderWithoutPermissionIsNamed)
     ASSERT_TRUE(QFile::setPermissions(m_folder.path(),
                                       QFile::ReadOwner | QFile::ExeOwner | QFile::ReadOther | QFile::ExeOther));
     // For the one user who may do everything no folder is closed.
-    constexpr uid_t Nobody = 65534;
+    constexpr uid_t nobody = 65534;
     const bool isRoot = geteuid() == 0;
     if (isRoot) {
-        ASSERT_EQ(seteuid(Nobody), 0);
+        ASSERT_EQ(seteuid(nobody), 0);
     }
     const QString message = KxMp4Writer::Open(SettingsFor(Path(QStringLiteral("out.mp4")))).Message();
     if (isRoot) {
@@ -194,13 +194,13 @@ TEST_F(KxMp4WriterLimit, DiskThatTakesNoMoreIsNoticedWhilePicturesAreWritten)
 TEST_F(KxMp4WriterLimit, DiskThatTakesNoMoreIsNoticedWhileTheIndexIsMoved)
 {
     // Few bits, so that the encoder never has to hold back and makes the same file each time.
-    constexpr qint64 Pictures = 200;
-    const QString whole = WriteFlat(SettingsFor(Path(QStringLiteral("out.mp4"))), Pictures);
+    constexpr qint64 pictureCount = 200;
+    const QString whole = WriteFlat(SettingsFor(Path(QStringLiteral("out.mp4"))), pictureCount);
     const qint64 bytes = QFile(whole).size();
     ASSERT_TRUE(QFile::remove(whole));
     for (const qint64 missing : {2500, 1000, 1}) {
         ASSERT_GT(bytes, missing);
-        ExpectNoticed(bytes - missing, Pictures, &FlatPicture);
+        ExpectNoticed(bytes - missing, pictureCount, &FlatPicture);
     }
 }
 
