@@ -5,10 +5,8 @@
 
 #include <KxWidgets/KxToolTipHelper.h>
 
-#include <QHelpEvent>
 #include <QPaintEvent>
 #include <QPainter>
-#include <QToolTip>
 
 IKxMediaPlayerFactory::~IKxMediaPlayerFactory() = default;
 
@@ -69,19 +67,11 @@ QString KxMediaPlayerWidget::Failure() const
 
 void KxMediaPlayerWidget::HandlePictureChanged()
 {
-    setAccessibleDescription(Failure());
-    update();
-}
-
-bool KxMediaPlayerWidget::event(QEvent* event)
-{
     const QString failure = Failure();
-    if (event->type() == QEvent::ToolTip && !failure.isEmpty()) {
-        // The painted message may be shortened.
-        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), KxToolTipHelper::AsPlainText(failure), this);
-        return true;
-    }
-    return KxWidget::event(event);
+    setAccessibleDescription(failure);
+    // The painted message may be shortened.
+    setToolTip(KxToolTipHelper::AsPlainText(failure));
+    update();
 }
 
 void KxMediaPlayerWidget::paintEvent(QPaintEvent* event)
@@ -91,7 +81,7 @@ void KxMediaPlayerWidget::paintEvent(QPaintEvent* event)
         return;
     }
     KxMediaPlayerPresenter::Impl& player = *m_presenter->m_impl;
-    // The pixels of a point change without a resize when the window goes to another screen.
+    // The pixel ratio changes without a resize when the window moves to another screen.
     player.SetArea(DeviceSize(*this), devicePixelRatioF());
     if (const std::optional<KxPlayerPicture>& picture = player.playback.Picture()) {
         const QRect place = player.PicturePlace();

@@ -17,7 +17,6 @@ public:
     KxMediaPlayerPresenter* getOrCreatePresenter();
 
 protected:
-    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
