@@ -9,7 +9,7 @@ Qt::Edges KxResizeGeometry::EdgesAt(const QPoint& position, const QSize& size)
     }
     const int right = size.width() - 1 - position.x();
     const int bottom = size.height() - 1 - position.y();
-    const auto near = [&](int reachPx) {
+    const auto edgesWithin = [&](int reachPx) {
         Qt::Edges edges;
         edges.setFlag(Qt::LeftEdge, position.x() < reachPx);
         edges.setFlag(Qt::RightEdge, right < reachPx);
@@ -17,27 +17,31 @@ Qt::Edges KxResizeGeometry::EdgesAt(const QPoint& position, const QSize& size)
         edges.setFlag(Qt::BottomEdge, bottom < reachPx);
         return edges;
     };
-    const Qt::Edges corner = near(CornerPx);
+    const Qt::Edges corner = edgesWithin(CornerPx);
     const bool acrossCorner = corner & (Qt::LeftEdge | Qt::RightEdge) && corner & (Qt::TopEdge | Qt::BottomEdge);
-    return acrossCorner && near(EdgePx) != Qt::Edges() ? corner : near(EdgePx);
+    return acrossCorner && edgesWithin(EdgePx) != Qt::Edges() ? corner : edgesWithin(EdgePx);
 }
 
 QRect KxResizeGeometry::AreaOf(Qt::Edges edges, const QSize& size)
 {
     const bool isCorner = edges & (Qt::LeftEdge | Qt::RightEdge) && edges & (Qt::TopEdge | Qt::BottomEdge);
-    const int thickness = isCorner ? CornerPx : EdgePx;
+    return Strip(edges, size, isCorner ? CornerPx : EdgePx);
+}
+
+QRect KxResizeGeometry::Strip(Qt::Edges edges, const QSize& size, int thicknessPx)
+{
     QRect area(QPoint(), size);
     if (edges & Qt::LeftEdge) {
-        area.setWidth(thickness);
+        area.setWidth(thicknessPx);
     }
     if (edges & Qt::RightEdge) {
-        area.setLeft(size.width() - thickness);
+        area.setLeft(size.width() - thicknessPx);
     }
     if (edges & Qt::TopEdge) {
-        area.setHeight(thickness);
+        area.setHeight(thicknessPx);
     }
     if (edges & Qt::BottomEdge) {
-        area.setTop(size.height() - thickness);
+        area.setTop(size.height() - thicknessPx);
     }
     return area;
 }

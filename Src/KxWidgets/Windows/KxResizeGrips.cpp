@@ -11,8 +11,6 @@
 namespace
 {
 
-constexpr Qt::Edges None{};
-
 class Grip : public QWidget
 {
 public:
@@ -63,10 +61,14 @@ KxResizeGrips::KxResizeGrips(QWidget* window)
     : KxWindowPieces(window)
 {
     SetActive(false);
-    for (const Qt::Edges edges : {None | Qt::LeftEdge, None | Qt::RightEdge, None | Qt::TopEdge, None | Qt::BottomEdge,
-                                  Qt::LeftEdge | Qt::TopEdge, Qt::RightEdge | Qt::TopEdge,
-                                  Qt::LeftEdge | Qt::BottomEdge, Qt::RightEdge | Qt::BottomEdge}) {
+    const auto add = [this, window](Qt::Edges edges) {
         Add(new Grip(window, edges), [edges](const QSize& size) { return KxResizeGeometry::AreaOf(edges, size); });
+    };
+    for (const Qt::Edge edge : {Qt::LeftEdge, Qt::RightEdge, Qt::TopEdge, Qt::BottomEdge}) {
+        add(edge);
+    }
+    for (const Qt::Edges corner : KxResizeGeometry::Corners) {
+        add(corner);
     }
 }
 

@@ -2,9 +2,8 @@
 
 #include <KxWidgets/Windows/KxWindowPieces.h>
 
-/// Invisible strips along the edges of a window without a frame, over everything else in it, by which the person
-/// resizes it. The desktop does the resizing where it can. They are away while the window is maximised or may not be
-/// resized, which it may not at first.
+/// Invisible strips along the edges of a window without a frame, above its content, with which the person resizes it.
+/// If possible, the desktop does the resizing. They are hidden while the window is maximised and until SetActive(true).
 class KxResizeGrips : public KxWindowPieces
 {
     Q_OBJECT

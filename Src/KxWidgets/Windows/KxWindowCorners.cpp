@@ -1,6 +1,7 @@
 #include <KxWidgets/Windows/KxWindowCorners.h>
 
 #include <KxWidgets/Style/KxTheme.h>
+#include <KxWidgets/Windows/KxResizeGeometry.h>
 
 #include <QPainter>
 #include <QPainterPath>
@@ -8,14 +9,6 @@
 
 namespace
 {
-
-QRect AreaOf(Qt::Corner corner, const QSize& window)
-{
-    constexpr int side = KxTheme::WindowRadiusPx;
-    const bool right = corner == Qt::TopRightCorner || corner == Qt::BottomRightCorner;
-    const bool bottom = corner == Qt::BottomLeftCorner || corner == Qt::BottomRightCorner;
-    return {right ? window.width() - side : 0, bottom ? window.height() - side : 0, side, side};
-}
 
 class CornerPiece : public QWidget
 {
@@ -50,9 +43,9 @@ protected:
 KxWindowCorners::KxWindowCorners(QWidget* window)
     : KxWindowPieces(window)
 {
-    for (const Qt::Corner corner :
-         {Qt::TopLeftCorner, Qt::TopRightCorner, Qt::BottomLeftCorner, Qt::BottomRightCorner}) {
-        Add(new CornerPiece(window), [corner](const QSize& size) { return AreaOf(corner, size); });
+    for (const Qt::Edges corner : KxResizeGeometry::Corners) {
+        Add(new CornerPiece(window),
+            [corner](const QSize& size) { return KxResizeGeometry::Strip(corner, size, KxTheme::WindowRadiusPx); });
     }
 }
 

@@ -2,8 +2,8 @@
 
 #include <KxWidgets/Windows/KxWindowPieces.h>
 
-/// Rounds the corners of a translucent window without a frame, over whatever its children have painted there, and draws
-/// the bend of its border. Away while the window is maximised.
+/// Rounds the corners of a translucent window without a frame, above what its children paint there, and draws its
+/// border there. Hidden while the window is maximised.
 class KxWindowCorners : public KxWindowPieces
 {
     Q_OBJECT
