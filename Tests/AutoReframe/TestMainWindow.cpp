@@ -4,8 +4,8 @@
 #include <Apps/AutoReframe/MainWindow.h>
 #include <Tests/AutoReframe/Backend/FakeMediaBackend.h>
 
-#include <KxWidgets/KrMessageDialog.h>
-#include <KxWidgets/KxFileDialog.h>
+#include <KxWidgets/Windows/KxFileResponder.h>
+#include <KxWidgets/Windows/KxMessageResponder.h>
 
 #include <QAbstractButton>
 #include <QApplication>

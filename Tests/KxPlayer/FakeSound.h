@@ -6,20 +6,20 @@
 #include <stdexcept>
 #include <vector>
 
-/// What a fake sound device was given and how far it is, for a test on the thread of the audio output.
+/// What a fake sound device was given, and how much of it has been heard. For the thread of the audio output.
 struct FakeSoundState {
     bool starts = true;
     bool isStarted = false;
     int capacity = 9600;
     std::vector<float> taken;
     int heardFrames = 0;
-    /// How often the output looked for room, which is the end of each look at the clock.
+    /// How often the output asked for free frames, which it does after it has corrected the clock.
     mutable int looks = 0;
-    /// Foreign code may throw.
+    /// Write() throws.
     bool throws = false;
 
     int WaitingFrames() const { return static_cast<int>(taken.size()) / KxSoundDevice::Channels - heardFrames; }
-    /// The device plays on.
+    /// The device plays `frames` more.
     void Hear(int frames) { heardFrames += std::min(frames, WaitingFrames()); }
 };
 

@@ -41,7 +41,7 @@ protected:
         return MadeVideo::ReadNumber(Painted().copy(player.mediaPlayer()->videoRect()));
     }
 
-    /// What surrounds the pixels of this colour, and of mixtures in which it dominates.
+    /// The bounding rectangle of the pixels that nearly have this colour.
     QRect Coloured(const QColor& colour) const
     {
         const QImage picture = Painted();
@@ -60,7 +60,7 @@ protected:
 
     void Open(const PlayerClip::Timeline& timeline) { player.openTimeline(timeline.get(), true, false); }
 
-    // For the tests that look at the picture themselves.
+    // For tests that check the pictures themselves.
     void CheckNoPictures() { player.disconnect(&player); }
 
     bool Await(int frame)
@@ -140,7 +140,7 @@ TEST_F(TestMediaPlayer, PlaysToTheEndInRealTime)
     frames.clear();
     player.play();
     EXPECT_TRUE(player.inPlaying());
-    // Every picture on the way is looked at where sigFrameChanged is received.
+    // The fixture checks every picture when it receives sigFrameChanged.
     ASSERT_TRUE(ended.wait(15000));
     EXPECT_FALSE(player.inPlaying());
     EXPECT_EQ(player.currentFrame(), Last);
@@ -208,7 +208,7 @@ TEST_F(TestMediaPlayer, SwitchesBetweenWholeAndCropped)
         EXPECT_EQ(player.currentFrame(), 0);
         EXPECT_EQ(Painted().pixel(200, 120), Painted().pixel(1, 1));
         player.seek(25, 0, 0);
-        // The place is kept although its picture does not stand yet: whoever asks may switch once more.
+        // The position is known before its picture is shown: the caller may switch once more.
         EXPECT_EQ(player.currentFrame(), 25);
         frames.clear();
         ASSERT_TRUE(Await(25));
@@ -225,7 +225,7 @@ TEST_F(TestMediaPlayer, SwitchesBetweenWholeAndCropped)
     }
 }
 
-TEST_F(TestMediaPlayer, StandsInTheMiddleOfItsArea)
+TEST_F(TestMediaPlayer, ThePictureIsInTheMiddleOfTheWidget)
 {
     const auto timeline = PlayerClip::Open(PlayerClip::Numbered());
     Open(timeline);
@@ -233,11 +233,11 @@ TEST_F(TestMediaPlayer, StandsInTheMiddleOfItsArea)
     const QRect place = player.mediaPlayer()->videoRect();
     EXPECT_LE(std::abs(place.left() - (widget->width() - 1 - place.right())), 1);
     EXPECT_LE(std::abs(place.top() - (widget->height() - 1 - place.bottom())), 1);
-    // Around it the style's background, not black bars.
+    // It is surrounded by the style's background, not by black bars.
     EXPECT_EQ(Painted().pixelColor(place.left() - 2, 120), widget->palette().color(QPalette::Window));
 }
 
-TEST_F(TestMediaPlayer, AResizeStretchesAtOnceAndThenMakesThePictureAnew)
+TEST_F(TestMediaPlayer, AResizeStretchesThePictureAndThenMakesItAgain)
 {
     const auto timeline = PlayerClip::Open(PlayerClip::Numbered());
     Open(timeline);
@@ -249,12 +249,12 @@ TEST_F(TestMediaPlayer, AResizeStretchesAtOnceAndThenMakesThePictureAnew)
             EXPECT_EQ(PaintedNumber(), 17);
         }
     }
-    // Exactly made: black is black at the very edge of a block.
+    // Made for this size: blocks have sharp edges.
     ASSERT_TRUE(QTest::qWaitFor([&] { return PaintedNumber() == 17; }));
     EXPECT_EQ(frames.last()[0], 17);
 }
 
-TEST_F(TestMediaPlayer, ABrokenOrVanishedFileIsTold)
+TEST_F(TestMediaPlayer, ABrokenOrMissingFileIsReported)
 {
     const QString path = PlayerClip::Numbered() + QStringLiteral(".copy.mp4");
     QFile::copy(PlayerClip::Numbered(), path);
@@ -276,7 +276,7 @@ TEST_F(TestMediaPlayer, ABrokenOrVanishedFileIsTold)
 
 TEST_F(TestMediaPlayer, AFileThatIsGoneIsReportedInThePlayer)
 {
-    // As long as a file system allows.
+    // Nearly as long as a file system allows.
     const QString path = PlayerClip::Numbered() + QString(200, QLatin1Char('n')) + QStringLiteral(".mp4");
     ASSERT_TRUE(QFile::copy(PlayerClip::Numbered(), path));
     const auto timeline = PlayerClip::Open(path);
@@ -300,6 +300,28 @@ TEST_F(TestMediaPlayer, AFileThatIsGoneIsReportedInThePlayer)
     ASSERT_TRUE(Await(0));
     EXPECT_TRUE(Coloured(KxUIStyle::Colour(KxUIStyle::Role::Error)).isEmpty());
     EXPECT_EQ(widget->accessibleDescription(), QString());
+}
+
+TEST_F(TestMediaPlayer, AFileThatIsOverwrittenWhileShownShowsAnErrorAndNoOldPicture)
+{
+    const QString path = PlayerClip::Numbered() + QStringLiteral(".overwritten.mp4");
+    ASSERT_TRUE(QFile::copy(PlayerClip::Numbered(), path));
+    const auto timeline = PlayerClip::Open(path);
+    Open(timeline);
+    ASSERT_TRUE(Await(0));
+    ASSERT_EQ(PaintedNumber(), 0);
+    // In place: the player has the file open and reads the new bytes.
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+    const QByteArray other(static_cast<int>(file.size() / 2), 'x');
+    ASSERT_TRUE(file.seek(file.size() / 4) && file.write(other) == other.size());
+    file.close();
+    player.seek(Last, 0, 0);
+    ASSERT_TRUE(failed.wait());
+    EXPECT_EQ(PaintedNumber(), std::nullopt);
+    EXPECT_FALSE(Coloured(KxUIStyle::Colour(KxUIStyle::Role::Error)).isEmpty());
+    EXPECT_EQ(player.currentFrame(), Last);
+    QFile::remove(path);
 }
 
 TEST_F(TestMediaPlayer, ATruncatedFileHoldsItsLastPicture)

@@ -6,7 +6,7 @@
 #include <QWheelEvent>
 #include <QWidget>
 
-/// A hand on the mouse: events as they come from a window, in the widget's coordinates.
+/// Mouse events as a window delivers them, in the widget's coordinates.
 namespace Hand
 {
 inline void Send(QWidget& widget, QEvent::Type type, const QPoint& position, Qt::MouseButton button,

@@ -6,8 +6,7 @@
 #include <QTextDocumentFragment>
 #include <QToolTip>
 
-/// The text that a person reads in the tooltip on the screen: markup that is applied does not appear in it. Empty
-/// without a tooltip.
+/// The text that a person reads in the visible tooltip, without applied markup. Empty without a tooltip.
 inline QString ShownToolTip()
 {
     const QWidgetList windows = QApplication::topLevelWidgets();

@@ -31,16 +31,4 @@ KXWIDGETS_API void SetFileCheck(FileCheck check);
 
 /// An existing folder; empty when the person cancelled.
 KXWIDGETS_API QString getExistingDirectory(QWidget* parent, const QString& caption, const QString& folder);
-
-/// What a chooser would show; exactly one of the two kinds.
-struct Shown {
-    bool picksFolder = false;
-    QString caption;
-    QString folder;
-    QString filter;
-};
-/// Chooses in the person's place.
-using Responder = std::function<QStringList(const Shown&)>;
-/// As KrMessageDialog::SetResponder.
-KXWIDGETS_API void SetResponder(Responder responder);
 } // namespace KxFileDialog

@@ -1,4 +1,4 @@
-#include <KxWidgets/KrMessageDialog.h>
+#include <KxWidgets/Windows/KxMessageResponder.h>
 
 #include <KxCore/KxConfigFile.h>
 #include <KxWidgets/Windows/KxMessageBox.h>
@@ -30,7 +30,7 @@ QString TitleOrProduct(const QString& title)
     return product.isEmpty() ? Translated("Auto Reframe") : product;
 }
 
-// Boxes are told apart by their text, whose characters no key of the file could hold.
+// Boxes are identified by their text. Its hash serves as the key because a key may not contain every character.
 QString HiddenKey(const QString& text)
 {
     const QByteArray digest = QCryptographicHash::hash(text.toUtf8(), QCryptographicHash::Sha1);

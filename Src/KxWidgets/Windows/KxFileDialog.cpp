@@ -1,4 +1,4 @@
-#include <KxWidgets/KxFileDialog.h>
+#include <KxWidgets/Windows/KxFileResponder.h>
 
 #include <KxWidgets/Windows/KxFileBox.h>
 #include <KxWidgets/Windows/KxFileFilter.h>

@@ -6,6 +6,6 @@
 
 namespace KxFileFilter
 {
-/// A group "Name(*.mp4;*.mov;)" as Qt writes it: "Name (*.mp4 *.mov)". Every file where it names no pattern.
+/// Converts a group "Name(*.mp4;*.mov;)" to Qt's form "Name (*.mp4 *.mov)". Without a pattern, every file matches.
 KXWIDGETS_API QString ToQt(const QString& group);
 } // namespace KxFileFilter

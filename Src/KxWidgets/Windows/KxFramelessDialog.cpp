@@ -106,7 +106,7 @@ void KxFramelessDialog::FollowWindowState()
     update();
 }
 
-// Some desktops bring back the parent alone; a modal dialog that stayed away would lock the program.
+// Some desktops restore only the parent. A modal dialog that stayed minimised would block the program.
 bool KxFramelessDialog::eventFilter(QObject* watched, QEvent* event)
 {
     const QWidget* parent = parentWidget();
@@ -150,7 +150,7 @@ void KxFramelessDialog::MoveToCentre()
     move(place.topLeft());
 }
 
-// Without this the first control in the order, a button of the title bar, would take it.
+// Otherwise the focus would go to the first control in the tab order, a button of the title bar.
 void KxFramelessDialog::FocusContent()
 {
     QWidget* first = m_content;

@@ -37,7 +37,7 @@ QString GlyphOf(KrMessageType type)
     return {};
 }
 
-// A path has no blanks to break it at.
+// A path contains no spaces at which a line could be broken.
 QString Breakable(QString text)
 {
     static const QRegularExpression separator(QStringLiteral("([/\\\\_])"));
@@ -121,7 +121,7 @@ void KxMessageBox::AddButton(const QString& text, Answer answer, bool isDefault)
         m_default = button;
         button->setFocus(Qt::OtherFocusReason);
     }
-    // A button bar makes each primary button the default one.
+    // The button bar makes every primary button the default one.
     button->setDefault(false);
     if (m_default != nullptr) {
         m_default->setDefault(true);

@@ -28,8 +28,8 @@ public:
     bool IsChecked() const;
 
     enum class Answer { Confirm, Refuse };
-    /// Buttons stand in the order in which they are added. Return presses the default one, which has the focus at
-    /// first.
+    /// Buttons appear in the order in which they are added. Return presses the default one, which initially has the
+    /// focus.
     void AddButton(const QString& text, Answer answer, bool isDefault);
 
 private:

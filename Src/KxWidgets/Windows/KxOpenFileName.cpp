@@ -19,7 +19,7 @@ QString Translated(const char* text)
     return QCoreApplication::translate("KxOpenFileName", text);
 }
 
-/// The texts of a list of zero-terminated ones that ends with an empty one.
+/// Splits a list of zero-terminated texts that ends with an empty one.
 QStringList TextsOf(const wchar_t* list)
 {
     QStringList texts;
@@ -31,8 +31,8 @@ QStringList TextsOf(const wchar_t* list)
     return texts;
 }
 
-/// The pair of name and patterns that the request starts with, as the host's chooser takes it. A name often repeats its
-/// patterns in parentheses; the chooser does that itself.
+/// The selected pair of name and patterns in the form of the host's chooser. A name often repeats its patterns in
+/// parentheses; they are removed because the chooser adds them itself.
 QString FilterOf(const OPENFILENAMEW& request)
 {
     const QStringList texts = TextsOf(request.lpstrFilter);
@@ -46,7 +46,7 @@ QString FilterOf(const OPENFILENAMEW& request)
     return QStringLiteral("%1(%2;)").arg(name.left(name.indexOf(QLatin1Char('('))).trimmed(), patterns);
 }
 
-/// What the buffer gets of a choice.
+/// The content of the buffer for a choice.
 struct Answer {
     std::wstring buffer;
     std::size_t nameOffset = 0;
@@ -61,7 +61,7 @@ Answer OnePath(const QString& path)
     return answer;
 }
 
-/// A choice is always of one folder: files of any other are left out.
+/// A choice contains files of one folder only: files of other folders are dropped.
 Answer FolderAndNames(const QStringList& paths)
 {
     const QString folder = QFileInfo(paths.first()).path();
@@ -101,7 +101,7 @@ int GetOpenFileNameW(OPENFILENAMEW* request)
     }
     const bool several = (request->Flags & OFN_ALLOWMULTISELECT) != 0 && chosen.size() > 1;
     const Answer answer = several ? FolderAndNames(chosen) : OnePath(chosen.first());
-    // An empty text closes the list.
+    // The list ends with an empty text.
     if (answer.buffer.size() + 1 > request->nMaxFile ||
         answer.nameOffset > std::numeric_limits<decltype(request->nFileOffset)>::max()) {
         return 0;

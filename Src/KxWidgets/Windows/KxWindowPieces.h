@@ -8,13 +8,13 @@
 
 class QWidget;
 
-/// What a window without a frame has at its edge, over its content: small widgets that follow its size and are away
-/// while it is maximised. User-interface thread.
+/// Small widgets at the edges of a window without a frame, above its content. They follow its size and are hidden while
+/// it is maximised. User-interface thread.
 class KxWindowPieces : public QObject
 {
     Q_OBJECT
 public:
-    /// Where a piece lies in a window of that size.
+    /// Returns the rectangle of a piece in a window of size `window`.
     using Area = std::function<QRect(const QSize& window)>;
 
     /// Child of `window`.

@@ -2,8 +2,8 @@
 
 #include <KxCore/KxConfig.h>
 #include <KxCore/KxTrackEvent.h>
-#include <KxWidgets/KrMessageDialog.h>
-#include <KxWidgets/KxFileDialog.h>
+#include <KxWidgets/Windows/KxFileResponder.h>
+#include <KxWidgets/Windows/KxMessageResponder.h>
 
 #include <QFile>
 #include <QStringList>

@@ -19,7 +19,7 @@
 namespace
 {
 
-TEST(KxToolButtonTest, NameIsTheObjectNameAndNoText)
+TEST(KxToolButtonTest, NameIsTheObjectNameAndIsNotShown)
 {
     QWidget parent;
     KxToolButton* button = KxToolButton::CreateToolButton(&parent, QStringLiteral("KrAutoReframe_undo"));
@@ -28,7 +28,7 @@ TEST(KxToolButtonTest, NameIsTheObjectNameAndNoText)
     EXPECT_TRUE(button->focusPolicy() & Qt::TabFocus);
 }
 
-TEST(KxToolButtonTest, GoesByItsToolTipWithoutTheShortcut)
+TEST(KxToolButtonTest, AccessibleNameIsTheToolTipWithoutTheShortcut)
 {
     QWidget parent;
     KxToolButton* button = KxToolButton::CreateToolButton(&parent, QString());
@@ -62,7 +62,7 @@ TEST(KxToolButtonTest, ReturnAndSpacePressIt)
     EXPECT_EQ(clicked.count(), 2);
 }
 
-TEST(KxSwitchToolButtonTest, FaceChoosesTheTip)
+TEST(KxSwitchToolButtonTest, EachFaceHasItsToolTip)
 {
     QWidget parent;
     KxSwitchToolButton* button = KxSwitchToolButton::CreateSwitchToolButton(&parent, QStringLiteral("play"));
@@ -89,7 +89,7 @@ TEST(KxPushButtonTest, KindsAndHeights)
     EXPECT_EQ(secondary->height(), 24);
 }
 
-TEST(KxPushButtonTest, WidthFollowsTheTextUntilToldNotTo)
+TEST(KxPushButtonTest, WidthFollowsTheTextUnlessTurnedOff)
 {
     QWidget parent;
     KxPushButton* button = KxPushButton::CreatePrimaryButton(&parent, 32);
@@ -110,7 +110,7 @@ TEST(KxPushButtonTest, ReturnPressesItOnce)
     EXPECT_FALSE(button->autoDefault());
 }
 
-TEST(KxToggleSwitchTest, TellsOfEveryChangeAndOnlyOfChanges)
+TEST(KxToggleSwitchTest, ReportsEveryChangeAndOnlyChanges)
 {
     KxToggleSwitch toggle(nullptr);
     toggle.setText(QStringLiteral("Adjust Frame"));
@@ -151,7 +151,7 @@ TEST(KxToggleSwitchTest, IsWideEnoughForItsText)
     EXPECT_EQ(toggle.sizeHint().height(), 20);
 }
 
-TEST(KxDialogButtonBarTest, ButtonsStandAtTheRightInTheirPlaces)
+TEST(KxDialogButtonBarTest, ButtonsAreAtTheRightInTheGivenOrder)
 {
     KxDialogButtonBar bar(nullptr);
     KxPushButton* last = bar.AddPushButton_R(0, -1);

@@ -24,19 +24,19 @@ std::unique_ptr<KxLineEdit> MakeLineEdit()
     return std::unique_ptr<KxLineEdit>(KxLineEdit::creartNormalLineEdit(nullptr, 24));
 }
 
-TEST(KxLineEditTest, HeightIsTheKind)
+TEST(KxLineEditTest, HasTheGivenHeight)
 {
     EXPECT_EQ(MakeLineEdit()->height(), 24);
 }
 
-TEST(KxLineEditTest, WithoutTheValidatorEverythingIsTyped)
+TEST(KxLineEditTest, WithoutTheValidatorEveryCharacterIsAccepted)
 {
     const auto edit = MakeLineEdit();
     QTest::keyClicks(edit.get(), QStringLiteral("a:b*c?"));
     EXPECT_EQ(edit->text(), QStringLiteral("a:b*c?"));
 }
 
-TEST(KxLineEditTest, ValidatorDropsWhatNoFileNameHolds)
+TEST(KxLineEditTest, ValidatorDropsForbiddenCharacters)
 {
     const auto edit = MakeLineEdit();
     edit->SetFileNameValidator(true);
@@ -46,7 +46,7 @@ TEST(KxLineEditTest, ValidatorDropsWhatNoFileNameHolds)
     EXPECT_EQ(edit->text(), QStringLiteral("xy"));
 }
 
-TEST(KxLineEditTest, PasteKeepsTheGoodCharactersAndTheCursor)
+TEST(KxLineEditTest, PasteKeepsAllowedCharactersAndTheCursor)
 {
     const auto edit = MakeLineEdit();
     edit->SetFileNameValidator(true);
@@ -61,7 +61,7 @@ TEST(KxLineEditTest, CursorMovesBackOnlyForCharactersDroppedBeforeIt)
 {
     const auto edit = MakeLineEdit();
     edit->SetFileNameValidator(true);
-    // "a:b": the cursor stands behind the characters of its number.
+    // The cursor positions in "a:b" before and after the removal.
     for (const auto& [before, after] : {std::pair(0, 0), std::pair(1, 1), std::pair(2, 1), std::pair(3, 2)}) {
         QString text = QStringLiteral("a:b");
         int cursor = before;
@@ -125,7 +125,7 @@ TEST(KxComboBoxTest, WheelChangesItOnlyWithTheFocus)
     EXPECT_EQ(box->currentIndex(), 1);
 }
 
-TEST(StringOperationTest, TextThatFitsStays)
+TEST(StringOperationTest, TextThatFitsIsNotChanged)
 {
     const QString text = QStringLiteral("clip");
     EXPECT_EQ(StringOperation::GetElidedString(text, QApplication::font(), 268, Qt::ElideRight), text);
@@ -144,7 +144,7 @@ TEST(StringOperationTest, LongTextIsShortenedToTheWidth)
     EXPECT_TRUE(middle.startsWith(text.left(5)) && middle.endsWith(text.right(5)));
 }
 
-TEST(KxLabelTest, ElidedLabelMayBeNarrowAndAPlainOneMayNot)
+TEST(KxLabelTest, OnlyAnElidedLabelMayBeNarrowerThanItsText)
 {
     const auto label = std::unique_ptr<KxLabel>(
         KxLabel::CreateLabel(nullptr, QStringLiteral("a-recording-of-the-whole-afternoon.mp4")));

@@ -50,7 +50,7 @@ TEST_F(KxShortcutEditManagerTest, UnknownActionHasNone)
     EXPECT_EQ(Sequence(4711), "");
 }
 
-TEST_F(KxShortcutEditManagerTest, FileChangesOneAndLeavesTheOthers)
+TEST_F(KxShortcutEditManagerTest, TheFileChangesOneShortcutOnly)
 {
     Write("1000=Ctrl+U\n");
     EXPECT_EQ(Sequence(1000), "Ctrl+U");

@@ -9,7 +9,7 @@
 namespace
 {
 
-// 116 pixels: 100 for the handle of 16 to move on, so that a pixel is a unit.
+// 116 pixels: the handle takes 16 and moves over 100, so that a pixel is a unit.
 class KxToolSliderTest : public testing::Test
 {
 protected:
@@ -26,7 +26,7 @@ protected:
     QSignalSpy ended{&slider, &KxToolSlider::sigValueChangeEnd};
 };
 
-TEST_F(KxToolSliderTest, GeometryIsTheHandlesAndTheRest)
+TEST_F(KxToolSliderTest, WidthExcludesTheHandle)
 {
     EXPECT_EQ(slider.GetOrientation(), Qt::Horizontal);
     EXPECT_EQ(slider.GetChunkWidth(), 16);
@@ -45,7 +45,7 @@ TEST_F(KxToolSliderTest, ThinSliderHasAThinHandle)
     EXPECT_EQ(slider.GetWidth(), 108);
 }
 
-TEST_F(KxToolSliderTest, ValueIsLimitedAndTellsOnlyOfChanges)
+TEST_F(KxToolSliderTest, ValueIsLimitedAndReportsOnlyChanges)
 {
     slider.setValue(250.0, true);
     EXPECT_DOUBLE_EQ(slider.value(), 100.0);
@@ -80,7 +80,7 @@ TEST_F(KxToolSliderTest, DurationChangeMovesTheHandleOfTheSameValue)
     EXPECT_EQ(slider.chunkWidget()->x(), 50);
 }
 
-TEST_F(KxToolSliderTest, ZeroDurationSurvivesTheHand)
+TEST_F(KxToolSliderTest, ZeroDurationCanBeDragged)
 {
     slider.setDuration(0.0);
     Hand::Press(slider, {60, 8});
@@ -91,7 +91,7 @@ TEST_F(KxToolSliderTest, ZeroDurationSurvivesTheHand)
     EXPECT_FALSE(slider.grab().isNull());
 }
 
-TEST_F(KxToolSliderTest, PressBesideTheHandleMovesItThereAndDragGoesOn)
+TEST_F(KxToolSliderTest, PressBesideTheHandleMovesItAndBeginsADrag)
 {
     Hand::Press(slider, {58, 8});
     EXPECT_DOUBLE_EQ(slider.value(), 50.0);
@@ -138,7 +138,7 @@ TEST_F(KxToolSliderTest, DragBeyondTheEndsStopsThere)
     Hand::Release(slider, {-900, 8});
 }
 
-TEST_F(KxToolSliderTest, ClickThatChangesNothingStartsAndEndsAtFirst)
+TEST_F(KxToolSliderTest, ClickWithoutAChangeStartsAndEndsByDefault)
 {
     Hand::Press(slider, {4, 8});
     Hand::Release(slider, {4, 8});
@@ -147,7 +147,7 @@ TEST_F(KxToolSliderTest, ClickThatChangesNothingStartsAndEndsAtFirst)
     EXPECT_EQ(changed.count(), 0);
 }
 
-TEST_F(KxToolSliderTest, ClickThatChangesNothingIsSilentWhenAsked)
+TEST_F(KxToolSliderTest, ClickWithoutAChangeCanBeSilent)
 {
     slider.SetAwaysEmitValueChangeStartEnd(false);
     Hand::Press(slider, {4, 8});
@@ -155,7 +155,7 @@ TEST_F(KxToolSliderTest, ClickThatChangesNothingIsSilentWhenAsked)
     EXPECT_EQ(started.count() + ended.count() + changed.count(), 0);
 }
 
-TEST_F(KxToolSliderTest, StartComesBeforeTheFirstChangeWhenAsked)
+TEST_F(KxToolSliderTest, StartCanWaitForTheFirstChange)
 {
     slider.SetAwaysEmitValueChangeStartEnd(false);
     QStringList order;
@@ -202,7 +202,7 @@ TEST_F(KxToolSliderTest, KeysMoveItByFrameTenthAndToTheEnds)
     EXPECT_EQ(started.count(), steps_made);
 }
 
-TEST_F(KxToolSliderTest, TakesItsKeysBeforeShortcutsAndLeavesTheOthers)
+TEST_F(KxToolSliderTest, TakesPrecedenceOverShortcutsForItsKeysOnly)
 {
     QKeyEvent left(QEvent::ShortcutOverride, Qt::Key_Left, Qt::NoModifier);
     left.ignore();

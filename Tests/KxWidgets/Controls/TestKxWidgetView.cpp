@@ -22,7 +22,7 @@ TEST(KxWidgetViewTest, MessageMinimisesItsWindow)
     EXPECT_TRUE(view.isMinimized());
 }
 
-TEST(KxWidgetViewTest, OtherMessagesAndWindowsMeanNothing)
+TEST(KxWidgetViewTest, OtherMessagesAndWindowsAreIgnored)
 {
     KxWidgetView view;
     view.show();
@@ -32,7 +32,7 @@ TEST(KxWidgetViewTest, OtherMessagesAndWindowsMeanNothing)
     EXPECT_FALSE(view.isMinimized());
 }
 
-TEST(KxWidgetViewTest, MinimisedDialogComesBackWithItsParent)
+TEST(KxWidgetViewTest, MinimisedDialogIsRestoredWithItsParent)
 {
     KxWidgetView view;
     view.show();

@@ -54,7 +54,7 @@ class KxUIStyleTest : public testing::Test
 protected:
     static void SetUpTestSuite() { KxUIStyle::Apply(*qApp); }
 
-    // The one on the screen; rings that are on their way out still hang on the window.
+    // The visible one; rings that wait for their deletion are still children of the window.
     static QWidget* Ring(QWidget& window)
     {
         const QList<QWidget*> rings = window.findChildren<QWidget*>(QStringLiteral("KxFocusRing"));
@@ -64,7 +64,7 @@ protected:
     }
 };
 
-TEST_F(KxUIStyleTest, EveryWordOfTheSheetHasAMeaning)
+TEST_F(KxUIStyleTest, EveryPlaceholderOfTheSheetIsReplaced)
 {
     EXPECT_FALSE(qApp->styleSheet().isEmpty());
     EXPECT_FALSE(qApp->styleSheet().contains(QRegularExpression(QStringLiteral("@[A-Za-z]"))));
@@ -138,7 +138,7 @@ TEST_F(KxUIStyleTest, SwitchButtonChangesItsIconWithItsFace)
     EXPECT_EQ(button->Glyph(), QStringLiteral("play"));
 }
 
-TEST_F(KxUIStyleTest, ImportButtonShowsItsIconWhereTheCodesIsEmpty)
+TEST_F(KxUIStyleTest, ImportButtonShowsTheSheetsIconInPlaceOfAnEmptyOne)
 {
     QWidget window;
     KxToolButton* button = KxToolButton::CreateToolButton(&window, QString());
@@ -206,7 +206,7 @@ TEST_F(KxUIStyleTest, FixedWidthsAndHeightsSurviveTheSheet)
     EXPECT_EQ(box->height(), 32);
 }
 
-TEST_F(KxUIStyleTest, SliderHandleIsARoundPieceOfTheSheet)
+TEST_F(KxUIStyleTest, SheetPaintsTheSliderHandleRound)
 {
     KxToolSlider slider(nullptr, Qt::Horizontal);
     slider.resize(116, 16);
@@ -228,7 +228,7 @@ TEST_F(KxUIStyleTest, TabularFontHasDigitsOfOneWidth)
     EXPECT_DOUBLE_EQ(metrics.horizontalAdvance(QLatin1Char('1')), metrics.horizontalAdvance(QLatin1Char('8')));
 }
 
-TEST_F(KxUIStyleTest, RingComesWithTheKeyboardAndGoesWithTheMouse)
+TEST_F(KxUIStyleTest, RingAppearsForTheKeyboardAndDisappearsForTheMouse)
 {
     QWidget window;
     auto* layout = new QVBoxLayout(&window);
@@ -254,7 +254,7 @@ TEST_F(KxUIStyleTest, RingComesWithTheKeyboardAndGoesWithTheMouse)
     EXPECT_EQ(Ring(window), nullptr);
 }
 
-TEST_F(KxUIStyleTest, RingGoesWithItsControl)
+TEST_F(KxUIStyleTest, RingDisappearsWithItsControl)
 {
     QWidget window;
     auto* layout = new QVBoxLayout(&window);
@@ -317,7 +317,7 @@ TEST_F(KxUIStyleTest, RingIsNotPaintedOutsideTheScrollAreaOfItsControl)
         return count;
     };
     EXPECT_GT(accentIn(list->geometry()), 300);
-    // Scrolled: the ringed part stands half above the list, then above it altogether.
+    // After scrolling, the ringed part is half above the list, then completely above it.
     list->setProperty("focusRingRect", QRect(20, -30, 100, 60));
     EXPECT_EQ(accentIn(title->geometry()), 0);
     EXPECT_GT(accentIn(list->geometry()), 100);
@@ -355,7 +355,7 @@ TEST_F(KxUIStyleTest, TheStylesOwnFocusRectangleIsNotDrawnInsideControls)
     EXPECT_EQ(box->grab().toImage(), before);
 }
 
-TEST_F(KxUIStyleTest, SpacePressesTheRingedButtonElseItIsTheWindows)
+TEST_F(KxUIStyleTest, SpacePressesTheRingedButtonOtherwiseItIsTheShortcut)
 {
     QWidget window;
     auto* layout = new QVBoxLayout(&window);
@@ -380,7 +380,7 @@ TEST_F(KxUIStyleTest, SpacePressesTheRingedButtonElseItIsTheWindows)
     EXPECT_EQ(clicked.count(), 1);
 }
 
-TEST_F(KxUIStyleTest, ScreenReadersAreToldOfSliderAndSwitch)
+TEST_F(KxUIStyleTest, SliderAndSwitchAreAccessible)
 {
     QWidget window;
     KxToolSlider slider(&window, Qt::Horizontal);

@@ -1,6 +1,6 @@
 #include <Tests/KxWidgets/Hand.h>
 
-#include <KxWidgets/KrMessageDialog.h>
+#include <KxWidgets/Windows/KxMessageResponder.h>
 
 #include <QCheckBox>
 #include <QDialog>
@@ -25,7 +25,7 @@ protected:
     }
     ~KrMessageDialogTest() override { KrMessageDialog::SetResponder({}); }
 
-    // `act` gets the box that the next call shows.
+    // Calls `act` with the box that the next call shows.
     template<typename Act>
     void WithTheBox(Act act)
     {
@@ -96,7 +96,7 @@ TEST_F(KrMessageDialogTest, ResponderSeesTheInformation)
     EXPECT_EQ(calls, 1);
 }
 
-TEST_F(KrMessageDialogTest, EmptyTitleIsTheProducts)
+TEST_F(KrMessageDialogTest, EmptyTitleBecomesTheProductsName)
 {
     QApplication::setApplicationName(QStringLiteral("Product"));
     QString title;
@@ -167,7 +167,7 @@ TEST_F(KrMessageDialogTest, LongTextWrapsAndIsShownWhole)
     EXPECT_EQ(boxes, 1);
 }
 
-TEST_F(KrMessageDialogTest, TickedBoxDoesNotComeAgain)
+TEST_F(KrMessageDialogTest, BoxIsNotShownAgainIfThePersonAskedForThat)
 {
     WithTheBox([](QDialog& box) { box.accept(); });
     Inform(true);

@@ -2,9 +2,9 @@
 #include <KxWidgets/Windows/KxNearestFolder.h>
 #include <Tests/KxWidgets/Hand.h>
 
-#include <KxWidgets/KrMessageDialog.h>
-#include <KxWidgets/KxFileDialog.h>
 #include <KxWidgets/KxOpenFileLineEdit.h>
+#include <KxWidgets/Windows/KxFileResponder.h>
+#include <KxWidgets/Windows/KxMessageResponder.h>
 
 #include <QAbstractButton>
 #include <QDir>
@@ -31,7 +31,7 @@ protected:
     }
 };
 
-TEST(KxFileFilterTest, GroupBecomesQts)
+TEST(KxFileFilterTest, GroupIsConvertedToQtsForm)
 {
     EXPECT_EQ(KxFileFilter::ToQt(QStringLiteral("All supported files(*.mp4;*.mov;);")),
               QStringLiteral("All supported files (*.mp4 *.mov)"));
@@ -56,7 +56,7 @@ TEST_F(KxFileDialogTest, ResponderChoosesFiles)
     EXPECT_EQ(seen.filter, QStringLiteral("All(*.mp4;)"));
 }
 
-TEST_F(KxFileDialogTest, FolderFieldTakesWhatThePersonPicks)
+TEST_F(KxFileDialogTest, FolderFieldTakesThePickedFolder)
 {
     const auto edit = std::unique_ptr<KxOpenFileLineEdit>(KxOpenFileLineEdit::CreateOpenFileLineEdit(nullptr));
     edit->SetText(QStringLiteral("/before"));
@@ -79,7 +79,7 @@ TEST_F(KxFileDialogTest, FolderFieldTakesWhatThePersonPicks)
     EXPECT_EQ(changed.count(), 1);
 }
 
-TEST_F(KxFileDialogTest, FolderFieldTellsOfTyping)
+TEST_F(KxFileDialogTest, FolderFieldReportsTyping)
 {
     const auto edit = std::unique_ptr<KxOpenFileLineEdit>(KxOpenFileLineEdit::CreateOpenFileLineEdit(nullptr));
     QSignalSpy changed(edit.get(), &KxOpenFileLineEdit::sigTextChanged);

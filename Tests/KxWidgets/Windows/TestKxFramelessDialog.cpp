@@ -21,7 +21,7 @@ class KxFramelessDialogTest : public testing::Test
 protected:
     KxFramelessDialogTest() { dialog.resize(400, 300); }
 
-    // What a press at `position` would reach.
+    // The widget that a press at `position` would reach.
     static QWidget* At(QWidget& window, const QPoint& position)
     {
         QWidget* child = window.childAt(position);
@@ -34,7 +34,7 @@ protected:
     KxTopLevelWindowTitleBar& bar = *dialog.GetTitleBar();
 };
 
-TEST_F(KxFramelessDialogTest, HasNoFrameOfTheDesktop)
+TEST_F(KxFramelessDialogTest, HasNoDesktopFrame)
 {
     EXPECT_TRUE(dialog.windowFlags() & Qt::FramelessWindowHint);
     EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Auto Reframe"));
@@ -132,7 +132,7 @@ TEST_F(KxFramelessDialogTest, TitleBarMovesTheWindow)
     EXPECT_EQ(dialog.pos(), QPoint(130, 140));
 }
 
-TEST_F(KxFramelessDialogTest, DoubleClickTogglesMaximisedWhereResizable)
+TEST_F(KxFramelessDialogTest, DoubleClickMaximisesAResizableWindow)
 {
     dialog.show();
     Hand::Send(bar, QEvent::MouseButtonDblClick, {150, 20}, Qt::LeftButton, Qt::LeftButton);
@@ -144,7 +144,7 @@ TEST_F(KxFramelessDialogTest, DoubleClickTogglesMaximisedWhereResizable)
     EXPECT_FALSE(dialog.isMaximized());
 }
 
-TEST_F(KxFramelessDialogTest, ButtonsShowByTheirBitsInOrder)
+TEST_F(KxFramelessDialogTest, ButtonsAreShownByTheirBitsInOrder)
 {
     QAbstractButton* minimise = bar.GetButton(4);
     QAbstractButton* maximise = bar.GetButton(16);

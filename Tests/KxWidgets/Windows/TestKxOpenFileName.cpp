@@ -1,5 +1,5 @@
-#include <KxWidgets/KxFileDialog.h>
 #include <KxWidgets/KxOpenFileName.h>
+#include <KxWidgets/Windows/KxFileResponder.h>
 
 #include <QApplication>
 #include <QWidget>
@@ -29,7 +29,7 @@ protected:
     }
     ~KxOpenFileNameTest() override { KxFileDialog::SetResponder({}); }
 
-    /// What the buffer holds, zeros included.
+    /// The content of the buffer, including zeros.
     std::wstring Buffer(std::size_t length) const { return std::wstring(buffer.data(), length); }
 
     std::array<wchar_t, 40> buffer;
@@ -40,12 +40,12 @@ protected:
 
 } // namespace
 
-TEST_F(KxOpenFileNameTest, TheRecordIsTheSystems)
+TEST_F(KxOpenFileNameTest, TheRecordHasTheSystemsLayout)
 {
     EXPECT_EQ(sizeof(OPENFILENAMEW), 152u);
 }
 
-TEST_F(KxOpenFileNameTest, OneFileIsAPathAndThePlaceOfItsName)
+TEST_F(KxOpenFileNameTest, OneFileGivesItsPathAndTheOffsetOfItsName)
 {
     answer = QStringList{QStringLiteral("/v/one clip.mp4")};
     EXPECT_EQ(GetOpenFileNameW(&request), 1);
@@ -62,7 +62,7 @@ TEST_F(KxOpenFileNameTest, AFileWithoutAnExtensionHasNone)
     EXPECT_EQ(request.nFileExtension, 0);
 }
 
-TEST_F(KxOpenFileNameTest, SeveralFilesAreAFolderAndNames)
+TEST_F(KxOpenFileNameTest, SeveralFilesGiveAFolderAndNames)
 {
     answer = QStringList{QStringLiteral("/v/a.mp4"), QStringLiteral("/v/b.mp4")};
     EXPECT_EQ(GetOpenFileNameW(&request), 1);
@@ -79,7 +79,7 @@ TEST_F(KxOpenFileNameTest, TheRootFolderKeepsItsSeparator)
     EXPECT_EQ(request.nFileOffset, 2);
 }
 
-TEST_F(KxOpenFileNameTest, WhereOneWasAskedForTheFirstCounts)
+TEST_F(KxOpenFileNameTest, ARequestForOneFileGetsTheFirst)
 {
     request.Flags = OFN_EXPLORER;
     answer = QStringList{QStringLiteral("/v/a.mp4"), QStringLiteral("/v/b.mp4")};
@@ -87,14 +87,14 @@ TEST_F(KxOpenFileNameTest, WhereOneWasAskedForTheFirstCounts)
     EXPECT_EQ(Buffer(10), std::wstring(L"/v/a.mp4\0\0", 10));
 }
 
-TEST_F(KxOpenFileNameTest, NothingChosenLeavesTheRecordAlone)
+TEST_F(KxOpenFileNameTest, WithoutAChoiceTheRecordIsNotChanged)
 {
     EXPECT_EQ(GetOpenFileNameW(&request), 0);
     EXPECT_EQ(buffer.front(), L'#');
     EXPECT_EQ(request.nFileOffset, 0);
 }
 
-TEST_F(KxOpenFileNameTest, WhatDoesNotFitIsNotHalfWritten)
+TEST_F(KxOpenFileNameTest, AChoiceThatDoesNotFitIsNotWritten)
 {
     answer = QStringList{QStringLiteral("/v/a.mp4")};
     request.nMaxFile = 9;
@@ -112,7 +112,7 @@ TEST_F(KxOpenFileNameTest, ARecordOfAnotherSizeIsRefused)
     EXPECT_EQ(GetOpenFileNameW(nullptr), 0);
 }
 
-TEST_F(KxOpenFileNameTest, AsksInTheFolderUnderTheTitle)
+TEST_F(KxOpenFileNameTest, TheChooserGetsFolderAndTitle)
 {
     request.lpstrInitialDir = L"/videos";
     GetOpenFileNameW(&request);
@@ -124,7 +124,7 @@ TEST_F(KxOpenFileNameTest, AsksInTheFolderUnderTheTitle)
     EXPECT_EQ(shown.caption, QStringLiteral("Take one"));
 }
 
-TEST_F(KxOpenFileNameTest, ThePairOfTheIndexIsTheFilter)
+TEST_F(KxOpenFileNameTest, TheSelectedPairIsTheFilter)
 {
     request.lpstrFilter = L"Videos (*.mp4)\0*.mp4;*.mov\0Pictures\0*.png\0";
     GetOpenFileNameW(&request);

@@ -17,7 +17,7 @@ namespace
 class KxProgressDialogTest : public testing::Test
 {
 protected:
-    // Runs the dialog; `act` comes once it is on the screen.
+    // Runs the dialog and calls `act` when it is on the screen.
     template<typename Act>
     int Run(Act act)
     {
@@ -53,7 +53,7 @@ TEST_F(KxProgressDialogTest, EscapeRejectsOnceAsClosed)
     EXPECT_EQ(dialog.GetCloseReason(), 2);
 }
 
-TEST_F(KxProgressDialogTest, HideEndsItWithoutRejecting)
+TEST_F(KxProgressDialogTest, HidingEndsItWithoutRejecting)
 {
     Run([this] { dialog.hide(); });
     EXPECT_EQ(rejected.count(), 0);
@@ -61,7 +61,7 @@ TEST_F(KxProgressDialogTest, HideEndsItWithoutRejecting)
     EXPECT_FALSE(dialog.isVisible());
 }
 
-TEST_F(KxProgressDialogTest, ReasonIsSeenInsideRejected)
+TEST_F(KxProgressDialogTest, ReasonIsKnownWhileRejectedIsEmitted)
 {
     int seen = -1;
     QObject::connect(&dialog, &QDialog::rejected, &dialog, [&] { seen = dialog.GetCloseReason(); });
@@ -69,7 +69,7 @@ TEST_F(KxProgressDialogTest, ReasonIsSeenInsideRejected)
     EXPECT_EQ(seen, 1);
 }
 
-TEST_F(KxProgressDialogTest, HiddenAgainFromInsideRejectedIsHarmless)
+TEST_F(KxProgressDialogTest, HidingWhileRejectedIsEmittedIsHarmless)
 {
     QObject::connect(&dialog, &QDialog::rejected, &dialog, &QWidget::hide);
     Run([this] { CancelButton().click(); });

@@ -54,7 +54,7 @@ TEST(KxResizeGeometryTest, CursorsPointTheRightWay)
     EXPECT_EQ(KxResizeGeometry::CursorFor({}), Qt::ArrowCursor);
 }
 
-TEST(KxResizeGeometryTest, MovedEdgesChangeAndTheOthersStay)
+TEST(KxResizeGeometryTest, OnlyTheDraggedEdgesMove)
 {
     const QRect start(100, 100, 400, 300);
     EXPECT_EQ(Resized(start, Qt::RightEdge, {10, 99}, {}, NoLimit), QRect(100, 100, 410, 300));
@@ -63,7 +63,7 @@ TEST(KxResizeGeometryTest, MovedEdgesChangeAndTheOthersStay)
     EXPECT_EQ(Resized(start, Qt::BottomEdge, {50, -20}, {}, NoLimit), QRect(100, 100, 400, 280));
 }
 
-TEST(KxResizeGeometryTest, LimitsHoldTheOppositeEdge)
+TEST(KxResizeGeometryTest, AtALimitTheOppositeEdgeDoesNotMove)
 {
     const QRect start(100, 100, 400, 300);
     EXPECT_EQ(Resized(start, Qt::LeftEdge, {390, 0}, {200, 100}, NoLimit), QRect(300, 100, 200, 300));
