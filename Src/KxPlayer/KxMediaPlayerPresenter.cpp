@@ -124,8 +124,8 @@ void KxMediaPlayerPresenter::openTimeline(IKxTimeline* timeline, bool paused, bo
     m_impl->playback.Open(std::move(source), paused ? KxPlayback::After::Pause : KxPlayback::After::GoOn,
                           keepPosition ? KxPlayback::Position::Keep : KxPlayback::Position::Start);
     if (isEmpty) {
-        const auto tell = [this] { Q_EMIT sigFailed(tr("Cannot show the timeline: it holds no video.")); };
-        QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
+        const auto report = [this] { Q_EMIT sigFailed(tr("Cannot show the timeline: it holds no video.")); };
+        QMetaObject::invokeMethod(this, report, Qt::QueuedConnection);
     }
     Q_EMIT sigTimelineOpened();
 }

@@ -5,7 +5,7 @@
 
 #include <KxPlayer/KxPlayback.h>
 
-/// What a presenter is made of, and what its widget sees of it. User-interface thread only.
+/// The implementation of a presenter, which its widget also uses. User-interface thread only.
 class KxMediaPlayerPresenter::Impl final : public IKxMediaPlayer
 {
 public:
@@ -14,11 +14,11 @@ public:
 
     QRect videoRect() const override;
 
-    /// Where the picture stands, or is going to, in device pixels.
+    /// The rectangle of the picture, or of the next one, in device pixels.
     QRect PicturePlace() const;
 
-    /// The widget's size in device pixels, and how many of them one of its points has; without effect when they are the
-    /// same.
+    /// Sets the widget's size in device pixels and the number of device pixels in one of its points. Nothing happens if
+    /// neither has changed.
     void SetArea(const QSize& devicePixels, double pixelRatio);
 
     KxPlayback playback;

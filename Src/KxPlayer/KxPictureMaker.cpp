@@ -48,8 +48,8 @@ QImage KxPictureMaker::Whole(const KxVideoFrame& decoded, const QSize& size)
 
 QImage KxPictureMaker::Cut(const KxVideoFrame& decoded, const QRectF& crop, const QSize& size)
 {
-    // The whole picture shrinks first, in one good step, to where the crop has about the wanted size; never beyond the
-    // source's own pixels, so that a small crop costs no more than a large one. Its fractions of a pixel are met below.
+    // First the whole picture is scaled, in good quality, until the crop has about the wanted size. It is never
+    // enlarged, so that a small crop costs no more than a large one. Drawing it below applies the fractions of a pixel.
     const QSize displayed = decoded.DisplayedSize();
     const QRectF cropPx = KxCropWindow::Pixels(crop, displayed);
     const double scale = std::min(1.0, std::max(size.width() / cropPx.width(), size.height() / cropPx.height()));

@@ -7,8 +7,8 @@
 
 #include <functional>
 
-/// Makes any frame of a source ready to be painted: decoded, cut to the crop of that very frame, and scaled to the
-/// place that it takes inside the player. One thread at a time.
+/// Makes any frame of a source ready to be painted: decodes it, cuts it to that frame's crop, and scales it to its size
+/// inside the player. One thread at a time.
 class KXPLAYER_API KxPictureMaker
 {
 public:
@@ -20,7 +20,7 @@ public:
 
     /// See KxVideoReader::GiveUpWhen().
     void GiveUpWhen(std::function<bool()> isUnwanted) { m_reader->GiveUpWhen(std::move(isUnwanted)); }
-    /// `area` is the player's size in device pixels. Past the last picture that can be decoded, that one is held.
+    /// `area` is the player's size in device pixels. After the last picture that can be decoded, that one is repeated.
     KxReadStatus Make(int frame, const QSize& area, KxPlayerPicture& picture);
 
 private:

@@ -6,12 +6,12 @@
 namespace
 {
 
-// Products that stand for whole pixels must not fall below them.
-constexpr double RoundingRest = 1e-6;
+// Keeps products that mean whole pixels from being rounded down below them.
+constexpr double RoundingError = 1e-6;
 
 int Shrunk(int extent, double by, double to)
 {
-    return std::max(1, static_cast<int>(std::floor(extent * by / to + RoundingRest)));
+    return std::max(1, static_cast<int>(std::floor(extent * by / to + RoundingError)));
 }
 
 } // namespace

@@ -11,7 +11,7 @@ namespace
 constexpr qint64 LongestStandstillUs = 250000;
 constexpr qint64 UsPerMs = 1000;
 constexpr int FramesLate = 1;
-// However the clock is corrected meanwhile, it is looked at again by then.
+// The clock may be corrected while playback waits, so it is checked again after this time.
 constexpr qint64 LongestWaitMs = 40;
 
 } // namespace
@@ -156,7 +156,7 @@ void KxPlayback::Look()
             return;
         }
     }
-    // Whoever is told of a picture may do anything, even delete this player.
+    // A slot that is called for a picture may do anything, even delete this player.
     const QPointer<KxPlayback> alive(this);
     TakeWanted();
     if (alive && m_isPlaying && !m_wanted && m_picture) {

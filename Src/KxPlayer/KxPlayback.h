@@ -9,14 +9,16 @@
 
 #include <atomic>
 
-/// The state of one player: which frame stands, which one is wanted, whether it plays. Gives orders to the engine,
-/// takes its pictures when their time has come, and runs clock and sound. User-interface thread only.
+/// The state of one player: the frame that is shown, the frame that is wanted, and whether it plays. Gives orders to
+/// the engine, takes its pictures when they are due, and runs clock and sound. User-interface thread only.
 ///
-/// 1. A seek stops the clock; it runs on when the wanted picture stands and enough others wait.
-/// 2. A picture that is late by a frame is still shown, and the next ones follow in quick succession until the delay is
-///    made up for. Pictures that are later are dropped and counted; so that a machine that is too slow still shows
-///    something, one of them is shown when nothing else was for a while. The last frame is always shown.
-/// 3. The last frame stands for its time, then playing ends.
+/// 1. A seek stops the clock. It runs again once the wanted picture is shown and enough others are ready.
+/// 2. A picture that is late by one frame is still shown, and the next ones follow in quick succession until the delay
+///    is made up for. Later pictures are dropped and counted. If nothing was shown for a while, one of them is shown,
+///    so that a slow machine still shows something. The last frame is always shown.
+/// 3. The last frame is shown for its full duration, then playback stops.
+/// 4. If the wanted frame cannot be shown, playback pauses, and an error message takes the place of the picture until
+///    another picture is shown. No picture of an earlier frame remains.
 class KXPLAYER_API KxPlayback : public QObject
 {
     Q_OBJECT
@@ -41,9 +43,9 @@ public:
     void Stop();
     /// Limited to the frames of the source.
     void Seek(int frame);
-    /// Pauses and seeks from the frame that is wanted, or stands.
+    /// Pauses and seeks relative to TargetFrame().
     void Step(int frames);
-    /// The player's size in device pixels. What stands is made anew unless it plays.
+    /// Sets the player's size in device pixels. Unless it plays, the current picture is made again.
     void SetArea(const QSize& area);
 
     bool IsPlaying() const { return m_isPlaying; }
@@ -56,7 +58,7 @@ public:
     int CurrentFrame() const { return m_picture ? m_picture->frame : m_wanted.value_or(m_failedFrame); }
     /// The frame that is wanted, otherwise the current one.
     int TargetFrame() const { return m_wanted.value_or(CurrentFrame()); }
-    /// Frames that were left out while playing, since the source was opened.
+    /// Frames that were skipped while playing, since the source was opened.
     int DroppedFrames() const { return m_dropped; }
 
 Q_SIGNALS:
@@ -75,7 +77,7 @@ private:
     void TakeWanted();
     void RunClock();
     void ShowDue();
-    /// When `frame` is shown: at its time, but not so soon after the picture before it that nobody could see that one.
+    /// When `frame` is shown: at its time, but not so soon after the previous picture that nobody could see that one.
     qint64 ShowTimeUs(int frame) const;
     bool IsWorthShowing(const KxPlayerPicture& picture, int due, qint64 nowUs) const;
     void WakeAt(qint64 timeUs, qint64 nowUs);

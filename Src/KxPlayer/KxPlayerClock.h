@@ -8,8 +8,8 @@
 #include <mutex>
 #include <optional>
 
-/// The time of playback: runs by a steady clock, and is pulled gently towards what the sound device says while there is
-/// one, so that it neither jumps nor stops when the device hesitates or goes away. Any thread.
+/// The time of playback. It follows a steady clock and is corrected gently by what the sound device has played, so that
+/// it neither jumps nor stops if the device stalls or disappears. Any thread.
 class KXPLAYER_API KxPlayerClock
 {
 public:
@@ -19,18 +19,18 @@ public:
     /// Without a time source, std::chrono::steady_clock.
     explicit KxPlayerClock(TimeSource time = {});
 
-    /// Runs from `mediaUs`. The number stands for this run until the next Start or Stop.
+    /// Runs from `mediaUs`. Returns the number of this run, which ends with the next Start() or Stop().
     quint64 Start(qint64 mediaUs);
     void Stop();
     bool IsRunning() const;
 
     /// Nothing while stopped.
     std::optional<qint64> NowUs() const;
-    /// Nothing when `run` is over.
+    /// Nothing if `run` has ended.
     std::optional<qint64> NowUs(quint64 run) const;
 
-    /// What has been heard up to now. The difference is made up little by little, a few milliseconds a call; without
-    /// effect when `run` is over.
+    /// `heardUs` is the time up to which sound has been heard. Each call corrects the difference by at most a few
+    /// milliseconds. Nothing happens if `run` has ended.
     void Correct(quint64 run, qint64 heardUs);
 
 private:

@@ -11,9 +11,9 @@
 namespace
 {
 
-// Enough to begin with: bridges the hiccups of a decoder that works in several threads.
+// Enough to begin with: bridges the delays of a decoder that works in several threads.
 constexpr size_t PrimedPictures = 6;
-// A third of a second and more bridges those of the whole machine.
+// A third of a second or more bridges the delays of the whole machine.
 constexpr size_t MostPictures = 12;
 constexpr size_t MostBytes = 64U << 20U;
 
@@ -210,7 +210,7 @@ bool KxPlayerEngine::WaitForJob(Job& job, const KxPlaySource* opened)
         const bool isOutdated = opened != nullptr && opened != m_shared.source.get();
         return m_shared.isQuitting || isOutdated || HasWork();
     });
-    // An outdated file is let go of even when nothing takes its place yet.
+    // An outdated file is closed even if nothing replaces it yet.
     const bool hasWork = HasWork();
     job = {m_shared.order, hasWork ? m_shared.source : nullptr, m_shared.cancel, m_shared.area,
            hasWork ? FrameToMake() : 0};
@@ -262,12 +262,12 @@ void KxPlayerEngine::CarryOut(const Job& job, std::unique_ptr<KxPictureMaker>& m
     if (status == KxReadStatus::Delivered) {
         Deliver(job, std::move(picture), duration_cast<microseconds>(steady_clock::now() - begin).count());
     } else if (status == KxReadStatus::Cancelled) {
-        // What is decoded so far serves the order that takes this one's place; without one the file was let go of.
+        // The order that replaced this one continues from here. Without such an order the source was closed.
         if (!IsReplaced(job.order)) {
             maker.reset();
         }
     } else {
-        // The next order tries the file afresh.
+        // The next order opens the file again.
         maker.reset();
         Fail(job, CannotShow(*job.source,
                              QCoreApplication::translate("KxMediaPlayerPresenter", "its pictures cannot be decoded")));
@@ -283,7 +283,7 @@ void KxPlayerEngine::Deliver(const Job& job, KxPlayerPicture picture, qint64 too
         }
         m_shared.ready.push_back(std::move(picture));
         m_shared.next = job.frame + 1;
-        // Before the clock runs a picture may have taken a seek, which says nothing about the ones after it.
+        // Before the clock runs, a picture may have taken a seek, which does not predict the time of the next ones.
         m_shared.makingUs = m_clock.IsRunning() ? (3 * m_shared.makingUs + tookUs) / 4 : 0;
         if (m_shared.mode == Mode::Still) {
             m_shared.mode = Mode::Idle;

@@ -15,39 +15,39 @@
 class KxPictureMaker;
 struct KxPlaySource;
 
-/// Makes pictures on a thread of its own: one that is asked for, or several ahead of the clock.
+/// Makes pictures on a thread of its own: a single one, or several ahead of the clock.
 ///
-/// 1. Each order replaces the one before; what is being made for an order that was replaced is given up at the next
-///    picture that comes out of the decoder. So what can be taken always belongs to the newest order, under its own
-///    number.
-/// 2. A picture that was made ahead and is asked for next is not made again.
-/// 3. While the clock runs, frames whose time has been over for a frame before they are begun are left out.
-/// 4. A source is opened when the first picture of it is wanted, and closed when another one takes its place.
+/// 1. Each order replaces the previous one, whose work is abandoned at the next picture that comes out of the decoder.
+/// So
+///    the pictures that can be taken always belong to the newest order and carry their own frame numbers.
+/// 2. A picture that was made ahead is not made again if it is ordered next.
+/// 3. While the clock runs, frames that are late by more than one frame before work on them begins are skipped.
+/// 4. A source is opened when its first picture is ordered, and closed when another source replaces it.
 /// 5. After a failure, the pictures that were made before it can still be taken. The next order tries the file again.
 ///
 /// All members are for the thread that owns the engine. The destructor cancels the work and waits for the thread.
 class KXPLAYER_API KxPlayerEngine
 {
 public:
-    /// `notify` is called on the engine's thread, and inside the orders, when there is something to take. The clock
-    /// outlives the engine.
+    /// `notify` is called when there is something to take: on the engine's thread, and from inside Show() and Play().
+    /// The clock outlives the engine.
     KxPlayerEngine(const KxPlayerClock& clock, std::function<void()> notify);
     ~KxPlayerEngine();
 
-    /// Drops everything of the source before; null closes. No picture is made until Show or Play.
+    /// Drops everything of the previous source; null closes. No picture is made until Show() or Play().
     void Open(std::shared_ptr<const KxPlaySource> source);
-    /// Pictures are made for a player of this size, device pixels, from now on. A frame that stands still is made anew
-    /// when it is given as `standing`.
+    /// Sets the size of the player in device pixels, for all further pictures. Unless pictures are made for playback,
+    /// the frame `standing` is made again.
     void SetArea(const QSize& area, std::optional<int> standing);
 
     /// Makes one frame.
     void Show(int frame);
-    /// Makes all frames from this one on.
+    /// Makes `frame` and those after it.
     void Play(int frame);
-    /// Makes nothing more; what was made ahead is kept.
+    /// Makes no more pictures; those that are ready are kept.
     void Hold();
 
-    /// The picture of `frame`, if it is the next that can be taken.
+    /// The picture of `frame` if it is the next one that can be taken.
     std::optional<KxPlayerPicture> Take(int frame);
     /// The newest picture up to `frame`; the earlier ones are dropped.
     std::optional<KxPlayerPicture> TakeUpTo(int frame);
@@ -55,7 +55,7 @@ public:
     std::optional<int> NextFrame() const;
     /// Whether playback can begin: enough pictures are ready, or no more will come.
     bool IsPrimed() const;
-    /// How many pictures are made ahead for a player of this size: as many as a fixed amount of memory holds, within
+    /// How many pictures are made ahead for a player of this size: as many as fit into a fixed amount of memory, within
     /// limits.
     static size_t PicturesAhead(const QSize& area);
     /// Why the newest order cannot be carried out; returned once, after all pictures have been taken.

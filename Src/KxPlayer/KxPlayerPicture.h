@@ -3,12 +3,12 @@
 #include <QImage>
 #include <QSizeF>
 
-/// A picture as it is to be painted, with the number of the frame that it belongs to.
+/// A picture ready to be painted, and the number of its frame.
 struct KxPlayerPicture {
     int frame = 0;
     QImage image;
-    /// Width to height of what the picture shows, in pixels of the source.
+    /// The aspect ratio of what the picture shows, in pixels of the source.
     QSizeF shape;
-    /// Of the player that the image was made for, device pixels.
+    /// The size of the player for which the image was made, device pixels.
     QSize area;
 };

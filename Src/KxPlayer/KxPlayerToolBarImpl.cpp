@@ -13,7 +13,7 @@
 namespace
 {
 
-// Longer without a new picture, and the slider seems to be stuck.
+// Without a new picture for longer than this, the slider seems to be stuck.
 constexpr int PatienceMs = 250;
 
 QString Tip(const char* text, int action)
@@ -45,7 +45,7 @@ KxPlayerToolBarBase::Impl::Impl(KxPlayerToolBarBase* bar, KxToolSlider* slider, 
               IKxShortcutEditManager::Backward);
     AddButton(ForwardButton, KxToolButton::CreateToolButton(bar, QStringLiteral("KxPlayerToolBar_forward")),
               IKxShortcutEditManager::Forward);
-    // Stepping is for the bars that show it.
+    // A derived bar that offers stepping shows them.
     m_buttons[BackwardButton]->hide();
     m_buttons[ForwardButton]->hide();
     m_patience.setObjectName(QStringLiteral("patience"));

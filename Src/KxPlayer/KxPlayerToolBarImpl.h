@@ -13,12 +13,12 @@
 class KxSwitchToolButton;
 class QShortcut;
 
-/// The insides of a player's tool bar: its buttons, its slider and what ties them to a presenter. A child of the bar;
-/// user-interface thread only.
+/// The implementation of a player's tool bar: its buttons, its slider and their connections to a presenter. A child of
+/// the bar; user-interface thread only.
 ///
-/// While the slider is dragged the next seek waits until the picture of the one before stands, so that the person sees
-/// pictures go by; where that takes too long, as between key frames that are far apart, the newest place takes over. It
-/// is always the last to be shown.
+/// While the slider is dragged, each seek waits until the picture of the previous one is shown, so that the person sees
+/// the pictures pass. If that takes too long, as between distant key frames, the newest position replaces it. The
+/// newest position is always shown last.
 class KxPlayerToolBarBase::Impl : public QObject
 {
 public:
@@ -31,7 +31,7 @@ public:
     void SetPresenter(KxMediaPlayerPresenter* presenter);
     void UpdateTips();
 
-    /// A shortcut takes its key away from every other widget, so it is off while its button is disabled.
+    /// A shortcut takes its key from every other widget, so it is disabled together with its button.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
@@ -49,7 +49,7 @@ private:
     void Step(int frames);
     void SeekTo(int frame);
     void SeekNext();
-    /// Gives up the picture that has not come for long, where there is another place to go to.
+    /// Abandons a seek that takes too long if there is a newer position.
     void TakeOver();
 
     KxPlayerToolBarBase* const m_bar;
@@ -65,6 +65,6 @@ private:
     bool m_isStepping = false;
     std::optional<int> m_seeking;
     std::optional<int> m_nextSeek;
-    /// Runs from each seek.
+    /// Restarted by each seek.
     QTimer m_patience;
 };

@@ -11,7 +11,7 @@
 class KxQtSoundDevice final : public KxSoundDevice
 {
 public:
-    /// Null where the machine lists no device that plays.
+    /// Null if the machine has no device for playback.
     static std::unique_ptr<KxSoundDevice> Open();
     ~KxQtSoundDevice() override;
 

@@ -23,14 +23,14 @@ protected:
         return run;
     }
 
-    // The output has looked at the device and the clock after this was called.
+    // Waits until the output has read the device and the clock again.
     bool AwaitLooks()
     {
         const int before = sound.looks;
         return QTest::qWaitFor([&] { return sound.looks >= before + 2; });
     }
 
-    // What a sine of 440 Hz is that many frames after its start; ffmpeg's source has an amplitude of 1/8.
+    // The value of a sine of 440 Hz at `frame`; ffmpeg's source has an amplitude of 1/8.
     static double Sine(qint64 frame) { return std::sin(2 * M_PI * 440 * static_cast<double>(frame) / RateHz) / 8; }
 
     void ExpectSineFrom(qint64 firstFrame, size_t skipped = 0) const
@@ -63,7 +63,7 @@ TEST_F(KxAudioOutputTest, FillsTheDeviceWithWhatTheClockShows)
     ExpectSineFrom(0);
 }
 
-TEST_F(KxAudioOutputTest, GoesOnWithoutAGap)
+TEST_F(KxAudioOutputTest, ContinuesWithoutAGap)
 {
     StartAt(0);
     for (int i = 0; i < 20; ++i) {
@@ -76,7 +76,7 @@ TEST_F(KxAudioOutputTest, GoesOnWithoutAGap)
     ExpectSineFrom(0);
 }
 
-TEST_F(KxAudioOutputTest, WhatIsHeardPullsTheClock)
+TEST_F(KxAudioOutputTest, WhatIsHeardCorrectsTheClock)
 {
     StartAt(0);
     // The device begins 50 ms late.
@@ -91,7 +91,7 @@ TEST_F(KxAudioOutputTest, WhatIsHeardPullsTheClock)
     EXPECT_NEAR(static_cast<double>(*clock.NowUs()), static_cast<double>(heardUs), 5000);
 }
 
-TEST_F(KxAudioOutputTest, ADeviceThatMakesNoHeadwayLeavesTheClockAlone)
+TEST_F(KxAudioOutputTest, ADeviceThatDoesNotPlayLeavesTheClockAlone)
 {
     StartAt(0);
     now += 700000;
@@ -179,7 +179,7 @@ TEST_F(KxAudioOutputTest, ASourceWithoutSoundOpensNothing)
     EXPECT_FALSE(sound.isStarted);
 }
 
-TEST(KxSoundPlayer, WithoutADeviceTheClockGoesItsOwnWay)
+TEST(KxSoundPlayer, WithoutADeviceTheClockRunsByItself)
 {
     std::atomic<qint64> now{0};
     std::atomic_bool asked{false};

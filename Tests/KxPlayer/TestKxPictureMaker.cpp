@@ -24,7 +24,7 @@ std::optional<int> NumberAt(KxPictureMaker& maker, int frame)
     return status == KxReadStatus::Delivered ? MadeVideo::ReadNumber(picture.image) : std::nullopt;
 }
 
-// How often it was asked until the way to the last frame was given up.
+// Abandons the seek to the last frame. Returns how often the maker asked whether to abandon it.
 int GiveUpAfter(KxPictureMaker& maker, int asks)
 {
     int asked = 0;
@@ -37,7 +37,7 @@ int GiveUpAfter(KxPictureMaker& maker, int asks)
 
 } // namespace
 
-TEST(KxPictureMaker, ALongWayIsGivenUpAtTheNextPicture)
+TEST(KxPictureMaker, ALongSeekIsAbandonedAtTheNextPicture)
 {
     const auto maker = OpenLong();
     ASSERT_TRUE(maker);
@@ -48,11 +48,11 @@ TEST(KxPictureMaker, ALongWayIsGivenUpAtTheNextPicture)
     EXPECT_EQ(NumberAt(*maker, LongLast), LongLast);
 }
 
-TEST(KxPictureMaker, AWayThatWasGivenUpLeavesEveryFrameInItsPlace)
+TEST(KxPictureMaker, AnAbandonedSeekChangesNoFrameNumber)
 {
     const auto maker = OpenLong();
     ASSERT_TRUE(maker);
-    // On a long way some pictures, two of three at the most, are left out; so decoding stands somewhere in here.
+    // During a long seek some pictures, at most two of three, are skipped; so decoding has reached one of these frames.
     for (int asks = 1; asks <= 31; asks += 6) {
         for (int frame = asks; frame <= 3 * asks + 3; ++frame) {
             ASSERT_EQ(NumberAt(*maker, 0), 0);

@@ -26,14 +26,14 @@ TEST(KxPicturePlace, TakesTheWholeAreaWithoutAShape)
     EXPECT_EQ(KxPicturePlace::Fit(QRect(), QSizeF(16, 9)), QRect());
 }
 
-TEST(KxPicturePlace, IsNeverThinnerThanAPixel)
+TEST(KxPicturePlace, IsAtLeastAPixelThick)
 {
     EXPECT_EQ(KxPicturePlace::Fit(QRect(0, 0, 100, 10), QSizeF(10000, 1)).height(), 1);
 }
 
 TEST(KxPicturePlace, FitsIntoTheWideFrameFirst)
 {
-    // Where the player is taller than 16:9, an upright picture is as tall as the frame, not as the player.
+    // In a player taller than 16:9, an upright picture is as tall as the 16:9 frame, not as the player.
     EXPECT_EQ(KxPicturePlace::In(QSize(1600, 1200), QSizeF(3, 4)), QRect(462, 150, 675, 900));
     EXPECT_EQ(KxPicturePlace::In(QSize(1600, 1200), QSizeF()), QRect(0, 150, 1600, 900));
     EXPECT_EQ(KxPicturePlace::In(QSize(1600, 1200), QSizeF(21, 9)), QRect(0, 257, 1600, 685));

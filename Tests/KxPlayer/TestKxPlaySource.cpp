@@ -17,13 +17,13 @@ KxCropPanZoomKeyFrameParam Key(int frame, const QRectF& crop)
 
 } // namespace
 
-TEST(KxPlaySource, EveryFrameShowsAtItsTimeAndNotBefore)
+TEST(KxPlaySource, EveryFrameIsShownAtItsTimeAndNotBefore)
 {
     for (const KxRational rate :
          {KxRational{25, 1}, KxRational{24000, 1001}, KxRational{30000, 1001}, KxRational{60, 1}}) {
         KxPlaySource source;
         source.frameRate = rate;
-        // The last one: ten hours.
+        // The last one is at ten hours.
         for (const int frame : {0, 1, 2, 3, 7, 100, 1001, 30001, 1080000}) {
             EXPECT_EQ(source.FrameAt(source.TimeUs(frame)), frame);
             if (frame > 0) {
@@ -81,7 +81,7 @@ TEST(KxPlaySource, ACropStaysInsideThePicture)
     EXPECT_NEAR(source.CropAt(2)->right(), 1.0, 1e-12);
 }
 
-TEST(KxPlaySource, KnowsTheStreamThatPlays)
+TEST(KxPlaySource, KnowsTheAudioStreamThatPlays)
 {
     const auto source = PlayerClip::Source(PlayerClip::WithSound());
     ASSERT_TRUE(source);

@@ -45,7 +45,7 @@ protected:
             20000);
     }
 
-    /// Lets time go on in small steps until the frame shows.
+    /// Advances the time in small steps until the frame is shown.
     bool PlayTo(int frame)
     {
         return QTest::qWaitFor([&] {
@@ -54,14 +54,14 @@ protected:
         });
     }
 
-    /// Playback has looked at the clock after this was called.
+    /// Waits until playback has read the clock again.
     bool AwaitLooks()
     {
         const int before = looks;
         return QTest::qWaitFor([&] { return looks >= before + 2; });
     }
 
-    // Time stands still until it is moved.
+    // The time changes only when a test changes it.
     std::atomic<qint64> now{0};
     std::atomic_int looks{0};
     QList<int> shown;
@@ -304,12 +304,12 @@ TEST_F(TestPlayback, APositionCanBeKept)
     EXPECT_EQ(playback.CurrentFrame(), 200);
     shown.clear();
     ASSERT_TRUE(AwaitFrame(200));
-    // A shorter source has its last frame there.
+    // The position is limited to the last frame of a shorter source.
     playback.Open(PlayerClip::Source(PlayerClip::Numbered()), KxPlayback::After::Pause, KxPlayback::Position::Keep);
     ASSERT_TRUE(AwaitFrame(Last));
 }
 
-TEST_F(TestPlayback, PlayingGoesOnInAnotherSourceUnlessItIsToPause)
+TEST_F(TestPlayback, PlayingContinuesInAnotherSourceUnlessPaused)
 {
     Open(PlayerClip::Numbered());
     ASSERT_TRUE(AwaitFrame(0));
@@ -322,7 +322,7 @@ TEST_F(TestPlayback, PlayingGoesOnInAnotherSourceUnlessItIsToPause)
     EXPECT_EQ(playing.size(), 2);
 }
 
-TEST_F(TestPlayback, PlayingMayBeAskedForBeforeThePictureStands)
+TEST_F(TestPlayback, PlayingMayBeginBeforeThereIsAPicture)
 {
     Open(PlayerClip::Numbered());
     playback.Play();
@@ -333,7 +333,7 @@ TEST_F(TestPlayback, PlayingMayBeAskedForBeforeThePictureStands)
     EXPECT_EQ(shown.first(), 0);
 }
 
-TEST_F(TestPlayback, ABrokenFileIsTold)
+TEST_F(TestPlayback, ABrokenFileIsReported)
 {
     auto source = std::make_shared<KxPlaySource>();
     source->path = PlayerClip::Broken();
@@ -344,7 +344,7 @@ TEST_F(TestPlayback, ABrokenFileIsTold)
     EXPECT_TRUE(failed[0][0].toString().contains(QStringLiteral("broken.mp4")));
     EXPECT_FALSE(playback.IsPlaying());
     EXPECT_TRUE(shown.isEmpty());
-    // And is no reason not to play the next one.
+    // The next file can still be played.
     Open(PlayerClip::Numbered());
     EXPECT_TRUE(AwaitFrame(0));
     EXPECT_EQ(failed.size(), 1);
@@ -365,7 +365,7 @@ TEST_F(TestPlayback, AFailureTakesThePlaceOfThePictureUntilTheNextOne)
     EXPECT_EQ(playback.Failure(), failed[0][0].toString());
     EXPECT_FALSE(playback.Picture());
     EXPECT_EQ(playback.CurrentFrame(), 17);
-    // Another size does not make a picture of it.
+    // A resize does not try again.
     playback.SetArea(QSize(320, 192));
     // The message is shown until there is something else to show.
     ASSERT_TRUE(QFile::copy(PlayerClip::Numbered(), path));
@@ -389,7 +389,7 @@ TEST_F(TestPlayback, NothingHappensWhileNothingIsOpen)
     EXPECT_TRUE(playing.isEmpty());
 }
 
-TEST_F(TestPlayback, ResizingWhilePausedMakesTheSameFrameAnew)
+TEST_F(TestPlayback, ResizingWhilePausedMakesTheSameFrameAgain)
 {
     Open(PlayerClip::Numbered());
     playback.Seek(20);
@@ -402,7 +402,7 @@ TEST_F(TestPlayback, ResizingWhilePausedMakesTheSameFrameAnew)
     EXPECT_TRUE(shown.isEmpty());
 }
 
-TEST_F(TestPlayback, ResizingWhilePlayingIsMadeUpForByThePause)
+TEST_F(TestPlayback, AfterResizingWhilePlayingThePauseMakesThePictureAgain)
 {
     Open(PlayerClip::Numbered());
     ASSERT_TRUE(AwaitFrame(0));
@@ -413,7 +413,7 @@ TEST_F(TestPlayback, ResizingWhilePlayingIsMadeUpForByThePause)
     EXPECT_EQ(MadeVideo::ReadNumber(playback.Picture()->image), playback.CurrentFrame());
 }
 
-TEST(KxPlayback, MayBeDeletedByWhoeverItTells)
+TEST(KxPlayback, MayBeDeletedByASlotOfItsSignal)
 {
     auto* playback = new KxPlayback({});
     bool isDeleted = false;

@@ -17,7 +17,7 @@ protected:
 
 } // namespace
 
-TEST_F(TestClock, StandsUntilItIsStarted)
+TEST_F(TestClock, DoesNotRunUntilItIsStarted)
 {
     EXPECT_FALSE(clock.IsRunning());
     EXPECT_FALSE(clock.NowUs());

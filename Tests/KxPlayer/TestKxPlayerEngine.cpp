@@ -17,11 +17,11 @@ constexpr std::chrono::seconds Patience{30};
 class TestEngine : public testing::Test
 {
 protected:
-    // Wakes up whenever the engine has something, as the user interface does.
+    // Checks the condition whenever the engine notifies, as the user interface does.
     bool WaitFor(const std::function<bool()>& isTrue)
     {
         std::unique_lock<std::mutex> lock(mutex);
-        return told.wait_for(lock, Patience, isTrue);
+        return notified.wait_for(lock, Patience, isTrue);
     }
 
     std::optional<KxPlayerPicture> Await(int frame)
@@ -37,18 +37,18 @@ protected:
     std::atomic<qint64> now{0};
     KxPlayerClock clock{[this] { return now.load(); }};
     std::mutex mutex;
-    std::condition_variable told;
-    int timesTold = 0;
+    std::condition_variable notified;
+    int timesNotified = 0;
     KxPlayerEngine engine{clock, [this] {
                               const std::lock_guard<std::mutex> lock(mutex);
-                              ++timesTold;
-                              told.notify_all();
+                              ++timesNotified;
+                              notified.notify_all();
                           }};
 };
 
 } // namespace
 
-TEST_F(TestEngine, ShowsTheVeryFrame)
+TEST_F(TestEngine, ShowsTheExactFrame)
 {
     engine.Open(PlayerClip::Source(PlayerClip::Numbered()));
     engine.SetArea(QSize(320, 180), std::nullopt);
@@ -85,7 +85,7 @@ TEST_F(TestEngine, NewestOrderWins)
         for (int i = 0; i < 20; ++i) {
             last = static_cast<int>(random() % PlayerClip::Frames);
             engine.Show(last);
-            // What can be taken now is the newest order's or nothing.
+            // If a picture can be taken now, it belongs to the newest order.
             EXPECT_EQ(engine.NextFrame().value_or(last), last);
         }
         const auto picture = Await(last);
@@ -117,7 +117,7 @@ TEST_F(TestEngine, KeepsWhatWasMadeAhead)
     ASSERT_TRUE(WaitFor([&] { return engine.IsPrimed(); }));
     engine.Hold();
     engine.Show(7);
-    // No wait: it stood ready.
+    // Without waiting: it was ready.
     ASSERT_TRUE(engine.Take(7));
     engine.Play(8);
     EXPECT_EQ(engine.NextFrame(), 8);
@@ -128,7 +128,7 @@ TEST_F(TestEngine, KeepsWhatWasMadeAhead)
     }
 }
 
-TEST_F(TestEngine, LeavesOutWhatIsLate)
+TEST_F(TestEngine, SkipsLateFrames)
 {
     engine.Open(PlayerClip::Source(PlayerClip::Numbered()));
     engine.SetArea(QSize(160, 96), std::nullopt);
@@ -143,7 +143,7 @@ TEST_F(TestEngine, LeavesOutWhatIsLate)
         }
         return taken.back() >= 45;
     }));
-    // Those that waited, and from then on those whose time is not over for more than a frame.
+    // The pictures that were ready, and then those that are late by at most one frame.
     for (size_t i = 0; i < taken.size(); ++i) {
         EXPECT_TRUE(taken[i] == static_cast<int>(i) || taken[i] >= 39) << taken[i];
     }
@@ -155,16 +155,16 @@ TEST_F(TestEngine, AFrameThatIsLateByOneIsStillMade)
     engine.Open(PlayerClip::Source(PlayerClip::Numbered()));
     engine.SetArea(QSize(160, 96), std::nullopt);
     engine.Play(0);
-    // It waits for room, so the next one is begun at a known time.
-    ASSERT_TRUE(WaitFor([&] { return timesTold == 12; }));
+    // The engine waits for room, so it begins the next picture at a known time.
+    ASSERT_TRUE(WaitFor([&] { return timesNotified == 12; }));
     clock.Start(0);
     now += 13 * 40000;
     EXPECT_EQ(engine.TakeUpTo(13)->frame, 11);
-    ASSERT_TRUE(WaitFor([&] { return timesTold == 24; }));
+    ASSERT_TRUE(WaitFor([&] { return timesNotified == 24; }));
     EXPECT_EQ(engine.NextFrame(), 12);
     now += 13 * 40000;
     EXPECT_EQ(engine.TakeUpTo(26)->frame, 23);
-    ASSERT_TRUE(WaitFor([&] { return timesTold == 36; }));
+    ASSERT_TRUE(WaitFor([&] { return timesNotified == 36; }));
     EXPECT_GE(*engine.NextFrame(), 26);
 }
 
@@ -177,20 +177,20 @@ TEST_F(TestEngine, MakesAsManyPicturesAheadAsItsMemoryHolds)
     engine.Open(PlayerClip::Source(PlayerClip::Numbered()));
     engine.SetArea(QSize(160, 96), std::nullopt);
     engine.Play(0);
-    // Nothing is taken meanwhile.
-    ASSERT_TRUE(WaitFor([&] { return timesTold == 12; }));
+    // No picture is taken meanwhile.
+    ASSERT_TRUE(WaitFor([&] { return timesNotified == 12; }));
     engine.Hold();
     for (int frame = 0; frame < 12; ++frame) {
         EXPECT_TRUE(engine.Take(frame)) << frame;
     }
 }
 
-TEST_F(TestEngine, OrdersInTheMiddleOfALongReadGetTheirVeryFrame)
+TEST_F(TestEngine, OrdersInTheMiddleOfALongReadGetTheirExactFrame)
 {
     const auto source = PlayerClip::Source(PlayerClip::OneKeyFrame());
     engine.Open(source);
     engine.SetArea(QSize(160, 96), std::nullopt);
-    // Each of them is on its way when the next one comes, wherever decoding stands by then.
+    // Each order may interrupt the previous one at any point of decoding.
     std::mt19937 random(3);
     for (int round = 0; round < 40; ++round) {
         engine.Show(299);
@@ -202,7 +202,7 @@ TEST_F(TestEngine, OrdersInTheMiddleOfALongReadGetTheirVeryFrame)
     }
 }
 
-TEST_F(TestEngine, AStillFrameIsMadeAnewInAnotherSize)
+TEST_F(TestEngine, AStillFrameIsMadeAgainInAnotherSize)
 {
     engine.Open(PlayerClip::Source(PlayerClip::Numbered()));
     engine.SetArea(QSize(160, 96), std::nullopt);
@@ -228,7 +228,7 @@ TEST_F(TestEngine, HoldsTheLastPictureOfATruncatedFile)
     EXPECT_LT(*number, PlayerClip::Frames - 1);
 }
 
-TEST_F(TestEngine, SaysWhyAFileCannotBeShown)
+TEST_F(TestEngine, ReportsWhyAFileCannotBeShown)
 {
     auto source = std::make_shared<KxPlaySource>();
     source->path = PlayerClip::Broken();
@@ -244,7 +244,7 @@ TEST_F(TestEngine, SaysWhyAFileCannotBeShown)
     EXPECT_FALSE(engine.TakeFailure());
 }
 
-TEST_F(TestEngine, AnotherSourceTakesThePlaceOfTheOne)
+TEST_F(TestEngine, AnotherSourceReplacesTheFirst)
 {
     engine.Open(PlayerClip::Source(PlayerClip::Numbered()));
     engine.SetArea(QSize(160, 96), std::nullopt);
@@ -266,7 +266,7 @@ TEST(KxPlayerEngine, AnExceptionOnTheDecodingThreadIsReportedAfterThePicturesBef
     std::atomic_int calls{0};
     std::promise<void> reported;
     std::promise<void> triedAgain;
-    // The fourth picture fails behind the decoder, in foreign code.
+    // Foreign code throws on the decoding thread, after the fourth picture.
     KxPlayerEngine engine(clock, [&] {
         const int call = ++calls;
         if (call == 4) {
@@ -305,12 +305,12 @@ TEST(KxPlayerEngine, IsDestroyedAtAnyMoment)
     const KxPlayerClock clock;
     for (int round = 0; round < 50; ++round) {
         std::mutex mutex;
-        std::condition_variable told;
-        int timesTold = 0;
+        std::condition_variable notified;
+        int timesNotified = 0;
         KxPlayerEngine engine(clock, [&] {
             const std::lock_guard<std::mutex> lock(mutex);
-            ++timesTold;
-            told.notify_all();
+            ++timesNotified;
+            notified.notify_all();
         });
         engine.Open(source);
         if (round % 3 == 0) {
@@ -318,10 +318,10 @@ TEST(KxPlayerEngine, IsDestroyedAtAnyMoment)
         } else if (round % 3 == 1) {
             engine.Show(299);
         }
-        // At once, or while the picture after the first ones is decoded.
+        // At once, or while a later picture is decoded.
         if (round % 6 == 0) {
             std::unique_lock<std::mutex> lock(mutex);
-            EXPECT_TRUE(told.wait_for(lock, Patience, [&] { return timesTold > round / 6; }));
+            EXPECT_TRUE(notified.wait_for(lock, Patience, [&] { return timesNotified > round / 6; }));
         }
     }
 }

@@ -133,7 +133,7 @@ TEST_F(TestToolBar, ShortcutsActOnlyWhileTheirButtonIsEnabled)
     ASSERT_TRUE(Await(0));
 }
 
-TEST_F(TestToolBar, ADragSeeksAndTheNewestPlaceIsTheLast)
+TEST_F(TestToolBar, ADragSeeksAndEndsAtTheNewestPosition)
 {
     KxToolSlider* const slider = bar.slider();
     frames.clear();
@@ -141,13 +141,13 @@ TEST_F(TestToolBar, ADragSeeksAndTheNewestPlaceIsTheLast)
     for (int value = 1; value <= 50; ++value) {
         slider->setValue(value + 0.7, true);
     }
-    // What the player shows does not move the slider out of the hand.
+    // A picture that is shown does not move the dragged slider.
     ASSERT_TRUE(QTest::qWaitFor([&] { return !frames.isEmpty(); }));
     EXPECT_NEAR(slider->value(), 50.7, 1e-9);
     Q_EMIT slider->sigValueChangeEnd(slider->value());
     ASSERT_TRUE(Await(50));
     EXPECT_EQ(slider->value(), 50);
-    // Not each of the fifty places was gone to.
+    // Some of the fifty positions were skipped.
     EXPECT_LT(frames.size(), 10);
 }
 
@@ -168,7 +168,7 @@ TEST_F(TestToolBar, ADragCanWaitForItsEnd)
     EXPECT_EQ(frames.size(), 2);
 }
 
-TEST_F(TestToolBar, ThePlaceBehindTheLastFrameIsTheLastFrame)
+TEST_F(TestToolBar, ThePositionAfterTheLastFrameIsTheLastFrame)
 {
     Q_EMIT bar.slider()->sigValueChangeStart(0);
     bar.slider()->setValue(PlayerClip::Frames, true);
@@ -192,7 +192,7 @@ TEST_F(TestToolBar, ForgetsAPresenter)
     bar.button(Bar::StopButton)->click();
 }
 
-TEST_F(TestToolBar, TipsTellTheKeys)
+TEST_F(TestToolBar, ToolTipsShowTheKeys)
 {
     for (const int number : {Bar::PlayPauseButton, Bar::StopButton, Bar::BackwardButton, Bar::ForwardButton}) {
         EXPECT_TRUE(bar.button(number)->toolTip().contains(QLatin1Char('(')));

@@ -14,7 +14,7 @@
 namespace
 {
 
-// The bar with a player whose pictures come when the test says so.
+// The bar with a player whose pictures the test delivers.
 class TestToolBarSeeks : public testing::Test
 {
 protected:
@@ -38,7 +38,7 @@ const QString Seek50 = QStringLiteral("seek 50 0 0");
 
 } // namespace
 
-TEST_F(TestToolBarSeeks, ADragGoesOnWhenThePictureStands)
+TEST_F(TestToolBarSeeks, ADragContinuesWhenThePictureIsShown)
 {
     Q_EMIT bar.slider()->sigValueChangeStart(0);
     DragTo(30);
@@ -51,7 +51,7 @@ TEST_F(TestToolBarSeeks, ADragGoesOnWhenThePictureStands)
     EXPECT_EQ(Calls().size(), 2);
 }
 
-TEST_F(TestToolBarSeeks, BackAtThePlaceOfThePictureThatIsMadeThereIsNothingToAdd)
+TEST_F(TestToolBarSeeks, BackAtTheFrameThatIsBeingMadeNoSeekFollows)
 {
     Q_EMIT bar.slider()->sigValueChangeStart(0);
     DragTo(30);
@@ -61,7 +61,7 @@ TEST_F(TestToolBarSeeks, BackAtThePlaceOfThePictureThatIsMadeThereIsNothingToAdd
     EXPECT_EQ(Calls(), QStringList{Seek30});
 }
 
-TEST_F(TestToolBarSeeks, APictureThatTakesLongIsGivenUpForTheNewestPlace)
+TEST_F(TestToolBarSeeks, ASlowPictureIsAbandonedForTheNewestPosition)
 {
     Q_EMIT bar.slider()->sigValueChangeStart(0);
     DragTo(30);
@@ -73,7 +73,7 @@ TEST_F(TestToolBarSeeks, APictureThatTakesLongIsGivenUpForTheNewestPlace)
     EXPECT_EQ(Calls(), (QStringList{Seek30, Seek50}));
 }
 
-TEST_F(TestToolBarSeeks, WhoeverMovesLaterDoesNotWaitForAPictureThatTakesLong)
+TEST_F(TestToolBarSeeks, ALaterMoveDoesNotWaitForASlowPicture)
 {
     DragTo(30);
     const QTimer* const patience = bar.findChild<QTimer*>(QStringLiteral("patience"));

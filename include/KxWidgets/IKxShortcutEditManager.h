@@ -4,13 +4,13 @@
 
 #include <QKeySequence>
 
-/// The keyboard shortcuts of the host's actions, by action id; the person may change them in the configuration file
-/// (group "Shortcuts", key the action id, value a portable key sequence, empty for none). A sequence that cannot be
-/// read counts as not set.
+/// The keyboard shortcuts of the host's actions, by action id. The person can change them in the configuration file
+/// (group "Shortcuts"; the key is the action id, the value a portable key sequence, empty for no shortcut). An
+/// unreadable sequence counts as not set.
 class KXWIDGETS_API IKxShortcutEditManager
 {
 public:
-    /// Ids of actions.
+    /// The ids of the actions.
     enum Action {
         Undo = 1000,
         Redo = 1001,

@@ -4,7 +4,7 @@
 
 #include <QComboBox>
 
-/// A choice from a list. The wheel changes it only while it has the focus.
+/// A choice from a list. The mouse wheel changes it only while it has the focus.
 class KXWIDGETS_API KxComboBox : public QComboBox
 {
     Q_OBJECT

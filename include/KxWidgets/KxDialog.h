@@ -4,8 +4,8 @@
 
 #include <QDialog>
 
-/// The host's dialog. Escape rejects it; every other key does what QDialog does with it, but Return only presses a
-/// button that has the focus or is the default.
+/// The host's dialog. Keys work as in QDialog: Escape rejects it, and Return presses the button that has the focus or
+/// is the default one.
 class KXWIDGETS_API KxDialog : public QDialog
 {
     Q_OBJECT
@@ -17,7 +17,7 @@ public:
     int DoModal();
 
 protected:
-    /// Called after the language has changed; a derived class sets its texts here.
+    /// Called after a change of language; a derived class sets its texts here.
     virtual void RetranslateUi();
     void changeEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;

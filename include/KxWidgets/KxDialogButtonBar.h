@@ -13,8 +13,8 @@ public:
     explicit KxDialogButtonBar(QWidget* parent);
     ~KxDialogButtonBar() override;
 
-    /// Adds a button at the right end: `type` 0 is a primary one, 1 a secondary one; `index` is its place among the
-    /// buttons of that end, -1 the last. The bar owns it.
+    /// Adds a button at the right end, owned by the bar. `type` 0 is a primary button, 1 a secondary one. `index` is
+    /// its position among the buttons of that end; -1 means the last.
     KxPushButton* AddPushButton_R(int type, int index);
 
 private:

@@ -8,23 +8,23 @@ class KxTopLevelWindowTitleBar;
 class KxWindowCorners;
 class QVBoxLayout;
 
-/// A dialog that draws its own frame: title bar, content, button bar, a border and, where the desktop composes windows,
-/// round corners. It can be moved by its title bar, resized at its edges (unless its size is fixed) and minimised; a
-/// dialog that was minimised comes back with its parent's window. It does not handle close events itself.
+/// A dialog that draws its own frame: title bar, content, button bar, a border and, if the desktop has a compositor,
+/// round corners. It can be moved by its title bar, resized at its edges (unless its size is fixed) and minimised. A
+/// minimised dialog is restored together with its parent's window. It does not handle close events itself.
 class KXWIDGETS_API KxFramelessDialog : public KxDialog
 {
     Q_OBJECT
 public:
-    /// With `fixedSize` the person cannot resize it; with `centred` it opens in the middle of its parent's window.
+    /// With `fixedSize` the person cannot resize it. With `centred` it opens in the middle of its parent's window.
     KxFramelessDialog(const QString& title, QWidget* parent, bool fixedSize, bool centred);
     ~KxFramelessDialog() override;
 
     KxTopLevelWindowTitleBar* GetTitleBar() const;
     KxDialogButtonBar* GetButtonBar() const;
-    /// The dialog takes `content` and destroys the content it had before.
+    /// The dialog takes ownership of `content` and deletes its previous content.
     void SetContentWidget(QWidget* content);
     void SetBottomBarVisible(bool visible);
-    /// With `elide` a long title is shortened to the room there is.
+    /// With `elide` a long title is shortened to the available width.
     void SetTitleName(const QString& title, bool elide);
 
 protected:

@@ -2,11 +2,11 @@
 
 #include <KxWidgets/KxUIView.h>
 
-/// Asks for the view's window to be minimised.
+/// Requests that the view's window is minimised.
 class KXWIDGETS_API KxMainFormMinimizeMessage : public KxSceneMessage
 {
 public:
-    /// `window` is the number of the window; 0 is the main window, the only one there is.
+    /// `window` is the number of the window; there is only 0, the main window.
     explicit KxMainFormMinimizeMessage(int window);
     ~KxMainFormMinimizeMessage() override;
 

@@ -5,7 +5,7 @@
 class KxLineEdit;
 class KxToolButton;
 
-/// A folder's path to edit, with a button that lets the person pick the folder.
+/// An editable path of a folder, with a button to choose the folder.
 class KXWIDGETS_API KxOpenFileLineEdit : public KxWidget
 {
     Q_OBJECT

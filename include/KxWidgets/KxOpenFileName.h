@@ -1,7 +1,8 @@
 #pragma once
 
-// The system's file chooser under the name and with the record that Windows gives it. On Windows these are the system's
-// own; elsewhere the host supplies both over its own file chooser, so that the module's code is the same everywhere.
+// The system's file chooser with the name and the record that it has on Windows. There the declarations are the
+// system's own. Elsewhere the host implements them with its own file chooser, so that the module's code is the same
+// everywhere.
 
 #include <KxCore/KxExport.h>
 
@@ -46,7 +47,7 @@ constexpr std::uint32_t OFN_PATHMUSTEXIST = 0x800;
 constexpr std::uint32_t OFN_FILEMUSTEXIST = 0x1000;
 constexpr std::uint32_t OFN_EXPLORER = 0x80000;
 
-/// Shows the chooser; 0 when the person cancelled or what was chosen does not fit into the buffer.
+/// Shows the chooser. Returns 0 if the person cancelled or the choice does not fit into the buffer.
 KXWIDGETS_API int GetOpenFileNameW(OPENFILENAMEW* request);
 
 #endif

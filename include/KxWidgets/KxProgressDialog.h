@@ -7,13 +7,13 @@ class KxLabel;
 class KxPushButton;
 class QProgressBar;
 
-/// Shows how a job goes on and lets the person cancel it. `rejected()` comes when it was closed by its cancel button,
-/// its window's close button or Escape; hiding it ends `exec()` without that signal.
+/// Shows the progress of a job and lets the person cancel it. `rejected()` is emitted when its cancel button, its
+/// window's close button or Escape closes it; hiding it ends `exec()` without that signal.
 class KXWIDGETS_API KxProgressDialog : public KxFramelessDialog
 {
     Q_OBJECT
 public:
-    /// What closed it last; Escape counts as WindowClosed.
+    /// How it was closed last; Escape counts as WindowClosed.
     enum CloseReason { NotClosed = 0, CancelButton = 1, WindowClosed = 2 };
 
     KxProgressDialog(const QString& title, QWidget* parent);
@@ -21,9 +21,9 @@ public:
 
     void SetRange(int minimum, int maximum);
     void SetProgress(int progress);
-    /// The line above the bar; `icon` names an icon of the style, "None" for none.
+    /// The line above the bar. `icon` is the name of an icon of the style, or "None".
     void SetProgressTitle(const QString& title, const QString& icon);
-    /// The line under the bar; `toolTip` may be empty.
+    /// The line below the bar. `toolTip` may be empty.
     void SetInfoText(const QString& text, const QString& toolTip, Qt::Alignment alignment);
     QString InfoText() const;
     int GetCloseReason() const;

@@ -13,9 +13,9 @@ public:
     static KxSwitchToolButton* CreateSwitchToolButton(QWidget* parent, const QString& name);
     ~KxSwitchToolButton() override;
 
-    /// One tooltip a face, the first face first; they replace the earlier ones.
+    /// Sets one tooltip for each face, in the order of the faces.
     void AddTips(const QStringList& tips);
-    /// 0 or 1. The style sheet tells the faces apart by the property "face".
+    /// `face` is 0 or 1. The style sheet distinguishes the faces by the property "face".
     void SetFace(int face);
     int Face() const { return m_face; }
 

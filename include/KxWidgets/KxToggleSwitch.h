@@ -4,7 +4,7 @@
 
 #include <QAbstractButton>
 
-/// A switch with a text at its left. `toggled(bool)` tells of every change.
+/// A switch with a text at its left. `toggled(bool)` reports every change.
 class KXWIDGETS_API KxToggleSwitch : public QAbstractButton
 {
     Q_OBJECT

@@ -4,18 +4,18 @@
 
 #include <QToolButton>
 
-/// A button with an icon. The style sheet gives it its icon by its object name, through the property "glyph". Without
-/// an accessible name of its own it goes by its tooltip, without the shortcut in parentheses at the end.
+/// A button with an icon. The style sheet sets the icon by the button's object name, through the property "glyph". The
+/// default accessible name is the tooltip without the shortcut in parentheses at its end.
 class KXWIDGETS_API KxToolButton : public QToolButton
 {
     Q_OBJECT
     Q_PROPERTY(QString glyph READ Glyph WRITE SetGlyph)
 public:
-    /// `name` becomes the object name, and is not shown as a text.
+    /// `name` becomes the object name; it is not shown.
     static KxToolButton* CreateToolButton(QWidget* parent, const QString& name);
     ~KxToolButton() override;
 
-    /// An icon of the style's family by its name, painted in icon()'s place; empty shows icon() again.
+    /// Paints the style's icon of that name in place of icon(). With an empty name icon() is painted again.
     void SetGlyph(const QString& name);
     QString Glyph() const;
 

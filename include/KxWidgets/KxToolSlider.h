@@ -5,9 +5,9 @@
 #include <optional>
 
 /// A slider over a continuous range from 0 to its duration, with a handle ("chunk") that is a widget of its own. A
-/// press beside the handle moves it there and the drag goes on from there. While it has the focus the arrow keys and
-/// the wheel move it by 1, Page Up and Page Down by a tenth, Home and End to the ends; the signals come as for a drag.
-/// A vertical slider has its 0 at the bottom.
+/// press beside the handle moves the handle there and begins a drag. While the slider has the focus, the arrow keys and
+/// the wheel move it by 1, Page Up and Page Down by a tenth, Home and End to the ends; the signals are those of a drag.
+/// The 0 of a vertical slider is at the bottom.
 class KXWIDGETS_API KxToolSlider : public KxWidget
 {
     Q_OBJECT
@@ -17,20 +17,20 @@ public:
 
     QWidget* chunkWidget() const;
     Qt::Orientation GetOrientation() const;
-    /// The slider's extent along its orientation less the handle's, pixels.
+    /// The slider's extent along its orientation minus the handle's, in pixels.
     int GetWidth() const;
     int GetChunkWidth() const;
     int GetChunkHeight() const;
 
     double duration() const;
-    /// Values beyond the new duration move back inside, without a signal.
+    /// A value beyond the new duration is limited to it, without a signal.
     void setDuration(double duration);
     double value() const;
-    /// Limited to 0 to the duration. With `emitSignal` a change emits sigValueChanged.
+    /// The value is limited to the range from 0 to the duration. With `emitSignal` a change emits sigValueChanged.
     void setValue(double value, bool emitSignal);
 
-    /// Whether sigValueChangeStart and sigValueChangeEnd come also for a press and release that changed nothing (as
-    /// they do at first).
+    /// Whether sigValueChangeStart and sigValueChangeEnd are also emitted for a press and release without a change;
+    /// initially they are.
     void SetAwaysEmitValueChangeStartEnd(bool always);
 
     QSize sizeHint() const override;
@@ -38,9 +38,9 @@ public:
 
 Q_SIGNALS:
     void sigValueChanged(double value);
-    /// Before the first change by hand, with the value from before it.
+    /// Emitted before the first change of a drag, with the value before that change.
     void sigValueChangeStart(double value);
-    /// When the hand lets go.
+    /// Emitted at the end of a drag.
     void sigValueChangeEnd(double value);
 
 protected:

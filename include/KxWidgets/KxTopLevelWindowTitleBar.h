@@ -11,8 +11,8 @@
 class KxLabel;
 class KxToolButton;
 
-/// The title bar of a frameless window: the window's title at the left, buttons at the right. Dragging it moves the
-/// window, a double click toggles maximised where the window can be resized.
+/// The title bar of a frameless window: the title at the left, buttons at the right. Dragging it moves the window. A
+/// double click maximises or restores a window that can be resized.
 class KXWIDGETS_API KxTopLevelWindowTitleBar : public KxWidget
 {
     Q_OBJECT
@@ -23,18 +23,18 @@ public:
     explicit KxTopLevelWindowTitleBar(QWidget* parent);
     ~KxTopLevelWindowTitleBar() override;
 
-    /// Shows the buttons whose bits are set, in the order minimise, maximise, close, and hides the others. A maximise
-    /// button shows only while the window can be resized.
+    /// Shows the buttons whose bits are set, in the order minimise, maximise, close, and hides the others. The maximise
+    /// button is shown only while the window can be resized.
     void SetButtons(int bits);
     /// Whether the window can be resized at its edges and maximised.
     void SetResizeble(bool resizable);
     bool IsResizeble() const;
-    /// The button of one bit; never null for the bits above.
+    /// The button of one bit; not null for the bits above.
     QAbstractButton* GetButton(int bit) const;
 
     void SetTitle(const QString& title);
     QString Title() const;
-    /// As KxLabel::SetElideMode, for the title.
+    /// KxLabel::SetElideMode for the title.
     void SetTitleElideMode(Qt::TextElideMode mode);
 
 Q_SIGNALS:

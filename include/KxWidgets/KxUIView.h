@@ -4,7 +4,7 @@
 
 #include <QObject>
 
-/// Something that one part of the program tells a window's scene.
+/// A message from one part of the program to a window's scene.
 class KXWIDGETS_API KxSceneMessage
 {
 public:
@@ -15,7 +15,7 @@ protected:
     Q_DISABLE_COPY_MOVE(KxSceneMessage)
 };
 
-/// What stands behind a window and acts on the messages sent to it. User-interface thread.
+/// The object behind a window that handles the messages sent to it. User-interface thread.
 class KXWIDGETS_API KxScene : public QObject
 {
     Q_OBJECT
@@ -23,12 +23,12 @@ public:
     explicit KxScene(QObject* parent);
     ~KxScene() override;
 
-    /// False for a message that means nothing to this scene.
+    /// Returns false for a message that the scene does not know.
     virtual bool HandleMessage(const KxSceneMessage& message) = 0;
 };
 
 namespace KxUIView
 {
-/// Delivers `message` at once; what the scene answers. False where `scene` is null.
+/// Delivers `message` at once and returns the scene's answer; false if `scene` is null.
 KXWIDGETS_API bool sendMessageToScene(KxScene* scene, const KxSceneMessage& message);
 } // namespace KxUIView

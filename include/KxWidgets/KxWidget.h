@@ -4,8 +4,8 @@
 
 #include <QWidget>
 
-/// The host's plain widget: paints the background that the style sheet gives it and tells its texts anew when the
-/// language changes. User-interface thread only, like every widget.
+/// The host's basic widget: paints the background that the style sheet sets, and updates its texts when the language
+/// changes. User-interface thread only, like every widget.
 class KXWIDGETS_API KxWidget : public QWidget
 {
     Q_OBJECT
@@ -14,7 +14,7 @@ public:
     ~KxWidget() override;
 
 protected:
-    /// Called after the language has changed; a derived class sets its texts here.
+    /// Called after a change of language; a derived class sets its texts here.
     virtual void RetranslateUi();
     void changeEvent(QEvent* event) override;
 };

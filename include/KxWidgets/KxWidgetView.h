@@ -4,7 +4,7 @@
 
 class KxScene;
 
-/// A main window of the host. Its scene minimises it on a KxMainFormMinimizeMessage.
+/// A main window of the host. Its scene minimises it when it receives a KxMainFormMinimizeMessage.
 class KXWIDGETS_API KxWidgetView : public KxWidget
 {
     Q_OBJECT

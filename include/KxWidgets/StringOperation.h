@@ -9,6 +9,7 @@ class QString;
 
 namespace StringOperation
 {
-/// `text` as it is where it fits into `widthPx` pixels in `font`, else shortened with an ellipsis where `mode` says.
+/// `text` if it fits into `widthPx` pixels in `font`; otherwise shortened with an ellipsis at the place that `mode`
+/// names.
 KXWIDGETS_API QString GetElidedString(const QString& text, const QFont& font, int widthPx, Qt::TextElideMode mode);
 } // namespace StringOperation

@@ -8,7 +8,7 @@ KxComboBox::KxComboBox(QWidget* parent)
     : QComboBox(parent)
 {
     setFocusPolicy(Qt::StrongFocus);
-    // The delegate that QComboBox brings does not read the style sheet's rules for items.
+    // The default delegate of QComboBox ignores the style sheet's rules for items.
     setItemDelegate(new QStyledItemDelegate(this));
     QWidget* popup = view()->window();
     popup->setWindowFlags(Qt::Popup | Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint);

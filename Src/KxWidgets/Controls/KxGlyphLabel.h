@@ -2,7 +2,7 @@
 
 #include <QWidget>
 
-/// A picture of the style's family in one colour.
+/// One of the style's icons in one colour.
 class KxGlyphLabel : public QWidget
 {
     Q_OBJECT
@@ -10,7 +10,7 @@ public:
     KxGlyphLabel(int sidePx, QWidget* parent);
     ~KxGlyphLabel() override;
 
-    /// Hides itself for a name that the family does not have.
+    /// For an unknown name the label is hidden.
     void SetGlyph(const QString& name, const QColor& colour);
 
 protected:

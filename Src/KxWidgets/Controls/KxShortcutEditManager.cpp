@@ -20,7 +20,7 @@ QKeySequence Default(int actionId)
     case IKxShortcutEditManager::PlayPause:
         return {Qt::Key_Space};
     case IKxShortcutEditManager::Stop:
-        // Beside Space, and no letter that a list's search by typing would lose.
+        // Close to Space, and not a letter, because lists search for typed letters.
         return {Qt::SHIFT | Qt::Key_Space};
     case IKxShortcutEditManager::Backward:
         return {Qt::Key_Left};
@@ -68,7 +68,7 @@ QKeySequence KxShortcutEditManager::keySequence(int actionId) const
     if (!settings.contains(key)) {
         return Default(actionId);
     }
-    // A comma between two strokes makes a list of it.
+    // QSettings reads a value with a comma, which separates two key strokes, as a list.
     const QString text = settings.value(key).toStringList().join(QStringLiteral(", ")).trimmed();
     const QKeySequence sequence = QKeySequence::fromString(text, QKeySequence::PortableText);
     const bool readable = IsReadable(sequence) && sequence.isEmpty() == text.isEmpty();

@@ -2,7 +2,7 @@
 
 #include <KxWidgets/IKxShortcutEditManager.h>
 
-/// The shortcuts as the configuration file has them at the moment of asking, else our own.
+/// Reads each shortcut from the configuration file when it is asked for; the default one if it is not set there.
 class KxShortcutEditManager : public IKxShortcutEditManager
 {
 public:

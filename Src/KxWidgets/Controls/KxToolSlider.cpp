@@ -242,7 +242,7 @@ std::optional<double> KxToolSlider::ValueForKey(int key) const
 bool KxToolSlider::event(QEvent* event)
 {
     if (event->type() == QEvent::ShortcutOverride) {
-        // A window may have the arrows as shortcuts; the slider that has the focus goes first.
+        // The window may use the arrow keys as shortcuts; a slider with the focus takes precedence.
         const auto* key = static_cast<QKeyEvent*>(event);
         const bool plain = (key->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
         if (plain && ValueForKey(key->key())) {

@@ -9,7 +9,7 @@ namespace
 {
 
 constexpr int GapPx = 6;
-// QToolTip moves what it shows away from the pointer by this much.
+// QToolTip moves the tooltip away from the given position by this offset.
 const QPoint PointerOffset(2, 16);
 constexpr int LongTextCharacters = 60;
 

@@ -1,6 +1,6 @@
 #pragma once
 
-/// What screen readers are told of the widgets that Qt does not know: the slider's value, the switch's state.
+/// Makes the widgets that Qt does not know accessible to screen readers: the slider's value, the switch's state.
 namespace KxAccessible
 {
 /// A second call changes nothing.

@@ -7,17 +7,17 @@
 
 class QPainter;
 
-/// The icons of the family: drawings of lines on a grid of 16, tinted when they are painted. User-interface thread.
+/// The style's icons: line drawings on a grid of 16, tinted when they are painted. User-interface thread.
 namespace KxGlyph
 {
 enum class State { Normal, Hover, Pressed, Disabled, Checked };
 
 bool Exists(const QString& name);
 
-/// Fills the largest square in the middle of `area`; nothing for a name that does not exist.
+/// Fills the largest square in the middle of `area`. Paints nothing for an unknown name.
 void Paint(QPainter& painter, const QString& name, const QRectF& area, State state);
 void Paint(QPainter& painter, const QString& name, const QRectF& area, const QColor& colour);
 
-/// Null for a name that does not exist.
+/// Null for an unknown name.
 QIcon Icon(const QString& name);
 } // namespace KxGlyph

@@ -4,14 +4,14 @@
 
 #include <QPalette>
 
-/// What the style sheet, the palette and the widgets that paint themselves draw from.
+/// Sizes, fonts and colours shared by the style sheet, the palette and the widgets that paint themselves.
 namespace KxTheme
 {
 inline constexpr int ControlRadiusPx = 6;
 inline constexpr int WindowRadiusPx = 8;
 inline constexpr int TitleBarHeightPx = 40;
 
-/// The whole program's style sheet, with colours and font families put in.
+/// The program's style sheet, with the placeholders for colours and font families replaced.
 QString StyleSheet();
 
 QPalette Palette();
