@@ -167,11 +167,6 @@ KxMediaPlayerPresenter* KxMediaPlayerWidget::getOrCreatePresenter()
     return m_presenter;
 }
 
-bool KxMediaPlayerWidget::event(QEvent* event)
-{
-    return KxWidget::event(event);
-}
-
 void KxMediaPlayerWidget::paintEvent(QPaintEvent* event)
 {
     KxWidget::paintEvent(event);
