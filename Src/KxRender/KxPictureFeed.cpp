@@ -2,13 +2,22 @@
 
 #include <KxMedia/Picture/KxDrawnFrame.h>
 
+#include <algorithm>
 #include <cmath>
 
 namespace
 {
 
-// Decoding comes in bursts; a few pictures in reserve keep the encoder busy between them.
-constexpr size_t PicturesAhead = 6;
+// Decoding runs in bursts; a few pictures of reserve keep the encoder busy meanwhile.
+constexpr qint64 PicturesAhead = 6;
+// Large pictures are fewer: what waits stays below this.
+constexpr qint64 BytesAhead = qint64{96} * 1024 * 1024;
+
+size_t QueueLength(const QSize& size)
+{
+    const qint64 pictureBytes = std::max<qint64>(1, qint64{size.width()} * size.height() * 3 / 2);
+    return static_cast<size_t>(std::clamp<qint64>(BytesAhead / pictureBytes, 1, PicturesAhead));
+}
 
 // Many intact files claim a few frames more than they contain. For up to this time the last picture is held instead.
 constexpr double LongestHoldS = 0.25;
@@ -22,7 +31,7 @@ KxPictureFeed::KxPictureFeed(KxVideoReader& reader, const KxRenderSource& source
     , m_grid(grid)
     , m_size(size)
     , m_cancel(cancel)
-    , m_pictures(PicturesAhead)
+    , m_pictures(QueueLength(size))
     , m_cutter(size)
     , m_thread([this] { Work(); })
 {
