@@ -58,6 +58,19 @@ TEST(KxTimestampJoin, LeavesAloneWhatDoesNotJump)
     }
 }
 
+TEST(KxTimestampJoin, StepsOfExactlyASecondBackAndTenAheadAreNoJumps)
+{
+    KxTimestampJoin join(40, 1000);
+    EXPECT_EQ(join.OffsetFor(5000), 0);
+    EXPECT_EQ(join.OffsetFor(4000), 0);
+    EXPECT_EQ(join.OffsetFor(14000), 0);
+    EXPECT_EQ(join.OffsetFor(12999), 14040 - 12999);
+
+    KxTimestampJoin ahead(40, 1000);
+    EXPECT_EQ(ahead.OffsetFor(0), 0);
+    EXPECT_EQ(ahead.OffsetFor(10001), 40 - 10001);
+}
+
 TEST(KxTimestampJoin, JoinsAClockThatStartsAgain)
 {
     KxTimestampJoin join(40, 1000);
