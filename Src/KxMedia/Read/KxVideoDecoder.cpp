@@ -13,6 +13,15 @@ constexpr int MostErrorsInARow = 200;
 
 // Each thread beyond the first delays the first picture after a seek by one picture. Whoever runs through a file does
 // not mind, and two threads a core keep all of them busy while some wait for their neighbours.
+// Each thread holds a picture of its own, and pictures of the largest size take 100 MB.
+constexpr qint64 ThreadsPictureBytes = qint64{256} * 1024 * 1024;
+
+int MostThreads(const AVCodecParameters& parameters)
+{
+    const qint64 pictureBytes = std::max<qint64>(1, qint64{parameters.width} * parameters.height * 3 / 2);
+    return static_cast<int>(std::clamp<qint64>(ThreadsPictureBytes / pictureBytes, 1, 64));
+}
+
 int ThreadCount(KxVideoDecoder::Effort effort)
 {
     const int cores = static_cast<int>(std::clamp(std::thread::hardware_concurrency(), 2U, 4U));
@@ -43,7 +52,7 @@ KxResult<std::unique_ptr<KxVideoDecoder>> KxVideoDecoder::Open(KxVideoPackets& p
     }
     KxMuteAvCodec(*context);
     context->pkt_timebase = packets.TimeBase();
-    context->thread_count = ThreadCount(effort);
+    context->thread_count = std::min(ThreadCount(effort), MostThreads(parameters));
     context->max_pixels = KxInputFile::LargestPicturePixels;
     if (effort == Effort::SkipLoopFilter) {
         context->skip_loop_filter = AVDISCARD_ALL;
