@@ -2,6 +2,7 @@
 
 #include <KxMedia/Container/KxAvError.h>
 #include <KxMedia/Container/KxClaimedSize.h>
+#include <KxMedia/Container/KxMatroskaAttachments.h>
 
 extern "C" {
 #include <libavutil/avstring.h>
@@ -49,6 +50,13 @@ QByteArray HeadAt(const QString& path)
 {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.read(HeadBytes) : QByteArray();
+}
+
+std::vector<qint64> LargeAttachments(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? KxLargeAttachments(file, KxInputFile::LargestAttachmentBytes)
+                                          : std::vector<qint64>();
 }
 
 class Options
@@ -133,6 +141,7 @@ KxInputFile::KxInputFile(const QString& path, const KxCancelToken& cancel, const
 KxInputFile::~KxInputFile()
 {
     m_context.reset();
+    m_masked.reset();
     avio_closep(&m_file);
 }
 
@@ -224,6 +233,10 @@ KxError KxInputFile::OpenContainer()
         return KxAvErrorText(AVERROR(ENOMEM));
     }
     context->pb = m_file;
+    if (std::vector<qint64> attachments = LargeAttachments(m_path); !attachments.empty()) {
+        m_masked = std::make_unique<KxMaskedFile>(*m_file, std::move(attachments));
+        context->pb = m_masked->Context() != nullptr ? m_masked->Context() : m_file;
+    }
     context->io_open = &RefuseOpening;
     context->interrupt_callback = {&IsInterrupted, &m_watch};
     Options options;

@@ -4,6 +4,7 @@
 #include <KxCore/KxExport.h>
 #include <KxCore/KxResult.h>
 #include <KxMedia/Container/KxAvHandles.h>
+#include <KxMedia/Container/KxMaskedFile.h>
 #include <KxMedia/Container/KxReadStatus.h>
 
 #include <QByteArray>
@@ -25,6 +26,8 @@ class KXMEDIA_API KxInputFile
 public:
     /// Larger pictures are refused: their frames alone would fill the memory of a small machine.
     static constexpr qint64 LargestPicturePixels = qint64{8192} * 8192;
+    /// Larger lists of attachments of Matroska files are passed over: the demuxer would hold them in memory, twice.
+    static constexpr qint64 LargestAttachmentBytes = 4 * 1024 * 1024;
 
     using Clock = std::function<std::chrono::steady_clock::time_point()>;
 
@@ -84,6 +87,8 @@ private:
     bool m_isCutOff = false;
     Watch m_watch;
     AVIOContext* m_file = nullptr;
+    /// Where the file holds attachments that are too large to be held in memory.
+    std::unique_ptr<KxMaskedFile> m_masked;
     KxAvInput m_context;
     AVStream* m_videoStream = nullptr;
     std::vector<AVStream*> m_audioStreams;

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <KxMedia/Container/KxAvHandles.h>
+
+#include <QtGlobal>
+
+#include <vector>
+
+/// A file of which a demuxer sees Matroska elements as void ones, so that it passes over their content instead of
+/// holding it in memory. One thread at a time.
+class KxMaskedFile
+{
+public:
+    /// `file` is borrowed and stands at its start. `elements` are positions of four-byte element IDs. Context() is null
+    /// when memory runs out.
+    KxMaskedFile(AVIOContext& file, std::vector<qint64> elements);
+    ~KxMaskedFile();
+    KxMaskedFile(const KxMaskedFile&) = delete;
+    KxMaskedFile& operator=(const KxMaskedFile&) = delete;
+
+    AVIOContext* Context() const { return m_context; }
+
+private:
+    static int Read(void* self, uint8_t* bytes, int size);
+    static int64_t Seek(void* self, int64_t offset, int whence);
+
+    AVIOContext& m_file;
+    std::vector<qint64> m_elements;
+    AVIOContext* m_context = nullptr;
+};
