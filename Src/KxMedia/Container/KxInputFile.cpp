@@ -233,7 +233,11 @@ KxError KxInputFile::OpenContainer()
         return KxAvErrorText(AVERROR(ENOMEM));
     }
     context->pb = m_file;
-    if (std::vector<qint64> attachments = LargeAttachments(m_path); !attachments.empty()) {
+    std::vector<qint64> attachments;
+    if (av_match_name("matroska", format->name) > 0) {
+        attachments = LargeAttachments(m_path);
+    }
+    if (!attachments.empty()) {
         m_masked = std::make_unique<KxMaskedFile>(*m_file, std::move(attachments));
         context->pb = m_masked->Context() != nullptr ? m_masked->Context() : m_file;
     }
