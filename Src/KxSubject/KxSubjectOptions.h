@@ -8,7 +8,8 @@
 /// origin:
 /// - trial: chosen by trial on real footage;
 /// - clips: chosen by the score of "Against ground truth" in Docs/ANALYSIS.md;
-/// - spread: the same, and `Benchmarks/spread` measures how much depends on it ("How firmly it stands" there);
+/// - spread: the same, and `Benchmarks/spread` measures how much depends on it ("Sensitivity to the tuning values"
+/// there);
 /// - shots: chosen on the videos of "Shot boundaries" there;
 /// - chosen: hardly matters within its range.
 /// Lengths in `Px` are pixels of the working picture.
