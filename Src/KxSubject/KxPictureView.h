@@ -5,7 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 
-/// A picture in somebody else's memory: three bytes a pixel (blue, green, red), rows from top to bottom.
+/// A picture in memory that it does not own: three bytes a pixel (blue, green, red), rows from top to bottom.
 struct KxPictureView {
     const std::uint8_t* data = nullptr;
     KxIntSize sizePx;

@@ -17,13 +17,13 @@ struct KXSUBJECT_API KxSignalProfile {
     /// Adds `weight` times the other.
     void Add(const KxSignalProfile& other, double weight);
     float Sum() const;
-    /// The same sum, each bin's part of it raised to `power` (1 changes nothing): above 1 a peak gains and
-    /// what lies spread out loses.
+    /// The same sum, each bin's part of it raised to `power` (1 changes nothing): above 1, peaks gain and
+    /// evidence that is spread out loses.
     KxSignalProfile Concentrated(double power) const;
 };
 
 /// A profile kept for every sample of a long video, in a fraction of the bytes: four bins as one, each exact to 1/255
-/// of the largest. Unpacked it is a slope from group to group: without steps a crop can come to lie on any place.
+/// of the largest. Unpacking interpolates between the groups: steps would restrict the positions of a crop.
 class KXSUBJECT_API KxPackedProfile
 {
 public:

@@ -67,7 +67,7 @@ private:
     struct Shot {
         std::int64_t first;
         std::int64_t end;
-        /// Frames outside these are blended with the neighbouring shot and are no evidence.
+        /// Frames outside these are blended with the neighbouring shot and do not count as evidence.
         std::int64_t clearFirst;
         std::int64_t clearEnd;
     };
@@ -105,7 +105,7 @@ void KxSubjectAnalyzer::Impl::AddPicture(std::int64_t frame, const KxPictureView
         return;
     }
     m_lastFrame = frame;
-    // OpenCV has no header of constant data; nothing here writes to it.
+    // cv::Mat cannot refer to constant data; nothing here writes to it.
     const cv::Mat picture(m_workingSize, CV_8UC3, const_cast<std::uint8_t*>(view.data), view.bytesPerRow);
     try {
         m_shots.AddPicture(frame, picture);

@@ -29,7 +29,7 @@ public:
     /// The size of the pictures that AddPicture takes.
     KxIntSize WorkingSize() const;
 
-    /// Whether a picture at `frame` adds to the analysis; any other need not even be converted.
+    /// Whether a picture at `frame` adds to the analysis; any other picture need not be converted.
     bool Wants(std::int64_t frame) const;
 
     /// `picture` has WorkingSize(); `frame` grows from call to call. Pictures that break this, or that OpenCV cannot
@@ -39,7 +39,7 @@ public:
     /// The crop of every frame, `frameCount` of them; empty, soon, once cancelled. Call once, after the last picture.
     std::vector<KxCropRect> Finish(const KxCancelToken& cancel);
 
-    /// Intermediate results. Empty before Finish, and unless the request wants them.
+    /// Intermediate results. Empty before Finish, and unless the request asks for them.
     const KxSubjectFindings& Findings() const;
 
     /// Whether the neural face detector that was given cannot be run; the cascades are used instead.

@@ -11,7 +11,7 @@
 enum class KxSignal { Motion, Movers, Saliency, Faces };
 constexpr std::size_t KxSignalCount = 4;
 
-/// Intermediate results of an analysis, for a person who wants to see why a crop is where it is.
+/// Intermediate results of an analysis, which explain the position of each crop.
 struct KxSubjectFindings {
     struct Sample {
         std::int64_t frame = 0;

@@ -31,30 +31,31 @@ struct KxSubjectOptions {
         int neighbours = 10;       ///< 5 to 20 pictures on each side; trial
         /// 0.1 to 0.5: of two boundaries nearer than this the stronger stays: five frames of 30; shots
         double minimumShotSeconds = 0.165;
-        /// 0.5 to 0.9: a jump to a picture more alike in structure (a correlation) is one of light; shots
+        /// 0.5 to 0.9: a jump to a picture more similar in structure (a correlation) is a change of light; shots
         double lightSimilarity = 0.7;
-        double returnRatio = 0.5;       ///< 0.2 to 0.8 of a jump: a picture is back that differs by less; shots
-        double flashSimilarity = 0.2;   ///< 0 to 0.5: and that is so much alike in structure, after a flash; shots
+        double returnRatio = 0.5;     ///< 0.2 to 0.8 of a jump: a picture that differs by less has returned; shots
+        double flashSimilarity = 0.2; ///< 0 to 0.5: the similarity in structure that it also needs after a flash; shots
         double returnSimilarity = 0.35; ///< 0.1 to 0.6: the same after longer; shots
         double flashLight = 8.0;        ///< 4 to 20 of 255 above both sides: what may be a long flash; shots
 
         /// Dissolves, wipes and fades. Distances are parts of the distance of the two ends.
         struct Blends {
-            double plainContrast = 12.0;       ///< 5 to 20 of 255: a picture with a smaller deviation is plain; shots
-            double floor = 22.0;               ///< 10 to 40 of 255: ends nearer than this are one shot's; shots
-            double middleShare = 0.25;         ///< 0.1 to 0.5: the middle is at least so much of both ends; shots
-            double misfit = 0.47;              ///< 0.3 to 0.7, of the middle from the blend of the ends; shots
-            double similarity = 0.5;           ///< 0.3 to 0.8: ends more alike in structure are one shot's; shots
-            double contrastExcess = 0.15;      ///< 0.05 to 0.4 of the ends' variance, over the blend's; shots
-            double outside = 0.25;             ///< 0.1 to 0.4 of the points, outside what is between the ends'; shots
-            double back = 0.3;                 ///< 0.1 to 0.5 of the way, gone back in all; shots
-            double step = 0.5;                 ///< 0.3 to 0.7 of the way, gone at once: more is a cut; shots
-            double fadeMisfit = 0.25;          ///< 0.1 to 0.4, the mean of half a fade's pictures; shots
-            double fadeStep = 0.8;             ///< 0.5 to 0.9: `step` for half a fade, of two pictures maybe; shots
-            double jitterWeight = 0.15;        ///< 0 to 0.5, of the movement (jitter) before and after; shots
-            double minimumConfidence = 0.47;   ///< 0.3 to 0.6; confidence is 1 less misfit and weighted jitter; shots
-            double movedSimilarity = 0.85;     ///< 0.7 to 0.95: halves that are each a movement so well are one; shots
-            double returnRatio = 0.5;          ///< 0.2 to 0.8: a picture is back that is nearer than this; shots
+            double plainContrast = 12.0;     ///< 5 to 20 of 255: a picture with a smaller deviation is plain; shots
+            double floor = 22.0;             ///< 10 to 40 of 255: ends nearer than this belong to one shot; shots
+            double middleShare = 0.25;       ///< 0.1 to 0.5: the middle is at least so much of both ends; shots
+            double misfit = 0.47;            ///< 0.3 to 0.7, of the middle from the blend of the ends; shots
+            double similarity = 0.5;         ///< 0.3 to 0.8: ends more similar in structure belong to one shot; shots
+            double contrastExcess = 0.15;    ///< 0.05 to 0.4 of the ends' variance, over the blend's; shots
+            double outside = 0.25;           ///< 0.1 to 0.4 of the points, outside what is between the ends'; shots
+            double back = 0.3;               ///< 0.1 to 0.5 of the way, in reverse, in total; shots
+            double step = 0.5;               ///< 0.3 to 0.7 of the way, in one step: more is a cut; shots
+            double fadeMisfit = 0.25;        ///< 0.1 to 0.4, the mean of half a fade's pictures; shots
+            double fadeStep = 0.8;           ///< 0.5 to 0.9: `step` for half a fade, which may have two pictures; shots
+            double jitterWeight = 0.15;      ///< 0 to 0.5, of the movement (jitter) before and after; shots
+            double minimumConfidence = 0.47; ///< 0.3 to 0.6; confidence is 1 less misfit and weighted jitter; shots
+            double movedSimilarity =
+                0.85;                 ///< 0.7 to 0.95: halves that each fit a movement so well are one movement; shots
+            double returnRatio = 0.5; ///< 0.2 to 0.8: a picture nearer than this has returned; shots
             std::size_t leastPictures = 4;     ///< 3 to 8, from end to end; shots
             std::size_t wipeLeastPictures = 8; ///< 4 to 15: the same for a wipe; shots
             double wipeFloor = 45.0;           ///< 20 to 80: `floor` for a wipe; shots
@@ -69,7 +70,7 @@ struct KxSubjectOptions {
         double brightShare = 0.02;  ///< 0 to 0.05 of a row or column may be brighter in a bar; trial (98th percentile)
         double minimumShare = 0.03; ///< 0.01 to 0.1 of the side; trial
         double maximumShare = 0.4;  ///< 0.2 to 0.45 of the side: more is a dark picture rather than a bar; chosen
-        /// 0 to 0.05 of the side: opposite bars differ by no more (a dark floor or sky has no twin); chosen
+        /// 0 to 0.05 of the side: opposite bars differ by no more (a dark floor or sky has no counterpart); chosen
         double asymmetryShare = 0.02;
         int insetPx = 1; ///< 0 to 2: the row at a bar's edge is half bar, half picture; chosen
     } bars;
@@ -82,7 +83,7 @@ struct KxSubjectOptions {
         double cornerQuality = 0.0005;  ///< 0 to 0.01 of the best corner; low for plain backgrounds; clips
         int cornerDistancePx = 3;       ///< 2 to 6 each way in which a corner is the strongest; clips
         double inlierPx = 1.0;          ///< 0.5 to 2.5; clips
-        int leastFollowed = 12;         ///< 6 to 30 corners; with fewer the camera is taken to stand; chosen
+        int leastFollowed = 12;         ///< 6 to 30 corners; with fewer the camera counts as static; chosen
         double agreeingShare = 0.08;    ///< 0.05 to 0.13 of the corners; clips: across cuts less, in a shot more
     } camera;
 
@@ -98,25 +99,25 @@ struct KxSubjectOptions {
     /// Lengths in pixels are of the map halved.
     struct Movers {
         double threshold = 0.2;  ///< 0.1 to 0.4 of the motion map: a peak below is noise; clips
-        int levels = 4;          ///< 1 to 6 heights at which movers are cut out, each followed by itself; clips
-        double levelRatio = 1.2; ///< 1.1 to 1.4, from one height to the next; clips
-        /// 0.25 to 0.5 of the peak, the middle height: what lies above it around the peak is one mover; spread
+        int levels = 4;          ///< 1 to 6 levels of segmentation, each tracked separately; clips
+        double levelRatio = 1.2; ///< 1.1 to 1.4, from one level to the next; clips
+        /// 0.25 to 0.5 of the peak, the middle level: the area above it around the peak is one mover; spread
         double extentShare = 0.345;
         int peakDistancePx = 4; ///< 2 to 8 each way in which a peak is the highest; clips
-        int mostAtOnce = 10;    ///< 5 to 20 at a height; bounds the cost of a crowd; chosen
-        /// 0.4 to 1.2 of the width: how far from where it is expected a mover is looked for; spread
+        int mostAtOnce = 10;    ///< 5 to 20 per level; bounds the cost of a crowd; chosen
+        /// 0.4 to 1.2 of the width: a mover is searched for within this distance of its predicted position; spread
         double reachPerSecond = 0.76;
         double reachBySize = 0.35;     ///< 0 to 0.6 of the root of its area, on top; clips
         double mostGrowth = 1.5;       ///< 0.7 to 2, logarithm of the areas' ratio; clips
         double growthCost = 0.3;       ///< 0 to 1 of that logarithm, against a distance of one reach; clips
-        double ageGain = 0.02;         ///< 0 to 0.05 a sample seen: an old track is preferred to a young one; clips
+        double ageGain = 0.02;         ///< 0 to 0.05 per sample seen: an older track is preferred; clips
         double velocityGain = 0.4;     ///< 0.2 to 0.8 of what is new; clips
         double areaGain = 0.4;         ///< 0.2 to 0.8 of what is new; clips
         int mostMisses = 3;            ///< 1 to 6 samples in a row; clips
         int leastHits = 4;             ///< 3 to 8 samples seen, of a mover that counts at all; clips
         double secondsAtZero = 0.3;    ///< 0 to 1 of being seen, that give no confidence yet; clips
         double secondsToFull = 1.5;    ///< 0.5 to 3 beyond, for full confidence; spread
-        double fullTravel = 0.15;      ///< 0.1 to 0.3 of the width, before the background, for the same; spread
+        double fullTravel = 0.15;      ///< 0.1 to 0.3 of the width, relative to the background, for the same; spread
         double leastConfidence = 0.05; ///< 0 to 0.2: below, a mover is forgotten; chosen
         double areaPower = 0.5;        ///< 0.4 to 0.6: a mover weighs as its box's side, not as its area; clips
         double emptyFloor = 0.1; ///< 0.05 to 0.2, the sum of weights that gives half of the possible evidence; spread
@@ -146,8 +147,9 @@ struct KxSubjectOptions {
         int minimumPx = 24;        ///< 20 to 40, smallest face looked for; chosen
         double modelThreshold = 0.7; ///< 0.5 to 0.9, the neural detector's own score; chosen
         int followedAtOnce = 6;      ///< 3 to 12 faces; bounds the cost of a crowd; chosen
-        double sameShare = 0.6; ///< 0.4 to 0.8 of the size: boxes nearer than this, and alike by it, are one; chosen
-        int missesToDrop = 3;   ///< 2 to 6 looks in a row; clips
+        double sameShare =
+            0.6; ///< 0.4 to 0.8 of the size: boxes within this distance and difference of size are one; chosen
+        int missesToDrop = 3;          ///< 2 to 6 looks in a row; clips
         double windowSeconds = 2.0;    ///< 1.5 to 3 each way: looks that count; clips: below, a face flickers
         int agreeing = 2;              ///< 1 to 3 other looks in the window that must see the face; trial
         double zeroWeightShare = 0.05; ///< 0 to 0.1 of the shorter side; trial
@@ -165,9 +167,9 @@ struct KxSubjectOptions {
         double concentration = 1.6;         ///< 1 to 2, power on the combined evidence; spread
         double windowFlatAcross = 0.55;     ///< 0.3 to 0.7 of the scoring window; the rest is a squared cosine; spread
         double windowFlatUpDown =
-            0.9; ///< 0.5 to 1: a tall subject shall fit in, not have its head in the middle; spread
+            0.9; ///< 0.5 to 1: a tall subject should fit in, not have its head in the middle; spread
         double centrePriorAcross = 0.11; ///< 0.08 to 0.15 for a crop that moves sideways; spread
-        double centrePriorUpDown = 4.0;  ///< 1 to 6 for one that moves up and down, where evidence misleads; spread
+        double centrePriorUpDown = 4.0;  ///< 1 to 6 for a crop that moves up and down, where evidence misleads; spread
     } evidence;
 
     struct Path {
@@ -180,22 +182,22 @@ struct KxSubjectOptions {
         /// 0 to 5 on what exceeds the top speed, which no rule forbids: the subject may need it; chosen
         double overspeedWeight = 1.0;
         double boundsWeight = 200.0; ///< 50 to 1000 on leaving the places a crop can take; 1000 does the same
-        /// 10 to 120: after a longer pause in the pictures the path starts anew, as at a cut; chosen: bounds the work
+        /// 10 to 120: after a longer pause in the pictures a new path starts, as at a cut; chosen: bounds the work
         double longestHoldSeconds = 30.0;
         int iterations = 60; ///< 40 to 100; clips: 1600 draw random walks up to 0.04 widths elsewhere, these alike
-        /// 0.001 to 0.01 widths a second below which the smoothed path is made to stand exactly; chosen
+        /// 0.001 to 0.01 widths a second below which the smoothed path is made exactly static; chosen
         double stillSpeed = 0.004;
         double stillTrim = 0.05; ///< 0 to 0.1 of the samples at each end of the range, that do not count; chosen
     } path;
 
     /// The path's reaction at one motion speed. Widths are the picture's unless the crop's is named. Origin: trial. The
-    /// range for standing still is in crop widths: half of it cannot let the subject leave the crop. The hold of Fast
-    /// is longer than people's 0.4 s: with those the choice changes more often and keeps less of the subject.
+    /// range of a static crop is in crop widths: half of it cannot let the subject leave the crop. The hold of Fast is
+    /// longer than a person's 0.4 s: with 0.4 s the choice changes more often and keeps less of the subject.
     struct Reaction {
-        double stillRange;       ///< 0.05 to 0.3 crop widths: the crop stands still while the subject's range is less
+        double stillRange;       ///< 0.05 to 0.3 crop widths: the crop is static while the subject's range is less
         double deadZone;         ///< 0.03 to 0.3 crop widths
         double topSpeed;         ///< 0.05 to 0.6 widths a second
-        double smoothingSeconds; ///< 0.2 to 3; 1 stands for the weights of Path
+        double smoothingSeconds; ///< 0.2 to 3; 1 means the weights of Path
         double holdSeconds;      ///< 0.3 to 2 before the subject changes
     };
     Reaction slow{0.25, 0.20, 0.08, 2.0, 1.5};

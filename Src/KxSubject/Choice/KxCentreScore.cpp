@@ -7,7 +7,7 @@ namespace
 {
 
 constexpr double Pi = 3.1415926535897932384626433832795;
-constexpr double LeastSpacing = 1e-6; ///< of the picture; where positions lie nearer they are one place
+constexpr double LeastSpacing = 1e-6; ///< of the picture; positions nearer than this are one position
 
 } // namespace
 

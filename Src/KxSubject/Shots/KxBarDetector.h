@@ -23,6 +23,6 @@ public:
 
 private:
     KxSubjectOptions::Bars m_options;
-    std::vector<int> m_litInRow;    ///< the most lit pixels seen, for each row
-    std::vector<int> m_litInColumn; ///< the same for each column
+    std::vector<int> m_litInRow;    ///< the largest number of lit pixels seen in each row
+    std::vector<int> m_litInColumn; ///< the same for columns
 };

@@ -103,7 +103,7 @@ std::vector<KxShotBoundary> KxShotBlends::FadesOf(const Parts& parts) const
 std::vector<KxShotBoundary> KxShotBlends::Found() const
 {
     Parts parts = m_parts;
-    // What AddPicture() still waits to see the end of.
+    // The transitions whose end AddPicture() has not seen yet.
     for (const std::size_t span : Spans) {
         const std::size_t waiting = std::min(KxShotWindow::Reach(span), m_pictures.size());
         for (std::size_t end = std::max(span, m_pictures.size() - waiting); end < m_pictures.size(); ++end) {

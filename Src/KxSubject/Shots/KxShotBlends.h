@@ -15,11 +15,10 @@
 /// earlier ones, 2 to 128 pictures back:
 /// 1. Dissolve: the two differ in structure; every intermediate frame is a blend of them, point by point and in
 ///    contrast, and the blend progresses steadily. Before and after it, the pictures change less.
-/// 2. Wipe: the two differ more; every point of an intermediate frame lies between theirs, not all in the same ratio.
-/// 3. Fade: one shot turns into plain pictures (black, white) like this, and another one emerges from them. If a cut
-/// leads
-///    into or out of the plain pictures, there is no fade: the boundary is that cut.
-/// These are no boundaries:
+/// 2. Wipe: the two differ more; every point of an intermediate frame is between theirs, in different ratios.
+/// 3. Fade: one shot turns into plain pictures (black, white) in this way, and another one emerges from them. If a
+///    cut leads into or out of the plain pictures, there is no fade: the boundary is that cut.
+/// The following are not boundaries:
 /// 4. a pan, a zoom, a shake: the intermediate frames have a structure of their own, and contrast;
 /// 5. a change of light, or black and back again: the two are similar in structure;
 /// 6. a subject that passes close in front of the camera: the earlier picture soon comes back;

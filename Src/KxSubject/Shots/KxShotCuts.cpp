@@ -43,7 +43,7 @@ bool IsJump(const std::vector<KxPictureChange>& changes, std::size_t at, const K
            change.colour > options.colourRatio * UsualAround(changes, at, &KxPictureChange::colour, options);
 }
 
-/// Whether the return from or to the jump `at` is no jump itself: an insert has two.
+/// Whether the return from or to the jump `at` is not itself a jump; an insert has two jumps.
 bool EndsWithoutJump(const std::vector<std::size_t>& jumps, const KxPictureChange& change, std::size_t at)
 {
     const auto between = [&jumps](std::size_t first, std::size_t last) {

@@ -14,8 +14,8 @@ struct KxPictureChange {
     float grey = 0.0F;           ///< mean difference to the picture before, of 255
     float colour = 0.0F;         ///< part of the colour histogram that moved since the picture before, 0 to 1
     std::uint8_t similarity = 0; ///< in structure to the picture before, independent of light: 0 to 255
-    std::uint8_t backAfter = 0;  ///< after so many pictures the picture before this one came back; 0: not soon
-    std::uint8_t backBefore = 0; ///< so many pictures before the previous one this one was shown already; 0: never
+    std::uint8_t backAfter = 0;  ///< the picture before this one returns after so many pictures; 0: not soon
+    std::uint8_t backBefore = 0; ///< this one was already shown so many pictures before the previous one; 0: never
     bool flash = false;          ///< the pictures between this one and its return are a flash
 };
 static_assert(sizeof(KxPictureChange) == 16);

@@ -44,7 +44,7 @@ KxShotDetector::Histogram KxShotDetector::ColoursOf(const cv::Mat& small)
 
 void KxShotDetector::Reserve(std::int64_t pictures)
 {
-    // A header may claim anything: more than four hours grow as they come.
+    // A header may claim any length: beyond four hours, memory grows with the pictures.
     constexpr std::int64_t mostPictures = 500000;
     m_changes.reserve(static_cast<std::size_t>(std::clamp<std::int64_t>(pictures, 0, mostPictures)));
 }
@@ -95,7 +95,7 @@ double KxShotDetector::DifferenceTo(const Picture& earlier) const
 
 double KxShotDetector::SimilarityTo(const Picture& earlier) const
 {
-    // Keeps the noise of two plain pictures from being alike.
+    // Prevents the noise of two plain pictures from counting as similar.
     constexpr double noise = 4.0;
     const Picture& newest = m_pictures.back();
     const double covariance =

@@ -17,10 +17,10 @@
 /// 1. the largest of its neighbours,
 /// 2. above a floor,
 /// 3. well above what is usual around it (itself left out),
-/// and which is not
-/// 4. the start or the end of a flash: the earlier picture is back within 4 pictures, or within 7 brighter ones,
+/// and that is not
+/// 4. the start or the end of a flash: the earlier picture returns within 4 pictures, or within 7 brighter ones,
 /// 5. a change of light: the structure stays the same,
-/// 6. an explosion or something that passes: the earlier picture is back within 24 pictures, and not by a jump,
+/// 6. an explosion or a passing object: the earlier picture returns within 24 pictures, and not by a jump,
 /// 7. inside a dissolve or a fade (KxShotBlends), unless it is a cut among many pictures: then there is no dissolve, or
 /// 8. closer than the shortest shot to a dissolve, a fade, a stronger cut or the first picture.
 /// A cut is at its exact frame if that was among the pictures, otherwise at the first picture of the new shot.

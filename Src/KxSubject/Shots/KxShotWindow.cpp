@@ -13,7 +13,7 @@ constexpr std::size_t LeastReach = 24;
 
 cv::Mat MatOf(const KxShotPicture& picture)
 {
-    // OpenCV has no header of constant data; nobody writes to it.
+    // cv::Mat cannot refer to constant data; nothing writes to it.
     return {KxShotPicture::HeightPx, KxShotPicture::WidthPx, CV_8UC1, const_cast<std::uint8_t*>(picture.grey.data())};
 }
 
@@ -40,7 +40,7 @@ int SquaredDistanceOutside(const KxShotPicture& begin, const KxShotPicture& pict
     return sum;
 }
 
-/// -1 to 1: how well the middle of `other` is to be found in `picture`, moved or zoomed.
+/// -1 to 1: how well the middle of `other` matches a part of `picture`, moved or zoomed.
 double SimilarityMoved(const KxShotPicture& picture, const KxShotPicture& other)
 {
     const cv::Mat scene = MatOf(picture);
@@ -58,7 +58,7 @@ double SimilarityMoved(const KxShotPicture& picture, const KxShotPicture& other)
     return best;
 }
 
-/// How many pictures on each side tell whether an end stands still.
+/// The number of pictures on each side that decide whether an end is static.
 std::size_t RestReach(std::size_t pictures)
 {
     return std::max<std::size_t>(2, pictures / 2);
@@ -69,9 +69,9 @@ std::size_t RestReach(std::size_t pictures)
 struct KxShotWindow::Fit {
     std::vector<double> shares; ///< of every picture, 0 like the first to 1 like the last
     double misfit = 0.0;        ///< mean distance from the blend, in distances of the ends
-    double outside = 0.0;       ///< mean distance from what lies between the ends' points, likewise
-    double back = 0.0;          ///< what the share loses on its way
-    double step = 0.0;          ///< the most that it gains at once
+    double outside = 0.0;       ///< mean distance from the range between the ends' points, likewise
+    double back = 0.0;          ///< total decrease of the share
+    double step = 0.0;          ///< largest increase of the share in one step
 };
 
 std::size_t KxShotWindow::Reach(std::size_t pictures)
@@ -168,7 +168,7 @@ double KxShotWindow::Jitter() const
 {
     const std::size_t reach = RestReach(m_endIndex - m_beginIndex);
     const auto moved = [this, reach](const KxShotPicture& end, std::size_t other, std::size_t apart) {
-        // Too few pictures to tell count for some movement.
+        // With too few pictures for a decision, some movement is assumed.
         constexpr double unknown = 0.5;
         const double part = std::sqrt(SquaredDistance(end, m_pictures[other]) / m_distance);
         return apart * 2 < reach ? std::max(part, unknown) : part;
@@ -226,7 +226,7 @@ std::optional<KxShotWindow::Passage> KxShotWindow::Find() const
         (sort != Sort::Fade && (confidence < m_options.minimumConfidence || ComesBack() || IsMovement()))) {
         return {};
     }
-    // The quarters are surer than the ends, where what moves drowns what passes.
+    // The quarters are more reliable than the ends, where movement hides passing objects.
     const double quarter = CrossingOf(fit.shares, 0.25);
     const double threeQuarters = CrossingOf(fit.shares, 0.75);
     const double middle = (quarter + threeQuarters) / 2.0;

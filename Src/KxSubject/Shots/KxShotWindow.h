@@ -26,7 +26,7 @@ struct KxShotPicture {
 class KxShotWindow
 {
 public:
-    /// How many pictures before and after a run are examined, as far as there are so many.
+    /// The maximum number of pictures before and after a run that are examined.
     static std::size_t Reach(std::size_t pictures);
 
     KxShotWindow(const std::deque<KxShotPicture>& pictures, std::size_t begin, std::size_t end,

@@ -12,7 +12,8 @@
 class KXSUBJECT_API KxFaceDetector
 {
 public:
-    /// Throws what OpenCV throws if `onnx` is no such network: some load and then fail with their first picture.
+    /// Throws what OpenCV throws if `onnx` is a different network: some of those load and then fail with their first
+    /// picture.
     KxFaceDetector(const std::string& onnx, cv::Size picturePx, double scoreThreshold);
 
     /// `picture` is CV_8UC3 (BGR) of the size given at the start. Boxes may reach over the picture's edges; the highest

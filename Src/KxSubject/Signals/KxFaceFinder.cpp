@@ -13,7 +13,7 @@ namespace
 
 constexpr double GroupingShare = 0.2; ///< of the size, that raw hits of one face differ by; OpenCV's own value
 
-/// An empty classifier where `xml` is no cascade.
+/// An empty classifier if `xml` is not a cascade.
 cv::CascadeClassifier CascadeOf(const std::string& xml)
 {
     cv::CascadeClassifier cascade;
@@ -167,7 +167,7 @@ std::vector<cv::Rect> KxFaceFinder::FindByCascade(const cv::Mat& grey, KxFaceVie
     (view == KxFaceView::Frontal ? m_frontal : m_profile)
         .detectMultiScale(looked, faces, search.scaleFactor, 0, 0, cv::Size(search.smallestPx, search.smallestPx),
                           cv::Size(search.largestPx, search.largestPx));
-    // OpenCV's threads deliver the raw hits in any order, and the order decides between equals later on.
+    // OpenCV's threads deliver the raw hits in any order, and later the order decides between equal ones.
     std::sort(faces.begin(), faces.end(), [](const cv::Rect& a, const cv::Rect& b) {
         return std::tie(a.width, a.y, a.x) < std::tie(b.width, b.y, b.x);
     });

@@ -8,7 +8,7 @@
 namespace
 {
 
-constexpr double Early = 1e-3; ///< seconds: a sample on the very time of a look is due
+constexpr double Early = 1e-3; ///< seconds: a sample at exactly the time of a look is due
 
 } // namespace
 

@@ -11,8 +11,8 @@
 #include <vector>
 
 /// The faces of a video over time. The whole picture is searched rarely; a face once found is searched for in its
-/// place, which is cheap. A face that persists is taken for a true one. Where no new face has been found for a while
-/// and the scene stays the same, the whole picture is searched more rarely still.
+/// place, which is cheap. Only a face that persists counts. While no new face is found and the scene stays the same,
+/// the whole picture is searched even more rarely.
 class KXSUBJECT_API KxFaceTracks
 {
 public:

@@ -15,7 +15,7 @@ struct KxNeighbourPicture {
     cv::Matx33d movement;
 };
 
-/// What moves by itself in a picture, with the camera's own movement removed. A mover differs from the picture before
+/// The objects that move in a picture, with the camera's own movement removed. A mover differs from the picture before
 /// and from the one after; the background that it covers or uncovers differs from only one of them, so it does not
 /// count. Keeps no picture.
 class KXSUBJECT_API KxMotionMap

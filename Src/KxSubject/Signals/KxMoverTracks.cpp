@@ -60,7 +60,7 @@ std::vector<KxMoverTracks::Blob> KxMoverTracks::BlobsAt(int level, const cv::Mat
 {
     const double fromMiddle = level - (m_options.levels - 1) / 2.0;
     const double share = m_options.extentShare * std::pow(m_options.levelRatio, fromMiddle);
-    // floodFill wants a rim of one pixel around the mask.
+    // floodFill needs a border of one pixel around the mask.
     cv::Mat taken(map.rows + 2, map.cols + 2, CV_8UC1, cv::Scalar(0));
     std::vector<Blob> blobs;
     for (const Peak& peak : peaks) {

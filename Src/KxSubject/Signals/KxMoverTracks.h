@@ -16,7 +16,7 @@
 
 /// Associates movers from sample to sample: segments of the motion maps are tracked, with positions predicted from the
 /// camera's movement and their own. A track that lasts and travels relative to its background is a subject, however
-/// small; noise, leaves and parallax do neither, however large. Segmentation depends on the threshold, so each map is
+/// small; noise, leaves and parallax do not, however large. Segmentation depends on the threshold, so each map is
 /// segmented at several levels; every level tracks its own segments and has an equal weight in the evidence.
 class KXSUBJECT_API KxMoverTracks
 {

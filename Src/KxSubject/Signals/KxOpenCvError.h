@@ -4,7 +4,7 @@
 
 #include <new>
 
-/// For handlers that treat an error of OpenCV as a picture or model that it cannot work on: lack of memory is none.
+/// For handlers that treat an error of OpenCV as a picture or model that it cannot process. Lack of memory is excluded.
 inline void KxThrowIfOutOfMemory(const cv::Exception& problem)
 {
     if (problem.code == cv::Error::StsNoMem) {

@@ -36,7 +36,7 @@ KxSignalRecorder::KxSignalRecorder(const KxSubjectOptions& options, cv::Size pic
 
 void KxSignalRecorder::Reserve(std::int64_t frameCount)
 {
-    // A header may claim anything: more than four hours grow as they come.
+    // A header may claim any length: beyond four hours, memory grows with the pictures.
     constexpr double mostSamples = 160000.0;
     const double samples = SecondsAt(frameCount) * m_options.sampling.samplesPerSecond + 1.0;
     m_samples.reserve(static_cast<std::size_t>(std::min(samples, mostSamples)));

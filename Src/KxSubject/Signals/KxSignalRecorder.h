@@ -28,8 +28,8 @@ public:
     KxSignalRecorder(const KxSubjectOptions& options, cv::Size picturePx, double frameRate,
                      const KxFaceModels& faceModels);
 
-    /// Reserves memory for the samples of so many frames: one block, allocated early, does not fragment the memory of
-    /// pictures that come and go.
+    /// Reserves memory for the samples of so many frames: one block, allocated early, does not fragment the memory in
+    /// which pictures are allocated and freed.
     void Reserve(std::int64_t frameCount);
 
     /// `picture` is CV_8UC3 (BGR) of the size given at the start; `frame` grows from call to call.
