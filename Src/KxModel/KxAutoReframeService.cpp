@@ -78,7 +78,7 @@ bool KxAutoReframeService::Start(const QString& path, const IKxAutoReframeParam&
 
     const std::lock_guard<std::mutex> lock(m_mutex);
     if (task->cancel.IsCancelled()) {
-        // A stop or a newer start came during the opening. It is the same as if it had come right after this call.
+        // A stop or a newer start during the opening has the same effect as one right after this call.
         return true;
     }
     m_resultPath.clear();
@@ -110,7 +110,7 @@ void KxAutoReframeService::RunTask(Task& task)
             Report(task, std::move(result));
         });
     }
-    // The file is closed before anybody learns that the task has ended.
+    // The file is closed before the end of the task is reported.
     task.analysis.reset();
     const std::lock_guard<std::mutex> lock(m_mutex);
     m_taskThread = {};

@@ -23,8 +23,8 @@ public:
     /// The service that getAutoReframeService() returns.
     static KxAutoReframeService& Instance();
 
-    /// For a program of this product, at its start: sets what an analysis would like the whole process to have, and a
-    /// host that loads this library must decide by itself (KxOpenCvProcess).
+    /// For a program of this product, at its start: makes the process-wide settings that suit an analysis. A host that
+    /// loads this library decides on them itself (KxOpenCvProcess).
     static void PrepareProgram();
 
     /// Opens one analysis; KxVideoAnalysis::Open in the product.
@@ -59,7 +59,7 @@ public:
     QStringList LastWarnings() const;
 
 private:
-    /// One start and what came of it.
+    /// One start and its outcome.
     struct Task {
         qint64 number = 0;
         QString path;

@@ -5,8 +5,8 @@
 #include <mutex>
 
 /// The crop/pan/zoom keyframes of one clip: the list as it was set, and linear interpolation between its entries by
-/// binary search. Setting a list costs the same whatever its length: the storage is shared with the caller, and the
-/// previous list is released, so that a caller with two lists can update one of them in place. Any thread.
+/// binary search. The cost of setting a list does not depend on its length: the storage is shared with the caller, and
+/// the previous list is released, so that a caller with two lists can update one of them in place. Any thread.
 class KXMODEL_API KxCropKeyFrames final : public IKxCropPanZoomKeyFrameHelper
 {
 public:

@@ -58,7 +58,7 @@ QStringList KxFaceModelFiles::CascadeFolders()
 #if defined(KX_CASCADE_FOLDER)
     folders += QStringLiteral(KX_CASCADE_FOLDER);
 #endif
-    // Without an application object nobody knows where the program lies.
+    // Without an application object the program's folder is unknown.
     if (QCoreApplication::instance() != nullptr) {
         const QString share = QCoreApplication::applicationDirPath() + QStringLiteral("/../share/");
         for (const char* folder : {"opencv4/haarcascades", "opencv4/lbpcascades", "haarcascades"}) {

@@ -4,7 +4,7 @@
 #include <KxModel/IKxMediaInfo.h>
 #include <KxModel/IKxTimeline.h>
 
-// The records and the virtual tables of the interfaces live here, once for the process.
+// The records and the virtual tables of the interfaces are defined here, once for the process.
 
 IKxAutoReframeParam::IKxAutoReframeParam(int mode, const QSize& targetSize)
     : m_mode(mode)

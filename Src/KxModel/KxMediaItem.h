@@ -4,7 +4,7 @@
 
 #include <KxModel/KxClip.h>
 
-/// A media file of the host's library. Threads as the interface says.
+/// A media file of the host's library. The interface documents its threads.
 class KXMODEL_API KxMediaItem final : public IKxAbstractMediaItem
 {
 public:

@@ -10,8 +10,8 @@ public:
     explicit KxSimpleTimeline(std::unique_ptr<KxClip> clip);
     ~KxSimpleTimeline() override;
 
-    /// Frees what `createSimpleTimeline` made and nobody released. For host programs, once nothing shows or edits such
-    /// a timeline any more: after a dialog that was handed media has been destroyed.
+    /// Frees the timelines of `createSimpleTimeline` that were not released. For host programs, once nothing shows or
+    /// edits them any more, for example after the dialog has been destroyed.
     static void ReleaseAll();
 
     std::unique_ptr<KxSimpleTimeline> Copy(KxClip::KeyFrames keyFrames) const;

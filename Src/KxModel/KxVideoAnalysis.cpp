@@ -152,7 +152,7 @@ KxAnalysis::Result KxVideoAnalysis::Run(const std::function<void(int percent)>& 
     faces.models = {};
     const KxError problem = Job(*m_scanner, analyzer, m_cancel).Run(onProgress);
     const bool endedEarly = m_scanner->EndedEarly();
-    // The decoder's buffers are the largest thing in memory: they go before the results of every frame are made.
+    // The decoder's buffers take the most memory: they are freed before the results of every frame are made.
     m_scanner.reset();
     KxMemory::ReturnUnused();
     const QString name = QFileInfo(facts.path).fileName();

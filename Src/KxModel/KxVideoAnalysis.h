@@ -23,7 +23,7 @@ public:
         KxOutcome outcome = KxOutcome::Failed;
         QList<IKxAutoReframeResult> crops;                 ///< one a frame; empty unless Done
         QString message;                                   ///< the error message of a failure
-        QStringList warnings;                              ///< what a person should know although it is Done
+        QStringList warnings;                              ///< a warning for the person, although it is Done
         std::shared_ptr<const KxSubjectFindings> findings; ///< null unless Done and wanted
     };
 
