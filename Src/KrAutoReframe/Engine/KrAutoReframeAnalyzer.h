@@ -50,13 +50,13 @@ public:
     /// Frame 0 first. To be read only after `sigAnalyzeFinished` has been delivered.
     const QList<IKxAutoReframeResult>& GetResults() const;
 
-    /// Service's thread. Every event, of whatever state, is reported as progress.
+    /// Service's thread. Every event is reported as progress, regardless of its state.
     void OnAutoReframeEvent(qint64 key, int state, int percent) override;
 
 Q_SIGNALS:
     /// 1 is done; not limited to 1.
     void sigAnalyzeProgress(double progress);
-    /// True when results were fetched; their list may still be empty.
+    /// True if results were fetched; the list may still be empty.
     void sigAnalyzeFinished(bool success);
     /// Instead of `sigAnalyzeFinished`, when the work was stopped before.
     void sigAnalyzeCanceled();
@@ -64,7 +64,7 @@ Q_SIGNALS:
 public Q_SLOTS:
     /// Stops the running task and marks the work as cancelled. Only a completion consumes the mark: made while nothing
     /// runs, it makes the next analysis that completes report its cancellation, because a completion that was already
-    /// on its way when the stop came cannot be told from a later one.
+    /// under way at the stop cannot be distinguished from a later one.
     void StopWork();
     /// Ends the work: drops the old results, then either consumes the cancel mark or fetches the new results.
     void ProcessResult();

@@ -45,8 +45,8 @@ public:
     KrAutoReframeHelper();
     ~KrAutoReframeHelper() override;
 
-    /// Prepares for a new source, which stays the host's. Edits and results of the previous one are dropped; a task
-    /// whose end was not delivered yet is stopped and reports no end. Null changes nothing.
+    /// Prepares for a new source, which the host keeps owning. Edits and results of the previous one are dropped; a
+    /// task whose end was not delivered yet is stopped and reports no end. Null changes nothing.
     void SetTimeline(IKxTimeline* timeline);
     IKxTimeline* GetSourceTimeline() const;
     /// The working copy that carries the keyframes; null until a source with a clip was set. Owned by the helper and
@@ -56,8 +56,7 @@ public:
     int GetDuration() const;
 
     /// Replaces the working copy alone by a copy of `timeline`; edits, results and the undo stack stay. True when the
-    /// copy has a clip. A copy without clips is left to the host as it is: nothing of it was taken over that would be
-    /// ours to give back.
+    /// copy has a clip. A copy without clips is not released: it stays the host's.
     bool ResetWorkTimeline(IKxTimeline* timeline);
 
     /// Starts the keyframe task on the first `GetDuration()` of `results`, frame 0 first. False when there are fewer;
@@ -81,9 +80,9 @@ public:
     /// Frames of the edit points, ascending.
     QList<uint> GetEditPointFrames() const;
     bool IsEditFrame(const uint& frame) const;
-    /// The first edit point after `frame`, else NoFrame.
+    /// The first edit point after `frame`, otherwise NoFrame.
     uint GetNextKeyFrame(const uint& frame) const;
-    /// The last edit point before `frame`, else NoFrame.
+    /// The last edit point before `frame`, otherwise NoFrame.
     uint GetPrevKeyFrame(const uint& frame) const;
 
     /// The rectangles that the analysis found, one a frame.
@@ -94,7 +93,7 @@ public:
 
     /// The edit of AddCropKeyFrameCommand: `rect` affects one second of frames on both sides of `frame`, merged with
     /// the segments that it meets. After a segment was merged, the one that follows it is skipped in this edit; undo
-    /// restores the segments whatever the result.
+    /// restores the segments in any case.
     FrameRange DoAddKeyFrame(const uint& frame, const QRectF& rect);
     /// The edit of RemoveCropKeyFrameCommand: removes the edit point from the first segment that has it.
     FrameRange DoRemoveKeyFrame(const uint& frame);
@@ -144,7 +143,7 @@ private:
     void FillFromResults(uint from, uint to);
     void ApplyEditRange(uint from, uint to, const KrEditSegment& segment);
     void RemoveKeyFramesIn(const KrEditSegment& segment);
-    /// Hands the keyframes to the host and shows those that have changed since the last time.
+    /// Passes the keyframes to the host and shows those that have changed since the last time.
     void FlushChanges();
     void RebuildDisplayResults();
     void UpdateDisplayResults(const KrFrameRange& changed);
@@ -154,7 +153,7 @@ private:
     void ShowSegment(const KrEditSegment& segment, const KrFrameRange& frames);
 
     QFutureWatcher<void>* m_watcher;
-    /// Guards m_canceled and the hand-over of results and keyframes between the worker and the user-interface thread.
+    /// Guards m_canceled and the transfer of results and keyframes between the worker and the user-interface thread.
     mutable QMutex m_mutex;
     bool m_canceled = false;
     /// A task was started and its end was not delivered yet.

@@ -16,7 +16,7 @@ constexpr int DefaultAudioBitRate = 192000;  ///< bits a second
 /// is odd, moved to the even neighbour on the side of the exact value.
 QSize EvenResolution(const QSize& source, const QRectF& cropRatio);
 
-/// Frames a second, at most 60. 24000/1001 gives exactly 23.97, as the editor's own project formats name that rate; 0
+/// Frames a second, at most 60. 24000/1001 gives exactly 23.97, the editor's own name for that rate; 0
 /// when the rate is unknown.
 double FrameRate(const KxRational& source);
 

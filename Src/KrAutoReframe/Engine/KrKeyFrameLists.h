@@ -21,9 +21,9 @@ struct KrFrameRange {
     }
 };
 
-/// The keyframes of a clip as the list that the host takes, kept up to date at the cost of what an edit changed. The
-/// host shares the storage of the last list, and writing to a shared list copies all of it. So there are two lists:
-/// each update writes to the one that the host has released.
+/// The keyframes of a clip as the list that the host takes, updated at a cost that depends only on what an edit
+/// changed. The host shares the storage of the last list, and writing to a shared list copies all of it. So there are
+/// two lists: each update writes to the one that the host has released.
 class KrKeyFrameLists
 {
 public:

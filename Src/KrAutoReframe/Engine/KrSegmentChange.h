@@ -4,8 +4,8 @@
 
 #include <QList>
 
-/// What one edit replaced in the list of segments. An undo stack of such changes stays small however many segments
-/// there are: what the edit left alone is not stored. A plain record; its operations are pure.
+/// The segments that one edit replaced in the list. Unchanged segments are not stored, so an undo stack of changes
+/// stays small even if there are many segments. A plain record; its operations are pure.
 struct KrSegmentChange {
     /// Index of the first replaced segment.
     int first = 0;

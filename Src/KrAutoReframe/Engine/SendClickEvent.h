@@ -2,5 +2,5 @@
 
 class QString;
 
-/// Tells the host's usage tracker, once, that the person did what `name` stands for.
+/// Reports the person's action `name` to the host's usage tracker, once.
 void SendClickEvent(const QString& name);
