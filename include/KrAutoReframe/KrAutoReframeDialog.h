@@ -53,8 +53,8 @@ public:
     void slotExportToLocal();
 
 Q_SIGNALS:
-    /// The user wants the result as a file. `timeline` carries the keyframes and stays the dialog's: it is valid
-    /// while the signal is delivered. `info` is a QVariantMap, the export record:
+    /// The user wants the result as a file. `timeline` carries the keyframes and is owned by the dialog: it is
+    /// valid while the signal is delivered. `info` is a QVariantMap, the export record:
     /// - where: "path" (folder, native separators), "name" (file name without suffix), "org_file_name" (as typed);
     /// - how: "resolution" (QSize, pixels), "frame_rate" (float, frames a second, 0 where unknown), "video_bit_rate",
     ///   "audio_bit_rate" (bits a second);

@@ -20,7 +20,7 @@ public:
     /// manager, where it would be opaque, and under Wayland, where it cannot be placed.
     bool canOverlayWindows() const;
 
-    /// From now on this is reported instead of what the platform supports; without a value the platform's answer again.
+    /// Replaces the platform's answer; no value restores it.
     /// For a host that composes its windows itself.
     void setCanOverlayWindows(std::optional<bool> can);
 

@@ -4,11 +4,11 @@
 
 #include <QSize>
 
-/// What is asked of one task of the auto-reframe service. A plain record, copied by the service when the task starts.
+/// The parameters of one task of the auto-reframe service. A plain record, copied by the service when the task starts.
 class KXMODEL_API IKxAutoReframeParam
 {
 public:
-    /// `mode` is the motion speed: 8 follows closely, 24 calmly, 16 lies between. `targetSize` is the wanted aspect
+    /// `mode` is the motion speed: 8 follows closely, 24 calmly, 16 is in between. `targetSize` is the wanted aspect
     /// ratio as whole numbers (9 x 16, or a size in pixels of that ratio).
     IKxAutoReframeParam(int mode, const QSize& targetSize);
     ~IKxAutoReframeParam();

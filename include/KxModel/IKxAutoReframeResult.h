@@ -4,7 +4,7 @@
 
 #include <QRectF>
 
-/// Where the crop of one frame lies. The lists of them are indexed by frame number.
+/// The crop of one frame. Lists of results are indexed by frame number.
 class KXMODEL_API IKxAutoReframeResult
 {
 public:

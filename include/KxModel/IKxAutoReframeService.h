@@ -6,7 +6,7 @@
 #include <QList>
 #include <QString>
 
-/// Whoever wants to hear how a task of the auto-reframe service goes on.
+/// Receives the events of the tasks of the auto-reframe service.
 class KXMODEL_API IKxAutoReframeEventObserver
 {
 public:
@@ -22,18 +22,18 @@ protected:
 
 /// The host's video analysis: finds the subject of one media file frame by frame.
 ///
-/// Life cycle: a client registers an observer, starts a task, hears its events, and fetches the results after the last
-/// event. At most one task runs at a time: starting one stops the one before. The operations may be called from any
-/// thread; events come on a thread of the service. The service lives as long as the process and is freed by nobody.
+/// Life cycle: a client registers an observer, starts a task, receives its events, and fetches the results after the
+/// last event. At most one task runs at a time: starting one stops the previous one. The operations may be called from
+/// any thread; events come on a thread of the service. The service lives as long as the process and is never freed.
 class KXMODEL_API IKxAutoReframeService
 {
 public:
-    /// Starts to analyse the file `path`. False when the file is no readable video; nothing runs then. No observer is
+    /// Starts to analyse the file `path`. False if the file is not a readable video; nothing runs then. No observer is
     /// called from inside this call. Blocks while the file's header is read. A start that is stopped during that time,
     /// or followed by a newer one, returns true and runs nothing.
     virtual bool StartTask(const QString& path, const IKxAutoReframeParam& param) = 0;
 
-    /// Stops the running task, if any. After it has returned no event of that task comes any more (except that an
+    /// Stops the running task, if any. After it has returned, that task sends no more events (except that an
     /// observer which itself calls this finishes its own call). `task` is always 0.
     virtual void StopTask(int task) = 0;
 
@@ -45,8 +45,8 @@ public:
     /// `observer` is borrowed until it is removed. Adding one twice is the same as adding it once.
     virtual void AddObserver(IKxAutoReframeEventObserver* observer) = 0;
 
-    /// Returns when no call to `observer` is running any more (unless called from inside that very call), so that it
-    /// can be destroyed right after.
+    /// Returns when no call to `observer` is running any more (unless called from inside that call), so that it can
+    /// be destroyed afterwards.
     virtual void RemoveObserver(IKxAutoReframeEventObserver* observer) = 0;
 
 protected:

@@ -5,14 +5,14 @@
 
 #include <QSize>
 
-/// What is known of a media file's streams. Belongs to the media item or clip that gives it and lives as long; never
+/// Properties of a media file's streams. Owned by the media item or clip that returns it, and valid as long; never
 /// changes. Cast to IKxVideoMediaInfo or IKxAudioMediaInfo for the facts of the kind that it reports.
 class KXMODEL_API IKxMediaInfo
 {
 public:
     virtual ~IKxMediaInfo();
 
-    /// A moving picture with at least one frame; a cover picture in a sound file and a still image are none.
+    /// A moving picture with at least one frame; a cover picture in a sound file and a still image do not count.
     virtual bool hasVideoStream() const = 0;
     virtual bool hasAudioStream() const = 0;
 };
@@ -29,7 +29,7 @@ public:
     virtual KxRational frameRate() const = 0;
     /// As displayed: upright and with square pixels.
     virtual QSize resolution() const = 0;
-    /// Bits a second; estimated from the file's size where the file does not say.
+    /// Bits a second; estimated from the file's size if the file does not specify it.
     virtual int bitRate() const = 0;
 };
 

@@ -16,7 +16,7 @@ class KXMODEL_API IKxClip
 public:
     virtual ~IKxClip();
 
-    /// Empty for a clip that stands for no file.
+    /// Empty for a clip without a file.
     virtual QString filePath() const = 0;
     /// Never null; lives as long as the clip.
     virtual const IKxMediaInfo* mediaInfo() const = 0;
@@ -27,17 +27,17 @@ public:
 /// A sequence of clips with a picture format. User-interface thread only.
 ///
 /// Life cycle: an instance comes from `createSimpleTimeline` or `clone` and ends with `releaseInstance`. A simple
-/// timeline belongs to the host, which releases it when nothing shows or edits it any more; the module releases only
+/// timeline belongs to the host, which releases it once nothing shows or edits it; the module releases only
 /// what it cloned.
 class KXMODEL_API IKxTimeline
 {
 public:
-    /// A timeline with one clip, made like `clip` and sharing what it needs with it: it lives on when the clip's media
+    /// A timeline with one clip, made like `clip`. It shares data with the clip and remains valid when the clip's media
     /// item is released. Null when `clip` is null. Its format starts as the clip's own resolution and rate.
     static IKxTimeline* createSimpleTimeline(IKxClip* clip);
 
-    /// A copy that shares nothing that can change. With `shareKeyFrames` the copy's clips carry the very keyframes of
-    /// the original instead of their own. Null when `timeline` is null.
+    /// A copy that shares nothing that can change. With `shareKeyFrames` the copy's clips use the keyframes of
+    /// the original instead of copies. Null when `timeline` is null.
     static IKxTimeline* clone(IKxTimeline* timeline, bool shareKeyFrames);
 
     /// Frees an instance; null is allowed.

@@ -8,7 +8,7 @@
 class KXMODEL_API KxCropPanZoomKeyFrameParam
 {
 public:
-    /// The kind of a keyframe between which and its neighbours the rectangle moves linearly.
+    /// The kind of a keyframe with linear interpolation to its neighbours.
     static constexpr int Linear = 2;
 
     KxCropPanZoomKeyFrameParam();

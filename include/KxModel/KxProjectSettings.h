@@ -2,7 +2,7 @@
 
 #include <QSize>
 
-/// Kinds of frame rate that a project can have; a rate that is none of them is Custom.
+/// Kinds of frame rate that a project can have; any other rate is Custom.
 enum class KxProjectFrameRateType {
     Custom = 0,
     Fps23_976 = 1,
@@ -15,8 +15,8 @@ enum class KxProjectFrameRateType {
     Fps60 = 8,
 };
 
-/// Kinds of aspect ratio that a project can have. The number 5 stands for 4:5, which the conversion does not know: it
-/// yields Unknown for it.
+/// Kinds of aspect ratio that a project can have. The number 5 means 4:5, which the conversion does not know: it
+/// returns Unknown for it.
 enum KxProjectAspectRatioType {
     KxProjectAspectRatioUnknown = 0,
     KxProjectAspectRatio16x9 = 1,

@@ -7,7 +7,7 @@
 /// Conversions between facts of a video and the kinds that a project knows. Pure; any thread.
 namespace KxVBLMODEL
 {
-/// The kind nearest to `rate` within 0.01 frames a second, else Custom.
+/// The kind nearest to `rate` within 0.01 frames a second, otherwise Custom.
 KXMODEL_API KxProjectFrameRateType toFrameRateType(const KxRational& rate);
 
 /// The kind whose ratio `size` has exactly; Unknown for any other (4:5 among them) and for an empty size.

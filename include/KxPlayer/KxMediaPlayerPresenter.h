@@ -22,7 +22,7 @@ public:
     ~KxMediaPlayerPresenter() override;
 
     bool inPlaying() const;
-    /// The frame on the screen; while there is no picture, the one that will be shown, or that cannot be shown.
+    /// The frame on the screen; while there is no picture, the frame that will be shown or that cannot be shown.
     int currentFrame() const;
     /// Frames of the open timeline; 0 while nothing is open.
     int frameCount() const;
