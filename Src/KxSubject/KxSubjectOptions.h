@@ -53,10 +53,9 @@ struct KxSubjectOptions {
             double fadeStep = 0.8;           ///< 0.5 to 0.9: `step` for half a fade, which may have two pictures; shots
             double jitterWeight = 0.15;      ///< 0 to 0.5, of the movement (jitter) before and after; shots
             double minimumConfidence = 0.47; ///< 0.3 to 0.6; confidence is 1 less misfit and weighted jitter; shots
-            double movedSimilarity =
-                0.85;                 ///< 0.7 to 0.95: halves that each fit a movement so well are one movement; shots
-            double returnRatio = 0.5; ///< 0.2 to 0.8: a picture nearer than this has returned; shots
-            std::size_t leastPictures = 4;     ///< 3 to 8, from end to end; shots
+            double movedSimilarity = 0.85;   ///< 0.7 to 0.95: halves that each fit a movement so well are one; shots
+            double returnRatio = 0.5;        ///< 0.2 to 0.8: a picture nearer than this has returned; shots
+            std::size_t leastPictures = 4;   ///< 3 to 8, from end to end; shots
             std::size_t wipeLeastPictures = 8; ///< 4 to 15: the same for a wipe; shots
             double wipeFloor = 45.0;           ///< 20 to 80: `floor` for a wipe; shots
             double wipeMisfit = 0.62;          ///< 0.4 to 0.8: `misfit` for a wipe; shots
@@ -145,10 +144,9 @@ struct KxSubjectOptions {
         int profileNeighbours = 4; ///< 2 to 6 raw hits near a candidate that make a face; clips
         int followNeighbours = 2;  ///< 1 to 4 raw hits that keep a known face; clips: with 4 it is often lost
         int minimumPx = 24;        ///< 20 to 40, smallest face looked for; chosen
-        double modelThreshold = 0.7; ///< 0.5 to 0.9, the neural detector's own score; chosen
-        int followedAtOnce = 6;      ///< 3 to 12 faces; bounds the cost of a crowd; chosen
-        double sameShare =
-            0.6; ///< 0.4 to 0.8 of the size: boxes within this distance and difference of size are one; chosen
+        double modelThreshold = 0.7;   ///< 0.5 to 0.9, the neural detector's own score; chosen
+        int followedAtOnce = 6;        ///< 3 to 12 faces; bounds the cost of a crowd; chosen
+        double sameShare = 0.6;        ///< 0.4 to 0.8 of the size: nearer boxes of similar size are one; chosen
         int missesToDrop = 3;          ///< 2 to 6 looks in a row; clips
         double windowSeconds = 2.0;    ///< 1.5 to 3 each way: looks that count; clips: below, a face flickers
         int agreeing = 2;              ///< 1 to 3 other looks in the window that must see the face; trial

@@ -4,15 +4,15 @@
 
 #include <string>
 
-/// Face models that lie on this machine.
+/// Face models that are installed on this machine.
 namespace InstalledModels
 {
 /// The bytes of a file; empty if it cannot be read.
 std::string ContentsOf(const std::string& path);
 
-/// OpenCV's cascades; both empty where the package opencv-data is missing.
+/// OpenCV's cascades; both empty if the package opencv-data is missing.
 KxFaceModels Cascades();
 
-/// The path of a neural face detector beside the source tree, which need not be there.
+/// The path of a neural face detector beside the source tree; the file may be missing.
 std::string DetectorPath();
 } // namespace InstalledModels

@@ -20,7 +20,7 @@ cv::Mat View(const cv::Mat& scene, cv::Point2d shift, cv::Size size);
 /// A sharp checkered patch that differs from any texture.
 void PaintObject(cv::Mat& picture, const cv::Rect& place);
 
-/// A photograph of one person from OpenCV's documentation (548 x 342); empty where the package is missing.
+/// A photograph of one person from OpenCV's documentation (548 x 342); empty if the package is missing.
 cv::Mat Photograph();
 
 } // namespace MadePictures

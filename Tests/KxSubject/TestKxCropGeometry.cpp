@@ -27,7 +27,7 @@ void ExpectGood(const KxCropRect& crop, KxIntSize picture, KxIntSize aspect, con
 
 } // namespace
 
-TEST(KxCropGeometry, EveryPresetOnEveryPictureIsInsideLargestAndOfTheAspect)
+TEST(KxCropGeometry, EveryPresetGivesTheLargestCropOfTheAspectInsideThePicture)
 {
     for (const KxCropRect& content : {KxCropRect{}, KxCropRect{0.0, 0.12, 1.0, 0.76}, KxCropRect{0.2, 0.0, 0.6, 1.0}}) {
         for (const KxIntSize& picture : Pictures) {
@@ -51,7 +51,7 @@ TEST(KxCropGeometry, TheCropMovesAlongItsFreeAxis)
     EXPECT_EQ(KxCropGeometry({1920, 1080}, {21, 9}, {0.0, 0.2, 1.0, 0.6}).FreeAxis(), KxAxis::Across);
 }
 
-TEST(KxCropGeometry, TheCentreIsKeptWhereItCanBe)
+TEST(KxCropGeometry, TheCentreIsKeptWherePossible)
 {
     const KxCropGeometry geometry({1920, 1080}, {9, 16}, {});
     const KxCropRect crop = geometry.At(0.4);
@@ -60,7 +60,7 @@ TEST(KxCropGeometry, TheCentreIsKeptWhereItCanBe)
     EXPECT_NEAR(geometry.At(0.0).x, 0.0, 1e-12);
 }
 
-TEST(KxCropGeometry, SenselessNumbersStillGiveARectangle)
+TEST(KxCropGeometry, InvalidNumbersStillGiveARectangle)
 {
     for (const KxIntSize& aspect : {KxIntSize{0, 0}, KxIntSize{-3, 4}, KxIntSize{1, 0}}) {
         const KxCropRect crop = KxCropGeometry({0, -5}, aspect, {}).At(0.5);

@@ -111,7 +111,7 @@ TEST(KxSubjectAnalyzer, TheWorkingSizeKeepsTheAspectAndIs320AtItsLongerSide)
     EXPECT_EQ(KxSubjectAnalyzer(request, NoFaceModels).WorkingSize(), (KxIntSize{320, 240}));
 }
 
-TEST(KxSubjectAnalyzer, FramesOutsideAreNotWantedAndHighRatesAreThinned)
+TEST(KxSubjectAnalyzer, FramesOutsideAreNotWantedAndHighRatesAreSubsampled)
 {
     KxSubjectRequest request = Request(100);
     const KxSubjectAnalyzer usual(request, NoFaceModels);
@@ -128,7 +128,7 @@ TEST(KxSubjectAnalyzer, FramesOutsideAreNotWantedAndHighRatesAreThinned)
     EXPECT_EQ(wanted, 25);
 }
 
-TEST(KxSubjectAnalyzer, TheCropHoldsAMovingObjectThroughAPan)
+TEST(KxSubjectAnalyzer, TheCropKeepsAMovingObjectDuringAPan)
 {
     const auto crops = Analyse(
         Request(125),
@@ -217,7 +217,7 @@ TEST(KxSubjectAnalyzer, FindingsNameTheShotsAndTheirDominantSignals)
     }
 }
 
-TEST(KxSubjectAnalyzer, FindingsHoldTheEvidenceAsItDecided)
+TEST(KxSubjectAnalyzer, FindingsContainTheEvidenceThatWasUsed)
 {
     const auto peak = [](double concentration) {
         KxSubjectRequest request = Request(50);
@@ -235,7 +235,7 @@ TEST(KxSubjectAnalyzer, FindingsHoldTheEvidenceAsItDecided)
     EXPECT_GT(peak(2.0), 1.3F * peak(1.0));
 }
 
-TEST(KxSubjectAnalyzer, NoFindingsAreKeptUnasked)
+TEST(KxSubjectAnalyzer, FindingsAreKeptOnlyOnRequest)
 {
     KxSubjectAnalyzer analyzer(Request(30), NoFaceModels);
     analyzer.AddPicture(0, ViewOf(Walk(0)));
@@ -243,7 +243,7 @@ TEST(KxSubjectAnalyzer, NoFindingsAreKeptUnasked)
     EXPECT_TRUE(analyzer.Findings().samples.empty());
 }
 
-TEST(KxSubjectAnalyzer, BarsStayOutside)
+TEST(KxSubjectAnalyzer, BarsStayOutsideTheCrop)
 {
     const auto crops = Analyse(Request(50), [](std::int64_t frame) {
         cv::Mat picture = Walk(frame);
@@ -257,7 +257,7 @@ TEST(KxSubjectAnalyzer, BarsStayOutside)
     EXPECT_NEAR(crops.front().width * 1280.0 / (crops.front().height * 720.0), 9.0 / 16.0, 1e-9);
 }
 
-TEST(KxSubjectAnalyzer, EveryPresetGivesOneSizeInside)
+TEST(KxSubjectAnalyzer, EveryPresetGivesCropsOfOneSizeInsideThePicture)
 {
     for (const KxIntSize aspect : {KxIntSize{9, 16}, {1, 1}, {16, 9}, {4, 3}, {4, 5}, {21, 9}}) {
         const auto crops = Analyse(Request(30, aspect), Walk, 3);
@@ -284,7 +284,7 @@ TEST(KxSubjectAnalyzer, ANarrowerReactionFollowsCloser)
     EXPECT_LT(distance(KxMotionSpeed::Fast), distance(KxMotionSpeed::Slow));
 }
 
-TEST(KxSubjectAnalyzer, OneObjectOutweighsMoreThatIsSpreadWide)
+TEST(KxSubjectAnalyzer, OneObjectOutweighsMoreEvidenceThatIsSpreadOut)
 {
     const cv::Mat background = MadePictures::Texture({320, 180}, 21);
     const auto middle = [&background](double concentration) {
@@ -325,7 +325,7 @@ TEST(KxSubjectAnalyzer, PlainPicturesLeaveTheCropInTheMiddle)
     }
 }
 
-TEST(KxSubjectAnalyzer, OneFrameAndFewFramesAndNoFrame)
+TEST(KxSubjectAnalyzer, OneFrameFewFramesAndNoFrameAreAnalysed)
 {
     for (const std::int64_t count : {0, 1, 2, 3, 5}) {
         const auto crops = Analyse(Request(count), Walk);
@@ -334,7 +334,7 @@ TEST(KxSubjectAnalyzer, OneFrameAndFewFramesAndNoFrame)
     }
 }
 
-TEST(KxSubjectAnalyzer, PicturesThatEndEarlyHoldTheLastPlace)
+TEST(KxSubjectAnalyzer, TheLastCropIsHeldWhenPicturesEndEarly)
 {
     const auto crops = Analyse(Request(200), Walk, 1, 100);
     ASSERT_EQ(crops.size(), 200U);
@@ -378,7 +378,7 @@ TEST(KxSubjectAnalyzer, AnalysisEndsEarlyOnceCancelled)
     canceller.join();
 }
 
-TEST(KxSubjectAnalyzer, AVeryLowRateIsTaken)
+TEST(KxSubjectAnalyzer, AVeryLowRateIsAccepted)
 {
     KxSubjectRequest request = Request(12);
     request.frameRate = 0.5;
@@ -387,7 +387,7 @@ TEST(KxSubjectAnalyzer, AVeryLowRateIsTaken)
     ExpectOneSizeInside(crops);
 }
 
-TEST(KxSubjectAnalyzer, SenselessRequestsAreAnswered)
+TEST(KxSubjectAnalyzer, InvalidRequestsGiveCrops)
 {
     KxSubjectRequest request;
     request.frameRate = std::numeric_limits<double>::quiet_NaN();
@@ -403,7 +403,7 @@ TEST(KxSubjectAnalyzer, SenselessRequestsAreAnswered)
     EXPECT_TRUE(KxSubjectAnalyzer(request, NoFaceModels).Finish(KxCancelToken()).empty());
 }
 
-TEST(KxSubjectAnalyzer, ExtremeShapesAreTaken)
+TEST(KxSubjectAnalyzer, ExtremeShapesAreAccepted)
 {
     for (const cv::Size& size : {cv::Size(4000, 16), cv::Size(16, 4000), cv::Size(1, 1)}) {
         KxSubjectRequest request = Request(20);

@@ -74,7 +74,7 @@ TEST(KxCentreScore, TheWindowFallsAsTheSquaredCosineToItsFlatPart)
     }
 }
 
-TEST(KxCentreScore, WhatIsSpreadEvenlyPrefersNoPlace)
+TEST(KxCentreScore, EvenlySpreadEvidencePrefersNoPosition)
 {
     const KxCentreScore score(KxSubjectOptions().evidence, Portrait);
     KxSignalProfile even;
@@ -94,7 +94,7 @@ TEST(KxCentreScore, WhatIsSpreadEvenlyPrefersNoPlace)
     EXPECT_EQ(score.Excess(score.CentreAt(90), object), 0.0F) << "less than on average";
 }
 
-TEST(KxCentreScore, ACropThatFillsThePictureHasOnePlace)
+TEST(KxCentreScore, ACropThatFillsThePictureHasOnePosition)
 {
     const KxCentreScore score(KxSubjectOptions().evidence, KxCropGeometry({1920, 1080}, {16, 9}, {}));
     EXPECT_NEAR(score.Spacing(), 0.0, 1e-12);
@@ -103,6 +103,6 @@ TEST(KxCentreScore, ACropThatFillsThePictureHasOnePlace)
     EXPECT_NEAR(BestCentre(score, profile), 0.5, 1e-9);
     for (int bin = 0; bin < 96; ++bin) {
         profile.Add(bin / 96.0, (bin + 1) / 96.0, 0.01 * bin);
-        EXPECT_EQ(score.Excess(0.5, profile), 0.0F) << "no place but this one, after " << bin;
+        EXPECT_EQ(score.Excess(0.5, profile), 0.0F) << "only this place, after " << bin;
     }
 }

@@ -16,12 +16,12 @@ KxCentreScore::Scores Peak(std::size_t position, float height)
 
 } // namespace
 
-TEST(KxSubjectTracker, NothingAddedHasNoRun)
+TEST(KxSubjectTracker, WithoutSamplesTheSequenceIsEmpty)
 {
     EXPECT_TRUE(KxSubjectTracker(0.1).BestRun().empty());
 }
 
-TEST(KxSubjectTracker, OneSampleTakesItsBest)
+TEST(KxSubjectTracker, OneSampleTakesItsBestPosition)
 {
     KxSubjectTracker tracker(0.1);
     tracker.Add(Peak(70, 1.0F));
@@ -48,7 +48,7 @@ TEST(KxSubjectTracker, ALastingGainElsewhereIsFollowedAtOnce)
     EXPECT_EQ(run[20], 60U);
 }
 
-TEST(KxSubjectTracker, ADearerMoveIsMadeLater)
+TEST(KxSubjectTracker, AMoreExpensiveMoveIsMadeLater)
 {
     const auto follows = [](double cost) {
         KxSubjectTracker tracker(cost);

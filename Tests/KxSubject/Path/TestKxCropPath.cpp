@@ -89,7 +89,7 @@ TEST(KxCropPath, SpeedAndAccelerationHaveNoJumps)
     EXPECT_EQ(line[250], line[299]);
 }
 
-TEST(KxCropPath, AShotThatBeginsLateIsDrawnFromItsFirstFrame)
+TEST(KxCropPath, AShotThatBeginsLateHasAPathFromItsFirstFrame)
 {
     const auto early = Draw(Points(0, 120, [](double s) { return 0.2 + 0.1 * s; }), 0, 120);
     const auto late = Draw(Points(1000, 1120, [](double s) { return 0.2 + 0.1 * s; }), 1000, 1120);
@@ -109,7 +109,7 @@ TEST(KxCropPath, FastFollowsCloserThanAutoAndAutoThanSlow)
     EXPECT_LT(usual, slow);
 }
 
-TEST(KxCropPath, SparsePointsAreJoined)
+TEST(KxCropPath, SparsePointsAreInterpolated)
 {
     const auto line = Draw({{0, 0.3}, {90, 0.6}}, 0, 120);
     ASSERT_THAT(line, SizeIs(120));
@@ -118,7 +118,7 @@ TEST(KxCropPath, SparsePointsAreJoined)
     EXPECT_NEAR(line[90], 0.6, 0.03);
 }
 
-TEST(KxCropPath, TheEndOfWhatACropCanReachIsMetWithEase)
+TEST(KxCropPath, ThePathEasesIntoTheLimitOfItsRange)
 {
     const double lowest = Portrait.MinimumCentre();
     const auto line = Draw(Points(0, 120, [lowest](double s) { return std::max(lowest, 0.5 - 0.1 * s); }), 0, 120);
@@ -128,7 +128,7 @@ TEST(KxCropPath, TheEndOfWhatACropCanReachIsMetWithEase)
     }
 }
 
-TEST(KxCropPath, OneFrameIsDrawn)
+TEST(KxCropPath, AShotOfOneFrameHasAPath)
 {
     EXPECT_THAT(Draw({{0, 0.7}}, 0, 1), testing::ElementsAre(0.7));
 }

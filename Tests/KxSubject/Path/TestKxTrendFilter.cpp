@@ -36,7 +36,7 @@ double LargestStep(const std::vector<double>& line)
 
 } // namespace
 
-TEST(KxTrendFilter, ShortLinesAreTaken)
+TEST(KxTrendFilter, ShortLinesAreAccepted)
 {
     EXPECT_TRUE(KxTrendFilter(Usual()).Smooth({}, KxCancelToken()).empty());
     EXPECT_EQ(KxTrendFilter(Usual()).Smooth({0.4}, KxCancelToken()), std::vector<double>{0.4});

@@ -23,7 +23,7 @@ inline cv::Mat Scene(std::uint64_t seed)
     return strong;
 }
 
-/// A slowly moving camera's picture of it.
+/// A picture of it by a slowly moving camera.
 inline cv::Mat Shot(const cv::Mat& scene, int frame)
 {
     return MadePictures::View(scene, {frame * 0.3, 0.0}, Size);

@@ -48,17 +48,17 @@ TEST(KxBarDetector, AFullPictureHasNoBars)
     EXPECT_EQ(ContentOf({GreyTexture(1)}), Whole);
 }
 
-TEST(KxBarDetector, LetterboxIsTakenOffWithAPixelMore)
+TEST(KxBarDetector, LetterboxIsRemovedWithOneExtraPixel)
 {
     EXPECT_EQ(ContentOf({WithBars(GreyTexture(1), 22, 22, 0, 0)}), cv::Rect(0, 23, 320, 134));
 }
 
-TEST(KxBarDetector, PillarsAndLetterboxTogether)
+TEST(KxBarDetector, PillarboxAndLetterboxAreFoundTogether)
 {
     EXPECT_EQ(ContentOf({WithBars(GreyTexture(1), 22, 21, 40, 41)}), cv::Rect(41, 23, 237, 135));
 }
 
-TEST(KxBarDetector, ABarThatOnePictureFillsIsNone)
+TEST(KxBarDetector, ABarThatOnePictureFillsIsNotABar)
 {
     EXPECT_EQ(ContentOf({WithBars(GreyTexture(1), 22, 22, 0, 0), GreyTexture(2)}), Whole);
 }
@@ -70,13 +70,13 @@ TEST(KxBarDetector, ABlackPictureChangesNothing)
     EXPECT_EQ(ContentOf({black, WithBars(GreyTexture(1), 22, 22, 0, 0), black}), cv::Rect(0, 23, 320, 134));
 }
 
-TEST(KxBarDetector, ADarkSkyWithoutATwinIsNoBar)
+TEST(KxBarDetector, ADarkSkyWithoutACounterpartIsNotABar)
 {
     EXPECT_EQ(ContentOf({WithBars(GreyTexture(1), 40, 0, 0, 0)}), Whole);
     EXPECT_EQ(ContentOf({WithBars(GreyTexture(1), 40, 12, 0, 0)}), Whole);
 }
 
-TEST(KxBarDetector, ANarrowBarIsNone)
+TEST(KxBarDetector, ANarrowBarIsNotABar)
 {
     EXPECT_EQ(ContentOf({WithBars(GreyTexture(1), 4, 4, 0, 0)}), Whole);
 }

@@ -79,7 +79,7 @@ TEST(KxShotBlends, Case1ADissolveJustBeforeTheEndIsFound)
     ExpectBoundary(found, KxShotBoundaryKind::Dissolve, 12, 3);
 }
 
-TEST(KxShotBlends, Case1TwoDissolvesAreTwo)
+TEST(KxShotBlends, Case1TwoDissolvesAreTwoBoundaries)
 {
     const cv::Mat one = Scene(1);
     const cv::Mat two = Scene(2);
@@ -122,7 +122,7 @@ TEST(KxShotBlends, Case3AFadeOverBlackOrWhiteIsFoundInItsMiddle)
     }
 }
 
-TEST(KxShotBlends, Case3AFadeThatACutEndsIsNone)
+TEST(KxShotBlends, Case3AFadeThatEndsInACutIsNotAFade)
 {
     const cv::Mat one = Scene(1);
     const cv::Mat other = Scene(2);
@@ -133,7 +133,7 @@ TEST(KxShotBlends, Case3AFadeThatACutEndsIsNone)
                 IsEmpty());
 }
 
-TEST(KxShotBlends, Case4AMovingCameraIsNone)
+TEST(KxShotBlends, Case4AMovingCameraIsNotABoundary)
 {
     const cv::Mat scene = Scene(5);
     for (const double speedPx : {1.0, 4.0, 12.0}) {
@@ -163,7 +163,7 @@ TEST(KxShotBlends, Case4AMovingCameraIsNone)
         << "zoom";
 }
 
-TEST(KxShotBlends, Case5AChangeOfLightIsNone)
+TEST(KxShotBlends, Case5AChangeOfLightIsNotABoundary)
 {
     const cv::Mat scene = Scene(6);
     EXPECT_THAT(Find(100,
@@ -178,7 +178,7 @@ TEST(KxShotBlends, Case5AChangeOfLightIsNone)
         IsEmpty());
 }
 
-TEST(KxShotBlends, Case6WhatPassesCloseIsNone)
+TEST(KxShotBlends, Case6AnObjectThatPassesCloseIsNotABoundary)
 {
     const cv::Mat scene = Scene(7);
     const cv::Mat body = Scene(8);
@@ -199,7 +199,7 @@ TEST(KxShotBlends, Case6WhatPassesCloseIsNone)
     }
 }
 
-TEST(KxShotBlends, Case7ACutIsNone)
+TEST(KxShotBlends, Case7ACutIsNotABlend)
 {
     const cv::Mat one = Scene(1);
     const cv::Mat other = Scene(2);
@@ -210,7 +210,7 @@ TEST(KxShotBlends, Case7ACutIsNone)
     }
 }
 
-TEST(KxShotBlends, NoPictureHasNone)
+TEST(KxShotBlends, WithoutPicturesThereAreNoBlends)
 {
     EXPECT_THAT(Find(0, [](int) { return Plain(0.0); }), IsEmpty());
     EXPECT_THAT(Find(1, [](int) { return Plain(0.0); }), IsEmpty());

@@ -44,7 +44,7 @@ TEST(KxShotCuts, AJumpOfBothSignalsIsACut)
     EXPECT_THAT(Find(changes), ElementsAre(30));
 }
 
-TEST(KxShotCuts, Case1OfTwoNeighboursTheLargerIsTheCut)
+TEST(KxShotCuts, Case1TheLargerOfTwoNeighboursIsTheCut)
 {
     auto changes = Calm(60);
     Jump(changes, 30, 40.0F, 0.6F);
@@ -52,7 +52,7 @@ TEST(KxShotCuts, Case1OfTwoNeighboursTheLargerIsTheCut)
     EXPECT_THAT(Find(changes), ElementsAre(31));
 }
 
-TEST(KxShotCuts, Case1AJumpOfOneSignalAloneIsNone)
+TEST(KxShotCuts, Case1AJumpOfOnlyOneSignalIsNotACut)
 {
     auto changes = Calm(60);
     Jump(changes, 20, 40.0F, 0.05F);
@@ -60,14 +60,14 @@ TEST(KxShotCuts, Case1AJumpOfOneSignalAloneIsNone)
     EXPECT_THAT(Find(changes), IsEmpty());
 }
 
-TEST(KxShotCuts, Case2AJumpUnderTheFloorIsNone)
+TEST(KxShotCuts, Case2AJumpBelowTheFloorIsNotACut)
 {
     auto changes = Calm(60);
     Jump(changes, 30, 8.5F, 0.17F);
     EXPECT_THAT(Find(changes), IsEmpty());
 }
 
-TEST(KxShotCuts, Case3AJumpThatIsUsualAroundItIsNone)
+TEST(KxShotCuts, Case3AJumpThatIsUsualAroundItIsNotACut)
 {
     auto changes = Calm(60);
     for (KxPictureChange& change : changes) {
@@ -87,7 +87,7 @@ TEST(KxShotCuts, Case3CutsFivePicturesApartAreNotUsual)
     EXPECT_THAT(Find(changes), ElementsAre(20, 25, 30, 35, 40));
 }
 
-TEST(KxShotCuts, Case4AFlashIsNone)
+TEST(KxShotCuts, Case4AFlashIsNotACut)
 {
     auto changes = Calm(60);
     Jump(changes, 30).flash = true;
@@ -95,14 +95,14 @@ TEST(KxShotCuts, Case4AFlashIsNone)
     EXPECT_THAT(Find(changes), IsEmpty());
 }
 
-TEST(KxShotCuts, Case5ALightIsNone)
+TEST(KxShotCuts, Case5AChangeOfLightIsNotACut)
 {
     auto changes = Calm(60);
     Jump(changes, 30).similarity = 190;
     EXPECT_THAT(Find(changes), IsEmpty());
 }
 
-TEST(KxShotCuts, Case6WhatComesBackWithoutAJumpWasNeverLeft)
+TEST(KxShotCuts, Case6APictureThatReturnsWithoutAJumpIsNotACut)
 {
     auto changes = Calm(60);
     Jump(changes, 20).backAfter = 12;

@@ -36,7 +36,7 @@ std::vector<std::int64_t> Cuts(int frames, const std::function<cv::Mat(int frame
     return cuts;
 }
 
-/// Shots that begin at these frames.
+/// Pictures of shots that begin at these frames.
 std::function<cv::Mat(int)> Shots(const std::vector<int>& starts)
 {
     return [starts](int frame) {
@@ -96,13 +96,13 @@ TEST(KxShotDetector, AnInsertOfTenFramesHasTwoCuts)
                 ElementsAre(30, 40));
 }
 
-TEST(KxShotDetector, Case3AFastPanIsNoCut)
+TEST(KxShotDetector, Case3AFastPanIsNotACut)
 {
     const cv::Mat scene = Scene(3);
     EXPECT_THAT(Cuts(75, [&](int frame) { return MadePictures::View(scene, {frame * 15.0, 0.0}, Size); }), IsEmpty());
 }
 
-TEST(KxShotDetector, Case4AFlashIsNoCut)
+TEST(KxShotDetector, Case4AFlashIsNotACut)
 {
     const cv::Mat scene = Scene(3);
     for (const int length : {1, 2, 3, 4, 5}) {
@@ -133,7 +133,7 @@ TEST(KxShotDetector, Case4AFlashOnACutLeavesTheCut)
     EXPECT_LE(cuts[0], 32);
 }
 
-TEST(KxShotDetector, Case5ALampThatIsTurnedOnIsNoCut)
+TEST(KxShotDetector, Case5ALampThatIsTurnedOnIsNotACut)
 {
     const cv::Mat scene = Scene(4);
     EXPECT_THAT(Cuts(60,
@@ -145,7 +145,7 @@ TEST(KxShotDetector, Case5ALampThatIsTurnedOnIsNoCut)
                 IsEmpty());
 }
 
-TEST(KxShotDetector, Case6AnExplosionIsNoCut)
+TEST(KxShotDetector, Case6AnExplosionIsNotACut)
 {
     const cv::Mat scene = Scene(5);
     EXPECT_THAT(Cuts(75,
@@ -183,12 +183,12 @@ TEST(KxShotDetector, Case7AFadeOutThatEndsInACutIsACutOnItsFrame)
     EXPECT_EQ(found[0].kind, KxShotBoundaryKind::Cut);
 }
 
-TEST(KxShotDetector, Case8OfTwoNearCutsOneStays)
+TEST(KxShotDetector, Case8OneOfTwoNearCutsIsKept)
 {
     EXPECT_THAT(Cuts(60, Shots({30, 33})), SizeIs(1));
 }
 
-TEST(KxShotDetector, Case8ACutRightAfterTheFirstPictureIsNone)
+TEST(KxShotDetector, Case8ACutRightAfterTheFirstPictureIsNotACut)
 {
     EXPECT_THAT(Cuts(60, Shots({2})), IsEmpty());
 }

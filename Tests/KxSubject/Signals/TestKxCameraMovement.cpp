@@ -46,7 +46,7 @@ TEST(KxCameraMovement, APanIsMeasuredToAPartOfAPixel)
     }
 }
 
-TEST(KxCameraMovement, ALargeRichSubjectBeforeAFaintBackgroundIsNotTheWorld)
+TEST(KxCameraMovement, ALargeTexturedSubjectInFrontOfAFaintBackgroundIsNotTheScene)
 {
     const cv::Mat scene = MadePictures::Texture({480, 260}, 11) * 0.3;
     const auto picture = [&scene](int subjectLeft) {
@@ -56,7 +56,7 @@ TEST(KxCameraMovement, ALargeRichSubjectBeforeAFaintBackgroundIsNotTheWorld)
     };
     const auto movement = Between(picture(150), picture(155));
     ASSERT_TRUE(movement);
-    EXPECT_LT(cv::norm(ShiftAt(*movement, {60.0, 90.0})), 0.5) << "the background stands";
+    EXPECT_LT(cv::norm(ShiftAt(*movement, {60.0, 90.0})), 0.5) << "the background is static";
 }
 
 TEST(KxCameraMovement, PicturesWithoutCornersAreTakenAsFromAStillCamera)

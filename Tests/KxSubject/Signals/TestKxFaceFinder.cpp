@@ -163,7 +163,7 @@ TEST(KxFaceFinder, WithoutModelsNothingIsFound)
     }
 }
 
-TEST(KxFaceFinder, ADetectorThatIsNoneIsRefusedAndTheCascadesAreUsed)
+TEST(KxFaceFinder, AnInvalidDetectorIsRefusedAndTheCascadesAreUsed)
 {
     const KxFaceFinder finder(KxSubjectOptions().faces, Detector("this is no model"), PictureSize);
     EXPECT_TRUE(finder.IsDetectorRefused());

@@ -90,14 +90,14 @@ TEST_F(KxFaceTracksTest, AFaceThatStaysIsEvidenceWhereItIs)
     EXPECT_NEAR(inside, profile.Sum(), 1e-3F);
 }
 
-TEST_F(KxFaceTracksTest, AFaceSeenOnceIsNoEvidence)
+TEST_F(KxFaceTracksTest, AFaceSeenOnceIsNotEvidence)
 {
     Play(30, 0, 1);
     EXPECT_FALSE(m_tracks.Tracks().empty());
     EXPECT_EQ(At(0.0).Sum(), 0.0F);
 }
 
-TEST_F(KxFaceTracksTest, AsManyLooksMustAgreeAsTheOptionsSayBesidesTheFirst)
+TEST_F(KxFaceTracksTest, BesidesTheFirstTheConfiguredNumberOfLooksMustAgree)
 {
     // Looks at 0, 0.2 and 0.4 seconds; the face is there for two of them, then for three.
     ASSERT_EQ(Options.faces.agreeing, 2);
@@ -111,7 +111,7 @@ TEST_F(KxFaceTracksTest, AsManyLooksMustAgreeAsTheOptionsSayBesidesTheFirst)
     EXPECT_GT(At(0.1).Sum(), 0.0F);
 }
 
-TEST_F(KxFaceTracksTest, LooksThatMissTheFaceWeakenItsEvidenceInItsPlace)
+TEST_F(KxFaceTracksTest, LooksThatMissTheFaceWeakenItsEvidence)
 {
     const auto centre = [](const KxSignalProfile& profile) {
         double sum = 0.0;
@@ -151,7 +151,7 @@ TEST_F(KxFaceTracksTest, LooksInAnotherShotDoNotCount)
     EXPECT_EQ(At(1.5, 1.5, 1.7).Sum(), 0.0F) << "too few looks in so short a shot";
 }
 
-TEST_F(KxFaceTracksTest, LooksAreRarerWhereNothingHasBeenNewForLong)
+TEST_F(KxFaceTracksTest, LooksAreRarerWhileNoNewFaceIsFound)
 {
     const cv::Mat grey = MadePictures::Grey(m_withFace);
     const std::vector<cv::Rect> faces =

@@ -60,7 +60,7 @@ TEST(KxMotionMap, AMovingSquareUnderAPanningCameraIsFound)
     EXPECT_GT(cv::mean(map(cv::Rect(200, 80, 34, 32)))[0], 0.5);
 }
 
-TEST(KxMotionMap, WhatTheMoverLaysBareDoesNotCount)
+TEST(KxMotionMap, BackgroundThatTheMoverUncoversDoesNotCount)
 {
     const KxNeighbourPicture before{Picture({40.0, 20.0}, {100, 80, 30, 30}), cv::Matx33d::eye()};
     const cv::Mat now = Picture({40.0, 20.0}, {140, 80, 30, 30});
@@ -73,13 +73,13 @@ TEST(KxMotionMap, WhatTheMoverLaysBareDoesNotCount)
     EXPECT_GT(MassIn(map, here), 0.75 * cv::sum(map)[0]);
 }
 
-TEST(KxMotionMap, WhatThePanBringsInDoesNotCount)
+TEST(KxMotionMap, PixelsThatThePanBringsInDoNotCount)
 {
     const cv::Mat map = MapOf(Picture({52.0, 20.0}, {}), {{Picture({40.0, 20.0}, {}), Shift(-12.0, 0.0)}});
     EXPECT_LT(cv::mean(map.colRange(290, 320))[0], 0.002);
 }
 
-TEST(KxMotionMap, SmallPicturesAreTaken)
+TEST(KxMotionMap, SmallPicturesAreAccepted)
 {
     const cv::Mat small(12, 40, CV_8UC1, cv::Scalar(90));
     EXPECT_EQ(cv::sum(MapOf(small, {{small, cv::Matx33d::eye()}}))[0], 0.0);

@@ -32,7 +32,7 @@ cv::Mat Map(const std::vector<cv::Rect>& moving)
     return map;
 }
 
-/// A map a sample; `place` gives what moves at a sample, `camera` how the picture shifts from one to the next.
+/// One map per sample; `place` returns the movers of a sample, `camera` the shift of the picture to the next one.
 template<typename Places>
 KxMoverTracks Followed(int samples, Places places, double camera = 0.0)
 {
@@ -112,7 +112,7 @@ TEST(KxMoverTracks, ATinyMoverCountsNearlyAsMuchAsALargeOne)
     EXPECT_LT(ofLarge / ofTiny, 5.0) << "the areas differ by 64";
 }
 
-TEST(KxMoverTracks, WhatMovesInPlaceIsNoSubject)
+TEST(KxMoverTracks, AnObjectThatMovesInPlaceIsNotASubject)
 {
     const auto tracks = Followed(60, [](int i) { return std::vector<cv::Rect>{{100 + 2 * (i % 2), 80, 24, 24}}; });
     for (const KxMoverTracks::Mover& mover : tracks.Movers()) {
@@ -120,7 +120,7 @@ TEST(KxMoverTracks, WhatMovesInPlaceIsNoSubject)
     }
 }
 
-TEST(KxMoverTracks, WhatStaysWithTheBackgroundInAPanIsNoSubject)
+TEST(KxMoverTracks, AnObjectThatMovesWithTheBackgroundInAPanIsNotASubject)
 {
     const auto tracks = Followed(
         30,
@@ -131,7 +131,7 @@ TEST(KxMoverTracks, WhatStaysWithTheBackgroundInAPanIsNoSubject)
     EXPECT_TRUE(tracks.Movers().empty());
 }
 
-TEST(KxMoverTracks, WhatThePanKeepsInPlaceTravelsInFrontOfTheBackground)
+TEST(KxMoverTracks, AnObjectThatThePanKeepsInPlaceTravelsRelativeToTheBackground)
 {
     const auto tracks = Followed(
         30,
@@ -143,7 +143,7 @@ TEST(KxMoverTracks, WhatThePanKeepsInPlaceTravelsInFrontOfTheBackground)
     EXPECT_EQ(tracks.Movers().front().confidence, 1.0F);
 }
 
-TEST(KxMoverTracks, RandomFlashesAreNoSubject)
+TEST(KxMoverTracks, RandomFlashesAreNotASubject)
 {
     cv::RNG anywhere(7);
     const auto tracks = Followed(200, [&anywhere](int) {
@@ -194,7 +194,7 @@ TEST(KxMoverTracks, TwoMoversThatPassEachOtherStayTwoMovers)
     ASSERT_EQ(tracks.Movers().size(), 2U);
     for (const KxMoverTracks::Mover& mover : tracks.Movers()) {
         EXPECT_EQ(mover.boxes.size(), 40U);
-        EXPECT_LT(std::abs(mover.At(39).y - mover.At(0).y), 0.02) << "each keeps to its height";
+        EXPECT_LT(std::abs(mover.At(39).y - mover.At(0).y), 0.02) << "each stays at its height";
     }
 }
 

@@ -13,7 +13,7 @@ TEST(KxSaliencyMap, AFlatPictureShowsNothing)
     EXPECT_EQ(cv::sum(map)[0], 0.0);
 }
 
-TEST(KxSaliencyMap, AnObjectOnAPlainGroundStandsOut)
+TEST(KxSaliencyMap, AnObjectOnAPlainBackgroundIsSalient)
 {
     cv::Mat picture(180, 320, CV_8UC3, cv::Scalar::all(120));
     MadePictures::PaintObject(picture, {220, 90, 36, 36});

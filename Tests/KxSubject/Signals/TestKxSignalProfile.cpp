@@ -35,7 +35,7 @@ TEST(KxSignalProfile, AnEmptyMapAndAnEvenMapAreNoEvidence)
                 1e-3F);
 }
 
-TEST(KxSignalProfile, MassLiesWhereTheMapHasIt)
+TEST(KxSignalProfile, MassIsWhereTheMapHasIt)
 {
     const cv::Mat map = MapWith({80, 45, 80, 45}, 1.0F);
     const auto across = KxProfileOfMap(map, Whole, PictureSize, KxAxis::Across, EmptyFloor);
@@ -48,13 +48,13 @@ TEST(KxSignalProfile, MassLiesWhereTheMapHasIt)
 
 TEST(KxSignalProfile, AMapWithAsMuchAsTheFloorGivesHalf)
 {
-    // 24 x 24 px of 1 are 1 % of the area; a little goes with the mean.
+    // 24 x 24 px of 1 are 1 % of the area; the subtracted mean takes a little of it.
     const auto profile =
         KxProfileOfMap(MapWith({100, 50, 24, 24}, 1.0F), Whole, PictureSize, KxAxis::Across, EmptyFloor);
     EXPECT_NEAR(profile.Sum(), 0.5F, 0.01F);
 }
 
-TEST(KxSignalProfile, AMapOfAPartLiesInItsPart)
+TEST(KxSignalProfile, AMapOfARegionFillsOnlyThatRegion)
 {
     cv::Mat part = cv::Mat::zeros(180, 160, CV_32FC1);
     part.colRange(0, 40).setTo(1.0F);
@@ -72,7 +72,7 @@ TEST(KxSignalProfile, AddSpreadsEvenlyAndLosesWhatIsOutside)
     EXPECT_NEAR(profile.Sum(), 0.5F, 1e-5F);
 }
 
-TEST(KxSignalProfile, ConcentratedAPeakGainsWhatIsSpreadOutLoses)
+TEST(KxSignalProfile, ConcentrationAmplifiesPeaksAndWeakensSpreadEvidence)
 {
     KxSignalProfile profile;
     profile.Add(0.0, 0.5, 0.5);
@@ -104,7 +104,7 @@ TEST(KxSignalProfile, PackingKeepsMassAndPlace)
     EXPECT_EQ(ShareBetween(back, 84, 96), 0.0F);
 }
 
-TEST(KxSignalProfile, UnpackedItHasNoSteps)
+TEST(KxSignalProfile, AnUnpackedProfileHasNoSteps)
 {
     KxSignalProfile slope;
     for (std::size_t bin = 0; bin < KxSignalProfile::Bins; ++bin) {
@@ -124,6 +124,6 @@ TEST(KxSignalProfile, APackedEmptyProfileIsEmpty)
 
 TEST(KxSignalProfile, ASampleOfALongVideoIsSmall)
 {
-    // Ten of them stand for each second of a video: an hour has to stay within a few megabytes.
+    // A second of video has ten of them: an hour must not need more than a few megabytes.
     EXPECT_LE(sizeof(KxPackedProfile), 28U);
 }
