@@ -122,7 +122,7 @@ TEST_F(KxAutoReframeServiceTest, ATaskEndsWithOneLastEventAndAsManyResultsAsFram
     EXPECT_TRUE(results.isEmpty());
 }
 
-TEST_F(KxAutoReframeServiceTest, RefusesWhatIsNoVideoAtOnceAndSaysWhy)
+TEST_F(KxAutoReframeServiceTest, RefusesAFileThatIsNotAVideoAtOnceWithTheReason)
 {
     Recorder recorder(m_service);
     EXPECT_FALSE(m_service.StartTask(m_folder.filePath(QStringLiteral("missing.mp4")), m_param));
@@ -159,7 +159,7 @@ TEST_F(KxAutoReframeServiceTest, AfterStopTaskNoEventComesAndThereAreNoResults)
     for (const Event& event : recorder.Events()) {
         EXPECT_EQ(event.state, 1);
     }
-    // Another task runs through and is heard; of the stopped one nothing more comes.
+    // Another task completes and reports its events; the stopped one reports nothing more.
     const QString other = MakeClip("other.mp4", 40);
     ASSERT_TRUE(m_service.StartTask(other, m_param));
     ASSERT_TRUE(recorder.WaitForEnd());
@@ -222,7 +222,7 @@ TEST_F(KxAutoReframeServiceTest, AnObserverMayStopAndStartFromItsCall)
     EXPECT_EQ(m_service.GetResults(next, &results), 0);
 }
 
-TEST_F(KxAutoReframeServiceTest, DestroyingTheServiceStopsWhatRuns)
+TEST_F(KxAutoReframeServiceTest, DestroyingTheServiceStopsTheRunningTask)
 {
     const QString clip = MakeClip("clip.mp4", 600);
     auto service = std::make_unique<KxAutoReframeService>();
@@ -285,7 +285,7 @@ TEST_F(KxAutoReframeServiceTest, APauseOfDaysInTheTimeStampsIsHeld)
     EXPECT_EQ(results.size(), 172840);
 }
 
-TEST_F(KxAutoReframeServiceTest, AFaceModelThatIsNoneIsReportedAndTheAnalysisGoesOn)
+TEST_F(KxAutoReframeServiceTest, AnInvalidFaceModelIsReportedAndTheAnalysisContinues)
 {
     QFile model(m_folder.filePath(QStringLiteral("model.onnx")));
     ASSERT_TRUE(model.open(QIODevice::WriteOnly));
@@ -303,7 +303,7 @@ TEST_F(KxAutoReframeServiceTest, AFaceModelThatIsNoneIsReportedAndTheAnalysisGoe
     EXPECT_EQ(m_service.GetResults(clip, &results), 0);
 }
 
-TEST_F(KxAutoReframeServiceTest, WhatWasFoundIsKeptOnlyWhenAskedFor)
+TEST_F(KxAutoReframeServiceTest, FindingsAreKeptOnlyOnRequest)
 {
     Recorder recorder(m_service);
     const QString clip = MakeClip("clip.mp4", 40);

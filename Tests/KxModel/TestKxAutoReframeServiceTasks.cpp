@@ -9,7 +9,7 @@
 #include <new>
 #include <stdexcept>
 
-// The service with analyses that the tests make: what happens between tasks, threads and observers.
+// The service with scripted analyses: the interaction of tasks, threads and observers.
 
 namespace
 {
@@ -38,7 +38,7 @@ KxAnalysis::Result Done()
     return result;
 }
 
-/// Opens analyses by name; an unknown name is a file that is no video.
+/// Opens analyses by name; an unknown name is a file that is not a video.
 class Files
 {
 public:
@@ -73,7 +73,7 @@ struct Event {
     int state;
 };
 
-/// Records events, and can do something in each.
+/// Records events, and can run an action in each.
 class Recorder : public IKxAutoReframeEventObserver
 {
 public:
@@ -97,7 +97,7 @@ public:
         }
     }
 
-    /// Whether as many tasks came to their end.
+    /// Whether so many tasks have ended.
     bool WaitForEnds(int ends)
     {
         std::unique_lock<std::mutex> lock(m_mutex);
@@ -140,7 +140,7 @@ protected:
     KxAutoReframeService m_service{m_files.Opener()};
 };
 
-/// Long enough for a thread that does not wait to return; one that waits never does.
+/// Long enough for a thread that does not wait to return; a thread that waits never returns.
 constexpr std::chrono::milliseconds aWhile(200);
 
 } // namespace
@@ -164,7 +164,7 @@ TEST_F(KxAutoReframeServiceTasks, AnExceptionInTheAnalysisIsAFailedTaskWithAMess
         EXPECT_EQ(m_service.LastErrorMessage(), QStringLiteral("Cannot analyse bad.mp4: %1.").arg(reason));
     }
     m_files.Add(m_quick, [](const Progress&) { return Done(); });
-    ASSERT_TRUE(Start(m_quick)) << "the service works on";
+    ASSERT_TRUE(Start(m_quick)) << "the service still works";
     ASSERT_TRUE(recorder.WaitForEnds(++ends));
     EXPECT_EQ(ResultsOf(m_quick), 0);
 }
@@ -189,7 +189,7 @@ TEST_F(KxAutoReframeServiceTasks, AnObserverThatThrowsHarmsNeitherTheTaskNorOthe
     ASSERT_TRUE(recorder.WaitForEnds(1));
     EXPECT_EQ(ResultsOf(m_quick), 0);
     EXPECT_EQ(recorder.Events().size(), 2U);
-    throwing.reset(); // returns, because no call to it is thought to be running
+    throwing.reset(); // returns, because no call to it counts as running
 }
 
 TEST_F(KxAutoReframeServiceTasks, TheNewestStartWinsOverAnOlderOneThatOpensSlowly)

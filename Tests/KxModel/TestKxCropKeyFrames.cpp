@@ -97,7 +97,7 @@ TEST(KxCropKeyFrames, SettingSharesTheListAndReleasesThePreviousOne)
     EXPECT_FALSE(second.isDetached());
 }
 
-TEST(KxCropKeyFrames, EachReadSeesTheKeyframesOfOneMoment)
+TEST(KxCropKeyFrames, EachReadSeesAConsistentStateOfTheKeyframes)
 {
     KxCropKeyFrames keyFrames;
     keyFrames.setKeyFrames({Key(0, QRectF(0.0, 0.0, 0.5, 1.0)), Key(10, QRectF(0.0, 0.0, 0.5, 1.0))});

@@ -35,7 +35,7 @@ private:
 
 } // namespace
 
-TEST(KxObserverList, AddingTwiceIsAddingOnce)
+TEST(KxObserverList, AddingTwiceIsTheSameAsAddingOnce)
 {
     KxObserverList list;
     Observer observer;
@@ -45,7 +45,7 @@ TEST(KxObserverList, AddingTwiceIsAddingOnce)
     EXPECT_EQ(observer.calls, 1);
 }
 
-TEST(KxObserverList, ACancelledTaskCallsNobody)
+TEST(KxObserverList, ACancelledTaskCallsNoObserver)
 {
     KxObserverList list;
     Observer observer;
@@ -100,7 +100,7 @@ TEST(KxObserverList, AnObserverRemovedByAnotherIsNotCalledAnyMore)
     EXPECT_EQ(second.calls, 0);
 }
 
-TEST(KxObserverList, AnObserverThatThrowsIsNotThoughtToBeRunningAndTheNextOneIsCalled)
+TEST(KxObserverList, AnObserverThatThrowsDoesNotCountAsRunningAndTheNextOneIsCalled)
 {
     KxObserverList list;
     Observer throwing([] { throw std::runtime_error("no"); });

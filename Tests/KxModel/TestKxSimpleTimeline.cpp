@@ -59,7 +59,7 @@ TEST(KxSimpleTimeline, StartsInTheFormatOfItsClip)
     EXPECT_EQ(timeline->clips().first()->filePath(), QStringLiteral("/videos/walk.mp4"));
 }
 
-TEST(KxSimpleTimeline, LivesOnWithoutTheClipItWasBuiltFrom)
+TEST(KxSimpleTimeline, RemainsValidWithoutTheClipItWasBuiltFrom)
 {
     auto clip = std::make_unique<KxClip>(Facts());
     const TimelinePointer timeline(IKxTimeline::createSimpleTimeline(clip.get()));
@@ -95,7 +95,7 @@ TEST(KxSimpleTimeline, ACloneMayShareTheKeyframes)
     EXPECT_DOUBLE_EQ(FirstX(original), 0.4);
 }
 
-TEST(KxSimpleTimeline, NothingComesOfNothing)
+TEST(KxSimpleTimeline, NullGivesNull)
 {
     EXPECT_EQ(IKxTimeline::createSimpleTimeline(nullptr), nullptr);
     EXPECT_EQ(IKxTimeline::clone(nullptr, false), nullptr);
@@ -110,7 +110,7 @@ TEST(KxSimpleTimeline, AClipHasCropKeyframesAndNoOthers)
     EXPECT_EQ(clip.keyFrameHelper(4), nullptr);
 }
 
-TEST(KxSimpleTimeline, TheHostFreesWhatNobodyReleased)
+TEST(KxSimpleTimeline, TheHostFreesTimelinesThatWereNotReleased)
 {
     const std::shared_ptr<const KxMediaFacts> facts = Facts();
     KxClip clip(facts);
@@ -123,7 +123,7 @@ TEST(KxSimpleTimeline, TheHostFreesWhatNobodyReleased)
     ASSERT_GT(withTwo, before);
 
     KxSimpleTimeline::ReleaseAll();
-    EXPECT_EQ(facts.use_count() - before, (withTwo - before) / 2) << "the copy stays its maker's";
+    EXPECT_EQ(facts.use_count() - before, (withTwo - before) / 2) << "the caller still owns the copy";
     EXPECT_EQ(copy->duration(), 250);
     KxSimpleTimeline::ReleaseAll();
     EXPECT_EQ(copy->duration(), 250);
@@ -135,7 +135,7 @@ TEST(KxStreamInfo, GivesTheFactsOfBothKinds)
     EXPECT_TRUE(info.hasVideoStream());
     EXPECT_TRUE(info.hasAudioStream());
     EXPECT_EQ(static_cast<const IKxVideoMediaInfo&>(info).bitRate(),
-              2147483647); // more than fits is the most that fits
+              2147483647); // a value that does not fit becomes the largest that does
     EXPECT_EQ(info.streamCount(), 2);
     EXPECT_EQ(info.bitRate(0), 128000);
     EXPECT_EQ(info.bitRate(1), 64000);
