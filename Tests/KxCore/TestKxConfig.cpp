@@ -141,7 +141,7 @@ TEST_F(KxConfigTest, AFileWithASerialisedValueIsLeftAlone)
         EXPECT_EQ(KxConfigFile::ReadAutoReframe(QStringLiteral("FaceModel")), QString());
         EXPECT_FALSE(IsUsed(file));
         ASSERT_TRUE(before.seek(0));
-        EXPECT_EQ(before.readAll(), content) << "it is the person's to repair";
+        EXPECT_EQ(before.readAll(), content) << "the person has to repair it";
     }
 }
 

@@ -21,7 +21,7 @@ constexpr KxRational Rates[] = {{25, 1}, {24000, 1001}, {30000, 1001}, {60000, 1
 
 } // namespace
 
-TEST(KxFrameTime, EachRoundingGoesItsOwnWay)
+TEST(KxFrameTime, EachRoundingModeRoundsInItsDirection)
 {
     EXPECT_EQ(Rescale(7, 1, 3, Rounding::Down), 2);
     EXPECT_EQ(Rescale(7, 1, 3, Rounding::Nearest), 2);
@@ -82,7 +82,7 @@ TEST(KxFrameTime, RescalingAgreesWithLongDivision)
     }
 }
 
-TEST(KxFrameTime, EveryFrameIsFoundAgainAtItsTimeAndNotBefore)
+TEST(KxFrameTime, EveryFrameIsFoundAtItsTimeAndNotBefore)
 {
     for (const KxRational& rate : Rates) {
         for (const qint64 frame : {0LL, 1LL, 2LL, 3LL, 7LL, 1001LL, 30001LL, 1080000LL, 10000000000LL}) {
@@ -93,7 +93,7 @@ TEST(KxFrameTime, EveryFrameIsFoundAgainAtItsTimeAndNotBefore)
     }
 }
 
-TEST(KxFrameTime, ASampleIsFoundAgainFromATimeThatWasRoundedDown)
+TEST(KxFrameTime, ASampleIsFoundFromATimeThatWasRoundedDown)
 {
     for (const int rateHz : {8000, 11025, 44100, 48000, 192000}) {
         for (qint64 sample = 0; sample < 5000; ++sample) {

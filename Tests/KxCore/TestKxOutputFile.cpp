@@ -30,7 +30,7 @@ std::string NameOf(const std::string& path)
 
 } // namespace
 
-// These stand in front of the C library's functions of the same names.
+// These override the C library's functions of the same names.
 extern "C" {
 __attribute__((visibility("default"))) int fsync(int file)
 {
@@ -240,7 +240,7 @@ TEST_F(KxOutputFileTest, AFailedRenameLeavesNoReservedNameBehind)
     EXPECT_TRUE(Files().isEmpty()) << Files().join(QLatin1Char(' ')).toStdString();
 }
 
-TEST_F(KxOutputFileTest, TheNextWriterRemovesThePartOfADeadOne)
+TEST_F(KxOutputFileTest, TheNextWriterRemovesThePartOfAKilledOne)
 {
     QFile dead(Path(".auto-reframe-dEaDpa.part"));
     ASSERT_TRUE(dead.open(QIODevice::WriteOnly));
@@ -251,12 +251,12 @@ TEST_F(KxOutputFileTest, TheNextWriterRemovesThePartOfADeadOne)
     EXPECT_TRUE(QFile::exists((*output)->TemporaryPath()));
 }
 
-TEST_F(KxOutputFileTest, ThePartOfALivingWriterStays)
+TEST_F(KxOutputFileTest, ThePartOfARunningWriterIsKept)
 {
     const auto living = KxOutputFile::Create(Path("a.txt"));
     ASSERT_TRUE(living);
     {
-        // Whoever opens and closes the part must not release the writer's claim.
+        // Opening and closing the part must not release the writer's lock.
         QFile part((*living)->TemporaryPath());
         ASSERT_TRUE(part.open(QIODevice::WriteOnly));
     }

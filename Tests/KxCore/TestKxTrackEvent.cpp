@@ -100,7 +100,7 @@ TEST_F(KxTrackEventTest, ARelativeLogIsBesideTheConfigurationFile)
     EXPECT_EQ(LinesOf(PathOf(QStringLiteral("usage.log"))).size(), 1);
 }
 
-TEST_F(KxTrackEventTest, ALogThatCannotBeWrittenIsNoFailure)
+TEST_F(KxTrackEventTest, ALogThatCannotBeWrittenIsNotAFailure)
 {
     NameLog(PathOf(QStringLiteral("no/such/folder/usage.log")));
     Send(QStringLiteral("close_window"));

@@ -107,7 +107,7 @@ TEST(KxWorker, ATokenBelongsToOneJob)
     second.Open();
 }
 
-TEST(KxWorker, CancelAllDropsWhatWaitsAndCancelsWhatRuns)
+TEST(KxWorker, CancelAllDropsWaitingJobsAndCancelsTheRunningOne)
 {
     bool dropped = true;
     Gate gate;
@@ -206,7 +206,7 @@ TEST(KxThread, AnExceptionEndsTheThreadAndIsKept)
     EXPECT_FALSE(KxThread().Failure());
 }
 
-TEST(KxThread, AnotherOneTakesItsPlaceOnceItHasEnded)
+TEST(KxThread, AnotherThreadCanBeStartedOnceItHasEnded)
 {
     bool firstEnded = false;
     KxThread thread([&firstEnded] { firstEnded = true; });
@@ -216,7 +216,7 @@ TEST(KxThread, AnotherOneTakesItsPlaceOnceItHasEnded)
     EXPECT_TRUE(thread.Failure());
 }
 
-TEST(KxThread, KnowsItself)
+TEST(KxThread, RecognisesItsOwnThread)
 {
     std::promise<KxThread*> self;
     bool isCurrent = false;
