@@ -10,21 +10,22 @@
 namespace
 {
 
-// What the offscreen platform says of itself, and Qt's sound plugin of a machine without a sound server, whatever the
-// program does.
+// Messages that do not depend on the program: those of the offscreen platform, and those of Qt's sound plugin on a
+// machine without a sound server.
 bool IsThePlatforms(const QString& text)
 {
     return text.startsWith(QLatin1String("This plugin does not support ")) ||
            text.startsWith(QLatin1String("PulseAudioService: "));
 }
 
-// A warning that nobody expected is a fault that nobody looked for.
+// An unexpected warning usually indicates a fault that no test checks for.
 void FailOnWarning(QtMsgType type, const QMessageLogContext& context, const QString& text)
 {
     if (type == QtDebugMsg || type == QtInfoMsg || IsThePlatforms(text)) {
         return;
     }
-    ADD_FAILURE_AT(context.file != nullptr ? context.file : "(Qt)", context.line) << "Qt said: " << text.toStdString();
+    ADD_FAILURE_AT(context.file != nullptr ? context.file : "(Qt)", context.line)
+        << "Unexpected message of Qt: " << text.toStdString();
 }
 
 void PinEnvironment()

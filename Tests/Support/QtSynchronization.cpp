@@ -1,6 +1,6 @@
 // Debian's Qt is not built for ThreadSanitizer, which therefore does not see that a queued call, a task of a pool or a
 // QMutex passes data from one thread to another. These functions come before Qt's own and report what Qt synchronises;
-// without them every hand-over would have to be suppressed, and real races with it. Built only for ThreadSanitizer.
+// without them every transfer would have to be suppressed, and real races with it. Built only for ThreadSanitizer.
 #include <Tests/Support/QtSynchronization.h>
 
 #include <QCoreApplication>
@@ -19,7 +19,7 @@
 namespace
 {
 
-// Events carry no mark that both ends can see, so all of them share this one.
+// Events have no address that sender and receiver both know, so all of them share this one.
 char s_events;
 
 template<typename Function>
@@ -53,7 +53,7 @@ private:
     QRunnable* const m_task;
 };
 
-// Made for a future that this thread is about to start.
+// Created for a future that this thread is about to start.
 thread_local HandedOver* s_handedOver = nullptr;
 
 } // namespace
@@ -91,7 +91,7 @@ void QMutex::unlock() noexcept
     next(this);
 }
 
-// A future takes its task back from the pool where nobody has begun it, so it has to know what the pool was given.
+// A future takes back its task from the pool if it has not started yet, so the pool's original tasks are recorded.
 void QFutureInterfaceBase::setRunnable(QRunnable* runnable)
 {
     static const auto next =
@@ -111,7 +111,7 @@ void QThreadPool::start(QRunnable* runnable, int priority)
     next(this, task, priority);
 }
 
-// The watcher gets the end of a task as an event.
+// The watcher receives the end of a task as an event.
 void QFutureInterfaceBase::reportFinished()
 {
     static const auto next = Next<void (*)(QFutureInterfaceBase*)>("_ZN20QFutureInterfaceBase14reportFinishedEv");

@@ -10,13 +10,14 @@
 namespace
 {
 
-// A warning that nobody expected is a fault that nobody looked for.
+// An unexpected warning usually indicates a fault that no test checks for.
 void FailOnWarning(QtMsgType type, const QMessageLogContext& context, const QString& text)
 {
     if (type == QtDebugMsg || type == QtInfoMsg) {
         return;
     }
-    ADD_FAILURE_AT(context.file != nullptr ? context.file : "(Qt)", context.line) << "Qt said: " << text.toStdString();
+    ADD_FAILURE_AT(context.file != nullptr ? context.file : "(Qt)", context.line)
+        << "Unexpected message of Qt: " << text.toStdString();
 }
 
 } // namespace
