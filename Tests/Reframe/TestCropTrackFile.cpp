@@ -97,7 +97,7 @@ TEST_F(CropTrackFileTest, CsvHasTheDocumentedShape)
     EXPECT_EQ(lines.size(), 5);
 }
 
-TEST_F(CropTrackFileTest, WhatWasWrittenCanBeRead)
+TEST_F(CropTrackFileTest, AWrittenTrackCanBeRead)
 {
     for (const char* name : {"t.json", "t.csv"}) {
         const KxResult<CropTrack> track =
@@ -145,7 +145,7 @@ TEST_F(CropTrackFileTest, RefusesADeviceAndAPipe)
     ExpectRefused(Path("pipe.json"), "it is not a regular file");
 }
 
-TEST_F(CropTrackFileTest, EmptyLinesAreNoFrames)
+TEST_F(CropTrackFileTest, EmptyLinesDoNotCountAsFrames)
 {
     ExpectRefused(WithContent("lines.csv", QByteArray(60000, '\n')), "holds no frames");
     ExpectRefused(WithContent("lines.json", QByteArray(60000, '\n')), "no crop track (line 60001)");

@@ -86,7 +86,7 @@ protected:
         return End(process);
     }
 
-    /// Starts the program and returns when it has stopped itself at `place`; SIGCONT lets it go on.
+    /// Starts the program and returns when it has stopped itself at `place`; SIGCONT resumes it.
     static void StartStopped(QProcess& process, const QString& place, const QStringList& arguments)
     {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -125,7 +125,7 @@ TEST_F(ReframeInterruptTest, ASignalThatAsksToEndLeavesNothingBehind)
     }
 }
 
-TEST_F(ReframeInterruptTest, AProcessThatIsToSurviveItsTerminalDoes)
+TEST_F(ReframeInterruptTest, AProcessThatIgnoresHangUpSurvivesItsTerminal)
 {
     QProcess process;
     std::signal(SIGHUP, SIG_IGN);
@@ -178,7 +178,7 @@ TEST_F(ReframeInterruptTest, AFullStandardOutputIsAnError)
     EXPECT_EQ(End(help).exitStatus, 1);
 }
 
-TEST_F(ReframeInterruptTest, AReaderThatGoesAwayEndsTheProgramWithoutATrace)
+TEST_F(ReframeInterruptTest, AReaderThatGoesAwayEndsTheProgramWithoutLeavingFiles)
 {
     const QString clip = MakeClip(QStringLiteral("clip.mp4"));
     const QString pipe = Path(QStringLiteral("pipe"));
@@ -197,7 +197,7 @@ TEST_F(ReframeInterruptTest, AReaderThatGoesAwayEndsTheProgramWithoutATrace)
     EXPECT_EQ(Files(), before);
 }
 
-TEST_F(ReframeInterruptTest, AFileBeyondThePermittedSizeIsAnErrorOfItsInput)
+TEST_F(ReframeInterruptTest, AFileBeyondThePermittedSizeIsAnErrorOfThatInput)
 {
     const QString clip = MakeClip(QStringLiteral("clip.mp4"));
     const QStringList before = Files();
@@ -255,7 +255,7 @@ TEST_F(ReframeInterruptTest, OpeningAndTheContactSheetCanBeInterrupted)
     EXPECT_TRUE(QFile::exists(Path(QStringLiteral("sheet.png"))));
 }
 
-TEST_F(ReframeInterruptTest, MemoryThatRunsOutIsAnErrorOfThatInput)
+TEST_F(ReframeInterruptTest, RunningOutOfMemoryIsAnErrorOfThatInput)
 {
     const QString clip = MakeClip(QStringLiteral("clip.mp4"));
     const Ended ended =

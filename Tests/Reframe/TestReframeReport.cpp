@@ -261,7 +261,7 @@ TEST_F(ReframeReportTest, ABrowserShowsThePageWithoutAMessage)
     EXPECT_GT(CountOf(shown.screenshot, QColor(0xE8, 0xEA, 0xEE)), 1000) << "text";
 }
 
-TEST_F(ReframeReportTest, AMessageOfAPageIsSeen)
+TEST_F(ReframeReportTest, AMessageOfAPageIsDetected)
 {
     QFile page(Path(QStringLiteral("page.html")));
     ASSERT_TRUE(page.open(QIODevice::WriteOnly));
