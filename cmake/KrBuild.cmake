@@ -1,4 +1,4 @@
-# How every target of this tree is built.
+# The build settings of every target.
 
 option(KR_FORCE_ASSERTS "Keep Q_ASSERT and standard library assertions in optimised builds" OFF)
 option(KR_WARNINGS_AS_ERRORS "Treat compiler warnings as errors" OFF)
@@ -45,7 +45,7 @@ if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
     endif()
 endif()
 
-# The precompiled header of all targets. It is made once: one takes some 60 MB on the disk and two seconds.
+# The precompiled header of all targets. It is shared: each one takes about 60 MB on disk and two seconds.
 function(kr_add_precompiled_headers)
     file(GENERATE OUTPUT "${CMAKE_BINARY_DIR}/KrHeaders.cpp" CONTENT "")
     add_library(KrHeaders OBJECT "${CMAKE_BINARY_DIR}/KrHeaders.cpp")

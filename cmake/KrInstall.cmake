@@ -1,8 +1,8 @@
-# `cmake --install` puts down the programs, the libraries, the interfaces' headers and what find_package(KrAutoReframe) reads.
+# `cmake --install` installs the programs, the libraries, the interfaces' headers and the files for find_package(KrAutoReframe).
 
 include(CMakePackageConfigHelpers)
 
-# ./run builds one program. What else is to be installed is built by the installation.
+# ./run builds one program. The installation builds the other installed targets.
 add_custom_target(installed-parts)
 add_dependencies(installed-parts KxCore KxMedia KxSubject KxModel KxRender KxWidgets KxPlayer KxMediaLibrary KrAutoReframe
     reframe auto-reframe AutoReframeBackend)
@@ -15,7 +15,7 @@ install(TARGETS KxInterfaces KxCore KxMedia KxSubject KxModel KxRender KxWidgets
     LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
     ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}")
 install(TARGETS reframe auto-reframe RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
-# Where the desktop program looks for it.
+# The desktop program loads it from here.
 install(TARGETS AutoReframeBackend LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}")
 install(FILES Packaging/auto-reframe.desktop DESTINATION "${CMAKE_INSTALL_DATADIR}/applications")
 install(FILES Packaging/icon/auto-reframe.svg DESTINATION "${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps")

@@ -1,5 +1,5 @@
-# The parts of OpenCV that are used, as targets opencv_core, opencv_imgproc … Debian's packages of the single parts come
-# without a CMake configuration (that one needs every part there is), so it is used only where it exists.
+# The modules of OpenCV that are used, as targets opencv_core, opencv_imgproc … Debian's packages of single modules have no
+# CMake configuration (it requires all modules), so it is used only if it exists.
 
 set(KR_OPENCV_PARTS core imgproc video calib3d objdetect dnn)
 find_package(OpenCV 4.5.4 QUIET COMPONENTS ${KR_OPENCV_PARTS})
