@@ -1,5 +1,5 @@
-// How long an edit takes on a clip of two hours at 30 frames a second: from the call to keyframes handed to the host
-// and display rectangles rebuilt. The bar is one frame of a 60 Hz display.
+// Measures an edit on a clip of two hours at 30 frames a second: from the call until the keyframes have been passed to
+// the host and the display rectangles are rebuilt. The limit is one frame of a 60 Hz display.
 
 #include <KrAutoReframe/Engine/KrAutoReframeHelper.h>
 #include <KxModel/KxSimpleTimeline.h>

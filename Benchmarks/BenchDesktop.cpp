@@ -1,5 +1,5 @@
-// Uses the desktop program's window, dialog and queue as a person does, again and again. Needs a display, such as Xvfb.
-//   BenchDesktop cancel CLIP [--times N]      time from pressing Cancel until an analysis, and an export, has ended
+// Uses the desktop program's window, dialog and queue as a person does, repeatedly. Needs a display, such as Xvfb.
+//   BenchDesktop cancel CLIP [--times N]      time from pressing Cancel to the end of an analysis and of an export
 //   BenchDesktop memory CLIP... [--times N]   memory after each round of import, analysis, export and removal
 // Prints one line of JSON.
 

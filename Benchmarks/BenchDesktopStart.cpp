@@ -1,4 +1,4 @@
-// The desktop program, which ends here as soon as its window is painted.
+// The desktop program, which in this build ends as soon as its window is painted.
 
 #include <Apps/AutoReframe/MainWindow.h>
 
@@ -9,7 +9,7 @@
 namespace
 {
 
-/// Ends the process when the window is painted, before the program goes on with what it does after that.
+/// Ends the process when the window is painted, before the program continues.
 class Watch : public QObject
 {
 public:

@@ -1,4 +1,4 @@
-// How long the crop overlay takes to paint itself while it is dragged over a player of 1920 x 1080 pixels.
+// Measures one paint of the crop overlay while it is dragged over a player of 1920 x 1080 pixels.
 
 #include <KrAutoReframe/Player/ShadowForm.h>
 

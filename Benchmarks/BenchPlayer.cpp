@@ -1,7 +1,7 @@
-// How smoothly, how quickly and how cheaply the player shows a clip. Needs a display (Xvfb does):
+// Measures dropped frames, seek time and processor time of the player. Needs a display, such as Xvfb:
 //   BenchPlayer play CLIP [SECONDS]       frames shown and dropped, processor time
-//   BenchPlayer seek CLIP [TIMES]         from seek() to the end of the paint, beside reading the same frames alone
-//   BenchPlayer ffplay CLIP [SECONDS]     processor time of ffplay for the same clip in the same size
+//   BenchPlayer seek CLIP [TIMES]         from seek() to the end of the paint, compared with only reading the same
+//   frames BenchPlayer ffplay CLIP [SECONDS]     processor time of ffplay for the same clip in the same size
 // Prints one line of JSON.
 
 #include <KxMedia/Read/KxVideoReader.h>
@@ -53,7 +53,7 @@ double Quantile(std::vector<double> values, double part)
     return values[static_cast<size_t>(part * static_cast<double>(values.size() - 1))];
 }
 
-// Tells when a widget has been painted.
+// Reports when a widget has been painted.
 class PaintWatch : public QObject
 {
 public:

@@ -1,6 +1,6 @@
-// Decodes a file as the analysis does and looks at nothing:
+// Decodes a file as the analysis does, without analysing it:
 //   BenchScan CLIP
-// Prints one line of JSON. What `reframe --no-video` takes beyond this program is the analysis itself.
+// Prints one line of JSON. The additional time of `reframe --no-video` is the analysis itself.
 
 #include <KxMedia/Read/KxVideoScanner.h>
 

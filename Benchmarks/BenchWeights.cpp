@@ -1,7 +1,7 @@
-// Analyses a file with some tuning values changed, to see what hangs on them:
+// Analyses a file with some tuning values changed, to measure their effect:
 //   BenchWeights CLIP W:H OUT.json [NAME=FACTOR]...
 //   BenchWeights names
-// Each named value is taken FACTOR times. OUT.json gets the crop track.
+// Each named value is multiplied by FACTOR. The crop track is written to OUT.json.
 
 #include <KxMedia/Picture/KxPictureScaler.h>
 #include <KxMedia/Read/KxVideoScanner.h>
