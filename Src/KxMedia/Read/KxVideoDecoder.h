@@ -6,7 +6,7 @@
 /// Decodes a video stream from where its packets stand to the end, with one thread or more. Damaged packets are left
 /// out until too many follow each other. Size and pixel format of the pictures may change in mid-stream. One thread at
 /// a time.
-class KxVideoDecoder
+class KXMEDIA_API KxVideoDecoder
 {
 public:
     enum class Effort {

@@ -20,7 +20,7 @@
 ///    to a size they are walked through once, and the places of their key frames are kept; raw streams always are.
 ///
 /// One thread at a time.
-class KxVideoPackets
+class KXMEDIA_API KxVideoPackets
 {
 public:
     /// Where the stream ends, as far as packets tell.
