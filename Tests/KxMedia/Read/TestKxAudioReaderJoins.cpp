@@ -151,6 +151,10 @@ TEST(KxAudioReaderJoins, SoundAfterTheJoinOfAFileTooLargeToWalkThroughIsKept)
     KxAudioTrack::Run run;
     qint64 endPosition = 0;
     while ((*track)->Next(run) == KxReadStatus::Delivered) {
+        if (run.samples.empty()) {
+            continue;
+        }
+        EXPECT_NEAR(static_cast<double>(run.position - endPosition) / RateHz, 0, 0.15) << "a run out of place";
         endPosition = run.position + static_cast<qint64>(run.samples.size()) / 2;
     }
     EXPECT_NEAR(static_cast<double>(endPosition) / RateHz, 2 * PieceSeconds, 0.15);
