@@ -252,3 +252,12 @@ TEST(KxAudioReader, StopsWhenCancelled)
     }
     EXPECT_EQ(status, KxReadStatus::Cancelled);
 }
+
+TEST(KxAudioReader, ReadsFromTheStartAgainAfterTheEnd)
+{
+    const std::unique_ptr<KxAudioReader> reader = OpenAudio(Clicks(QStringLiteral("again.mov"), "-c:a pcm_s16le"));
+    ASSERT_NE(reader, nullptr);
+    ExpectClicksAt(ReadAll(*reader), {0, 1, 2, 3});
+    reader->Seek(0);
+    ExpectClicksAt(ReadAll(*reader), {0, 1, 2, 3});
+}
