@@ -131,8 +131,8 @@ void KxPlayback::SetArea(const QSize& area)
         return;
     }
     m_area = area;
-    const bool stands = m_source && (m_wanted || m_picture);
-    m_engine->SetArea(area, stands ? std::optional<int>(TargetFrame()) : std::nullopt);
+    const bool hasPicture = m_source && (m_wanted || m_picture);
+    m_engine->SetArea(area, hasPicture ? std::optional<int>(TargetFrame()) : std::nullopt);
 }
 
 void KxPlayback::PostLook()

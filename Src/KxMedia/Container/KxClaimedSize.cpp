@@ -8,8 +8,8 @@ namespace
 const QByteArray EbmlId = QByteArray::fromHex("1a45dfa3");
 const QByteArray SegmentId = QByteArray::fromHex("18538067");
 
-// A number that tells its own length: as many bytes as the first one has leading zeros, and one more. Nothing when all
-// its digits are ones, which stands for unknown.
+// A number of variable length: its first byte has one leading zero for each byte that follows. Returns nothing if all
+// value bits are ones, which means unknown.
 std::optional<qint64> TakeSize(const QByteArray& bytes, int& place)
 {
     const int first = place < bytes.size() ? static_cast<uchar>(bytes.at(place)) : 0;

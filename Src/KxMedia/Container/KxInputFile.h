@@ -44,7 +44,7 @@ public:
     /// It was truncated or written to since it was opened. That it grows, or is deleted, is no change. Costs a look at
     /// the file's entry in its folder.
     bool HasChanged() const;
-    /// The file says in front that it is longer than it is.
+    /// The header claims a larger file than there is.
     bool IsCutOff() const { return m_isCutOff; }
     AVFormatContext& Context() const { return *m_context; }
     /// The stream of moving pictures; null without one.

@@ -11,8 +11,8 @@
 class KxMaskedFile
 {
 public:
-    /// `file` is borrowed and stands at its start. `elements` are positions of four-byte element IDs. Context() is null
-    /// when memory runs out.
+    /// `file` is borrowed and positioned at its start. `elements` are positions of four-byte element IDs. Context() is
+    /// null when memory runs out.
     KxMaskedFile(AVIOContext& file, std::vector<qint64> elements);
     ~KxMaskedFile();
     KxMaskedFile(const KxMaskedFile&) = delete;

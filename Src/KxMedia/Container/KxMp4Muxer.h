@@ -6,7 +6,7 @@
 
 #include <vector>
 
-/// The container side of an MP4 file whose index stands at its front. Every failure is a negative libav* error. One
+/// The container side of an MP4 file whose index is at its front. Every failure is a negative libav* error. One
 /// thread at a time.
 class KxMp4Muxer
 {
@@ -20,7 +20,7 @@ public:
     bool HasBegun() const { return m_hasBegun; }
     /// `packet` is in the time base of its encoder and blank afterwards.
     int Write(AVPacket& packet, int stream);
-    /// Writes the rest, moves the index to the front and closes the file: errors that a disk tells late are seen here.
+    /// Writes the rest, moves the index to the front and closes the file: late write errors are detected here.
     int End();
 
 private:

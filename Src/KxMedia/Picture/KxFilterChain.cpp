@@ -38,7 +38,7 @@ int Connect(AVFilterGraph* graph, const char* steps, AVFilterContext* source, AV
     return error >= 0 ? avfilter_graph_config(graph, nullptr) : error;
 }
 
-KxError Told(int error)
+KxError ErrorOf(int error)
 {
     return error < 0 ? KxError(KxAvErrorText(error)) : std::nullopt;
 }
@@ -79,12 +79,12 @@ bool KxFilterChain::Fits(const AVFrame& picture) const
 
 KxError KxFilterChain::Add(KxAvFrame picture)
 {
-    return Told(av_buffersrc_add_frame(m_source, picture.get()));
+    return ErrorOf(av_buffersrc_add_frame(m_source, picture.get()));
 }
 
 KxError KxFilterChain::End()
 {
-    return Told(av_buffersrc_add_frame(m_source, nullptr));
+    return ErrorOf(av_buffersrc_add_frame(m_source, nullptr));
 }
 
 KxResult<KxAvFrame> KxFilterChain::Take()

@@ -54,7 +54,7 @@ bool KxPlaneResampler::Prepare(const Request& request)
     zimg_graph_builder_params_default(&params, ZIMG_API_VERSION);
     // Longer kernels keep a picture as sharp between two pixels as on them: a slow pan must not pulse.
     params.resample_filter = ZIMG_RESIZE_SPLINE36;
-    // An ordered pattern stands still from picture to picture, which noise and diffused errors do not.
+    // An ordered pattern is the same in every picture; noise and diffused errors would flicker.
     params.dither_type = request.sourceBits > request.targetBits ? ZIMG_DITHER_ORDERED : ZIMG_DITHER_NONE;
     params.cpu_type = ZIMG_CPU_AUTO_64B;
     m_graph.reset(zimg_filter_graph_build(&source, &target, &params));

@@ -9,7 +9,7 @@
 #include <vector>
 
 /// Averages a plane down to fewer samples of 8 bits: each sample of the source counts by the area that it shares with
-/// the target's, rows in steps of 2^(bits - 16), so that of 16 bits one row stands for all. Several times as quick as a
+/// the target's, rows in steps of 2^(bits - 16), so that 16-bit samples use one row. Several times as quick as a
 /// scaler that knows every filter. Keeps its buffers. One thread at a time.
 class KXMEDIA_API KxPlaneShrinker
 {

@@ -67,7 +67,7 @@ KxReadStatus KxAudioReader::Impl::ReadRun()
         if (status != KxReadStatus::Delivered) {
             return status;
         }
-        // Before time zero, or before the place that was sought, or told twice.
+        // Before time zero, before the position of a seek, or delivered already.
         const qint64 from = std::max<qint64>(0, next.value_or(0));
         const qint64 late = std::clamp<qint64>(from - more.position, 0, FramesIn(more));
         more.samples.erase(more.samples.begin(),

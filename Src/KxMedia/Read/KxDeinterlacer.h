@@ -7,12 +7,12 @@
 
 #include <deque>
 
-/// Makes one whole picture of each that is woven from two fields of different moments, at the moment of the first one;
-/// pictures in one piece stay as they are. As many pictures come out as went in, each at its own time.
+/// Deinterlaces: each interlaced picture becomes one progressive picture at the time of its first field;
+/// progressive pictures stay as they are. As many pictures come out as went in, each at its own time.
 ///
-/// The missing lines are found from the pictures before and after, so from the first woven picture on each one waits
-/// for the next. Where the filter is not to be had (a library without it, pictures of a few lines), woven pictures stay
-/// woven. One thread at a time.
+/// The missing lines are found from the pictures before and after, so from the first interlaced picture on each one
+/// waits for the next. If the filter is not available (a library without it, pictures of a few lines), pictures stay
+/// interlaced. One thread at a time.
 class KXMEDIA_API KxDeinterlacer
 {
 public:

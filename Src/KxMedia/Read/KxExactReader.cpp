@@ -7,7 +7,7 @@ namespace
 
 // Decoding a few pictures costs less than emptying the decoder's threads and filling them again.
 constexpr qint64 FewFrames = 16;
-// Without an index there is no telling where the next key frame is.
+// Without an index the position of the next key frame is unknown.
 constexpr double BlindSeekSeconds = 3.0;
 // Up to here before the frame, pictures may be left out.
 constexpr double FullBeforeSeconds = 1.0;
@@ -22,10 +22,10 @@ KxReadStatus KxExactReader::Read(qint64 frame, KxVideoFrame& picture)
     const qint64 wanted = std::clamp<qint64>(frame, 0, count - 1);
     const bool isShown = !m_current.IsNull() && m_current.Index() <= wanted &&
                          (m_isAtEnd || (!m_ahead.IsNull() && wanted < m_ahead.Index()));
-    KxReadStatus status = isShown ? KxReadStatus::Delivered : GoTo(wanted, Haste::LeaveOut);
+    KxReadStatus status = isShown ? KxReadStatus::Delivered : GoTo(wanted, SkipPolicy::SkipNonReference);
     if (status == KxReadStatus::Delivered && MayHaveLeftOutTheAnswer()) {
         Forget();
-        status = GoTo(wanted, Haste::Exact);
+        status = GoTo(wanted, SkipPolicy::DecodeAll);
     }
     if (status == KxReadStatus::Delivered && m_landedIndex && LacksTheEnd(wanted)) {
         status = GoFromFartherBack(wanted);
@@ -60,7 +60,7 @@ KxExactReader::Way KxExactReader::ChooseWay(qint64 frame)
     return secondsAhead > BlindSeekSeconds ? Way::Seek : Way::Continue;
 }
 
-KxReadStatus KxExactReader::GoTo(qint64 frame, Haste haste)
+KxReadStatus KxExactReader::GoTo(qint64 frame, SkipPolicy policy)
 {
     if (ChooseWay(frame) == Way::Seek) {
         const KxReadStatus status = Land(frame);
@@ -68,7 +68,7 @@ KxReadStatus KxExactReader::GoTo(qint64 frame, Haste haste)
             return status;
         }
     }
-    return DecodeUpTo(frame, haste);
+    return DecodeUpTo(frame, policy);
 }
 
 bool KxExactReader::LacksTheEnd(qint64 frame) const
@@ -79,7 +79,7 @@ bool KxExactReader::LacksTheEnd(qint64 frame) const
 KxReadStatus KxExactReader::GoFromFartherBack(qint64 frame)
 {
     KxReadStatus status = Land(*m_landedIndex - 1);
-    status = status == KxReadStatus::Delivered ? DecodeUpTo(frame, Haste::Exact) : status;
+    status = status == KxReadStatus::Delivered ? DecodeUpTo(frame, SkipPolicy::DecodeAll) : status;
     m_landedIndex.reset();
     return status;
 }
@@ -136,7 +136,7 @@ KxReadStatus KxExactReader::Advance()
     return status;
 }
 
-KxReadStatus KxExactReader::DecodeUpTo(qint64 frame, Haste haste)
+KxReadStatus KxExactReader::DecodeUpTo(qint64 frame, SkipPolicy policy)
 {
     const KxFrameGrid& grid = m_source->Grid();
     const qint64 fullFrames = static_cast<qint64>(FullBeforeSeconds * grid.Rate().ToDouble()) + FewFrames;
@@ -146,7 +146,7 @@ KxReadStatus KxExactReader::DecodeUpTo(qint64 frame, Haste haste)
             return KxReadStatus::Cancelled;
         }
         const std::optional<qint64> sent = m_source->Decoder().LastPacketTicks();
-        const bool isFar = haste == Haste::LeaveOut && sent && grid.IndexOf(*sent) + fullFrames < frame;
+        const bool isFar = policy == SkipPolicy::SkipNonReference && sent && grid.IndexOf(*sent) + fullFrames < frame;
         m_source->Decoder().SetSkip(isFar ? KxVideoDecoder::Skip::NonReference : KxVideoDecoder::Skip::Nothing);
         const KxReadStatus status = Advance();
         if (status == KxReadStatus::Cancelled) {

@@ -33,15 +33,15 @@ public:
 
 private:
     enum class Way { Continue, Seek };
-    enum class Haste { Exact, LeaveOut };
+    enum class SkipPolicy { DecodeAll, SkipNonReference };
 
     Way ChooseWay(qint64 frame);
-    KxReadStatus GoTo(qint64 frame, Haste haste);
+    KxReadStatus GoTo(qint64 frame, SkipPolicy policy);
     KxReadStatus GoFromFartherBack(qint64 frame);
     KxReadStatus Land(qint64 frame);
     void Forget();
     KxReadStatus Restart();
-    KxReadStatus DecodeUpTo(qint64 frame, Haste haste);
+    KxReadStatus DecodeUpTo(qint64 frame, SkipPolicy policy);
     KxReadStatus Advance();
     void NoteEnd();
     /// A picture after the one that was found was left out. Which ones were is not kept, so each of them may show at

@@ -30,9 +30,9 @@ private:
     std::optional<qint64> m_last;
 };
 
-/// Joins a clock that jumps, as in transport streams that were recorded or pasted in pieces: packets come in the order
-/// of decoding, and from a jump on an offset puts them one step after the last ones. Jumps are steps of more than a
-/// second back or of more than ten seconds ahead. Pure arithmetic, one thread at a time.
+/// Joins a clock that jumps, as in transport streams that were recorded in pieces or concatenated: packets come in the
+/// order of decoding, and from a jump on an offset puts them one step after the last ones. Jumps are steps of more than
+/// a second back or of more than ten seconds ahead. Pure arithmetic, one thread at a time.
 class KXMEDIA_API KxTimestampJoin
 {
 public:

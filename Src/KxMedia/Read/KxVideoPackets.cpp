@@ -188,7 +188,7 @@ std::optional<KxVideoPackets::Tail> KxVideoPackets::FindTail()
     return Rewind() ? ReadToEnd() : std::nullopt;
 }
 
-// How long a file that was cut off was meant to be: as it states in front, or as its index there tells. An index that
+// How long a file that was cut off was meant to be: according to its header or its index. An index that
 // grows while the file is read ends where the file does.
 std::optional<KxVideoPackets::Tail> KxVideoPackets::ClaimedTail() const
 {

@@ -23,7 +23,7 @@
 class KXMEDIA_API KxVideoPackets
 {
 public:
-    /// Where the stream ends, as far as packets tell.
+    /// Where the stream ends, according to its packets.
     struct Tail {
         /// Of the packet that is shown last; 0 duration when the file does not say.
         qint64 lastTicks = 0;

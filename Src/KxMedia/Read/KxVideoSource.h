@@ -8,7 +8,7 @@
 #include <KxMedia/Read/KxVideoDecoder.h>
 
 /// A file's video stream made ready: packets at the start, a decoder, the frame grid, the facts. What the exact reader
-/// and the scanner share. With full effort, pictures that are woven from two fields are made whole. One thread at a
+/// and the scanner share. With full effort, interlaced pictures are deinterlaced. One thread at a
 /// time.
 class KxVideoSource
 {
@@ -22,7 +22,7 @@ public:
     const KxMediaFacts& Facts() const { return m_facts; }
     KxMediaClock Clock() const { return {m_facts.video->firstPictureUs, m_packets->Jumps()}; }
     const KxFrameGrid& Grid() const { return *m_grid; }
-    /// The grid point at which the last picture comes, as far as packets tell.
+    /// The grid point of the last picture, according to the packets.
     qint64 LastPictureIndex() const { return m_lastPictureIndex; }
     KxVideoPackets& Packets() { return *m_packets; }
     KxVideoDecoder& Decoder() { return *m_decoder; }
@@ -49,7 +49,7 @@ private:
 
     std::unique_ptr<KxVideoPackets> m_packets;
     std::unique_ptr<KxVideoDecoder> m_decoder;
-    /// Nothing where pictures may stay woven.
+    /// Nothing if pictures may stay interlaced.
     std::optional<KxDeinterlacer> m_deinterlacer;
     std::optional<KxFrameGrid> m_grid;
     KxVideoFrame::Orientation m_orientation;

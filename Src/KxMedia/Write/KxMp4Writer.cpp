@@ -49,7 +49,7 @@ public:
 
 private:
     KxError Begin(const AVFrame& first);
-    KxError Told(int error) const;
+    KxError ErrorOf(int error) const;
     KxPacketSink Into(int stream);
 
     const Settings m_settings;
@@ -63,7 +63,7 @@ private:
     qint64 m_pictures = 0;
 };
 
-KxError KxMp4Writer::Impl::Told(int error) const
+KxError KxMp4Writer::Impl::ErrorOf(int error) const
 {
     return error < 0 ? KxError(Message(m_settings.path, KxAvErrorText(error))) : std::nullopt;
 }
@@ -109,7 +109,7 @@ KxError KxMp4Writer::Impl::Begin(const AVFrame& first)
         }
     }
     m_earlyAudio.clear();
-    return Told(error);
+    return ErrorOf(error);
 }
 
 KxError KxMp4Writer::Impl::AddPicture(const KxVideoFrame& picture, qint64 index)
@@ -123,7 +123,7 @@ KxError KxMp4Writer::Impl::AddPicture(const KxVideoFrame& picture, qint64 index)
         }
     }
     ++m_pictures;
-    return Told(m_video->Encode(picture.Picture(), index, Into(VideoStream)));
+    return ErrorOf(m_video->Encode(picture.Picture(), index, Into(VideoStream)));
 }
 
 KxError KxMp4Writer::Impl::AddAudio(const KxAudioBlock& block)
@@ -133,7 +133,7 @@ KxError KxMp4Writer::Impl::AddAudio(const KxAudioBlock& block)
         m_earlyAudio.push_back(block);
         return std::nullopt;
     }
-    return Told(m_audio->Encode(block, Into(AudioStream)));
+    return ErrorOf(m_audio->Encode(block, Into(AudioStream)));
 }
 
 KxResult<QString> KxMp4Writer::Impl::Finish()
@@ -149,8 +149,8 @@ KxResult<QString> KxMp4Writer::Impl::Finish()
     if (error >= 0) {
         error = m_muxer.End();
     }
-    if (KxError told = Told(error)) {
-        return Result::Failure(*told);
+    if (KxError failure = ErrorOf(error)) {
+        return Result::Failure(*failure);
     }
     return m_file->Commit(m_settings.existing);
 }

@@ -119,7 +119,7 @@ TEST(KxAudioReader, PlacesSoundAgainstTheFirstPicture)
         EXPECT_GE(sound.startUs, 0);
         ASSERT_GE(sound.Clicks().size(), 4U);
         for (const double click : sound.Clicks()) {
-            // Priming that a container does not tell of moves the sound of AAC and MP3 by up to 50 ms.
+            // Priming that a container does not signal moves the sound of AAC and MP3 by up to 50 ms.
             const bool isExact = codec == "aac.mp4" || codec.startsWith("pcm") || codec.startsWith("flac");
             EXPECT_NEAR(click, std::round(click), isExact ? 0.002 : 0.06);
         }

@@ -27,7 +27,7 @@ KxVideoDecoder::Picture Picture(qint64 ticks, const MadePicture::Value& value, c
     return {MadePicture::Make(AV_PIX_FMT_YUV420P, size, value), ticks};
 }
 
-KxVideoDecoder::Picture Woven(int number, Field first, qint64 ticks, const QSize& size = Size)
+KxVideoDecoder::Picture Interlaced(int number, Field first, qint64 ticks, const QSize& size = Size)
 {
     KxVideoDecoder::Picture picture = Picture(
         ticks,
@@ -115,8 +115,8 @@ TEST_F(TestKxDeinterlacer, WovenPicturesBecomeWholeOnesAtTheMomentOfTheirFirstFi
     for (const Field first : {Field::Top, Field::Bottom}) {
         m_taken.clear();
         for (int number = 0; number < 4; ++number) {
-            EXPECT_GT(Comb(*Woven(number, first, 0).frame), 200);
-            Add(Woven(number, first, number));
+            EXPECT_GT(Comb(*Interlaced(number, first, 0).frame), 200);
+            Add(Interlaced(number, first, number));
         }
         End();
         ASSERT_EQ(m_taken.size(), 4U);
@@ -133,11 +133,11 @@ TEST_F(TestKxDeinterlacer, WovenPicturesBecomeWholeOnesAtTheMomentOfTheirFirstFi
 
 TEST_F(TestKxDeinterlacer, EachPictureKeepsItsTimeAndWaitsForTheNextOne)
 {
-    Add(Woven(0, Field::Top, -7));
+    Add(Interlaced(0, Field::Top, -7));
     EXPECT_THAT(Times(), ElementsAre());
-    Add(Woven(1, Field::Top, 3));
+    Add(Interlaced(1, Field::Top, 3));
     EXPECT_THAT(Times(), ElementsAre(-7));
-    Add(Woven(2, Field::Top, qint64{1} << 40));
+    Add(Interlaced(2, Field::Top, qint64{1} << 40));
     EXPECT_THAT(Times(), ElementsAre(-7, 3));
     End();
     EXPECT_THAT(Times(), ElementsAre(-7, 3, qint64{1} << 40));
@@ -157,11 +157,11 @@ TEST_F(TestKxDeinterlacer, PicturesInOnePieceAreNeitherTouchedNorHeldBack)
 
 TEST_F(TestKxDeinterlacer, PicturesInOnePieceAmongWovenOnesStayAsTheyAre)
 {
-    Add(Woven(0, Field::Top, 0));
+    Add(Interlaced(0, Field::Top, 0));
     KxVideoDecoder::Picture picture = InOnePiece(1, 1);
     const std::uint8_t* const samples = picture.frame->data[0];
     Add(std::move(picture));
-    Add(Woven(2, Field::Top, 2));
+    Add(Interlaced(2, Field::Top, 2));
     End();
     ASSERT_THAT(Times(), ElementsAre(0, 1, 2));
     EXPECT_EQ(m_taken[1].frame->data[0], samples);
@@ -171,8 +171,8 @@ TEST_F(TestKxDeinterlacer, PicturesInOnePieceAmongWovenOnesStayAsTheyAre)
 TEST_F(TestKxDeinterlacer, SizeMayChangeFromPictureToPicture)
 {
     const QSize larger(96, 64);
-    Add(Woven(0, Field::Top, 0));
-    Add(Woven(1, Field::Top, 1, larger));
+    Add(Interlaced(0, Field::Top, 0));
+    Add(Interlaced(1, Field::Top, 1, larger));
     EXPECT_THAT(Times(), ElementsAre(0));
     Add(InOnePiece(2, 2));
     End();
@@ -184,11 +184,11 @@ TEST_F(TestKxDeinterlacer, SizeMayChangeFromPictureToPicture)
 
 TEST_F(TestKxDeinterlacer, PicturesOfAnotherPlaceAreForgotten)
 {
-    Add(Woven(0, Field::Top, 0));
+    Add(Interlaced(0, Field::Top, 0));
     m_deinterlacer.Reset();
     EXPECT_FALSE(m_deinterlacer.End());
-    Add(Woven(3, Field::Top, 3));
-    Add(Woven(4, Field::Top, 4));
+    Add(Interlaced(3, Field::Top, 3));
+    Add(Interlaced(4, Field::Top, 4));
     End();
     ASSERT_THAT(Times(), ElementsAre(3, 4));
     EXPECT_TRUE(ShowsTheBarOf(*m_taken[0].frame, 6, 21));
@@ -197,8 +197,8 @@ TEST_F(TestKxDeinterlacer, PicturesOfAnotherPlaceAreForgotten)
 TEST_F(TestKxDeinterlacer, PicturesThatAreTooSmallForItStayWoven)
 {
     const QSize line(64, 2);
-    Add(Woven(0, Field::Top, 0, line));
-    Add(Woven(1, Field::Top, 1, line));
+    Add(Interlaced(0, Field::Top, 0, line));
+    Add(Interlaced(1, Field::Top, 1, line));
     ASSERT_THAT(Times(), ElementsAre(0, 1));
     EXPECT_TRUE(ShowsTheBarOf(*m_taken[0].frame, 1, 1));
 }

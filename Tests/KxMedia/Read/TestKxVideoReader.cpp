@@ -136,7 +136,7 @@ TEST(KxVideoReader, FindsAnUnreferencedPictureThatIsHeldForLong)
     }
 }
 
-TEST(KxVideoReader, StandsPicturesUpright)
+TEST(KxVideoReader, RotatesPicturesUpright)
 {
     for (const int clockwise : {90, 180, 270}) {
         const QSize upright = clockwise == 180 ? QSize(96, 64) : QSize(64, 96);
@@ -159,19 +159,19 @@ TEST(KxVideoReader, StandsPicturesUpright)
     }
 }
 
-TEST(KxVideoReader, MakesPicturesWholeThatAreWovenFromTwoFields)
+TEST(KxVideoReader, DeinterlacesPictures)
 {
     MadeVideo::Recipe recipe = H264(24, "-flags +ildct+ilme -top 1 -crf 1", {96, 96});
     recipe.draw = [](int number) {
-        QImage woven(96, 96, QImage::Format_RGB888);
-        for (int y = 0; y < woven.height(); ++y) {
-            for (int x = 0; x < woven.width(); ++x) {
-                woven.setPixelColor(x, y, (x + 4 * number + 2 * (y % 2)) % 32 < 16 ? Qt::white : Qt::black);
+        QImage interlaced(96, 96, QImage::Format_RGB888);
+        for (int y = 0; y < interlaced.height(); ++y) {
+            for (int x = 0; x < interlaced.width(); ++x) {
+                interlaced.setPixelColor(x, y, (x + 4 * number + 2 * (y % 2)) % 32 < 16 ? Qt::white : Qt::black);
             }
         }
-        return woven;
+        return interlaced;
     };
-    const QString path = Path(QStringLiteral("woven.mp4"));
+    const QString path = Path(QStringLiteral("interlaced.mp4"));
     ASSERT_TRUE(MadeVideo::Make(path, recipe));
     const std::unique_ptr<KxVideoReader> reader = ReadClips::OpenReader(path);
     ASSERT_NE(reader, nullptr);
@@ -194,7 +194,7 @@ TEST(KxVideoReader, StretchesOblongPixels)
     EXPECT_EQ(ReadNumber(*reader, 7), 7);
 }
 
-TEST(KxVideoReader, JoinsTransportStreamsThatWerePastedTogether)
+TEST(KxVideoReader, JoinsConcatenatedTransportStreams)
 {
     const QString first = Path(QStringLiteral("first.ts"));
     const QString second = Path(QStringLiteral("second.ts"));

@@ -111,7 +111,7 @@ TEST(KxVideoScanner, DoesNotStarveWhereHardlyAnyPictureIsNeeded)
     EXPECT_GT(scan.indices.size(), 80U);
 }
 
-TEST(KxVideoScanner, TellsThatAFileWasCutOff)
+TEST(KxVideoScanner, ReportsThatAFileWasCutOff)
 {
     const QString whole = Made("scancut.mp4", 200, "-c:v libx264 -g 12 -bf 2 -pix_fmt yuv420p -movflags +faststart");
     QFile file(whole);

@@ -7,7 +7,7 @@
 #include <atomic>
 #include <vector>
 
-/// One export of the queue, as it stands.
+/// The state of one export of the queue.
 struct ExportItem {
     enum class State { Waiting, Running, Cancelling, Done, Failed, Cancelled };
 
