@@ -112,4 +112,5 @@ TEST(KxOutputGrid, RefusesRatesThatAreNotPositiveFiniteOrUpTo1000)
          {-25.0, 1e-5, 1001.0, std::numeric_limits<double>::quiet_NaN(), std::numeric_limits<double>::infinity()}) {
         EXPECT_FALSE(KxOutputGrid::Make({25, 1}, 100, wanted)) << wanted;
     }
+    EXPECT_EQ(Grid({25, 1}, 100, 1000.0).Rate(), (KxRational{1000, 1}));
 }

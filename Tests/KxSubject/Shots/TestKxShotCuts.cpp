@@ -52,6 +52,14 @@ TEST(KxShotCuts, Case1TheLargerOfTwoNeighboursIsTheCut)
     EXPECT_THAT(Find(changes), ElementsAre(31));
 }
 
+TEST(KxShotCuts, Case1TheLargerOfTheLastTwoPicturesIsTheCut)
+{
+    auto changes = Calm(60);
+    Jump(changes, 58, 40.0F, 0.6F);
+    Jump(changes, 59, 50.0F, 0.7F);
+    EXPECT_THAT(Find(changes), ElementsAre(59));
+}
+
 TEST(KxShotCuts, Case1AJumpOfOnlyOneSignalIsNotACut)
 {
     auto changes = Calm(60);

@@ -380,6 +380,24 @@ TEST_F(KxUIStyleTest, SpacePressesTheRingedButtonOtherwiseItIsTheShortcut)
     EXPECT_EQ(clicked.count(), 1);
 }
 
+TEST_F(KxUIStyleTest, AKeyWithAModifierIsAShortcutAlsoOnTheRingedButton)
+{
+    QWidget window;
+    auto* layout = new QVBoxLayout(&window);
+    KxPushButton* first = KxPushButton::CreatePrimaryButton(&window, 32);
+    KxPushButton* second = KxPushButton::CreatePrimaryButton(&window, 32);
+    layout->addWidget(first);
+    layout->addWidget(second);
+    QShortcut stop(QKeySequence(Qt::CTRL | Qt::Key_Space), &window);
+    QSignalSpy stopped(&stop, &QShortcut::activated);
+    ASSERT_TRUE(Hand::ShowActive(window));
+    first->setFocus();
+    QTest::keyClick(window.windowHandle(), Qt::Key_Tab);
+    ASSERT_EQ(QApplication::focusWidget(), second);
+    QTest::keyClick(window.windowHandle(), Qt::Key_Space, Qt::ControlModifier);
+    EXPECT_EQ(stopped.count(), 1);
+}
+
 TEST_F(KxUIStyleTest, SliderAndSwitchAreAccessible)
 {
     QWidget window;
