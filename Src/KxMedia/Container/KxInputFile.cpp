@@ -45,6 +45,13 @@ QByteArray Head(AVIOContext& file)
     return head;
 }
 
+/// To be compared, no more. QFileInfo would turn it into local time, which reads the time zone's file each time.
+std::filesystem::file_time_type LastWriteTime(const QString& path)
+{
+    std::error_code error;
+    return std::filesystem::last_write_time(std::filesystem::u8path(path.toUtf8().constData()), error);
+}
+
 /// The first bytes of whatever lies at `path` now.
 QByteArray HeadAt(const QString& path)
 {
@@ -154,7 +161,7 @@ QString KxInputFile::Message(const QString& path, const QString& reason)
 bool KxInputFile::HasChanged() const
 {
     const QFileInfo info(m_path);
-    if (!info.exists() || (info.size() >= m_fileSize && info.lastModified() == m_modified)) {
+    if (!info.exists() || (info.size() >= m_fileSize && LastWriteTime(m_path) == m_lastWrite)) {
         return false;
     }
     return info.size() <= m_fileSize || HeadAt(m_path) != m_head;
@@ -203,7 +210,7 @@ KxError KxInputFile::OpenFile()
     if (m_fileSize == 0) {
         return QStringLiteral("it is empty");
     }
-    m_modified = info.lastModified();
+    m_lastWrite = LastWriteTime(m_path);
     Options options;
     options.Set("protocol_whitelist", "file");
     const QByteArray url = QByteArrayLiteral("file:") + info.absoluteFilePath().toUtf8();

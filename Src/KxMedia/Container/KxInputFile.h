@@ -8,11 +8,11 @@
 #include <KxMedia/Container/KxReadStatus.h>
 
 #include <QByteArray>
-#include <QDateTime>
 #include <QSize>
 #include <QString>
 
 #include <chrono>
+#include <filesystem>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -82,7 +82,7 @@ private:
 
     QString m_path;
     qint64 m_fileSize = 0;
-    QDateTime m_modified;
+    std::filesystem::file_time_type m_lastWrite;
     QByteArray m_head;
     bool m_isCutOff = false;
     Watch m_watch;
