@@ -7,7 +7,8 @@
 #include <KxMedia/Read/KxVideoScanner.h>
 #include <KxModel/KxFaceModelFiles.h>
 #include <KxSubject/KxPictureView.h>
-#include <KxSubject/KxSubjectAnalyzer.h>
+#include <KxSubject/KxSubjectDecision.h>
+#include <KxSubject/KxSubjectObserver.h>
 #include <KxSubject/KxSubjectOptions.h>
 
 #include <QCoreApplication>
@@ -55,25 +56,21 @@ QMap<QString, double*> Values(KxSubjectOptions& options)
 QJsonArray Track(KxVideoScanner& scanner, const QSize& aspect, const KxSubjectOptions& options)
 {
     const KxMediaFacts facts = scanner.Facts();
-    KxSubjectRequest request;
-    request.pictureWidthPx = facts.video->resolution.width();
-    request.pictureHeightPx = facts.video->resolution.height();
-    request.frameRate = facts.video->frameRate.ToDouble();
-    request.frameCount = facts.video->frameCount;
-    request.aspectWidth = aspect.width();
-    request.aspectHeight = aspect.height();
-    KxSubjectAnalyzer analyzer(request, KxFaceModelFiles::Read({}).models, options);
-    const QSize size(analyzer.WorkingSize().width, analyzer.WorkingSize().height);
+    const KxSubjectSource source{facts.video->resolution.width(), facts.video->resolution.height(),
+                                 facts.video->frameRate.ToDouble(), facts.video->frameCount};
+    KxSubjectObserver observer(source, KxFaceModelFiles::Read({}).models, options);
+    const QSize size(observer.WorkingSize().width, observer.WorkingSize().height);
     KxPictureScaler scaler(KxPictureScaler::Detail::Coarse);
     KxVideoFrame picture;
     while (scanner.Next(picture) == KxReadStatus::Delivered) {
         const QImage image = scaler.Scale(picture, size, QImage::Format_BGR888);
-        analyzer.AddPicture(
+        observer.AddPicture(
             picture.Index(),
             {image.constBits(), {image.width(), image.height()}, static_cast<std::size_t>(image.bytesPerLine())});
     }
     QJsonArray frames;
-    for (const KxCropRect& crop : analyzer.Finish(KxCancelToken())) {
+    for (const KxCropRect& crop :
+         KxDecide(observer.Finish(), {aspect.width(), aspect.height()}, options, KxCancelToken()).crops) {
         frames.append(QJsonArray{crop.x, crop.y, crop.width, crop.height});
     }
     return frames;

@@ -8,8 +8,9 @@
 #include <KxMedia/Picture/KxPictureScaler.h>
 #include <KxMedia/Read/KxVideoScanner.h>
 #include <KxSubject/KxPictureView.h>
-#include <KxSubject/KxSubjectAnalyzer.h>
-#include <KxSubject/KxSubjectFindings.h>
+#include <KxSubject/KxSubjectDecision.h>
+#include <KxSubject/KxSubjectObserver.h>
+#include <KxSubject/KxSubjectOptions.h>
 
 #include <QFileInfo>
 
@@ -23,18 +24,14 @@ KxMotionSpeed SpeedOfMode(int mode)
     return mode == fast ? KxMotionSpeed::Fast : mode == slow ? KxMotionSpeed::Slow : KxMotionSpeed::Auto;
 }
 
-KxSubjectRequest RequestFor(const KxVideoFacts& video, const IKxAutoReframeParam& param, bool wantsFindings)
+KxSubjectSource SourceOf(const KxVideoFacts& video)
 {
-    KxSubjectRequest request;
-    request.pictureWidthPx = video.resolution.width();
-    request.pictureHeightPx = video.resolution.height();
-    request.frameRate = video.frameRate.ToDouble();
-    request.frameCount = video.frameCount;
-    request.aspectWidth = param.targetSize().width();
-    request.aspectHeight = param.targetSize().height();
-    request.speed = SpeedOfMode(param.mode());
-    request.wantsFindings = wantsFindings;
-    return request;
+    return {video.resolution.width(), video.resolution.height(), video.frameRate.ToDouble(), video.frameCount};
+}
+
+KxSubjectRequest RequestFor(const IKxAutoReframeParam& param, bool wantsFindings)
+{
+    return {param.targetSize().width(), param.targetSize().height(), SpeedOfMode(param.mode()), wantsFindings};
 }
 
 KxPictureView ViewOf(const QImage& image)
@@ -60,30 +57,30 @@ KxAnalysis::~KxAnalysis() = default;
 class KxVideoAnalysis::Job
 {
 public:
-    Job(KxVideoScanner& scanner, KxSubjectAnalyzer& analyzer, const KxCancelToken& cancel)
+    Job(KxVideoScanner& scanner, KxSubjectObserver& observer, const KxCancelToken& cancel)
         : m_scanner(scanner)
-        , m_analyzer(analyzer)
+        , m_observer(observer)
         , m_cancel(cancel)
     {
     }
 
-    /// Adds every picture to the analyzer.
+    /// Adds every picture to the observer.
     KxError Run(const std::function<void(int)>& onProgress)
     {
         return KxPicturePipeline::Run([&](const KxPicturePipeline::Put& put) { Decode(put, onProgress); },
-                                      [this](const KxPicturePipeline::Picture& picture) { Find(picture); });
+                                      [this](const KxPicturePipeline::Picture& picture) { Observe(picture); });
     }
 
 private:
     void Decode(const KxPicturePipeline::Put& put, const std::function<void(int)>& onProgress)
     {
         const qint64 frameCount = m_scanner.Facts().video->frameCount;
-        const KxIntSize size = m_analyzer.WorkingSize();
+        const KxIntSize size = m_observer.WorkingSize();
         KxPictureScaler scaler(KxPictureScaler::Detail::Coarse);
         int reported = -1;
         KxVideoFrame picture;
         while (!m_cancel.IsCancelled() && m_scanner.Next(picture) == KxReadStatus::Delivered) {
-            if (m_analyzer.Wants(picture.Index())) {
+            if (m_observer.Wants(picture.Index())) {
                 QImage image = scaler.Scale(picture, QSize(size.width, size.height), QImage::Format_BGR888);
                 if (!image.isNull() && !put({picture.Index(), std::move(image)})) {
                     return;
@@ -97,15 +94,15 @@ private:
         }
     }
 
-    void Find(const KxPicturePipeline::Picture& picture)
+    void Observe(const KxPicturePipeline::Picture& picture)
     {
         if (!m_cancel.IsCancelled()) {
-            m_analyzer.AddPicture(picture.frame, ViewOf(picture.image));
+            m_observer.AddPicture(picture.frame, ViewOf(picture.image));
         }
     }
 
     KxVideoScanner& m_scanner;
-    KxSubjectAnalyzer& m_analyzer;
+    KxSubjectObserver& m_observer;
     KxCancelToken m_cancel;
 };
 
@@ -148,9 +145,10 @@ KxAnalysis::Result KxVideoAnalysis::Run(const std::function<void(int percent)>& 
     Result result;
     const KxMediaFacts facts = m_scanner->Facts();
     KxFaceModelFiles::Contents faces = KxFaceModelFiles::Read(m_settings.faceDetectorPath);
-    KxSubjectAnalyzer analyzer(RequestFor(*facts.video, m_param, m_settings.wantsFindings), faces.models);
+    const KxSubjectOptions options;
+    KxSubjectObserver observer(SourceOf(*facts.video), faces.models, options);
     faces.models = {};
-    const KxError problem = Job(*m_scanner, analyzer, m_cancel).Run(onProgress);
+    const KxError problem = Job(*m_scanner, observer, m_cancel).Run(onProgress);
     const bool endedEarly = m_scanner->EndedEarly();
     // The decoder's buffers take the most memory: they are freed before the results of every frame are made.
     m_scanner.reset();
@@ -160,23 +158,24 @@ KxAnalysis::Result KxVideoAnalysis::Run(const std::function<void(int percent)>& 
         result.message = QStringLiteral("Cannot analyse %1: %2.").arg(name, problem->simplified());
         return result;
     }
-    const std::vector<KxCropRect> crops = analyzer.Finish(m_cancel);
+    KxSubjectDecision decision =
+        KxDecide(observer.Finish(), RequestFor(m_param, m_settings.wantsFindings), options, m_cancel);
     if (m_cancel.IsCancelled()) {
         result.outcome = KxOutcome::Cancelled;
         return result;
     }
     if (!faces.detectorProblem.isEmpty()) {
         result.warnings += faces.detectorProblem;
-    } else if (analyzer.IsFaceDetectorRefused()) {
+    } else if (observer.IsFaceDetectorRefused()) {
         result.warnings += KxFaceModelFiles::DetectorProblem(
             m_settings.faceDetectorPath, QStringLiteral("it is not a face detector that OpenCV can run"));
     }
     if (endedEarly) {
         result.warnings += QStringLiteral("%1 is cut off or damaged: it decodes only in part.").arg(name);
     }
-    result.crops = ResultsOf(crops);
+    result.crops = ResultsOf(decision.crops);
     if (m_settings.wantsFindings) {
-        result.findings = std::make_shared<KxSubjectFindings>(analyzer.Findings());
+        result.findings = std::make_shared<KxSubjectFindings>(std::move(decision.findings));
     }
     result.outcome = KxOutcome::Done;
     return result;

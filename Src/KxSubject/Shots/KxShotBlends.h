@@ -2,7 +2,7 @@
 
 #include <KxCore/KxExport.h>
 
-#include <KxSubject/Shots/KxShotBoundary.h>
+#include <KxSubject/KxShotBoundary.h>
 #include <KxSubject/Shots/KxShotWindow.h>
 
 #include <opencv2/core/mat.hpp>

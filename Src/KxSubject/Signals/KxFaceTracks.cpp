@@ -3,25 +3,20 @@
 #include <opencv2/core.hpp>
 
 #include <algorithm>
-#include <cmath>
+#include <iterator>
 
 namespace
 {
 
 constexpr double Early = 1e-3; ///< seconds: a sample at exactly the time of a look is due
 
+KxFaceLook LookAt(double seconds, const std::optional<cv::Rect>& face)
+{
+    const cv::Rect_<std::int16_t> box = face.value_or(cv::Rect());
+    return {static_cast<float>(seconds), box.x, box.y, box.width, box.height};
+}
+
 } // namespace
-
-KxFaceTracks::Look::Look(double time, const std::optional<cv::Rect>& face)
-    : timeSeconds(static_cast<float>(time))
-    , box(face.value_or(cv::Rect()))
-{
-}
-
-std::optional<cv::Rect> KxFaceTracks::Look::Face() const
-{
-    return box.width > 0 ? std::optional<cv::Rect>(box) : std::nullopt;
-}
 
 KxFaceTracks::KxFaceTracks(const KxSubjectOptions::Faces& options, KxFaceFinder finder)
     : m_options(options)
@@ -88,22 +83,22 @@ void KxFaceTracks::LookEverywhere(double timeSeconds, const cv::Mat& picture, co
         });
         const bool looked = track.looks.back().timeSeconds >= static_cast<float>(timeSeconds);
         if (same != faces.end()) {
-            if (looked && !track.looks.back().Face()) {
-                track.looks.back() = Look(timeSeconds, *same);
+            if (looked && !track.looks.back().IsFace()) {
+                track.looks.back() = LookAt(timeSeconds, *same);
             } else if (!looked) {
-                track.looks.emplace_back(timeSeconds, *same);
+                track.looks.push_back(LookAt(timeSeconds, *same));
             }
             track.last = *same;
             track.misses = 0;
             faces.erase(same);
         } else if (m_finder.UsesDetector() && !looked) {
-            track.looks.emplace_back(timeSeconds, std::nullopt);
+            track.looks.push_back(LookAt(timeSeconds, std::nullopt));
             ++track.misses;
         }
     }
     m_looksWithoutNews = faces.empty() ? m_looksWithoutNews + 1 : 0;
     for (const cv::Rect& face : faces) {
-        m_tracks.push_back({view, {Look(timeSeconds, face)}, face, 0});
+        m_tracks.push_back({{{LookAt(timeSeconds, face)}}, view, face, 0});
     }
 }
 
@@ -120,59 +115,15 @@ void KxFaceTracks::Follow(double timeSeconds, const cv::Mat& grey)
             continue;
         }
         const std::optional<cv::Rect> face = m_finder.FindNear(grey, track.view, track.last);
-        track.looks.emplace_back(timeSeconds, face);
+        track.looks.push_back(LookAt(timeSeconds, face));
         track.misses = face ? 0 : track.misses + 1;
         track.last = face.value_or(track.last);
     }
 }
 
-double KxFaceTracks::SizeWeight(const cv::Rect& face, cv::Size picturePx) const
+std::vector<KxFaceTrack> KxFaceTracks::Finish()
 {
-    const double share = static_cast<double>(face.width) / std::min(picturePx.width, picturePx.height);
-    return std::clamp((share - m_options.zeroWeightShare) / (m_options.fullWeightShare - m_options.zeroWeightShare),
-                      0.0, 1.0);
-}
-
-KxFaceTracks::Detections KxFaceTracks::DetectionsOf(const Track& track, double fromSeconds, double toSeconds,
-                                                    cv::Size picturePx) const
-{
-    Detections detections;
-    const auto isBefore = [](const Look& look, double time) { return look.timeSeconds < time; };
-    for (auto look = std::lower_bound(track.looks.begin(), track.looks.end(), fromSeconds, isBefore);
-         look != track.looks.end() && look->timeSeconds <= toSeconds; ++look) {
-        ++detections.looks;
-        if (const std::optional<cv::Rect> face = look->Face()) {
-            ++detections.hits;
-            detections.sum += cv::Vec4d(face->x, face->y, face->width, face->height);
-            detections.weight += SizeWeight(*face, picturePx);
-        }
-    }
-    return detections;
-}
-
-KxSignalProfile KxFaceTracks::ProfileAt(double timeSeconds, double fromSeconds, double toSeconds, KxAxis axis,
-                                        double emptyFloor, cv::Size picturePx) const
-{
-    const double first = std::max(fromSeconds, timeSeconds - m_options.windowSeconds);
-    const double last = std::min(toSeconds, timeSeconds + m_options.windowSeconds);
-    const bool across = axis == KxAxis::Across;
-    const int lengthPx = across ? picturePx.width : picturePx.height;
-    KxSignalProfile faces;
-    for (const Track& track : m_tracks) {
-        if (track.looks.front().timeSeconds > last || track.looks.back().timeSeconds < first) {
-            continue;
-        }
-        const Detections detections = DetectionsOf(track, first, last, picturePx);
-        if (detections.hits <= m_options.agreeing) {
-            continue;
-        }
-        const cv::Vec4d face = detections.sum / detections.hits;
-        const double height = face[3] * (1.0 + m_options.growDown);
-        const double area = face[2] * height / picturePx.area();
-        const double from = (across ? face[0] : face[1]) / lengthPx;
-        faces.Add(from, from + (across ? face[2] : height) / lengthPx, detections.weight / detections.looks * area);
-    }
-    KxSignalProfile scaled;
-    scaled.Add(faces, 1.0 / (static_cast<double>(faces.Sum()) + emptyFloor));
-    return scaled;
+    std::vector<KxFaceTrack> faces(std::make_move_iterator(m_tracks.begin()), std::make_move_iterator(m_tracks.end()));
+    m_tracks.clear();
+    return faces;
 }

@@ -2,8 +2,7 @@
 
 #include <KxCore/KxExport.h>
 
-#include <KxSubject/KxCropGeometry.h>
-#include <KxSubject/KxSignalProfile.h>
+#include <KxSubject/KxSubjectRecord.h>
 #include <KxSubject/Signals/KxFaceFinder.h>
 
 #include <cstdint>
@@ -26,39 +25,20 @@ public:
     /// Takes a look if one is due. Times grow from call to call.
     void AddPicture(double timeSeconds, const cv::Mat& picture, const cv::Mat& grey);
 
-    /// One look for one face: its box, or that it was not there. Small, because hours of them are kept.
-    struct Look {
-        Look(double time, const std::optional<cv::Rect>& face);
-        std::optional<cv::Rect> Face() const; ///< in pixels of the working picture
-
-        float timeSeconds;
-        cv::Rect_<std::int16_t> box; ///< empty: no face
-    };
-    struct Track {
+    struct Track : KxFaceTrack {
         KxFaceView view = KxFaceView::Frontal;
-        std::vector<Look> looks; ///< growing in time; the first one found the face
         cv::Rect last;
         int misses = 0;
     };
     const std::vector<Track>& Tracks() const { return m_tracks; }
 
-    /// The profile of all faces at a time. Only looks between `fromSeconds` and `toSeconds` (a shot) count.
-    KxSignalProfile ProfileAt(double timeSeconds, double fromSeconds, double toSeconds, KxAxis axis, double emptyFloor,
-                              cv::Size picturePx) const;
+    /// Every track. Call once, after the last picture.
+    std::vector<KxFaceTrack> Finish();
 
 private:
-    /// Sums over the looks for one face between two times.
-    struct Detections {
-        int looks = 0;
-        int hits = 0;
-        cv::Vec4d sum; ///< of the boxes: x, y, width, height
-        double weight = 0.0;
-    };
-    Detections DetectionsOf(const Track& track, double fromSeconds, double toSeconds, cv::Size picturePx) const;
     bool IsFollowing() const;
     void LookEverywhere(double timeSeconds, const cv::Mat& picture, const cv::Mat& grey, KxFaceView view);
     void Follow(double timeSeconds, const cv::Mat& grey);
-    double SizeWeight(const cv::Rect& face, cv::Size picturePx) const;
 
     KxSubjectOptions::Faces m_options;
     KxFaceFinder m_finder;

@@ -107,7 +107,7 @@ std::optional<double> KxMoverTracks::AssociationCost(const Track& track, const B
     return distance + m_options.growthCost * growth - m_options.ageGain * std::min(track.hits, HitsThatCount);
 }
 
-KxMoverTracks::Mover::PackedBox KxMoverTracks::Packed(const cv::Rect& box) const
+KxMover::PackedBox KxMoverTracks::Packed(const cv::Rect& box) const
 {
     const auto packed = [](double value, double whole) {
         return static_cast<std::uint8_t>(std::lround(std::clamp(value / whole, 0.0, 1.0) * PackedOne));
@@ -128,10 +128,10 @@ void KxMoverTracks::Extend(Track& track, const Blob& blob) const
     ++track.hits;
     track.lastSeconds = m_nowSeconds;
 
-    const Mover::PackedBox before = track.mover.boxes.back();
-    const Mover::PackedBox now = Packed(blob.box);
+    const KxMover::PackedBox before = track.mover.boxes.back();
+    const KxMover::PackedBox now = Packed(blob.box);
     for (int missed = 1; missed <= track.misses; ++missed) {
-        Mover::PackedBox between;
+        KxMover::PackedBox between;
         for (std::size_t i = 0; i < between.size(); ++i) {
             between[i] = static_cast<std::uint8_t>(before[i] + (now[i] - before[i]) * missed / (track.misses + 1));
         }
@@ -196,7 +196,6 @@ void KxMoverTracks::End(Track& track)
     if (confidence > m_options.leastConfidence) {
         track.mover.confidence = static_cast<float>(confidence);
         track.mover.boxes.shrink_to_fit();
-        m_longest = std::max(m_longest, static_cast<std::int32_t>(track.mover.boxes.size()));
         m_movers.push_back(std::move(track.mover));
     }
 }
@@ -228,45 +227,10 @@ void KxMoverTracks::AddMap(double timeSeconds, const cv::Mat& map, const std::op
     }
 }
 
-void KxMoverTracks::Finish()
+std::vector<KxMover> KxMoverTracks::Finish()
 {
     EndAll();
     std::stable_sort(m_movers.begin(), m_movers.end(),
-                     [](const Mover& a, const Mover& b) { return a.firstSample < b.firstSample; });
-}
-
-bool KxMoverTracks::Mover::Covers(std::size_t sample) const
-{
-    const auto first = static_cast<std::size_t>(firstSample);
-    return sample >= first && sample - first < boxes.size();
-}
-
-KxMoverTracks::Box KxMoverTracks::Mover::At(std::size_t sample) const
-{
-    const PackedBox& box = boxes[sample - static_cast<std::size_t>(firstSample)];
-    return {box[0] / PackedOne, box[1] / PackedOne, (box[2] - box[0]) / PackedOne, (box[3] - box[1]) / PackedOne};
-}
-
-KxSignalProfile KxMoverTracks::ProfileAt(std::size_t sample, KxAxis axis) const
-{
-    const auto last = static_cast<std::int32_t>(sample);
-    const auto begins = [](const Mover& mover, std::int32_t at) { return mover.firstSample < at; };
-    KxSignalProfile movers;
-    double whole = m_options.emptyFloor;
-    for (auto mover = std::lower_bound(m_movers.begin(), m_movers.end(), last - m_longest, begins);
-         mover != m_movers.end() && mover->firstSample <= last; ++mover) {
-        if (!mover->Covers(sample)) {
-            continue;
-        }
-        const Box box = mover->At(sample);
-        const double weight =
-            mover->confidence * std::pow(box.width * box.height, m_options.areaPower) / m_options.levels;
-        const bool across = axis == KxAxis::Across;
-        const double from = across ? box.x : box.y;
-        movers.Add(from, from + (across ? box.width : box.height), weight);
-        whole += weight;
-    }
-    KxSignalProfile scaled;
-    scaled.Add(movers, 1.0 / whole);
-    return scaled;
+                     [](const KxMover& a, const KxMover& b) { return a.firstSample < b.firstSample; });
+    return std::move(m_movers);
 }

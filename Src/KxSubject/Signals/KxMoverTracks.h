@@ -2,14 +2,12 @@
 
 #include <KxCore/KxExport.h>
 
-#include <KxSubject/KxCropGeometry.h>
-#include <KxSubject/KxSignalProfile.h>
 #include <KxSubject/KxSubjectOptions.h>
+#include <KxSubject/KxSubjectRecord.h>
 
 #include <opencv2/core/mat.hpp>
 #include <opencv2/core/matx.hpp>
 
-#include <array>
 #include <cstdint>
 #include <optional>
 #include <vector>
@@ -27,34 +25,9 @@ public:
     /// previous sample onto this one; without it every track ends, because the scene is another.
     void AddMap(double timeSeconds, const cv::Mat& map, const std::optional<cv::Matx33d>& camera);
 
-    /// Ends the open tracks. Call once, after the last map.
-    void Finish();
-
-    /// In fractions of the map.
-    struct Box {
-        double x = 0.0;
-        double y = 0.0;
-        double width = 0.0;
-        double height = 0.0;
-    };
-    /// A mover that was tracked long enough to count.
-    struct Mover {
-        /// A box in 255ths of the map: hours of them are kept.
-        using PackedBox = std::array<std::uint8_t, 4>;
-
-        std::int32_t firstSample = 0;
-        float confidence = 0.0F;      ///< 0 to 1, of being a subject
-        std::vector<PackedBox> boxes; ///< one a sample; left, top, right, bottom
-
-        Box At(std::size_t sample) const;
-        bool Covers(std::size_t sample) const;
-    };
-
-    /// In the order of their first samples; whole only after Finish.
-    const std::vector<Mover>& Movers() const { return m_movers; }
-
-    /// Where the movers of a sample lie along an axis of the map. Valid after Finish.
-    KxSignalProfile ProfileAt(std::size_t sample, KxAxis axis) const;
+    /// Ends the open tracks. The movers that were tracked long enough to count, in the order of their first samples.
+    /// Call once, after the last map.
+    std::vector<KxMover> Finish();
 
 private:
     struct Blob {
@@ -72,7 +45,7 @@ private:
         double lastSeconds = 0.0; ///< of the last detection
         int hits = 1;
         int misses = 0;
-        Mover mover;
+        KxMover mover;
     };
     struct Peak {
         float value;
@@ -87,7 +60,7 @@ private:
     void Extend(Track& track, const Blob& blob) const;
     /// Lower is better; nothing if the two cannot match.
     std::optional<double> AssociationCost(const Track& track, const Blob& blob) const;
-    Mover::PackedBox Packed(const cv::Rect& box) const;
+    KxMover::PackedBox Packed(const cv::Rect& box) const;
     void End(Track& track);
     void EndAll();
 
@@ -97,6 +70,5 @@ private:
     double m_nowSeconds = 0.0;
     double m_gapSeconds = 0.0;              ///< since the sample before
     std::vector<std::vector<Track>> m_open; ///< by level
-    std::vector<Mover> m_movers;
-    std::int32_t m_longest = 0; ///< samples, of all movers
+    std::vector<KxMover> m_movers;
 };

@@ -107,35 +107,21 @@ void KxSignalRecorder::MeasureMotion(const Picture* after)
     m_movers.AddMap(SecondsAt(m_newest->frame), map, m_newest->cameraHere);
 }
 
-void KxSignalRecorder::Finish()
+KxCropRect KxSignalRecorder::ContentShare() const
+{
+    const cv::Rect content = m_bars.Content();
+    const auto width = static_cast<double>(m_picturePx.width);
+    const auto height = static_cast<double>(m_picturePx.height);
+    return {content.x / width, content.y / height, content.width / width, content.height / height};
+}
+
+void KxSignalRecorder::Finish(KxSubjectRecord& record)
 {
     MeasureMotion(nullptr);
     m_before.reset();
     m_newest.reset();
-    m_movers.Finish();
-}
-
-KxSignalProfile KxSignalRecorder::Evidence::Sum() const
-{
-    KxSignalProfile sum = motion;
-    sum.Add(movers, 1.0);
-    sum.Add(saliency, 1.0);
-    sum.Add(faces, 1.0);
-    return sum;
-}
-
-KxSignalRecorder::Evidence KxSignalRecorder::EvidenceAt(std::size_t sample, std::int64_t first, std::int64_t end,
-                                                        KxAxis axis) const
-{
-    const KxSubjectOptions::Evidence& weights = m_options.evidence;
-    const auto side = static_cast<std::size_t>(axis);
-    Evidence evidence;
-    evidence.motion.Add(m_samples[sample].motion[side].Unpacked(), weights.motionWeight);
-    evidence.movers.Add(m_movers.ProfileAt(sample, axis), weights.moverWeight);
-    evidence.saliency.Add(m_samples[sample].saliency[side].Unpacked(),
-                          axis == KxAxis::Across ? weights.saliencyWeightAcross : weights.saliencyWeightUpDown);
-    evidence.faces.Add(m_faces.ProfileAt(SecondsAt(m_samples[sample].frame), SecondsAt(first), SecondsAt(end - 1), axis,
-                                         weights.emptyFloor, m_picturePx),
-                       weights.faceWeight);
-    return evidence;
+    record.content = ContentShare();
+    record.samples = std::move(m_samples);
+    record.movers = m_movers.Finish();
+    record.faces = m_faces.Finish();
 }

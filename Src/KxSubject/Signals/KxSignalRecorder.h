@@ -12,13 +12,6 @@
 #include <optional>
 #include <vector>
 
-/// The measurements of one sampled picture, along both axes.
-struct KxSignalSample {
-    std::int32_t frame = 0;
-    std::array<KxPackedProfile, 2> motion;   ///< by axis
-    std::array<KxPackedProfile, 2> saliency; ///< by axis
-};
-
 /// Runs the signals over a video's pictures as they come and records their evidence: profiles of the samples, movers,
 /// faces, bars. The motion of a sample is measured against both of its neighbours, so it is known one sample later.
 /// Keeps two pictures.
@@ -35,24 +28,11 @@ public:
     /// `picture` is CV_8UC3 (BGR) of the size given at the start; `frame` grows from call to call.
     void AddPicture(std::int64_t frame, const cv::Mat& picture);
 
-    /// Measures the motion of the last sample. Call once, after the last picture.
-    void Finish();
+    /// Measures the motion of the last sample and puts everything that was seen into the record. Call once, after the
+    /// last picture.
+    void Finish(KxSubjectRecord& record);
 
-    /// The weighted evidence of each signal at one sample; for faces, looks in the shot from frame `first` up to, but
-    /// without, `end` count.
-    struct Evidence {
-        KxSignalProfile motion;
-        KxSignalProfile movers;
-        KxSignalProfile saliency;
-        KxSignalProfile faces;
-        KxSignalProfile Sum() const;
-    };
-    Evidence EvidenceAt(std::size_t sample, std::int64_t first, std::int64_t end, KxAxis axis) const;
-
-    const std::vector<KxSignalSample>& Samples() const { return m_samples; }
     const KxFaceTracks& Faces() const { return m_faces; }
-    const KxMoverTracks& Movers() const { return m_movers; }
-    cv::Rect Content() const { return m_bars.Content(); }
 
 private:
     struct Picture {
@@ -63,6 +43,7 @@ private:
     double SecondsAt(std::int64_t frame) const { return static_cast<double>(frame) / m_frameRate; }
     std::array<KxPackedProfile, 2> Profiles(const cv::Mat& map, const cv::Rect& region) const;
     std::optional<cv::Matx33d> CameraTo(const Picture& now) const;
+    KxCropRect ContentShare() const;
     /// `after` may be missing.
     void MeasureMotion(const Picture* after);
 

@@ -1,5 +1,7 @@
 #include <KxSubject/Signals/KxFaceTracks.h>
 
+#include <KxSubject/Choice/KxFaceEvidence.h>
+
 #include <Tests/KxSubject/InstalledModels.h>
 #include <Tests/KxSubject/MadePictures.h>
 
@@ -12,7 +14,7 @@
 namespace
 {
 
-constexpr double EmptyFloor = 0.01;
+constexpr double SamplesPerSecond = 10.0;
 const cv::Size PictureSize(320, 180);
 const KxSubjectOptions Options;
 const KxFaceModels Cascades = InstalledModels::Cascades();
@@ -48,9 +50,17 @@ protected:
         }
     }
 
-    KxSignalProfile At(double seconds, double from = 0.0, double to = 100.0) const
+    /// The evidence of the faces so far at a sample; looks from sample `first` up to, but without, `end` count.
+    KxSignalProfile At(std::size_t sample, std::int64_t first = 0, std::int64_t end = 1000) const
     {
-        return m_tracks.ProfileAt(seconds, from, to, KxAxis::Across, EmptyFloor, PictureSize);
+        KxSubjectRecord record;
+        record.source.frameRate = SamplesPerSecond;
+        record.workingSizePx = {PictureSize.width, PictureSize.height};
+        for (std::int32_t frame = 0; frame < 100; ++frame) {
+            record.samples.push_back({frame, {}, {}});
+        }
+        record.faces.assign(m_tracks.Tracks().begin(), m_tracks.Tracks().end());
+        return KxFaceEvidence(record, Options).ProfileAt(sample, first, end, KxAxis::Across);
     }
 
     /// The longest time from the appearance of the face, after three seconds of `before`, to the look that finds it.
@@ -80,7 +90,7 @@ TEST_F(KxFaceTracksTest, AFaceThatStaysIsEvidenceWhereItIs)
 {
     Play(30, 0, 30);
     ASSERT_FALSE(m_tracks.Tracks().empty());
-    const KxSignalProfile profile = At(1.5);
+    const KxSignalProfile profile = At(15);
     EXPECT_GT(profile.Sum(), 0.5F);
     float inside = 0.0F;
     for (std::size_t bin = 0; bin < KxSignalProfile::Bins; ++bin) {
@@ -94,7 +104,7 @@ TEST_F(KxFaceTracksTest, AFaceSeenOnceIsNotEvidence)
 {
     Play(30, 0, 1);
     EXPECT_FALSE(m_tracks.Tracks().empty());
-    EXPECT_EQ(At(0.0).Sum(), 0.0F);
+    EXPECT_EQ(At(0).Sum(), 0.0F);
 }
 
 TEST_F(KxFaceTracksTest, BesidesTheFirstTheConfiguredNumberOfLooksMustAgree)
@@ -104,11 +114,11 @@ TEST_F(KxFaceTracksTest, BesidesTheFirstTheConfiguredNumberOfLooksMustAgree)
     Play(3, 0, 3);
     ASSERT_EQ(m_tracks.Tracks().size(), 1U);
     ASSERT_EQ(m_tracks.Tracks().front().looks.size(), 2U);
-    EXPECT_EQ(At(0.1).Sum(), 0.0F);
+    EXPECT_EQ(At(1).Sum(), 0.0F);
     m_tracks = KxFaceTracks(Options.faces, KxFaceFinder(Options.faces, Cascades, PictureSize));
     Play(5, 0, 5);
     ASSERT_EQ(m_tracks.Tracks().front().looks.size(), 3U);
-    EXPECT_GT(At(0.1).Sum(), 0.0F);
+    EXPECT_GT(At(1).Sum(), 0.0F);
 }
 
 TEST_F(KxFaceTracksTest, LooksThatMissTheFaceWeakenItsEvidence)
@@ -121,7 +131,7 @@ TEST_F(KxFaceTracksTest, LooksThatMissTheFaceWeakenItsEvidence)
         return sum / static_cast<double>(profile.Sum());
     };
     Play(30, 0, 30);
-    const KxSignalProfile always = At(1.5);
+    const KxSignalProfile always = At(15);
     m_tracks = KxFaceTracks(Options.faces, KxFaceFinder(Options.faces, Cascades, PictureSize));
     for (int i = 0; i < 30; ++i) {
         const cv::Mat& picture = i >= 10 && i < 13 ? m_without : m_withFace;
@@ -130,25 +140,25 @@ TEST_F(KxFaceTracksTest, LooksThatMissTheFaceWeakenItsEvidence)
     ASSERT_EQ(m_tracks.Tracks().size(), 1U);
     const auto& looks = m_tracks.Tracks().front().looks;
     const auto missed =
-        std::count_if(looks.begin(), looks.end(), [](const KxFaceTracks::Look& look) { return !look.Face(); });
+        std::count_if(looks.begin(), looks.end(), [](const KxFaceLook& look) { return !look.IsFace(); });
     ASSERT_EQ(missed, 2);
-    EXPECT_NEAR(centre(At(1.5)), centre(always), 0.01);
-    EXPECT_NEAR(centre(At(1.1)), centre(always), 0.01) << "between the looks that missed it";
-    EXPECT_LT(At(1.5).Sum(), always.Sum());
+    EXPECT_NEAR(centre(At(15)), centre(always), 0.01);
+    EXPECT_NEAR(centre(At(11)), centre(always), 0.01) << "between the looks that missed it";
+    EXPECT_LT(At(15).Sum(), always.Sum());
 }
 
 TEST_F(KxFaceTracksTest, EvidenceEndsWithTheFace)
 {
     Play(60, 0, 25);
-    EXPECT_GT(At(1.0).Sum(), 0.5F);
-    EXPECT_EQ(At(5.0).Sum(), 0.0F);
+    EXPECT_GT(At(10).Sum(), 0.5F);
+    EXPECT_EQ(At(50).Sum(), 0.0F);
 }
 
 TEST_F(KxFaceTracksTest, LooksInAnotherShotDoNotCount)
 {
     Play(30, 0, 30);
-    EXPECT_GT(At(1.5, 1.2, 2.4).Sum(), 0.0F);
-    EXPECT_EQ(At(1.5, 1.5, 1.7).Sum(), 0.0F) << "too few looks in so short a shot";
+    EXPECT_GT(At(15, 12, 25).Sum(), 0.0F);
+    EXPECT_EQ(At(15, 15, 18).Sum(), 0.0F) << "too few looks in so short a shot";
 }
 
 TEST_F(KxFaceTracksTest, LooksAreRarerWhileNoNewFaceIsFound)

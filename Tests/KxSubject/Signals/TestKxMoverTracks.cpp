@@ -1,5 +1,7 @@
 #include <KxSubject/Signals/KxMoverTracks.h>
 
+#include <KxSubject/Choice/KxMoverEvidence.h>
+
 #include <opencv2/core.hpp>
 
 #include <gtest/gtest.h>
@@ -34,14 +36,23 @@ cv::Mat Map(const std::vector<cv::Rect>& moving)
 
 /// One map per sample; `place` returns the movers of a sample, `camera` the shift of the picture to the next one.
 template<typename Places>
-KxMoverTracks Followed(int samples, Places places, double camera = 0.0)
+std::vector<KxMover> Followed(int samples, Places places, double camera = 0.0)
 {
     KxMoverTracks tracks(OneLevel());
     for (int i = 0; i < samples; ++i) {
         tracks.AddMap(i / 10.0, Map(places(i)), i == 0 ? std::nullopt : std::optional(Shift(camera)));
     }
-    tracks.Finish();
-    return tracks;
+    return tracks.Finish();
+}
+
+/// The evidence of movers at one of the first 100 samples.
+KxSignalProfile ProfileAt(std::size_t sample, KxAxis axis, std::vector<KxMover> movers,
+                          const KxSubjectOptions::Movers& options = OneLevel())
+{
+    KxSubjectRecord record;
+    record.samples.resize(100);
+    record.movers = std::move(movers);
+    return KxMoverEvidence(record, options).ProfileAt(sample, axis);
 }
 
 double CentreOf(const KxSignalProfile& profile)
@@ -63,8 +74,7 @@ KxSignalProfile OfPair(float saddle, const KxSubjectOptions::Movers& options)
         map(cv::Rect(left + 16, 80, 24, 24)).setTo(saddle);
         tracks.AddMap(i / 10.0, map, i == 0 ? std::nullopt : std::optional(Shift(0.0)));
     }
-    tracks.Finish();
-    return tracks.ProfileAt(15, KxAxis::Across);
+    return ProfileAt(15, KxAxis::Across, tracks.Finish(), options);
 }
 
 /// The largest part of a profile that a small change of the map moves.
@@ -88,16 +98,16 @@ double LargestStep(const KxSubjectOptions::Movers& options)
 
 TEST(KxMoverTracks, AMoverThatLastsAndTravelsIsFollowedWithFullConfidence)
 {
-    const auto tracks = Followed(30, [](int i) { return std::vector<cv::Rect>{{20 + 6 * i, 80, 24, 24}}; });
-    ASSERT_EQ(tracks.Movers().size(), 1U);
-    const KxMoverTracks::Mover& mover = tracks.Movers().front();
+    const auto movers = Followed(30, [](int i) { return std::vector<cv::Rect>{{20 + 6 * i, 80, 24, 24}}; });
+    ASSERT_EQ(movers.size(), 1U);
+    const KxMover& mover = movers.front();
     EXPECT_EQ(mover.confidence, 1.0F);
     EXPECT_EQ(mover.firstSample, 0);
     EXPECT_EQ(mover.boxes.size(), 30U);
     for (const std::size_t sample : {0U, 12U, 29U}) {
         const double centre = (32.0 + 6.0 * static_cast<double>(sample)) / 320.0;
-        EXPECT_NEAR(CentreOf(tracks.ProfileAt(sample, KxAxis::Across)), centre, 0.015) << sample;
-        EXPECT_NEAR(CentreOf(tracks.ProfileAt(sample, KxAxis::UpDown)), 92.0 / 180.0, 0.015) << sample;
+        EXPECT_NEAR(CentreOf(ProfileAt(sample, KxAxis::Across, movers)), centre, 0.015) << sample;
+        EXPECT_NEAR(CentreOf(ProfileAt(sample, KxAxis::UpDown, movers)), 92.0 / 180.0, 0.015) << sample;
     }
 }
 
@@ -105,79 +115,79 @@ TEST(KxMoverTracks, ATinyMoverCountsNearlyAsMuchAsALargeOne)
 {
     const auto tiny = Followed(30, [](int i) { return std::vector<cv::Rect>{{20 + 6 * i, 80, 10, 10}}; });
     const auto large = Followed(30, [](int i) { return std::vector<cv::Rect>{{20 + 6 * i, 60, 80, 80}}; });
-    ASSERT_EQ(tiny.Movers().size(), 1U);
-    const double ofTiny = tiny.ProfileAt(15, KxAxis::Across).Sum();
-    const double ofLarge = large.ProfileAt(15, KxAxis::Across).Sum();
+    ASSERT_EQ(tiny.size(), 1U);
+    const double ofTiny = ProfileAt(15, KxAxis::Across, tiny).Sum();
+    const double ofLarge = ProfileAt(15, KxAxis::Across, large).Sum();
     EXPECT_GT(ofTiny, 0.2);
     EXPECT_LT(ofLarge / ofTiny, 5.0) << "the areas differ by 64";
 }
 
 TEST(KxMoverTracks, AnObjectThatMovesInPlaceIsNotASubject)
 {
-    const auto tracks = Followed(60, [](int i) { return std::vector<cv::Rect>{{100 + 2 * (i % 2), 80, 24, 24}}; });
-    for (const KxMoverTracks::Mover& mover : tracks.Movers()) {
+    const auto movers = Followed(60, [](int i) { return std::vector<cv::Rect>{{100 + 2 * (i % 2), 80, 24, 24}}; });
+    for (const KxMover& mover : movers) {
         EXPECT_LT(mover.confidence, 0.15F);
     }
 }
 
 TEST(KxMoverTracks, AnObjectThatMovesWithTheBackgroundInAPanIsNotASubject)
 {
-    const auto tracks = Followed(
+    const auto movers = Followed(
         30,
         [](int i) {
             return std::vector<cv::Rect>{{20 + 6 * i, 80, 24, 24}};
         },
         6.0);
-    EXPECT_TRUE(tracks.Movers().empty());
+    EXPECT_TRUE(movers.empty());
 }
 
 TEST(KxMoverTracks, AnObjectThatThePanKeepsInPlaceTravelsRelativeToTheBackground)
 {
-    const auto tracks = Followed(
+    const auto movers = Followed(
         30,
         [](int) {
             return std::vector<cv::Rect>{{140, 80, 24, 24}};
         },
         -6.0);
-    ASSERT_EQ(tracks.Movers().size(), 1U);
-    EXPECT_EQ(tracks.Movers().front().confidence, 1.0F);
+    ASSERT_EQ(movers.size(), 1U);
+    EXPECT_EQ(movers.front().confidence, 1.0F);
 }
 
 TEST(KxMoverTracks, RandomFlashesAreNotASubject)
 {
     cv::RNG anywhere(7);
-    const auto tracks = Followed(200, [&anywhere](int) {
+    const auto movers = Followed(200, [&anywhere](int) {
         return std::vector<cv::Rect>{{anywhere.uniform(0, 300), anywhere.uniform(0, 160), 20, 20}};
     });
-    for (const KxMoverTracks::Mover& mover : tracks.Movers()) {
+    for (const KxMover& mover : movers) {
         EXPECT_LT(mover.confidence, 0.25F);
     }
 }
 
 TEST(KxMoverTracks, AShortGapIsBridged)
 {
-    const auto tracks = Followed(30, [](int i) {
+    const auto movers = Followed(30, [](int i) {
         return i >= 12 && i < 15 ? std::vector<cv::Rect>() : std::vector<cv::Rect>{{20 + 6 * i, 80, 24, 24}};
     });
-    ASSERT_EQ(tracks.Movers().size(), 1U);
-    EXPECT_EQ(tracks.Movers().front().boxes.size(), 30U);
-    EXPECT_NEAR(CentreOf(tracks.ProfileAt(13, KxAxis::Across)), (32.0 + 6.0 * 13.0) / 320.0, 0.02);
+    ASSERT_EQ(movers.size(), 1U);
+    EXPECT_EQ(movers.front().boxes.size(), 30U);
+    EXPECT_NEAR(CentreOf(ProfileAt(13, KxAxis::Across, movers)), (32.0 + 6.0 * 13.0) / 320.0, 0.02);
 }
 
 TEST(KxMoverTracks, BoxesOfMissedSamplesLieOnTheLineBetweenTheirNeighbours)
 {
-    const auto tracks = Followed(30, [](int i) {
+    const auto movers = Followed(30, [](int i) {
         return i >= 12 && i < 15 ? std::vector<cv::Rect>() : std::vector<cv::Rect>{{10 + 9 * i, 20 + 4 * i, 24, 24}};
     });
-    ASSERT_EQ(tracks.Movers().size(), 1U);
-    const KxMoverTracks::Mover& mover = tracks.Movers().front();
+    ASSERT_EQ(movers.size(), 1U);
+    const KxMover& mover = movers.front();
     ASSERT_EQ(mover.boxes.size(), 30U);
-    const KxMoverTracks::Box before = mover.At(11);
-    const KxMoverTracks::Box after = mover.At(15);
+    const KxMover::Box before = mover.At(11);
+    const KxMover::Box after = mover.At(15);
     ASSERT_GT(after.x - before.x, 0.09);
     for (std::size_t missed = 1; missed <= 3; ++missed) {
         const double part = static_cast<double>(missed) / 4.0;
-        const KxMoverTracks::Box box = mover.At(11 + missed);
+        const KxMover::Box box = mover.At(11 + missed);
         constexpr double packing = 1.5 / 255.0;
         EXPECT_NEAR(box.x, before.x + part * (after.x - before.x), packing) << missed;
         EXPECT_NEAR(box.y, before.y + part * (after.y - before.y), packing) << missed;
@@ -188,11 +198,11 @@ TEST(KxMoverTracks, BoxesOfMissedSamplesLieOnTheLineBetweenTheirNeighbours)
 
 TEST(KxMoverTracks, TwoMoversThatPassEachOtherStayTwoMovers)
 {
-    const auto tracks = Followed(40, [](int i) {
+    const auto movers = Followed(40, [](int i) {
         return std::vector<cv::Rect>{{10 + 7 * i, 40, 24, 24}, {290 - 7 * i, 110, 24, 24}};
     });
-    ASSERT_EQ(tracks.Movers().size(), 2U);
-    for (const KxMoverTracks::Mover& mover : tracks.Movers()) {
+    ASSERT_EQ(movers.size(), 2U);
+    for (const KxMover& mover : movers) {
         EXPECT_EQ(mover.boxes.size(), 40U);
         EXPECT_LT(std::abs(mover.At(39).y - mover.At(0).y), 0.02) << "each stays at its height";
     }
@@ -205,18 +215,18 @@ TEST(KxMoverTracks, AnotherSceneEndsEveryTrack)
         const auto camera = i % 20 == 0 ? std::nullopt : std::optional(Shift(0.0));
         tracks.AddMap(i / 10.0, Map({{20 + 6 * i, 80, 24, 24}}), camera);
     }
-    tracks.Finish();
-    ASSERT_EQ(tracks.Movers().size(), 2U);
-    EXPECT_TRUE(tracks.Movers()[0].Covers(19));
-    EXPECT_FALSE(tracks.Movers()[0].Covers(20));
-    EXPECT_EQ(tracks.Movers()[1].firstSample, 20);
+    const std::vector<KxMover> movers = tracks.Finish();
+    ASSERT_EQ(movers.size(), 2U);
+    EXPECT_TRUE(movers[0].Covers(19));
+    EXPECT_FALSE(movers[0].Covers(20));
+    EXPECT_EQ(movers[1].firstSample, 20);
 }
 
 TEST(KxMoverTracks, NothingMovesInEmptyMaps)
 {
-    const auto tracks = Followed(10, [](int) { return std::vector<cv::Rect>(); });
-    EXPECT_TRUE(tracks.Movers().empty());
-    EXPECT_EQ(tracks.ProfileAt(4, KxAxis::Across).Sum(), 0.0F);
+    const auto movers = Followed(10, [](int) { return std::vector<cv::Rect>(); });
+    EXPECT_TRUE(movers.empty());
+    EXPECT_EQ(ProfileAt(4, KxAxis::Across, movers).Sum(), 0.0F);
 }
 
 TEST(KxMoverTracks, AMoverIsFollowedAtEachLevelAndCountsOnce)
@@ -227,11 +237,11 @@ TEST(KxMoverTracks, AMoverIsFollowedAtEachLevelAndCountsOnce)
     for (int i = 0; i < 30; ++i) {
         tracks.AddMap(i / 10.0, Map(place(i)), i == 0 ? std::nullopt : std::optional(Shift(0.0)));
     }
-    tracks.Finish();
-    EXPECT_EQ(tracks.Movers().size(), static_cast<std::size_t>(options.levels));
-    const KxSignalProfile alone = Followed(30, place).ProfileAt(15, KxAxis::Across);
-    EXPECT_NEAR(tracks.ProfileAt(15, KxAxis::Across).Sum(), alone.Sum(), 0.02);
-    EXPECT_NEAR(CentreOf(tracks.ProfileAt(15, KxAxis::Across)), CentreOf(alone), 0.005);
+    const std::vector<KxMover> movers = tracks.Finish();
+    EXPECT_EQ(movers.size(), static_cast<std::size_t>(options.levels));
+    const KxSignalProfile alone = ProfileAt(15, KxAxis::Across, Followed(30, place));
+    EXPECT_NEAR(ProfileAt(15, KxAxis::Across, movers, options).Sum(), alone.Sum(), 0.02);
+    EXPECT_NEAR(CentreOf(ProfileAt(15, KxAxis::Across, movers, options)), CentreOf(alone), 0.005);
 }
 
 TEST(KxMoverTracks, WhetherTwoMoversAreOneChangesGradually)

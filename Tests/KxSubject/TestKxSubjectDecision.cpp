@@ -1,8 +1,8 @@
-#include <KxSubject/KxSubjectAnalyzer.h>
+#include <KxSubject/KxSubjectDecision.h>
 
 #include <KxSubject/KxFaceModels.h>
 #include <KxSubject/KxPictureView.h>
-#include <KxSubject/KxSubjectFindings.h>
+#include <KxSubject/KxSubjectObserver.h>
 #include <KxSubject/KxSubjectOptions.h>
 #include <Tests/KxSubject/InstalledModels.h>
 #include <Tests/KxSubject/MadePictures.h>
@@ -33,17 +33,26 @@ KxPictureView ViewOf(const cv::Mat& picture)
     return {picture.data, {picture.cols, picture.rows}, picture.step[0]};
 }
 
-KxSubjectRequest Request(std::int64_t frameCount, KxIntSize aspect = {9, 16}, KxMotionSpeed speed = KxMotionSpeed::Auto)
-{
+/// A video and what is asked of it.
+struct Task {
+    KxSubjectSource source;
     KxSubjectRequest request;
-    request.pictureWidthPx = 1280;
-    request.pictureHeightPx = 720;
-    request.frameRate = 25.0;
-    request.frameCount = frameCount;
-    request.aspectWidth = aspect.width;
-    request.aspectHeight = aspect.height;
-    request.speed = speed;
-    return request;
+};
+
+Task MakeTask(std::int64_t frameCount, KxIntSize aspect = {9, 16}, KxMotionSpeed speed = KxMotionSpeed::Auto)
+{
+    return {{1280, 720, 25.0, frameCount}, {aspect.width, aspect.height, speed, false}};
+}
+
+KxSubjectObserver Observer(const Task& task, const KxFaceModels& faceModels = NoFaceModels,
+                           const KxSubjectOptions& options = {})
+{
+    return KxSubjectObserver(task.source, faceModels, options);
+}
+
+KxSubjectDecision Decide(KxSubjectObserver& observer, const Task& task, const KxSubjectOptions& options = {})
+{
+    return KxDecide(observer.Finish(), task.request, options, KxCancelToken());
 }
 
 /// An object 30 px wide whose middle is at `centre` (fraction of the width), in front of a texture that the camera
@@ -63,17 +72,17 @@ cv::Mat Picture(double centre, double camera, std::uint64_t seed = 21)
 
 using Scene = std::function<cv::Mat(std::int64_t frame)>;
 
-std::vector<KxCropRect> Analyse(const KxSubjectRequest& request, const Scene& scene, std::int64_t every = 1,
+std::vector<KxCropRect> Analyse(const Task& task, const Scene& scene, std::int64_t every = 1,
                                 std::int64_t last = std::numeric_limits<std::int64_t>::max(),
                                 const KxSubjectOptions& options = {}, const KxFaceModels& faceModels = NoFaceModels)
 {
-    KxSubjectAnalyzer analyzer(request, faceModels, options);
-    for (std::int64_t frame = 0; frame < std::min(request.frameCount, last); frame += every) {
-        if (analyzer.Wants(frame)) {
-            analyzer.AddPicture(frame, ViewOf(scene(frame)));
+    KxSubjectObserver observer(task.source, faceModels, options);
+    for (std::int64_t frame = 0; frame < std::min(task.source.frameCount, last); frame += every) {
+        if (observer.Wants(frame)) {
+            observer.AddPicture(frame, ViewOf(scene(frame)));
         }
     }
-    return analyzer.Finish(KxCancelToken());
+    return Decide(observer, task, options).crops;
 }
 
 cv::Mat Walk(std::int64_t frame)
@@ -100,27 +109,27 @@ double Middle(const KxCropRect& crop)
 
 } // namespace
 
-TEST(KxSubjectAnalyzer, TheWorkingSizeKeepsTheAspectAndIs320AtItsLongerSide)
+TEST(KxSubjectDecision, TheWorkingSizeKeepsTheAspectAndIs320AtItsLongerSide)
 {
-    KxSubjectRequest request = Request(10);
-    EXPECT_EQ(KxSubjectAnalyzer(request, NoFaceModels).WorkingSize(), (KxIntSize{320, 180}));
-    std::swap(request.pictureWidthPx, request.pictureHeightPx);
-    EXPECT_EQ(KxSubjectAnalyzer(request, NoFaceModels).WorkingSize(), (KxIntSize{180, 320}));
-    request.pictureWidthPx = 64;
-    request.pictureHeightPx = 48;
-    EXPECT_EQ(KxSubjectAnalyzer(request, NoFaceModels).WorkingSize(), (KxIntSize{320, 240}));
+    Task task = MakeTask(10);
+    EXPECT_EQ(Observer(task).WorkingSize(), (KxIntSize{320, 180}));
+    std::swap(task.source.pictureWidthPx, task.source.pictureHeightPx);
+    EXPECT_EQ(Observer(task).WorkingSize(), (KxIntSize{180, 320}));
+    task.source.pictureWidthPx = 64;
+    task.source.pictureHeightPx = 48;
+    EXPECT_EQ(Observer(task).WorkingSize(), (KxIntSize{320, 240}));
 }
 
-TEST(KxSubjectAnalyzer, FramesOutsideAreNotWantedAndHighRatesAreSubsampled)
+TEST(KxSubjectDecision, FramesOutsideAreNotWantedAndHighRatesAreSubsampled)
 {
-    KxSubjectRequest request = Request(100);
-    const KxSubjectAnalyzer usual(request, NoFaceModels);
+    Task task = MakeTask(100);
+    const KxSubjectObserver usual = Observer(task);
     EXPECT_TRUE(usual.Wants(0));
     EXPECT_TRUE(usual.Wants(99));
     EXPECT_FALSE(usual.Wants(-1));
     EXPECT_FALSE(usual.Wants(100));
-    request.frameRate = 240.0;
-    const KxSubjectAnalyzer quick(request, NoFaceModels);
+    task.source.frameRate = 240.0;
+    const KxSubjectObserver quick = Observer(task);
     int wanted = 0;
     for (int frame = 0; frame < 100; ++frame) {
         wanted += quick.Wants(frame) ? 1 : 0;
@@ -128,10 +137,10 @@ TEST(KxSubjectAnalyzer, FramesOutsideAreNotWantedAndHighRatesAreSubsampled)
     EXPECT_EQ(wanted, 25);
 }
 
-TEST(KxSubjectAnalyzer, TheCropKeepsAMovingObjectDuringAPan)
+TEST(KxSubjectDecision, TheCropKeepsAMovingObjectDuringAPan)
 {
     const auto crops = Analyse(
-        Request(125),
+        MakeTask(125),
         [](std::int64_t frame) {
             return Picture(0.2 + 0.004 * static_cast<double>(frame), 20.0 + 0.9 * static_cast<double>(frame));
         },
@@ -145,10 +154,10 @@ TEST(KxSubjectAnalyzer, TheCropKeepsAMovingObjectDuringAPan)
     }
 }
 
-TEST(KxSubjectAnalyzer, MissingPicturesDoNotLoseTheObject)
+TEST(KxSubjectDecision, MissingPicturesDoNotLoseTheObject)
 {
     for (const std::int64_t every : {2, 4, 10}) {
-        const auto crops = Analyse(Request(125), Walk, every);
+        const auto crops = Analyse(MakeTask(125), Walk, every);
         ASSERT_EQ(crops.size(), 125U);
         for (const std::size_t frame : {20U, 60U, 100U}) {
             EXPECT_NEAR(Middle(crops[frame]), 0.2 + 0.004 * static_cast<double>(frame), 0.1)
@@ -157,9 +166,9 @@ TEST(KxSubjectAnalyzer, MissingPicturesDoNotLoseTheObject)
     }
 }
 
-TEST(KxSubjectAnalyzer, TheCropJumpsAtTheCutAndNowhereElse)
+TEST(KxSubjectDecision, TheCropJumpsAtTheCutAndNowhereElse)
 {
-    const auto crops = Analyse(Request(100), [](std::int64_t frame) {
+    const auto crops = Analyse(MakeTask(100), [](std::int64_t frame) {
         const double sway = 0.03 * std::sin(static_cast<double>(frame) * 0.5);
         return frame < 47 ? Picture(0.22 + sway, 40.0, 21) : Picture(0.76 + sway, 40.0, 22);
     });
@@ -174,7 +183,7 @@ TEST(KxSubjectAnalyzer, TheCropJumpsAtTheCutAndNowhereElse)
     }
 }
 
-TEST(KxSubjectAnalyzer, TheCropJumpsInTheMiddleOfADissolve)
+TEST(KxSubjectDecision, TheCropJumpsInTheMiddleOfADissolve)
 {
     const auto shot = [](std::uint64_t seed, double centre, std::int64_t frame) {
         cv::Mat picture;
@@ -183,7 +192,7 @@ TEST(KxSubjectAnalyzer, TheCropJumpsInTheMiddleOfADissolve)
         MadePictures::PaintObject(picture, {cvRound((centre + sway) * 320.0) - 15, 80, 30, 40});
         return picture;
     };
-    const auto crops = Analyse(Request(160), [&shot](std::int64_t frame) {
+    const auto crops = Analyse(MakeTask(160), [&shot](std::int64_t frame) {
         const double part = std::clamp((static_cast<double>(frame) - 65.0) / 25.0, 0.0, 1.0);
         return ShotPictures::Mixed(shot(1, 0.22, frame), shot(2, 0.76, frame), part);
     });
@@ -194,16 +203,15 @@ TEST(KxSubjectAnalyzer, TheCropJumpsInTheMiddleOfADissolve)
     EXPECT_GT(Middle(crops[150]), 0.65);
 }
 
-TEST(KxSubjectAnalyzer, FindingsNameTheShotsAndTheirDominantSignals)
+TEST(KxSubjectDecision, FindingsNameTheShotsAndTheirDominantSignals)
 {
-    KxSubjectRequest request = Request(200);
-    request.wantsFindings = true;
-    KxSubjectAnalyzer analyzer(request, NoFaceModels);
+    Task task = MakeTask(200);
+    task.request.wantsFindings = true;
+    KxSubjectObserver observer = Observer(task);
     for (std::int64_t frame = 0; frame < 200; ++frame) {
-        analyzer.AddPicture(frame, ViewOf(frame < 150 ? Walk(frame) : Picture(0.76, 40.0, 22)));
+        observer.AddPicture(frame, ViewOf(frame < 150 ? Walk(frame) : Picture(0.76, 40.0, 22)));
     }
-    const auto crops = analyzer.Finish(KxCancelToken());
-    const KxSubjectFindings& findings = analyzer.Findings();
+    const auto [crops, findings] = Decide(observer, task);
     ASSERT_EQ(findings.shots.size(), 2U);
     EXPECT_EQ(findings.shots[0].first, 0);
     EXPECT_EQ(findings.shots[0].end, 150);
@@ -217,35 +225,34 @@ TEST(KxSubjectAnalyzer, FindingsNameTheShotsAndTheirDominantSignals)
     }
 }
 
-TEST(KxSubjectAnalyzer, FindingsContainTheEvidenceThatWasUsed)
+TEST(KxSubjectDecision, FindingsContainTheEvidenceThatWasUsed)
 {
     const auto peak = [](double concentration) {
-        KxSubjectRequest request = Request(50);
-        request.wantsFindings = true;
+        Task task = MakeTask(50);
+        task.request.wantsFindings = true;
         KxSubjectOptions options;
         options.evidence.concentration = concentration;
-        KxSubjectAnalyzer analyzer(request, NoFaceModels, options);
+        KxSubjectObserver observer(task.source, NoFaceModels, options);
         for (std::int64_t frame = 0; frame < 50; ++frame) {
-            analyzer.AddPicture(frame, ViewOf(Walk(frame)));
+            observer.AddPicture(frame, ViewOf(Walk(frame)));
         }
-        analyzer.Finish(KxCancelToken());
-        const KxSignalProfile evidence = analyzer.Findings().samples.at(10).evidence.Unpacked();
+        const KxSignalProfile evidence = Decide(observer, task, options).findings.samples.at(10).evidence.Unpacked();
         return *std::max_element(evidence.share.begin(), evidence.share.end());
     };
     EXPECT_GT(peak(2.0), 1.3F * peak(1.0));
 }
 
-TEST(KxSubjectAnalyzer, FindingsAreKeptOnlyOnRequest)
+TEST(KxSubjectDecision, FindingsAreKeptOnlyOnRequest)
 {
-    KxSubjectAnalyzer analyzer(Request(30), NoFaceModels);
-    analyzer.AddPicture(0, ViewOf(Walk(0)));
-    analyzer.Finish(KxCancelToken());
-    EXPECT_TRUE(analyzer.Findings().samples.empty());
+    const Task task = MakeTask(30);
+    KxSubjectObserver observer = Observer(task);
+    observer.AddPicture(0, ViewOf(Walk(0)));
+    EXPECT_TRUE(Decide(observer, task).findings.samples.empty());
 }
 
-TEST(KxSubjectAnalyzer, BarsStayOutsideTheCrop)
+TEST(KxSubjectDecision, BarsStayOutsideTheCrop)
 {
-    const auto crops = Analyse(Request(50), [](std::int64_t frame) {
+    const auto crops = Analyse(MakeTask(50), [](std::int64_t frame) {
         cv::Mat picture = Walk(frame);
         picture.rowRange(0, 20).setTo(cv::Scalar::all(0));
         picture.rowRange(160, 180).setTo(cv::Scalar::all(0));
@@ -257,10 +264,10 @@ TEST(KxSubjectAnalyzer, BarsStayOutsideTheCrop)
     EXPECT_NEAR(crops.front().width * 1280.0 / (crops.front().height * 720.0), 9.0 / 16.0, 1e-9);
 }
 
-TEST(KxSubjectAnalyzer, EveryPresetGivesCropsOfOneSizeInsideThePicture)
+TEST(KxSubjectDecision, EveryPresetGivesCropsOfOneSizeInsideThePicture)
 {
     for (const KxIntSize aspect : {KxIntSize{9, 16}, {1, 1}, {16, 9}, {4, 3}, {4, 5}, {21, 9}}) {
-        const auto crops = Analyse(Request(30, aspect), Walk, 3);
+        const auto crops = Analyse(MakeTask(30, aspect), Walk, 3);
         ASSERT_EQ(crops.size(), 30U);
         ExpectOneSizeInside(crops);
         EXPECT_LT(std::abs(crops.front().width * 1280.0 - crops.front().height * 720.0 * aspect.width / aspect.height),
@@ -268,11 +275,11 @@ TEST(KxSubjectAnalyzer, EveryPresetGivesCropsOfOneSizeInsideThePicture)
     }
 }
 
-TEST(KxSubjectAnalyzer, ANarrowerReactionFollowsCloser)
+TEST(KxSubjectDecision, ANarrowerReactionFollowsCloser)
 {
     const auto distance = [](KxMotionSpeed speed) {
         const auto crops = Analyse(
-            Request(200, {9, 16}, speed),
+            MakeTask(200, {9, 16}, speed),
             [](std::int64_t frame) { return Picture(0.5 + 0.25 * std::sin(0.05 * static_cast<double>(frame)), 60.0); },
             2);
         double sum = 0.0;
@@ -284,7 +291,7 @@ TEST(KxSubjectAnalyzer, ANarrowerReactionFollowsCloser)
     EXPECT_LT(distance(KxMotionSpeed::Fast), distance(KxMotionSpeed::Slow));
 }
 
-TEST(KxSubjectAnalyzer, OneObjectOutweighsMoreEvidenceThatIsSpreadOut)
+TEST(KxSubjectDecision, OneObjectOutweighsMoreEvidenceThatIsSpreadOut)
 {
     const cv::Mat background = MadePictures::Texture({320, 180}, 21);
     const auto middle = [&background](double concentration) {
@@ -302,129 +309,154 @@ TEST(KxSubjectAnalyzer, OneObjectOutweighsMoreEvidenceThatIsSpreadOut)
             }
             return picture;
         };
-        return Middle(Analyse(Request(50), scene, 1, 50, options)[25]);
+        return Middle(Analyse(MakeTask(50), scene, 1, 50, options)[25]);
     };
     EXPECT_GT(middle(1.0), 0.6);
     EXPECT_LT(middle(3.0), 0.4);
 }
 
-TEST(KxSubjectAnalyzer, WithoutPicturesTheCropIsInTheMiddle)
+TEST(KxSubjectDecision, OneRecordServesEveryAspectAndSpeed)
 {
-    const auto crops = Analyse(Request(12), Walk, 1, 0);
+    Task task = MakeTask(60);
+    KxSubjectObserver observer = Observer(task);
+    for (std::int64_t frame = 0; frame < 60; ++frame) {
+        observer.AddPicture(frame, ViewOf(Walk(frame)));
+    }
+    const KxSubjectRecord record = observer.Finish();
+    for (const KxIntSize aspect : {KxIntSize{9, 16}, {1, 1}, {4, 5}}) {
+        for (const KxMotionSpeed speed : {KxMotionSpeed::Auto, KxMotionSpeed::Fast, KxMotionSpeed::Slow}) {
+            task.request = {aspect.width, aspect.height, speed, false};
+            const auto decided = KxDecide(record, task.request, {}, KxCancelToken()).crops;
+            const auto analysed = Analyse(task, Walk);
+            ASSERT_EQ(decided.size(), analysed.size());
+            for (std::size_t frame = 0; frame < decided.size(); ++frame) {
+                EXPECT_EQ(decided[frame].x, analysed[frame].x) << frame;
+                EXPECT_EQ(decided[frame].width, analysed[frame].width) << frame;
+            }
+        }
+    }
+}
+
+TEST(KxSubjectDecision, WithoutPicturesTheCropIsInTheMiddle)
+{
+    const auto crops = Analyse(MakeTask(12), Walk, 1, 0);
     ASSERT_EQ(crops.size(), 12U);
     ExpectOneSizeInside(crops);
     EXPECT_NEAR(Middle(crops[5]), 0.5, 1e-12);
 }
 
-TEST(KxSubjectAnalyzer, PlainPicturesLeaveTheCropInTheMiddle)
+TEST(KxSubjectDecision, PlainPicturesLeaveTheCropInTheMiddle)
 {
     const auto crops =
-        Analyse(Request(40), [](std::int64_t) { return cv::Mat(180, 320, CV_8UC3, cv::Scalar::all(90)); });
+        Analyse(MakeTask(40), [](std::int64_t) { return cv::Mat(180, 320, CV_8UC3, cv::Scalar::all(90)); });
     for (const KxCropRect& crop : crops) {
         EXPECT_NEAR(Middle(crop), 0.5, 0.01);
     }
 }
 
-TEST(KxSubjectAnalyzer, OneFrameFewFramesAndNoFrameAreAnalysed)
+TEST(KxSubjectDecision, OneFrameFewFramesAndNoFrameAreAnalysed)
 {
     for (const std::int64_t count : {0, 1, 2, 3, 5}) {
-        const auto crops = Analyse(Request(count), Walk);
+        const auto crops = Analyse(MakeTask(count), Walk);
         EXPECT_EQ(crops.size(), static_cast<std::size_t>(count));
         ExpectOneSizeInside(crops);
     }
 }
 
-TEST(KxSubjectAnalyzer, TheLastCropIsHeldWhenPicturesEndEarly)
+TEST(KxSubjectDecision, TheLastCropIsHeldWhenPicturesEndEarly)
 {
-    const auto crops = Analyse(Request(200), Walk, 1, 100);
+    const auto crops = Analyse(MakeTask(200), Walk, 1, 100);
     ASSERT_EQ(crops.size(), 200U);
     ExpectOneSizeInside(crops);
     EXPECT_NEAR(Middle(crops[199]), Middle(crops[105]), 0.05);
     EXPECT_NEAR(Middle(crops[199]), 0.6, 0.1);
 }
 
-TEST(KxSubjectAnalyzer, APauseOfWeeksInTheTimeStampsIsHeldAndStartsAnotherShot)
+TEST(KxSubjectDecision, APauseOfWeeksInTheTimeStampsIsHeldAndStartsAnotherShot)
 {
     constexpr std::int64_t pause = 20 * 24 * 3600;
-    KxSubjectRequest request = Request(40 + pause);
-    request.frameRate = 1.0;
-    request.wantsFindings = true;
-    KxSubjectAnalyzer analyzer(request, NoFaceModels);
+    Task task = MakeTask(40 + pause);
+    task.source.frameRate = 1.0;
+    task.request.wantsFindings = true;
+    KxSubjectObserver observer = Observer(task);
     const auto place = [](std::int64_t picture) { return 0.2 + 0.015 * static_cast<double>(picture); };
     for (std::int64_t picture = 0; picture < 40; ++picture) {
         const std::int64_t frame = picture < 20 ? picture : picture + pause;
-        analyzer.AddPicture(frame, ViewOf(Picture(place(picture), 60.0)));
+        observer.AddPicture(frame, ViewOf(Picture(place(picture), 60.0)));
     }
-    const auto crops = analyzer.Finish(KxCancelToken());
+    const auto [crops, findings] = Decide(observer, task);
     ASSERT_EQ(crops.size(), static_cast<std::size_t>(40 + pause));
-    ASSERT_EQ(analyzer.Findings().shots.size(), 2U);
-    EXPECT_EQ(analyzer.Findings().shots[1].first, 20 + pause);
+    ASSERT_EQ(findings.shots.size(), 2U);
+    EXPECT_EQ(findings.shots[1].first, 20 + pause);
     EXPECT_EQ(crops[1000].x, crops[static_cast<std::size_t>(pause)].x);
     EXPECT_NEAR(Middle(crops[1000]), place(19), 0.15);
     EXPECT_NEAR(Middle(crops.back()), place(39), 0.15);
 }
 
-TEST(KxSubjectAnalyzer, AnalysisEndsEarlyOnceCancelled)
+TEST(KxSubjectDecision, AnalysisEndsEarlyOnceCancelled)
 {
     KxSubjectOptions options;
     options.path.iterations = std::numeric_limits<int>::max();
-    KxSubjectAnalyzer analyzer(Request(60), NoFaceModels, options);
+    const Task task = MakeTask(60);
+    KxSubjectObserver observer = Observer(task);
     for (std::int64_t frame = 0; frame < 60; ++frame) {
-        analyzer.AddPicture(frame, ViewOf(Picture(0.1 + 0.013 * static_cast<double>(frame), 60.0)));
+        observer.AddPicture(frame, ViewOf(Picture(0.1 + 0.013 * static_cast<double>(frame), 60.0)));
     }
+    const KxSubjectRecord record = observer.Finish();
     KxCancelToken cancel;
     std::thread canceller([&cancel] { cancel.Cancel(); });
-    EXPECT_TRUE(analyzer.Finish(cancel).empty());
+    EXPECT_TRUE(KxDecide(record, task.request, options, cancel).crops.empty());
     canceller.join();
 }
 
-TEST(KxSubjectAnalyzer, AVeryLowRateIsAccepted)
+TEST(KxSubjectDecision, AVeryLowRateIsAccepted)
 {
-    KxSubjectRequest request = Request(12);
-    request.frameRate = 0.5;
-    const auto crops = Analyse(request, Walk);
+    Task task = MakeTask(12);
+    task.source.frameRate = 0.5;
+    const auto crops = Analyse(task, Walk);
     ASSERT_EQ(crops.size(), 12U);
     ExpectOneSizeInside(crops);
 }
 
-TEST(KxSubjectAnalyzer, InvalidRequestsGiveCrops)
+TEST(KxSubjectDecision, InvalidRequestsGiveCrops)
 {
-    KxSubjectRequest request;
-    request.frameRate = std::numeric_limits<double>::quiet_NaN();
-    request.frameCount = 4;
-    request.aspectHeight = 0;
-    KxSubjectAnalyzer analyzer(request, NoFaceModels);
+    Task task;
+    task.source.frameRate = std::numeric_limits<double>::quiet_NaN();
+    task.source.frameCount = 4;
+    task.request.aspectHeight = 0;
+    KxSubjectObserver observer = Observer(task);
     const cv::Mat small(3, 3, CV_8UC3, cv::Scalar::all(0));
-    analyzer.AddPicture(0, KxPictureView());
-    analyzer.AddPicture(1, ViewOf(small));
-    analyzer.AddPicture(2, {small.data, analyzer.WorkingSize(), 9});
-    EXPECT_EQ(analyzer.Finish(KxCancelToken()).size(), 4U);
-    request.frameCount = -7;
-    EXPECT_TRUE(KxSubjectAnalyzer(request, NoFaceModels).Finish(KxCancelToken()).empty());
+    observer.AddPicture(0, KxPictureView());
+    observer.AddPicture(1, ViewOf(small));
+    observer.AddPicture(2, {small.data, observer.WorkingSize(), 9});
+    EXPECT_EQ(Decide(observer, task).crops.size(), 4U);
+    task.source.frameCount = -7;
+    KxSubjectObserver none = Observer(task);
+    EXPECT_TRUE(Decide(none, task).crops.empty());
 }
 
-TEST(KxSubjectAnalyzer, ExtremeShapesAreAccepted)
+TEST(KxSubjectDecision, ExtremeShapesAreAccepted)
 {
     for (const cv::Size& size : {cv::Size(4000, 16), cv::Size(16, 4000), cv::Size(1, 1)}) {
-        KxSubjectRequest request = Request(20);
-        request.pictureWidthPx = size.width;
-        request.pictureHeightPx = size.height;
-        KxSubjectAnalyzer analyzer(request, NoFaceModels);
+        Task task = MakeTask(20);
+        task.source.pictureWidthPx = size.width;
+        task.source.pictureHeightPx = size.height;
+        KxSubjectObserver observer = Observer(task);
         for (int frame = 0; frame < 20; ++frame) {
-            cv::Mat picture = MadePictures::Texture({analyzer.WorkingSize().width, analyzer.WorkingSize().height}, 5);
+            cv::Mat picture = MadePictures::Texture({observer.WorkingSize().width, observer.WorkingSize().height}, 5);
             MadePictures::PaintObject(picture, {frame, frame, 12, 12});
-            analyzer.AddPicture(frame, ViewOf(picture));
+            observer.AddPicture(frame, ViewOf(picture));
         }
-        const auto crops = analyzer.Finish(KxCancelToken());
+        const auto crops = Decide(observer, task).crops;
         ASSERT_EQ(crops.size(), 20U);
         ExpectOneSizeInside(crops);
     }
 }
 
-TEST(KxSubjectAnalyzer, TheSamePicturesGiveTheSameCrops)
+TEST(KxSubjectDecision, TheSamePicturesGiveTheSameCrops)
 {
-    const auto first = Analyse(Request(60), Walk);
-    const auto second = Analyse(Request(60), Walk);
+    const auto first = Analyse(MakeTask(60), Walk);
+    const auto second = Analyse(MakeTask(60), Walk);
     ASSERT_EQ(first.size(), second.size());
     for (std::size_t i = 0; i < first.size(); ++i) {
         EXPECT_EQ(first[i].x, second[i].x);
@@ -432,13 +464,13 @@ TEST(KxSubjectAnalyzer, TheSamePicturesGiveTheSameCrops)
     }
 }
 
-TEST(KxSubjectAnalyzer, AFaceDetectorThatCannotBeRunIsReported)
+TEST(KxSubjectDecision, AFaceDetectorThatCannotBeRunIsReported)
 {
-    EXPECT_FALSE(KxSubjectAnalyzer(Request(5), NoFaceModels).IsFaceDetectorRefused());
-    EXPECT_TRUE(KxSubjectAnalyzer(Request(5), {{}, {}, "no network"}).IsFaceDetectorRefused());
+    EXPECT_FALSE(Observer(MakeTask(5)).IsFaceDetectorRefused());
+    EXPECT_TRUE(Observer(MakeTask(5), {{}, {}, "no network"}).IsFaceDetectorRefused());
 }
 
-TEST(KxSubjectAnalyzer, TheHostsSettingsOfOpenCvAreLeftAlone)
+TEST(KxSubjectDecision, TheHostsSettingsOfOpenCvAreLeftAlone)
 {
     const int threads = cv::getNumThreads();
     const cv::utils::logging::LogLevel level = cv::utils::logging::getLogLevel();
@@ -446,7 +478,7 @@ TEST(KxSubjectAnalyzer, TheHostsSettingsOfOpenCvAreLeftAlone)
     cv::utils::logging::setLogLevel(cv::utils::logging::LOG_LEVEL_FATAL);
     KxFaceModels models = InstalledModels::Cascades();
     models.detector = "no network";
-    Analyse(Request(20), Walk, 1, 20, {}, models);
+    Analyse(MakeTask(20), Walk, 1, 20, {}, models);
     EXPECT_EQ(cv::getNumThreads(), 3);
     EXPECT_EQ(cv::utils::logging::getLogLevel(), cv::utils::logging::LOG_LEVEL_FATAL);
     cv::setNumThreads(threads);

@@ -1,0 +1,80 @@
+#include <KxSubject/Choice/KxFaceEvidence.h>
+
+#include <algorithm>
+
+KxFaceEvidence::KxFaceEvidence(const KxSubjectRecord& record, const KxSubjectOptions& options)
+    : m_record(record)
+    , m_options(options.faces)
+    , m_emptyFloor(options.evidence.emptyFloor)
+    , m_index(record.samples.size())
+{
+    const auto sampleAt = [&record](double seconds) {
+        const auto at = std::lower_bound(
+            record.samples.begin(), record.samples.end(), seconds,
+            [&record](const KxSignalSample& sample, double time) { return record.SecondsAt(sample.frame) < time; });
+        return static_cast<std::size_t>(at - record.samples.begin());
+    };
+    for (std::size_t i = 0; i < record.faces.size(); ++i) {
+        const std::vector<KxFaceLook>& looks = record.faces[i].looks;
+        m_index.Add(static_cast<std::uint32_t>(i), sampleAt(looks.front().timeSeconds - m_options.windowSeconds),
+                    sampleAt(looks.back().timeSeconds + m_options.windowSeconds));
+    }
+}
+
+double KxFaceEvidence::SizeWeight(const KxFaceLook& face) const
+{
+    const double share =
+        static_cast<double>(face.width) / std::min(m_record.workingSizePx.width, m_record.workingSizePx.height);
+    return std::clamp((share - m_options.zeroWeightShare) / (m_options.fullWeightShare - m_options.zeroWeightShare),
+                      0.0, 1.0);
+}
+
+KxFaceEvidence::Detections KxFaceEvidence::DetectionsOf(const KxFaceTrack& track, double fromSeconds,
+                                                        double toSeconds) const
+{
+    Detections detections;
+    const auto isBefore = [](const KxFaceLook& look, double time) { return look.timeSeconds < time; };
+    for (auto look = std::lower_bound(track.looks.begin(), track.looks.end(), fromSeconds, isBefore);
+         look != track.looks.end() && look->timeSeconds <= toSeconds; ++look) {
+        ++detections.looks;
+        if (look->IsFace()) {
+            ++detections.hits;
+            const std::array<double, 4> box{static_cast<double>(look->x), static_cast<double>(look->y),
+                                            static_cast<double>(look->width), static_cast<double>(look->height)};
+            std::transform(box.begin(), box.end(), detections.sum.begin(), detections.sum.begin(), std::plus<>());
+            detections.weight += SizeWeight(*look);
+        }
+    }
+    return detections;
+}
+
+KxSignalProfile KxFaceEvidence::ProfileAt(std::size_t sample, std::int64_t first, std::int64_t end, KxAxis axis) const
+{
+    const double time = m_record.SecondsAt(m_record.samples[sample].frame);
+    const double from = std::max(m_record.SecondsAt(first), time - m_options.windowSeconds);
+    const double to = std::min(m_record.SecondsAt(end - 1), time + m_options.windowSeconds);
+    const bool across = axis == KxAxis::Across;
+    const KxIntSize picturePx = m_record.workingSizePx;
+    const int lengthPx = across ? picturePx.width : picturePx.height;
+    const int areaPx = picturePx.width * picturePx.height;
+    KxSignalProfile faces;
+    for (const std::uint32_t i : m_index.Near(sample)) {
+        const KxFaceTrack& track = m_record.faces[i];
+        if (track.looks.front().timeSeconds > to || track.looks.back().timeSeconds < from) {
+            continue;
+        }
+        const Detections detections = DetectionsOf(track, from, to);
+        if (detections.hits <= m_options.agreeing) {
+            continue;
+        }
+        std::array<double, 4> face = detections.sum;
+        std::for_each(face.begin(), face.end(), [&detections](double& side) { side /= detections.hits; });
+        const double height = face[3] * (1.0 + m_options.growDown);
+        const double area = face[2] * height / areaPx;
+        const double begin = (across ? face[0] : face[1]) / lengthPx;
+        faces.Add(begin, begin + (across ? face[2] : height) / lengthPx, detections.weight / detections.looks * area);
+    }
+    KxSignalProfile scaled;
+    scaled.Add(faces, 1.0 / (static_cast<double>(faces.Sum()) + m_emptyFloor));
+    return scaled;
+}

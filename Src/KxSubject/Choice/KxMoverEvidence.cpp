@@ -1,0 +1,36 @@
+#include <KxSubject/Choice/KxMoverEvidence.h>
+
+#include <cmath>
+
+KxMoverEvidence::KxMoverEvidence(const KxSubjectRecord& record, const KxSubjectOptions::Movers& options)
+    : m_movers(record.movers)
+    , m_options(options)
+    , m_index(record.samples.size())
+{
+    for (std::size_t i = 0; i < m_movers.size(); ++i) {
+        const auto first = static_cast<std::size_t>(m_movers[i].firstSample);
+        m_index.Add(static_cast<std::uint32_t>(i), first, first + m_movers[i].boxes.size() - 1);
+    }
+}
+
+KxSignalProfile KxMoverEvidence::ProfileAt(std::size_t sample, KxAxis axis) const
+{
+    KxSignalProfile movers;
+    double whole = m_options.emptyFloor;
+    for (const std::uint32_t i : m_index.Near(sample)) {
+        const KxMover& mover = m_movers[i];
+        if (!mover.Covers(sample)) {
+            continue;
+        }
+        const KxMover::Box box = mover.At(sample);
+        const double weight =
+            mover.confidence * std::pow(box.width * box.height, m_options.areaPower) / m_options.levels;
+        const bool across = axis == KxAxis::Across;
+        const double from = across ? box.x : box.y;
+        movers.Add(from, from + (across ? box.width : box.height), weight);
+        whole += weight;
+    }
+    KxSignalProfile scaled;
+    scaled.Add(movers, 1.0 / whole);
+    return scaled;
+}

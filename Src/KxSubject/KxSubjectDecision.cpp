@@ -1,0 +1,193 @@
+#include <KxSubject/KxSubjectDecision.h>
+
+#include <KxSubject/Choice/KxCentreScore.h>
+#include <KxSubject/Choice/KxEvidence.h>
+#include <KxSubject/Choice/KxSubjectTracker.h>
+#include <KxSubject/KxSubjectRecord.h>
+#include <KxSubject/Path/KxCropPath.h>
+
+#include <algorithm>
+#include <cmath>
+
+namespace
+{
+
+class Decider
+{
+public:
+    Decider(const KxSubjectRecord& record, const KxSubjectRequest& request, const KxSubjectOptions& options)
+        : m_record(record)
+        , m_request(request)
+        , m_options(options)
+        , m_geometry({record.source.pictureWidthPx, record.source.pictureHeightPx},
+                     {request.aspectWidth, request.aspectHeight}, record.content)
+        , m_score(options.evidence, m_geometry)
+        , m_evidence(record, options, m_geometry.FreeAxis())
+    {
+    }
+
+    KxSubjectDecision Run(const KxCancelToken& cancel);
+
+private:
+    struct Shot {
+        std::int64_t first;
+        std::int64_t end;
+        /// Frames outside these are blended with the neighbouring shot and do not count as evidence.
+        std::int64_t clearFirst;
+        std::int64_t clearEnd;
+    };
+    /// The boundaries that were found, and the ends of long pauses in the pictures: what follows hours later is
+    /// another shot, and no path has to be computed through the pause.
+    std::vector<KxShotBoundary> Boundaries() const;
+    std::vector<Shot> Shots() const;
+    std::int64_t LongestHoldFrames() const;
+    /// The evidence of all signals, its peaks amplified, so that one subject outweighs what is spread wide.
+    KxSignalProfile Combined(const KxEvidence::Parts& parts) const;
+    /// The tracker's cost of a move by one width, in a shot with samples from `begin` up to, but without, `end`: where
+    /// pictures are missing, fewer samples have to pay for a move.
+    double MoveCost(const Shot& shot, std::size_t begin, std::size_t end) const;
+    std::vector<double> CentresOf(const Shot& shot, const KxCancelToken& cancel);
+    void RecordFindings(const Shot& shot, const std::vector<KxPathPoint>& points, std::size_t firstSample);
+
+    const KxSubjectRecord& m_record;
+    const KxSubjectRequest& m_request;
+    const KxSubjectOptions& m_options;
+    KxCropGeometry m_geometry;
+    KxCentreScore m_score;
+    KxEvidence m_evidence;
+    KxSubjectFindings m_findings;
+};
+
+std::int64_t Decider::LongestHoldFrames() const
+{
+    // At a very low rate every picture is held for long.
+    constexpr double leastFrames = 4.0;
+    return std::llround(std::max(m_options.path.longestHoldSeconds * m_record.source.frameRate, leastFrames));
+}
+
+std::vector<KxShotBoundary> Decider::Boundaries() const
+{
+    std::vector<KxShotBoundary> boundaries = m_record.boundaries;
+    const std::vector<KxSignalSample>& samples = m_record.samples;
+    const auto isBefore = [](std::int64_t frame, const KxShotBoundary& boundary) { return frame < boundary.frame; };
+    std::vector<KxShotBoundary> pauses;
+    for (std::size_t i = 1; i < samples.size(); ++i) {
+        const std::int64_t frame = samples[i].frame;
+        const std::int64_t before = samples[i - 1].frame;
+        if (frame - before <= LongestHoldFrames()) {
+            continue;
+        }
+        const auto found = std::upper_bound(boundaries.begin(), boundaries.end(), before, isBefore);
+        if (found == boundaries.end() || found->frame > frame) {
+            pauses.push_back({frame, frame, frame, KxShotBoundaryKind::Cut});
+        }
+    }
+    boundaries.insert(boundaries.end(), pauses.begin(), pauses.end());
+    std::sort(boundaries.begin(), boundaries.end(),
+              [](const KxShotBoundary& a, const KxShotBoundary& b) { return a.frame < b.frame; });
+    return boundaries;
+}
+
+std::vector<Decider::Shot> Decider::Shots() const
+{
+    std::vector<Shot> shots{{0, m_record.source.frameCount, 0, m_record.source.frameCount}};
+    for (const KxShotBoundary& boundary : Boundaries()) {
+        shots.back().end = boundary.frame;
+        shots.back().clearEnd = std::min(boundary.first, boundary.frame);
+        shots.push_back({boundary.frame, m_record.source.frameCount, std::max(boundary.frame, boundary.last),
+                         m_record.source.frameCount});
+    }
+    return shots;
+}
+
+KxSignalProfile Decider::Combined(const KxEvidence::Parts& parts) const
+{
+    return parts.Sum().Concentrated(m_options.evidence.concentration);
+}
+
+double Decider::MoveCost(const Shot& shot, std::size_t begin, std::size_t end) const
+{
+    if (begin == end) {
+        return 0.0;
+    }
+    const std::vector<KxSignalSample>& samples = m_record.samples;
+    const std::int64_t first = std::max(shot.first, samples[begin].frame - LongestHoldFrames());
+    const std::int64_t last = std::min(shot.end - 1, samples[end - 1].frame + LongestHoldFrames());
+    const double patience = m_options.For(m_request.speed).holdSeconds / m_options.automatic.holdSeconds;
+    const double usualRate = m_options.sampling.samplesPerSecond;
+    const double rate =
+        static_cast<double>(end - begin) * m_record.source.frameRate / static_cast<double>(last + 1 - first);
+    return m_options.path.moveCost * patience * std::sqrt(usualRate) * std::min(1.0, rate / usualRate);
+}
+
+std::vector<double> Decider::CentresOf(const Shot& shot, const KxCancelToken& cancel)
+{
+    const std::vector<KxSignalSample>& samples = m_record.samples;
+    const auto isBefore = [](const KxSignalSample& sample, std::int64_t frame) { return sample.frame < frame; };
+    const auto from = std::lower_bound(samples.begin(), samples.end(), shot.first, isBefore);
+    const auto to = std::lower_bound(from, samples.end(), shot.end, isBefore);
+    const auto begin = static_cast<std::size_t>(from - samples.begin());
+    const auto end = static_cast<std::size_t>(to - samples.begin());
+
+    KxSubjectTracker tracker(MoveCost(shot, begin, end) * m_score.Spacing());
+    for (std::size_t i = begin; i < end && !cancel.IsCancelled(); ++i) {
+        const bool clear = samples[i].frame >= shot.clearFirst && samples[i].frame < shot.clearEnd;
+        tracker.Add(clear ? m_score.Of(Combined(m_evidence.At(i, shot.first, shot.end))) : KxCentreScore::Scores{});
+    }
+    std::vector<KxPathPoint> points;
+    for (const std::size_t position : tracker.BestRun()) {
+        points.push_back({samples[begin + points.size()].frame, m_score.CentreAt(position)});
+    }
+    if (m_request.wantsFindings) {
+        RecordFindings(shot, points, begin);
+    }
+    return KxCropPath(m_options.path, m_options.For(m_request.speed), m_geometry)
+        .Draw(points, {shot.first, shot.end, m_record.source.frameRate}, 0.5, cancel);
+}
+
+void Decider::RecordFindings(const Shot& shot, const std::vector<KxPathPoint>& points, std::size_t firstSample)
+{
+    std::array<float, KxSignalCount> totals{};
+    for (std::size_t i = 0; i < points.size(); ++i) {
+        const KxEvidence::Parts parts = m_evidence.At(firstSample + i, shot.first, shot.end);
+        KxSubjectFindings::Sample sample;
+        sample.frame = points[i].frame;
+        sample.wanted = points[i].centre;
+        sample.evidence = KxPackedProfile(Combined(parts));
+        const std::array<const KxSignalProfile*, KxSignalCount> signals{&parts.motion, &parts.movers, &parts.saliency,
+                                                                        &parts.faces};
+        for (std::size_t signal = 0; signal < KxSignalCount; ++signal) {
+            sample.scores[signal] = m_score.Excess(points[i].centre, *signals[signal]);
+            totals[signal] += sample.scores[signal];
+        }
+        m_findings.samples.push_back(sample);
+    }
+    const auto dominant = std::max_element(totals.begin(), totals.end()) - totals.begin();
+    m_findings.shots.push_back({shot.first, shot.end, static_cast<KxSignal>(dominant)});
+}
+
+KxSubjectDecision Decider::Run(const KxCancelToken& cancel)
+{
+    KxSubjectDecision decision;
+    decision.crops.reserve(static_cast<std::size_t>(m_record.source.frameCount));
+    m_findings.freeAxis = m_geometry.FreeAxis();
+    m_findings.content = m_record.content;
+    for (const Shot& shot : Shots()) {
+        for (const double centre : CentresOf(shot, cancel)) {
+            decision.crops.push_back(m_geometry.At(centre));
+        }
+        if (cancel.IsCancelled()) {
+            return {};
+        }
+    }
+    decision.findings = std::move(m_findings);
+    return decision;
+}
+
+} // namespace
+
+KxSubjectDecision KxDecide(const KxSubjectRecord& record, const KxSubjectRequest& request,
+                           const KxSubjectOptions& options, const KxCancelToken& cancel)
+{
+    return Decider(record, request, options).Run(cancel);
+}

@@ -1,1 +1,0 @@
-#include <KxSubject/KxSubjectAnalyzer.h>

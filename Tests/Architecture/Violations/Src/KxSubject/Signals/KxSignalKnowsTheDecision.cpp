@@ -1,0 +1,1 @@
+#include <KxSubject/KxSubjectDecision.h>
