@@ -53,7 +53,7 @@ KxSignalProfile KxSignalProfile::Concentrated(double power) const
 
 KxPackedProfile::KxPackedProfile(const KxSignalProfile& profile)
 {
-    std::array<float, KxSignalProfile::Bins / BinsInGroup> groups{};
+    std::array<float, std::tuple_size_v<Groups>> groups{};
     for (std::size_t bin = 0; bin < KxSignalProfile::Bins; ++bin) {
         groups[bin / BinsInGroup] += std::max(0.0F, profile.share[bin]);
     }
@@ -61,6 +61,12 @@ KxPackedProfile::KxPackedProfile(const KxSignalProfile& profile)
     for (std::size_t group = 0; m_largest > 0.0F && group < groups.size(); ++group) {
         m_groups[group] = static_cast<std::uint8_t>(std::lround(groups[group] / m_largest * PackedOne));
     }
+}
+
+KxPackedProfile::KxPackedProfile(float largestGroup, const Groups& groupLevels)
+    : m_largest(largestGroup)
+    , m_groups(groupLevels)
+{
 }
 
 KxSignalProfile KxPackedProfile::Unpacked() const

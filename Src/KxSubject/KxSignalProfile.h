@@ -27,12 +27,20 @@ struct KXSUBJECT_API KxSignalProfile {
 class KXSUBJECT_API KxPackedProfile
 {
 public:
+    static constexpr std::size_t BinsInGroup = 4;
+    using Groups = std::array<std::uint8_t, KxSignalProfile::Bins / BinsInGroup>;
+
     KxPackedProfile() = default;
     explicit KxPackedProfile(const KxSignalProfile& profile);
+    /// What LargestGroup() and GroupLevels() returned.
+    KxPackedProfile(float largestGroup, const Groups& groupLevels);
+
     KxSignalProfile Unpacked() const;
+    float LargestGroup() const { return m_largest; }
+    /// In 255ths of the largest group.
+    const Groups& GroupLevels() const { return m_groups; }
 
 private:
-    static constexpr std::size_t BinsInGroup = 4;
     float m_largest = 0.0F;
-    std::array<std::uint8_t, KxSignalProfile::Bins / BinsInGroup> m_groups{};
+    Groups m_groups{};
 };

@@ -117,7 +117,8 @@ struct KxSubjectOptions {
         double secondsAtZero = 0.3;    ///< 0 to 1 of being seen, that give no confidence yet; clips
         double secondsToFull = 1.5;    ///< 0.5 to 3 beyond, for full confidence; spread
         double fullTravel = 0.15;      ///< 0.1 to 0.3 of the width, relative to the background, for the same; spread
-        double leastConfidence = 0.05; ///< 0 to 0.2: below, a mover is forgotten; chosen
+        double leastSeconds = 0.37;    ///< 0.3 to 0.6: a mover that was seen for less is forgotten; chosen
+        double leastTravel = 0.007;    ///< 0.003 to 0.03 of the width: one that travelled less, too; chosen
         double areaPower = 0.5;        ///< 0.4 to 0.6: a mover weighs as its box's side, not as its area; clips
         double emptyFloor = 0.1; ///< 0.05 to 0.2, the sum of weights that gives half of the possible evidence; spread
     } movers;

@@ -20,7 +20,7 @@ struct KxSignalSample {
     std::array<KxPackedProfile, 2> saliency; ///< by axis
 };
 
-/// Something that moved relative to its background and was tracked long enough to count.
+/// Something that moved relative to its background, and for how long it was tracked.
 struct KXSUBJECT_API KxMover {
     /// In fractions of the picture.
     struct Box {
@@ -33,7 +33,8 @@ struct KXSUBJECT_API KxMover {
     using PackedBox = std::array<std::uint8_t, 4>;
 
     std::int32_t firstSample = 0; ///< an index of KxSubjectRecord::samples
-    float confidence = 0.0F;      ///< 0 to 1, of being a subject
+    float seconds = 0.0F;         ///< from its first to its last detection
+    float travel = 0.0F;          ///< relative to the background, in picture widths
     std::vector<PackedBox> boxes; ///< one a sample
 
     Box At(std::size_t sample) const;

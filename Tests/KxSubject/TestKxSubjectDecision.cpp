@@ -323,8 +323,8 @@ TEST(KxSubjectDecision, OneRecordServesEveryAspectAndSpeed)
         observer.AddPicture(frame, ViewOf(Walk(frame)));
     }
     const KxSubjectRecord record = observer.Finish();
-    for (const KxIntSize aspect : {KxIntSize{9, 16}, {1, 1}, {4, 5}}) {
-        for (const KxMotionSpeed speed : {KxMotionSpeed::Auto, KxMotionSpeed::Fast, KxMotionSpeed::Slow}) {
+    for (const KxIntSize aspect : {KxIntSize{9, 16}, {1, 1}}) {
+        for (const KxMotionSpeed speed : {KxMotionSpeed::Auto, KxMotionSpeed::Fast}) {
             task.request = {aspect.width, aspect.height, speed, false};
             const auto decided = KxDecide(record, task.request, {}, KxCancelToken()).crops;
             const auto analysed = Analyse(task, Walk);

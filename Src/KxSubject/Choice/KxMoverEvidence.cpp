@@ -1,5 +1,6 @@
 #include <KxSubject/Choice/KxMoverEvidence.h>
 
+#include <algorithm>
 #include <cmath>
 
 KxMoverEvidence::KxMoverEvidence(const KxSubjectRecord& record, const KxSubjectOptions::Movers& options)
@@ -13,6 +14,13 @@ KxMoverEvidence::KxMoverEvidence(const KxSubjectRecord& record, const KxSubjectO
     }
 }
 
+double KxMoverEvidence::ConfidenceIn(const KxMover& mover) const
+{
+    const double lasted = (static_cast<double>(mover.seconds) - m_options.secondsAtZero) / m_options.secondsToFull;
+    const double travelled = static_cast<double>(mover.travel) / m_options.fullTravel;
+    return std::clamp(lasted, 0.0, 1.0) * std::clamp(travelled, 0.0, 1.0);
+}
+
 KxSignalProfile KxMoverEvidence::ProfileAt(std::size_t sample, KxAxis axis) const
 {
     KxSignalProfile movers;
@@ -24,7 +32,7 @@ KxSignalProfile KxMoverEvidence::ProfileAt(std::size_t sample, KxAxis axis) cons
         }
         const KxMover::Box box = mover.At(sample);
         const double weight =
-            mover.confidence * std::pow(box.width * box.height, m_options.areaPower) / m_options.levels;
+            ConfidenceIn(mover) * std::pow(box.width * box.height, m_options.areaPower) / m_options.levels;
         const bool across = axis == KxAxis::Across;
         const double from = across ? box.x : box.y;
         movers.Add(from, from + (across ? box.width : box.height), weight);

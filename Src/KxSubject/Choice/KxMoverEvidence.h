@@ -14,6 +14,8 @@ public:
     /// `record` must outlive this.
     KxMoverEvidence(const KxSubjectRecord& record, const KxSubjectOptions::Movers& options);
 
+    /// 0 to 1, of being a subject: noise, leaves and parallax neither last nor travel.
+    double ConfidenceIn(const KxMover& mover) const;
     KxSignalProfile ProfileAt(std::size_t sample, KxAxis axis) const;
 
 private:

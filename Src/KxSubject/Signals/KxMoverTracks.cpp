@@ -180,7 +180,7 @@ void KxMoverTracks::Associate(std::vector<Track>& open, const std::vector<Blob>&
                                m_nowSeconds,
                                1,
                                0,
-                               {m_sample, 0.0F, {Packed(blobs[j].box)}}});
+                               {m_sample, 0.0F, 0.0F, {Packed(blobs[j].box)}}});
         }
     }
     open = std::move(staying);
@@ -189,12 +189,10 @@ void KxMoverTracks::Associate(std::vector<Track>& open, const std::vector<Blob>&
 void KxMoverTracks::End(Track& track)
 {
     const double seconds = track.lastSeconds - track.firstSeconds;
-    const double lasted =
-        track.hits < m_options.leastHits ? 0.0 : (seconds - m_options.secondsAtZero) / m_options.secondsToFull;
-    const double travelled = cv::norm(track.travel) / m_mapPx.width / m_options.fullTravel;
-    const double confidence = std::clamp(lasted, 0.0, 1.0) * std::clamp(travelled, 0.0, 1.0);
-    if (confidence > m_options.leastConfidence) {
-        track.mover.confidence = static_cast<float>(confidence);
+    const double travel = cv::norm(track.travel) / m_mapPx.width;
+    if (track.hits >= m_options.leastHits && seconds > m_options.leastSeconds && travel > m_options.leastTravel) {
+        track.mover.seconds = static_cast<float>(seconds);
+        track.mover.travel = static_cast<float>(travel);
         track.mover.boxes.shrink_to_fit();
         m_movers.push_back(std::move(track.mover));
     }
