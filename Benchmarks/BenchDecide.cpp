@@ -1,0 +1,190 @@
+// Looks at videos once and decides often, to measure what the tuning values do:
+//   BenchDecide observe CLIP RECORD              one pass over CLIP
+//   BenchDecide names                            the tuning values of the decision, with what they are now
+//   BenchDecide decide RECORD=W:H...             decides on every record, once for each line of the standard input:
+//   NAME=VALUE...
+// For each line and record: the number of frames (int32), the crop's width and height, and its left and top in each
+// frame (float32, fractions of the picture), on the standard output.
+
+#include <KxMedia/Picture/KxPictureScaler.h>
+#include <KxMedia/Read/KxVideoScanner.h>
+#include <KxModel/KxFaceModelFiles.h>
+#include <KxSubject/KxPictureView.h>
+#include <KxSubject/KxSubjectDecision.h>
+#include <KxSubject/KxSubjectObserver.h>
+#include <KxSubject/KxSubjectOptions.h>
+#include <KxSubject/KxSubjectRecordFormat.h>
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QMap>
+#include <QTextStream>
+
+#include <cstdio>
+
+namespace
+{
+
+QMap<QString, double*> Values(KxSubjectOptions& options)
+{
+    KxSubjectOptions::Evidence& evidence = options.evidence;
+    KxSubjectOptions::Path& path = options.path;
+    KxSubjectOptions::Movers& movers = options.movers;
+    KxSubjectOptions::Faces& faces = options.faces;
+    KxSubjectOptions::Reaction& reaction = options.automatic;
+    return {{QStringLiteral("motionWeight"), &evidence.motionWeight},
+            {QStringLiteral("moverWeight"), &evidence.moverWeight},
+            {QStringLiteral("saliencyWeightAcross"), &evidence.saliencyWeightAcross},
+            {QStringLiteral("saliencyWeightUpDown"), &evidence.saliencyWeightUpDown},
+            {QStringLiteral("faceWeight"), &evidence.faceWeight},
+            {QStringLiteral("emptyFloor"), &evidence.emptyFloor},
+            {QStringLiteral("concentration"), &evidence.concentration},
+            {QStringLiteral("windowFlatAcross"), &evidence.windowFlatAcross},
+            {QStringLiteral("windowFlatUpDown"), &evidence.windowFlatUpDown},
+            {QStringLiteral("centrePriorAcross"), &evidence.centrePriorAcross},
+            {QStringLiteral("centrePriorUpDown"), &evidence.centrePriorUpDown},
+            {QStringLiteral("moverSecondsToFull"), &movers.secondsToFull},
+            {QStringLiteral("moverFullTravel"), &movers.fullTravel},
+            {QStringLiteral("moverAreaPower"), &movers.areaPower},
+            {QStringLiteral("moverEmptyFloor"), &movers.emptyFloor},
+            {QStringLiteral("faceZeroWeightShare"), &faces.zeroWeightShare},
+            {QStringLiteral("faceFullWeightShare"), &faces.fullWeightShare},
+            {QStringLiteral("faceWindowSeconds"), &faces.windowSeconds},
+            {QStringLiteral("moveCost"), &path.moveCost},
+            {QStringLiteral("speedWeight"), &path.speedWeight},
+            {QStringLiteral("accelerationWeight"), &path.accelerationWeight},
+            {QStringLiteral("jerkWeight"), &path.jerkWeight},
+            {QStringLiteral("stillRange"), &reaction.stillRange},
+            {QStringLiteral("deadZone"), &reaction.deadZone},
+            {QStringLiteral("topSpeed"), &reaction.topSpeed},
+            {QStringLiteral("smoothing"), &reaction.smoothingSeconds}};
+}
+
+int Fail(const QString& message)
+{
+    std::fprintf(stderr, "%s\n", qPrintable(message));
+    return 1;
+}
+
+int Observe(const QString& clip, const QString& recordPath)
+{
+    const KxResult<std::unique_ptr<KxVideoScanner>> scanner = KxVideoScanner::Open(clip, KxCancelToken());
+    if (!scanner) {
+        return Fail(scanner.Message());
+    }
+    const KxMediaFacts facts = (*scanner)->Facts();
+    const QSize resolution = facts.video->resolution;
+    KxSubjectObserver observer(
+        {resolution.width(), resolution.height(), facts.video->frameRate.ToDouble(), facts.video->frameCount},
+        KxFaceModelFiles::Read({}).models, {});
+    const QSize size(observer.WorkingSize().width, observer.WorkingSize().height);
+    KxPictureScaler scaler(KxPictureScaler::Detail::Coarse);
+    KxVideoFrame picture;
+    while ((*scanner)->Next(picture) == KxReadStatus::Delivered) {
+        if (observer.Wants(picture.Index())) {
+            const QImage image = scaler.Scale(picture, size, QImage::Format_BGR888);
+            observer.AddPicture(
+                picture.Index(),
+                {image.constBits(), {image.width(), image.height()}, static_cast<std::size_t>(image.bytesPerLine())});
+        }
+    }
+    QFile file(recordPath);
+    const std::string bytes = KxSubjectRecordFormat::Write(observer.Finish());
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes.data(), static_cast<qint64>(bytes.size())) < 0) {
+        return Fail(QStringLiteral("Cannot write %1: %2.").arg(recordPath, file.errorString()));
+    }
+    return 0;
+}
+
+struct Task {
+    KxSubjectRecord record;
+    KxSubjectRequest request;
+};
+
+/// Nothing after a message.
+std::optional<Task> TaskOf(const QString& argument)
+{
+    const int separator = argument.lastIndexOf(QLatin1Char('='));
+    const QStringList aspect = argument.mid(separator + 1).split(QLatin1Char(':'));
+    QFile file(argument.left(separator));
+    if (aspect.size() != 2 || !file.open(QIODevice::ReadOnly)) {
+        Fail(QStringLiteral("Cannot read the record of %1.").arg(argument));
+        return std::nullopt;
+    }
+    std::optional<KxSubjectRecord> record = KxSubjectRecordFormat::Read(file.readAll().toStdString());
+    if (!record) {
+        Fail(QStringLiteral("%1 is not a record of this version.").arg(file.fileName()));
+        return std::nullopt;
+    }
+    return Task{std::move(*record), {aspect[0].toInt(), aspect[1].toInt()}};
+}
+
+void Print(const std::vector<KxCropRect>& crops)
+{
+    const auto frames = static_cast<std::int32_t>(crops.size());
+    std::vector<float> numbers;
+    numbers.reserve(2 * crops.size() + 2);
+    for (const KxCropRect& crop : crops) {
+        if (numbers.empty()) {
+            numbers = {static_cast<float>(crop.width), static_cast<float>(crop.height)};
+        }
+        numbers.push_back(static_cast<float>(crop.x));
+        numbers.push_back(static_cast<float>(crop.y));
+    }
+    std::fwrite(&frames, sizeof(frames), 1, stdout);
+    std::fwrite(numbers.data(), sizeof(float), numbers.size(), stdout);
+}
+
+int Decide(const QStringList& arguments)
+{
+    std::vector<Task> tasks;
+    for (const QString& argument : arguments) {
+        std::optional<Task> task = TaskOf(argument);
+        if (!task) {
+            return 1;
+        }
+        tasks.push_back(std::move(*task));
+    }
+    QTextStream input(stdin);
+    for (QString line; input.readLineInto(&line);) {
+        KxSubjectOptions options;
+        const QMap<QString, double*> values = Values(options);
+        for (const QString& change : line.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
+            const QStringList parts = change.split(QLatin1Char('='));
+            if (parts.size() != 2 || !values.contains(parts[0])) {
+                return Fail(QStringLiteral("There is no value of the name in %1.").arg(change));
+            }
+            *values[parts[0]] = parts[1].toDouble();
+        }
+        for (const Task& task : tasks) {
+            Print(KxDecide(task.record, task.request, options, KxCancelToken()).crops);
+        }
+        std::fflush(stdout);
+    }
+    return 0;
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    const QCoreApplication application(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments();
+    const QString command = arguments.value(1);
+    if (command == QLatin1String("observe") && arguments.size() == 4) {
+        return Observe(arguments[2], arguments[3]);
+    }
+    if (command == QLatin1String("names") && arguments.size() == 2) {
+        KxSubjectOptions options;
+        const QMap<QString, double*> values = Values(options);
+        for (auto value = values.begin(); value != values.end(); ++value) {
+            std::printf("%s=%g\n", qPrintable(value.key()), **value);
+        }
+        return 0;
+    }
+    if (command == QLatin1String("decide") && arguments.size() > 2) {
+        return Decide(arguments.mid(2));
+    }
+    std::fputs("Usage: BenchDecide observe CLIP RECORD | names | decide RECORD=W:H...\n", stderr);
+    return 2;
+}
