@@ -21,7 +21,8 @@
 /// The following are not boundaries:
 /// 4. a pan, a zoom, a shake: the intermediate frames have a structure of their own, and contrast;
 /// 5. a change of light, or black and back again: the two are similar in structure;
-/// 6. a subject that passes close in front of the camera: the earlier picture soon comes back;
+/// 6. a subject that passes close in front of the camera, or a picture that is shown briefly: the earlier picture soon
+///    comes back;
 /// 7. a cut: there are no intermediate frames.
 class KXSUBJECT_API KxShotBlends
 {

@@ -199,6 +199,21 @@ TEST(KxShotBlends, Case6AnObjectThatPassesCloseIsNotABoundary)
     }
 }
 
+TEST(KxShotBlends, Case6APictureThatIsShownBrieflyIsNotABoundary)
+{
+    const cv::Mat scene = Shot(Scene(1), 0);
+    const cv::Mat insert = Shot(Scene(2), 0);
+    constexpr int blend = 8;
+    const auto find = [&](int shownFor) {
+        return Find(First + blend + shownFor + blend + After, [&](int frame) {
+            const cv::Mat in = Mixed(scene, insert, Share(frame, blend));
+            return Mixed(in, scene, Share(frame - blend - shownFor, blend));
+        });
+    };
+    EXPECT_THAT(find(8), IsEmpty());
+    EXPECT_THAT(find(60), SizeIs(2)) << "long enough for a shot of its own";
+}
+
 TEST(KxShotBlends, Case7ACutIsNotABlend)
 {
     const cv::Mat one = Scene(1);
