@@ -119,7 +119,7 @@ TEST_F(KxRendererTest, ReportsAscendingProgressUpToTheEnd)
         EXPECT_GT(m_progress[i], m_progress[i - 1]);
     }
     EXPECT_EQ(m_progress.back(), 10000);
-    EXPECT_EQ(std::count(m_progress.begin(), m_progress.end(), 10000), 1);
+    EXPECT_EQ(m_progress[m_progress.size() - 2], 9999) << "all frames are written, the file is not complete";
 }
 
 TEST_F(KxRendererTest, KeepsTheRateOfTheSourceExactly)
