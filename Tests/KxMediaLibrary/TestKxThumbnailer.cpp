@@ -1,6 +1,7 @@
 #include <KxMediaLibrary/KxThumbnailer.h>
 #include <Tests/Support/MadeVideo.h>
 
+#include <QPainter>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
@@ -81,6 +82,34 @@ TEST_F(KxThumbnailerTest, ABlackBeginningIsSkipped)
     ASSERT_TRUE(WaitForAnswers(1));
     ASSERT_EQ(ready.count(), 1);
     EXPECT_EQ(MadeVideo::ReadNumber(ready.at(0).at(1).value<QImage>()), FrameCount * 35 / 100);
+}
+
+TEST_F(KxThumbnailerTest, APictureNeedsAContrastOf24GreyLevels)
+{
+    MadeVideo::Recipe recipe;
+    recipe.frames = FrameCount;
+    recipe.output = QStringList{QStringLiteral("-c:v"), QStringLiteral("libx264"),  QStringLiteral("-qp"),
+                                QStringLiteral("0"),    QStringLiteral("-pix_fmt"), QStringLiteral("yuv420p")};
+    for (const int contrast : {23, 24}) {
+        recipe.draw = [&recipe, contrast](int number) {
+            if (number >= FrameCount * 35 / 100) {
+                return MadeVideo::Draw(number, recipe.size);
+            }
+            QImage faint(recipe.size, QImage::Format_RGB888);
+            faint.fill(Qt::black);
+            QPainter(&faint).fillRect(0, 0, 80, 96, QColor(contrast, contrast, contrast));
+            return faint;
+        };
+        thumbnailer->Request(Clip(QStringLiteral("%1.mp4").arg(contrast), recipe), QSize(160, 96));
+        ASSERT_TRUE(WaitForAnswers(1));
+        ASSERT_EQ(ready.count(), 1);
+        const auto picture = ready.takeFirst().at(1).value<QImage>();
+        if (contrast < 24) {
+            EXPECT_EQ(MadeVideo::ReadNumber(picture), FrameCount * 35 / 100);
+        } else {
+            EXPECT_EQ(qGray(picture.pixel(20, 48)) - qGray(picture.pixel(140, 48)), 24);
+        }
+    }
 }
 
 TEST_F(KxThumbnailerTest, ABlackVideoIsShownBlack)
