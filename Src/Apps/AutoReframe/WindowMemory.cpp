@@ -25,7 +25,7 @@ bool WindowMemory::Restore(QWidget& window)
     constexpr qint64 most = 1000;
     QFile file(FilePath());
     // Opening anything but a regular file may block.
-    if (!QFileInfo(file).isFile() || file.size() > most || !file.open(QIODevice::ReadOnly)) {
+    if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly)) {
         return false;
     }
     return window.restoreGeometry(file.read(most));
