@@ -115,7 +115,7 @@ bool KxFocusRing::eventFilter(QObject* watched, QEvent* event)
         m_lastInputWasKey = true;
         break;
     case QEvent::ShortcutOverride:
-        if (watched == m_target && Needs(*static_cast<QKeyEvent*>(event))) {
+        if (Needs(*static_cast<QKeyEvent*>(event))) {
             event->accept();
             return true;
         }
