@@ -93,26 +93,21 @@ bool KxPlayerEngine::KeepFrom(int frame)
 
 void KxPlayerEngine::Show(int frame)
 {
-    bool isThere = false;
-    {
-        const std::lock_guard<std::mutex> lock(m_shared.mutex);
-        isThere = KeepFrom(frame);
-        m_shared.mode = isThere ? Mode::Idle : Mode::Still;
-        m_shared.next = isThere ? m_shared.ready.back().frame + 1 : frame;
-        NewOrder();
-    }
-    if (isThere) {
-        m_notify();
-    }
+    Continue(frame, Mode::Still, Mode::Idle);
 }
 
 void KxPlayerEngine::Play(int frame)
+{
+    Continue(frame, Mode::Playing, Mode::Playing);
+}
+
+void KxPlayerEngine::Continue(int frame, Mode mode, Mode modeIfMade)
 {
     bool isThere = false;
     {
         const std::lock_guard<std::mutex> lock(m_shared.mutex);
         isThere = KeepFrom(frame);
-        m_shared.mode = Mode::Playing;
+        m_shared.mode = isThere ? modeIfMade : mode;
         m_shared.next = isThere ? m_shared.ready.back().frame + 1 : frame;
         NewOrder();
     }

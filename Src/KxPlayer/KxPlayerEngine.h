@@ -82,6 +82,8 @@ private:
     void CarryOut(const Job& job, std::unique_ptr<KxPictureMaker>& maker);
     void Deliver(const Job& job, KxPlayerPicture picture, qint64 tookUs);
     void Fail(const Job& job, const QString& message);
+    /// Begins an order; `modeIfMade` if the picture of `frame` is ready already.
+    void Continue(int frame, Mode mode, Mode modeIfMade);
     bool KeepFrom(int frame);
     void NewOrder();
 
