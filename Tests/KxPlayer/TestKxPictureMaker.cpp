@@ -3,6 +3,9 @@
 #include <Tests/KxPlayer/PlayerClip.h>
 #include <Tests/Support/MadeVideo.h>
 
+#include <QPainter>
+#include <QTemporaryDir>
+
 #include <gtest/gtest.h>
 
 namespace
@@ -24,6 +27,25 @@ std::optional<int> NumberAt(KxPictureMaker& maker, int frame)
     return status == KxReadStatus::Delivered ? MadeVideo::ReadNumber(picture.image) : std::nullopt;
 }
 
+/// Black and white columns, a pixel wide in turn.
+QString StripedClip()
+{
+    static const QTemporaryDir folder;
+    MadeVideo::Recipe recipe;
+    recipe.size = QSize(640, 360);
+    recipe.frames = 2;
+    recipe.draw = [](int) {
+        QImage image(640, 360, QImage::Format_RGB888);
+        for (int x = 0; x < image.width(); ++x) {
+            QPainter(&image).fillRect(x, 0, 1, image.height(), x % 2 == 0 ? Qt::black : Qt::white);
+        }
+        return image;
+    };
+    const QString path = folder.filePath(QStringLiteral("striped.mp4"));
+    EXPECT_TRUE(MadeVideo::Make(path, recipe));
+    return path;
+}
+
 // Abandons the seek to the last frame. Returns how often the maker asked whether to abandon it.
 int GiveUpAfter(KxPictureMaker& maker, int asks)
 {
@@ -36,6 +58,22 @@ int GiveUpAfter(KxPictureMaker& maker, int asks)
 }
 
 } // namespace
+
+TEST(KxPictureMaker, ACropThatIsShownSmallerIsAveraged)
+{
+    KxPlaySource source = *PlayerClip::Source(StripedClip());
+    KxCropPanZoomKeyFrameParam key;
+    key.cropRect = QRectF(0.1, 0.0, 0.8, 1.0);
+    source.cropKeyFrames = {key};
+    const auto maker = KxPictureMaker::Open(std::make_shared<const KxPlaySource>(source), {});
+    ASSERT_TRUE(maker) << maker.Message().toStdString();
+    KxPlayerPicture picture;
+    ASSERT_EQ((*maker)->Make(0, QSize(80, 45), picture), KxReadStatus::Delivered);
+    ASSERT_EQ(picture.image.size(), QSize(64, 45));
+    for (int x = 1; x + 1 < picture.image.width(); ++x) {
+        EXPECT_NEAR(qGray(picture.image.pixel(x, 20)), 127, 24) << x;
+    }
+}
 
 TEST(KxPictureMaker, ALongSeekIsAbandonedAtTheNextPicture)
 {

@@ -8,6 +8,7 @@
 #include <KxWidgets/KxToolSlider.h>
 
 #include <QBoxLayout>
+#include <QPointer>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -78,6 +79,17 @@ TEST_F(TestToolBar, HasFourButtonsByNumberAndName)
     EXPECT_TRUE(bar.button(Bar::ForwardButton)->isHidden());
     EXPECT_EQ(bar.slider()->parentWidget(), &bar);
     EXPECT_EQ(bar.playerPresenter(), &player);
+}
+
+TEST(KxPlayerToolBar, OwnsItsSliderAlsoWithoutALayout)
+{
+    auto* const slider = new KxToolSlider(nullptr, Qt::Horizontal);
+    const QPointer<KxToolSlider> owned(slider);
+    {
+        const Bar bar(nullptr, slider, true);
+        EXPECT_EQ(slider->parentWidget(), &bar);
+    }
+    EXPECT_TRUE(owned.isNull());
 }
 
 TEST_F(TestToolBar, SliderFollowsTheTimeline)
