@@ -1,0 +1,118 @@
+#include <Apps/Reframe/ReframeOptions.h>
+#include <Apps/Reframe/ReframeReporter.h>
+
+#include <QByteArray>
+
+#include <gtest/gtest.h>
+
+#include <pty.h>
+#include <unistd.h>
+
+#include <cstdio>
+#include <memory>
+
+namespace
+{
+
+/// A terminal in place of standard error.
+class ErrorTerminal
+{
+public:
+    ErrorTerminal()
+        : m_before(::dup(STDERR_FILENO))
+    {
+        EXPECT_EQ(::openpty(&m_reader, &m_terminal, nullptr, nullptr, nullptr), 0);
+        std::fflush(stderr);
+        EXPECT_GE(::dup2(m_terminal, STDERR_FILENO), 0);
+    }
+    ~ErrorTerminal()
+    {
+        std::fflush(stderr);
+        ::dup2(m_before, STDERR_FILENO);
+        for (const int file : {m_before, m_reader, m_terminal}) {
+            ::close(file);
+        }
+    }
+    Q_DISABLE_COPY_MOVE(ErrorTerminal)
+
+    /// What was written since the last call.
+    QByteArray Take()
+    {
+        // The mark shows where it ends, without waiting.
+        constexpr char mark = '\x01';
+        std::fflush(stderr);
+        EXPECT_EQ(::write(m_terminal, &mark, 1), 1);
+        QByteArray text;
+        char next = 0;
+        while (::read(m_reader, &next, 1) == 1 && next != mark) {
+            text += next;
+        }
+        return text.replace("\r\n", "\n");
+    }
+
+private:
+    int m_before = -1;
+    int m_reader = -1;
+    int m_terminal = -1;
+};
+
+const QString Input = QStringLiteral("folder/clip.mp4");
+const QByteArray Cleared("\r\033[K");
+
+} // namespace
+
+TEST(ReframeReporter, OneLineOfATerminalShowsTheProgress)
+{
+    ErrorTerminal terminal;
+    ReframeReporter reporter{ReframeOptions()};
+    reporter.BeginStage(Input, ReframeReporter::Stage::Analyze);
+    EXPECT_EQ(terminal.Take(), Cleared + "clip.mp4: analyzing 0 %");
+    reporter.Progress(99);
+    EXPECT_EQ(terminal.Take(), QByteArray()) << "nothing changed";
+    reporter.Progress(100);
+    EXPECT_TRUE(terminal.Take().startsWith(Cleared + "clip.mp4: analyzing 1 %"));
+    reporter.BeginStage(Input, ReframeReporter::Stage::Render);
+    EXPECT_EQ(terminal.Take(), Cleared + "clip.mp4: rendering 0 %");
+}
+
+TEST(ReframeReporter, AMessageReplacesTheProgressLine)
+{
+    ErrorTerminal terminal;
+    ReframeReporter reporter{ReframeOptions()};
+    for (const char* const kind : {"warning", "error"}) {
+        reporter.BeginStage(Input, ReframeReporter::Stage::Analyze);
+        terminal.Take();
+        if (*kind == 'w') {
+            reporter.Warn(Input, QStringLiteral("Odd."));
+            EXPECT_EQ(terminal.Take(), Cleared + "Warning: Odd.\n");
+        } else {
+            reporter.Fail(Input, QStringLiteral("Bad."));
+            EXPECT_EQ(terminal.Take(), Cleared + "Bad.\n");
+        }
+    }
+    reporter.Fail(Input, QStringLiteral("Worse."));
+    EXPECT_EQ(terminal.Take(), "Worse.\n") << "no line was shown";
+}
+
+TEST(ReframeReporter, TheProgressLineDisappearsAtTheEnd)
+{
+    ErrorTerminal terminal;
+    auto reporter = std::make_unique<ReframeReporter>(ReframeOptions());
+    reporter->BeginStage(Input, ReframeReporter::Stage::Preview);
+    EXPECT_EQ(terminal.Take(), Cleared + "clip.mp4: drawing the preview 0 %");
+    reporter.reset();
+    EXPECT_EQ(terminal.Take(), Cleared);
+}
+
+TEST(ReframeReporter, QuietMeansOnlyErrors)
+{
+    ErrorTerminal terminal;
+    ReframeOptions options;
+    options.quiet = true;
+    ReframeReporter reporter(options);
+    reporter.BeginStage(Input, ReframeReporter::Stage::Analyze);
+    reporter.Warn(Input, QStringLiteral("Odd."));
+    EXPECT_EQ(terminal.Take(), QByteArray());
+    reporter.Fail(Input, QStringLiteral("Bad."));
+    EXPECT_EQ(terminal.Take(), QByteArray("Bad.\n"));
+}
