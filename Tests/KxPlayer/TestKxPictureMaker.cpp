@@ -27,7 +27,7 @@ std::optional<int> NumberAt(KxPictureMaker& maker, int frame)
     return status == KxReadStatus::Delivered ? MadeVideo::ReadNumber(picture.image) : std::nullopt;
 }
 
-/// Black and white columns, a pixel wide in turn.
+/// Black and white columns, two pixels wide.
 QString StripedClip()
 {
     static const QTemporaryDir folder;
@@ -37,7 +37,7 @@ QString StripedClip()
     recipe.draw = [](int) {
         QImage image(640, 360, QImage::Format_RGB888);
         for (int x = 0; x < image.width(); ++x) {
-            QPainter(&image).fillRect(x, 0, 1, image.height(), x % 2 == 0 ? Qt::black : Qt::white);
+            QPainter(&image).fillRect(x, 0, 1, image.height(), x % 4 < 2 ? Qt::black : Qt::white);
         }
         return image;
     };
@@ -63,7 +63,8 @@ TEST(KxPictureMaker, ACropThatIsShownSmallerIsAveraged)
 {
     KxPlaySource source = *PlayerClip::Source(StripedClip());
     KxCropPanZoomKeyFrameParam key;
-    key.cropRect = QRectF(0.1, 0.0, 0.8, 1.0);
+    // From pixel 65 on, so that the nearest pixels of each shown one have one colour.
+    key.cropRect = QRectF(65.0 / 640.0, 0.0, 0.8, 1.0);
     source.cropKeyFrames = {key};
     const auto maker = KxPictureMaker::Open(std::make_shared<const KxPlaySource>(source), {});
     ASSERT_TRUE(maker) << maker.Message().toStdString();
