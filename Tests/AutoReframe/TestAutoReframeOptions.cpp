@@ -33,7 +33,7 @@ TEST(TestAutoReframeOptions, HelpAndVersionArePrinted)
     EXPECT_EQ(version.exitStatus, 0);
 }
 
-TEST(TestAutoReframeOptions, HelpIsPrintedDespiteOptionsThatQtHasNotTakenYet)
+TEST(TestAutoReframeOptions, HelpIsPrintedDespiteOptionsOfQt)
 {
     const auto parsed = Parse({QStringLiteral("-platform"), QStringLiteral("offscreen"), QStringLiteral("--help")});
     EXPECT_EQ(parsed.exitStatus, 0);
@@ -51,6 +51,15 @@ TEST(TestAutoReframeOptions, AnUnknownOptionWithPlaceMarkersIsQuotedAsItIs)
 {
     const auto parsed = Parse({QStringLiteral("--50%1%2")});
     EXPECT_EQ(parsed.text, QStringLiteral("Unknown option '50%1%2'.\nTry auto-reframe --help.\n"));
+}
+
+TEST(TestAutoReframeOptions, OptionsOfQtAreKnownAndTheirValuesAreNotFiles)
+{
+    const auto parsed = Parse({QStringLiteral("-platform"), QStringLiteral("xcb"), QStringLiteral("--style=fusion"),
+                               QStringLiteral("-display"), QStringLiteral(":7"), QStringLiteral("-reverse"),
+                               QStringLiteral("-session"), QStringLiteral("10a_b"), QStringLiteral("a.mp4")});
+    EXPECT_EQ(parsed.text, QString());
+    EXPECT_EQ(parsed.options.files, QStringList(QStringLiteral("a.mp4")));
 }
 
 TEST(TestAutoReframePlatform, X11IsTakenWhereTheSessionOffersIt)

@@ -7,6 +7,29 @@ namespace
 
 constexpr int WrongUse = 2;
 
+/// The options that Qt takes from the command line when it opens the display, on X11 included.
+QList<QCommandLineOption> OptionsOfQt()
+{
+    const QStringList flags{QStringLiteral("reverse"), QStringLiteral("widgetcount"), QStringLiteral("testability"),
+                            QStringLiteral("nograb"), QStringLiteral("dograb")};
+    const QStringList withValue{QStringLiteral("platform"),      QStringLiteral("platformpluginpath"),
+                                QStringLiteral("platformtheme"), QStringLiteral("plugin"),
+                                QStringLiteral("session"),       QStringLiteral("style"),
+                                QStringLiteral("stylesheet"),    QStringLiteral("qwindowgeometry"),
+                                QStringLiteral("qwindowicon"),   QStringLiteral("qwindowtitle"),
+                                QStringLiteral("geometry"),      QStringLiteral("icon"),
+                                QStringLiteral("title"),         QStringLiteral("display"),
+                                QStringLiteral("name"),          QStringLiteral("visual")};
+    QList<QCommandLineOption> options;
+    for (const QString& name : flags + withValue) {
+        QCommandLineOption option(name);
+        option.setValueName(withValue.contains(name) ? QStringLiteral("value") : QString());
+        option.setFlags(QCommandLineOption::HiddenFromHelp);
+        options += option;
+    }
+    return options;
+}
+
 } // namespace
 
 AutoReframeOptions::Parsed AutoReframeOptions::Parse(const QStringList& arguments)
@@ -17,14 +40,13 @@ AutoReframeOptions::Parsed AutoReframeOptions::Parse(const QStringList& argument
     parser.setApplicationDescription(
         QStringLiteral("Turns videos into another aspect ratio and keeps their subject in the picture.\n"
                        "The command line program for many files at once is reframe."));
-    parser.addOptions({help, version});
+    parser.addOptions(OptionsOfQt() << help << version);
     parser.addPositionalArgument(QStringLiteral("FILE"), QStringLiteral("Videos to open the library with."),
                                  QStringLiteral("[FILE...]"));
     parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
     const bool isUnderstood = parser.parse(arguments);
 
     Parsed parsed;
-    // Before unknown options: before the display is opened, Qt's own options are still among the arguments.
     if (parser.isSet(help)) {
         parsed.text = parser.helpText();
     } else if (parser.isSet(version)) {

@@ -7,8 +7,8 @@ struct AutoReframeOptions {
     QStringList files;
 
     struct Parsed;
-    /// `arguments` begins with the program's name and lacks the options that Qt takes. Needs an application object: Qt
-    /// asks it for the program's name.
+    /// `arguments` begins with the program's name and may contain the options that Qt takes. Needs an application
+    /// object: Qt asks it for the program's name.
     static Parsed Parse(const QStringList& arguments);
 };
 

@@ -7,32 +7,16 @@
 
 #include <QApplication>
 
-#include <algorithm>
 #include <cstdio>
-#include <optional>
 
 namespace
 {
 
-/// Prints the text that was asked for and returns the exit status; nothing if the program is to run.
-std::optional<int> PrintAndEnd(const AutoReframeOptions::Parsed& parsed)
+/// Before the display is opened: help, version and error messages need none.
+AutoReframeOptions::Parsed Parse(int& argc, char** argv)
 {
-    if (parsed.text.isEmpty()) {
-        return std::nullopt;
-    }
-    std::fputs(parsed.text.toLocal8Bit().constData(), parsed.exitStatus == 0 ? stdout : stderr);
-    return parsed.exitStatus;
-}
-
-/// Help and version need no display.
-bool PrintsWithoutDisplay(int argc, char** argv)
-{
-    if (std::none_of(argv + 1, argv + argc, [](const char* argument) { return *argument == '-'; })) {
-        return false;
-    }
     const QCoreApplication application(argc, argv);
-    const AutoReframeOptions::Parsed parsed = AutoReframeOptions::Parse(QCoreApplication::arguments());
-    return parsed.exitStatus == 0 && PrintAndEnd(parsed);
+    return AutoReframeOptions::Parse(QCoreApplication::arguments());
 }
 
 void PrepareQt()
@@ -52,8 +36,10 @@ void PrepareQt()
 
 int Run(int argc, char** argv)
 {
-    if (PrintsWithoutDisplay(argc, argv)) {
-        return 0;
+    const AutoReframeOptions::Parsed parsed = Parse(argc, argv);
+    if (!parsed.text.isEmpty()) {
+        std::fputs(parsed.text.toLocal8Bit().constData(), parsed.exitStatus == 0 ? stdout : stderr);
+        return parsed.exitStatus;
     }
     KxMemory::KeepNoPictures();
     PrepareQt();
@@ -63,11 +49,6 @@ int Run(int argc, char** argv)
     QCoreApplication::setApplicationVersion(QStringLiteral(KR_VERSION));
     QGuiApplication::setDesktopFileName(QStringLiteral("auto-reframe"));
     KxLogSettings::RouteQtMessages();
-
-    const AutoReframeOptions::Parsed parsed = AutoReframeOptions::Parse(QCoreApplication::arguments());
-    if (const std::optional<int> status = PrintAndEnd(parsed)) {
-        return *status;
-    }
     KxInterrupt::Install();
     return AutoReframeProgram::Run(application, parsed.options);
 }
