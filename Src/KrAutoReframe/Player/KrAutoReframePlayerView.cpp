@@ -82,7 +82,8 @@ void KrAutoReframePlayerView::ConnectSignals()
     using Bar = KrAutoReframePlayerControlBar;
     connect(m_shadowForm, &ShadowForm::sigMousePressed, m_presenter, &KxMediaPlayerPresenter::pause);
     connect(m_shadowForm, &ShadowForm::sigRectFChanged, this, &View::HandleRectChanged);
-    connect(m_presenter, &KxMediaPlayerPresenter::sigFrameChanged, this, &View::RefreshFrame);
+    connect(m_presenter, &KxMediaPlayerPresenter::sigFrameChanged, this, &View::HandleFrameChanged);
+    connect(m_presenter, &KxMediaPlayerPresenter::sigFailed, this, &View::HandleFailed);
     if (m_helper) {
         connect(m_helper.data(), &KrAutoReframeHelper::sigOpenTimelineFinished, this, &View::HandleTimelineOpened);
     }
@@ -94,8 +95,6 @@ void KrAutoReframePlayerView::ConnectSignals()
     if (m_helper) {
         connect(m_helper.data(), &KrAutoReframeHelper::sigCanUndoRedo, m_controlBar, &Bar::SetUndoRedoEnabled);
     }
-    connect(m_presenter, &KxMediaPlayerPresenter::sigFrameChanged, this, [this] { m_seeking.reset(); });
-    connect(m_presenter, &KxMediaPlayerPresenter::sigFailed, this, [this] { m_seeking.reset(); });
     connect(m_presenter, &KxMediaPlayerPresenter::sigPlayingChanged, this,
             [this] { RefreshFrame(m_presenter->currentFrame()); });
 }
@@ -128,6 +127,7 @@ bool KrAutoReframePlayerView::SwitchTimeline(bool reframed, bool fromStart)
         m_presenter->seek(frame, 0, 0);
     }
     m_isReframedShown = reframed;
+    m_isOverlayHiddenByError = false;
     m_shadowForm->setVisible(!reframed);
     RefreshFrame(m_presenter->currentFrame());
     UpdatePictureSize();
@@ -218,8 +218,30 @@ void KrAutoReframePlayerView::ShowEdit()
     }
 }
 
+void KrAutoReframePlayerView::HandleFrameChanged(int frame)
+{
+    m_seeking.reset();
+    if (m_isOverlayHiddenByError) {
+        m_isOverlayHiddenByError = false;
+        m_shadowForm->show();
+        UpdateOverlayGeometry();
+    }
+    RefreshFrame(frame);
+}
+
+void KrAutoReframePlayerView::HandleFailed()
+{
+    m_seeking.reset();
+    if (!m_shadowForm->isHidden()) {
+        m_isOverlayHiddenByError = true;
+        m_shadowForm->hide();
+        RefreshFrame(m_presenter->currentFrame());
+    }
+}
+
 void KrAutoReframePlayerView::HandleTimelineOpened()
 {
+    m_isOverlayHiddenByError = false;
     m_isReframedShown = false;
     m_presenter->stop();
     m_presenter->openTimeline(m_helper->GetSourceTimeline(), true, false);
@@ -313,5 +335,6 @@ void KrAutoReframePlayerView::resizeEvent(QResizeEvent* event)
 
 void KrAutoReframePlayerView::closeEvent(QCloseEvent*)
 {
+    m_isOverlayHiddenByError = false;
     m_shadowForm->hide();
 }

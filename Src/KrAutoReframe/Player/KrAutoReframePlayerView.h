@@ -70,6 +70,9 @@ private:
     /// The player works on a copy of the keyframes, so the reframed video is opened again after each edit.
     void ShowEdit();
 
+    void HandleFrameChanged(int frame);
+    /// The player shows an error message until its next picture: the overlay is hidden as long.
+    void HandleFailed();
     void HandleTimelineOpened();
     void HandleRectChanged(const QRectF& rect);
     void HandleUndo();
@@ -85,6 +88,7 @@ private:
     KrAutoReframePlayerControlBar* m_controlBar = nullptr;
     QSharedPointer<KrAutoReframeHelper> m_helper;
     bool m_isReframedShown = false;
+    bool m_isOverlayHiddenByError = false;
     /// The target of a seek to an edit whose picture is awaited.
     std::optional<int> m_seeking;
 };

@@ -70,6 +70,46 @@ TEST_F(PlayerViewTest, AHiddenOverlayKeepsItsPlace)
     EXPECT_EQ(overlay->geometry(), before);
 }
 
+TEST_F(PlayerViewTest, TheOverlayDoesNotCoverAnErrorMessageOfThePlayer)
+{
+    ShowCrop();
+    Edit(10, Moved);
+    EXPECT_TRUE(Delete().isEnabled());
+    Q_EMIT presenter->sigFailed(QStringLiteral("The file is gone."));
+    EXPECT_FALSE(overlay->isVisible());
+    EXPECT_FALSE(Delete().isEnabled()) << "an edit could not be seen";
+    Script().videoRect = QRect(1, 2, 333, 222);
+    ShowFrame(10);
+    EXPECT_TRUE(overlay->isVisible());
+    EXPECT_EQ(overlay->size(), QSize(333, 222)) << "the player was resized in between";
+    EXPECT_EQ(overlay->GetCropRect(), Moved);
+    EXPECT_TRUE(Delete().isEnabled());
+}
+
+TEST_F(PlayerViewTest, AnErrorOfThePlayerShowsNoOverlayWhereThereWasNone)
+{
+    ShowCrop();
+    ASSERT_TRUE(view->SwitchTimeline(true, true));
+    Q_EMIT presenter->sigFailed(QStringLiteral("The file is gone."));
+    ShowFrame(0);
+    EXPECT_FALSE(overlay->isVisible());
+    ASSERT_TRUE(view->SwitchTimeline(false, true));
+    Q_EMIT presenter->sigFailed(QStringLiteral("The file is gone."));
+    ASSERT_TRUE(view->SwitchTimeline(true, true));
+    ShowFrame(0);
+    EXPECT_FALSE(overlay->isVisible()) << "the reframed video has none";
+    ASSERT_TRUE(view->SwitchTimeline(false, true));
+    Q_EMIT presenter->sigFailed(QStringLiteral("The file is gone."));
+    helper->SetTimeline(timeline);
+    ShowFrame(0);
+    EXPECT_FALSE(overlay->isVisible()) << "another source has none";
+    ShowCrop();
+    Q_EMIT presenter->sigFailed(QStringLiteral("The file is gone."));
+    view->close();
+    ShowFrame(0);
+    EXPECT_FALSE(overlay->isVisible()) << "the view is closed";
+}
+
 TEST_F(PlayerViewTest, TheOverlayFollowsMovesAndSizes)
 {
     ShowCrop();
