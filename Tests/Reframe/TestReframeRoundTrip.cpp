@@ -9,6 +9,7 @@
 #include <QFile>
 #include <QImage>
 #include <QPainter>
+#include <QProcess>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -103,6 +104,18 @@ std::vector<qint64> Onsets(const QString& path)
     return onsets;
 }
 
+/// What a program writes to standard output and standard error.
+QString OutputOf(const QString& program, const QStringList& arguments)
+{
+    QProcess process;
+    process.setProcessChannelMode(QProcess::MergedChannels);
+    process.start(program, arguments);
+    constexpr int longestMs = 120000;
+    EXPECT_TRUE(process.waitForFinished(longestMs)) << program.toStdString();
+    EXPECT_EQ(process.exitCode(), 0) << program.toStdString();
+    return QString::fromLocal8Bit(process.readAll()).trimmed();
+}
+
 class ReframeRoundTrip : public testing::Test
 {
 protected:
@@ -126,6 +139,13 @@ protected:
     }
 
     QString Path(const char* name) const { return m_folder.filePath(QLatin1String(name)); }
+
+    QByteArray Bytes(const char* name) const
+    {
+        QFile file(Path(name));
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << name;
+        return file.readAll();
+    }
 
     QTemporaryDir m_folder;
 };
@@ -223,4 +243,37 @@ TEST_F(ReframeRoundTrip, TheContactSheetShowsTheCrop)
         const QColor outside(sheet.pixel(corner + QPoint(edge - inward, 8)));
         EXPECT_GT(inside.value(), outside.value() + 20) << "cell " << cell;
     }
+}
+
+TEST_F(ReframeRoundTrip, TheSameVideoGivesTheSameBytes)
+{
+    for (const char* const name : {"first.mp4", "second.mp4"}) {
+        const ReframeRun run({QStringLiteral("--output"), Path(name), Path("scene.mp4")});
+        ASSERT_EQ(run.exitStatus, 0) << run.standardError.toStdString();
+    }
+    const QByteArray first = Bytes("first.mp4");
+    ASSERT_GT(first.size(), 10000);
+    EXPECT_TRUE(first == Bytes("second.mp4"));
+    EXPECT_EQ(OutputOf(QStringLiteral("ffprobe"),
+                       {QStringLiteral("-v"), QStringLiteral("error"), QStringLiteral("-show_entries"),
+                        QStringLiteral("format_tags=creation_time:stream_tags=creation_time"), QStringLiteral("-of"),
+                        QStringLiteral("csv=p=0"), Path("first.mp4")}),
+              QString())
+        << "a time would differ in the next second";
+}
+
+TEST_F(ReframeRoundTrip, AnotherProgramDecodesEveryFrameWithoutAnError)
+{
+    const ReframeRun run({QStringLiteral("--output"), Path("out.mp4"), Path("scene.mp4")});
+    ASSERT_EQ(run.exitStatus, 0) << run.standardError.toStdString();
+    EXPECT_EQ(OutputOf(QStringLiteral("ffprobe"),
+                       {QStringLiteral("-v"), QStringLiteral("error"), QStringLiteral("-count_frames"),
+                        QStringLiteral("-select_streams"), QStringLiteral("v"), QStringLiteral("-show_entries"),
+                        QStringLiteral("stream=codec_name,width,height,pix_fmt,r_frame_rate,nb_read_frames"),
+                        QStringLiteral("-of"), QStringLiteral("csv=p=0"), Path("out.mp4")}),
+              QStringLiteral("h264,102,180,yuv420p,25/1,%1").arg(Frames));
+    EXPECT_EQ(OutputOf(QStringLiteral("ffmpeg"), {QStringLiteral("-v"), QStringLiteral("warning"),
+                                                  QStringLiteral("-xerror"), QStringLiteral("-i"), Path("out.mp4"),
+                                                  QStringLiteral("-f"), QStringLiteral("null"), QStringLiteral("-")}),
+              QString());
 }
