@@ -21,6 +21,8 @@ install(FILES Packaging/auto-reframe.desktop DESTINATION "${CMAKE_INSTALL_DATADI
 install(FILES Packaging/icon/auto-reframe.svg DESTINATION "${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps")
 # For programs that load the translation themselves; KxUIStyle::InstallTranslation() needs no file.
 install(FILES "${KR_TRANSLATION}" DESTINATION "${CMAKE_INSTALL_DATADIR}/auto-reframe/translations")
+# What Packaging/install-models has put there, if it did.
+install(DIRECTORY "${KR_MODELS_FOLDER}/" DESTINATION "${CMAKE_INSTALL_DATADIR}/auto-reframe/models" OPTIONAL)
 install(DIRECTORY include/ DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}" FILES_MATCHING PATTERN "*.h")
 
 set(KR_PACKAGE_FOLDER "${CMAKE_INSTALL_LIBDIR}/cmake/KrAutoReframe")
