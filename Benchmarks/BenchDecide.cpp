@@ -8,7 +8,7 @@
 
 #include <KxMedia/Picture/KxPictureScaler.h>
 #include <KxMedia/Read/KxVideoScanner.h>
-#include <KxModel/KxFaceModelFiles.h>
+#include <KxModel/KxDetectorFiles.h>
 #include <KxSubject/KxPictureView.h>
 #include <KxSubject/KxSubjectDecision.h>
 #include <KxSubject/KxSubjectObserver.h>
@@ -76,7 +76,7 @@ int Observe(const QString& clip, const QString& recordPath)
     const QSize resolution = facts.video->resolution;
     KxSubjectObserver observer(
         {resolution.width(), resolution.height(), facts.video->frameRate.ToDouble(), facts.video->frameCount},
-        KxFaceModelFiles::Read({}).models, {});
+        KxDetectorFiles::Read({}).models.faces, {});
     const QSize size(observer.WorkingSize().width, observer.WorkingSize().height);
     KxPictureScaler scaler(KxPictureScaler::Detail::Coarse);
     KxVideoFrame picture;

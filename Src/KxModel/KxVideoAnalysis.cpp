@@ -1,6 +1,6 @@
 #include <KxModel/KxVideoAnalysis.h>
 
-#include <KxModel/KxFaceModelFiles.h>
+#include <KxModel/KxDetectorFiles.h>
 #include <KxModel/KxPicturePipeline.h>
 
 #include <KxCore/KxMemory.h>
@@ -144,10 +144,10 @@ KxAnalysis::Result KxVideoAnalysis::Run(const std::function<void(int percent)>& 
 {
     Result result;
     const KxMediaFacts facts = m_scanner->Facts();
-    KxFaceModelFiles::Contents faces = KxFaceModelFiles::Read(m_settings.faceDetectorPath);
+    KxDetectorFiles::Contents contents = KxDetectorFiles::Read(m_settings.faceDetectorPath);
     const KxSubjectOptions options;
-    KxSubjectObserver observer(SourceOf(*facts.video), faces.models, options);
-    faces.models = {};
+    KxSubjectObserver observer(SourceOf(*facts.video), contents.models.faces, options);
+    contents.models = {};
     const KxError problem = Job(*m_scanner, observer, m_cancel).Run(onProgress);
     const bool endedEarly = m_scanner->EndedEarly();
     // The decoder's buffers take the most memory: they are freed before the results of every frame are made.
@@ -164,10 +164,10 @@ KxAnalysis::Result KxVideoAnalysis::Run(const std::function<void(int percent)>& 
         result.outcome = KxOutcome::Cancelled;
         return result;
     }
-    if (!faces.detectorProblem.isEmpty()) {
-        result.warnings += faces.detectorProblem;
+    if (!contents.detectorProblem.isEmpty()) {
+        result.warnings += contents.detectorProblem;
     } else if (observer.IsFaceDetectorRefused()) {
-        result.warnings += KxFaceModelFiles::DetectorProblem(
+        result.warnings += KxDetectorFiles::DetectorProblem(
             m_settings.faceDetectorPath, QStringLiteral("it is not a face detector that OpenCV can run"));
     }
     if (endedEarly) {

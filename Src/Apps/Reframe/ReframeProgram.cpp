@@ -5,12 +5,12 @@
 #include <Apps/Reframe/ReframeReporter.h>
 #include <KxCore/KxThread.h>
 #include <KxModel/KxAutoReframeService.h>
-#include <KxModel/KxFaceModelFiles.h>
+#include <KxModel/KxDetectorFiles.h>
 
 int ReframeProgram::Run(const ReframeOptions& options)
 {
     KxAutoReframeService::PrepareProgram();
-    KxAutoReframeService::Instance().SetFaceModel(options.faceModel.isEmpty() ? KxFaceModelFiles::FindDetector()
+    KxAutoReframeService::Instance().SetFaceModel(options.faceModel.isEmpty() ? KxDetectorFiles::FindDetector()
                                                                               : options.faceModel);
     const bool explains = !options.report.isEmpty() || options.PreviewIsVideo();
     KxAutoReframeService::Instance().SetFindings(explains ? KxAutoReframeService::Findings::Keep

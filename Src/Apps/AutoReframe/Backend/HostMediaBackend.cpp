@@ -3,7 +3,7 @@
 #include <Apps/AutoReframe/Backend/ExportRecord.h>
 #include <KxMediaLibrary/KxThumbnailer.h>
 #include <KxModel/KxAutoReframeService.h>
-#include <KxModel/KxFaceModelFiles.h>
+#include <KxModel/KxDetectorFiles.h>
 #include <KxModel/KxMediaItem.h>
 #include <KxModel/KxSimpleTimeline.h>
 #include <KxRender/KxRenderJob.h>
@@ -50,7 +50,7 @@ void RequestExport(IKxTimeline* timeline, const QVariant& record, const DialogCa
 HostMediaBackend::HostMediaBackend()
 {
     KxAutoReframeService::PrepareProgram();
-    KxAutoReframeService::Instance().SetFaceModel(KxFaceModelFiles::FindDetector());
+    KxAutoReframeService::Instance().SetFaceModel(KxDetectorFiles::FindDetector());
     KxFileDialog::SetFileCheck(&KxMediaLibraryUtils::CheckVideoFile);
 }
 

@@ -1,4 +1,4 @@
-#include <KxModel/KxFaceModelFiles.h>
+#include <KxModel/KxDetectorFiles.h>
 
 #include <QDir>
 #include <QFile>
@@ -35,29 +35,29 @@ void WriteFile(const QString& path, const QByteArray& contents)
 
 QString ProblemOf(const QString& path)
 {
-    return KxFaceModelFiles::Read(path).detectorProblem;
+    return KxDetectorFiles::Read(path).detectorProblem;
 }
 
 } // namespace
 
-TEST(KxFaceModelFiles, AFolderOfCascadesInTheEnvironmentComesFirst)
+TEST(KxDetectorFiles, AFolderOfCascadesInTheEnvironmentComesFirst)
 {
     const QTemporaryDir folder;
     const QString cascade = folder.filePath(QStringLiteral("haarcascade_frontalface_alt2.xml"));
     WriteFile(cascade, "the contents");
     const Environment named("KX_CASCADES", QStringLiteral("/no/such/folder") + QDir::listSeparator() + folder.path());
-    EXPECT_EQ(KxFaceModelFiles::CascadeFolders().mid(0, 2),
+    EXPECT_EQ(KxDetectorFiles::CascadeFolders().mid(0, 2),
               QStringList({QStringLiteral("/no/such/folder"), folder.path()}));
-    EXPECT_EQ(KxFaceModelFiles::FindCascade(QStringLiteral("haarcascade_frontalface_alt2.xml")), cascade);
-    EXPECT_EQ(KxFaceModelFiles::Read({}).models.frontalCascade, "the contents");
+    EXPECT_EQ(KxDetectorFiles::FindCascade(QStringLiteral("haarcascade_frontalface_alt2.xml")), cascade);
+    EXPECT_EQ(KxDetectorFiles::Read({}).models.faces.frontalCascade, "the contents");
 }
 
-TEST(KxFaceModelFiles, AMissingCascadeIsNotFound)
+TEST(KxDetectorFiles, AMissingCascadeIsNotFound)
 {
-    EXPECT_TRUE(KxFaceModelFiles::FindCascade(QStringLiteral("no-such-cascade.xml")).isEmpty());
+    EXPECT_TRUE(KxDetectorFiles::FindCascade(QStringLiteral("no-such-cascade.xml")).isEmpty());
 }
 
-TEST(KxFaceModelFiles, ADetectorThatCannotBeReadIsReported)
+TEST(KxDetectorFiles, ADetectorThatCannotBeReadIsReported)
 {
     const QTemporaryDir folder;
     const QString missing = folder.filePath(QStringLiteral("missing.onnx"));
@@ -73,19 +73,19 @@ TEST(KxFaceModelFiles, ADetectorThatCannotBeReadIsReported)
 }
 
 #if defined(Q_OS_UNIX)
-TEST(KxFaceModelFiles, ADetectorThatIsADeviceIsNotRead)
+TEST(KxDetectorFiles, ADetectorThatIsADeviceIsNotRead)
 {
     EXPECT_EQ(ProblemOf(QStringLiteral("/dev/zero")),
               QStringLiteral("Cannot use the face model /dev/zero: it is not a regular file."));
 }
 #endif
 
-TEST(KxFaceModelFiles, AnyRegularFileIsReadForTheAnalysisToTry)
+TEST(KxDetectorFiles, AnyRegularFileIsReadForTheAnalysisToTry)
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("model.onnx"));
     WriteFile(path, QByteArray("a\0b", 3));
-    const KxFaceModelFiles::Contents contents = KxFaceModelFiles::Read(path);
+    const KxDetectorFiles::Contents contents = KxDetectorFiles::Read(path);
     EXPECT_TRUE(contents.detectorProblem.isEmpty());
-    EXPECT_EQ(contents.models.detector, std::string("a\0b", 3));
+    EXPECT_EQ(contents.models.faces.detector, std::string("a\0b", 3));
 }

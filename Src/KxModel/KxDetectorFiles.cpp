@@ -1,4 +1,4 @@
-#include <KxModel/KxFaceModelFiles.h>
+#include <KxModel/KxDetectorFiles.h>
 
 #include <KxCore/KxConfigFile.h>
 
@@ -42,7 +42,7 @@ QString ReasonNotToRead(const QFileInfo& file)
 
 } // namespace
 
-QString KxFaceModelFiles::FindDetector()
+QString KxDetectorFiles::FindDetector()
 {
     const QString named = KxConfigFile::ReadAutoReframe(QStringLiteral("FaceModel"));
     if (!named.isEmpty()) {
@@ -52,7 +52,7 @@ QString KxFaceModelFiles::FindDetector()
                                   QStringLiteral("auto-reframe/face_detection_yunet_2022mar.onnx"));
 }
 
-QStringList KxFaceModelFiles::CascadeFolders()
+QStringList KxDetectorFiles::CascadeFolders()
 {
     QStringList folders = qEnvironmentVariable("KX_CASCADES").split(QDir::listSeparator(), Qt::SkipEmptyParts);
 #if defined(KX_CASCADE_FOLDER)
@@ -68,7 +68,7 @@ QStringList KxFaceModelFiles::CascadeFolders()
     return folders;
 }
 
-QString KxFaceModelFiles::FindCascade(const QString& fileName)
+QString KxDetectorFiles::FindCascade(const QString& fileName)
 {
     for (const QString& folder : CascadeFolders()) {
         const QString path = folder + QLatin1Char('/') + fileName;
@@ -79,24 +79,24 @@ QString KxFaceModelFiles::FindCascade(const QString& fileName)
     return {};
 }
 
-KxFaceModelFiles::Contents KxFaceModelFiles::Read(const QString& detectorPath)
+KxDetectorFiles::Contents KxDetectorFiles::Read(const QString& detectorPath)
 {
     Contents contents;
-    contents.models.frontalCascade = ContentsOf(FindCascade(QStringLiteral("haarcascade_frontalface_alt2.xml")));
-    contents.models.profileCascade = ContentsOf(FindCascade(QStringLiteral("haarcascade_profileface.xml")));
+    contents.models.faces.frontalCascade = ContentsOf(FindCascade(QStringLiteral("haarcascade_frontalface_alt2.xml")));
+    contents.models.faces.profileCascade = ContentsOf(FindCascade(QStringLiteral("haarcascade_profileface.xml")));
     if (detectorPath.isEmpty()) {
         return contents;
     }
     const QString reason = ReasonNotToRead(QFileInfo(detectorPath));
     if (reason.isEmpty()) {
-        contents.models.detector = ContentsOf(detectorPath);
+        contents.models.faces.detector = ContentsOf(detectorPath);
     } else {
         contents.detectorProblem = DetectorProblem(detectorPath, reason);
     }
     return contents;
 }
 
-QString KxFaceModelFiles::DetectorProblem(const QString& path, const QString& reason)
+QString KxDetectorFiles::DetectorProblem(const QString& path, const QString& reason)
 {
     return QStringLiteral("Cannot use the face model %1: %2.").arg(path, reason);
 }

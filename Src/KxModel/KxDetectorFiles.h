@@ -2,13 +2,13 @@
 
 #include <KxCore/KxExport.h>
 
-#include <KxSubject/KxFaceModels.h>
+#include <KxSubject/KxSubjectModels.h>
 
 #include <QString>
 #include <QStringList>
 
 /// The files of the trained models that the search for faces runs on. Any thread.
-namespace KxFaceModelFiles
+namespace KxDetectorFiles
 {
 /// The optional neural face detector, which does not come with the product: the file that a person named in the
 /// configuration (key "FaceModel"), otherwise one of the detector's own name in the program's data folder, otherwise
@@ -25,7 +25,7 @@ KXMODEL_API QStringList CascadeFolders();
 KXMODEL_API QString FindCascade(const QString& fileName);
 
 struct Contents {
-    KxFaceModels models;
+    KxSubjectModels models;
     QString detectorProblem; ///< why the detector's file was not read; empty if it was, or if none was asked for
 };
 /// Reads the cascades that can be found, and the detector unless `detectorPath` is empty. Throws std::bad_alloc.
@@ -33,4 +33,4 @@ KXMODEL_API Contents Read(const QString& detectorPath);
 
 /// The error message for a detector that cannot be used.
 KXMODEL_API QString DetectorProblem(const QString& path, const QString& reason);
-} // namespace KxFaceModelFiles
+} // namespace KxDetectorFiles
