@@ -47,7 +47,8 @@ private:
     /// pictures are missing, fewer samples have to pay for a move.
     double MoveCost(const Shot& shot, std::size_t begin, std::size_t end) const;
     std::vector<double> CentresOf(const Shot& shot, const KxCancelToken& cancel);
-    void RecordFindings(const Shot& shot, const std::vector<KxPathPoint>& points, std::size_t firstSample);
+    void RecordFindings(const Shot& shot, const KxEvidence::InShot& evidence, const std::vector<KxPathPoint>& points,
+                        std::size_t firstSample);
 
     const KxSubjectRecord& m_record;
     const KxSubjectRequest& m_request;
@@ -129,33 +130,35 @@ std::vector<double> Decider::CentresOf(const Shot& shot, const KxCancelToken& ca
     const auto begin = static_cast<std::size_t>(from - samples.begin());
     const auto end = static_cast<std::size_t>(to - samples.begin());
 
+    const KxEvidence::InShot evidence = m_evidence.Of(shot.first, shot.end);
     KxSubjectTracker tracker(MoveCost(shot, begin, end) * m_score.Spacing());
     for (std::size_t i = begin; i < end && !cancel.IsCancelled(); ++i) {
         const bool clear = samples[i].frame >= shot.clearFirst && samples[i].frame < shot.clearEnd;
-        tracker.Add(clear ? m_score.Of(Combined(m_evidence.At(i, shot.first, shot.end))) : KxCentreScore::Scores{});
+        tracker.Add(clear ? m_score.Of(Combined(evidence.At(i))) : KxCentreScore::Scores{});
     }
     std::vector<KxPathPoint> points;
     for (const std::size_t position : tracker.BestRun()) {
         points.push_back({samples[begin + points.size()].frame, m_score.CentreAt(position)});
     }
     if (m_request.wantsFindings) {
-        RecordFindings(shot, points, begin);
+        RecordFindings(shot, evidence, points, begin);
     }
     return KxCropPath(m_options.path, m_options.For(m_request.speed), m_geometry)
         .Draw(points, {shot.first, shot.end, m_record.source.frameRate}, 0.5, cancel);
 }
 
-void Decider::RecordFindings(const Shot& shot, const std::vector<KxPathPoint>& points, std::size_t firstSample)
+void Decider::RecordFindings(const Shot& shot, const KxEvidence::InShot& evidence,
+                             const std::vector<KxPathPoint>& points, std::size_t firstSample)
 {
     std::array<float, KxSignalCount> totals{};
     for (std::size_t i = 0; i < points.size(); ++i) {
-        const KxEvidence::Parts parts = m_evidence.At(firstSample + i, shot.first, shot.end);
+        const KxEvidence::Parts parts = evidence.At(firstSample + i);
         KxSubjectFindings::Sample sample;
         sample.frame = points[i].frame;
         sample.wanted = points[i].centre;
         sample.evidence = KxPackedProfile(Combined(parts));
         const std::array<const KxSignalProfile*, KxSignalCount> signals{&parts.motion, &parts.movers, &parts.saliency,
-                                                                        &parts.faces};
+                                                                        &parts.faces, &parts.detections};
         for (std::size_t signal = 0; signal < KxSignalCount; ++signal) {
             sample.scores[signal] = m_score.Excess(points[i].centre, *signals[signal]);
             totals[signal] += sample.scores[signal];

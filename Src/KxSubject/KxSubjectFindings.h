@@ -8,8 +8,8 @@
 #include <vector>
 
 /// A signal of the analysis.
-enum class KxSignal { Motion, Movers, Saliency, Faces };
-constexpr std::size_t KxSignalCount = 4;
+enum class KxSignal { Motion, Movers, Saliency, Faces, Detections };
+constexpr std::size_t KxSignalCount = 5;
 
 /// Intermediate results of an analysis, which explain the position of each crop.
 struct KxSubjectFindings {

@@ -106,20 +106,20 @@ struct KxSubjectOptions {
         int mostAtOnce = 10;    ///< 5 to 20 per level; bounds the cost of a crowd; chosen
         /// 0.4 to 1.2 of the width: a mover is searched for within this distance of its predicted position; spread
         double reachPerSecond = 0.76;
-        double reachBySize = 0.35;     ///< 0 to 0.6 of the root of its area, on top; clips
-        double mostGrowth = 1.5;       ///< 0.7 to 2, logarithm of the areas' ratio; clips
-        double growthCost = 0.3;       ///< 0 to 1 of that logarithm, against a distance of one reach; clips
-        double ageGain = 0.02;         ///< 0 to 0.05 per sample seen: an older track is preferred; clips
-        double velocityGain = 0.4;     ///< 0.2 to 0.8 of what is new; clips
-        double areaGain = 0.4;         ///< 0.2 to 0.8 of what is new; clips
-        int mostMisses = 3;            ///< 1 to 6 samples in a row; clips
-        int leastHits = 4;             ///< 3 to 8 samples seen, of a mover that counts at all; clips
-        double secondsAtZero = 0.3;    ///< 0 to 1 of being seen, that give no confidence yet; clips
-        double secondsToFull = 1.5;    ///< 0.5 to 3 beyond, for full confidence; spread
-        double fullTravel = 0.15;      ///< 0.1 to 0.3 of the width, relative to the background, for the same; spread
-        double leastSeconds = 0.37;    ///< 0.3 to 0.6: a mover that was seen for less is forgotten; chosen
-        double leastTravel = 0.007;    ///< 0.003 to 0.03 of the width: one that travelled less, too; chosen
-        double areaPower = 0.5;        ///< 0.4 to 0.6: a mover weighs as its box's side, not as its area; clips
+        double reachBySize = 0.35;  ///< 0 to 0.6 of the root of its area, on top; clips
+        double mostGrowth = 1.5;    ///< 0.7 to 2, logarithm of the areas' ratio; clips
+        double growthCost = 0.3;    ///< 0 to 1 of that logarithm, against a distance of one reach; clips
+        double ageGain = 0.02;      ///< 0 to 0.05 per sample seen: an older track is preferred; clips
+        double velocityGain = 0.4;  ///< 0.2 to 0.8 of what is new; clips
+        double areaGain = 0.4;      ///< 0.2 to 0.8 of what is new; clips
+        int mostMisses = 3;         ///< 1 to 6 samples in a row; clips
+        int leastHits = 4;          ///< 3 to 8 samples seen, of a mover that counts at all; clips
+        double secondsAtZero = 0.3; ///< 0 to 1 of being seen, that give no confidence yet; clips
+        double secondsToFull = 1.5; ///< 0.5 to 3 beyond, for full confidence; spread
+        double fullTravel = 0.15;   ///< 0.1 to 0.3 of the width, relative to the background, for the same; spread
+        double leastSeconds = 0.37; ///< 0.3 to 0.6: a mover that was seen for less is forgotten; chosen
+        double leastTravel = 0.007; ///< 0.003 to 0.03 of the width: one that travelled less, too; chosen
+        double areaPower = 0.5;     ///< 0.4 to 0.6: a mover weighs as its box's side, not as its area; clips
         double emptyFloor = 0.1; ///< 0.05 to 0.2, the sum of weights that gives half of the possible evidence; spread
     } movers;
 
@@ -156,12 +156,28 @@ struct KxSubjectOptions {
         double growDown = 0.5;         ///< 0 to 1 of the face's height; trial
     } faces;
 
+    /// People and animals that the object detector finds.
+    struct Detections {
+        double periodSeconds = 1.0;     ///< 0.5 to 2 between looks, besides one at the start of each scene
+        double fullArea = 0.06;         ///< 0.03 to 0.15 of the picture: a larger box weighs no more
+        double centrality = 0.4;        ///< 0 to 0.8: how much less a box at the picture's edge weighs
+        double contrast = 2.0;          ///< 1 to 6, power on the weights of the tracks in a shot
+        double emptyFloor = 0.05;       ///< 0.02 to 0.1, the weight that gives half of the possible evidence
+        double personUpperShare = 0.45; ///< 0.3 to 1 of a person's height: the part that counts in a tall picture
+        double reachBySize = 0.5;       ///< 0.3 to 1 of its side: how far a box may be from the next look's
+        double reachPerSecond = 0.15;   ///< 0.05 to 0.3 of the picture, on top
+        double mostGrowth = 1.0;        ///< 0.5 to 1.5, logarithm of the areas' ratio
+        double mostGapSeconds = 2.5;    ///< 1 to 5: a box that is missed for longer is another one
+        double fadeSeconds = 1.0;       ///< 0.5 to 2 before the first and after the last look at a track
+    } detections;
+
     struct Evidence {
         double motionWeight = 0.5;          ///< 0.3 to 1; spread
         double moverWeight = 0.45;          ///< 0.3 to 0.6; spread
         double saliencyWeightAcross = 0.65; ///< 0.5 to 0.8; spread
         double saliencyWeightUpDown = 0.1;  ///< 0 to 0.3: it misleads on tall pictures; spread
         double faceWeight = 1.0;            ///< 0.7 to 1.5; trial
+        double detectionWeight = 1.6;       ///< 0.8 to 2.4
         double emptyFloor = 0.01;           ///< 0.005 to 0.02 of the area: an empty map weighs little; trial
         double concentration = 1.6;         ///< 1 to 2, power on the combined evidence; spread
         double windowFlatAcross = 0.55;     ///< 0.3 to 0.7 of the scoring window; the rest is a squared cosine; spread

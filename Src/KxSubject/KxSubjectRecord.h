@@ -3,10 +3,11 @@
 #include <KxCore/KxExport.h>
 
 #include <KxSubject/KxCropRect.h>
+#include <KxSubject/KxDetection.h>
 #include <KxSubject/KxIntSize.h>
+#include <KxSubject/KxShotBoundary.h>
 #include <KxSubject/KxSignalProfile.h>
 #include <KxSubject/KxSubjectSource.h>
-#include <KxSubject/KxShotBoundary.h>
 
 #include <array>
 #include <cstddef>
@@ -58,6 +59,12 @@ struct KxFaceTrack {
     std::vector<KxFaceLook> looks; ///< growing in time; the first one found the face
 };
 
+/// The people and animals that the object detector found in one picture; none is a finding, too.
+struct KxDetectionLook {
+    std::int32_t frame = 0;
+    std::vector<KxDetection> found;
+};
+
 /// What one pass over a video saw. It depends on the pictures alone, so every aspect, speed and choice can be decided
 /// on it without another pass.
 struct KXSUBJECT_API KxSubjectRecord {
@@ -68,6 +75,7 @@ struct KXSUBJECT_API KxSubjectRecord {
     std::vector<KxSignalSample> samples;    ///< growing by frame
     std::vector<KxMover> movers;            ///< growing by first sample
     std::vector<KxFaceTrack> faces;
+    std::vector<KxDetectionLook> looks; ///< growing by frame; none without the object detector
 
     double SecondsAt(std::int64_t frame) const { return static_cast<double>(frame) / source.frameRate; }
 };

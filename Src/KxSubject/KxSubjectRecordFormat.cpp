@@ -105,6 +105,18 @@ public:
         }
     }
     void PutItem(const KxFaceTrack& track) { PutAll(track.looks); }
+    void PutItem(const KxDetection& detection)
+    {
+        for (const float number : {detection.x, detection.y, detection.width, detection.height, detection.score}) {
+            Put(number);
+        }
+        Put(static_cast<std::uint8_t>(detection.kind));
+    }
+    void PutItem(const KxDetectionLook& look)
+    {
+        Put(look.frame);
+        PutAll(look.found);
+    }
 
     std::string Finished()
     {
@@ -228,6 +240,26 @@ public:
             Require(track.looks[i].timeSeconds >= track.looks[i - 1].timeSeconds);
         }
     }
+    void GetItem(KxDetection& detection)
+    {
+        std::uint8_t kind = 0;
+        for (float* number : {&detection.x, &detection.y, &detection.width, &detection.height, &detection.score}) {
+            Get(*number);
+        }
+        Get(kind);
+        constexpr float rounding = 1e-5F;
+        Require(detection.x >= 0.0F && detection.width > 0.0F && detection.x + detection.width <= 1.0F + rounding &&
+                detection.y >= 0.0F && detection.height > 0.0F && detection.y + detection.height <= 1.0F + rounding &&
+                detection.score >= 0.0F && detection.score <= 1.0F &&
+                kind <= static_cast<std::uint8_t>(KxDetectionKind::Animal));
+        detection.kind = static_cast<KxDetectionKind>(kind);
+    }
+    void GetItem(KxDetectionLook& look)
+    {
+        constexpr std::size_t detectionBytes = 21;
+        Get(look.frame);
+        GetAll(look.found, detectionBytes);
+    }
 
 private:
     const char* m_data;
@@ -249,6 +281,19 @@ bool IsPossible(const KxSubjectSource& source, KxIntSize workingSizePx)
            source.frameCount >= 0;
 }
 
+template<typename Item>
+bool GrowsInside(const std::vector<Item>& items, const KxSubjectSource& source)
+{
+    std::int64_t last = -1;
+    for (const Item& item : items) {
+        if (item.frame <= last || item.frame >= source.frameCount) {
+            return false;
+        }
+        last = item.frame;
+    }
+    return true;
+}
+
 /// Whether the parts fit each other.
 bool IsConsistent(const KxSubjectRecord& record)
 {
@@ -260,12 +305,8 @@ bool IsConsistent(const KxSubjectRecord& record)
         }
         last = boundary.frame;
     }
-    last = -1;
-    for (const KxSignalSample& sample : record.samples) {
-        if (sample.frame <= last || sample.frame >= record.source.frameCount) {
-            return false;
-        }
-        last = sample.frame;
+    if (!GrowsInside(record.samples, record.source) || !GrowsInside(record.looks, record.source)) {
+        return false;
     }
     std::int64_t firstSample = 0;
     for (const KxMover& mover : record.movers) {
@@ -296,6 +337,7 @@ std::string KxSubjectRecordFormat::Write(const KxSubjectRecord& record)
     writer.PutAll(record.samples);
     writer.PutAll(record.movers);
     writer.PutAll(record.faces);
+    writer.PutAll(record.looks);
     return writer.Finished();
 }
 
@@ -333,10 +375,12 @@ std::optional<KxSubjectRecord> KxSubjectRecordFormat::Read(const std::string& by
     constexpr std::size_t sampleBytes = 116;
     constexpr std::size_t leastMoverBytes = 24;
     constexpr std::size_t leastFaceBytes = 20;
+    constexpr std::size_t leastLookBytes = 12;
     reader.GetAll(record.boundaries, boundaryBytes);
     reader.GetAll(record.samples, sampleBytes);
     reader.GetAll(record.movers, leastMoverBytes);
     reader.GetAll(record.faces, leastFaceBytes);
+    reader.GetAll(record.looks, leastLookBytes);
     if (!reader.IsOk() || !reader.IsAtEnd() || !IsConsistent(record)) {
         return std::nullopt;
     }

@@ -27,6 +27,7 @@ KxSubjectRecord Record()
     }
     record.movers = {{3, 1.5F, 0.2F, {{10, 20, 30, 40}, {12, 20, 32, 40}}}, {38, 0.5F, 0.1F, {{0, 0, 255, 255}}}};
     record.faces = {{{{0.5F, 10, 20, 30, 40}, {0.75F, 0, 0, 0, 0}, {1.0F, -2, 20, 30, 40}}}};
+    record.looks = {{0, {{0.1F, 0.2F, 0.3F, 0.4F, 0.9F, KxDetectionKind::Animal}}}, {25, {}}};
     return record;
 }
 
@@ -54,6 +55,7 @@ TEST(KxSubjectRecordFormat, ARecordComesBackAsItWasWritten)
     EXPECT_EQ(read->movers[0].travel, 0.2F);
     EXPECT_EQ(read->movers[1].boxes, written.movers[1].boxes);
     EXPECT_EQ(read->faces[0].looks[2].x, -2);
+    EXPECT_EQ(read->looks[0].found[0].kind, KxDetectionKind::Animal);
     EXPECT_EQ(KxSubjectRecordFormat::Write(*read), bytes) << "everything comes back";
 }
 
@@ -117,7 +119,11 @@ TEST(KxSubjectRecordFormat, WhatNoObserverSeesIsRefused)
         [](KxSubjectRecord& record) { record.faces[0].looks.clear(); },
         [](KxSubjectRecord& record) { record.faces[0].looks[1].timeSeconds = 0.4F; },
         [=](KxSubjectRecord& record) { record.faces[0].looks[2].timeSeconds = infinity; },
-        [](KxSubjectRecord& record) { record.faces[0].looks[0].width = -1; }};
+        [](KxSubjectRecord& record) { record.faces[0].looks[0].width = -1; },
+        [](KxSubjectRecord& record) { record.looks[1].frame = 0; },
+        [](KxSubjectRecord& record) { record.looks[0].found[0].width = 0.95F; },
+        [](KxSubjectRecord& record) { record.looks[0].found[0].score = std::numeric_limits<float>::quiet_NaN(); },
+        [](KxSubjectRecord& record) { record.looks[0].found[0].kind = static_cast<KxDetectionKind>(2); }};
     for (std::size_t i = 0; i < damages.size(); ++i) {
         KxSubjectRecord record = Record();
         damages[i](record);

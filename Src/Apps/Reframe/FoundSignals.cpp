@@ -24,6 +24,8 @@ QString FoundSignals::Name(KxSignal signal)
         return QStringLiteral("saliency");
     case KxSignal::Faces:
         return QStringLiteral("faces");
+    case KxSignal::Detections:
+        return QStringLiteral("people, animals");
     }
     return {};
 }
@@ -39,6 +41,8 @@ QString FoundSignals::Explanation(KxSignal signal)
         return QStringLiteral("saliency: what stands out in a still picture");
     case KxSignal::Faces:
         return QStringLiteral("faces");
+    case KxSignal::Detections:
+        return QStringLiteral("people and animals that the detector finds");
     }
     return {};
 }
@@ -54,6 +58,8 @@ QRgb FoundSignals::Colour(KxSignal signal)
         return 0xFF6F7FD8;
     case KxSignal::Faces:
         return 0xFFF7E08A;
+    case KxSignal::Detections:
+        return 0xFF5CC8A0;
     }
     return 0;
 }

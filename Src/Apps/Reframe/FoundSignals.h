@@ -13,8 +13,8 @@ QString Name(KxSignal signal);
 QString Explanation(KxSignal signal);
 /// For a dark background.
 QRgb Colour(KxSignal signal);
-constexpr std::array<KxSignal, KxSignalCount> All{KxSignal::Faces, KxSignal::Movers, KxSignal::Motion,
-                                                  KxSignal::Saliency};
+constexpr std::array<KxSignal, KxSignalCount> All{KxSignal::Detections, KxSignal::Faces, KxSignal::Movers,
+                                                  KxSignal::Motion, KxSignal::Saliency};
 
 /// The sample that applies to `frame`: the last one before it in the same shot, otherwise the first one of that shot.
 /// Null if the shot has none.

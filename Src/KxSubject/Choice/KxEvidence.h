@@ -1,5 +1,6 @@
 #pragma once
 
+#include <KxSubject/Choice/KxDetectionTracks.h>
 #include <KxSubject/Choice/KxFaceEvidence.h>
 #include <KxSubject/Choice/KxMoverEvidence.h>
 
@@ -15,14 +16,32 @@ public:
         KxSignalProfile movers;
         KxSignalProfile saliency;
         KxSignalProfile faces;
+        KxSignalProfile detections;
         KxSignalProfile Sum() const;
     };
-    /// For faces, looks in the shot from frame `first` up to, but without, `end` count.
-    Parts At(std::size_t sample, std::int64_t first, std::int64_t end) const;
+
+    /// The evidence in one shot: faces and detections of another one say nothing about it. Refers to this.
+    class InShot
+    {
+    public:
+        Parts At(std::size_t sample) const;
+
+    private:
+        friend class KxEvidence;
+        InShot(const KxEvidence& whole, std::int64_t first, std::int64_t end);
+
+        const KxEvidence& m_whole;
+        std::int64_t m_first;
+        std::int64_t m_end;
+        KxDetectionTracks m_detections;
+    };
+    /// From frame `first` up to, but without, `end`.
+    InShot Of(std::int64_t first, std::int64_t end) const { return {*this, first, end}; }
 
 private:
     const KxSubjectRecord& m_record;
     KxSubjectOptions::Evidence m_weights;
+    KxSubjectOptions::Detections m_detectionOptions;
     KxAxis m_axis;
     KxMoverEvidence m_movers;
     KxFaceEvidence m_faces;

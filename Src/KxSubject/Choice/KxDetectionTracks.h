@@ -1,0 +1,40 @@
+#pragma once
+
+#include <KxCore/KxExport.h>
+
+#include <KxSubject/KxCropGeometry.h>
+#include <KxSubject/KxSubjectOptions.h>
+#include <KxSubject/KxSubjectRecord.h>
+
+#include <vector>
+
+/// The people and animals of one shot: detections of successive looks that are one thing. Who is worth the crop is
+/// weighed over the whole shot, so that it does not change from look to look.
+class KXSUBJECT_API KxDetectionTracks
+{
+public:
+    /// Of the looks from frame `first` up to, but without, `end`.
+    KxDetectionTracks(const KxSubjectRecord& record, const KxSubjectOptions::Detections& options, std::int64_t first,
+                      std::int64_t end);
+
+    struct Track {
+        struct Point {
+            double seconds = 0.0;
+            KxDetection box;
+        };
+        std::vector<Point> points; ///< growing in time
+        double weight = 0.0;       ///< its mean over the shot's looks, by score, size and place; 0 to about 0.25
+    };
+    const std::vector<Track>& Tracks() const { return m_tracks; }
+
+    /// Where they are at a time, between looks on the line from one to the next.
+    KxSignalProfile ProfileAt(double seconds, KxAxis axis) const;
+
+private:
+    void Link(const KxDetectionLook& look, double seconds);
+    double ValueOf(const KxDetection& box) const;
+    void AddTrack(const Track& track, double seconds, KxAxis axis, KxSignalProfile& profile) const;
+
+    KxSubjectOptions::Detections m_options;
+    std::vector<Track> m_tracks;
+};
