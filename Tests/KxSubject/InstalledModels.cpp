@@ -23,3 +23,8 @@ std::string InstalledModels::DetectorPath()
 {
     return KX_SOURCE_FOLDER "/../shared/models/face_detection_yunet_2022mar.onnx";
 }
+
+std::string InstalledModels::ObjectDetector()
+{
+    return ContentsOf(KX_MODELS_FOLDER "/nanodet-g.onnx");
+}

@@ -4,7 +4,7 @@
 
 #include <string>
 
-/// Face models that are installed on this machine.
+/// Models that are installed on this machine.
 namespace InstalledModels
 {
 /// The bytes of a file; empty if it cannot be read.
@@ -15,4 +15,7 @@ KxFaceModels Cascades();
 
 /// The path of a neural face detector beside the source tree; the file may be missing.
 std::string DetectorPath();
+
+/// What Packaging/install-models has installed; empty if it has not.
+std::string ObjectDetector();
 } // namespace InstalledModels

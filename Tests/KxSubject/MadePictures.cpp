@@ -9,6 +9,33 @@
 #include <fstream>
 #include <string>
 
+namespace
+{
+
+/// The first picture of a file of OpenCV's documentation, CV_8UC3; empty if it has another size or is missing.
+cv::Mat FirstPicture(const std::string& name, cv::Size size)
+{
+    const std::filesystem::path source = "/usr/share/doc/opencv-doc/examples/data/" + name;
+    if (!std::filesystem::exists(source)) {
+        return {};
+    }
+    const std::filesystem::path raw = std::filesystem::path(testing::TempDir()) / ("kx-" + name + ".raw");
+    const std::string command =
+        "ffmpeg -v error -y -i " + source.string() + " -frames:v 1 -f rawvideo -pix_fmt bgr24 " + raw.string();
+    cv::Mat picture(size, CV_8UC3);
+    if (std::system(command.c_str()) != 0) {
+        return {};
+    }
+    std::ifstream file(raw, std::ios::binary);
+    const auto bytes = static_cast<std::streamsize>(picture.total() * picture.elemSize());
+    file.read(reinterpret_cast<char*>(picture.data), bytes);
+    const bool whole = file.gcount() == bytes;
+    std::filesystem::remove(raw);
+    return whole ? picture : cv::Mat();
+}
+
+} // namespace
+
 namespace MadePictures
 {
 
@@ -55,23 +82,17 @@ void PaintObject(cv::Mat& picture, const cv::Rect& place)
 
 cv::Mat Photograph()
 {
-    const std::filesystem::path source = "/usr/share/doc/opencv-doc/examples/data/messi5.jpg";
-    if (!std::filesystem::exists(source)) {
-        return {};
-    }
-    const std::filesystem::path raw = std::filesystem::path(testing::TempDir()) / "kx-photograph.raw";
-    const std::string command =
-        "ffmpeg -v error -y -i " + source.string() + " -f rawvideo -pix_fmt bgr24 " + raw.string();
-    cv::Mat picture(342, 548, CV_8UC3);
-    if (std::system(command.c_str()) != 0) {
-        return {};
-    }
-    std::ifstream file(raw, std::ios::binary);
-    const auto bytes = static_cast<std::streamsize>(picture.total() * picture.elemSize());
-    file.read(reinterpret_cast<char*>(picture.data), bytes);
-    const bool whole = file.gcount() == bytes;
-    std::filesystem::remove(raw);
-    return whole ? picture : cv::Mat();
+    return FirstPicture("messi5.jpg", {548, 342});
+}
+
+cv::Mat PhotographOfAnAnimal()
+{
+    return FirstPicture("chicky_512.png", {512, 512});
+}
+
+cv::Mat Pedestrians()
+{
+    return FirstPicture("vtest.avi", {768, 576});
 }
 
 } // namespace MadePictures

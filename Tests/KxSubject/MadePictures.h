@@ -23,4 +23,10 @@ void PaintObject(cv::Mat& picture, const cv::Rect& place);
 /// A photograph of one person from OpenCV's documentation (548 x 342); empty if the package is missing.
 cv::Mat Photograph();
 
+/// A photograph of a chicken from there (512 x 512); empty if the package is missing.
+cv::Mat PhotographOfAnAnimal();
+
+/// The first picture of a video of pedestrians from there (768 x 576); empty if the package is missing.
+cv::Mat Pedestrians();
+
 } // namespace MadePictures
