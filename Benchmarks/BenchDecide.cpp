@@ -1,5 +1,5 @@
 // Looks at videos once and decides often, to measure what the tuning values do:
-//   BenchDecide observe CLIP RECORD              one pass over CLIP
+//   BenchDecide observe CLIP RECORD [DETECTOR]   one pass over CLIP; DETECTOR: the object detector's file
 //   BenchDecide names                            the tuning values of the decision, with what they are now
 //   BenchDecide decide RECORD=W:H...             decides on every record, once for each line of the standard input:
 //   NAME=VALUE...
@@ -50,6 +50,13 @@ QMap<QString, double*> Values(KxSubjectOptions& options)
             {QStringLiteral("faceZeroWeightShare"), &faces.zeroWeightShare},
             {QStringLiteral("faceFullWeightShare"), &faces.fullWeightShare},
             {QStringLiteral("faceWindowSeconds"), &faces.windowSeconds},
+            {QStringLiteral("detectionWeight"), &evidence.detectionWeight},
+            {QStringLiteral("detectionFullArea"), &options.detections.fullArea},
+            {QStringLiteral("detectionCentrality"), &options.detections.centrality},
+            {QStringLiteral("detectionContrast"), &options.detections.contrast},
+            {QStringLiteral("detectionEmptyFloor"), &options.detections.emptyFloor},
+            {QStringLiteral("detectionFadeSeconds"), &options.detections.fadeSeconds},
+            {QStringLiteral("detectionPersonUpperShare"), &options.detections.personUpperShare},
             {QStringLiteral("moveCost"), &path.moveCost},
             {QStringLiteral("speedWeight"), &path.speedWeight},
             {QStringLiteral("accelerationWeight"), &path.accelerationWeight},
@@ -66,8 +73,16 @@ int Fail(const QString& message)
     return 1;
 }
 
-int Observe(const QString& clip, const QString& recordPath)
+int Observe(const QString& clip, const QString& recordPath, const QString& objectDetector)
 {
+    KxSubjectModels models = KxDetectorFiles::Read({}).models;
+    if (!objectDetector.isEmpty()) {
+        QFile file(objectDetector);
+        if (!file.open(QIODevice::ReadOnly)) {
+            return Fail(QStringLiteral("Cannot read %1: %2.").arg(objectDetector, file.errorString()));
+        }
+        models.objectDetector = file.readAll().toStdString();
+    }
     const KxResult<std::unique_ptr<KxVideoScanner>> scanner = KxVideoScanner::Open(clip, KxCancelToken());
     if (!scanner) {
         return Fail(scanner.Message());
@@ -75,8 +90,8 @@ int Observe(const QString& clip, const QString& recordPath)
     const KxMediaFacts facts = (*scanner)->Facts();
     const QSize resolution = facts.video->resolution;
     KxSubjectObserver observer(
-        {resolution.width(), resolution.height(), facts.video->frameRate.ToDouble(), facts.video->frameCount},
-        KxDetectorFiles::Read({}).models.faces, {});
+        {resolution.width(), resolution.height(), facts.video->frameRate.ToDouble(), facts.video->frameCount}, models,
+        {});
     const QSize size(observer.WorkingSize().width, observer.WorkingSize().height);
     KxPictureScaler scaler(KxPictureScaler::Detail::Coarse);
     KxVideoFrame picture;
@@ -171,8 +186,8 @@ int main(int argc, char* argv[])
     const QCoreApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
     const QString command = arguments.value(1);
-    if (command == QLatin1String("observe") && arguments.size() == 4) {
-        return Observe(arguments[2], arguments[3]);
+    if (command == QLatin1String("observe") && (arguments.size() == 4 || arguments.size() == 5)) {
+        return Observe(arguments[2], arguments[3], arguments.value(4));
     }
     if (command == QLatin1String("names") && arguments.size() == 2) {
         KxSubjectOptions options;
@@ -185,6 +200,6 @@ int main(int argc, char* argv[])
     if (command == QLatin1String("decide") && arguments.size() > 2) {
         return Decide(arguments.mid(2));
     }
-    std::fputs("Usage: BenchDecide observe CLIP RECORD | names | decide RECORD=W:H...\n", stderr);
+    std::fputs("Usage: BenchDecide observe CLIP RECORD [DETECTOR] | names | decide RECORD=W:H...\n", stderr);
     return 2;
 }

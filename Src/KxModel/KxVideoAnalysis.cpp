@@ -146,7 +146,7 @@ KxAnalysis::Result KxVideoAnalysis::Run(const std::function<void(int percent)>& 
     const KxMediaFacts facts = m_scanner->Facts();
     KxDetectorFiles::Contents contents = KxDetectorFiles::Read(m_settings.faceDetectorPath);
     const KxSubjectOptions options;
-    KxSubjectObserver observer(SourceOf(*facts.video), contents.models.faces, options);
+    KxSubjectObserver observer(SourceOf(*facts.video), contents.models, options);
     contents.models = {};
     const KxError problem = Job(*m_scanner, observer, m_cancel).Run(onProgress);
     const bool endedEarly = m_scanner->EndedEarly();

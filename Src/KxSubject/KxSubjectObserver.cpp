@@ -1,7 +1,7 @@
 #include <KxSubject/KxSubjectObserver.h>
 
-#include <KxSubject/KxFaceModels.h>
 #include <KxSubject/KxPictureView.h>
+#include <KxSubject/KxSubjectModels.h>
 #include <KxSubject/Shots/KxShotDetector.h>
 #include <KxSubject/Signals/KxOpenCvError.h>
 #include <KxSubject/Signals/KxSignalRecorder.h>
@@ -39,11 +39,11 @@ cv::Size WorkingSizeOf(const KxSubjectSource& source, const KxSubjectOptions::Sa
 class KxSubjectObserver::Impl
 {
 public:
-    Impl(const KxSubjectSource& source, const KxFaceModels& faceModels, const KxSubjectOptions& options)
+    Impl(const KxSubjectSource& source, const KxSubjectModels& models, const KxSubjectOptions& options)
         : m_source(Checked(source))
         , m_workingSize(WorkingSizeOf(m_source, options.sampling))
         , m_shots(options.shots)
-        , m_signals(options, m_workingSize, m_source.frameRate, faceModels)
+        , m_signals(options, m_workingSize, m_source.frameRate, models)
         , m_step(std::max<std::int64_t>(1, static_cast<std::int64_t>(std::floor(
                                                m_source.frameRate / options.sampling.wantedPicturesPerSecond + 0.01))))
     {
@@ -53,6 +53,7 @@ public:
 
     KxIntSize WorkingSize() const { return {m_workingSize.width, m_workingSize.height}; }
     bool IsFaceDetectorRefused() const { return m_signals.Faces().Finder().IsDetectorRefused(); }
+    bool IsObjectDetectorRefused() const { return m_signals.IsObjectDetectorRefused(); }
     bool Wants(std::int64_t frame) const { return frame >= 0 && frame < m_source.frameCount && frame % m_step == 0; }
     void AddPicture(std::int64_t frame, const KxPictureView& view);
     KxSubjectRecord Finish();
@@ -93,9 +94,9 @@ KxSubjectRecord KxSubjectObserver::Impl::Finish()
     return record;
 }
 
-KxSubjectObserver::KxSubjectObserver(const KxSubjectSource& source, const KxFaceModels& faceModels,
+KxSubjectObserver::KxSubjectObserver(const KxSubjectSource& source, const KxSubjectModels& models,
                                      const KxSubjectOptions& options)
-    : m_impl(std::make_unique<Impl>(source, faceModels, options))
+    : m_impl(std::make_unique<Impl>(source, models, options))
 {
 }
 
@@ -124,4 +125,9 @@ KxSubjectRecord KxSubjectObserver::Finish()
 bool KxSubjectObserver::IsFaceDetectorRefused() const
 {
     return m_impl->IsFaceDetectorRefused();
+}
+
+bool KxSubjectObserver::IsObjectDetectorRefused() const
+{
+    return m_impl->IsObjectDetectorRefused();
 }

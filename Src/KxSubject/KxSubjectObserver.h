@@ -8,8 +8,8 @@
 #include <cstdint>
 #include <memory>
 
-struct KxFaceModels;
 struct KxPictureView;
+struct KxSubjectModels;
 struct KxSubjectOptions;
 
 /// Looks at a video once: small pictures in, a record of what every signal saw out. One thread at a time. Apart from
@@ -17,7 +17,7 @@ struct KxSubjectOptions;
 class KXSUBJECT_API KxSubjectObserver
 {
 public:
-    KxSubjectObserver(const KxSubjectSource& source, const KxFaceModels& faceModels, const KxSubjectOptions& options);
+    KxSubjectObserver(const KxSubjectSource& source, const KxSubjectModels& models, const KxSubjectOptions& options);
     ~KxSubjectObserver();
 
     /// The size of the pictures that AddPicture takes.
@@ -35,6 +35,8 @@ public:
 
     /// Whether the neural face detector that was given cannot be run; the cascades are used instead.
     bool IsFaceDetectorRefused() const;
+    /// Whether the object detector that was given cannot be run; the other signals are used alone.
+    bool IsObjectDetectorRefused() const;
 
 private:
     class Impl;

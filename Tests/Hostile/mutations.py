@@ -141,10 +141,15 @@ def nest(chance, data):
     return data[:at] + b'[' * depth + b']' * chance.choice([0, depth]) + data[at:]
 
 
+MOST_TRACK_BYTES = 128 << 20
+
+
 def repeat_lines(chance, data):
     lines = data.splitlines(keepends=True) or [data]
     at = chance.randrange(len(lines))
-    return b''.join(lines[:at] + lines[at:at + 1] * chance.choice([2, 100, 20000]) + lines[at + 1:])
+    # A track is one line in JSON, and repeating may follow repeating.
+    times = min(chance.choice([2, 100, 20000]), max(2, MOST_TRACK_BYTES // max(1, len(lines[at]))))
+    return b''.join(lines[:at] + lines[at:at + 1] * times + lines[at + 1:])
 
 
 def mutate_track(chance, data):

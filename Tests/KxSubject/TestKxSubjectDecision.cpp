@@ -1,7 +1,7 @@
 #include <KxSubject/KxSubjectDecision.h>
 
-#include <KxSubject/KxFaceModels.h>
 #include <KxSubject/KxPictureView.h>
+#include <KxSubject/KxSubjectModels.h>
 #include <KxSubject/KxSubjectObserver.h>
 #include <KxSubject/KxSubjectOptions.h>
 #include <Tests/KxSubject/InstalledModels.h>
@@ -26,7 +26,7 @@ namespace
 const cv::Size SceneSize(480, 240);
 
 /// The pictures have no faces, and searching for them takes most of the time.
-const KxFaceModels NoFaceModels;
+const KxSubjectModels NoModels;
 
 KxPictureView ViewOf(const cv::Mat& picture)
 {
@@ -44,10 +44,10 @@ Task MakeTask(std::int64_t frameCount, KxIntSize aspect = {9, 16}, KxMotionSpeed
     return {{1280, 720, 25.0, frameCount}, {aspect.width, aspect.height, speed, false}};
 }
 
-KxSubjectObserver Observer(const Task& task, const KxFaceModels& faceModels = NoFaceModels,
+KxSubjectObserver Observer(const Task& task, const KxSubjectModels& models = NoModels,
                            const KxSubjectOptions& options = {})
 {
-    return KxSubjectObserver(task.source, faceModels, options);
+    return KxSubjectObserver(task.source, models, options);
 }
 
 KxSubjectDecision Decide(KxSubjectObserver& observer, const Task& task, const KxSubjectOptions& options = {})
@@ -74,9 +74,9 @@ using Scene = std::function<cv::Mat(std::int64_t frame)>;
 
 std::vector<KxCropRect> Analyse(const Task& task, const Scene& scene, std::int64_t every = 1,
                                 std::int64_t last = std::numeric_limits<std::int64_t>::max(),
-                                const KxSubjectOptions& options = {}, const KxFaceModels& faceModels = NoFaceModels)
+                                const KxSubjectOptions& options = {}, const KxSubjectModels& models = NoModels)
 {
-    KxSubjectObserver observer(task.source, faceModels, options);
+    KxSubjectObserver observer(task.source, models, options);
     for (std::int64_t frame = 0; frame < std::min(task.source.frameCount, last); frame += every) {
         if (observer.Wants(frame)) {
             observer.AddPicture(frame, ViewOf(scene(frame)));
@@ -139,12 +139,12 @@ TEST(KxSubjectDecision, FramesOutsideAreNotWantedAndHighRatesAreSubsampled)
 
 TEST(KxSubjectDecision, TheCropKeepsAMovingObjectDuringAPan)
 {
-    const auto crops = Analyse(
-        MakeTask(125),
-        [](std::int64_t frame) {
-            return Picture(0.2 + 0.004 * static_cast<double>(frame), 20.0 + 0.9 * static_cast<double>(frame));
-        },
-        1, 125, {}, InstalledModels::Cascades());
+    const auto crops =
+        Analyse(MakeTask(125),
+                [](std::int64_t frame) {
+                    return Picture(0.2 + 0.004 * static_cast<double>(frame), 20.0 + 0.9 * static_cast<double>(frame));
+                },
+                1, 125, {}, {InstalledModels::Cascades(), {}});
     ASSERT_EQ(crops.size(), 125U);
     ExpectOneSizeInside(crops);
     for (std::size_t frame = 0; frame < crops.size(); ++frame) {
@@ -232,7 +232,7 @@ TEST(KxSubjectDecision, FindingsContainTheEvidenceThatWasUsed)
         task.request.wantsFindings = true;
         KxSubjectOptions options;
         options.evidence.concentration = concentration;
-        KxSubjectObserver observer(task.source, NoFaceModels, options);
+        KxSubjectObserver observer(task.source, NoModels, options);
         for (std::int64_t frame = 0; frame < 50; ++frame) {
             observer.AddPicture(frame, ViewOf(Walk(frame)));
         }
@@ -464,10 +464,16 @@ TEST(KxSubjectDecision, TheSamePicturesGiveTheSameCrops)
     }
 }
 
+TEST(KxSubjectDecision, AnObjectDetectorThatCannotBeRunIsReported)
+{
+    EXPECT_FALSE(Observer(MakeTask(5)).IsObjectDetectorRefused());
+    EXPECT_TRUE(Observer(MakeTask(5), {{}, "no network"}).IsObjectDetectorRefused());
+}
+
 TEST(KxSubjectDecision, AFaceDetectorThatCannotBeRunIsReported)
 {
     EXPECT_FALSE(Observer(MakeTask(5)).IsFaceDetectorRefused());
-    EXPECT_TRUE(Observer(MakeTask(5), {{}, {}, "no network"}).IsFaceDetectorRefused());
+    EXPECT_TRUE(Observer(MakeTask(5), {{{}, {}, "no network"}, {}}).IsFaceDetectorRefused());
 }
 
 TEST(KxSubjectDecision, TheHostsSettingsOfOpenCvAreLeftAlone)
@@ -476,8 +482,8 @@ TEST(KxSubjectDecision, TheHostsSettingsOfOpenCvAreLeftAlone)
     const cv::utils::logging::LogLevel level = cv::utils::logging::getLogLevel();
     cv::setNumThreads(3);
     cv::utils::logging::setLogLevel(cv::utils::logging::LOG_LEVEL_FATAL);
-    KxFaceModels models = InstalledModels::Cascades();
-    models.detector = "no network";
+    KxSubjectModels models{InstalledModels::Cascades(), "no network"};
+    models.faces.detector = "no network";
     Analyse(MakeTask(20), Walk, 1, 20, {}, models);
     EXPECT_EQ(cv::getNumThreads(), 3);
     EXPECT_EQ(cv::utils::logging::getLogLevel(), cv::utils::logging::LOG_LEVEL_FATAL);

@@ -21,7 +21,7 @@ cv::Matx33d From(cv::Point origin, const cv::Matx33d& movement)
 } // namespace
 
 KxSignalRecorder::KxSignalRecorder(const KxSubjectOptions& options, cv::Size picturePx, double frameRate,
-                                   const KxFaceModels& faceModels)
+                                   const KxSubjectModels& models)
     : m_options(options)
     , m_picturePx(picturePx)
     , m_frameRate(frameRate)
@@ -30,7 +30,9 @@ KxSignalRecorder::KxSignalRecorder(const KxSubjectOptions& options, cv::Size pic
     , m_motion(options.motion)
     , m_movers(options.movers)
     , m_saliency(options.saliency)
-    , m_faces(options.faces, KxFaceFinder(options.faces, faceModels, picturePx))
+    , m_faces(options.faces, KxFaceFinder(options.faces, models.faces, picturePx))
+    , m_objects(KxObjectDetector::Load(models.objectDetector))
+    , m_isObjectDetectorRefused(!m_objects && !models.objectDetector.empty())
 {
 }
 
@@ -74,8 +76,21 @@ void KxSignalRecorder::AddPicture(std::int64_t frame, const cv::Mat& picture)
         m_faces.BeginScene();
     }
     m_faces.AddPicture(SecondsAt(frame), picture, now.grey);
+    DetectObjects(frame, picture, !now.cameraHere);
     m_before = std::move(m_newest);
     m_newest = std::move(now);
+}
+
+void KxSignalRecorder::DetectObjects(std::int64_t frame, const cv::Mat& picture, bool isNewScene)
+{
+    if (!m_objects) {
+        return;
+    }
+    const bool isDue = m_looks.empty() || SecondsAt(frame - m_looks.back().frame) >=
+                                              m_options.detections.periodSeconds - 0.25 / m_frameRate;
+    if (isDue || isNewScene) {
+        m_looks.push_back({static_cast<std::int32_t>(frame), m_objects->Detect(picture)});
+    }
 }
 
 std::optional<cv::Matx33d> KxSignalRecorder::CameraTo(const Picture& now) const
@@ -124,4 +139,5 @@ void KxSignalRecorder::Finish(KxSubjectRecord& record)
     record.samples = std::move(m_samples);
     record.movers = m_movers.Finish();
     record.faces = m_faces.Finish();
+    record.looks = std::move(m_looks);
 }

@@ -2,11 +2,14 @@
 
 #include <KxCore/KxExport.h>
 
+#include <KxSubject/KxSubjectModels.h>
+#include <KxSubject/KxSubjectRecord.h>
 #include <KxSubject/Shots/KxBarDetector.h>
 #include <KxSubject/Signals/KxCameraMovement.h>
 #include <KxSubject/Signals/KxFaceTracks.h>
 #include <KxSubject/Signals/KxMotionMap.h>
 #include <KxSubject/Signals/KxMoverTracks.h>
+#include <KxSubject/Signals/KxObjectDetector.h>
 #include <KxSubject/Signals/KxSaliencyMap.h>
 
 #include <optional>
@@ -19,7 +22,7 @@ class KXSUBJECT_API KxSignalRecorder
 {
 public:
     KxSignalRecorder(const KxSubjectOptions& options, cv::Size picturePx, double frameRate,
-                     const KxFaceModels& faceModels);
+                     const KxSubjectModels& models);
 
     /// Reserves memory for the samples of so many frames: one block, allocated early, does not fragment the memory in
     /// which pictures are allocated and freed.
@@ -32,6 +35,7 @@ public:
     /// last picture.
     void Finish(KxSubjectRecord& record);
 
+    bool IsObjectDetectorRefused() const { return m_isObjectDetectorRefused; }
     const KxFaceTracks& Faces() const { return m_faces; }
 
 private:
@@ -44,6 +48,8 @@ private:
     std::array<KxPackedProfile, 2> Profiles(const cv::Mat& map, const cv::Rect& region) const;
     std::optional<cv::Matx33d> CameraTo(const Picture& now) const;
     KxCropRect ContentShare() const;
+    /// Looks for people and animals at the start of a scene and from time to time.
+    void DetectObjects(std::int64_t frame, const cv::Mat& picture, bool isNewScene);
     /// `after` may be missing.
     void MeasureMotion(const Picture* after);
 
@@ -56,6 +62,9 @@ private:
     KxMoverTracks m_movers;
     KxSaliencyMap m_saliency;
     KxFaceTracks m_faces;
+    std::optional<KxObjectDetector> m_objects;
+    bool m_isObjectDetectorRefused;
+    std::vector<KxDetectionLook> m_looks;
     std::vector<KxSignalSample> m_samples;
     std::optional<Picture> m_before; ///< the sample before the newest
     std::optional<Picture> m_newest;
