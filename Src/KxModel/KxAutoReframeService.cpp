@@ -180,10 +180,10 @@ void KxAutoReframeService::RemoveObserver(IKxAutoReframeEventObserver* observer)
     m_observers.Remove(observer);
 }
 
-void KxAutoReframeService::SetFaceModel(const QString& path)
+void KxAutoReframeService::SetNetworkFolder(const QString& path)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    m_settings.faceDetectorPath = path;
+    m_settings.networkFolder = path;
 }
 
 void KxAutoReframeService::SetFindings(Findings findings)

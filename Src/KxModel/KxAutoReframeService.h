@@ -43,8 +43,9 @@ public:
     void AddObserver(IKxAutoReframeEventObserver* observer) override;
     void RemoveObserver(IKxAutoReframeEventObserver* observer) override;
 
-    /// A neural face detector's file for the tasks that start from now on; empty: none. Any thread.
-    void SetFaceModel(const QString& path);
+    /// The folder of the optional detectors (KxDetectorFiles::FindNetworks) for the tasks that start from now on;
+    /// empty, as at first: none. Any thread.
+    void SetNetworkFolder(const QString& path);
 
     /// Whether the tasks that start from now on keep their intermediate results; by default they do not. Any thread.
     enum class Findings { Drop, Keep };

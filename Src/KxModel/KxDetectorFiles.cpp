@@ -3,6 +3,7 @@
 #include <KxCore/KxConfigFile.h>
 
 #include <QCoreApplication>
+#include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -11,20 +12,55 @@
 namespace
 {
 
-/// The detectors that OpenCV's model zoo offers have less than 1 MB, a cascade has up to 2 MB.
+/// The detector of people and animals has 15 MB, the others less than 2 MB.
 constexpr qint64 MostBytes = 64 * 1024 * 1024;
 
-std::string ContentsOf(const QString& path)
+QString ObjectDetectorName()
+{
+    return QStringLiteral("nanodet-g.onnx");
+}
+
+QString FaceDetectorName()
+{
+    return QStringLiteral("face_detection_yunet_2022mar.onnx");
+}
+
+QString PathIn(const QString& folder, const QString& name)
+{
+    return folder + QLatin1Char('/') + name;
+}
+
+bool HasNetworks(const QString& folder)
+{
+    return QFileInfo::exists(PathIn(folder, ObjectDetectorName())) ||
+           QFileInfo::exists(PathIn(folder, FaceDetectorName()));
+}
+
+QStringList InstalledFolders()
+{
+    QStringList folders;
+    // Without an application object the program's folder is unknown.
+    const bool hasProgram = QCoreApplication::instance() != nullptr;
+    const QString program = hasProgram ? QCoreApplication::applicationDirPath() : QString();
+    if (hasProgram) {
+        folders += QDir::cleanPath(program + QStringLiteral("/../share/auto-reframe/models"));
+    }
+    folders += QStandardPaths::locateAll(QStandardPaths::GenericDataLocation, QStringLiteral("auto-reframe/models"),
+                                         QStandardPaths::LocateDirectory);
+    if (hasProgram && QFileInfo::exists(program + QStringLiteral("/../CMakeCache.txt"))) {
+        folders += QDir::cleanPath(program + QStringLiteral("/../../models"));
+    }
+    return folders;
+}
+
+QByteArray ContentsOf(const QString& path)
 {
     QFile file(path);
-    return !path.isEmpty() && file.open(QIODevice::ReadOnly) ? file.read(MostBytes).toStdString() : std::string();
+    return !path.isEmpty() && file.open(QIODevice::ReadOnly) ? file.read(MostBytes) : QByteArray();
 }
 
 QString ReasonNotToRead(const QFileInfo& file)
 {
-    if (!file.exists()) {
-        return QStringLiteral("there is no such file");
-    }
     if (file.isDir()) {
         return QStringLiteral("it is a folder");
     }
@@ -35,21 +71,92 @@ QString ReasonNotToRead(const QFileInfo& file)
         return QStringLiteral("it cannot be read");
     }
     if (file.size() > MostBytes) {
-        return QStringLiteral("it is too large for a face detector");
+        return QStringLiteral("it is too large for a detector");
     }
     return {};
 }
 
+/// The digits of a file's line in SHA256SUMS; empty if there is no such line.
+QByteArray ExpectedChecksum(const QString& folder, const QString& name)
+{
+    const QString sums = PathIn(folder, QStringLiteral("SHA256SUMS"));
+    if (!QFileInfo(sums).isFile()) {
+        return {};
+    }
+    const QList<QByteArray> lines = ContentsOf(sums).split('\n');
+    for (const QByteArray& line : lines) {
+        if (line.mid(line.indexOf(' ')) == "  " + name.toUtf8()) {
+            return line.left(line.indexOf(' '));
+        }
+    }
+    return {};
+}
+
+QString DetectorProblem(const QString& path, const QString& reason)
+{
+    return QStringLiteral("Cannot use the detector %1: %2.").arg(path, reason);
+}
+
+/// The bytes of a network; empty if it is missing, and if it cannot be used, which is added to `problems`.
+std::string ReadNetwork(const QString& folder, const QString& name, QStringList& problems)
+{
+    const QString path = PathIn(folder, name);
+    const QFileInfo file(path);
+    if (!file.exists()) {
+        return {};
+    }
+    const QString reason = ReasonNotToRead(file);
+    if (!reason.isEmpty()) {
+        problems += DetectorProblem(path, reason);
+        return {};
+    }
+    const QByteArray contents = ContentsOf(path);
+    const QByteArray expected = ExpectedChecksum(folder, name);
+    if (!expected.isEmpty() && QCryptographicHash::hash(contents, QCryptographicHash::Sha256).toHex() != expected) {
+        problems += DetectorProblem(path, QStringLiteral("it is damaged (SHA256SUMS has another checksum)"));
+        return {};
+    }
+    return contents.toStdString();
+}
+
 } // namespace
 
-QString KxDetectorFiles::FindDetector()
+KxDetectorFiles::NetworkFolder KxDetectorFiles::FindNetworks(const QString& named)
 {
-    const QString named = KxConfigFile::ReadAutoReframe(QStringLiteral("FaceModel"));
-    if (!named.isEmpty()) {
-        return named;
+    for (const QString& folder :
+         {named, qEnvironmentVariable("KX_MODELS"), KxConfigFile::ReadAutoReframe(QStringLiteral("Models"))}) {
+        if (folder == QLatin1String("none")) {
+            return {{}, false};
+        }
+        if (!folder.isEmpty()) {
+            return {folder, true};
+        }
     }
-    return QStandardPaths::locate(QStandardPaths::GenericDataLocation,
-                                  QStringLiteral("auto-reframe/face_detection_yunet_2022mar.onnx"));
+    const QStringList installed = InstalledFolders();
+    for (const QString& folder : installed) {
+        if (HasNetworks(folder)) {
+            return {folder, true};
+        }
+    }
+    return {};
+}
+
+QString KxDetectorFiles::FolderProblem(const QString& path)
+{
+    if (HasNetworks(path)) {
+        return {};
+    }
+    const QString reason =
+        !QFileInfo::exists(path) ? QStringLiteral("there is no such folder")
+        : !QFileInfo(path).isDir()
+            ? QStringLiteral("it is not a folder")
+            : QStringLiteral("it has neither %1 nor %2").arg(ObjectDetectorName(), FaceDetectorName());
+    return QStringLiteral("Cannot use the models in %1: %2.").arg(path, reason);
+}
+
+QString KxDetectorFiles::MissingNetworks()
+{
+    return QStringLiteral("The detector of people and animals is not installed; the analysis works without it.");
 }
 
 QStringList KxDetectorFiles::CascadeFolders()
@@ -71,7 +178,7 @@ QStringList KxDetectorFiles::CascadeFolders()
 QString KxDetectorFiles::FindCascade(const QString& fileName)
 {
     for (const QString& folder : CascadeFolders()) {
-        const QString path = folder + QLatin1Char('/') + fileName;
+        const QString path = PathIn(folder, fileName);
         if (QFileInfo(path).isFile()) {
             return path;
         }
@@ -79,24 +186,33 @@ QString KxDetectorFiles::FindCascade(const QString& fileName)
     return {};
 }
 
-KxDetectorFiles::Contents KxDetectorFiles::Read(const QString& detectorPath)
+KxDetectorFiles::Contents KxDetectorFiles::Read(const QString& networkFolder)
 {
     Contents contents;
-    contents.models.faces.frontalCascade = ContentsOf(FindCascade(QStringLiteral("haarcascade_frontalface_alt2.xml")));
-    contents.models.faces.profileCascade = ContentsOf(FindCascade(QStringLiteral("haarcascade_profileface.xml")));
-    if (detectorPath.isEmpty()) {
+    KxFaceModels& faces = contents.models.faces;
+    faces.frontalCascade = ContentsOf(FindCascade(QStringLiteral("haarcascade_frontalface_alt2.xml"))).toStdString();
+    faces.profileCascade = ContentsOf(FindCascade(QStringLiteral("haarcascade_profileface.xml"))).toStdString();
+    if (networkFolder.isEmpty()) {
         return contents;
     }
-    const QString reason = ReasonNotToRead(QFileInfo(detectorPath));
-    if (reason.isEmpty()) {
-        contents.models.faces.detector = ContentsOf(detectorPath);
-    } else {
-        contents.detectorProblem = DetectorProblem(detectorPath, reason);
+    const QString problem = FolderProblem(networkFolder);
+    if (!problem.isEmpty()) {
+        contents.problems += problem;
+        return contents;
     }
+    contents.models.objectDetector = ReadNetwork(networkFolder, ObjectDetectorName(), contents.problems);
+    faces.detector = ReadNetwork(networkFolder, FaceDetectorName(), contents.problems);
     return contents;
 }
 
-QString KxDetectorFiles::DetectorProblem(const QString& path, const QString& reason)
+QString KxDetectorFiles::RefusedObjectDetector(const QString& networkFolder)
 {
-    return QStringLiteral("Cannot use the face model %1: %2.").arg(path, reason);
+    return DetectorProblem(PathIn(networkFolder, ObjectDetectorName()),
+                           QStringLiteral("it is not NanoDet-g as OpenCV can run it"));
+}
+
+QString KxDetectorFiles::RefusedFaceDetector(const QString& networkFolder)
+{
+    return DetectorProblem(PathIn(networkFolder, FaceDetectorName()),
+                           QStringLiteral("it is not a face detector that OpenCV can run"));
 }

@@ -144,7 +144,7 @@ KxAnalysis::Result KxVideoAnalysis::Run(const std::function<void(int percent)>& 
 {
     Result result;
     const KxMediaFacts facts = m_scanner->Facts();
-    KxDetectorFiles::Contents contents = KxDetectorFiles::Read(m_settings.faceDetectorPath);
+    KxDetectorFiles::Contents contents = KxDetectorFiles::Read(m_settings.networkFolder);
     const KxSubjectOptions options;
     KxSubjectObserver observer(SourceOf(*facts.video), contents.models, options);
     contents.models = {};
@@ -164,11 +164,9 @@ KxAnalysis::Result KxVideoAnalysis::Run(const std::function<void(int percent)>& 
         result.outcome = KxOutcome::Cancelled;
         return result;
     }
-    if (!contents.detectorProblem.isEmpty()) {
-        result.warnings += contents.detectorProblem;
-    } else if (observer.IsFaceDetectorRefused()) {
-        result.warnings += KxDetectorFiles::DetectorProblem(
-            m_settings.faceDetectorPath, QStringLiteral("it is not a face detector that OpenCV can run"));
+    result.warnings += contents.problems;
+    if (observer.IsFaceDetectorRefused()) {
+        result.warnings += KxDetectorFiles::RefusedFaceDetector(m_settings.networkFolder);
     }
     if (endedEarly) {
         result.warnings += QStringLiteral("%1 is cut off or damaged: it decodes only in part.").arg(name);

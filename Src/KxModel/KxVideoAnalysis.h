@@ -40,7 +40,7 @@ protected:
 
 /// What the service passes on to an analysis besides the file and the client's parameters.
 struct KxAnalysisSettings {
-    QString faceDetectorPath; ///< empty: none
+    QString networkFolder; ///< of the optional detectors (KxDetectorFiles); empty: none
     bool wantsFindings = false;
 };
 

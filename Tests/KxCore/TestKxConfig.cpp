@@ -134,11 +134,11 @@ TEST_F(KxConfigTest, AFileWithASerialisedValueIsLeftAlone)
           "@Vari\\\nant(\\0\\0\\0\\t\\x7f\\xff\\xff\\xff)", "a, @Variant(\\0\\0\\0\\t\\x7f\\xff\\xff\\xff)",
           "\\x10040Variant(\\0\\0\\0\\t\\x7f\\xff\\xff\\xff)", "@DateTime(\\0\\0\\0\\t\\x7f\\xff\\xff\\xff)"}) {
         SCOPED_TRACE(value);
-        const QString file = Configure(QByteArray("FaceModel=") + value);
+        const QString file = Configure(QByteArray("Models=") + value);
         QFile before(file);
         ASSERT_TRUE(before.open(QIODevice::ReadOnly));
         const QByteArray content = before.readAll();
-        EXPECT_EQ(KxConfigFile::ReadAutoReframe(QStringLiteral("FaceModel")), QString());
+        EXPECT_EQ(KxConfigFile::ReadAutoReframe(QStringLiteral("Models")), QString());
         EXPECT_FALSE(IsUsed(file));
         ASSERT_TRUE(before.seek(0));
         EXPECT_EQ(before.readAll(), content) << "the person has to repair it";
@@ -150,7 +150,7 @@ TEST_F(KxConfigTest, APipeOrADeviceIsNotRead)
     ASSERT_TRUE(QDir(folder.path()).mkdir(QStringLiteral("made")));
     const QString pipe = folder.filePath(QStringLiteral("made/config.ini"));
     ASSERT_EQ(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
-    EXPECT_EQ(KxConfigFile::ReadAutoReframe(QStringLiteral("FaceModel")), QString());
+    EXPECT_EQ(KxConfigFile::ReadAutoReframe(QStringLiteral("Models")), QString());
     EXPECT_FALSE(IsUsed(pipe));
 }
 
@@ -164,7 +164,7 @@ TEST_F(KxConfigTest, AHugeFileIsNotRead)
 
 TEST_F(KxConfigTest, ARepairedFileIsUsedAgain)
 {
-    const QString file = Configure("FaceModel=@Variant(\\0)");
+    const QString file = Configure("Models=@Variant(\\0)");
     EXPECT_FALSE(IsUsed(file));
     Configure({});
     EXPECT_TRUE(IsUsed(file));

@@ -287,17 +287,17 @@ TEST_F(KxAutoReframeServiceTest, APauseOfDaysInTheTimeStampsIsHeld)
 
 TEST_F(KxAutoReframeServiceTest, AnInvalidFaceModelIsReportedAndTheAnalysisContinues)
 {
-    QFile model(m_folder.filePath(QStringLiteral("model.onnx")));
+    QFile model(m_folder.filePath(QStringLiteral("face_detection_yunet_2022mar.onnx")));
     ASSERT_TRUE(model.open(QIODevice::WriteOnly));
     model.write("this is no model");
     model.close();
-    m_service.SetFaceModel(model.fileName());
+    m_service.SetNetworkFolder(m_folder.path());
     Recorder recorder(m_service);
     const QString clip = MakeClip("clip.mp4", 40);
     ASSERT_TRUE(m_service.StartTask(clip, m_param));
     ASSERT_TRUE(recorder.WaitForEnd());
     ASSERT_EQ(m_service.LastWarnings().size(), 1);
-    EXPECT_TRUE(m_service.LastWarnings().first().contains(QStringLiteral("model.onnx")))
+    EXPECT_TRUE(m_service.LastWarnings().first().contains(QStringLiteral("face_detection_yunet_2022mar.onnx")))
         << m_service.LastWarnings().first().toStdString();
     QList<IKxAutoReframeResult> results;
     EXPECT_EQ(m_service.GetResults(clip, &results), 0);

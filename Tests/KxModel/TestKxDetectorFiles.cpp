@@ -15,15 +15,24 @@ class Environment
 public:
     Environment(const char* name, const QString& value)
         : m_name(name)
+        , m_before(qgetenv(name))
     {
         qputenv(name, value.toLocal8Bit());
     }
-    ~Environment() { qunsetenv(m_name); }
+    ~Environment()
+    {
+        if (m_before.isNull()) {
+            qunsetenv(m_name);
+        } else {
+            qputenv(m_name, m_before);
+        }
+    }
     Environment(const Environment&) = delete;
     Environment& operator=(const Environment&) = delete;
 
 private:
     const char* m_name;
+    const QByteArray m_before;
 };
 
 void WriteFile(const QString& path, const QByteArray& contents)
@@ -33,10 +42,22 @@ void WriteFile(const QString& path, const QByteArray& contents)
     ASSERT_EQ(file.write(contents), contents.size());
 }
 
-QString ProblemOf(const QString& path)
+const QString ObjectDetector = QStringLiteral("nanodet-g.onnx");
+const QString FaceDetector = QStringLiteral("face_detection_yunet_2022mar.onnx");
+
+/// A folder of networks, and the two names under which they are found.
+class KxDetectorFilesTest : public testing::Test
 {
-    return KxDetectorFiles::Read(path).detectorProblem;
-}
+protected:
+    QString Path(const QString& name) const { return folder.filePath(name); }
+    QStringList Problems() const { return KxDetectorFiles::Read(folder.path()).problems; }
+    QString ProblemWith(const QString& name, const QString& reason) const
+    {
+        return QStringLiteral("Cannot use the detector %1: %2.").arg(Path(name), reason);
+    }
+
+    const QTemporaryDir folder;
+};
 
 } // namespace
 
@@ -57,35 +78,97 @@ TEST(KxDetectorFiles, AMissingCascadeIsNotFound)
     EXPECT_TRUE(KxDetectorFiles::FindCascade(QStringLiteral("no-such-cascade.xml")).isEmpty());
 }
 
-TEST(KxDetectorFiles, ADetectorThatCannotBeReadIsReported)
+TEST_F(KxDetectorFilesTest, TheFolderThatAPersonNamesComesBeforeTheEnvironmentAndTheConfiguration)
 {
-    const QTemporaryDir folder;
-    const QString missing = folder.filePath(QStringLiteral("missing.onnx"));
-    EXPECT_EQ(ProblemOf(missing), QStringLiteral("Cannot use the face model %1: there is no such file.").arg(missing));
-    EXPECT_EQ(ProblemOf(folder.path()),
-              QStringLiteral("Cannot use the face model %1: it is a folder.").arg(folder.path()));
-    const QString huge = folder.filePath(QStringLiteral("huge.onnx"));
-    WriteFile(huge, "x");
-    ASSERT_TRUE(QFile::resize(huge, 1LL << 40));
-    EXPECT_EQ(ProblemOf(huge),
-              QStringLiteral("Cannot use the face model %1: it is too large for a face detector.").arg(huge));
-    EXPECT_TRUE(ProblemOf({}).isEmpty());
+    const QString config = Path(QStringLiteral("config.ini"));
+    WriteFile(config, "[Auto%20Reframe]\nModels=/from/config\n");
+    const Environment configuration("KX_CONFIG_FILE", config);
+    {
+        const Environment unset("KX_MODELS", QString());
+        EXPECT_EQ(KxDetectorFiles::FindNetworks().path, QStringLiteral("/from/config"));
+    }
+    const Environment named("KX_MODELS", QStringLiteral("/from/environment"));
+    EXPECT_EQ(KxDetectorFiles::FindNetworks().path, QStringLiteral("/from/environment"));
+    EXPECT_EQ(KxDetectorFiles::FindNetworks(QStringLiteral("/from/option")).path, QStringLiteral("/from/option"));
+}
+
+TEST_F(KxDetectorFilesTest, NoneMeansThatNoNetworksAreWanted)
+{
+    const Environment named("KX_MODELS", QStringLiteral("none"));
+    const KxDetectorFiles::NetworkFolder found = KxDetectorFiles::FindNetworks();
+    EXPECT_TRUE(found.path.isEmpty());
+    EXPECT_FALSE(found.isWanted);
+    EXPECT_TRUE(KxDetectorFiles::FindNetworks(folder.path()).isWanted);
+}
+
+TEST_F(KxDetectorFilesTest, InstalledNetworksAreFoundInThePersonsData)
+{
+    const Environment unset("KX_MODELS", QString());
+    const Environment data("XDG_DATA_HOME", folder.path());
+    const QString models = Path(QStringLiteral("auto-reframe/models"));
+    ASSERT_TRUE(QDir().mkpath(models));
+    EXPECT_NE(KxDetectorFiles::FindNetworks().path, models) << "an empty folder has no networks";
+    WriteFile(models + QLatin1Char('/') + ObjectDetector, "x");
+    EXPECT_EQ(KxDetectorFiles::FindNetworks().path, models);
+}
+
+TEST_F(KxDetectorFilesTest, WithoutAFolderThereAreNoNetworks)
+{
+    const KxDetectorFiles::Contents contents = KxDetectorFiles::Read({});
+    EXPECT_TRUE(contents.problems.isEmpty());
+    EXPECT_TRUE(contents.models.objectDetector.empty());
+    EXPECT_TRUE(contents.models.faces.detector.empty());
+}
+
+TEST_F(KxDetectorFilesTest, AFolderWithoutNetworksIsReported)
+{
+    EXPECT_EQ(Problems(), QStringList(QStringLiteral("Cannot use the models in %1: it has neither %2 nor %3.")
+                                          .arg(folder.path(), ObjectDetector, FaceDetector)));
+    EXPECT_EQ(
+        KxDetectorFiles::FolderProblem(Path(QStringLiteral("missing"))),
+        QStringLiteral("Cannot use the models in %1: there is no such folder.").arg(Path(QStringLiteral("missing"))));
+    WriteFile(Path(QStringLiteral("file")), "x");
+    EXPECT_EQ(KxDetectorFiles::FolderProblem(Path(QStringLiteral("file"))),
+              QStringLiteral("Cannot use the models in %1: it is not a folder.").arg(Path(QStringLiteral("file"))));
+}
+
+TEST_F(KxDetectorFilesTest, NetworksThatCannotBeReadAreReported)
+{
+    ASSERT_TRUE(QDir(folder.path()).mkdir(FaceDetector));
+    WriteFile(Path(ObjectDetector), "x");
+    ASSERT_TRUE(QFile::resize(Path(ObjectDetector), 1LL << 40));
+    EXPECT_EQ(Problems(), QStringList({ProblemWith(ObjectDetector, QStringLiteral("it is too large for a detector")),
+                                       ProblemWith(FaceDetector, QStringLiteral("it is a folder"))}));
 }
 
 #if defined(Q_OS_UNIX)
-TEST(KxDetectorFiles, ADetectorThatIsADeviceIsNotRead)
+TEST_F(KxDetectorFilesTest, ANetworkThatIsADeviceIsNotRead)
 {
-    EXPECT_EQ(ProblemOf(QStringLiteral("/dev/zero")),
-              QStringLiteral("Cannot use the face model /dev/zero: it is not a regular file."));
+    ASSERT_TRUE(QFile::link(QStringLiteral("/dev/zero"), Path(ObjectDetector)));
+    EXPECT_EQ(Problems(), QStringList(ProblemWith(ObjectDetector, QStringLiteral("it is not a regular file"))));
 }
 #endif
 
-TEST(KxDetectorFiles, AnyRegularFileIsReadForTheAnalysisToTry)
+TEST_F(KxDetectorFilesTest, AnyRegularFileIsReadForTheAnalysisToTry)
 {
-    const QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("model.onnx"));
-    WriteFile(path, QByteArray("a\0b", 3));
-    const KxDetectorFiles::Contents contents = KxDetectorFiles::Read(path);
-    EXPECT_TRUE(contents.detectorProblem.isEmpty());
-    EXPECT_EQ(contents.models.faces.detector, std::string("a\0b", 3));
+    WriteFile(Path(ObjectDetector), QByteArray("a\0b", 3));
+    WriteFile(Path(FaceDetector), QByteArray("c\0d", 3));
+    const KxDetectorFiles::Contents contents = KxDetectorFiles::Read(folder.path());
+    EXPECT_TRUE(contents.problems.isEmpty());
+    EXPECT_EQ(contents.models.objectDetector, std::string("a\0b", 3));
+    EXPECT_EQ(contents.models.faces.detector, std::string("c\0d", 3));
+}
+
+TEST_F(KxDetectorFilesTest, ADamagedNetworkIsNotUsed)
+{
+    WriteFile(Path(ObjectDetector), "abc");
+    WriteFile(Path(QStringLiteral("SHA256SUMS")),
+              "0000000000000000000000000000000000000000000000000000000000000000  other-nanodet-g.onnx\n"
+              "ba7816bf8f01cfea414140de5dae2223b00361a396177a9cb410ff61f20015ad  nanodet-g.onnx\n");
+    EXPECT_TRUE(Problems().isEmpty());
+    WriteFile(Path(ObjectDetector), "abd");
+    const KxDetectorFiles::Contents contents = KxDetectorFiles::Read(folder.path());
+    EXPECT_EQ(contents.problems, QStringList(ProblemWith(ObjectDetector, QStringLiteral("it is damaged (SHA256SUMS has "
+                                                                                        "another checksum)"))));
+    EXPECT_TRUE(contents.models.objectDetector.empty());
 }

@@ -103,13 +103,30 @@ TEST(ReframeOptions, SeveralInputsTakeFolders)
     EXPECT_EQ(parsed.options->inputs.size(), 2);
 }
 
+TEST(ReframeOptions, ModelsAreAFolderWithADetectorOrNone)
+{
+    EXPECT_EQ(Parse(Words("a.mp4")).options->models, QString());
+    EXPECT_EQ(Parse(Words("--models none a.mp4")).options->models, QStringLiteral("none"));
+    const QTemporaryDir folder;
+    const QStringList arguments{QStringLiteral("--models"), folder.path(), QStringLiteral("a.mp4")};
+    const auto refused = Parse(arguments);
+    EXPECT_FALSE(refused.options);
+    EXPECT_EQ(refused.exitStatus, ReframeExit::WrongUse);
+    EXPECT_TRUE(refused.text.startsWith(
+        QStringLiteral("Cannot use the models in %1: it has neither nanodet-g.onnx nor ").arg(folder.path())))
+        << refused.text.toStdString();
+    ASSERT_TRUE(QFile(folder.filePath(QStringLiteral("nanodet-g.onnx"))).open(QIODevice::WriteOnly));
+    ASSERT_TRUE(Parse(arguments).options);
+    EXPECT_EQ(Parse(arguments).options->models, folder.path());
+}
+
 TEST(ReframeOptions, HelpAndVersionNeedNoInput)
 {
     const auto help = Parse({QStringLiteral("--help")});
     EXPECT_FALSE(help.options);
     EXPECT_EQ(help.exitStatus, ReframeExit::Done);
     for (const char* option : {"--aspect", "--speed", "--output", "--keyframes", "--apply", "--no-video", "--preview",
-                               "--report", "--face-model", "--json", "--quiet", "--version", "--overwrite"}) {
+                               "--report", "--models", "--json", "--quiet", "--version", "--overwrite"}) {
         EXPECT_TRUE(help.text.contains(QLatin1String(option))) << option;
     }
     EXPECT_EQ(Parse({QStringLiteral("--version")}).exitStatus, ReframeExit::Done);

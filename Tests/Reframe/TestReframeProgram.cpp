@@ -177,6 +177,17 @@ TEST_F(ReframeProgramTest, ATruncatedVideoIsReframedAsFarAsItDecodesWithAWarning
     EXPECT_LT((*reader)->Facts().video->frameCount, 90);
 }
 
+TEST_F(ReframeProgramTest, ModelsThatCannotBeUsedAreAWarning)
+{
+    const QByteArray before = qgetenv("KX_MODELS");
+    qputenv("KX_MODELS", "/no/such/folder");
+    const ReframeRun run({QStringLiteral("--no-video"), MakeClip("clip.mp4", 40)});
+    qputenv("KX_MODELS", before);
+    EXPECT_EQ(run.exitStatus, 0) << run.standardError.toStdString();
+    EXPECT_EQ(run.standardError,
+              QStringLiteral("Warning: Cannot use the models in /no/such/folder: there is no such folder.\n"));
+}
+
 TEST_F(ReframeProgramTest, ATruncatedVideoWithoutAnIndexGivesAWarningToo)
 {
     for (const char* suffix : {"mkv", "avi"}) {

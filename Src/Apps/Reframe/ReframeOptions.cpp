@@ -2,6 +2,8 @@
 
 #include <Apps/Reframe/ReframeExit.h>
 
+#include <KxModel/KxDetectorFiles.h>
+
 #include <QCommandLineParser>
 #include <QFileInfo>
 
@@ -29,9 +31,10 @@ struct Definitions {
     QCommandLineOption report{QStringLiteral("report"),
                               QStringLiteral("Write a page (.html) that shows what the analysis found."),
                               QStringLiteral("FILE")};
-    QCommandLineOption faceModel{QStringLiteral("face-model"),
-                                 QStringLiteral("Use the neural face detector in FILE (YuNet, ONNX)."),
-                                 QStringLiteral("FILE")};
+    QCommandLineOption models{QStringLiteral("models"),
+                              QStringLiteral("Use the optional detectors in FOLDER, or none, instead of those that are "
+                                             "installed."),
+                              QStringLiteral("FOLDER|none")};
     QCommandLineOption noVideo{QStringLiteral("no-video"), QStringLiteral("Analyse only; write no video.")};
     QCommandLineOption overwrite{QStringLiteral("overwrite"),
                                  QStringLiteral("Replace existing files instead of adding a number to the name.")};
@@ -42,8 +45,8 @@ struct Definitions {
 
     QList<QCommandLineOption> All() const
     {
-        return {aspect,    speed,   output,    keyframes, apply, preview, report,
-                faceModel, noVideo, overwrite, json,      quiet, help,    version};
+        return {aspect, speed,   output,    keyframes, apply, preview, report,
+                models, noVideo, overwrite, json,      quiet, help,    version};
     }
 };
 
@@ -123,6 +126,12 @@ QString Contradiction(const ReframeOptions& options)
     if (!options.report.isEmpty() && !options.apply.isEmpty()) {
         return QStringLiteral("--report shows what an analysis found, and with --apply there is none.");
     }
+    if (!options.models.isEmpty() && options.models != QLatin1String("none")) {
+        const QString problem = KxDetectorFiles::FolderProblem(options.models);
+        if (!problem.isEmpty()) {
+            return problem;
+        }
+    }
     const bool isOne = options.inputs.size() == 1;
     if (!isOne && !options.apply.isEmpty()) {
         return QStringLiteral("--apply takes one input.");
@@ -200,7 +209,7 @@ ReframeOptions::Parsed ReframeOptions::Parse(const QStringList& arguments)
     options.apply = parser.value(definitions.apply);
     options.preview = parser.value(definitions.preview);
     options.report = parser.value(definitions.report);
-    options.faceModel = parser.value(definitions.faceModel);
+    options.models = parser.value(definitions.models);
     options.writesVideo = !parser.isSet(definitions.noVideo);
     options.overwrites = parser.isSet(definitions.overwrite);
     options.json = parser.isSet(definitions.json);

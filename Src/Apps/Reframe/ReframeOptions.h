@@ -16,7 +16,7 @@ struct ReframeOptions {
     QString apply;                              ///< a crop track that replaces the analysis; empty: none
     QString preview;                            ///< file (folder for several inputs); empty: none
     QString report;                             ///< file (folder for several inputs); empty: none
-    QString faceModel;                          ///< empty: none
+    QString models;                             ///< folder of the optional detectors, or "none"; empty: the usual ones
     bool writesVideo = true;
     bool overwrites = false;
     bool json = false;

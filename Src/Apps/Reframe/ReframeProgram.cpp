@@ -10,14 +10,17 @@
 int ReframeProgram::Run(const ReframeOptions& options)
 {
     KxAutoReframeService::PrepareProgram();
-    KxAutoReframeService::Instance().SetFaceModel(options.faceModel.isEmpty() ? KxDetectorFiles::FindDetector()
-                                                                              : options.faceModel);
+    const KxDetectorFiles::NetworkFolder networks = KxDetectorFiles::FindNetworks(options.models);
+    KxAutoReframeService::Instance().SetNetworkFolder(networks.path);
     const bool explains = !options.report.isEmpty() || options.PreviewIsVideo();
     KxAutoReframeService::Instance().SetFindings(explains ? KxAutoReframeService::Findings::Keep
                                                           : KxAutoReframeService::Findings::Drop);
     ReframeReporter reporter(options);
     QStringList written;
     int status = ReframeExit::Done;
+    if (networks.isWanted && networks.path.isEmpty() && options.apply.isEmpty()) {
+        reporter.Warn(options.inputs.first(), KxDetectorFiles::MissingNetworks());
+    }
     for (const QString& input : options.inputs) {
         KxOutcome outcome = KxOutcome::Failed;
         const KxError failure = KxCallGuarded([&] { outcome = ReframeJob(input, options, reporter, written).Run(); });

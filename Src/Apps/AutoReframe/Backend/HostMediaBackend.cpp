@@ -1,6 +1,7 @@
 #include <Apps/AutoReframe/Backend/HostMediaBackend.h>
 
 #include <Apps/AutoReframe/Backend/ExportRecord.h>
+#include <KxCore/KxLog.h>
 #include <KxMediaLibrary/KxThumbnailer.h>
 #include <KxModel/KxAutoReframeService.h>
 #include <KxModel/KxDetectorFiles.h>
@@ -50,7 +51,11 @@ void RequestExport(IKxTimeline* timeline, const QVariant& record, const DialogCa
 HostMediaBackend::HostMediaBackend()
 {
     KxAutoReframeService::PrepareProgram();
-    KxAutoReframeService::Instance().SetFaceModel(KxDetectorFiles::FindDetector());
+    const KxDetectorFiles::NetworkFolder networks = KxDetectorFiles::FindNetworks();
+    if (networks.isWanted && networks.path.isEmpty()) {
+        KX_LOG_INFO(KxDetectorFiles::MissingNetworks());
+    }
+    KxAutoReframeService::Instance().SetNetworkFolder(networks.path);
     KxFileDialog::SetFileCheck(&KxMediaLibraryUtils::CheckVideoFile);
 }
 
