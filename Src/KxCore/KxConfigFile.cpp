@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <QSet>
 #include <QSettings>
 #include <QStandardPaths>
@@ -56,16 +57,10 @@ QByteArray Unescaped(const QByteArray& content)
 
 bool HasSerialisedValue(const QByteArray& content)
 {
+    // A doubled @ is the first character of a plain text.
+    static const QRegularExpression start(QStringLiteral("(?<!@)@(Variant|DateTime)\\("));
     const QByteArray text = Unescaped(content);
-    for (const char* const start : {"@Variant(", "@DateTime("}) {
-        for (int at = text.indexOf(start); at >= 0; at = text.indexOf(start, at + 1)) {
-            // Two of them are the first character of a plain text.
-            if (at == 0 || text.at(at - 1) != '@') {
-                return true;
-            }
-        }
-    }
-    return false;
+    return start.match(QString(QLatin1String(text.cbegin(), text.cend()))).hasMatch();
 }
 
 /// Why QSettings must not get the file.
