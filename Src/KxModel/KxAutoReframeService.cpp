@@ -81,7 +81,6 @@ bool KxAutoReframeService::Start(const QString& path, const IKxAutoReframeParam&
         // A stop or a newer start during the opening has the same effect as one right after this call.
         return true;
     }
-    m_resultPath.clear();
     m_result = {};
     if (!analysis) {
         m_result.message = failure ? FailureMessage(path, *failure) : analysis.Message();
