@@ -20,6 +20,20 @@ const QSize Picture(400, 200);
 const QRectF Crop(0.25, 0.25, 0.25, 0.5);
 const QPoint Inside(150, 100);
 
+/// Gives a form of the size of `window` its picture and its crop.
+void Prepare(ShadowForm& form, const QSize& window)
+{
+    form.GetPictureLabel()->setFixedSize(Picture);
+    form.setFixedSize(window);
+    form.SetCropRect(Crop);
+}
+
+/// Where the pointer is held, counted from the press, and the crop's corner then; both in pixels.
+struct Step {
+    QPoint pointer;
+    QPoint crop;
+};
+
 class ShadowFormTest : public testing::Test
 {
 protected:
@@ -28,9 +42,7 @@ protected:
     void Open(const QSize& window)
     {
         form = std::make_unique<ShadowForm>(nullptr);
-        form->GetPictureLabel()->setFixedSize(Picture);
-        form->setFixedSize(window);
-        form->SetCropRect(Crop);
+        Prepare(*form, window);
         form->show();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(form.get()));
         changed = std::make_unique<QSignalSpy>(form.get(), &ShadowForm::sigRectFChanged);
@@ -43,6 +55,16 @@ protected:
     {
         Press(*form, position);
         MoveHeld(*form, position);
+    }
+
+    /// Presses inside the crop and drags it.
+    void ExpectDragged(const QList<Step>& steps)
+    {
+        PressAt(Inside);
+        for (const Step& step : steps) {
+            MoveHeld(*form, Inside + step.pointer);
+            ExpectCrop(step.crop.x(), step.crop.y());
+        }
     }
 
     void ExpectCrop(double xPx, double yPx) const
@@ -59,15 +81,21 @@ protected:
     std::unique_ptr<QSignalSpy> pressed;
 };
 
+/// The colours of the pixels outside and inside the outline.
+struct Surroundings {
+    QColor outside{0, 0, 0, 142};
+    QColor inside{0, 0, 0, 1};
+};
+
 /// Checks every pixel: dimmed outside, the outline, almost clear inside. `crop` includes the outline.
-void ExpectPainted(const QImage& image, const QRect& crop, const QColor& outline)
+void ExpectPainted(const QImage& image, const QRect& crop, const QColor& outline, const Surroundings& surroundings = {})
 {
     const QRect hole = crop.adjusted(1, 1, -1, -1);
     for (int y = 0; y < image.height(); ++y) {
         for (int x = 0; x < image.width(); ++x) {
-            const QColor expected = hole.contains(x, y)   ? QColor(0, 0, 0, 1)
+            const QColor expected = hole.contains(x, y)   ? surroundings.inside
                                     : crop.contains(x, y) ? outline
-                                                          : QColor(0, 0, 0, 142);
+                                                          : surroundings.outside;
             ASSERT_EQ(image.pixelColor(x, y), expected) << "at " << x << ", " << y;
         }
     }
@@ -138,21 +166,9 @@ TEST_F(ShadowFormTest, AsAChildItDimsThePictureOutsideTheCrop)
     auto* const child = new ShadowForm(&picture, ShadowForm::Kind::Child);
     EXPECT_FALSE(child->isWindow());
     EXPECT_EQ(child->focusPolicy(), Qt::NoFocus);
-    child->GetPictureLabel()->setFixedSize(Picture);
-    child->setFixedSize(Picture);
-    child->SetCropRect(Crop);
-    const QImage painted = picture.grab().toImage();
-    const QRect crop(100, 50, 100, 100);
-    const QRect hole = crop.adjusted(1, 1, -1, -1);
-    const QColor dimmed(113, 113, 113);
-    for (int y = 0; y < painted.height(); ++y) {
-        for (int x = 0; x < painted.width(); ++x) {
-            const QColor expected = hole.contains(x, y)   ? QColor(Qt::white)
-                                    : crop.contains(x, y) ? QColor(0x55, 0xE5, 0xC5)
-                                                          : dimmed;
-            ASSERT_EQ(painted.pixelColor(x, y), expected) << "at " << x << ", " << y;
-        }
-    }
+    Prepare(*child, Picture);
+    ExpectPainted(picture.grab().toImage(), QRect(100, 50, 100, 100), QColor(0x55, 0xE5, 0xC5),
+                  {QColor(113, 113, 113), Qt::white});
 }
 
 TEST_F(ShadowFormTest, AsAChildItCanBeDragged)
@@ -160,9 +176,7 @@ TEST_F(ShadowFormTest, AsAChildItCanBeDragged)
     QWidget picture;
     picture.setFixedSize(Picture);
     form = std::make_unique<ShadowForm>(&picture, ShadowForm::Kind::Child);
-    form->GetPictureLabel()->setFixedSize(Picture);
-    form->setFixedSize(Picture);
-    form->SetCropRect(Crop);
+    Prepare(*form, Picture);
     picture.show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&picture));
     QSignalSpy dragged(form.get(), &ShadowForm::sigRectFChanged);
@@ -279,44 +293,24 @@ TEST_F(ShadowFormTest, AClickBelowTheStartDistanceChangesNothing)
 
 TEST_F(ShadowFormTest, RefusesAStepPastTheRightEdgeWhileTheOtherAxisMoves)
 {
-    PressAt(Inside);
-    MoveHeld(*form, Inside + QPoint(201, 10));
-    ExpectCrop(100, 60);
+    ExpectDragged({{{201, 10}, {100, 60}}});
     Release(*form, Inside + QPoint(201, 10));
     EXPECT_EQ(changed->count(), 1);
 }
 
 TEST_F(ShadowFormTest, AcceptsAStepThatJustFits)
 {
-    PressAt(Inside);
-    MoveHeld(*form, Inside + QPoint(200, 50));
-    ExpectCrop(300, 100);
-    MoveHeld(*form, Inside + QPoint(-100, -50));
-    ExpectCrop(0, 0);
+    ExpectDragged({{{200, 50}, {300, 100}}, {{-100, -50}, {0, 0}}});
 }
 
 TEST_F(ShadowFormTest, StopsShortOfTheEdgeInsteadOfBeingPushedUpToIt)
 {
-    PressAt(Inside);
-    MoveHeld(*form, Inside + QPoint(195, 0));
-    ExpectCrop(295, 50);
-    MoveHeld(*form, Inside + QPoint(201, 0));
-    ExpectCrop(295, 50);
-    MoveHeld(*form, Inside + QPoint(206, 0));
-    ExpectCrop(300, 50);
+    ExpectDragged({{{195, 0}, {295, 50}}, {{201, 0}, {295, 50}}, {{206, 0}, {300, 50}}});
 }
 
 TEST_F(ShadowFormTest, AcceptsOrRefusesEachAxisAloneInACorner)
 {
-    PressAt(Inside);
-    MoveHeld(*form, Inside + QPoint(190, 45));
-    ExpectCrop(290, 95);
-    MoveHeld(*form, Inside + QPoint(198, 53));
-    ExpectCrop(298, 95);
-    MoveHeld(*form, Inside + QPoint(206, 58));
-    ExpectCrop(298, 100);
-    MoveHeld(*form, Inside + QPoint(214, 66));
-    ExpectCrop(298, 100);
+    ExpectDragged({{{190, 45}, {290, 95}}, {{198, 53}, {298, 95}}, {{206, 58}, {298, 100}}, {{214, 66}, {298, 100}}});
 }
 
 TEST_F(ShadowFormTest, TheFirstStepCountsFromWhereTheDragBeforeEnded)
@@ -345,13 +339,7 @@ TEST_F(ShadowFormTest, TheFirstStepCountsFromWhereTheDragBeforeEnded)
 
 TEST_F(ShadowFormTest, NearThePressTheCropStaysButThePositionIsUpdated)
 {
-    PressAt(Inside);
-    MoveHeld(*form, Inside + QPoint(20, 0));
-    ExpectCrop(120, 50);
-    MoveHeld(*form, Inside + QPoint(3, 0));
-    ExpectCrop(120, 50);
-    MoveHeld(*form, Inside + QPoint(25, 0));
-    ExpectCrop(142, 50);
+    ExpectDragged({{{20, 0}, {120, 50}}, {{3, 0}, {120, 50}}, {{25, 0}, {142, 50}}});
 }
 
 TEST_F(ShadowFormTest, ReportsADragWhoseStepsWereAllRefused)
