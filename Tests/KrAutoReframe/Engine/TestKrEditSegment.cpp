@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 using testing::ElementsAre;
+using testing::ElementsAreArray;
 using testing::IsEmpty;
 
 namespace
@@ -15,14 +16,19 @@ KrEditSegment Segment(uint start, int length, std::vector<uint> points)
     return {start, length, std::move(points)};
 }
 
+void ExpectSegment(const KrEditSegment& segment, uint start, uint end, const std::vector<uint>& points)
+{
+    EXPECT_EQ(segment.start, start);
+    EXPECT_EQ(segment.End(), end);
+    EXPECT_THAT(segment.points, ElementsAreArray(points));
+}
+
 } // namespace
 
 TEST(TestKrEditSegment, StartsAsFrameZeroWithoutPoints)
 {
     const KrEditSegment segment;
-    EXPECT_EQ(segment.start, 0u);
-    EXPECT_EQ(segment.length, 0);
-    EXPECT_THAT(segment.points, IsEmpty());
+    ExpectSegment(segment, 0, 0, {});
 }
 
 TEST(TestKrEditSegment, TheEndIsInsideTheRange)
@@ -34,18 +40,14 @@ TEST(TestKrEditSegment, MergeAddsALowerSegmentThatOverlaps)
 {
     KrEditSegment segment = Segment(15, 50, {40});
     EXPECT_TRUE(segment.Merge(Segment(0, 35, {10})));
-    EXPECT_EQ(segment.start, 0u);
-    EXPECT_EQ(segment.length, 65);
-    EXPECT_THAT(segment.points, ElementsAre(10, 40));
+    ExpectSegment(segment, 0, 65, {10, 40});
 }
 
 TEST(TestKrEditSegment, MergeAddsAHigherSegmentThatOverlaps)
 {
     KrEditSegment segment = Segment(0, 35, {10});
     EXPECT_TRUE(segment.Merge(Segment(15, 50, {40})));
-    EXPECT_EQ(segment.start, 0u);
-    EXPECT_EQ(segment.length, 65);
-    EXPECT_THAT(segment.points, ElementsAre(10, 40));
+    ExpectSegment(segment, 0, 65, {10, 40});
 }
 
 TEST(TestKrEditSegment, MergeAddsASegmentThatStartsOnTheLastFrame)
@@ -59,18 +61,14 @@ TEST(TestKrEditSegment, MergeLeavesOneThatStartsAFrameLater)
 {
     KrEditSegment segment = Segment(0, 35, {10});
     EXPECT_FALSE(segment.Merge(Segment(36, 20, {45})));
-    EXPECT_EQ(segment.start, 0u);
-    EXPECT_EQ(segment.length, 35);
-    EXPECT_THAT(segment.points, ElementsAre(10));
+    ExpectSegment(segment, 0, 35, {10});
 }
 
 TEST(TestKrEditSegment, MergeKeepsTheEndOfTheLowerOneWhereItReachesFarther)
 {
     KrEditSegment segment = Segment(20, 5, {22});
     EXPECT_TRUE(segment.Merge(Segment(0, 100, {50})));
-    EXPECT_EQ(segment.start, 0u);
-    EXPECT_EQ(segment.length, 100);
-    EXPECT_THAT(segment.points, ElementsAre(22, 50));
+    ExpectSegment(segment, 0, 100, {22, 50});
 }
 
 TEST(TestKrEditSegment, MergeKeepsPointsSortedAndSingle)
@@ -99,27 +97,21 @@ TEST(TestKrEditSegment, RemovingTheOnlyPointLeavesFrameZeroAlone)
 {
     KrEditSegment segment = Segment(10, 50, {35});
     EXPECT_TRUE(segment.RemovePoint(35));
-    EXPECT_EQ(segment.start, 0u);
-    EXPECT_EQ(segment.length, 0);
-    EXPECT_THAT(segment.points, IsEmpty());
+    ExpectSegment(segment, 0, 0, {});
 }
 
 TEST(TestKrEditSegment, RemovingTheFirstOfTwoMovesTheStartHalfWay)
 {
     KrEditSegment segment = Segment(0, 65, {10, 40});
     EXPECT_TRUE(segment.RemovePoint(10));
-    EXPECT_EQ(segment.start, 25u);
-    EXPECT_EQ(segment.End(), 65u);
-    EXPECT_THAT(segment.points, ElementsAre(40));
+    ExpectSegment(segment, 25, 65, {40});
 }
 
 TEST(TestKrEditSegment, RemovingTheLastOfTwoMovesTheEndHalfWay)
 {
     KrEditSegment segment = Segment(0, 65, {10, 40});
     EXPECT_TRUE(segment.RemovePoint(40));
-    EXPECT_EQ(segment.start, 0u);
-    EXPECT_EQ(segment.End(), 25u);
-    EXPECT_THAT(segment.points, ElementsAre(10));
+    ExpectSegment(segment, 0, 25, {10});
 }
 
 TEST(TestKrEditSegment, TheStartIsRoundedDownAndTheEndUp)
@@ -138,9 +130,7 @@ TEST(TestKrEditSegment, RemovingAMiddlePointLeavesTheRange)
 {
     KrEditSegment segment = Segment(0, 90, {10, 40, 65});
     EXPECT_TRUE(segment.RemovePoint(40));
-    EXPECT_EQ(segment.start, 0u);
-    EXPECT_EQ(segment.length, 90);
-    EXPECT_THAT(segment.points, ElementsAre(10, 65));
+    ExpectSegment(segment, 0, 90, {10, 65});
 }
 
 TEST(TestKrEditSegment, HalfWaysAreFoundInSinglePrecision)
