@@ -4,7 +4,7 @@
 #include <QThreadPool>
 #include <QtConcurrent>
 
-#include <atomic>
+#include <memory>
 
 namespace Peer = KrAutoReframeHelperPeer;
 
@@ -21,6 +21,29 @@ struct HeldTask {
 
     FakeHost::Gate reached;
     FakeHost::Gate release;
+};
+
+class TestKrAutoReframeHelperTask : public TestKrAutoReframeHelper
+{
+protected:
+    /// Applies 100 results and returns when the task has reported its first progress and is held there.
+    void ApplyUntilHeld(HeldTask& held, double x = 0.0)
+    {
+        AtFirstProgress([&held] { held.Hold(); });
+        EXPECT_TRUE(helper->ApplyResults(FakeHost::MakeResults(100, x)));
+        held.reached.Wait();
+    }
+
+    /// Opens a source of 20,000 frames, applies results and returns while the task runs.
+    void OpenAndApplyUntilItRuns()
+    {
+        Open(20000);
+        // The task may still be inside Open() when this function returns.
+        const auto reached = std::make_shared<FakeHost::Gate>();
+        AtFirstProgress([reached] { reached->Open(); });
+        EXPECT_TRUE(helper->ApplyResults(FakeHost::MakeResults(20000)));
+        reached->Wait();
+    }
 };
 
 /// All threads of the global pool are taken until they are freed.
@@ -51,13 +74,11 @@ private:
 
 } // namespace
 
-TEST_F(TestKrAutoReframeHelper, StartedTwiceItRunsOnce)
+TEST_F(TestKrAutoReframeHelperTask, StartedTwiceItRunsOnce)
 {
     Open(100);
     HeldTask held;
-    AtFirstProgress([&held] { held.Hold(); });
-    EXPECT_TRUE(helper->ApplyResults(FakeHost::MakeResults(100)));
-    held.reached.Wait();
+    ApplyUntilHeld(held);
     EXPECT_TRUE(helper->ApplyResults(FakeHost::MakeResults(100, 0.4)));
     EXPECT_TRUE(helper->ApplyResults({}));
     held.release.Open();
@@ -67,14 +88,12 @@ TEST_F(TestKrAutoReframeHelper, StartedTwiceItRunsOnce)
     EXPECT_DOUBLE_EQ(PushedX(0), 0.0);
 }
 
-TEST_F(TestKrAutoReframeHelper, CancelledInTheMiddleItStopsAtTheNextFrameAndKeepsWhatItStored)
+TEST_F(TestKrAutoReframeHelperTask, CancelledInTheMiddleItStopsAtTheNextFrameAndKeepsWhatItStored)
 {
     Open(100);
-    HeldTask held;
-    AtFirstProgress([&held] { held.Hold(); });
     QSignalSpy finished(helper.get(), &KrAutoReframeHelper::sigApplyFinished);
-    EXPECT_TRUE(helper->ApplyResults(FakeHost::MakeResults(100)));
-    held.reached.Wait();
+    HeldTask held;
+    ApplyUntilHeld(held);
     helper->Cancel();
     QCoreApplication::sendPostedEvents();
     EXPECT_EQ(finished.count(), 0);
@@ -87,7 +106,7 @@ TEST_F(TestKrAutoReframeHelper, CancelledInTheMiddleItStopsAtTheNextFrameAndKeep
     EXPECT_TRUE(helper->GetDisplayResults().isEmpty());
 }
 
-TEST_F(TestKrAutoReframeHelper, CancelledBeforeItsThreadIsFreeItStoresNothing)
+TEST_F(TestKrAutoReframeHelperTask, CancelledBeforeItsThreadIsFreeItStoresNothing)
 {
     Open(100);
     BusyPool busy;
@@ -101,7 +120,7 @@ TEST_F(TestKrAutoReframeHelper, CancelledBeforeItsThreadIsFreeItStoresNothing)
     EXPECT_TRUE(helper->GetResults().isEmpty());
 }
 
-TEST_F(TestKrAutoReframeHelper, CancelledBeforeItsEndIsDeliveredItIsCancelled)
+TEST_F(TestKrAutoReframeHelperTask, CancelledBeforeItsEndIsDeliveredItIsCancelled)
 {
     Open(100);
     QSignalSpy finished(helper.get(), &KrAutoReframeHelper::sigApplyFinished);
@@ -117,20 +136,18 @@ TEST_F(TestKrAutoReframeHelper, CancelledBeforeItsEndIsDeliveredItIsCancelled)
     EXPECT_DOUBLE_EQ(ShownX(0), 0.4);
 }
 
-TEST_F(TestKrAutoReframeHelper, ASecondApplicationCancelledInTheMiddleChangesNothing)
+TEST_F(TestKrAutoReframeHelperTask, ASecondApplicationCancelledInTheMiddleChangesNothing)
 {
     OpenAndEdit();
     HeldTask held;
-    AtFirstProgress([&held] { held.Hold(); });
-    EXPECT_TRUE(helper->ApplyResults(FakeHost::MakeResults(100, 0.4)));
-    held.reached.Wait();
+    ApplyUntilHeld(held, 0.4);
     helper->Cancel();
     QCoreApplication::sendPostedEvents();
     held.release.Open();
     ExpectCancelledAndUnchanged();
 }
 
-TEST_F(TestKrAutoReframeHelper, ASecondApplicationCancelledInItsLastStepChangesNothing)
+TEST_F(TestKrAutoReframeHelperTask, ASecondApplicationCancelledInItsLastStepChangesNothing)
 {
     OpenAndEdit();
     HeldTask held;
@@ -142,7 +159,7 @@ TEST_F(TestKrAutoReframeHelper, ASecondApplicationCancelledInItsLastStepChangesN
     ExpectCancelledAndUnchanged();
 }
 
-TEST_F(TestKrAutoReframeHelper, ASecondApplicationCancelledBeforeItsEndIsDeliveredChangesNothing)
+TEST_F(TestKrAutoReframeHelperTask, ASecondApplicationCancelledBeforeItsEndIsDeliveredChangesNothing)
 {
     OpenAndEdit();
     EXPECT_TRUE(helper->ApplyResults(FakeHost::MakeResults(100, 0.4)));
@@ -151,7 +168,7 @@ TEST_F(TestKrAutoReframeHelper, ASecondApplicationCancelledBeforeItsEndIsDeliver
     ExpectCancelledAndUnchanged();
 }
 
-TEST_F(TestKrAutoReframeHelper, AnAbandonedTaskReportsNoEndAndChangesNothing)
+TEST_F(TestKrAutoReframeHelperTask, AnAbandonedTaskReportsNoEndAndChangesNothing)
 {
     OpenAndEdit();
     QSignalSpy finished(helper.get(), &KrAutoReframeHelper::sigApplyFinished);
@@ -165,7 +182,7 @@ TEST_F(TestKrAutoReframeHelper, AnAbandonedTaskReportsNoEndAndChangesNothing)
     EXPECT_DOUBLE_EQ(ShownX(0), 0.4);
 }
 
-TEST_F(TestKrAutoReframeHelper, AnEditOfResultsWhoseApplicationIsCancelledAfterwardsStays)
+TEST_F(TestKrAutoReframeHelperTask, AnEditOfResultsWhoseApplicationIsCancelledAfterwardsStays)
 {
     OpenAndEdit();
     QSignalSpy finished(helper.get(), &KrAutoReframeHelper::sigApplyFinished);
@@ -181,7 +198,7 @@ TEST_F(TestKrAutoReframeHelper, AnEditOfResultsWhoseApplicationIsCancelledAfterw
     EXPECT_DOUBLE_EQ(PushedX(50), 0.45);
 }
 
-TEST_F(TestKrAutoReframeHelper, CancellingWhileNothingRunsLeavesNoMark)
+TEST_F(TestKrAutoReframeHelperTask, CancellingWhileNothingRunsLeavesNoMark)
 {
     Open(100);
     helper->Cancel();
@@ -190,14 +207,12 @@ TEST_F(TestKrAutoReframeHelper, CancellingWhileNothingRunsLeavesNoMark)
     EXPECT_EQ(PushedFrames(), QStringLiteral("0..99"));
 }
 
-TEST_F(TestKrAutoReframeHelper, AfterACancellationItCanRunAgain)
+TEST_F(TestKrAutoReframeHelperTask, AfterACancellationItCanRunAgain)
 {
     Open(100);
-    HeldTask held;
-    AtFirstProgress([&held] { held.Hold(); });
     QSignalSpy finished(helper.get(), &KrAutoReframeHelper::sigApplyFinished);
-    EXPECT_TRUE(helper->ApplyResults(FakeHost::MakeResults(100)));
-    held.reached.Wait();
+    HeldTask held;
+    ApplyUntilHeld(held);
     helper->Cancel();
     held.release.Open();
     ASSERT_TRUE(finished.wait(WaitMs));
@@ -206,15 +221,13 @@ TEST_F(TestKrAutoReframeHelper, AfterACancellationItCanRunAgain)
     EXPECT_DOUBLE_EQ(PushedX(0), 0.4);
 }
 
-TEST_F(TestKrAutoReframeHelper, WhileTheMutexIsBusyNothingIsStoredAndTheOldKeyFramesArePushed)
+TEST_F(TestKrAutoReframeHelperTask, WhileTheMutexIsBusyNothingIsStoredAndTheOldKeyFramesArePushed)
 {
     OpenAndApply(100);
     HeldTask held;
     FakeHost::Gate pushed;
-    AtFirstProgress([&held] { held.Hold(); });
     WorkKeyFrames().SetOnPush([&pushed] { pushed.Open(); });
-    EXPECT_TRUE(helper->ApplyResults(FakeHost::MakeResults(100, 0.4)));
-    held.reached.Wait();
+    ApplyUntilHeld(held, 0.4);
     Peer::Mutex(*helper).lock();
     Peer::SetCanceled(*helper);
     held.release.Open();
@@ -227,18 +240,16 @@ TEST_F(TestKrAutoReframeHelper, WhileTheMutexIsBusyNothingIsStoredAndTheOldKeyFr
     EXPECT_DOUBLE_EQ(helper->GetResults().at(0).cropRect().x(), 0.0);
 }
 
-TEST_F(TestKrAutoReframeHelper, WhileTheMutexIsBusyTheCancelMarkIsNotSeen)
+TEST_F(TestKrAutoReframeHelperTask, WhileTheMutexIsBusyTheCancelMarkIsNotSeen)
 {
     Open(100);
     int progressCount = 0;
     HeldTask held;
     FakeHost::Gate pushed;
-    AtFirstProgress([&held] { held.Hold(); });
     QObject::connect(helper.get(), &KrAutoReframeHelper::sigApplyProgress, helper.get(),
                      [&progressCount] { ++progressCount; });
     WorkKeyFrames().SetOnPush([&pushed] { pushed.Open(); });
-    EXPECT_TRUE(helper->ApplyResults(FakeHost::MakeResults(100)));
-    held.reached.Wait();
+    ApplyUntilHeld(held);
     Peer::Mutex(*helper).lock();
     Peer::SetCanceled(*helper);
     held.release.Open();
@@ -248,22 +259,18 @@ TEST_F(TestKrAutoReframeHelper, WhileTheMutexIsBusyTheCancelMarkIsNotSeen)
     EXPECT_EQ(progressCount, 99);
 }
 
-TEST_F(TestKrAutoReframeHelper, CanBeDestroyedWhileTheTaskRuns)
+TEST_F(TestKrAutoReframeHelperTask, CanBeDestroyedWhileTheTaskRuns)
 {
     for (int round = 0; round < 10; ++round) {
         helper = std::make_unique<KrAutoReframeHelper>();
-        Open(20000);
-        FakeHost::Gate reached;
-        AtFirstProgress([&reached] { reached.Open(); });
-        EXPECT_TRUE(helper->ApplyResults(FakeHost::MakeResults(20000)));
-        reached.Wait();
+        OpenAndApplyUntilItRuns();
         helper.reset();
         FakeHost::Reset();
         QCoreApplication::sendPostedEvents();
     }
 }
 
-TEST_F(TestKrAutoReframeHelper, CanBeDestroyedBeforeTheTaskHasStarted)
+TEST_F(TestKrAutoReframeHelperTask, CanBeDestroyedBeforeTheTaskHasStarted)
 {
     Open(100);
     BusyPool busy;
@@ -273,7 +280,7 @@ TEST_F(TestKrAutoReframeHelper, CanBeDestroyedBeforeTheTaskHasStarted)
     busy.Free();
 }
 
-TEST_F(TestKrAutoReframeHelper, CanBeDestroyedRightAfterACancel)
+TEST_F(TestKrAutoReframeHelperTask, CanBeDestroyedRightAfterACancel)
 {
     Open(20000);
     EXPECT_TRUE(helper->ApplyResults(FakeHost::MakeResults(20000)));
@@ -283,14 +290,10 @@ TEST_F(TestKrAutoReframeHelper, CanBeDestroyedRightAfterACancel)
     QCoreApplication::sendPostedEvents();
 }
 
-TEST_F(TestKrAutoReframeHelper, ANewSourceStopsTheRunningTaskWithoutAnEnd)
+TEST_F(TestKrAutoReframeHelperTask, ANewSourceStopsTheRunningTaskWithoutAnEnd)
 {
-    Open(20000);
-    FakeHost::Gate reached;
-    AtFirstProgress([&reached] { reached.Open(); });
     QSignalSpy finished(helper.get(), &KrAutoReframeHelper::sigApplyFinished);
-    EXPECT_TRUE(helper->ApplyResults(FakeHost::MakeResults(20000)));
-    reached.Wait();
+    OpenAndApplyUntilItRuns();
     Open(50);
     EXPECT_TRUE(helper->GetResults().isEmpty());
     EXPECT_EQ(FakeHost::LiveTimelines(), 3);
@@ -301,7 +304,7 @@ TEST_F(TestKrAutoReframeHelper, ANewSourceStopsTheRunningTaskWithoutAnEnd)
     EXPECT_EQ(PushedFrames(), QStringLiteral("0..49"));
 }
 
-TEST_F(TestKrAutoReframeHelper, ANewSourceDropsAnEndThatWasNotDelivered)
+TEST_F(TestKrAutoReframeHelperTask, ANewSourceDropsAnEndThatWasNotDelivered)
 {
     Open(100);
     QSignalSpy finished(helper.get(), &KrAutoReframeHelper::sigApplyFinished);
@@ -314,25 +317,17 @@ TEST_F(TestKrAutoReframeHelper, ANewSourceDropsAnEndThatWasNotDelivered)
     EXPECT_TRUE(Apply(50));
 }
 
-TEST_F(TestKrAutoReframeHelper, ResettingTheWorkingCopyWhileTheTaskRunsCancelsIt)
+TEST_F(TestKrAutoReframeHelperTask, ResettingTheWorkingCopyWhileTheTaskRunsCancelsIt)
 {
-    Open(20000);
-    FakeHost::Gate reached;
-    AtFirstProgress([&reached] { reached.Open(); });
-    EXPECT_TRUE(helper->ApplyResults(FakeHost::MakeResults(20000)));
-    reached.Wait();
+    OpenAndApplyUntilItRuns();
     EXPECT_TRUE(helper->ResetWorkTimeline(helper->GetSourceTimeline()));
     EXPECT_EQ(WorkKeyFrames().PushCount(), 0);
     EXPECT_EQ(FakeHost::LiveTimelines(), 2);
 }
 
-TEST_F(TestKrAutoReframeHelper, AnEditWhileTheTaskRunsWaitsForItsResults)
+TEST_F(TestKrAutoReframeHelperTask, AnEditWhileTheTaskRunsWaitsForItsResults)
 {
-    Open(20000);
-    FakeHost::Gate reached;
-    AtFirstProgress([&reached] { reached.Open(); });
-    EXPECT_TRUE(helper->ApplyResults(FakeHost::MakeResults(20000)));
-    reached.Wait();
+    OpenAndApplyUntilItRuns();
     EXPECT_LE(helper->GetResults().size(), 20000);
     EXPECT_TRUE(helper->AddKeyFrame(100, Rect(0.5)));
     EXPECT_EQ(PushedFrames(), QStringLiteral("0..75 100 125..19999"));
