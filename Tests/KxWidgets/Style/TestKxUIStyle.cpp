@@ -49,6 +49,21 @@ QColor Middle(QWidget& widget)
     return picture.pixelColor(picture.rect().center());
 }
 
+/// A window with two buttons, the second one below the first.
+struct TwoButtons {
+    TwoButtons()
+    {
+        layout->setContentsMargins(20, 20, 20, 20);
+        layout->addWidget(first);
+        layout->addWidget(second);
+    }
+
+    QWidget window;
+    QVBoxLayout* layout = new QVBoxLayout(&window);
+    KxPushButton* first = KxPushButton::CreatePrimaryButton(&window, 32);
+    KxPushButton* second = KxPushButton::CreatePrimaryButton(&window, 32);
+};
+
 class KxUIStyleTest : public testing::Test
 {
 protected:
@@ -230,13 +245,8 @@ TEST_F(KxUIStyleTest, TabularFontHasDigitsOfOneWidth)
 
 TEST_F(KxUIStyleTest, RingAppearsForTheKeyboardAndDisappearsForTheMouse)
 {
-    QWidget window;
-    auto* layout = new QVBoxLayout(&window);
-    layout->setContentsMargins(20, 20, 20, 20);
-    KxPushButton* first = KxPushButton::CreatePrimaryButton(&window, 32);
-    KxPushButton* second = KxPushButton::CreatePrimaryButton(&window, 32);
-    layout->addWidget(first);
-    layout->addWidget(second);
+    TwoButtons shown;
+    auto& [window, layout, first, second] = shown;
     ASSERT_TRUE(Hand::ShowActive(window));
     QTest::mouseClick(&window, Qt::LeftButton, {}, {1, 1});
     first->setFocus();
@@ -256,12 +266,8 @@ TEST_F(KxUIStyleTest, RingAppearsForTheKeyboardAndDisappearsForTheMouse)
 
 TEST_F(KxUIStyleTest, RingDisappearsWithItsControl)
 {
-    QWidget window;
-    auto* layout = new QVBoxLayout(&window);
-    KxPushButton* first = KxPushButton::CreatePrimaryButton(&window, 32);
-    KxPushButton* second = KxPushButton::CreatePrimaryButton(&window, 32);
-    layout->addWidget(first);
-    layout->addWidget(second);
+    TwoButtons shown;
+    auto& [window, layout, first, second] = shown;
     ASSERT_TRUE(Hand::ShowActive(window));
     first->setFocus();
     QTest::keyClick(first, Qt::Key_Tab);
@@ -357,12 +363,8 @@ TEST_F(KxUIStyleTest, TheStylesOwnFocusRectangleIsNotDrawnInsideControls)
 
 TEST_F(KxUIStyleTest, SpacePressesTheRingedButtonOtherwiseItIsTheShortcut)
 {
-    QWidget window;
-    auto* layout = new QVBoxLayout(&window);
-    KxPushButton* first = KxPushButton::CreatePrimaryButton(&window, 32);
-    KxPushButton* second = KxPushButton::CreatePrimaryButton(&window, 32);
-    layout->addWidget(first);
-    layout->addWidget(second);
+    TwoButtons shown;
+    auto& [window, layout, first, second] = shown;
     QShortcut play(QKeySequence(Qt::Key_Space), &window);
     QSignalSpy played(&play, &QShortcut::activated);
     QSignalSpy clicked(second, &QAbstractButton::clicked);
@@ -382,12 +384,8 @@ TEST_F(KxUIStyleTest, SpacePressesTheRingedButtonOtherwiseItIsTheShortcut)
 
 TEST_F(KxUIStyleTest, AKeyWithAModifierIsAShortcutAlsoOnTheRingedButton)
 {
-    QWidget window;
-    auto* layout = new QVBoxLayout(&window);
-    KxPushButton* first = KxPushButton::CreatePrimaryButton(&window, 32);
-    KxPushButton* second = KxPushButton::CreatePrimaryButton(&window, 32);
-    layout->addWidget(first);
-    layout->addWidget(second);
+    TwoButtons shown;
+    auto& [window, layout, first, second] = shown;
     QShortcut stop(QKeySequence(Qt::CTRL | Qt::Key_Space), &window);
     QSignalSpy stopped(&stop, &QShortcut::activated);
     ASSERT_TRUE(Hand::ShowActive(window));
