@@ -33,17 +33,14 @@ void KxObserverList::Notify(qint64 key, int state, int percent, const KxCancelTo
         if (removed || cancel.IsCancelled()) {
             continue;
         }
-        const std::thread::id self = std::this_thread::get_id();
-        m_calls.push_back({observer, self});
+        const auto call = m_calls.insert(m_calls.end(), {observer, std::this_thread::get_id()});
         lock.unlock();
         const KxError failure = KxCallGuarded([&] { observer->OnAutoReframeEvent(key, state, percent); });
         if (failure) {
             KX_LOG_WARNING(QStringLiteral("An observer of the analysis failed: %1.").arg(*failure));
         }
         lock.lock();
-        m_calls.erase(std::find_if(m_calls.begin(), m_calls.end(), [observer, self](const Call& call) {
-            return call.observer == observer && call.thread == self;
-        }));
+        m_calls.erase(call);
         m_callEnded.notify_all();
     }
 }

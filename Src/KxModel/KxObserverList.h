@@ -5,6 +5,7 @@
 #include <KxCore/KxCancelToken.h>
 
 #include <condition_variable>
+#include <list>
 #include <mutex>
 #include <thread>
 #include <vector>
@@ -31,5 +32,5 @@ private:
     std::mutex m_mutex;
     std::condition_variable m_callEnded;
     std::vector<IKxAutoReframeEventObserver*> m_observers;
-    std::vector<Call> m_calls;
+    std::list<Call> m_calls;
 };
