@@ -76,6 +76,14 @@ TEST_F(TestExportQueue, TheTimeLeftIsEstimatedAfterASecond)
     EXPECT_EQ(m_queue.Find(id)->secondsLeft, 9);
 }
 
+TEST_F(TestExportQueue, WithoutProgressThereIsNoEstimate)
+{
+    const int id = m_queue.Add(Request(QStringLiteral("a.mp4")));
+    m_nowMs += 5000;
+    Progress(id, 0);
+    EXPECT_FALSE(m_queue.Find(id)->secondsLeft.has_value());
+}
+
 TEST_F(TestExportQueue, TheTimeLeftCountsFromTheStartOfTheRendering)
 {
     m_queue.Add(Request(QStringLiteral("a.mp4")));
