@@ -1,6 +1,7 @@
 // Looks at videos once and decides often, to measure what the tuning values do:
 //   BenchDecide observe CLIP RECORD [DETECTOR]   one pass over CLIP; DETECTOR: the object detector's file
-//   BenchDecide names                            the tuning values of the decision, with what they are now
+//   BenchDecide truth RECORD TRUTH.csv OUT       RECORD with nothing in it but the boxes of TRUTH (frame,x,y,w,h in
+//   pixels) BenchDecide names                            the tuning values of the decision, with what they are now
 //   BenchDecide decide RECORD=W:H...             decides on every record, once for each line of the standard input:
 //   NAME=VALUE...
 // For each line and record: the number of frames (int32), the crop's width and height, and its left and top in each
@@ -73,6 +74,29 @@ int Fail(const QString& message)
     return 1;
 }
 
+std::optional<KxSubjectRecord> ReadRecord(const QString& path)
+{
+    QFile file(path);
+    std::optional<KxSubjectRecord> record;
+    if (file.open(QIODevice::ReadOnly)) {
+        record = KxSubjectRecordFormat::Read(file.readAll().toStdString());
+    }
+    if (!record) {
+        Fail(QStringLiteral("%1 is not a record of this version.").arg(path));
+    }
+    return record;
+}
+
+int WriteRecord(const KxSubjectRecord& record, const QString& path)
+{
+    QFile file(path);
+    const std::string bytes = KxSubjectRecordFormat::Write(record);
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes.data(), static_cast<qint64>(bytes.size())) < 0) {
+        return Fail(QStringLiteral("Cannot write %1: %2.").arg(path, file.errorString()));
+    }
+    return 0;
+}
+
 int Observe(const QString& clip, const QString& recordPath, const QString& objectDetector)
 {
     KxSubjectModels models = KxDetectorFiles::Read({}).models;
@@ -103,12 +127,38 @@ int Observe(const QString& clip, const QString& recordPath, const QString& objec
                 {image.constBits(), {image.width(), image.height()}, static_cast<std::size_t>(image.bytesPerLine())});
         }
     }
-    QFile file(recordPath);
-    const std::string bytes = KxSubjectRecordFormat::Write(observer.Finish());
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes.data(), static_cast<qint64>(bytes.size())) < 0) {
-        return Fail(QStringLiteral("Cannot write %1: %2.").arg(recordPath, file.errorString()));
+    return WriteRecord(observer.Finish(), recordPath);
+}
+
+int MakeTruth(const QString& recordPath, const QString& truthPath, const QString& outPath)
+{
+    std::optional<KxSubjectRecord> record = ReadRecord(recordPath);
+    QFile truth(truthPath);
+    if (!record || !truth.open(QIODevice::ReadOnly)) {
+        return Fail(QStringLiteral("Cannot read %1 and %2.").arg(recordPath, truthPath));
     }
-    return 0;
+    const auto width = static_cast<float>(record->source.pictureWidthPx);
+    const auto height = static_cast<float>(record->source.pictureHeightPx);
+    QMap<int, std::vector<KxDetection>> boxes;
+    truth.readLine();
+    while (!truth.atEnd()) {
+        const QList<QByteArray> fields = truth.readLine().split(',');
+        const float left = qBound(0.0F, fields.value(1).toFloat() / width, 0.999F);
+        const float top = qBound(0.0F, fields.value(2).toFloat() / height, 0.999F);
+        boxes[fields.value(0).toInt()].push_back(
+            {left, top, qBound(0.001F, fields.value(3).toFloat() / width, 1.0F - left),
+             qBound(0.001F, fields.value(4).toFloat() / height, 1.0F - top), 1.0F, KxDetectionKind::Animal});
+    }
+    record->movers.clear();
+    record->faces.clear();
+    record->looks.clear();
+    for (KxSignalSample& sample : record->samples) {
+        sample = {sample.frame, {}, {}};
+        if (boxes.contains(sample.frame)) {
+            record->looks.push_back({sample.frame, boxes[sample.frame]});
+        }
+    }
+    return WriteRecord(*record, outPath);
 }
 
 struct Task {
@@ -121,14 +171,8 @@ std::optional<Task> TaskOf(const QString& argument)
 {
     const int separator = argument.lastIndexOf(QLatin1Char('='));
     const QStringList aspect = argument.mid(separator + 1).split(QLatin1Char(':'));
-    QFile file(argument.left(separator));
-    if (aspect.size() != 2 || !file.open(QIODevice::ReadOnly)) {
-        Fail(QStringLiteral("Cannot read the record of %1.").arg(argument));
-        return std::nullopt;
-    }
-    std::optional<KxSubjectRecord> record = KxSubjectRecordFormat::Read(file.readAll().toStdString());
-    if (!record) {
-        Fail(QStringLiteral("%1 is not a record of this version.").arg(file.fileName()));
+    std::optional<KxSubjectRecord> record = ReadRecord(argument.left(separator));
+    if (aspect.size() != 2 || !record) {
         return std::nullopt;
     }
     return Task{std::move(*record), {aspect[0].toInt(), aspect[1].toInt()}};
@@ -189,6 +233,9 @@ int main(int argc, char* argv[])
     if (command == QLatin1String("observe") && (arguments.size() == 4 || arguments.size() == 5)) {
         return Observe(arguments[2], arguments[3], arguments.value(4));
     }
+    if (command == QLatin1String("truth") && arguments.size() == 5) {
+        return MakeTruth(arguments[2], arguments[3], arguments[4]);
+    }
     if (command == QLatin1String("names") && arguments.size() == 2) {
         KxSubjectOptions options;
         const QMap<QString, double*> values = Values(options);
@@ -200,6 +247,8 @@ int main(int argc, char* argv[])
     if (command == QLatin1String("decide") && arguments.size() > 2) {
         return Decide(arguments.mid(2));
     }
-    std::fputs("Usage: BenchDecide observe CLIP RECORD [DETECTOR] | names | decide RECORD=W:H...\n", stderr);
+    std::fputs("Usage: BenchDecide observe CLIP RECORD [DETECTOR] | truth RECORD TRUTH.csv OUT | names | decide "
+               "RECORD=W:H...\n",
+               stderr);
     return 2;
 }

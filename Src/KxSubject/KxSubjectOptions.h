@@ -10,6 +10,7 @@
 /// - clips: chosen by the score of "Against ground truth" in Docs/ANALYSIS.md;
 /// - spread: the same, and `Benchmarks/spread` measures how much depends on it ("Sensitivity to the tuning values"
 /// there);
+/// - cross: `Benchmarks/crossvalidate` chose it on some clips and scored it on the others;
 /// - shots: chosen on the videos of "Shot boundaries" there;
 /// - chosen: hardly matters within its range.
 /// Lengths in `Px` are pixels of the working picture.
@@ -158,33 +159,34 @@ struct KxSubjectOptions {
 
     /// People and animals that the object detector finds.
     struct Detections {
-        double periodSeconds = 1.0;     ///< 0.5 to 2 between looks, besides one at the start of each scene
-        double fullArea = 0.06;         ///< 0.03 to 0.15 of the picture: a larger box weighs no more
-        double centrality = 0.4;        ///< 0 to 0.8: how much less a box at the picture's edge weighs
-        double contrast = 2.0;          ///< 1 to 6, power on the weights of the tracks in a shot
-        double emptyFloor = 0.05;       ///< 0.02 to 0.1, the weight that gives half of the possible evidence
-        double personUpperShare = 0.45; ///< 0.3 to 1 of a person's height: the part that counts in a tall picture
-        double reachBySize = 0.5;       ///< 0.3 to 1 of its side: how far a box may be from the next look's
-        double reachPerSecond = 0.15;   ///< 0.05 to 0.3 of the picture, on top
-        double mostGrowth = 1.0;        ///< 0.5 to 1.5, logarithm of the areas' ratio
-        double mostGapSeconds = 2.5;    ///< 1 to 5: a box that is missed for longer is another one
-        double fadeSeconds = 1.0;       ///< 0.5 to 2 before the first and after the last look at a track
+        double periodSeconds = 1.0; ///< 0.5 to 2 between looks, besides one at the start of each scene; chosen
+        double fullArea = 0.06;     ///< 0.03 to 0.15 of the picture: a larger box weighs no more; chosen
+        double centrality = 0.4;    ///< 0 to 0.8: how much less a box at the picture's edge weighs; chosen
+        double contrast = 2.0;      ///< 1 to 6, power on the weights of the tracks in a shot; chosen
+        double emptyFloor = 0.025;  ///< 0.01 to 0.1, the weight that gives half of the possible evidence; cross
+        double personUpperShare =
+            0.45;                     ///< 0.3 to 1 of a person's height: the part that counts in a tall picture; chosen
+        double reachBySize = 0.5;     ///< 0.3 to 1 of its side: how far a box may be from the next look's; chosen
+        double reachPerSecond = 0.15; ///< 0.05 to 0.3 of the picture, on top; chosen
+        double mostGrowth = 1.0;      ///< 0.5 to 1.5, logarithm of the areas' ratio; chosen
+        double mostGapSeconds = 2.5;  ///< 1 to 5: a box that is missed for longer is another one; chosen
+        double fadeSeconds = 1.0;     ///< 0.5 to 2 before the first and after the last look at a track; chosen
     } detections;
 
     struct Evidence {
         double motionWeight = 0.5;          ///< 0.3 to 1; spread
         double moverWeight = 0.45;          ///< 0.3 to 0.6; spread
-        double saliencyWeightAcross = 0.65; ///< 0.5 to 0.8; spread
+        double saliencyWeightAcross = 0.35; ///< 0.2 to 0.6; cross
         double saliencyWeightUpDown = 0.1;  ///< 0 to 0.3: it misleads on tall pictures; spread
         double faceWeight = 1.0;            ///< 0.7 to 1.5; trial
-        double detectionWeight = 1.6;       ///< 0.8 to 2.4
+        double detectionWeight = 2.5;       ///< 1.5 to 3.5; cross
         double emptyFloor = 0.01;           ///< 0.005 to 0.02 of the area: an empty map weighs little; trial
         double concentration = 1.6;         ///< 1 to 2, power on the combined evidence; spread
         double windowFlatAcross = 0.55;     ///< 0.3 to 0.7 of the scoring window; the rest is a squared cosine; spread
         double windowFlatUpDown =
             0.9; ///< 0.5 to 1: a tall subject should fit in, not have its head in the middle; spread
-        double centrePriorAcross = 0.11; ///< 0.08 to 0.15 for a crop that moves sideways; spread
-        double centrePriorUpDown = 4.0;  ///< 1 to 6 for a crop that moves up and down, where evidence misleads; spread
+        double centrePriorAcross = 0.3; ///< 0.15 to 0.45 for a crop that moves sideways; cross
+        double centrePriorUpDown = 4.0; ///< 1 to 6 for a crop that moves up and down, where evidence misleads; spread
     } evidence;
 
     struct Path {
@@ -216,8 +218,8 @@ struct KxSubjectOptions {
         double holdSeconds;      ///< 0.3 to 2 before the subject changes
     };
     Reaction slow{0.25, 0.20, 0.08, 2.0, 1.5};
-    Reaction automatic{0.19, 0.12, 0.20, 1.0, 0.8};
-    Reaction fast{0.075, 0.05, 0.45, 0.35, 0.6};
+    Reaction automatic{0.19, 0.12, 0.20, 0.5, 0.8};
+    Reaction fast{0.075, 0.05, 0.45, 0.3, 0.6};
 
     const Reaction& For(KxMotionSpeed speed) const
     {
