@@ -162,6 +162,36 @@ TEST_F(KxObjectDetectorOnFootage, PedestriansAreFound)
                                [](const KxDetection& a, const KxDetection& b) { return a.score > b.score; }));
 }
 
+TEST_F(KxObjectDetectorOnFootage, PicturesAreNormalisedAsInTheTraining)
+{
+    const cv::Mat part = pedestrians(cv::Rect(448, 128, 320, 320)); // needs no scaling
+    const std::array<float, 3> mean{103.53F, 116.28F, 123.675F};
+    const std::array<float, 3> deviation{57.375F, 57.12F, 58.395F};
+    cv::Mat blob({1, 3, part.rows, part.cols}, CV_32F);
+    for (int channel = 0; channel < 3; ++channel) {
+        for (int y = 0; y < part.rows; ++y) {
+            for (int x = 0; x < part.cols; ++x) {
+                const auto i = static_cast<std::size_t>(channel);
+                blob.at<float>(cv::Vec4i(0, channel, y, x)) =
+                    (static_cast<float>(part.at<cv::Vec3b>(y, x)[channel]) - mean.at(i)) / deviation.at(i);
+            }
+        }
+    }
+    cv::dnn::Net net = cv::dnn::readNetFromONNX(onnx.data(), onnx.size());
+    net.setInput(blob);
+    float best = 0.0F;
+    for (const char* scores : {"scores_8", "scores_16", "scores_32"}) {
+        const cv::Mat output = net.forward(scores);
+        const cv::Mat places = output.reshape(1, static_cast<int>(output.total()) / 80);
+        double most = 0.0;
+        cv::minMaxLoc(places.col(0), nullptr, &most);
+        best = std::max(best, static_cast<float>(most));
+    }
+    const std::vector<KxDetection> found = detector->Detect(part);
+    ASSERT_FALSE(found.empty());
+    EXPECT_NEAR(found[0].score, best, 1e-4F);
+}
+
 TEST_F(KxObjectDetectorOnFootage, ALargePersonAndAnAnimalAreFound)
 {
     const std::vector<KxDetection> players = detector->Detect(person);
