@@ -1,5 +1,7 @@
 #include <KxSubject/Signals/KxObjectDetector.h>
 
+#include <KxSubject/KxOpenCvProcess.h>
+
 #include <Tests/KxSubject/InstalledModels.h>
 #include <Tests/KxSubject/MadePictures.h>
 
@@ -83,12 +85,20 @@ const Footage& SharedFootage()
     return footage;
 }
 
+/// One thread, as in the programs: ThreadSanitizer does not see what OpenCV's threads synchronise.
+class KxObjectDetectorTest : public testing::Test
+{
+protected:
+    void SetUp() override { KxOpenCvProcess::Prepare(); }
+};
+
 /// The installed network on photographs and footage.
-class KxObjectDetectorOnFootage : public testing::Test
+class KxObjectDetectorOnFootage : public KxObjectDetectorTest
 {
 protected:
     void SetUp() override
     {
+        KxObjectDetectorTest::SetUp();
         if (onnx.empty()) {
             GTEST_SKIP() << "needs the weights that Packaging/install-models installs";
         }
@@ -112,7 +122,7 @@ const std::array<cv::Rect2f, 3> Walkers{
 
 } // namespace
 
-TEST(KxObjectDetector, BytesThatAreNoNetworkAreRefused)
+TEST_F(KxObjectDetectorTest, BytesThatAreNoNetworkAreRefused)
 {
     EXPECT_FALSE(Runs(""));
     EXPECT_FALSE(Runs("this is no model"));
@@ -124,7 +134,7 @@ TEST(KxObjectDetector, BytesThatAreNoNetworkAreRefused)
     }
 }
 
-TEST(KxObjectDetector, ANetworkWithOtherOutputsIsRefused)
+TEST_F(KxObjectDetectorTest, ANetworkWithOtherOutputsIsRefused)
 {
     // OpenCV runs it.
     const std::string network = SmallNetwork({"out"});
@@ -134,7 +144,7 @@ TEST(KxObjectDetector, ANetworkWithOtherOutputsIsRefused)
     EXPECT_FALSE(Runs(network));
 }
 
-TEST(KxObjectDetector, ANetworkWithOutputsOfOtherSizesIsRefused)
+TEST_F(KxObjectDetectorTest, ANetworkWithOutputsOfOtherSizesIsRefused)
 {
     const std::vector<std::string> names{"scores_8", "boxes_8", "scores_16", "boxes_16", "scores_32", "boxes_32"};
     const std::string network = SmallNetwork(names);
