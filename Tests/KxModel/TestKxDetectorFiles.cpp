@@ -1,7 +1,9 @@
 #include <KxModel/KxDetectorFiles.h>
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -110,6 +112,21 @@ TEST_F(KxDetectorFilesTest, InstalledNetworksAreFoundInThePersonsData)
     EXPECT_NE(KxDetectorFiles::FindNetworks().path, models) << "an empty folder has no networks";
     WriteFile(models + QLatin1Char('/') + ObjectDetector, "x");
     EXPECT_EQ(KxDetectorFiles::FindNetworks().path, models);
+}
+
+TEST_F(KxDetectorFilesTest, WhatInstallModelsMakesIsFoundInABuildTree)
+{
+    const QString models = QDir::cleanPath(QCoreApplication::applicationDirPath() + QStringLiteral("/../../models"));
+    if (!QFileInfo::exists(models + QLatin1Char('/') + ObjectDetector)) {
+        GTEST_SKIP() << "needs the weights that Packaging/install-models installs in " << models.toStdString();
+    }
+    const Environment unset("KX_MODELS", QString());
+    const Environment personsData("XDG_DATA_HOME", folder.path());
+    const Environment systemsData("XDG_DATA_DIRS", folder.path());
+    EXPECT_EQ(KxDetectorFiles::FindNetworks().path, models);
+    const KxDetectorFiles::Contents contents = KxDetectorFiles::Read(models);
+    EXPECT_TRUE(contents.problems.isEmpty());
+    EXPECT_FALSE(contents.models.objectDetector.empty());
 }
 
 TEST_F(KxDetectorFilesTest, WithoutAFolderThereAreNoNetworks)
