@@ -165,6 +165,9 @@ KxAnalysis::Result KxVideoAnalysis::Run(const std::function<void(int percent)>& 
         return result;
     }
     result.warnings += contents.problems;
+    if (observer.IsObjectDetectorRefused()) {
+        result.warnings += KxDetectorFiles::RefusedObjectDetector(m_settings.networkFolder);
+    }
     if (observer.IsFaceDetectorRefused()) {
         result.warnings += KxDetectorFiles::RefusedFaceDetector(m_settings.networkFolder);
     }

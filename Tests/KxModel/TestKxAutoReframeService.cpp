@@ -1,4 +1,5 @@
 #include <KxModel/KxAutoReframeService.h>
+#include <KxModel/KxDetectorFiles.h>
 #include <KxSubject/KxSubjectFindings.h>
 #include <Tests/Support/MadeVideo.h>
 
@@ -285,20 +286,20 @@ TEST_F(KxAutoReframeServiceTest, APauseOfDaysInTheTimeStampsIsHeld)
     EXPECT_EQ(results.size(), 172840);
 }
 
-TEST_F(KxAutoReframeServiceTest, AnInvalidFaceModelIsReportedAndTheAnalysisContinues)
+TEST_F(KxAutoReframeServiceTest, InvalidDetectorsAreReportedAndTheAnalysisContinues)
 {
-    QFile model(m_folder.filePath(QStringLiteral("face_detection_yunet_2022mar.onnx")));
-    ASSERT_TRUE(model.open(QIODevice::WriteOnly));
-    model.write("this is no model");
-    model.close();
+    for (const char* name : {"nanodet-g.onnx", "face_detection_yunet_2022mar.onnx"}) {
+        QFile network(m_folder.filePath(QLatin1String(name)));
+        ASSERT_TRUE(network.open(QIODevice::WriteOnly));
+        network.write("this is no network");
+    }
     m_service.SetNetworkFolder(m_folder.path());
     Recorder recorder(m_service);
     const QString clip = MakeClip("clip.mp4", 40);
     ASSERT_TRUE(m_service.StartTask(clip, m_param));
     ASSERT_TRUE(recorder.WaitForEnd());
-    ASSERT_EQ(m_service.LastWarnings().size(), 1);
-    EXPECT_TRUE(m_service.LastWarnings().first().contains(QStringLiteral("face_detection_yunet_2022mar.onnx")))
-        << m_service.LastWarnings().first().toStdString();
+    EXPECT_EQ(m_service.LastWarnings(), QStringList({KxDetectorFiles::RefusedObjectDetector(m_folder.path()),
+                                                     KxDetectorFiles::RefusedFaceDetector(m_folder.path())}));
     QList<IKxAutoReframeResult> results;
     EXPECT_EQ(m_service.GetResults(clip, &results), 0);
 }
