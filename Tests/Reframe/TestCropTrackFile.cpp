@@ -138,6 +138,17 @@ TEST_F(CropTrackFileTest, RefusesAFileThatIsTooLargeForTheVideoBeforeItIsRead)
     }
 }
 
+TEST_F(CropTrackFileTest, MayHave64KiBAnd256BytesForEachFrame)
+{
+    constexpr int most = 64 * 1024 + 3 * 256;
+    const QByteArray track = "{\"frames\":[[0,0,1,1],[0,0,1,1],[0,0,1,1]]}";
+    const QString largest = WithContent("largest.json", track + QByteArray(most - track.size(), ' '));
+    const KxResult<CropTrack> read = CropTrackFile::Read(largest, 3);
+    ASSERT_TRUE(read) << read.Message().toStdString();
+    EXPECT_EQ(read->crops.size(), 3);
+    ExpectRefused(WithContent("larger.json", track + QByteArray(most + 1 - track.size(), ' ')), "it is too large");
+}
+
 TEST_F(CropTrackFileTest, RefusesADeviceAndAPipe)
 {
     ExpectRefused(QStringLiteral("/dev/zero"), "it is not a regular file");

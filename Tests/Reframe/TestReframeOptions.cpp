@@ -79,6 +79,14 @@ TEST(ReframeOptions, WrongUseIsOneErrorMessageAndStatusTwo)
     EXPECT_EQ(Parse({}).exitStatus, ReframeExit::WrongUse);
 }
 
+TEST(ReframeOptions, OneDashBeforeAnOptionIsEnough)
+{
+    const auto parsed = Parse(Words("-aspect 1:1 -quiet a.mp4"));
+    ASSERT_TRUE(parsed.options) << parsed.text.toStdString();
+    EXPECT_EQ(parsed.options->aspect, QSize(1, 1));
+    EXPECT_TRUE(parsed.options->quiet);
+}
+
 TEST(ReframeOptions, AFileNamedLikeAnOptionIsExplained)
 {
     const QTemporaryDir folder;

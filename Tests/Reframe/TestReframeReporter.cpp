@@ -1,5 +1,6 @@
 #include <Apps/Reframe/ReframeOptions.h>
 #include <Apps/Reframe/ReframeReporter.h>
+#include <Apps/Reframe/TimeLeft.h>
 
 #include <QByteArray>
 
@@ -60,6 +61,24 @@ const QString Input = QStringLiteral("folder/clip.mp4");
 const QByteArray Cleared("\r\033[K");
 
 } // namespace
+
+TEST(TimeLeft, IsEstimatedAfterASecondOfProgress)
+{
+    EXPECT_EQ(TimeLeft::Text(999, 5000), QString());
+    EXPECT_EQ(TimeLeft::Text(1000, 5000), QStringLiteral(", 1 s left"));
+    EXPECT_EQ(TimeLeft::Text(60000, 0), QString());
+    EXPECT_EQ(TimeLeft::Text(1000, 1), QStringLiteral(", 166 min 39 s left"));
+}
+
+TEST(TimeLeft, CountsTheSecondThatHasBegun)
+{
+    EXPECT_EQ(TimeLeft::Text(4000, 2500), QStringLiteral(", 12 s left"));
+    EXPECT_EQ(TimeLeft::Text(4001, 2500), QStringLiteral(", 13 s left"));
+    EXPECT_EQ(TimeLeft::Text(59000, 5000), QStringLiteral(", 59 s left"));
+    EXPECT_EQ(TimeLeft::Text(59001, 5000), QStringLiteral(", 1 min 0 s left"));
+    EXPECT_EQ(TimeLeft::Text(125000, 5000), QStringLiteral(", 2 min 5 s left"));
+    EXPECT_EQ(TimeLeft::Text(8000, 10000), QStringLiteral(", 0 s left"));
+}
 
 TEST(ReframeReporter, OneLineOfATerminalShowsTheProgress)
 {

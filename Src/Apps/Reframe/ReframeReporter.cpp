@@ -1,6 +1,7 @@
 #include <Apps/Reframe/ReframeReporter.h>
 
 #include <Apps/Reframe/ReframeOptions.h>
+#include <Apps/Reframe/TimeLeft.h>
 #include <KxCore/KxInterrupt.h>
 #include <KxCore/KxSystemError.h>
 #include <KxCore/KxTerminal.h>
@@ -19,18 +20,6 @@ void WriteError(const QByteArray& text)
 {
     std::fwrite(text.constData(), 1, static_cast<std::size_t>(text.size()), stderr);
     std::fflush(stderr);
-}
-
-QString TimeLeft(qint64 elapsedMs, int progress)
-{
-    constexpr qint64 enoughToJudgeMs = 1000;
-    if (elapsedMs < enoughToJudgeMs || progress <= 0) {
-        return {};
-    }
-    const qint64 seconds = (elapsedMs * (10000 - progress) / progress + 999) / 1000;
-    return seconds < 60
-               ? QStringLiteral(", %1 s left").arg(seconds)
-               : QStringLiteral(", %1 min %2 s left").arg(QString::number(seconds / 60), QString::number(seconds % 60));
 }
 
 enum class Form { Name, Doing };
@@ -85,7 +74,7 @@ void ReframeReporter::Progress(int progress)
     } else if (m_showsLine) {
         const QString line = QStringLiteral("%1: %2 %3 %%4")
                                  .arg(QFileInfo(m_input).fileName(), StageWord(m_stage, Form::Doing),
-                                      QString::number(percent), TimeLeft(m_stageTimer.elapsed(), progress));
+                                      QString::number(percent), TimeLeft::Text(m_stageTimer.elapsed(), progress));
         WriteError("\r\033[K" + line.toLocal8Bit());
         m_lineShown = true;
     }
