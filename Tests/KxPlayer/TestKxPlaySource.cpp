@@ -1,6 +1,7 @@
 #include <Tests/KxPlayer/PlayerClip.h>
 
 #include <KxModel/IKxKeyFrameHelper.h>
+#include <KxModel/IKxTimeline.h>
 
 #include <gtest/gtest.h>
 
@@ -15,7 +16,34 @@ KxCropPanZoomKeyFrameParam Key(int frame, const QRectF& crop)
     return param;
 }
 
+/// A timeline of given clips and length.
+class ScriptedTimeline final : public IKxTimeline
+{
+public:
+    ScriptedTimeline(QList<IKxClip*> clips, qint64 duration)
+        : m_clips(std::move(clips))
+        , m_duration(duration)
+    {
+    }
+    QList<IKxClip*> clips() const override { return m_clips; }
+    KxProjectSettings projectSettings() const override { return {}; }
+    void setProjectSettings(const KxProjectSettings&) override {}
+    qint64 duration() const override { return m_duration; }
+
+private:
+    QList<IKxClip*> m_clips;
+    qint64 m_duration;
+};
+
 } // namespace
+
+TEST(KxPlaySource, ATimelineWithoutClipsOrFramesIsNoSource)
+{
+    const PlayerClip::Timeline timeline = PlayerClip::Open(PlayerClip::Numbered());
+    EXPECT_EQ(KxPlaySource::Of(ScriptedTimeline({}, 10)), nullptr);
+    EXPECT_EQ(KxPlaySource::Of(ScriptedTimeline(timeline->clips(), 0)), nullptr);
+    EXPECT_NE(KxPlaySource::Of(ScriptedTimeline(timeline->clips(), 1)), nullptr);
+}
 
 TEST(KxPlaySource, EveryFrameIsShownAtItsTimeAndNotBefore)
 {
@@ -55,6 +83,19 @@ TEST(KxPlaySource, WithKeyFramesTheCropIsTheShape)
     const QSizeF shape = source->ShapeAt(15, QSize(320, 180));
     EXPECT_NEAR(shape.width(), 100, 1e-6);
     EXPECT_NEAR(shape.height(), 60, 1e-6);
+}
+
+TEST(KxPlaySource, TheProjectsResolutionIsThatOfWholePictures)
+{
+    const PlayerClip::Timeline whole = PlayerClip::Open(PlayerClip::Moving());
+    const PlayerClip::Timeline cropped = PlayerClip::OpenMoving();
+    for (IKxTimeline* const timeline : {whole.get(), cropped.get()}) {
+        KxProjectSettings settings = timeline->projectSettings();
+        settings.resolution = QSize(600, 600);
+        timeline->setProjectSettings(settings);
+    }
+    EXPECT_EQ(KxPlaySource::Of(*whole)->resolution, QSize(600, 600));
+    EXPECT_EQ(KxPlaySource::Of(*cropped)->resolution, QSize(320, 180)) << "a crop is a part of the video's picture";
 }
 
 TEST(KxPlaySource, IsASnapshot)
