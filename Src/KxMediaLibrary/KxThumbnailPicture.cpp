@@ -21,11 +21,10 @@ bool IsOfOneColour(const QImage& picture)
     int brightest = 0;
     for (int y = 0; y < picture.height(); ++y) {
         const auto* const line = reinterpret_cast<const QRgb*>(picture.constScanLine(y));
-        for (int x = 0; x < picture.width(); ++x) {
-            const int grey = qGray(line[x]);
-            darkest = std::min(darkest, grey);
-            brightest = std::max(brightest, grey);
-        }
+        std::for_each(line, line + picture.width(), [&darkest, &brightest](QRgb pixel) {
+            darkest = std::min(darkest, qGray(pixel));
+            brightest = std::max(brightest, qGray(pixel));
+        });
     }
     return brightest - darkest < leastContrast;
 }
