@@ -202,6 +202,33 @@ TEST_F(KxThumbnailerTest, ACancelledRequestIsNeverAnswered)
     EXPECT_EQ(ready.count() + failed.count(), 2);
 }
 
+TEST(KxThumbnailer, AnAnswerThatWasNotDeliveredYetIsDroppedByACancel)
+{
+    for (const bool all : {false, true}) {
+        std::promise<void> secondBegins;
+        int begun = 0;
+        KxThumbnailer thumbnailer([&](const QString&, const QSize&, const KxCancelToken&) -> KxResult<QImage> {
+            // One after the other on one thread: when the second one begins, the first answer is on its way.
+            if (++begun == 2) {
+                secondBegins.set_value();
+            }
+            return QImage(1, 1, QImage::Format_RGB32);
+        });
+        QSignalSpy ready(&thumbnailer, &KxThumbnailer::sigReady);
+        const quint64 one = thumbnailer.Request(QStringLiteral("one"), QSize(1, 1));
+        const quint64 other = thumbnailer.Request(QStringLiteral("other"), QSize(1, 1));
+        secondBegins.get_future().wait();
+        if (all) {
+            thumbnailer.CancelAll();
+        } else {
+            thumbnailer.Cancel(one);
+            thumbnailer.Cancel(other);
+        }
+        QCoreApplication::sendPostedEvents(&thumbnailer);
+        EXPECT_EQ(ready.count(), 0);
+    }
+}
+
 TEST_F(KxThumbnailerTest, CanBeDestroyedWhileItWorks)
 {
     const QString path = NumberedClip();
