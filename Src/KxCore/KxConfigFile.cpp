@@ -24,9 +24,9 @@ bool IsDigitOf(char byte, int base)
 }
 
 /// The content without quotes and escapes, which can hide the start of a value from a search.
-QByteArray Unescaped(const QByteArray& content)
+QString Unescaped(const QByteArray& content)
 {
-    QByteArray text;
+    QString text;
     text.reserve(content.size());
     const int size = content.size();
     for (int i = 0; i < size;) {
@@ -35,7 +35,7 @@ QByteArray Unescaped(const QByteArray& content)
             continue;
         }
         if (byte != '\\' || i == size) {
-            text += byte;
+            text += QLatin1Char(byte);
             continue;
         }
         const char name = content.at(i);
@@ -50,7 +50,7 @@ QByteArray Unescaped(const QByteArray& content)
         for (; i < size && IsDigitOf(content.at(i), base); ++i) {
             code = static_cast<quint16>(code * base + QByteArray(1, content.at(i)).toInt(nullptr, base));
         }
-        text += code < 0x80 ? static_cast<char>(code) : '?';
+        text += QChar(code);
     }
     return text;
 }
@@ -59,8 +59,7 @@ bool HasSerialisedValue(const QByteArray& content)
 {
     // A doubled @ is the first character of a plain text.
     static const QRegularExpression start(QStringLiteral("(?<!@)@(Variant|DateTime)\\("));
-    const QByteArray text = Unescaped(content);
-    return start.match(QString(QLatin1String(text.cbegin(), text.cend()))).hasMatch();
+    return start.match(Unescaped(content)).hasMatch();
 }
 
 /// Why QSettings must not get the file.
