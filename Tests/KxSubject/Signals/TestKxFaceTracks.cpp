@@ -121,6 +121,16 @@ TEST_F(KxFaceTracksTest, BesidesTheFirstTheConfiguredNumberOfLooksMustAgree)
     EXPECT_GT(At(1).Sum(), 0.0F);
 }
 
+TEST_F(KxFaceTracksTest, AsManyFacesAreFollowedAsConfigured)
+{
+    KxSubjectOptions::Faces options = Options.faces;
+    options.followedAtOnce = 1;
+    m_tracks = KxFaceTracks(options, KxFaceFinder(options, Cascades, PictureSize));
+    Play(10, 0, 10);
+    ASSERT_EQ(m_tracks.Tracks().size(), 1U);
+    EXPECT_GE(m_tracks.Tracks().front().looks.size(), 4U);
+}
+
 TEST_F(KxFaceTracksTest, LooksThatMissTheFaceWeakenItsEvidence)
 {
     const auto centre = [](const KxSignalProfile& profile) {
