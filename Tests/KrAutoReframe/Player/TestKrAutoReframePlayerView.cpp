@@ -154,6 +154,16 @@ TEST_F(PlayerViewTest, WithoutResultsTheMarksAreStillRefreshed)
     EXPECT_TRUE(overlay->GetCropRect().isNull());
 }
 
+TEST_F(PlayerViewTest, AnOpenedTimelineDisablesUndoAndRedo)
+{
+    ShowCrop();
+    Undo().setEnabled(true);
+    Redo().setEnabled(true);
+    Q_EMIT helper->sigOpenTimelineFinished();
+    EXPECT_FALSE(Undo().isEnabled());
+    EXPECT_FALSE(Redo().isEnabled());
+}
+
 TEST_F(PlayerViewTest, ANewSourceStartsOver)
 {
     ShowCrop();
