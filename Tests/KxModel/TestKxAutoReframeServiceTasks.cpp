@@ -192,6 +192,28 @@ TEST_F(KxAutoReframeServiceTasks, AnObserverThatThrowsHarmsNeitherTheTaskNorOthe
     throwing.reset(); // returns, because no call to it counts as running
 }
 
+TEST_F(KxAutoReframeServiceTasks, DestroyingTheServiceCancelsTheRunningTask)
+{
+    auto service = std::make_unique<KxAutoReframeService>(m_files.Opener());
+    KxCancelToken token;
+    std::promise<void> runs;
+    std::promise<void> mayEnd;
+    m_files.AddOpening(m_slow, [&](const KxCancelToken& cancel) {
+        token = cancel;
+        return Files::Opened([&](const Progress&) {
+            runs.set_value();
+            mayEnd.get_future().wait();
+            return Done();
+        });
+    });
+    ASSERT_TRUE(service->StartTask(m_slow, m_param));
+    runs.get_future().wait();
+    std::thread ending([&] { mayEnd.set_value(); });
+    service.reset();
+    EXPECT_TRUE(token.IsCancelled());
+    ending.join();
+}
+
 TEST_F(KxAutoReframeServiceTasks, TheNewestStartWinsOverAnOlderOneThatOpensSlowly)
 {
     std::promise<KxCancelToken> opening;
