@@ -85,6 +85,7 @@ void KxPictureFeed::DecodeAndCut()
                 return;
             }
             cut = std::move(*result);
+            picture = {};
             cutFrame = sourceFrame;
         }
         if (!m_pictures.Push(cut)) {

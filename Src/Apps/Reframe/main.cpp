@@ -1,6 +1,7 @@
 #include <Apps/Reframe/ReframeExit.h>
 #include <Apps/Reframe/ReframeProgram.h>
 #include <KxCore/KxInterrupt.h>
+#include <KxCore/KxMemory.h>
 #include <KxCore/KxSpdlog.h>
 #include <KxCore/KxThread.h>
 #include <KxMedia/Container/KxAvLog.h>
@@ -40,6 +41,7 @@ int Run(int argc, char** argv)
     QCoreApplication::setApplicationVersion(QStringLiteral(KR_VERSION));
     KxLogSettings::RouteQtMessages();
     KxRouteAvLog();
+    KxMemory::KeepNoPictures();
 
     const ReframeOptions::Parsed parsed = Parse(argc, argv);
     if (!parsed.options) {

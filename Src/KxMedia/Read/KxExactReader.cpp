@@ -1,6 +1,7 @@
 #include <KxMedia/Read/KxExactReader.h>
 
 #include <algorithm>
+#include <utility>
 
 namespace
 {
@@ -127,13 +128,11 @@ KxReadStatus KxExactReader::Restart()
 
 KxReadStatus KxExactReader::Advance()
 {
-    KxVideoFrame next;
-    const KxReadStatus status = m_source->Next(next);
-    if (status == KxReadStatus::Delivered) {
-        m_current = m_ahead.IsNull() ? m_current : m_ahead;
-        m_ahead = std::move(next);
+    // The older picture is released before the next one is decoded: a large one takes 100 MB.
+    if (!m_ahead.IsNull()) {
+        m_current = std::exchange(m_ahead, {});
     }
-    return status;
+    return m_source->Next(m_ahead);
 }
 
 KxReadStatus KxExactReader::DecodeUpTo(qint64 frame, SkipPolicy policy)
@@ -153,8 +152,6 @@ KxReadStatus KxExactReader::DecodeUpTo(qint64 frame, SkipPolicy policy)
             return status;
         }
         if (status != KxReadStatus::Delivered) {
-            m_current = m_ahead.IsNull() ? m_current : m_ahead;
-            m_ahead = {};
             m_isAtEnd = true;
             return m_current.IsNull() ? KxReadStatus::Failed : KxReadStatus::Delivered;
         }

@@ -38,18 +38,27 @@ constexpr double SecondsPerGroup = 2.0;
 constexpr int Slices = 4;
 constexpr int PeakSeconds = 3;
 
-// What the encoder looks ahead holds whole pictures, about three bytes a pixel with what is computed from them.
+// The pictures that the encoder looks ahead are held in memory, about three bytes a pixel with what is computed from
+// them.
 constexpr qint64 LookaheadBytes = qint64{320} * 1024 * 1024;
 constexpr qint64 LookaheadBytesPerPixel = 3;
 constexpr int LongestLookahead = 40;
-// Beyond every H.264 level: one reference instead of several spares a quarter of a gigabyte each.
+// Nearly twice the largest picture of H.264 level 5.2: memory matters more than the last percent of quality. A single
+// reference picture saves five bytes a pixel for each of the others.
 constexpr qint64 HugePicturePixels = qint64{4096} * 4096;
+// Pictures that the encoder holds in any case, without looking ahead.
+constexpr qint64 PicturesAtWork = 3;
+
+qint64 Pixels(const QSize& size)
+{
+    return qint64{size.width()} * size.height();
+}
 
 int Lookahead(const QSize& size)
 {
-    const qint64 pixels = qint64{size.width()} * size.height();
-    return static_cast<int>(
-        std::clamp<qint64>(LookaheadBytes / (LookaheadBytesPerPixel * pixels), 1, LongestLookahead));
+    const qint64 pictures = LookaheadBytes / (LookaheadBytesPerPixel * Pixels(size));
+    const qint64 ahead = Pixels(size) > HugePicturePixels ? pictures - PicturesAtWork : pictures;
+    return static_cast<int>(std::clamp<qint64>(ahead, 0, LongestLookahead));
 }
 
 void SetUp(AVCodecContext& context, const KxH264Encoder::Settings& settings, const AVFrame& first)
@@ -60,7 +69,7 @@ void SetUp(AVCodecContext& context, const KxH264Encoder::Settings& settings, con
     context.pix_fmt = AV_PIX_FMT_YUV420P;
     context.thread_type = FF_THREAD_SLICE;
     context.thread_count = Slices;
-    if (qint64{context.width} * context.height > HugePicturePixels) {
+    if (Pixels(settings.size) > HugePicturePixels) {
         context.refs = 1;
         context.max_b_frames = 0;
     }
