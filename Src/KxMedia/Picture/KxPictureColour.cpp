@@ -4,6 +4,8 @@ extern "C" {
 #include <libavutil/pixdesc.h>
 }
 
+#include <cstring>
+
 namespace
 {
 
@@ -21,7 +23,27 @@ bool IsFullRangeByName(int format)
     }
 }
 
+template<typename Field>
+void RemoveUnknownFrom(Field& field, Field end, Field unspecified)
+{
+    int number = 0;
+    static_assert(sizeof(number) == sizeof(field));
+    std::memcpy(&number, &field, sizeof(number));
+    if (number < 0 || number >= static_cast<int>(end)) {
+        field = unspecified;
+    }
+}
+
 } // namespace
+
+void KxPictureColour::RemoveUnknown(AVFrame& picture)
+{
+    RemoveUnknownFrom(picture.color_primaries, AVCOL_PRI_NB, AVCOL_PRI_UNSPECIFIED);
+    RemoveUnknownFrom(picture.color_trc, AVCOL_TRC_NB, AVCOL_TRC_UNSPECIFIED);
+    RemoveUnknownFrom(picture.colorspace, AVCOL_SPC_NB, AVCOL_SPC_UNSPECIFIED);
+    RemoveUnknownFrom(picture.color_range, AVCOL_RANGE_NB, AVCOL_RANGE_UNSPECIFIED);
+    RemoveUnknownFrom(picture.chroma_location, AVCHROMA_LOC_NB, AVCHROMA_LOC_UNSPECIFIED);
+}
 
 bool KxPictureColour::IsRgb(AVPixelFormat format)
 {

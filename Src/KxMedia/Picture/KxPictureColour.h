@@ -1,10 +1,16 @@
 #pragma once
 
+#include <KxCore/KxExport.h>
+
 #include <KxMedia/Container/KxAvHandles.h>
 
 /// The colour fields of pictures. Pure; any thread.
 namespace KxPictureColour
 {
+/// A file can give its colour fields any number. One that libavutil has no name for becomes unspecified: reading it as
+/// an enumeration would be undefined.
+KXMEDIA_API void RemoveUnknown(AVFrame& picture);
+
 /// Components red, green and blue, or a palette of them.
 bool IsRgb(AVPixelFormat format);
 

@@ -2,6 +2,7 @@
 
 #include <KxMedia/Container/KxAvError.h>
 #include <KxMedia/Container/KxAvLog.h>
+#include <KxMedia/Picture/KxPictureColour.h>
 
 #include <algorithm>
 #include <thread>
@@ -96,6 +97,7 @@ KxReadStatus KxVideoDecoder::Next(Picture& picture)
         if (result >= 0) {
             m_errorsInARow = 0;
             m_packetsSincePicture = 0;
+            KxPictureColour::RemoveUnknown(*picture.frame);
             if (Accept(picture)) {
                 return KxReadStatus::Delivered;
             }
