@@ -161,6 +161,19 @@ int MakeTruth(const QString& recordPath, const QString& truthPath, const QString
     return WriteRecord(*record, outPath);
 }
 
+/// A line for each boundary: the first frame of the new shot, where it begins, where it is complete, its kind (0 cut, 1
+/// dissolve or wipe, 2 fade).
+int PrintBoundaries(const QString& recordPath)
+{
+    const std::optional<KxSubjectRecord> record = ReadRecord(recordPath);
+    for (const KxShotBoundary& boundary : record ? record->boundaries : std::vector<KxShotBoundary>()) {
+        std::printf("%lld %lld %lld %d\n", static_cast<long long>(boundary.frame),
+                    static_cast<long long>(boundary.first), static_cast<long long>(boundary.last),
+                    static_cast<int>(boundary.kind));
+    }
+    return record ? 0 : 1;
+}
+
 struct Task {
     KxSubjectRecord record;
     KxSubjectRequest request;
@@ -233,6 +246,9 @@ int main(int argc, char* argv[])
     if (command == QLatin1String("observe") && (arguments.size() == 4 || arguments.size() == 5)) {
         return Observe(arguments[2], arguments[3], arguments.value(4));
     }
+    if (command == QLatin1String("boundaries") && arguments.size() == 3) {
+        return PrintBoundaries(arguments[2]);
+    }
     if (command == QLatin1String("truth") && arguments.size() == 5) {
         return MakeTruth(arguments[2], arguments[3], arguments[4]);
     }
@@ -247,7 +263,8 @@ int main(int argc, char* argv[])
     if (command == QLatin1String("decide") && arguments.size() > 2) {
         return Decide(arguments.mid(2));
     }
-    std::fputs("Usage: BenchDecide observe CLIP RECORD [DETECTOR] | truth RECORD TRUTH.csv OUT | names | decide "
+    std::fputs("Usage: BenchDecide observe CLIP RECORD [DETECTOR] | truth RECORD TRUTH.csv OUT | boundaries RECORD | "
+               "names | decide "
                "RECORD=W:H...\n",
                stderr);
     return 2;
