@@ -1,5 +1,7 @@
 #include <KxModel/KxAutoReframeService.h>
 
+#include <KxModel/KxRecordStore.h>
+
 #include <KxSubject/KxOpenCvProcess.h>
 
 #include <QFileInfo>
@@ -41,6 +43,7 @@ KxAutoReframeService::KxAutoReframeService()
 KxAutoReframeService::KxAutoReframeService(Open open)
     : m_open(std::move(open))
 {
+    m_settings.records = std::make_shared<KxRecordStore>();
 }
 
 KxAutoReframeService::~KxAutoReframeService()
@@ -183,6 +186,11 @@ void KxAutoReframeService::SetNetworkFolder(const QString& path)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     m_settings.networkFolder = path;
+}
+
+void KxAutoReframeService::SetRecordFolder(const QString& path)
+{
+    m_settings.records->SetFolder(path);
 }
 
 void KxAutoReframeService::SetFindings(Findings findings)

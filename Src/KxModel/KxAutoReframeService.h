@@ -47,6 +47,10 @@ public:
     /// empty, as at first: none. Any thread.
     void SetNetworkFolder(const QString& path);
 
+    /// Where records of analysed videos are kept on the disk (KxRecordStore); empty: in memory alone, as at first. Any
+    /// thread.
+    void SetRecordFolder(const QString& path);
+
     /// Whether the tasks that start from now on keep their intermediate results; by default they do not. Any thread.
     enum class Findings { Drop, Keep };
     void SetFindings(Findings findings);

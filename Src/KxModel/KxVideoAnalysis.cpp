@@ -2,6 +2,7 @@
 
 #include <KxModel/KxDetectorFiles.h>
 #include <KxModel/KxPicturePipeline.h>
+#include <KxModel/KxRecordStore.h>
 
 #include <KxCore/KxMemory.h>
 
@@ -140,31 +141,37 @@ KxResult<std::unique_ptr<KxAnalysis>> KxVideoAnalysis::Open(const QString& path,
     return std::unique_ptr<KxAnalysis>(new KxVideoAnalysis(std::move(*scanner), param, settings, cancel));
 }
 
-KxAnalysis::Result KxVideoAnalysis::Run(const std::function<void(int percent)>& onProgress)
+std::shared_ptr<const KxSubjectRecord> KxVideoAnalysis::FindRecord(const QByteArray& key) const
 {
-    Result result;
-    const KxMediaFacts facts = m_scanner->Facts();
-    KxDetectorFiles::Contents contents = KxDetectorFiles::Read(m_settings.networkFolder);
-    const KxSubjectOptions options;
-    KxSubjectObserver observer(SourceOf(*facts.video), contents.models, options);
-    contents.models = {};
+    std::shared_ptr<const KxSubjectRecord> record = m_settings.records ? m_settings.records->Find(key) : nullptr;
+    const KxSubjectSource source = SourceOf(*m_scanner->Facts().video);
+    const bool isOfThisVideo = record && record->source.pictureWidthPx == source.pictureWidthPx &&
+                               record->source.pictureHeightPx == source.pictureHeightPx &&
+                               record->source.frameCount == source.frameCount &&
+                               qFuzzyCompare(record->source.frameRate, source.frameRate);
+    return isOfThisVideo ? record : nullptr;
+}
+
+std::shared_ptr<const KxSubjectRecord> KxVideoAnalysis::Observe(KxSubjectModels models, const QByteArray& key,
+                                                                const std::function<void(int percent)>& onProgress,
+                                                                Result& result)
+{
+    const QString name = QFileInfo(m_scanner->Facts().path).fileName();
+    KxSubjectObserver observer(SourceOf(*m_scanner->Facts().video), models, {});
+    models = {};
     const KxError problem = Job(*m_scanner, observer, m_cancel).Run(onProgress);
     const bool endedEarly = m_scanner->EndedEarly();
     // The decoder's buffers take the most memory: they are freed before the results of every frame are made.
     m_scanner.reset();
     KxMemory::ReturnUnused();
-    const QString name = QFileInfo(facts.path).fileName();
-    if (problem && !m_cancel.IsCancelled()) {
-        result.message = QStringLiteral("Cannot analyse %1: %2.").arg(name, problem->simplified());
-        return result;
-    }
-    KxSubjectDecision decision =
-        KxDecide(observer.Finish(), RequestFor(m_param, m_settings.wantsFindings), options, m_cancel);
     if (m_cancel.IsCancelled()) {
         result.outcome = KxOutcome::Cancelled;
-        return result;
+        return nullptr;
     }
-    result.warnings += contents.problems;
+    if (problem) {
+        result.message = QStringLiteral("Cannot analyse %1: %2.").arg(name, problem->simplified());
+        return nullptr;
+    }
     if (observer.IsObjectDetectorRefused()) {
         result.warnings += KxDetectorFiles::RefusedObjectDetector(m_settings.networkFolder);
     }
@@ -173,6 +180,33 @@ KxAnalysis::Result KxVideoAnalysis::Run(const std::function<void(int percent)>& 
     }
     if (endedEarly) {
         result.warnings += QStringLiteral("%1 is cut off or damaged: it decodes only in part.").arg(name);
+    }
+    auto record = std::make_shared<const KxSubjectRecord>(observer.Finish());
+    // What the person was warned of, they are warned of again.
+    if (m_settings.records && result.warnings.isEmpty()) {
+        m_settings.records->Add(key, record);
+    }
+    return record;
+}
+
+KxAnalysis::Result KxVideoAnalysis::Run(const std::function<void(int percent)>& onProgress)
+{
+    Result result;
+    KxDetectorFiles::Contents contents = KxDetectorFiles::Read(m_settings.networkFolder);
+    result.warnings = contents.problems;
+    const QByteArray key =
+        m_settings.records ? KxRecordStore::KeyOf(m_scanner->Facts().path, contents.models) : QByteArray();
+    std::shared_ptr<const KxSubjectRecord> record = FindRecord(key);
+    if (!record) {
+        record = Observe(std::move(contents.models), key, onProgress, result);
+    }
+    if (!record) {
+        return result;
+    }
+    KxSubjectDecision decision = KxDecide(*record, RequestFor(m_param, m_settings.wantsFindings), {}, m_cancel);
+    if (m_cancel.IsCancelled()) {
+        result.outcome = KxOutcome::Cancelled;
+        return result;
     }
     result.crops = ResultsOf(decision.crops);
     if (m_settings.wantsFindings) {

@@ -12,8 +12,11 @@
 #include <functional>
 #include <memory>
 
+class KxRecordStore;
 class KxVideoScanner;
 struct KxSubjectFindings;
+struct KxSubjectModels;
+struct KxSubjectRecord;
 
 /// One analysis of one file, as the service runs it.
 class KXMODEL_API KxAnalysis
@@ -42,10 +45,11 @@ protected:
 struct KxAnalysisSettings {
     QString networkFolder; ///< of the optional detectors (KxDetectorFiles); empty: none
     bool wantsFindings = false;
+    std::shared_ptr<KxRecordStore> records; ///< null: every analysis looks at the video
 };
 
-/// The analysis of a video file: the calling thread decodes and shrinks pictures, another one finds the subject in them
-/// (KxPicturePipeline).
+/// The analysis of a video file. If the file was looked at before, its record decides; otherwise the calling thread
+/// decodes and shrinks pictures, another one finds the subject in them (KxPicturePipeline).
 class KXMODEL_API KxVideoAnalysis final : public KxAnalysis
 {
 public:
@@ -62,6 +66,11 @@ public:
 
 private:
     class Job;
+    /// The record of the file as an earlier analysis left it; null without one.
+    std::shared_ptr<const KxSubjectRecord> FindRecord(const QByteArray& key) const;
+    /// Looks at the whole video. Null if that fails or is cancelled: then `result` says why.
+    std::shared_ptr<const KxSubjectRecord> Observe(KxSubjectModels models, const QByteArray& key,
+                                                   const std::function<void(int percent)>& onProgress, Result& result);
     KxVideoAnalysis(std::unique_ptr<KxVideoScanner> scanner, const IKxAutoReframeParam& param,
                     const KxAnalysisSettings& settings, const KxCancelToken& cancel);
 

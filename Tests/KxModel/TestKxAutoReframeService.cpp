@@ -323,3 +323,80 @@ TEST_F(KxAutoReframeServiceTest, FindingsAreKeptOnlyOnRequest)
     EXPECT_EQ(findings->shots.back().end, 40);
     EXPECT_FALSE(findings->samples.empty());
 }
+
+namespace
+{
+
+bool IsRunning(const Event& event)
+{
+    return event.state == 1;
+}
+
+/// Analyses the clip; returns the left edge of each crop.
+std::vector<double> Lefts(KxAutoReframeService& service, const QString& clip, const QSize& aspect, bool& decoded)
+{
+    Recorder recorder(service);
+    EXPECT_TRUE(service.StartTask(clip, IKxAutoReframeParam(16, aspect)));
+    EXPECT_TRUE(recorder.WaitForEnd());
+    const std::vector<Event> events = recorder.Events();
+    decoded = std::any_of(events.begin(), events.end(), &IsRunning);
+    QList<IKxAutoReframeResult> results;
+    EXPECT_EQ(service.GetResults(clip, &results), 0);
+    std::vector<double> lefts;
+    for (const IKxAutoReframeResult& result : qAsConst(results)) {
+        lefts.push_back(result.cropRect().x());
+    }
+    return lefts;
+}
+
+} // namespace
+
+TEST_F(KxAutoReframeServiceTest, AnotherAspectOfTheSameFileNeedsNoDecoding)
+{
+    const QString clip = MakeClip("clip.mp4", 60);
+    bool decoded = false;
+    Lefts(m_service, clip, {9, 16}, decoded);
+    ASSERT_TRUE(decoded);
+    const std::vector<double> fromRecord = Lefts(m_service, clip, {1, 1}, decoded);
+    EXPECT_FALSE(decoded);
+    KxAutoReframeService fresh;
+    EXPECT_EQ(fromRecord, Lefts(fresh, clip, {1, 1}, decoded));
+    EXPECT_TRUE(decoded);
+}
+
+TEST_F(KxAutoReframeServiceTest, AFileThatWasReplacedIsLookedAtAgain)
+{
+    const QString clip = MakeClip("clip.mp4", 60);
+    bool decoded = false;
+    Lefts(m_service, clip, {9, 16}, decoded);
+    EXPECT_EQ(MakeClip("clip.mp4", 50), clip);
+    EXPECT_EQ(Lefts(m_service, clip, {9, 16}, decoded).size(), 50U);
+    EXPECT_TRUE(decoded);
+}
+
+TEST_F(KxAutoReframeServiceTest, ARecordInTheFolderServesTheNextProgram)
+{
+    const QString clip = MakeClip("clip.mp4", 60);
+    const QString folder = m_folder.filePath(QStringLiteral("records"));
+    m_service.SetRecordFolder(folder);
+    bool decoded = false;
+    const std::vector<double> first = Lefts(m_service, clip, {9, 16}, decoded);
+    KxAutoReframeService next;
+    next.SetRecordFolder(folder);
+    EXPECT_EQ(Lefts(next, clip, {9, 16}, decoded), first);
+    EXPECT_FALSE(decoded);
+}
+
+TEST_F(KxAutoReframeServiceTest, AnAnalysisThatWasStoppedLeavesNoRecord)
+{
+    const QString clip = MakeClip("clip.mp4", 400);
+    {
+        Recorder recorder(m_service);
+        ASSERT_TRUE(m_service.StartTask(clip, m_param));
+        ASSERT_TRUE(recorder.WaitFor(&IsRunning));
+        m_service.StopTask(0);
+    }
+    bool decoded = false;
+    EXPECT_EQ(Lefts(m_service, clip, {9, 16}, decoded).size(), 400U);
+    EXPECT_TRUE(decoded);
+}

@@ -1,0 +1,188 @@
+#include <KxModel/KxRecordStore.h>
+
+#include <KxCore/KxConfigFile.h>
+#include <KxCore/KxLog.h>
+#include <KxCore/KxOutputFile.h>
+
+#include <KxSubject/KxSubjectModels.h>
+#include <KxSubject/KxSubjectRecordFormat.h>
+
+#include <QCryptographicHash>
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QStandardPaths>
+
+#include <algorithm>
+
+namespace
+{
+
+constexpr qint64 EndBytes = 64 * 1024;
+constexpr qint64 PlaceBytes = 4 * 1024;
+constexpr qint64 Places = 62;
+constexpr const char* Suffix = ".record";
+/// More than the longest video gives, and what a QByteArray can hold.
+constexpr std::size_t MostRecordBytes = std::size_t{1} << 30;
+
+void AddPart(QCryptographicHash& hash, QFile& file, qint64 at, qint64 bytes)
+{
+    file.seek(at);
+    hash.addData(file.read(bytes));
+}
+
+QString PathOf(const QByteArray& key, const QString& folder)
+{
+    return folder + QLatin1Char('/') + QString::fromLatin1(key) + QLatin1String(Suffix);
+}
+
+void RemoveOldest(const QString& folder, qint64 mostBytes)
+{
+    qint64 bytes = 0;
+    const QFileInfoList files =
+        QDir(folder).entryInfoList({QLatin1Char('*') + QLatin1String(Suffix)}, QDir::Files, QDir::Time);
+    for (const QFileInfo& file : files) {
+        bytes += file.size();
+        if (bytes > mostBytes) {
+            QFile::remove(file.filePath());
+        }
+    }
+}
+
+} // namespace
+
+KxRecordStore::KxRecordStore()
+    : KxRecordStore(Limits())
+{
+}
+
+KxRecordStore::KxRecordStore(const Limits& limits)
+    : m_limits(limits)
+{
+}
+
+KxRecordStore::~KxRecordStore() = default;
+
+void KxRecordStore::SetFolder(const QString& path)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_folder = path;
+}
+
+QString KxRecordStore::Folder() const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return m_folder;
+}
+
+QString KxRecordStore::ChooseFolder(const QString& named)
+{
+    for (const QString& choice :
+         {named, qEnvironmentVariable("KX_CACHE"), KxConfigFile::ReadAutoReframe(QStringLiteral("Cache"))}) {
+        if (!choice.isEmpty()) {
+            return choice == QLatin1String("none") ? QString() : choice;
+        }
+    }
+    return QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) +
+           QStringLiteral("/auto-reframe/records");
+}
+
+QByteArray KxRecordStore::KeyOf(const QString& videoPath, const KxSubjectModels& models)
+{
+    QFile file(videoPath);
+    if (!file.open(QIODevice::ReadOnly)) {
+        return {};
+    }
+    const qint64 size = file.size();
+    QCryptographicHash hash(QCryptographicHash::Sha256);
+    hash.addData(QByteArray::number(KxSubjectRecordFormat::Version) + ' ' + QByteArray::number(size));
+    AddPart(hash, file, 0, EndBytes);
+    for (qint64 place = 1; place <= Places; ++place) {
+        AddPart(hash, file, size / (Places + 1) * place, PlaceBytes);
+    }
+    AddPart(hash, file, std::max<qint64>(0, size - EndBytes), EndBytes);
+    for (const std::string* model :
+         {&models.faces.frontalCascade, &models.faces.profileCascade, &models.faces.detector, &models.objectDetector}) {
+        hash.addData(QByteArray::number(static_cast<qint64>(model->size())) + ' ');
+        hash.addData(model->data(), static_cast<int>(model->size()));
+    }
+    return hash.result().toHex();
+}
+
+std::shared_ptr<const KxSubjectRecord> KxRecordStore::Find(const QByteArray& key)
+{
+    QString folder;
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        folder = m_folder;
+        const auto kept =
+            std::find_if(m_kept.begin(), m_kept.end(), [&key](const Kept& candidate) { return candidate.key == key; });
+        if (kept != m_kept.end()) {
+            m_kept.splice(m_kept.begin(), m_kept, kept);
+            return m_kept.front().record;
+        }
+    }
+    return folder.isEmpty() || key.isEmpty() ? nullptr : FindOnDisk(key, folder);
+}
+
+std::shared_ptr<const KxSubjectRecord> KxRecordStore::FindOnDisk(const QByteArray& key, const QString& folder)
+{
+    QFile file(PathOf(key, folder));
+    if (file.size() > static_cast<qint64>(MostRecordBytes) || !file.open(QIODevice::ReadOnly)) {
+        return nullptr;
+    }
+    const QByteArray bytes = file.readAll();
+    std::optional<KxSubjectRecord> read = KxSubjectRecordFormat::Read(bytes.toStdString());
+    if (!read) {
+        file.close();
+        file.remove();
+        return nullptr;
+    }
+    // The files used last stay longest.
+    file.setFileTime(QDateTime::currentDateTimeUtc(), QFileDevice::FileModificationTime);
+    const auto record = std::make_shared<const KxSubjectRecord>(std::move(*read));
+    KeepInMemory(key, record, bytes.size());
+    return record;
+}
+
+void KxRecordStore::Add(const QByteArray& key, const std::shared_ptr<const KxSubjectRecord>& record)
+{
+    const std::string written = KxSubjectRecordFormat::Write(*record);
+    if (key.isEmpty() || written.size() > MostRecordBytes) {
+        return;
+    }
+    const QByteArray bytes = QByteArray::fromStdString(written);
+    KeepInMemory(key, record, bytes.size());
+    const QString folder = Folder();
+    if (!folder.isEmpty()) {
+        WriteToDisk(key, bytes, folder);
+    }
+}
+
+void KxRecordStore::KeepInMemory(const QByteArray& key, const std::shared_ptr<const KxSubjectRecord>& record,
+                                 qint64 bytes)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_kept.remove_if([&key](const Kept& kept) { return kept.key == key; });
+    m_kept.push_front({key, record, bytes});
+    qint64 sum = 0;
+    m_kept.remove_if([this, &sum](const Kept& kept) {
+        sum += kept.bytes;
+        return sum > m_limits.memoryBytes;
+    });
+}
+
+void KxRecordStore::WriteToDisk(const QByteArray& key, const QByteArray& bytes, const QString& folder) const
+{
+    if (bytes.size() > m_limits.diskBytes) {
+        return;
+    }
+    QDir().mkpath(folder);
+    const KxResult<QString> written = KxOutputFile::Write(PathOf(key, folder), bytes, KxOutputFile::Existing::Replace);
+    if (!written) {
+        KX_LOG_WARNING(written.Message());
+        return;
+    }
+    RemoveOldest(folder, m_limits.diskBytes);
+}
