@@ -30,7 +30,7 @@ def is_sanitized(program):
 
 
 def environment():
-    result = dict(os.environ, QT_QPA_PLATFORM='offscreen', KX_MODELS='none', KX_CONFIG_FILE=os.path.join(here, 'no-such-config.ini'))
+    result = dict(os.environ, QT_QPA_PLATFORM='offscreen', KX_CACHE='none', KX_MODELS='none', KX_CONFIG_FILE=os.path.join(here, 'no-such-config.ini'))
     result['ASAN_OPTIONS'] = ('detect_leaks=1:allocator_may_return_null=1:quarantine_size_mb=32:exitcode=%d' % SANITIZER_STATUS)
     result['LSAN_OPTIONS'] = 'suppressions=%s:print_suppressions=0' % os.path.join(here, '..', 'Support', 'lsan.supp')
     result['UBSAN_OPTIONS'] = 'print_stacktrace=1:halt_on_error=1:exitcode=%d' % SANITIZER_STATUS

@@ -27,7 +27,7 @@ TEST(ReframeOptions, DefaultsWhenOnlyAnInputIsGiven)
     const auto parsed = Parse({QStringLiteral("clip.mp4")});
     ASSERT_TRUE(parsed.options);
     EXPECT_EQ(parsed.options->inputs, QStringList(QStringLiteral("clip.mp4")));
-    EXPECT_EQ(parsed.options->aspect, QSize(9, 16));
+    EXPECT_EQ(parsed.options->aspects, QList<QSize>({QSize(9, 16)}));
     EXPECT_EQ(parsed.options->speedMode, 16);
     EXPECT_TRUE(parsed.options->writesVideo);
     EXPECT_FALSE(parsed.options->overwrites);
@@ -45,10 +45,19 @@ TEST(ReframeOptions, AcceptsEveryPresetAndOtherWholeNumbers)
     for (const char* aspect : {"9:16", "1:1", "16:9", "4:3", "4:5", "21:9", "1080:1920"}) {
         const auto parsed = Parse({QStringLiteral("--aspect"), QLatin1String(aspect), QStringLiteral("a.mp4")});
         ASSERT_TRUE(parsed.options) << aspect;
-        EXPECT_EQ(QStringLiteral("%1:%2").arg(QString::number(parsed.options->aspect.width()),
-                                              QString::number(parsed.options->aspect.height())),
+        EXPECT_EQ(QStringLiteral("%1:%2").arg(QString::number(parsed.options->aspects.first().width()),
+                                              QString::number(parsed.options->aspects.first().height())),
                   QLatin1String(aspect));
     }
+}
+
+TEST(ReframeOptions, SeveralAspectRatiosAreTakenOnceEach)
+{
+    const auto parsed = Parse(Words("--aspect 9:16,1:1,9:16,4:5 a.mp4"));
+    ASSERT_TRUE(parsed.options);
+    EXPECT_EQ(parsed.options->aspects, QList<QSize>({QSize(9, 16), QSize(1, 1), QSize(4, 5)}));
+    EXPECT_FALSE(Parse(Words("--aspect 9:16,,1:1 a.mp4")).options);
+    EXPECT_FALSE(Parse(Words("--aspect 9:16,1 a.mp4")).options);
 }
 
 TEST(ReframeOptions, RefusesAnInvalidAspectRatioAndQuotesIt)
@@ -69,7 +78,9 @@ TEST(ReframeOptions, WrongUseIsOneErrorMessageAndStatusTwo)
          {"--speed quick a.mp4", "--no-such-option a.mp4", "--output o.mp4 --no-video a.mp4",
           "--output o.mp4 a.mp4 b.mp4", "--apply t.json a.mp4 b.mp4", "--aspect", "--output o.avi a.mp4",
           "--output folder/ a.mp4", "--keyframes k.txt a.mp4", "--preview p.jpg a.mp4", "--report r.txt a.mp4",
-          "--report r.html --apply t.json a.mp4", "--report r.html a.mp4 b.mp4", "--preview p.mp4 a.mp4 b.mp4"}) {
+          "--report r.html --apply t.json a.mp4", "--report r.html a.mp4 b.mp4", "--preview p.mp4 a.mp4 b.mp4",
+          "--output o.mp4 --aspect 9:16,1:1 a.mp4", "--keyframes k.json --aspect 9:16,1:1 a.mp4",
+          "--apply t.json --aspect 9:16,1:1 a.mp4"}) {
         const auto parsed = Parse(Words(line));
         EXPECT_FALSE(parsed.options) << line;
         EXPECT_EQ(parsed.exitStatus, ReframeExit::WrongUse) << line;
@@ -83,7 +94,7 @@ TEST(ReframeOptions, OneDashBeforeAnOptionIsEnough)
 {
     const auto parsed = Parse(Words("-aspect 1:1 -quiet a.mp4"));
     ASSERT_TRUE(parsed.options) << parsed.text.toStdString();
-    EXPECT_EQ(parsed.options->aspect, QSize(1, 1));
+    EXPECT_EQ(parsed.options->aspects, QList<QSize>({QSize(1, 1)}));
     EXPECT_TRUE(parsed.options->quiet);
 }
 
@@ -133,8 +144,8 @@ TEST(ReframeOptions, HelpAndVersionNeedNoInput)
     const auto help = Parse({QStringLiteral("--help")});
     EXPECT_FALSE(help.options);
     EXPECT_EQ(help.exitStatus, ReframeExit::Done);
-    for (const char* option : {"--aspect", "--speed", "--output", "--keyframes", "--apply", "--no-video", "--preview",
-                               "--report", "--models", "--json", "--quiet", "--version", "--overwrite"}) {
+    for (const char* option : {"--aspect", "--speed", "--cache", "--output", "--keyframes", "--apply", "--no-video",
+                               "--preview", "--report", "--models", "--json", "--quiet", "--version", "--overwrite"}) {
         EXPECT_TRUE(help.text.contains(QLatin1String(option))) << option;
     }
     EXPECT_EQ(Parse({QStringLiteral("--version")}).exitStatus, ReframeExit::Done);

@@ -90,6 +90,38 @@ TEST_F(ReframeProgramTest, TheOutputHasTheAspectAndEveryFrame)
     EXPECT_EQ((*reader)->Facts().video->frameCount, 40);
 }
 
+TEST_F(ReframeProgramTest, SeveralAspectRatiosGiveWhatEachAloneGives)
+{
+    const QString clip = MakeClip("clip.mp4");
+    const auto track = [this](const QString& folder, const char* aspect) {
+        QFile file(folder + QStringLiteral("/clip-AutoReframe-%1.json").arg(QLatin1String(aspect)));
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << file.fileName().toStdString();
+        return file.readAll();
+    };
+    const auto run = [&](const QString& folder, const char* aspects) {
+        QDir().mkpath(folder);
+        const ReframeRun done({QStringLiteral("--no-video"), QStringLiteral("--aspect"), QLatin1String(aspects),
+                               QStringLiteral("--keyframes"), folder, clip});
+        EXPECT_EQ(done.exitStatus, 0) << done.standardError.toStdString();
+    };
+    run(Path("both"), "9:16,1:1");
+    run(Path("first"), "9:16");
+    run(Path("second"), "1:1");
+    EXPECT_EQ(track(Path("both"), "9 16"), track(Path("first"), "9 16"));
+    EXPECT_EQ(track(Path("both"), "1 1"), track(Path("second"), "1 1"));
+    EXPECT_NE(track(Path("both"), "9 16"), track(Path("both"), "1 1"));
+}
+
+TEST_F(ReframeProgramTest, WhatWasSeenIsKeptInTheNamedFolderAlone)
+{
+    const QString clip = MakeClip("clip.mp4");
+    const QStringList options{QStringLiteral("--no-video"), QStringLiteral("--cache")};
+    ASSERT_EQ(ReframeRun(options + QStringList{QStringLiteral("none"), clip}).exitStatus, 0);
+    EXPECT_EQ(Files(), QStringList(QStringLiteral("clip.mp4")));
+    ASSERT_EQ(ReframeRun(options + QStringList{Path("cache"), clip}).exitStatus, 0);
+    EXPECT_EQ(QDir(Path("cache")).entryList({QStringLiteral("*.record")}, QDir::Files).size(), 1);
+}
+
 TEST_F(ReframeProgramTest, OneFailedInputDoesNotStopTheOthers)
 {
     QDir(m_folder.path()).mkdir(QStringLiteral("out"));

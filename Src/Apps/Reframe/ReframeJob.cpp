@@ -12,12 +12,12 @@
 
 #include <algorithm>
 
-ReframeJob::ReframeJob(const QString& input, const ReframeOptions& options, ReframeReporter& reporter,
-                       QStringList& written)
+ReframeJob::ReframeJob(const QString& input, const QSize& aspect, const ReframeOptions& options,
+                       ReframeReporter& reporter, QStringList& written)
     : m_input(input)
     , m_options(options)
     , m_reporter(reporter)
-    , m_aspect(options.aspect)
+    , m_aspect(aspect)
     , m_process(std::make_unique<KrAutoReframeProcess>(nullptr))
     , m_allWritten(written)
 {

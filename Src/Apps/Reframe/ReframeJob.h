@@ -13,14 +13,15 @@
 
 #include <QJsonObject>
 
-/// Processes one input: opens it, analyses it or reads a crop track, and writes the requested files. Main thread; runs
-/// the event loop while it waits.
+/// Processes one input at one aspect ratio: opens it, analyses it or reads a crop track, and writes the requested
+/// files. Main thread; runs the event loop while it waits.
 class ReframeJob
 {
 public:
-    /// `written` are the files of the earlier inputs, to which this job adds its own: a run never replaces its own
+    /// `written` are the files of the earlier jobs, to which this job adds its own: a run never replaces its own
     /// output.
-    ReframeJob(const QString& input, const ReframeOptions& options, ReframeReporter& reporter, QStringList& written);
+    ReframeJob(const QString& input, const QSize& aspect, const ReframeOptions& options, ReframeReporter& reporter,
+               QStringList& written);
     ~ReframeJob();
     Q_DISABLE_COPY_MOVE(ReframeJob)
 

@@ -11,8 +11,10 @@ namespace
 {
 
 struct Definitions {
-    QCommandLineOption aspect{QStringLiteral("aspect"), QStringLiteral("Aspect ratio of the result (9:16)."),
-                              QStringLiteral("W:H"), QStringLiteral("9:16")};
+    QCommandLineOption aspect{QStringLiteral("aspect"),
+                              QStringLiteral("Aspect ratio of the result (9:16); several with commas between them: "
+                                             "the video is looked at once."),
+                              QStringLiteral("W:H,..."), QStringLiteral("9:16")};
     QCommandLineOption speed{QStringLiteral("speed"),
                              QStringLiteral("How readily the crop follows: auto, fast or slow (auto)."),
                              QStringLiteral("SPEED"), QStringLiteral("auto")};
@@ -31,6 +33,10 @@ struct Definitions {
     QCommandLineOption report{QStringLiteral("report"),
                               QStringLiteral("Write a page (.html) that shows what the analysis found."),
                               QStringLiteral("FILE")};
+    QCommandLineOption cache{QStringLiteral("cache"),
+                             QStringLiteral("Keep what an analysis saw in FOLDER, or nowhere, instead of the usual "
+                                            "folder."),
+                             QStringLiteral("FOLDER|none")};
     QCommandLineOption models{QStringLiteral("models"),
                               QStringLiteral("Use the optional detectors in FOLDER, or none, instead of those that are "
                                              "installed."),
@@ -45,8 +51,8 @@ struct Definitions {
 
     QList<QCommandLineOption> All() const
     {
-        return {aspect, speed,   output,    keyframes, apply, preview, report,
-                models, noVideo, overwrite, json,      quiet, help,    version};
+        return {aspect, speed,   cache,     output, keyframes, apply, preview, report,
+                models, noVideo, overwrite, json,   quiet,     help,  version};
     }
 };
 
@@ -132,13 +138,16 @@ QString Contradiction(const ReframeOptions& options)
             return problem;
         }
     }
-    const bool isOne = options.inputs.size() == 1;
-    if (!isOne && !options.apply.isEmpty()) {
+    if (!options.apply.isEmpty() && options.inputs.size() > 1) {
         return QStringLiteral("--apply takes one input.");
     }
+    if (!options.apply.isEmpty() && options.aspects.size() > 1) {
+        return QStringLiteral("--apply takes one aspect ratio.");
+    }
+    const bool isOne = options.inputs.size() == 1 && options.aspects.size() == 1;
     for (const Target& target : Targets(options)) {
         if (!isOne && target.IsFile()) {
-            return QStringLiteral("With several inputs %1 must name an existing folder; %2 is none.")
+            return QStringLiteral("With several inputs or aspect ratios %1 must name an existing folder; %2 is none.")
                 .arg(target.option, target.path);
         }
         if (target.IsFile() && !target.HasSuffix()) {
@@ -190,13 +199,19 @@ ReframeOptions::Parsed ReframeOptions::Parse(const QStringList& arguments)
     }
 
     ReframeOptions options;
-    const std::optional<QSize> aspect = ParseAspect(parser.value(definitions.aspect));
-    if (!aspect) {
-        return WrongUse(QStringLiteral("\"%1\" is no aspect ratio; write two whole numbers such as 9:16, neither more "
-                                       "than 20 times the other.")
-                            .arg(parser.value(definitions.aspect)));
+    options.aspects.clear();
+    const QStringList aspects = parser.value(definitions.aspect).split(QLatin1Char(','));
+    for (const QString& text : aspects) {
+        const std::optional<QSize> aspect = ParseAspect(text);
+        if (!aspect) {
+            return WrongUse(QStringLiteral("\"%1\" is no aspect ratio; write two whole numbers such as 9:16, neither "
+                                           "more than 20 times the other.")
+                                .arg(text));
+        }
+        if (!options.aspects.contains(*aspect)) {
+            options.aspects += *aspect;
+        }
     }
-    options.aspect = *aspect;
     options.speedName = parser.value(definitions.speed);
     const std::optional<int> mode = ModeOfSpeed(options.speedName);
     if (!mode) {
@@ -210,6 +225,7 @@ ReframeOptions::Parsed ReframeOptions::Parse(const QStringList& arguments)
     options.preview = parser.value(definitions.preview);
     options.report = parser.value(definitions.report);
     options.models = parser.value(definitions.models);
+    options.cache = parser.value(definitions.cache);
     options.writesVideo = !parser.isSet(definitions.noVideo);
     options.overwrites = parser.isSet(definitions.overwrite);
     options.json = parser.isSet(definitions.json);

@@ -2,20 +2,22 @@
 
 #include <KxCore/KxResult.h>
 
+#include <QList>
 #include <QSize>
 #include <QStringList>
 
 /// The options of a command line, complete and valid.
 struct ReframeOptions {
     QStringList inputs;
-    QSize aspect = QSize(9, 16);
+    QList<QSize> aspects = {QSize(9, 16)};      ///< each once
     QString speedName = QStringLiteral("auto"); ///< auto, fast or slow
     int speedMode = 16;                         ///< the number by which the analysis knows it
     QString output;                             ///< file or folder; empty: beside each input
-    QString keyframes;                          ///< file (folder for several inputs); empty: none
+    QString keyframes;                          ///< file (folder for several results); empty: none
     QString apply;                              ///< a crop track that replaces the analysis; empty: none
-    QString preview;                            ///< file (folder for several inputs); empty: none
-    QString report;                             ///< file (folder for several inputs); empty: none
+    QString preview;                            ///< file (folder for several results); empty: none
+    QString report;                             ///< file (folder for several results); empty: none
+    QString cache;                              ///< folder of records, or "none"; empty: the usual one
     QString models;                             ///< folder of the optional detectors, or "none"; empty: the usual ones
     bool writesVideo = true;
     bool overwrites = false;

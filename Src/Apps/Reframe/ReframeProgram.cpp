@@ -6,6 +6,7 @@
 #include <KxCore/KxThread.h>
 #include <KxModel/KxAutoReframeService.h>
 #include <KxModel/KxDetectorFiles.h>
+#include <KxModel/KxRecordStore.h>
 
 int ReframeProgram::Run(const ReframeOptions& options)
 {
@@ -15,6 +16,7 @@ int ReframeProgram::Run(const ReframeOptions& options)
     const bool explains = !options.report.isEmpty() || options.PreviewIsVideo();
     KxAutoReframeService::Instance().SetFindings(explains ? KxAutoReframeService::Findings::Keep
                                                           : KxAutoReframeService::Findings::Drop);
+    KxAutoReframeService::Instance().SetRecordFolder(KxRecordStore::ChooseFolder(options.cache));
     ReframeReporter reporter(options);
     QStringList written;
     int status = ReframeExit::Done;
@@ -22,16 +24,19 @@ int ReframeProgram::Run(const ReframeOptions& options)
         reporter.Warn(options.inputs.first(), KxDetectorFiles::MissingNetworks());
     }
     for (const QString& input : options.inputs) {
-        KxOutcome outcome = KxOutcome::Failed;
-        const KxError failure = KxCallGuarded([&] { outcome = ReframeJob(input, options, reporter, written).Run(); });
-        if (failure) {
-            reporter.Fail(input, QStringLiteral("Cannot reframe %1: %2.").arg(input, *failure));
-        }
-        if (outcome == KxOutcome::Cancelled) {
-            return reporter.OutputProblem() ? ReframeExit::SomeFailed : ReframeExit::Interrupted;
-        }
-        if (outcome == KxOutcome::Failed) {
-            status = ReframeExit::SomeFailed;
+        for (const QSize& aspect : options.aspects) {
+            KxOutcome outcome = KxOutcome::Failed;
+            const KxError failure =
+                KxCallGuarded([&] { outcome = ReframeJob(input, aspect, options, reporter, written).Run(); });
+            if (failure) {
+                reporter.Fail(input, QStringLiteral("Cannot reframe %1: %2.").arg(input, *failure));
+            }
+            if (outcome == KxOutcome::Cancelled) {
+                return reporter.OutputProblem() ? ReframeExit::SomeFailed : ReframeExit::Interrupted;
+            }
+            if (outcome == KxOutcome::Failed) {
+                status = ReframeExit::SomeFailed;
+            }
         }
     }
     return reporter.OutputProblem() ? ReframeExit::SomeFailed : status;

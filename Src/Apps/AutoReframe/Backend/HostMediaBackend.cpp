@@ -5,6 +5,7 @@
 #include <KxMediaLibrary/KxThumbnailer.h>
 #include <KxModel/KxAutoReframeService.h>
 #include <KxModel/KxDetectorFiles.h>
+#include <KxModel/KxRecordStore.h>
 #include <KxModel/KxMediaItem.h>
 #include <KxModel/KxSimpleTimeline.h>
 #include <KxRender/KxRenderJob.h>
@@ -56,6 +57,7 @@ HostMediaBackend::HostMediaBackend()
         KX_LOG_INFO(KxDetectorFiles::MissingNetworks());
     }
     KxAutoReframeService::Instance().SetNetworkFolder(networks.path);
+    KxAutoReframeService::Instance().SetRecordFolder(KxRecordStore::ChooseFolder());
     KxFileDialog::SetFileCheck(&KxMediaLibraryUtils::CheckVideoFile);
 }
 
