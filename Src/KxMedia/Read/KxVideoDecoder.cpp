@@ -115,7 +115,6 @@ KxReadStatus KxVideoDecoder::Next(Picture& picture)
 
 bool KxVideoDecoder::CountError()
 {
-    ++m_damageCount;
     return ++m_errorsInARow < MostErrorsInARow;
 }
 
@@ -167,9 +166,6 @@ std::optional<qint64> KxVideoDecoder::TimeOf(const AVFrame& frame)
 bool KxVideoDecoder::Accept(Picture& picture)
 {
     const AVFrame& frame = *picture.frame;
-    if ((frame.flags & AV_FRAME_FLAG_CORRUPT) != 0 || frame.decode_error_flags != 0) {
-        ++m_damageCount;
-    }
     const std::optional<qint64> ticks = TimeOf(frame);
     // What is shown before the key frame that a seek landed on may lean on pictures before it.
     const bool isBeforeLanding = m_clock == Clock::Presentation && m_landingTicks && ticks && *ticks < *m_landingTicks;

@@ -44,8 +44,6 @@ public:
     /// The time of the stream's first packet.
     std::optional<qint64> FirstPacketTicks() const { return m_firstPacketTicks; }
     bool HasPresentationTimes() const { return m_clock != Clock::Decoding; }
-    /// Packets that could not be decoded, and pictures that were decoded in part.
-    int DamageCount() const { return m_damageCount; }
 
 private:
     enum class Clock { Unknown, Presentation, Decoding };
@@ -69,7 +67,6 @@ private:
     bool m_isDraining = false;
     bool m_isAtStart = true;
     int m_errorsInARow = 0;
-    int m_damageCount = 0;
     int m_packetsSincePicture; ///< below 0 while the decoder fills
     std::optional<qint64> m_latestSkippableTicks;
     std::optional<qint64> m_lastPacketTicks;

@@ -39,7 +39,6 @@ public:
     AVRational TimeBase() const { return m_timeBase; }
     /// One frame, at least 1.
     qint64 StepTicks() const { return m_stepTicks; }
-    bool IsCounted() const { return m_isCounted; }
     /// After Prepare(). Nothing when the clock may jump and the file was too large to walk through.
     std::optional<std::vector<KxClockJump>> Jumps() const;
 
