@@ -1,6 +1,6 @@
 #include <KxMediaLibrary/KxMediaLibraryUtils.h>
 
-#include <KxMedia/Read/KxMediaFacts.h>
+#include <KxMedia/Read/KxMediaProbe.h>
 
 #include <QCoreApplication>
 #include <QFileInfo>

@@ -1,6 +1,7 @@
 #include <KxModel/KxMediaItem.h>
 
 #include <KxCore/KxLog.h>
+#include <KxMedia/Read/KxMediaProbe.h>
 
 #include <QFileInfo>
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <KxCore/KxCancelToken.h>
+#include <KxCore/KxResult.h>
 #include <KxModel/IKxAbstractMedia.h>
 
 #include <KxModel/KxClip.h>

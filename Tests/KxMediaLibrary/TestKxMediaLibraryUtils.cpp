@@ -1,4 +1,4 @@
-#include <KxMedia/Read/KxMediaFacts.h>
+#include <KxMedia/Read/KxMediaProbe.h>
 #include <Tests/Support/MadeVideo.h>
 
 #include <KxMediaLibrary/KxMediaLibraryUtils.h>

@@ -1,5 +1,5 @@
 #include <KxMedia/Read/KxAudioReader.h>
-#include <KxMedia/Read/KxMediaFacts.h>
+#include <KxMedia/Read/KxMediaProbe.h>
 #include <KxMedia/Read/KxVideoScanner.h>
 #include <Tests/KxRender/RenderFixture.h>
 

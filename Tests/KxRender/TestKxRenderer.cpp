@@ -1,6 +1,7 @@
 #include <KxRender/KxRenderer.h>
 
 #include <KxMedia/Picture/KxFrameCutter.h>
+#include <KxMedia/Read/KxMediaProbe.h>
 #include <KxMedia/Read/KxVideoReader.h>
 #include <Tests/KxMedia/Picture/MadePicture.h>
 #include <Tests/KxRender/RenderFixture.h>

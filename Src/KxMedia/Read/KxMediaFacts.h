@@ -1,14 +1,12 @@
 #pragma once
 
-#include <KxCore/KxExport.h>
 #include <KxCore/KxRational.h>
-
-#include <KxCore/KxCancelToken.h>
-#include <KxCore/KxResult.h>
 
 #include <QSize>
 #include <QString>
 #include <QVector>
+
+#include <optional>
 
 /// What is known of a file's video stream.
 struct KxVideoFacts {
@@ -42,7 +40,3 @@ struct KxMediaFacts {
     /// Index into `audio` of the stream that plays; -1 without sound.
     int defaultAudio = -1;
 };
-
-/// Reads the facts of a file without decoding more than its first picture. The error message names the file and
-/// the reason. Blocks; any thread.
-KXMEDIA_API KxResult<KxMediaFacts> KxProbeMedia(const QString& path, const KxCancelToken& cancel);

@@ -1,4 +1,4 @@
-#include <KxMedia/Read/KxMediaFacts.h>
+#include <KxMedia/Read/KxMediaProbe.h>
 
 #include <KxMedia/Read/KxStreamFacts.h>
 #include <KxMedia/Read/KxVideoSource.h>

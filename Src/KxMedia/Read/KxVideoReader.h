@@ -1,5 +1,8 @@
 #pragma once
 
+#include <KxCore/KxCancelToken.h>
+#include <KxCore/KxExport.h>
+#include <KxCore/KxResult.h>
 #include <KxMedia/Container/KxReadStatus.h>
 #include <KxMedia/Picture/KxVideoFrame.h>
 #include <KxMedia/Read/KxMediaClock.h>

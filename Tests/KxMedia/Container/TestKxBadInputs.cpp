@@ -1,6 +1,7 @@
 #include <Tests/KxMedia/Read/ReadClips.h>
 
 #include <KxMedia/Container/KxAvLog.h>
+#include <KxMedia/Read/KxMediaProbe.h>
 #include <KxMedia/Read/KxVideoScanner.h>
 
 #include <QDir>

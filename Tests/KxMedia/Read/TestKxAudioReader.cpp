@@ -1,5 +1,7 @@
 #include <KxMedia/Read/KxAudioReader.h>
 
+#include <KxMedia/Read/KxMediaProbe.h>
+
 #include <Tests/KxMedia/Read/ReadClips.h>
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include <KxMedia/Read/KxMediaFacts.h>
+#include <KxMedia/Read/KxMediaProbe.h>
 
 #include <Tests/KxMedia/Read/ReadClips.h>
 
@@ -9,7 +9,7 @@
 using ReadClips::Path;
 using ReadClips::Words;
 
-TEST(KxMediaFacts, DescribesAFileWithSound)
+TEST(KxMediaProbe, DescribesAFileWithSound)
 {
     MadeVideo::Recipe recipe;
     recipe.size = {160, 96};
@@ -36,7 +36,7 @@ TEST(KxMediaFacts, DescribesAFileWithSound)
     EXPECT_EQ(facts->defaultAudio, 0);
 }
 
-TEST(KxMediaFacts, EstimatesTheBitRateWhereTheFileDoesNotSay)
+TEST(KxMediaProbe, EstimatesTheBitRateWhereTheFileDoesNotSay)
 {
     MadeVideo::Recipe recipe;
     recipe.frames = 50;
@@ -51,7 +51,7 @@ TEST(KxMediaFacts, EstimatesTheBitRateWhereTheFileDoesNotSay)
 }
 
 // Sound that goes on after the last picture makes no frames.
-TEST(KxMediaFacts, CountsPicturesNotSound)
+TEST(KxMediaProbe, CountsPicturesNotSound)
 {
     for (const char* suffix : {"mp4", "mkv", "ts", "avi", "flv"}) {
         MadeVideo::Recipe recipe;
@@ -66,7 +66,7 @@ TEST(KxMediaFacts, CountsPicturesNotSound)
     }
 }
 
-TEST(KxMediaFacts, IsCancelled)
+TEST(KxMediaProbe, IsCancelled)
 {
     KxCancelToken cancel;
     cancel.Cancel();

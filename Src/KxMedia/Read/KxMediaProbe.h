@@ -1,0 +1,10 @@
+#pragma once
+
+#include <KxCore/KxCancelToken.h>
+#include <KxCore/KxExport.h>
+#include <KxCore/KxResult.h>
+#include <KxMedia/Read/KxMediaFacts.h>
+
+/// Reads the facts of a file; of its pictures, only the first one is decoded. The error message names the file and the
+/// reason. Blocks; any thread.
+KXMEDIA_API KxResult<KxMediaFacts> KxProbeMedia(const QString& path, const KxCancelToken& cancel);
