@@ -13,6 +13,6 @@ struct KxRenderSettings {
     QSize resolution;
     /// Frames a second. 0, or the source's rate as it is rounded for people (29.97), gives exactly the source's rate.
     double frameRate = 0.0;
-    int videoBitRate = 2000000; ///< bits a second
-    int audioBitRate = 192000;  ///< bits a second
+    int videoBitRate = 2000000; ///< bits per second
+    int audioBitRate = 192000;  ///< bits per second
 };

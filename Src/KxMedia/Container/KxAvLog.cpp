@@ -16,7 +16,7 @@ namespace
 
 constexpr int MutedOffset = AV_LOG_DEBUG - AV_LOG_ERROR;
 
-// The level that the message had before its context's offset was added.
+// The message's level without the offset of its context.
 int OwnLevel(const void* source, int level)
 {
     const AVClass* const description = source != nullptr ? *static_cast<const AVClass* const*>(source) : nullptr;

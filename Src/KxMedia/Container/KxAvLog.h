@@ -4,11 +4,11 @@
 
 struct AVCodecContext;
 
-/// Sends what libav* reports to the log instead of to the terminal: a damaged file that is read all the same is no
-/// error of the program. This changes the whole process, so only a program calls it, at its start; a library leaves
-/// libav*'s log as its host set it up. Any thread.
+/// Sends libav*'s messages to the log instead of the terminal: a damaged file that can be read nevertheless is not an
+/// error of the program. This affects the whole process, so only programs call it, at their start; libraries leave
+/// libav*'s log as their host configured it. Any thread.
 KXMEDIA_API void KxRouteAvLog();
 
-/// Makes the codec report its errors as debug output and everything else not at all, whatever the host does with
-/// libav*'s log: a decoder reports every damaged packet, and x264 its settings.
+/// Lowers the codec's errors to debug level and suppresses its other messages, regardless of the host's log settings:
+/// decoders report every damaged packet, and x264 its settings.
 void KxMuteAvCodec(AVCodecContext& codec);

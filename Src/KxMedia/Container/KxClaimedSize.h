@@ -6,6 +6,6 @@
 
 #include <optional>
 
-/// How many bytes a file means to hold, from the bytes that it begins with: Matroska, WebM and AVI say so in front.
-/// Nothing for other formats, and where the size was left open, as in a recording that is still written.
+/// The size of a complete file according to its first bytes, which Matroska, WebM and AVI store there. Empty for other
+/// formats, and if the size was left open, as in a live recording.
 KXMEDIA_API std::optional<qint64> KxClaimedSize(const QByteArray& head);

@@ -21,14 +21,14 @@ constexpr const char* Containers =
     "mov,mp4,m4a,3gp,3g2,mj2,matroska,webm,avi,mpegts,mpeg,mpegvideo,flv,asf,ogg,mxf,dv,gif,apng,wtv,yuv4mpegpipe,ivf,"
     "h264,hevc,m4v,h263,vc1,vc1test,mjpeg,obu,av1,dirac,nut,rm,gxf,mp3,wav,w64,flac,aac,ac3,eac3,aiff,amr,caf,au";
 constexpr unsigned MostStreams = 64;
-// libavformat reports that its own limit was met as memory that ran out.
+// libavformat reports its own limit on streams as lack of memory, so it is set well above ours.
 constexpr int MostStreamsWhileOpening = 256;
 constexpr int MostReadingErrors = 10;
 constexpr int64_t ProbeBytes = 16 * 1024 * 1024;
 constexpr int64_t ProbeUs = 10 * AV_TIME_BASE;
 constexpr std::chrono::seconds OpeningLimit{30};
 
-// Demuxers ask for the files that a list or a reference names.
+// Demuxers call this to open files that a playlist or a reference names.
 int RefuseOpening(AVFormatContext*, AVIOContext**, const char*, int, AVDictionary**)
 {
     return AVERROR(EPERM);
@@ -36,7 +36,7 @@ int RefuseOpening(AVFormatContext*, AVIOContext**, const char*, int, AVDictionar
 
 constexpr int HeadBytes = 256;
 
-/// The first bytes; the place in the file is its start again.
+/// The first bytes. Leaves the file positioned at its start.
 QByteArray Head(AVIOContext& file)
 {
     QByteArray head(HeadBytes, '\0');
@@ -45,14 +45,14 @@ QByteArray Head(AVIOContext& file)
     return head;
 }
 
-/// To be compared, no more. QFileInfo would turn it into local time, which reads the time zone's file each time.
+/// For comparison only. QFileInfo would convert it to local time, which reads the time zone file on each call.
 std::filesystem::file_time_type LastWriteTime(const QString& path)
 {
     std::error_code error;
     return std::filesystem::last_write_time(std::filesystem::u8path(path.toUtf8().constData()), error);
 }
 
-/// The first bytes of whatever lies at `path` now.
+/// The first bytes of the file that `path` names now.
 QByteArray HeadAt(const QString& path)
 {
     QFile file(path);
@@ -185,7 +185,7 @@ QString KxInputFile::Failure(int error) const
     if (error == AVERROR_EXIT || m_watch.isLate) {
         return QStringLiteral("reading it takes too long");
     }
-    // Demuxers report whatever comes to hand where a file makes no sense.
+    // For malformed files, the error codes of demuxers say little.
     const bool isNoFaultOfTheFile = error == AVERROR(ENOMEM) || error == AVERROR(EIO) || error == AVERROR_PATCHWELCOME;
     return isNoFaultOfTheFile ? KxAvErrorText(error) : QStringLiteral("it is damaged or incomplete");
 }
@@ -263,7 +263,7 @@ KxError KxInputFile::OpenContainer()
         return TooManyStreams();
     }
     if (error < 0) {
-        // Guessed by the name alone.
+        // Nothing but the file's name suggested a format.
         const bool isGuess = score <= AVPROBE_SCORE_EXTENSION && !IsCancelled();
         return isGuess ? QStringLiteral("it is not a video file") : Failure(error);
     }

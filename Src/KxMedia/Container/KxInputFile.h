@@ -18,20 +18,20 @@
 #include <optional>
 #include <vector>
 
-/// A user's file, opened so that nothing but that file is read: a regular file of a real container format, no lists
-/// that name other files, no network, a bound on streams, on the size of pictures and on the time that opening takes.
-/// Cancelled by the token. One thread at a time.
+/// A user's file, opened so that nothing but that file is read: only regular files of known container formats, no
+/// playlists, no network. The number of streams, the size of pictures and the time for opening are limited. Cancelled
+/// by the token. One thread at a time.
 class KXMEDIA_API KxInputFile
 {
 public:
     /// Larger pictures are refused: their frames alone would fill the memory of a small machine.
     static constexpr qint64 LargestPicturePixels = qint64{8192} * 8192;
-    /// Larger lists of attachments of Matroska files are passed over: the demuxer would hold them in memory, twice.
+    /// Larger attachment lists of Matroska files are skipped: the demuxer would hold them in memory, twice.
     static constexpr qint64 LargestAttachmentBytes = 4 * 1024 * 1024;
 
     using Clock = std::function<std::chrono::steady_clock::time_point()>;
 
-    /// The message names the file and the reason. `clock` bounds the time that opening takes, not what comes after.
+    /// The message names the file and the reason. `clock` limits the time for opening only.
     static KxResult<std::unique_ptr<KxInputFile>> Open(const QString& path, const KxCancelToken& cancel,
                                                        const Clock& clock = &std::chrono::steady_clock::now);
     ~KxInputFile();
@@ -41,10 +41,10 @@ public:
 
     const QString& Path() const { return m_path; }
     qint64 FileSize() const { return m_fileSize; }
-    /// It was truncated or written to since it was opened. That it grows, or is deleted, is no change. Costs a look at
-    /// the file's entry in its folder.
+    /// Whether the file was truncated or modified since it was opened. Growing and deletion do not count. Costs a few
+    /// stat() calls.
     bool HasChanged() const;
-    /// The header claims a larger file than there is.
+    /// According to its header, the file should be larger.
     bool IsCutOff() const { return m_isCutOff; }
     AVFormatContext& Context() const { return *m_context; }
     /// The stream of moving pictures; null without one.
@@ -53,7 +53,7 @@ public:
     /// Why there is no VideoStream(): "it has sound but no moving picture".
     const QString& ReasonForNoVideo() const { return m_reasonForNoVideo; }
 
-    /// Packets of other streams are left out from now on, which is quicker.
+    /// From now on, packets of other streams are discarded, which is faster.
     void Select(const AVStream& stream);
     /// The next packet.
     KxReadStatus Read(AVPacket& packet);
@@ -66,7 +66,7 @@ private:
         Clock clock;
         std::optional<std::chrono::steady_clock::time_point> deadline;
         bool isLate = false;
-        /// While the container is opened, and how many streams it had at most.
+        /// While the container is being opened; the largest number of streams seen so far.
         const AVFormatContext* opening = nullptr;
         unsigned streams = 0;
     };
@@ -87,7 +87,7 @@ private:
     bool m_isCutOff = false;
     Watch m_watch;
     AVIOContext* m_file = nullptr;
-    /// Where the file holds attachments that are too large to be held in memory.
+    /// Set if the file has attachments that are too large to be held in memory.
     std::unique_ptr<KxMaskedFile> m_masked;
     KxAvInput m_context;
     AVStream* m_videoStream = nullptr;

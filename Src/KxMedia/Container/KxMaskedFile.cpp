@@ -6,7 +6,7 @@ namespace
 {
 
 constexpr int BufferBytes = 32 * 1024;
-// A void element of one byte, and the ID of another one whose size is that of the element that is masked.
+// An empty Void element, followed by the ID of a second Void element, which takes over the size of the masked element.
 constexpr std::array<uint8_t, 4> Mask{0xec, 0x81, 0x00, 0xec};
 
 } // namespace

@@ -6,8 +6,8 @@
 
 #include <vector>
 
-/// A file of which a demuxer sees Matroska elements as void ones, so that it passes over their content instead of
-/// holding it in memory. One thread at a time.
+/// Presents selected Matroska elements of a file to the demuxer as Void elements, so that it skips their content
+/// instead of holding it in memory. One thread at a time.
 class KxMaskedFile
 {
 public:

@@ -28,7 +28,7 @@ struct Element {
     qint64 End() const { return contentBegin + contentBytes; }
 };
 
-// As many bytes as the first one has leading zero bits, and one more.
+// One byte more than the first byte has leading zero bits.
 int LengthOf(uchar first)
 {
     int length = 1;
@@ -47,7 +47,7 @@ quint64 BigEndian(const QByteArray& bytes)
     return value;
 }
 
-// Nothing where no element of a known size begins.
+// Empty unless an element of known size begins here.
 std::optional<Element> ElementIn(const QByteArray& bytes, qint64 position)
 {
     const int idBytes = bytes.isEmpty() ? 9 : LengthOf(static_cast<uchar>(bytes.at(0)));
@@ -80,7 +80,7 @@ std::optional<Element> ElementAt(QIODevice& file, qint64 position)
     return SeekTo(file, position) ? ElementIn(file.read(longestHeader), position) : std::nullopt;
 }
 
-// The positions that an index gives for lists of attachments, counted from the segment's content.
+// Positions of attachment lists according to an index, relative to the segment's content.
 std::vector<qint64> IndexedAttachments(const QByteArray& seekHead)
 {
     std::vector<qint64> positions;
@@ -114,7 +114,7 @@ std::vector<qint64> KxLargeAttachments(QIODevice& file, qint64 largestBytes)
     if (!header || header->id != EbmlId || !SeekTo(file, header->End())) {
         return found;
     }
-    // A segment may be of unknown size, as in a recording.
+    // A segment may have an unknown size, as in a live recording.
     const QByteArray segment = file.read(12);
     const int sizeBytes = segment.size() > 4 ? LengthOf(static_cast<uchar>(segment.at(4))) : 9;
     if (sizeBytes > 8 || BigEndian(segment.left(4)) != SegmentId) {

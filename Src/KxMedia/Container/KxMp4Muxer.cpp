@@ -18,8 +18,8 @@ int KxMp4Muxer::AddStream(const AVCodecContext& encoder)
 {
     if (m_context == nullptr) {
         AVFormatContext* context = nullptr;
-        // A name with a colon in it must not be taken for a protocol. The path stays the muxer's own: it opens it once
-        // more to move the index.
+        // The prefix keeps a name with a colon from being taken for a protocol. The muxer needs the path: it opens the
+        // file again to move the index.
         const QByteArray url = QByteArrayLiteral("file:") + m_path.toUtf8();
         const int error = avformat_alloc_output_context2(&context, nullptr, "mp4", url.constData());
         if (error < 0) {

@@ -13,12 +13,12 @@ class KxMp4Muxer
 public:
     explicit KxMp4Muxer(QString path);
 
-    /// Before Begin(). The stream's number is that of the order in which streams were added.
+    /// Call before Begin(). Streams are numbered in the order in which they are added.
     int AddStream(const AVCodecContext& encoder);
-    /// Opens the file over what has its name and writes the header.
+    /// Creates or replaces the file and writes the header.
     int Begin();
     bool HasBegun() const { return m_hasBegun; }
-    /// `packet` is in the time base of its encoder and blank afterwards.
+    /// `packet` is in the time base of its encoder; it is blank afterwards.
     int Write(AVPacket& packet, int stream);
     /// Writes the rest, moves the index to the front and closes the file: late write errors are detected here.
     int End();

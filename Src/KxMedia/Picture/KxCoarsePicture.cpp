@@ -9,7 +9,7 @@ extern "C" {
 namespace
 {
 
-// The average of so many rows of the source shows what the average of all of them does.
+// Averaging this many source rows is as good as averaging all of them.
 constexpr int RowsForOne = 3;
 
 QSize PlaneSize(const AVPixFmtDescriptor& format, int plane, const QSize& picture)

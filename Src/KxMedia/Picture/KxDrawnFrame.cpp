@@ -17,7 +17,7 @@ KxVideoFrame KxDrawnFrame(const QImage& image, qint64 index)
     Q_ASSERT(image.format() == QImage::Format_RGB32);
     KxAvFrame frame(av_frame_alloc());
     auto shared = std::make_unique<QImage>(image);
-    // libav* asks for a writable address; a buffer marked as read-only is never written to.
+    // libav* takes a non-const pointer, but never writes to a buffer that is marked read-only.
     auto* const pixels = const_cast<uchar*>(shared->constBits());
     if (frame == nullptr || pixels == nullptr) {
         return {};

@@ -29,7 +29,7 @@ FilterEnds MakeEnd(const char* name, AVFilterContext* filter)
 
 int Connect(AVFilterGraph* graph, const char* steps, AVFilterContext* source, AVFilterContext* sink)
 {
-    // Seen from the chain: its input is the source's output.
+    // The names are those of the chain: its input is the output of the source filter.
     AVFilterInOut* outputs = MakeEnd("in", source).release();
     AVFilterInOut* inputs = MakeEnd("out", sink).release();
     const int error = avfilter_graph_parse_ptr(graph, steps, &inputs, &outputs, nullptr);

@@ -9,8 +9,8 @@
 class KxFilterChain
 {
 public:
-    /// For pictures such as `picture`; `steps` as libavfilter writes them. The failure is a clause to append to a
-    /// message, as are those below.
+    /// For pictures of the size and format of `picture`; `steps` in libavfilter's syntax. Errors, also those below, are
+    /// clauses to append to a message.
     static KxResult<KxFilterChain> Make(const char* steps, const AVFrame& picture);
 
     /// Whether `picture` has the size and the format that the chain was made for.
@@ -19,7 +19,7 @@ public:
     KxError Add(KxAvFrame picture);
     /// No more pictures come.
     KxError End();
-    /// Null when there is none without another Add(). `pts` counts as it did in what was added.
+    /// Null if another Add() is needed first. `pts` has the unit of the added pictures.
     KxResult<KxAvFrame> Take();
 
 private:

@@ -96,7 +96,7 @@ KxPlaneResampler::Request ChromaRequest(const AVFrame& source, const QRectF& win
     return request;
 }
 
-// A grey picture has no colour: the middle of the scale.
+// A grey picture gets neutral chroma: the middle of the scale.
 void FillNeutral(const KxPlaneResampler::Request& request, AVFrame& target, int plane)
 {
     for (int y = 0; y < request.target.height(); ++y) {
@@ -110,7 +110,7 @@ void FillNeutral(const KxPlaneResampler::Request& request, AVFrame& target, int 
     }
 }
 
-// What a tone mapper wants to know of how bright the pictures were meant to be.
+// Brightness metadata for the tone mapper.
 void CopyBrightness(const AVFrame& from, AVFrame& to)
 {
     for (const AVFrameSideDataType type :
@@ -170,7 +170,7 @@ KxResult<KxVideoFrame> KxFrameCutter::Impl::Cut(const KxVideoFrame& picture, con
     const KxVideoFrame::Orientation& turn = picture.Turn();
     const QRectF codedCrop = KxPlaneGeometry::ToCoded(KxCropWindow::Inside(crop), turn);
     const bool isHighRange = KxPictureColour::IsHighDynamicRange(*source);
-    // Tone mapping wants fine steps, and chroma for each pixel spares it a scaling of its own.
+    // Tone mapping needs more than 8 bits; full-resolution chroma saves it a scaling step.
     const AVPixelFormat format = isHighRange ? AV_PIX_FMT_YUV444P10 : AV_PIX_FMT_YUV420P;
     Cutting cut = CutCoded(*source, codedCrop, turn, format);
     if (cut && (turn.clockwiseDegrees != 0 || turn.mirror)) {

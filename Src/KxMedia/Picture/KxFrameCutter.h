@@ -9,8 +9,8 @@
 
 /// Cuts a rectangle out of decoded pictures and scales it, once, to an upright 8-bit 4:2:0 picture of a fixed size.
 ///
-/// The rectangle is met to a fraction of a pixel, in luma and chroma alike, so that a slow pan moves evenly. Pictures
-/// in high dynamic range (PQ, HLG) are tone-mapped to BT.709. One thread at a time.
+/// The rectangle is accurate to a fraction of a pixel, in luma and chroma, so that slow pans move evenly. Pictures in
+/// high dynamic range (PQ, HLG) are tone-mapped to BT.709. One thread at a time.
 class KXMEDIA_API KxFrameCutter
 {
 public:
@@ -18,9 +18,9 @@ public:
     explicit KxFrameCutter(const QSize& size);
     ~KxFrameCutter();
 
-    /// `crop` in fractions of the upright picture; what reaches outside is moved back inside. The result keeps the
-    /// picture's place on the frame grid, is upright, has square pixels and carries the colour tags of the source
-    /// (those of BT.709 after tone mapping).
+    /// `crop` is in fractions of the upright picture; a rectangle that extends beyond it is moved inside. The result
+    /// keeps the picture's place on the frame grid, is upright, has square pixels and carries the colour tags of the
+    /// source (those of BT.709 after tone mapping).
     KxResult<KxVideoFrame> Cut(const KxVideoFrame& picture, const QRectF& crop);
 
 private:

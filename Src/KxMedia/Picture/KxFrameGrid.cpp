@@ -12,7 +12,7 @@ extern "C" {
 namespace
 {
 
-// Far beyond any grid, and small enough to be added to.
+// Beyond any grid, yet small enough not to overflow in sums.
 constexpr qint64 LargestIndex = std::numeric_limits<qint64>::max() / 2;
 
 bool IsSane(const KxRational& rate)

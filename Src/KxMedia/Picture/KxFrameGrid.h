@@ -11,13 +11,13 @@
 class KXMEDIA_API KxFrameGrid
 {
 public:
-    /// Longer grids are taken for damaged time stamps: about 46 hours at 60 frames a second.
+    /// Longer grids are considered damaged time stamps: about 46 hours at 60 frames a second.
     static constexpr qint64 LongestGrid = 10000000;
 
     /// `timeBase` is the length of a tick in seconds, `firstTicks` the time of the first picture.
     KxFrameGrid(const KxRational& rate, const KxRational& timeBase, qint64 firstTicks);
 
-    /// The first of the two that is above 0 and at most 1000; otherwise 25.
+    /// The first of the two rates that is above 0 and at most 1000; otherwise 25.
     static KxRational SaneRate(const KxRational& guessed, const KxRational& average);
 
     const KxRational& Rate() const { return m_rate; }
@@ -34,7 +34,7 @@ public:
     qint64 LengthUpTo(qint64 lastTicks, qint64 durationTicks) const;
 
 private:
-    /// The length of that many frames.
+    /// The duration of `frames` frames.
     qint64 Ticks(qint64 frames) const;
 
     KxRational m_rate;

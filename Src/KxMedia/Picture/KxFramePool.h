@@ -4,9 +4,8 @@
 
 #include <QSize>
 
-/// Hands out pictures whose planes start, and whose rows follow each other, at multiples of 64 bytes. Memory of
-/// pictures that are no longer used is used again, so a steady stream of equal pictures allocates nothing big. Pictures
-/// may outlive the pool and may be freed on any thread; Take() is called by one thread at a time.
+/// Provides pictures whose planes and rows are aligned to 64 bytes. The memory of released pictures is reused. Pictures
+/// may outlive the pool and may be released on any thread; Take() is called by one thread at a time.
 class KxFramePool
 {
 public:

@@ -11,14 +11,14 @@ namespace KxPictureColour
 /// an enumeration would be undefined.
 KXMEDIA_API void RemoveUnknown(AVFrame& picture);
 
-/// Components red, green and blue, or a palette of them.
+/// Whether the components are red, green and blue, or a palette of them.
 bool IsRgb(AVPixelFormat format);
 
-/// Primaries, transfer, matrix, range and the siting of chroma. A format that is full range by its name (yuvj420p)
-/// becomes a range.
+/// Copies primaries, transfer, matrix, range and chroma location. A format that implies full range (yuvj420p) sets the
+/// range.
 void Copy(const AVFrame& from, AVFrame& to);
 
-/// What was RGB is now BT.709 in limited range; a transfer or primaries that were known stay.
+/// For a picture converted from RGB: BT.709 matrix, limited range. A known transfer and known primaries are kept.
 void MarkAsConvertedRgb(AVFrame& picture);
 
 /// PQ or HLG.

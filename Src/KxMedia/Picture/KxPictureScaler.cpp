@@ -15,7 +15,7 @@ extern "C" {
 namespace
 {
 
-// What the converter may write beyond the end of a row.
+// The converter may write up to this many bytes beyond the end of a row.
 constexpr int RowPadding = 64;
 
 AVPixelFormat TargetFormat(QImage::Format format)
@@ -45,7 +45,7 @@ QImage MakeImage(const QSize& size, QImage::Format format)
         data, size.width(), size.height(), stride, format, [](void* memory) { av_free(memory); }, data);
 }
 
-// An image without an alpha channel is opaque by its bits.
+// The unused alpha byte of such an image must be set.
 void MakeOpaque(QImage& image)
 {
     for (int y = 0; y < image.height(); ++y) {
@@ -72,7 +72,8 @@ bool IsFullRange(const AVFrame& picture)
     return isGrey || QByteArray(description != nullptr ? description->name : "").startsWith("yuvj");
 }
 
-// Files that do not say follow the usage of their size: BT.709 from 720 lines on, BT.601 below.
+// If the file does not specify a matrix, the convention for its size applies: BT.709 from 720 lines on, otherwise
+// BT.601.
 int MatrixOf(const AVFrame& picture)
 {
     if (picture.colorspace == AVCOL_SPC_BT2020_CL) {
@@ -125,7 +126,7 @@ bool KxPictureScaler::Impl::Prepare(const Key& key)
         return true;
     }
     const bool isSmaller = key.to.width() <= key.from.width() && key.to.height() <= key.from.height();
-    // The quickest conversion darkens by more than a step in 255, which is worth it for big pictures alone.
+    // The fastest conversion darkens by more than one step of 255, which is acceptable only for large pictures.
     const int flags = (isSmaller ? SWS_AREA : SWS_BICUBIC) | (m_detail == Detail::Coarse ? SWS_ACCURATE_RND : 0);
     m_scaler.reset(sws_getContext(key.from.width(), key.from.height(), static_cast<AVPixelFormat>(key.fromFormat),
                                   key.to.width(), key.to.height(), static_cast<AVPixelFormat>(key.toFormat), flags,
@@ -134,7 +135,7 @@ bool KxPictureScaler::Impl::Prepare(const Key& key)
     if (!m_scaler) {
         return false;
     }
-    // -1 where neither side has a matrix: then there is nothing to set.
+    // -1 if neither side has a matrix; then there is nothing to set.
     sws_setColorspaceDetails(m_scaler.get(), sws_getCoefficients(key.matrix), key.range,
                              sws_getCoefficients(SWS_CS_ITU709), 1, 0, 1 << 16, 1 << 16);
     return true;

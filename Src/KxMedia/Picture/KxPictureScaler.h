@@ -4,21 +4,21 @@
 
 #include <QImage>
 
-/// Turns decoded pictures into upright images of a wanted size, scaling and converting in one step. Keeps what it
-/// prepared for the last size. One thread at a time.
+/// Converts decoded pictures to upright images of a given size, in one step. Caches its setup for the last size. One
+/// thread at a time.
 class KXMEDIA_API KxPictureScaler
 {
 public:
     enum class Detail {
         Full,
-        Coarse, ///< for machines to look at: of a picture made smaller, colours at half the size and not every row
+        Coarse, ///< for analysis: when shrinking, chroma has half the resolution and some rows are skipped
     };
 
     explicit KxPictureScaler(Detail detail = Detail::Full);
     ~KxPictureScaler();
 
     /// `size` is that of the upright image, in pixels. `format` is one of QImage::Format_RGB32, Format_BGR888 and
-    /// Format_Grayscale8. A null image when memory runs out or the picture's format cannot be converted.
+    /// Format_Grayscale8. Null if memory runs out or the picture's format cannot be converted.
     QImage Scale(const KxVideoFrame& picture, const QSize& size, QImage::Format format);
 
 private:

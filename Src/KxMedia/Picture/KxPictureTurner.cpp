@@ -19,7 +19,7 @@ struct Walk {
 // In samples; `width` and `height` are those of the source plane.
 Walk WalkOf(const KxVideoFrame::Orientation& turn, std::ptrdiff_t stride, int width, int height)
 {
-    // Mirroring comes first: to the turn it is a plane that is walked from right to left.
+    // Mirroring comes first: the rotation then reads the plane from right to left.
     const std::ptrdiff_t across = turn.mirror ? -1 : 1;
     const std::ptrdiff_t left = turn.mirror ? width - 1 : 0;
     const std::ptrdiff_t right = width - 1 - left;
@@ -36,7 +36,7 @@ Walk WalkOf(const KxVideoFrame::Orientation& turn, std::ptrdiff_t stride, int wi
     }
 }
 
-// In squares, since one of the two sides is walked across its rows.
+// In square blocks for the cache, because either source or target is accessed by column.
 template<typename Sample>
 void TurnPlane(const Sample* source, const Walk& walk, Sample* target, std::ptrdiff_t targetStride, int width,
                int height)

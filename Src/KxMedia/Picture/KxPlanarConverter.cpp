@@ -51,7 +51,7 @@ bool IsAligned(const AVFrame& picture)
     return true;
 }
 
-// Rows: up to 8, 10, 12 and 16 bits.
+// One row for each depth: up to 8, 10, 12 and 16 bits.
 using Family = std::array<AVPixelFormat, 4>;
 constexpr Family Grey{AV_PIX_FMT_GRAY8, AV_PIX_FMT_GRAY10LE, AV_PIX_FMT_GRAY12LE, AV_PIX_FMT_GRAY16LE};
 constexpr Family Yuv420{AV_PIX_FMT_YUV420P, AV_PIX_FMT_YUV420P10LE, AV_PIX_FMT_YUV420P12LE, AV_PIX_FMT_YUV420P16LE};
@@ -114,7 +114,7 @@ bool KxPlanarConverter::Prepare(const AVFrame& source, AVPixelFormat target)
     if (m_scaler == nullptr) {
         return false;
     }
-    // YUV keeps its matrix and range: equal settings on both sides only take the components apart.
+    // YUV keeps its matrix and range: with equal settings on both sides, only the components are separated.
     const int* const coefficients = sws_getCoefficients(SWS_CS_ITU709);
     const int sourceRange = KxPictureColour::IsRgb(m_sourceFormat) ? 1 : 0;
     return sws_setColorspaceDetails(m_scaler.get(), coefficients, sourceRange, coefficients, 0, 0, 1 << 16, 1 << 16) >=

@@ -3,15 +3,15 @@
 #include <KxMedia/Container/KxAvHandles.h>
 #include <KxMedia/Picture/KxFramePool.h>
 
-/// Makes pictures of any pixel format ones that the plane resampler can work on: a plane for each component, whole
-/// bytes or native 16-bit words, aligned rows. Most pictures are so already and are passed through. Keeps what it
-/// prepared for the last format. One thread at a time.
+/// Converts pictures of any pixel format to what the plane resampler supports: one plane per component, whole bytes or
+/// native 16-bit words, aligned rows. Most pictures pass through unchanged. Caches its setup for the last format. One
+/// thread at a time.
 class KxPlanarConverter
 {
 public:
-    /// `source` itself or a converted copy, which is good until the next call: YUV with the source's subsampling or
-    /// grey; what was RGB becomes 4:4:4 in BT.709, limited range. Its colour fields say what it is, the size is the
-    /// same. Null when memory runs out or the format cannot be converted.
+    /// `source` itself or a converted copy, which is valid until the next call: YUV with the source's subsampling or
+    /// grey; what was RGB becomes 4:4:4 in BT.709, limited range. Its colour fields are set; the size is the same. Null
+    /// if memory runs out or the format cannot be converted.
     const AVFrame* Convert(const AVFrame& source);
 
 private:

@@ -9,7 +9,7 @@ constexpr size_t ScratchAlignment = 64;
 
 bool IsSame(const KxPlaneResampler::Request& a, const KxPlaneResampler::Request& b)
 {
-    // Bit for bit: any other rectangle, however near, is another rectangle.
+    // Compared exactly: a rectangle that differs by a tiny fraction is a different one.
     const auto isEqual = [](double left, double right) { return !(left < right) && !(left > right); };
     return a.source == b.source && a.sourceBits == b.sourceBits && isEqual(a.left, b.left) && isEqual(a.top, b.top) &&
            isEqual(a.width, b.width) && isEqual(a.height, b.height) && a.target == b.target &&
@@ -52,9 +52,9 @@ bool KxPlaneResampler::Prepare(const Request& request)
     const zimg_image_format target = Format(request.target, request.targetBits, request.mapping);
     zimg_graph_builder_params params;
     zimg_graph_builder_params_default(&params, ZIMG_API_VERSION);
-    // Longer kernels keep a picture as sharp between two pixels as on them: a slow pan must not pulse.
+    // A long kernel is equally sharp at whole and fractional positions, so slow pans do not pulse.
     params.resample_filter = ZIMG_RESIZE_SPLINE36;
-    // An ordered pattern is the same in every picture; noise and diffused errors would flicker.
+    // Ordered dithering is the same in every picture; random dithering and error diffusion would flicker.
     params.dither_type = request.sourceBits > request.targetBits ? ZIMG_DITHER_ORDERED : ZIMG_DITHER_NONE;
     params.cpu_type = ZIMG_CPU_AUTO_64B;
     m_graph.reset(zimg_filter_graph_build(&source, &target, &params));

@@ -9,19 +9,18 @@
 
 struct zimg_filter_graph;
 
-/// Scales a part of one plane, met to a fraction of a sample, and changes its bit depth in the same step. Keeps what it
-/// prepared for the last request. One thread at a time.
+/// Scales a part of one plane, accurate to a fraction of a sample, and changes its bit depth in the same step. Caches
+/// its setup for the last request. One thread at a time.
 class KxPlaneResampler
 {
 public:
-    /// What maps values of one bit depth to another: a shift for limited range and all chroma, a stretch for luma of
-    /// full range.
+    /// How values are mapped to another bit depth: Shift for limited range and all chroma, Stretch for full-range luma.
     enum class DepthMapping { Shift, Stretch };
 
     struct Request {
         QSize source;
         int sourceBits = 8; ///< samples of more than 8 bits take two bytes
-        /// In samples of the source. May reach a little over its edge: what lies there is mirrored from inside.
+        /// In samples of the source. May extend slightly beyond its edge, where samples are mirrored.
         double left = 0.0;
         double top = 0.0;
         double width = 0.0;
@@ -44,7 +43,8 @@ public:
     KxPlaneResampler(const KxPlaneResampler&) = delete;
     KxPlaneResampler& operator=(const KxPlaneResampler&) = delete;
 
-    /// Planes and strides are aligned as KxFramePool aligns them. False when memory runs out or the request is absurd.
+    /// Planes and strides have the alignment of KxFramePool. False if memory runs out or the request cannot be
+    /// fulfilled.
     bool Run(const Request& request, const ConstPlane& source, const Plane& target);
 
 private:

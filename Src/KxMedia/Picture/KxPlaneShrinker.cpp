@@ -19,7 +19,7 @@ void AddRow(std::uint16_t* sums, const Sample* row, int columns, int weight)
 void KxPlaneShrinker::AverageRows(const Source& source, int targetRow, int targetRows)
 {
     const int columns = source.size.width();
-    // The weights of all rows together: what still fits into 16 bits.
+    // The sum of all row weights, which still fits into 16 bits.
     const qint64 whole = qint64{1} << (16 - source.bits);
     const qint64 begin = static_cast<qint64>(targetRow) * source.size.height();
     const qint64 length = source.size.height();
@@ -48,7 +48,7 @@ void KxPlaneShrinker::AverageColumns(int sourceColumns, std::uint8_t* row, int c
     }
     m_running[static_cast<std::size_t>(sourceColumns)] = sum;
 
-    // Positions and factor have 32 bits behind the point.
+    // Positions and factor are fixed-point numbers with 32 fractional bits.
     const std::uint64_t step = (static_cast<std::uint64_t>(sourceColumns) << 32) / static_cast<std::uint64_t>(columns);
     const std::uint64_t factor =
         (static_cast<std::uint64_t>(columns) << 24) / static_cast<std::uint64_t>(sourceColumns);
@@ -68,7 +68,7 @@ void KxPlaneShrinker::AverageColumns(int sourceColumns, std::uint8_t* row, int c
 void KxPlaneShrinker::Run(const Source& source, const Target& target)
 {
     const int columns = source.size.width();
-    // The last position lies behind the last column.
+    // The last position is one past the last column.
     m_means.resize(static_cast<std::size_t>(columns) + 1);
     m_running.resize(static_cast<std::size_t>(columns) + 1);
     m_means.back() = 0;

@@ -8,9 +8,8 @@
 #include <cstdint>
 #include <vector>
 
-/// Averages a plane down to fewer samples of 8 bits: each sample of the source counts by the area that it shares with
-/// the target's, rows in steps of 2^(bits - 16), so that 16-bit samples use one row. Several times as quick as a
-/// scaler that knows every filter. Keeps its buffers. One thread at a time.
+/// Shrinks a plane to 8-bit samples by area averaging. Row weights are multiples of 2^(bits - 16), so that 16-bit
+/// samples use a single row. Several times as fast as a general scaler. Reuses its buffers. One thread at a time.
 class KXMEDIA_API KxPlaneShrinker
 {
 public:
@@ -23,7 +22,7 @@ public:
     struct Target {
         std::uint8_t* data = nullptr;
         std::ptrdiff_t strideBytes = 0;
-        QSize size; ///< at most the source's, either way
+        QSize size; ///< at most the source's, in both directions
     };
 
     void Run(const Source& source, const Target& target);

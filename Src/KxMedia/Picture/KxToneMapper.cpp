@@ -5,8 +5,8 @@
 namespace
 {
 
-// 100 candela a square metre is the white that BT.709 is mastered for. Linear light and another set of primaries need
-// floats; the curve keeps middle tones and rolls the highlights off.
+// BT.709 is mastered for a peak white of 100 cd/m2. Linear light and the conversion of primaries require floats; the
+// curve preserves mid-tones and rolls off highlights.
 const char* const MappingSteps = "zscale=t=linear:npl=100,format=gbrpf32le,zscale=p=bt709,tonemap=hable:desat=0,"
                                  "zscale=t=bt709:m=bt709:r=tv:c=left:dither=ordered,format=yuv420p";
 
@@ -56,7 +56,7 @@ KxResult<KxAvFrame> KxToneMapper::Map(const AVFrame& picture)
     FillGaps(*input);
     Result mapped = RunThrough(*m_chain, std::move(input));
     if (!mapped || *mapped == nullptr) {
-        // A chain that failed once is not to be trusted with the next picture.
+        // The state of a chain that has failed is unknown.
         m_chain.reset();
         return Result::Failure(Message(mapped ? QStringLiteral("it yields no picture") : mapped.Message()));
     }

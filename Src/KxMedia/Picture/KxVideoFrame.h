@@ -8,12 +8,12 @@
 
 struct AVFrame;
 
-/// One decoded picture, as the decoder left it (any size, any pixel format, not yet turned upright), with its place on
-/// the frame grid. Never changes; copies share the picture; any thread.
+/// A decoded picture as it comes from the decoder (any size and pixel format, not yet upright), with its place on the
+/// frame grid. Immutable; copies share the picture; any thread.
 class KXMEDIA_API KxVideoFrame
 {
 public:
-    /// How the decoded picture has to be turned to stand upright: mirrored first where `mirror`, then turned clockwise.
+    /// What makes the decoded picture upright: mirroring if `mirror`, then a clockwise turn.
     struct Orientation {
         int clockwiseDegrees = 0; ///< 0, 90, 180 or 270
         bool mirror = false;      ///< left and right exchanged
@@ -33,7 +33,7 @@ public:
     /// The first frame of the grid at which this picture is shown.
     qint64 Index() const { return m_index; }
     const Orientation& Turn() const { return m_orientation; }
-    /// Of this very picture (its size may change in mid-stream): upright and with square pixels.
+    /// Of this picture (the size may change in mid-stream): upright and with square pixels.
     const QSize& DisplayedSize() const { return m_displayedSize; }
     const AVFrame& Picture() const { return *m_picture; }
 

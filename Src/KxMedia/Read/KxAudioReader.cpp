@@ -11,7 +11,7 @@ namespace
 
 constexpr int BlocksASecond = 25;
 
-// Where the file has pictures, the sound is placed against the first of them.
+// If the file has pictures, the first one is time zero of the sound.
 KxResult<KxMediaClock> MeasureClock(const QString& path, const KxCancelToken& cancel)
 {
     KxResult<std::unique_ptr<KxInputFile>> input = KxInputFile::Open(path, cancel);
@@ -52,9 +52,9 @@ public:
 
     std::unique_ptr<KxAudioTrack> track;
     Format format;
-    /// Position of the next sample to deliver; nothing before the first sound.
+    /// Position of the next sample to deliver; empty before the first sound.
     std::optional<qint64> next;
-    /// Not delivered yet; begins at or after `next`, and in between is silence.
+    /// Not delivered yet. Begins at or after `next`; the gap is filled with silence.
     KxAudioTrack::Run run;
     bool hasFailedToSeek = false;
 };
@@ -67,7 +67,7 @@ KxReadStatus KxAudioReader::Impl::ReadRun()
         if (status != KxReadStatus::Delivered) {
             return status;
         }
-        // Before time zero, before the position of a seek, or delivered already.
+        // Samples before time zero, before the target of a seek, or already delivered.
         const qint64 from = std::max<qint64>(0, next.value_or(0));
         const qint64 late = std::clamp<qint64>(from - more.position, 0, FramesIn(more));
         more.samples.erase(more.samples.begin(),

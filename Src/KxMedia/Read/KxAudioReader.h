@@ -10,7 +10,7 @@
 #include <memory>
 #include <vector>
 
-/// Sound at one rate and channel count: interleaved floats, -1 to 1.
+/// Sound at one rate and channel count: interleaved floats from -1 to 1.
 struct KxAudioBlock {
     /// Time of the first sample, microseconds after the first video picture (after the first sound in a file without
     /// video).
@@ -19,9 +19,8 @@ struct KxAudioBlock {
     std::vector<float> samples;
 };
 
-/// Reads one audio stream of a file, converted to a wanted rate and channel count and laid on one unbroken line of
-/// time: gaps are filled with silence, overlaps are cut, and what lies before the first picture is left out. One thread
-/// at a time.
+/// Reads one audio stream of a file, converted to a given rate and channel count, as a continuous timeline: gaps are
+/// filled with silence, overlaps are cut, and sound before the first picture is dropped. One thread at a time.
 class KXMEDIA_API KxAudioReader
 {
 public:
@@ -41,8 +40,8 @@ public:
     /// The next block, some tens of milliseconds long.
     KxReadStatus Next(KxAudioBlock& block);
 
-    /// The next block starts at `timeUs`: to the sample, or to the millisecond in containers (Matroska) that keep time
-    /// no finer. Where there is no sound yet it starts with silence; past the end nothing follows.
+    /// The next block starts at `timeUs`: exact to the sample, or to the millisecond in containers that store
+    /// milliseconds (Matroska). Before the first sound, it starts with silence; past the end, reading ends.
     void Seek(qint64 timeUs);
 
 private:

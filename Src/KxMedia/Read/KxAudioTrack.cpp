@@ -15,11 +15,11 @@ namespace
 {
 
 constexpr int MostErrorsInARow = 200;
-// Time stamps are rounded to milliseconds in some containers, while the shortest thing that is ever lost is a packet.
+// Some containers round time stamps to milliseconds; a real gap is at least one packet long.
 constexpr int JitterMs = 15;
-// Decoders need a packet or two before a seek's target until they are in swing.
+// Decoders need one or two packets before a seek's target for their output to settle.
 constexpr qint64 RunUpUs = 200000;
-// The distance of two packets where a clock is joined: 1024 samples at 48 kHz.
+// The assumed distance of two packets at a join of clocks: 1024 samples at 48 kHz.
 constexpr qint64 UsualPacketUs = 21333;
 
 } // namespace
@@ -113,7 +113,7 @@ KxReadStatus KxAudioTrack::Feed()
     return isBad && ++m_errorsInARow >= MostErrorsInARow ? KxReadStatus::Failed : KxReadStatus::Delivered;
 }
 
-// Sound and picture of a concatenated file jump together.
+// The clocks of sound and pictures jump together in a concatenated file.
 void KxAudioTrack::ShiftOverJumps(AVPacket& packet)
 {
     const int64_t ticks = packet.dts != AV_NOPTS_VALUE ? packet.dts : packet.pts;
@@ -147,7 +147,7 @@ qint64 KxAudioTrack::Expected() const
     return m_anchor + av_rescale(m_samplesIn, m_format.sampleRateHz, m_frame->sample_rate);
 }
 
-// What the converter still holds is the end of a run.
+// The samples that the converter still holds end the run.
 bool KxAudioTrack::EndRun(Run& run)
 {
     if (!m_converter) {

@@ -7,14 +7,14 @@
 #include <KxMedia/Read/KxSampleConverter.h>
 #include <KxMedia/Read/KxTimestampRepair.h>
 
-/// Decodes one audio stream into samples of a wanted format, each run of them with its place on the line of time. Gaps
-/// and overlaps are left to the reader above. One thread at a time.
+/// Decodes one audio stream into runs of samples of a given format, each with its position in time. KxAudioReader
+/// handles gaps and overlaps. One thread at a time.
 class KXMEDIA_API KxAudioTrack
 {
 public:
-    /// Samples that follow each other.
+    /// Consecutive samples.
     struct Run {
-        /// Of the first sample, in samples of the wanted rate after time zero.
+        /// Of the first sample: samples of the requested rate after time zero.
         qint64 position = 0;
         /// Interleaved.
         std::vector<float> samples;
@@ -26,10 +26,11 @@ public:
 
     /// The next run, which may be empty.
     KxReadStatus Next(Run& run);
-    /// To a place that the container takes for one at or before `position`. False when there is none but the start.
+    /// Seeks to a position at or before `position`, as far as the container knows. False if only Rewind() can get
+    /// there.
     bool SeekBefore(qint64 position);
     bool FileHasChanged() const { return m_input->HasChanged(); }
-    /// To the first sound.
+    /// Returns to the first sound.
     bool Rewind();
 
 private:
@@ -51,14 +52,14 @@ private:
     KxAudioReader::Format m_format;
     std::optional<qint64> m_zeroUs;
     KxClockJumps m_jumps;
-    /// Only while the jumps are not known.
+    /// Set if the jumps are unknown.
     std::optional<KxTimestampJoin> m_join;
     KxAvPacket m_packet;
     KxAvFrame m_frame;
     bool m_hasFrame = false;
     std::unique_ptr<KxSampleConverter> m_converter;
-    /// Where the run began for which the converter was made, what it was given since, and where its next sample
-    /// belongs.
+    /// Position at which the converter's run began, samples given to it since then, and position of its next output
+    /// sample.
     qint64 m_anchor = 0;
     qint64 m_samplesIn = 0;
     qint64 m_nextOut = 0;

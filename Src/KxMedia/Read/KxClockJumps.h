@@ -7,20 +7,20 @@
 #include <optional>
 #include <vector>
 
-/// A place in a concatenated file at which the clock of all its streams jumps, as the packets of one stream show it.
+/// A point in a concatenated file at which the clock of all streams jumps, as seen in the packets of one stream.
 struct KxClockJump {
-    /// Byte position of the last packet before the jump and of the first one after it: the jump lies between the two.
+    /// Byte positions of the last packet before the jump and of the first one after it.
     qint64 lastBefore = 0;
     qint64 firstAfter = 0;
-    /// What is added to the times of packets after the jump, up to the next one.
+    /// Added to the times of packets after this jump and before the next one.
     qint64 offsetUs = 0;
 };
 
-/// Applies the jumps that were found in one stream to the packets of another one:
+/// Applies the clock jumps found in one stream to the packets of another one:
 /// 1. a packet outside of all jumps has the offset of the last jump before its position;
-/// 2. a packet without a position (a parser cut it out of the one before it) has the offset of the packet before it;
-/// 3. a packet inside a jump has the offset that puts it closest to the packet before it.
-/// Packets come in the order of the file. Pure arithmetic, one thread at a time.
+/// 2. a packet without a position (a parser split it off the previous one) has the offset of the previous packet;
+/// 3. a packet inside a jump has the offset that puts it closest to the previous packet. Packets come in the order of
+/// the file. Pure arithmetic, one thread at a time.
 class KXMEDIA_API KxClockJumps
 {
 public:
@@ -28,9 +28,9 @@ public:
     explicit KxClockJumps(std::vector<KxClockJump> jumps);
 
     bool IsEmpty() const { return m_jumps.empty(); }
-    /// What is added to the times of the next packet. `timeUs` is its time on the file's own clock.
+    /// The offset of the next packet's times. `timeUs` is its time on the file's own clock.
     qint64 OffsetUs(std::optional<qint64> position, std::optional<qint64> timeUs);
-    /// The next packet is the first one of its stream.
+    /// Call when the next packet is the first one of its stream.
     void Reset();
 
 private:

@@ -7,11 +7,11 @@
 
 #include <deque>
 
-/// Deinterlaces: each interlaced picture becomes one progressive picture at the time of its first field;
-/// progressive pictures stay as they are. As many pictures come out as went in, each at its own time.
+/// Deinterlaces: each interlaced picture becomes one progressive picture at the time of its first field; progressive
+/// pictures stay as they are. As many pictures come out as went in, each at its own time.
 ///
-/// The missing lines are found from the pictures before and after, so from the first interlaced picture on each one
-/// waits for the next. If the filter is not available (a library without it, pictures of a few lines), pictures stay
+/// Missing lines are interpolated from the previous and next pictures, so each picture is delayed by one from the first
+/// interlaced picture on. If the filter is not available (a library without it, pictures of a few lines), pictures stay
 /// interlaced. One thread at a time.
 class KXMEDIA_API KxDeinterlacer
 {
@@ -20,12 +20,12 @@ public:
     KxDeinterlacer(const KxDeinterlacer&) = delete;
     KxDeinterlacer& operator=(const KxDeinterlacer&) = delete;
 
-    /// In order of time. Ready pictures are taken before the next one is added.
+    /// In display order. Take all ready pictures before adding the next one.
     void Add(KxVideoDecoder::Picture picture);
-    /// No more pictures come. False when none had waited.
+    /// Call after the last picture. False if none was delayed.
     bool End();
     std::optional<KxVideoDecoder::Picture> Take();
-    /// Forgets all pictures: those that follow come from another place.
+    /// Discards all pictures: the next ones come from another position.
     void Reset();
 
 private:

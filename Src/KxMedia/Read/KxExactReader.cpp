@@ -6,13 +6,13 @@
 namespace
 {
 
-// Decoding a few pictures costs less than emptying the decoder's threads and filling them again.
+// Decoding a few pictures costs less than flushing and refilling the decoder's threads.
 constexpr qint64 FewFrames = 16;
 // Without an index the position of the next key frame is unknown.
 constexpr double BlindSeekSeconds = 3.0;
-// Up to here before the frame, pictures may be left out.
+// Pictures are skipped only if they are farther than this from the frame.
 constexpr double FullBeforeSeconds = 1.0;
-// What a file lacks when a camera was switched off in mid-picture is no early end.
+// A camera that is switched off while it records may lose its last pictures; that is not an early end.
 constexpr qint64 ToleratedLoss = 2;
 
 } // namespace

@@ -5,15 +5,13 @@
 #include <functional>
 #include <optional>
 
-/// Finds the picture of any frame of the grid.
+/// Finds the picture of any frame of the grid:
 ///
-/// 1. The picture that was found last still shows, or the one decoded after it does: nothing or little is decoded.
-/// 2. The frame lies ahead and no key frame lies well between: decoding goes on.
-/// 3. Otherwise a seek. It counts only when the first picture after it comes at or before the frame; otherwise it is
-/// repeated
-///    from farther back, in the end from the start of the file.
-/// Far before the frame, pictures that no other picture needs are left out; where it turns out that one of them would
-/// have been the answer (before a gap in a stream of variable rate), the way is gone again without.
+/// 1. The last picture found, or the one after it, is still the answer: little or nothing is decoded.
+/// 2. The frame is ahead, with no key frame well before it: decoding continues.
+/// 3. Otherwise it seeks. If the first picture after the seek is later than the frame, the seek is repeated from
+/// farther back, finally from the start of the file. Far from the frame, non-reference pictures are skipped. If one of
+/// them turns out to be the answer (before a gap in a stream of variable rate), decoding is repeated without skipping.
 ///
 /// One thread at a time.
 class KxExactReader
@@ -28,7 +26,7 @@ public:
     KxReadStatus Read(qint64 frame, KxVideoFrame& picture);
     /// See KxVideoReader::GiveUpWhen().
     void GiveUpWhen(std::function<bool()> isUnwanted) { m_isUnwanted = std::move(isUnwanted); }
-    /// The number of frames that could be decoded, where the stream ended early; nothing otherwise.
+    /// The number of decodable frames if the stream ended early; otherwise empty.
     const std::optional<qint64>& DecodedEnd() const { return m_decodedEnd; }
 
 private:
@@ -44,18 +42,18 @@ private:
     KxReadStatus DecodeUpTo(qint64 frame, SkipPolicy policy);
     KxReadStatus Advance();
     void NoteEnd();
-    /// A picture after the one that was found was left out. Which ones were is not kept, so each of them may show at
-    /// the frame: also one that is followed by others that were left out, where decoding was given up on its way.
+    /// A picture after the one found was skipped. Individual skipped pictures are not recorded, so any of them may be
+    /// the answer.
     bool MayHaveLeftOutTheAnswer() const;
     bool LacksTheEnd(qint64 frame) const;
 
     std::unique_ptr<KxVideoSource> m_source;
-    /// The last picture at or before the place where decoding stands, and the one after it.
+    /// The last picture before the one decoded last, and that one.
     KxVideoFrame m_current;
     KxVideoFrame m_ahead;
     bool m_isAtEnd = false;
     bool m_isAtStart = true;
-    /// Of the first picture after the last seek; nothing when decoding began at the start.
+    /// Index of the first picture after the last seek; empty if decoding began at the start.
     std::optional<qint64> m_landedIndex;
     std::optional<qint64> m_decodedEnd;
     std::function<bool()> m_isUnwanted;

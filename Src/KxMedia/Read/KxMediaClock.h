@@ -5,10 +5,10 @@
 #include <optional>
 #include <vector>
 
-/// The clock of a file, as its pictures show it: what sound is placed against.
+/// The clock of a file according to its pictures; positions sound in time.
 struct KxMediaClock {
-    /// Time zero on the file's own clock; nothing makes it the time of the first sound.
+    /// Time zero on the file's own clock; if empty, time zero is the first sound.
     std::optional<qint64> zeroUs;
-    /// Nothing when they are not known: then the clock is joined where the sound itself jumps.
+    /// Empty if unknown: then jumps are detected in the sound itself.
     std::optional<std::vector<KxClockJump>> jumps = std::vector<KxClockJump>();
 };

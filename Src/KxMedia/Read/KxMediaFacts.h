@@ -8,7 +8,7 @@
 
 #include <optional>
 
-/// What is known of a file's video stream.
+/// Properties of a file's video stream.
 struct KxVideoFacts {
     /// As displayed: upright and with square pixels.
     QSize resolution;
@@ -16,27 +16,27 @@ struct KxVideoFacts {
     KxRational frameRate;
     /// Length of the frame grid, at least 1.
     qint64 frameCount = 0;
-    /// Bits a second; estimated from the file's size where the file does not say.
+    /// Bits per second; estimated from the file's size if the file does not specify it.
     qint64 bitRate = 0;
-    /// Presentation time of the first picture, microseconds on the file's own clock: sound is placed against it.
+    /// Presentation time of the first picture, microseconds on the file's own clock; time zero of the sound.
     qint64 firstPictureUs = 0;
     QString codecName;
 };
 
-/// What is known of one of a file's audio streams.
+/// Properties of one of a file's audio streams.
 struct KxAudioFacts {
     int sampleRateHz = 0;
     int channels = 0;
-    /// Bits a second; 0 when the file does not say.
+    /// Bits per second; 0 if the file does not specify it.
     qint64 bitRate = 0;
     QString codecName;
 };
 
 struct KxMediaFacts {
     QString path;
-    /// Nothing for a file without moving pictures (a cover picture is none).
+    /// Empty for a file without moving pictures (a cover picture does not count).
     std::optional<KxVideoFacts> video;
     QVector<KxAudioFacts> audio;
-    /// Index into `audio` of the stream that plays; -1 without sound.
+    /// Index into `audio` of the stream to play by default; -1 without sound.
     int defaultAudio = -1;
 };

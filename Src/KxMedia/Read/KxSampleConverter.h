@@ -3,16 +3,17 @@
 #include <KxMedia/Container/KxAvHandles.h>
 #include <KxMedia/Read/KxAudioReader.h>
 
-/// Turns decoded sound of one format into interleaved floats of another rate and channel count. What comes out begins
-/// with the time of what went in; the last few samples stay inside until more comes or Drain(). One thread at a time.
+/// Converts decoded sound of one format to interleaved floats of another rate and channel count. The first output
+/// sample has the time of the first input sample; the last few samples stay inside until the next Convert() or Drain().
+/// One thread at a time.
 class KxSampleConverter
 {
 public:
-    /// Null when the format of `frame` cannot be converted.
+    /// Null if the format of `frame` cannot be converted.
     static std::unique_ptr<KxSampleConverter> Make(const AVFrame& frame, const KxAudioReader::Format& format);
 
     bool Takes(const AVFrame& frame) const;
-    /// False when memory runs out.
+    /// False if memory runs out.
     bool Convert(const AVFrame& frame, std::vector<float>& samples);
     bool Drain(std::vector<float>& samples);
 

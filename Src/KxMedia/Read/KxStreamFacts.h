@@ -4,12 +4,12 @@
 #include <KxMedia/Read/KxMediaFacts.h>
 #include <KxMedia/Read/KxVideoPackets.h>
 
-/// What containers say of their streams, brought into the form of KxMediaFacts.
+/// Container metadata in terms of KxMediaFacts.
 
 /// Path and sound.
 KxMediaFacts KxFactsWithoutVideo(const KxInputFile& input);
 /// `input` has a video stream.
 KxRational KxGridRateOf(const KxInputFile& input);
 KxVideoFrame::Orientation KxOrientationOf(const AVStream& stream);
-/// Codec and bit rate; the frame count and the rate stand already.
+/// Adds codec and bit rate; frame count and frame rate are already set.
 void KxCompleteVideoFacts(const KxVideoPackets& packets, KxVideoFacts& video, const QVector<KxAudioFacts>& audio);

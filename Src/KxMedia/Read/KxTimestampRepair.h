@@ -6,16 +6,16 @@
 
 #include <optional>
 
-/// Gives the pictures of a stream, in the order in which they are shown, times that grow:
+/// Makes the times of a stream's pictures, in display order, strictly increasing:
 /// 1. a time after the last one is kept;
-/// 2. a missing time is one step after the last one (nothing when there is no last one);
-/// 3. a time before the last one becomes one step after it, so that a clock that starts again goes on;
-/// 4. the last time once more becomes one tick after it: such a picture replaces the last one and moves no later one.
+/// 2. a missing time is one step after the last one (empty if there is no last one);
+/// 3. a time before the last one becomes one step after it, so that a restarted clock continues;
+/// 4. a repeated time becomes one tick after it: such a picture replaces the last one and does not shift later ones.
 /// Pure arithmetic, one thread at a time.
 class KXMEDIA_API KxTimestampRepair
 {
 public:
-    /// `stepTicks` is the usual distance of two pictures.
+    /// `stepTicks` is the nominal distance of two pictures.
     explicit KxTimestampRepair(qint64 stepTicks)
         : m_stepTicks(stepTicks)
     {
@@ -30,9 +30,9 @@ private:
     std::optional<qint64> m_last;
 };
 
-/// Joins a clock that jumps, as in transport streams that were recorded in pieces or concatenated: packets come in the
-/// order of decoding, and from a jump on an offset puts them one step after the last ones. Jumps are steps of more than
-/// a second back or of more than ten seconds ahead. Pure arithmetic, one thread at a time.
+/// Joins a clock that jumps, as in transport streams that were recorded in parts or concatenated. Packets come in
+/// decoding order; after a jump, an offset puts them one step after the last packet. A jump is a step of more than one
+/// second back or more than ten seconds ahead. Pure arithmetic, one thread at a time.
 class KXMEDIA_API KxTimestampJoin
 {
 public:
@@ -42,10 +42,10 @@ public:
     {
     }
 
-    /// What has to be added to this packet's times.
+    /// The offset to add to this packet's times.
     qint64 OffsetFor(qint64 decodingTicks);
     qint64 Offset() const { return m_offset; }
-    /// After a seek to a place where `offset` holds.
+    /// After a seek to a position with this offset.
     void Reset(qint64 offset)
     {
         m_offset = offset;

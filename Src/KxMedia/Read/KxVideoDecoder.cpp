@@ -125,7 +125,7 @@ KxReadStatus KxVideoDecoder::Feed()
         return status;
     }
     if (status != KxReadStatus::Delivered) {
-        // A file that cannot be read any further still has pictures waiting in the decoder.
+        // After a read error, the decoder may still hold complete pictures.
         m_isDraining = true;
         return avcodec_send_packet(m_codec.get(), nullptr) >= 0 ? KxReadStatus::Delivered : KxReadStatus::End;
     }
@@ -167,7 +167,7 @@ bool KxVideoDecoder::Accept(Picture& picture)
 {
     const AVFrame& frame = *picture.frame;
     const std::optional<qint64> ticks = TimeOf(frame);
-    // What is shown before the key frame that a seek landed on may lean on pictures before it.
+    // Pictures displayed before the key frame of a seek may refer to pictures that were not decoded.
     const bool isBeforeLanding = m_clock == Clock::Presentation && m_landingTicks && ticks && *ticks < *m_landingTicks;
     const std::optional<qint64> repaired = isBeforeLanding ? std::nullopt : m_repair.Repair(ticks);
     if (!repaired || frame.width <= 0 || frame.height <= 0) {

@@ -3,24 +3,23 @@
 #include <KxMedia/Read/KxTimestampRepair.h>
 #include <KxMedia/Read/KxVideoPackets.h>
 
-/// Decodes a video stream from where its packets stand to the end, with one thread or more. Damaged packets are left
-/// out until too many follow each other. Size and pixel format of the pictures may change in mid-stream. One thread at
-/// a time.
+/// Decodes a video stream from the current packet to the end, with one or more threads. Damaged packets are skipped
+/// unless too many come in a row. Size and pixel format of the pictures may change in mid-stream. One thread at a time.
 class KXMEDIA_API KxVideoDecoder
 {
 public:
     enum class Effort {
         Full,
-        SkipLoopFilter, ///< pictures are a little coarser
+        SkipLoopFilter, ///< slightly lower picture quality
     };
     enum class Skip {
         Nothing,
-        NonReference, ///< pictures that no other picture needs
+        NonReference, ///< pictures that no other picture refers to
     };
 
     struct Picture {
         KxAvFrame frame;
-        /// In the packets' time base; grows from picture to picture.
+        /// In the packets' time base; strictly increasing.
         qint64 ticks = 0;
     };
 
@@ -29,12 +28,13 @@ public:
 
     KxReadStatus Next(Picture& picture);
     enum class Place { Start, KeyFrame };
-    /// After the packets were taken to `place`.
+    /// Call after the packets were moved to `place`.
     void Flush(Place place);
-    /// From the next packet on. Without presentation times nothing is skipped: the times of the pictures would shift.
+    /// Applies from the next packet on. Without presentation times, nothing is skipped: the times of the pictures would
+    /// shift.
     void SetSkip(Skip skip);
-    /// Skipping ends for good when more than `packets` pass without a picture: in some streams no picture is needed by
-    /// others.
+    /// Skipping ends for good once more than `packets` packets yield no picture: some streams consist of non-reference
+    /// pictures only.
     void SetLongestSkip(int packets) { m_longestSkip = packets; }
 
     /// The latest time of a packet that was sent while pictures were skipped, since the last Flush().
@@ -51,7 +51,7 @@ private:
     KxVideoDecoder(KxVideoPackets& packets, KxAvCodec codec);
     KxReadStatus Feed();
     bool CountError();
-    /// Packets that the decoder takes in before its first picture comes out.
+    /// Number of packets that the decoder consumes before it delivers its first picture.
     int Latency() const;
     bool Accept(Picture& picture);
     std::optional<qint64> TimeOf(const AVFrame& frame);
@@ -67,7 +67,7 @@ private:
     bool m_isDraining = false;
     bool m_isAtStart = true;
     int m_errorsInARow = 0;
-    int m_packetsSincePicture; ///< below 0 while the decoder fills
+    int m_packetsSincePicture; ///< negative while the decoder fills
     std::optional<qint64> m_latestSkippableTicks;
     std::optional<qint64> m_lastPacketTicks;
     std::optional<qint64> m_landingTicks;

@@ -10,10 +10,10 @@ extern "C" {
 namespace
 {
 
-// Above this size, walking through a stream takes longer than a person waits for a file to open.
+// Scanning a larger file would take longer than users wait for a file to open.
 constexpr qint64 LargestWalkedFile = qint64{512} * 1024 * 1024;
 
-// They say by no flag that they have no times.
+// Formats without time stamps that have no flag for it.
 constexpr const char* RawFormats = "h264,hevc,m4v,mpegvideo,h263,mjpeg,dirac,vc1,obu";
 
 bool MayJump(const AVFormatContext& context)
@@ -43,8 +43,8 @@ qint64 TimeOfPacket(const AVPacket& packet)
     return packet.pts != AV_NOPTS_VALUE ? packet.pts : packet.dts;
 }
 
-// The packet that is shown last is not the one that comes last. Where some packets have a decoding time alone, the last
-// one is shown as much after the last decoding time as the first one is.
+// The packet displayed last is not the last one in the file. If some packets have only a decoding time, the display
+// delay of the first packet is assumed for the last one.
 class TailFinder
 {
 public:
@@ -188,8 +188,8 @@ std::optional<KxVideoPackets::Tail> KxVideoPackets::FindTail()
     return Rewind() ? ReadToEnd() : std::nullopt;
 }
 
-// How long a file that was cut off was meant to be: according to its header or its index. An index that
-// grows while the file is read ends where the file does.
+// The intended end of a truncated file, according to its header or index. An index that is built while the file is read
+// ends where the file ends.
 std::optional<KxVideoPackets::Tail> KxVideoPackets::ClaimedTail() const
 {
     if (!m_firstPacket) {

@@ -10,22 +10,20 @@
 #include <optional>
 #include <vector>
 
-/// The packets of a file's video stream in the order of decoding, with times that can be relied on after a seek as
-/// well.
+/// The packets of a file's video stream in decoding order, with times that are also reliable after a seek.
 ///
-/// 1. Containers with an index, or with times that a seek can search for, are used as they are.
+/// 1. Containers with an index or with searchable times are used as they are.
 /// 2. Raw streams have no times: packets are counted, in half frames because a packet may be a single field.
-/// 3. Transport and program streams may be concatenated from pieces whose clocks jump, and a seek in them is a guess.
-/// Up
-///    to a size they are walked through once, and the places of their key frames are kept; raw streams always are.
+/// 3. Transport and program streams may be concatenated from parts whose clocks jump, and a seek in them is a guess. Up
+/// to a certain size they are scanned once to build a table of key frames; raw streams always are.
 ///
 /// One thread at a time.
 class KXMEDIA_API KxVideoPackets
 {
 public:
-    /// Where the stream ends, according to its packets.
+    /// The end of the stream according to its packets.
     struct Tail {
-        /// Of the packet that is shown last; 0 duration when the file does not say.
+        /// Of the packet displayed last; a duration of 0 means unknown.
         qint64 lastTicks = 0;
         qint64 lastDurationTicks = 0;
     };
@@ -35,27 +33,25 @@ public:
 
     KxInputFile& Input() const { return *m_input; }
     AVStream& Stream() const { return *m_input->VideoStream(); }
-    /// The length of a tick in seconds.
+    /// Duration of a tick in seconds.
     AVRational TimeBase() const { return m_timeBase; }
     /// One frame, at least 1.
     qint64 StepTicks() const { return m_stepTicks; }
-    /// After Prepare(). Nothing when the clock may jump and the file was too large to walk through.
+    /// Call after Prepare(). Empty if the clock may jump and the file was too large to scan.
     std::optional<std::vector<KxClockJump>> Jumps() const;
 
-    /// Walks through the file where that is needed (case 2 and 3). Before the first picture is decoded.
+    /// Scans the file if needed (cases 2 and 3). Call before the first picture is decoded.
     KxReadStatus Prepare();
-    /// The place after this call is not defined: Rewind() or Seek() follows. Nothing when no packet with a time was
-    /// found.
+    /// Leaves the position undefined: call Rewind() or Seek() next. Empty if no packet has a time.
     std::optional<Tail> FindTail();
 
-    /// The next packet. After a seek the first one is that of a key frame.
+    /// The next packet. The first one after a seek is a key frame.
     KxReadStatus Next(AVPacket& packet);
-    /// To the first packet. False when the file could not be opened again.
+    /// Returns to the first packet. False if the file could not be opened again.
     bool Rewind();
-    /// To the last key frame at or before `ticks`, or some other place that the container takes for it. False when
-    /// there is no way to get there.
+    /// Seeks to the last key frame at or before `ticks`, as far as the container knows it. False if that is impossible.
     bool Seek(qint64 ticks);
-    /// The time of the last key frame at or before `ticks`; nothing when it is not known.
+    /// The time of the last key frame at or before `ticks`; empty if unknown.
     std::optional<qint64> KeyFrameAtOrBefore(qint64 ticks);
 
 private:

@@ -33,7 +33,7 @@ bool KxVideoPackets::Rewind()
     if (m_input->HasChanged()) {
         return false;
     }
-    // Some containers cannot be taken back to their very first packet; a file that is opened anew always stands there.
+    // Some demuxers cannot seek to their very first packet, so the file is opened again.
     KxCancelToken cancel = m_input->Cancel();
     KxResult<std::unique_ptr<KxInputFile>> again = KxInputFile::Open(m_input->Path(), cancel);
     if (!again || (*again)->VideoStream() == nullptr || (*again)->VideoStream()->index != Stream().index) {
@@ -80,7 +80,7 @@ bool KxVideoPackets::SeekToTable(qint64 ticks)
     if (!m_isCounted) {
         return true;
     }
-    // A count is worth nothing unless it goes on at the very packet that it was taken from.
+    // The count is valid only if reading resumes at exactly the packet it was taken at.
     KxAvPacket packet(av_packet_alloc());
     if (!packet || ReadRaw(*packet) != KxReadStatus::Delivered || packet->pos != key.position) {
         return false;

@@ -11,8 +11,8 @@
 #include <functional>
 #include <memory>
 
-/// Reads any frame of a file, exactly. Frames asked for in ascending order are decoded in one go; any other request
-/// seeks. One thread at a time.
+/// Reads any frame of a file, exactly. Requests in ascending order are decoded sequentially; other requests seek. One
+/// thread at a time.
 class KXMEDIA_API KxVideoReader
 {
 public:
@@ -24,21 +24,21 @@ public:
     /// Places the sound of the same file, see KxAudioReader::Open().
     KxMediaClock Clock() const;
 
-    /// The picture shown at `frame` (0-based; a frame past the end counts as the last one). Where decoding ended before
-    /// `frame` the last picture that decoded is delivered and EndedEarly() becomes true.
+    /// The picture shown at `frame` (0-based; a frame past the end counts as the last one). If decoding ended before
+    /// `frame`, the last decoded picture is delivered and EndedEarly() becomes true.
     KxReadStatus Read(qint64 frame, KxVideoFrame& picture);
-    /// Asked before each picture that is decoded on the way to a frame; once it is true the read ends as cancelled, and
-    /// the next one goes on from where decoding stands. Empty: a read is never given up.
+    /// `isUnwanted` is called before each picture that is decoded on the way to a frame. Once it returns true, the read
+    /// ends as cancelled; the next read continues from there. Empty: reads are never abandoned.
     void GiveUpWhen(std::function<bool()> isUnwanted);
 
-    /// Decoding ended, or failed for good, before the last frame of the grid; the loss of a picture or two at the very
-    /// end, as where a camera was switched off, does not count.
+    /// Decoding ended, or failed for good, before the last frame of the grid. A loss of one or two pictures at the very
+    /// end, as when a camera is switched off, does not count.
     bool EndedEarly() const;
-    /// How many frames of the grid could be decoded; the grid's length until an early end was met.
+    /// The number of decodable frames of the grid; the grid's length until an early end is found.
     qint64 DecodableFrames() const;
 
-    /// The file was truncated or written to since it was opened: reading fails until it is opened anew. That it grows,
-    /// as a recording does, or is deleted, is no change.
+    /// The file was truncated or modified since it was opened: reading fails until it is opened again. Growing, as in a
+    /// live recording, and deletion do not count.
     bool FileHasChanged() const;
 
 private:

@@ -7,10 +7,10 @@
 namespace
 {
 
-// Pictures that are left out may not tear a hole of more than a quarter of a second into the analysis: streams in which
-// hardly any picture is needed by another one are decoded in full.
+// Skipped pictures must not leave gaps of more than a quarter of a second in the analysis: streams that consist mostly
+// of non-reference pictures are decoded completely.
 constexpr int LargestHolesASecond = 4;
-// What a truncated file lacks at the least. Less is lost by leaving out the last pictures.
+// The least that a truncated file lacks. A smaller loss may be due to skipping the last pictures.
 constexpr double EarlyEndSeconds = 0.5;
 
 } // namespace

@@ -16,14 +16,14 @@ public:
 
     const KxMediaFacts& Facts() const;
 
-    /// The next picture in order of time; its Index() grows from call to call. Pictures in between may be missing.
+    /// The next picture in display order; its Index() strictly increases. Pictures in between may be missing.
     KxReadStatus Next(KxVideoFrame& picture);
 
     /// Decoding ended, or failed for good, well before the last frame of the grid.
     bool EndedEarly() const;
 
-    /// The file was truncated or written to since it was opened: reading fails until it is opened anew. That it grows,
-    /// as a recording does, or is deleted, is no change.
+    /// The file was truncated or modified since it was opened: reading fails until it is opened again. Growing, as in a
+    /// live recording, and deletion do not count.
     bool FileHasChanged() const;
 
 private:

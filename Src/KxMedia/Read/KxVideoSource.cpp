@@ -95,7 +95,7 @@ KxError KxVideoSource::MeasureLength(qint64 firstTicks)
     }
     qint64 length = 1;
     if (tail) {
-        // Without presentation times a picture bears the time of the packet that pushed it out of the decoder.
+        // Without presentation times, a picture carries the time of the packet that made the decoder release it.
         const qint64 lastTicks = av_sat_add64(tail->lastTicks, av_sat_sub64(firstTicks, clockStart));
         m_lastPictureIndex = m_grid->IndexOf(lastTicks);
         length = m_grid->LengthUpTo(lastTicks, tail->lastDurationTicks);

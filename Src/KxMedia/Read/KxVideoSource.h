@@ -7,13 +7,12 @@
 #include <KxMedia/Read/KxMediaFacts.h>
 #include <KxMedia/Read/KxVideoDecoder.h>
 
-/// A file's video stream made ready: packets at the start, a decoder, the frame grid, the facts. What the exact reader
-/// and the scanner share. With full effort, interlaced pictures are deinterlaced. One thread at a
-/// time.
+/// An opened video stream, shared by the exact reader and the scanner: packets, decoder, frame grid and facts. With
+/// full effort, interlaced pictures are deinterlaced. One thread at a time.
 class KxVideoSource
 {
 public:
-    /// Decodes the first picture and finds the end, then goes back to the start. `input` may have no video stream.
+    /// Decodes the first picture, finds the end and returns to the start. Fails if `input` has no video stream.
     static KxResult<std::unique_ptr<KxVideoSource>> Open(std::unique_ptr<KxInputFile> input,
                                                          KxVideoDecoder::Effort effort);
     static KxResult<std::unique_ptr<KxVideoSource>> Open(const QString& path, const KxCancelToken& cancel,
@@ -22,7 +21,7 @@ public:
     const KxMediaFacts& Facts() const { return m_facts; }
     KxMediaClock Clock() const { return {m_facts.video->firstPictureUs, m_packets->Jumps()}; }
     const KxFrameGrid& Grid() const { return *m_grid; }
-    /// The grid point of the last picture, according to the packets.
+    /// Grid index of the last picture according to the packets.
     qint64 LastPictureIndex() const { return m_lastPictureIndex; }
     KxVideoPackets& Packets() { return *m_packets; }
     KxVideoDecoder& Decoder() { return *m_decoder; }
@@ -31,11 +30,11 @@ public:
 
     bool FileHasChanged() const { return m_packets->Input().HasChanged(); }
 
-    /// Back to the first packet.
+    /// Returns to the first packet.
     bool Rewind();
     /// See KxVideoPackets::Seek().
     bool Seek(qint64 ticks);
-    /// The next picture in order of time, with its place on the grid.
+    /// The next picture in display order, with its place on the grid.
     KxReadStatus Next(KxVideoFrame& picture);
 
 private:
@@ -49,7 +48,7 @@ private:
 
     std::unique_ptr<KxVideoPackets> m_packets;
     std::unique_ptr<KxVideoDecoder> m_decoder;
-    /// Nothing if pictures may stay interlaced.
+    /// Empty if pictures may stay interlaced.
     std::optional<KxDeinterlacer> m_deinterlacer;
     std::optional<KxFrameGrid> m_grid;
     KxVideoFrame::Orientation m_orientation;

@@ -97,7 +97,7 @@ int KxAacEncoder::EncodeFrame(size_t firstValue, int samples, const KxPacketSink
     const float* from = m_waiting.data() + firstValue;
     for (int sample = 0; sample < samples; ++sample) {
         for (int channel = 0; channel < channels; ++channel, ++from) {
-            // Damaged sound decodes to values that are no numbers; the encoder would refuse the whole file.
+            // Damaged sound can decode to NaN, at which the encoder would fail.
             reinterpret_cast<float*>(m_frame->extended_data[channel])[sample] = std::isfinite(*from) ? *from : 0.0F;
         }
     }

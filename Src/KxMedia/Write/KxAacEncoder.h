@@ -17,8 +17,8 @@ public:
 
     const AVCodecContext& Context() const { return *m_context; }
 
-    /// Blocks follow each other; the time of the first one is where the sound starts. What the encoder puts before the
-    /// first sample is told by packets that begin earlier than that. 0, or a negative libav* error.
+    /// Blocks are contiguous; the time of the first one is the start of the sound. Encoder priming appears as packets
+    /// that begin before it. 0, or a negative libav* error.
     int Encode(const KxAudioBlock& block, const KxPacketSink& sink);
     int Finish(const KxPacketSink& sink);
 
@@ -30,7 +30,7 @@ private:
     KxAvCodec m_context;
     KxAvFrame m_frame;
     KxAvPacket m_packet;
-    /// Interleaved; what does not fill a frame of the encoder yet.
+    /// Interleaved samples that do not fill an encoder frame yet.
     std::vector<float> m_waiting;
     bool m_hasStarted = false;
     qint64 m_nextSample = 0;

@@ -32,9 +32,9 @@ namespace
 
 constexpr double SecondsPerGroup = 2.0;
 
-// Threads that take a picture each look at how far their neighbours have come when they hold the peaks down, so each
-// run would give other bytes. Threads that take a slice each give the same ones, and a fixed number of slices does so
-// on machines with any number of cores.
+// With frame threads, rate control depends on the progress of the other threads, so each run would produce different
+// bytes. Slice threads are deterministic, and a fixed number of slices makes the result independent of the number of
+// cores.
 constexpr int Slices = 4;
 constexpr int PeakSeconds = 3;
 
@@ -78,9 +78,9 @@ void SetUp(AVCodecContext& context, const KxH264Encoder::Settings& settings, con
     context.time_base = av_inv_q(rate);
     context.gop_size = std::max(1, static_cast<int>(std::lround(SecondsPerGroup * av_q2d(rate))));
     context.flags |= AV_CODEC_FLAG_GLOBAL_HEADER | AV_CODEC_FLAG_CLOSED_GOP;
-    // Peaks of twice the average for a few seconds: room for a busy scene, yet nothing a phone stumbles over. In a
-    // shorter buffer the encoder would correct single rows by what its other slices have come to, which differs from
-    // run to run.
+    // Peaks of twice the average for a few seconds leave room for a busy scene and still play on phones. With a shorter
+    // buffer, the encoder would correct individual rows by the progress of the other slices, which differs between
+    // runs.
     const qint64 limit = std::numeric_limits<int>::max();
     context.bit_rate = std::clamp<qint64>(settings.bitRate, 1000, limit / (2 * PeakSeconds));
     context.rc_max_rate = 2 * context.bit_rate;
@@ -117,7 +117,7 @@ KxResult<std::unique_ptr<KxH264Encoder>> KxH264Encoder::Open(const Settings& set
     KxMuteAvCodec(*context);
     SetUp(*context, settings, first);
     int error = av_opt_set(context->priv_data, "preset", settings.preset.toLatin1().constData(), 0);
-    // Fast presets look ahead less than this anyway.
+    // Fast presets look ahead even less.
     const int lookahead = Lookahead(settings.size);
     if (error >= 0 && lookahead < LongestLookahead) {
         error = av_opt_set_int(context->priv_data, "rc-lookahead", lookahead, 0);

@@ -10,23 +10,21 @@
 
 #include <functional>
 
-/// Takes the packets that an encoder gives out, in order of decoding; 0, or a negative libav* error, which ends the
-/// encoding.
+/// Receives an encoder's packets in decoding order; returns 0, or a negative libav* error, which ends the encoding.
 using KxPacketSink = std::function<int(AVPacket& packet)>;
 
-/// Gives the encoder a picture or a stretch of sound, or, when `frame` is null, the end, and hands what comes out to
-/// `sink`. 0, or a negative libav* error, that of the sink included.
+/// Encodes a picture or a frame of sound and passes the resulting packets to `sink`; a null `frame` flushes the
+/// encoder. 0, or a negative libav* error, including the sink's.
 int KxEncode(AVCodecContext& encoder, const AVFrame* frame, AVPacket& packet, const KxPacketSink& sink);
 
-/// H.264 by libx264: one bit rate on average, a closed group of pictures every two seconds at the latest. One thread at
-/// a time.
+/// H.264 by libx264: constant average bit rate, closed groups of pictures of at most two seconds. One thread at a time.
 class KxH264Encoder
 {
 public:
     struct Settings {
         QSize size;
         KxRational frameRate;
-        qint64 bitRate = 0; ///< bits a second
+        qint64 bitRate = 0; ///< bits per second
         QString preset;
     };
 
@@ -35,7 +33,7 @@ public:
 
     const AVCodecContext& Context() const { return *m_context; }
 
-    /// `picture` is shown at frame `index`. 0, or a negative libav* error.
+    /// `picture` is displayed at frame `index`. 0, or a negative libav* error.
     int Encode(const AVFrame& picture, qint64 index, const KxPacketSink& sink);
     int Finish(const KxPacketSink& sink);
 

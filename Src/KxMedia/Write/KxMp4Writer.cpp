@@ -53,12 +53,12 @@ private:
     KxPacketSink Into(int stream);
 
     const Settings m_settings;
-    // Removed last: the muxer has the file open.
+    // Destroyed after the muxer, which has the file open.
     std::unique_ptr<KxOutputFile> m_file;
     KxMp4Muxer m_muxer;
     std::unique_ptr<KxH264Encoder> m_video;
     std::unique_ptr<KxAacEncoder> m_audio;
-    // Sound that came before the first picture.
+    // Sound added before the first picture.
     std::vector<KxAudioBlock> m_earlyAudio;
     qint64 m_pictures = 0;
 };

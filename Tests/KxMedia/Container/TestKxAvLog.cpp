@@ -20,7 +20,7 @@ namespace
 std::atomic_int probes{0};
 std::atomic_int shownMessages{0};
 
-// Parsers inside of libavformat have contexts of that class, too, but those are never opened.
+// Parsers inside libavformat also have contexts of that class, but those are never opened.
 bool IsOfCodec(void* source)
 {
     const AVClass* const kind = source != nullptr ? *static_cast<const AVClass* const*>(source) : nullptr;
@@ -41,7 +41,7 @@ void ReadAll(const QString& path)
 {
     const std::unique_ptr<KxVideoReader> reader = ReadClips::OpenReader(path);
     ASSERT_NE(reader, nullptr);
-    // Finding out what the streams are is done by decoders of libavformat's own.
+    // libavformat probes the streams with decoders of its own.
     shownMessages = 0;
     KxVideoFrame picture;
     for (qint64 frame = 0; frame < reader->Facts().video->frameCount; ++frame) {
@@ -93,7 +93,7 @@ protected:
 
 } // namespace
 
-TEST_F(KxAvLogTest, TheLibraryLeavesTheHostsLogAsItIs)
+TEST_F(KxAvLogTest, TheLibraryDoesNotChangeTheHostsLog)
 {
     ReadAll(Clip());
     WriteWithSound();

@@ -18,7 +18,7 @@ using ReadClips::Words;
 namespace
 {
 
-// What libav* reports of bad files would hide what the tests report.
+// libav*'s messages about bad files would hide those of the tests.
 const bool IsLogRouted = (KxRouteAvLog(), true);
 
 QString Written(const QString& name, const QByteArray& contents)
@@ -46,7 +46,7 @@ QString Clip(const QString& name, int frames = 30, const QStringList& more = {})
     return Path(name);
 }
 
-// What all three ways of opening say.
+// The message of all three ways to open a file.
 std::string Message(const QString& path)
 {
     const auto reader = KxVideoReader::Open(path, KxCancelToken());
@@ -152,7 +152,7 @@ TEST(KxBadInputs, ListsOfOtherFilesAreRefused)
     EXPECT_EQ(Message(Written(QStringLiteral("concat.mp4"), concat)), "Cannot open concat.mp4: " + refusal);
 }
 
-TEST(KxBadInputs, NamesAreNoProtocols)
+TEST(KxBadInputs, NamesAreNotProtocols)
 {
     const QString clip = Clip(QStringLiteral("a.ts"));
     EXPECT_EQ(Message(QStringLiteral("concat:%1|%1").arg(clip)), "Cannot open a.ts: there is no such file.");
@@ -174,7 +174,7 @@ TEST(KxBadInputs, PicturesThatAreTooLarge)
               "Cannot open huge.mp4: its pictures are too large (16384 x 16384).");
 }
 
-TEST(KxBadInputs, MoreStreamsThanAnyoneUses)
+TEST(KxBadInputs, TooManyStreams)
 {
     const QString path = Path(QStringLiteral("streams.mov"));
     QStringList maps = Words("-f lavfi -i color=red:s=64x64:d=0.2 -f lavfi -i sine=sample_rate=8000:d=0.1 -map 0");

@@ -9,7 +9,7 @@ namespace
 
 using Time = std::chrono::steady_clock::time_point;
 
-// Larger than what a first read fetches, so that reading goes on after opening.
+// Larger than the first read, so that reading continues after opening.
 QString LongClip()
 {
     MadeVideo::Recipe recipe;

@@ -27,7 +27,7 @@ int Rounded(double value)
 
 } // namespace
 
-TEST(KxFrameCutter, RampMovesByTheVeryFractionInLumaAndChroma)
+TEST(KxFrameCutter, RampMovesByTheExactFractionInLumaAndChroma)
 {
     const KxVideoFrame picture = Wrap(Make(AV_PIX_FMT_YUV420P, QSize(96, 48), [](int plane, int x, int) {
         return plane == 0 ? std::min(16 + 4 * x, 255) : std::min(16 + 8 * x, 255);
@@ -208,7 +208,7 @@ TEST(KxFrameCutter, WholeOddSizedPictureIsScaledToItsEdges)
     }
 }
 
-TEST(KxFrameCutter, CropThatReachesOutsideIsMovedInside)
+TEST(KxFrameCutter, CropBeyondTheEdgeIsMovedInside)
 {
     const KxVideoFrame picture = Wrap(Make(AV_PIX_FMT_YUV420P, QSize(160, 90), &Texture));
     KxFrameCutter cutter(QSize(50, 90));
@@ -225,7 +225,7 @@ TEST(KxFrameCutter, CropThatReachesOutsideIsMovedInside)
     }
 }
 
-TEST(KxFrameCutter, EmptyOrEndlessRectangleFails)
+TEST(KxFrameCutter, EmptyOrInfiniteRectangleFails)
 {
     const KxVideoFrame picture = Wrap(Make(AV_PIX_FMT_YUV420P, QSize(160, 90), &Texture));
     KxFrameCutter cutter(QSize(50, 90));
@@ -240,7 +240,7 @@ TEST(KxFrameCutter, EmptyOrEndlessRectangleFails)
     EXPECT_FALSE(cutter.Cut(KxVideoFrame(), QRectF(0, 0, 1, 1)));
 }
 
-TEST(KxFrameCutter, SpeckOfAPictureIsCutAsOnePixel)
+TEST(KxFrameCutter, TinyCropIsCutAsOnePixel)
 {
     const KxVideoFrame picture = Wrap(Make(AV_PIX_FMT_YUV420P, QSize(160, 90), &Texture));
     KxFrameCutter cutter(QSize(50, 90));
@@ -248,7 +248,7 @@ TEST(KxFrameCutter, SpeckOfAPictureIsCutAsOnePixel)
     EXPECT_TRUE(cut) << cut.Message().toStdString();
 }
 
-TEST(KxFrameCutter, MemoryOfAPictureThatIsGoneIsUsedAgain)
+TEST(KxFrameCutter, MemoryOfAReleasedPictureIsReused)
 {
     KxFrameCutter cutter(QSize(64, 64));
     const KxVideoFrame picture = Wrap(Make(AV_PIX_FMT_YUV420P, QSize(128, 96), &Texture));

@@ -38,7 +38,7 @@ TEST(KxFrameCutter, PlaceOnTheGridAndColourTagsAreKept)
     EXPECT_EQ(picture.sample_aspect_ratio.den, 1);
 }
 
-TEST(KxFrameCutter, FullRangeByNameBecomesARange)
+TEST(KxFrameCutter, FullRangeByPixelFormatSetsTheRange)
 {
     KxFrameCutter cutter(QSize(50, 90));
     const KxVideoFrame cut = Whole(cutter, Make(AV_PIX_FMT_YUVJ420P, QSize(50, 90), &Texture));
@@ -102,7 +102,7 @@ KxAvFrame Rearranged(const AVFrame& source, AVPixelFormat format)
 
 } // namespace
 
-TEST(KxFrameCutter, InterleavedArrangementsGiveTheSamePicture)
+TEST(KxFrameCutter, InterleavedFormatsGiveTheSamePicture)
 {
     struct Case {
         AVPixelFormat planar;
@@ -252,7 +252,7 @@ TEST(KxFrameCutter, HighDynamicRangeIsToneMappedToBt709)
     }
 }
 
-TEST(KxFrameCutter, TurnedHighDynamicRangePictureStandsUpright)
+TEST(KxFrameCutter, TurnedHighDynamicRangePictureIsUpright)
 {
     KxAvFrame made = Make(AV_PIX_FMT_YUV420P10, QSize(64, 48),
                           [](int plane, int x, int) { return plane == 0 ? (x < 32 ? 150 : 500) : 512; });

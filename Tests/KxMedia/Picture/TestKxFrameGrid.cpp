@@ -45,7 +45,7 @@ TEST(KxFrameGrid, IsAsLongAsTheLastPictureIsShown)
     EXPECT_EQ(grid.LengthUpTo(-500, 40), 1);
 }
 
-TEST(KxFrameGrid, TakesTheFirstSaneRate)
+TEST(KxFrameGrid, TakesTheFirstPlausibleRate)
 {
     EXPECT_EQ(KxFrameGrid::SaneRate({30000, 1001}, {25, 1}), (KxRational{30000, 1001}));
     EXPECT_EQ(KxFrameGrid::SaneRate({90000, 1}, {30, 1}), (KxRational{30, 1}));
@@ -55,7 +55,7 @@ TEST(KxFrameGrid, TakesTheFirstSaneRate)
     EXPECT_EQ(KxFrameGrid::SaneRate({-25, 1}, {2000, 1}), (KxRational{25, 1}));
 }
 
-TEST(KxFrameGrid, DamagedTimesOverflowNothing)
+TEST(KxFrameGrid, DamagedTimesDoNotOverflow)
 {
     constexpr qint64 largest = std::numeric_limits<qint64>::max();
     constexpr qint64 smallest = std::numeric_limits<qint64>::min() + 1;

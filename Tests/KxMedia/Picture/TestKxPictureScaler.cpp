@@ -28,7 +28,7 @@ QImage Quarters(const QSize& size)
     return picture;
 }
 
-// Fine enough to tell a picture that is shifted by a pixel of the small one.
+// Fine enough to detect a shift by one pixel of the small picture.
 QImage Circles(const QSize& size)
 {
     QImage picture(size, QImage::Format_RGB888);
@@ -150,7 +150,7 @@ TEST(KxPictureScaler, CoarsePicturesDifferLittle)
     }
 }
 
-TEST(KxPictureScaler, TurnsAndMirrorsAsTold)
+TEST(KxPictureScaler, TurnsAndMirrors)
 {
     const KxVideoFrame lying =
         FirstPicture(QStringLiteral("lying.mp4"), {160, 96}, "-c:v libx264 -qp 4 -pix_fmt yuv420p");
@@ -169,7 +169,7 @@ TEST(KxPictureScaler, TurnsAndMirrorsAsTold)
     }
 }
 
-TEST(KxPictureScaler, RefusesWhatItCannotDo)
+TEST(KxPictureScaler, RefusesUnsupportedRequests)
 {
     const KxVideoFrame picture =
         FirstPicture(QStringLiteral("refused.mp4"), {160, 96}, "-c:v libx264 -pix_fmt yuv420p");

@@ -28,12 +28,12 @@ TEST(KxPictureShape, ReadsTheEightTurnsOfADisplayMatrix)
     ExpectTurn({0, One, 0, One, 0, 0, 0, 0, 1 << 30}, 270, true);
 }
 
-TEST(KxPictureShape, AMatrixOfZerosTurnsNothing)
+TEST(KxPictureShape, AMatrixOfZerosIsNoTurn)
 {
     ExpectTurn({}, 0, false);
 }
 
-TEST(KxPictureShape, StretchesTheWidthOfPicturesWithOblongPixels)
+TEST(KxPictureShape, StretchesTheWidthOfPicturesWithNonSquarePixels)
 {
     EXPECT_EQ(KxDisplayedSize({720, 576}, {64, 45}, {}), QSize(1024, 576));
     EXPECT_EQ(KxDisplayedSize({720, 480}, {8, 9}, {}), QSize(640, 480));

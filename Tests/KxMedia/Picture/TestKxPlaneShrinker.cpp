@@ -92,7 +92,7 @@ void ExpectMeans(const Plane& source, const QSize& size, double tolerance)
 
 } // namespace
 
-TEST(KxPlaneShrinker, AveragesWhatEachSampleStandsFor)
+TEST(KxPlaneShrinker, AveragesTheAreaOfEachSample)
 {
     for (const int bits : {8, 10}) {
         std::mt19937 random(7);
@@ -111,7 +111,7 @@ TEST(KxPlaneShrinker, AveragesWhatEachSampleStandsFor)
     }
 }
 
-TEST(KxPlaneShrinker, MoreBitsLeaveFewerRowsButNoOtherValue)
+TEST(KxPlaneShrinker, MoreBitsUseFewerRowsWithTheSameResult)
 {
     for (const int bits : {12, 16}) {
         SCOPED_TRACE(bits);

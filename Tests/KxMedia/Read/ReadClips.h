@@ -9,7 +9,7 @@
 #include <memory>
 #include <ostream>
 
-/// What the tests of the reading classes share.
+/// Helpers for the tests of the reading classes.
 namespace ReadClips
 {
 
@@ -33,18 +33,18 @@ std::ostream& operator<<(std::ostream& stream, const Kind& kind);
 /// "-c:v libx264" as a list.
 QStringList Words(const char* line);
 
-/// A folder that goes with the test program.
+/// A file in a temporary folder that is removed at the end of the test program.
 QString Path(const QString& name);
 
 std::unique_ptr<KxVideoReader> OpenReader(const QString& path);
 
-/// The number that a picture carries; -1 when it cannot be read.
+/// The number shown in a picture; -1 if it cannot be read.
 int NumberOf(const KxVideoFrame& picture);
 
 /// Of a picture's grey version.
 uint CheckSum(const KxVideoFrame& picture);
 
-/// Reads one frame; -1 when that fails.
+/// Reads the number of one frame; -1 on failure.
 int ReadNumber(KxVideoReader& reader, qint64 frame);
 
 } // namespace ReadClips

@@ -128,7 +128,7 @@ TEST(KxAudioReader, PlacesSoundAgainstTheFirstPicture)
     }
 }
 
-TEST(KxAudioReader, StartsLaterWhereTheSoundDoes)
+TEST(KxAudioReader, StartsWithTheFirstSound)
 {
     const QString clicks = Clicks(QStringLiteral("base.mov"), "-c:a pcm_s16le");
     const QString late = Path(QStringLiteral("late.mov"));
@@ -141,7 +141,7 @@ TEST(KxAudioReader, StartsLaterWhereTheSoundDoes)
     ExpectClicksAt(sound, {0.5, 1.5, 2.5, 3.5});
 }
 
-TEST(KxAudioReader, LeavesOutWhatLiesBeforeTheFirstPicture)
+TEST(KxAudioReader, DropsSoundBeforeTheFirstPicture)
 {
     const QString clicks = Clicks(QStringLiteral("base2.mov"), "-c:a pcm_s16le");
     const QString early = Path(QStringLiteral("early.mkv"));
@@ -162,7 +162,7 @@ TEST(KxAudioReader, FillsGapsWithSilence)
     ExpectClicksAt(ReadAll(*reader), {0, 1, 3});
 }
 
-TEST(KxAudioReader, SeeksAsExactlyAsTheContainerKeepsTime)
+TEST(KxAudioReader, SeeksWithThePrecisionOfTheContainer)
 {
     for (const char* name : {"seek.mp4", "seekpcm.mov", "seekflac.mkv"}) {
         SCOPED_TRACE(name);
@@ -193,7 +193,7 @@ TEST(KxAudioReader, SeeksAsExactlyAsTheContainerKeepsTime)
     }
 }
 
-TEST(KxAudioReader, BeginsWithSilenceWhenSoughtBeforeTheSound)
+TEST(KxAudioReader, BeginsWithSilenceAfterASeekBeforeTheSound)
 {
     const QString clicks = Clicks(QStringLiteral("base3.mov"), "-c:a pcm_s16le");
     const QString late = Path(QStringLiteral("late3.mov"));
@@ -207,7 +207,7 @@ TEST(KxAudioReader, BeginsWithSilenceWhenSoughtBeforeTheSound)
     ExpectClicksAt(sound, {1, 2, 3, 4});
 }
 
-TEST(KxAudioReader, ReadsTheTrackThatIsAskedFor)
+TEST(KxAudioReader, ReadsTheRequestedTrack)
 {
     MadeVideo::Recipe recipe;
     recipe.size = {96, 64};

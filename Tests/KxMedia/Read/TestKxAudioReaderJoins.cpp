@@ -139,7 +139,7 @@ TEST(KxAudioReaderJoins, SoundAfterTheJoinOfAProgramStreamIsKept)
     ExpectBothTones(Concatenated(QStringLiteral("ahead.mpg"), Mpeg2, 500));
 }
 
-TEST(KxAudioReaderJoins, SoundAfterTheJoinOfAFileTooLargeToWalkThroughIsKept)
+TEST(KxAudioReaderJoins, SoundAfterTheJoinOfAFileTooLargeToScanIsKept)
 {
     const QString path = Concatenated(QStringLiteral("large.ts"), H264, 0);
     KxResult<std::unique_ptr<KxInputFile>> input = KxInputFile::Open(path, {});

@@ -84,7 +84,7 @@ void ExpectFailureAfter(const char* suffix, Change change)
 
 } // namespace
 
-TEST(KxChangedFile, TruncatedWhileItIsShownItFails)
+TEST(KxChangedFile, FailsAfterTruncation)
 {
     for (const char* suffix : {"mp4", "mkv", "ts"}) {
         SCOPED_TRACE(suffix);
@@ -92,7 +92,7 @@ TEST(KxChangedFile, TruncatedWhileItIsShownItFails)
     }
 }
 
-TEST(KxChangedFile, DamagedWhileItIsShownItFails)
+TEST(KxChangedFile, FailsAfterModification)
 {
     for (const char* suffix : {"mp4", "mkv", "ts"}) {
         SCOPED_TRACE(suffix);
@@ -100,7 +100,7 @@ TEST(KxChangedFile, DamagedWhileItIsShownItFails)
     }
 }
 
-TEST(KxChangedFile, ReplacedByAnotherWhileItIsShownItFails)
+TEST(KxChangedFile, FailsAfterReplacement)
 {
     for (const char* suffix : {"mp4", "mkv", "ts"}) {
         SCOPED_TRACE(suffix);
@@ -108,7 +108,7 @@ TEST(KxChangedFile, ReplacedByAnotherWhileItIsShownItFails)
     }
 }
 
-TEST(KxChangedFile, ARecordingThatGrowsIsReadOn)
+TEST(KxChangedFile, AGrowingRecordingStaysReadable)
 {
     const QString path = Clip(QStringLiteral("grows.ts"));
     const std::unique_ptr<KxVideoReader> reader = ReadClips::OpenReader(path);
@@ -119,7 +119,7 @@ TEST(KxChangedFile, ARecordingThatGrowsIsReadOn)
     EXPECT_FALSE(reader->FileHasChanged());
 }
 
-TEST(KxChangedFile, OneThatIsDeletedIsReadOn)
+TEST(KxChangedFile, ADeletedFileStaysReadable)
 {
     const QString path = Clip(QStringLiteral("deleted.mp4"));
     const std::unique_ptr<KxVideoReader> reader = ReadClips::OpenReader(path);

@@ -61,7 +61,7 @@ TEST(KxClockJumps, Case3WithoutATimeOrAPacketBeforeItTheJumpIsStillAhead)
     EXPECT_EQ(jumps.OffsetUs(1200, std::nullopt), 0);
 }
 
-TEST(KxClockJumps, StartsAnewAfterAReset)
+TEST(KxClockJumps, StartsOverAfterAReset)
 {
     KxClockJumps jumps = TwoJumps();
     jumps.OffsetUs(3000, 60000000);

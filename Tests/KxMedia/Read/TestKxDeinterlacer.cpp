@@ -110,7 +110,7 @@ private:
 
 } // namespace
 
-TEST_F(TestKxDeinterlacer, WovenPicturesBecomeWholeOnesAtTheMomentOfTheirFirstField)
+TEST_F(TestKxDeinterlacer, InterlacedPicturesBecomeProgressiveAtTheTimeOfTheirFirstField)
 {
     for (const Field first : {Field::Top, Field::Bottom}) {
         m_taken.clear();
@@ -131,7 +131,7 @@ TEST_F(TestKxDeinterlacer, WovenPicturesBecomeWholeOnesAtTheMomentOfTheirFirstFi
     }
 }
 
-TEST_F(TestKxDeinterlacer, EachPictureKeepsItsTimeAndWaitsForTheNextOne)
+TEST_F(TestKxDeinterlacer, EachPictureKeepsItsTimeAndIsDelayedByOne)
 {
     Add(Interlaced(0, Field::Top, -7));
     EXPECT_THAT(Times(), ElementsAre());
@@ -144,7 +144,7 @@ TEST_F(TestKxDeinterlacer, EachPictureKeepsItsTimeAndWaitsForTheNextOne)
     EXPECT_FALSE(m_deinterlacer.End());
 }
 
-TEST_F(TestKxDeinterlacer, PicturesInOnePieceAreNeitherTouchedNorHeldBack)
+TEST_F(TestKxDeinterlacer, ProgressivePicturesAreNeitherChangedNorDelayed)
 {
     KxVideoDecoder::Picture picture = InOnePiece(0, 5);
     const std::uint8_t* const samples = picture.frame->data[0];
@@ -155,7 +155,7 @@ TEST_F(TestKxDeinterlacer, PicturesInOnePieceAreNeitherTouchedNorHeldBack)
     EXPECT_FALSE(m_deinterlacer.End());
 }
 
-TEST_F(TestKxDeinterlacer, PicturesInOnePieceAmongWovenOnesStayAsTheyAre)
+TEST_F(TestKxDeinterlacer, ProgressivePicturesAmongInterlacedOnesAreNotChanged)
 {
     Add(Interlaced(0, Field::Top, 0));
     KxVideoDecoder::Picture picture = InOnePiece(1, 1);
@@ -182,7 +182,7 @@ TEST_F(TestKxDeinterlacer, SizeMayChangeFromPictureToPicture)
     EXPECT_EQ(m_taken[2].frame->width, Size.width());
 }
 
-TEST_F(TestKxDeinterlacer, PicturesOfAnotherPlaceAreForgotten)
+TEST_F(TestKxDeinterlacer, ResetDiscardsThePicturesOfTheOldPosition)
 {
     Add(Interlaced(0, Field::Top, 0));
     m_deinterlacer.Reset();
@@ -194,7 +194,7 @@ TEST_F(TestKxDeinterlacer, PicturesOfAnotherPlaceAreForgotten)
     EXPECT_TRUE(ShowsTheBarOf(*m_taken[0].frame, 6, 21));
 }
 
-TEST_F(TestKxDeinterlacer, PicturesThatAreTooSmallForItStayWoven)
+TEST_F(TestKxDeinterlacer, PicturesThatAreTooSmallStayInterlaced)
 {
     const QSize line(64, 2);
     Add(Interlaced(0, Field::Top, 0, line));

@@ -36,7 +36,7 @@ TEST(KxMediaProbe, DescribesAFileWithSound)
     EXPECT_EQ(facts->defaultAudio, 0);
 }
 
-TEST(KxMediaProbe, EstimatesTheBitRateWhereTheFileDoesNotSay)
+TEST(KxMediaProbe, EstimatesAMissingBitRate)
 {
     MadeVideo::Recipe recipe;
     recipe.frames = 50;

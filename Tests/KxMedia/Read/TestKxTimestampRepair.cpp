@@ -30,18 +30,18 @@ TEST(KxTimestampRepair, Case2FillsInMissingTimes)
     EXPECT_EQ(Repaired({std::nullopt, 40, 80}), (std::vector<qint64>{-1, 40, 80}));
 }
 
-TEST(KxTimestampRepair, Case3GoesOnWhereAClockStartsAgain)
+TEST(KxTimestampRepair, Case3ContinuesARestartedClock)
 {
     EXPECT_EQ(Repaired({0, 40, 80, 0, 40, 80}), (std::vector<qint64>{0, 40, 80, 120, 160, 200}));
     EXPECT_EQ(Repaired({0, 40, 20, 120}), (std::vector<qint64>{0, 40, 80, 120}));
 }
 
-TEST(KxTimestampRepair, Case4ARepeatedTimeMovesNoLaterPicture)
+TEST(KxTimestampRepair, Case4ARepeatedTimeDoesNotShiftLaterPictures)
 {
     EXPECT_EQ(Repaired({0, 0, 40, 80}), (std::vector<qint64>{0, 1, 40, 80}));
 }
 
-TEST(KxTimestampRepair, StartsAnewAfterASeek)
+TEST(KxTimestampRepair, StartsOverAfterASeek)
 {
     KxTimestampRepair repair(40);
     EXPECT_EQ(repair.Repair(1000), 1000);
@@ -50,7 +50,7 @@ TEST(KxTimestampRepair, StartsAnewAfterASeek)
     EXPECT_EQ(repair.Repair(200), 200);
 }
 
-TEST(KxTimestampJoin, LeavesAloneWhatDoesNotJump)
+TEST(KxTimestampJoin, DoesNotChangeAContinuousClock)
 {
     KxTimestampJoin join(40, 1000);
     for (const qint64 time : {0, 40, 80, 60, 5000, 4500}) {
@@ -71,7 +71,7 @@ TEST(KxTimestampJoin, StepsOfExactlyASecondBackAndTenAheadAreNoJumps)
     EXPECT_EQ(ahead.OffsetFor(10001), 40 - 10001);
 }
 
-TEST(KxTimestampJoin, JoinsAClockThatStartsAgain)
+TEST(KxTimestampJoin, JoinsARestartedClock)
 {
     KxTimestampJoin join(40, 1000);
     EXPECT_EQ(join.OffsetFor(5000), 0);
@@ -98,7 +98,7 @@ TEST(KxTimestampJoin, AStepAheadOfTenSecondsIsNoJoinAndALongerOneIs)
     EXPECT_EQ(join.OffsetFor(20001), 10040 - 20001);
 }
 
-TEST(KxTimestampJoin, GoesOnWithTheOffsetOfTheSeeksTarget)
+TEST(KxTimestampJoin, ContinuesWithTheOffsetOfTheSeeksTarget)
 {
     KxTimestampJoin join(40, 1000);
     join.OffsetFor(0);

@@ -55,7 +55,7 @@ int NumberThatFfmpegShows(const QString& path, int frame)
     return MadeVideo::ReadNumber(QImage(shown)).value_or(-1);
 }
 
-// How many lines look other than the one above.
+// The number of lines that differ from the line above.
 int DifferingLines(const KxVideoFrame& picture)
 {
     const QImage grey = KxPictureScaler().Scale(picture, picture.DisplayedSize(), QImage::Format_Grayscale8);
@@ -124,7 +124,7 @@ TEST(KxVideoReader, HoldsAPictureOverALongGap)
 }
 
 // The picture before a gap is one that no other picture needs, and lies far before the frame that is asked for.
-TEST(KxVideoReader, FindsAnUnreferencedPictureThatIsHeldForLong)
+TEST(KxVideoReader, FindsANonReferencePictureBeforeALongGap)
 {
     const QString path = Path(QStringLiteral("held.mkv"));
     MadeVideo::Recipe recipe = H264(140, "-g 250 -bf 3 -b_strategy 0 -vf select=lt(n\\,20)+gt(n\\,120) -vsync vfr");
@@ -184,7 +184,7 @@ TEST(KxVideoReader, DeinterlacesPictures)
     }
 }
 
-TEST(KxVideoReader, StretchesOblongPixels)
+TEST(KxVideoReader, StretchesNonSquarePixels)
 {
     const QString path = Path(QStringLiteral("oblong.mp4"));
     ASSERT_TRUE(MadeVideo::Make(path, H264(10, "-vf setsar=16/11")));
@@ -215,7 +215,7 @@ TEST(KxVideoReader, JoinsConcatenatedTransportStreams)
     EXPECT_EQ(picture.DisplayedSize(), QSize(160, 128));
 }
 
-TEST(KxVideoReader, DeliversWhatIsLeftOfAFileThatWasCutOff)
+TEST(KxVideoReader, DeliversTheRestOfATruncatedFile)
 {
     const QString whole = Path(QStringLiteral("tocut.mp4"));
     const QString cut = Path(QStringLiteral("cut.mp4"));

@@ -141,7 +141,7 @@ protected:
 
 } // namespace
 
-TEST_P(KxVideoReaderKinds, GivesEveryFrameInWhateverOrder)
+TEST_P(KxVideoReaderKinds, ReadsEveryFrameInAnyOrder)
 {
     const Kind& kind = GetParam();
     EXPECT_EQ(m_count, kind.frameCount > 0 ? kind.frameCount : kind.recipe.frames);

@@ -67,7 +67,7 @@ void ExpectNumbersMatch(const Scan& scan)
 
 } // namespace
 
-TEST(KxVideoScanner, LeavesOutPicturesThatNoOtherNeeds)
+TEST(KxVideoScanner, SkipsNonReferencePictures)
 {
     const Scan scan = ScanOf(Made("bframes.mp4", 150, "-c:v libx264 -g 30 -bf 3 -b_strategy 0 -pix_fmt yuv420p"));
     ExpectNumbersMatch(scan);
@@ -79,7 +79,7 @@ TEST(KxVideoScanner, LeavesOutPicturesThatNoOtherNeeds)
     EXPECT_FALSE(scan.hasEndedEarly);
 }
 
-TEST(KxVideoScanner, AtALowRateTheDecodersStartIsNotTakenForAHole)
+TEST(KxVideoScanner, AtALowRateTheDecodersLatencyIsNotAGap)
 {
     const Scan scan = ScanOf(Made("slow.mp4", 60, "-c:v libx264 -g 30 -bf 1 -b_strategy 0 -pix_fmt yuv420p", "8"));
     ExpectNumbersMatch(scan);
@@ -87,14 +87,14 @@ TEST(KxVideoScanner, AtALowRateTheDecodersStartIsNotTakenForAHole)
     EXPECT_LE(scan.LargestHole(), 2);
 }
 
-TEST(KxVideoScanner, GivesEveryPictureWhereEachIsNeeded)
+TEST(KxVideoScanner, DeliversEveryPictureIfAllAreReferences)
 {
     const Scan scan = ScanOf(Made("pframes.mp4", 60, "-c:v libx264 -g 30 -bf 0 -pix_fmt yuv420p"));
     ExpectNumbersMatch(scan);
     EXPECT_EQ(scan.indices.size(), 60U);
 }
 
-TEST(KxVideoScanner, KeepsPlacesWithoutPresentationTimes)
+TEST(KxVideoScanner, KeepsPositionsWithoutPresentationTimes)
 {
     for (const char* name : {"scanned.avi", "scanned.h264"}) {
         const Scan scan = ScanOf(Made(name, 60, "-c:v libx264 -g 12 -bf 2 -pix_fmt yuv420p"));
@@ -103,7 +103,7 @@ TEST(KxVideoScanner, KeepsPlacesWithoutPresentationTimes)
     }
 }
 
-TEST(KxVideoScanner, DoesNotStarveWhereHardlyAnyPictureIsNeeded)
+TEST(KxVideoScanner, LeavesNoLongGapsInAStreamOfNonReferencePictures)
 {
     const Scan scan = ScanOf(Made("unneeded.mp4", 100, "-c:v mpeg2video -g 100 -bf 10 -b_strategy 0 -q:v 3"));
     ExpectNumbersMatch(scan);
@@ -111,7 +111,7 @@ TEST(KxVideoScanner, DoesNotStarveWhereHardlyAnyPictureIsNeeded)
     EXPECT_GT(scan.indices.size(), 80U);
 }
 
-TEST(KxVideoScanner, ReportsThatAFileWasCutOff)
+TEST(KxVideoScanner, ReportsATruncatedFile)
 {
     const QString whole = Made("scancut.mp4", 200, "-c:v libx264 -g 12 -bf 2 -pix_fmt yuv420p -movflags +faststart");
     QFile file(whole);
@@ -131,7 +131,7 @@ TEST(KxVideoScanner, StopsWhenCancelled)
     KxVideoFrame picture;
     EXPECT_EQ((*scanner)->Next(picture), KxReadStatus::Delivered);
     cancel.Cancel();
-    // What waits inside the decoder may still come.
+    // Pictures inside the decoder may still be delivered.
     KxReadStatus status = KxReadStatus::Delivered;
     for (int i = 0; i < 10 && status == KxReadStatus::Delivered; ++i) {
         status = (*scanner)->Next(picture);

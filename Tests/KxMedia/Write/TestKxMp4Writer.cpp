@@ -17,7 +17,7 @@ TEST_F(KxMp4WriterTest, EveryPictureComesBackInItsPlace)
     EXPECT_EQ(FilesIn(m_folder.path()), QStringList{QStringLiteral("out.mp4")});
 }
 
-TEST_F(KxMp4WriterTest, StreamsSayWhatTheyAre)
+TEST_F(KxMp4WriterTest, StreamsAreTagged)
 {
     KxMp4Writer::Settings settings = SettingsFor(Path(QStringLiteral("out.mp4")));
     settings.frameRate = {30000, 1001};
@@ -63,7 +63,7 @@ TEST_F(KxMp4WriterTest, StreamsSayWhatTheyAre)
     EXPECT_NEAR(Field(probed, 1, "duration").toDouble(), 3.0, 0.03);
 }
 
-TEST_F(KxMp4WriterTest, IndexStandsBeforeTheData)
+TEST_F(KxMp4WriterTest, IndexPrecedesTheData)
 {
     const QStringList boxes = Boxes(WriteFlat(SettingsFor(Path(QStringLiteral("out.mp4"))), 30));
     EXPECT_GE(boxes.indexOf(QStringLiteral("moov")), 0);
@@ -160,14 +160,14 @@ TEST_F(KxMp4WriterTest, LateSoundKeepsItsOffset)
     }
 }
 
-TEST_F(KxMp4WriterTest, WantedSoundThatNeverCameLeavesAPlayableFile)
+TEST_F(KxMp4WriterTest, MissingSoundLeavesAPlayableFile)
 {
     KxMp4Writer::Settings settings = SettingsFor(Path(QStringLiteral("out.mp4")));
     settings.hasAudio = true;
     EXPECT_EQ(DecodedLuma(WriteFlat(settings, 20)).size(), 20U);
 }
 
-TEST_F(KxMp4WriterTest, SoundThatIsNoNumberIsSilence)
+TEST_F(KxMp4WriterTest, NanSamplesBecomeSilence)
 {
     KxMp4Writer::Settings settings = SettingsFor(Path(QStringLiteral("out.mp4")));
     settings.hasAudio = true;

@@ -42,7 +42,7 @@ TEST_F(KxMp4WriterTest, FileOfTheSameNameIsReplacedOnRequestAndOnlyAtTheEnd)
     EXPECT_EQ(FilesIn(m_folder.path()), QStringList{QStringLiteral("out.mp4")});
 }
 
-TEST_F(KxMp4WriterTest, NamesThatLookLikeSomethingElseAreNames)
+TEST_F(KxMp4WriterTest, NamesThatLookLikeProtocolsAreNames)
 {
     for (const QString& name :
          {QStringLiteral("a:b.mp4"), QStringLiteral("50%1 %d.mp4"), QString::fromUtf8("größe ünd.mp4"),
@@ -67,7 +67,7 @@ TEST_F(KxMp4WriterTest, UnfinishedFileLeavesNothingBehind)
     EXPECT_EQ(FilesIn(m_folder.path()), QStringList());
 }
 
-TEST_F(KxMp4WriterTest, NothingToWriteIsAFailure)
+TEST_F(KxMp4WriterTest, FinishingWithoutAPictureFails)
 {
     std::unique_ptr<KxMp4Writer> writer = Open(SettingsFor(Path(QStringLiteral("out.mp4"))));
     const KxResult<QString> path = writer->Finish();
@@ -78,7 +78,7 @@ TEST_F(KxMp4WriterTest, NothingToWriteIsAFailure)
     EXPECT_EQ(FilesIn(m_folder.path()), QStringList());
 }
 
-TEST_F(KxMp4WriterTest, SettingsThatCannotBeAreRefused)
+TEST_F(KxMp4WriterTest, ImpossibleSettingsAreRefused)
 {
     const auto message = [](const KxMp4Writer::Settings& settings) { return KxMp4Writer::Open(settings).Message(); };
     KxMp4Writer::Settings settings = SettingsFor(Path(QStringLiteral("out.mp4")));
@@ -103,7 +103,7 @@ TEST_F(KxMp4WriterTest, SettingsThatCannotBeAreRefused)
     EXPECT_TRUE(error->contains(QStringLiteral("out.mp4: the video encoder does not start"))) << error->toStdString();
 }
 
-TEST_F(KxMp4WriterTest, FolderThatCannotTakeTheFileIsNamed)
+TEST_F(KxMp4WriterTest, UnusableFolderIsNamed)
 {
     const QString missing = Path(QStringLiteral("none/out.mp4"));
     const QString message = KxMp4Writer::Open(SettingsFor(missing)).Message();
@@ -121,7 +121,7 @@ TEST_F(KxMp4WriterTest, FolderWithoutPermissionIsNamed)
 {
     ASSERT_TRUE(QFile::setPermissions(m_folder.path(),
                                       QFile::ReadOwner | QFile::ExeOwner | QFile::ReadOther | QFile::ExeOther));
-    // For the one user who may do everything no folder is closed.
+    // Root may write to any folder.
     constexpr uid_t nobody = 65534;
     const bool isRoot = geteuid() == 0;
     if (isRoot) {
@@ -138,7 +138,7 @@ TEST_F(KxMp4WriterTest, FolderWithoutPermissionIsNamed)
 namespace
 {
 
-// As long as it lives no file of this process grows beyond a limit.
+// Limits the size of the process's files during its lifetime.
 class FileSizeLimit
 {
 public:
@@ -185,15 +185,15 @@ protected:
     }
 };
 
-TEST_F(KxMp4WriterLimit, DiskThatTakesNoMoreIsNoticedWhilePicturesAreWritten)
+TEST_F(KxMp4WriterLimit, FullDiskIsDetectedWhilePicturesAreWritten)
 {
     ExpectNoticed(10, 40, &BusyPicture);
     ExpectNoticed(100000, 40, &BusyPicture);
 }
 
-TEST_F(KxMp4WriterLimit, DiskThatTakesNoMoreIsNoticedWhileTheIndexIsMoved)
+TEST_F(KxMp4WriterLimit, FullDiskIsDetectedWhileTheIndexIsMoved)
 {
-    // Few bits, so that the encoder never has to hold back and makes the same file each time.
+    // Few bits, so that the peak limit is never reached and the file is reproducible.
     constexpr qint64 pictureCount = 200;
     const QString whole = WriteFlat(SettingsFor(Path(QStringLiteral("out.mp4"))), pictureCount);
     const qint64 bytes = QFile(whole).size();

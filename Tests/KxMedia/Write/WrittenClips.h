@@ -12,7 +12,7 @@
 #include <memory>
 #include <vector>
 
-/// What the tests of the writer share: small pictures and clicks to write, and ways to look at what was written.
+/// Helpers for the writer's tests: small pictures and clicks to write, and ways to examine the result.
 namespace WrittenClips
 {
 inline const QSize Size(160, 96);
@@ -21,7 +21,7 @@ constexpr int SampleRateHz = 48000;
 KxMp4Writer::Settings SettingsFor(const QString& path);
 int FlatLuma(qint64 index);
 KxVideoFrame FlatPicture(qint64 index);
-/// Noise: what no encoder makes small.
+/// Noise, which does not compress.
 KxVideoFrame BusyPicture(qint64 index);
 KxError AddPictures(KxMp4Writer& writer, qint64 count, KxVideoFrame (*make)(qint64) = &FlatPicture);
 /// Silence with a click at each of the times (seconds after the sound's own start).
