@@ -8,9 +8,9 @@
 namespace
 {
 
-// Decoding runs in bursts; a few pictures of reserve keep the encoder busy meanwhile.
+// Decoding runs in bursts; a few pictures in reserve keep the encoder busy.
 constexpr qint64 PicturesAhead = 6;
-// Large pictures are fewer: what waits stays below this.
+// The queue of large pictures is shorter, so that it stays below this size.
 constexpr qint64 BytesAhead = qint64{96} * 1024 * 1024;
 
 size_t QueueLength(const QSize& size)

@@ -20,9 +20,9 @@ struct KxRenderResult {
 /// Renders a source to an MP4 file with its sound, as long as the source. A rendering that is cancelled or fails leaves
 /// no file.
 ///
-/// Memory does not grow with the length. It is the decoder's (see KxVideoScanner) plus 17 bytes a pixel of the result,
-/// plus the pictures that the encoder looks ahead: 320 MB, or 8 bytes a pixel of the result if that is more. Results
-/// above 4096 x 4096 pixels are encoded with one reference picture and without B pictures to stay within that.
+/// Memory does not grow with the length. It is the decoder's (see KxVideoScanner), plus 48 bytes per pixel of the
+/// result, plus the pictures that the encoder looks ahead: 320 MB, or 8 bytes per pixel of the result if that is more.
+/// Results above 4096 x 4096 pixels take 18 instead of 48 bytes: they have one reference picture and no B pictures.
 namespace KxRenderer
 {
 /// Called on the thread of Run() with ascending ten-thousandths; 10000 means that the file has its final name.

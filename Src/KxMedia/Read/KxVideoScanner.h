@@ -6,7 +6,7 @@
 /// needs may be skipped, which saves about half of the work. One thread at a time.
 ///
 /// Memory: pictures above 8192 x 4352 pixels are decoded by a single thread, which holds the stream's reference
-/// pictures and at most two more. A picture takes about two bytes a pixel (8 bits, 4:2:0, H.264): 800 MB for 8192 x
+/// pictures and at most two more. A picture takes about two bytes per pixel (8 bits, 4:2:0, H.264): 800 MB for 8192 x
 /// 8192 and four reference pictures. Smaller pictures are decoded by up to nine threads, each of which holds one more.
 class KXMEDIA_API KxVideoScanner
 {
