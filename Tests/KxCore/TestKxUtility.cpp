@@ -26,6 +26,12 @@ TEST(KxUtilityFit, RoundsSidesDownAndPutsTheOddPixelLast)
     EXPECT_EQ(getFitCentralWindowRectByRatio(QRect(0, 0, 101, 99), QSize(16, 9)), QRect(0, 21, 101, 56));
 }
 
+TEST(KxUtilityFit, APictureWiderByLessThanAPixelTakesTheWholeHeight)
+{
+    // At full height it would be 640.3 pixels wide.
+    EXPECT_EQ(getFitCentralWindowRectByRatio(QRect(0, 0, 640, 360), QSize(1921, 1080)), QRect(0, 0, 640, 360));
+}
+
 TEST(KxUtilityFit, TheOddPixelBesideATallRectangleIsOnItsRight)
 {
     // 100 * 9 / 16 = 56.25; 101 - 56 leaves 45: 22 on the left, 23 on the right.
