@@ -73,15 +73,15 @@ KxError Problem(const QString& path)
     if (!info.isFile()) {
         return QStringLiteral("it is not a regular file");
     }
+    if (info.size() > mostBytes) {
+        return QStringLiteral("it is too large");
+    }
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
         return std::nullopt; // QSettings has its own way to say so
     }
-    const QByteArray content = file.read(mostBytes + 1);
-    if (content.size() > mostBytes) {
-        return QStringLiteral("it is too large");
-    }
-    return HasSerialisedValue(content) ? KxError(QStringLiteral("it holds a serialised value")) : std::nullopt;
+    return HasSerialisedValue(file.read(mostBytes)) ? KxError(QStringLiteral("it holds a serialised value"))
+                                                    : std::nullopt;
 }
 
 void ReportOnce(const QString& path, const QString& problem)

@@ -162,6 +162,18 @@ TEST_F(KxConfigTest, AHugeFileIsNotRead)
     EXPECT_FALSE(IsUsed(file));
 }
 
+TEST_F(KxConfigTest, AFileOfUpToOneMiBIsUsed)
+{
+    for (const int beyond : {0, 1}) {
+        QFile file(Configure({}));
+        ASSERT_TRUE(file.open(QIODevice::Append));
+        file.write(QByteArray(static_cast<int>(1024 * 1024 + beyond - file.size()), '\n'));
+        file.close();
+        EXPECT_EQ(KxConfigFile::ReadAutoReframe(QStringLiteral("UsageLog")),
+                  beyond == 0 ? QStringLiteral("usage.log") : QString());
+    }
+}
+
 TEST_F(KxConfigTest, ARepairedFileIsUsedAgain)
 {
     const QString file = Configure("Models=@Variant(\\0)");
