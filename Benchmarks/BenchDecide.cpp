@@ -1,11 +1,18 @@
 // Looks at videos once and decides often, to measure what the tuning values do:
-//   BenchDecide observe CLIP RECORD [DETECTOR]   one pass over CLIP; DETECTOR: the object detector's file
-//   BenchDecide truth RECORD TRUTH.csv OUT       RECORD with nothing in it but the boxes of TRUTH (frame,x,y,w,h in
-//   pixels) BenchDecide names                            the tuning values of the decision, with what they are now
-//   BenchDecide decide RECORD=W:H...             decides on every record, once for each line of the standard input:
-//   NAME=VALUE...
-// For each line and record: the number of frames (int32), the crop's width and height, and its left and top in each
-// frame (float32, fractions of the picture), on the standard output.
+//   BenchDecide observe CLIP RECORD [DETECTOR]
+//       One pass over CLIP; DETECTOR is the file of the object detector.
+//   BenchDecide truth RECORD TRUTH.csv OUT
+//       RECORD with nothing in it but the boxes of TRUTH (frame,x,y,w,h in pixels).
+//   BenchDecide boundaries RECORD
+//       Each boundary's first frame of the new shot, its beginning, its end, its kind (0 cut, 1 dissolve, 2 fade).
+//   BenchDecide shots RECORD=W:H
+//       Each shot's first frame, its end, its confidence, its evidence.
+//   BenchDecide names
+//       The tuning values of the decision, with what they are now.
+//   BenchDecide decide RECORD=W:H...
+//       Decides on every record once for each line of the standard input: NAME=VALUE... Prints, for each line and
+//       record, the number of frames (int32), the crop's width and height, and its left and top in each frame (float32,
+//       fractions of the picture).
 
 #include <KxMedia/Picture/KxPictureScaler.h>
 #include <KxMedia/Read/KxVideoScanner.h>
@@ -191,6 +198,22 @@ std::optional<Task> TaskOf(const QString& argument)
     return Task{std::move(*record), {aspect[0].toInt(), aspect[1].toInt()}};
 }
 
+/// A line for each shot: its first frame, its end, its confidence and its evidence.
+int PrintShots(const QString& argument)
+{
+    std::optional<Task> task = TaskOf(argument);
+    if (!task) {
+        return 1;
+    }
+    task->request.wantsFindings = true;
+    for (const KxSubjectFindings::Shot& shot :
+         KxDecide(task->record, task->request, {}, KxCancelToken()).findings.shots) {
+        std::printf("%lld %lld %.4f %.4f\n", static_cast<long long>(shot.first), static_cast<long long>(shot.end),
+                    static_cast<double>(shot.confidence), static_cast<double>(shot.evidence));
+    }
+    return 0;
+}
+
 void Print(const std::vector<KxCropRect>& crops)
 {
     const auto frames = static_cast<std::int32_t>(crops.size());
@@ -259,6 +282,9 @@ int main(int argc, char* argv[])
             std::printf("%s=%g\n", qPrintable(value.key()), **value);
         }
         return 0;
+    }
+    if (command == QLatin1String("shots") && arguments.size() == 3) {
+        return PrintShots(arguments[2]);
     }
     if (command == QLatin1String("decide") && arguments.size() > 2) {
         return Decide(arguments.mid(2));

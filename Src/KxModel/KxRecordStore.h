@@ -30,8 +30,8 @@ public:
     /// Where records are kept from now on; made when the first one is written. Empty: memory alone.
     void SetFolder(const QString& path);
 
-    /// A program's choice of a folder: `named`, otherwise the environment variable KX_CACHE, otherwise the configuration
-    /// (key "Cache"), otherwise auto-reframe/records in the person's folder of caches. Empty for "none".
+    /// A program's choice of a folder: `named`, otherwise the environment variable KX_CACHE, otherwise the
+    /// configuration (key "Cache"), otherwise auto-reframe/records in the person's folder of caches. Empty for "none".
     static QString ChooseFolder(const QString& named = {});
 
     /// What identifies a record: the size of the video's file and the content of parts of it (its first and last 64 kB

@@ -151,12 +151,17 @@ void Decider::RecordFindings(const Shot& shot, const KxEvidence::InShot& evidenc
                              const std::vector<KxPathPoint>& points, std::size_t firstSample)
 {
     std::array<float, KxSignalCount> totals{};
+    float whole = 0.0F;
+    float inside = 0.0F;
     for (std::size_t i = 0; i < points.size(); ++i) {
         const KxEvidence::Parts parts = evidence.At(firstSample + i);
         KxSubjectFindings::Sample sample;
         sample.frame = points[i].frame;
         sample.wanted = points[i].centre;
-        sample.evidence = KxPackedProfile(Combined(parts));
+        const KxSignalProfile combined = Combined(parts);
+        whole += combined.Sum();
+        inside += m_score.Inside(points[i].centre, combined);
+        sample.evidence = KxPackedProfile(combined);
         const std::array<const KxSignalProfile*, KxSignalCount> signals{&parts.motion, &parts.movers, &parts.saliency,
                                                                         &parts.faces, &parts.detections};
         for (std::size_t signal = 0; signal < KxSignalCount; ++signal) {
@@ -166,7 +171,8 @@ void Decider::RecordFindings(const Shot& shot, const KxEvidence::InShot& evidenc
         m_findings.samples.push_back(sample);
     }
     const auto dominant = std::max_element(totals.begin(), totals.end()) - totals.begin();
-    m_findings.shots.push_back({shot.first, shot.end, static_cast<KxSignal>(dominant)});
+    m_findings.shots.push_back({shot.first, shot.end, static_cast<KxSignal>(dominant),
+                                whole > 0.0F ? inside / whole : 0.0F, whole / static_cast<float>(points.size())});
 }
 
 KxSubjectDecision Decider::Run(const KxCancelToken& cancel)

@@ -225,6 +225,29 @@ TEST(KxSubjectDecision, FindingsNameTheShotsAndTheirDominantSignals)
     }
 }
 
+TEST(KxSubjectDecision, AShotIsDoubtfulWhenTheCropCannotHoldWhatWasFound)
+{
+    const auto confidence = [](const std::vector<float>& lefts) {
+        Task task = MakeTask(50);
+        task.request.wantsFindings = true;
+        KxSubjectRecord record;
+        record.source = task.source;
+        record.workingSizePx = {320, 180};
+        for (std::int32_t frame = 0; frame < 50; frame += 5) {
+            record.samples.push_back({frame, {}, {}});
+            KxDetectionLook look{frame, {}};
+            for (const float left : lefts) {
+                look.found.push_back({left, 0.2F, 0.1F, 0.5F, 0.9F, KxDetectionKind::Person});
+            }
+            record.looks.push_back(look);
+        }
+        return KxDecide(record, task.request, {}, KxCancelToken()).findings.shots.at(0).confidence;
+    };
+    EXPECT_GT(confidence({0.4F}), 0.9F);
+    EXPECT_LT(confidence({0.05F, 0.85F}), 0.6F);
+    EXPECT_EQ(confidence({}), 0.0F);
+}
+
 TEST(KxSubjectDecision, FindingsContainTheEvidenceThatWasUsed)
 {
     const auto peak = [](double concentration) {

@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QTemporaryDir>
@@ -149,6 +150,11 @@ TEST_F(ReframeProgramTest, JsonLinesReportProgressAndResult)
     EXPECT_EQ(events.last(), QStringLiteral("done"));
     EXPECT_EQ(done.value(QStringLiteral("output")).toString(), Path("clip-AutoReframe-9 16.mp4"));
     EXPECT_EQ(done.value(QStringLiteral("frames")).toInt(), 40);
+    const QJsonArray shots = done.value(QStringLiteral("shots")).toArray();
+    ASSERT_EQ(shots.size(), 1);
+    EXPECT_EQ(shots.first().toObject().value(QStringLiteral("end")).toInt(), 40);
+    const double confidence = shots.first().toObject().value(QStringLiteral("confidence")).toDouble(-1.0);
+    EXPECT_TRUE(confidence >= 0.0 && confidence <= 1.0) << confidence;
 }
 
 TEST_F(ReframeProgramTest, RefusesFilesOtherThanVideos)

@@ -203,7 +203,7 @@ TEST_F(ReframeReportTest, NumbersAreThoseOfTheTrack)
     const QList<int> starts{0, Cut, Frames};
     for (int shot = 0; shot < 2; ++shot) {
         const QStringList& row = rows.at(shot);
-        ASSERT_EQ(row.size(), 7);
+        ASSERT_EQ(row.size(), 8);
         double travel = 0.0;
         for (int frame = starts.at(shot) + 1; frame < starts.at(shot + 1); ++frame) {
             travel += std::abs(track->crops.at(frame).cropRect().x() - track->crops.at(frame - 1).cropRect().x());

@@ -155,6 +155,13 @@ private:
                                        FoundSignals::Name(shot.dominantSignal), QString::number(qRound(share * 100.0)));
     }
 
+    static QString ConfidenceOf(const KxSubjectFindings::Shot& shot)
+    {
+        const QString doubt = FoundSignals::Doubt(shot);
+        return doubt.isEmpty() ? FoundSignals::Confidence(shot)
+                               : QStringLiteral("%1: %2").arg(FoundSignals::Confidence(shot), doubt);
+    }
+
     double Travel(const KxSubjectFindings::Shot& shot) const
     {
         double travel = 0.0;
@@ -173,9 +180,10 @@ private:
         const auto frames = shot.end - shot.first;
         const double seconds = static_cast<double>(frames) / std::max(m_track.frameRate.ToDouble(), 1e-3);
         return QStringLiteral("<tr><td>%1</td><td>%2</td><td>%3</td><td>%4</td><td>%5</td><td>%6</td><td>%7 %</td>"
-                              "</tr>\n")
+                              "<td>%8</td></tr>\n")
             .arg(QString::number(index + 1), QString::number(shot.first), Clock(shot.first), Frames(frames),
-                 QString::number(seconds, 'f', 1), DominantSignal(shot), QString::number(Travel(shot) * 100.0, 'f', 1));
+                 QString::number(seconds, 'f', 1), DominantSignal(shot), QString::number(Travel(shot) * 100.0, 'f', 1),
+                 ConfidenceOf(shot));
     }
 
     const CropTrack& m_track;

@@ -109,3 +109,19 @@ double FoundSignals::DominantShare(const KxSubjectFindings& findings, const KxSu
     }
     return all > 0.0 ? dominant / all : 0.0;
 }
+
+QString FoundSignals::Doubt(const KxSubjectFindings::Shot& shot)
+{
+    // On the clips of Docs/ANALYSIS.md these are the least confident fifth of the shots.
+    constexpr float leastConfidence = 0.55F;
+    constexpr float noEvidence = 0.02F;
+    if (shot.evidence < noEvidence) {
+        return QStringLiteral("nothing stands out");
+    }
+    return shot.confidence < leastConfidence ? QStringLiteral("what stands out is in several places") : QString();
+}
+
+QString FoundSignals::Confidence(const KxSubjectFindings::Shot& shot)
+{
+    return QStringLiteral("%1 %").arg(qRound(shot.confidence * 100.0F));
+}

@@ -100,11 +100,10 @@ void PreviewOverlay::DrawPanel(QPainter& painter, const QSizeF& picture, qint64 
         return;
     }
     row.translate(0.0, line);
+    const std::size_t shot = FoundSignals::ShotAt(*m_findings, frame);
     write(row,
-          QStringLiteral("Shot %1 of %2")
-              .arg(QString::number(FoundSignals::ShotAt(*m_findings, frame) + 1),
-                   QString::number(m_findings->shots.size())),
-          QString());
+          QStringLiteral("Shot %1 of %2").arg(QString::number(shot + 1), QString::number(m_findings->shots.size())),
+          QStringLiteral("confidence %1").arg(FoundSignals::Confidence(m_findings->shots[shot])));
     row.translate(0.0, 1.3 * line);
     DrawSignals(painter, row, frame);
 }

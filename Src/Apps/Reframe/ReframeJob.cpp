@@ -1,5 +1,6 @@
 #include <Apps/Reframe/ReframeJob.h>
 
+#include <Apps/Reframe/FoundSignals.h>
 #include <Apps/Reframe/ReframeWait.h>
 #include <KrAutoReframe/Engine/KrAutoReframeAnalyzer.h>
 #include <KrAutoReframe/Engine/KrAutoReframeHelper.h>
@@ -9,6 +10,7 @@
 #include <QDir>
 #include <QEventLoop>
 #include <QFileInfo>
+#include <QJsonArray>
 
 #include <algorithm>
 
@@ -137,8 +139,29 @@ ReframeJob::Ended ReframeJob::FindCrops()
         for (const QString& warning : warnings) {
             m_reporter.Warn(m_input, warning);
         }
+        NoteShots();
     }
     return std::nullopt;
+}
+
+void ReframeJob::NoteShots()
+{
+    const std::shared_ptr<const KxSubjectFindings> findings = KxAutoReframeService::Instance().LastFindings();
+    if (findings == nullptr) {
+        return;
+    }
+    QJsonArray shots;
+    for (const KxSubjectFindings::Shot& shot : findings->shots) {
+        QJsonObject fact{{QStringLiteral("first"), static_cast<qint64>(shot.first)},
+                         {QStringLiteral("end"), static_cast<qint64>(shot.end)},
+                         {QStringLiteral("confidence"), qRound(shot.confidence * 100.0F) / 100.0}};
+        const QString doubt = FoundSignals::Doubt(shot);
+        if (!doubt.isEmpty()) {
+            fact.insert(QStringLiteral("doubt"), doubt);
+        }
+        shots.append(fact);
+    }
+    m_facts.insert(QStringLiteral("shots"), shots);
 }
 
 ReframeJob::Ended ReframeJob::StartAnalysis()

@@ -42,6 +42,8 @@ private:
     Ended StartAnalysis();
     Ended StartApplying();
     Ended WaitForCrops();
+    /// Notes the shots with their confidence as a fact.
+    void NoteShots();
     Ended WriteKeyframes();
     Ended WriteReport();
     Ended WritePreview();

@@ -13,7 +13,7 @@ int ReframeProgram::Run(const ReframeOptions& options)
     KxAutoReframeService::PrepareProgram();
     const KxDetectorFiles::NetworkFolder networks = KxDetectorFiles::FindNetworks(options.models);
     KxAutoReframeService::Instance().SetNetworkFolder(networks.path);
-    const bool explains = !options.report.isEmpty() || options.PreviewIsVideo();
+    const bool explains = !options.report.isEmpty() || options.PreviewIsVideo() || options.json;
     KxAutoReframeService::Instance().SetFindings(explains ? KxAutoReframeService::Findings::Keep
                                                           : KxAutoReframeService::Findings::Drop);
     KxAutoReframeService::Instance().SetRecordFolder(KxRecordStore::ChooseFolder(options.cache));

@@ -61,9 +61,21 @@ float KxCentreScore::Excess(double centre, const KxSignalProfile& profile) const
     if (m_spacing < LeastSpacing) {
         return 0.0F;
     }
+    return std::max(Inside(centre, profile) - Sum(m_meanWindow, profile), 0.0F);
+}
+
+float KxCentreScore::Inside(double centre, const KxSignalProfile& profile) const
+{
+    return Sum(m_windows[PositionOf(centre)], profile);
+}
+
+std::size_t KxCentreScore::PositionOf(double centre) const
+{
+    if (m_spacing < LeastSpacing) {
+        return 0;
+    }
     const double position = (centre - m_first) / m_spacing;
-    const auto nearest = static_cast<std::size_t>(std::lround(std::clamp(position, 0.0, Positions - 1.0)));
-    return std::max(Sum(m_windows[nearest], profile) - Sum(m_meanWindow, profile), 0.0F);
+    return static_cast<std::size_t>(std::lround(std::clamp(position, 0.0, Positions - 1.0)));
 }
 
 double KxCentreScore::CentreAt(std::size_t position) const

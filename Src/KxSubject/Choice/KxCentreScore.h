@@ -23,6 +23,10 @@ public:
     /// The evidence under the window at the position nearest to a centre, less the average over all positions; not
     /// below 0. Evidence that is spread evenly prefers no position, however much it is.
     float Excess(double centre, const KxSignalProfile& profile) const;
+    /// The evidence under the window at the position nearest to a centre.
+    float Inside(double centre, const KxSignalProfile& profile) const;
+    /// The position nearest to a centre.
+    std::size_t PositionOf(double centre) const;
     /// The centre at a position, in fractions of the picture; positions are equally spaced between the geometry's ends.
     double CentreAt(std::size_t position) const;
     /// Between two neighbouring positions, in fractions of the picture; 0 when the crop cannot move.

@@ -5,8 +5,8 @@
 #include <KxMediaLibrary/KxThumbnailer.h>
 #include <KxModel/KxAutoReframeService.h>
 #include <KxModel/KxDetectorFiles.h>
-#include <KxModel/KxRecordStore.h>
 #include <KxModel/KxMediaItem.h>
+#include <KxModel/KxRecordStore.h>
 #include <KxModel/KxSimpleTimeline.h>
 #include <KxRender/KxRenderJob.h>
 

@@ -1,0 +1,28 @@
+#include <Apps/Reframe/FoundSignals.h>
+
+#include <gtest/gtest.h>
+
+namespace
+{
+
+KxSubjectFindings::Shot Shot(float confidence, float evidence)
+{
+    KxSubjectFindings::Shot shot;
+    shot.confidence = confidence;
+    shot.evidence = evidence;
+    return shot;
+}
+
+} // namespace
+
+TEST(FoundSignals, AShotWhoseEvidenceTheCropHoldsIsNotDoubtful)
+{
+    EXPECT_TRUE(FoundSignals::Doubt(Shot(0.9F, 1.0F)).isEmpty());
+    EXPECT_EQ(FoundSignals::Confidence(Shot(0.624F, 1.0F)), QStringLiteral("62 %"));
+}
+
+TEST(FoundSignals, TheReasonOfADoubtIsNamed)
+{
+    EXPECT_EQ(FoundSignals::Doubt(Shot(0.4F, 1.0F)), QStringLiteral("what stands out is in several places"));
+    EXPECT_EQ(FoundSignals::Doubt(Shot(0.0F, 0.0F)), QStringLiteral("nothing stands out"));
+}
