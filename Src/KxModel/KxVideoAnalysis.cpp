@@ -209,6 +209,7 @@ KxAnalysis::Result KxVideoAnalysis::Run(const std::function<void(int percent)>& 
         return result;
     }
     result.crops = ResultsOf(decision.crops);
+    decision.crops = {};
     if (m_settings.wantsFindings) {
         result.findings = std::make_shared<KxSubjectFindings>(std::move(decision.findings));
     }

@@ -53,9 +53,10 @@ struct KxAnalysisSettings {
 class KXMODEL_API KxVideoAnalysis final : public KxAnalysis
 {
 public:
-    /// Beyond this number of frames (a day at 60 frames a second) a file is refused: one whose time stamps have a gap
-    /// of months would need more memory for its crops than any computer has.
-    static constexpr qint64 MostFrames = 6000000;
+    /// Beyond this number of frames (a day at 30 frames a second) a file is refused: one whose time stamps have a gap
+    /// of months would need more memory for its crops than any computer has. At this number a whole run of `reframe`
+    /// takes 1 GB.
+    static constexpr qint64 MostFrames = 2600000;
 
     /// Reads the file's header. The error message of a failure names the file and the reason.
     static KxResult<std::unique_ptr<KxAnalysis>> Open(const QString& path, const IKxAutoReframeParam& param,

@@ -264,7 +264,7 @@ TEST_F(KxAutoReframeServiceTest, TimeStampsThatSpanMoreFramesThanAnyVideoHasAreR
     ASSERT_TRUE(MadeVideo::Make(path, recipe));
     EXPECT_FALSE(m_service.StartTask(path, m_param));
     EXPECT_EQ(m_service.LastErrorMessage(),
-              QStringLiteral("Cannot analyse pause.mkv: its time stamps span 7000040 frames, the limit is 6000000."));
+              QStringLiteral("Cannot analyse pause.mkv: its time stamps span 7000040 frames, the limit is 2600000."));
 }
 
 TEST_F(KxAutoReframeServiceTest, APauseOfDaysInTheTimeStampsIsHeld)
