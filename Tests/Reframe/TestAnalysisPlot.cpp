@@ -45,7 +45,99 @@ QImage Heat(const KxSubjectFindings& findings)
     return findings.freeAxis == KxAxis::Across ? heat.mirrored(false, true) : heat;
 }
 
+/// Two shots of 20 frames with two samples each.
+KxSubjectFindings FindingsOfTwoShots()
+{
+    KxSubjectFindings findings;
+    findings.shots = {{0, 20, KxSignal::Faces}, {20, Frames, KxSignal::Faces}};
+    for (int i = 0; i < 4; ++i) {
+        KxSubjectFindings::Sample sample;
+        sample.frame = 10 * i;
+        sample.wanted = 0.25 * (i + 1);
+        findings.samples.push_back(sample);
+    }
+    return findings;
+}
+
+/// An attribute of the `index`-th element of a plot that begins with `start`.
+QString AttributeOf(const QString& plot, const QString& start, const QString& name, int index = 0)
+{
+    const QString element = plot.section(start, index + 1, index + 1).section(QLatin1Char('>'), 0, 0);
+    return element.section(name + QStringLiteral("=\""), 1, 1).section(QLatin1Char('"'), 0, 0);
+}
+
 } // namespace
+
+TEST(AnalysisPlot, TheWantedCentreIsALineForEachShot)
+{
+    const CropTrack track = Track();
+    const QString plot = AnalysisPlot(track, FindingsOfTwoShots()).Path();
+    // A frame is 28 pixels wide, the picture 300 high, with its right side at the top.
+    EXPECT_EQ(AttributeOf(plot, QStringLiteral("<path class=\"wanted\""), QStringLiteral("d")).toStdString(),
+              "M64.0,247.0 L344.0,172.0 M624.0,97.0 L904.0,22.0 ");
+}
+
+TEST(AnalysisPlot, TheCropsCentreIsALineForEachShotUpToTheEnd)
+{
+    CropTrack track = Track();
+    for (int frame = 20; frame < Frames; ++frame) {
+        track.crops[frame].setCropRect(QRectF(0.5, 0.0, 0.5, 1.0));
+    }
+    const KxSubjectFindings findings = FindingsOfTwoShots();
+    const QString plot = AnalysisPlot(track, findings).Path();
+    const QString line = AttributeOf(plot, QStringLiteral("<path class=\"middle\""), QStringLiteral("d"));
+    EXPECT_TRUE(line.startsWith(QStringLiteral("M64.0,172.0 L92.0,172.0 "))) << line.toStdString();
+    EXPECT_TRUE(line.contains(QStringLiteral(" L596.0,172.0 L624.0,172.0 M624.0,97.0 L652.0,97.0 ")))
+        << line.toStdString();
+    EXPECT_TRUE(line.endsWith(QStringLiteral(" L1156.0,97.0 L1184.0,97.0 "))) << line.toStdString();
+    const QString edge = QStringLiteral("<path class=\"edge\"");
+    EXPECT_TRUE(AttributeOf(plot, edge, QStringLiteral("d"), 0).startsWith(QStringLiteral("M64.0,247.0 ")));
+    EXPECT_TRUE(AttributeOf(plot, edge, QStringLiteral("d"), 1).startsWith(QStringLiteral("M64.0,97.0 ")));
+}
+
+TEST(AnalysisPlot, ShotsAreNumberedAndSeparated)
+{
+    const CropTrack track = Track();
+    const QString plot = AnalysisPlot(track, FindingsOfTwoShots()).Path();
+    EXPECT_EQ(plot.count(QStringLiteral("class=\"cut\"")), 1);
+    EXPECT_EQ(AttributeOf(plot, QStringLiteral("<line class=\"cut\""), QStringLiteral("x1")), QStringLiteral("624.0"));
+    EXPECT_TRUE(plot.contains(QStringLiteral("<text x=\"67.0\" y=\"15.0\" text-anchor=\"start\">1</text>")));
+    EXPECT_TRUE(plot.contains(QStringLiteral("<text x=\"627.0\" y=\"15.0\" text-anchor=\"start\">2</text>")));
+}
+
+TEST(AnalysisPlot, SignalsLieOnTopOfEachOther)
+{
+    KxSubjectFindings findings = FindingsOfTwoShots();
+    const auto score = [&findings](std::size_t sample, KxSignal signal) -> float& {
+        return findings.samples[sample].scores[static_cast<std::size_t>(signal)];
+    };
+    score(0, KxSignal::Motion) = 0.5F;
+    score(0, KxSignal::Faces) = 0.5F;
+    score(1, KxSignal::Faces) = 0.25F;
+    const CropTrack track = Track();
+    const QString plot = AnalysisPlot(track, findings).Signals();
+    const auto areaOf = [&plot](int index) {
+        return AttributeOf(plot, QStringLiteral("<polygon"), QStringLiteral("points"), index);
+    };
+    // From below: saliency, motion, movers, faces. The strongest sample is 130 pixels high.
+    EXPECT_TRUE(areaOf(1).startsWith(QStringLiteral("64.0,87.0 92.0,87.0 "))) << areaOf(1).toStdString();
+    EXPECT_TRUE(areaOf(1).endsWith(QStringLiteral(" 92.0,152.0 64.0,152.0 "))) << areaOf(1).toStdString();
+    EXPECT_TRUE(areaOf(3).startsWith(QStringLiteral("64.0,22.0 92.0,22.0 "))) << areaOf(3).toStdString();
+    EXPECT_TRUE(areaOf(3).endsWith(QStringLiteral(" 92.0,87.0 64.0,87.0 "))) << areaOf(3).toStdString();
+    EXPECT_TRUE(areaOf(3).contains(QStringLiteral(" 344.0,119.5 372.0,119.5 "))) << areaOf(3).toStdString();
+    EXPECT_TRUE(areaOf(3).contains(QStringLiteral(" 624.0,152.0 652.0,152.0 "))) << areaOf(3).toStdString();
+}
+
+TEST(AnalysisPlot, TheTimeAxisHasAtMostTwelveSteps)
+{
+    const CropTrack track = Track();
+    const QString plot = AnalysisPlot(track, FindingsOfTwoShots()).Path();
+    // 1.6 seconds in steps of 0.2.
+    EXPECT_EQ(plot.count(QStringLiteral("class=\"tick\"")), 9);
+    EXPECT_TRUE(plot.contains(QStringLiteral(">0:00.2</text>"))) << plot.right(2000).toStdString();
+    EXPECT_EQ(AttributeOf(plot, QStringLiteral("<line class=\"tick\""), QStringLiteral("x1"), 1),
+              QStringLiteral("204.0"));
+}
 
 TEST(AnalysisPlot, TheHeatMapShowsTheSquareRootOfTheEvidenceInItsColours)
 {
