@@ -190,8 +190,9 @@ struct KxSubjectOptions {
     } evidence;
 
     struct Path {
-        /// 1.3 to 2.3 of the tracker, a width, over the square root of a sample's seconds; spread
-        double moveCost = 1.8;
+        /// 1.5 to 4 of the tracker, a width, over the square root of a sample's seconds; cross: from 2 on all score
+        /// alike, and more is calmer
+        double moveCost = 3.0;
         double stepsPerSecond = 10.0;     ///< 5 to 20 nodes of the smoothed path; chosen
         double speedWeight = 0.35;        ///< 0.25 to 0.5 on the first derivative; spread
         double accelerationWeight = 0.12; ///< 0.08 to 0.2 on the second; spread
