@@ -69,19 +69,21 @@ TEST_F(KxThumbnailerTest, APictureIsNeverEnlarged)
     EXPECT_EQ(ready.at(0).at(1).value<QImage>().size(), QSize(160, 96));
 }
 
-TEST_F(KxThumbnailerTest, ABlackBeginningIsSkipped)
+TEST_F(KxThumbnailerTest, ABlackOrWhiteBeginningIsSkipped)
 {
     MadeVideo::Recipe recipe;
     recipe.frames = FrameCount;
-    recipe.draw = [&recipe](int number) {
-        QImage black(recipe.size, QImage::Format_RGB888);
-        black.fill(Qt::black);
-        return number < 8 ? black : MadeVideo::Draw(number, recipe.size);
-    };
-    thumbnailer->Request(Clip(QStringLiteral("fade.mp4"), recipe), QSize(160, 96));
-    ASSERT_TRUE(WaitForAnswers(1));
-    ASSERT_EQ(ready.count(), 1);
-    EXPECT_EQ(MadeVideo::ReadNumber(ready.at(0).at(1).value<QImage>()), FrameCount * 35 / 100);
+    for (const Qt::GlobalColor colour : {Qt::black, Qt::white}) {
+        recipe.draw = [&recipe, colour](int number) {
+            QImage plain(recipe.size, QImage::Format_RGB888);
+            plain.fill(colour);
+            return number < 8 ? plain : MadeVideo::Draw(number, recipe.size);
+        };
+        thumbnailer->Request(Clip(QStringLiteral("fade%1.mp4").arg(colour), recipe), QSize(160, 96));
+        ASSERT_TRUE(WaitForAnswers(1));
+        ASSERT_EQ(ready.count(), 1);
+        EXPECT_EQ(MadeVideo::ReadNumber(ready.takeFirst().at(1).value<QImage>()), FrameCount * 35 / 100);
+    }
 }
 
 TEST_F(KxThumbnailerTest, APictureNeedsAContrastOf24GreyLevels)
