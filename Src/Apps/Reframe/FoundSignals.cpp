@@ -25,7 +25,7 @@ QString FoundSignals::Name(KxSignal signal)
     case KxSignal::Faces:
         return QStringLiteral("faces");
     case KxSignal::Detections:
-        return QStringLiteral("people, animals");
+        return QStringLiteral("detected");
     }
     return {};
 }
@@ -42,7 +42,7 @@ QString FoundSignals::Explanation(KxSignal signal)
     case KxSignal::Faces:
         return QStringLiteral("faces");
     case KxSignal::Detections:
-        return QStringLiteral("people and animals that the detector finds");
+        return QStringLiteral("detected: people and animals");
     }
     return {};
 }
