@@ -2,14 +2,14 @@
 
 #include <KxMedia/Read/KxVideoSource.h>
 
-#include <algorithm>
-
 namespace
 {
 
 // Skipped pictures must not leave gaps of more than a quarter of a second in the analysis: streams that consist mostly
 // of non-reference pictures are decoded completely.
 constexpr int LargestHolesASecond = 4;
+// The analysis takes ten samples a second, and skipping leaves about half of the pictures.
+constexpr double LowestRateToSkip = 20.0;
 // The least that a truncated file lacks. A smaller loss may be due to skipping the last pictures.
 constexpr double EarlyEndSeconds = 0.5;
 
@@ -21,9 +21,11 @@ public:
     explicit Impl(std::unique_ptr<KxVideoSource> videoSource)
         : source(std::move(videoSource))
     {
-        const int hole = static_cast<int>(source->Grid().Rate().ToDouble() / LargestHolesASecond);
-        source->Decoder().SetLongestSkip(std::max(2, hole));
-        source->Decoder().SetSkip(KxVideoDecoder::Skip::NonReference);
+        const double rate = source->Grid().Rate().ToDouble();
+        if (rate >= LowestRateToSkip) {
+            source->Decoder().SetLongestSkip(static_cast<int>(rate / LargestHolesASecond));
+            source->Decoder().SetSkip(KxVideoDecoder::Skip::NonReference);
+        }
     }
 
     std::unique_ptr<KxVideoSource> source;
