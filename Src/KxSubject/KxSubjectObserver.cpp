@@ -42,7 +42,8 @@ public:
     Impl(const KxSubjectSource& source, const KxSubjectModels& models, const KxSubjectOptions& options)
         : m_source(Checked(source))
         , m_workingSize(WorkingSizeOf(m_source, options.sampling))
-        , m_shots(options.shots)
+        , m_shots(options.shots,
+                  [this](std::int64_t first, std::int64_t last) { return m_signals.InCommon(first, last); })
         , m_signals(options, m_workingSize, m_source.frameRate, models)
         , m_step(std::max<std::int64_t>(1, static_cast<std::int64_t>(std::floor(
                                                m_source.frameRate / options.sampling.wantedPicturesPerSecond + 0.01))))
@@ -87,10 +88,10 @@ void KxSubjectObserver::Impl::AddPicture(std::int64_t frame, const KxPictureView
 KxSubjectRecord KxSubjectObserver::Impl::Finish()
 {
     KxSubjectRecord record;
+    record.boundaries = m_shots.Boundaries(m_source.frameRate);
     m_signals.Finish(record);
     record.source = m_source;
     record.workingSizePx = WorkingSize();
-    record.boundaries = m_shots.Boundaries(m_source.frameRate);
     return record;
 }
 

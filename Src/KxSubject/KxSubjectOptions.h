@@ -62,8 +62,20 @@ struct KxSubjectOptions {
             double wipeMisfit = 0.62;          ///< 0.4 to 0.8: `misfit` for a wipe; shots
             double wipeSimilarity = 0.25;      ///< 0.1 to 0.5: `similarity` for a wipe; shots
             double wipeOutside = 0.2;          ///< 0.1 to 0.4: `outside` for a wipe; shots
+            /// 0.15 to 0.4 of the textured blocks in common: the ends belong to one shot; shots: dissolves have 0.1
+            double inCommon = 0.22;
+            /// 0.5 to 0.7: the same near a wipe, where the ends still have a part of both shots; shots
+            double wipeInCommon = 0.6;
         } blends;
     } shots;
+
+    /// What two pictures have in common. Blocks are a tenth of the longer side.
+    struct Scenes {
+        double leastContrast = 2.0;   ///< 1 to 4 of 255: a block with a smaller deviation shows nothing; shots
+        double blockSimilarity = 0.7; ///< 0.5 to 0.9, a correlation: a more similar block is the same; shots
+        int reachPx = 3;              ///< 1 to 5 of 160 each way, from where the camera's movement puts a block; shots
+        double foundByChance = 2.5;   ///< 2 to 4 blocks that two scenes may have in common; shots
+    } scenes;
 
     struct Bars {
         int blackLevel = 22;        ///< 16 to 40 of 255; trial

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace
 {
@@ -27,8 +28,9 @@ double Similarity(const KxShotPicture& left, const KxShotPicture& right)
 
 } // namespace
 
-KxShotBlends::KxShotBlends(const KxSubjectOptions::Shots& options)
+KxShotBlends::KxShotBlends(const KxSubjectOptions::Shots& options, KxInCommon inCommon)
     : m_options(options)
+    , m_inCommon(std::move(inCommon))
 {
 }
 
@@ -59,6 +61,23 @@ void KxShotBlends::AddPicture(std::int64_t frame, const cv::Mat& grey)
     }
 }
 
+bool KxShotBlends::IsExplained(const KxShotWindow::Passage& passage) const
+{
+    if (!m_inCommon) {
+        return false;
+    }
+    // The window may hold the middle of the transition only, and its ends be blends with structure in common.
+    const auto inCommon = [this, &passage](std::int64_t margin) {
+        return m_inCommon(std::max(passage.first - margin, m_pictures.front().frame), passage.last + margin);
+    };
+    const std::int64_t length = passage.last - passage.first + 1;
+    const KxSubjectOptions::Shots::Blends& options = m_options.blends;
+    if (!passage.isWipe) {
+        return inCommon(length / 4 + 2) > options.inCommon;
+    }
+    return inCommon(length / 4 + 2) > options.wipeInCommon || inCommon(length) > options.inCommon;
+}
+
 void KxShotBlends::LookAt(std::size_t begin, std::size_t end, Parts& parts) const
 {
     const auto passage = KxShotWindow(m_pictures, begin, end, m_options).Find();
@@ -69,7 +88,7 @@ void KxShotBlends::LookAt(std::size_t begin, std::size_t end, Parts& parts) cons
     const KxShotPicture& last = m_pictures[end];
     if (first.plainSince) {
         Keep(parts.fadesIn, {*passage, first.plainSince, last});
-    } else {
+    } else if (last.plainSince || !IsExplained(*passage)) {
         Keep(last.plainSince ? parts.fadesOut : parts.dissolves, {*passage, last.plainSince, first});
     }
 }

@@ -9,7 +9,12 @@
 
 #include <cstdint>
 #include <deque>
+#include <functional>
 #include <vector>
+
+/// The part of the pictures around two frames that shows the same, 0 to 1, whatever the camera and the light did. It is
+/// asked soon after the pictures were added, about frames up to 7 times 32 pictures back.
+using KxInCommon = std::function<double(std::int64_t first, std::int64_t last)>;
 
 /// Finds the gradual shot boundaries of a video from its pictures as they come. Every picture is compared with some
 /// earlier ones, 2 to 128 pictures back:
@@ -23,11 +28,12 @@
 /// 5. a change of light, or black and back again: the two are similar in structure;
 /// 6. a subject that passes close in front of the camera, or a picture that is shown briefly: the earlier picture soon
 ///    comes back;
-/// 7. a cut: there are no intermediate frames.
+/// 7. a cut: there are no intermediate frames;
+/// 8. two pictures that have much in common, according to a function that knows the camera's movement.
 class KXSUBJECT_API KxShotBlends
 {
 public:
-    explicit KxShotBlends(const KxSubjectOptions::Shots& options);
+    explicit KxShotBlends(const KxSubjectOptions::Shots& options, KxInCommon inCommon = {});
 
     /// `grey` is CV_8UC1, of any size; `frame` grows from call to call.
     void AddPicture(std::int64_t frame, const cv::Mat& grey);
@@ -47,11 +53,13 @@ private:
         std::vector<Part> fadesOut;
         std::vector<Part> fadesIn;
     };
+    bool IsExplained(const KxShotWindow::Passage& passage) const;
     void LookAt(std::size_t begin, std::size_t end, Parts& parts) const;
     static void Keep(std::vector<Part>& parts, const Part& part);
     std::vector<KxShotBoundary> FadesOf(const Parts& parts) const;
 
     KxSubjectOptions::Shots m_options;
+    KxInCommon m_inCommon;
     std::deque<KxShotPicture> m_pictures; ///< the newest last
     Parts m_parts;
 };

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <utility>
 
 namespace
 {
@@ -21,9 +22,9 @@ bool IsInside(const KxShotBoundary& cut, const KxShotBoundary& blend, std::int64
 
 } // namespace
 
-KxShotDetector::KxShotDetector(const KxSubjectOptions::Shots& options)
+KxShotDetector::KxShotDetector(const KxSubjectOptions::Shots& options, KxInCommon inCommon)
     : m_options(options)
-    , m_blends(options)
+    , m_blends(options, std::move(inCommon))
 {
 }
 

@@ -27,7 +27,8 @@
 class KXSUBJECT_API KxShotDetector
 {
 public:
-    explicit KxShotDetector(const KxSubjectOptions::Shots& options);
+    /// `inCommon` is asked about dissolves only, see KxShotBlends.
+    explicit KxShotDetector(const KxSubjectOptions::Shots& options, KxInCommon inCommon = {});
 
     /// Reserves memory for so many pictures.
     void Reserve(std::int64_t pictures);

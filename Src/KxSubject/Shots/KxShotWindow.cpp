@@ -232,6 +232,6 @@ std::optional<KxShotWindow::Passage> KxShotWindow::Find() const
     const double middle = (quarter + threeQuarters) / 2.0;
     const double half = threeQuarters - quarter;
     return Passage{std::max<std::int64_t>(std::llround(middle - half), m_begin.frame), std::llround(middle),
-                   std::min<std::int64_t>(std::llround(middle + half), m_end.frame),
-                   std::sqrt(m_distance) * confidence};
+                   std::min<std::int64_t>(std::llround(middle + half), m_end.frame), std::sqrt(m_distance) * confidence,
+                   sort == Sort::Wipe};
 }

@@ -37,6 +37,7 @@ public:
         std::int64_t middle;
         std::int64_t last;
         double strength; ///< more for ends farther apart and for a better fit
+        bool isWipe;
     };
     std::optional<Passage> Find() const;
 

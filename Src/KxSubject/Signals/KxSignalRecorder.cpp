@@ -27,6 +27,7 @@ KxSignalRecorder::KxSignalRecorder(const KxSubjectOptions& options, cv::Size pic
     , m_frameRate(frameRate)
     , m_bars(options.bars, picturePx)
     , m_camera(options.camera)
+    , m_scenes(options.scenes, picturePx)
     , m_motion(options.motion)
     , m_movers(options.movers)
     , m_saliency(options.saliency)
@@ -65,6 +66,7 @@ void KxSignalRecorder::AddPicture(std::int64_t frame, const cv::Mat& picture)
     cv::cvtColor(picture, now.grey, cv::COLOR_BGR2GRAY);
     m_bars.AddPicture(now.grey);
     now.cameraHere = CameraTo(now);
+    m_scenes.AddSample(frame, now.grey, now.cameraHere);
     MeasureMotion(&now);
 
     const cv::Rect content = m_bars.Content();

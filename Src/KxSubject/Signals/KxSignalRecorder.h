@@ -11,13 +11,14 @@
 #include <KxSubject/Signals/KxMoverTracks.h>
 #include <KxSubject/Signals/KxObjectDetector.h>
 #include <KxSubject/Signals/KxSaliencyMap.h>
+#include <KxSubject/Signals/KxSceneContinuity.h>
 
 #include <optional>
 #include <vector>
 
 /// Runs the signals over a video's pictures as they come and records their evidence: profiles of the samples, movers,
 /// faces, bars. The motion of a sample is measured against both of its neighbours, so it is known one sample later.
-/// Keeps two pictures.
+/// Keeps two pictures, and small ones of the last seconds.
 class KXSUBJECT_API KxSignalRecorder
 {
 public:
@@ -34,6 +35,12 @@ public:
     /// Measures the motion of the last sample and puts everything that was seen into the record. Call once, after the
     /// last picture.
     void Finish(KxSubjectRecord& record);
+
+    /// See KxSceneContinuity; about the pictures so far.
+    double InCommon(std::int64_t first, std::int64_t last) const
+    {
+        return m_scenes.InCommon(first, last, m_bars.Content());
+    }
 
     bool IsObjectDetectorRefused() const { return m_isObjectDetectorRefused; }
     const KxFaceTracks& Faces() const { return m_faces; }
@@ -58,6 +65,7 @@ private:
     double m_frameRate;
     KxBarDetector m_bars;
     KxCameraMovement m_camera;
+    KxSceneContinuity m_scenes;
     KxMotionMap m_motion;
     KxMoverTracks m_movers;
     KxSaliencyMap m_saliency;

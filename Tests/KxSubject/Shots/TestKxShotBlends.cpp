@@ -225,6 +225,27 @@ TEST(KxShotBlends, Case7ACutIsNotABlend)
     }
 }
 
+TEST(KxShotBlends, Case8PicturesWithMuchInCommonHaveNoBoundary)
+{
+    const cv::Mat one = Scene(1);
+    const cv::Mat other = Scene(2);
+    for (const double inCommon : {0.0, 1.0}) {
+        std::vector<std::int64_t> asked;
+        KxShotBlends blends(KxSubjectOptions().shots, [&asked, inCommon](std::int64_t first, std::int64_t last) {
+            asked = {first, last};
+            return inCommon;
+        });
+        for (int frame = 0; frame < First + 20 + After; ++frame) {
+            const cv::Mat picture = Mixed(Shot(one, frame), Shot(other, frame), Share(frame, 20));
+            blends.AddPicture(frame, MadePictures::Grey(picture));
+        }
+        EXPECT_THAT(blends.Found(), SizeIs(inCommon < 0.5 ? 1 : 0));
+        ASSERT_THAT(asked, SizeIs(2));
+        EXPECT_LT(asked[0], First + 3) << "still the first shot";
+        EXPECT_GT(asked[1], First + 20 - 3) << "already the second shot";
+    }
+}
+
 TEST(KxShotBlends, WithoutPicturesThereAreNoBlends)
 {
     EXPECT_THAT(Find(0, [](int) { return Plain(0.0); }), IsEmpty());
