@@ -75,7 +75,7 @@ bool KxShotBlends::IsExplained(const KxShotWindow::Passage& passage) const
     if (!passage.isWipe) {
         return inCommon(length / 4 + 2) > options.inCommon;
     }
-    return inCommon(length / 4 + 2) > options.wipeInCommon || inCommon(length) > options.inCommon;
+    return inCommon(length / 4 + 1) > options.wipeInCommon || inCommon(length) > options.inCommon;
 }
 
 void KxShotBlends::LookAt(std::size_t begin, std::size_t end, Parts& parts) const
