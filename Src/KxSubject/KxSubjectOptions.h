@@ -62,8 +62,9 @@ struct KxSubjectOptions {
             double wipeMisfit = 0.62;          ///< 0.4 to 0.8: `misfit` for a wipe; shots
             double wipeSimilarity = 0.25;      ///< 0.1 to 0.5: `similarity` for a wipe; shots
             double wipeOutside = 0.2;          ///< 0.1 to 0.4: `outside` for a wipe; shots
-            /// 0.15 to 0.4 of the textured blocks in common: the ends belong to one shot; shots: dissolves have 0.1
-            double inCommon = 0.22;
+            /// 0.15 to 0.4 of the textured blocks in common: the ends belong to one shot; shots: dissolves have 0.1,
+            /// a few up to 0.3; a lamp that is switched on leaves little more
+            double inCommon = 0.31;
             /// 0.5 to 0.7: the same near a wipe, where the ends still have a part of both shots; shots
             double wipeInCommon = 0.6;
         } blends;
@@ -204,7 +205,7 @@ struct KxSubjectOptions {
     struct Path {
         /// 1.5 to 4 of the tracker, a width, over the square root of a sample's seconds; cross: from 2 on all score
         /// alike, and more is calmer
-        double moveCost = 3.0;
+        double moveCost = 2.4;
         double stepsPerSecond = 10.0;     ///< 5 to 20 nodes of the smoothed path; chosen
         double speedWeight = 0.35;        ///< 0.25 to 0.5 on the first derivative; spread
         double accelerationWeight = 0.12; ///< 0.08 to 0.2 on the second; spread
