@@ -58,7 +58,7 @@ protected:
     bool MakeLargeVideo(const QString& path, int frames) const
     {
         const QString arguments =
-            QStringLiteral("-f lavfi -i testsrc2=size=%1x%1:rate=10 -frames:v %2 -c:v libx264 -preset ultrafast "
+            QStringLiteral("-f lavfi -i testsrc2=size=%1x%1:rate=25 -frames:v %2 -c:v libx264 -preset ultrafast "
                            "-refs %3 -bf 2 -threads 1 -pix_fmt yuv420p")
                 .arg(QString::number(SidePx), QString::number(frames), QString::number(ReferencePictures));
         return MadeVideo::RunFfmpeg(arguments.split(QLatin1Char(' ')) << path);

@@ -2,12 +2,13 @@
 
 #include <KxMedia/Read/KxVideoReader.h>
 
-/// Reads a file's pictures once, in order, for the analysis: the loop filter and the pictures that no other picture
-/// needs may be skipped, which saves about half of the work. One thread at a time.
+/// Reads a file's pictures once, in order, for the analysis: the loop filter and, from 20 pictures a second on, the
+/// pictures that no other picture needs may be skipped, which saves about half of the work. One thread at a time.
 ///
 /// Memory: pictures above 8192 x 4352 pixels are decoded by a single thread, which holds the stream's reference
-/// pictures and at most two more. A picture takes about two bytes per pixel (8 bits, 4:2:0, H.264): 800 MB for 8192 x
-/// 8192 and four reference pictures. Smaller pictures are decoded by up to nine threads, each of which holds one more.
+/// pictures and at most two more (three where none may be skipped). A picture takes about two bytes per pixel (8 bits,
+/// 4:2:0, H.264): 800 MB for 8192 x 8192 and four reference pictures. Smaller pictures are decoded by up to nine
+/// threads, each of which holds one more.
 class KXMEDIA_API KxVideoScanner
 {
 public:
