@@ -109,34 +109,6 @@ double Middle(const KxCropRect& crop)
 
 } // namespace
 
-TEST(KxSubjectDecision, TheWorkingSizeKeepsTheAspectAndIs320AtItsLongerSide)
-{
-    Task task = MakeTask(10);
-    EXPECT_EQ(Observer(task).WorkingSize(), (KxIntSize{320, 180}));
-    std::swap(task.source.pictureWidthPx, task.source.pictureHeightPx);
-    EXPECT_EQ(Observer(task).WorkingSize(), (KxIntSize{180, 320}));
-    task.source.pictureWidthPx = 64;
-    task.source.pictureHeightPx = 48;
-    EXPECT_EQ(Observer(task).WorkingSize(), (KxIntSize{320, 240}));
-}
-
-TEST(KxSubjectDecision, FramesOutsideAreNotWantedAndHighRatesAreSubsampled)
-{
-    Task task = MakeTask(100);
-    const KxSubjectObserver usual = Observer(task);
-    EXPECT_TRUE(usual.Wants(0));
-    EXPECT_TRUE(usual.Wants(99));
-    EXPECT_FALSE(usual.Wants(-1));
-    EXPECT_FALSE(usual.Wants(100));
-    task.source.frameRate = 240.0;
-    const KxSubjectObserver quick = Observer(task);
-    int wanted = 0;
-    for (int frame = 0; frame < 100; ++frame) {
-        wanted += quick.Wants(frame) ? 1 : 0;
-    }
-    EXPECT_EQ(wanted, 25);
-}
-
 TEST(KxSubjectDecision, TheCropKeepsAMovingObjectDuringAPan)
 {
     const auto crops =
@@ -485,18 +457,6 @@ TEST(KxSubjectDecision, TheSamePicturesGiveTheSameCrops)
         EXPECT_EQ(first[i].x, second[i].x);
         EXPECT_EQ(first[i].y, second[i].y);
     }
-}
-
-TEST(KxSubjectDecision, AnObjectDetectorThatCannotBeRunIsReported)
-{
-    EXPECT_FALSE(Observer(MakeTask(5)).IsObjectDetectorRefused());
-    EXPECT_TRUE(Observer(MakeTask(5), {{}, "no network"}).IsObjectDetectorRefused());
-}
-
-TEST(KxSubjectDecision, AFaceDetectorThatCannotBeRunIsReported)
-{
-    EXPECT_FALSE(Observer(MakeTask(5)).IsFaceDetectorRefused());
-    EXPECT_TRUE(Observer(MakeTask(5), {{{}, {}, "no network"}, {}}).IsFaceDetectorRefused());
 }
 
 TEST(KxSubjectDecision, TheHostsSettingsOfOpenCvAreLeftAlone)

@@ -164,3 +164,58 @@ TEST(KxSubjectObserver, ADissolveIsABoundaryAlsoWhileTheCameraPans)
         }
     }
 }
+
+namespace
+{
+
+KxSubjectSource Video(std::int64_t frameCount)
+{
+    return {1280, 720, 25.0, frameCount};
+}
+
+KxSubjectObserver ObserverOf(const KxSubjectSource& source, const KxSubjectModels& models = {})
+{
+    return KxSubjectObserver(source, models, {});
+}
+
+} // namespace
+
+TEST(KxSubjectObserver, TheWorkingSizeKeepsTheAspectAndIs320AtItsLongerSide)
+{
+    KxSubjectSource source = Video(10);
+    EXPECT_EQ(ObserverOf(source).WorkingSize(), (KxIntSize{320, 180}));
+    std::swap(source.pictureWidthPx, source.pictureHeightPx);
+    EXPECT_EQ(ObserverOf(source).WorkingSize(), (KxIntSize{180, 320}));
+    source.pictureWidthPx = 64;
+    source.pictureHeightPx = 48;
+    EXPECT_EQ(ObserverOf(source).WorkingSize(), (KxIntSize{320, 240}));
+}
+
+TEST(KxSubjectObserver, FramesOutsideAreNotWantedAndHighRatesAreSubsampled)
+{
+    KxSubjectSource source = Video(100);
+    const KxSubjectObserver usual = ObserverOf(source);
+    EXPECT_TRUE(usual.Wants(0));
+    EXPECT_TRUE(usual.Wants(99));
+    EXPECT_FALSE(usual.Wants(-1));
+    EXPECT_FALSE(usual.Wants(100));
+    source.frameRate = 240.0;
+    const KxSubjectObserver quick = ObserverOf(source);
+    int wanted = 0;
+    for (int frame = 0; frame < 100; ++frame) {
+        wanted += quick.Wants(frame) ? 1 : 0;
+    }
+    EXPECT_EQ(wanted, 25);
+}
+
+TEST(KxSubjectObserver, AnObjectDetectorThatCannotBeRunIsReported)
+{
+    EXPECT_FALSE(ObserverOf(Video(5)).IsObjectDetectorRefused());
+    EXPECT_TRUE(ObserverOf(Video(5), {{}, "no network"}).IsObjectDetectorRefused());
+}
+
+TEST(KxSubjectObserver, AFaceDetectorThatCannotBeRunIsReported)
+{
+    EXPECT_FALSE(ObserverOf(Video(5)).IsFaceDetectorRefused());
+    EXPECT_TRUE(ObserverOf(Video(5), {{{}, {}, "no network"}, {}}).IsFaceDetectorRefused());
+}
