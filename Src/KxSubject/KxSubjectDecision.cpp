@@ -1,13 +1,16 @@
 #include <KxSubject/KxSubjectDecision.h>
 
 #include <KxSubject/Choice/KxCentreScore.h>
+#include <KxSubject/Choice/KxChoiceRanges.h>
 #include <KxSubject/Choice/KxEvidence.h>
 #include <KxSubject/Choice/KxSubjectTracker.h>
 #include <KxSubject/KxSubjectRecord.h>
 #include <KxSubject/Path/KxCropPath.h>
+#include <KxSubject/Path/KxHeldRanges.h>
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
 namespace
 {
@@ -46,7 +49,11 @@ private:
     /// The tracker's cost of a move by one width, in a shot with samples from `begin` up to, but without, `end`: where
     /// pictures are missing, fewer samples have to pay for a move.
     double MoveCost(const Shot& shot, std::size_t begin, std::size_t end) const;
-    std::vector<double> CentresOf(const Shot& shot, const KxCancelToken& cancel);
+    std::vector<double> CentresOf(const Shot& shot, const KxChoiceRanges& choices, const KxCancelToken& cancel);
+    /// Where the crop must be still: nothing where more is to be shown than fits into it.
+    std::optional<double> HeldCentre(const KxSubjectChoice& choice) const;
+    std::vector<KxHeldRange> HeldRanges(const KxChoiceRanges& choices) const;
+    void AddCrops(const Shot& shot, const KxCancelToken& cancel, std::vector<KxCropRect>& crops);
     void RecordFindings(const Shot& shot, const KxEvidence::InShot& evidence, const std::vector<KxPathPoint>& points,
                         std::size_t firstSample);
 
@@ -121,7 +128,39 @@ double Decider::MoveCost(const Shot& shot, std::size_t begin, std::size_t end) c
     return m_options.path.moveCost * patience * std::sqrt(usualRate) * std::min(1.0, rate / usualRate);
 }
 
-std::vector<double> Decider::CentresOf(const Shot& shot, const KxCancelToken& cancel)
+std::optional<double> Decider::HeldCentre(const KxSubjectChoice& choice) const
+{
+    const bool across = m_geometry.FreeAxis() == KxAxis::Across;
+    double centre = across ? choice.centreX : choice.centreY;
+    if (choice.kind == KxChoiceKind::Fit) {
+        double low = 1.0;
+        double high = 0.0;
+        for (const KxSubjectBox& box : choice.boxes) {
+            low = std::min(low, across ? box.x : box.y);
+            high = std::max(high, across ? box.x + box.width : box.y + box.height);
+        }
+        if (choice.boxes.empty() || high - low > m_geometry.Extent()) {
+            return std::nullopt;
+        }
+        centre = (low + high) / 2.0;
+    } else if (choice.kind != KxChoiceKind::Hold) {
+        return std::nullopt;
+    }
+    return std::clamp(centre, m_geometry.MinimumCentre(), m_geometry.MaximumCentre());
+}
+
+std::vector<KxHeldRange> Decider::HeldRanges(const KxChoiceRanges& choices) const
+{
+    std::vector<KxHeldRange> held;
+    for (const KxChoiceRanges::Range& range : choices.Placed()) {
+        if (const std::optional<double> centre = HeldCentre(m_request.choices[range.choice])) {
+            held.push_back({range.first, range.end, *centre});
+        }
+    }
+    return held;
+}
+
+std::vector<double> Decider::CentresOf(const Shot& shot, const KxChoiceRanges& choices, const KxCancelToken& cancel)
 {
     const std::vector<KxSignalSample>& samples = m_record.samples;
     const auto isBefore = [](const KxSignalSample& sample, std::int64_t frame) { return sample.frame < frame; };
@@ -140,11 +179,36 @@ std::vector<double> Decider::CentresOf(const Shot& shot, const KxCancelToken& ca
     for (const std::size_t position : tracker.BestRun()) {
         points.push_back({samples[begin + points.size()].frame, m_score.CentreAt(position)});
     }
+    const std::vector<KxHeldRange> held = HeldRanges(choices);
+    for (const KxHeldRange& range : held) {
+        for (KxPathPoint& point : points) {
+            point.centre = point.frame >= range.first && point.frame < range.end ? range.centre : point.centre;
+        }
+    }
     if (m_request.wantsFindings) {
         RecordFindings(shot, evidence, points, begin);
     }
-    return KxCropPath(m_options.path, m_options.For(m_request.speed), m_geometry)
-        .Draw(points, {shot.first, shot.end, m_record.source.frameRate}, 0.5, cancel);
+    const KxFrameSpan span{shot.first, shot.end, m_record.source.frameRate};
+    std::vector<double> centres =
+        KxCropPath(m_options.path, m_options.For(m_request.speed), m_geometry).Draw(points, span, 0.5, cancel);
+    if (!cancel.IsCancelled()) {
+        KxHoldRanges(centres, span, held, m_options.path.easeSeconds);
+    }
+    return centres;
+}
+
+void Decider::AddCrops(const Shot& shot, const KxCancelToken& cancel, std::vector<KxCropRect>& crops)
+{
+    const KxChoiceRanges choices(m_request.choices, m_record.source.frameRate, shot.first, shot.end);
+    for (const double centre : CentresOf(shot, choices, cancel)) {
+        crops.push_back(m_geometry.At(centre));
+    }
+    for (const KxChoiceRanges::Range& range : choices.Placed()) {
+        const KxSubjectChoice& choice = m_request.choices[range.choice];
+        if (choice.kind == KxChoiceKind::Fit && !HeldCentre(choice)) {
+            std::fill(crops.begin() + range.first, crops.begin() + range.end, m_record.content);
+        }
+    }
 }
 
 void Decider::RecordFindings(const Shot& shot, const KxEvidence::InShot& evidence,
@@ -182,9 +246,7 @@ KxSubjectDecision Decider::Run(const KxCancelToken& cancel)
     m_findings.freeAxis = m_geometry.FreeAxis();
     m_findings.content = m_record.content;
     for (const Shot& shot : Shots()) {
-        for (const double centre : CentresOf(shot, cancel)) {
-            decision.crops.push_back(m_geometry.At(centre));
-        }
+        AddCrops(shot, cancel, decision.crops);
         if (cancel.IsCancelled()) {
             return {};
         }

@@ -15,7 +15,8 @@ struct KxSubjectRecord;
 /// Where the crop is in each frame, and why.
 struct KxSubjectDecision {
     /// One a frame. All have the same size, the largest of the aspect inside the picture (inside what remains of it
-    /// where it has bars).
+    /// where it has bars). Where a choice demands more than fits into that, the crop is the whole picture without its
+    /// bars, which has another aspect.
     std::vector<KxCropRect> crops;
     KxSubjectFindings findings; ///< empty unless the request wants them
 };

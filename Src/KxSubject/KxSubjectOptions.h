@@ -218,7 +218,8 @@ struct KxSubjectOptions {
         int iterations = 60; ///< 40 to 100; clips: 1600 draw random walks up to 0.04 widths elsewhere, these alike
         /// 0.001 to 0.01 widths a second below which the smoothed path is made exactly static; chosen
         double stillSpeed = 0.004;
-        double stillTrim = 0.05; ///< 0 to 0.1 of the samples at each end of the range, that do not count; chosen
+        double easeSeconds = 1.0; ///< 0.5 to 2 for coming to a place that a person chose; chosen
+        double stillTrim = 0.05;  ///< 0 to 0.1 of the samples at each end of the range, that do not count; chosen
     } path;
 
     /// The path's reaction at one motion speed. Widths are the picture's unless the crop's is named. Origin: trial. The

@@ -1,11 +1,13 @@
 #pragma once
 
 #include <KxSubject/KxMotionSpeed.h>
+#include <KxSubject/KxSubjectChoices.h>
 
 /// What is decided on a record.
 struct KxSubjectRequest {
     int aspectWidth = 9;
     int aspectHeight = 16;
     KxMotionSpeed speed = KxMotionSpeed::Auto;
-    bool wantsFindings = false; ///< costs a little time and some 30 bytes a frame
+    bool wantsFindings = false;    ///< costs a little time and some 30 bytes a frame
+    KxSubjectChoices choices = {}; ///< of the person; they replace what the analysis would decide
 };
