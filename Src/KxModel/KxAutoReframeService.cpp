@@ -193,6 +193,12 @@ void KxAutoReframeService::SetRecordFolder(const QString& path)
     m_settings.records->SetFolder(path);
 }
 
+void KxAutoReframeService::SetChoices(KxSubjectChoices choices)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_settings.choices = std::move(choices);
+}
+
 void KxAutoReframeService::SetFindings(Findings findings)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);

@@ -51,6 +51,10 @@ public:
     /// thread.
     void SetRecordFolder(const QString& path);
 
+    /// What the person decided for the video of the tasks that start from now on; at first nothing. Where the record of
+    /// a video is known, only what the choices need is looked at again. Any thread.
+    void SetChoices(KxSubjectChoices choices);
+
     /// Whether the tasks that start from now on keep their intermediate results; by default they do not. Any thread.
     enum class Findings { Drop, Keep };
     void SetFindings(Findings findings);

@@ -30,9 +30,10 @@ KxSubjectSource SourceOf(const KxVideoFacts& video)
     return {video.resolution.width(), video.resolution.height(), video.frameRate.ToDouble(), video.frameCount};
 }
 
-KxSubjectRequest RequestFor(const IKxAutoReframeParam& param, bool wantsFindings)
+KxSubjectRequest RequestFor(const IKxAutoReframeParam& param, const KxAnalysisSettings& settings)
 {
-    return {param.targetSize().width(), param.targetSize().height(), SpeedOfMode(param.mode()), wantsFindings};
+    return {param.targetSize().width(), param.targetSize().height(), SpeedOfMode(param.mode()), settings.wantsFindings,
+            settings.choices};
 }
 
 KxPictureView ViewOf(const QImage& image)
@@ -203,7 +204,7 @@ KxAnalysis::Result KxVideoAnalysis::Run(const std::function<void(int percent)>& 
     if (!record) {
         return result;
     }
-    KxSubjectDecision decision = KxDecide(*record, RequestFor(m_param, m_settings.wantsFindings), {}, m_cancel);
+    KxSubjectDecision decision = KxDecide(*record, RequestFor(m_param, m_settings), {}, m_cancel);
     if (m_cancel.IsCancelled()) {
         result.outcome = KxOutcome::Cancelled;
         return result;

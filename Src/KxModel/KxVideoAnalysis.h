@@ -6,6 +6,8 @@
 #include <KxCore/KxCancelToken.h>
 #include <KxCore/KxResult.h>
 
+#include <KxSubject/KxSubjectChoices.h>
+
 #include <QList>
 #include <QStringList>
 
@@ -46,6 +48,7 @@ struct KxAnalysisSettings {
     QString networkFolder; ///< of the optional detectors (KxDetectorFiles); empty: none
     bool wantsFindings = false;
     std::shared_ptr<KxRecordStore> records; ///< null: every analysis looks at the video
+    KxSubjectChoices choices;               ///< of the person, for this video
 };
 
 /// The analysis of a video file. If the file was looked at before, its record decides; otherwise the calling thread
