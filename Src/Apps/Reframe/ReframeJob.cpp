@@ -6,6 +6,7 @@
 #include <KrAutoReframe/Engine/KrAutoReframeHelper.h>
 #include <KxCore/KxInterrupt.h>
 #include <KxModel/KxAutoReframeService.h>
+#include <KxModel/KxChoicesFormat.h>
 
 #include <QDir>
 #include <QEventLoop>
@@ -43,9 +44,9 @@ KxOutcome ReframeJob::Run()
 
 KxOutcome ReframeJob::RunSteps()
 {
-    for (Ended (ReframeJob::*step)() :
-         {&ReframeJob::Open, &ReframeJob::ReadTrack, &ReframeJob::CheckTargets, &ReframeJob::FindCrops,
-          &ReframeJob::WriteKeyframes, &ReframeJob::WriteReport, &ReframeJob::WritePreview, &ReframeJob::WriteVideo}) {
+    for (Ended (ReframeJob::*step)() : {&ReframeJob::Open, &ReframeJob::ReadTrack, &ReframeJob::ReadChoices,
+                                        &ReframeJob::CheckTargets, &ReframeJob::FindCrops, &ReframeJob::WriteKeyframes,
+                                        &ReframeJob::WriteReport, &ReframeJob::WritePreview, &ReframeJob::WriteVideo}) {
         if (KxInterrupt::IsRequested()) {
             return KxOutcome::Cancelled;
         }
@@ -96,6 +97,34 @@ ReframeJob::Ended ReframeJob::ReadTrack()
         m_aspect = track->aspect;
     }
     m_track = std::move(*track);
+    return std::nullopt;
+}
+
+ReframeJob::Ended ReframeJob::ReadChoices()
+{
+    KxSubjectChoices choices;
+    if (!m_options.choices.isEmpty()) {
+        KxResult<KxSubjectChoices> read = KxChoicesFormat::ReadFile(m_options.choices);
+        if (!read) {
+            return Fail(read.Message());
+        }
+        choices = std::move(*read);
+    }
+    KxSubjectChoice follow;
+    follow.kind = KxChoiceKind::Follow;
+    for (const FollowOption& option : m_options.follow) {
+        const auto& stream = static_cast<const KxClip*>(m_media->clip())->StreamInfo();
+        const KxResult<KxSubjectSeed> seed =
+            option.SeedIn({stream.resolution(), stream.frameRate().ToDouble(), m_media->duration()});
+        if (!seed) {
+            return Fail(QStringLiteral("Cannot follow %1 in %2: %3.").arg(option.text, m_input, seed.Message()));
+        }
+        follow.seeds.push_back(*seed);
+    }
+    if (!follow.seeds.empty()) {
+        choices.push_back(follow);
+    }
+    KxAutoReframeService::Instance().SetChoices(std::move(choices));
     return std::nullopt;
 }
 

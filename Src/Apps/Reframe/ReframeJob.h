@@ -36,6 +36,8 @@ private:
     KxOutcome RunSteps();
     Ended Open();
     Ended ReadTrack();
+    /// Passes the person's choices to the analysis.
+    Ended ReadChoices();
     /// Reports before the work what cannot be written and what must not be replaced.
     Ended CheckTargets();
     Ended FindCrops();

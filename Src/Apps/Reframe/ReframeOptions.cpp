@@ -26,6 +26,15 @@ struct Definitions {
                                  QStringLiteral("FILE")};
     QCommandLineOption apply{QStringLiteral("apply"), QStringLiteral("Take the crops from FILE instead of analysing."),
                              QStringLiteral("FILE")};
+    QCommandLineOption choices{QStringLiteral("choices"),
+                               QStringLiteral("Decide as FILE says (.json): what to follow, to avoid, where to hold "
+                                              "the crop or to show the whole picture."),
+                               QStringLiteral("FILE")};
+    QCommandLineOption follow{QStringLiteral("follow"),
+                              QStringLiteral("Follow what is at the point X,Y, or in the box from X,Y of the size W,H, "
+                                             "through its shot. TIME in seconds, or a frame (75f); the place in "
+                                             "pixels, or in fractions of the picture. May be given several times."),
+                              QStringLiteral("TIME@X,Y[,W,H]")};
     QCommandLineOption preview{QStringLiteral("preview"),
                                QStringLiteral("Write the source with the crop drawn: a contact sheet as .png, or all "
                                               "of it, with sound and with what the analysis found, as .mp4."),
@@ -51,8 +60,8 @@ struct Definitions {
 
     QList<QCommandLineOption> All() const
     {
-        return {aspect, speed,   cache,     output, keyframes, apply, preview, report,
-                models, noVideo, overwrite, json,   quiet,     help,  version};
+        return {aspect, speed,  follow,  choices,   cache, output, keyframes, apply,  preview,
+                report, models, noVideo, overwrite, json,  quiet,  help,      version};
     }
 };
 
@@ -144,6 +153,13 @@ QString Contradiction(const ReframeOptions& options)
     if (!options.apply.isEmpty() && options.aspects.size() > 1) {
         return QStringLiteral("--apply takes one aspect ratio.");
     }
+    const bool hasChoices = !options.choices.isEmpty() || !options.follow.isEmpty();
+    if (hasChoices && options.inputs.size() > 1) {
+        return QStringLiteral("--choices and --follow take one input.");
+    }
+    if (hasChoices && !options.apply.isEmpty()) {
+        return QStringLiteral("--choices and --follow guide the analysis, and with --apply there is none.");
+    }
     const bool isOne = options.inputs.size() == 1 && options.aspects.size() == 1;
     for (const Target& target : Targets(options)) {
         if (!isOne && target.IsFile()) {
@@ -218,6 +234,17 @@ ReframeOptions::Parsed ReframeOptions::Parse(const QStringList& arguments)
         return WrongUse(QStringLiteral("\"%1\" is no speed; it is auto, fast or slow.").arg(options.speedName));
     }
     options.speedMode = *mode;
+    const QStringList follow = parser.values(definitions.follow);
+    for (const QString& text : follow) {
+        const std::optional<FollowOption> parsed = FollowOption::Parse(text);
+        if (!parsed) {
+            return WrongUse(QStringLiteral("\"%1\" is nothing to follow; write a time and a place such as "
+                                           "3.5@640,360, or a time and a box such as 3.5@0.4,0.2,0.1,0.5.")
+                                .arg(text));
+        }
+        options.follow += *parsed;
+    }
+    options.choices = parser.value(definitions.choices);
     options.inputs = parser.positionalArguments();
     options.output = parser.value(definitions.output);
     options.keyframes = parser.value(definitions.keyframes);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <Apps/Reframe/FollowOption.h>
 #include <KxCore/KxResult.h>
 
 #include <QList>
@@ -15,6 +16,8 @@ struct ReframeOptions {
     QString output;                             ///< file or folder; empty: beside each input
     QString keyframes;                          ///< file (folder for several results); empty: none
     QString apply;                              ///< a crop track that replaces the analysis; empty: none
+    QString choices;                            ///< a file of a person's choices; empty: none
+    QList<FollowOption> follow;                 ///< what the crop must follow, besides those
     QString preview;                            ///< file (folder for several results); empty: none
     QString report;                             ///< file (folder for several results); empty: none
     QString cache;                              ///< folder of records, or "none"; empty: the usual one
