@@ -11,9 +11,11 @@
 class IKxAbstractMedia;
 class IKxAbstractMediaItem;
 class IKxTimeline;
+class KrAutoReframeExtensions;
 class KrAutoReframePlayerView;
 class KrAutoReframeProcess;
 class KrAutoReframePropertyPanel;
+class KrDialogExtension;
 class KxLabel;
 class KxProgressDialog;
 
@@ -31,6 +33,9 @@ public:
     explicit KrAutoReframeDialog(QWidget* parent);
     ~KrAutoReframeDialog() override;
 
+    /// Turns the dialog's extensions on. Call it at most once, before InitMediaItem and InitTimeline. `extensions`
+    /// outlives the dialog.
+    void SetExtensions(KrAutoReframeExtensions& extensions);
     /// Takes the first item of `media` with a video stream as the source. Without one only the list changes.
     void InitMediaItem(const QList<IKxAbstractMedia*>& media);
     /// Takes `timeline` as the source; its first clip's file is analysed. Null changes nothing.
@@ -83,6 +88,12 @@ private:
     void ShowSourceIsReady();
     void HandleProgressRejected();
     void MinimizeHost();
+    bool IsRefusedAsUnsupported();
+    void StartAnalysis();
+    void LeaveSource();
+    /// Null unless the host has turned the extensions on. A child object and no member: hosts are compiled with the
+    /// size of this class.
+    KrDialogExtension* Extension() const;
 
     QWidget* m_contentWidget = nullptr;
     KxLabel* m_titleLabel = nullptr;

@@ -4,6 +4,7 @@
 #include <KrAutoReframe/Engine/KrAutoReframeProcess.h>
 #include <KrAutoReframe/Engine/KrExportParameters.h>
 #include <KrAutoReframe/Engine/SendClickEvent.h>
+#include <KrAutoReframe/Extensions/KrDialogExtension.h>
 #include <KrAutoReframe/Player/KrAutoReframePlayerView.h>
 #include <KrAutoReframe/Settings/KrAutoReframePropertyPanel.h>
 
@@ -124,6 +125,7 @@ void KrAutoReframeDialog::InitMediaItem(const QList<IKxAbstractMedia*>& media)
     }
     m_sourcePath = m_videoMedia->filePath();
     m_sourceSuffix = QFileInfo(m_sourcePath).suffix();
+    LeaveSource();
     m_process->OpenMedia(m_videoMedia);
     ShowSourceIsReady();
     UpdateProjectName(QFileInfo(m_sourcePath).fileName());
@@ -138,9 +140,28 @@ void KrAutoReframeDialog::InitTimeline(IKxTimeline* timeline)
     m_videoMedia = nullptr;
     m_sourcePath.clear();
     m_sourceSuffix = QFileInfo(m_sourcePath).suffix();
+    LeaveSource();
     m_process->OpenTimeline(timeline);
     ShowSourceIsReady();
     UpdateProjectName(QFileInfo(m_sourcePath).fileName());
+}
+
+void KrAutoReframeDialog::SetExtensions(KrAutoReframeExtensions& extensions)
+{
+    Q_ASSERT(Extension() == nullptr && !HasSource());
+    new KrDialogExtension(extensions, {*m_process, *m_propertyPanel, *m_playerView, [this] { StartAnalysis(); }}, this);
+}
+
+KrDialogExtension* KrAutoReframeDialog::Extension() const
+{
+    return findChild<KrDialogExtension*>(QString(), Qt::FindDirectChildrenOnly);
+}
+
+void KrAutoReframeDialog::LeaveSource()
+{
+    if (KrDialogExtension* const extension = Extension()) {
+        extension->LeaveSource();
+    }
 }
 
 void KrAutoReframeDialog::ShowSourceIsReady()

@@ -2,6 +2,7 @@
 
 #include <KrAutoReframe/Engine/KrAutoReframeProcess.h>
 #include <KrAutoReframe/Engine/SendClickEvent.h>
+#include <KrAutoReframe/Extensions/KrDialogExtension.h>
 #include <KrAutoReframe/Player/KrAutoReframePlayerView.h>
 #include <KrAutoReframe/Settings/KrAutoReframePropertyPanel.h>
 
@@ -24,9 +25,22 @@ void KrAutoReframeDialog::slotStartAnalysis()
     m_playerView->Pause();
     // The misspelling is part of the event's name: earlier reports are stored under it.
     SendClickEvent(QStringLiteral("anlyze_btn"));
-    if (!unsupportedNoticeWasRequested && !KxConfig::Instance().algorithmEnabled(AutoReframeAlgorithm)) {
-        Q_EMIT sigShowUnsupportDlg();
-        unsupportedNoticeWasRequested = true;
+    StartAnalysis();
+}
+
+bool KrAutoReframeDialog::IsRefusedAsUnsupported()
+{
+    if (unsupportedNoticeWasRequested || KxConfig::Instance().algorithmEnabled(AutoReframeAlgorithm)) {
+        return false;
+    }
+    Q_EMIT sigShowUnsupportDlg();
+    unsupportedNoticeWasRequested = true;
+    return true;
+}
+
+void KrAutoReframeDialog::StartAnalysis()
+{
+    if (IsRefusedAsUnsupported()) {
         return;
     }
     int width = 0;
@@ -51,7 +65,9 @@ void KrAutoReframeDialog::slotStartAnalysis()
     }
     m_progressDialog->SetProgressTitle(tr("Converting video. Please wait..."), QStringLiteral("None"));
     slotUpdateProgress(0);
-    m_progressDialog->exec();
+    if (Extension() == nullptr || !Extension()->EndsSoon()) {
+        m_progressDialog->exec();
+    }
 }
 
 void KrAutoReframeDialog::slotUpdateProgress(int progress) const
@@ -67,12 +83,19 @@ void KrAutoReframeDialog::slotUpdateProgress(int progress) const
 void KrAutoReframeDialog::slotAnalysisFinished(bool success)
 {
     m_progressDialog->hide();
-    if (!success || !m_playerView->SwitchTimeline(false, true)) {
+    KrDialogExtension* const extension = Extension();
+    const bool staysAtFrame = extension != nullptr && extension->StaysAtFrame();
+    if (!success || !m_playerView->SwitchTimeline(false, !staysAtFrame)) {
         return;
     }
     m_propertyPanel->SetPreviewEnabled(true);
     m_propertyPanel->OnAnalysisFinished();
-    m_playerView->Play();
+    if (extension != nullptr) {
+        extension->ShowResults();
+    }
+    if (!staysAtFrame) {
+        m_playerView->Play();
+    }
 }
 
 void KrAutoReframeDialog::slotPreviewMode(bool checked)

@@ -141,6 +141,30 @@ bool KrAutoReframeHelper::Redo()
     return true;
 }
 
+void KrAutoReframeHelper::SetEditsSurvive(bool survive)
+{
+    m_editsSurvive = survive;
+}
+
+void KrAutoReframeHelper::RestoreEditPoints(const QMap<uint, QRectF>& points)
+{
+    for (auto point = points.cbegin(); point != points.cend(); ++point) {
+        if (point.key() < static_cast<uint>(m_frameCount)) {
+            DoAddKeyFrame(point.key(), point.value());
+        }
+    }
+}
+
+const QMap<uint, QRectF>& KrAutoReframeHelper::GetEditPoints() const
+{
+    return m_editPoints;
+}
+
+QUndoStack& KrAutoReframeHelper::GetUndoStack() const
+{
+    return *m_undoStack;
+}
+
 QList<uint> KrAutoReframeHelper::GetEditPointFrames() const
 {
     return m_editPoints.keys();

@@ -77,6 +77,17 @@ public:
     /// False when there is nothing to redo.
     bool Redo();
 
+    /// Whether edit points and undo stack survive the next applications of results; initially they do not. An edit
+    /// point that was placed in another aspect ratio then keeps its centre, as far as the crop stays inside the
+    /// picture, and has the size of the results; its own rectangle is kept for a return to its aspect ratio.
+    void SetEditsSurvive(bool survive);
+    /// Sets the edit points of a source that has none, without a step to undo. Those after the last frame are dropped.
+    void RestoreEditPoints(const QMap<uint, QRectF>& points);
+    /// As the person placed them, by frame.
+    const QMap<uint, QRectF>& GetEditPoints() const;
+    /// The history of the edits. Its owner's other decisions may be part of it.
+    QUndoStack& GetUndoStack() const;
+
     /// Frames of the edit points, ascending.
     QList<uint> GetEditPointFrames() const;
     bool IsEditFrame(const uint& frame) const;
@@ -143,6 +154,9 @@ private:
     void FillFromResults(uint from, uint to);
     void ApplyEditRange(uint from, uint to, const KrEditSegment& segment);
     void RemoveKeyFramesIn(const KrEditSegment& segment);
+    /// The edit point at `frame` in the aspect ratio of the results.
+    QRectF EditRect(uint frame) const;
+    void ReapplyEdits();
     /// Passes the keyframes to the host and shows those that have changed since the last time.
     void FlushChanges();
     void RebuildDisplayResults();
@@ -162,6 +176,7 @@ private:
     std::optional<AppliedResults> m_earlier;
     /// While set, a rebuilt range is not pushed to the host.
     bool m_suspendFlush = false;
+    bool m_editsSurvive = false;
     /// Null when the working clip has no such keyframes.
     IKxCropPanZoomKeyFrameHelper* m_keyFrameHelper = nullptr;
     /// Owned.

@@ -1,5 +1,7 @@
 #include <KrAutoReframe/Engine/KrAutoReframeHelper.h>
 
+#include <KrAutoReframe/Engine/KrEditPlacement.h>
+
 #include <KxModel/IKxKeyFrameHelper.h>
 
 #include <algorithm>
@@ -107,11 +109,32 @@ void KrAutoReframeHelper::ApplyEditRange(uint from, uint to, const KrEditSegment
         FillFromResults(from, segment.start);
         FillFromResults(segment.End(), to);
         for (const uint point : segment.points) {
-            SetKeyFrame(point, m_editPoints.value(point));
+            SetKeyFrame(point, EditRect(point));
         }
     }
     m_changedFrames.Cover(from, to);
     if (!m_suspendFlush) {
+        FlushChanges();
+    }
+}
+
+QRectF KrAutoReframeHelper::EditRect(uint frame) const
+{
+    const QRectF placed = m_editPoints.value(frame);
+    if (!m_editsSurvive) {
+        return placed;
+    }
+    return KrEditPlacement::InSize(placed, m_results.at(static_cast<int>(frame)).cropRect().size());
+}
+
+void KrAutoReframeHelper::ReapplyEdits()
+{
+    m_suspendFlush = true;
+    for (const KrEditSegment& segment : qAsConst(m_segments)) {
+        ApplyEditRange(segment.start, segment.End(), segment);
+    }
+    m_suspendFlush = false;
+    if (!m_changedFrames.IsEmpty()) {
         FlushChanges();
     }
 }

@@ -94,9 +94,13 @@ void KrAutoReframeHelper::HandleTaskFinished()
         return;
     }
     m_earlier.reset();
-    m_editPoints.clear();
-    m_segments.clear();
-    m_undoStack->clear();
+    if (m_editsSurvive) {
+        ReapplyEdits();
+    } else {
+        m_editPoints.clear();
+        m_segments.clear();
+        m_undoStack->clear();
+    }
     RebuildDisplayResults();
     Q_EMIT sigApplyFinished(true);
 }

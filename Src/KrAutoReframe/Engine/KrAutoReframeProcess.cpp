@@ -87,6 +87,11 @@ void KrAutoReframeProcess::OpenTimeline(IKxTimeline* timeline)
     m_helper->SetTimeline(timeline);
 }
 
+const QString& KrAutoReframeProcess::GetPath() const
+{
+    return m_path;
+}
+
 int KrAutoReframeProcess::StartAnalyze(int width, int height, int mode)
 {
     const IKxTimeline* const timeline = m_helper->GetSourceTimeline();

@@ -37,6 +37,9 @@ public:
     /// file. Null changes nothing.
     void OpenTimeline(IKxTimeline* timeline);
 
+    /// The file to analyse; empty without one.
+    const QString& GetPath() const;
+
     /// Starts the job for the aspect ratio `width` to `height`; `mode` is the motion speed. Returns
     /// 0 started, 1 the source has fewer than 32 frames, 2 there is no source, 3 the source has that aspect ratio
     /// already, 4 the service refused. No signal is emitted for 1 to 4.

@@ -78,24 +78,24 @@ void KrAutoReframePlayerControlBar::InitLayout()
 
     CreateButtons();
 
-    auto* const row = new QHBoxLayout;
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(8);
+    m_row = new QHBoxLayout;
+    m_row->setContentsMargins(0, 0, 0, 0);
+    m_row->setSpacing(8);
     for (KxToolButton* const editing : {m_undoButton, m_redoButton, m_previousButton, m_deleteButton, m_nextButton}) {
-        row->addWidget(editing);
+        m_row->addWidget(editing);
     }
-    row->addStretch();
+    m_row->addStretch();
     for (const Button number : {BackwardButton, PlayPauseButton, StopButton, ForwardButton}) {
-        row->addWidget(button(number));
+        m_row->addWidget(button(number));
     }
-    row->addStretch();
-    row->addWidget(m_timeLabel, 0, Qt::AlignVCenter);
+    m_row->addStretch();
+    m_row->addWidget(m_timeLabel, 0, Qt::AlignVCenter);
 
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(16, 16, 16, 24);
     layout->setSpacing(16);
     layout->addWidget(m_slider, 0, Qt::AlignVCenter);
-    layout->addLayout(row);
+    layout->addLayout(m_row);
 }
 
 void KrAutoReframePlayerControlBar::ConnectSignals()
@@ -137,6 +137,16 @@ void KrAutoReframePlayerControlBar::ShowTime(int frame)
 {
     const float frameRate = playerPresenter()->mediaFrameRate();
     m_timeLabel->setText(KrTimeCode::ToText(frame, frameRate, KrTimeCode::Detail::Frames));
+}
+
+KrAutoReframePlayerToolSlider& KrAutoReframePlayerControlBar::Slider() const
+{
+    return *m_slider;
+}
+
+void KrAutoReframePlayerControlBar::AddEditing(QWidget* buttons)
+{
+    m_row->insertWidget(m_row->indexOf(m_nextButton) + 1, buttons);
 }
 
 void KrAutoReframePlayerControlBar::SetUndoRedoEnabled(bool canUndo, bool canRedo)

@@ -8,6 +8,7 @@ class KrAutoReframePlayerToolSlider;
 class KxLabel;
 class KxMediaPlayerPresenter;
 class KxToolButton;
+class QHBoxLayout;
 
 /// The bar under the preview: the edit-point slider, and below it the editing buttons, the transport buttons and the
 /// time. It turns clicks and shortcuts into signals; its owner acts on them and decides which buttons are enabled.
@@ -32,6 +33,10 @@ public:
     void SetPrevNextEnabled(bool hasPrevious, bool hasNext);
     /// Enables play/pause, stop and forward. Backward is unchanged.
     void EnableTransport();
+
+    KrAutoReframePlayerToolSlider& Slider() const;
+    /// Puts `buttons` behind those that edit; the bar owns them.
+    void AddEditing(QWidget* buttons);
 
     void updateToolTip() override;
 
@@ -61,4 +66,5 @@ private:
     KxToolButton* m_deleteButton = nullptr;
     KxToolButton* m_nextButton = nullptr;
     KrAutoReframePlayerToolSlider* m_slider = nullptr;
+    QHBoxLayout* m_row = nullptr;
 };

@@ -109,6 +109,31 @@ void KrAutoReframePlayerView::Play()
     m_presenter->play();
 }
 
+KxMediaPlayerPresenter& KrAutoReframePlayerView::Presenter() const
+{
+    return *m_presenter;
+}
+
+KxMediaPlayerWidget& KrAutoReframePlayerView::PlayerWidget() const
+{
+    return *m_playerWidget;
+}
+
+KrAutoReframePlayerControlBar& KrAutoReframePlayerView::ControlBar() const
+{
+    return *m_controlBar;
+}
+
+ShadowForm& KrAutoReframePlayerView::Overlay() const
+{
+    return *m_shadowForm;
+}
+
+void KrAutoReframePlayerView::EditCrop(const QRectF& rect)
+{
+    HandleRectChanged(rect);
+}
+
 void KrAutoReframePlayerView::PauseIfPlaying()
 {
     if (m_presenter->inPlaying()) {

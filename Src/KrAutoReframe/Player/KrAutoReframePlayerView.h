@@ -35,6 +35,15 @@ public:
     void Pause();
     void Play();
 
+    /// Its parts, for what is added to the view.
+    KxMediaPlayerPresenter& Presenter() const;
+    KxMediaPlayerWidget& PlayerWidget() const;
+    KrAutoReframePlayerControlBar& ControlBar() const;
+    ShadowForm& Overlay() const;
+
+    /// Sets the crop of the current frame, as a drag of the overlay does.
+    void EditCrop(const QRectF& rect);
+
     /// Shows the reframed timeline, or the source with the crop over it: the crop is edited only over the whole
     /// picture. Without `fromStart` the player stays at the current frame. Without results it does nothing and returns
     /// false.

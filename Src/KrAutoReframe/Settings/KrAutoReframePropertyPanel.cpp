@@ -172,6 +172,55 @@ void KrAutoReframePropertyPanel::GetParameters(int& ratioWidth, int& ratioHeight
     motionSpeed = m_motionSpeedCombo->currentData().toInt();
 }
 
+void KrAutoReframePropertyPanel::SetParameters(int ratioWidth, int ratioHeight, int motionSpeed)
+{
+    const int ratio = m_aspectRatioCombo->findData(
+        QStringLiteral("%1:%2").arg(QString::number(ratioWidth), QString::number(ratioHeight)));
+    if (ratio >= 0) {
+        m_aspectRatioCombo->setCurrentIndex(ratio);
+    }
+    const int speed = m_motionSpeedCombo->findData(motionSpeed);
+    if (speed >= 0) {
+        m_motionSpeedCombo->setCurrentIndex(speed);
+    }
+}
+
+void KrAutoReframePropertyPanel::WhenParametersChange(QObject* context, const std::function<void()>& changed)
+{
+    for (KxComboBox* const combo : {m_aspectRatioCombo, m_motionSpeedCombo}) {
+        connect(combo, qOverload<int>(&QComboBox::currentIndexChanged), context, [changed] { changed(); });
+    }
+}
+
+KxLabel* KrAutoReframePropertyPanel::AddLine(const QString& name, const QString& role)
+{
+    KxLabel* const line = KxLabel::CreateLabel(this, QString());
+    line->setObjectName(name);
+    line->setProperty("textRole", role);
+    line->setWordWrap(true);
+    m_restartButton->parentWidget()->layout()->addWidget(line);
+    line->hide();
+    return line;
+}
+
+void KrAutoReframePropertyPanel::AddLines()
+{
+    m_hint = AddLine(QStringLiteral("KrAutoReframePropertyPanel_hint"), QStringLiteral("hint"));
+    m_fact = AddLine(QStringLiteral("KrAutoReframePropertyPanel_shots"), QStringLiteral("muted"));
+}
+
+void KrAutoReframePropertyPanel::SetHint(const QString& text)
+{
+    m_hint->setText(text);
+    m_hint->setVisible(!text.isEmpty());
+}
+
+void KrAutoReframePropertyPanel::SetFact(const QString& text)
+{
+    m_fact->setText(text);
+    m_fact->setVisible(!text.isEmpty());
+}
+
 int KrAutoReframePropertyPanel::MotionSpeedToTrackValue(int motionSpeed) const
 {
     switch (m_motionSpeedCombo->findData(motionSpeed)) {

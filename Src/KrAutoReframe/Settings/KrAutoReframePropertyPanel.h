@@ -2,6 +2,8 @@
 
 #include <KxWidgets/KxWidget.h>
 
+#include <functional>
+
 class KxComboBox;
 class KxLabel;
 class KxPushButton;
@@ -26,6 +28,17 @@ public:
     /// The number of a speed in usage reports; -1 for a speed that is not offered.
     int MotionSpeedToTrackValue(int motionSpeed) const;
 
+    /// Chooses settings; one that is not offered is ignored.
+    void SetParameters(int ratioWidth, int ratioHeight, int motionSpeed);
+    /// Calls `changed` after each change of a setting, as long as `context` lives.
+    void WhenParametersChange(QObject* context, const std::function<void()>& changed);
+
+    /// Adds two lines below the analyse button, hidden at first: a hint and a fact about the result.
+    void AddLines();
+    /// An empty text hides its line. Only after AddLines().
+    void SetHint(const QString& text);
+    void SetFact(const QString& text);
+
     /// Call it when a file was imported: from then on it can only be replaced.
     void OnFileImported();
     /// Also restores the analyse button: the next analysis counts as the first one again.
@@ -49,6 +62,7 @@ private:
     void InitLayout();
     void ConnectSignals();
     void InitData();
+    KxLabel* AddLine(const QString& name, const QString& role);
 
     KxToolButton* m_importButton = nullptr;
     KxToolButton* m_replaceButton = nullptr;
@@ -60,6 +74,9 @@ private:
     KxPushButton* m_analyzeButton = nullptr;
     KxPushButton* m_restartButton = nullptr;
     KxPushButton* m_exportButton = nullptr;
+    /// Null without the additional lines.
+    KxLabel* m_hint = nullptr;
+    KxLabel* m_fact = nullptr;
     bool m_notImported = true;
     /// The next analysis to finish is the first one since the settings were enabled.
     bool m_firstAnalysis = true;

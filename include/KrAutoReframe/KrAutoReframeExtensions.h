@@ -1,0 +1,59 @@
+#pragma once
+
+#include <QByteArray>
+#include <QList>
+#include <QMap>
+#include <QRectF>
+#include <QString>
+
+/// What a person has decided about one video in the dialog. A plain value.
+struct KrAutoReframeState {
+    /// The settings of the panel; 0 if none were chosen yet.
+    int aspectWidth = 0;
+    int aspectHeight = 0;
+    /// In the values of IKxAutoReframeParam: 8 fast, 16 auto, 24 slow.
+    int motionSpeed = 0;
+    /// The video was analyzed. A dialog that opens it again shows the result at once if the service still knows the
+    /// video (IKxAutoReframeShots::IsKnown); otherwise the person analyzes it again, and the rest of the state applies
+    /// then.
+    bool isAnalyzed = false;
+    /// The crops that the person placed, by frame: x and width as fractions of the picture's width, y and height as
+    /// fractions of its height. Each has the aspect ratio in which it was placed; in another one it keeps its centre.
+    QMap<uint, QRectF> editPoints;
+    /// Whom to follow, and where: JSON text as the service writes it, to be stored unread. Empty: the analysis decides.
+    QByteArray choices;
+    /// The first frames of the doubtful shots that the person has looked at, ascending.
+    QList<uint> seenShots;
+
+    bool operator==(const KrAutoReframeState& other) const
+    {
+        return aspectWidth == other.aspectWidth && aspectHeight == other.aspectHeight &&
+               motionSpeed == other.motionSpeed && isAnalyzed == other.isAnalyzed && editPoints == other.editPoints &&
+               choices == other.choices && seenShots == other.seenShots;
+    }
+    bool operator!=(const KrAutoReframeState& other) const { return !(*this == other); }
+};
+
+/// Opt-in extensions of the dialog. A host that implements this and hands it over (KrAutoReframeDialog::SetExtensions)
+/// turns them on; without it the dialog shows and does nothing of the following:
+/// - edit points, choices and the undo history survive another analysis, in another speed or aspect ratio too, and a
+///   hint says when the settings differ from what is shown;
+/// - an analysis that ends at once shows no progress dialog, and the player stays at its frame;
+/// - the arrow keys move the crop while the picture has the focus: by a pixel of the video, with Shift by 10;
+/// - where the service offers IKxAutoReframeShots: shots on the slider, and a way through those that are doubtful.
+///
+/// The host implements it; the dialog calls it on the user-interface thread. No function of the module's library is
+/// needed to implement it.
+class KrAutoReframeExtensions
+{
+public:
+    /// The state of the video `path` that OnStateChanged reported last, also to an earlier dialog; a
+    /// default-constructed one for a video that is new. Called when the dialog opens the video; should not block.
+    virtual KrAutoReframeState LoadState(const QString& path) = 0;
+    /// The person changed something: an edit, an undo, a setting, an analysis, a look at a doubtful shot. Each call
+    /// has the whole state. Called often; should not block.
+    virtual void OnStateChanged(const QString& path, const KrAutoReframeState& state) = 0;
+
+protected:
+    virtual ~KrAutoReframeExtensions() = default;
+};
