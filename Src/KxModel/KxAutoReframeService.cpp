@@ -182,6 +182,32 @@ void KxAutoReframeService::RemoveObserver(IKxAutoReframeEventObserver* observer)
     m_observers.Remove(observer);
 }
 
+void KxAutoReframeService::CollectShots(bool isWanted)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_settings.wantsShots = isWanted;
+}
+
+QList<KxAutoReframeShot> KxAutoReframeService::GetShots(const QString& path) const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    const bool hasResults = m_result.outcome == KxOutcome::Done && path == m_resultPath;
+    return hasResults ? m_result.shots : QList<KxAutoReframeShot>();
+}
+
+bool KxAutoReframeService::IsKnown(const QString& path) const
+{
+    KxAnalysisSettings settings;
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        settings = m_settings;
+    }
+    bool isKnown = false;
+    // A record that is too large to read is as good as none.
+    KxCallGuarded([&] { isKnown = KxVideoAnalysis::HasRecord(path, settings); });
+    return isKnown;
+}
+
 void KxAutoReframeService::SetNetworkFolder(const QString& path)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <KxModel/IKxAutoReframeService.h>
+#include <KxModel/IKxAutoReframeShots.h>
 
 #include <KxModel/KxObserverList.h>
 #include <KxModel/KxVideoAnalysis.h>
@@ -17,7 +18,7 @@
 
 /// The analysis service: one task at a time, on a thread of its own. No exception leaves it: what an analysis throws
 /// becomes a failed task with an error message.
-class KXMODEL_API KxAutoReframeService final : public IKxAutoReframeService
+class KXMODEL_API KxAutoReframeService final : public IKxAutoReframeService, public IKxAutoReframeShots
 {
 public:
     /// The service that getAutoReframeService() returns.
@@ -42,6 +43,10 @@ public:
     int GetResults(const QString& path, QList<IKxAutoReframeResult>* out) override;
     void AddObserver(IKxAutoReframeEventObserver* observer) override;
     void RemoveObserver(IKxAutoReframeEventObserver* observer) override;
+
+    void CollectShots(bool isWanted) override;
+    QList<KxAutoReframeShot> GetShots(const QString& path) const override;
+    bool IsKnown(const QString& path) const override;
 
     /// The folder of the optional detectors (KxDetectorFiles::FindNetworks) for the tasks that start from now on;
     /// empty, as at first: none. Any thread.

@@ -9,6 +9,7 @@
 #include <KxMedia/Picture/KxPictureScaler.h>
 #include <KxMedia/Read/KxVideoScanner.h>
 #include <KxSubject/KxPictureView.h>
+#include <KxSubject/KxShotDoubt.h>
 #include <KxSubject/KxSubjectDecision.h>
 #include <KxSubject/KxSubjectObserver.h>
 #include <KxSubject/KxSubjectOptions.h>
@@ -32,8 +33,8 @@ KxSubjectSource SourceOf(const KxVideoFacts& video)
 
 KxSubjectRequest RequestFor(const IKxAutoReframeParam& param, const KxAnalysisSettings& settings)
 {
-    return {param.targetSize().width(), param.targetSize().height(), SpeedOfMode(param.mode()), settings.wantsFindings,
-            settings.choices};
+    const bool wantsFindings = settings.wantsFindings || settings.wantsShots;
+    return {param.targetSize().width(), param.targetSize().height(), SpeedOfMode(param.mode()), wantsFindings, settings.choices};
 }
 
 KxPictureView ViewOf(const QImage& image)
@@ -49,6 +50,31 @@ QList<IKxAutoReframeResult> ResultsOf(const std::vector<KxCropRect>& crops)
         results.append(IKxAutoReframeResult(results.size(), QRectF(crop.x, crop.y, crop.width, crop.height)));
     }
     return results;
+}
+
+KxAutoReframeDoubt DoubtOf(const KxSubjectFindings::Shot& shot)
+{
+    switch (KxDoubtOf(shot)) {
+    case KxShotDoubt::None:
+        break;
+    case KxShotDoubt::NothingStandsOut:
+        return KxAutoReframeDoubt::NothingStandsOut;
+    case KxShotDoubt::SeveralPlaces:
+        return KxAutoReframeDoubt::SeveralPlaces;
+    case KxShotDoubt::SeveralPeople:
+        return KxAutoReframeDoubt::SeveralPeople;
+    }
+    return KxAutoReframeDoubt::None;
+}
+
+QList<KxAutoReframeShot> ShotsOf(const KxSubjectFindings& findings)
+{
+    QList<KxAutoReframeShot> shots;
+    shots.reserve(static_cast<int>(findings.shots.size()));
+    for (const KxSubjectFindings::Shot& shot : findings.shots) {
+        shots.append({shot.first, shot.end, static_cast<double>(shot.confidence), DoubtOf(shot)});
+    }
+    return shots;
 }
 
 } // namespace
@@ -190,6 +216,15 @@ std::shared_ptr<const KxSubjectRecord> KxVideoAnalysis::Observe(KxSubjectModels 
     return record;
 }
 
+bool KxVideoAnalysis::HasRecord(const QString& path, const KxAnalysisSettings& settings)
+{
+    if (!settings.records) {
+        return false;
+    }
+    const KxDetectorFiles::Contents contents = KxDetectorFiles::Read(settings.networkFolder);
+    return settings.records->Find(KxRecordStore::KeyOf(path, contents.models)) != nullptr;
+}
+
 KxAnalysis::Result KxVideoAnalysis::Run(const std::function<void(int percent)>& onProgress)
 {
     Result result;
@@ -211,6 +246,9 @@ KxAnalysis::Result KxVideoAnalysis::Run(const std::function<void(int percent)>& 
     }
     result.crops = ResultsOf(decision.crops);
     decision.crops = {};
+    if (m_settings.wantsShots) {
+        result.shots = ShotsOf(decision.findings);
+    }
     if (m_settings.wantsFindings) {
         result.findings = std::make_shared<KxSubjectFindings>(std::move(decision.findings));
     }

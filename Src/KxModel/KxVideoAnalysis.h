@@ -2,6 +2,7 @@
 
 #include <KxModel/IKxAutoReframeParam.h>
 #include <KxModel/IKxAutoReframeResult.h>
+#include <KxModel/IKxAutoReframeShots.h>
 
 #include <KxCore/KxCancelToken.h>
 #include <KxCore/KxResult.h>
@@ -30,6 +31,7 @@ public:
         QString message;                                   ///< the error message of a failure
         QStringList warnings;                              ///< a warning for the person, although it is Done
         std::shared_ptr<const KxSubjectFindings> findings; ///< null unless Done and wanted
+        QList<KxAutoReframeShot> shots;                    ///< empty unless Done and wanted
     };
 
     virtual ~KxAnalysis();
@@ -47,6 +49,7 @@ protected:
 struct KxAnalysisSettings {
     QString networkFolder; ///< of the optional detectors (KxDetectorFiles); empty: none
     bool wantsFindings = false;
+    bool wantsShots = false;
     std::shared_ptr<KxRecordStore> records; ///< null: every analysis looks at the video
     KxSubjectChoices choices;               ///< of the person, for this video
 };
@@ -65,6 +68,10 @@ public:
     static KxResult<std::unique_ptr<KxAnalysis>> Open(const QString& path, const IKxAutoReframeParam& param,
                                                       const KxAnalysisSettings& settings, const KxCancelToken& cancel);
     ~KxVideoAnalysis() override;
+
+    /// Whether an analysis of the file `path` would find a record of it. Blocks while parts of the file and the record
+    /// are read.
+    static bool HasRecord(const QString& path, const KxAnalysisSettings& settings);
 
     Result Run(const std::function<void(int percent)>& onProgress) override;
 

@@ -400,3 +400,37 @@ TEST_F(KxAutoReframeServiceTest, AnAnalysisThatWasStoppedLeavesNoRecord)
     EXPECT_EQ(Lefts(m_service, clip, {9, 16}, decoded).size(), 400U);
     EXPECT_TRUE(decoded);
 }
+
+TEST_F(KxAutoReframeServiceTest, ShotsAreCollectedOnlyOnRequest)
+{
+    const QString clip = MakeClip("clip.mp4", 40);
+    bool decoded = false;
+    Lefts(m_service, clip, {9, 16}, decoded);
+    EXPECT_TRUE(m_service.GetShots(clip).isEmpty());
+
+    m_service.CollectShots(true);
+    Lefts(m_service, clip, {9, 16}, decoded);
+    const QList<KxAutoReframeShot> shots = m_service.GetShots(clip);
+    ASSERT_FALSE(shots.isEmpty());
+    EXPECT_EQ(shots.first().first, 0);
+    EXPECT_EQ(shots.last().end, 40);
+    EXPECT_GT(shots.first().confidence, 0.0);
+    EXPECT_TRUE(m_service.GetShots(m_folder.filePath(QStringLiteral("other.mp4"))).isEmpty());
+    EXPECT_EQ(m_service.LastFindings(), nullptr);
+}
+
+TEST_F(KxAutoReframeServiceTest, AVideoIsKnownOnceItWasAnalysed)
+{
+    const QString clip = MakeClip("clip.mp4", 40);
+    EXPECT_FALSE(m_service.IsKnown(clip));
+    bool decoded = false;
+    Lefts(m_service, clip, {9, 16}, decoded);
+    EXPECT_TRUE(m_service.IsKnown(clip));
+    EXPECT_FALSE(m_service.IsKnown(m_folder.filePath(QStringLiteral("missing.mp4"))));
+}
+
+TEST_F(KxAutoReframeServiceTest, ClientsFindTheShotsByACast)
+{
+    IKxAutoReframeService* const service = getAutoReframeService();
+    EXPECT_NE(dynamic_cast<IKxAutoReframeShots*>(service), nullptr);
+}

@@ -26,3 +26,10 @@ TEST(FoundSignals, TheReasonOfADoubtIsNamed)
     EXPECT_EQ(FoundSignals::Doubt(Shot(0.4F, 1.0F)), QStringLiteral("what stands out is in several places"));
     EXPECT_EQ(FoundSignals::Doubt(Shot(0.0F, 0.0F)), QStringLiteral("nothing stands out"));
 }
+
+TEST(FoundSignals, SeveralPeopleAreAReasonOfTheirOwn)
+{
+    KxSubjectFindings::Shot shot = Shot(0.4F, 1.0F);
+    shot.dominantSignal = KxSignal::Faces;
+    EXPECT_EQ(FoundSignals::Doubt(shot), QStringLiteral("people or animals are in several places"));
+}

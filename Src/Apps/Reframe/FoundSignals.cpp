@@ -1,5 +1,7 @@
 #include <Apps/Reframe/FoundSignals.h>
 
+#include <KxSubject/KxShotDoubt.h>
+
 #include <algorithm>
 #include <numeric>
 
@@ -112,13 +114,17 @@ double FoundSignals::DominantShare(const KxSubjectFindings& findings, const KxSu
 
 QString FoundSignals::Doubt(const KxSubjectFindings::Shot& shot)
 {
-    // On the clips of Docs/ANALYSIS.md these are the least confident fifth of the shots.
-    constexpr float leastConfidence = 0.55F;
-    constexpr float noEvidence = 0.02F;
-    if (shot.evidence < noEvidence) {
+    switch (KxDoubtOf(shot)) {
+    case KxShotDoubt::None:
+        return {};
+    case KxShotDoubt::NothingStandsOut:
         return QStringLiteral("nothing stands out");
+    case KxShotDoubt::SeveralPlaces:
+        break;
+    case KxShotDoubt::SeveralPeople:
+        return QStringLiteral("people or animals are in several places");
     }
-    return shot.confidence < leastConfidence ? QStringLiteral("what stands out is in several places") : QString();
+    return QStringLiteral("what stands out is in several places");
 }
 
 QString FoundSignals::Confidence(const KxSubjectFindings::Shot& shot)
