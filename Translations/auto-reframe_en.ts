@@ -9,6 +9,16 @@
     </message>
 </context>
 <context>
+    <name>KrDoubtfulShots</name>
+    <message numerus="yes">
+        <source>%1 of %n shots to look at</source>
+        <translation>
+            <numerusform>%1 of %n shot to look at</numerusform>
+            <numerusform>%1 of %n shots to look at</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>KrAutoReframePropertyPanel</name>
     <message>
         <source>AutoReframe_Restart</source>

@@ -21,6 +21,8 @@ public:
         Forward = 3005,
         PreviousEditPoint = 3006,
         NextEditPoint = 3007,
+        PreviousDoubtfulShot = 3008,
+        NextDoubtfulShot = 3009,
     };
 
     static IKxShortcutEditManager* GetInstance();

@@ -14,7 +14,8 @@ class QWidget;
 /// widget; dialogs of a program that does not are unreadable.
 ///
 /// The style sheet distinguishes areas and texts by dynamic properties: a QFrame with "surface" true is a card; a
-/// QLabel's "textRole" is "heading", "muted", "small" or "error"; "tabularFigures" true gives it digits of equal width.
+/// QLabel's "textRole" is "heading", "muted", "small", "hint" or "error"; "tabularFigures" true gives it digits of
+/// equal width.
 namespace KxUIStyle
 {
 /// The colours, named by their use. The style sheet uses the same names.

@@ -30,6 +30,10 @@ QKeySequence Default(int actionId)
         return {Qt::CTRL | Qt::Key_Left};
     case IKxShortcutEditManager::NextEditPoint:
         return {Qt::CTRL | Qt::Key_Right};
+    case IKxShortcutEditManager::PreviousDoubtfulShot:
+        return {Qt::SHIFT | Qt::Key_N};
+    case IKxShortcutEditManager::NextDoubtfulShot:
+        return {Qt::Key_N};
     default:
         return {};
     }

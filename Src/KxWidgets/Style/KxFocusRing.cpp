@@ -139,8 +139,9 @@ bool KxFocusRing::eventFilter(QObject* watched, QEvent* event)
 
 void KxFocusRing::FollowFocus(QWidget* /*previous*/, QWidget* current)
 {
-    const bool wearsRing =
-        m_lastInputWasKey && current != nullptr && !current->isWindow() && current->window()->windowType() != Qt::Popup;
+    const bool wearsRing = m_lastInputWasKey && current != nullptr && !current->isWindow() &&
+                           current->window()->windowType() != Qt::Popup &&
+                           !current->property("showsFocusItself").toBool();
     if (wearsRing) {
         Show(*current);
     } else {

@@ -55,6 +55,7 @@ QHash<QString, QString> Words()
         {QStringLiteral("error"), colour(Role::Error)},
         {QStringLiteral("button"), colour(Role::Button)},
         {QStringLiteral("buttonLine"), colour(Role::ButtonLine)},
+        {QStringLiteral("hint"), QStringLiteral("#ffae34")},
         {QStringLiteral("accentHover"), QStringLiteral("#79eed4")},
         {QStringLiteral("accentPressed"), QStringLiteral("#3dcbac")},
         {QStringLiteral("accentOff"), QStringLiteral("#26403a")},
