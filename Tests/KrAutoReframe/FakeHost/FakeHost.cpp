@@ -174,6 +174,7 @@ void SetImportFilter(const QString& filter)
 
 void Reset()
 {
+    StopOffering();
     TheService().Reset();
     while (!TheRegister().live.empty()) {
         delete TheRegister().live.back();

@@ -3,6 +3,7 @@
 #include <KxCore/KxRational.h>
 #include <KxModel/IKxAbstractMedia.h>
 #include <KxModel/IKxAutoReframeService.h>
+#include <KxModel/IKxAutoReframeShots.h>
 #include <KxModel/IKxKeyFrameHelper.h>
 #include <KxModel/IKxMediaInfo.h>
 #include <KxModel/IKxTimeline.h>
@@ -170,7 +171,25 @@ private:
     QList<IKxAutoReframeResult> m_results;
 };
 
+/// The scripted service with its optional interface.
+class ServiceWithShots : public Service, public IKxAutoReframeShots
+{
+public:
+    void CollectShots(bool isWanted) override;
+    QList<KxAutoReframeShot> GetShots(const QString& path) const override;
+    bool IsKnown(const QString& path) const override;
+
+    // User-interface thread only, but for `knows`, which is set before it is asked.
+    bool collects = false;
+    QList<KxAutoReframeShot> shots;
+    QStringList knows;
+};
+
+/// The plain service, or after OfferShots() the other one.
 Service& TheService();
+/// Replaces the service, until the next Reset().
+ServiceWithShots& OfferShots();
+void StopOffering();
 
 /// Makes a timeline that the host owns until the next Reset().
 Timeline* MakeTimeline(const std::vector<Facts>& clips);

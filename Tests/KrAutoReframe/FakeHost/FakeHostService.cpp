@@ -123,10 +123,48 @@ void Service::WaitForEvent(std::unique_lock<std::mutex>& lock)
     m_eventEnded.wait(lock, [this] { return !m_isInEvent || m_eventThread == std::this_thread::get_id(); });
 }
 
+void ServiceWithShots::CollectShots(bool isWanted)
+{
+    collects = isWanted;
+}
+
+QList<KxAutoReframeShot> ServiceWithShots::GetShots(const QString& path) const
+{
+    const bool isOfResults = Calls().contains(QStringLiteral("GetResults(%1, 0 entries)").arg(path));
+    return collects && isOfResults ? shots : QList<KxAutoReframeShot>();
+}
+
+bool ServiceWithShots::IsKnown(const QString& path) const
+{
+    return knows.contains(path);
+}
+
+namespace
+{
+
+std::unique_ptr<ServiceWithShots>& Offered()
+{
+    static std::unique_ptr<ServiceWithShots> service;
+    return service;
+}
+
+} // namespace
+
 Service& TheService()
 {
     static Service service;
-    return service;
+    return Offered() ? *Offered() : service;
+}
+
+ServiceWithShots& OfferShots()
+{
+    Offered() = std::make_unique<ServiceWithShots>();
+    return *Offered();
+}
+
+void StopOffering()
+{
+    Offered().reset();
 }
 
 } // namespace FakeHost
