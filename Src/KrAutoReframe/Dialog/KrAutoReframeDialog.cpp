@@ -62,6 +62,7 @@ KrAutoReframeDialog::~KrAutoReframeDialog()
     // The player may still read the file and the task may still analyse it; both stop before the item is released.
     m_playerView->Pause();
     m_process->StopProcess();
+    LeaveSource();
     releaseMediaItem(m_importedMedia);
 }
 
