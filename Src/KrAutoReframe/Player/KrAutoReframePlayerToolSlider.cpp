@@ -1,12 +1,17 @@
 #include <KrAutoReframe/Player/KrAutoReframePlayerToolSlider.h>
 
+#include <KxWidgets/KxToolTipHelper.h>
+
 #include <QDebug>
 #include <QEvent>
+#include <QHelpEvent>
 #include <QMutexLocker>
 #include <QPainter>
 #include <QPainterPath>
 #include <QPen>
+#include <QToolTip>
 #include <QVariant>
+#include <QtMath>
 
 #include <algorithm>
 
@@ -14,6 +19,13 @@ namespace
 {
 
 constexpr int SmallThicknessPx = 8;
+
+constexpr double ShotTickPx = 1.0;
+constexpr double ShotTickInsetPx = 3.0;
+constexpr double ShotLinePx = 2.0;
+constexpr double LeastShotLinePx = 4.0;
+constexpr QColor ShotColour(150, 156, 166);
+constexpr QColor DoubtColour(255, 174, 52);
 
 void SetSliderType(QWidget& slider, const QString& type)
 {
@@ -68,6 +80,12 @@ void KrAutoReframePlayerToolSlider::SetEditFrames(const QList<uint>& frames)
         m_editFrames.append(static_cast<uint>(duration()));
     }
     update();
+}
+
+void KrAutoReframePlayerToolSlider::SetShots(const QList<ShotMark>& shots)
+{
+    m_shots = shots;
+    m_markWidget->update();
 }
 
 void KrAutoReframePlayerToolSlider::SetMarkStyle(const QColor& penColor, double penWidth, const QColor& fillColor,
@@ -148,6 +166,9 @@ void KrAutoReframePlayerToolSlider::MoveToEdit(uint frame)
 bool KrAutoReframePlayerToolSlider::eventFilter(QObject* watched, QEvent* event)
 {
     const bool isFiltered = QObject::eventFilter(watched, event);
+    if (event->type() == QEvent::ToolTip && watched == m_markWidget) {
+        return ShowShotToolTip(static_cast<QHelpEvent&>(*event)) || isFiltered;
+    }
     if (event->type() != QEvent::Paint) {
         return isFiltered;
     }
@@ -185,6 +206,7 @@ void KrAutoReframePlayerToolSlider::PaintChunk()
 void KrAutoReframePlayerToolSlider::PaintMarks()
 {
     QPainter painter(m_markWidget);
+    PaintShots(painter);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setBrush(m_markFillColor);
     painter.setPen(QPen(m_markPenColor, m_markPenWidth, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
@@ -193,6 +215,45 @@ void KrAutoReframePlayerToolSlider::PaintMarks()
         path.addRect(QRectF(MarkPosition(frame), rect().top(), m_markWidth, rect().height()));
         painter.drawPath(path);
     }
+}
+
+void KrAutoReframePlayerToolSlider::PaintShots(QPainter& painter) const
+{
+    for (const ShotMark& shot : m_shots) {
+        const double start = CentreAt(shot.first);
+        const bool isSure = shot.kind == ShotMark::Kind::Sure;
+        if (shot.kind == ShotMark::Kind::Doubtful) {
+            const double length = std::max(CentreAt(shot.end) - start, LeastShotLinePx);
+            painter.fillRect(QRectF(start, rect().bottom() + 1 - ShotLinePx, length, ShotLinePx), DoubtColour);
+        }
+        // The slider's start is no boundary between shots.
+        if (shot.first > 0) {
+            const double inset = isSure ? ShotTickInsetPx : 0.0;
+            painter.fillRect(QRectF(qRound(start), rect().top() + inset, ShotTickPx, rect().height() - 2.0 * inset),
+                             isSure ? ShotColour : DoubtColour);
+        }
+    }
+}
+
+double KrAutoReframePlayerToolSlider::CentreAt(qint64 frame) const
+{
+    const double share = std::min(static_cast<double>(frame) / duration(), 1.0);
+    return share * GetWidth() + GetChunkWidth() / 2.0;
+}
+
+bool KrAutoReframePlayerToolSlider::ShowShotToolTip(const QHelpEvent& event) const
+{
+    for (const ShotMark& shot : m_shots) {
+        const double start = CentreAt(shot.first);
+        const double end = CentreAt(shot.end);
+        const bool isUnder = event.x() >= start && (event.x() < end || &shot == &m_shots.constLast());
+        if (isUnder) {
+            const QRect area(qFloor(start), rect().top(), std::max(qCeil(end - start), 1), rect().height());
+            QToolTip::showText(event.globalPos(), KxToolTipHelper::AsPlainText(shot.toolTip), m_markWidget, area);
+            return true;
+        }
+    }
+    return false;
 }
 
 int KrAutoReframePlayerToolSlider::MarkPosition(uint frame) const

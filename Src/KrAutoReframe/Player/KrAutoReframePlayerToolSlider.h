@@ -5,6 +5,9 @@
 #include <QColor>
 #include <QList>
 #include <QMutex>
+#include <QString>
+
+class QHelpEvent;
 
 /// The player's position slider with a mark at each edited frame, and a coloured disc on its handle while the current
 /// frame is one. Range and value count frames. User-interface thread; the duration is above 0.
@@ -27,6 +30,20 @@ public:
     /// Replaces the marks; an empty list causes no repaint. If the media's last frame is among them, the duration is
     /// added as another entry, so that the slider's end has a mark that the searches find.
     void SetEditFrames(const QList<uint>& frames);
+
+    /// A shot that is shown behind the marks: a tick where it begins. A doubtful one has a tick of another colour and a
+    /// line along its length; the line goes when it was seen.
+    struct ShotMark {
+        enum class Kind { Sure, Doubtful, Seen };
+
+        /// Frames; `end` is the one after the last one.
+        qint64 first = 0;
+        qint64 end = 0;
+        Kind kind = Kind::Sure;
+        QString toolTip;
+    };
+    /// In order and without gaps. Initially there are none.
+    void SetShots(const QList<ShotMark>& shots);
 
     /// Widths in pixels.
     void SetMarkStyle(const QColor& penColor, double penWidth, const QColor& fillColor, int markWidth);
@@ -53,12 +70,17 @@ protected:
 private:
     void PaintChunk();
     void PaintMarks();
+    void PaintShots(QPainter& painter) const;
+    /// Where the handle's centre is at `frame`, pixels along the slider.
+    double CentreAt(qint64 frame) const;
+    bool ShowShotToolTip(const QHelpEvent& event) const;
     /// Left edge of the mark of `frame`, pixels: where the handle's centre would be.
     int MarkPosition(uint frame) const;
     void MoveToEdit(uint frame);
 
     QWidget* m_markWidget = nullptr;
     QList<uint> m_editFrames;
+    QList<ShotMark> m_shots;
     double m_markPenWidth = 0.5;
     QColor m_markPenColor{0, 0, 0, 61};
     int m_markWidth = 4;
