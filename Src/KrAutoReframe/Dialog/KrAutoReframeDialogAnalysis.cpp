@@ -9,6 +9,8 @@
 #include <KxCore/KxConfig.h>
 #include <KxWidgets/KxProgressDialog.h>
 
+#include <QPointer>
+
 namespace
 {
 
@@ -65,9 +67,13 @@ void KrAutoReframeDialog::StartAnalysis()
     }
     m_progressDialog->SetProgressTitle(tr("Converting video. Please wait..."), QStringLiteral("None"));
     slotUpdateProgress(0);
-    if (Extension() == nullptr || !Extension()->EndsSoon()) {
-        m_progressDialog->exec();
+    if (KrDialogExtension* const extension = Extension()) {
+        const QPointer<KrAutoReframeDialog> self(this);
+        if (extension->EndsSoon() || self.isNull()) {
+            return;
+        }
     }
+    m_progressDialog->exec();
 }
 
 void KrAutoReframeDialog::slotUpdateProgress(int progress) const

@@ -1,6 +1,8 @@
 #include <KrAutoReframe/Extensions/KrDialogExtension.h>
 
 #include <KrAutoReframe/Engine/KrAutoReframeProcess.h>
+#include <KrAutoReframe/Extensions/KrCropKeys.h>
+#include <KrAutoReframe/Extensions/KrDoubtfulShots.h>
 #include <KrAutoReframe/Player/KrAutoReframePlayerView.h>
 #include <KrAutoReframe/Settings/KrAutoReframePropertyPanel.h>
 
@@ -8,7 +10,9 @@
 #include <KxPlayer/KxMediaPlayerPresenter.h>
 
 #include <QEventLoop>
+#include <QTimer>
 #include <QUndoStack>
+#include <QtConcurrent>
 
 namespace
 {
@@ -33,20 +37,32 @@ KrDialogExtension::KrDialogExtension(KrAutoReframeExtensions& host, const Parts&
     KrAutoReframeHelper& helper = *m_parts.process.GetHelper();
     helper.SetEditsSurvive(true);
     m_parts.panel.AddLines();
-    m_reopening.setSingleShot(true);
-    connect(&m_reopening, &QTimer::timeout, this, m_parts.analyze);
+    new KrCropKeys(m_parts.view, this);
+    if (IKxAutoReframeShots* const shots = ServiceShots()) {
+        shots->CollectShots(true);
+        m_doubtfulShots = new KrDoubtfulShots(m_parts.view, m_parts.panel);
+        connect(m_doubtfulShots, &KrDoubtfulShots::sigSeen, this, &KrDialogExtension::ReportChange);
+    }
+    connect(&m_isKnown, &QFutureWatcher<bool>::finished, this, &KrDialogExtension::HandleKnown);
     connect(&helper, &KrAutoReframeHelper::sigOpenTimelineFinished, this, &KrDialogExtension::EnterSource);
     connect(&helper.GetUndoStack(), &QUndoStack::indexChanged, this, &KrDialogExtension::ReportChange);
     m_parts.panel.WhenParametersChange(this, [this] { HandleSettingsChanged(); });
 }
 
-KrDialogExtension::~KrDialogExtension() = default;
+KrDialogExtension::~KrDialogExtension()
+{
+    m_isKnown.waitForFinished();
+    // Other clients of the service may not want them.
+    if (IKxAutoReframeShots* const shots = ServiceShots()) {
+        shots->CollectShots(false);
+    }
+}
 
 void KrDialogExtension::LeaveSource()
 {
-    m_reopening.stop();
     m_path.clear();
     m_hasResults = false;
+    m_isKnown.cancel();
 }
 
 void KrDialogExtension::EnterSource()
@@ -58,9 +74,26 @@ void KrDialogExtension::EnterSource()
     m_parts.view.RefreshFrame(m_parts.view.Presenter().currentFrame());
     m_path = path;
     UpdateHint();
+    ShowShots();
     const IKxAutoReframeShots* const shots = ServiceShots();
-    if (m_state.isAnalyzed && shots != nullptr && shots->IsKnown(path)) {
-        m_reopening.start(0);
+    if (m_state.isAnalyzed && shots != nullptr) {
+        m_isKnown.setFuture(QtConcurrent::run([shots, path] { return shots->IsKnown(path); }));
+    }
+}
+
+void KrDialogExtension::HandleKnown()
+{
+    if (!m_isKnown.isCanceled() && m_isKnown.result() && !m_hasResults) {
+        m_parts.analyze();
+    }
+}
+
+void KrDialogExtension::ShowShots()
+{
+    if (m_doubtfulShots != nullptr) {
+        const QList<KxAutoReframeShot> shots =
+            m_hasResults ? ServiceShots()->GetShots(m_path) : QList<KxAutoReframeShot>();
+        m_doubtfulShots->SetShots(KrShotList(shots, m_state.seenShots));
     }
 }
 
@@ -72,6 +105,7 @@ bool KrDialogExtension::EndsSoon()
         hasEnded = true;
         loop.quit();
     });
+    connect(this, &QObject::destroyed, &loop, &QEventLoop::quit);
     QTimer::singleShot(ProgressDelayMs, &loop, &QEventLoop::quit);
     // As while a modal dialog is open, the person cannot change anything.
     loop.exec(QEventLoop::ExcludeUserInputEvents);
@@ -87,6 +121,7 @@ void KrDialogExtension::ShowResults()
 {
     m_hasResults = true;
     UpdateHint();
+    ShowShots();
     ReportChange();
 }
 
@@ -120,6 +155,9 @@ KrAutoReframeState KrDialogExtension::CurrentState() const
     state.motionSpeed = settings.speed;
     state.isAnalyzed = m_state.isAnalyzed || m_hasResults;
     state.editPoints = m_parts.process.GetHelper()->GetEditPoints();
+    if (m_doubtfulShots != nullptr) {
+        state.seenShots = m_doubtfulShots->Shots().Seen();
+    }
     return state;
 }
 

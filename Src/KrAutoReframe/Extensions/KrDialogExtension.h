@@ -2,14 +2,15 @@
 
 #include <KrAutoReframe/KrAutoReframeExtensions.h>
 
+#include <QFutureWatcher>
 #include <QObject>
-#include <QTimer>
 
 #include <functional>
 
 class KrAutoReframePlayerView;
 class KrAutoReframeProcess;
 class KrAutoReframePropertyPanel;
+class KrDoubtfulShots;
 
 /// What the dialog does beyond its required behaviour, for a host that has turned it on: connects the dialog's parts
 /// with the host's KrAutoReframeExtensions. Child of the dialog; user-interface thread.
@@ -50,6 +51,8 @@ private:
 
     Settings PanelSettings() const;
     void EnterSource();
+    void HandleKnown();
+    void ShowShots();
     void HandleSettingsChanged();
     void UpdateHint();
     KrAutoReframeState CurrentState() const;
@@ -63,6 +66,8 @@ private:
     KrAutoReframeState m_state;
     /// Results of the open source are shown.
     bool m_hasResults = false;
-    /// Runs until a source that was analyzed earlier shows its result.
-    QTimer m_reopening;
+    /// Null if the host's service has no shots.
+    KrDoubtfulShots* m_doubtfulShots = nullptr;
+    /// Asks on a thread of the pool whether the service knows a source that was analyzed earlier.
+    QFutureWatcher<bool> m_isKnown;
 };

@@ -129,6 +129,12 @@ ShadowForm& KrAutoReframePlayerView::Overlay() const
     return *m_shadowForm;
 }
 
+QSize KrAutoReframePlayerView::VideoSize() const
+{
+    const IKxTimeline* const timeline = m_helper ? m_helper->GetSourceTimeline() : nullptr;
+    return timeline != nullptr ? timeline->projectSettings().resolution : QSize(16, 9);
+}
+
 void KrAutoReframePlayerView::EditCrop(const QRectF& rect)
 {
     HandleRectChanged(rect);
@@ -179,12 +185,8 @@ void KrAutoReframePlayerView::UpdatePictureSize()
     if (!m_helper) {
         return;
     }
-    QSize picture(16, 9);
-    if (const IKxTimeline* const timeline = m_helper->GetSourceTimeline()) {
-        picture = timeline->projectSettings().resolution;
-    }
     const QRect frame = KxUtility::getFitCentralWindowRectByRatio(m_playerWidget->rect(), PlayerFrame);
-    const QRect fitted = KxUtility::getFitCentralWindowRectByRatio(frame, picture);
+    const QRect fitted = KxUtility::getFitCentralWindowRectByRatio(frame, VideoSize());
     m_shadowForm->GetPictureLabel()->setFixedSize(fitted.size());
 }
 

@@ -41,6 +41,8 @@ public:
     KrAutoReframePlayerControlBar& ControlBar() const;
     ShadowForm& Overlay() const;
 
+    /// Of the source, in pixels; 16 x 9 without one.
+    QSize VideoSize() const;
     /// Sets the crop of the current frame, as a drag of the overlay does.
     void EditCrop(const QRectF& rect);
 

@@ -10,6 +10,9 @@ namespace
 {
 
 constexpr QColor Shade(0, 0, 0, 142);
+constexpr QColor FocusColour(0x55, 0xE5, 0xC5);
+constexpr int FocusRingPx = 2;
+constexpr int FocusInsetPx = 4;
 
 Qt::WindowFlags FlagsOf(ShadowForm::Kind kind)
 {
@@ -68,6 +71,12 @@ void ShadowForm::SetEditedFrame(bool isEdited)
     m_editedFrame = isEdited;
 }
 
+void ShadowForm::SetFocusShown(bool isShown)
+{
+    m_isFocusShown = isShown;
+    update();
+}
+
 QRect ShadowForm::CropPixels() const
 {
     const QSize picture = m_pictureLabel->size();
@@ -91,6 +100,16 @@ void ShadowForm::paintEvent(QPaintEvent*)
     }
     painter.drawRects(&crop, 1);
     painter.restore();
+    if (m_isFocusShown) {
+        PaintFocus(painter, crop);
+    }
+}
+
+void ShadowForm::PaintFocus(QPainter& painter, const QRect& crop) const
+{
+    // Off the outline, and inside the crop, which usually reaches the picture's edges.
+    painter.setPen(QPen(FocusColour, FocusRingPx, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    painter.drawRect(crop.adjusted(FocusInsetPx, FocusInsetPx, -FocusInsetPx, -FocusInsetPx));
 }
 
 void ShadowForm::PaintOverWindow(QPainter& painter, const QRect& crop) const

@@ -37,6 +37,9 @@ public:
     bool IsEditedFrame() const;
     void SetEditedFrame(bool isEdited);
 
+    /// A ring around the crop that shows where the keyboard focus is; initially there is none.
+    void SetFocusShown(bool isShown);
+
 Q_SIGNALS:
     /// A drag has ended; also when all of its steps were refused and `rect` is unchanged.
     void sigRectFChanged(QRectF rect);
@@ -51,6 +54,7 @@ protected:
 
 private:
     void PaintOverWindow(QPainter& painter, const QRect& crop) const;
+    void PaintFocus(QPainter& painter, const QRect& crop) const;
     void PaintOverParent(QPainter& painter, const QRect& crop) const;
     /// The crop in the form's pixels, one pixel smaller than it appears, so that the outline drawn on it covers it
     /// exactly. Products are truncated, so the crop never extends beyond the picture.
@@ -72,4 +76,5 @@ private:
     /// the moves below the start distance, which precede a drag by hand, update it.
     QPoint m_lastPosition;
     bool m_editedFrame = false;
+    bool m_isFocusShown = false;
 };
