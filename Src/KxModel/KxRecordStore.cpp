@@ -32,6 +32,16 @@ void AddPart(QCryptographicHash& hash, QFile& file, qint64 at, qint64 bytes)
     hash.addData(file.read(bytes));
 }
 
+void AddContent(QCryptographicHash& hash, QFile& file)
+{
+    const qint64 size = file.size();
+    AddPart(hash, file, 0, EndBytes);
+    for (qint64 place = 1; place <= Places; ++place) {
+        AddPart(hash, file, size / (Places + 1) * place, PlaceBytes);
+    }
+    AddPart(hash, file, std::max<qint64>(0, size - EndBytes), EndBytes);
+}
+
 QString PathOf(const QByteArray& key, const QString& folder)
 {
     return folder + QLatin1Char('/') + QString::fromLatin1(key) + QLatin1String(Suffix);
@@ -88,20 +98,27 @@ QString KxRecordStore::ChooseFolder(const QString& named)
            QStringLiteral("/auto-reframe/records");
 }
 
+QByteArray KxRecordStore::ContentHash(const QString& videoPath)
+{
+    QFile file(videoPath);
+    if (!file.open(QIODevice::ReadOnly)) {
+        return {};
+    }
+    QCryptographicHash hash(QCryptographicHash::Sha256);
+    hash.addData(QByteArray::number(file.size()));
+    AddContent(hash, file);
+    return hash.result().toHex();
+}
+
 QByteArray KxRecordStore::KeyOf(const QString& videoPath, const KxSubjectModels& models)
 {
     QFile file(videoPath);
     if (!file.open(QIODevice::ReadOnly)) {
         return {};
     }
-    const qint64 size = file.size();
     QCryptographicHash hash(QCryptographicHash::Sha256);
-    hash.addData(QByteArray::number(KxSubjectRecordFormat::Version) + ' ' + QByteArray::number(size));
-    AddPart(hash, file, 0, EndBytes);
-    for (qint64 place = 1; place <= Places; ++place) {
-        AddPart(hash, file, size / (Places + 1) * place, PlaceBytes);
-    }
-    AddPart(hash, file, std::max<qint64>(0, size - EndBytes), EndBytes);
+    hash.addData(QByteArray::number(KxSubjectRecordFormat::Version) + ' ' + QByteArray::number(file.size()));
+    AddContent(hash, file);
     for (const std::string* model :
          {&models.faces.frontalCascade, &models.faces.profileCascade, &models.faces.detector, &models.objectDetector}) {
         hash.addData(QByteArray::number(static_cast<qint64>(model->size())) + ' ');

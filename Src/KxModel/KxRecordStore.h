@@ -34,6 +34,10 @@ public:
     /// configuration (key "Cache"), otherwise auto-reframe/records in the person's folder of caches. Empty for "none".
     static QString ChooseFolder(const QString& named = {});
 
+    /// Identifies a video's file by its size and the content of parts of it (its first and last 64 kB and 62 places
+    /// between). Empty if the file cannot be read.
+    static QByteArray ContentHash(const QString& videoPath);
+
     /// What identifies a record: the size of the video's file and the content of parts of it (its first and last 64 kB
     /// and 62 places between), the models, and the version of the analysis. Empty if the file cannot be read.
     static QByteArray KeyOf(const QString& videoPath, const KxSubjectModels& models);

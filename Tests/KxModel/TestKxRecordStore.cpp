@@ -171,3 +171,16 @@ TEST_F(KxRecordStoreTest, TheKeyFollowsTheContentAndTheModels)
     EXPECT_TRUE(KxRecordStore::KeyOf(m_folder.filePath(QStringLiteral("missing")), models).isEmpty());
     EXPECT_FALSE(KxRecordStore::KeyOf(Write("empty", {}), models).isEmpty());
 }
+
+TEST_F(KxRecordStoreTest, TheContentHashIdentifiesAFileWhateverItsName)
+{
+    const QByteArray content = QByteArray(300 * 1024, 'v');
+    const QByteArray hash = KxRecordStore::ContentHash(Write("clip", content));
+    EXPECT_FALSE(hash.isEmpty());
+    EXPECT_EQ(KxRecordStore::ContentHash(Write("renamed", content)), hash);
+    EXPECT_NE(KxRecordStore::ContentHash(Write("longer", content + 'v')), hash);
+    QByteArray changed = content;
+    changed[0] = 'w';
+    EXPECT_NE(KxRecordStore::ContentHash(Write("changed", changed)), hash);
+    EXPECT_TRUE(KxRecordStore::ContentHash(m_folder.filePath(QStringLiteral("missing"))).isEmpty());
+}
