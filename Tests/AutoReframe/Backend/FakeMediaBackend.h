@@ -2,6 +2,7 @@
 
 #include <Apps/AutoReframe/Backend/MediaBackend.h>
 
+#include <QFile>
 #include <QFileInfo>
 
 #include <new>
@@ -68,7 +69,15 @@ public:
         media.resolution = QSize(1920, 1080);
         media.frameRate = {30, 1};
         media.frameCount = 1260;
+        media.fileBytes = QFileInfo(path).size();
+        media.contentHash = ContentHash(path);
         return media;
+    }
+    /// The whole content, so that a test sees what was compared.
+    QByteArray ContentHash(const QString& path) override
+    {
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) ? file.readAll().toHex() : QByteArray();
     }
     quint64 RequestThumbnail(const QString&, const QSize& roomPx,
                              const std::function<void(const QImage&)>& ready) override

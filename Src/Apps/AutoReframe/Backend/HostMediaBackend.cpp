@@ -15,6 +15,7 @@
 #include <KxWidgets/KxFileDialog.h>
 
 #include <QCoreApplication>
+#include <QFileInfo>
 
 namespace
 {
@@ -81,8 +82,15 @@ KxResult<MediaFile> HostMediaBackend::Open(const QString& path, const KxCancelTo
     media.resolution = info.resolution();
     media.frameRate = info.frameRate();
     media.frameCount = info.frameCount();
+    media.fileBytes = QFileInfo(media.path).size();
+    media.contentHash = ContentHash(media.path);
     media.item = std::move(*item);
     return media;
+}
+
+QByteArray HostMediaBackend::ContentHash(const QString& path)
+{
+    return KxRecordStore::ContentHash(path);
 }
 
 KxThumbnailer& HostMediaBackend::Thumbnailer()

@@ -14,6 +14,7 @@ public:
     ~HostMediaBackend() override;
 
     KxResult<MediaFile> Open(const QString& path, const KxCancelToken& cancel) override;
+    QByteArray ContentHash(const QString& path) override;
     quint64 RequestThumbnail(const QString& path, const QSize& roomPx,
                              const std::function<void(const QImage& picture)>& ready) override;
     void CancelThumbnail(quint64 request) override;

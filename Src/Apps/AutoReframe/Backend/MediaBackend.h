@@ -7,6 +7,8 @@
 #include <KxRender/KxRenderJob.h>
 
 #include <QImage>
+#include <QMap>
+#include <QRectF>
 #include <QSize>
 #include <QString>
 
@@ -23,8 +25,32 @@ struct MediaFile {
     QSize resolution;
     KxRational frameRate;
     qint64 frameCount = 0;
+    qint64 fileBytes = 0;
+    /// MediaBackend::ContentHash() of the file.
+    QByteArray contentHash;
     /// Used by one thread at a time; the last copy goes before the backend does.
     std::shared_ptr<IKxAbstractMedia> item;
+};
+
+/// What a person decided about a video in the dialog. A plain record.
+struct VideoEdits {
+    /// Of the settings; empty if none was chosen yet.
+    QSize aspect;
+    /// As in IKxAutoReframeParam: 8 fast, 16 auto, 24 slow; 0 if none was chosen yet.
+    int speed = 0;
+    bool isAnalyzed = false;
+    /// The crops that the person placed, by frame, in fractions of the picture.
+    QMap<uint, QRectF> editPoints;
+    QByteArray choices; ///< JSON; the program does not look into it
+    /// First frames of the doubtful shots that the person has looked at, ascending.
+    QList<uint> seenShots;
+
+    bool operator==(const VideoEdits& other) const
+    {
+        return aspect == other.aspect && speed == other.speed && isAnalyzed == other.isAnalyzed &&
+               editPoints == other.editPoints && choices == other.choices && seenShots == other.seenShots;
+    }
+    bool operator!=(const VideoEdits& other) const { return !(*this == other); }
 };
 
 /// One file to render.
@@ -51,6 +77,11 @@ struct DialogCallbacks {
     std::function<void(const ExportRequest& request)> exportRequested;
     /// The result cannot be exported; `message` gives the reason.
     std::function<void(const QString& message)> exportRefused;
+    /// What the person decided about the video `path` when it was open last; the dialog may also open others than the
+    /// one it was shown for. May be empty.
+    std::function<VideoEdits(const QString& path)> loadEdits;
+    /// The person changed something. May be empty.
+    std::function<void(const QString& path, const VideoEdits& edits)> editsChanged;
     /// The dialog considers this computer too slow for the analysis.
     std::function<void()> unsupported;
 };
@@ -66,6 +97,8 @@ public:
     /// Blocks while the file's header and first picture are read; any thread. The error message names the file and the
     /// reason.
     virtual KxResult<MediaFile> Open(const QString& path, const KxCancelToken& cancel) = 0;
+    /// Identifies the content of a file, from its size and parts of it; empty if it cannot be read. Blocks; any thread.
+    virtual QByteArray ContentHash(const QString& path) = 0;
     /// Asks for a picture of the video that fits into `roomPx` (device pixels) and returns the request's number.
     /// `ready` is called once, later, unless there is no picture or the request was cancelled. User-interface thread.
     virtual quint64 RequestThumbnail(const QString& path, const QSize& roomPx,
