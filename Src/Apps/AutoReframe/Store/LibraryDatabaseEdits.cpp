@@ -1,0 +1,90 @@
+#include <Apps/AutoReframe/Store/LibraryDatabase.h>
+
+#include <QDateTime>
+#include <QSqlQuery>
+
+namespace
+{
+
+const QString FromVideo = QStringLiteral(" FROM videos WHERE path = ?");
+const QString WithPath = QStringLiteral(" JOIN videos ON video = id");
+
+/// Runs the statements until one fails.
+KxError InTurn(const QList<std::function<KxError()>>& statements)
+{
+    for (const std::function<KxError()>& statement : statements) {
+        if (const KxError failure = statement()) {
+            return failure;
+        }
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+KxError LibraryDatabase::SaveEdits(const QString& path, const VideoEdits& edits)
+{
+    const auto execute = [this](const QString& statement, const QVariantList& values) {
+        return [this, statement, values] { return m_connection.Execute(statement, values); };
+    };
+    QList<std::function<KxError()>> statements{
+        execute(QStringLiteral("INSERT INTO videos(path, position, file_bytes, content_hash, width, height, "
+                               "rate_numerator, rate_denominator, frame_count, removed_at) "
+                               "VALUES(?, 0, 0, '', 0, 0, 0, 1, 0, ?) "
+                               "ON CONFLICT(path) DO UPDATE SET removed_at = excluded.removed_at "
+                               "WHERE removed_at IS NOT NULL"),
+                {path, QDateTime::currentSecsSinceEpoch()}),
+        execute(QStringLiteral("INSERT OR REPLACE INTO settings(video, aspect_width, aspect_height, speed, "
+                               "is_analyzed) SELECT id, ?, ?, ?, ?") +
+                    FromVideo,
+                {edits.aspect.width(), edits.aspect.height(), edits.speed, edits.isAnalyzed, path}),
+    };
+    for (const char* const table : {"edits", "choices", "seen_shots"}) {
+        statements += execute(
+            QStringLiteral("DELETE FROM %1 WHERE video = (SELECT id%2)").arg(QLatin1String(table), FromVideo), {path});
+    }
+    if (!edits.choices.isEmpty()) {
+        statements += execute(QStringLiteral("INSERT INTO choices(video, json) SELECT id, ?") + FromVideo,
+                              {QString::fromUtf8(edits.choices), path});
+    }
+    for (auto point = edits.editPoints.begin(); point != edits.editPoints.end(); ++point) {
+        statements += execute(
+            QStringLiteral("INSERT INTO edits(video, frame, x, y, width, height) SELECT id, ?, ?, ?, ?, ?") + FromVideo,
+            {point.key(), point->x(), point->y(), point->width(), point->height(), path});
+    }
+    for (const uint frame : edits.seenShots) {
+        statements +=
+            execute(QStringLiteral("INSERT INTO seen_shots(video, frame) SELECT id, ?") + FromVideo, {frame, path});
+    }
+    return InTurn(statements);
+}
+
+KxError LibraryDatabase::ReadEdits(StoredContents& contents)
+{
+    const auto read = [this, &contents](const char* columns,
+                                        const std::function<void(VideoEdits&, const QSqlQuery&)>& take) {
+        const QString statement = QLatin1String("SELECT path, ") + QLatin1String(columns) + WithPath;
+        return [this, &contents, statement, take] {
+            return m_connection.Select(
+                statement, {}, [&](const QSqlQuery& row) { take(contents.edits[row.value(0).toString()], row); });
+        };
+    };
+    return InTurn({
+        read("aspect_width, aspect_height, speed, is_analyzed FROM settings",
+             [](VideoEdits& edits, const QSqlQuery& row) {
+                 edits.aspect = QSize(row.value(1).toInt(), row.value(2).toInt());
+                 edits.speed = row.value(3).toInt();
+                 edits.isAnalyzed = row.value(4).toBool();
+             }),
+        read("frame, x, y, edits.width, edits.height FROM edits",
+             [](VideoEdits& edits, const QSqlQuery& row) {
+                 edits.editPoints.insert(row.value(1).toUInt(),
+                                         QRectF(row.value(2).toDouble(), row.value(3).toDouble(),
+                                                row.value(4).toDouble(), row.value(5).toDouble()));
+             }),
+        read("json FROM choices",
+             [](VideoEdits& edits, const QSqlQuery& row) { edits.choices = row.value(1).toString().toUtf8(); }),
+        read("frame FROM seen_shots",
+             [](VideoEdits& edits, const QSqlQuery& row) { edits.seenShots += row.value(1).toUInt(); }),
+    });
+}

@@ -1,0 +1,169 @@
+#include <Apps/AutoReframe/Store/LibraryDatabase.h>
+
+#include <QSet>
+#include <QSqlQuery>
+
+#include <algorithm>
+#include <array>
+#include <cstring>
+
+namespace
+{
+
+using State = StoredExport::State;
+using Crops = std::vector<QRectF>;
+
+constexpr std::array<std::pair<State, const char*>, 6> StateNames{{{State::Waiting, "waiting"},
+                                                                   {State::Running, "running"},
+                                                                   {State::Done, "done"},
+                                                                   {State::Failed, "failed"},
+                                                                   {State::Cancelled, "cancelled"},
+                                                                   {State::Interrupted, "interrupted"}}};
+
+QString NameOf(State state)
+{
+    const auto found =
+        std::find_if(StateNames.begin(), StateNames.end(), [state](const auto& entry) { return entry.first == state; });
+    return QLatin1String(found->second);
+}
+
+std::optional<State> StateOf(const QString& name)
+{
+    const auto found = std::find_if(StateNames.begin(), StateNames.end(),
+                                    [&name](const auto& entry) { return name == QLatin1String(entry.second); });
+    return found != StateNames.end() ? std::optional<State>(found->first) : std::nullopt;
+}
+
+constexpr int NumbersPerCrop = 4;
+constexpr int CropBytes = NumbersPerCrop * static_cast<int>(sizeof(double));
+
+/// Four numbers for each crop, in the byte order of x86, compressed. The database stays on one machine.
+QByteArray Pack(const std::shared_ptr<const Crops>& crops)
+{
+    QByteArray bytes;
+    if (crops != nullptr) {
+        bytes.reserve(static_cast<int>(crops->size()) * CropBytes);
+        for (const QRectF& crop : *crops) {
+            const double numbers[NumbersPerCrop] = {crop.x(), crop.y(), crop.width(), crop.height()};
+            bytes.append(reinterpret_cast<const char*>(numbers), CropBytes);
+        }
+    }
+    return bytes.isEmpty() ? QByteArray() : qCompress(bytes, 1);
+}
+
+std::shared_ptr<const Crops> Unpack(const QByteArray& packed)
+{
+    // The first four bytes claim how much memory is needed. A day of video at 60 frames a second takes 158 MiB.
+    constexpr quint32 mostBytes = 256U * 1024 * 1024;
+    quint32 claimed = 0;
+    for (int i = 0; i < 4 && packed.size() > 4; ++i) {
+        claimed = (claimed << 8) | static_cast<uchar>(packed.at(i));
+    }
+    if (claimed == 0 || claimed > mostBytes) {
+        return nullptr;
+    }
+    const QByteArray bytes = qUncompress(packed);
+    auto crops = std::make_shared<Crops>();
+    crops->reserve(static_cast<size_t>(bytes.size() / CropBytes));
+    for (int at = 0; at + CropBytes <= bytes.size(); at += CropBytes) {
+        double numbers[NumbersPerCrop];
+        std::memcpy(numbers, bytes.constData() + at, CropBytes);
+        crops->push_back({numbers[0], numbers[1], numbers[2], numbers[3]});
+    }
+    return crops;
+}
+
+StoredExport ExportOf(const QSqlQuery& row, State state)
+{
+    StoredExport item;
+    item.key = row.value(0).toLongLong();
+    item.state = state;
+    KxRenderSource& source = item.request.source;
+    source.path = row.value(2).toString();
+    source.audioStream = row.value(3).isNull() ? std::nullopt : std::optional<int>(row.value(3).toInt());
+    source.crops = Unpack(row.value(4).toByteArray());
+    KxRenderSettings& settings = item.request.settings;
+    settings.outputPath = row.value(5).toString();
+    settings.existing = row.value(6).toBool() ? KxOutputFile::Existing::AddNumber : KxOutputFile::Existing::Replace;
+    settings.resolution = QSize(row.value(7).toInt(), row.value(8).toInt());
+    settings.frameRate = row.value(9).toDouble();
+    settings.videoBitRate = row.value(10).toInt();
+    settings.audioBitRate = row.value(11).toInt();
+    item.filePath = row.value(12).toString();
+    item.fileBytes = row.value(13).toLongLong();
+    item.message = row.value(14).toString();
+    return item;
+}
+
+/// These belong to one run: two programs must not render the same export.
+const QString Unfinished = QStringLiteral("state IN ('waiting', 'running', 'interrupted')");
+
+} // namespace
+
+KxError LibraryDatabase::ClaimInterruptedExports()
+{
+    QSet<QString> runs;
+    const KxError failure = m_connection.Select(QStringLiteral("SELECT DISTINCT run FROM exports WHERE ") + Unfinished,
+                                                {}, [&runs](const QSqlQuery& row) { runs += row.value(0).toString(); });
+    if (failure) {
+        return failure;
+    }
+    for (const QString& run : qAsConst(runs)) {
+        if (run == m_run.Name() || LibraryRun::IsAlive(run, m_folder)) {
+            continue;
+        }
+        if (const KxError claimFailure = m_connection.Execute(
+                QStringLiteral("UPDATE exports SET state = 'interrupted', run = ? WHERE run = ? AND ") + Unfinished,
+                {m_run.Name(), run})) {
+            return claimFailure;
+        }
+    }
+    return std::nullopt;
+}
+
+KxError LibraryDatabase::ReadExports(StoredContents& contents)
+{
+    return m_connection.Select(
+        QStringLiteral("SELECT key, state, source_path, audio_stream, crops, output_path, adds_number, width, height, "
+                       "frame_rate, video_bit_rate, audio_bit_rate, file_path, file_bytes, message "
+                       "FROM exports WHERE run = ? OR NOT ") +
+            Unfinished + QStringLiteral(" ORDER BY position, key"),
+        {m_run.Name()}, [&contents](const QSqlQuery& row) {
+            if (const std::optional<State> state = StateOf(row.value(1).toString())) {
+                contents.exports += ExportOf(row, *state);
+            }
+        });
+}
+
+KxError LibraryDatabase::SaveExport(const StoredExport& item)
+{
+    const KxRenderSource& source = item.request.source;
+    const KxRenderSettings& settings = item.request.settings;
+    return m_connection.Execute(
+        QStringLiteral("INSERT OR REPLACE INTO exports(key, position, state, run, source_path, audio_stream, crops, "
+                       "output_path, adds_number, width, height, frame_rate, video_bit_rate, audio_bit_rate, "
+                       "file_path, file_bytes, message) "
+                       "VALUES(?, (SELECT coalesce(max(position), 0) + 1 FROM exports), ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, "
+                       "?, ?, ?, ?, ?)"),
+        {item.key, NameOf(item.state), m_run.Name(), source.path,
+         source.audioStream ? QVariant(*source.audioStream) : QVariant(QVariant::Int), Pack(source.crops),
+         settings.outputPath, settings.existing == KxOutputFile::Existing::AddNumber, settings.resolution.width(),
+         settings.resolution.height(), settings.frameRate, settings.videoBitRate, settings.audioBitRate, item.filePath,
+         item.fileBytes, item.message});
+}
+
+KxError LibraryDatabase::SaveExportState(const StoredExport& item)
+{
+    return m_connection.Execute(
+        QStringLiteral("UPDATE exports SET state = ?, run = ?, file_path = ?, file_bytes = ?, message = ?, "
+                       "crops = CASE ? WHEN 'done' THEN NULL ELSE crops END, "
+                       "position = CASE ? WHEN 'waiting' THEN (SELECT max(position) + 1 FROM exports) "
+                       "ELSE position END WHERE key = ?"),
+        {NameOf(item.state), m_run.Name(), item.filePath, item.fileBytes, item.message, NameOf(item.state),
+         NameOf(item.state), item.key});
+}
+
+KxError LibraryDatabase::RemoveExport(qint64 key)
+{
+    return m_connection.Execute(QStringLiteral("DELETE FROM exports WHERE key = ?"), {key});
+}
