@@ -46,8 +46,9 @@ struct Contents {
     KxSubjectModels models;
     QStringList problems; ///< an error message for each file or folder that cannot be used
 };
-/// Reads the cascades that can be found, and the networks in `networkFolder` unless that is empty. A file that differs
-/// from its line in the folder's SHA256SUMS is not used: OpenCV does not detect all damage. Throws std::bad_alloc.
+/// Reads the cascades that can be found, and the networks in `networkFolder` unless that is empty. A network is used if
+/// its checksum is the one in the folder's SHA256SUMS or, without a line there, that of the published face detector:
+/// some damaged networks crash OpenCV. Throws std::bad_alloc.
 KXMODEL_API Contents Read(const QString& networkFolder);
 
 /// The error messages for networks of `networkFolder` that OpenCV refuses.

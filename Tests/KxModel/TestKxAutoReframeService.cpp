@@ -3,6 +3,7 @@
 #include <KxSubject/KxSubjectFindings.h>
 #include <Tests/Support/MadeVideo.h>
 
+#include <QCryptographicHash>
 #include <QFile>
 #include <QTemporaryDir>
 
@@ -286,13 +287,27 @@ TEST_F(KxAutoReframeServiceTest, APauseOfDaysInTheTimeStampsIsHeld)
     EXPECT_EQ(results.size(), 172840);
 }
 
+namespace
+{
+
+void WriteFile(const QString& path, const QByteArray& contents)
+{
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    ASSERT_EQ(file.write(contents), contents.size());
+}
+
+} // namespace
+
 TEST_F(KxAutoReframeServiceTest, InvalidDetectorsAreReportedAndTheAnalysisContinues)
 {
+    const QByteArray contents = "this is no network";
+    QByteArray checksums;
     for (const char* name : {"nanodet-g.onnx", "face_detection_yunet_2022mar.onnx"}) {
-        QFile network(m_folder.filePath(QLatin1String(name)));
-        ASSERT_TRUE(network.open(QIODevice::WriteOnly));
-        network.write("this is no network");
+        WriteFile(m_folder.filePath(QLatin1String(name)), contents);
+        checksums += QCryptographicHash::hash(contents, QCryptographicHash::Sha256).toHex() + "  " + name + '\n';
     }
+    WriteFile(m_folder.filePath(QStringLiteral("SHA256SUMS")), checksums);
     m_service.SetNetworkFolder(m_folder.path());
     Recorder recorder(m_service);
     const QString clip = MakeClip("clip.mp4", 40);
