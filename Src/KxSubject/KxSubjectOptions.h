@@ -10,6 +10,7 @@
 /// - clips: chosen by the score of "Against ground truth" in Docs/ANALYSIS.md;
 /// - spread: the same, and `Benchmarks/spread` measures how much depends on it ("Sensitivity to the tuning values"
 /// there);
+/// - speech: taken from a study with other clips and kept ("Who speaks" there);
 /// - cross: `Benchmarks/crossvalidate` chose it on some clips and scored it on the others;
 /// - shots: chosen on the videos of "Shot boundaries" there;
 /// - chosen: hardly matters within its range.
@@ -185,6 +186,61 @@ struct KxSubjectOptions {
         double mostGapSeconds = 2.5;  ///< 1 to 5: a box that is missed for longer is another one; chosen
         double fadeSeconds = 1.0;     ///< 0.5 to 2 before the first and after the last look at a track; chosen
     } detections;
+
+    /// The looks at mouths while two or more faces are there.
+    struct Mouths {
+        double periodSeconds = 0.06;      ///< 0.04 to 0.08: pictures that follow faster are skipped; chosen
+        double mostPeriodSeconds = 0.25;  ///< 0.15 to 0.3: a mouth is not compared over a longer pause; chosen
+        double smoothingSeconds = 0.36;   ///< 0.2 to 0.5, of the face's box; speech
+        double delaySeconds = 0.5;        ///< 0.4 to 1: the box is known so much later; chosen
+        double aloneSeconds = 3.0;        ///< 1 to 5 after the second face was lost, which may return; chosen
+        double nearestHitSeconds = 0.3;   ///< 0.2 to 0.5: without a hit so near, the box is unknown; chosen
+        double acrossMissesSeconds = 1.0; ///< 0.6 to 2 between two hits, in which it is interpolated; chosen
+        double leastFacePx = 24.0;        ///< 20 to 30: the mouth of a smaller face is not resolved; speech
+        double growth = 1.1;              ///< 1 to 1.3 times the box is cut out; speech
+        double mostShiftPx = 3.0;         ///< 2 to 5 of 44 across the face: a larger translation is an error; speech
+        int mostFaces = 4;                ///< 2 to 6 at once, the largest ones; bounds the cost of a crowd; chosen
+        double leastSeconds = 1.0;        ///< 0.5 to 2 beside another mouth: a shorter track is not kept; chosen
+        double soundMarginSeconds = 5.0;  ///< 3 to 10 of sound kept before and after the mouths; chosen
+    } mouths;
+
+    /// Who speaks. Steps are a 25th of a second.
+    struct Speech {
+        double floorSeconds = 5.0;     ///< 3 to 8 each way whose tenth percentile is the quiet; speech
+        double floorBelowLoud = 15.0;  ///< 10 to 20 dB: the quiet is at least so far below the loud; speech
+        double aboveFloor = 9.0;       ///< 6 to 12 dB above the quiet, of speech; speech
+        double belowLoud = 28.0;       ///< 20 to 35 dB: speech is no farther below the loud; speech
+        double gapSeconds = 0.32;      ///< 0.2 to 0.5: a shorter pause is speech; speech
+        double meanSeconds = 1.5;      ///< 1 to 2 each way, of a local mean; speech
+        double deviationSeconds = 3.0; ///< 2 to 5 each way, of a local deviation; speech
+        double mostScore = 3.0;        ///< 2 to 4 deviations; speech
+        double headShare = 0.7;        ///< 0.4 to 1 of the head's movement, which the mouth does by itself; speech
+        double openingSeconds = 0.6;   ///< 0.4 to 1: the mean opening over this time is no movement; speech
+        double openingWeight = 0.6;    ///< 0.3 to 1 of the opening, against the movement; speech
+        double productScale = 1.6;     ///< 1 to 2; speech
+        double mostProduct = 2.5;      ///< 2 to 4; speech
+        int mostLagBefore = 4;         ///< 2 to 8 steps that the sound may be later than the lips; speech
+        int mostLagAfter = 2;          ///< 1 to 4 steps that it may be earlier; speech
+        double lagSeconds = 2.0;       ///< 1 to 3, over which a lag has to hold; speech
+        double activitySeconds = 1.0;  ///< 0.5 to 2; speech
+        double activityHead = 0.6;     ///< 0.4 to 0.8 of the head's movement; speech
+        double activityFloor = 0.02;   ///< 0.01 to 0.04 deviations; speech
+        double activityNeeded = 0.2;   ///< 0 to 0.4: a mouth that moves less is likely silent; speech
+        double mostActivity = 0.2;     ///< 0.1 to 0.4: chewing is no speech; speech
+        double activityWeight = 0.2;   ///< 0.1 to 0.4, against the correlation; speech
+        double nobody = 0.05;          ///< 0.02 to 0.1: what a speaker's evidence has to exceed; speech
+        double changeCost = 9.0;       ///< 5 to 15 of a change of speaker, in steps of evidence; speech
+        double leastRunSeconds = 0.7;  ///< 0.5 to 1: a shorter turn is not followed; speech
+        double leastSeconds = 2.0;     ///< 1.5 to 4 that each of two faces lasts; speech
+        double leastMargin = 0.05;     ///< 0.02 to 0.1, mean evidence ahead of the next face; speech
+        double crossTalkSeconds = 2.0; ///< 1.5 to 3 in which two speak; speech
+        int leastHits = 5;             ///< 3 to 10 looks that see a face; chosen
+        double samePlace = 0.6;        ///< 0.4 to 0.8 of its side: a nearer face is the same person; chosen
+        double sameSize = 0.4;         ///< 0.3 to 0.6, logarithm of the ratio; chosen
+        double placeSeconds = 1.0;     ///< 0.5 to 2 each way, over which a face's place is averaged; chosen
+        double enoughHeld = 0.95; ///< 0.8 to 1 of the time that the crop holds the speaker anyway: it stays; chosen
+        double room = 0.25;       ///< 0.1 to 0.4 of a face's width on each side, so that it fits; chosen
+    } speech;
 
     struct Evidence {
         double motionWeight = 0.5;          ///< 0.3 to 1; spread

@@ -65,8 +65,34 @@ struct KxDetectionLook {
     std::vector<KxDetection> found;
 };
 
-/// What one pass over a video saw. It depends on the pictures alone, so every aspect, speed and choice can be decided
-/// on it without another pass.
+/// How a mouth and its head moved from one picture to a later one. Small, because hours of them are kept.
+struct KxMouthLook {
+    /// Movements are mean differences in standard deviations of the face; openings are pixels of a face 44 pixels wide.
+    static constexpr double One = 5000.0;
+
+    std::int32_t frame = 0;
+    std::uint8_t frames = 1;    ///< since the picture it is compared with, at least 1
+    std::uint16_t movement = 0; ///< of the mouth once the head's own translation is undone; One is 1
+    std::uint16_t head = 0;     ///< of the eyes and nose, likewise
+    std::int16_t opening = 0;   ///< how far the lower lip moved from the upper one; One is 1
+};
+
+/// The mouth of one face over time.
+struct KxMouthTrack {
+    std::int32_t face = 0;          ///< an index of KxSubjectRecord::faces
+    std::vector<KxMouthLook> looks; ///< growing by frame
+};
+
+/// How loud the sound is, in the band of speech.
+struct KxSoundSpan {
+    static constexpr int LevelsPerSecond = 25;
+
+    std::int64_t first = 0;           ///< the time of the first level, in levels
+    std::vector<std::int16_t> levels; ///< hundredths of a decibel
+};
+
+/// What one pass over a video saw. It depends on pictures and sound alone, so every aspect, speed and choice can be
+/// decided on it without another pass.
 struct KXSUBJECT_API KxSubjectRecord {
     KxSubjectSource source;                 ///< with positive sizes and rate
     KxIntSize workingSizePx;                ///< of the pictures that were measured
@@ -76,6 +102,8 @@ struct KXSUBJECT_API KxSubjectRecord {
     std::vector<KxMover> movers;            ///< growing by first sample
     std::vector<KxFaceTrack> faces;
     std::vector<KxDetectionLook> looks; ///< growing by frame; none without the object detector
+    std::vector<KxMouthTrack> mouths;   ///< growing by face; only where two or more faces last
+    std::vector<KxSoundSpan> sound;     ///< growing in time, apart from each other; only where there are mouths
 
     double SecondsAt(std::int64_t frame) const { return static_cast<double>(frame) / source.frameRate; }
 };

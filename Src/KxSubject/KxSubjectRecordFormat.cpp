@@ -117,6 +117,25 @@ public:
         Put(look.frame);
         PutAll(look.found);
     }
+    void PutItem(const KxMouthLook& look)
+    {
+        Put(look.frame);
+        Put(look.frames);
+        Put(look.movement);
+        Put(look.head);
+        Put(look.opening);
+    }
+    void PutItem(const KxMouthTrack& track)
+    {
+        Put(track.face);
+        PutAll(track.looks);
+    }
+    void PutItem(std::int16_t level) { Put(level); }
+    void PutItem(const KxSoundSpan& span)
+    {
+        Put(span.first);
+        PutAll(span.levels);
+    }
 
     std::string Finished()
     {
@@ -260,6 +279,30 @@ public:
         Get(look.frame);
         GetAll(look.found, detectionBytes);
     }
+    void GetItem(KxMouthLook& look)
+    {
+        Get(look.frame);
+        Get(look.frames);
+        Get(look.movement);
+        Get(look.head);
+        Get(look.opening);
+        Require(look.frames > 0);
+    }
+    void GetItem(KxMouthTrack& track)
+    {
+        constexpr std::size_t mouthLookBytes = 11;
+        Get(track.face);
+        GetAll(track.looks, mouthLookBytes);
+        Require(!track.looks.empty());
+    }
+    void GetItem(std::int16_t& level) { Get(level); }
+    void GetItem(KxSoundSpan& span)
+    {
+        constexpr std::int64_t farthest = std::int64_t{1} << 40;
+        Get(span.first);
+        GetAll(span.levels, sizeof(std::int16_t));
+        Require(span.first >= 0 && span.first < farthest && !span.levels.empty());
+    }
 
 private:
     const char* m_data;
@@ -294,6 +337,26 @@ bool GrowsInside(const std::vector<Item>& items, const KxSubjectSource& source)
     return true;
 }
 
+bool AreMouthsConsistent(const KxSubjectRecord& record)
+{
+    std::int32_t lastFace = -1;
+    for (const KxMouthTrack& mouth : record.mouths) {
+        if (mouth.face <= lastFace || static_cast<std::size_t>(mouth.face) >= record.faces.size() ||
+            !GrowsInside(mouth.looks, record.source)) {
+            return false;
+        }
+        lastFace = mouth.face;
+    }
+    std::int64_t end = 0;
+    for (const KxSoundSpan& span : record.sound) {
+        if (span.first < end) {
+            return false;
+        }
+        end = span.first + static_cast<std::int64_t>(span.levels.size());
+    }
+    return true;
+}
+
 /// Whether the parts fit each other.
 bool IsConsistent(const KxSubjectRecord& record)
 {
@@ -316,7 +379,8 @@ bool IsConsistent(const KxSubjectRecord& record)
         }
         firstSample = mover.firstSample;
     }
-    return IsShare(record.content.x, record.content.width) && IsShare(record.content.y, record.content.height);
+    return AreMouthsConsistent(record) && IsShare(record.content.x, record.content.width) &&
+           IsShare(record.content.y, record.content.height);
 }
 
 } // namespace
@@ -338,6 +402,8 @@ std::string KxSubjectRecordFormat::Write(const KxSubjectRecord& record)
     writer.PutAll(record.movers);
     writer.PutAll(record.faces);
     writer.PutAll(record.looks);
+    writer.PutAll(record.mouths);
+    writer.PutAll(record.sound);
     return writer.Finished();
 }
 
@@ -376,11 +442,15 @@ std::optional<KxSubjectRecord> KxSubjectRecordFormat::Read(const std::string& by
     constexpr std::size_t leastMoverBytes = 24;
     constexpr std::size_t leastFaceBytes = 20;
     constexpr std::size_t leastLookBytes = 12;
+    constexpr std::size_t leastMouthBytes = 23;
+    constexpr std::size_t leastSoundBytes = 18;
     reader.GetAll(record.boundaries, boundaryBytes);
     reader.GetAll(record.samples, sampleBytes);
     reader.GetAll(record.movers, leastMoverBytes);
     reader.GetAll(record.faces, leastFaceBytes);
     reader.GetAll(record.looks, leastLookBytes);
+    reader.GetAll(record.mouths, leastMouthBytes);
+    reader.GetAll(record.sound, leastSoundBytes);
     if (!reader.IsOk() || !reader.IsAtEnd() || !IsConsistent(record)) {
         return std::nullopt;
     }
