@@ -3,6 +3,7 @@
 #include <KxSubject/KxPictureView.h>
 #include <KxSubject/KxSubjectModels.h>
 #include <KxSubject/Shots/KxShotDetector.h>
+#include <KxSubject/Signals/KxMouthTracks.h>
 #include <KxSubject/Signals/KxOpenCvError.h>
 #include <KxSubject/Signals/KxSignalRecorder.h>
 
@@ -45,6 +46,7 @@ public:
         , m_shots(options.shots,
                   [this](std::int64_t first, std::int64_t last) { return m_signals.InCommon(first, last); })
         , m_signals(options, m_workingSize, m_source.frameRate, models)
+        , m_mouths(options.mouths, m_source.frameRate)
         , m_step(std::max<std::int64_t>(1, static_cast<std::int64_t>(std::floor(
                                                m_source.frameRate / options.sampling.wantedPicturesPerSecond + 0.01))))
     {
@@ -64,6 +66,7 @@ private:
     cv::Size m_workingSize;
     KxShotDetector m_shots;
     KxSignalRecorder m_signals;
+    KxMouthTracks m_mouths;
     std::int64_t m_step; ///< one frame of this many is wanted
     std::int64_t m_lastFrame = -1;
 };
@@ -80,6 +83,7 @@ void KxSubjectObserver::Impl::AddPicture(std::int64_t frame, const KxPictureView
     try {
         m_shots.AddPicture(frame, picture);
         m_signals.AddPicture(frame, picture);
+        m_mouths.AddPicture(frame, picture, m_signals.Faces());
     } catch (const cv::Exception& problem) {
         KxThrowIfOutOfMemory(problem);
     }
@@ -89,6 +93,7 @@ KxSubjectRecord KxSubjectObserver::Impl::Finish()
 {
     KxSubjectRecord record;
     record.boundaries = m_shots.Boundaries(m_source.frameRate);
+    record.mouths = m_mouths.Finish(m_signals.Faces());
     m_signals.Finish(record);
     record.source = m_source;
     record.workingSizePx = WorkingSize();

@@ -41,7 +41,7 @@ void KxFaceTracks::AddPicture(double timeSeconds, const cv::Mat& picture, const 
         Follow(timeSeconds, grey);
     }
     const double rarer = m_looksWithoutNews >= m_options.settledLooks ? m_options.settledFactor : 1.0;
-    const double profileRarer = IsFollowing() ? m_options.settledFactor : rarer;
+    const double profileRarer = Followed() > 0 ? m_options.settledFactor : rarer;
     if (timeSeconds >= m_lastFrontal + rarer * m_options.frontalPeriodSeconds - Early) {
         m_lastFrontal = timeSeconds;
         LookEverywhere(timeSeconds, picture, grey, KxFaceView::Frontal);
@@ -53,10 +53,11 @@ void KxFaceTracks::AddPicture(double timeSeconds, const cv::Mat& picture, const 
     }
 }
 
-bool KxFaceTracks::IsFollowing() const
+int KxFaceTracks::Followed() const
 {
-    return std::any_of(m_tracks.begin() + static_cast<std::ptrdiff_t>(m_firstOpen), m_tracks.end(),
-                       [this](const Track& track) { return track.misses < m_options.missesToDrop; });
+    return static_cast<int>(
+        std::count_if(m_tracks.begin() + static_cast<std::ptrdiff_t>(m_firstOpen), m_tracks.end(),
+                      [this](const Track& track) { return track.misses < m_options.missesToDrop; }));
 }
 
 void KxFaceTracks::BeginScene()

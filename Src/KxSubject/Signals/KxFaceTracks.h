@@ -31,12 +31,15 @@ public:
         int misses = 0;
     };
     const std::vector<Track>& Tracks() const { return m_tracks; }
+    /// How many faces are followed now.
+    int Followed() const;
+    /// Every track before this index has ended.
+    std::size_t FirstOpen() const { return m_firstOpen; }
 
     /// Every track. Call once, after the last picture.
     std::vector<KxFaceTrack> Finish();
 
 private:
-    bool IsFollowing() const;
     void LookEverywhere(double timeSeconds, const cv::Mat& picture, const cv::Mat& grey, KxFaceView view);
     void Follow(double timeSeconds, const cv::Mat& grey);
 

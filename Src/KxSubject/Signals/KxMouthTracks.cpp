@@ -1,0 +1,173 @@
+#include <KxSubject/Signals/KxMouthTracks.h>
+
+#include <opencv2/imgproc.hpp>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace
+{
+
+/// Places at which the box of a face is averaged.
+constexpr int Places = 9;
+
+cv::Rect2d RectOf(const KxFaceLook& look)
+{
+    return cv::Rect2d(look.x, look.y, look.width, look.height);
+}
+
+cv::Rect2d Sum(const cv::Rect2d& a, double partOfA, const cv::Rect2d& b, double partOfB)
+{
+    return cv::Rect2d(a.x * partOfA + b.x * partOfB, a.y * partOfA + b.y * partOfB,
+                      a.width * partOfA + b.width * partOfB, a.height * partOfA + b.height * partOfB);
+}
+
+/// The cascades' squares reach beyond the face, by how much was measured on the boxes of a detector.
+cv::Rect2d FromBrowToChin(const cv::Rect2d& square)
+{
+    return cv::Rect2d(square.x + 0.12 * square.width, square.y + 0.02 * square.height, 0.76 * square.width,
+                      1.04 * square.height);
+}
+
+template<typename Number>
+Number Packed(double value)
+{
+    using Limits = std::numeric_limits<Number>;
+    return static_cast<Number>(std::lround(
+        std::clamp(value * KxMouthLook::One, static_cast<double>(Limits::min()), static_cast<double>(Limits::max()))));
+}
+
+} // namespace
+
+KxMouthTracks::KxMouthTracks(const KxSubjectOptions::Mouths& options, double frameRate)
+    : m_options(options)
+    , m_frameRate(frameRate)
+{
+}
+
+void KxMouthTracks::AddPicture(std::int64_t frame, const cv::Mat& picture, const KxFaceTracks& faces)
+{
+    const double now = SecondsAt(frame);
+    if (faces.Followed() >= 2) {
+        m_lastSeveral = now;
+    }
+    const double early = 0.25 / m_frameRate;
+    if (now <= m_lastSeveral + m_options.aloneSeconds &&
+        (m_lastKept < 0 || SecondsAt(frame - m_lastKept) >= m_options.periodSeconds - early)) {
+        Picture kept{frame, {}, faces.FirstOpen()};
+        cv::cvtColor(picture, kept.grey, cv::COLOR_BGR2GRAY);
+        m_pictures.push_back(std::move(kept));
+        m_lastKept = frame;
+    }
+    while (!m_pictures.empty() && SecondsAt(frame - m_pictures.front().frame) >= m_options.delaySeconds) {
+        Measure(m_pictures.front(), faces);
+        m_pictures.pop_front();
+    }
+}
+
+std::optional<cv::Rect2d> KxMouthTracks::HitAt(const KxFaceTrack& track, double seconds) const
+{
+    const auto time = static_cast<float>(seconds);
+    auto after = std::lower_bound(track.looks.begin(), track.looks.end(), time,
+                                  [](const KxFaceLook& look, float at) { return look.timeSeconds < at; });
+    auto before = after;
+    const auto isHit = [](const KxFaceLook& look) { return look.IsFace(); };
+    after = std::find_if(after, track.looks.end(), isHit);
+    while (before != track.looks.begin() && !std::prev(before)->IsFace()) {
+        --before;
+    }
+    const bool hasAfter = after != track.looks.end();
+    const bool hasBefore = before != track.looks.begin();
+    const double untilAfter = hasAfter ? static_cast<double>(after->timeSeconds) - seconds : 1e9;
+    const double sinceBefore = hasBefore ? seconds - static_cast<double>(std::prev(before)->timeSeconds) : 1e9;
+    if (untilAfter + sinceBefore <= m_options.acrossMissesSeconds) {
+        const double part = sinceBefore / (untilAfter + sinceBefore);
+        return Sum(RectOf(*std::prev(before)), 1.0 - part, RectOf(*after), part);
+    }
+    if (std::min(untilAfter, sinceBefore) > m_options.nearestHitSeconds) {
+        return std::nullopt;
+    }
+    return RectOf(untilAfter < sinceBefore ? *after : *std::prev(before));
+}
+
+std::optional<cv::Rect2d> KxMouthTracks::BoxAt(const KxFaceTrack& track, double seconds, bool isFromDetector) const
+{
+    if (!HitAt(track, seconds)) {
+        return std::nullopt;
+    }
+    cv::Rect2d sum;
+    int count = 0;
+    for (int i = 0; i < Places; ++i) {
+        const double offset = (static_cast<double>(i) / (Places - 1) - 0.5) * m_options.smoothingSeconds;
+        if (const std::optional<cv::Rect2d> box = HitAt(track, seconds + offset)) {
+            sum = Sum(sum, 1.0, *box, 1.0);
+            ++count;
+        }
+    }
+    const cv::Rect2d found = Sum(sum, 1.0 / count, {}, 0.0);
+    if (found.width < m_options.leastFacePx) {
+        return std::nullopt;
+    }
+    const cv::Rect2d box = isFromDetector ? found : FromBrowToChin(found);
+    const double grown = (m_options.growth - 1.0) / 2.0;
+    return cv::Rect2d(box.x - grown * box.width, box.y - grown * box.height, box.width * m_options.growth,
+                      box.height * m_options.growth);
+}
+
+void KxMouthTracks::Measure(const Picture& picture, const KxFaceTracks& faces)
+{
+    const double seconds = SecondsAt(picture.frame);
+    std::vector<std::pair<std::size_t, cv::Rect2d>> boxes;
+    for (std::size_t i = picture.firstFace; i < faces.Tracks().size(); ++i) {
+        if (const auto box = BoxAt(faces.Tracks()[i], seconds, faces.Finder().UsesDetector())) {
+            boxes.emplace_back(i, *box);
+        }
+    }
+    std::stable_sort(boxes.begin(), boxes.end(),
+                     [](const auto& a, const auto& b) { return a.second.area() > b.second.area(); });
+    boxes.resize(std::min(boxes.size(), static_cast<std::size_t>(m_options.mostFaces)));
+    std::map<std::size_t, Last> measured;
+    for (const auto& [face, box] : boxes) {
+        KxMouthPatch patch(picture.grey, box);
+        const auto last = m_last.find(face);
+        if (last != m_last.end() && SecondsAt(picture.frame - last->second.frame) <= m_options.mostPeriodSeconds) {
+            const KxMouthPatch::Movement moved = patch.Since(last->second.patch, m_options.mostShiftPx);
+            KxMouthTrack& mouth = m_mouths[face];
+            mouth.face = static_cast<std::int32_t>(face);
+            const std::int64_t frames = std::min<std::int64_t>(picture.frame - last->second.frame, 255);
+            mouth.looks.push_back({static_cast<std::int32_t>(picture.frame), static_cast<std::uint8_t>(frames),
+                                   Packed<std::uint16_t>(moved.mouth), Packed<std::uint16_t>(moved.head),
+                                   Packed<std::int16_t>(moved.opening)});
+        }
+        measured.emplace(face, Last{picture.frame, std::move(patch)});
+    }
+    m_last = std::move(measured);
+}
+
+std::vector<KxMouthTrack> KxMouthTracks::Finish(const KxFaceTracks& faces)
+{
+    for (const Picture& picture : m_pictures) {
+        Measure(picture, faces);
+    }
+    m_pictures.clear();
+    m_last.clear();
+    std::map<std::int32_t, int> mouthsAt;
+    for (const auto& [face, mouth] : m_mouths) {
+        for (const KxMouthLook& look : mouth.looks) {
+            ++mouthsAt[look.frame];
+        }
+    }
+    std::vector<KxMouthTrack> kept;
+    for (auto& [face, mouth] : m_mouths) {
+        double besideOthers = 0.0;
+        for (const KxMouthLook& look : mouth.looks) {
+            besideOthers += mouthsAt[look.frame] > 1 ? SecondsAt(look.frames) : 0.0;
+        }
+        if (besideOthers >= m_options.leastSeconds) {
+            kept.push_back(std::move(mouth));
+        }
+    }
+    m_mouths.clear();
+    return kept;
+}
