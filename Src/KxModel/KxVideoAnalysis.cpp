@@ -3,6 +3,7 @@
 #include <KxModel/KxDetectorFiles.h>
 #include <KxModel/KxPicturePipeline.h>
 #include <KxModel/KxRecordStore.h>
+#include <KxModel/KxSoundReading.h>
 
 #include <KxCore/KxMemory.h>
 
@@ -188,6 +189,8 @@ std::shared_ptr<const KxSubjectRecord> KxVideoAnalysis::Observe(KxSubjectModels 
     models = {};
     const KxError problem = Job(*m_scanner, observer, m_cancel).Run(onProgress);
     const bool endedEarly = m_scanner->EndedEarly();
+    const KxMediaFacts facts = m_scanner->Facts();
+    const KxMediaClock clock = m_scanner->Clock();
     // The decoder's buffers take the most memory: they are freed before the results of every frame are made.
     m_scanner.reset();
     KxMemory::ReturnUnused();
@@ -208,7 +211,12 @@ std::shared_ptr<const KxSubjectRecord> KxVideoAnalysis::Observe(KxSubjectModels 
     if (endedEarly) {
         result.warnings += QStringLiteral("%1 is cut off or damaged: it decodes only in part.").arg(name);
     }
-    auto record = std::make_shared<const KxSubjectRecord>(observer.Finish());
+    auto record = std::make_shared<KxSubjectRecord>(observer.Finish());
+    KxSoundReading::AddTo(*record, facts.path, facts.defaultAudio, clock, m_cancel);
+    if (m_cancel.IsCancelled()) {
+        result.outcome = KxOutcome::Cancelled;
+        return nullptr;
+    }
     // What the person was warned of, they are warned of again.
     if (m_settings.records && result.warnings.isEmpty()) {
         m_settings.records->Add(key, record);

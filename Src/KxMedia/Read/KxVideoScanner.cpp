@@ -55,6 +55,11 @@ const KxMediaFacts& KxVideoScanner::Facts() const
     return m_impl->source->Facts();
 }
 
+KxMediaClock KxVideoScanner::Clock() const
+{
+    return m_impl->source->Clock();
+}
+
 KxReadStatus KxVideoScanner::Next(KxVideoFrame& picture)
 {
     Impl& impl = *m_impl;

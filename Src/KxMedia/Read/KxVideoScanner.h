@@ -16,6 +16,8 @@ public:
     ~KxVideoScanner();
 
     const KxMediaFacts& Facts() const;
+    /// Places the sound of the same file, see KxAudioReader::Open().
+    KxMediaClock Clock() const;
 
     /// The next picture in display order; its Index() strictly increases. Pictures in between may be missing.
     KxReadStatus Next(KxVideoFrame& picture);
