@@ -1,0 +1,80 @@
+#include <KxSubject/Choice/KxHeardSound.h>
+
+#include <algorithm>
+#include <cmath>
+
+namespace
+{
+
+constexpr double LevelsPerDecibel = 100.0;
+constexpr double FloorPeriodSeconds = 0.4; ///< the quiet changes slowly
+
+std::size_t StepsOf(double seconds)
+{
+    return static_cast<std::size_t>(std::lround(seconds * KxSoundSpan::LevelsPerSecond));
+}
+
+/// The quiet around each level.
+KxSeries::Values Floors(const KxSeries::Values& decibels, const KxSubjectOptions::Speech& options, double loud)
+{
+    const std::size_t reach = StepsOf(options.floorSeconds);
+    KxSeries::Values floors(decibels.size());
+    for (std::size_t i = 0; i < decibels.size(); ++i) {
+        if (i % StepsOf(FloorPeriodSeconds) != 0) {
+            floors[i] = floors[i - 1];
+            continue;
+        }
+        const auto from = decibels.begin() + static_cast<std::ptrdiff_t>(i > reach ? i - reach : 0);
+        const auto to = decibels.begin() + static_cast<std::ptrdiff_t>(std::min(decibels.size(), i + reach + 1));
+        floors[i] = std::min(KxSeries::Percentile({from, to}, 0.1), loud - options.floorBelowLoud);
+    }
+    return floors;
+}
+
+void CloseGaps(std::vector<bool>& gate, std::size_t shorterThan)
+{
+    std::size_t end = 0; // of the last open stretch
+    for (std::size_t i = 0; i < gate.size(); ++i) {
+        if (gate[i]) {
+            if (end > 0 && i - end < shorterThan) {
+                std::fill(gate.begin() + static_cast<std::ptrdiff_t>(end),
+                          gate.begin() + static_cast<std::ptrdiff_t>(i), true);
+            }
+            end = i + 1;
+        }
+    }
+}
+
+} // namespace
+
+KxHeardSound::KxHeardSound(const KxSubjectRecord& record, const KxSubjectOptions::Speech& options, std::int64_t first,
+                           std::int64_t end)
+{
+    const auto span = std::find_if(record.sound.begin(), record.sound.end(), [first, end](const KxSoundSpan& some) {
+        return some.first <= first && some.first + static_cast<std::int64_t>(some.levels.size()) >= end;
+    });
+    if (span == record.sound.end() || first >= end) {
+        return;
+    }
+    const auto margin = static_cast<std::int64_t>(StepsOf(options.floorSeconds));
+    const std::int64_t from = std::max(span->first, first - margin);
+    const std::int64_t to = std::min(span->first + static_cast<std::int64_t>(span->levels.size()), end + margin);
+    KxSeries::Values decibels;
+    for (std::int64_t at = from; at < to; ++at) {
+        decibels.push_back(span->levels[static_cast<std::size_t>(at - span->first)] / LevelsPerDecibel);
+    }
+    const double loud = KxSeries::Percentile(decibels, 0.95);
+    const KxSeries::Values smooth = KxSeries::MeansAround(decibels, 1);
+    const KxSeries::Values floors = Floors(decibels, options, loud);
+    std::vector<bool> gate(decibels.size());
+    for (std::size_t i = 0; i < gate.size(); ++i) {
+        gate[i] = smooth[i] > std::max(floors[i] + options.aboveFloor, loud - options.belowLoud);
+    }
+    CloseGaps(gate, StepsOf(options.gapSeconds));
+    const KxSeries::Values scores = KxSeries::LocalScores(smooth, StepsOf(options.meanSeconds),
+                                                          StepsOf(options.deviationSeconds), options.mostScore);
+    const auto skip = static_cast<std::ptrdiff_t>(first - from);
+    const auto count = static_cast<std::ptrdiff_t>(end - first);
+    m_gate.assign(gate.begin() + skip, gate.begin() + skip + count);
+    m_scores.assign(scores.begin() + skip, scores.begin() + skip + count);
+}
