@@ -17,6 +17,7 @@
 #include <KxMedia/Picture/KxPictureScaler.h>
 #include <KxMedia/Read/KxVideoScanner.h>
 #include <KxModel/KxDetectorFiles.h>
+#include <KxModel/KxSoundReading.h>
 #include <KxSubject/KxPictureView.h>
 #include <KxSubject/KxSubjectDecision.h>
 #include <KxSubject/KxSubjectObserver.h>
@@ -39,6 +40,7 @@ QMap<QString, double*> Values(KxSubjectOptions& options)
     KxSubjectOptions::Path& path = options.path;
     KxSubjectOptions::Movers& movers = options.movers;
     KxSubjectOptions::Faces& faces = options.faces;
+    KxSubjectOptions::Speech& speech = options.speech;
     KxSubjectOptions::Reaction& reaction = options.automatic;
     return {{QStringLiteral("motionWeight"), &evidence.motionWeight},
             {QStringLiteral("moverWeight"), &evidence.moverWeight},
@@ -65,6 +67,15 @@ QMap<QString, double*> Values(KxSubjectOptions& options)
             {QStringLiteral("detectionEmptyFloor"), &options.detections.emptyFloor},
             {QStringLiteral("detectionFadeSeconds"), &options.detections.fadeSeconds},
             {QStringLiteral("detectionPersonUpperShare"), &options.detections.personUpperShare},
+            {QStringLiteral("speechHeadShare"), &speech.headShare},
+            {QStringLiteral("speechOpeningWeight"), &speech.openingWeight},
+            {QStringLiteral("speechActivityNeeded"), &speech.activityNeeded},
+            {QStringLiteral("speechMostActivity"), &speech.mostActivity},
+            {QStringLiteral("speechActivityWeight"), &speech.activityWeight},
+            {QStringLiteral("speechNobody"), &speech.nobody},
+            {QStringLiteral("speechChangeCost"), &speech.changeCost},
+            {QStringLiteral("speechLeastMargin"), &speech.leastMargin},
+            {QStringLiteral("speechEnoughHeld"), &speech.enoughHeld},
             {QStringLiteral("moveCost"), &path.moveCost},
             {QStringLiteral("speedWeight"), &path.speedWeight},
             {QStringLiteral("accelerationWeight"), &path.accelerationWeight},
@@ -134,7 +145,9 @@ int Observe(const QString& clip, const QString& recordPath, const QString& objec
                 {image.constBits(), {image.width(), image.height()}, static_cast<std::size_t>(image.bytesPerLine())});
         }
     }
-    return WriteRecord(observer.Finish(), recordPath);
+    KxSubjectRecord record = observer.Finish();
+    KxSoundReading::AddTo(record, clip, facts.defaultAudio, (*scanner)->Clock(), KxCancelToken());
+    return WriteRecord(record, recordPath);
 }
 
 int MakeTruth(const QString& recordPath, const QString& truthPath, const QString& outPath)
@@ -159,6 +172,8 @@ int MakeTruth(const QString& recordPath, const QString& truthPath, const QString
     record->movers.clear();
     record->faces.clear();
     record->looks.clear();
+    record->mouths.clear();
+    record->sound.clear();
     for (KxSignalSample& sample : record->samples) {
         sample = {sample.frame, {}, {}};
         if (boxes.contains(sample.frame)) {

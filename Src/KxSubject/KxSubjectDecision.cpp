@@ -3,6 +3,7 @@
 #include <KxSubject/Choice/KxCentreScore.h>
 #include <KxSubject/Choice/KxChoiceRanges.h>
 #include <KxSubject/Choice/KxEvidence.h>
+#include <KxSubject/Choice/KxSpeakerChoice.h>
 #include <KxSubject/Choice/KxSubjectTracker.h>
 #include <KxSubject/KxSubjectRecord.h>
 #include <KxSubject/Path/KxCropPath.h>
@@ -54,6 +55,8 @@ private:
     std::optional<double> HeldCentre(const KxSubjectChoice& choice) const;
     std::vector<KxHeldRange> HeldRanges(const KxChoiceRanges& choices) const;
     void AddCrops(const Shot& shot, const KxCancelToken& cancel, std::vector<KxCropRect>& crops);
+    /// With several people who talk: on the one who speaks, where `centres`, the choice without sound, would lose them.
+    void FollowSpeaker(const Shot& shot, const KxCancelToken& cancel, std::vector<double>& centres);
     void RecordFindings(const Shot& shot, const KxEvidence::InShot& evidence, const std::vector<KxPathPoint>& points,
                         std::size_t firstSample);
 
@@ -191,6 +194,9 @@ std::vector<double> Decider::CentresOf(const Shot& shot, const KxChoiceRanges& c
     const KxFrameSpan span{shot.first, shot.end, m_record.source.frameRate};
     std::vector<double> centres =
         KxCropPath(m_options.path, m_options.For(m_request.speed), m_geometry).Draw(points, span, 0.5, cancel);
+    if (choices.Placed().empty() && choices.Avoided().empty()) {
+        FollowSpeaker(shot, cancel, centres);
+    }
     if (!cancel.IsCancelled()) {
         KxHoldRanges(centres, span, held, m_options.path.easeSeconds);
     }
@@ -209,6 +215,31 @@ void Decider::AddCrops(const Shot& shot, const KxCancelToken& cancel, std::vecto
             std::fill(crops.begin() + range.first, crops.begin() + range.end, m_record.content);
         }
     }
+}
+
+void Decider::FollowSpeaker(const Shot& shot, const KxCancelToken& cancel, std::vector<double>& centres)
+{
+    if (m_request.speaker == KxSpeakerMode::Off || m_record.mouths.empty() || m_record.sound.empty()) {
+        return;
+    }
+    const KxSpeakerChoice choice(m_record, m_options.speech, shot.first, shot.end);
+    if (!choice.IsClear() || choice.ShareHeld(centres, m_geometry) >= m_options.speech.enoughHeld) {
+        return;
+    }
+    const KxCropPath path(m_options.path, m_options.For(m_request.speed), m_geometry);
+    const auto step =
+        std::max<std::int64_t>(1, std::llround(m_record.source.frameRate / m_options.sampling.samplesPerSecond));
+    std::vector<double> followed;
+    for (const KxSpeakerChoice::Part& part : choice.Parts(m_geometry)) {
+        std::vector<KxPathPoint> points;
+        for (std::int64_t frame = part.first; frame < part.end; frame += step) {
+            points.push_back({frame, choice.CentreAt(part, frame, m_geometry.FreeAxis())});
+        }
+        const std::vector<double> drawn =
+            path.Draw(points, {part.first, part.end, m_record.source.frameRate}, 0.5, cancel);
+        followed.insert(followed.end(), drawn.begin(), drawn.end());
+    }
+    centres = std::move(followed);
 }
 
 void Decider::RecordFindings(const Shot& shot, const KxEvidence::InShot& evidence,

@@ -3,6 +3,9 @@
 #include <KxSubject/KxMotionSpeed.h>
 #include <KxSubject/KxSubjectChoices.h>
 
+/// Whether the crop follows who speaks, in shots with several faces and sound.
+enum class KxSpeakerMode { Auto, Off };
+
 /// What is decided on a record.
 struct KxSubjectRequest {
     int aspectWidth = 9;
@@ -10,4 +13,5 @@ struct KxSubjectRequest {
     KxMotionSpeed speed = KxMotionSpeed::Auto;
     bool wantsFindings = false;    ///< costs a little time and some 30 bytes a frame
     KxSubjectChoices choices = {}; ///< of the person; they replace what the analysis would decide
+    KxSpeakerMode speaker = KxSpeakerMode::Auto;
 };

@@ -1,0 +1,105 @@
+#include <KxSubject/Choice/KxSpeakerRuns.h>
+
+#include <KxSubject/KxSubjectRecord.h>
+
+#include <algorithm>
+#include <cmath>
+
+namespace
+{
+
+/// The best state at each step; the last state is nobody.
+std::vector<std::size_t> BestStates(const std::vector<KxSeries::Values>& emissions, const std::vector<bool>& gate,
+                                    const KxSubjectOptions::Speech& options)
+{
+    const std::size_t nobody = emissions.size();
+    std::vector<double> reached(nobody + 1, 0.0);
+    std::vector<std::uint8_t> origins;
+    origins.reserve(gate.size() * (nobody + 1));
+    for (std::size_t step = 0; step < gate.size(); ++step) {
+        const auto best = std::max_element(reached.begin(), reached.end());
+        const auto from = static_cast<std::uint8_t>(best - reached.begin());
+        const double changed = *best - options.changeCost;
+        for (std::size_t state = 0; state <= nobody; ++state) {
+            const bool changes = changed > reached[state];
+            origins.push_back(changes ? from : static_cast<std::uint8_t>(state));
+            const double emission = state < nobody ? emissions[state][step] : gate[step] ? options.nobody : 0.0;
+            reached[state] = std::max(reached[state], changed) + emission;
+        }
+    }
+    std::vector<std::size_t> states(gate.size());
+    auto state = static_cast<std::size_t>(std::max_element(reached.begin(), reached.end()) - reached.begin());
+    for (std::size_t step = gate.size(); step > 0; --step) {
+        states[step - 1] = state;
+        state = origins[(step - 1) * (nobody + 1) + state];
+    }
+    return states;
+}
+
+/// Runs of equal states, without nobody's.
+std::vector<KxSpeakerRun> RunsOf(const std::vector<std::size_t>& states, std::size_t nobody)
+{
+    std::vector<KxSpeakerRun> runs;
+    for (std::size_t step = 0; step < states.size(); ++step) {
+        if (states[step] == nobody) {
+            continue;
+        }
+        if (!runs.empty() && runs.back().end == step && runs.back().person == states[step]) {
+            ++runs.back().end;
+        } else {
+            runs.push_back({states[step], step, step + 1});
+        }
+    }
+    return runs;
+}
+
+/// Each run until the next one; neighbours of one person become one run.
+std::vector<KxSpeakerRun> Stretched(const std::vector<KxSpeakerRun>& runs, std::size_t steps)
+{
+    std::vector<KxSpeakerRun> stretched;
+    for (const KxSpeakerRun& run : runs) {
+        if (stretched.empty()) {
+            stretched.push_back({run.person, 0, run.end});
+        } else if (stretched.back().person != run.person) {
+            stretched.back().end = run.first;
+            stretched.push_back(run);
+        }
+    }
+    if (!stretched.empty()) {
+        stretched.back().end = steps;
+    }
+    return stretched;
+}
+
+} // namespace
+
+KxSpeakerRuns::KxSpeakerRuns(const std::vector<KxSeries::Values>& emissions, const std::vector<bool>& gate,
+                             const KxSubjectOptions::Speech& options)
+{
+    std::vector<KxSpeakerRun> spoken = RunsOf(BestStates(emissions, gate, options), emissions.size());
+    const auto least = static_cast<std::size_t>(std::lround(options.leastRunSeconds * KxSoundSpan::LevelsPerSecond));
+    spoken.erase(std::remove_if(spoken.begin(), spoken.end(),
+                                [least](const KxSpeakerRun& run) { return run.end - run.first < least; }),
+                 spoken.end());
+    std::size_t steps = 0;
+    for (const KxSpeakerRun& run : spoken) {
+        for (std::size_t step = run.first; step < run.end; ++step) {
+            if (!gate[step]) {
+                continue;
+            }
+            double second = 0.0;
+            bool hasSecond = false;
+            for (std::size_t person = 0; person < emissions.size(); ++person) {
+                if (person != run.person && (!hasSecond || emissions[person][step] > second)) {
+                    second = emissions[person][step];
+                    hasSecond = true;
+                }
+            }
+            margin += emissions[run.person][step] - second;
+            ++steps;
+        }
+    }
+    margin = steps > 0 ? margin / static_cast<double>(steps) : 0.0;
+    speechSeconds = static_cast<double>(steps) / KxSoundSpan::LevelsPerSecond;
+    runs = Stretched(spoken, gate.size());
+}
