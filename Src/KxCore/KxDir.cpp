@@ -2,6 +2,7 @@
 
 #include <KxCore/KxPartFile.h>
 #include <KxCore/KxSystemError.h>
+#include <KxCore/KxSystemFile.h>
 
 #include <QFile>
 
@@ -20,7 +21,7 @@ bool KxDir::IsPathWriteAndReadable(const QString& path)
     errno = 0;
     const bool isWritten =
         file.open(QIODevice::ReadWrite | QIODevice::Unbuffered) && file.write(content) == content.size();
-    const bool isFull = !isWritten && KxIsDiskFull(std::error_code(errno, std::generic_category()));
+    const bool isFull = !isWritten && KxIsDiskFull(KxSystemFile::ErrorOf(file));
     const bool isRead = isWritten && file.seek(0) && file.readAll() == content;
     // Some systems let nobody remove a file that is locked.
     part.reset();

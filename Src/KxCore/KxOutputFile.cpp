@@ -1,6 +1,7 @@
 #include <KxCore/KxOutputFile.h>
 
 #include <KxCore/KxSystemError.h>
+#include <KxCore/KxSystemFile.h>
 
 #include <QDir>
 #include <QFile>
@@ -12,34 +13,19 @@
 namespace
 {
 
-std::filesystem::path ToNative(const QString& path)
-{
-#if defined(_WIN32)
-    return std::filesystem::path(path.toStdWString());
-#else
-    return std::filesystem::path(QFile::encodeName(path).toStdString());
-#endif
-}
-
 QString CannotWrite(const QString& path, const QString& reason)
 {
     return QStringLiteral("Cannot write %1: %2.").arg(path, reason);
 }
 
-QString Meaning(const std::error_code& problem)
-{
-    const QString text = KxSystemErrorText(problem);
-    return text.isEmpty() ? QString::fromStdString(problem.message()).toLower() : text;
-}
-
 /// Reports an impossible name before the work, not after it. Devices and the like are never replaced.
 KxError ReasonNotToReplace(const QString& path)
 {
-    std::error_code problem;
-    const std::filesystem::file_status existing = std::filesystem::status(ToNative(path), problem);
-    if (problem == std::errc::filename_too_long) {
-        return Meaning(problem);
+    if (KxError reason = KxSystemFile::ReasonNotToName(path)) {
+        return reason;
     }
+    std::error_code problem;
+    const std::filesystem::file_status existing = std::filesystem::status(KxSystemFile::NativePath(path), problem);
     if (std::filesystem::is_directory(existing)) {
         return QStringLiteral("it is a folder");
     }
@@ -55,7 +41,8 @@ std::error_code Reserve(const QString& path)
     if (file.open(QIODevice::WriteOnly | QIODevice::NewOnly)) {
         return {};
     }
-    return {errno != 0 ? errno : EIO, std::generic_category()};
+    const std::error_code problem = KxSystemFile::ErrorOf(file);
+    return problem ? problem : std::make_error_code(std::errc::io_error);
 }
 
 QString Numbered(const QString& path, int number)
@@ -75,8 +62,8 @@ KxResult<QString> ReserveFreeName(const QString& path)
         if (!problem) {
             return candidate;
         }
-        if (problem != std::errc::file_exists) {
-            return KxResult<QString>::Failure(CannotWrite(candidate, Meaning(problem)));
+        if (KxSystemFile::ToGeneric(problem) != std::errc::file_exists) {
+            return KxResult<QString>::Failure(CannotWrite(candidate, KxSystemErrorMeaning(problem)));
         }
     }
     return KxResult<QString>::Failure(CannotWrite(path, QStringLiteral("no free name was found in its folder")));
@@ -119,7 +106,7 @@ KxResult<std::unique_ptr<KxOutputFile>> KxOutputFile::Create(const QString& targ
     std::error_code problem;
     std::unique_ptr<KxPartFile> part = KxPartFile::Create(folder.filePath(), problem);
     if (!part) {
-        return Created::Failure(CannotWrite(targetPath, Meaning(problem)));
+        return Created::Failure(CannotWrite(targetPath, KxSystemErrorMeaning(problem)));
     }
     return std::unique_ptr<KxOutputFile>(new KxOutputFile(target.absoluteFilePath(), std::move(part)));
 }
@@ -127,19 +114,17 @@ KxResult<std::unique_ptr<KxOutputFile>> KxOutputFile::Create(const QString& targ
 KxResult<QString> KxOutputFile::Commit(Existing existing)
 {
     if (const std::error_code problem = m_part->Sync()) {
-        return KxResult<QString>::Failure(CannotWrite(m_targetPath, Meaning(problem)));
+        return KxResult<QString>::Failure(CannotWrite(m_targetPath, KxSystemErrorMeaning(problem)));
     }
     KxResult<QString> path = existing == Existing::Replace ? m_targetPath : ReserveFreeName(m_targetPath);
     if (!path) {
         return path;
     }
-    std::error_code problem;
-    std::filesystem::rename(ToNative(m_part->Path()), ToNative(*path), problem);
-    if (problem) {
+    if (const KxError reason = KxSystemFile::Rename(m_part->Path(), *path)) {
         if (existing == Existing::AddNumber) {
             QFile::remove(*path);
         }
-        return KxResult<QString>::Failure(CannotWrite(*path, Meaning(problem)));
+        return KxResult<QString>::Failure(CannotWrite(*path, *reason));
     }
     m_isCommitted = true;
     KxPartFile::SyncFolder(QFileInfo(*path).absolutePath());

@@ -3,6 +3,7 @@
 #include <KxCore/KxExport.h>
 
 #include <QString>
+#include <QStringList>
 
 #include <memory>
 #include <system_error>
@@ -32,6 +33,8 @@ public:
 
 private:
     struct Handle;
+    static QString RandomPath(const QString& folder);
+    static QStringList PartsIn(const QString& folder);
     KxPartFile(QString path, std::unique_ptr<Handle> handle);
 
     const QString m_path;

@@ -1,11 +1,10 @@
 #include <KxCore/KxScreen.h>
 
+#include <KxCore/KxPlatform.h>
+
 #include <QGuiApplication>
 #include <QScreen>
 #include <QWindow>
-#if defined(KX_HAS_X11)
-#include <QX11Info>
-#endif
 
 double KxScreen::devicePixelRatio() const
 {
@@ -27,12 +26,7 @@ bool KxScreen::canOverlayWindows() const
     if (m_canOverlay) {
         return *m_canOverlay;
     }
-#if defined(KX_HAS_X11)
-    if (QX11Info::isPlatformX11()) {
-        return QX11Info::isCompositingManagerRunning();
-    }
-#endif
-    return !QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
+    return KxPlatform::CanOverlayWindows();
 }
 
 void KxScreen::setCanOverlayWindows(std::optional<bool> can)

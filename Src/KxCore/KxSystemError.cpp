@@ -1,24 +1,20 @@
 #include <KxCore/KxSystemError.h>
 
+#include <KxCore/KxSystemFile.h>
+
 #include <QFileDevice>
 
 #include <array>
-#include <cerrno>
 #include <utility>
 
 bool KxIsDiskFull(const std::error_code& error)
 {
-#ifdef EDQUOT
-    if (error == std::error_code(EDQUOT, std::generic_category())) {
-        return true;
-    }
-#endif
-    return error == std::errc::no_space_on_device;
+    return KxSystemFile::IsQuotaExceeded(error) || KxSystemFile::ToGeneric(error) == std::errc::no_space_on_device;
 }
 
 QString KxSystemErrorText(const std::error_code& error)
 {
-    constexpr std::array<std::pair<std::errc, const char*>, 12> texts{{
+    constexpr std::array<std::pair<std::errc, const char*>, 13> texts{{
         {std::errc::file_too_large, "the file would become too large for its disk"},
         {std::errc::no_such_file_or_directory, "there is no such file"},
         {std::errc::permission_denied, "permission is denied"},
@@ -31,17 +27,25 @@ QString KxSystemErrorText(const std::error_code& error)
         {std::errc::filename_too_long, "its name is too long"},
         {std::errc::is_a_directory, "it is a folder"},
         {std::errc::broken_pipe, "its reader has gone"},
+        {std::errc::device_or_resource_busy, "it is in use"},
     }};
+    const std::error_code generic = KxSystemFile::ToGeneric(error);
     for (const auto& [condition, text] : texts) {
-        if (error == condition) {
+        if (generic == condition) {
             return QLatin1String(text);
         }
     }
     return KxIsDiskFull(error) ? QStringLiteral("the disk is full") : QString();
 }
 
+QString KxSystemErrorMeaning(const std::error_code& error)
+{
+    const QString text = KxSystemErrorText(error);
+    return text.isEmpty() ? QString::fromStdString(error.message()).toLower() : text;
+}
+
 QString KxFileErrorText(const QFileDevice& file)
 {
-    const QString text = KxSystemErrorText(std::error_code(errno, std::generic_category()));
+    const QString text = KxSystemErrorText(KxSystemFile::ErrorOf(file));
     return text.isEmpty() ? file.errorString().toLower() : text;
 }

@@ -12,6 +12,9 @@ class QFileDevice;
 /// error.
 KXCORE_API QString KxSystemErrorText(const std::error_code& error);
 
+/// The same; for an unknown error, what the system calls it.
+KXCORE_API QString KxSystemErrorMeaning(const std::error_code& error);
+
 /// Whether the error is a full disk or an exhausted quota.
 KXCORE_API bool KxIsDiskFull(const std::error_code& error);
 

@@ -32,6 +32,9 @@ set(INTERFACES_Apps "${INTERFACES_include}")
 
 # Which folders of its own library a folder may include besides itself. Files in a library's root may use all of its folders,
 # but for the libraries named in LEAVES, where value types lie in the root and the folders may use those headers.
+set(FOLDERS_KxCore/Posix "")
+set(FOLDERS_KxCore/Windows "")
+set(LEAVES_KxCore "KxInterrupt.h;KxMemory.h;KxPartFile.h;KxPlatform.h;KxSystemError.h;KxSystemFile.h;KxTerminal.h;KxWindowsNames.h")
 set(FOLDERS_KxMedia/Container "")
 set(FOLDERS_KxMedia/Picture "Container")
 set(FOLDERS_KxMedia/Read "Container;Picture")

@@ -3,6 +3,7 @@
 
   constants  constants of namespaces, classes and functions (static) are CamelCase, constexpr locals are camelBack; Packaging/tidy checks
              all names, but takes too long for every run of the tests
+  platforms  operating systems are told apart by files (Src/KxCore/Posix, Src/KxCore/Windows), not by conditions in the sources
   sleeps     a test waits for a condition or a signal; a pause is too short on a busy machine and too long on any other
 """
 import os, re, sys
@@ -10,6 +11,11 @@ import os, re, sys
 CONSTANT = re.compile(r'^(\s*)((?:static |inline |thread_local )*)(?:constexpr|(?<![\w ])const) (?!auto \[)[^(={;]*?[\s*&](?!operator)(\w+)(?:\[\w*\])?\s*(?:[={;]|$)')
 SLEEP = re.compile(r'\b(?:qWait|qSleep|sleep_for|sleep_until|msleep|usleep|nanosleep)\s*\(|'
                    r'\bQThread::sleep\s*\(')
+
+PLATFORM = re.compile(r'^\s*#\s*(?:el)?if.*\b(?:_WIN32|_WIN64|__MINGW\w+|_MSC_VER|__GLIBC__|__linux__|__unix__|__APPLE__|Q_OS_\w+|SIG[A-Z]+|E[A-Z]{3,})\b')
+# The folders of the platforms; how symbols are exported, which the compiler decides; and the system's file chooser, whose record comes from
+# the system where there is one.
+PLATFORM_FILES = re.compile(r'^(?:Src/KxCore/(?:Posix|Windows)/|include/KxCore/KxExport\.h$|include/KxWidgets/KxOpenFileName\.h$)')
 
 
 def sources(root, folders):
@@ -29,14 +35,24 @@ def wrong_constant(line):
     return name if name[0].isupper() == bool(is_local) else None
 
 
+def violation(rule, name, line):
+    if rule == 'constants':
+        return wrong_constant(line)
+    if rule == 'platforms':
+        return not PLATFORM_FILES.match(name) and PLATFORM.match(line)
+    return SLEEP.search(line)
+
+
+FOLDERS = {'constants': ['Src', 'include', 'Tests', 'Benchmarks'], 'platforms': ['Src', 'include'], 'sleeps': ['Tests']}
+
+
 def broken(rule, root):
-    folders = ['Src', 'include', 'Tests', 'Benchmarks'] if rule == 'constants' else ['Tests']
-    for path in sources(root, folders):
+    for path in sources(root, FOLDERS[rule]):
+        name = os.path.relpath(path, root)
         with open(path, encoding='utf-8') as file:
             for number, line in enumerate(file, 1):
-                found = wrong_constant(line) if rule == 'constants' else SLEEP.search(line)
-                if found:
-                    yield '%s:%d: %s' % (os.path.relpath(path, root), number, line.strip())
+                if violation(rule, name, line):
+                    yield '%s:%d: %s' % (name, number, line.strip())
 
 
 lines = list(broken(sys.argv[1], os.path.abspath(sys.argv[2])))

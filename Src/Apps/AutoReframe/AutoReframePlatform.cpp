@@ -1,5 +1,7 @@
 #include <Apps/AutoReframe/AutoReframePlatform.h>
 
+#include <KxCore/KxPlatform.h>
+
 #include <QByteArray>
 #include <QtGlobal>
 
@@ -18,11 +20,12 @@ std::optional<QByteArray> AutoReframePlatform::Choose(const QByteArray& display,
 
 void AutoReframePlatform::Apply()
 {
-#if defined(Q_OS_UNIX) && !defined(Q_OS_DARWIN)
+    if (!KxPlatform::OffersX11AndWayland()) {
+        return;
+    }
     if (const std::optional<QByteArray> platform = Choose(qgetenv("DISPLAY"), qgetenv(Variable))) {
         qputenv(Variable, *platform);
     }
-#endif
 }
 
 void AutoReframePlatform::Restore()

@@ -2,7 +2,9 @@
 #include <Apps/AutoReframe/AutoReframeProgram.h>
 #include <KxCore/KxInterrupt.h>
 #include <KxCore/KxMemory.h>
+#include <KxCore/KxPlatform.h>
 #include <KxCore/KxSpdlog.h>
+#include <KxCore/KxTerminal.h>
 #include <KxCore/KxThread.h>
 
 #include <QApplication>
@@ -28,14 +30,14 @@ void PrepareQt()
     AutoReframePlatform::Apply();
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
-#if defined(Q_OS_WIN)
-    // Windows scales screens by quarters, all of them sharp; elsewhere factors such as 1.04 come from a monitor's size.
-    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
-#endif
+    if (KxPlatform::ScalesByQuarters()) {
+        QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+    }
 }
 
 int Run(int argc, char** argv)
 {
+    KxTerminal::Attach();
     const AutoReframeOptions::Parsed parsed = Parse(argc, argv);
     if (!parsed.text.isEmpty()) {
         std::fputs(parsed.text.toLocal8Bit().constData(), parsed.exitStatus == 0 ? stdout : stderr);

@@ -2,6 +2,8 @@
 
 #include <Apps/Reframe/ReframeExit.h>
 
+#include <KxCore/KxPlatform.h>
+#include <KxCore/KxWildcards.h>
 #include <KxModel/KxDetectorFiles.h>
 
 #include <QCommandLineParser>
@@ -245,7 +247,8 @@ ReframeOptions::Parsed ReframeOptions::Parse(const QStringList& arguments)
         options.follow += *parsed;
     }
     options.choices = parser.value(definitions.choices);
-    options.inputs = parser.positionalArguments();
+    options.inputs = KxPlatform::ShellExpandsWildcards() ? parser.positionalArguments()
+                                                         : KxWildcards::Expand(parser.positionalArguments());
     options.output = parser.value(definitions.output);
     options.keyframes = parser.value(definitions.keyframes);
     options.apply = parser.value(definitions.apply);

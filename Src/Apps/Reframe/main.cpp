@@ -2,7 +2,9 @@
 #include <Apps/Reframe/ReframeProgram.h>
 #include <KxCore/KxInterrupt.h>
 #include <KxCore/KxMemory.h>
+#include <KxCore/KxPlatform.h>
 #include <KxCore/KxSpdlog.h>
+#include <KxCore/KxTerminal.h>
 #include <KxCore/KxThread.h>
 #include <KxMedia/Container/KxAvLog.h>
 
@@ -27,7 +29,10 @@ std::unique_ptr<QCoreApplication> MakeApplication(const ReframeOptions& options,
     if (!options.PreviewIsVideo()) {
         return std::make_unique<QCoreApplication>(argc, argv);
     }
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QByteArray plugin = KxPlatform::PluginWithoutWindows();
+    if (!plugin.isEmpty()) {
+        qputenv("QT_QPA_PLATFORM", plugin);
+    }
     // Qt warns about the missing desktop session, which a person without one does not need to read.
     QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false"));
     auto application = std::make_unique<QGuiApplication>(argc, argv);
@@ -42,6 +47,7 @@ int Run(int argc, char** argv)
     KxLogSettings::RouteQtMessages();
     KxRouteAvLog();
     KxMemory::KeepNoPictures();
+    KxTerminal::Prepare();
 
     const ReframeOptions::Parsed parsed = Parse(argc, argv);
     if (!parsed.options) {

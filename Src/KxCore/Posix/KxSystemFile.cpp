@@ -1,0 +1,41 @@
+#include <KxCore/KxSystemFile.h>
+
+#include <KxCore/KxSystemError.h>
+
+#include <QFile>
+
+#include <cerrno>
+
+std::filesystem::path KxSystemFile::NativePath(const QString& path)
+{
+    return {QFile::encodeName(path).toStdString()};
+}
+
+KxError KxSystemFile::ReasonNotToName(const QString& path)
+{
+    std::error_code problem;
+    const bool isThere = std::filesystem::exists(NativePath(path), problem);
+    return !isThere && problem == std::errc::filename_too_long ? KxError(KxSystemErrorText(problem)) : std::nullopt;
+}
+
+KxError KxSystemFile::Rename(const QString& from, const QString& to)
+{
+    std::error_code problem;
+    std::filesystem::rename(NativePath(from), NativePath(to), problem);
+    return problem ? KxError(KxSystemErrorMeaning(problem)) : std::nullopt;
+}
+
+std::error_code KxSystemFile::ErrorOf(const QFileDevice&)
+{
+    return {errno, std::generic_category()};
+}
+
+bool KxSystemFile::IsQuotaExceeded(const std::error_code& error)
+{
+    return error == std::error_code(EDQUOT, std::generic_category());
+}
+
+std::error_code KxSystemFile::ToGeneric(const std::error_code& error)
+{
+    return error;
+}

@@ -1,0 +1,115 @@
+#include <KxCore/KxSystemFile.h>
+
+#include <KxCore/KxSystemError.h>
+#include <KxCore/KxWindowsNames.h>
+
+#include <QDir>
+#include <QFileDevice>
+
+#include <array>
+#include <utility>
+
+#include <windows.h>
+
+namespace
+{
+
+constexpr std::array<std::pair<DWORD, std::errc>, 21> Meanings{{
+    {ERROR_FILE_NOT_FOUND, std::errc::no_such_file_or_directory},
+    {ERROR_PATH_NOT_FOUND, std::errc::no_such_file_or_directory},
+    {ERROR_INVALID_DRIVE, std::errc::no_such_file_or_directory},
+    {ERROR_BAD_NETPATH, std::errc::no_such_file_or_directory},
+    {ERROR_BAD_NET_NAME, std::errc::no_such_file_or_directory},
+    {ERROR_ACCESS_DENIED, std::errc::permission_denied},
+    {ERROR_NETWORK_ACCESS_DENIED, std::errc::permission_denied},
+    {ERROR_SHARING_VIOLATION, std::errc::device_or_resource_busy},
+    {ERROR_LOCK_VIOLATION, std::errc::device_or_resource_busy},
+    {ERROR_WRITE_PROTECT, std::errc::read_only_file_system},
+    {ERROR_HANDLE_DISK_FULL, std::errc::no_space_on_device},
+    {ERROR_DISK_FULL, std::errc::no_space_on_device},
+    {ERROR_FILE_TOO_LARGE, std::errc::file_too_large},
+    {ERROR_TOO_MANY_OPEN_FILES, std::errc::too_many_files_open},
+    {ERROR_NOT_ENOUGH_MEMORY, std::errc::not_enough_memory},
+    {ERROR_OUTOFMEMORY, std::errc::not_enough_memory},
+    {ERROR_FILE_EXISTS, std::errc::file_exists},
+    {ERROR_ALREADY_EXISTS, std::errc::file_exists},
+    {ERROR_FILENAME_EXCED_RANGE, std::errc::filename_too_long},
+    {ERROR_BROKEN_PIPE, std::errc::broken_pipe},
+    {ERROR_IO_DEVICE, std::errc::io_error},
+}};
+
+std::error_code SystemError(DWORD code)
+{
+    return {static_cast<int>(code), std::system_category()};
+}
+
+/// Whether another program has the file open so that it can be neither replaced nor removed.
+bool IsHeldOpen(const std::filesystem::path& path)
+{
+    const HANDLE file = CreateFileW(path.c_str(), DELETE, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                                    nullptr, OPEN_EXISTING, 0, nullptr);
+    if (file == INVALID_HANDLE_VALUE) {
+        return GetLastError() == ERROR_SHARING_VIOLATION;
+    }
+    CloseHandle(file);
+    return false;
+}
+
+} // namespace
+
+std::filesystem::path KxSystemFile::NativePath(const QString& path)
+{
+    // From this length on, a folder name leaves no room for a file name of the old form.
+    constexpr int longestPlain = MAX_PATH - 13;
+    QString native = QDir::toNativeSeparators(QDir::cleanPath(path));
+    if (native.size() >= longestPlain && QDir::isAbsolutePath(path)) {
+        native = native.startsWith(QLatin1String("\\\\")) ? QStringLiteral("\\\\?\\UNC") + native.mid(1)
+                                                          : QStringLiteral("\\\\?\\") + native;
+    }
+    return {native.toStdWString()};
+}
+
+KxError KxSystemFile::ReasonNotToName(const QString& path)
+{
+    return KxWindowsNames::ReasonNotToName(path);
+}
+
+KxError KxSystemFile::Rename(const QString& from, const QString& to)
+{
+    const std::filesystem::path target = NativePath(to);
+    if (MoveFileExW(NativePath(from).c_str(), target.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) !=
+        0) {
+        return std::nullopt;
+    }
+    const std::error_code problem = SystemError(GetLastError());
+    return IsHeldOpen(target) ? QStringLiteral("another program has it open") : KxSystemErrorMeaning(problem);
+}
+
+std::error_code KxSystemFile::ErrorOf(const QFileDevice& file)
+{
+    // Qt keeps the text of the system's error, but not its number; GetLastError() may belong to a later call.
+    const QString text = file.errorString();
+    for (const auto& [code, meaning] : Meanings) {
+        if (text == qt_error_string(static_cast<int>(code))) {
+            return SystemError(code);
+        }
+    }
+    return {};
+}
+
+bool KxSystemFile::IsQuotaExceeded(const std::error_code& error)
+{
+    return error == SystemError(ERROR_DISK_QUOTA_EXCEEDED);
+}
+
+std::error_code KxSystemFile::ToGeneric(const std::error_code& error)
+{
+    if (error.category() == std::system_category()) {
+        for (const auto& [code, meaning] : Meanings) {
+            if (error.value() == static_cast<int>(code)) {
+                return std::make_error_code(meaning);
+            }
+        }
+    }
+    return error;
+}
