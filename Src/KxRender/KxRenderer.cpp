@@ -45,9 +45,8 @@ KxError Check(const KxRenderSource& source, const KxRenderSettings& settings)
         return CannotWrite(settings, QStringLiteral("a resolution of %1 x %2 is not possible")
                                          .arg(QString::number(size.width()), QString::number(size.height())));
     }
-    const QString target = QFileInfo(settings.outputPath).canonicalFilePath();
-    if (settings.existing == KxOutputFile::Existing::Replace && !target.isEmpty() &&
-        target == QFileInfo(source.path).canonicalFilePath()) {
+    const QFileInfo target(settings.outputPath);
+    if (settings.existing == KxOutputFile::Existing::Replace && target.exists() && target == QFileInfo(source.path)) {
         return CannotWrite(settings, QStringLiteral("it is the very file that is rendered"));
     }
     return std::nullopt;
