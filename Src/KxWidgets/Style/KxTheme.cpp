@@ -170,7 +170,8 @@ QPalette KxTheme::Palette()
 
 QFont KxTheme::Font()
 {
-    static const QString family = FirstInstalled({QStringLiteral("Inter"), QStringLiteral("Noto Sans")});
+    static const QString family =
+        FirstInstalled({QStringLiteral("Inter"), QStringLiteral("Noto Sans"), QStringLiteral("Segoe UI")});
     QFont font(family);
     font.setPixelSize(13);
     return font;

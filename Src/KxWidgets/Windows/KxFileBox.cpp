@@ -147,7 +147,11 @@ void KxFileBox::StyleLists()
     if (auto* split = m_chooser->findChild<QSplitter*>()) {
         split->setSizes({PlacesPx, WidthPx - PlacesPx});
     }
-    QList<QUrl> places{QUrl::fromLocalFile(QDir::rootPath())};
+    QList<QUrl> places;
+    const QFileInfoList drives = QDir::drives();
+    for (const QFileInfo& drive : drives) {
+        places.append(QUrl::fromLocalFile(drive.absoluteFilePath()));
+    }
     for (const QStandardPaths::StandardLocation place :
          {QStandardPaths::HomeLocation, QStandardPaths::MoviesLocation, QStandardPaths::DownloadLocation}) {
         const QUrl url = QUrl::fromLocalFile(QStandardPaths::writableLocation(place));
