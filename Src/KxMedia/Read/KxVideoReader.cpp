@@ -19,9 +19,12 @@ KxVideoReader::KxVideoReader(std::unique_ptr<Impl> impl)
 
 KxVideoReader::~KxVideoReader() = default;
 
-KxResult<std::unique_ptr<KxVideoReader>> KxVideoReader::Open(const QString& path, const KxCancelToken& cancel)
+KxResult<std::unique_ptr<KxVideoReader>> KxVideoReader::Open(const QString& path, const KxCancelToken& cancel,
+                                                             Purpose purpose)
 {
-    KxResult<std::unique_ptr<KxVideoSource>> source = KxVideoSource::Open(path, cancel, KxVideoDecoder::Effort::Full);
+    KxResult<std::unique_ptr<KxVideoSource>> source = KxVideoSource::Open(
+        path, cancel,
+        purpose == Purpose::Analysis ? KxVideoDecoder::Effort::SkipLoopFilter : KxVideoDecoder::Effort::Full);
     if (!source) {
         return KxResult<std::unique_ptr<KxVideoReader>>::Failure(source.Message());
     }

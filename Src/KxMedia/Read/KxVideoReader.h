@@ -16,8 +16,13 @@
 class KXMEDIA_API KxVideoReader
 {
 public:
+    enum class Purpose {
+        Display,
+        Analysis ///< slightly lower picture quality in less time; pictures may stay interlaced
+    };
     /// Decodes the first picture. Fails with an error message for a file without a video stream that can be decoded.
-    static KxResult<std::unique_ptr<KxVideoReader>> Open(const QString& path, const KxCancelToken& cancel);
+    static KxResult<std::unique_ptr<KxVideoReader>> Open(const QString& path, const KxCancelToken& cancel,
+                                                         Purpose purpose = Purpose::Display);
     ~KxVideoReader();
 
     const KxMediaFacts& Facts() const;
