@@ -28,6 +28,8 @@ public:
     /// Those that avoid; these may overlap.
     const std::vector<Range>& Avoided() const { return m_avoided; }
 
+    const std::vector<Range>& Of(KxChoiceKind kind) const { return kind == KxChoiceKind::Avoid ? m_avoided : m_placed; }
+
     /// The frame that begins nearest to a time, which may be any number.
     static std::int64_t FrameAt(double seconds, double frameRate);
 

@@ -1,0 +1,315 @@
+#include <KxSubject/Follow/KxSubjectFollower.h>
+
+#include <KxSubject/Choice/KxChoiceRanges.h>
+#include <KxSubject/Follow/KxBoxGuess.h>
+#include <KxSubject/Follow/KxFollowTracker.h>
+#include <KxSubject/Follow/KxTrackBlend.h>
+#include <KxSubject/KxPictureView.h>
+#include <KxSubject/KxSubjectOptions.h>
+#include <KxSubject/Signals/KxOpenCvError.h>
+
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
+namespace
+{
+
+constexpr std::size_t BytesPerPixel = 3;
+
+struct Picture {
+    std::int64_t frame;
+    cv::Mat pixels;
+};
+
+} // namespace
+
+class KxSubjectFollower::Impl
+{
+public:
+    Impl(const KxSubjectRecord& record, const KxSubjectChoice& choice, const KxSubjectOptions& options);
+
+    std::optional<Range> NextRange() const;
+    bool Wants(std::int64_t frame) const;
+    void AddPicture(std::int64_t frame, const KxPictureView& view);
+    void EndRange();
+    double Progress(std::size_t more) const
+    {
+        return m_steps.empty() ? 1.0 : static_cast<double>(m_next + more) / static_cast<double>(m_steps.size());
+    }
+    KxFollowTrack Track() const;
+
+private:
+    /// A seed, and where it was seen from there to its neighbours or the ends of the shot.
+    struct Seed {
+        std::int64_t frame = 0;
+        KxSubjectBox box;
+        bool startsShot = false; ///< it is the first one of its shot
+        std::vector<KxFollowTrack::Point> after;
+        std::vector<KxFollowTrack::Point> before; ///< falling by frame
+    };
+    /// One range of pictures: some seeds are followed forward through it while it comes, then some backward.
+    struct Step {
+        Range range;
+        bool isForward = false;
+        std::vector<std::size_t> backward; ///< growing
+    };
+
+    void AddShot(const Range& shot, const KxSubjectChoice& choice);
+    void FollowForward(const Picture& picture);
+    void FollowBackward(std::size_t seed, std::int64_t until);
+    void Start(Seed& seed, const Picture& picture, std::optional<KxFollowTracker>& tracker);
+    KxFollowTrack::Point PointOf(std::int64_t frame, const KxFollowTracker& tracker) const;
+
+    KxSubjectOptions::Follow m_options;
+    cv::Size m_sizePx;
+    std::int64_t m_stepFrames;
+    double m_frameRate;
+    std::vector<Seed> m_seeds; ///< growing by frame
+    std::vector<Step> m_steps;
+    std::size_t m_next = 0;
+    std::vector<Picture> m_kept; ///< of this range, growing by frame
+    std::optional<KxFollowTracker> m_forward;
+    std::optional<std::size_t> m_forwardSeed;
+    std::optional<KxFollowTracker> m_backward;
+    std::optional<std::size_t> m_backwardSeed;
+};
+
+KxSubjectFollower::Impl::Impl(const KxSubjectRecord& record, const KxSubjectChoice& choice,
+                              const KxSubjectOptions& options)
+    : m_options(options.follow)
+    , m_sizePx(record.workingSizePx.width, record.workingSizePx.height)
+    , m_stepFrames(std::max<std::int64_t>(
+          1, static_cast<std::int64_t>(std::floor(record.source.frameRate / options.follow.picturesPerSecond + 0.01))))
+    , m_frameRate(record.source.frameRate)
+{
+    std::int64_t first = 0;
+    for (std::size_t i = 0; i <= record.boundaries.size(); ++i) {
+        const std::int64_t end = i < record.boundaries.size() ? record.boundaries[i].frame : record.source.frameCount;
+        const KxChoiceRanges ranges({choice}, m_frameRate, first, end);
+        for (const KxChoiceRanges::Range& range : ranges.Of(choice.kind)) {
+            AddShot({range.first, range.end}, choice);
+        }
+        first = end;
+    }
+}
+
+void KxSubjectFollower::Impl::AddShot(const Range& shot, const KxSubjectChoice& choice)
+{
+    const std::size_t firstSeed = m_seeds.size();
+    for (const KxSubjectSeed& seed : choice.seeds) {
+        const std::int64_t frame = KxChoiceRanges::FrameAt(seed.seconds, m_frameRate);
+        if (frame >= shot.first && frame < shot.end) {
+            m_seeds.push_back({frame, seed.box, false, {}, {}});
+        }
+    }
+    std::stable_sort(m_seeds.begin() + static_cast<std::ptrdiff_t>(firstSeed), m_seeds.end(),
+                     [](const Seed& a, const Seed& b) { return a.frame < b.frame; });
+    m_seeds[firstSeed].startsShot = true;
+    const auto block = static_cast<std::int64_t>(m_options.blockSeconds * m_frameRate);
+    if (shot.end - shot.first <= block) {
+        Step step{shot, true, {}};
+        for (std::size_t seed = firstSeed; seed < m_seeds.size(); ++seed) {
+            step.backward.push_back(seed);
+        }
+        m_steps.push_back(step);
+        return;
+    }
+    m_steps.push_back({{m_seeds[firstSeed].frame, shot.end}, true, {}});
+    for (std::size_t seed = firstSeed; seed < m_seeds.size(); ++seed) {
+        const std::int64_t from = seed == firstSeed ? shot.first : m_seeds[seed - 1].frame;
+        // A picture is held until the next one comes, so the seed's own may lie later.
+        std::int64_t to = std::min(shot.end, m_seeds[seed].frame + m_stepFrames + 1);
+        while (to > from) {
+            const std::int64_t begin = std::max(from, to - block);
+            m_steps.push_back({{begin, to}, false, {seed}});
+            to = begin;
+        }
+    }
+}
+
+std::optional<KxSubjectFollower::Range> KxSubjectFollower::Impl::NextRange() const
+{
+    return m_next < m_steps.size() ? std::optional(m_steps[m_next].range) : std::nullopt;
+}
+
+bool KxSubjectFollower::Impl::Wants(std::int64_t frame) const
+{
+    return frame % m_stepFrames == 0 ||
+           std::any_of(m_seeds.begin(), m_seeds.end(), [frame](const Seed& seed) { return seed.frame == frame; });
+}
+
+void KxSubjectFollower::Impl::AddPicture(std::int64_t frame, const KxPictureView& view)
+{
+    const bool isPicture = view.data != nullptr && view.sizePx.width == m_sizePx.width &&
+                           view.sizePx.height == m_sizePx.height &&
+                           view.bytesPerRow >= BytesPerPixel * static_cast<std::size_t>(m_sizePx.width);
+    if (!isPicture || m_next >= m_steps.size() || (!m_kept.empty() && frame <= m_kept.back().frame)) {
+        return;
+    }
+    const Step& step = m_steps[m_next];
+    // cv::Mat cannot refer to constant data; nothing here writes to it.
+    const cv::Mat pixels(m_sizePx, CV_8UC3, const_cast<std::uint8_t*>(view.data), view.bytesPerRow);
+    const bool isKept = !step.backward.empty() && frame <= m_seeds[step.backward.back()].frame + m_stepFrames;
+    try {
+        if (step.isForward) {
+            FollowForward({frame, pixels});
+        }
+        if (isKept) {
+            m_kept.push_back({frame, pixels.clone()});
+        }
+    } catch (const cv::Exception& problem) {
+        KxThrowIfOutOfMemory(problem);
+    }
+}
+
+KxFollowTrack::Point KxSubjectFollower::Impl::PointOf(std::int64_t frame, const KxFollowTracker& tracker) const
+{
+    const cv::Rect2d box = tracker.Box();
+    return {static_cast<std::int32_t>(frame),
+            {box.x / m_sizePx.width, box.y / m_sizePx.height, box.width / m_sizePx.width, box.height / m_sizePx.height},
+            static_cast<float>(tracker.Confidence())};
+}
+
+void KxSubjectFollower::Impl::Start(Seed& seed, const Picture& picture, std::optional<KxFollowTracker>& tracker)
+{
+    cv::Rect2d box(seed.box.x * m_sizePx.width, seed.box.y * m_sizePx.height, seed.box.width * m_sizePx.width,
+                   seed.box.height * m_sizePx.height);
+    if (box.empty()) {
+        box = KxBoxGuess::Around(picture.pixels, box.tl(), m_options);
+        seed.box = {box.x / m_sizePx.width, box.y / m_sizePx.height, box.width / m_sizePx.width,
+                    box.height / m_sizePx.height};
+    }
+    tracker.emplace(m_options, picture.pixels, box);
+}
+
+void KxSubjectFollower::Impl::FollowForward(const Picture& picture)
+{
+    std::size_t due = m_forwardSeed ? *m_forwardSeed + 1 : 0;
+    std::optional<std::size_t> started;
+    const Range& range = m_steps[m_next].range;
+    for (; due < m_seeds.size() && m_seeds[due].frame <= picture.frame; ++due) {
+        if (m_seeds[due].frame >= range.first) {
+            started = due;
+        }
+    }
+    if (started) {
+        m_forwardSeed = started;
+        Start(m_seeds[*started], picture, m_forward);
+    } else if (m_forward) {
+        m_forward->AddPicture(picture.pixels);
+        m_seeds[*m_forwardSeed].after.push_back(PointOf(picture.frame, *m_forward));
+    }
+}
+
+void KxSubjectFollower::Impl::FollowBackward(std::size_t index, std::int64_t until)
+{
+    Seed& seed = m_seeds[index];
+    auto from = m_kept.end();
+    if (m_backwardSeed != index) {
+        m_backward.reset();
+        m_backwardSeed = index;
+        from = std::lower_bound(m_kept.begin(), m_kept.end(), seed.frame,
+                                [](const Picture& picture, std::int64_t frame) { return picture.frame < frame; });
+        if (from == m_kept.end() && !m_kept.empty()) {
+            --from;
+        }
+        if (from != m_kept.end()) {
+            Start(seed, *from, m_backward);
+        }
+    }
+    while (m_backward && from != m_kept.begin() && std::prev(from)->frame >= until) {
+        --from;
+        m_backward->AddPicture(from->pixels);
+        seed.before.push_back(PointOf(from->frame, *m_backward));
+    }
+}
+
+void KxSubjectFollower::Impl::EndRange()
+{
+    if (m_next >= m_steps.size()) {
+        return;
+    }
+    const Step& step = m_steps[m_next];
+    try {
+        for (const std::size_t seed : step.backward) {
+            const bool isFirst = m_seeds[seed].startsShot;
+            FollowBackward(seed, isFirst ? step.range.first : std::max(step.range.first, m_seeds[seed - 1].frame));
+        }
+    } catch (const cv::Exception& problem) {
+        KxThrowIfOutOfMemory(problem);
+    }
+    if (step.isForward) {
+        m_forward.reset();
+    }
+    m_kept.clear();
+    ++m_next;
+}
+
+KxFollowTrack KxSubjectFollower::Impl::Track() const
+{
+    KxFollowTrack track;
+    const auto add = [&track](const std::vector<KxFollowTrack::Point>& points) {
+        track.points.insert(track.points.end(), points.begin(), points.end());
+    };
+    for (std::size_t i = 0; i < m_seeds.size(); ++i) {
+        const Seed& seed = m_seeds[i];
+        if (seed.startsShot) {
+            add({seed.before.rbegin(), seed.before.rend()});
+        }
+        const KxFollowTrack::Point here{static_cast<std::int32_t>(seed.frame), seed.box, 1.0F};
+        add({here});
+        const bool isLast = i + 1 == m_seeds.size() || m_seeds[i + 1].startsShot;
+        if (isLast) {
+            add(seed.after);
+            continue;
+        }
+        const Seed& next = m_seeds[i + 1];
+        add(KxTrackBlend::Between({here, seed.after},
+                                  {{static_cast<std::int32_t>(next.frame), next.box, 1.0F}, next.before}, m_options));
+    }
+    return track;
+}
+
+KxSubjectFollower::KxSubjectFollower(const KxSubjectRecord& record, const KxSubjectChoice& choice,
+                                     const KxSubjectOptions& options)
+    : m_impl(std::make_unique<Impl>(record, choice, options))
+{
+}
+
+KxSubjectFollower::~KxSubjectFollower() = default;
+
+std::optional<KxSubjectFollower::Range> KxSubjectFollower::NextRange() const
+{
+    return m_impl->NextRange();
+}
+
+bool KxSubjectFollower::Wants(std::int64_t frame) const
+{
+    return m_impl->Wants(frame);
+}
+
+void KxSubjectFollower::AddPicture(std::int64_t frame, const KxPictureView& picture)
+{
+    m_impl->AddPicture(frame, picture);
+}
+
+void KxSubjectFollower::EndRange()
+{
+    m_impl->EndRange();
+}
+
+double KxSubjectFollower::Progress() const
+{
+    return m_impl->Progress(0);
+}
+
+double KxSubjectFollower::ProgressAfterRange() const
+{
+    return m_impl->Progress(1);
+}
+
+KxFollowTrack KxSubjectFollower::Track() const
+{
+    return m_impl->Track();
+}

@@ -1,0 +1,66 @@
+#include <KxSubject/Follow/KxTrackBlend.h>
+
+#include <algorithm>
+#include <cmath>
+#include <map>
+
+namespace
+{
+
+using Point = KxFollowTrack::Point;
+
+KxSubjectBox Mix(const KxSubjectBox& a, const KxSubjectBox& b, double part)
+{
+    const auto mix = [part](double from, double to) { return from + part * (to - from); };
+    return {mix(a.x, b.x), mix(a.y, b.y), mix(a.width, b.width), mix(a.height, b.height)};
+}
+
+double Distance(const KxSubjectBox& a, const KxSubjectBox& b)
+{
+    return std::hypot(a.x + a.width / 2.0 - b.x - b.width / 2.0, a.y + a.height / 2.0 - b.y - b.height / 2.0);
+}
+
+/// A frame's point on each side; null where that side has none.
+struct Pair {
+    const Point* left = nullptr;
+    const Point* right = nullptr;
+};
+
+} // namespace
+
+std::vector<Point> KxTrackBlend::Between(const Side& left, const Side& right, const KxSubjectOptions::Follow& options)
+{
+    const std::int32_t first = left.seed.frame;
+    const std::int32_t last = right.seed.frame;
+    std::map<std::int32_t, Pair> frames;
+    for (const Point& point : left.points) {
+        frames[point.frame].left = &point;
+    }
+    for (const Point& point : right.points) {
+        frames[point.frame].right = &point;
+    }
+    std::vector<Point> blended;
+    for (const auto& [frame, pair] : frames) {
+        if (frame <= first || frame >= last) {
+            continue;
+        }
+        const double part = static_cast<double>(frame - first) / static_cast<double>(last - first);
+        const double leftConfidence = pair.left != nullptr ? static_cast<double>(pair.left->confidence) : 0.0;
+        const double rightConfidence = pair.right != nullptr ? static_cast<double>(pair.right->confidence) : 0.0;
+        if (std::max(leftConfidence, rightConfidence) < options.goodConfidence) {
+            blended.push_back(
+                {frame, Mix(left.seed.box, right.seed.box, part), static_cast<float>(options.goodConfidence)});
+            continue;
+        }
+        const bool agrees = pair.left != nullptr && pair.right != nullptr &&
+                            Distance(pair.left->box, pair.right->box) <
+                                options.agreeingShare * std::min(pair.left->box.width, pair.right->box.width);
+        if (agrees) {
+            blended.push_back({frame, Mix(pair.left->box, pair.right->box, part),
+                               std::max(pair.left->confidence, pair.right->confidence)});
+        } else {
+            blended.push_back((1.0 - part) * leftConfidence >= part * rightConfidence ? *pair.left : *pair.right);
+        }
+    }
+    return blended;
+}
