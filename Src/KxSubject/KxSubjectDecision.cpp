@@ -2,6 +2,7 @@
 
 #include <KxSubject/Choice/KxCentreScore.h>
 #include <KxSubject/Choice/KxChoiceRanges.h>
+#include <KxSubject/Choice/KxChosenEvidence.h>
 #include <KxSubject/Choice/KxEvidence.h>
 #include <KxSubject/Choice/KxSpeakerChoice.h>
 #include <KxSubject/Choice/KxSubjectTracker.h>
@@ -45,8 +46,13 @@ private:
     std::vector<KxShotBoundary> Boundaries() const;
     std::vector<Shot> Shots() const;
     std::int64_t LongestHoldFrames() const;
+    /// What is known about one shot: the signals, and what the person makes of them.
+    struct ShotEvidence {
+        KxEvidence::InShot signals;
+        KxChosenEvidence chosen;
+    };
     /// The evidence of all signals, its peaks amplified, so that one subject outweighs what is spread wide.
-    KxSignalProfile Combined(const KxEvidence::Parts& parts) const;
+    KxSignalProfile Combined(const KxEvidence::Parts& parts, const ShotEvidence& evidence, std::size_t sample) const;
     /// The tracker's cost of a move by one width, in a shot with samples from `begin` up to, but without, `end`: where
     /// pictures are missing, fewer samples have to pay for a move.
     double MoveCost(const Shot& shot, std::size_t begin, std::size_t end) const;
@@ -57,8 +63,9 @@ private:
     void AddCrops(const Shot& shot, const KxCancelToken& cancel, std::vector<KxCropRect>& crops);
     /// With several people who talk: on the one who speaks, where `centres`, the choice without sound, would lose them.
     void FollowSpeaker(const Shot& shot, const KxCancelToken& cancel, std::vector<double>& centres);
-    void RecordFindings(const Shot& shot, const KxEvidence::InShot& evidence, const std::vector<KxPathPoint>& points,
+    void RecordFindings(const Shot& shot, const ShotEvidence& evidence, const std::vector<KxPathPoint>& points,
                         std::size_t firstSample);
+    KxSubjectOptions::Reaction ReactionIn(const ShotEvidence& evidence) const;
 
     const KxSubjectRecord& m_record;
     const KxSubjectRequest& m_request;
@@ -111,9 +118,21 @@ std::vector<Decider::Shot> Decider::Shots() const
     return shots;
 }
 
-KxSignalProfile Decider::Combined(const KxEvidence::Parts& parts) const
+KxSignalProfile Decider::Combined(const KxEvidence::Parts& parts, const ShotEvidence& evidence,
+                                  std::size_t sample) const
 {
-    return parts.Sum().Concentrated(m_options.evidence.concentration);
+    return evidence.chosen.Of(parts.Sum(), m_record.samples[sample].frame)
+        .Concentrated(m_options.evidence.concentration);
+}
+
+KxSubjectOptions::Reaction Decider::ReactionIn(const ShotEvidence& evidence) const
+{
+    KxSubjectOptions::Reaction reaction = m_options.For(m_request.speed);
+    if (evidence.chosen.Follows()) {
+        // Who points at something wants it in the picture more than a calm camera.
+        reaction.smoothingSeconds = std::min(reaction.smoothingSeconds, m_options.follow.smoothingSeconds);
+    }
+    return reaction;
 }
 
 double Decider::MoveCost(const Shot& shot, std::size_t begin, std::size_t end) const
@@ -172,11 +191,13 @@ std::vector<double> Decider::CentresOf(const Shot& shot, const KxChoiceRanges& c
     const auto begin = static_cast<std::size_t>(from - samples.begin());
     const auto end = static_cast<std::size_t>(to - samples.begin());
 
-    const KxEvidence::InShot evidence = m_evidence.Of(shot.first, shot.end);
+    const ShotEvidence evidence{
+        m_evidence.Of(shot.first, shot.end),
+        {m_request, choices, m_options.follow, m_record.source.frameRate, m_geometry.FreeAxis()}};
     KxSubjectTracker tracker(MoveCost(shot, begin, end) * m_score.Spacing());
     for (std::size_t i = begin; i < end && !cancel.IsCancelled(); ++i) {
         const bool clear = samples[i].frame >= shot.clearFirst && samples[i].frame < shot.clearEnd;
-        tracker.Add(clear ? m_score.Of(Combined(evidence.At(i))) : KxCentreScore::Scores{});
+        tracker.Add(clear ? m_score.Of(Combined(evidence.signals.At(i), evidence, i)) : KxCentreScore::Scores{});
     }
     std::vector<KxPathPoint> points;
     for (const std::size_t position : tracker.BestRun()) {
@@ -193,7 +214,7 @@ std::vector<double> Decider::CentresOf(const Shot& shot, const KxChoiceRanges& c
     }
     const KxFrameSpan span{shot.first, shot.end, m_record.source.frameRate};
     std::vector<double> centres =
-        KxCropPath(m_options.path, m_options.For(m_request.speed), m_geometry).Draw(points, span, 0.5, cancel);
+        KxCropPath(m_options.path, ReactionIn(evidence), m_geometry).Draw(points, span, 0.5, cancel);
     if (choices.Placed().empty() && choices.Avoided().empty()) {
         FollowSpeaker(shot, cancel, centres);
     }
@@ -242,18 +263,18 @@ void Decider::FollowSpeaker(const Shot& shot, const KxCancelToken& cancel, std::
     centres = std::move(followed);
 }
 
-void Decider::RecordFindings(const Shot& shot, const KxEvidence::InShot& evidence,
-                             const std::vector<KxPathPoint>& points, std::size_t firstSample)
+void Decider::RecordFindings(const Shot& shot, const ShotEvidence& evidence, const std::vector<KxPathPoint>& points,
+                             std::size_t firstSample)
 {
     std::array<float, KxSignalCount> totals{};
     float whole = 0.0F;
     float inside = 0.0F;
     for (std::size_t i = 0; i < points.size(); ++i) {
-        const KxEvidence::Parts parts = evidence.At(firstSample + i);
+        const KxEvidence::Parts parts = evidence.signals.At(firstSample + i);
         KxSubjectFindings::Sample sample;
         sample.frame = points[i].frame;
         sample.wanted = points[i].centre;
-        const KxSignalProfile combined = Combined(parts);
+        const KxSignalProfile combined = Combined(parts, evidence, firstSample + i);
         whole += combined.Sum();
         inside += m_score.Inside(points[i].centre, combined);
         sample.evidence = KxPackedProfile(combined);

@@ -1,7 +1,10 @@
 #pragma once
 
+#include <KxSubject/KxFollowTrack.h>
 #include <KxSubject/KxMotionSpeed.h>
 #include <KxSubject/KxSubjectChoices.h>
+
+#include <vector>
 
 /// Whether the crop follows who speaks, in shots with several faces and sound.
 enum class KxSpeakerMode { Auto, Off };
@@ -13,5 +16,7 @@ struct KxSubjectRequest {
     KxMotionSpeed speed = KxMotionSpeed::Auto;
     bool wantsFindings = false;    ///< costs a little time and some 30 bytes a frame
     KxSubjectChoices choices = {}; ///< of the person; they replace what the analysis would decide
+    /// By choice, as KxSubjectFollower made them; a choice with seeds and without a track is known at its seeds alone.
+    std::vector<KxFollowTrack> tracks = {};
     KxSpeakerMode speaker = KxSpeakerMode::Auto;
 };

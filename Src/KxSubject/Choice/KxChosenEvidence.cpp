@@ -1,0 +1,36 @@
+#include <KxSubject/Choice/KxChosenEvidence.h>
+
+KxChosenEvidence::KxChosenEvidence(const KxSubjectRequest& request, const KxChoiceRanges& ranges,
+                                   const KxSubjectOptions::Follow& options, double frameRate, KxAxis axis)
+{
+    const auto part = [&](const KxChoiceRanges::Range& range) {
+        const KxFollowTrack none;
+        const KxFollowTrack& track = range.choice < request.tracks.size() ? request.tracks[range.choice] : none;
+        const KxFollowEvidence::Axis along{frameRate, axis};
+        return Part{range, KxFollowEvidence(request.choices[range.choice], track, range, options, along)};
+    };
+    for (const KxChoiceRanges::Range& range : ranges.Placed()) {
+        if (request.choices[range.choice].kind == KxChoiceKind::Follow) {
+            m_followed.push_back(part(range));
+        }
+    }
+    for (const KxChoiceRanges::Range& range : ranges.Avoided()) {
+        m_avoided.push_back(part(range));
+    }
+}
+
+KxSignalProfile KxChosenEvidence::Of(const KxSignalProfile& evidence, std::int64_t frame) const
+{
+    KxSignalProfile chosen = evidence;
+    for (const Part& avoided : m_avoided) {
+        if (avoided.Has(frame)) {
+            chosen = avoided.evidence.WithoutAvoided(chosen, frame);
+        }
+    }
+    for (const Part& followed : m_followed) {
+        if (followed.Has(frame)) {
+            chosen = followed.evidence.Followed(chosen, frame);
+        }
+    }
+    return chosen;
+}

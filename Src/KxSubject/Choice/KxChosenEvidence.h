@@ -1,0 +1,30 @@
+#pragma once
+
+#include <KxCore/KxExport.h>
+
+#include <KxSubject/Choice/KxChoiceRanges.h>
+#include <KxSubject/Choice/KxFollowEvidence.h>
+#include <KxSubject/KxSubjectRequest.h>
+
+#include <vector>
+
+/// The evidence in one shot after what a person chose to follow and to avoid there.
+class KXSUBJECT_API KxChosenEvidence
+{
+public:
+    KxChosenEvidence(const KxSubjectRequest& request, const KxChoiceRanges& ranges,
+                     const KxSubjectOptions::Follow& options, double frameRate, KxAxis axis);
+
+    KxSignalProfile Of(const KxSignalProfile& evidence, std::int64_t frame) const;
+    /// Whether something is followed in the shot.
+    bool Follows() const { return !m_followed.empty(); }
+
+private:
+    struct Part {
+        KxChoiceRanges::Range range;
+        KxFollowEvidence evidence;
+        bool Has(std::int64_t frame) const { return frame >= range.first && frame < range.end; }
+    };
+    std::vector<Part> m_followed;
+    std::vector<Part> m_avoided;
+};

@@ -1,0 +1,106 @@
+#include <KxSubject/Choice/KxFollowEvidence.h>
+
+#include <algorithm>
+#include <cmath>
+#include <iterator>
+
+namespace
+{
+
+/// A tracked picture says something about this time around it.
+constexpr double ReachSeconds = 0.25;
+
+} // namespace
+
+KxFollowEvidence::KxFollowEvidence(const KxSubjectChoice& choice, const KxFollowTrack& track,
+                                   const KxChoiceRanges::Range& range, const KxSubjectOptions::Follow& options,
+                                   const Axis& along)
+    : m_options(options)
+    , m_frameRate(along.frameRate)
+    , m_axis(along.axis)
+{
+    const auto isInside = [&range](std::int64_t frame) { return frame >= range.first && frame < range.end; };
+    std::copy_if(track.points.begin(), track.points.end(), std::back_inserter(m_points),
+                 [&isInside](const KxFollowTrack::Point& point) { return isInside(point.frame); });
+    const bool isTracked = !m_points.empty();
+    for (const KxSubjectSeed& seed : choice.seeds) {
+        const std::int64_t frame = KxChoiceRanges::FrameAt(seed.seconds, m_frameRate);
+        if (!isInside(frame)) {
+            continue;
+        }
+        m_seedFrames.push_back(frame);
+        if (!isTracked) {
+            const bool isPoint = seed.box.width <= 0.0 || seed.box.height <= 0.0;
+            const KxSubjectBox usual{seed.box.x - options.pointWidth / 2.0, seed.box.y - options.pointHeight / 2.0,
+                                     options.pointWidth, options.pointHeight};
+            m_points.push_back({static_cast<std::int32_t>(frame), isPoint ? usual : seed.box, 1.0F});
+        }
+    }
+    std::stable_sort(m_points.begin(), m_points.end(),
+                     [](const KxFollowTrack::Point& a, const KxFollowTrack::Point& b) { return a.frame < b.frame; });
+    for (std::size_t i = 0; i < m_points.size(); ++i) {
+        if (static_cast<double>(m_points[i].confidence) >= options.goodConfidence) {
+            m_good.push_back(i);
+        }
+    }
+}
+
+KxFollowEvidence::Place KxFollowEvidence::At(std::int64_t frame) const
+{
+    const auto isBefore = [this](std::size_t point, std::int64_t time) { return m_points[point].frame < time; };
+    const auto after = std::lower_bound(m_good.begin(), m_good.end(), frame, isBefore);
+    const KxFollowTrack::Point& next = m_points[after == m_good.end() ? m_good.back() : *after];
+    const KxFollowTrack::Point& before = m_points[after == m_good.begin() ? m_good.front() : *std::prev(after)];
+    const double length = static_cast<double>(next.frame - before.frame);
+    const double part = length > 0.0 ? static_cast<double>(frame - before.frame) / length : 0.0;
+    const auto mix = [part](double a, double b) { return a + part * (b - a); };
+    const bool across = m_axis == KxAxis::Across;
+    Place place;
+    place.from = across ? mix(before.box.x, next.box.x) : mix(before.box.y, next.box.y);
+    place.to = place.from + (across ? mix(before.box.width, next.box.width) : mix(before.box.height, next.box.height));
+    const auto secondsTo = [this, frame](std::int64_t other) {
+        return static_cast<double>(std::abs(other - frame)) / m_frameRate;
+    };
+    place.seconds = std::min(secondsTo(before.frame), secondsTo(next.frame));
+    place.isSeed = std::any_of(m_seedFrames.begin(), m_seedFrames.end(),
+                               [&](std::int64_t seed) { return secondsTo(seed) <= m_options.seedSeconds; });
+    const auto nearest = std::min_element(m_points.begin(), m_points.end(),
+                                          [&](const KxFollowTrack::Point& a, const KxFollowTrack::Point& b) {
+                                              return std::abs(a.frame - frame) < std::abs(b.frame - frame);
+                                          });
+    place.confidence = secondsTo(nearest->frame) <= ReachSeconds ? static_cast<double>(nearest->confidence) : 0.0;
+    return place;
+}
+
+KxSignalProfile KxFollowEvidence::Followed(const KxSignalProfile& evidence, std::int64_t frame) const
+{
+    const Place place = At(frame);
+    const double confidence = place.isSeed ? 1.0 : place.confidence;
+    const double weight = place.isSeed ? m_options.seedWeight : m_options.weight;
+    const double sigma = m_options.gateWidth + m_options.gateGrowth * place.seconds;
+    const double centre = (place.from + place.to) / 2.0;
+    KxSignalProfile followed = evidence;
+    for (std::size_t bin = 0; bin < KxSignalProfile::Bins; ++bin) {
+        const double x = (static_cast<double>(bin) + 0.5) / KxSignalProfile::Bins - centre;
+        followed.share[bin] *=
+            static_cast<float>(std::exp(-x * x / (2.0 * sigma * sigma)) * (1.0 - m_options.denial * confidence));
+    }
+    followed.Add(place.from, place.to, weight * confidence);
+    return followed;
+}
+
+KxSignalProfile KxFollowEvidence::WithoutAvoided(const KxSignalProfile& evidence, std::int64_t frame) const
+{
+    const Place place = At(frame);
+    KxSignalProfile left = evidence;
+    if (!place.isSeed && place.confidence < m_options.goodConfidence) {
+        return left;
+    }
+    for (std::size_t bin = 0; bin < KxSignalProfile::Bins; ++bin) {
+        const double x = (static_cast<double>(bin) + 0.5) / KxSignalProfile::Bins;
+        if (x >= place.from && x <= place.to) {
+            left.share[bin] *= static_cast<float>(m_options.avoidedShare);
+        }
+    }
+    return left;
+}

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <KxCore/KxExport.h>
+
+#include <KxSubject/Choice/KxChoiceRanges.h>
+#include <KxSubject/KxCropGeometry.h>
+#include <KxSubject/KxFollowTrack.h>
+#include <KxSubject/KxSignalProfile.h>
+#include <KxSubject/KxSubjectOptions.h>
+
+#include <cstdint>
+#include <vector>
+
+/// Changes the evidence to what a person pointed at. The tracker decides whom to show, the other signals correct where
+/// that is; where the tracker gives up, they take over again within some seconds.
+class KXSUBJECT_API KxFollowEvidence
+{
+public:
+    /// Of the video, and of the profiles.
+    struct Axis {
+        double frameRate = 25.0;
+        KxAxis axis = KxAxis::Across;
+    };
+
+    /// For the frames of `range`, in which the choice has a seed; what lies outside says nothing. Without points of
+    /// `track` in it, the seeds are all that is known.
+    KxFollowEvidence(const KxSubjectChoice& choice, const KxFollowTrack& track, const KxChoiceRanges::Range& range,
+                     const KxSubjectOptions::Follow& options, const Axis& along);
+
+    /// `evidence` of all signals in a picture that the choice follows through.
+    KxSignalProfile Followed(const KxSignalProfile& evidence, std::int64_t frame) const;
+    /// `evidence` of all signals in a picture with the thing in it that the choice avoids.
+    KxSignalProfile WithoutAvoided(const KxSignalProfile& evidence, std::int64_t frame) const;
+
+private:
+    /// The thing along the axis at one time.
+    struct Place {
+        double from = 0.0;
+        double to = 0.0;
+        double confidence = 0.0;
+        double seconds = 0.0; ///< since, or until, it was seen well
+        bool isSeed = false;  ///< a person pointed at it just then
+    };
+    Place At(std::int64_t frame) const;
+
+    KxSubjectOptions::Follow m_options;
+    double m_frameRate;
+    KxAxis m_axis;
+    std::vector<std::int64_t> m_seedFrames;
+    std::vector<KxFollowTrack::Point> m_points; ///< growing by frame, never empty
+    std::vector<std::size_t> m_good;            ///< those that were seen well
+};
