@@ -1,5 +1,6 @@
 #include <KxModel/KxAutoReframeService.h>
 
+#include <KxModel/KxFollowTracks.h>
 #include <KxModel/KxRecordStore.h>
 
 #include <KxSubject/KxOpenCvProcess.h>
@@ -44,6 +45,7 @@ KxAutoReframeService::KxAutoReframeService(Open open)
     : m_open(std::move(open))
 {
     m_settings.records = std::make_shared<KxRecordStore>();
+    m_settings.tracks = std::make_shared<KxFollowTracks>();
 }
 
 KxAutoReframeService::~KxAutoReframeService()

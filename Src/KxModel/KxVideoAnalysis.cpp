@@ -1,6 +1,8 @@
 #include <KxModel/KxVideoAnalysis.h>
 
 #include <KxModel/KxDetectorFiles.h>
+#include <KxModel/KxFollowPass.h>
+#include <KxModel/KxFollowTracks.h>
 #include <KxModel/KxPicturePipeline.h>
 #include <KxModel/KxRecordStore.h>
 #include <KxModel/KxSoundReading.h>
@@ -16,6 +18,8 @@
 #include <KxSubject/KxSubjectOptions.h>
 
 #include <QFileInfo>
+
+#include <algorithm>
 
 namespace
 {
@@ -137,7 +141,8 @@ private:
 
 KxVideoAnalysis::KxVideoAnalysis(std::unique_ptr<KxVideoScanner> scanner, const IKxAutoReframeParam& param,
                                  const KxAnalysisSettings& settings, const KxCancelToken& cancel)
-    : m_scanner(std::move(scanner))
+    : m_path(scanner->Facts().path)
+    , m_scanner(std::move(scanner))
     , m_param(param)
     , m_settings(settings)
     , m_cancel(cancel)
@@ -233,6 +238,33 @@ bool KxVideoAnalysis::HasRecord(const QString& path, const KxAnalysisSettings& s
     return settings.records->Find(KxRecordStore::KeyOf(path, contents.models)) != nullptr;
 }
 
+bool KxVideoAnalysis::Follow(const KxSubjectRecord& record, const QByteArray& key, KxSubjectRequest& request,
+                             const std::function<void(int percent)>& onProgress, Result& result)
+{
+    const auto count = static_cast<double>(request.choices.size());
+    for (const KxSubjectChoice& choice : request.choices) {
+        const double before = static_cast<double>(request.tracks.size()) / count;
+        const KxFollowTracks::Known known = m_settings.tracks ? m_settings.tracks->Find(key, choice) : nullptr;
+        if (choice.seeds.empty() || known) {
+            request.tracks.push_back(known ? *known : KxFollowTrack());
+            continue;
+        }
+        KxFollowPass::Result pass = KxFollowPass::Run(
+            m_path, record, choice, [&](double part) { onProgress(static_cast<int>((before + part / count) * 100.0)); },
+            m_cancel);
+        if (pass.outcome != KxOutcome::Done) {
+            result.outcome = pass.outcome;
+            result.message = pass.message;
+            return false;
+        }
+        if (m_settings.tracks) {
+            m_settings.tracks->Add(key, choice, pass.track);
+        }
+        request.tracks.push_back(std::move(pass.track));
+    }
+    return true;
+}
+
 KxAnalysis::Result KxVideoAnalysis::Run(const std::function<void(int percent)>& onProgress)
 {
     Result result;
@@ -240,14 +272,33 @@ KxAnalysis::Result KxVideoAnalysis::Run(const std::function<void(int percent)>& 
     result.warnings = contents.problems;
     const QByteArray key =
         m_settings.records ? KxRecordStore::KeyOf(m_scanner->Facts().path, contents.models) : QByteArray();
+    int reported = -1;
+    const bool follows = std::any_of(m_settings.choices.begin(), m_settings.choices.end(),
+                                     [](const KxSubjectChoice& choice) { return !choice.seeds.empty(); });
     std::shared_ptr<const KxSubjectRecord> record = FindRecord(key);
+    // Of the whole: following looks at some shots, observing at all of them.
+    const int observing = record ? 0 : follows ? 80 : 100;
+    const auto report = [&](int percent) {
+        if (percent > reported) {
+            reported = percent;
+            onProgress(std::min(percent, 99));
+        }
+    };
     if (!record) {
-        record = Observe(std::move(contents.models), key, onProgress, result);
+        record = Observe(
+            std::move(contents.models), key, [&](int percent) { report(percent * observing / 100); }, result);
     }
     if (!record) {
         return result;
     }
-    KxSubjectDecision decision = KxDecide(*record, RequestFor(m_param, m_settings), {}, m_cancel);
+    m_scanner.reset();
+    KxSubjectRequest request = RequestFor(m_param, m_settings);
+    if (follows && !Follow(
+                       *record, key, request,
+                       [&](int percent) { report(observing + percent * (100 - observing) / 100); }, result)) {
+        return result;
+    }
+    KxSubjectDecision decision = KxDecide(*record, request, {}, m_cancel);
     if (m_cancel.IsCancelled()) {
         result.outcome = KxOutcome::Cancelled;
         return result;

@@ -15,11 +15,13 @@
 #include <functional>
 #include <memory>
 
+class KxFollowTracks;
 class KxRecordStore;
 class KxVideoScanner;
 struct KxSubjectFindings;
 struct KxSubjectModels;
 struct KxSubjectRecord;
+struct KxSubjectRequest;
 
 /// One analysis of one file, as the service runs it.
 class KXMODEL_API KxAnalysis
@@ -52,10 +54,12 @@ struct KxAnalysisSettings {
     bool wantsShots = false;
     std::shared_ptr<KxRecordStore> records; ///< null: every analysis looks at the video
     KxSubjectChoices choices;               ///< of the person, for this video
+    std::shared_ptr<KxFollowTracks> tracks; ///< null: what is followed is looked for anew each time
 };
 
 /// The analysis of a video file. If the file was looked at before, its record decides; otherwise the calling thread
-/// decodes and shrinks pictures, another one finds the subject in them (KxPicturePipeline).
+/// decodes and shrinks pictures, another one finds the subject in them (KxPicturePipeline). Shots in which a choice
+/// points at something are looked at again, once for each set of its seeds (KxFollowPass).
 class KXMODEL_API KxVideoAnalysis final : public KxAnalysis
 {
 public:
@@ -82,10 +86,14 @@ private:
     /// Looks at the whole video. Null if that fails or is cancelled: then `result` says why.
     std::shared_ptr<const KxSubjectRecord> Observe(KxSubjectModels models, const QByteArray& key,
                                                    const std::function<void(int percent)>& onProgress, Result& result);
+    /// Looks for what the choices of `request` point at. False if that fails or is cancelled: then `result` says why.
+    bool Follow(const KxSubjectRecord& record, const QByteArray& key, KxSubjectRequest& request,
+                const std::function<void(int percent)>& onProgress, Result& result);
     KxVideoAnalysis(std::unique_ptr<KxVideoScanner> scanner, const IKxAutoReframeParam& param,
                     const KxAnalysisSettings& settings, const KxCancelToken& cancel);
 
-    std::unique_ptr<KxVideoScanner> m_scanner;
+    const QString m_path;
+    std::unique_ptr<KxVideoScanner> m_scanner; ///< null once it was read to its end
     IKxAutoReframeParam m_param;
     KxAnalysisSettings m_settings;
     KxCancelToken m_cancel;
