@@ -112,13 +112,13 @@ void ExportCard::InitLayout()
 void ExportCard::Show(const ExportItem& item)
 {
     m_item = item;
-    const bool isActive = !item.IsFinished();
+    const bool isActive = item.IsActive();
     m_cancel->setVisible(isActive);
     m_cancel->setEnabled(item.state != State::Cancelling);
     m_bar->setVisible(isActive);
     m_bar->setValue(item.progress);
     m_size->setVisible(isActive);
-    m_retry->setVisible(item.state == State::Failed || item.state == State::Cancelled);
+    m_retry->setVisible(!isActive && item.state != State::Done);
     m_show->setVisible(item.state == State::Done);
     SetTextRole(*m_status, item.state == State::Failed ? QStringLiteral("error") : QStringLiteral("muted"));
     ShowTexts();
@@ -158,6 +158,8 @@ QString ExportCard::StatusText() const
         return m_item.message;
     case State::Cancelled:
         return tr("Cancelled");
+    case State::Interrupted:
+        return tr("Not finished");
     }
     return {};
 }
@@ -182,7 +184,7 @@ void ExportCard::contextMenuEvent(QContextMenuEvent* event)
 {
     QMenu menu(this);
     menu.setObjectName(QStringLiteral("ExportCardMenu"));
-    if (!m_item.IsFinished()) {
+    if (m_item.IsActive()) {
         menu.addAction(tr("Cancel"), this, &ExportCard::sigCancel);
     } else {
         if (m_item.state == State::Done) {

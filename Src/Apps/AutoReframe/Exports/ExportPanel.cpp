@@ -6,6 +6,7 @@
 #include <KxWidgets/KxLabel.h>
 #include <KxWidgets/KxUIStyle.h>
 
+#include <QFrame>
 #include <QHBoxLayout>
 #include <QScrollArea>
 #include <QVariant>
@@ -31,6 +32,8 @@ ExportPanel::ExportPanel(ExportQueue& queue, QWidget* parent)
             .arg(KxUIStyle::Colour(KxUIStyle::Role::Panel).name(), KxUIStyle::Colour(KxUIStyle::Role::Line).name()));
     InitLayout();
     connect(m_clear, &QAbstractButton::clicked, &m_queue, &ExportQueue::RemoveFinished);
+    connect(m_resume, &QAbstractButton::clicked, &m_queue, &ExportQueue::ResumeInterrupted);
+    connect(m_discard, &QAbstractButton::clicked, &m_queue, &ExportQueue::DiscardInterrupted);
     connect(&m_queue, &ExportQueue::sigAdded, this, &ExportPanel::AddCard);
     connect(&m_queue, &ExportQueue::sigChanged, this, &ExportPanel::UpdateCard);
     connect(&m_queue, &ExportQueue::sigRemoved, this, &ExportPanel::RemoveCard);
@@ -59,6 +62,11 @@ void ExportPanel::InitLayout()
     m_hint->setProperty("textRole", QStringLiteral("muted"));
     m_hint->setWordWrap(true);
 
+    m_resumeBar = MakeResumeBar();
+    auto* const barRow = new QHBoxLayout;
+    barRow->setContentsMargins(MarginPx, 0, MarginPx, 0);
+    barRow->addWidget(m_resumeBar);
+
     auto* const head = new QHBoxLayout;
     head->setContentsMargins(MarginPx, 0, MarginPx, 0);
     head->addWidget(m_heading, 1);
@@ -84,13 +92,41 @@ void ExportPanel::InitLayout()
     column->setContentsMargins(1, 12, 0, 0);
     column->setSpacing(8);
     column->addLayout(head);
+    column->addLayout(barRow);
     column->addWidget(area, 1);
+}
+
+QWidget* ExportPanel::MakeResumeBar()
+{
+    auto* const bar = new QFrame(this);
+    bar->setObjectName(QStringLiteral("ExportPanel_resumeBar"));
+    bar->setStyleSheet(QStringLiteral("#ExportPanel_resumeBar { background-color: %1; border: 1px solid %2; "
+                                      "border-radius: 8px; }")
+                           .arg(KxUIStyle::Colour(KxUIStyle::Role::Surface).name(),
+                                KxUIStyle::Colour(KxUIStyle::Role::Edited).name()));
+    m_interrupted = KxLabel::CreateLabel(bar, QString());
+    m_interrupted->setObjectName(QStringLiteral("ExportPanel_interrupted"));
+    m_interrupted->setWordWrap(true);
+    m_resume = new LinkButton(bar);
+    m_resume->setObjectName(QStringLiteral("ExportPanel_resume"));
+    m_discard = new LinkButton(bar);
+    m_discard->setObjectName(QStringLiteral("ExportPanel_discard"));
+    auto* const row = new QHBoxLayout(bar);
+    row->setContentsMargins(12, 8, 12, 8);
+    row->setSpacing(12);
+    row->addWidget(m_interrupted, 1);
+    row->addWidget(m_resume);
+    row->addWidget(m_discard);
+    return bar;
 }
 
 void ExportPanel::RetranslateUi()
 {
     m_heading->setText(tr("Exports"));
     m_clear->setText(tr("Clear finished"));
+    m_resume->setText(tr("Resume"));
+    m_discard->setText(tr("Discard"));
+    ShowHints();
     m_hint->setText(tr("Videos that you export from the Auto Reframe window appear here."));
 }
 
@@ -132,4 +168,7 @@ void ExportPanel::ShowHints()
 {
     m_hint->setVisible(m_cards.isEmpty());
     m_clear->setVisible(m_queue.FinishedCount() > 0);
+    const int interrupted = m_queue.InterruptedCount();
+    m_resumeBar->setVisible(interrupted > 0);
+    m_interrupted->setText(tr("%n exports were not finished.", nullptr, interrupted));
 }

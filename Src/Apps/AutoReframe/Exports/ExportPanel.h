@@ -31,10 +31,15 @@ private:
     void UpdateCard(int id);
     void RemoveCard(int id);
     void ShowHints();
+    QWidget* MakeResumeBar();
 
     ExportQueue& m_queue;
     KxLabel* m_heading = nullptr;
     LinkButton* m_clear = nullptr;
+    QWidget* m_resumeBar = nullptr;
+    KxLabel* m_interrupted = nullptr;
+    LinkButton* m_resume = nullptr;
+    LinkButton* m_discard = nullptr;
     KxLabel* m_hint = nullptr;
     QVBoxLayout* m_column = nullptr;
     QMap<int, ExportCard*> m_cards;

@@ -48,6 +48,15 @@ int ExportQueue::Add(const ExportRequest& request)
     return item.id;
 }
 
+int ExportQueue::Restore(ExportItem item)
+{
+    Q_ASSERT(!item.IsActive());
+    item.id = ++m_lastId;
+    m_items.push_back(item);
+    Q_EMIT sigAdded(item.id);
+    return item.id;
+}
+
 void ExportQueue::Cancel(int id)
 {
     ExportItem* const item = Item(id);
@@ -77,7 +86,7 @@ void ExportQueue::Retry(int id)
 {
     const auto found =
         std::find_if(m_items.begin(), m_items.end(), [id](const ExportItem& item) { return item.id == id; });
-    if (found == m_items.end() || (found->state != State::Failed && found->state != State::Cancelled)) {
+    if (found == m_items.end() || found->IsActive() || found->state == State::Done) {
         return;
     }
     found->state = State::Waiting;
@@ -94,7 +103,7 @@ void ExportQueue::Retry(int id)
 void ExportQueue::Remove(int id)
 {
     const ExportItem* const item = Find(id);
-    if (item == nullptr || !item->IsFinished()) {
+    if (item == nullptr || item->IsActive()) {
         return;
     }
     m_items.erase(m_items.begin() + (item - m_items.data()));
@@ -112,6 +121,36 @@ void ExportQueue::RemoveFinished()
     for (const int id : finished) {
         Remove(id);
     }
+}
+
+std::vector<int> ExportQueue::Interrupted() const
+{
+    std::vector<int> ids;
+    for (const ExportItem& item : m_items) {
+        if (item.state == State::Interrupted) {
+            ids.push_back(item.id);
+        }
+    }
+    return ids;
+}
+
+void ExportQueue::ResumeInterrupted()
+{
+    for (const int id : Interrupted()) {
+        Retry(id);
+    }
+}
+
+void ExportQueue::DiscardInterrupted()
+{
+    for (const int id : Interrupted()) {
+        Remove(id);
+    }
+}
+
+int ExportQueue::InterruptedCount() const
+{
+    return static_cast<int>(Interrupted().size());
 }
 
 const ExportItem* ExportQueue::Find(int id) const
@@ -134,7 +173,8 @@ int ExportQueue::FinishedCount() const
 
 int ExportQueue::UnfinishedCount() const
 {
-    return static_cast<int>(m_items.size()) - FinishedCount();
+    return static_cast<int>(
+        std::count_if(m_items.begin(), m_items.end(), [](const ExportItem& item) { return item.IsActive(); }));
 }
 
 void ExportQueue::StartNext()

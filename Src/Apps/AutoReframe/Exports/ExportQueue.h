@@ -9,7 +9,15 @@
 
 /// The state of one export of the queue.
 struct ExportItem {
-    enum class State { Waiting, Running, Cancelling, Done, Failed, Cancelled };
+    enum class State {
+        Waiting,
+        Running,
+        Cancelling,
+        Done,
+        Failed,
+        Cancelled,
+        Interrupted, ///< of an earlier run, which ended before the export did
+    };
 
     int id = 0;
     State state = State::Waiting;
@@ -22,6 +30,7 @@ struct ExportItem {
     QString message;      ///< why it failed, or a warning about the written file
 
     bool IsFinished() const { return state == State::Done || state == State::Failed || state == State::Cancelled; }
+    bool IsActive() const { return !IsFinished() && state != State::Interrupted; }
 };
 
 /// The exports: one is rendered at a time, the others wait in the order in which they were added. User-interface
@@ -45,20 +54,25 @@ public:
 
     /// Returns the export's number.
     int Add(const ExportRequest& request);
+    /// Adds an export of an earlier run, which is not active. Its number is ignored; returns the new one.
+    int Restore(ExportItem item);
     /// A waiting export is cancelled at once, a running one as soon as its thread sees the cancel mark.
     void Cancel(int id);
     void CancelAll();
-    /// A failed or cancelled export goes to the end of the queue.
+    /// A failed, cancelled or interrupted export goes to the end of the queue.
     void Retry(int id);
-    /// Removes a finished export from the list; its file stays.
+    /// Removes an export that is not active from the list; its file stays.
     void Remove(int id);
     void RemoveFinished();
+    void ResumeInterrupted();
+    void DiscardInterrupted();
 
     /// Null for an unknown number. Valid until the next change.
     const ExportItem* Find(int id) const;
     /// Running or waiting.
     int UnfinishedCount() const;
     int FinishedCount() const;
+    int InterruptedCount() const;
 
 Q_SIGNALS:
     void sigAdded(int id);
@@ -74,6 +88,7 @@ private:
     };
 
     ExportItem* Item(int id);
+    std::vector<int> Interrupted() const;
     void StartNext();
     void Start(ExportItem& item);
     void HandleProgress(int id, const std::shared_ptr<Mailbox>& mailbox);

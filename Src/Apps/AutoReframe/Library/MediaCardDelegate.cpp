@@ -27,6 +27,14 @@ QFont Small(QFont font)
     return font;
 }
 
+void PaintIcon(QPainter& painter, const QRect& area, const QString& name, QIcon::Mode mode)
+{
+    constexpr int iconPx = 32;
+    QRect icon(0, 0, iconPx, iconPx);
+    icon.moveCenter(area.center());
+    KxUIStyle::Icon(name).paint(&painter, icon, Qt::AlignCenter, mode);
+}
+
 QPainterPath Rounded(const QRectF& rect)
 {
     QPainterPath path;
@@ -121,11 +129,15 @@ void MediaCardDelegate::PaintPicture(QPainter& painter, const QRect& picture, co
     const QRectF rounded = QRectF(picture).adjusted(0.0, 0.0, 0.0, 2.0 * RadiusPx);
     painter.fillPath(Rounded(rounded), KxUIStyle::Colour(Role::Picture));
     const auto thumbnail = index.data(MediaLibraryModel::ThumbnailRole).value<QPixmap>();
+    const bool isMissing = index.data(MediaLibraryModel::IsMissingRole).toBool();
+    if (isMissing) {
+        constexpr qreal missingOpacity = 0.3;
+        painter.setOpacity(missingOpacity);
+    }
     if (thumbnail.isNull()) {
-        constexpr int iconPx = 32;
-        QRect icon(0, 0, iconPx, iconPx);
-        icon.moveCenter(picture.center());
-        KxUIStyle::Icon(QStringLiteral("film")).paint(&painter, icon, Qt::AlignCenter, QIcon::Disabled);
+        if (!isMissing) {
+            PaintIcon(painter, picture, QStringLiteral("film"), QIcon::Disabled);
+        }
     } else {
         QSizeF size = QSizeF(thumbnail.size()).scaled(picture.size(), Qt::KeepAspectRatio);
         // A line of one background pixel beside the picture would look like a defect.
@@ -143,6 +155,9 @@ void MediaCardDelegate::PaintPicture(QPainter& painter, const QRect& picture, co
         painter.fillPath(shape.intersected(part), brush);
     }
     painter.restore();
+    if (isMissing) {
+        PaintIcon(painter, picture, QStringLiteral("warning"), QIcon::Normal);
+    }
     PaintLength(painter, picture, index.data(MediaLibraryModel::LengthRole).toString());
 }
 
@@ -179,7 +194,8 @@ void MediaCardDelegate::PaintTexts(QPainter& painter, const QRect& card, const Q
     painter.drawText(left, picture + NameBaselineFromPicturePx,
                      painter.fontMetrics().elidedText(index.data().toString(), Qt::ElideRight, room));
     painter.setFont(Small(font));
-    painter.setPen(KxUIStyle::Colour(Role::Muted));
+    const bool isMissing = index.data(MediaLibraryModel::IsMissingRole).toBool();
+    painter.setPen(KxUIStyle::Colour(isMissing ? Role::Error : Role::Muted));
     painter.drawText(
         left, picture + DetailsBaselineFromPicturePx,
         painter.fontMetrics().elidedText(index.data(MediaLibraryModel::DetailsRole).toString(), Qt::ElideRight, room));

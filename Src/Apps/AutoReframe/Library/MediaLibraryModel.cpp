@@ -13,6 +13,9 @@
 namespace
 {
 
+/// Enough for some screens full of cards on a dense screen.
+constexpr int ThumbnailsKb = 64 * 1024;
+
 /// Equal for two paths of one file. For a missing file, its absolute path.
 QString Identity(const QString& path)
 {
@@ -24,6 +27,7 @@ QString Identity(const QString& path)
 
 MediaLibraryModel::MediaLibraryModel(QObject* parent)
     : QAbstractListModel(parent)
+    , m_thumbnails(ThumbnailsKb)
 {
 }
 
@@ -34,23 +38,65 @@ int MediaLibraryModel::Add(const QString& path)
     const int row = Count();
     // The drop place appears with the first video.
     beginInsertRows(QModelIndex(), row, m_entries.empty() ? 1 : row);
-    m_entries.push_back({++m_lastId, path, std::nullopt, QPixmap()});
+    MediaFile media;
+    media.path = path;
+    m_entries.push_back({++m_lastId, State::Opening, Identity(path), media});
     endInsertRows();
     return m_lastId;
+}
+
+QList<int> MediaLibraryModel::AddStored(const QList<MediaFile>& videos)
+{
+    QList<int> ids;
+    if (videos.isEmpty()) {
+        return ids;
+    }
+    const int row = Count();
+    beginInsertRows(QModelIndex(), row, row + videos.size() - (m_entries.empty() ? 0 : 1));
+    for (const MediaFile& media : videos) {
+        m_entries.push_back({++m_lastId, State::Stored, media.path, media});
+        ids += m_lastId;
+    }
+    endInsertRows();
+    return ids;
 }
 
 void MediaLibraryModel::SetMedia(int id, const MediaFile& media)
 {
     if (Entry* const entry = EntryOf(id)) {
+        const QString path = entry->media.path;
         entry->media = media;
+        entry->media.path = path;
+        entry->state = State::Open;
+        NotifyChanged(id);
+    }
+}
+
+void MediaLibraryModel::SetMissing(int id, bool isMissing)
+{
+    Entry* const entry = EntryOf(id);
+    if (entry != nullptr && entry->state == (isMissing ? State::Stored : State::Missing)) {
+        entry->state = isMissing ? State::Missing : State::Stored;
+        NotifyChanged(id);
+    }
+}
+
+void MediaLibraryModel::SetPath(int id, const QString& path)
+{
+    if (Entry* const entry = EntryOf(id)) {
+        entry->media.path = path;
+        entry->identity = Identity(path);
+        entry->state = entry->state == State::Missing ? State::Stored : entry->state;
         NotifyChanged(id);
     }
 }
 
 void MediaLibraryModel::SetThumbnail(int id, const QPixmap& thumbnail)
 {
-    if (Entry* const entry = EntryOf(id)) {
-        entry->thumbnail = thumbnail;
+    m_wanted.remove(id);
+    if (EntryOf(id) != nullptr) {
+        const int kilobytes = 1 + thumbnail.width() * thumbnail.height() * thumbnail.depth() / 8 / 1024;
+        m_thumbnails.insert(id, new QPixmap(thumbnail), kilobytes);
         NotifyChanged(id);
     }
 }
@@ -64,6 +110,8 @@ void MediaLibraryModel::Remove(int id)
     const int row = index.row();
     beginRemoveRows(QModelIndex(), row, Count() == 1 ? 1 : row);
     m_entries.erase(m_entries.begin() + row);
+    m_thumbnails.remove(id);
+    m_wanted.remove(id);
     endRemoveRows();
 }
 
@@ -89,9 +137,11 @@ QModelIndex MediaLibraryModel::IndexOf(int id) const
 
 QModelIndex MediaLibraryModel::IndexOfPath(const QString& path) const
 {
-    const QString wanted = Identity(path);
+    const QString absolute = QFileInfo(path).absoluteFilePath();
+    const QString identity = Identity(path);
     for (int row = 0; row < Count(); ++row) {
-        if (Identity(m_entries[static_cast<size_t>(row)].path) == wanted) {
+        const Entry& entry = m_entries[static_cast<size_t>(row)];
+        if (entry.identity == identity || entry.media.path == absolute) {
             return index(row);
         }
     }
@@ -107,13 +157,25 @@ int MediaLibraryModel::IdAt(const QModelIndex& index) const
 QString MediaLibraryModel::PathAt(const QModelIndex& index) const
 {
     const Entry* const entry = EntryAt(index);
-    return entry != nullptr ? entry->path : QString();
+    return entry != nullptr ? entry->media.path : QString();
 }
 
 std::optional<MediaFile> MediaLibraryModel::MediaAt(const QModelIndex& index) const
 {
     const Entry* const entry = EntryAt(index);
-    return entry != nullptr ? entry->media : std::nullopt;
+    return entry != nullptr && entry->state == State::Open ? std::optional<MediaFile>(entry->media) : std::nullopt;
+}
+
+MediaFile MediaLibraryModel::FactsAt(const QModelIndex& index) const
+{
+    const Entry* const entry = EntryAt(index);
+    return entry != nullptr ? entry->media : MediaFile();
+}
+
+MediaLibraryModel::State MediaLibraryModel::StateAt(const QModelIndex& index) const
+{
+    const Entry* const entry = EntryAt(index);
+    return entry != nullptr ? entry->state : State::Opening;
 }
 
 int MediaLibraryModel::rowCount(const QModelIndex& parent) const
@@ -137,19 +199,51 @@ QVariant MediaLibraryModel::EntryData(const Entry& entry, int role) const
 {
     switch (role) {
     case Qt::DisplayRole:
-        return QFileInfo(entry.path).fileName();
+        return QFileInfo(entry.media.path).fileName();
     case Qt::ToolTipRole:
-        return KxToolTipHelper::AsPlainText(QDir::toNativeSeparators(entry.path));
+        return KxToolTipHelper::AsPlainText(
+            entry.state == State::Missing
+                ? tr("%1 was not found. Right-click to find it.").arg(QDir::toNativeSeparators(entry.media.path))
+                : QDir::toNativeSeparators(entry.media.path));
     case Qt::AccessibleDescriptionRole:
     case DetailsRole:
-        return entry.media ? MediaText::Details(entry.media->resolution, entry.media->frameRate) : tr("Opening…");
+        return DetailsOf(entry);
     case LengthRole:
-        return entry.media ? KxFrameTime::LengthText(entry.media->frameCount, entry.media->frameRate) : QString();
+        return entry.media.frameCount > 0 ? KxFrameTime::LengthText(entry.media.frameCount, entry.media.frameRate)
+                                          : QString();
     case ThumbnailRole:
-        return entry.thumbnail;
+        return ThumbnailOf(entry);
+    case IsMissingRole:
+        return entry.state == State::Missing;
     default:
         return {};
     }
+}
+
+QString MediaLibraryModel::DetailsOf(const Entry& entry)
+{
+    switch (entry.state) {
+    case State::Opening:
+        return tr("Opening…");
+    case State::Missing:
+        return tr("File not found");
+    case State::Stored:
+    case State::Open:
+        return MediaText::Details(entry.media.resolution, entry.media.frameRate);
+    }
+    return {};
+}
+
+QPixmap MediaLibraryModel::ThumbnailOf(const Entry& entry) const
+{
+    if (const QPixmap* const thumbnail = m_thumbnails.object(entry.id)) {
+        return *thumbnail;
+    }
+    if (entry.state != State::Opening && !m_wanted.contains(entry.id)) {
+        m_wanted.insert(entry.id);
+        Q_EMIT sigThumbnailWanted(entry.id);
+    }
+    return {};
 }
 
 Qt::ItemFlags MediaLibraryModel::flags(const QModelIndex& index) const

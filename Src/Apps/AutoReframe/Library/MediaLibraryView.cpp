@@ -63,6 +63,12 @@ void MediaLibraryView::SetDropActive(bool isActive)
     }
 }
 
+void MediaLibraryView::SetLoading(bool isLoading)
+{
+    m_isLoading = isLoading;
+    viewport()->update();
+}
+
 QModelIndexList MediaLibraryView::SelectedVideos() const
 {
     QModelIndexList videos = selectedIndexes();
@@ -85,7 +91,11 @@ void MediaLibraryView::contextMenuEvent(QContextMenuEvent* event)
     QMenu menu(this);
     menu.setObjectName(QStringLiteral("MediaLibraryMenu"));
     if (m_model.IdAt(index) >= 0) {
-        menu.addAction(tr("Auto Reframe…"), this, &MediaLibraryView::sigReframe);
+        if (m_model.StateAt(index) == MediaLibraryModel::State::Missing) {
+            menu.addAction(tr("Find File…"), this, [this, index] { Q_EMIT sigFindFile(index); });
+        } else {
+            menu.addAction(tr("Auto Reframe…"), this, &MediaLibraryView::sigReframe);
+        }
         menu.addAction(tr("Show in folder"), this, [this, index] { Q_EMIT sigShowInFolder(index); });
         menu.addSeparator();
         menu.addAction(tr("Remove from library"), this, &MediaLibraryView::sigRemove)->setShortcut(Qt::Key_Delete);
@@ -118,7 +128,7 @@ void MediaLibraryView::keyPressEvent(QKeyEvent* event)
 bool MediaLibraryView::InvitesImport(const QPoint& position) const
 {
     if (m_model.Count() == 0) {
-        return EmptyFrame().contains(position);
+        return !m_isLoading && EmptyFrame().contains(position);
     }
     const QModelIndex index = indexAt(position);
     return m_model.IsDropPlace(index) && MediaCardDelegate::CardRect(visualRect(index)).contains(position);
@@ -151,7 +161,7 @@ QRect MediaLibraryView::EmptyFrame() const
 void MediaLibraryView::paintEvent(QPaintEvent* event)
 {
     QListView::paintEvent(event);
-    if (m_model.Count() > 0) {
+    if (m_model.Count() > 0 || m_isLoading) {
         return;
     }
     QPainter painter(viewport());

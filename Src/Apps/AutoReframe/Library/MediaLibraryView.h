@@ -16,6 +16,8 @@ public:
 
     /// Whether files that can be dropped are being dragged over the window.
     void SetDropActive(bool isActive);
+    /// While the videos of the last run are read, an empty library invites nobody to fill it.
+    void SetLoading(bool isLoading);
     /// In the order of the library.
     QModelIndexList SelectedVideos() const;
 
@@ -27,6 +29,8 @@ Q_SIGNALS:
     void sigRemove();
     void sigReframe();
     void sigShowInFolder(const QModelIndex& index);
+    /// The file of a video is missing, and the person wants to find it.
+    void sigFindFile(const QModelIndex& index);
 
 protected:
     void changeEvent(QEvent* event) override;
@@ -48,4 +52,5 @@ private:
     MediaLibraryModel& m_model;
     MediaCardDelegate* const m_delegate;
     bool m_isDropActive = false;
+    bool m_isLoading = false;
 };

@@ -28,6 +28,8 @@ public:
 
     /// Starts to open the file; only the first call has an effect. sigOpened follows, for an empty path at once.
     void Open();
+    /// Whether anything is saved.
+    bool IsFile() const { return !m_filePath.isEmpty(); }
     bool IsOpen() const { return m_isOpen; }
 
     void SaveVideo(const StoredVideo& video);

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <Apps/AutoReframe/Exports/ExportQueue.h>
+#include <Apps/AutoReframe/Store/LibraryContents.h>
+
+#include <QHash>
+
+class LibraryStore;
+
+/// Saves the export queue in the library's file and restores it. User-interface thread.
+class ExportKeeper : public QObject
+{
+    Q_OBJECT
+public:
+    /// Both are borrowed. Restores the queue when the store is open.
+    ExportKeeper(ExportQueue& queue, LibraryStore& store, QObject* parent);
+    ~ExportKeeper() override;
+
+    /// What happens to the queue from now on is the end of the program, not the person's wish: unfinished exports are
+    /// offered at the next start.
+    void StopSaving();
+
+private:
+    void Restore(const StoredContents& contents);
+    void SaveNew(int id);
+    void SaveChange(int id);
+    void SaveRemoval(int id);
+    StoredExport ToStored(int id) const;
+
+    ExportQueue& m_queue;
+    LibraryStore& m_store;
+    /// By the queue's number.
+    QHash<int, qint64> m_keys;
+    QHash<int, ExportItem::State> m_savedStates;
+    bool m_isRestoring = false;
+    bool m_saves = true;
+};
