@@ -7,6 +7,7 @@
 #include <Apps/AutoReframe/Backend/MediaBackendLoader.h>
 #include <Apps/AutoReframe/Exports/ExportQueue.h>
 #include <Apps/AutoReframe/MainWindow.h>
+#include <Apps/AutoReframe/Store/LibraryStore.h>
 #include <KxCore/KxMemory.h>
 
 #include <KxWidgets/KxUIStyle.h>
@@ -332,7 +333,8 @@ int main(int argc, char** argv)
     KxUIStyle::Apply(application);
     MediaBackendLoader backend([] { return std::shared_ptr<MediaBackend>(std::make_shared<HostMediaBackend>()); },
                                nullptr);
-    MainWindow window(backend);
+    LibraryStore store(QString(), nullptr);
+    MainWindow window(backend, store);
     window.show();
     std::thread thread([&] {
         int status = 0;

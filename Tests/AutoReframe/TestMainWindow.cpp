@@ -2,6 +2,7 @@
 #include <Apps/AutoReframe/Exports/ExportQueue.h>
 #include <Apps/AutoReframe/Library/MediaLibraryView.h>
 #include <Apps/AutoReframe/MainWindow.h>
+#include <Apps/AutoReframe/Store/LibraryStore.h>
 #include <Tests/AutoReframe/Backend/FakeMediaBackend.h>
 
 #include <KxWidgets/Windows/KxFileResponder.h>
@@ -50,7 +51,7 @@ protected:
             m_boxes += shown.text;
             return m_answer;
         });
-        m_window = std::make_unique<MainWindow>(m_loader);
+        m_window = std::make_unique<MainWindow>(m_loader, m_store);
         QDesktopServices::setUrlHandler(QStringLiteral("file"), &m_fileManager, "Show");
         m_window->show();
     }
@@ -125,6 +126,8 @@ protected:
     QTemporaryDir m_folder;
     std::shared_ptr<FakeMediaBackend> m_backend = std::make_shared<FakeMediaBackend>();
     MediaBackendLoader m_loader{[this] { return KxResult<std::shared_ptr<MediaBackend>>(m_backend); }, nullptr};
+    /// Saves nothing.
+    LibraryStore m_store{QString(), nullptr};
     QStringList m_boxes;
     bool m_answer = false;
     FileManager m_fileManager;
@@ -413,7 +416,7 @@ TEST_F(TestMainWindow, AnAbsurdConfigurationDoesNotEndTheProgram)
         config.write(QByteArray("[Main%20Window]\nGeometry=") + value + "\n");
         config.close();
         qputenv("KX_CONFIG_FILE", config.fileName().toLocal8Bit());
-        const MainWindow window(m_loader);
+        const MainWindow window(m_loader, m_store);
         EXPECT_EQ(window.size(), m_window->size()) << value;
     }
 }
@@ -429,7 +432,7 @@ TEST_F(TestMainWindow, AbsurdSavedGeometryIsIgnored)
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
         file.write(content);
         file.close();
-        const MainWindow window(m_loader);
+        const MainWindow window(m_loader, m_store);
         EXPECT_TRUE(window.screen()->availableGeometry().contains(window.geometry())) << content.toHex().toStdString();
     }
 }
@@ -437,7 +440,7 @@ TEST_F(TestMainWindow, AbsurdSavedGeometryIsIgnored)
 TEST_F(TestMainWindow, AFifoInPlaceOfTheSavedGeometryDoesNotBlockTheStart)
 {
     ASSERT_EQ(QProcess::execute(QStringLiteral("mkfifo"), {m_folder.filePath(QStringLiteral("config.window"))}), 0);
-    const MainWindow window(m_loader);
+    const MainWindow window(m_loader, m_store);
     EXPECT_EQ(window.size(), m_window->size());
 }
 
@@ -445,7 +448,7 @@ TEST_F(TestMainWindow, ItsSizeIsRemembered)
 {
     m_window->resize(730, 500);
     ASSERT_TRUE(m_window->close());
-    MainWindow again(m_loader);
+    MainWindow again(m_loader, m_store);
     EXPECT_EQ(again.size(), QSize(730, 500));
 }
 
@@ -456,7 +459,8 @@ TEST_F(TestMainWindow, ReportsABackendThatCannotBeLoaded)
             return KxResult<std::shared_ptr<MediaBackend>>::Failure(QStringLiteral("Cannot load the video engine."));
         },
         nullptr);
-    MainWindow window(broken);
+    LibraryStore store(QString(), nullptr);
+    MainWindow window(broken, store);
     window.Open({m_folder.filePath(QStringLiteral("a.mp4"))});
     ASSERT_TRUE(QTest::qWaitFor([&] { return !m_boxes.isEmpty(); }, 10000));
     EXPECT_EQ(m_boxes, QStringList(QStringLiteral("Cannot load the video engine.")));

@@ -1,8 +1,8 @@
 #include <Apps/AutoReframe/AutoReframeProgram.h>
 
 #include <Apps/AutoReframe/Backend/MediaBackendLoader.h>
-#include <Apps/AutoReframe/Exports/ExportQueue.h>
 #include <Apps/AutoReframe/MainWindow.h>
+#include <Apps/AutoReframe/Store/LibraryStore.h>
 #include <KxCore/KxInterrupt.h>
 
 #include <KxWidgets/KxUIStyle.h>
@@ -23,7 +23,7 @@ void EndWhenInterrupted(QTimer& timer, MainWindow& window)
     QObject::connect(&timer, &QTimer::timeout, &window, [&timer, &window] {
         if (KxInterrupt::IsRequested()) {
             timer.stop();
-            window.Exports().CancelAll();
+            window.Interrupt();
             QCoreApplication::exit(Interrupted);
         }
     });
@@ -37,9 +37,11 @@ int AutoReframeProgram::Run(QApplication& application, const AutoReframeOptions&
     KxUIStyle::Apply(application);
     KxUIStyle::InstallTranslation(application);
     MediaBackendLoader backend(&MediaBackendLoader::LoadLibrary, nullptr);
-    MainWindow window(backend);
-    QObject::connect(&window, &MainWindow::sigPainted, &backend, [&backend] {
+    LibraryStore store(LibraryStore::ChooseFile(), nullptr);
+    MainWindow window(backend, store);
+    QObject::connect(&window, &MainWindow::sigPainted, &backend, [&backend, &store] {
         QApplication::setWindowIcon(QIcon(QStringLiteral(":/AutoReframe/auto-reframe.svg")));
+        store.Open();
         backend.Start();
     });
     window.show();

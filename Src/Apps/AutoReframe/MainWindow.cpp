@@ -1,22 +1,27 @@
 #include <Apps/AutoReframe/MainWindow.h>
 
 #include <Apps/AutoReframe/Backend/MediaBackendLoader.h>
+#include <Apps/AutoReframe/Exports/ExportKeeper.h>
 #include <Apps/AutoReframe/Exports/ExportPanel.h>
 #include <Apps/AutoReframe/Exports/ExportQueue.h>
 #include <Apps/AutoReframe/Library/MediaLibrary.h>
 #include <Apps/AutoReframe/Library/MediaLibraryView.h>
+#include <Apps/AutoReframe/Store/LibraryStore.h>
 #include <Apps/AutoReframe/WindowMemory.h>
 
 #include <KxWidgets/KrMessageDialog.h>
 #include <KxWidgets/KxLabel.h>
 #include <KxWidgets/KxPushButton.h>
+#include <KxWidgets/KxToolButton.h>
 #include <KxWidgets/KxUIStyle.h>
 
 #include <QCloseEvent>
 #include <QDesktopServices>
 #include <QFileInfo>
 #include <QHBoxLayout>
+#include <QScrollBar>
 #include <QShortcut>
+#include <QTimer>
 #include <QUrl>
 #include <QVariant>
 
@@ -35,6 +40,17 @@ void ShowFolder(const QString& filePath)
     QDesktopServices::openUrl(QUrl::fromLocalFile(QFileInfo(filePath).absolutePath()));
 }
 
+std::unique_ptr<RenderTask> Render(MediaBackendLoader& loader, const ExportRequest& request,
+                                   const KxRenderJob::Callbacks& callbacks)
+{
+    MediaBackend* const backend = loader.Get();
+    if (backend == nullptr) {
+        callbacks.finished({KxOutcome::Failed, loader.Error(), QString(), QString()});
+        return nullptr;
+    }
+    return backend->Render(request, callbacks);
+}
+
 /// A bar with a line along one of its sides.
 KxWidget* MakeBar(const QString& name, const QString& lineSide, int heightPx, QWidget* parent)
 {
@@ -49,14 +65,17 @@ KxWidget* MakeBar(const QString& name, const QString& lineSide, int heightPx, QW
 
 } // namespace
 
-MainWindow::MainWindow(MediaBackendLoader& backend)
+MainWindow::MainWindow(MediaBackendLoader& backend, LibraryStore& store)
     : m_backend(backend)
+    , m_store(store)
     , m_exports(new ExportQueue(
           [&backend](const ExportRequest& request, const KxRenderJob::Callbacks& callbacks) {
-              return backend.Get()->Render(request, callbacks);
+              return Render(backend, request, callbacks);
           },
           this))
-    , m_library(new MediaLibrary(backend, this))
+    , m_keeper(new ExportKeeper(*m_exports, store, this))
+    , m_library(new MediaLibrary(backend, store, this))
+    , m_saving(new QTimer(this))
 {
     setObjectName(QStringLiteral("MainWindow"));
     setAcceptDrops(true);
@@ -69,10 +88,17 @@ MainWindow::MainWindow(MediaBackendLoader& backend)
         WindowMemory::ResizeToFit(*this, FirstSizePx);
     }
     m_view->setFocus();
+    if (m_store.IsFile()) {
+        m_view->SetLoading(true);
+        m_status->clear();
+    } else {
+        m_store.Open();
+    }
 }
 
 MainWindow::~MainWindow()
 {
+    delete m_keeper;
     // Both use the backend, which may be destroyed next.
     delete m_exports;
     delete m_library;
@@ -101,6 +127,9 @@ QWidget* MainWindow::MakeTopBar()
     m_title = KxLabel::CreateLabel(bar, QString());
     m_title->setObjectName(QStringLiteral("TopBar_title"));
     m_title->setProperty("textRole", QStringLiteral("heading"));
+    m_menu = KxToolButton::CreateToolButton(bar, QStringLiteral("TopBar_menu"));
+    m_menu->SetGlyph(QStringLiteral("list"));
+    m_menu->setFixedSize(ButtonPx, ButtonPx);
     m_import = KxPushButton::CreateSecondaryButton(bar, ButtonPx);
     m_import->setObjectName(QStringLiteral("TopBar_import"));
     m_reframe = KxPushButton::CreatePrimaryButton(bar, ButtonPx);
@@ -109,6 +138,7 @@ QWidget* MainWindow::MakeTopBar()
     row->setContentsMargins(MarginPx, 0, MarginPx, 0);
     row->setSpacing(8);
     row->addWidget(m_title, 1);
+    row->addWidget(m_menu);
     row->addWidget(m_import);
     row->addWidget(m_reframe);
     return bar;
@@ -128,25 +158,39 @@ QWidget* MainWindow::MakeStatusBar()
 
 void MainWindow::ConnectSignals()
 {
+    connect(m_menu, &QAbstractButton::clicked, this, &MainWindow::ShowMenu);
     connect(m_import, &QAbstractButton::clicked, this, &MainWindow::ChooseFiles);
     connect(m_reframe, &QAbstractButton::clicked, this, &MainWindow::ReframeSelected);
     connect(new QShortcut(QKeySequence::Open, this), &QShortcut::activated, this, &MainWindow::ChooseFiles);
     connect(new QShortcut(Qt::CTRL + Qt::Key_Q, this), &QShortcut::activated, this, &QWidget::close);
     connect(m_panel, &ExportPanel::sigShowInFolder, this, &ShowFolder);
+    connect(&m_store, &LibraryStore::sigNotice, this, &MainWindow::Inform);
+    constexpr int savesAfterMs = 300;
+    m_saving->setSingleShot(true);
+    m_saving->setInterval(savesAfterMs);
+    connect(m_saving, &QTimer::timeout, this, &MainWindow::SaveView);
+    connect(m_view->verticalScrollBar(), &QAbstractSlider::valueChanged, this, &MainWindow::ScheduleSaving);
 }
 
 void MainWindow::ConnectLibrary()
 {
     connect(m_view, &MediaLibraryView::sigSelectionChanged, this, &MainWindow::ShowState);
-    connect(m_view, &MediaLibraryView::sigActivated, this, [this](const QModelIndex& video) { Reframe({video}); });
-    connect(m_view, &QAbstractItemView::doubleClicked, this, [this](const QModelIndex& video) { Reframe({video}); });
+    connect(m_view, &MediaLibraryView::sigSelectionChanged, this, &MainWindow::ScheduleSaving);
+    connect(m_view, &MediaLibraryView::sigActivated, this, &MainWindow::Activate);
+    connect(m_view, &QAbstractItemView::doubleClicked, this, &MainWindow::Activate);
+    connect(m_view, &MediaLibraryView::sigFindFile, this, &MainWindow::FindFile);
     connect(m_view, &MediaLibraryView::sigImport, this, &MainWindow::ChooseFiles);
     connect(m_view, &MediaLibraryView::sigRemove, this, &MainWindow::RemoveSelected);
     connect(m_view, &MediaLibraryView::sigReframe, this, &MainWindow::ReframeSelected);
     connect(m_view, &MediaLibraryView::sigShowInFolder, this,
             [this](const QModelIndex& video) { ShowFolder(m_library->Model().PathAt(video)); });
     connect(m_library, &MediaLibrary::sigImported, this, &MainWindow::SelectImported);
+    connect(m_library, &MediaLibrary::sigRestored, this, &MainWindow::Restore);
     connect(m_library, &MediaLibrary::sigOpened, this, &MainWindow::ShowState);
+    connect(m_library, &MediaLibrary::sigOpened, this, &MainWindow::ReframeNext);
+    connect(m_library, &MediaLibrary::sigCannotOpen, this, [this] { m_toReframe.clear(); });
+    connect(m_library, &MediaLibrary::sigOtherFile, this, &MainWindow::AskForOtherFile);
+    connect(&m_library->Model(), &QAbstractItemModel::dataChanged, this, &MainWindow::ShowState);
     connect(m_library, &MediaLibrary::sigRefused, this, &MainWindow::ReportRefused);
     connect(&m_library->Model(), &QAbstractItemModel::rowsInserted, this, &MainWindow::ShowState);
     connect(&m_library->Model(), &QAbstractItemModel::rowsRemoved, this, &MainWindow::ShowState);
@@ -156,6 +200,7 @@ void MainWindow::RetranslateUi()
 {
     setWindowTitle(tr("Auto Reframe"));
     m_title->setText(tr("Auto Reframe"));
+    m_menu->setToolTip(tr("Menu"));
     m_import->setText(tr("Import…"));
     m_reframe->setText(tr("Auto Reframe…"));
     ShowState();
@@ -169,7 +214,9 @@ void MainWindow::ShowState()
                                   : QStringLiteral("%1 · %2").arg(tr("%n videos", nullptr, videos),
                                                                   tr("%n selected", nullptr, selected.size())));
     const bool canReframe = std::any_of(selected.begin(), selected.end(), [this](const QModelIndex& video) {
-        return m_library->Model().MediaAt(video).has_value();
+        using State = MediaLibraryModel::State;
+        const State state = m_library->Model().StateAt(video);
+        return state == State::Open || state == State::Stored;
     });
     m_reframe->setEnabled(canReframe);
 }
@@ -189,6 +236,56 @@ ExportQueue& MainWindow::Exports()
     return *m_exports;
 }
 
+void MainWindow::Interrupt()
+{
+    m_keeper->StopSaving();
+    m_exports->CancelAll();
+}
+
+void MainWindow::Restore(const StoredContents& contents)
+{
+    m_view->SetLoading(false);
+    ShowState();
+    const QSet<QString> paths(contents.selection.begin(), contents.selection.end());
+    QItemSelection selection;
+    const MediaLibraryModel& model = m_library->Model();
+    for (int row = 0; row < model.Count() && !paths.isEmpty(); ++row) {
+        const QModelIndex video = model.index(row);
+        if (paths.contains(model.PathAt(video))) {
+            selection.select(video, video);
+        }
+    }
+    if (!selection.isEmpty()) {
+        m_view->selectionModel()->setCurrentIndex(selection.indexes().first(), QItemSelectionModel::NoUpdate);
+        m_view->selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+    }
+    // The scroll bar has no range before the cards have their places.
+    m_view->doItemsLayout();
+    m_view->verticalScrollBar()->setValue(contents.scrollPx);
+}
+
+void MainWindow::ScheduleSaving()
+{
+    if (!m_saving->isActive()) {
+        m_saving->start();
+    }
+}
+
+void MainWindow::SaveView()
+{
+    m_saving->stop();
+    // Before the last run's is restored there is nothing to save.
+    if (!m_store.IsOpen()) {
+        return;
+    }
+    QStringList paths;
+    for (const QModelIndex& video : m_view->SelectedVideos()) {
+        paths += m_library->Model().PathAt(video);
+    }
+    m_store.SaveSelection(paths);
+    m_store.SaveScroll(m_view->verticalScrollBar()->value());
+}
+
 bool MainWindow::MayQuit()
 {
     const int unfinished = m_exports->UnfinishedCount();
@@ -206,6 +303,7 @@ void MainWindow::closeEvent(QCloseEvent* event)
         return;
     }
     m_exports->CancelAll();
+    SaveView();
     WindowMemory::Save(*this);
     event->accept();
 }

@@ -6,26 +6,35 @@
 
 #include <QModelIndexList>
 
+class ExportKeeper;
 class ExportPanel;
 class ExportQueue;
 class KxLabel;
 class KxPushButton;
+class KxToolButton;
+class LibraryStore;
 class MediaLibrary;
 class MediaLibraryView;
 class MediaBackendLoader;
+class QMenu;
+class QTimer;
+struct StoredContents;
 
 /// The program's window: library, exports, status.
 class MainWindow : public KxWidgetView
 {
     Q_OBJECT
 public:
-    /// `backend` is borrowed.
-    explicit MainWindow(MediaBackendLoader& backend);
+    /// Both are borrowed. What the store holds is shown when it is open.
+    MainWindow(MediaBackendLoader& backend, LibraryStore& store);
     ~MainWindow() override;
 
     /// Imports files.
     void Open(const QStringList& paths);
     ExportQueue& Exports();
+    /// Prepares for the end of the program, which the person did not ask for in the window: running exports are
+    /// cancelled and offered at the next start.
+    void Interrupt();
 
 Q_SIGNALS:
     /// Once, after the first paint: what takes long to load is loaded from then on.
@@ -47,21 +56,38 @@ private:
     void ConnectLibrary();
 
     void ShowState();
+    void Restore(const StoredContents& contents);
+    /// Selection and scroll position are saved soon.
+    void ScheduleSaving();
+    void SaveView();
+    void ShowMenu();
+    void AddRecent(QMenu& menu);
     void ChooseFiles();
+    /// Empty if the person cancelled or the backend cannot be loaded, which is reported.
+    QStringList ChooseVideos(const QString& caption, const QString& folder);
     void SelectImported(const QModelIndexList& videos);
     void ReportRefused(const QStringList& messages);
     void RemoveSelected();
+    void Activate(const QModelIndex& video);
+    void FindFile(const QModelIndex& video);
+    void AskForOtherFile(int id, const QString& path);
     void ReframeSelected();
     void Reframe(const QModelIndexList& videos);
+    /// Shows the dialog for the videos that are left, one after the other; returns while one of them is being opened.
+    void ReframeNext();
+    void ShowDialog(const MediaFile& video);
     /// Asks the person before the dialog opens for the next one of `left` selected videos.
-    bool ContinuesWith(const MediaFile& video, int left);
+    bool ContinuesWith(const QString& path, int left);
     void Inform(const QString& text);
     bool MayQuit();
 
     MediaBackendLoader& m_backend;
+    LibraryStore& m_store;
     ExportQueue* const m_exports;
+    ExportKeeper* const m_keeper;
     MediaLibrary* const m_library;
     KxLabel* m_title = nullptr;
+    KxToolButton* m_menu = nullptr;
     KxPushButton* m_import = nullptr;
     KxPushButton* m_reframe = nullptr;
     MediaLibraryView* m_view = nullptr;
@@ -69,4 +95,7 @@ private:
     KxLabel* m_status = nullptr;
     bool m_isPainted = false;
     bool m_isReframing = false;
+    /// Numbers of the videos that the dialog is still to be shown for.
+    QList<int> m_toReframe;
+    QTimer* const m_saving;
 };

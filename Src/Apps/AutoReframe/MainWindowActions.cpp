@@ -8,10 +8,13 @@
 #include <KxCore/KxConfig.h>
 #include <KxWidgets/KrMessageDialog.h>
 #include <KxWidgets/KxFileDialog.h>
+#include <KxWidgets/KxToolButton.h>
 
 #include <QApplication>
+#include <QDir>
 #include <QDropEvent>
 #include <QFileInfo>
+#include <QMenu>
 #include <QMimeData>
 #include <QStandardPaths>
 #include <QUrl>
@@ -40,21 +43,52 @@ void MainWindow::Open(const QStringList& paths)
     m_library->Import(paths);
 }
 
-void MainWindow::ChooseFiles()
+QStringList MainWindow::ChooseVideos(const QString& caption, const QString& folder)
 {
     MediaBackend* const backend = m_backend.Get();
     if (backend == nullptr) {
         Inform(m_backend.Error());
-        return;
+        return {};
     }
-    const QString folder =
-        KxConfig::Instance().getDefaultImportDir(QStandardPaths::writableLocation(QStandardPaths::MoviesLocation));
-    const QStringList chosen = KxFileDialog::GetOpenFileNamesUnchecked(
-        this, tr("Import"), folder,
-        QStringLiteral("%1(%2;)").arg(tr("All supported files"), backend->ImportPatterns()));
+    return KxFileDialog::GetOpenFileNamesUnchecked(
+        this, caption, folder, QStringLiteral("%1(%2;)").arg(tr("All supported files"), backend->ImportPatterns()));
+}
+
+void MainWindow::ChooseFiles()
+{
+    const QStringList chosen = ChooseVideos(
+        tr("Import"),
+        KxConfig::Instance().getDefaultImportDir(QStandardPaths::writableLocation(QStandardPaths::MoviesLocation)));
     if (!chosen.isEmpty()) {
         KxConfig::Instance().setDefaultImportDir(QFileInfo(chosen.first()).absolutePath());
         m_library->Import(chosen);
+    }
+}
+
+void MainWindow::ShowMenu()
+{
+    QMenu menu(this);
+    menu.setObjectName(QStringLiteral("MainMenu"));
+    menu.addAction(tr("Import…"), this, &MainWindow::ChooseFiles)->setShortcut(QKeySequence::Open);
+    AddRecent(*menu.addMenu(tr("Open Recent")));
+    menu.addSeparator();
+    menu.addAction(tr("Quit"), this, &QWidget::close)->setShortcut(Qt::CTRL + Qt::Key_Q);
+    constexpr int gapPx = 4;
+    menu.exec(m_menu->mapToGlobal(QPoint(0, m_menu->height() + gapPx)));
+}
+
+void MainWindow::AddRecent(QMenu& menu)
+{
+    constexpr int longestPx = 320;
+    menu.setObjectName(QStringLiteral("RecentMenu"));
+    menu.setToolTipsVisible(true);
+    menu.setEnabled(!m_library->Recent().isEmpty());
+    for (const QString& path : m_library->Recent()) {
+        QString name = menu.fontMetrics().elidedText(QFileInfo(path).fileName(), Qt::ElideMiddle, longestPx);
+        // An ampersand would mark the key that chooses the entry.
+        name.replace(QLatin1Char('&'), QStringLiteral("&&"));
+        QAction* const action = menu.addAction(name, this, [this, path] { m_library->Import({path}); });
+        action->setToolTip(QDir::toNativeSeparators(path));
     }
 }
 
@@ -90,6 +124,36 @@ void MainWindow::RemoveSelected()
     m_library->Remove(m_view->SelectedVideos());
 }
 
+void MainWindow::Activate(const QModelIndex& video)
+{
+    if (m_library->Model().StateAt(video) == MediaLibraryModel::State::Missing) {
+        FindFile(video);
+    } else {
+        Reframe({video});
+    }
+}
+
+void MainWindow::FindFile(const QModelIndex& video)
+{
+    const int id = m_library->Model().IdAt(video);
+    const QFileInfo file(m_library->Model().PathAt(video));
+    const QStringList chosen = ChooseVideos(tr("Find %1").arg(file.fileName()), file.absolutePath());
+    if (!chosen.isEmpty()) {
+        m_library->FindAt(id, chosen.first());
+    }
+}
+
+void MainWindow::AskForOtherFile(int id, const QString& path)
+{
+    const QString name = QFileInfo(m_library->Model().PathAt(m_library->Model().IndexOf(id))).fileName();
+    if (KrMessageDialog::Question_CustomYesNo(tr("The content of this file differs from that of %1.").arg(name),
+                                              tr("Cancel"), tr("Use This File"), this, KrStandardButton::No,
+                                              tr("Your edits are kept, but may not fit this file."), tr("Auto Reframe"),
+                                              KrMessageType::Question)) {
+        m_library->MoveTo(id, path);
+    }
+}
+
 void MainWindow::ReframeSelected()
 {
     Reframe(m_view->SelectedVideos());
@@ -97,36 +161,66 @@ void MainWindow::ReframeSelected()
 
 void MainWindow::Reframe(const QModelIndexList& videos)
 {
-    QList<MediaFile> media;
-    for (const QModelIndex& video : videos) {
-        if (const std::optional<MediaFile> opened = m_library->Model().MediaAt(video)) {
-            media += *opened;
-        }
-    }
     // The window still takes dropped files while the dialog is open, but must not open a second dialog.
-    if (media.isEmpty() || m_isReframing) {
+    if (m_isReframing) {
         return;
     }
+    m_toReframe.clear();
+    for (const QModelIndex& video : videos) {
+        const MediaLibraryModel::State state = m_library->Model().StateAt(video);
+        if (state == MediaLibraryModel::State::Open || state == MediaLibraryModel::State::Stored) {
+            m_toReframe += m_library->Model().IdAt(video);
+        }
+    }
+    ReframeNext();
+}
+
+void MainWindow::ReframeNext()
+{
+    while (!m_isReframing && !m_toReframe.isEmpty()) {
+        const int id = m_toReframe.first();
+        const QModelIndex video = m_library->Model().IndexOf(id);
+        const std::optional<MediaFile> media = m_library->Model().MediaAt(video);
+        if (!media && video.isValid()) {
+            m_library->Open(id);
+            return;
+        }
+        m_toReframe.removeFirst();
+        if (media) {
+            ShowDialog(*media);
+        }
+        if (!m_toReframe.isEmpty()) {
+            const QModelIndex next = m_library->Model().IndexOf(m_toReframe.first());
+            if (!ContinuesWith(m_library->Model().PathAt(next), m_toReframe.size())) {
+                m_toReframe.clear();
+            }
+        }
+    }
+}
+
+void MainWindow::ShowDialog(const MediaFile& video)
+{
     m_isReframing = true;
+    m_library->MarkUsed(video.path);
     DialogCallbacks callbacks;
     callbacks.exportRequested = [this](const ExportRequest& request) { m_exports->Add(request); };
     callbacks.exportRefused = [this](const QString& message) { Inform(message); };
+    callbacks.loadEdits = [this](const QString& path) { return m_library->EditsOf(path); };
+    callbacks.editsChanged = [this](const QString& path, const VideoEdits& edits) {
+        m_library->SaveEdits(path, edits);
+    };
     callbacks.unsupported = [this] {
         Inform(tr("This computer may be too slow for the analysis. To try anyway, start it again."));
     };
-    // The dialog works on one video.
-    m_backend.Get()->Reframe(media.first(), *this, callbacks);
-    for (int i = 1; i < media.size() && ContinuesWith(media.at(i), media.size() - i); ++i) {
-        m_backend.Get()->Reframe(media.at(i), *this, callbacks);
-    }
+    m_backend.Get()->Reframe(video, *this, callbacks);
     m_isReframing = false;
     activateWindow();
 }
 
-bool MainWindow::ContinuesWith(const MediaFile& video, int left)
+bool MainWindow::ContinuesWith(const QString& path, int left)
 {
-    return KrMessageDialog::Question_CustomYesNo(tr("Continue with %1?").arg(QFileInfo(video.path).fileName()),
-                                                 tr("Stop"), tr("Continue"), this, KrStandardButton::Yes,
+    return KrMessageDialog::Question_CustomYesNo(tr("Continue with %1?").arg(QFileInfo(path).fileName()), tr("Stop"),
+                                                 tr("Continue"), this, KrStandardButton::Yes,
                                                  tr("%n selected videos are left.", nullptr, left), tr("Auto Reframe"),
                                                  KrMessageType::Question);
 }

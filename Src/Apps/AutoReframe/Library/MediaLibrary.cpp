@@ -3,22 +3,55 @@
 #include <Apps/AutoReframe/Backend/MediaBackendLoader.h>
 #include <Apps/AutoReframe/Library/MediaCardDelegate.h>
 #include <Apps/AutoReframe/Library/MediaLoader.h>
+#include <Apps/AutoReframe/Store/LibraryStore.h>
 
 #include <QFileInfo>
 #include <QGuiApplication>
 
-MediaLibrary::MediaLibrary(MediaBackendLoader& backend, QObject* parent)
+namespace
+{
+
+using State = MediaLibraryModel::State;
+
+constexpr int MostRecent = 10;
+
+StoredVideo ToStored(const MediaFile& media)
+{
+    return {media.path, media.fileBytes, media.contentHash, media.resolution, media.frameRate, media.frameCount};
+}
+
+MediaFile FromStored(const StoredVideo& video)
+{
+    MediaFile media;
+    media.path = video.path;
+    media.fileBytes = video.fileBytes;
+    media.contentHash = video.contentHash;
+    media.resolution = video.resolution;
+    media.frameRate = video.frameRate;
+    media.frameCount = video.frameCount;
+    return media;
+}
+
+} // namespace
+
+MediaLibrary::MediaLibrary(MediaBackendLoader& backend, LibraryStore& store, QObject* parent)
     : QObject(parent)
     , m_backend(backend)
+    , m_store(store)
     , m_model(this)
 {
     connect(&m_backend, &MediaBackendLoader::sigFinished, this, &MediaLibrary::StartLoading);
+    connect(&m_store, &LibraryStore::sigOpened, this, &MediaLibrary::Restore);
+    // Queued: the signal comes while a card is painted.
+    connect(&m_model, &MediaLibraryModel::sigThumbnailWanted, this, &MediaLibrary::HandleThumbnailWanted,
+            Qt::QueuedConnection);
 }
 
 MediaLibrary::~MediaLibrary()
 {
-    // Its thread uses the backend, which may be destroyed next.
+    // Their threads use the backend, which may be destroyed next.
     delete m_loader;
+    delete m_finder;
     for (const quint64 request : qAsConst(m_thumbnails)) {
         m_backend.IfLoaded()->CancelThumbnail(request);
     }
@@ -29,21 +62,43 @@ MediaLibraryModel& MediaLibrary::Model()
     return m_model;
 }
 
+void MediaLibrary::Restore(const StoredContents& contents)
+{
+    QList<MediaFile> videos;
+    for (const StoredVideo& video : contents.videos) {
+        videos += FromStored(video);
+    }
+    m_edits = contents.edits;
+    m_recent = contents.recent;
+    const QList<int> ids = m_model.AddStored(videos);
+    m_isRestored = true;
+    Q_EMIT sigRestored(contents);
+    if (m_finder != nullptr) {
+        LookForFiles(ids);
+    }
+    const QStringList waiting = m_waiting;
+    m_waiting.clear();
+    Import(waiting);
+}
+
 void MediaLibrary::Import(const QStringList& paths)
 {
+    if (!m_isRestored) {
+        m_waiting += paths;
+        m_store.Open();
+        return;
+    }
     QModelIndexList imported;
     for (const QString& path : paths) {
         QModelIndex index = m_model.IndexOfPath(path);
         if (!index.isValid()) {
-            const int id = m_model.Add(QFileInfo(path).absoluteFilePath());
-            index = m_model.IndexOf(id);
-            m_opening.insert(id);
-            if (m_loader != nullptr) {
-                m_loader->Open(id, m_model.PathAt(index));
-            }
+            index = m_model.IndexOf(AddNew(QFileInfo(path).absoluteFilePath()));
+        } else if (m_model.StateAt(index) == State::Missing) {
+            StartOpening(m_model.IdAt(index));
         }
         if (!imported.contains(index)) {
             imported += index;
+            MarkUsed(m_model.PathAt(index));
         }
     }
     if (!imported.isEmpty()) {
@@ -52,25 +107,159 @@ void MediaLibrary::Import(const QStringList& paths)
     }
 }
 
+int MediaLibrary::AddNew(const QString& path)
+{
+    const int id = m_model.Add(path);
+    StoredVideo video;
+    video.path = path;
+    m_store.SaveVideo(video);
+    m_new.insert(id);
+    StartOpening(id);
+    return id;
+}
+
+void MediaLibrary::Open(int id)
+{
+    if (m_model.StateAt(m_model.IndexOf(id)) != State::Open) {
+        StartOpening(id);
+        m_backend.Start();
+    }
+}
+
+void MediaLibrary::StartOpening(int id)
+{
+    if (m_opening.contains(id)) {
+        return;
+    }
+    m_opening.insert(id);
+    if (m_loader != nullptr) {
+        m_loader->Open(id, m_model.PathAt(m_model.IndexOf(id)));
+    }
+}
+
 void MediaLibrary::StartLoading()
 {
     MediaBackend* const backend = m_backend.IfLoaded();
     if (backend == nullptr) {
         m_refused += m_backend.Error();
-        for (const int id : qAsConst(m_opening)) {
-            m_model.Remove(id);
-        }
+        const QSet<int> opening = m_opening;
         m_opening.clear();
+        for (const int id : opening) {
+            HandleCannotOpen(id, QString());
+        }
         ReportRefused();
         return;
     }
     m_loader = new MediaLoader(*backend, this);
     connect(m_loader, &MediaLoader::sigOpened, this, &MediaLibrary::HandleOpened);
+    m_finder = new MediaFinder(*backend, this);
+    connect(m_finder, &MediaFinder::sigFound, this, &MediaLibrary::HandleFound);
     QList<int> waiting = m_opening.values();
     std::sort(waiting.begin(), waiting.end());
     for (const int id : qAsConst(waiting)) {
         m_loader->Open(id, m_model.PathAt(m_model.IndexOf(id)));
     }
+    QList<int> stored;
+    for (int row = 0; row < m_model.Count(); ++row) {
+        const QModelIndex index = m_model.index(row);
+        if (m_model.StateAt(index) == State::Stored) {
+            stored += m_model.IdAt(index);
+        }
+    }
+    LookForFiles(stored);
+    const QSet<int> wanting = m_wantThumbnails;
+    m_wantThumbnails.clear();
+    for (const int id : wanting) {
+        RequestThumbnail(id);
+    }
+}
+
+MediaFinder::Wanted MediaLibrary::WantedOf(int id) const
+{
+    const MediaFile facts = m_model.FactsAt(m_model.IndexOf(id));
+    return {id, facts.path, facts.fileBytes, facts.contentHash, QFileInfo(facts.path).absolutePath()};
+}
+
+void MediaLibrary::LookForFiles(const QList<int>& ids, const QString& folder)
+{
+    QList<MediaFinder::Wanted> videos;
+    for (const int id : ids) {
+        videos += WantedOf(id);
+        if (!folder.isEmpty()) {
+            videos.last().folder = folder;
+        }
+    }
+    if (!videos.isEmpty()) {
+        m_finder->Look(videos);
+    }
+}
+
+void MediaLibrary::HandleFound(const QList<MediaFinder::Found>& found)
+{
+    for (const MediaFinder::Found& video : found) {
+        const QModelIndex index = m_model.IndexOf(video.id);
+        if (!index.isValid() || m_model.StateAt(index) == State::Open) {
+            continue;
+        }
+        switch (video.kind) {
+        case MediaFinder::Found::Kind::Unchanged:
+            m_model.SetMissing(video.id, false);
+            break;
+        case MediaFinder::Found::Kind::Changed:
+            m_model.SetMissing(video.id, false);
+            StartOpening(video.id);
+            break;
+        case MediaFinder::Found::Kind::Moved:
+            // A copy that is in the library itself is not the file that was moved.
+            if (m_model.IndexOfPath(video.path).isValid()) {
+                m_model.SetMissing(video.id, true);
+            } else {
+                MoveTo(video.id, video.path);
+            }
+            break;
+        case MediaFinder::Found::Kind::Missing:
+            m_model.SetMissing(video.id, true);
+            break;
+        }
+    }
+}
+
+void MediaLibrary::FindAt(int id, const QString& path)
+{
+    m_finder->Compare(WantedOf(id), path, [this, id, path](bool isSame) {
+        if (isSame) {
+            MoveTo(id, path);
+        } else {
+            Q_EMIT sigOtherFile(id, path);
+        }
+    });
+}
+
+void MediaLibrary::MoveTo(int id, const QString& path)
+{
+    const QModelIndex index = m_model.IndexOf(id);
+    if (!index.isValid()) {
+        return;
+    }
+    const QModelIndex other = m_model.IndexOfPath(path);
+    if (other.isValid() && other != index) {
+        Remove({other});
+    }
+    const QString from = m_model.PathAt(m_model.IndexOf(id));
+    m_store.MoveVideo(from, path);
+    m_edits.insert(path, m_edits.take(from));
+    if (const int recent = m_recent.indexOf(from); recent >= 0) {
+        m_recent[recent] = path;
+    }
+    m_model.SetPath(id, path);
+    StartOpening(id);
+    QList<int> missing;
+    for (int row = 0; row < m_model.Count(); ++row) {
+        if (m_model.StateAt(m_model.index(row)) == State::Missing) {
+            missing += m_model.IdAt(m_model.index(row));
+        }
+    }
+    LookForFiles(missing, QFileInfo(path).absolutePath());
 }
 
 void MediaLibrary::HandleOpened(int id, const KxResult<MediaFile>& media)
@@ -79,23 +268,69 @@ void MediaLibrary::HandleOpened(int id, const KxResult<MediaFile>& media)
         return;
     }
     if (media) {
+        m_new.remove(id);
+        const bool isOther = m_model.FactsAt(m_model.IndexOf(id)).contentHash != media->contentHash;
         m_model.SetMedia(id, *media);
-        RequestThumbnail(id, media->path);
+        m_store.SaveVideo(ToStored(m_model.FactsAt(m_model.IndexOf(id))));
+        if (isOther) {
+            RequestThumbnail(id);
+        }
         Q_EMIT sigOpened(id);
     } else {
-        m_refused += media.Message();
-        m_model.Remove(id);
+        HandleCannotOpen(id, media.Message());
     }
     ReportRefused();
 }
 
-void MediaLibrary::RequestThumbnail(int id, const QString& path)
+void MediaLibrary::HandleCannotOpen(int id, const QString& message)
+{
+    if (!message.isEmpty()) {
+        m_refused += message;
+    }
+    if (m_new.remove(id)) {
+        m_store.RemoveVideo(m_model.PathAt(m_model.IndexOf(id)));
+        m_model.Remove(id);
+    } else {
+        m_model.SetMissing(id, !QFileInfo::exists(m_model.PathAt(m_model.IndexOf(id))));
+        Q_EMIT sigCannotOpen(id);
+    }
+}
+
+QSize MediaLibrary::ThumbnailRoomPx()
 {
     // That of the densest screen: windows move from screen to screen.
-    const QSize roomPx = (QSizeF(MediaCardDelegate::PictureSize()) * qGuiApp->devicePixelRatio()).toSize();
-    m_thumbnails[id] = m_backend.IfLoaded()->RequestThumbnail(path, roomPx, [this, id](const QImage& picture) {
+    return (QSizeF(MediaCardDelegate::PictureSize()) * qGuiApp->devicePixelRatio()).toSize();
+}
+
+void MediaLibrary::HandleThumbnailWanted(int id)
+{
+    m_store.ReadThumbnail(m_model.PathAt(m_model.IndexOf(id)), [this, id](const QImage& picture) {
+        const QSize room = ThumbnailRoomPx();
+        // One that was made for a screen of half the density would be blurred.
+        if (picture.width() >= room.width() - 1 || picture.height() >= room.height() - 1) {
+            m_model.SetThumbnail(id, QPixmap::fromImage(picture));
+        } else {
+            RequestThumbnail(id);
+        }
+    });
+}
+
+void MediaLibrary::RequestThumbnail(int id)
+{
+    const QModelIndex index = m_model.IndexOf(id);
+    if (!index.isValid() || m_model.StateAt(index) == State::Missing || m_thumbnails.contains(id)) {
+        return;
+    }
+    MediaBackend* const backend = m_backend.IfLoaded();
+    if (backend == nullptr) {
+        m_wantThumbnails.insert(id);
+        return;
+    }
+    const QString path = m_model.PathAt(index);
+    m_thumbnails[id] = backend->RequestThumbnail(path, ThumbnailRoomPx(), [this, id, path](const QImage& picture) {
         m_thumbnails.remove(id);
         m_model.SetThumbnail(id, QPixmap::fromImage(picture));
+        m_store.SaveThumbnail(path, picture);
     });
 }
 
@@ -109,9 +344,11 @@ void MediaLibrary::Remove(const QModelIndexList& videos)
         if (m_opening.remove(id) && m_loader != nullptr) {
             m_loader->Forget(id);
         }
+        m_new.remove(id);
         if (m_thumbnails.contains(id)) {
             m_backend.IfLoaded()->CancelThumbnail(m_thumbnails.take(id));
         }
+        m_store.RemoveVideo(m_model.PathAt(m_model.IndexOf(id)));
         m_model.Remove(id);
     }
     ReportRefused();
@@ -124,4 +361,18 @@ void MediaLibrary::ReportRefused()
         m_refused.clear();
         Q_EMIT sigRefused(messages);
     }
+}
+
+void MediaLibrary::MarkUsed(const QString& path)
+{
+    m_recent.removeAll(path);
+    m_recent.prepend(path);
+    m_recent = m_recent.mid(0, MostRecent);
+    m_store.MarkUsed(path);
+}
+
+void MediaLibrary::SaveEdits(const QString& path, const VideoEdits& edits)
+{
+    m_edits.insert(path, edits);
+    m_store.SaveEdits(path, edits);
 }
