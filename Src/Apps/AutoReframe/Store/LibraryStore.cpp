@@ -143,17 +143,21 @@ void LibraryStore::Write()
         const std::lock_guard<std::mutex> lock(m_mutex);
         m_isWritingScheduled = false;
         changes.swap(m_changes);
+        m_isWriting = true;
     }
     // Without a file the person was told that nothing is saved.
-    if (m_database == nullptr || changes.empty()) {
-        return;
-    }
-    const KxError failure = WriteAll(changes);
-    if (failure && IsTemporary(*m_database)) {
+    const bool writes = m_database != nullptr && !changes.empty();
+    const KxError failure = writes ? WriteAll(changes) : std::nullopt;
+    {
         const std::lock_guard<std::mutex> lock(m_mutex);
-        m_changes.insert(m_changes.begin(), changes.begin(), changes.end());
+        m_isWriting = false;
+        if (failure && IsTemporary(*m_database)) {
+            m_changes.insert(m_changes.begin(), changes.begin(), changes.end());
+        }
     }
-    ReportWriting(failure);
+    if (writes) {
+        ReportWriting(failure);
+    }
 }
 
 KxError LibraryStore::WriteAll(const std::vector<Change>& changes)
@@ -190,7 +194,7 @@ void LibraryStore::FinishWriting(const KxError& failure)
         m_isFailureReported = false;
         const bool isAllWritten = [this] {
             const std::lock_guard<std::mutex> lock(m_mutex);
-            return m_changes.empty() && !m_isWritingScheduled;
+            return m_changes.empty() && !m_isWriting;
         }();
         if (isAllWritten) {
             Q_EMIT sigWritten();

@@ -81,6 +81,7 @@ private:
     // Guarded by the mutex.
     std::vector<Change> m_changes;
     bool m_isWritingScheduled = false;
+    bool m_isWriting = false;
     // Last: its thread uses the others.
     KxWorker m_worker{KxWorker::Order::OldestFirst};
 };
