@@ -26,6 +26,16 @@
     </message>
 </context>
 <context>
+    <name>ExportPanel</name>
+    <message numerus="yes">
+        <source>%n exports were not finished.</source>
+        <translation>
+            <numerusform>An export was not finished.</numerusform>
+            <numerusform>%n exports were not finished.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message numerus="yes">
         <source>%n videos</source>

@@ -1,5 +1,6 @@
 #include <Apps/AutoReframe/Backend/HostMediaBackend.h>
 
+#include <Apps/AutoReframe/Backend/DialogEdits.h>
 #include <Apps/AutoReframe/Backend/ExportRecord.h>
 #include <KxCore/KxLog.h>
 #include <KxMediaLibrary/KxThumbnailer.h>
@@ -131,12 +132,14 @@ QString HostMediaBackend::ImportPatterns() const
 void HostMediaBackend::Reframe(const MediaFile& video, QWidget& parent, const DialogCallbacks& callbacks)
 {
     {
+        DialogEdits edits(callbacks);
         const auto dialog = std::make_unique<KrAutoReframeDialog>(&parent);
         QObject::connect(dialog.get(), &KrAutoReframeDialog::sigExportToLocal, &parent,
                          [&callbacks](IKxTimeline* timeline, const QList<IKxAbstractMedia*>&, const QVariant& record) {
                              RequestExport(timeline, record, callbacks);
                          });
         QObject::connect(dialog.get(), &KrAutoReframeDialog::sigShowUnsupportDlg, &parent, callbacks.unsupported);
+        dialog->SetExtensions(edits);
         dialog->InitMediaItem({video.item.get()});
         dialog->DoModal();
     }

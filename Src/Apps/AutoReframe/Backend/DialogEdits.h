@@ -1,0 +1,19 @@
+#pragma once
+
+#include <Apps/AutoReframe/Backend/MediaBackend.h>
+
+#include <KrAutoReframe/KrAutoReframeExtensions.h>
+
+/// Turns the dialog's extensions on, and passes what the person decides between dialog and program.
+class DialogEdits final : public KrAutoReframeExtensions
+{
+public:
+    /// `callbacks` is borrowed.
+    explicit DialogEdits(const DialogCallbacks& callbacks);
+
+    KrAutoReframeState LoadState(const QString& path) override;
+    void OnStateChanged(const QString& path, const KrAutoReframeState& state) override;
+
+private:
+    const DialogCallbacks& m_callbacks;
+};
