@@ -5,6 +5,7 @@ journey.py PROGRAM FOLDER NAME [VIDEO]: pictures of every step stay in FOLDER. T
   whole       import, analysis, edits, export and quitting, on footage made for it
   cancelling  analysis and export of VIDEO are cancelled, the program is interrupted
   plain       analysis and preview on a desktop without a compositor
+  kept        the program is killed and started again, the video is renamed and moved
   dense       the first window on a screen of scale 2, in a session that also offers Wayland
 """
 
@@ -16,6 +17,7 @@ import sys
 import time
 
 import footage
+import kept_journey
 import short_journeys
 from desktop import Desktop
 from screen import Screen
@@ -374,7 +376,7 @@ def main():
     with open(config, "w", encoding="utf-8") as file:
         file.write(f"[Auto%20Reframe]\nOutputPath={folder}/exports\n")
     clip = os.path.join(folder, "walk.mp4")
-    environment = {"KX_CONFIG_FILE": config, "HOME": folder}
+    environment = {"KX_CONFIG_FILE": config, "KX_DATA": os.path.join(folder, "data"), "HOME": folder}
     size = "1600x1000"
     if name == "cancelling":
         clip = os.path.abspath(sys.argv[4])
@@ -386,15 +388,22 @@ def main():
         footage.make(clip)
     started = time.monotonic()
     with Desktop(folder, size, composites=name != "plain") as desktop:
-        screen = Screen(desktop, folder, program, [] if name == "whole" else [clip], environment)
-        try:
+        if name == "kept":
+            kept = kept_journey.KeptJourney(desktop, folder, program, clip, environment,
+                                            lambda screen: Journey(screen, folder, clip))
+            run, stop = kept.run, lambda: kept.screen.stop()
+        else:
+            screen = Screen(desktop, folder, program, [] if name == "whole" else [clip], environment)
             journey = Journey(screen, folder, clip)
-            {"whole": journey.run, "cancelling": journey.run_on_real_footage,
-             "plain": lambda: short_journeys.run_without_compositor(journey),
-             "dense": lambda: short_journeys.run_on_a_dense_screen(screen)}[name]()
+            run = {"whole": journey.run, "cancelling": journey.run_on_real_footage,
+                   "plain": lambda: short_journeys.run_without_compositor(journey),
+                   "dense": lambda: short_journeys.run_on_a_dense_screen(screen)}[name]
+            stop = screen.stop
+        try:
+            run()
         finally:
-            screen.stop()
-            with open(screen.log_path, encoding="utf-8", errors="replace") as log:
+            stop()
+            with open(os.path.join(folder, "program.log"), encoding="utf-8", errors="replace") as log:
                 output = log.read()
             print(output, end="")
     # Qt warns when it asks the server about a window that has just gone, and when there is no sound server.
