@@ -7,6 +7,7 @@ journey.py PROGRAM FOLDER NAME [VIDEO]: pictures of every step stay in FOLDER. T
   plain       analysis and preview on a desktop without a compositor
   kept        the program is killed and started again, the video is renamed and moved
   dense       the first window on a screen of scale 2, in a session that also offers Wayland
+  extended    the dialog's extensions; extended-dense: on a screen of scale 2
 """
 
 import fcntl
@@ -16,6 +17,7 @@ import signal
 import sys
 import time
 
+import extension_journey
 import footage
 import kept_journey
 import short_journeys
@@ -34,6 +36,8 @@ def near(a, b, slack=40):
 
 
 class Journey:
+    ACCENT = ACCENT
+
     def __init__(self, screen, folder, clip):
         self.screen = screen
         self.folder = folder
@@ -384,6 +388,11 @@ def main():
         short_journeys.make_striped(clip)
         size = f"{short_journeys.SCREEN[0]}x{short_journeys.SCREEN[1]}"
         environment.update(QT_SCALE_FACTOR=str(short_journeys.SCALE), QT_QPA_PLATFORM="", XDG_SESSION_TYPE="wayland")
+    elif name.startswith("extended"):
+        extension_journey.make_shots(clip)
+        if name == "extended-dense":
+            size = "3200x2000"
+            environment.update(QT_SCALE_FACTOR="2")
     else:
         footage.make(clip)
     started = time.monotonic()
@@ -396,6 +405,8 @@ def main():
             screen = Screen(desktop, folder, program, [] if name == "whole" else [clip], environment)
             journey = Journey(screen, folder, clip)
             run = {"whole": journey.run, "cancelling": journey.run_on_real_footage,
+                   "extended": lambda: extension_journey.ExtensionJourney(journey).run(),
+                   "extended-dense": lambda: extension_journey.ExtensionJourney(journey).run(),
                    "plain": lambda: short_journeys.run_without_compositor(journey),
                    "dense": lambda: short_journeys.run_on_a_dense_screen(screen)}[name]
             stop = screen.stop

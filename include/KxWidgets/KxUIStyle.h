@@ -41,6 +41,7 @@ enum class Role {
     ButtonLine,
     PlayedTrack,
     DropFrame,
+    Doubt,
 };
 
 /// Sets style, palette, font and style sheet of the whole program. From then on a control that the keyboard focus has

@@ -36,7 +36,7 @@ KrDialogExtension::KrDialogExtension(KrAutoReframeExtensions& host, const Parts&
     setObjectName(QStringLiteral("KrDialogExtension"));
     KrAutoReframeHelper& helper = *m_parts.process.GetHelper();
     helper.SetEditsSurvive(true);
-    m_parts.panel.AddLines();
+    m_parts.panel.AddLine();
     new KrCropKeys(m_parts.view, this);
     if (IKxAutoReframeShots* const shots = ServiceShots()) {
         shots->CollectShots(true);

@@ -150,11 +150,11 @@ void KrDoubtfulShots::ShowMarks()
     }
     m_view.ControlBar().Slider().SetShots(marks);
 
-    QString fact;
+    QString fact = shots.isEmpty() ? QString() : QStringLiteral("");
     if (m_shots.CountToLookAt() > 0) {
         fact = tr("%1 of %n shots to look at", nullptr, shots.size()).arg(m_shots.CountToLookAt());
     } else if (m_shots.CountDoubtful() > 0) {
-        fact = tr("You have looked at all doubtful shots");
+        fact = tr("All doubtful shots seen");
     }
     m_panel.SetFact(fact);
 }

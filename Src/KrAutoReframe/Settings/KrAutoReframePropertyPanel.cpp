@@ -192,7 +192,7 @@ void KrAutoReframePropertyPanel::WhenParametersChange(QObject* context, const st
     }
 }
 
-KxLabel* KrAutoReframePropertyPanel::AddLine(const QString& name, const QString& role)
+KxLabel* KrAutoReframePropertyPanel::CreateLine(const QString& name, const QString& role)
 {
     KxLabel* const line = KxLabel::CreateLabel(this, QString());
     line->setObjectName(name);
@@ -203,22 +203,31 @@ KxLabel* KrAutoReframePropertyPanel::AddLine(const QString& name, const QString&
     return line;
 }
 
-void KrAutoReframePropertyPanel::AddLines()
+void KrAutoReframePropertyPanel::AddLine()
 {
-    m_hint = AddLine(QStringLiteral("KrAutoReframePropertyPanel_hint"), QStringLiteral("hint"));
-    m_fact = AddLine(QStringLiteral("KrAutoReframePropertyPanel_shots"), QStringLiteral("muted"));
+    m_hint = CreateLine(QStringLiteral("KrAutoReframePropertyPanel_hint"), QStringLiteral("hint"));
+    m_fact = CreateLine(QStringLiteral("KrAutoReframePropertyPanel_shots"), QStringLiteral("muted"));
+    m_fact->setMinimumHeight(m_fact->fontMetrics().height());
 }
 
 void KrAutoReframePropertyPanel::SetHint(const QString& text)
 {
     m_hint->setText(text);
-    m_hint->setVisible(!text.isEmpty());
+    UpdateLine();
 }
 
 void KrAutoReframePropertyPanel::SetFact(const QString& text)
 {
     m_fact->setText(text);
-    m_fact->setVisible(!text.isEmpty());
+    m_keepsLine = !text.isNull();
+    UpdateLine();
+}
+
+void KrAutoReframePropertyPanel::UpdateLine()
+{
+    const bool isHinting = !m_hint->text().isEmpty();
+    m_hint->setVisible(isHinting);
+    m_fact->setVisible(!isHinting && m_keepsLine);
 }
 
 int KrAutoReframePropertyPanel::MotionSpeedToTrackValue(int motionSpeed) const

@@ -33,9 +33,10 @@ public:
     /// Calls `changed` after each change of a setting, as long as `context` lives.
     void WhenParametersChange(QObject* context, const std::function<void()>& changed);
 
-    /// Adds two lines below the analyse button, hidden at first: a hint and a fact about the result.
-    void AddLines();
-    /// An empty text hides its line. Only after AddLines().
+    /// Adds a line below the analyse button, hidden at first.
+    void AddLine();
+    /// What the line shows: the hint, or without one the fact. For a fact that is empty, but not null, the line keeps
+    /// its place, so that a hint that comes and goes does not move the export button. Only after AddLine().
     void SetHint(const QString& text);
     void SetFact(const QString& text);
 
@@ -62,7 +63,8 @@ private:
     void InitLayout();
     void ConnectSignals();
     void InitData();
-    KxLabel* AddLine(const QString& name, const QString& role);
+    KxLabel* CreateLine(const QString& name, const QString& role);
+    void UpdateLine();
 
     KxToolButton* m_importButton = nullptr;
     KxToolButton* m_replaceButton = nullptr;
@@ -74,9 +76,10 @@ private:
     KxPushButton* m_analyzeButton = nullptr;
     KxPushButton* m_restartButton = nullptr;
     KxPushButton* m_exportButton = nullptr;
-    /// Null without the additional lines.
+    /// Null without the additional line. At most one of the two is shown.
     KxLabel* m_hint = nullptr;
     KxLabel* m_fact = nullptr;
+    bool m_keepsLine = false;
     bool m_notImported = true;
     /// The next analysis to finish is the first one since the settings were enabled.
     bool m_firstAnalysis = true;

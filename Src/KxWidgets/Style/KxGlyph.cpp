@@ -35,8 +35,10 @@ QColor ColourOf(KxGlyph::State state)
     return {};
 }
 
-void PaintDrawing(QPainter& painter, const QString& name, const QRectF& area, const QColor& colour,
-                  const QColor& second)
+/// What becomes of the strokes of a drawing that have a colour of their own.
+enum class Accents { Keep, Drop };
+
+void PaintDrawing(QPainter& painter, const QString& name, const QRectF& area, const QColor& colour, Accents accents)
 {
     QFile file(FileOf(name));
     if (!file.open(QIODevice::ReadOnly)) {
@@ -44,7 +46,11 @@ void PaintDrawing(QPainter& painter, const QString& name, const QRectF& area, co
     }
     QByteArray drawing = file.readAll();
     drawing.replace("currentColor", colour.name().toLatin1());
-    drawing.replace("#FF8B55", second.name().toLatin1());
+    const std::pair<const char*, Role> own[] = {{"#FF8B55", Role::Edited}, {"#FFAE34", Role::Doubt}};
+    for (const auto& [stroke, role] : own) {
+        const QColor shown = accents == Accents::Keep ? KxUIStyle::Colour(role) : colour;
+        drawing.replace(stroke, shown.name().toLatin1());
+    }
     const qreal side = std::min(area.width(), area.height());
     QRectF square(0, 0, side, side);
     square.moveCenter(area.center());
@@ -99,14 +105,12 @@ bool KxGlyph::Exists(const QString& name)
 
 void KxGlyph::Paint(QPainter& painter, const QString& name, const QRectF& area, State state)
 {
-    const QColor colour = ColourOf(state);
-    PaintDrawing(painter, name, area, colour,
-                 state == State::Disabled ? colour : KxUIStyle::Colour(KxUIStyle::Role::Edited));
+    PaintDrawing(painter, name, area, ColourOf(state), state == State::Disabled ? Accents::Drop : Accents::Keep);
 }
 
 void KxGlyph::Paint(QPainter& painter, const QString& name, const QRectF& area, const QColor& colour)
 {
-    PaintDrawing(painter, name, area, colour, colour);
+    PaintDrawing(painter, name, area, colour, Accents::Drop);
 }
 
 QIcon KxGlyph::Icon(const QString& name)

@@ -31,7 +31,7 @@ constexpr std::array Colours{
     NamedColour{Role::Edited, 0xFFFF8B55},      NamedColour{Role::Error, 0xFFFF8B7A},
     NamedColour{Role::Icon, 0xFFD3D6DB},        NamedColour{Role::Button, 0xFF2F333A},
     NamedColour{Role::ButtonLine, 0xFF444952},  NamedColour{Role::PlayedTrack, 0xFF7A818C},
-    NamedColour{Role::DropFrame, 0xFF7A818C},
+    NamedColour{Role::DropFrame, 0xFF7A818C},   NamedColour{Role::Doubt, 0xFFFFAE34},
 };
 
 QHash<QString, QString> Words()
@@ -55,7 +55,7 @@ QHash<QString, QString> Words()
         {QStringLiteral("error"), colour(Role::Error)},
         {QStringLiteral("button"), colour(Role::Button)},
         {QStringLiteral("buttonLine"), colour(Role::ButtonLine)},
-        {QStringLiteral("hint"), QStringLiteral("#ffae34")},
+        {QStringLiteral("doubt"), colour(Role::Doubt)},
         {QStringLiteral("accentHover"), QStringLiteral("#79eed4")},
         {QStringLiteral("accentPressed"), QStringLiteral("#3dcbac")},
         {QStringLiteral("accentOff"), QStringLiteral("#26403a")},

@@ -80,6 +80,19 @@ TEST_F(KrDialogExtensionTest, TheHintShowsWhileThePanelDiffersFromThePicture)
     EXPECT_EQ(Hint(), QString());
 }
 
+TEST_F(KrDialogExtensionTest, AHintThatComesDoesNotMoveTheExportButton)
+{
+    service.shots = {{0, FrameCount, 0.3, KxAutoReframeDoubt::SeveralPlaces}};
+    Load(Video(clip));
+    Analyse();
+    QCoreApplication::processEvents();
+    const int placeOfExport = Export().y();
+    Ratios().setCurrentText(QStringLiteral("1:1"));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(Hint(), SettingsChanged);
+    EXPECT_EQ(Export().y(), placeOfExport);
+}
+
 TEST_F(KrDialogExtensionTest, TheHintStaysAfterAnAnalysisThatFailed)
 {
     Load(Video(clip));

@@ -85,7 +85,7 @@ TEST_F(KrDoubtfulShotsTest, ALookMarksAShotAsSeen)
     EXPECT_EQ(Fact(), QStringLiteral("1 of 4 shots to look at"));
     FakePlayer::ShowFrame(*presenter, 80);
     QTRY_VERIFY(HasSeen({25, 75}));
-    EXPECT_EQ(Fact(), QStringLiteral("You have looked at all doubtful shots"));
+    EXPECT_EQ(Fact(), QStringLiteral("All doubtful shots seen"));
 }
 
 TEST_F(KrDoubtfulShotsTest, ADragAcrossAShotIsNoLook)

@@ -1,0 +1,118 @@
+"""What the dialog's extensions add: doubtful shots, edits that survive, a crop that the arrow keys move."""
+
+import subprocess
+
+import footage
+
+SHOT_SECONDS = 4
+SHOT_FRAMES = SHOT_SECONDS * footage.RATE
+EDITED = (0xFF, 0x8B, 0x55)
+HINT = "KrAutoReframePropertyPanel_hint"
+SHOTS = "KrAutoReframePropertyPanel_shots"
+RATIO = "KrAutoReframePropertyPanel_aspectRatio"
+
+
+def make_shots(path):
+    """Three shots: a figure that walks, and two empty pictures."""
+    size = f"{footage.WIDTH}x{footage.HEIGHT}:rate={footage.RATE}:duration={SHOT_SECONDS}"
+    subprocess.run(
+        ["ffmpeg", "-loglevel", "error", "-y",
+         "-f", "lavfi", "-i", f"color=c=0x506070:size={size}",
+         "-f", "lavfi", "-i", f"color=c=red:size=70x300:rate={footage.RATE}:duration={SHOT_SECONDS}",
+         "-f", "lavfi", "-i", f"color=c=0xb0b0b0:size={size}", "-f", "lavfi", "-i", f"color=c=0x305030:size={size}",
+         "-filter_complex", "[0][1]overlay=x='300+60*t':y=160:eval=frame[walk];[walk][2][3]concat=n=3[v]",
+         "-map", "[v]", "-c:v", "libx264", "-crf", "16", "-preset", "veryfast", "-pix_fmt", "yuv420p", path], check=True)
+
+
+class ExtensionJourney:
+    def __init__(self, journey):
+        self.journey = journey
+        self.screen = journey.screen
+
+    def choose_ratio(self, text):
+        screen = self.screen
+        screen.press(RATIO)
+        item = screen.steady(lambda report: next((item["rect"] for widget in report["widgets"]
+                                                  for item in widget.get("items") or []
+                                                  if item.get("text") == text and widget["window"] != "MainWindow"), None),
+                             f"{text} in the list")
+        screen.click(item)
+        screen.find(RATIO, text=text)
+
+    def look_at_doubtful_shots(self):
+        screen, journey = self.screen, self.journey
+        journey.open_dialog()
+        screen.press("KrAutoReframePropertyPanel_analyze")
+        journey.shadow()
+        journey.pause()
+        journey.go_to(0.1)
+        screen.find(SHOTS, text="2 of 3 shots to look at")
+        screen.shoot("doubtful-shots")
+        screen.press("KrAutoReframe_nextDoubt")
+        journey.expect_frame(SHOT_FRAMES)
+        screen.find(SHOTS, text="1 of 3 shots to look at")
+        screen.shoot("one-seen")
+        screen.key("n")
+        journey.expect_frame(2 * SHOT_FRAMES)
+        screen.find(SHOTS, text="All doubtful shots seen")
+        screen.key("shift+n")
+        journey.expect_frame(SHOT_FRAMES)
+        slider = screen.find("KrUIStyle_ToolBarSlider")["rect"]
+        screen.move(slider[0] + slider[2] * 5 // 6, slider[1] + slider[3] // 2)
+        screen.find("qtooltip_label", text="Shot 3 of 3: nothing stands out")
+        screen.shoot("reason")
+
+    def move_by_keys(self):
+        screen, journey = self.screen, self.journey
+        frame = journey.go_to(0.15)
+        before = journey.outline(journey.ACCENT)[0]
+        x, y, width, height = journey.shadow()
+        crop = (x + int((before + 0.15) * width), y + height // 2)
+        screen.move(*crop)
+        screen.tool("click", 1)
+        screen.until(lambda report: report["focus"] == "KxMediaPlayerWidget", "the picture to have the focus")
+        for _ in range(6):
+            screen.key("shift+Right")
+        screen.find("KrAutoReframe_undo", enabled=True)
+        moved = journey.outline(EDITED)[0] - before
+        assert abs(moved - 60 / footage.WIDTH) < 0.01, f"60 pixels by keys, {moved * footage.WIDTH:.1f} on the screen"
+        screen.key("shift+Tab", "Tab")
+        screen.until(lambda report: report["focus"] == "KxMediaPlayerWidget", "the picture to have the focus again")
+        screen.shoot("moved-by-keys")
+        return frame
+
+    def keep_the_edit(self, frame):
+        screen, journey = self.screen, self.journey
+        left, right = journey.outline(EDITED)
+        self.choose_ratio("1:1")
+        screen.find(HINT, text="Settings changed: analyze again")
+        screen.shoot("settings-changed")
+        screen.press("KrAutoReframePropertyPanel_restart")
+        screen.gone(HINT)
+        journey.expect_frame(frame)
+        screen.until(lambda: journey.outline(EDITED)[1] - journey.outline(EDITED)[0] > right - left + 0.1,
+                     "the edit in the wider crop", fresh=False)
+        wide = journey.outline(EDITED)
+        assert abs((wide[0] + wide[1]) - (left + right)) < 0.02, f"{left}..{right} became {wide}"
+        screen.shoot("edit-in-another-ratio")
+
+    def open_again(self, frame):
+        screen, journey = self.screen, self.journey
+        journey.close_with_title_bar()
+        journey.open_dialog()
+        screen.find("KrAutoReframePropertyPanel_restart", enabled=True)
+        screen.find(RATIO, text="1:1")
+        screen.find(SHOTS, text="All doubtful shots seen")
+        screen.press("KrAutoReframe_next")
+        journey.expect_frame(frame)
+        journey.outline(EDITED)
+        screen.shoot("opened-again")
+
+    def run(self):
+        self.screen.find("StatusBar_text", text="1 video · 1 selected")
+        self.look_at_doubtful_shots()
+        frame = self.move_by_keys()
+        self.keep_the_edit(frame)
+        self.open_again(frame)
+        self.journey.close_with_title_bar()
+        self.journey.quit()
