@@ -302,23 +302,24 @@ struct KxSubjectOptions {
     } follow;
 
     struct Path {
-        /// 1.5 to 4 of the tracker, a width, over the square root of a sample's seconds; cross: from 2 on all score
-        /// alike, and more is calmer
-        double moveCost = 2.4;
-        double stepsPerSecond = 10.0;     ///< 5 to 20 nodes of the smoothed path; chosen
-        double speedWeight = 0.35;        ///< 0.25 to 0.5 on the first derivative; spread
-        double accelerationWeight = 0.12; ///< 0.08 to 0.2 on the second; spread
-        double jerkWeight = 0.1;          ///< 0.03 to 0.2 on the third; spread
+        /// 2 to 5 of the tracker, a width, over the square root of a sample's seconds; cross: all score alike, and
+        /// more is calmer; from 4.5 on fast subjects are lost
+        double moveCost = 4.0;
+        double stepsPerSecond = 10.0;    ///< 5 to 20 nodes of the smoothed path; chosen
+        double speedWeight = 0.35;       ///< 0.25 to 0.5 on the first derivative; cross
+        double accelerationWeight = 0.3; ///< 0.1 to 0.45 on the second: more gives fewer, longer pans; cross
+        double jerkWeight = 0.2;         ///< 0.08 to 0.3 on the third: more gives longer eases; cross
         /// 0 to 5 on what exceeds the top speed, which no rule forbids: the subject may need it; chosen
         double overspeedWeight = 1.0;
         double boundsWeight = 200.0; ///< 50 to 1000 on leaving the places a crop can take; 1000 does the same
         /// 10 to 120: after a longer pause in the pictures a new path starts, as at a cut; chosen: bounds the work
         double longestHoldSeconds = 30.0;
         int iterations = 60; ///< 40 to 100; clips: 1600 draw random walks up to 0.04 widths elsewhere, these alike
-        /// 0.001 to 0.01 widths a second below which the smoothed path is made exactly static; chosen
-        double stillSpeed = 0.004;
+        /// 0.003 to 0.01 widths a second below which the smoothed path is made exactly static; cross: beyond, it
+        /// leaves the subject
+        double stillSpeed = 0.006;
         double easeSeconds = 1.0; ///< 0.5 to 2 for coming to a place that a person chose; chosen
-        double stillTrim = 0.05;  ///< 0 to 0.1 of the samples at each end of the range, that do not count; chosen
+        double stillTrim = 0.05; ///< 0 to 0.1 of the samples at each end of the range, that do not count; chosen
     } path;
 
     /// The path's reaction at one motion speed. Widths are the picture's unless the crop's is named. Origin: trial. The
@@ -331,9 +332,9 @@ struct KxSubjectOptions {
         double smoothingSeconds; ///< 0.2 to 3; 1 means the weights of Path
         double holdSeconds;      ///< 0.3 to 2 before the subject changes
     };
-    Reaction slow{0.25, 0.20, 0.08, 2.0, 1.5};
-    Reaction automatic{0.19, 0.12, 0.20, 0.5, 0.8};
-    Reaction fast{0.075, 0.05, 0.45, 0.3, 0.6};
+    Reaction slow{0.25, 0.20, 0.08, 1.5, 1.5};
+    Reaction automatic{0.18, 0.15, 0.20, 0.5, 0.8};
+    Reaction fast{0.075, 0.05, 0.45, 0.2, 0.6};
 
     const Reaction& For(KxMotionSpeed speed) const
     {

@@ -89,6 +89,26 @@ TEST(KxCropPath, SpeedAndAccelerationHaveNoJumps)
     EXPECT_EQ(line[250], line[299]);
 }
 
+TEST(KxCropPath, APanSpeedsUpOnceAndSlowsDownOnce)
+{
+    const auto wanted = [](double s) {
+        return std::clamp(0.25 + 0.06 * (s - 2.0) + 0.012 * std::sin(7.0 * s), 0.25, 0.6);
+    };
+    const auto line = Draw(Points(0, 300, wanted), 0, 300);
+    double fastest = 0.0;
+    double speedChanges = 0.0;
+    double largestChange = 0.0;
+    for (std::size_t i = 0; i + 2 < line.size(); ++i) {
+        const double change = std::abs(line[i + 2] - 2.0 * line[i + 1] + line[i]);
+        fastest = std::max(fastest, std::abs(line[i + 1] - line[i]));
+        speedChanges += change;
+        largestChange = std::max(largestChange, change);
+    }
+    EXPECT_GT(fastest, 0.05 / FrameRate);
+    EXPECT_LT(speedChanges, 2.05 * fastest);
+    EXPECT_LT(largestChange, fastest / 20.0) << "an ease takes most of a second";
+}
+
 TEST(KxCropPath, AShotThatBeginsLateHasAPathFromItsFirstFrame)
 {
     const auto early = Draw(Points(0, 120, [](double s) { return 0.2 + 0.1 * s; }), 0, 120);
