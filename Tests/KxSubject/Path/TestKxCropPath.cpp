@@ -106,7 +106,7 @@ TEST(KxCropPath, APanSpeedsUpOnceAndSlowsDownOnce)
     }
     EXPECT_GT(fastest, 0.05 / FrameRate);
     EXPECT_LT(speedChanges, 2.05 * fastest);
-    EXPECT_LT(largestChange, fastest / 20.0) << "an ease takes most of a second";
+    EXPECT_LT(largestChange, fastest / 55.0) << "the eases are long";
 }
 
 TEST(KxCropPath, AShotThatBeginsLateHasAPathFromItsFirstFrame)
