@@ -1,3 +1,5 @@
+#include <Tests/Support/TestSystem.h>
+
 #include <KxCore/KxConfig.h>
 #include <KxCore/KxConfigFile.h>
 #include <KxCore/KxCustomProductInfo.h>
@@ -11,8 +13,6 @@
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
-
-#include <sys/stat.h>
 
 namespace
 {
@@ -149,7 +149,9 @@ TEST_F(KxConfigTest, APipeOrADeviceIsNotRead)
 {
     ASSERT_TRUE(QDir(folder.path()).mkdir(QStringLiteral("made")));
     const QString pipe = folder.filePath(QStringLiteral("made/config.ini"));
-    ASSERT_EQ(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    if (!TestSystem::MakeNamedPipe(pipe)) {
+        GTEST_SKIP() << "this system has no pipes in folders";
+    }
     EXPECT_EQ(KxConfigFile::ReadAutoReframe(QStringLiteral("Models")), QString());
     EXPECT_FALSE(IsUsed(pipe));
 }

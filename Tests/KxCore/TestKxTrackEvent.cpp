@@ -1,3 +1,5 @@
+#include <Tests/Support/TestSystem.h>
+
 #include <KxCore/KrAutoReframeClickEvent.h>
 #include <KxCore/KxTrackEvent.h>
 
@@ -9,8 +11,6 @@
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
-
-#include <sys/stat.h>
 
 namespace
 {
@@ -126,7 +126,9 @@ TEST_F(KxTrackEventTest, ARecorderReceivesTheNamesInsteadOfTheLog)
 TEST_F(KxTrackEventTest, ALogThatIsAPipeIsNotWritten)
 {
     const QString pipe = PathOf(QStringLiteral("pipe"));
-    ASSERT_EQ(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    if (!TestSystem::MakeNamedPipe(pipe)) {
+        GTEST_SKIP() << "this system has no pipes in folders";
+    }
     NameLog(pipe);
     // Opening it would wait for a reader.
     Send(QStringLiteral("close_window"));

@@ -28,8 +28,13 @@ Chooser& TheChooser()
 
 } // namespace
 
-// The program's definition replaces the host's.
-int GetOpenFileNameW(OPENFILENAMEW* request)
+// The program's definition replaces the host's, on Windows the system's.
+#if defined(_WIN32)
+#define KX_ANSWER WINAPI ChooseFileNames
+#else
+#define KX_ANSWER GetOpenFileNameW
+#endif
+int KX_ANSWER(OPENFILENAMEW* request)
 {
     Chooser& chooser = TheChooser();
     ++chooser.calls;
@@ -41,6 +46,12 @@ int GetOpenFileNameW(OPENFILENAMEW* request)
     request->nFileOffset = chooser.nameOffset;
     return chooser.answer;
 }
+#if defined(_WIN32)
+// What the module calls is this entry of its import table.
+extern "C" {
+decltype(&GetOpenFileNameW) __imp_GetOpenFileNameW = &ChooseFileNames;
+}
+#endif
 
 namespace
 {

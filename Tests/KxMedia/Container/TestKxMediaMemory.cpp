@@ -1,13 +1,12 @@
 #include <KxMedia/Container/KxMatroskaAttachments.h>
 
 #include <Tests/KxMedia/Read/ReadClips.h>
+#include <Tests/Support/TestSystem.h>
 
 #include <QBuffer>
 #include <QFile>
 
 #include <gtest/gtest.h>
-
-#include <sys/resource.h>
 
 using ReadClips::Path;
 using ReadClips::Words;
@@ -19,9 +18,7 @@ constexpr qint64 MegaByte = 1024 * 1024;
 
 qint64 PeakMegaBytes()
 {
-    rusage usage{};
-    getrusage(RUSAGE_SELF, &usage);
-    return usage.ru_maxrss / 1024;
+    return TestSystem::PeakMemoryBytes() / MegaByte;
 }
 
 } // namespace

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include <memory>
+
+/// What tests need of the operating system; each platform has its own implementation.
+namespace TestSystem
+{
+/// Makes a named pipe. False where the system has none in folders.
+bool MakeNamedPipe(const QString& path);
+
+/// The largest amount of memory that this process has used; since ResetPeakMemory(), where that returns true.
+qint64 PeakMemoryBytes();
+bool ResetPeakMemory();
+} // namespace TestSystem
