@@ -2,9 +2,14 @@
 
 // Symbol visibility of the host's libraries. CMake defines <library>_EXPORTS while it builds that library.
 
-#if defined(_WIN32)
+#if defined(_MSC_VER)
 #define KX_SYMBOL_EXPORT __declspec(dllexport)
 #define KX_SYMBOL_IMPORT __declspec(dllimport)
+#elif defined(_WIN32)
+// The linker of mingw-w64 finds out by itself what comes from a library, so that a program may also link the same
+// sources statically.
+#define KX_SYMBOL_EXPORT __declspec(dllexport)
+#define KX_SYMBOL_IMPORT
 #else
 #define KX_SYMBOL_EXPORT __attribute__((visibility("default")))
 #define KX_SYMBOL_IMPORT __attribute__((visibility("default")))
