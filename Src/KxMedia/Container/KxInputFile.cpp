@@ -1,5 +1,6 @@
 #include <KxMedia/Container/KxInputFile.h>
 
+#include <KxCore/KxSystemFile.h>
 #include <KxMedia/Container/KxAvError.h>
 #include <KxMedia/Container/KxClaimedSize.h>
 #include <KxMedia/Container/KxMatroskaAttachments.h>
@@ -49,7 +50,7 @@ QByteArray Head(AVIOContext& file)
 std::filesystem::file_time_type LastWriteTime(const QString& path)
 {
     std::error_code error;
-    return std::filesystem::last_write_time(std::filesystem::u8path(path.toUtf8().constData()), error);
+    return std::filesystem::last_write_time(KxSystemFile::NativePath(path), error);
 }
 
 /// The first bytes of the file that `path` names now.
