@@ -23,6 +23,13 @@ if(KR_CCACHE)
         ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros ${KR_CCACHE})
 endif()
 
+if(WIN32)
+    # KrAutoReframe.dll, as Windows names libraries.
+    set(CMAKE_SHARED_LIBRARY_PREFIX "")
+    set(CMAKE_SHARED_MODULE_PREFIX "")
+    add_compile_definitions(NOMINMAX WIN32_LEAN_AND_MEAN)
+endif()
+
 add_library(KrOptions INTERFACE)
 target_compile_definitions(KrOptions INTERFACE
     QT_NO_KEYWORDS QT_NO_FOREACH QT_NO_CAST_FROM_ASCII QT_STRICT_ITERATORS QT_NO_NARROWING_CONVERSIONS_IN_CONNECT
@@ -70,4 +77,5 @@ function(kr_add_library name)
     target_link_libraries(${name} PUBLIC ${ARG_PUBLIC} PRIVATE ${ARG_PRIVATE})
     set_target_properties(${name} PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR})
     kr_configure_target(${name})
+    kr_describe(${name} "Auto Reframe: ${name}")
 endfunction()

@@ -17,8 +17,14 @@ install(TARGETS KxInterfaces KxCore KxMedia KxSubject KxModel KxRender KxWidgets
 install(TARGETS reframe auto-reframe RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
 # The desktop program loads it from here.
 install(TARGETS AutoReframeBackend LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}")
-install(FILES Packaging/auto-reframe.desktop DESTINATION "${CMAKE_INSTALL_DATADIR}/applications")
-install(FILES Packaging/icon/auto-reframe.svg DESTINATION "${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps")
+if(WIN32)
+    # No package of the system brings them.
+    install(FILES "${KX_CASCADE_FOLDER}/haarcascade_frontalface_alt2.xml" "${KX_CASCADE_FOLDER}/haarcascade_profileface.xml"
+        DESTINATION "${CMAKE_INSTALL_DATADIR}/haarcascades")
+else()
+    install(FILES Packaging/auto-reframe.desktop DESTINATION "${CMAKE_INSTALL_DATADIR}/applications")
+    install(FILES Packaging/icon/auto-reframe.svg DESTINATION "${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps")
+endif()
 # For programs that load the translation themselves; KxUIStyle::InstallTranslation() needs no file.
 install(FILES "${KR_TRANSLATION}" DESTINATION "${CMAKE_INSTALL_DATADIR}/auto-reframe/translations")
 # What Packaging/install-models has put there, if it did.

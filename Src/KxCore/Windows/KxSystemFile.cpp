@@ -99,7 +99,8 @@ std::error_code KxSystemFile::ErrorOf(const QFileDevice& file)
 
 bool KxSystemFile::IsQuotaExceeded(const std::error_code& error)
 {
-    return error == SystemError(ERROR_DISK_QUOTA_EXCEEDED);
+    constexpr DWORD quotaExceeded = 1295; // no name for it in the headers of mingw-w64
+    return error == SystemError(quotaExceeded);
 }
 
 std::error_code KxSystemFile::ToGeneric(const std::error_code& error)
