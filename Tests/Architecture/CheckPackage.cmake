@@ -2,6 +2,12 @@
 # the example of README, whose dialog is opened on a screen of its own and compared with a picture (by LOOK, a Python program).
 
 set(prefix "${WORK}/install")
+# A build for another system: its programs run in an emulator, and find libraries beside themselves.
+set(options -G Ninja "-DCMAKE_PREFIX_PATH=${prefix}" -DCMAKE_FIND_PACKAGE_NO_PACKAGE_REGISTRY=ON -DCMAKE_BUILD_TYPE=Release)
+if(TOOLCHAIN)
+    list(APPEND options "-DCMAKE_TOOLCHAIN_FILE=${TOOLCHAIN}" "-DKrAutoReframe_DIR=${prefix}/lib/cmake/KrAutoReframe"
+        "-DCMAKE_RUNTIME_OUTPUT_DIRECTORY=${prefix}/bin")
+endif()
 file(REMOVE_RECURSE "${WORK}")
 
 function(must)
@@ -15,11 +21,14 @@ endfunction()
 # As after ./run, not everything is built yet.
 file(REMOVE "${TRANSLATION}")
 must("${CMAKE_COMMAND}" --install "${BUILD}" --prefix "${prefix}")
-must("${CMAKE_COMMAND}" -S "${CONSUMER}" -B "${WORK}/build" -G Ninja "-DCMAKE_PREFIX_PATH=${prefix}"
-    "-DCMAKE_FIND_PACKAGE_NO_PACKAGE_REGISTRY=ON" "-DCMAKE_BUILD_TYPE=Release")
+must("${CMAKE_COMMAND}" -S "${CONSUMER}" -B "${WORK}/build" ${options})
 must("${CMAKE_COMMAND}" --build "${WORK}/build")
-must("${WORK}/build/consumer")
-must("${prefix}/bin/reframe" --version)
+if(TOOLCHAIN)
+    must("${EMULATOR}" "${prefix}/bin/consumer${SUFFIX}")
+else()
+    must("${WORK}/build/consumer")
+endif()
+must(${EMULATOR} "${prefix}/bin/reframe${SUFFIX}" --version)
 if(NOT EXISTS "${prefix}/share/auto-reframe/translations/auto-reframe_en.qm")
     message(FATAL_ERROR "The translation is not installed.")
 endif()
@@ -42,7 +51,9 @@ foreach(block IN ITEMS "cmake:CMakeLists.txt" "cpp:editor.cpp")
     string(SUBSTRING "${text}" 0 ${end} text)
     file(WRITE "${WORK}/example/${name}" "${text}\n")
 endforeach()
-must("${CMAKE_COMMAND}" -S "${WORK}/example" -B "${WORK}/example/build" -G Ninja "-DCMAKE_PREFIX_PATH=${prefix}"
-    "-DCMAKE_FIND_PACKAGE_NO_PACKAGE_REGISTRY=ON" "-DCMAKE_BUILD_TYPE=Release")
+must("${CMAKE_COMMAND}" -S "${WORK}/example" -B "${WORK}/example/build" ${options})
 must("${CMAKE_COMMAND}" --build "${WORK}/example/build")
+if(TOOLCHAIN)
+    return()
+endif()
 must("${PYTHON}" -B "${LOOK}" "${WORK}/example/build/editor" "${WORK}/example")
