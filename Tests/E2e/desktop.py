@@ -26,6 +26,8 @@ class Desktop:
         os.makedirs(runtime, mode=0o700, exist_ok=True)
         self.environment = dict(os.environ, DISPLAY=":" + number, XDG_RUNTIME_DIR=runtime, QT_QPA_PLATFORM="xcb",
                                 QT_FONT_DPI="96", QT_ACCESSIBILITY="0", DBUS_SESSION_BUS_ADDRESS="disabled:")
+        if os.environ.get("KR_EMULATOR"):
+            self.environment.pop("QT_QPA_PLATFORM")
         for name in ("QT_STYLE_OVERRIDE", "QT_QPA_PLATFORMTHEME", "QT_SCALE_FACTOR", "WAYLAND_DISPLAY", "XDG_SESSION_TYPE"):
             self.environment.pop(name, None)
         self._start("openbox", ["--sm-disable"], self.environment)

@@ -379,6 +379,8 @@ def main():
     config = os.path.join(folder, "config.ini")
     with open(config, "w", encoding="utf-8") as file:
         file.write(f"[Auto%20Reframe]\nOutputPath={folder}/exports\n")
+        # Not every system takes the folder of the person from HOME.
+        file.write(f"[Import]\nFolder={folder}\n")
     clip = os.path.join(folder, "walk.mp4")
     environment = {"KX_CONFIG_FILE": config, "KX_DATA": os.path.join(folder, "data"), "HOME": folder}
     size = "1600x1000"

@@ -18,7 +18,9 @@ class Screen:
         self.environment["KR_UI_REPORT"] = self.report_path
         self.log_path = os.path.join(folder, "program.log")
         self.log = open(self.log_path, "ab")
-        self.process = subprocess.Popen([program, *arguments], env=self.environment, stdout=self.log, stderr=self.log)
+        # A program for another system runs in an emulator.
+        command = [*os.environ.get("KR_EMULATOR", "").split(), program, *arguments]
+        self.process = subprocess.Popen(command, env=self.environment, stdout=self.log, stderr=self.log)
         self.shots = 0
 
     # Looking

@@ -88,17 +88,6 @@ TEST_F(KxOutputFileTest, APlaceMarkerInANameIsKept)
     }
 }
 
-TEST_F(KxOutputFileTest, AFailedRenameLeavesNoReservedNameBehind)
-{
-    auto output = KxOutputFile::Create(Path("a.txt"));
-    ASSERT_TRUE(output);
-    ASSERT_TRUE(QFile::remove((*output)->TemporaryPath()));
-    const auto written = (*output)->Commit(KxOutputFile::Existing::AddNumber);
-    ASSERT_FALSE(written);
-    EXPECT_EQ(written.Message(), QStringLiteral("Cannot write %1: there is no such file.").arg(Path("a.txt")));
-    EXPECT_TRUE(Files().isEmpty()) << Files().join(QLatin1Char(' ')).toStdString();
-}
-
 TEST_F(KxOutputFileTest, TheNextWriterRemovesThePartOfAKilledOne)
 {
     QFile dead(Path(".auto-reframe-dEaDpa.part"));

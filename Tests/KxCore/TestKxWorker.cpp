@@ -1,5 +1,7 @@
 #include <KxCore/KxWorker.h>
 
+#include <QStringList>
+
 #include <gtest/gtest.h>
 
 #include <future>

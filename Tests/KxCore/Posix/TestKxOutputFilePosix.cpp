@@ -177,3 +177,14 @@ TEST_F(KxOutputFileTest, TheReasonIsGivenWhenANameCannotBeReserved)
     ASSERT_FALSE(written);
     EXPECT_EQ(written.Message(), QStringLiteral("Cannot write %1: the disk is full.").arg(Path("a.txt")));
 }
+
+TEST_F(KxOutputFileTest, AFailedRenameLeavesNoReservedNameBehind)
+{
+    auto output = KxOutputFile::Create(Path("a.txt"));
+    ASSERT_TRUE(output);
+    ASSERT_TRUE(QFile::remove((*output)->TemporaryPath()));
+    const auto written = (*output)->Commit(KxOutputFile::Existing::AddNumber);
+    ASSERT_FALSE(written);
+    EXPECT_EQ(written.Message(), QStringLiteral("Cannot write %1: there is no such file.").arg(Path("a.txt")));
+    EXPECT_TRUE(Files().isEmpty()) << Files().join(QLatin1Char(' ')).toStdString();
+}
