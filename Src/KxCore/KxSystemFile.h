@@ -17,6 +17,9 @@ namespace KxSystemFile
 /// `path` for the functions of std::filesystem, also if it is longer than a program can usually name.
 KXCORE_API std::filesystem::path NativePath(const QString& path);
 
+/// Equal for two paths of one file, however they are written. For a missing file, its absolute path.
+KXCORE_API QString Identity(const QString& path);
+
 /// The reason why no file can have the absolute path `path`: "its name is too long".
 KXCORE_API KxError ReasonNotToName(const QString& path);
 

@@ -1,5 +1,6 @@
 #include <KxRender/KxRenderer.h>
 
+#include <KxCore/KxSystemFile.h>
 #include <KxCore/KxThread.h>
 #include <KxMedia/Read/KxVideoReader.h>
 #include <KxMedia/Write/KxMp4Writer.h>
@@ -45,8 +46,8 @@ KxError Check(const KxRenderSource& source, const KxRenderSettings& settings)
         return CannotWrite(settings, QStringLiteral("a resolution of %1 x %2 is not possible")
                                          .arg(QString::number(size.width()), QString::number(size.height())));
     }
-    const QFileInfo target(settings.outputPath);
-    if (settings.existing == KxOutputFile::Existing::Replace && target.exists() && target == QFileInfo(source.path)) {
+    if (settings.existing == KxOutputFile::Existing::Replace && QFileInfo::exists(settings.outputPath) &&
+        KxSystemFile::Identity(settings.outputPath) == KxSystemFile::Identity(source.path)) {
         return CannotWrite(settings, QStringLiteral("it is the very file that is rendered"));
     }
     return std::nullopt;

@@ -5,6 +5,7 @@
 #include <KrAutoReframe/Engine/KrAutoReframeAnalyzer.h>
 #include <KrAutoReframe/Engine/KrAutoReframeHelper.h>
 #include <KxCore/KxInterrupt.h>
+#include <KxCore/KxSystemFile.h>
 #include <KxModel/KxAutoReframeService.h>
 #include <KxModel/KxChoicesFormat.h>
 
@@ -273,11 +274,10 @@ ReframeJob::Ended ReframeJob::WriteFile(const QString& path, const QByteArray& c
 
 bool ReframeJob::WouldReplaceInput(const QString& path) const
 {
-    // Empty for a file that does not exist.
-    const QString target = QFileInfo(path).canonicalFilePath();
-    return WhenItExists(path) == KxOutputFile::Existing::Replace && !target.isEmpty() &&
+    const QString target = KxSystemFile::Identity(path);
+    return WhenItExists(path) == KxOutputFile::Existing::Replace && QFileInfo::exists(path) &&
            std::any_of(m_options.inputs.begin(), m_options.inputs.end(),
-                       [&target](const QString& input) { return QFileInfo(input).canonicalFilePath() == target; });
+                       [&target](const QString& input) { return KxSystemFile::Identity(input) == target; });
 }
 
 void ReframeJob::NoteWritten(const QString& path, const QString& fact)

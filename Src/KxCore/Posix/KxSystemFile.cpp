@@ -3,12 +3,19 @@
 #include <KxCore/KxSystemError.h>
 
 #include <QFile>
+#include <QFileInfo>
 
 #include <cerrno>
 
 std::filesystem::path KxSystemFile::NativePath(const QString& path)
 {
     return {QFile::encodeName(path).toStdString()};
+}
+
+QString KxSystemFile::Identity(const QString& path)
+{
+    const QFileInfo file(path);
+    return file.exists() ? file.canonicalFilePath() : file.absoluteFilePath();
 }
 
 KxError KxSystemFile::ReasonNotToName(const QString& path)

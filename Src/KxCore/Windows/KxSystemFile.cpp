@@ -5,6 +5,7 @@
 
 #include <QDir>
 #include <QFileDevice>
+#include <QFileInfo>
 
 #include <array>
 #include <utility>
@@ -67,6 +68,13 @@ std::filesystem::path KxSystemFile::NativePath(const QString& path)
                                                           : QStringLiteral("\\\\?\\") + native;
     }
     return {native.toStdWString()};
+}
+
+QString KxSystemFile::Identity(const QString& path)
+{
+    const QFileInfo file(path);
+    // Capital and small letters name the same file, and Qt keeps them as they were written.
+    return (file.exists() ? file.canonicalFilePath() : file.absoluteFilePath()).toCaseFolded();
 }
 
 KxError KxSystemFile::ReasonNotToName(const QString& path)

