@@ -69,7 +69,7 @@ QMap<QString, double*> Values(KxSubjectOptions& options)
             {QStringLiteral("detectionPersonUpperShare"), &options.detections.personUpperShare},
             {QStringLiteral("speechHeadShare"), &speech.headShare},
             {QStringLiteral("speechOpeningWeight"), &speech.openingWeight},
-            {QStringLiteral("speechActivityNeeded"), &speech.activityNeeded},
+            {QStringLiteral("speechRestShare"), &speech.restShare},
             {QStringLiteral("speechMostActivity"), &speech.mostActivity},
             {QStringLiteral("speechActivityWeight"), &speech.activityWeight},
             {QStringLiteral("speechNobody"), &speech.nobody},

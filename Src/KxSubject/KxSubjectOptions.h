@@ -10,7 +10,8 @@
 /// - clips: chosen by the score of "Against ground truth" in Docs/ANALYSIS.md;
 /// - spread: the same, and `Benchmarks/spread` measures how much depends on it ("Sensitivity to the tuning values"
 /// there);
-/// - speech: taken from a study with other clips and kept ("Who speaks" there);
+/// - speech: taken from a study on the same clips ("Who speaks" there), and kept;
+/// - talk: chosen by trial on the clips of "Who speaks" there;
 /// - cross: `Benchmarks/crossvalidate` chose it on some clips and scored it on the others;
 /// - shots: chosen on the videos of "Shot boundaries" there;
 /// - chosen: hardly matters within its range.
@@ -191,12 +192,13 @@ struct KxSubjectOptions {
     struct Mouths {
         double periodSeconds = 0.06;      ///< 0.04 to 0.08: pictures that follow faster are skipped; chosen
         double mostPeriodSeconds = 0.25;  ///< 0.15 to 0.3: a mouth is not compared over a longer pause; chosen
-        double smoothingSeconds = 0.36;   ///< 0.2 to 0.5, of the face's box; speech
-        double delaySeconds = 0.5;        ///< 0.4 to 1: the box is known so much later; chosen
+        double smoothingSeconds = 0.36;   ///< 0.2 to 0.5, of the face's place; speech
+        double sizeSeconds = 1.5;         ///< 0.5 to 2, of its size, which the cascades find less exactly; talk
+        double delaySeconds = 1.0;        ///< 0.7 to 1.5: the box is known so much later; chosen
         double aloneSeconds = 3.0;        ///< 1 to 5 after the second face was lost, which may return; chosen
         double nearestHitSeconds = 0.3;   ///< 0.2 to 0.5: without a hit so near, the box is unknown; chosen
         double acrossMissesSeconds = 1.0; ///< 0.6 to 2 between two hits, in which it is interpolated; chosen
-        double leastFacePx = 24.0;        ///< 20 to 30: the mouth of a smaller face is not resolved; speech
+        double leastFacePx = 20.0;        ///< 16 to 30: the mouth of a smaller face is not resolved; chosen
         double growth = 1.1;              ///< 1 to 1.3 times the box is cut out; speech
         double mostShiftPx = 3.0;         ///< 2 to 5 of 44 across the face: a larger translation is an error; speech
         int mostFaces = 4;                ///< 2 to 6 at once, the largest ones; bounds the cost of a crowd; chosen
@@ -214,9 +216,9 @@ struct KxSubjectOptions {
         double meanSeconds = 1.5;      ///< 1 to 2 each way, of a local mean; speech
         double deviationSeconds = 3.0; ///< 2 to 5 each way, of a local deviation; speech
         double mostScore = 3.0;        ///< 2 to 4 deviations; speech
-        double headShare = 0.7;        ///< 0.4 to 1 of the head's movement, which the mouth does by itself; speech
+        double headShare = 1.0;        ///< 0.4 to 1 of the head's movement, which the mouth does by itself; talk
         double openingSeconds = 0.6;   ///< 0.4 to 1: the mean opening over this time is no movement; speech
-        double openingWeight = 0.6;    ///< 0.3 to 1 of the opening, against the movement; speech
+        double openingWeight = 1.5;    ///< 1 to 2 of the opening, against the movement; talk
         double productScale = 1.6;     ///< 1 to 2; speech
         double mostProduct = 2.5;      ///< 2 to 4; speech
         int mostLagBefore = 4;         ///< 2 to 8 steps that the sound may be later than the lips; speech
@@ -225,11 +227,12 @@ struct KxSubjectOptions {
         double activitySeconds = 1.0;  ///< 0.5 to 2; speech
         double activityHead = 0.6;     ///< 0.4 to 0.8 of the head's movement; speech
         double activityFloor = 0.02;   ///< 0.01 to 0.04 deviations; speech
-        double activityNeeded = 0.2;   ///< 0 to 0.4: a mouth that moves less is likely silent; speech
-        double mostActivity = 0.2;     ///< 0.1 to 0.4: chewing is no speech; speech
-        double activityWeight = 0.2;   ///< 0.1 to 0.4, against the correlation; speech
+        double restSeconds = 1.0;      ///< 0.5 to 3 of silence that show how a mouth moves at rest; chosen
+        double restShare = 0.25;       ///< 0.1 to 0.4: without silence, the mouth rests this share of the time; talk
+        double mostActivity = 0.5;     ///< 0.2 to 1 above rest; talk
+        double activityWeight = 0.6;   ///< 0.4 to 0.8, against the correlation; talk
         double nobody = 0.05;          ///< 0.02 to 0.1: what a speaker's evidence has to exceed; speech
-        double changeCost = 9.0;       ///< 5 to 15 of a change of speaker, in steps of evidence; speech
+        double changeCost = 12.0;      ///< 9 to 16 of a change of speaker, in steps of evidence; talk
         double leastRunSeconds = 0.7;  ///< 0.5 to 1: a shorter turn is not followed; speech
         double leastSeconds = 2.0;     ///< 1.5 to 4 that each of two faces lasts; speech
         double leastMargin = 0.05;     ///< 0.02 to 0.1, mean evidence ahead of the next face; speech

@@ -74,7 +74,7 @@ struct KxMouthLook {
     std::uint8_t frames = 1;    ///< since the picture it is compared with, at least 1
     std::uint16_t movement = 0; ///< of the mouth once the head's own translation is undone; One is 1
     std::uint16_t head = 0;     ///< of the eyes and nose, likewise
-    std::int16_t opening = 0;   ///< how far the lower lip moved from the upper one; One is 1
+    std::int16_t opening = 0;   ///< how far the lower lip moved down, less the forehead; One is 1
 };
 
 /// The mouth of one face over time.

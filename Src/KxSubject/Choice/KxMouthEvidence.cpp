@@ -130,11 +130,11 @@ void KxMouthEvidence::Correlate(const KxHeardSound& sound)
     }
     moved = scores(KxSeries::MeansAround(moved, 1));
     opened = scores(opened);
+    const double scale = std::hypot(1.0, m_options.openingWeight);
     Values mouth(count, 0.0);
     for (std::size_t i = 0; i < count; ++i) {
-        mouth[i] =
-            (moved[i] + Later(moved, i, 1)) / 2.0 + m_options.openingWeight * (opened[i] + Later(opened, i, -1)) / 2.0;
-        mouth[i] = m_measured[i] ? mouth[i] : 0.0;
+        const double both = (moved[i] + Later(moved, i, 1)) / 2.0 + m_options.openingWeight * opened[i];
+        mouth[i] = m_measured[i] ? both / scale : 0.0;
     }
     const auto product = [&](std::ptrdiff_t lag) {
         Values products(count);
@@ -171,14 +171,31 @@ double KxMouthEvidence::MeasuredSeconds() const
     return static_cast<double>(std::count(m_measured.begin(), m_measured.end(), true)) / KxSoundSpan::LevelsPerSecond;
 }
 
+double KxMouthEvidence::ActivityAtRest(const std::vector<bool>& gate) const
+{
+    Values all;
+    double sum = 0.0;
+    std::size_t silent = 0;
+    for (std::size_t i = 0; i < gate.size(); ++i) {
+        if (m_measured[i]) {
+            all.push_back(m_activity[i]);
+            sum += gate[i] ? 0.0 : m_activity[i];
+            silent += gate[i] ? 0 : 1;
+        }
+    }
+    if (silent > StepsOf(m_options.restSeconds)) {
+        return sum / static_cast<double>(silent);
+    }
+    return all.empty() ? 0.0 : KxSeries::Percentile(std::move(all), m_options.restShare);
+}
+
 KxSeries::Values KxMouthEvidence::Emissions(const std::vector<bool>& gate) const
 {
+    const double rest = ActivityAtRest(gate);
     Values emissions(gate.size(), 0.0);
     for (std::size_t i = 0; i < gate.size(); ++i) {
         if (gate[i]) {
-            const double active =
-                m_measured[i] ? std::clamp(m_activity[i] - m_options.activityNeeded, -1.0, m_options.mostActivity)
-                              : -1.0;
+            const double active = m_measured[i] ? std::clamp(m_activity[i] - rest, -1.0, m_options.mostActivity) : -1.0;
             emissions[i] = m_correlation[i] + m_options.activityWeight * active;
         }
     }

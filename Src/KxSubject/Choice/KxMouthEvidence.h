@@ -31,6 +31,8 @@ public:
 private:
     void Sample(const KxSubjectRecord& record, std::int64_t first, const std::vector<std::size_t>& faces);
     void Correlate(const KxHeardSound& sound);
+    /// While nothing is heard; otherwise while it is lowest. A mouth that chews has no other.
+    double ActivityAtRest(const std::vector<bool>& gate) const;
 
     KxSubjectOptions::Speech m_options;
     std::vector<bool> m_measured;

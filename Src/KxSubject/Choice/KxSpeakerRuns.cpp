@@ -53,11 +53,14 @@ std::vector<KxSpeakerRun> RunsOf(const std::vector<std::size_t>& states, std::si
     return runs;
 }
 
-/// Each run until the next one; neighbours of one person become one run.
-std::vector<KxSpeakerRun> Stretched(const std::vector<KxSpeakerRun>& runs, std::size_t steps)
+/// Each run from its first sound until the next one; neighbours of one person become one run.
+std::vector<KxSpeakerRun> Stretched(const std::vector<KxSpeakerRun>& runs, const std::vector<bool>& gate)
 {
     std::vector<KxSpeakerRun> stretched;
-    for (const KxSpeakerRun& run : runs) {
+    for (KxSpeakerRun run : runs) {
+        const auto first = gate.begin() + static_cast<std::ptrdiff_t>(run.first);
+        const auto heard = std::find(first, gate.begin() + static_cast<std::ptrdiff_t>(run.end) - 1, true);
+        run.first = static_cast<std::size_t>(heard - gate.begin());
         if (stretched.empty()) {
             stretched.push_back({run.person, 0, run.end});
         } else if (stretched.back().person != run.person) {
@@ -66,7 +69,7 @@ std::vector<KxSpeakerRun> Stretched(const std::vector<KxSpeakerRun>& runs, std::
         }
     }
     if (!stretched.empty()) {
-        stretched.back().end = steps;
+        stretched.back().end = gate.size();
     }
     return stretched;
 }
@@ -101,5 +104,5 @@ KxSpeakerRuns::KxSpeakerRuns(const std::vector<KxSeries::Values>& emissions, con
     }
     margin = steps > 0 ? margin / static_cast<double>(steps) : 0.0;
     speechSeconds = static_cast<double>(steps) / KxSoundSpan::LevelsPerSecond;
-    runs = Stretched(spoken, gate.size());
+    runs = Stretched(spoken, gate);
 }

@@ -12,10 +12,9 @@ const cv::Rect Face(6, 6, 32, 46);
 const cv::Rect EyesAndNose(4, 6, 36, 28);
 const cv::Rect Head(6, 6, 32, 22);
 const cv::Rect Mouth(11, 33, 22, 19);
-/// The optical flow is computed here alone.
-const cv::Rect Lips(8, 26, 28, 30);
-const cv::Rect UpperLip(13, 30, 18, 8);
-const cv::Rect LowerLip(13, 42, 18, 11);
+/// Their vertical flow: the lower lip with the chin, and the forehead with the eyes.
+const cv::Rect LowerLip(13, 44, 18, 10);
+const cv::Rect Forehead(8, 8, 28, 18);
 /// On top of the face's deviation, so that noise on a plain patch is no movement.
 constexpr double LeastDeviation = 4.0;
 
@@ -26,7 +25,7 @@ double MeanDifference(const cv::Mat& a, const cv::Mat& b, const cv::Rect& part)
 
 double MeanVertical(const cv::Mat& flow, const cv::Rect& part)
 {
-    return cv::mean(flow(part - Lips.tl()))[1];
+    return cv::mean(flow(part))[1];
 }
 
 } // namespace
@@ -57,12 +56,12 @@ KxMouthPatch::Movement KxMouthPatch::Since(const KxMouthPatch& before, double mo
     cv::meanStdDev(m_patch(Face), mean, deviation);
     const double unit = deviation[0] + LeastDeviation;
 
-    cv::Mat lipsBefore;
-    cv::Mat lips;
+    cv::Mat bytesBefore;
+    cv::Mat bytes;
     cv::Mat flow;
-    moved(Lips).convertTo(lipsBefore, CV_8UC1);
-    m_patch(Lips).convertTo(lips, CV_8UC1);
-    cv::calcOpticalFlowFarneback(lipsBefore, lips, flow, 0.5, 1, 9, 2, 5, 1.1, 0);
+    moved.convertTo(bytesBefore, CV_8UC1);
+    m_patch.convertTo(bytes, CV_8UC1);
+    cv::calcOpticalFlowFarneback(bytesBefore, bytes, flow, 0.5, 1, 9, 2, 5, 1.1, 0);
     return {MeanDifference(m_patch, moved, Mouth) / unit, MeanDifference(m_patch, moved, Head) / unit,
-            MeanVertical(flow, LowerLip) - MeanVertical(flow, UpperLip)};
+            MeanVertical(flow, LowerLip) - MeanVertical(flow, Forehead)};
 }

@@ -17,7 +17,7 @@ public:
     struct Movement {
         double mouth = 0.0;   ///< mean difference around the mouth, in standard deviations of the face
         double head = 0.0;    ///< the same around eyes and nose
-        double opening = 0.0; ///< pixels of the patch that the lower lip moved away from the upper one
+        double opening = 0.0; ///< pixels of the patch that the lower lip moved down, less the forehead
     };
     /// Since `before`. A translation of more than `mostShiftPx` is taken for an error and not undone.
     Movement Since(const KxMouthPatch& before, double mostShiftPx) const;

@@ -91,24 +91,32 @@ std::optional<cv::Rect2d> KxMouthTracks::HitAt(const KxFaceTrack& track, double 
     return RectOf(untilAfter < sinceBefore ? *after : *std::prev(before));
 }
 
-std::optional<cv::Rect2d> KxMouthTracks::BoxAt(const KxFaceTrack& track, double seconds, bool isFromDetector) const
+cv::Rect2d KxMouthTracks::MeanBox(const KxFaceTrack& track, double seconds, double overSeconds) const
 {
-    if (!HitAt(track, seconds)) {
-        return std::nullopt;
-    }
     cv::Rect2d sum;
     int count = 0;
     for (int i = 0; i < Places; ++i) {
-        const double offset = (static_cast<double>(i) / (Places - 1) - 0.5) * m_options.smoothingSeconds;
+        const double offset = (static_cast<double>(i) / (Places - 1) - 0.5) * overSeconds;
         if (const std::optional<cv::Rect2d> box = HitAt(track, seconds + offset)) {
             sum = Sum(sum, 1.0, *box, 1.0);
             ++count;
         }
     }
-    const cv::Rect2d found = Sum(sum, 1.0 / count, {}, 0.0);
-    if (found.width < m_options.leastFacePx) {
+    return Sum(sum, 1.0 / std::max(1, count), {}, 0.0);
+}
+
+std::optional<cv::Rect2d> KxMouthTracks::BoxAt(const KxFaceTrack& track, double seconds, bool isFromDetector) const
+{
+    if (!HitAt(track, seconds)) {
         return std::nullopt;
     }
+    const cv::Rect2d place = MeanBox(track, seconds, m_options.smoothingSeconds);
+    const cv::Rect2d size = MeanBox(track, seconds, m_options.sizeSeconds);
+    if (size.width < m_options.leastFacePx) {
+        return std::nullopt;
+    }
+    const cv::Rect2d found(place.x + (place.width - size.width) / 2.0, place.y + (place.height - size.height) / 2.0,
+                           size.width, size.height);
     const cv::Rect2d box = isFromDetector ? found : FromBrowToChin(found);
     const double grown = (m_options.growth - 1.0) / 2.0;
     return cv::Rect2d(box.x - grown * box.width, box.y - grown * box.height, box.width * m_options.growth,

@@ -14,7 +14,7 @@
 #include <optional>
 
 /// The mouths of a video over time, while two or more faces are followed. Faces are looked at less often than mouths
-/// move, so pictures are kept for half a second, until the faces' places in them are known. Costs next to nothing
+/// move, so pictures are kept for a second, until the faces' places in them are known. Costs next to nothing
 /// while there are fewer faces.
 class KXSUBJECT_API KxMouthTracks
 {
@@ -42,6 +42,8 @@ private:
     };
     double SecondsAt(std::int64_t frame) const { return static_cast<double>(frame) / m_frameRate; }
     std::optional<cv::Rect2d> HitAt(const KxFaceTrack& track, double seconds) const;
+    /// Of the boxes around a time.
+    cv::Rect2d MeanBox(const KxFaceTrack& track, double seconds, double overSeconds) const;
     void Measure(const Picture& picture, const KxFaceTracks& faces);
 
     KxSubjectOptions::Mouths m_options;
