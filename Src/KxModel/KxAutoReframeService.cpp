@@ -233,6 +233,12 @@ void KxAutoReframeService::SetFindings(Findings findings)
     m_settings.wantsFindings = findings == Findings::Keep;
 }
 
+void KxAutoReframeService::SetSpeakers(Speakers speakers)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_settings.followsSpeaker = speakers == Speakers::Follow;
+}
+
 std::shared_ptr<const KxSubjectFindings> KxAutoReframeService::LastFindings() const
 {
     const std::lock_guard<std::mutex> lock(m_mutex);

@@ -63,6 +63,10 @@ public:
     /// Whether the tasks that start from now on keep their intermediate results; by default they do not. Any thread.
     enum class Findings { Drop, Keep };
     void SetFindings(Findings findings);
+    /// Whether the tasks that start from now on follow who speaks, where several people talk; by default they do. Any
+    /// thread.
+    enum class Speakers { Ignore, Follow };
+    void SetSpeakers(Speakers speakers);
     /// Of the task whose results `GetResults` returns; null if it did not keep them, or failed. Any thread.
     std::shared_ptr<const KxSubjectFindings> LastFindings() const;
 

@@ -39,7 +39,13 @@ KxSubjectSource SourceOf(const KxVideoFacts& video)
 KxSubjectRequest RequestFor(const IKxAutoReframeParam& param, const KxAnalysisSettings& settings)
 {
     const bool wantsFindings = settings.wantsFindings || settings.wantsShots;
-    return {param.targetSize().width(), param.targetSize().height(), SpeedOfMode(param.mode()), wantsFindings, settings.choices};
+    return {param.targetSize().width(),
+            param.targetSize().height(),
+            SpeedOfMode(param.mode()),
+            wantsFindings,
+            settings.choices,
+            {},
+            settings.followsSpeaker ? KxSpeakerMode::Auto : KxSpeakerMode::Off};
 }
 
 KxPictureView ViewOf(const QImage& image)
@@ -67,6 +73,8 @@ KxAutoReframeDoubt DoubtOf(const KxSubjectFindings::Shot& shot)
     case KxShotDoubt::SeveralPlaces:
         return KxAutoReframeDoubt::SeveralPlaces;
     case KxShotDoubt::SeveralPeople:
+    case KxShotDoubt::SpeakerUnclear:
+    case KxShotDoubt::SpeakerHardlyClear:
         return KxAutoReframeDoubt::SeveralPeople;
     }
     return KxAutoReframeDoubt::None;

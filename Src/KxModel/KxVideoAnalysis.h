@@ -52,6 +52,7 @@ struct KxAnalysisSettings {
     QString networkFolder; ///< of the optional detectors (KxDetectorFiles); empty: none
     bool wantsFindings = false;
     bool wantsShots = false;
+    bool followsSpeaker = true;             ///< where several people talk
     std::shared_ptr<KxRecordStore> records; ///< null: every analysis looks at the video
     KxSubjectChoices choices;               ///< of the person, for this video
     std::shared_ptr<KxFollowTracks> tracks; ///< null: what is followed is looked for anew each time

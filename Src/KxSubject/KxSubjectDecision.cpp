@@ -63,6 +63,9 @@ private:
     void AddCrops(const Shot& shot, const KxCancelToken& cancel, std::vector<KxCropRect>& crops);
     /// With several people who talk: on the one who speaks, where `centres`, the choice without sound, would lose them.
     void FollowSpeaker(const Shot& shot, const KxCancelToken& cancel, std::vector<double>& centres);
+    std::vector<double> CentresOnSpeakers(const KxSpeakerChoice& choice,
+                                          const std::vector<KxSpeakerChoice::Part>& parts,
+                                          const KxCancelToken& cancel) const;
     void RecordFindings(const Shot& shot, const ShotEvidence& evidence, const std::vector<KxPathPoint>& points,
                         std::size_t firstSample);
     KxSubjectOptions::Reaction ReactionIn(const ShotEvidence& evidence) const;
@@ -244,23 +247,43 @@ void Decider::FollowSpeaker(const Shot& shot, const KxCancelToken& cancel, std::
         return;
     }
     const KxSpeakerChoice choice(m_record, m_options.speech, shot.first, shot.end);
-    if (!choice.IsClear() || choice.ShareHeld(centres, m_geometry) >= m_options.speech.enoughHeld) {
-        return;
+    KxSpeech speech = !choice.HasSeveral() ? KxSpeech::None : choice.IsClear() ? KxSpeech::Followed : KxSpeech::Unclear;
+    if (speech == KxSpeech::Followed && choice.ShareHeld(centres, m_geometry) >= m_options.speech.enoughHeld) {
+        speech = KxSpeech::Held;
     }
+    const std::vector<KxSpeakerChoice::Part> parts =
+        speech == KxSpeech::Followed ? choice.Parts(m_geometry) : std::vector<KxSpeakerChoice::Part>();
+    if (!parts.empty()) {
+        centres = CentresOnSpeakers(choice, parts, cancel);
+    }
+    if (m_request.wantsFindings && !m_findings.shots.empty()) {
+        KxSubjectFindings::Shot& found = m_findings.shots.back();
+        found.speech = speech;
+        if (!parts.empty()) {
+            found.speakerChanges = static_cast<int>(parts.size()) - 1;
+            found.confidence = static_cast<float>(choice.Confidence());
+        }
+    }
+}
+
+std::vector<double> Decider::CentresOnSpeakers(const KxSpeakerChoice& choice,
+                                               const std::vector<KxSpeakerChoice::Part>& parts,
+                                               const KxCancelToken& cancel) const
+{
     const KxCropPath path(m_options.path, m_options.For(m_request.speed), m_geometry);
     const auto step =
         std::max<std::int64_t>(1, std::llround(m_record.source.frameRate / m_options.sampling.samplesPerSecond));
-    std::vector<double> followed;
-    for (const KxSpeakerChoice::Part& part : choice.Parts(m_geometry)) {
+    std::vector<double> centres;
+    for (const KxSpeakerChoice::Part& part : parts) {
         std::vector<KxPathPoint> points;
         for (std::int64_t frame = part.first; frame < part.end; frame += step) {
             points.push_back({frame, choice.CentreAt(part, frame, m_geometry.FreeAxis())});
         }
         const std::vector<double> drawn =
             path.Draw(points, {part.first, part.end, m_record.source.frameRate}, 0.5, cancel);
-        followed.insert(followed.end(), drawn.begin(), drawn.end());
+        centres.insert(centres.end(), drawn.begin(), drawn.end());
     }
-    centres = std::move(followed);
+    return centres;
 }
 
 void Decider::RecordFindings(const Shot& shot, const ShotEvidence& evidence, const std::vector<KxPathPoint>& points,
@@ -288,7 +311,8 @@ void Decider::RecordFindings(const Shot& shot, const ShotEvidence& evidence, con
     }
     const auto dominant = std::max_element(totals.begin(), totals.end()) - totals.begin();
     m_findings.shots.push_back({shot.first, shot.end, static_cast<KxSignal>(dominant),
-                                whole > 0.0F ? inside / whole : 0.0F, whole / static_cast<float>(points.size())});
+                                whole > 0.0F ? inside / whole : 0.0F, whole / static_cast<float>(points.size()),
+                                KxSpeech::None, 0});
 }
 
 KxSubjectDecision Decider::Run(const KxCancelToken& cancel)

@@ -11,6 +11,14 @@
 enum class KxSignal { Motion, Movers, Saliency, Faces, Detections };
 constexpr std::size_t KxSignalCount = 5;
 
+/// What a shot does about people who talk.
+enum class KxSpeech {
+    None,    ///< fewer than two faces that last, or no sound
+    Unclear, ///< it is not clear who speaks: the choice is made without the sound
+    Held,    ///< the choice without the sound holds who speaks
+    Followed ///< the crop follows who speaks
+};
+
 /// Intermediate results of an analysis, which explain the position of each crop.
 struct KxSubjectFindings {
     struct Sample {
@@ -25,8 +33,10 @@ struct KxSubjectFindings {
         std::int64_t first = 0;
         std::int64_t end = 0;
         KxSignal dominantSignal = KxSignal::Saliency; ///< the one with the highest score over the shot
-        float confidence = 0.0F;                      ///< 0 to 1: the share of the evidence that the crop holds
-        float evidence = 0.0F;                        ///< the mean sum of the samples' evidence; 0: nothing stands out
+        float confidence = 0.0F; ///< 0 to 1: the share of the evidence that the crop holds; of speech, if followed
+        float evidence = 0.0F;   ///< the mean sum of the samples' evidence; 0: nothing stands out
+        KxSpeech speech = KxSpeech::None;
+        int speakerChanges = 0; ///< how often the crop changes between people who speak
     };
 
     KxAxis freeAxis = KxAxis::Across;

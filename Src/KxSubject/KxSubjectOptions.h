@@ -232,7 +232,7 @@ struct KxSubjectOptions {
         double mostActivity = 0.5;     ///< 0.2 to 1 above rest; talk
         double activityWeight = 0.6;   ///< 0.4 to 0.8, against the correlation; talk
         double nobody = 0.05;          ///< 0.02 to 0.1: what a speaker's evidence has to exceed; speech
-        double changeCost = 12.0;      ///< 9 to 16 of a change of speaker, in steps of evidence; talk
+        double changeCost = 14.0;      ///< 9 to 16 of a change of speaker, in steps of evidence; talk
         double leastRunSeconds = 0.7;  ///< 0.5 to 1: a shorter turn is not followed; speech
         double leastSeconds = 2.0;     ///< 1.5 to 4 that each of two faces lasts; speech
         double leastMargin = 0.05;     ///< 0.02 to 0.1, mean evidence ahead of the next face; speech

@@ -28,6 +28,9 @@ KxSubjectRecord Record()
     record.movers = {{3, 1.5F, 0.2F, {{10, 20, 30, 40}, {12, 20, 32, 40}}}, {38, 0.5F, 0.1F, {{0, 0, 255, 255}}}};
     record.faces = {{{{0.5F, 10, 20, 30, 40}, {0.75F, 0, 0, 0, 0}, {1.0F, -2, 20, 30, 40}}}};
     record.looks = {{0, {{0.1F, 0.2F, 0.3F, 0.4F, 0.9F, KxDetectionKind::Animal}}}, {25, {}}};
+    record.faces.push_back(record.faces[0]);
+    record.mouths = {{0, {{4, 2, 700, 300, -120}, {6, 2, 65535, 0, 32767}}}, {1, {{4, 255, 0, 0, -32768}}}};
+    record.sound = {{50, {-7000, -2345, 0}}, {53, {-100}}};
     return record;
 }
 
@@ -56,6 +59,9 @@ TEST(KxSubjectRecordFormat, ARecordComesBackAsItWasWritten)
     EXPECT_EQ(read->movers[1].boxes, written.movers[1].boxes);
     EXPECT_EQ(read->faces[0].looks[2].x, -2);
     EXPECT_EQ(read->looks[0].found[0].kind, KxDetectionKind::Animal);
+    EXPECT_EQ(read->mouths[0].looks[1].movement, 65535);
+    EXPECT_EQ(read->mouths[1].looks[0].opening, -32768);
+    EXPECT_EQ(read->sound[0].levels, written.sound[0].levels);
     EXPECT_EQ(KxSubjectRecordFormat::Write(*read), bytes) << "everything comes back";
 }
 
@@ -123,7 +129,18 @@ TEST(KxSubjectRecordFormat, WhatNoObserverSeesIsRefused)
         [](KxSubjectRecord& record) { record.looks[1].frame = 0; },
         [](KxSubjectRecord& record) { record.looks[0].found[0].width = 0.95F; },
         [](KxSubjectRecord& record) { record.looks[0].found[0].score = std::numeric_limits<float>::quiet_NaN(); },
-        [](KxSubjectRecord& record) { record.looks[0].found[0].kind = static_cast<KxDetectionKind>(2); }};
+        [](KxSubjectRecord& record) { record.looks[0].found[0].kind = static_cast<KxDetectionKind>(2); },
+        [](KxSubjectRecord& record) { record.mouths[0].face = -1; },
+        [](KxSubjectRecord& record) { record.mouths[1].face = 2; },
+        [](KxSubjectRecord& record) { record.mouths[1].face = 0; },
+        [](KxSubjectRecord& record) { record.mouths[0].looks.clear(); },
+        [](KxSubjectRecord& record) { record.mouths[0].looks[1].frame = 4; },
+        [](KxSubjectRecord& record) { record.mouths[0].looks[1].frame = 100; },
+        [](KxSubjectRecord& record) { record.mouths[0].looks[0].frames = 0; },
+        [](KxSubjectRecord& record) { record.sound[0].first = -1; },
+        [](KxSubjectRecord& record) { record.sound[1].first = 52; },
+        [](KxSubjectRecord& record) { record.sound[1].first = std::numeric_limits<std::int64_t>::max(); },
+        [](KxSubjectRecord& record) { record.sound[0].levels.clear(); }};
     for (std::size_t i = 0; i < damages.size(); ++i) {
         KxSubjectRecord record = Record();
         damages[i](record);

@@ -38,6 +38,9 @@ TEST(ReframeOptions, SpeedsBecomeTheNumbersOfTheAnalysis)
     EXPECT_EQ(Parse(Words("--speed fast a.mp4")).options->speedMode, 8);
     EXPECT_EQ(Parse(Words("--speed slow a.mp4")).options->speedMode, 24);
     EXPECT_EQ(Parse(Words("--speed auto a.mp4")).options->speedMode, 16);
+    EXPECT_TRUE(Parse(Words("a.mp4")).options->followsSpeaker);
+    EXPECT_TRUE(Parse(Words("--speaker auto a.mp4")).options->followsSpeaker);
+    EXPECT_FALSE(Parse(Words("--speaker off a.mp4")).options->followsSpeaker);
 }
 
 TEST(ReframeOptions, AcceptsEveryPresetAndOtherWholeNumbers)
@@ -75,7 +78,7 @@ TEST(ReframeOptions, RefusesAnInvalidAspectRatioAndQuotesIt)
 TEST(ReframeOptions, WrongUseIsOneErrorMessageAndStatusTwo)
 {
     for (const char* line :
-         {"--speed quick a.mp4", "--no-such-option a.mp4", "--output o.mp4 --no-video a.mp4",
+         {"--speed quick a.mp4", "--speaker on a.mp4", "--no-such-option a.mp4", "--output o.mp4 --no-video a.mp4",
           "--output o.mp4 a.mp4 b.mp4", "--apply t.json a.mp4 b.mp4", "--aspect", "--output o.avi a.mp4",
           "--output folder/ a.mp4", "--keyframes k.txt a.mp4", "--preview p.jpg a.mp4", "--report r.txt a.mp4",
           "--report r.html --apply t.json a.mp4", "--report r.html a.mp4 b.mp4", "--preview p.mp4 a.mp4 b.mp4",
@@ -144,8 +147,9 @@ TEST(ReframeOptions, HelpAndVersionNeedNoInput)
     const auto help = Parse({QStringLiteral("--help")});
     EXPECT_FALSE(help.options);
     EXPECT_EQ(help.exitStatus, ReframeExit::Done);
-    for (const char* option : {"--aspect", "--speed", "--cache", "--output", "--keyframes", "--apply", "--no-video",
-                               "--preview", "--report", "--models", "--json", "--quiet", "--version", "--overwrite"}) {
+    for (const char* option :
+         {"--aspect", "--speed", "--cache", "--output", "--keyframes", "--apply", "--no-video", "--preview", "--report",
+          "--models", "--speaker", "--json", "--quiet", "--version", "--overwrite"}) {
         EXPECT_TRUE(help.text.contains(QLatin1String(option))) << option;
     }
     EXPECT_EQ(Parse({QStringLiteral("--version")}).exitStatus, ReframeExit::Done);

@@ -157,9 +157,11 @@ private:
 
     static QString ConfidenceOf(const KxSubjectFindings::Shot& shot)
     {
-        const QString doubt = FoundSignals::Doubt(shot);
-        return doubt.isEmpty() ? FoundSignals::Confidence(shot)
-                               : QStringLiteral("%1: %2").arg(FoundSignals::Confidence(shot), doubt);
+        QStringList remarks{FoundSignals::Doubt(shot), FoundSignals::Speech(shot)};
+        remarks.removeAll(QString());
+        return remarks.isEmpty()
+                   ? FoundSignals::Confidence(shot)
+                   : QStringLiteral("%1: %2").arg(FoundSignals::Confidence(shot), remarks.join(QStringLiteral("; ")));
     }
 
     double Travel(const KxSubjectFindings::Shot& shot) const

@@ -117,6 +117,10 @@ QString FoundSignals::Doubt(const KxSubjectFindings::Shot& shot)
     switch (KxDoubtOf(shot)) {
     case KxShotDoubt::None:
         return {};
+    case KxShotDoubt::SpeakerUnclear:
+        return QStringLiteral("it is not clear who speaks");
+    case KxShotDoubt::SpeakerHardlyClear:
+        return QStringLiteral("who speaks is hardly clear");
     case KxShotDoubt::NothingStandsOut:
         return QStringLiteral("nothing stands out");
     case KxShotDoubt::SeveralPlaces:
@@ -130,4 +134,25 @@ QString FoundSignals::Doubt(const KxSubjectFindings::Shot& shot)
 QString FoundSignals::Confidence(const KxSubjectFindings::Shot& shot)
 {
     return QStringLiteral("%1 %").arg(qRound(shot.confidence * 100.0F));
+}
+
+QString FoundSignals::Speech(const KxSubjectFindings::Shot& shot)
+{
+    switch (shot.speech) {
+    case KxSpeech::None:
+    case KxSpeech::Unclear:
+        return {};
+    case KxSpeech::Held:
+        return QStringLiteral("holds who speaks");
+    case KxSpeech::Followed:
+        break;
+    }
+    switch (shot.speakerChanges) {
+    case 0:
+        return QStringLiteral("follows who speaks");
+    case 1:
+        return QStringLiteral("follows who speaks, with 1 cut");
+    default:
+        return QStringLiteral("follows who speaks, with %1 cuts").arg(shot.speakerChanges);
+    }
 }

@@ -28,6 +28,8 @@ double DominantShare(const KxSubjectFindings& findings, const KxSubjectFindings:
 /// Why a person should look at a shot; empty if nothing speaks against it. A fifth of the shots of ordinary videos is
 /// doubtful.
 QString Doubt(const KxSubjectFindings::Shot& shot);
+/// What the crop does about people who talk, in words; empty if there are none, or nothing is known.
+QString Speech(const KxSubjectFindings::Shot& shot);
 /// "62 %".
 QString Confidence(const KxSubjectFindings::Shot& shot);
 } // namespace FoundSignals

@@ -189,6 +189,10 @@ void ReframeJob::NoteShots()
         if (!doubt.isEmpty()) {
             fact.insert(QStringLiteral("doubt"), doubt);
         }
+        const QString speech = FoundSignals::Speech(shot);
+        if (!speech.isEmpty()) {
+            fact.insert(QStringLiteral("speech"), speech);
+        }
         shots.append(fact);
     }
     m_facts.insert(QStringLiteral("shots"), shots);

@@ -20,6 +20,9 @@ struct Definitions {
     QCommandLineOption speed{QStringLiteral("speed"),
                              QStringLiteral("How readily the crop follows: auto, fast or slow (auto)."),
                              QStringLiteral("SPEED"), QStringLiteral("auto")};
+    QCommandLineOption speaker{QStringLiteral("speaker"),
+                               QStringLiteral("Where several people talk, follow who speaks: auto or off (auto)."),
+                               QStringLiteral("MODE"), QStringLiteral("auto")};
     QCommandLineOption output{QStringLiteral("output"),
                               QStringLiteral("Where to write the video; beside the input when not given."),
                               QStringLiteral("FILE|FOLDER")};
@@ -62,8 +65,8 @@ struct Definitions {
 
     QList<QCommandLineOption> All() const
     {
-        return {aspect, speed,  follow,  choices,   cache, output, keyframes, apply,  preview,
-                report, models, noVideo, overwrite, json,  quiet,  help,      version};
+        return {aspect,  speed,  speaker, follow,  choices,   cache, output, keyframes, apply,
+                preview, report, models,  noVideo, overwrite, json,  quiet,  help,      version};
     }
 };
 
@@ -247,6 +250,11 @@ ReframeOptions::Parsed ReframeOptions::Parse(const QStringList& arguments)
         options.follow += *parsed;
     }
     options.choices = parser.value(definitions.choices);
+    const QString speaker = parser.value(definitions.speaker);
+    if (speaker != QLatin1String("auto") && speaker != QLatin1String("off")) {
+        return WrongUse(QStringLiteral("--speaker takes auto or off; \"%1\" is neither.").arg(speaker));
+    }
+    options.followsSpeaker = speaker == QLatin1String("auto");
     options.inputs = KxPlatform::ShellExpandsWildcards() ? parser.positionalArguments()
                                                          : KxWildcards::Expand(parser.positionalArguments());
     options.output = parser.value(definitions.output);

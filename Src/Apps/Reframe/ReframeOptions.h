@@ -13,6 +13,7 @@ struct ReframeOptions {
     QList<QSize> aspects = {QSize(9, 16)};      ///< each once
     QString speedName = QStringLiteral("auto"); ///< auto, fast or slow
     int speedMode = 16;                         ///< the number by which the analysis knows it
+    bool followsSpeaker = true;                 ///< where several people talk
     QString output;                             ///< file or folder; empty: beside each input
     QString keyframes;                          ///< file (folder for several results); empty: none
     QString apply;                              ///< a crop track that replaces the analysis; empty: none

@@ -16,6 +16,8 @@ int ReframeProgram::Run(const ReframeOptions& options)
     const bool explains = !options.report.isEmpty() || options.PreviewIsVideo() || options.json;
     KxAutoReframeService::Instance().SetFindings(explains ? KxAutoReframeService::Findings::Keep
                                                           : KxAutoReframeService::Findings::Drop);
+    KxAutoReframeService::Instance().SetSpeakers(options.followsSpeaker ? KxAutoReframeService::Speakers::Follow
+                                                                        : KxAutoReframeService::Speakers::Ignore);
     KxAutoReframeService::Instance().SetRecordFolder(KxRecordStore::ChooseFolder(options.cache));
     ReframeReporter reporter(options);
     QStringList written;

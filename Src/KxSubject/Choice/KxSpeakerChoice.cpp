@@ -30,7 +30,8 @@ KxSpeakerChoice::KxSpeakerChoice(const KxSubjectRecord& record, const KxSubjectO
             emissions.push_back(mouth.Emissions(sound.Gate()));
         }
     }
-    if (people.size() < 2) {
+    m_hasSeveral = people.size() >= 2;
+    if (!m_hasSeveral) {
         return;
     }
     const KxSpeakerRuns speakers(emissions, sound.Gate(), options);

@@ -19,10 +19,12 @@ public:
     KxSpeakerChoice(const KxSubjectRecord& record, const KxSubjectOptions::Speech& options, std::int64_t first,
                     std::int64_t end);
 
+    /// Whether there are several faces that last, and sound.
+    bool HasSeveral() const { return m_hasSeveral; }
     /// Whether it is clear who speaks. Otherwise there are no parts.
     bool IsClear() const { return !m_turns.empty(); }
-    /// Mean evidence of who speaks ahead of the next one.
-    double Margin() const { return m_margin; }
+    /// 0 to 1: how far who speaks is ahead of the next one; one half where it is just clear.
+    double Confidence() const { return m_margin / (m_margin + m_options.leastMargin); }
 
     /// A part of the shot in which the crop shows the same people.
     struct Part {
@@ -53,5 +55,6 @@ private:
     std::int64_t m_first;
     KxShotFaces m_faces;
     std::vector<Part> m_turns; ///< each with the one who speaks
-    double m_margin = 0.0;
+    double m_margin = 0.0;     ///< mean evidence of who speaks, less that of the next one
+    bool m_hasSeveral = false;
 };

@@ -1,0 +1,79 @@
+#include <KxSubject/Choice/KxHeardSound.h>
+
+#include <gmock/gmock.h>
+
+#include <algorithm>
+
+namespace
+{
+
+const KxSubjectOptions::Speech Options;
+
+/// Decibels, 25 a second, from a level on.
+KxSubjectRecord Record(std::int64_t first, const std::vector<double>& decibels)
+{
+    KxSubjectRecord record;
+    KxSoundSpan span;
+    span.first = first;
+    std::transform(decibels.begin(), decibels.end(), std::back_inserter(span.levels),
+                   [](double level) { return static_cast<std::int16_t>(100.0 * level); });
+    record.sound.push_back(span);
+    return record;
+}
+
+void Append(std::vector<double>& decibels, int count, double level)
+{
+    decibels.insert(decibels.end(), static_cast<std::size_t>(count), level);
+}
+
+} // namespace
+
+TEST(KxHeardSound, APartWithoutSoundIsUnknown)
+{
+    const KxSubjectRecord record = Record(100, std::vector<double>(200, -30.0));
+    EXPECT_TRUE(KxHeardSound(record, Options, 100, 300).IsKnown());
+    EXPECT_FALSE(KxHeardSound(record, Options, 99, 200).IsKnown());
+    EXPECT_FALSE(KxHeardSound(record, Options, 200, 301).IsKnown());
+    EXPECT_FALSE(KxHeardSound(KxSubjectRecord(), Options, 0, 100).IsKnown());
+}
+
+TEST(KxHeardSound, TheGateIsOpenWhileItIsLoud)
+{
+    std::vector<double> decibels;
+    Append(decibels, 100, -65.0);
+    Append(decibels, 100, -25.0);
+    Append(decibels, 100, -65.0);
+    const KxHeardSound sound(Record(0, decibels), Options, 50, 250);
+    ASSERT_EQ(sound.Gate().size(), 200U);
+    ASSERT_EQ(sound.Scores().size(), 200U);
+    EXPECT_FALSE(sound.Gate()[20]);
+    EXPECT_TRUE(sound.Gate()[70]);
+    EXPECT_TRUE(sound.Gate()[140]);
+    EXPECT_FALSE(sound.Gate()[170]);
+}
+
+TEST(KxHeardSound, APauseWithinAWordDoesNotCloseTheGate)
+{
+    std::vector<double> decibels;
+    Append(decibels, 100, -65.0);
+    Append(decibels, 50, -25.0);
+    Append(decibels, 6, -65.0);
+    Append(decibels, 50, -25.0);
+    Append(decibels, 40, -65.0);
+    Append(decibels, 50, -25.0);
+    const KxHeardSound sound(Record(0, decibels), Options, 0, 296);
+    EXPECT_TRUE(sound.Gate()[153]);
+    EXPECT_FALSE(sound.Gate()[225]);
+}
+
+TEST(KxHeardSound, SteadyNoiseIsNoSpeech)
+{
+    std::vector<double> decibels;
+    Append(decibels, 300, -40.0);
+    Append(decibels, 200, -20.0);
+    Append(decibels, 300, -40.0);
+    const KxHeardSound sound(Record(0, decibels), Options, 0, 800);
+    EXPECT_FALSE(sound.Gate()[100]);
+    EXPECT_TRUE(sound.Gate()[400]);
+    EXPECT_FALSE(sound.Gate()[700]);
+}
