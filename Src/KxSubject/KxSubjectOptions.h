@@ -230,13 +230,12 @@ struct KxSubjectOptions {
         double restSeconds = 1.0;      ///< 0.5 to 3 of silence that show how a mouth moves at rest; chosen
         double restShare = 0.25;       ///< 0.1 to 0.4: without silence, the mouth rests this share of the time; talk
         double mostActivity = 0.5;     ///< 0.2 to 1 above rest; talk
-        double activityWeight = 0.6;   ///< 0.4 to 0.8, against the correlation; talk
+        double activityWeight = 0.5;   ///< 0.4 to 0.8, against the correlation; talk
         double nobody = 0.05;          ///< 0.02 to 0.1: what a speaker's evidence has to exceed; speech
-        double changeCost = 14.0;      ///< 9 to 16 of a change of speaker, in steps of evidence; talk
+        double changeCost = 13.0;      ///< 9 to 16 of a change of speaker, in steps of evidence; talk
         double leastRunSeconds = 0.7;  ///< 0.5 to 1: a shorter turn is not followed; speech
         double leastSeconds = 2.0;     ///< 1.5 to 4 that each of two faces lasts; speech
         double leastMargin = 0.05;     ///< 0.02 to 0.1, mean evidence ahead of the next face; speech
-        double crossTalkSeconds = 2.0; ///< 1.5 to 3 in which two speak; speech
         int leastHits = 5;             ///< 3 to 10 looks that see a face; chosen
         double samePlace = 0.6;        ///< 0.4 to 0.8 of its side: a nearer face is the same person; chosen
         double sameSize = 0.4;         ///< 0.3 to 0.6, logarithm of the ratio; chosen

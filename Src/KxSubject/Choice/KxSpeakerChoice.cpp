@@ -36,7 +36,7 @@ KxSpeakerChoice::KxSpeakerChoice(const KxSubjectRecord& record, const KxSubjectO
     }
     const KxSpeakerRuns speakers(emissions, sound.Gate(), options);
     m_margin = speakers.margin;
-    if (speakers.margin < options.leastMargin) {
+    if (speakers.margin < options.leastMargin || speakers.speechSeconds < options.leastSeconds) {
         return;
     }
     const auto frameAt = [&record, firstLevel](std::size_t step) {
