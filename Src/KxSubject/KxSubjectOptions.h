@@ -235,6 +235,7 @@ struct KxSubjectOptions {
         double changeCost = 13.0;      ///< 9 to 16 of a change of speaker, in steps of evidence; talk
         double leastRunSeconds = 0.7;  ///< 0.5 to 1: a shorter turn is not followed; speech
         double leastSeconds = 2.0;     ///< 1.5 to 4 that each of two faces lasts; speech
+        double leastShare = 0.6;       ///< 0.4 to 0.8 of a shot in which two mouths are seen; chosen
         double leastMargin = 0.05;     ///< 0.02 to 0.1, mean evidence ahead of the next face; speech
         int leastHits = 5;             ///< 3 to 10 looks that see a face; chosen
         double samePlace = 0.6;        ///< 0.4 to 0.8 of its side: a nearer face is the same person; chosen

@@ -156,3 +156,22 @@ TEST(KxSpeakerDecision, ThePeopleOfEveryShotAreOthers)
     EXPECT_TRUE(Holds(decision.crops[260], 0.75));
     EXPECT_TRUE(Holds(decision.crops[400], 0.25));
 }
+
+TEST(KxSpeakerDecision, WhereTheSecondFaceIsSeenBrieflyNothingChanges)
+{
+    KxSubjectRecord record = MadeSpeech::Record(Interview());
+    record.mouths[1].looks.resize(75);
+    const KxSubjectDecision decision = Decide(record);
+    EXPECT_EQ(decision.findings.shots[0].speech, KxSpeech::None);
+    EXPECT_TRUE(AreEqual(decision, Decide(record, Request({9, 16}, KxSpeakerMode::Off))));
+}
+
+TEST(KxSpeakerDecision, AFaceThatIsLostForAWhileIsStillFollowed)
+{
+    KxSubjectRecord record = MadeSpeech::Record(Interview());
+    std::vector<KxMouthLook>& looks = record.mouths[1].looks;
+    looks.erase(looks.begin() + 30, looks.begin() + 60);
+    const KxSubjectDecision decision = Decide(record);
+    EXPECT_TRUE(Holds(decision.crops[25 * 4], 0.25));
+    EXPECT_TRUE(Holds(decision.crops[25 * 10], 0.75));
+}

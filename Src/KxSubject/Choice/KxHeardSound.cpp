@@ -7,6 +7,7 @@ namespace
 {
 
 constexpr double LevelsPerDecibel = 100.0;
+constexpr double Silence = -70.0;          ///< decibels, where the sound is not known
 constexpr double FloorPeriodSeconds = 0.4; ///< the quiet changes slowly
 
 std::size_t StepsOf(double seconds)
@@ -50,20 +51,34 @@ void CloseGaps(std::vector<bool>& gate, std::size_t shorterThan)
 KxHeardSound::KxHeardSound(const KxSubjectRecord& record, const KxSubjectOptions::Speech& options, std::int64_t first,
                            std::int64_t end)
 {
-    const auto span = std::find_if(record.sound.begin(), record.sound.end(), [first, end](const KxSoundSpan& some) {
-        return some.first <= first && some.first + static_cast<std::int64_t>(some.levels.size()) >= end;
-    });
-    if (span == record.sound.end() || first >= end) {
+    if (first >= end) {
         return;
     }
     const auto margin = static_cast<std::int64_t>(StepsOf(options.floorSeconds));
-    const std::int64_t from = std::max(span->first, first - margin);
-    const std::int64_t to = std::min(span->first + static_cast<std::int64_t>(span->levels.size()), end + margin);
-    KxSeries::Values decibels;
-    for (std::int64_t at = from; at < to; ++at) {
-        decibels.push_back(span->levels[static_cast<std::size_t>(at - span->first)] / LevelsPerDecibel);
+    std::int64_t from = first;
+    std::int64_t to = end;
+    for (const KxSoundSpan& span : record.sound) {
+        const std::int64_t spanEnd = span.first + static_cast<std::int64_t>(span.levels.size());
+        if (span.first < end + margin && spanEnd > first - margin) {
+            from = std::min(from, std::max(span.first, first - margin));
+            to = std::max(to, std::min(spanEnd, end + margin));
+        }
     }
-    const double loud = KxSeries::Percentile(decibels, 0.95);
+    KxSeries::Values decibels(static_cast<std::size_t>(to - from), Silence);
+    KxSeries::Values known;
+    bool isKnown = false;
+    for (const KxSoundSpan& span : record.sound) {
+        const std::int64_t spanEnd = span.first + static_cast<std::int64_t>(span.levels.size());
+        isKnown = isKnown || (span.first < end && spanEnd > first);
+        for (std::int64_t at = std::max(from, span.first); at < std::min(to, spanEnd); ++at) {
+            known.push_back(span.levels[static_cast<std::size_t>(at - span.first)] / LevelsPerDecibel);
+            decibels[static_cast<std::size_t>(at - from)] = known.back();
+        }
+    }
+    if (!isKnown) {
+        return;
+    }
+    const double loud = KxSeries::Percentile(known, 0.95);
     const KxSeries::Values smooth = KxSeries::MeansAround(decibels, 1);
     const KxSeries::Values floors = Floors(decibels, options, loud);
     std::vector<bool> gate(decibels.size());

@@ -13,10 +13,11 @@ class KXSUBJECT_API KxHeardSound
 {
 public:
     /// From the level `first` up to, but without, `end`; some seconds around it are the measure of what is loud.
+    /// What is not known counts as silence.
     KxHeardSound(const KxSubjectRecord& record, const KxSubjectOptions::Speech& options, std::int64_t first,
                  std::int64_t end);
 
-    /// Whether the whole part has sound.
+    /// Whether there is sound in the part.
     bool IsKnown() const { return !m_scores.empty(); }
     /// KxSeries::LocalScores of the loudness, one a level.
     const KxSeries::Values& Scores() const { return m_scores; }

@@ -55,7 +55,7 @@ KxMouthEvidence::KxMouthEvidence(const KxSubjectRecord& record, const KxSubjectO
     : m_options(options)
     , m_measured(sound.Scores().size(), false)
 {
-    Sample(record, first, faces);
+    Sample(LooksOf(record, first, faces), first, record.source.frameRate);
     Correlate(sound);
     const Values mouth = KxSeries::MeansAround(m_mouth, StepsOf(m_options.activitySeconds / 2.0));
     const Values head = KxSeries::MeansAround(m_head, StepsOf(m_options.activitySeconds / 2.0));
@@ -67,7 +67,8 @@ KxMouthEvidence::KxMouthEvidence(const KxSubjectRecord& record, const KxSubjectO
     }
 }
 
-void KxMouthEvidence::Sample(const KxSubjectRecord& record, std::int64_t first, const std::vector<std::size_t>& faces)
+std::vector<const KxMouthLook*> KxMouthEvidence::LooksOf(const KxSubjectRecord& record, std::int64_t first,
+                                                         const std::vector<std::size_t>& faces) const
 {
     std::vector<const KxMouthLook*> looks;
     const double from = static_cast<double>(first) / KxSoundSpan::LevelsPerSecond;
@@ -88,7 +89,12 @@ void KxMouthEvidence::Sample(const KxSubjectRecord& record, std::int64_t first, 
     looks.erase(std::unique(looks.begin(), looks.end(),
                             [](const KxMouthLook* a, const KxMouthLook* b) { return a->frame == b->frame; }),
                 looks.end());
-    const double levelsPerFrame = KxSoundSpan::LevelsPerSecond / record.source.frameRate;
+    return looks;
+}
+
+void KxMouthEvidence::Sample(const std::vector<const KxMouthLook*>& looks, std::int64_t first, double frameRate)
+{
+    const double levelsPerFrame = KxSoundSpan::LevelsPerSecond / frameRate;
     std::vector<Point> mouth;
     std::vector<Point> head;
     std::vector<Point> opening;
@@ -115,7 +121,7 @@ void KxMouthEvidence::Sample(const KxSubjectRecord& record, std::int64_t first, 
     m_opening = AtLevels(opening, first, m_measured.size());
 }
 
-void KxMouthEvidence::Correlate(const KxHeardSound& sound)
+KxSeries::Values KxMouthEvidence::Movement() const
 {
     const std::size_t count = m_measured.size();
     const auto scores = [this](const Values& values) {
@@ -131,15 +137,22 @@ void KxMouthEvidence::Correlate(const KxHeardSound& sound)
     moved = scores(KxSeries::MeansAround(moved, 1));
     opened = scores(opened);
     const double scale = std::hypot(1.0, m_options.openingWeight);
-    Values mouth(count, 0.0);
+    Values movement(count, 0.0);
     for (std::size_t i = 0; i < count; ++i) {
         const double both = (moved[i] + Later(moved, i, 1)) / 2.0 + m_options.openingWeight * opened[i];
-        mouth[i] = m_measured[i] ? both / scale : 0.0;
+        movement[i] = m_measured[i] ? both / scale : 0.0;
     }
+    return movement;
+}
+
+void KxMouthEvidence::Correlate(const KxHeardSound& sound)
+{
+    const std::size_t count = m_measured.size();
+    const Values movement = Movement();
     const auto product = [&](std::ptrdiff_t lag) {
         Values products(count);
         for (std::size_t i = 0; i < count; ++i) {
-            products[i] = std::clamp(Later(mouth, i, lag) * sound.Scores()[i] / m_options.productScale,
+            products[i] = std::clamp(Later(movement, i, lag) * sound.Scores()[i] / m_options.productScale,
                                      -m_options.mostProduct, m_options.mostProduct);
         }
         return products;

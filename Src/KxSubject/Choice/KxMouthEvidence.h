@@ -29,7 +29,12 @@ public:
     KxSeries::Values Emissions(const std::vector<bool>& gate) const;
 
 private:
-    void Sample(const KxSubjectRecord& record, std::int64_t first, const std::vector<std::size_t>& faces);
+    /// Growing by frame, one a frame.
+    std::vector<const KxMouthLook*> LooksOf(const KxSubjectRecord& record, std::int64_t first,
+                                            const std::vector<std::size_t>& faces) const;
+    void Sample(const std::vector<const KxMouthLook*>& looks, std::int64_t first, double frameRate);
+    /// The ups and downs of the mouth, in local scores.
+    KxSeries::Values Movement() const;
     void Correlate(const KxHeardSound& sound);
     /// While nothing is heard; otherwise while it is lowest. A mouth that chews has no other.
     double ActivityAtRest(const std::vector<bool>& gate) const;

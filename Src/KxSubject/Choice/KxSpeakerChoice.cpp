@@ -23,15 +23,18 @@ KxSpeakerChoice::KxSpeakerChoice(const KxSubjectRecord& record, const KxSubjectO
     }
     std::vector<std::size_t> people;
     std::vector<KxSeries::Values> emissions;
+    std::vector<int> measured(sound.Gate().size(), 0); // how many people are, at each level
     for (std::size_t person = 0; person < m_faces.People().size(); ++person) {
         const KxMouthEvidence mouth(record, options, sound, firstLevel, m_faces.People()[person].faces);
         if (mouth.MeasuredSeconds() >= options.leastSeconds) {
             people.push_back(person);
             emissions.push_back(mouth.Emissions(sound.Gate()));
+            std::transform(measured.begin(), measured.end(), mouth.Measured().begin(), measured.begin(), std::plus<>());
         }
     }
-    m_hasSeveral = people.size() >= 2;
-    if (!m_hasSeveral) {
+    const auto several = std::count_if(measured.begin(), measured.end(), [](int count) { return count >= 2; });
+    m_hasSeveral = static_cast<double>(several) >= options.leastShare * static_cast<double>(measured.size());
+    if (people.size() < 2 || !m_hasSeveral) {
         return;
     }
     const KxSpeakerRuns speakers(emissions, sound.Gate(), options);

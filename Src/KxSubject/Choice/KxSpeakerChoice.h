@@ -19,7 +19,7 @@ public:
     KxSpeakerChoice(const KxSubjectRecord& record, const KxSubjectOptions::Speech& options, std::int64_t first,
                     std::int64_t end);
 
-    /// Whether there are several faces that last, and sound.
+    /// Whether there are several faces through most of the shot, and sound.
     bool HasSeveral() const { return m_hasSeveral; }
     /// Whether it is clear who speaks. Otherwise there are no parts.
     bool IsClear() const { return !m_turns.empty(); }

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
 namespace
 {
@@ -74,6 +75,18 @@ std::vector<KxSpeakerRun> Stretched(const std::vector<KxSpeakerRun>& runs, const
     return stretched;
 }
 
+/// The evidence of the best one besides `person`; 0 if there is nobody.
+double BestOther(const std::vector<KxSeries::Values>& emissions, std::size_t person, std::size_t step)
+{
+    std::optional<double> best;
+    for (std::size_t other = 0; other < emissions.size(); ++other) {
+        if (other != person) {
+            best = std::max(best.value_or(emissions[other][step]), emissions[other][step]);
+        }
+    }
+    return best.value_or(0.0);
+}
+
 } // namespace
 
 KxSpeakerRuns::KxSpeakerRuns(const std::vector<KxSeries::Values>& emissions, const std::vector<bool>& gate,
@@ -90,15 +103,7 @@ KxSpeakerRuns::KxSpeakerRuns(const std::vector<KxSeries::Values>& emissions, con
             if (!gate[step]) {
                 continue;
             }
-            double second = 0.0;
-            bool hasSecond = false;
-            for (std::size_t person = 0; person < emissions.size(); ++person) {
-                if (person != run.person && (!hasSecond || emissions[person][step] > second)) {
-                    second = emissions[person][step];
-                    hasSecond = true;
-                }
-            }
-            margin += emissions[run.person][step] - second;
+            margin += emissions[run.person][step] - BestOther(emissions, run.person, step);
             ++steps;
         }
     }

@@ -32,8 +32,10 @@ TEST(KxHeardSound, APartWithoutSoundIsUnknown)
 {
     const KxSubjectRecord record = Record(100, std::vector<double>(200, -30.0));
     EXPECT_TRUE(KxHeardSound(record, Options, 100, 300).IsKnown());
-    EXPECT_FALSE(KxHeardSound(record, Options, 99, 200).IsKnown());
-    EXPECT_FALSE(KxHeardSound(record, Options, 200, 301).IsKnown());
+    EXPECT_TRUE(KxHeardSound(record, Options, 50, 150).IsKnown());
+    EXPECT_FALSE(KxHeardSound(record, Options, 50, 100).IsKnown());
+    EXPECT_FALSE(KxHeardSound(record, Options, 300, 350).IsKnown());
+    EXPECT_FALSE(KxHeardSound(record, Options, 200, 200).IsKnown());
     EXPECT_FALSE(KxHeardSound(KxSubjectRecord(), Options, 0, 100).IsKnown());
 }
 
@@ -76,4 +78,16 @@ TEST(KxHeardSound, SteadyNoiseIsNoSpeech)
     EXPECT_FALSE(sound.Gate()[100]);
     EXPECT_TRUE(sound.Gate()[400]);
     EXPECT_FALSE(sound.Gate()[700]);
+}
+
+TEST(KxHeardSound, WhatIsNotKnownIsSilence)
+{
+    KxSubjectRecord record = Record(100, std::vector<double>(200, -30.0));
+    record.sound.push_back({500, std::vector<std::int16_t>(200, -3000)});
+    const KxHeardSound sound(record, Options, 50, 650);
+    ASSERT_EQ(sound.Gate().size(), 600U);
+    EXPECT_FALSE(sound.Gate()[20]);
+    EXPECT_TRUE(sound.Gate()[150]);
+    EXPECT_FALSE(sound.Gate()[350]);
+    EXPECT_TRUE(sound.Gate()[550]);
 }
