@@ -56,6 +56,18 @@ private:
     /// The tracker's cost of a move by one width, in a shot with samples from `begin` up to, but without, `end`: where
     /// pictures are missing, fewer samples have to pay for a move.
     double MoveCost(const Shot& shot, std::size_t begin, std::size_t end) const;
+    /// Indices of the record's samples, from `begin` up to, but without, `end`.
+    struct Samples {
+        std::size_t begin;
+        std::size_t end;
+    };
+    Samples SamplesOf(const Shot& shot) const;
+    ShotEvidence EvidenceIn(const Shot& shot, const KxChoiceRanges& choices, const KxCancelToken& cancel) const;
+    /// The centre that the evidence asks for at each sample.
+    std::vector<KxPathPoint> WantedCentres(const Shot& shot, const ShotEvidence& evidence,
+                                           const KxCancelToken& cancel) const;
+    std::vector<double> Drawn(const Shot& shot, const ShotEvidence& evidence, const std::vector<KxPathPoint>& points,
+                              const KxCancelToken& cancel) const;
     std::vector<double> CentresOf(const Shot& shot, const KxChoiceRanges& choices, const KxCancelToken& cancel);
     /// Where the crop must be still: nothing where more is to be shown than fits into it.
     std::optional<double> HeldCentre(const KxSubjectChoice& choice) const;
@@ -185,27 +197,61 @@ std::vector<KxHeldRange> Decider::HeldRanges(const KxChoiceRanges& choices) cons
     return held;
 }
 
-std::vector<double> Decider::CentresOf(const Shot& shot, const KxChoiceRanges& choices, const KxCancelToken& cancel)
+Decider::Samples Decider::SamplesOf(const Shot& shot) const
 {
     const std::vector<KxSignalSample>& samples = m_record.samples;
     const auto isBefore = [](const KxSignalSample& sample, std::int64_t frame) { return sample.frame < frame; };
     const auto from = std::lower_bound(samples.begin(), samples.end(), shot.first, isBefore);
     const auto to = std::lower_bound(from, samples.end(), shot.end, isBefore);
-    const auto begin = static_cast<std::size_t>(from - samples.begin());
-    const auto end = static_cast<std::size_t>(to - samples.begin());
+    return {static_cast<std::size_t>(from - samples.begin()), static_cast<std::size_t>(to - samples.begin())};
+}
 
-    const ShotEvidence evidence{
-        m_evidence.Of(shot.first, shot.end),
-        {m_request, choices, m_options.follow, m_record.source.frameRate, m_geometry.FreeAxis()}};
-    KxSubjectTracker tracker(MoveCost(shot, begin, end) * m_score.Spacing());
-    for (std::size_t i = begin; i < end && !cancel.IsCancelled(); ++i) {
+std::vector<KxPathPoint> Decider::WantedCentres(const Shot& shot, const ShotEvidence& evidence,
+                                                const KxCancelToken& cancel) const
+{
+    const Samples range = SamplesOf(shot);
+    const std::vector<KxSignalSample>& samples = m_record.samples;
+    KxSubjectTracker tracker(MoveCost(shot, range.begin, range.end) * m_score.Spacing());
+    for (std::size_t i = range.begin; i < range.end && !cancel.IsCancelled(); ++i) {
         const bool clear = samples[i].frame >= shot.clearFirst && samples[i].frame < shot.clearEnd;
         tracker.Add(clear ? m_score.Of(Combined(evidence.signals.At(i), evidence, i)) : KxCentreScore::Scores{});
     }
     std::vector<KxPathPoint> points;
     for (const std::size_t position : tracker.BestRun()) {
-        points.push_back({samples[begin + points.size()].frame, m_score.CentreAt(position)});
+        points.push_back({samples[range.begin + points.size()].frame, m_score.CentreAt(position)});
     }
+    return points;
+}
+
+std::vector<double> Decider::Drawn(const Shot& shot, const ShotEvidence& evidence,
+                                   const std::vector<KxPathPoint>& points, const KxCancelToken& cancel) const
+{
+    return KxCropPath(m_options.path, ReactionIn(evidence), m_geometry)
+        .Draw(points, {shot.first, shot.end, m_record.source.frameRate}, 0.5, cancel);
+}
+
+Decider::ShotEvidence Decider::EvidenceIn(const Shot& shot, const KxChoiceRanges& choices,
+                                          const KxCancelToken& cancel) const
+{
+    const auto evidenceWith = [&](const KxChoiceRanges& ranges) {
+        return ShotEvidence{m_evidence.Of(shot.first, shot.end),
+                            {m_request, ranges, m_options.follow, m_record.source.frameRate, m_geometry.FreeAxis()}};
+    };
+    ShotEvidence evidence = evidenceWith(choices);
+    if (evidence.chosen.Follows()) {
+        const ShotEvidence unchosen = evidenceWith(KxChoiceRanges::None());
+        const std::vector<double> automatic = Drawn(shot, unchosen, WantedCentres(shot, unchosen, cancel), cancel);
+        evidence.chosen.LeaveWhatIsHeld(
+            [&](std::int64_t frame) { return automatic[static_cast<std::size_t>(frame - shot.first)]; },
+            m_geometry.Extent(), m_options.follow.heldShare);
+    }
+    return evidence;
+}
+
+std::vector<double> Decider::CentresOf(const Shot& shot, const KxChoiceRanges& choices, const KxCancelToken& cancel)
+{
+    const ShotEvidence evidence = EvidenceIn(shot, choices, cancel);
+    std::vector<KxPathPoint> points = WantedCentres(shot, evidence, cancel);
     const std::vector<KxHeldRange> held = HeldRanges(choices);
     for (const KxHeldRange& range : held) {
         for (KxPathPoint& point : points) {
@@ -213,16 +259,14 @@ std::vector<double> Decider::CentresOf(const Shot& shot, const KxChoiceRanges& c
         }
     }
     if (m_request.wantsFindings) {
-        RecordFindings(shot, evidence, points, begin);
+        RecordFindings(shot, evidence, points, SamplesOf(shot).begin);
     }
-    const KxFrameSpan span{shot.first, shot.end, m_record.source.frameRate};
-    std::vector<double> centres =
-        KxCropPath(m_options.path, ReactionIn(evidence), m_geometry).Draw(points, span, 0.5, cancel);
+    std::vector<double> centres = Drawn(shot, evidence, points, cancel);
     if (choices.Placed().empty() && choices.Avoided().empty()) {
         FollowSpeaker(shot, cancel, centres);
     }
     if (!cancel.IsCancelled()) {
-        KxHoldRanges(centres, span, held, m_options.path.easeSeconds);
+        KxHoldRanges(centres, {shot.first, shot.end, m_record.source.frameRate}, held, m_options.path.easeSeconds);
     }
     return centres;
 }

@@ -208,3 +208,37 @@ TEST(KxSubjectChoices, ATallPictureIsHeldAtItsHeight)
     const KxCropRect crop = KxDecide(record, request, {}, KxCancelToken()).crops[50];
     EXPECT_NEAR(crop.y + crop.height / 2.0, 0.6, 1e-12);
 }
+
+TEST(KxSubjectChoices, WhatTheAutomaticCropHoldsAlreadyStaysAsItIs)
+{
+    KxSubjectChoice follow;
+    follow.kind = KxChoiceKind::Follow;
+    follow.seeds = {{1.0, {FirstPlace - 0.04, 0.2, 0.1, 0.6}}};
+    const auto automatic = Decide({});
+    const auto crops = Decide({follow});
+    for (std::size_t frame = 0; frame < crops.size(); ++frame) {
+        EXPECT_EQ(crops[frame].x, automatic[frame].x) << frame;
+    }
+}
+
+TEST(KxSubjectChoices, WhatIsFollowedOutweighsWhatTheSignalsPrefer)
+{
+    KxSubjectRequest request;
+    KxSubjectChoice follow;
+    follow.kind = KxChoiceKind::Follow;
+    follow.seeds = {{1.0, {0.75, 0.2, 0.1, 0.6}}};
+    KxFollowTrack track;
+    for (std::int32_t frame = 0; frame < Cut; frame += 2) {
+        track.points.push_back({frame, {0.75, 0.2, 0.1, 0.6}, 1.0F});
+    }
+    request.choices = {follow};
+    request.tracks = {track};
+    request.wantsFindings = true;
+    const auto [crops, findings] = KxDecide(TwoShots(), request, {}, KxCancelToken());
+    for (const std::size_t frame : {0U, 50U, 99U}) {
+        EXPECT_NEAR(Middle(crops[frame]), 0.8, 0.06) << frame;
+    }
+    EXPECT_NEAR(Middle(crops[200]), SecondPlace, 0.05) << "another shot";
+    EXPECT_EQ(findings.shots.size(), 2U) << "each shot is recorded once";
+    EXPECT_EQ(findings.samples.size(), static_cast<std::size_t>(Frames / 5));
+}

@@ -23,6 +23,8 @@ public:
     /// Of the shot from frame `first` up to, but without, `end`. `frameRate` is positive.
     KxChoiceRanges(const KxSubjectChoices& choices, double frameRate, std::int64_t first, std::int64_t end);
 
+    static KxChoiceRanges None() { return {{}, 1.0, 0, 0}; }
+
     /// Those that follow, hold or fit: disjoint, growing by frame.
     const std::vector<Range>& Placed() const { return m_placed; }
     /// Those that avoid; these may overlap.

@@ -1,5 +1,7 @@
 #include <KxSubject/Choice/KxChosenEvidence.h>
 
+#include <algorithm>
+
 KxChosenEvidence::KxChosenEvidence(const KxSubjectRequest& request, const KxChoiceRanges& ranges,
                                    const KxSubjectOptions::Follow& options, double frameRate, KxAxis axis)
 {
@@ -33,4 +35,13 @@ KxSignalProfile KxChosenEvidence::Of(const KxSignalProfile& evidence, std::int64
         }
     }
     return chosen;
+}
+
+void KxChosenEvidence::LeaveWhatIsHeld(const std::function<double(std::int64_t frame)>& centreAt, double extent,
+                                       double heldShare)
+{
+    m_followed.erase(
+        std::remove_if(m_followed.begin(), m_followed.end(),
+                       [&](const Part& part) { return part.evidence.HeldBy(centreAt, extent) >= heldShare; }),
+        m_followed.end());
 }

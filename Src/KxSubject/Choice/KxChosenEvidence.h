@@ -18,6 +18,9 @@ public:
     KxSignalProfile Of(const KxSignalProfile& evidence, std::int64_t frame) const;
     /// Whether something is followed in the shot.
     bool Follows() const { return !m_followed.empty(); }
+    /// Nothing needs to be done for what the automatic crop holds: it stays as it is, so that pointing at it never
+    /// makes it worse. `centreAt` is that crop's centre, of the extent `extent`.
+    void LeaveWhatIsHeld(const std::function<double(std::int64_t frame)>& centreAt, double extent, double heldShare);
 
 private:
     struct Part {

@@ -104,3 +104,17 @@ KxSignalProfile KxFollowEvidence::WithoutAvoided(const KxSignalProfile& evidence
     }
     return left;
 }
+
+double KxFollowEvidence::HeldBy(const std::function<double(std::int64_t frame)>& centreAt, double extent) const
+{
+    double sum = 0.0;
+    for (const std::size_t i : m_good) {
+        const KxSubjectBox& box = m_points[i].box;
+        const double from = std::max(0.0, m_axis == KxAxis::Across ? box.x : box.y);
+        const double to = std::min(1.0, m_axis == KxAxis::Across ? box.x + box.width : box.y + box.height);
+        const double left = centreAt(m_points[i].frame) - extent / 2.0;
+        const double most = std::min(extent, to - from);
+        sum += most > 0.0 ? std::max(0.0, std::min(to, left + extent) - std::max(from, left)) / most : 1.0;
+    }
+    return sum / static_cast<double>(m_good.size());
+}

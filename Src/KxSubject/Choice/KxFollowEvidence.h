@@ -9,6 +9,7 @@
 #include <KxSubject/KxSubjectOptions.h>
 
 #include <cstdint>
+#include <functional>
 #include <vector>
 
 /// Changes the evidence to what a person pointed at. The tracker decides whom to show, the other signals correct where
@@ -29,6 +30,10 @@ public:
 
     /// `evidence` of all signals in a picture that the choice follows through.
     KxSignalProfile Followed(const KxSignalProfile& evidence, std::int64_t frame) const;
+    /// The mean share of the thing that a crop of an extent around some centres holds, of the most that it can hold, in
+    /// the pictures in which the thing was seen well.
+    double HeldBy(const std::function<double(std::int64_t frame)>& centreAt, double extent) const;
+
     /// `evidence` of all signals in a picture with the thing in it that the choice avoids.
     KxSignalProfile WithoutAvoided(const KxSignalProfile& evidence, std::int64_t frame) const;
 

@@ -1,0 +1,187 @@
+#include <KxSubject/Follow/KxSubjectFollower.h>
+
+#include <KxSubject/KxPictureView.h>
+#include <KxSubject/KxSubjectOptions.h>
+#include <Tests/KxSubject/MadePictures.h>
+
+#include <opencv2/imgproc.hpp>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+
+namespace
+{
+
+constexpr double Rate = 30.0;
+const cv::Size PictureSize(320, 180);
+
+KxSubjectRecord Record(std::int64_t frames, const std::vector<std::int64_t>& cuts = {})
+{
+    KxSubjectRecord record;
+    record.source = {1280, 720, Rate, frames};
+    record.workingSizePx = {PictureSize.width, PictureSize.height};
+    for (const std::int64_t cut : cuts) {
+        record.boundaries.push_back({cut, cut, cut, KxShotBoundaryKind::Cut});
+    }
+    return record;
+}
+
+/// The thing goes to and fro, in fractions of the width.
+double Place(std::int64_t frame)
+{
+    return 0.5 + 0.3 * std::sin(0.03 * static_cast<double>(frame));
+}
+
+cv::Mat Picture(std::int64_t frame)
+{
+    static const cv::Mat background = MadePictures::Texture(PictureSize, 21);
+    cv::Mat picture = background.clone();
+    MadePictures::PaintObject(picture, {cvRound(Place(frame) * PictureSize.width) - 15, 70, 30, 40});
+    return picture;
+}
+
+KxSubjectSeed SeedAt(std::int64_t frame)
+{
+    return {static_cast<double>(frame) / Rate, {Place(frame) - 15.0 / 320.0, 70.0 / 180.0, 30.0 / 320.0, 40.0 / 180.0}};
+}
+
+KxSubjectChoice Follow(const std::vector<KxSubjectSeed>& seeds)
+{
+    KxSubjectChoice choice;
+    choice.kind = KxChoiceKind::Follow;
+    choice.seeds = seeds;
+    return choice;
+}
+
+struct Outcome {
+    KxFollowTrack track;
+    int ranges = 0;
+    std::int64_t longestRange = 0;
+};
+
+Outcome Run(const KxSubjectRecord& record, const KxSubjectChoice& choice, const KxSubjectOptions& options = {})
+{
+    KxSubjectFollower follower(record, choice, options);
+    Outcome outcome;
+    while (const auto range = follower.NextRange()) {
+        ++outcome.ranges;
+        outcome.longestRange = std::max(outcome.longestRange, range->end - range->first);
+        EXPECT_LT(follower.Progress(), 1.0);
+        for (std::int64_t frame = range->first; frame < range->end; ++frame) {
+            if (follower.Wants(frame)) {
+                const cv::Mat picture = Picture(frame);
+                follower.AddPicture(frame, {picture.data, {picture.cols, picture.rows}, picture.step[0]});
+            }
+        }
+        follower.EndRange();
+    }
+    EXPECT_EQ(follower.Progress(), 1.0);
+    outcome.track = follower.Track();
+    return outcome;
+}
+
+void ExpectOnTheThing(const KxFollowTrack& track)
+{
+    std::int32_t before = -1;
+    for (const KxFollowTrack::Point& point : track.points) {
+        EXPECT_GT(point.frame, before);
+        EXPECT_NEAR(point.box.x + point.box.width / 2.0, Place(point.frame), 0.03) << point.frame;
+        before = point.frame;
+    }
+}
+
+} // namespace
+
+TEST(KxSubjectFollower, ASeedIsFollowedToBothEndsOfItsShot)
+{
+    const Outcome outcome = Run(Record(300, {60, 240}), Follow({SeedAt(150)}));
+    ExpectOnTheThing(outcome.track);
+    ASSERT_GT(outcome.track.points.size(), 80U);
+    EXPECT_EQ(outcome.track.points.front().frame, 60);
+    EXPECT_EQ(outcome.track.points.back().frame, 238);
+    EXPECT_EQ(outcome.ranges, 1) << "a short shot is decoded once";
+}
+
+TEST(KxSubjectFollower, SeedsOfSeveralShotsAreFollowedInTheirOwn)
+{
+    const Outcome outcome = Run(Record(300, {60, 240}), Follow({SeedAt(290), SeedAt(10)}));
+    ExpectOnTheThing(outcome.track);
+    for (const KxFollowTrack::Point& point : outcome.track.points) {
+        EXPECT_TRUE(point.frame < 60 || point.frame >= 240) << point.frame;
+    }
+    EXPECT_EQ(outcome.ranges, 2);
+}
+
+TEST(KxSubjectFollower, TheRangeOfTheChoiceBoundsTheWork)
+{
+    KxSubjectChoice choice = Follow({SeedAt(150)});
+    choice.fromSeconds = 4.0;
+    choice.toSeconds = 6.0;
+    const Outcome outcome = Run(Record(300), choice);
+    EXPECT_GE(outcome.track.points.front().frame, 120);
+    EXPECT_LT(outcome.track.points.back().frame, 180);
+    ExpectOnTheThing(outcome.track);
+}
+
+TEST(KxSubjectFollower, ALongShotIsFollowedInBlocksWithTheSameResult)
+{
+    KxSubjectOptions options;
+    options.follow.blockSeconds = 1.0;
+    const KxSubjectChoice choice = Follow({SeedAt(100), SeedAt(200)});
+    const Outcome outcome = Run(Record(300), choice, options);
+    ExpectOnTheThing(outcome.track);
+    EXPECT_GT(outcome.ranges, 6);
+    const Outcome whole = Run(Record(300), choice);
+    ASSERT_EQ(outcome.track.points.size(), whole.track.points.size());
+    for (std::size_t i = 0; i < whole.track.points.size(); ++i) {
+        EXPECT_EQ(outcome.track.points[i].frame, whole.track.points[i].frame);
+        EXPECT_NEAR(outcome.track.points[i].box.x, whole.track.points[i].box.x, 1e-12);
+    }
+}
+
+TEST(KxSubjectFollower, ThePersonsOwnBoxIsKeptAtItsFrame)
+{
+    KxSubjectSeed wrong = SeedAt(150);
+    wrong.box.x -= 0.02;
+    const Outcome outcome = Run(Record(300), Follow({SeedAt(20), wrong}));
+    const auto at = std::find_if(outcome.track.points.begin(), outcome.track.points.end(),
+                                 [](const KxFollowTrack::Point& point) { return point.frame == 150; });
+    ASSERT_NE(at, outcome.track.points.end());
+    EXPECT_EQ(at->box.x, wrong.box.x);
+    EXPECT_EQ(at->confidence, 1.0F);
+}
+
+TEST(KxSubjectFollower, APointBecomesABoxAroundTheThing)
+{
+    const Outcome outcome = Run(Record(60), Follow({{0.0, {Place(0), 0.5, 0.0, 0.0}, KxSubjectSeed::Extent::Guessed}}));
+    ASSERT_FALSE(outcome.track.points.empty());
+    const KxSubjectBox& box = outcome.track.points.front().box;
+    EXPECT_GT(box.width, 0.05);
+    EXPECT_LT(box.width, 0.3);
+    EXPECT_LT(box.x, Place(0));
+    EXPECT_GT(box.x + box.width, Place(0));
+}
+
+TEST(KxSubjectFollower, NothingIsDoneForSeedsOutsideTheVideoOrTheRange)
+{
+    KxSubjectChoice choice = Follow({SeedAt(900), SeedAt(10)});
+    choice.fromSeconds = 2.0;
+    const Outcome outcome = Run(Record(300), choice);
+    EXPECT_EQ(outcome.ranges, 0);
+    EXPECT_TRUE(outcome.track.points.empty());
+}
+
+TEST(KxSubjectFollower, MissingAndWrongPicturesAreIgnored)
+{
+    KxSubjectFollower follower(Record(60), Follow({SeedAt(30)}), {});
+    ASSERT_TRUE(follower.NextRange());
+    const cv::Mat small(3, 3, CV_8UC3, cv::Scalar::all(0));
+    follower.AddPicture(0, {});
+    follower.AddPicture(2, {small.data, {3, 3}, 9});
+    follower.EndRange();
+    EXPECT_FALSE(follower.NextRange());
+    ASSERT_EQ(follower.Track().points.size(), 1U) << "the seed alone";
+    follower.EndRange();
+}

@@ -1,0 +1,144 @@
+#include <Tests/Reframe/ReframeRun.h>
+
+#include <Tests/Support/MadeVideo.h>
+
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QPainter>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+namespace
+{
+
+constexpr int Frames = 75;
+/// Of the thing that rests, in fractions of the width.
+constexpr double StillPlace = 0.85;
+
+/// A thing that moves at the left of a textured wall, and one that hardly does at the right.
+QImage Draw(int number)
+{
+    QImage picture(640, 360, QImage::Format_RGB32);
+    QPainter painter(&picture);
+    quint32 noise = 1;
+    for (int y = 0; y < 360; y += 12) {
+        for (int x = 0; x < 640; x += 12) {
+            noise = noise * 1664525U + 1013904223U;
+            const int level = 90 + static_cast<int>(noise >> 27U);
+            painter.fillRect(x, y, 12, 12, QColor(level, level, level + 10));
+        }
+    }
+    const auto thing = [&painter](double x, double y, const QColor& colour) {
+        painter.fillRect(QRectF(x - 30.0, y - 50.0, 60.0, 100.0), colour);
+        painter.fillRect(QRectF(x - 15.0, y - 35.0, 30.0, 20.0), Qt::white);
+        painter.fillRect(QRectF(x - 20.0, y + 5.0, 12.0, 35.0), Qt::black);
+    };
+    thing(130.0 + 60.0 * std::sin(0.3 * number), 150.0 + 40.0 * std::cos(0.23 * number), Qt::red);
+    thing(StillPlace * 640.0 + 3.0 * std::sin(0.2 * number), 200.0, Qt::darkGreen);
+    return picture;
+}
+
+class ReframeChoicesTest : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        MadeVideo::Recipe recipe;
+        recipe.size = QSize(640, 360);
+        recipe.frames = Frames;
+        recipe.output = QStringList{QStringLiteral("-c:v"), QStringLiteral("libx264"), QStringLiteral("-pix_fmt"),
+                                    QStringLiteral("yuv420p")};
+        recipe.draw = Draw;
+        ASSERT_TRUE(MadeVideo::Make(Clip(), recipe));
+    }
+
+    QString Clip() const { return m_folder.filePath(QStringLiteral("clip.mp4")); }
+
+    QString MakeFile(const QByteArray& content) const
+    {
+        QFile file(m_folder.filePath(QStringLiteral("choices.json")));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(content);
+        return file.fileName();
+    }
+
+    /// The crops of a run with more arguments: left, top, width, height.
+    QList<QList<double>> Crops(const QStringList& more) const
+    {
+        const QString track = m_folder.filePath(QStringLiteral("track.json"));
+        const ReframeRun run(QStringList{QStringLiteral("--no-video"), QStringLiteral("--models"),
+                                         QStringLiteral("none"), QStringLiteral("--cache"), m_folder.path(),
+                                         QStringLiteral("--overwrite"), QStringLiteral("--keyframes"), track} +
+                             more + QStringList(Clip()));
+        EXPECT_EQ(run.exitStatus, 0) << run.standardError.toStdString();
+        QFile file(track);
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        QList<QList<double>> crops;
+        const QJsonArray frames = QJsonDocument::fromJson(file.readAll())[QLatin1String("frames")].toArray();
+        for (const QJsonValue& frame : frames) {
+            crops.append({frame[0].toDouble(), frame[1].toDouble(), frame[2].toDouble(), frame[3].toDouble()});
+        }
+        EXPECT_EQ(crops.size(), Frames);
+        return crops;
+    }
+
+    static double Middle(const QList<double>& crop) { return crop.value(0) + crop.value(2) / 2.0; }
+
+    QTemporaryDir m_folder;
+};
+
+} // namespace
+
+TEST_F(ReframeChoicesTest, WhatIsPointedAtIsFollowedInsteadOfWhatMovesMost)
+{
+    const auto automatic = Crops({});
+    const auto box = Crops({QStringLiteral("--follow"), QStringLiteral("25f@514,150,60,100")});
+    const auto point = Crops({QStringLiteral("--follow"), QStringLiteral("1@0.85,0.55")});
+    for (const int frame : {0, 30, 74}) {
+        EXPECT_LT(Middle(automatic.value(frame)), 0.45) << frame;
+        EXPECT_NEAR(Middle(box.value(frame)), StillPlace, 0.08) << frame;
+        EXPECT_NEAR(Middle(point.value(frame)), StillPlace, 0.08) << frame;
+    }
+}
+
+TEST_F(ReframeChoicesTest, WhatIsAvoidedIsLeftForTheOther)
+{
+    const auto crops = Crops(
+        {QStringLiteral("--choices"), MakeFile("{\"version\":1,\"choices\":[{\"kind\":\"avoid\",\"seeds\":[{\"time\":0,"
+                                               "\"box\":[0.156,0.388,0.094,0.278]}]}]}")});
+    EXPECT_GT(Middle(crops.value(40)), 0.55);
+}
+
+TEST_F(ReframeChoicesTest, AFileHoldsTheCropAndShowsTheWholePicture)
+{
+    const auto crops = Crops({QStringLiteral("--choices"),
+                              MakeFile("{\"version\":1,\"choices\":[{\"kind\":\"hold\",\"from\":0,\"to\":1,\"centre\":"
+                                       "[0.5,0.5]},{\"kind\":\"fit\",\"from\":2,\"to\":3}]}")});
+    EXPECT_NEAR(Middle(crops.value(10)), 0.5, 1e-6);
+    EXPECT_NEAR(Middle(crops.value(24)), 0.5, 1e-6);
+    EXPECT_LT(crops.value(49).value(2), 0.5);
+    EXPECT_EQ(crops.value(50).value(2), 1.0);
+    EXPECT_EQ(crops.value(74).value(2), 1.0);
+}
+
+TEST_F(ReframeChoicesTest, AFileThatIsNoListOfChoicesIsRefused)
+{
+    const ReframeRun run(
+        {QStringLiteral("--no-video"), QStringLiteral("--choices"), MakeFile("{\"version\":3}"), Clip()});
+    EXPECT_EQ(run.exitStatus, 1);
+    EXPECT_TRUE(run.standardError.contains(QStringLiteral("choices.json: it is of version 3")))
+        << run.standardError.toStdString();
+}
+
+TEST_F(ReframeChoicesTest, ATimeAfterTheEndIsRefused)
+{
+    const ReframeRun run({QStringLiteral("--no-video"), QStringLiteral("--follow"), QStringLiteral("9@10,10"), Clip()});
+    EXPECT_EQ(run.exitStatus, 1);
+    EXPECT_TRUE(run.standardError.contains(QStringLiteral("the video ends after 3.00 s")))
+        << run.standardError.toStdString();
+}
