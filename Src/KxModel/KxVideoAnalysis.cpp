@@ -16,6 +16,7 @@
 #include <KxSubject/KxSubjectDecision.h>
 #include <KxSubject/KxSubjectObserver.h>
 #include <KxSubject/KxSubjectOptions.h>
+#include <KxSubject/KxSubjectRecord.h>
 
 #include <QFileInfo>
 
@@ -269,6 +270,13 @@ bool KxVideoAnalysis::Follow(const KxSubjectRecord& record, const QByteArray& ke
             m_settings.tracks->Add(key, choice, pass.track);
         }
         request.tracks.push_back(std::move(pass.track));
+    }
+    for (const KxFollowTrack& track : request.tracks) {
+        for (const KxFollowTrack::Loss& loss : track.Losses(record.source.frameRate, {})) {
+            result.warnings += QStringLiteral("What is followed is lost from %1 s to %2 s: point at it again there.")
+                                   .arg(QString::number(record.SecondsAt(loss.first), 'f', 1),
+                                        QString::number(record.SecondsAt(loss.last), 'f', 1));
+        }
     }
     return true;
 }
