@@ -293,7 +293,7 @@ struct KxSubjectOptions {
         double agreeingShare = 0.6;       ///< 0.4 to 1 of the box's width: tracks nearer than this agree; chosen
         double gateWidth = 0.15;          ///< 0.1 to 0.25: evidence farther from the track counts less; trial
         double gateGrowth = 0.3;          ///< 0.2 to 0.5 a second without a good picture; trial
-        double denial = 0.7;              ///< 0.5 to 1 of the other evidence is denied by full confidence; trial
+        double denial = 0.3;              ///< 0 to 0.7 of the other evidence is denied by full confidence; cross
         double weight = 2.0;              ///< 1 to 4 of the tracked box; trial
         double seedWeight = 4.0;          ///< 2 to 8 of a box that a person drew; chosen
         double seedSeconds = 0.35;        ///< 0.2 to 1 each way, for which that holds; chosen
