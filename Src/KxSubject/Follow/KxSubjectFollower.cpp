@@ -103,6 +103,9 @@ void KxSubjectFollower::Impl::AddShot(const Range& shot, const KxSubjectChoice& 
             m_seeds.push_back({frame, seed.box, false, {}, {}});
         }
     }
+    if (m_seeds.size() == firstSeed) {
+        return;
+    }
     std::stable_sort(m_seeds.begin() + static_cast<std::ptrdiff_t>(firstSeed), m_seeds.end(),
                      [](const Seed& a, const Seed& b) { return a.frame < b.frame; });
     m_seeds[firstSeed].startsShot = true;

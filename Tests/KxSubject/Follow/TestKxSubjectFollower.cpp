@@ -173,6 +173,13 @@ TEST(KxSubjectFollower, NothingIsDoneForSeedsOutsideTheVideoOrTheRange)
     EXPECT_TRUE(outcome.track.points.empty());
 }
 
+TEST(KxSubjectFollower, AChoiceThatPointsAtNothingNeedsNoPictures)
+{
+    KxSubjectChoice hold;
+    hold.kind = KxChoiceKind::Hold;
+    EXPECT_EQ(Run(Record(300, {60}), hold).ranges, 0);
+}
+
 TEST(KxSubjectFollower, MissingAndWrongPicturesAreIgnored)
 {
     KxSubjectFollower follower(Record(60), Follow({SeedAt(30)}), {});
