@@ -25,12 +25,18 @@ public:
         QSize size; ///< at most the source's, in both directions
     };
 
+    struct WeightedRow {
+        const std::uint8_t* samples;
+        std::uint16_t weight;
+    };
+
     void Run(const Source& source, const Target& target);
 
 private:
     void AverageRows(const Source& source, int targetRow, int targetRows);
     void AverageColumns(int sourceColumns, std::uint8_t* row, int columns);
 
+    std::vector<WeightedRow> m_rows;      ///< of the source, that make the present row
     std::vector<std::uint16_t> m_means;   ///< of each column over the rows, 16 bits for the whole range
     std::vector<std::uint32_t> m_running; ///< sums of m_means from the left
 };

@@ -13,18 +13,12 @@ cv::Mat SlopeOf(const cv::Mat& grey)
     cv::Mat across;
     cv::Mat down;
     cv::spatialGradient(grey, across, down);
-    constexpr float sobelGain = 8.0F;
-    cv::Mat slope(grey.size(), CV_32FC1);
-    for (int y = 0; y < grey.rows; ++y) {
-        const auto* gx = across.ptr<short>(y);
-        const auto* gy = down.ptr<short>(y);
-        auto* out = slope.ptr<float>(y);
-        for (int x = 0; x < grey.cols; ++x) {
-            const auto a = static_cast<float>(gx[x]);
-            const auto b = static_cast<float>(gy[x]);
-            out[x] = std::sqrt(a * a + b * b) / sobelGain;
-        }
-    }
+    across.convertTo(across, CV_32F);
+    down.convertTo(down, CV_32F);
+    cv::Mat slope;
+    cv::magnitude(across, down, slope);
+    constexpr double sobelGain = 8.0;
+    slope /= sobelGain;
     return slope;
 }
 
