@@ -100,11 +100,10 @@ QByteArray PublishedChecksum(const QString& name)
                                       : QByteArray();
 }
 
-/// Why a network with these contents is not used; empty if it is what was installed. OpenCV does not detect all damage,
+/// Why a network with this checksum is not used; empty if it is what was installed. OpenCV does not detect all damage,
 /// and some of what it does not detect ends the program.
-QString ChecksumProblem(const QString& folder, const QString& name, const QByteArray& contents)
+QString ChecksumProblem(const QString& folder, const QString& name, const QByteArray& checksum)
 {
-    const QByteArray checksum = QCryptographicHash::hash(contents, QCryptographicHash::Sha256).toHex();
     const QByteArray stated = StatedChecksum(folder, name);
     if (stated.isEmpty() && checksum != PublishedChecksum(name)) {
         return QStringLiteral("its checksum is unknown (no SHA256SUMS beside it names the file)");
@@ -120,8 +119,13 @@ QString DetectorProblem(const QString& path, const QString& reason)
     return QStringLiteral("Cannot use the detector %1: %2.").arg(path, reason);
 }
 
-/// The bytes of a network; empty if it is missing, and if it cannot be used, which is added to `problems`.
-std::string ReadNetwork(const QString& folder, const QString& name, QStringList& problems)
+struct Network {
+    std::string contents;
+    KxUsedModel file;
+};
+
+/// Empty if the file is missing, and if it cannot be used, which is added to `problems`.
+Network ReadNetwork(const QString& folder, const QString& name, QStringList& problems)
 {
     const QString path = PathIn(folder, name);
     const QFileInfo file(path);
@@ -130,14 +134,15 @@ std::string ReadNetwork(const QString& folder, const QString& name, QStringList&
     }
     QString reason = ReasonNotToRead(file);
     const QByteArray contents = reason.isEmpty() ? ContentsOf(path) : QByteArray();
+    const QByteArray checksum = QCryptographicHash::hash(contents, QCryptographicHash::Sha256).toHex();
     if (reason.isEmpty()) {
-        reason = ChecksumProblem(folder, name, contents);
+        reason = ChecksumProblem(folder, name, checksum);
     }
     if (!reason.isEmpty()) {
         problems += DetectorProblem(path, reason);
         return {};
     }
-    return contents.toStdString();
+    return {contents.toStdString(), {name.toStdString(), checksum.toStdString()}};
 }
 
 } // namespace
@@ -221,8 +226,12 @@ KxDetectorFiles::Contents KxDetectorFiles::Read(const QString& networkFolder)
         contents.problems += problem;
         return contents;
     }
-    contents.models.objectDetector = ReadNetwork(networkFolder, ObjectDetectorName(), contents.problems);
-    faces.detector = ReadNetwork(networkFolder, FaceDetectorName(), contents.problems);
+    Network objects = ReadNetwork(networkFolder, ObjectDetectorName(), contents.problems);
+    contents.models.objectDetector = std::move(objects.contents);
+    contents.models.objectDetectorFile = std::move(objects.file);
+    Network face = ReadNetwork(networkFolder, FaceDetectorName(), contents.problems);
+    faces.detector = std::move(face.contents);
+    faces.detectorFile = std::move(face.file);
     return contents;
 }
 

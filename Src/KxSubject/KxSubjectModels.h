@@ -8,4 +8,5 @@
 struct KxSubjectModels {
     KxFaceModels faces;
     std::string objectDetector; ///< NanoDet-g in ONNX (KxObjectDetector); empty: none
+    KxUsedModel objectDetectorFile{};
 };

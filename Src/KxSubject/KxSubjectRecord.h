@@ -8,6 +8,7 @@
 #include <KxSubject/KxShotBoundary.h>
 #include <KxSubject/KxSignalProfile.h>
 #include <KxSubject/KxSubjectSource.h>
+#include <KxSubject/KxUsedModel.h>
 
 #include <array>
 #include <cstddef>
@@ -104,6 +105,7 @@ struct KXSUBJECT_API KxSubjectRecord {
     std::vector<KxDetectionLook> looks; ///< growing by frame; none without the object detector
     std::vector<KxMouthTrack> mouths;   ///< growing by face; only where two or more faces last
     std::vector<KxSoundSpan> sound;     ///< growing in time, apart from each other; only where there are mouths
+    std::vector<KxUsedModel> models;    ///< the networks that were used
 
     double SecondsAt(std::int64_t frame) const { return static_cast<double>(frame) / source.frameRate; }
 };

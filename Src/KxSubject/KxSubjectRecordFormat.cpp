@@ -11,6 +11,7 @@ namespace
 constexpr std::uint32_t Magic = 0x5253584B; // "KXSR"
 constexpr std::size_t ChecksumBytes = 8;
 constexpr int MostPx = 1 << 20;
+constexpr std::size_t MostTextBytes = 255;
 
 /// FNV-1a.
 std::uint64_t ChecksumOf(const char* data, std::size_t size)
@@ -135,6 +136,13 @@ public:
     {
         Put(span.first);
         PutAll(span.levels);
+    }
+    void PutItem(const KxUsedModel& model)
+    {
+        for (const std::string* text : {&model.name, &model.sha256}) {
+            Put(static_cast<std::uint8_t>(std::min(text->size(), MostTextBytes)));
+            m_bytes.append(*text, 0, MostTextBytes);
+        }
     }
 
     std::string Finished()
@@ -303,6 +311,19 @@ public:
         GetAll(span.levels, sizeof(std::int16_t));
         Require(span.first >= 0 && span.first < farthest && !span.levels.empty());
     }
+    void GetItem(KxUsedModel& model)
+    {
+        for (std::string* text : {&model.name, &model.sha256}) {
+            std::uint8_t bytes = 0;
+            Get(bytes);
+            Require(bytes <= m_left);
+            if (m_ok) {
+                text->assign(m_data, bytes);
+                m_data += bytes;
+                m_left -= bytes;
+            }
+        }
+    }
 
 private:
     const char* m_data;
@@ -404,6 +425,7 @@ std::string KxSubjectRecordFormat::Write(const KxSubjectRecord& record)
     writer.PutAll(record.looks);
     writer.PutAll(record.mouths);
     writer.PutAll(record.sound);
+    writer.PutAll(record.models);
     return writer.Finished();
 }
 
@@ -444,6 +466,7 @@ std::optional<KxSubjectRecord> KxSubjectRecordFormat::Read(const std::string& by
     constexpr std::size_t leastLookBytes = 12;
     constexpr std::size_t leastMouthBytes = 23;
     constexpr std::size_t leastSoundBytes = 18;
+    constexpr std::size_t leastModelBytes = 2;
     reader.GetAll(record.boundaries, boundaryBytes);
     reader.GetAll(record.samples, sampleBytes);
     reader.GetAll(record.movers, leastMoverBytes);
@@ -451,6 +474,7 @@ std::optional<KxSubjectRecord> KxSubjectRecordFormat::Read(const std::string& by
     reader.GetAll(record.looks, leastLookBytes);
     reader.GetAll(record.mouths, leastMouthBytes);
     reader.GetAll(record.sound, leastSoundBytes);
+    reader.GetAll(record.models, leastModelBytes);
     if (!reader.IsOk() || !reader.IsAtEnd() || !IsConsistent(record)) {
         return std::nullopt;
     }

@@ -190,6 +190,9 @@ TEST_F(KxDetectorFilesTest, ThePublishedFaceDetectorNeedsNoStatedChecksum)
     const KxDetectorFiles::Contents contents = KxDetectorFiles::Read(folder.path());
     EXPECT_TRUE(contents.problems.isEmpty());
     EXPECT_FALSE(contents.models.faces.detector.empty());
+    EXPECT_EQ(contents.models.faces.detectorFile.name, FaceDetector.toStdString());
+    EXPECT_EQ(contents.models.faces.detectorFile.sha256,
+              "50ef07f702a31741ca46a4c0d947773b64143b9362780237bf0d427d6c79bab7");
 }
 
 TEST_F(KxDetectorFilesTest, ADamagedNetworkIsNotUsed)

@@ -27,6 +27,7 @@ KxSubjectRecord Record()
     }
     record.movers = {{3, 1.5F, 0.2F, {{10, 20, 30, 40}, {12, 20, 32, 40}}}, {38, 0.5F, 0.1F, {{0, 0, 255, 255}}}};
     record.faces = {{{{0.5F, 10, 20, 30, 40}, {0.75F, 0, 0, 0, 0}, {1.0F, -2, 20, 30, 40}}}};
+    record.models = {{"a.onnx", "0123"}, {"", std::string(64, 'f')}};
     record.looks = {{0, {{0.1F, 0.2F, 0.3F, 0.4F, 0.9F, KxDetectionKind::Animal}}}, {25, {}}};
     record.faces.push_back(record.faces[0]);
     record.mouths = {{0, {{4, 2, 700, 300, -120}, {6, 2, 65535, 0, 32767}}}, {1, {{4, 255, 0, 0, -32768}}}};
@@ -62,6 +63,8 @@ TEST(KxSubjectRecordFormat, ARecordComesBackAsItWasWritten)
     EXPECT_EQ(read->mouths[0].looks[1].movement, 65535);
     EXPECT_EQ(read->mouths[1].looks[0].opening, -32768);
     EXPECT_EQ(read->sound[0].levels, written.sound[0].levels);
+    EXPECT_EQ(read->models[0].name, "a.onnx");
+    EXPECT_EQ(read->models[1].sha256, written.models[1].sha256);
     EXPECT_EQ(KxSubjectRecordFormat::Write(*read), bytes) << "everything comes back";
 }
 
