@@ -14,11 +14,10 @@
 //       record, the number of frames (int32), the crop's width and height, and its left and top in each frame (float32,
 //       fractions of the picture).
 
-#include <KxMedia/Picture/KxPictureScaler.h>
 #include <KxMedia/Read/KxVideoScanner.h>
 #include <KxModel/KxDetectorFiles.h>
 #include <KxModel/KxSoundReading.h>
-#include <KxSubject/KxPictureView.h>
+#include <KxModel/KxVideoObservation.h>
 #include <KxSubject/KxSubjectDecision.h>
 #include <KxSubject/KxSubjectObserver.h>
 #include <KxSubject/KxSubjectOptions.h>
@@ -133,24 +132,12 @@ int Observe(const QString& clip, const QString& recordPath, const QString& objec
     if (!scanner) {
         return Fail(scanner.Message());
     }
-    const KxMediaFacts facts = (*scanner)->Facts();
-    const QSize resolution = facts.video->resolution;
-    KxSubjectObserver observer(
-        {resolution.width(), resolution.height(), facts.video->frameRate.ToDouble(), facts.video->frameCount}, models,
-        {});
-    const QSize size(observer.WorkingSize().width, observer.WorkingSize().height);
-    KxPictureScaler scaler(KxPictureScaler::Detail::Coarse);
-    KxVideoFrame picture;
-    while ((*scanner)->Next(picture) == KxReadStatus::Delivered) {
-        if (observer.Wants(picture.Index())) {
-            const QImage image = scaler.Scale(picture, size, QImage::Format_BGR888);
-            observer.AddPicture(
-                picture.Index(),
-                {image.constBits(), {image.width(), image.height()}, static_cast<std::size_t>(image.bytesPerLine())});
-        }
+    KxVideoObservation observation(**scanner, KxCancelToken());
+    if (const KxError problem = observation.Run(std::move(models), [](int) {})) {
+        return Fail(QStringLiteral("Cannot observe %1: %2.").arg(clip, *problem));
     }
-    KxSubjectRecord record = observer.Finish();
-    KxSoundReading::AddTo(record, clip, facts.defaultAudio, (*scanner)->Clock(), KxCancelToken());
+    KxSubjectRecord record = observation.TakeObserver()->Finish();
+    KxSoundReading::AddTo(record, clip, (*scanner)->Facts().defaultAudio, (*scanner)->Clock(), KxCancelToken());
     return WriteRecord(record, recordPath);
 }
 

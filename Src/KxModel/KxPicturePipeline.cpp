@@ -3,20 +3,17 @@
 #include <KxCore/KxBoundedQueue.h>
 #include <KxCore/KxThread.h>
 
-namespace
-{
-
-constexpr std::size_t MostQueued = 32;
-
-} // namespace
-
 KxError KxPicturePipeline::Run(const std::function<void(const Put& put)>& produce,
-                               const std::function<void(const Picture& picture)>& consume)
+                               const std::function<void(const Picture& picture)>& consume,
+                               const std::function<void()>& begin)
 {
     KxBoundedQueue<Picture> queue(MostQueued);
     KxError consumerFailure;
-    KxThread consumer([&] {
+    KxThread thread([&] {
         consumerFailure = KxCallGuarded([&] {
+            if (begin) {
+                begin();
+            }
             while (const std::optional<Picture> picture = queue.Pop()) {
                 consume(*picture);
             }
@@ -26,6 +23,6 @@ KxError KxPicturePipeline::Run(const std::function<void(const Put& put)>& produc
     const KxError producerFailure =
         KxCallGuarded([&] { produce([&queue](Picture picture) { return queue.Push(std::move(picture)); }); });
     queue.Close();
-    consumer.Join();
+    thread.Join();
     return producerFailure ? producerFailure : consumerFailure;
 }

@@ -3,15 +3,13 @@
 #include <KxModel/KxDetectorFiles.h>
 #include <KxModel/KxFollowPass.h>
 #include <KxModel/KxFollowTracks.h>
-#include <KxModel/KxPicturePipeline.h>
 #include <KxModel/KxRecordStore.h>
 #include <KxModel/KxSoundReading.h>
+#include <KxModel/KxVideoObservation.h>
 
 #include <KxCore/KxMemory.h>
 
-#include <KxMedia/Picture/KxPictureScaler.h>
 #include <KxMedia/Read/KxVideoScanner.h>
-#include <KxSubject/KxPictureView.h>
 #include <KxSubject/KxShotDoubt.h>
 #include <KxSubject/KxSubjectDecision.h>
 #include <KxSubject/KxSubjectObserver.h>
@@ -47,11 +45,6 @@ KxSubjectRequest RequestFor(const IKxAutoReframeParam& param, const KxAnalysisSe
             settings.choices,
             {},
             settings.followsSpeaker ? KxSpeakerMode::Auto : KxSpeakerMode::Off};
-}
-
-KxPictureView ViewOf(const QImage& image)
-{
-    return {image.constBits(), {image.width(), image.height()}, static_cast<std::size_t>(image.bytesPerLine())};
 }
 
 QList<IKxAutoReframeResult> ResultsOf(const std::vector<KxCropRect>& crops)
@@ -94,59 +87,6 @@ QList<KxAutoReframeShot> ShotsOf(const KxSubjectFindings& findings)
 } // namespace
 
 KxAnalysis::~KxAnalysis() = default;
-
-/// The state of one run.
-class KxVideoAnalysis::Job
-{
-public:
-    Job(KxVideoScanner& scanner, KxSubjectObserver& observer, const KxCancelToken& cancel)
-        : m_scanner(scanner)
-        , m_observer(observer)
-        , m_cancel(cancel)
-    {
-    }
-
-    /// Adds every picture to the observer.
-    KxError Run(const std::function<void(int)>& onProgress)
-    {
-        return KxPicturePipeline::Run([&](const KxPicturePipeline::Put& put) { Decode(put, onProgress); },
-                                      [this](const KxPicturePipeline::Picture& picture) { Observe(picture); });
-    }
-
-private:
-    void Decode(const KxPicturePipeline::Put& put, const std::function<void(int)>& onProgress)
-    {
-        const qint64 frameCount = m_scanner.Facts().video->frameCount;
-        const KxIntSize size = m_observer.WorkingSize();
-        KxPictureScaler scaler(KxPictureScaler::Detail::Coarse);
-        int reported = -1;
-        KxVideoFrame picture;
-        while (!m_cancel.IsCancelled() && m_scanner.Next(picture) == KxReadStatus::Delivered) {
-            if (m_observer.Wants(picture.Index())) {
-                QImage image = scaler.Scale(picture, QSize(size.width, size.height), QImage::Format_BGR888);
-                if (!image.isNull() && !put({picture.Index(), std::move(image)})) {
-                    return;
-                }
-            }
-            const int percent = static_cast<int>(qMin<qint64>(picture.Index() * 100 / frameCount, 99));
-            if (percent > reported) {
-                reported = percent;
-                onProgress(percent);
-            }
-        }
-    }
-
-    void Observe(const KxPicturePipeline::Picture& picture)
-    {
-        if (!m_cancel.IsCancelled()) {
-            m_observer.AddPicture(picture.frame, ViewOf(picture.image));
-        }
-    }
-
-    KxVideoScanner& m_scanner;
-    KxSubjectObserver& m_observer;
-    KxCancelToken m_cancel;
-};
 
 KxVideoAnalysis::KxVideoAnalysis(std::unique_ptr<KxVideoScanner> scanner, const IKxAutoReframeParam& param,
                                  const KxAnalysisSettings& settings, const KxCancelToken& cancel)
@@ -199,9 +139,8 @@ std::shared_ptr<const KxSubjectRecord> KxVideoAnalysis::Observe(KxSubjectModels 
                                                                 Result& result)
 {
     const QString name = QFileInfo(m_scanner->Facts().path).fileName();
-    KxSubjectObserver observer(SourceOf(*m_scanner->Facts().video), models, {});
-    models = {};
-    const KxError problem = Job(*m_scanner, observer, m_cancel).Run(onProgress);
+    KxVideoObservation observation(*m_scanner, m_cancel);
+    const KxError problem = observation.Run(std::move(models), onProgress);
     const bool endedEarly = m_scanner->EndedEarly();
     const KxMediaFacts facts = m_scanner->Facts();
     const KxMediaClock clock = m_scanner->Clock();
@@ -216,16 +155,17 @@ std::shared_ptr<const KxSubjectRecord> KxVideoAnalysis::Observe(KxSubjectModels 
         result.message = QStringLiteral("Cannot analyse %1: %2.").arg(name, problem->simplified());
         return nullptr;
     }
-    if (observer.IsObjectDetectorRefused()) {
+    const std::unique_ptr<KxSubjectObserver> observer = observation.TakeObserver();
+    if (observer->IsObjectDetectorRefused()) {
         result.warnings += KxDetectorFiles::RefusedObjectDetector(m_settings.networkFolder);
     }
-    if (observer.IsFaceDetectorRefused()) {
+    if (observer->IsFaceDetectorRefused()) {
         result.warnings += KxDetectorFiles::RefusedFaceDetector(m_settings.networkFolder);
     }
     if (endedEarly) {
         result.warnings += QStringLiteral("%1 is cut off or damaged: it decodes only in part.").arg(name);
     }
-    auto record = std::make_shared<KxSubjectRecord>(observer.Finish());
+    auto record = std::make_shared<KxSubjectRecord>(observer->Finish());
     KxSoundReading::AddTo(*record, facts.path, facts.defaultAudio, clock, m_cancel);
     if (m_cancel.IsCancelled()) {
         result.outcome = KxOutcome::Cancelled;
@@ -320,6 +260,7 @@ KxAnalysis::Result KxVideoAnalysis::Run(const std::function<void(int percent)>& 
         return result;
     }
     result.crops = ResultsOf(decision.crops);
+    result.models = record->models;
     decision.crops = {};
     if (m_settings.wantsShots) {
         result.shots = ShotsOf(decision.findings);

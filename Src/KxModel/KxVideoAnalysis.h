@@ -6,6 +6,7 @@
 
 #include <KxCore/KxCancelToken.h>
 #include <KxCore/KxResult.h>
+#include <KxSubject/KxUsedModel.h>
 
 #include <KxSubject/KxSubjectChoices.h>
 
@@ -14,6 +15,7 @@
 
 #include <functional>
 #include <memory>
+#include <vector>
 
 class KxFollowTracks;
 class KxRecordStore;
@@ -32,6 +34,7 @@ public:
         QList<IKxAutoReframeResult> crops;                 ///< one a frame; empty unless Done
         QString message;                                   ///< the error message of a failure
         QStringList warnings;                              ///< a warning for the person, although it is Done
+        std::vector<KxUsedModel> models;                   ///< the networks that the crops depend on
         std::shared_ptr<const KxSubjectFindings> findings; ///< null unless Done and wanted
         QList<KxAutoReframeShot> shots;                    ///< empty unless Done and wanted
     };
@@ -58,9 +61,9 @@ struct KxAnalysisSettings {
     std::shared_ptr<KxFollowTracks> tracks; ///< null: what is followed is looked for anew each time
 };
 
-/// The analysis of a video file. If the file was looked at before, its record decides; otherwise the calling thread
-/// decodes and shrinks pictures, another one finds the subject in them (KxPicturePipeline). Shots in which a choice
-/// points at something are looked at again, once for each set of its seeds (KxFollowPass).
+/// The analysis of a video file. If the file was looked at before, its record decides; otherwise its pictures are
+/// decoded and looked at (KxVideoObservation). Shots in which a choice points at something are looked at again, once
+/// for each set of its seeds (KxFollowPass).
 class KXMODEL_API KxVideoAnalysis final : public KxAnalysis
 {
 public:
@@ -81,7 +84,6 @@ public:
     Result Run(const std::function<void(int percent)>& onProgress) override;
 
 private:
-    class Job;
     /// The record of the file as an earlier analysis left it; null without one.
     std::shared_ptr<const KxSubjectRecord> FindRecord(const QByteArray& key) const;
     /// Looks at the whole video. Null if that fails or is cancelled: then `result` says why.

@@ -2,37 +2,29 @@
 
 #include <KxSubject/KxPictureView.h>
 #include <KxSubject/KxSubjectModels.h>
+#include <KxSubject/KxSubjectSampling.h>
 #include <KxSubject/Shots/KxShotDetector.h>
 #include <KxSubject/Signals/KxMouthTracks.h>
 #include <KxSubject/Signals/KxOpenCvError.h>
 #include <KxSubject/Signals/KxSignalRecorder.h>
 
-#include <algorithm>
-#include <cmath>
+#include <array>
 
 namespace
 {
 
-constexpr double UsualFrameRate = 25.0;
 constexpr std::size_t BytesPerPixel = 3;
 
-KxSubjectSource Checked(KxSubjectSource source)
+bool IsUsable(const KxPictureView& view, KxIntSize sizePx)
 {
-    source.pictureWidthPx = std::max(source.pictureWidthPx, 1);
-    source.pictureHeightPx = std::max(source.pictureHeightPx, 1);
-    source.frameCount = std::max<std::int64_t>(source.frameCount, 0);
-    if (!std::isfinite(source.frameRate) || source.frameRate <= 0.0) {
-        source.frameRate = UsualFrameRate;
-    }
-    return source;
+    return view.data != nullptr && view.sizePx == sizePx &&
+           view.bytesPerRow >= BytesPerPixel * static_cast<std::size_t>(sizePx.width);
 }
 
-cv::Size WorkingSizeOf(const KxSubjectSource& source, const KxSubjectOptions::Sampling& options)
+cv::Mat MatOf(const KxPictureView& view)
 {
-    const double scale =
-        static_cast<double>(options.workingLongSidePx) / std::max(source.pictureWidthPx, source.pictureHeightPx);
-    return {std::max(cvRound(source.pictureWidthPx * scale), options.workingShortSideMinPx),
-            std::max(cvRound(source.pictureHeightPx * scale), options.workingShortSideMinPx)};
+    // cv::Mat cannot refer to constant data; nothing here writes to it.
+    return {view.sizePx.height, view.sizePx.width, CV_8UC3, const_cast<std::uint8_t*>(view.data), view.bytesPerRow};
 }
 
 } // namespace
@@ -41,49 +33,49 @@ class KxSubjectObserver::Impl
 {
 public:
     Impl(const KxSubjectSource& source, const KxSubjectModels& models, const KxSubjectOptions& options)
-        : m_source(Checked(source))
-        , m_workingSize(WorkingSizeOf(m_source, options.sampling))
+        : m_sampling(source, options.sampling)
+        , m_models{models.objectDetectorFile, models.faces.detectorFile}
         , m_shots(options.shots,
                   [this](std::int64_t first, std::int64_t last) { return m_signals.InCommon(first, last); })
-        , m_signals(options, m_workingSize, m_source.frameRate, models)
-        , m_mouths(options.mouths, m_source.frameRate)
-        , m_step(std::max<std::int64_t>(1, static_cast<std::int64_t>(std::floor(
-                                               m_source.frameRate / options.sampling.wantedPicturesPerSecond + 0.01))))
+        , m_signals(options, {WorkingSize().width, WorkingSize().height}, m_sampling.Source().frameRate, models)
+        , m_mouths(options.mouths, m_sampling.Source().frameRate)
     {
-        m_shots.Reserve(m_source.frameCount);
-        m_signals.Reserve(m_source.frameCount);
+        m_shots.Reserve(m_sampling.Source().frameCount);
+        m_signals.Reserve(m_sampling.Source().frameCount);
     }
 
-    KxIntSize WorkingSize() const { return {m_workingSize.width, m_workingSize.height}; }
+    KxIntSize WorkingSize() const { return m_sampling.WorkingSize(); }
     bool IsFaceDetectorRefused() const { return m_signals.Faces().Finder().IsDetectorRefused(); }
     bool IsObjectDetectorRefused() const { return m_signals.IsObjectDetectorRefused(); }
-    bool Wants(std::int64_t frame) const { return frame >= 0 && frame < m_source.frameCount && frame % m_step == 0; }
-    void AddPicture(std::int64_t frame, const KxPictureView& view);
+    bool Wants(std::int64_t frame) const { return m_sampling.Wants(frame); }
+    bool WatchesMouths() const { return m_mouths.IsWatching(); }
+    void AddPicture(std::int64_t frame, const KxPictureView& shot, const KxPictureView& whole);
     KxSubjectRecord Finish();
 
 private:
-    KxSubjectSource m_source;
-    cv::Size m_workingSize;
+    KxSubjectSampling m_sampling;
+    std::array<KxUsedModel, 2> m_models; ///< of objects and faces; without a name: none
     KxShotDetector m_shots;
     KxSignalRecorder m_signals;
     KxMouthTracks m_mouths;
-    std::int64_t m_step; ///< one frame of this many is wanted
-    std::int64_t m_lastFrame = -1;
+    std::optional<std::int64_t> m_lastFrame;
 };
 
-void KxSubjectObserver::Impl::AddPicture(std::int64_t frame, const KxPictureView& view)
+void KxSubjectObserver::Impl::AddPicture(std::int64_t frame, const KxPictureView& shot, const KxPictureView& whole)
 {
-    if (frame <= m_lastFrame || frame >= m_source.frameCount || view.data == nullptr || view.sizePx != WorkingSize() ||
-        view.bytesPerRow < BytesPerPixel * static_cast<std::size_t>(view.sizePx.width)) {
+    if (frame < 0 || (m_lastFrame && frame <= *m_lastFrame) || frame >= m_sampling.Source().frameCount) {
         return;
     }
+    const bool isSample = m_sampling.IsSample(frame, m_lastFrame);
     m_lastFrame = frame;
-    // cv::Mat cannot refer to constant data; nothing here writes to it.
-    const cv::Mat picture(m_workingSize, CV_8UC3, const_cast<std::uint8_t*>(view.data), view.bytesPerRow);
     try {
-        m_shots.AddPicture(frame, picture);
-        m_signals.AddPicture(frame, picture);
-        m_mouths.AddPicture(frame, picture, m_signals.Faces());
+        m_shots.AddPicture(frame, MatOf(shot));
+        if (whole.data != nullptr) {
+            if (isSample) {
+                m_signals.AddPicture(frame, MatOf(whole));
+            }
+            m_mouths.AddPicture(frame, MatOf(whole), m_signals.Faces());
+        }
     } catch (const cv::Exception& problem) {
         KxThrowIfOutOfMemory(problem);
     }
@@ -92,11 +84,17 @@ void KxSubjectObserver::Impl::AddPicture(std::int64_t frame, const KxPictureView
 KxSubjectRecord KxSubjectObserver::Impl::Finish()
 {
     KxSubjectRecord record;
-    record.boundaries = m_shots.Boundaries(m_source.frameRate);
+    record.boundaries = m_shots.Boundaries(m_sampling.Source().frameRate);
     record.mouths = m_mouths.Finish(m_signals.Faces());
     m_signals.Finish(record);
-    record.source = m_source;
+    record.source = m_sampling.Source();
     record.workingSizePx = WorkingSize();
+    const std::array<bool, 2> refused{IsObjectDetectorRefused(), IsFaceDetectorRefused()};
+    for (std::size_t i = 0; i < m_models.size(); ++i) {
+        if (!m_models[i].name.empty() && !refused[i]) {
+            record.models.push_back(m_models[i]);
+        }
+    }
     return record;
 }
 
@@ -120,7 +118,21 @@ bool KxSubjectObserver::Wants(std::int64_t frame) const
 
 void KxSubjectObserver::AddPicture(std::int64_t frame, const KxPictureView& picture)
 {
-    m_impl->AddPicture(frame, picture);
+    if (IsUsable(picture, WorkingSize())) {
+        m_impl->AddPicture(frame, picture, picture);
+    }
+}
+
+void KxSubjectObserver::AddPicture(std::int64_t frame, const KxPictureView& shot, const KxPictureView& whole)
+{
+    if (IsUsable(shot, KxSubjectSampling::ShotSize) && (whole.data == nullptr || IsUsable(whole, WorkingSize()))) {
+        m_impl->AddPicture(frame, shot, whole);
+    }
+}
+
+bool KxSubjectObserver::WatchesMouths() const
+{
+    return m_impl->WatchesMouths();
 }
 
 KxSubjectRecord KxSubjectObserver::Finish()

@@ -20,15 +20,19 @@ public:
     KxSubjectObserver(const KxSubjectSource& source, const KxSubjectModels& models, const KxSubjectOptions& options);
     ~KxSubjectObserver();
 
-    /// The size of the pictures that AddPicture takes.
+    /// As of KxSubjectSampling.
     KxIntSize WorkingSize() const;
-
-    /// Whether a picture at `frame` adds to the record; any other picture need not be converted.
     bool Wants(std::int64_t frame) const;
 
-    /// `picture` has WorkingSize(); `frame` grows from call to call. Pictures that break this, or that OpenCV cannot
-    /// work on, are ignored.
+    /// The picture at `frame`, which grows from call to call: `shot` has KxSubjectSampling::ShotSize, `whole`
+    /// WorkingSize(); if the picture is no sample, `whole` needs no data. Pictures that break this, or that OpenCV
+    /// cannot work on, are ignored.
+    void AddPicture(std::int64_t frame, const KxPictureView& shot, const KxPictureView& whole);
+    /// The same from one picture of WorkingSize().
     void AddPicture(std::int64_t frame, const KxPictureView& picture);
+    /// Whether several people are there, so that it helps to have all wanted pictures whole: mouths move faster than
+    /// samples are taken.
+    bool WatchesMouths() const;
 
     /// Call once, after the last picture.
     KxSubjectRecord Finish();

@@ -79,3 +79,29 @@ TEST(KxPicturePipeline, IfBothFailTheProducersMessageIsReported)
         [](const KxPicturePipeline::Picture&) { throw std::runtime_error("the consumer"); });
     EXPECT_EQ(failure.value_or(QString()), QStringLiteral("the producer"));
 }
+
+TEST(KxPicturePipeline, TheConsumerBeginsOnceOnItsThreadBeforeItsFirstPicture)
+{
+    std::vector<std::thread::id> begun;
+    std::vector<std::thread::id> consumed;
+    const KxError failure = KxPicturePipeline::Run(
+        &Produce,
+        [&](const KxPicturePipeline::Picture&) {
+            ASSERT_EQ(begun.size(), 1U);
+            consumed.push_back(std::this_thread::get_id());
+        },
+        [&] { begun.push_back(std::this_thread::get_id()); });
+    EXPECT_FALSE(failure.has_value());
+    ASSERT_EQ(consumed.size(), static_cast<std::size_t>(Many));
+    EXPECT_EQ(begun.front(), consumed.front());
+}
+
+TEST(KxPicturePipeline, AnExceptionAtTheBeginningIsAFailureAndStopsTheProducer)
+{
+    int consumed = 0;
+    const KxError failure = KxPicturePipeline::Run(
+        &Produce, [&](const KxPicturePipeline::Picture&) { ++consumed; },
+        [] { throw std::runtime_error("the models"); });
+    EXPECT_EQ(failure.value_or(QString()), QStringLiteral("the models"));
+    EXPECT_EQ(consumed, 0);
+}

@@ -2,6 +2,7 @@
 #include <KxSubject/KxSubjectModels.h>
 #include <KxSubject/KxSubjectObserver.h>
 #include <KxSubject/KxSubjectOptions.h>
+#include <KxSubject/KxSubjectSampling.h>
 
 #include <Tests/KxSubject/MadePictures.h>
 
@@ -218,4 +219,41 @@ TEST(KxSubjectObserver, AFaceDetectorThatCannotBeRunIsReported)
 {
     EXPECT_FALSE(ObserverOf(Video(5)).IsFaceDetectorRefused());
     EXPECT_TRUE(ObserverOf(Video(5), {{{}, {}, "no network"}, {}}).IsFaceDetectorRefused());
+}
+
+TEST(KxSubjectObserver, SmallPicturesShowTheBoundariesBetweenTheSamples)
+{
+    const cv::Mat before = View(Scene(6), 0.0);
+    const cv::Mat after = View(Scene(7), 0.0);
+    KxSubjectObserver observer({Size.width, Size.height, FrameRate, 60}, KxSubjectModels(), KxSubjectOptions());
+    const KxSubjectSampling sampling({Size.width, Size.height, FrameRate, 60}, KxSubjectOptions().sampling);
+    std::size_t samples = 0;
+    for (int frame = 0; frame < 60; ++frame) {
+        const cv::Mat picture = frame < 31 ? before : after;
+        cv::Mat small;
+        cv::resize(picture, small, {KxSubjectSampling::ShotSize.width, KxSubjectSampling::ShotSize.height}, 0.0, 0.0,
+                   cv::INTER_AREA);
+        const KxPictureView shot{small.data, {small.cols, small.rows}, small.step};
+        const bool isSample =
+            sampling.IsSample(frame, frame > 0 ? std::optional<std::int64_t>(frame - 1) : std::nullopt);
+        samples += isSample ? 1 : 0;
+        observer.AddPicture(frame, shot,
+                            isSample ? KxPictureView{picture.data, {picture.cols, picture.rows}, picture.step}
+                                     : KxPictureView());
+    }
+    const KxSubjectRecord record = observer.Finish();
+    ASSERT_EQ(record.boundaries.size(), 1U);
+    EXPECT_EQ(record.boundaries.front().frame, 31);
+    EXPECT_EQ(record.samples.size(), samples);
+    EXPECT_LT(samples, 30U);
+}
+
+TEST(KxSubjectObserver, PicturesOfTheWrongSizeAreIgnored)
+{
+    KxSubjectObserver observer({Size.width, Size.height, FrameRate, 60}, KxSubjectModels(), KxSubjectOptions());
+    const cv::Mat picture = View(Scene(6), 0.0);
+    const KxPictureView whole{picture.data, {picture.cols, picture.rows}, picture.step};
+    observer.AddPicture(0, whole, whole);
+    observer.AddPicture(1, KxPictureView(), whole);
+    EXPECT_TRUE(observer.Finish().samples.empty());
 }

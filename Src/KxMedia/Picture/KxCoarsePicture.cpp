@@ -36,13 +36,14 @@ bool HasPlanesOfYuv(const AVPixFmtDescriptor& format)
 
 } // namespace
 
-const AVFrame* KxCoarsePicture::Of(const AVFrame& picture, const QSize& size)
+const AVFrame* KxCoarsePicture::Of(const AVFrame& picture, const QSize& size, Chroma chroma)
 {
     const AVPixFmtDescriptor* from = av_pix_fmt_desc_get(static_cast<AVPixelFormat>(picture.format));
     if (from == nullptr || !HasPlanesOfYuv(*from) || size.width() > picture.width || size.height() > picture.height) {
         return nullptr;
     }
-    const AVPixelFormat format = from->nb_components == 1 ? AV_PIX_FMT_GRAY8 : AV_PIX_FMT_YUV420P;
+    const AVPixelFormat coloured = chroma == Chroma::Full ? AV_PIX_FMT_YUV444P : AV_PIX_FMT_YUV420P;
+    const AVPixelFormat format = from->nb_components == 1 ? AV_PIX_FMT_GRAY8 : coloured;
     const AVPixFmtDescriptor& to = *av_pix_fmt_desc_get(format);
     m_small.reset();
     m_small = m_pool.Take(format, size);

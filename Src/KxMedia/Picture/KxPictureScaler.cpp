@@ -127,7 +127,7 @@ bool KxPictureScaler::Impl::Prepare(const Key& key)
     }
     const bool isSmaller = key.to.width() <= key.from.width() && key.to.height() <= key.from.height();
     // The fastest conversion darkens by more than one step of 255, which is acceptable only for large pictures.
-    const int flags = (isSmaller ? SWS_AREA : SWS_BICUBIC) | (m_detail == Detail::Coarse ? SWS_ACCURATE_RND : 0);
+    const int flags = (isSmaller ? SWS_AREA : SWS_BICUBIC) | (m_detail == Detail::Full ? 0 : SWS_ACCURATE_RND);
     m_scaler.reset(sws_getContext(key.from.width(), key.from.height(), static_cast<AVPixelFormat>(key.fromFormat),
                                   key.to.width(), key.to.height(), static_cast<AVPixelFormat>(key.toFormat), flags,
                                   nullptr, nullptr, nullptr));
@@ -143,7 +143,8 @@ bool KxPictureScaler::Impl::Prepare(const Key& key)
 
 QImage KxPictureScaler::Impl::Scale(const AVFrame& picture, const QSize& size, QImage::Format format)
 {
-    const AVFrame* coarse = m_detail == Detail::Coarse ? m_coarse.Of(picture, size) : nullptr;
+    const auto chroma = m_detail == Detail::Overview ? KxCoarsePicture::Chroma::Full : KxCoarsePicture::Chroma::Half;
+    const AVFrame* coarse = m_detail == Detail::Full ? nullptr : m_coarse.Of(picture, size, chroma);
     const AVFrame& source = coarse != nullptr ? *coarse : picture;
     const auto from = static_cast<AVPixelFormat>(source.format);
     if (sws_isSupportedInput(from) == 0) {

@@ -11,7 +11,8 @@ class KXMEDIA_API KxPictureScaler
 public:
     enum class Detail {
         Full,
-        Coarse, ///< for analysis: when shrinking, chroma has half the resolution and some rows are skipped
+        Coarse,   ///< for analysis: when shrinking, chroma has half the resolution and some rows are skipped
+        Overview, ///< the same with chroma of full resolution, for very small pictures
     };
 
     explicit KxPictureScaler(Detail detail = Detail::Full);

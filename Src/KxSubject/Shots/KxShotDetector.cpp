@@ -1,5 +1,7 @@
 #include <KxSubject/Shots/KxShotDetector.h>
 
+#include <KxSubject/KxSubjectSampling.h>
+
 #include <opencv2/imgproc.hpp>
 
 #include <algorithm>
@@ -54,7 +56,8 @@ void KxShotDetector::AddPicture(std::int64_t frame, const cv::Mat& picture)
 {
     cv::Mat small;
     cv::Mat grey;
-    cv::resize(picture, small, cv::Size(64, 36), 0.0, 0.0, cv::INTER_AREA);
+    constexpr KxIntSize size = KxSubjectSampling::ShotSize;
+    cv::resize(picture, small, cv::Size(size.width, size.height), 0.0, 0.0, cv::INTER_AREA);
     cv::cvtColor(small, grey, cv::COLOR_BGR2GRAY);
     cv::Scalar mean;
     cv::Scalar deviation;

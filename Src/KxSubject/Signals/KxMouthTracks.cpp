@@ -53,8 +53,8 @@ void KxMouthTracks::AddPicture(std::int64_t frame, const cv::Mat& picture, const
         m_lastSeveral = now;
     }
     const double early = 0.25 / m_frameRate;
-    if (now <= m_lastSeveral + m_options.aloneSeconds &&
-        (m_lastKept < 0 || SecondsAt(frame - m_lastKept) >= m_options.periodSeconds - early)) {
+    m_isWatching = now <= m_lastSeveral + m_options.aloneSeconds;
+    if (m_isWatching && (m_lastKept < 0 || SecondsAt(frame - m_lastKept) >= m_options.periodSeconds - early)) {
         Picture kept{frame, {}, faces.FirstOpen()};
         cv::cvtColor(picture, kept.grey, cv::COLOR_BGR2GRAY);
         m_pictures.push_back(std::move(kept));

@@ -24,6 +24,9 @@ public:
     /// `picture` is CV_8UC3 (BGR); `faces` were looked for in it already. Frames grow from call to call.
     void AddPicture(std::int64_t frame, const cv::Mat& picture, const KxFaceTracks& faces);
 
+    /// Whether the next picture may be kept.
+    bool IsWatching() const { return m_isWatching; }
+
     /// The mouths that were seen beside others for long enough, by face. Call once, after the last picture.
     std::vector<KxMouthTrack> Finish(const KxFaceTracks& faces);
 
@@ -49,6 +52,7 @@ private:
     KxSubjectOptions::Mouths m_options;
     double m_frameRate;
     double m_lastSeveral = -1e9; ///< when more than one face was last followed
+    bool m_isWatching = false;
     std::int64_t m_lastKept = -1;
     std::deque<Picture> m_pictures; ///< not measured yet
     std::map<std::size_t, Last> m_last;

@@ -54,14 +54,6 @@ std::array<KxPackedProfile, 2> KxSignalRecorder::Profiles(const cv::Mat& map, co
 
 void KxSignalRecorder::AddPicture(std::int64_t frame, const cv::Mat& picture)
 {
-    const double tolerance = 0.25 / m_frameRate;
-    const auto slot =
-        static_cast<std::int64_t>(std::floor((SecondsAt(frame) + tolerance) * m_options.sampling.samplesPerSecond));
-    if (slot < m_nextSlot) {
-        return;
-    }
-    m_nextSlot = slot + 1;
-
     Picture now{frame, {}, std::nullopt};
     cv::cvtColor(picture, now.grey, cv::COLOR_BGR2GRAY);
     m_bars.AddPicture(now.grey);

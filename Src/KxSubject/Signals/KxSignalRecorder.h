@@ -16,7 +16,7 @@
 #include <optional>
 #include <vector>
 
-/// Runs the signals over a video's pictures as they come and records their evidence: profiles of the samples, movers,
+/// Runs the signals over a video's samples as they come and records their evidence: profiles of the samples, movers,
 /// faces, bars. The motion of a sample is measured against both of its neighbours, so it is known one sample later.
 /// Keeps two pictures, and small ones of the last seconds.
 class KXSUBJECT_API KxSignalRecorder
@@ -29,7 +29,7 @@ public:
     /// which pictures are allocated and freed.
     void Reserve(std::int64_t frameCount);
 
-    /// `picture` is CV_8UC3 (BGR) of the size given at the start; `frame` grows from call to call.
+    /// The next sample. `picture` is CV_8UC3 (BGR) of the size given at the start; `frame` grows from call to call.
     void AddPicture(std::int64_t frame, const cv::Mat& picture);
 
     /// Measures the motion of the last sample and puts everything that was seen into the record. Call once, after the
@@ -76,5 +76,4 @@ private:
     std::vector<KxSignalSample> m_samples;
     std::optional<Picture> m_before; ///< the sample before the newest
     std::optional<Picture> m_newest;
-    std::int64_t m_nextSlot = 0; ///< samples are taken once in each slot of time
 };
