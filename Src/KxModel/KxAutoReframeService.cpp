@@ -256,3 +256,9 @@ QStringList KxAutoReframeService::LastWarnings() const
     const std::lock_guard<std::mutex> lock(m_mutex);
     return m_result.warnings;
 }
+
+std::vector<KxUsedModel> KxAutoReframeService::LastModels() const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return m_result.models;
+}

@@ -73,6 +73,8 @@ public:
     /// The error message of the last start if it was refused, or of the last task if it failed; otherwise empty. Any
     /// thread.
     QString LastErrorMessage() const;
+    /// The neural networks that the results of the last finished task depend on. Any thread.
+    std::vector<KxUsedModel> LastModels() const;
     /// What a person should know about the last finished task. Any thread.
     QStringList LastWarnings() const;
 

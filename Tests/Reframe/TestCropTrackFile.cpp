@@ -69,6 +69,24 @@ TEST_F(CropTrackFileTest, JsonHasTheDocumentedShape)
     EXPECT_EQ(frames.at(0).toArray(), (QJsonArray{0.1, 0.0, 0.31640625, 1.0}));
 }
 
+TEST_F(CropTrackFileTest, JsonNamesTheNetworksOfTheAnalysis)
+{
+    const auto modelsOf = [this](const CropTrack& track) {
+        const QByteArray text = CropTrackFile::Format(track, Path("t.json"));
+        EXPECT_EQ(QJsonDocument::fromJson(text).object().value(QStringLiteral("frames")).toArray().size(), 3);
+        EXPECT_TRUE(CropTrackFile::Read(WithContent("models.json", text), 3));
+        return QJsonDocument::fromJson(text).object().value(QStringLiteral("models"));
+    };
+    CropTrack track = Track();
+    EXPECT_TRUE(modelsOf(track).isUndefined()) << "nothing was analysed";
+    track.models.emplace();
+    EXPECT_EQ(modelsOf(track), QJsonValue(QStringLiteral("none")));
+    track.models = std::vector<KxUsedModel>{KxUsedModel{"people.onnx", "0123"}};
+    EXPECT_EQ(modelsOf(track),
+              QJsonValue(QJsonArray{QJsonObject{{QStringLiteral("name"), QStringLiteral("people.onnx")},
+                                                {QStringLiteral("sha256"), QStringLiteral("0123")}}}));
+}
+
 TEST_F(CropTrackFileTest, CsvHasTheDocumentedShape)
 {
     const QList<QByteArray> lines = CropTrackFile::Format(Track(), Path("t.CSV")).split('\n');

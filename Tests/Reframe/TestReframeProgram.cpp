@@ -155,6 +155,7 @@ TEST_F(ReframeProgramTest, JsonLinesReportProgressAndResult)
     EXPECT_EQ(shots.first().toObject().value(QStringLiteral("end")).toInt(), 40);
     const double confidence = shots.first().toObject().value(QStringLiteral("confidence")).toDouble(-1.0);
     EXPECT_TRUE(confidence >= 0.0 && confidence <= 1.0) << confidence;
+    EXPECT_EQ(done.value(QStringLiteral("models")), QJsonValue(QStringLiteral("none")));
 }
 
 TEST_F(ReframeProgramTest, RefusesFilesOtherThanVideos)

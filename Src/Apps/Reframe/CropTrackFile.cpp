@@ -50,7 +50,13 @@ QByteArray FormatJson(const CropTrack& track)
     // Written by hand: a line for each frame, without a tree of objects for hundreds of thousands of them.
     QByteArray text = "{\"version\":1,\n\"source\":" + QJsonDocument(source).toJson(QJsonDocument::Compact) +
                       ",\n\"aspect\":" + QJsonDocument(aspect).toJson(QJsonDocument::Compact) + ",\n\"speed\":\"" +
-                      track.speedName.toUtf8() + "\",\n\"frames\":[";
+                      track.speedName.toUtf8() + "\",\n";
+    if (track.models) {
+        const QJsonObject models{{QStringLiteral("models"), CropTrackFile::ModelsAsJson(*track.models)}};
+        const QByteArray object = QJsonDocument(models).toJson(QJsonDocument::Compact);
+        text += object.mid(1, object.size() - 2) + ",\n";
+    }
+    text += "\"frames\":[";
     const char* separator = "\n[";
     for (const IKxAutoReframeResult& crop : track.crops) {
         text += separator;
@@ -63,6 +69,19 @@ QByteArray FormatJson(const CropTrack& track)
 }
 
 } // namespace
+
+QJsonValue CropTrackFile::ModelsAsJson(const std::vector<KxUsedModel>& models)
+{
+    if (models.empty()) {
+        return QStringLiteral("none");
+    }
+    QJsonArray array;
+    for (const KxUsedModel& model : models) {
+        array += QJsonObject{{QStringLiteral("name"), QString::fromStdString(model.name)},
+                             {QStringLiteral("sha256"), QString::fromStdString(model.sha256)}};
+    }
+    return array;
+}
 
 QByteArray CropTrackFile::Format(const CropTrack& track, const QString& path)
 {

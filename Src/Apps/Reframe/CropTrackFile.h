@@ -4,9 +4,14 @@
 #include <KxModel/IKxAutoReframeResult.h>
 
 #include <KxCore/KxOutputFile.h>
+#include <KxSubject/KxUsedModel.h>
 
+#include <QJsonValue>
 #include <QList>
 #include <QSize>
+
+#include <optional>
+#include <vector>
 
 /// The crop of every frame of one video, as it is stored in a file (JSON or CSV, by the file's suffix).
 struct CropTrack {
@@ -16,10 +21,14 @@ struct CropTrack {
     QSize aspect;      ///< empty in a track that was read from CSV
     QString speedName; ///< empty in a track that was read from CSV
     QList<IKxAutoReframeResult> crops;
+    std::optional<std::vector<KxUsedModel>> models; ///< of the analysis; nothing in a track that was read
 };
 
 namespace CropTrackFile
 {
+/// The names and checksums of an analysis' networks; "none" if it used none.
+QJsonValue ModelsAsJson(const std::vector<KxUsedModel>& models);
+
 /// The whole content of a file for `path`.
 QByteArray Format(const CropTrack& track, const QString& path);
 

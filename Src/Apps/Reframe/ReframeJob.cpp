@@ -169,6 +169,8 @@ ReframeJob::Ended ReframeJob::FindCrops()
         for (const QString& warning : warnings) {
             m_reporter.Warn(m_input, warning);
         }
+        m_facts.insert(QStringLiteral("models"),
+                       CropTrackFile::ModelsAsJson(KxAutoReframeService::Instance().LastModels()));
         NoteShots();
     }
     return std::nullopt;
@@ -254,6 +256,9 @@ CropTrack ReframeJob::Track() const
     track.aspect = m_aspect;
     track.speedName = m_options.speedName;
     track.crops = Helper().GetDisplayResults();
+    if (!m_track) {
+        track.models = KxAutoReframeService::Instance().LastModels();
+    }
     return track;
 }
 
