@@ -1,6 +1,7 @@
 ; The installer: for the current user, without questions of the system. /S installs or removes silently, /D=FOLDER chooses the folder.
 ; Defined by `package`: VERSION, STAGE (the files), ICON, OUTPUT.
-Unicode true
+; A 64-bit program like those that it installs.
+Target amd64-unicode
 SetCompressor /SOLID lzma
 RequestExecutionLevel user
 !include MUI2.nsh
@@ -64,6 +65,8 @@ Section "Uninstall"
     !insertmacro RemoveFiles
     Delete "$INSTDIR\uninstall.exe"
     RMDir "$INSTDIR"
+    ; The folder of all programs of this person, if it is empty.
+    RMDir "$LOCALAPPDATA\Programs"
     Delete "$SMPROGRAMS\${NAME}.lnk"
     DeleteRegKey HKCU "${UNINSTALL_KEY}"
 SectionEnd
