@@ -147,12 +147,16 @@ void MediaCardDelegate::PaintPicture(QPainter& painter, const QRect& picture, co
         QRectF place(QPointF(), size);
         place.moveCenter(QRectF(picture).center());
         QPainterPath shape = Rounded(rounded);
-        QPainterPath part;
-        part.addRect(place);
+        // Most videos fill the card, and intersecting paths takes longer than everything else here.
+        if (!place.contains(QRectF(picture))) {
+            QPainterPath part;
+            part.addRect(place);
+            shape = shape.intersected(part);
+        }
         QBrush brush(thumbnail);
         brush.setTransform(QTransform::fromTranslate(place.x(), place.y())
                                .scale(place.width() / thumbnail.width(), place.height() / thumbnail.height()));
-        painter.fillPath(shape.intersected(part), brush);
+        painter.fillPath(shape, brush);
     }
     painter.restore();
     if (isMissing) {

@@ -91,7 +91,7 @@ void MediaLibraryModel::SetThumbnail(int id, const QPixmap& thumbnail)
     if (EntryOf(id) != nullptr) {
         const int kilobytes = 1 + thumbnail.width() * thumbnail.height() * thumbnail.depth() / 8 / 1024;
         m_thumbnails.insert(id, new QPixmap(thumbnail), kilobytes);
-        NotifyChanged(id);
+        NotifyChanged(id, {ThumbnailRole});
     }
 }
 
@@ -261,8 +261,8 @@ MediaLibraryModel::Entry* MediaLibraryModel::EntryOf(int id)
     return found != m_entries.end() ? &*found : nullptr;
 }
 
-void MediaLibraryModel::NotifyChanged(int id)
+void MediaLibraryModel::NotifyChanged(int id, const QVector<int>& roles)
 {
     const QModelIndex changed = IndexOf(id);
-    Q_EMIT dataChanged(changed, changed);
+    Q_EMIT dataChanged(changed, changed, roles);
 }

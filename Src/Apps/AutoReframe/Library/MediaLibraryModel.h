@@ -86,7 +86,7 @@ private:
     QVariant EntryData(const Entry& entry, int role) const;
     static QString DetailsOf(const Entry& entry);
     QPixmap ThumbnailOf(const Entry& entry) const;
-    void NotifyChanged(int id);
+    void NotifyChanged(int id, const QVector<int>& roles = {});
 
     std::vector<Entry> m_entries;
     int m_lastId = 0;
