@@ -1,5 +1,6 @@
 #include <Apps/AutoReframe/Store/LibraryDatabase.h>
 
+#include <QDir>
 #include <QProcess>
 #include <QTemporaryDir>
 
@@ -109,6 +110,7 @@ TEST_F(TestKills, AfterEachOf100KillsTheFileIsWholeAndHoldsAllThatWasWritten)
             EXPECT_EQ(item.request.source.crops != nullptr, item.state == StoredExport::State::Interrupted);
         }
     }
+    EXPECT_LE(QDir(m_folder.path()).entryList({QStringLiteral("run-*.lock")}, QDir::Files).size(), 1);
     EXPECT_GT(newest, kills);
     EXPECT_GT(interrupted, 0);
     // A figure for a person to read: how long a machine takes to write is no property of the program.

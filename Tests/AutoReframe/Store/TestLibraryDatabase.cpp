@@ -309,14 +309,29 @@ TEST_F(TestLibraryDatabase, ARetriedExportIsTheLast)
     EXPECT_EQ(exports[1].key, 30);
 }
 
-TEST_F(TestLibraryDatabase, CropsThatClaimTooMuchMemoryAreLeftOut)
+TEST_F(TestLibraryDatabase, AnExportWhoseCropsAreDamagedIsLeftOut)
 {
     const auto database = Open();
     ASSERT_FALSE(database->SaveExport(Export(1, State::Failed)));
-    ASSERT_FALSE(database->Connection().Execute(QStringLiteral("UPDATE exports SET crops = x'7fffffff789c0300'")));
-    const QList<StoredExport> exports = Contents(*database).exports;
-    ASSERT_EQ(exports.size(), 1);
-    EXPECT_EQ(exports.first().request.source.crops, nullptr);
+    // The second one claims 2 GB.
+    for (const char* const crops : {"x'0000'", "x'7fffffff789c0300'", "x'00000040ffffffff'"}) {
+        ASSERT_FALSE(
+            database->Connection().Execute(QStringLiteral("UPDATE exports SET crops = ") + QLatin1String(crops)));
+        EXPECT_TRUE(Contents(*database).exports.isEmpty()) << crops;
+    }
+}
+
+TEST_F(TestLibraryDatabase, LockFilesOfKilledRunsAreRemoved)
+{
+    const auto database = Open();
+    QFile dead(m_folder.filePath(QStringLiteral("run-dead.lock")));
+    ASSERT_TRUE(dead.open(QIODevice::WriteOnly));
+    // As QLockFile writes it: process, program, host. No process has that number.
+    dead.write("4194304999\nauto-reframe\n" + QSysInfo::machineHostName().toLocal8Bit() + "\n");
+    dead.close();
+    ASSERT_EQ(Files("run-*.lock").size(), 2);
+    Contents(*database);
+    EXPECT_EQ(Files("run-*.lock").size(), 1);
 }
 
 TEST_F(TestLibraryDatabase, AFileOfVersion1IsBackedUpAndMigrated)

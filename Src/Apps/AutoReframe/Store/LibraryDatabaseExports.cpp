@@ -48,7 +48,7 @@ QByteArray Pack(const std::shared_ptr<const Crops>& crops)
             bytes.append(reinterpret_cast<const char*>(numbers), CropBytes);
         }
     }
-    return bytes.isEmpty() ? QByteArray() : qCompress(bytes, 1);
+    return bytes.isEmpty() ? QByteArray() : qCompress(bytes, 1); // a null array is stored as NULL
 }
 
 std::shared_ptr<const Crops> Unpack(const QByteArray& packed)
@@ -63,6 +63,9 @@ std::shared_ptr<const Crops> Unpack(const QByteArray& packed)
         return nullptr;
     }
     const QByteArray bytes = qUncompress(packed);
+    if (bytes.isEmpty() || bytes.size() % CropBytes != 0) {
+        return nullptr;
+    }
     auto crops = std::make_shared<Crops>();
     crops->reserve(static_cast<size_t>(bytes.size() / CropBytes));
     for (int at = 0; at + CropBytes <= bytes.size(); at += CropBytes) {
@@ -108,6 +111,7 @@ KxError LibraryDatabase::ClaimInterruptedExports()
     if (failure) {
         return failure;
     }
+    LibraryRun::RemoveDead(m_folder);
     for (const QString& run : qAsConst(runs)) {
         if (run == m_run.Name() || LibraryRun::IsAlive(run, m_folder)) {
             continue;
@@ -129,8 +133,15 @@ KxError LibraryDatabase::ReadExports(StoredContents& contents)
                        "FROM exports WHERE run = ? OR NOT ") +
             Unfinished + QStringLiteral(" ORDER BY position, key"),
         {m_run.Name()}, [&contents](const QSqlQuery& row) {
-            if (const std::optional<State> state = StateOf(row.value(1).toString())) {
-                contents.exports += ExportOf(row, *state);
+            const std::optional<State> state = StateOf(row.value(1).toString());
+            if (!state) {
+                return;
+            }
+            const StoredExport item = ExportOf(row, *state);
+            // Without its crops it would become another video.
+            const bool isWhole = row.value(4).isNull() || item.request.source.crops != nullptr;
+            if (isWhole || *state == State::Done) {
+                contents.exports += item;
             }
         });
 }

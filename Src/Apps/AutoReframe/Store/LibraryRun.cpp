@@ -1,5 +1,6 @@
 #include <Apps/AutoReframe/Store/LibraryRun.h>
 
+#include <QDir>
 #include <QFileInfo>
 #include <QLockFile>
 #include <QUuid>
@@ -7,9 +8,12 @@
 namespace
 {
 
+const QString Prefix = QStringLiteral("run-");
+const QString Suffix = QStringLiteral(".lock");
+
 QString LockPath(const QString& name, const QString& folder)
 {
-    return QStringLiteral("%1/run-%2.lock").arg(folder, name);
+    return folder + QLatin1Char('/') + Prefix + name + Suffix;
 }
 
 std::unique_ptr<QLockFile> MakeLock(const QString& name, const QString& folder)
@@ -38,4 +42,12 @@ bool LibraryRun::IsAlive(const QString& name, const QString& folder)
     }
     // Where the lock is taken from a dead process, the destructor removes its file.
     return !MakeLock(name, folder)->tryLock(0);
+}
+
+void LibraryRun::RemoveDead(const QString& folder)
+{
+    const QStringList files = QDir(folder).entryList({Prefix + QLatin1Char('*') + Suffix}, QDir::Files);
+    for (const QString& file : files) {
+        IsAlive(file.mid(Prefix.size(), file.size() - Prefix.size() - Suffix.size()), folder);
+    }
 }

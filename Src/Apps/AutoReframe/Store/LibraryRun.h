@@ -21,6 +21,8 @@ public:
 
     /// Whether the run of that name still lives. Removes the lock file of one that was killed.
     static bool IsAlive(const QString& name, const QString& folder);
+    /// Removes the lock files of all runs that were killed.
+    static void RemoveDead(const QString& folder);
 
 private:
     const QString m_name;
