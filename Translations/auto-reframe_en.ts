@@ -28,10 +28,10 @@
 <context>
     <name>ExportPanel</name>
     <message numerus="yes">
-        <source>%n exports were not finished.</source>
+        <source>%n exports not finished</source>
         <translation>
-            <numerusform>An export was not finished.</numerusform>
-            <numerusform>%n exports were not finished.</numerusform>
+            <numerusform>An export not finished</numerusform>
+            <numerusform>%n exports not finished</numerusform>
         </translation>
     </message>
 </context>

@@ -250,6 +250,37 @@ TEST_F(TestMainWindow, DroppedFilesAreImportedAndOtherThingsRefused)
     EXPECT_FALSE(other.isAccepted());
 }
 
+TEST_F(TestMainWindow, OfAFolderTheVideosInItAndBelowItAreImported)
+{
+    const QDir folder(m_folder.path());
+    for (const char* const name :
+         {"trip/day 2/c.MOV", "trip/b.mp4", "trip/notes.txt", "trip/day 1/a.mp4", "other.mp4"}) {
+        const QString path = folder.filePath(QLatin1String(name));
+        folder.mkpath(QFileInfo(path).path());
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    }
+    Open({QStringLiteral("trip")});
+    EXPECT_TRUE(WaitForStatus(QStringLiteral("3 videos · 3 selected")));
+    QStringList names;
+    for (int row = 0; row < 3; ++row) {
+        names += View()->model()->index(row, 0).data().toString();
+    }
+    EXPECT_EQ(names, (QStringList{QStringLiteral("b.mp4"), QStringLiteral("a.mp4"), QStringLiteral("c.MOV")}));
+    EXPECT_TRUE(m_boxes.isEmpty());
+}
+
+TEST_F(TestMainWindow, AFolderWithoutVideosIsReported)
+{
+    QDir(m_folder.path()).mkdir(QStringLiteral("empty"));
+    Open({QStringLiteral("empty")});
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !m_boxes.isEmpty(); }, 10000));
+    EXPECT_EQ(
+        m_boxes,
+        QStringList(QStringLiteral("There are no videos in %1.").arg(m_folder.filePath(QStringLiteral("empty")))));
+    EXPECT_EQ(View()->model()->rowCount(), 0);
+}
+
 TEST_F(TestMainWindow, DeleteRemovesTheSelection)
 {
     Open({QStringLiteral("a.mp4"), QStringLiteral("b.mp4"), QStringLiteral("c.mp4")});

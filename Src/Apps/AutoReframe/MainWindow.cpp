@@ -190,7 +190,12 @@ void MainWindow::ConnectLibrary()
     connect(m_library, &MediaLibrary::sigOpened, this, &MainWindow::ReframeNext);
     connect(m_library, &MediaLibrary::sigCannotOpen, this, [this] { m_toReframe.clear(); });
     connect(m_library, &MediaLibrary::sigOtherFile, this, &MainWindow::AskForOtherFile);
-    connect(&m_library->Model(), &QAbstractItemModel::dataChanged, this, &MainWindow::ShowState);
+    connect(&m_library->Model(), &QAbstractItemModel::dataChanged, this,
+            [this](const QModelIndex&, const QModelIndex&, const QVector<int>& roles) {
+                if (!roles.contains(MediaLibraryModel::ThumbnailRole)) {
+                    ShowState();
+                }
+            });
     connect(m_library, &MediaLibrary::sigRefused, this, &MainWindow::ReportRefused);
     connect(&m_library->Model(), &QAbstractItemModel::rowsInserted, this, &MainWindow::ShowState);
     connect(&m_library->Model(), &QAbstractItemModel::rowsRemoved, this, &MainWindow::ShowState);
@@ -246,22 +251,32 @@ void MainWindow::Restore(const StoredContents& contents)
 {
     m_view->SetLoading(false);
     ShowState();
-    const QSet<QString> paths(contents.selection.begin(), contents.selection.end());
-    QItemSelection selection;
-    const MediaLibraryModel& model = m_library->Model();
-    for (int row = 0; row < model.Count() && !paths.isEmpty(); ++row) {
-        const QModelIndex video = model.index(row);
-        if (paths.contains(model.PathAt(video))) {
-            selection.select(video, video);
-        }
-    }
-    if (!selection.isEmpty()) {
-        m_view->selectionModel()->setCurrentIndex(selection.indexes().first(), QItemSelectionModel::NoUpdate);
-        m_view->selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
-    }
+    SelectPaths(contents.selection);
     // The scroll bar has no range before the cards have their places.
     m_view->doItemsLayout();
     m_view->verticalScrollBar()->setValue(contents.scrollPx);
+}
+
+void MainWindow::SelectPaths(const QStringList& paths)
+{
+    const QSet<QString> wanted(paths.begin(), paths.end());
+    const MediaLibraryModel& model = m_library->Model();
+    // By ranges: thousands of single cards would take seconds.
+    QItemSelection selection;
+    int first = -1;
+    for (int row = 0; row <= model.Count(); ++row) {
+        const bool isWanted = row < model.Count() && wanted.contains(model.PathAt(model.index(row)));
+        if (isWanted && first < 0) {
+            first = row;
+        } else if (!isWanted && first >= 0) {
+            selection.select(model.index(first), model.index(row - 1));
+            first = -1;
+        }
+    }
+    if (!selection.isEmpty()) {
+        m_view->selectionModel()->setCurrentIndex(selection.first().topLeft(), QItemSelectionModel::NoUpdate);
+        m_view->selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+    }
 }
 
 void MainWindow::ScheduleSaving()

@@ -57,12 +57,14 @@ private:
 
     void ShowState();
     void Restore(const StoredContents& contents);
+    void SelectPaths(const QStringList& paths);
     /// Selection and scroll position are saved soon.
     void ScheduleSaving();
     void SaveView();
     void ShowMenu();
     void AddRecent(QMenu& menu);
     void ChooseFiles();
+    void ChooseFolder();
     /// Empty if the person cancelled or the backend cannot be loaded, which is reported.
     QStringList ChooseVideos(const QString& caption, const QString& folder);
     void SelectImported(const QModelIndexList& videos);

@@ -65,11 +65,23 @@ void MainWindow::ChooseFiles()
     }
 }
 
+void MainWindow::ChooseFolder()
+{
+    const QString folder = KxFileDialog::getExistingDirectory(
+        this, tr("Import Folder"),
+        KxConfig::Instance().getDefaultImportDir(QStandardPaths::writableLocation(QStandardPaths::MoviesLocation)));
+    if (!folder.isEmpty()) {
+        KxConfig::Instance().setDefaultImportDir(folder);
+        m_library->Import({folder});
+    }
+}
+
 void MainWindow::ShowMenu()
 {
     QMenu menu(this);
     menu.setObjectName(QStringLiteral("MainMenu"));
     menu.addAction(tr("Import…"), this, &MainWindow::ChooseFiles)->setShortcut(QKeySequence::Open);
+    menu.addAction(tr("Import Folder…"), this, &MainWindow::ChooseFolder);
     AddRecent(*menu.addMenu(tr("Open Recent")));
     menu.addSeparator();
     menu.addAction(tr("Quit"), this, &QWidget::close)->setShortcut(Qt::CTRL + Qt::Key_Q);

@@ -170,5 +170,5 @@ void ExportPanel::ShowHints()
     m_clear->setVisible(m_queue.FinishedCount() > 0);
     const int interrupted = m_queue.InterruptedCount();
     m_resumeBar->setVisible(interrupted > 0);
-    m_interrupted->setText(tr("%n exports were not finished.", nullptr, interrupted));
+    m_interrupted->setText(tr("%n exports not finished", nullptr, interrupted));
 }

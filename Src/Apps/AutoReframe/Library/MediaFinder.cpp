@@ -1,6 +1,7 @@
 #include <Apps/AutoReframe/Library/MediaFinder.h>
 
 #include <QDir>
+#include <QDirIterator>
 #include <QFileInfo>
 
 namespace
@@ -79,6 +80,23 @@ void MediaFinder::Compare(const Wanted& video, const QString& path, const std::f
         const bool isSame = IsSame(video, path);
         QMetaObject::invokeMethod(
             this, [ready, isSame] { ready(isSame); }, Qt::QueuedConnection);
+    };
+    m_worker.Add(std::move(job));
+}
+
+void MediaFinder::ListFiles(const QString& folder, const QStringList& patterns,
+                            const std::function<void(const QStringList& files)>& ready)
+{
+    KxWorker::Job job;
+    job.work = [this, folder, patterns, ready](const KxCancelToken& cancel) {
+        QStringList files;
+        QDirIterator entries(folder, patterns, QDir::Files, QDirIterator::Subdirectories);
+        while (entries.hasNext() && files.size() < MostFiles && !cancel.IsCancelled()) {
+            files += entries.next();
+        }
+        files.sort();
+        QMetaObject::invokeMethod(
+            this, [ready, files] { ready(files); }, Qt::QueuedConnection);
     };
     m_worker.Add(std::move(job));
 }

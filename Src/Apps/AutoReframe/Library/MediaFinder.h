@@ -42,6 +42,12 @@ public:
     /// Calls back whether the file `path` has the content of the video.
     void Compare(const Wanted& video, const QString& path, const std::function<void(bool isSame)>& ready);
 
+    /// Calls back with the files in a folder and the folders below it whose names fit one of the patterns, in the order
+    /// of their names; at most MostFiles of them. Links to folders are not followed.
+    void ListFiles(const QString& folder, const QStringList& patterns,
+                   const std::function<void(const QStringList& files)>& ready);
+    static constexpr int MostFiles = 10000;
+
 Q_SIGNALS:
     void sigFound(const QList<MediaFinder::Found>& found);
 

@@ -5,6 +5,7 @@
 #include <Apps/AutoReframe/Library/MediaLoader.h>
 #include <Apps/AutoReframe/Store/LibraryStore.h>
 
+#include <QDir>
 #include <QFileInfo>
 #include <QGuiApplication>
 
@@ -90,6 +91,10 @@ void MediaLibrary::Import(const QStringList& paths)
     }
     QModelIndexList imported;
     for (const QString& path : paths) {
+        if (QFileInfo(path).isDir()) {
+            m_folders += path;
+            continue;
+        }
         QModelIndex index = m_model.IndexOfPath(path);
         if (!index.isValid()) {
             index = m_model.IndexOf(AddNew(QFileInfo(path).absoluteFilePath()));
@@ -103,8 +108,30 @@ void MediaLibrary::Import(const QStringList& paths)
     }
     if (!imported.isEmpty()) {
         Q_EMIT sigImported(imported);
-        m_backend.Start();
     }
+    if (!imported.isEmpty() || !m_folders.isEmpty()) {
+        m_backend.Start();
+        ImportFolders();
+    }
+}
+
+void MediaLibrary::ImportFolders()
+{
+    // They wait for the backend, which knows what a video is called.
+    if (m_finder == nullptr) {
+        return;
+    }
+    const QStringList patterns = m_backend.IfLoaded()->ImportPatterns().split(QLatin1Char(';'), Qt::SkipEmptyParts);
+    for (const QString& folder : qAsConst(m_folders)) {
+        m_finder->ListFiles(folder, patterns, [this, folder](const QStringList& files) {
+            if (files.isEmpty()) {
+                m_refused += tr("There are no videos in %1.").arg(QDir::toNativeSeparators(folder));
+                ReportRefused();
+            }
+            Import(files);
+        });
+    }
+    m_folders.clear();
 }
 
 int MediaLibrary::AddNew(const QString& path)
@@ -142,6 +169,7 @@ void MediaLibrary::StartLoading()
     MediaBackend* const backend = m_backend.IfLoaded();
     if (backend == nullptr) {
         m_refused += m_backend.Error();
+        m_folders.clear();
         const QSet<int> opening = m_opening;
         m_opening.clear();
         for (const int id : opening) {
@@ -167,99 +195,12 @@ void MediaLibrary::StartLoading()
         }
     }
     LookForFiles(stored);
+    ImportFolders();
     const QSet<int> wanting = m_wantThumbnails;
     m_wantThumbnails.clear();
     for (const int id : wanting) {
         RequestThumbnail(id);
     }
-}
-
-MediaFinder::Wanted MediaLibrary::WantedOf(int id) const
-{
-    const MediaFile facts = m_model.FactsAt(m_model.IndexOf(id));
-    return {id, facts.path, facts.fileBytes, facts.contentHash, QFileInfo(facts.path).absolutePath()};
-}
-
-void MediaLibrary::LookForFiles(const QList<int>& ids, const QString& folder)
-{
-    QList<MediaFinder::Wanted> videos;
-    for (const int id : ids) {
-        videos += WantedOf(id);
-        if (!folder.isEmpty()) {
-            videos.last().folder = folder;
-        }
-    }
-    if (!videos.isEmpty()) {
-        m_finder->Look(videos);
-    }
-}
-
-void MediaLibrary::HandleFound(const QList<MediaFinder::Found>& found)
-{
-    for (const MediaFinder::Found& video : found) {
-        const QModelIndex index = m_model.IndexOf(video.id);
-        if (!index.isValid() || m_model.StateAt(index) == State::Open) {
-            continue;
-        }
-        switch (video.kind) {
-        case MediaFinder::Found::Kind::Unchanged:
-            m_model.SetMissing(video.id, false);
-            break;
-        case MediaFinder::Found::Kind::Changed:
-            m_model.SetMissing(video.id, false);
-            StartOpening(video.id);
-            break;
-        case MediaFinder::Found::Kind::Moved:
-            // A copy that is in the library itself is not the file that was moved.
-            if (m_model.IndexOfPath(video.path).isValid()) {
-                m_model.SetMissing(video.id, true);
-            } else {
-                MoveTo(video.id, video.path);
-            }
-            break;
-        case MediaFinder::Found::Kind::Missing:
-            m_model.SetMissing(video.id, true);
-            break;
-        }
-    }
-}
-
-void MediaLibrary::FindAt(int id, const QString& path)
-{
-    m_finder->Compare(WantedOf(id), path, [this, id, path](bool isSame) {
-        if (isSame) {
-            MoveTo(id, path);
-        } else {
-            Q_EMIT sigOtherFile(id, path);
-        }
-    });
-}
-
-void MediaLibrary::MoveTo(int id, const QString& path)
-{
-    const QModelIndex index = m_model.IndexOf(id);
-    if (!index.isValid()) {
-        return;
-    }
-    const QModelIndex other = m_model.IndexOfPath(path);
-    if (other.isValid() && other != index) {
-        Remove({other});
-    }
-    const QString from = m_model.PathAt(m_model.IndexOf(id));
-    m_store.MoveVideo(from, path);
-    m_edits.insert(path, m_edits.take(from));
-    if (const int recent = m_recent.indexOf(from); recent >= 0) {
-        m_recent[recent] = path;
-    }
-    m_model.SetPath(id, path);
-    StartOpening(id);
-    QList<int> missing;
-    for (int row = 0; row < m_model.Count(); ++row) {
-        if (m_model.StateAt(m_model.index(row)) == State::Missing) {
-            missing += m_model.IdAt(m_model.index(row));
-        }
-    }
-    LookForFiles(missing, QFileInfo(path).absolutePath());
 }
 
 void MediaLibrary::HandleOpened(int id, const KxResult<MediaFile>& media)

@@ -25,8 +25,8 @@ public:
     MediaLibraryModel& Model();
 
     /// Each file appears at once and is opened in the background; a file that the library already has is not added
-    /// again. Files that cannot be opened are removed and reported together, after the last one was tried. Until the
-    /// store is open, files wait.
+    /// again. Of a folder, the videos in it and below it are imported. Files that cannot be opened are removed and
+    /// reported together, after the last one was tried. Until the store is open, files wait.
     void Import(const QStringList& paths);
     void Remove(const QModelIndexList& videos);
     /// Opens a stored video; sigOpened or sigCannotOpen follows.
@@ -67,6 +67,7 @@ private:
     void ReportRefused();
     void StartOpening(int id);
     int AddNew(const QString& path);
+    void ImportFolders();
     MediaFinder::Wanted WantedOf(int id) const;
     static QSize ThumbnailRoomPx();
 
@@ -78,6 +79,8 @@ private:
     bool m_isRestored = false;
     /// Given to Import() before the videos of the last run were there.
     QStringList m_waiting;
+    /// Given to Import() and not listed yet.
+    QStringList m_folders;
     QSet<int> m_opening;
     /// Those of m_opening that leave the library if they cannot be opened.
     QSet<int> m_new;
