@@ -100,6 +100,7 @@ class KeptJourney:
     def resume(self):
         screen = self.start()
         screen.find("ExportPanel_resume")
+        self.card("walk.mp4")
         screen.shoot("exports-offered")
         screen.press("ExportPanel_resume")
         screen.gone("ExportPanel_resumeBar")
