@@ -72,7 +72,7 @@ void Fill(const QString& file, const QString& folder, int videos)
     LibraryStore store(file, nullptr);
     for (int i = 0; i < videos; ++i) {
         StoredVideo video;
-        video.path = QStringLiteral("%1/holiday in the mountains, day %2.mp4").arg(folder).arg(i);
+        video.path = QStringLiteral("%1/holiday in the mountains, day %2.mp4").arg(folder, QString::number(i));
         video.fileBytes = 1024;
         video.contentHash = "0123456789abcdef0123456789abcdef0123456789abcdef0123456789abcdef";
         video.resolution = QSize(1920, 1080);
