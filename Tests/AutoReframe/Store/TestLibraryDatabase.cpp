@@ -313,11 +313,11 @@ TEST_F(TestLibraryDatabase, AnExportWhoseCropsAreDamagedIsLeftOut)
 {
     const auto database = Open();
     ASSERT_FALSE(database->SaveExport(Export(1, State::Failed)));
-    // The second one claims 2 GB.
-    for (const char* const crops : {"x'0000'", "x'7fffffff789c0300'", "x'00000040ffffffff'"}) {
-        ASSERT_FALSE(
-            database->Connection().Execute(QStringLiteral("UPDATE exports SET crops = ") + QLatin1String(crops)));
-        EXPECT_TRUE(Contents(*database).exports.isEmpty()) << crops;
+    // Too short, a claim of 2 GB, and what is no list of rectangles.
+    for (const QByteArray& crops : {QByteArray("0000"), QByteArray("7fffffff789c0300"), qCompress("abc").toHex()}) {
+        ASSERT_FALSE(database->Connection().Execute(
+            QStringLiteral("UPDATE exports SET crops = x'%1'").arg(QLatin1String(crops))));
+        EXPECT_TRUE(Contents(*database).exports.isEmpty()) << crops.constData();
     }
 }
 
@@ -327,7 +327,7 @@ TEST_F(TestLibraryDatabase, LockFilesOfKilledRunsAreRemoved)
     QFile dead(m_folder.filePath(QStringLiteral("run-dead.lock")));
     ASSERT_TRUE(dead.open(QIODevice::WriteOnly));
     // As QLockFile writes it: process, program, host. No process has that number.
-    dead.write("4194304999\nauto-reframe\n" + QSysInfo::machineHostName().toLocal8Bit() + "\n");
+    dead.write("2147483647\nauto-reframe\n" + QSysInfo::machineHostName().toLocal8Bit() + "\n");
     dead.close();
     ASSERT_EQ(Files("run-*.lock").size(), 2);
     Contents(*database);
