@@ -89,7 +89,7 @@ private:
     void HandleProgressRejected();
     void MinimizeHost();
     bool IsRefusedAsUnsupported();
-    void StartAnalysis();
+    void StartAnalysis(int width, int height, int mode);
     void LeaveSource();
     /// Null unless the host has turned the extensions on. A child object and no member: hosts are compiled with the
     /// size of this class.

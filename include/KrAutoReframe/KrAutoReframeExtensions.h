@@ -40,7 +40,8 @@ struct KrAutoReframeState {
 ///   hint says when the settings differ from what is shown;
 /// - an analysis that ends at once shows no progress dialog, and the player stays at its frame;
 /// - the arrow keys move the crop while the picture has the focus: by a pixel of the video, with Shift by 10;
-/// - where the service offers IKxAutoReframeShots: shots on the slider, and a way through those that are doubtful.
+/// - where the service offers IKxAutoReframeShots: shots on the slider, and a way through those that are doubtful;
+/// - where the service offers IKxAutoReframeChoices: pointing at what the crop follows or avoids in a shot.
 ///
 /// The host implements it; the dialog calls it on the user-interface thread. No function of the module's library is
 /// needed to implement it.

@@ -150,7 +150,8 @@ void KrAutoReframeDialog::InitTimeline(IKxTimeline* timeline)
 void KrAutoReframeDialog::SetExtensions(KrAutoReframeExtensions& extensions)
 {
     Q_ASSERT(Extension() == nullptr && !HasSource());
-    new KrDialogExtension(extensions, {*m_process, *m_propertyPanel, *m_playerView, [this] { StartAnalysis(); }}, this);
+    const auto analyze = [this](int width, int height, int mode) { StartAnalysis(width, height, mode); };
+    new KrDialogExtension(extensions, {*m_process, *m_propertyPanel, *m_playerView, analyze}, this);
 }
 
 KrDialogExtension* KrAutoReframeDialog::Extension() const

@@ -27,7 +27,11 @@ void KrAutoReframeDialog::slotStartAnalysis()
     m_playerView->Pause();
     // The misspelling is part of the event's name: earlier reports are stored under it.
     SendClickEvent(QStringLiteral("anlyze_btn"));
-    StartAnalysis();
+    int width = 0;
+    int height = 0;
+    int mode = 0;
+    m_propertyPanel->GetParameters(width, height, mode);
+    StartAnalysis(width, height, mode);
 }
 
 bool KrAutoReframeDialog::IsRefusedAsUnsupported()
@@ -40,15 +44,11 @@ bool KrAutoReframeDialog::IsRefusedAsUnsupported()
     return true;
 }
 
-void KrAutoReframeDialog::StartAnalysis()
+void KrAutoReframeDialog::StartAnalysis(int width, int height, int mode)
 {
     if (IsRefusedAsUnsupported()) {
         return;
     }
-    int width = 0;
-    int height = 0;
-    int mode = 0;
-    m_propertyPanel->GetParameters(width, height, mode);
     switch (m_process->StartAnalyze(width, height, mode)) {
     case 0:
         break;

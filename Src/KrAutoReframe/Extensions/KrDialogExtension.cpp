@@ -1,12 +1,18 @@
 #include <KrAutoReframe/Extensions/KrDialogExtension.h>
 
 #include <KrAutoReframe/Engine/KrAutoReframeProcess.h>
+#include <KrAutoReframe/Engine/KrChoiceList.h>
 #include <KrAutoReframe/Extensions/KrCropKeys.h>
 #include <KrAutoReframe/Extensions/KrDoubtfulShots.h>
+#include <KrAutoReframe/Extensions/KrFollowControls.h>
+#include <KrAutoReframe/Player/KrAutoReframePlayerControlBar.h>
+#include <KrAutoReframe/Player/KrAutoReframePlayerToolSlider.h>
 #include <KrAutoReframe/Player/KrAutoReframePlayerView.h>
 #include <KrAutoReframe/Settings/KrAutoReframePropertyPanel.h>
 
 #include <KxModel/IKxAutoReframeShots.h>
+#include <KxModel/IKxMediaInfo.h>
+#include <KxModel/IKxTimeline.h>
 #include <KxPlayer/KxMediaPlayerPresenter.h>
 
 #include <QEventLoop>
@@ -26,12 +32,19 @@ IKxAutoReframeShots* ServiceShots()
     return dynamic_cast<IKxAutoReframeShots*>(getAutoReframeService());
 }
 
+/// Null if the host's service does not offer it.
+IKxAutoReframeChoices* ServiceChoices()
+{
+    return dynamic_cast<IKxAutoReframeChoices*>(getAutoReframeService());
+}
+
 } // namespace
 
 KrDialogExtension::KrDialogExtension(KrAutoReframeExtensions& host, const Parts& parts, QObject* parent)
     : QObject(parent)
     , m_host(host)
     , m_parts(parts)
+    , m_choices(new KrChoiceList(parts.process.GetHelper()->GetUndoStack(), this))
 {
     setObjectName(QStringLiteral("KrDialogExtension"));
     KrAutoReframeHelper& helper = *m_parts.process.GetHelper();
@@ -43,6 +56,10 @@ KrDialogExtension::KrDialogExtension(KrAutoReframeExtensions& host, const Parts&
         m_doubtfulShots = new KrDoubtfulShots(m_parts.view, m_parts.panel);
         connect(m_doubtfulShots, &KrDoubtfulShots::sigSeen, this, &KrDialogExtension::ReportChange);
     }
+    CreateFollowControls();
+    connect(m_choices, &KrChoiceList::sigChanged, this, &KrDialogExtension::HandleChoicesChanged);
+    m_decide.setSingleShot(true);
+    connect(&m_decide, &QTimer::timeout, this, &KrDialogExtension::DecideAgain);
     connect(&m_isKnown, &QFutureWatcher<bool>::finished, this, &KrDialogExtension::HandleKnown);
     connect(&helper, &KrAutoReframeHelper::sigOpenTimelineFinished, this, &KrDialogExtension::EnterSource);
     connect(&helper.GetUndoStack(), &QUndoStack::indexChanged, this, &KrDialogExtension::ReportChange);
@@ -56,6 +73,40 @@ KrDialogExtension::~KrDialogExtension()
     if (IKxAutoReframeShots* const shots = ServiceShots()) {
         shots->CollectShots(false);
     }
+    if (IKxAutoReframeChoices* const choices = ServiceChoices()) {
+        choices->SetChoices({});
+    }
+}
+
+void KrDialogExtension::CreateFollowControls()
+{
+    IKxAutoReframeChoices* const service = ServiceChoices();
+    if (service == nullptr) {
+        return;
+    }
+    const auto source = [this] { return KrFollowControls::Source{m_path, FrameRate()}; };
+    const auto shotAt = [this](qint64 frame) {
+        const KrShotList shots = m_doubtfulShots != nullptr ? m_doubtfulShots->Shots() : KrShotList();
+        const int index = shots.IndexAt(frame);
+        if (index < 0) {
+            return KrFollowControls::Shot{0, m_parts.process.GetHelper()->GetDuration()};
+        }
+        return KrFollowControls::Shot{shots.Shots().at(index).first, shots.Shots().at(index).end};
+    };
+    m_followControls = new KrFollowControls(m_parts.view, *service, *m_choices, {source, shotAt}, this);
+}
+
+double KrDialogExtension::FrameRate() const
+{
+    constexpr double unknown = 25.0;
+    const IKxTimeline* const timeline = m_parts.process.GetHelper()->GetSourceTimeline();
+    const QList<IKxClip*> clips = timeline != nullptr ? timeline->clips() : QList<IKxClip*>();
+    const auto* const video =
+        clips.isEmpty() ? nullptr : dynamic_cast<const IKxVideoMediaInfo*>(clips.first()->mediaInfo());
+    if (video == nullptr || video->frameRate().numerator <= 0 || video->frameRate().denominator <= 0) {
+        return unknown;
+    }
+    return static_cast<double>(video->frameRate().numerator) / video->frameRate().denominator;
 }
 
 void KrDialogExtension::LeaveSource()
@@ -63,6 +114,12 @@ void KrDialogExtension::LeaveSource()
     m_path.clear();
     m_hasResults = false;
     m_isKnown.cancel();
+    m_decide.stop();
+    m_choices->Restore({});
+    if (m_followControls != nullptr) {
+        m_followControls->Clear();
+        ServiceChoices()->SetChoices({});
+    }
 }
 
 void KrDialogExtension::EnterSource()
@@ -72,8 +129,13 @@ void KrDialogExtension::EnterSource()
     m_parts.panel.SetParameters(m_state.aspectWidth, m_state.aspectHeight, m_state.motionSpeed);
     m_parts.process.GetHelper()->RestoreEditPoints(m_state.editPoints);
     m_parts.view.RefreshFrame(m_parts.view.Presenter().currentFrame());
+    if (m_followControls != nullptr) {
+        m_choices->Restore(ServiceChoices()->ReadChoices(m_state.choices));
+        ServiceChoices()->SetChoices(m_choices->Current());
+    }
     m_path = path;
     UpdateHint();
+    ShowChoices();
     ShowShots();
     const IKxAutoReframeShots* const shots = ServiceShots();
     if (m_state.isAnalyzed && shots != nullptr) {
@@ -81,10 +143,15 @@ void KrDialogExtension::EnterSource()
     }
 }
 
+void KrDialogExtension::Analyze(const Settings& settings)
+{
+    m_parts.analyze(settings.width, settings.height, settings.speed);
+}
+
 void KrDialogExtension::HandleKnown()
 {
     if (!m_isKnown.isCanceled() && m_isKnown.result() && !m_hasResults) {
-        m_parts.analyze();
+        Analyze(PanelSettings());
     }
 }
 
@@ -120,6 +187,9 @@ bool KrDialogExtension::StaysAtFrame() const
 void KrDialogExtension::ShowResults()
 {
     m_hasResults = true;
+    const KrAutoReframeAnalyzeParam param = m_parts.process.GetParam();
+    m_shown = {param.width, param.height, param.mode};
+    m_shownChoices = m_choices->Current();
     UpdateHint();
     ShowShots();
     ReportChange();
@@ -131,6 +201,43 @@ void KrDialogExtension::HandleSettingsChanged()
     ReportChange();
 }
 
+void KrDialogExtension::HandleChoicesChanged()
+{
+    ServiceChoices()->SetChoices(m_choices->Current());
+    ShowChoices();
+    if (m_hasResults) {
+        m_decide.start(0);
+    }
+}
+
+void KrDialogExtension::DecideAgain()
+{
+    if (m_hasResults && !(m_choices->Current() == m_shownChoices)) {
+        Analyze(m_shown);
+        UpdateHint();
+    }
+}
+
+void KrDialogExtension::ShowChoices()
+{
+    using Mark = KrAutoReframePlayerToolSlider::ChoiceMark;
+    using Kind = KxAutoReframeChoice::Kind;
+    QList<Mark> marks;
+    for (const KxAutoReframeChoice& choice : m_choices->Current()) {
+        Mark mark;
+        mark.first = qRound64(choice.fromSeconds * FrameRate());
+        mark.end = qRound64(choice.toSeconds * FrameRate());
+        mark.colour = choice.kind == Kind::Follow ? QColor(0x55, 0xE5, 0xC5) : QColor(0xA9, 0xAE, 0xB6);
+        mark.toolTip = choice.kind == Kind::Follow  ? tr("The crop follows your choice")
+                       : choice.kind == Kind::Avoid ? tr("The crop avoids your choice")
+                       : choice.kind == Kind::Hold  ? tr("The crop is held")
+                       : choice.kind == Kind::Fit   ? tr("The whole picture is shown")
+                                                    : tr("The analysis decides");
+        marks.append(mark);
+    }
+    m_parts.view.ControlBar().Slider().SetChoices(marks);
+}
+
 KrDialogExtension::Settings KrDialogExtension::PanelSettings() const
 {
     Settings settings;
@@ -140,9 +247,7 @@ KrDialogExtension::Settings KrDialogExtension::PanelSettings() const
 
 void KrDialogExtension::UpdateHint()
 {
-    const Settings chosen = PanelSettings();
-    const KrAutoReframeAnalyzeParam shown = m_parts.process.GetParam();
-    const bool differs = chosen.width != shown.width || chosen.height != shown.height || chosen.speed != shown.mode;
+    const bool differs = !(PanelSettings() == m_shown) || !(m_choices->Current() == m_shownChoices);
     m_parts.panel.SetHint(m_hasResults && differs ? tr("Settings changed: analyze again") : QString());
 }
 
@@ -155,6 +260,10 @@ KrAutoReframeState KrDialogExtension::CurrentState() const
     state.motionSpeed = settings.speed;
     state.isAnalyzed = m_state.isAnalyzed || m_hasResults;
     state.editPoints = m_parts.process.GetHelper()->GetEditPoints();
+    if (m_followControls != nullptr) {
+        const bool hasChoices = !m_choices->Current().isEmpty();
+        state.choices = hasChoices ? ServiceChoices()->WriteChoices(m_choices->Current()) : QByteArray();
+    }
     if (m_doubtfulShots != nullptr) {
         state.seenShots = m_doubtfulShots->Shots().Seen();
     }

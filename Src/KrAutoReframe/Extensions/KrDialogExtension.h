@@ -1,16 +1,20 @@
 #pragma once
 
 #include <KrAutoReframe/KrAutoReframeExtensions.h>
+#include <KxModel/IKxAutoReframeChoices.h>
 
 #include <QFutureWatcher>
 #include <QObject>
+#include <QTimer>
 
 #include <functional>
 
 class KrAutoReframePlayerView;
 class KrAutoReframeProcess;
 class KrAutoReframePropertyPanel;
+class KrChoiceList;
 class KrDoubtfulShots;
+class KrFollowControls;
 
 /// What the dialog does beyond its required behaviour, for a host that has turned it on: connects the dialog's parts
 /// with the host's KrAutoReframeExtensions. Child of the dialog; user-interface thread.
@@ -25,8 +29,8 @@ public:
         KrAutoReframeProcess& process;
         KrAutoReframePropertyPanel& panel;
         KrAutoReframePlayerView& view;
-        /// Analyzes the source with the settings of the panel.
-        std::function<void()> analyze;
+        /// Analyzes the source with these settings, as far as the service has not looked at it before.
+        std::function<void(int width, int height, int speed)> analyze;
     };
 
     KrDialogExtension(KrAutoReframeExtensions& host, const Parts& parts, QObject* parent);
@@ -47,13 +51,25 @@ private:
         int width = 0;
         int height = 0;
         int speed = 0;
+
+        bool operator==(const Settings& other) const
+        {
+            return width == other.width && height == other.height && speed == other.speed;
+        }
     };
 
     Settings PanelSettings() const;
+    void Analyze(const Settings& settings);
+    void CreateFollowControls();
     void EnterSource();
     void HandleKnown();
     void ShowShots();
     void HandleSettingsChanged();
+    void HandleChoicesChanged();
+    /// Shows what the person chose, in the aspect ratio and speed that are on the screen.
+    void DecideAgain();
+    void ShowChoices();
+    double FrameRate() const;
     void UpdateHint();
     KrAutoReframeState CurrentState() const;
     void ReportChange();
@@ -66,8 +82,16 @@ private:
     KrAutoReframeState m_state;
     /// Results of the open source are shown.
     bool m_hasResults = false;
+    /// What they were made with.
+    Settings m_shown;
+    QList<KxAutoReframeChoice> m_shownChoices;
     /// Null if the host's service has no shots.
     KrDoubtfulShots* m_doubtfulShots = nullptr;
+    KrChoiceList* m_choices;
+    /// Null if the host's service takes no choices.
+    KrFollowControls* m_followControls = nullptr;
+    /// A change of the choices is decided after the event that made it: several are decided at once.
+    QTimer m_decide;
     /// Asks on a thread of the pool whether the service knows a source that was analyzed earlier.
     QFutureWatcher<bool> m_isKnown;
 };

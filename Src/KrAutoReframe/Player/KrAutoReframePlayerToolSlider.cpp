@@ -9,9 +9,9 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QPen>
+#include <QStringList>
 #include <QToolTip>
 #include <QVariant>
-#include <QtMath>
 
 #include <algorithm>
 
@@ -23,6 +23,7 @@ constexpr int SmallThicknessPx = 8;
 constexpr double ShotTickPx = 1.0;
 constexpr double ShotTickInsetPx = 3.0;
 constexpr double ShotLinePx = 2.0;
+constexpr double ChoiceLinePx = 3.0;
 constexpr double LeastShotLinePx = 4.0;
 constexpr QColor ShotColour(150, 156, 166);
 constexpr QColor DoubtColour(255, 174, 52);
@@ -85,6 +86,12 @@ void KrAutoReframePlayerToolSlider::SetEditFrames(const QList<uint>& frames)
 void KrAutoReframePlayerToolSlider::SetShots(const QList<ShotMark>& shots)
 {
     m_shots = shots;
+    m_markWidget->update();
+}
+
+void KrAutoReframePlayerToolSlider::SetChoices(const QList<ChoiceMark>& choices)
+{
+    m_choices = choices;
     m_markWidget->update();
 }
 
@@ -206,6 +213,7 @@ void KrAutoReframePlayerToolSlider::PaintChunk()
 void KrAutoReframePlayerToolSlider::PaintMarks()
 {
     QPainter painter(m_markWidget);
+    PaintChoices(painter);
     PaintShots(painter);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setBrush(m_markFillColor);
@@ -235,6 +243,15 @@ void KrAutoReframePlayerToolSlider::PaintShots(QPainter& painter) const
     }
 }
 
+void KrAutoReframePlayerToolSlider::PaintChoices(QPainter& painter) const
+{
+    for (const ChoiceMark& choice : m_choices) {
+        const double start = CentreAt(choice.first);
+        const double length = std::max(CentreAt(choice.end) - start, LeastShotLinePx);
+        painter.fillRect(QRectF(start, rect().top(), length, ChoiceLinePx), choice.colour);
+    }
+}
+
 double KrAutoReframePlayerToolSlider::CentreAt(qint64 frame) const
 {
     const double share = std::min(static_cast<double>(frame) / duration(), 1.0);
@@ -243,17 +260,23 @@ double KrAutoReframePlayerToolSlider::CentreAt(qint64 frame) const
 
 bool KrAutoReframePlayerToolSlider::ShowShotToolTip(const QHelpEvent& event) const
 {
-    for (const ShotMark& shot : m_shots) {
-        const double start = CentreAt(shot.first);
-        const double end = CentreAt(shot.end);
-        const bool isUnder = event.x() >= start && (event.x() < end || &shot == &m_shots.constLast());
-        if (isUnder) {
-            const QRect area(qFloor(start), rect().top(), std::max(qCeil(end - start), 1), rect().height());
-            QToolTip::showText(event.globalPos(), KxToolTipHelper::AsPlainText(shot.toolTip), m_markWidget, area);
-            return true;
-        }
+    const auto isUnder = [this, &event](const auto& mark) {
+        return event.x() >= CentreAt(mark.first) && event.x() < CentreAt(mark.end);
+    };
+    const auto shot = std::find_if(m_shots.cbegin(), m_shots.cend(), isUnder);
+    const auto choice = std::find_if(m_choices.crbegin(), m_choices.crend(), isUnder);
+    QStringList texts;
+    if (choice != m_choices.crend()) {
+        texts.append(choice->toolTip);
     }
-    return false;
+    if (shot != m_shots.cend()) {
+        texts.append(shot->toolTip);
+    }
+    if (texts.isEmpty()) {
+        return false;
+    }
+    QToolTip::showText(event.globalPos(), KxToolTipHelper::AsPlainText(texts.join(QLatin1Char('\n'))), m_markWidget);
+    return true;
 }
 
 int KrAutoReframePlayerToolSlider::MarkPosition(uint frame) const

@@ -45,6 +45,17 @@ public:
     /// In order and without gaps. Initially there are none.
     void SetShots(const QList<ShotMark>& shots);
 
+    /// A range of frames in which the person decided, as a line of that colour along the slider's upper edge.
+    struct ChoiceMark {
+        /// Frames; `end` is the one after the last one.
+        qint64 first = 0;
+        qint64 end = 0;
+        QColor colour;
+        QString toolTip;
+    };
+    /// Later ones cover earlier ones. Initially there are none.
+    void SetChoices(const QList<ChoiceMark>& choices);
+
     /// Widths in pixels.
     void SetMarkStyle(const QColor& penColor, double penWidth, const QColor& fillColor, int markWidth);
     /// Only `editedColor` is painted; the others are stored for handles without a style sheet.
@@ -71,6 +82,7 @@ private:
     void PaintChunk();
     void PaintMarks();
     void PaintShots(QPainter& painter) const;
+    void PaintChoices(QPainter& painter) const;
     /// Where the handle's centre is at `frame`, pixels along the slider.
     double CentreAt(qint64 frame) const;
     bool ShowShotToolTip(const QHelpEvent& event) const;
@@ -81,6 +93,7 @@ private:
     QWidget* m_markWidget = nullptr;
     QList<uint> m_editFrames;
     QList<ShotMark> m_shots;
+    QList<ChoiceMark> m_choices;
     double m_markPenWidth = 0.5;
     QColor m_markPenColor{0, 0, 0, 61};
     int m_markWidth = 4;

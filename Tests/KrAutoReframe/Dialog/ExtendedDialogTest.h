@@ -65,5 +65,6 @@ protected:
 
     const QString clip = QStringLiteral("/v/clip.mp4");
     StateKeeper keeper;
+    /// Only as long as no other one is offered.
     FakeHost::ServiceWithShots& service = FakeHost::OfferShots();
 };

@@ -2,6 +2,7 @@
 
 #include <KxCore/KxRational.h>
 #include <KxModel/IKxAbstractMedia.h>
+#include <KxModel/IKxAutoReframeChoices.h>
 #include <KxModel/IKxAutoReframeService.h>
 #include <KxModel/IKxAutoReframeShots.h>
 #include <KxModel/IKxKeyFrameHelper.h>
@@ -185,10 +186,25 @@ public:
     QStringList knows;
 };
 
+/// The same, taking a person's choices too. As text it writes their number.
+class ServiceWithChoices : public ServiceWithShots, public IKxAutoReframeChoices
+{
+public:
+    void SetChoices(const QList<KxAutoReframeChoice>& wanted) override;
+    QByteArray WriteChoices(const QList<KxAutoReframeChoice>& wanted) const override;
+    QList<KxAutoReframeChoice> ReadChoices(const QByteArray& text) const override;
+    QRectF GuessBox(const QString& path, qint64 frame, const QPointF& point) const override;
+
+    QList<KxAutoReframeChoice> choices;
+    /// What is guessed, around the point.
+    QSizeF guess{0.1, 0.2};
+};
+
 /// The plain service, or after OfferShots() the other one.
 Service& TheService();
 /// Replaces the service, until the next Reset().
 ServiceWithShots& OfferShots();
+ServiceWithChoices& OfferChoices();
 void StopOffering();
 
 /// Makes a timeline that the host owns until the next Reset().

@@ -162,6 +162,42 @@ ServiceWithShots& OfferShots()
     return *Offered();
 }
 
+void ServiceWithChoices::SetChoices(const QList<KxAutoReframeChoice>& wanted)
+{
+    choices = wanted;
+}
+
+QByteArray ServiceWithChoices::WriteChoices(const QList<KxAutoReframeChoice>& wanted) const
+{
+    return QByteArray::number(wanted.size());
+}
+
+QList<KxAutoReframeChoice> ServiceWithChoices::ReadChoices(const QByteArray& text) const
+{
+    QList<KxAutoReframeChoice> read;
+    for (int index = 0; index < text.toInt(); ++index) {
+        KxAutoReframeChoice choice;
+        choice.kind = KxAutoReframeChoice::Kind::Hold;
+        choice.fromSeconds = index;
+        choice.toSeconds = index + 1;
+        read.append(choice);
+    }
+    return read;
+}
+
+QRectF ServiceWithChoices::GuessBox(const QString& /*path*/, qint64 /*frame*/, const QPointF& point) const
+{
+    return {point.x() - guess.width() / 2.0, point.y() - guess.height() / 2.0, guess.width(), guess.height()};
+}
+
+ServiceWithChoices& OfferChoices()
+{
+    auto service = std::make_unique<ServiceWithChoices>();
+    ServiceWithChoices& offered = *service;
+    Offered() = std::move(service);
+    return offered;
+}
+
 void StopOffering()
 {
     Offered().reset();

@@ -1,0 +1,229 @@
+#include <KrAutoReframe/Extensions/KrFollowControls.h>
+#include <KrAutoReframe/Extensions/KrSubjectBox.h>
+#include <Tests/KrAutoReframe/Dialog/ExtendedDialogTest.h>
+#include <Tests/KrAutoReframe/WidgetProbe.h>
+
+#include <QContextMenuEvent>
+#include <QLabel>
+#include <QMenu>
+#include <QUndoStack>
+#include <QtTest>
+
+namespace
+{
+
+constexpr int Ended = 2;
+using Kind = KxAutoReframeChoice::Kind;
+
+class KrFollowControlsTest : public ExtendedDialogTest
+{
+protected:
+    KrFollowControlsTest()
+        : taking(FakeHost::OfferChoices())
+    {
+        MakeExtended();
+        box = overlay->findChild<KrSubjectBox*>();
+        taking.shots = {{0, 25, 0.9, KxAutoReframeDoubt::None}, {25, 100, 0.9, KxAutoReframeDoubt::None}};
+        Load(Video(clip));
+        Analyse();
+        presenter->pause();
+        FakePlayer::ShowFrame(*presenter, 50);
+        // Every later task ends at once, too.
+        QObject::connect(&m_ends, &QTimer::timeout, overlay, [this] { EndRunningTask(); });
+        m_ends.start(5);
+    }
+    ~KrFollowControlsTest() override { dialog.reset(); }
+
+    QPoint At(double x, double y) const
+    {
+        const QRect picture = overlay->GetPictureLabel()->geometry();
+        return picture.topLeft() + QPoint(qRound(x * picture.width()), qRound(y * picture.height()));
+    }
+    void Drag(const QPoint& from, const QPoint& to)
+    {
+        WidgetProbe::Press(*overlay, from, Qt::RightButton);
+        WidgetProbe::SendMouse(*overlay, QEvent::MouseMove, to, Qt::NoButton, Qt::RightButton);
+        WidgetProbe::Release(*overlay, to, Qt::RightButton);
+    }
+    void Click(const QPoint& at)
+    {
+        WidgetProbe::Press(*overlay, at, Qt::RightButton);
+        WidgetProbe::Release(*overlay, at, Qt::RightButton);
+    }
+    QMenu* Menu() const { return view->findChild<QMenu*>(QStringLiteral("KrAutoReframe_followMenu")); }
+    void Choose(const QString& text)
+    {
+        ASSERT_NE(Menu(), nullptr);
+        for (QAction* const action : Menu()->actions()) {
+            if (action->text() == text) {
+                action->trigger();
+                Menu()->close();
+                return;
+            }
+        }
+        FAIL() << text.toStdString();
+    }
+    bool HasDecided() const { return m_decisions > 0; }
+
+    FakeHost::ServiceWithChoices& taking;
+    KrSubjectBox* box = nullptr;
+
+private:
+    void EndRunningTask()
+    {
+        const int starts = taking.Calls().filter(QStringLiteral("StartTask")).size();
+        if (starts > m_starts) {
+            m_starts = starts;
+            if (starts > 1) {
+                ++m_decisions;
+                taking.FireFromThread(Ended, 100);
+            }
+        }
+    }
+
+    QTimer m_ends;
+    int m_starts = 1;
+    int m_decisions = 0;
+};
+
+} // namespace
+
+TEST_F(KrFollowControlsTest, ABoxThatIsDrawnIsFollowedInItsShot)
+{
+    Drag(At(0.2, 0.3), At(0.4, 0.7));
+    EXPECT_NEAR(box->Box().x(), 0.2, 0.01);
+    EXPECT_NEAR(box->Box().height(), 0.4, 0.01);
+    Choose(QStringLiteral("Follow This"));
+    ASSERT_EQ(taking.choices.size(), 1);
+    const KxAutoReframeChoice choice = taking.choices.first();
+    EXPECT_EQ(choice.kind, Kind::Follow);
+    EXPECT_DOUBLE_EQ(choice.fromSeconds, 1.0);
+    EXPECT_DOUBLE_EQ(choice.toSeconds, 4.0);
+    ASSERT_EQ(choice.seeds.size(), 1);
+    EXPECT_DOUBLE_EQ(choice.seeds.first().seconds, 2.0);
+    EXPECT_NEAR(choice.seeds.first().box.width(), 0.2, 0.01);
+    EXPECT_FALSE(choice.seeds.first().isGuessed);
+    EXPECT_TRUE(box->Box().isEmpty());
+    QTRY_VERIFY(HasDecided());
+}
+
+TEST_F(KrFollowControlsTest, AClickShowsTheBoxThatTheServiceGuesses)
+{
+    Click(At(0.5, 0.5));
+    QTRY_VERIFY(Menu() != nullptr);
+    EXPECT_NEAR(box->Box().x(), 0.45, 0.01);
+    EXPECT_NEAR(box->Box().width(), 0.1, 1e-9);
+    Choose(QStringLiteral("Not This"));
+    ASSERT_EQ(taking.choices.size(), 1);
+    EXPECT_EQ(taking.choices.first().kind, Kind::Avoid);
+    EXPECT_TRUE(taking.choices.first().seeds.first().isGuessed);
+}
+
+TEST_F(KrFollowControlsTest, WhereNothingIsGuessedABoxOfUsualSizeIsShown)
+{
+    taking.guess = QSizeF();
+    Click(At(0.5, 0.5));
+    QTRY_VERIFY(Menu() != nullptr);
+    EXPECT_NEAR(box->Box().width(), 0.14, 1e-9);
+}
+
+TEST_F(KrFollowControlsTest, AHandleAdjustsTheBoxAndConfirmsIt)
+{
+    Click(At(0.5, 0.5));
+    QTRY_VERIFY(Menu() != nullptr);
+    Menu()->close();
+    const QPoint corner(qRound(box->Box().right() * box->width()), qRound(box->Box().bottom() * box->height()));
+    const QPoint wider = corner + QPoint(box->width() / 10, 0);
+    WidgetProbe::Press(*box, corner);
+    WidgetProbe::MoveHeld(*box, wider);
+    WidgetProbe::Release(*box, wider);
+    EXPECT_NEAR(box->Box().width(), 0.2, 0.01);
+    QTRY_VERIFY(Menu() == nullptr);
+    Click(At(0.5, 0.5));
+    Choose(QStringLiteral("Follow This"));
+    EXPECT_FALSE(taking.choices.first().seeds.first().isGuessed);
+}
+
+TEST_F(KrFollowControlsTest, HoldKeepsTheCropThatIsShown)
+{
+    Drag(At(0.2, 0.3), At(0.4, 0.7));
+    const QPointF centre = overlay->GetCropRect().center();
+    Choose(QStringLiteral("Hold the Crop in This Shot"));
+    EXPECT_EQ(taking.choices.first().kind, Kind::Hold);
+    EXPECT_EQ(taking.choices.first().centre, centre);
+    EXPECT_TRUE(taking.choices.first().seeds.isEmpty());
+}
+
+TEST_F(KrFollowControlsTest, ChoicesAndEditsAreOneHistory)
+{
+    Helper().AddKeyFrame(10, QRectF(0.5, 0.0, 0.25, 1.0));
+    Drag(At(0.2, 0.3), At(0.4, 0.7));
+    Choose(QStringLiteral("Follow This"));
+    QTRY_VERIFY(HasDecided());
+    EXPECT_EQ(Helper().GetEditPointFrames(), QList<uint>{10});
+    EXPECT_EQ(StateOf(clip).choices, QByteArray("1"));
+    Helper().Undo();
+    EXPECT_TRUE(taking.choices.isEmpty());
+    EXPECT_EQ(StateOf(clip).choices, QByteArray());
+    EXPECT_EQ(Helper().GetEditPointFrames(), QList<uint>{10});
+    Helper().Undo();
+    EXPECT_TRUE(Helper().GetEditPointFrames().isEmpty());
+    Helper().Redo();
+    Helper().Redo();
+    EXPECT_EQ(taking.choices.size(), 1);
+}
+
+TEST_F(KrFollowControlsTest, AChoiceIsDecidedInTheRatioThatIsShown)
+{
+    Ratios().setCurrentText(QStringLiteral("1:1"));
+    Drag(At(0.2, 0.3), At(0.4, 0.7));
+    Choose(QStringLiteral("Follow This"));
+    QTRY_VERIFY(HasDecided());
+    EXPECT_TRUE(taking.Calls().filter(QStringLiteral("StartTask")).last().endsWith(QStringLiteral("9x16)")));
+    EXPECT_EQ(Hint(), QStringLiteral("Settings changed: analyze again"));
+}
+
+TEST_F(KrFollowControlsTest, AnotherFrameOrEscapeRemovesTheBox)
+{
+    Drag(At(0.2, 0.3), At(0.4, 0.7));
+    Menu()->close();
+    EXPECT_FALSE(box->Box().isEmpty());
+    FakePlayer::ShowFrame(*presenter, 51);
+    EXPECT_TRUE(box->Box().isEmpty());
+    Drag(At(0.2, 0.3), At(0.4, 0.7));
+    Menu()->close();
+    QTest::keyClick(&view->PlayerWidget(), Qt::Key_Escape);
+    EXPECT_TRUE(box->Box().isEmpty());
+    EXPECT_TRUE(dialog->isVisible());
+    EXPECT_TRUE(recorders.boxes.empty());
+}
+
+TEST_F(KrFollowControlsTest, TheMenuKeyPointsAtTheMiddleOfTheCrop)
+{
+    QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint());
+    QApplication::sendEvent(&view->PlayerWidget(), &event);
+    QTRY_VERIFY(Menu() != nullptr);
+    EXPECT_NEAR(box->Box().center().x(), overlay->GetCropRect().center().x(), 0.001);
+}
+
+TEST_F(KrFollowControlsTest, ALongPressDoesWhatTheRightButtonDoes)
+{
+    WidgetProbe::Press(*overlay, At(0.9, 0.5));
+    QTRY_VERIFY(Menu() != nullptr);
+    WidgetProbe::Release(*overlay, At(0.9, 0.5));
+    EXPECT_NEAR(box->Box().center().x(), 0.9, 0.01);
+}
+
+TEST_F(KrFollowControlsTest, AnotherSourceHasItsOwnChoices)
+{
+    Drag(At(0.2, 0.3), At(0.4, 0.7));
+    Choose(QStringLiteral("Follow This"));
+    QTRY_VERIFY(HasDecided());
+    const QString other = QStringLiteral("/v/other.mp4");
+    StateOf(other).choices = "2";
+    Load(Video(other));
+    EXPECT_EQ(taking.choices.size(), 2);
+    EXPECT_EQ(StateOf(clip).choices, QByteArray("1"));
+    dialog.reset();
+    EXPECT_TRUE(taking.choices.isEmpty());
+}

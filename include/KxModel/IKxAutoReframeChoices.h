@@ -1,0 +1,64 @@
+#pragma once
+
+#include <QByteArray>
+#include <QList>
+#include <QPointF>
+#include <QRectF>
+#include <QString>
+
+/// What a person decided for a range of time. Times are seconds since the first picture, places fractions of the
+/// upright picture, so a choice holds for every aspect ratio and speed.
+struct KxAutoReframeChoice {
+    enum class Kind {
+        Follow,   ///< the crop follows what the seeds show
+        Avoid,    ///< what the seeds show does not attract the crop
+        Hold,     ///< the crop stays still around `centre`
+        Fit,      ///< the whole picture is shown
+        Automatic ///< the analysis decides; takes back earlier choices
+    };
+    /// Where the person pointed.
+    struct Seed {
+        double seconds = 0.0;
+        QRectF box;
+        bool isGuessed = false; ///< from a click; otherwise the person drew or confirmed the box
+
+        bool operator==(const Seed& other) const
+        {
+            return seconds == other.seconds && box == other.box && isGuessed == other.isGuessed;
+        }
+    };
+
+    Kind kind = Kind::Automatic;
+    double fromSeconds = 0.0;
+    double toSeconds = 0.0;
+    QList<Seed> seeds;        ///< Follow and Avoid
+    QPointF centre{0.5, 0.5}; ///< Hold
+
+    bool operator==(const KxAutoReframeChoice& other) const
+    {
+        return kind == other.kind && fromSeconds == other.fromSeconds && toSeconds == other.toSeconds &&
+               seeds == other.seeds && centre == other.centre;
+    }
+};
+
+/// What a host's auto-reframe service may offer beside IKxAutoReframeService: it takes a person's choices. A service
+/// that does so derives from both classes: clients find this one by dynamic_cast. Defined in this header alone, so that
+/// a host without it has nothing to add. Any thread.
+class IKxAutoReframeChoices
+{
+public:
+    /// The choices for the tasks that start from now on; initially none. Where two overlap, the later one of the list
+    /// applies. A task for a video that the service has looked at before looks again only at what the choices need.
+    virtual void SetChoices(const QList<KxAutoReframeChoice>& choices) = 0;
+
+    /// Choices as text, to be stored, and read again by this or a later version. Text that cannot be read gives none.
+    virtual QByteArray WriteChoices(const QList<KxAutoReframeChoice>& choices) const = 0;
+    virtual QList<KxAutoReframeChoice> ReadChoices(const QByteArray& text) const = 0;
+
+    /// The box of what is at `point` in frame `frame` of the file `path`; empty if the frame cannot be read. Blocks for
+    /// some tenths of a second.
+    virtual QRectF GuessBox(const QString& path, qint64 frame, const QPointF& point) const = 0;
+
+protected:
+    virtual ~IKxAutoReframeChoices() = default;
+};
