@@ -1,8 +1,12 @@
 #include <KxModel/KxAutoReframeService.h>
 
+#include <KxModel/KxChoiceRecords.h>
+#include <KxModel/KxChoicesFormat.h>
 #include <KxModel/KxFollowTracks.h>
+#include <KxModel/KxPointedPicture.h>
 #include <KxModel/KxRecordStore.h>
 
+#include <KxCore/KxLog.h>
 #include <KxSubject/KxOpenCvProcess.h>
 
 #include <QFileInfo>
@@ -208,6 +212,37 @@ bool KxAutoReframeService::IsKnown(const QString& path) const
     // A record that is too large to read is as good as none.
     KxCallGuarded([&] { isKnown = KxVideoAnalysis::HasRecord(path, settings); });
     return isKnown;
+}
+
+void KxAutoReframeService::SetChoices(const QList<KxAutoReframeChoice>& choices)
+{
+    SetChoices(KxChoiceRecords::ToSubject(choices));
+}
+
+QByteArray KxAutoReframeService::WriteChoices(const QList<KxAutoReframeChoice>& choices) const
+{
+    return KxChoicesFormat::Write(KxChoiceRecords::ToSubject(choices));
+}
+
+QList<KxAutoReframeChoice> KxAutoReframeService::ReadChoices(const QByteArray& text) const
+{
+    if (text.isEmpty()) {
+        return {};
+    }
+    const KxResult<KxSubjectChoices> read = KxChoicesFormat::Read(text, QStringLiteral("the stored choices"));
+    if (!read) {
+        KX_LOG_WARNING(read.Message());
+        return {};
+    }
+    return KxChoiceRecords::FromSubject(*read);
+}
+
+QRectF KxAutoReframeService::GuessBox(const QString& path, qint64 frame, const QPointF& point) const
+{
+    QRectF box;
+    // Without a guess the person draws the box.
+    KxCallGuarded([&] { box = KxPointedPicture::BoxAt(path, frame, point); });
+    return box;
 }
 
 void KxAutoReframeService::SetNetworkFolder(const QString& path)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <KxModel/IKxAutoReframeChoices.h>
 #include <KxModel/IKxAutoReframeService.h>
 #include <KxModel/IKxAutoReframeShots.h>
 
@@ -18,7 +19,9 @@
 
 /// The analysis service: one task at a time, on a thread of its own. No exception leaves it: what an analysis throws
 /// becomes a failed task with an error message.
-class KXMODEL_API KxAutoReframeService final : public IKxAutoReframeService, public IKxAutoReframeShots
+class KXMODEL_API KxAutoReframeService final : public IKxAutoReframeService,
+                                               public IKxAutoReframeShots,
+                                               public IKxAutoReframeChoices
 {
 public:
     /// The service that getAutoReframeService() returns.
@@ -47,6 +50,11 @@ public:
     void CollectShots(bool isWanted) override;
     QList<KxAutoReframeShot> GetShots(const QString& path) const override;
     bool IsKnown(const QString& path) const override;
+
+    void SetChoices(const QList<KxAutoReframeChoice>& choices) override;
+    QByteArray WriteChoices(const QList<KxAutoReframeChoice>& choices) const override;
+    QList<KxAutoReframeChoice> ReadChoices(const QByteArray& text) const override;
+    QRectF GuessBox(const QString& path, qint64 frame, const QPointF& point) const override;
 
     /// The folder of the optional detectors (KxDetectorFiles::FindNetworks) for the tasks that start from now on;
     /// empty, as at first: none. Any thread.

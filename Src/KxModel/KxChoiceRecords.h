@@ -1,0 +1,14 @@
+#pragma once
+
+#include <KxModel/IKxAutoReframeChoices.h>
+
+#include <KxSubject/KxSubjectChoices.h>
+
+#include <QList>
+
+/// A person's choices as clients of the service give them, and as the analysis takes them.
+namespace KxChoiceRecords
+{
+KxSubjectChoices ToSubject(const QList<KxAutoReframeChoice>& choices);
+QList<KxAutoReframeChoice> FromSubject(const KxSubjectChoices& choices);
+} // namespace KxChoiceRecords
