@@ -55,7 +55,7 @@ KrFollowControls::KrFollowControls(KrAutoReframePlayerView& view, IKxAutoReframe
     });
     m_longPress.setSingleShot(true);
     m_longPress.setInterval(LongPressMs);
-    connect(&m_longPress, &QTimer::timeout, this, [this] { Guess(m_box->FractionAt(m_longPressAt)); });
+    connect(&m_longPress, &QTimer::timeout, this, &KrFollowControls::HandleLongPress);
 }
 
 KrFollowControls::~KrFollowControls()
@@ -80,7 +80,7 @@ bool KrFollowControls::eventFilter(QObject* watched, QEvent* event)
     switch (event->type()) {
     case QEvent::Resize:
     case QEvent::Move:
-        m_box->setGeometry(m_view.Overlay().GetPictureLabel()->geometry());
+        PlaceBox();
         break;
     case QEvent::Hide:
         if (watched == &m_view.Overlay()) {
@@ -107,6 +107,7 @@ bool KrFollowControls::HandleMouse(const QObject& watched, const QMouseEvent& ev
     if (watched.isWidgetType() && &watched == m_view.Overlay().GetPictureLabel()) {
         return false;
     }
+    PlaceBox();
     const QPoint inPicture = m_box->mapFromGlobal(event.globalPos());
     const bool isLeft = event.button() == Qt::LeftButton;
     switch (event.type()) {
@@ -161,6 +162,20 @@ bool KrFollowControls::HandlePictureKey(QEvent& event)
     return true;
 }
 
+void KrFollowControls::HandleLongPress()
+{
+    // The menu will get the release of the button: without one the overlay would go on dragging the crop.
+    const QPoint inOverlay = m_box->mapTo(&m_view.Overlay(), m_longPressAt);
+    QMouseEvent release(QEvent::MouseButtonRelease, inOverlay, Qt::LeftButton, Qt::NoButton, Qt::NoModifier);
+    QApplication::sendEvent(&m_view.Overlay(), &release);
+    Guess(m_box->FractionAt(m_longPressAt));
+}
+
+void KrFollowControls::PlaceBox()
+{
+    m_box->setGeometry(m_view.Overlay().GetPictureLabel()->geometry());
+}
+
 void KrFollowControls::Press(const QPoint& inPicture)
 {
     m_view.Pause();
@@ -194,6 +209,7 @@ void KrFollowControls::Release(const QPoint& inPicture)
 
 void KrFollowControls::Guess(const QPointF& point)
 {
+    PlaceBox();
     m_view.Pause();
     m_guessedPoint = point;
     m_boxFrame = CurrentFrame();

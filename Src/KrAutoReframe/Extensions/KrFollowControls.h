@@ -56,6 +56,8 @@ private:
 
     bool HandleMouse(const QObject& watched, const QMouseEvent& event);
     bool HandlePictureKey(QEvent& event);
+    void HandleLongPress();
+    void PlaceBox();
     void Press(const QPoint& inPicture);
     void DrawTo(const QPoint& inPicture);
     void Release(const QPoint& inPicture);

@@ -13,7 +13,7 @@ constexpr QColor EdgeColour(0, 0, 0, 170);
 constexpr int HandlePx = 8;
 constexpr int GrabPx = 7;
 constexpr double LeastSide = 0.01;
-constexpr Qt::Edges AllEdges = Qt::LeftEdge | Qt::TopEdge | Qt::RightEdge | Qt::BottomEdge;
+constexpr Qt::Edges WholeBox = Qt::LeftEdge | Qt::TopEdge | Qt::RightEdge | Qt::BottomEdge;
 
 bool IsNear(double a, double b)
 {
@@ -68,7 +68,7 @@ Qt::Edges KrSubjectBox::EdgesAt(const QPoint& position) const
     edges.setFlag(Qt::RightEdge, !edges.testFlag(Qt::LeftEdge) && IsNear(position.x(), box.right()));
     edges.setFlag(Qt::TopEdge, IsNear(position.y(), box.top()));
     edges.setFlag(Qt::BottomEdge, !edges.testFlag(Qt::TopEdge) && IsNear(position.y(), box.bottom()));
-    return edges == Qt::Edges() ? AllEdges : edges;
+    return edges == Qt::Edges() ? WholeBox : edges;
 }
 
 void KrSubjectBox::ShowCursor(const QPoint& position)
@@ -76,7 +76,7 @@ void KrSubjectBox::ShowCursor(const QPoint& position)
     const Qt::Edges edges = EdgesAt(position);
     if (edges == Qt::Edges()) {
         unsetCursor();
-    } else if (edges == AllEdges) {
+    } else if (edges == WholeBox) {
         setCursor(Qt::SizeAllCursor);
     } else if (edges == (Qt::LeftEdge | Qt::TopEdge) || edges == (Qt::RightEdge | Qt::BottomEdge)) {
         setCursor(Qt::SizeFDiagCursor);
@@ -109,7 +109,7 @@ void KrSubjectBox::mouseMoveEvent(QMouseEvent* event)
     const double dx = moved.x() / std::max(width(), 1);
     const double dy = moved.y() / std::max(height(), 1);
     QRectF box = m_boxAtPress;
-    if (m_held == AllEdges) {
+    if (m_held == WholeBox) {
         box.moveTo(std::max(0.0, std::min(box.x() + dx, 1.0 - box.width())),
                    std::max(0.0, std::min(box.y() + dy, 1.0 - box.height())));
         SetBox(box);

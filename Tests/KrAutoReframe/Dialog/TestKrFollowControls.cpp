@@ -208,10 +208,21 @@ TEST_F(KrFollowControlsTest, TheMenuKeyPointsAtTheMiddleOfTheCrop)
 
 TEST_F(KrFollowControlsTest, ALongPressDoesWhatTheRightButtonDoes)
 {
-    WidgetProbe::Press(*overlay, At(0.9, 0.5));
+    WidgetProbe::Press(*overlay, At(0.15, 0.5));
     QTRY_VERIFY(Menu() != nullptr);
-    WidgetProbe::Release(*overlay, At(0.9, 0.5));
-    EXPECT_NEAR(box->Box().center().x(), 0.9, 0.01);
+    EXPECT_NEAR(box->Box().center().x(), 0.15, 0.01);
+}
+
+TEST_F(KrFollowControlsTest, AfterALongPressThePointerDoesNotDragTheCrop)
+{
+    const QRectF crop = overlay->GetCropRect();
+    ASSERT_TRUE(crop.contains(QPointF(0.15, 0.5)));
+    WidgetProbe::Press(*overlay, At(0.15, 0.5));
+    QTRY_VERIFY(Menu() != nullptr);
+    Menu()->close();
+    WidgetProbe::Hover(*overlay, At(0.2, 0.5));
+    WidgetProbe::Hover(*overlay, At(0.4, 0.5));
+    EXPECT_EQ(overlay->GetCropRect(), crop);
 }
 
 TEST_F(KrFollowControlsTest, AnotherSourceHasItsOwnChoices)
