@@ -324,7 +324,7 @@ struct KxSubjectOptions {
         /// leaves the subject
         double stillSpeed = 0.006;
         double easeSeconds = 1.0; ///< 0.5 to 2 for coming to a place that a person chose; chosen
-        double stillTrim = 0.05; ///< 0 to 0.1 of the samples at each end of the range, that do not count; chosen
+        double stillTrim = 0.05;  ///< 0 to 0.1 of the samples at each end of the range, that do not count; chosen
     } path;
 
     /// The path's reaction at one motion speed. Widths are the picture's unless the crop's is named. Origin: trial. The
