@@ -116,33 +116,6 @@ TEST_F(KxMouthTracksTest, OneFaceGivesNone)
     EXPECT_TRUE(record.sound.empty());
 }
 
-TEST_F(KxMouthTracksTest, AMouthThatMovesHasLargerMovements)
-{
-    const KxSubjectRecord record = Observe();
-    ASSERT_GE(record.mouths.size(), 2U);
-    for (const KxMouthTrack& mouth : record.mouths) {
-        const bool isLeft = record.faces[static_cast<std::size_t>(mouth.face)].looks.front().x < 160;
-        double own = 0.0;
-        double other = 0.0;
-        for (const KxMouthLook& look : mouth.looks) {
-            ((look.frame < Frames / 2) == isLeft ? own : other) += look.movement;
-        }
-        EXPECT_GT(own, 2.0 * other) << (isLeft ? "left" : "right");
-    }
-}
-
-TEST_F(KxMouthTracksTest, TheCropFollowsTheFaceWhoseMouthMovesWithTheSound)
-{
-    const KxSubjectRecord record = Observe();
-    ASSERT_FALSE(record.sound.empty());
-    const KxSubjectDecision decision =
-        KxDecide(record, {9, 16, KxMotionSpeed::Auto, true}, KxSubjectOptions(), KxCancelToken());
-    ASSERT_EQ(decision.crops.size(), static_cast<std::size_t>(Frames));
-    EXPECT_EQ(decision.findings.shots[0].speech, KxSpeech::Followed);
-    EXPECT_LT(decision.crops[75].x + decision.crops[75].width / 2.0, 0.4);
-    EXPECT_GT(decision.crops[225].x + decision.crops[225].width / 2.0, 0.6);
-}
-
 TEST_F(KxMouthTracksTest, TheBoxOfAFaceIsKnownNearItsHitsOnly)
 {
     const KxMouthTracks mouths(Options.mouths, MadeSpeech::FrameRate);
