@@ -61,7 +61,8 @@ struct Outcome {
     std::int64_t longestRange = 0;
 };
 
-Outcome Run(const KxSubjectRecord& record, const KxSubjectChoice& choice, const KxSubjectOptions& options = {})
+Outcome FollowThrough(const KxSubjectRecord& record, const KxSubjectChoice& choice,
+                      const KxSubjectOptions& options = {})
 {
     KxSubjectFollower follower(record, choice, options);
     Outcome outcome;
@@ -96,7 +97,7 @@ void ExpectOnTheThing(const KxFollowTrack& track)
 
 TEST(KxSubjectFollower, ASeedIsFollowedToBothEndsOfItsShot)
 {
-    const Outcome outcome = Run(Record(300, {60, 240}), Follow({SeedAt(150)}));
+    const Outcome outcome = FollowThrough(Record(300, {60, 240}), Follow({SeedAt(150)}));
     ExpectOnTheThing(outcome.track);
     ASSERT_GT(outcome.track.points.size(), 80U);
     EXPECT_EQ(outcome.track.points.front().frame, 60);
@@ -106,7 +107,7 @@ TEST(KxSubjectFollower, ASeedIsFollowedToBothEndsOfItsShot)
 
 TEST(KxSubjectFollower, SeedsOfSeveralShotsAreFollowedInTheirOwn)
 {
-    const Outcome outcome = Run(Record(300, {60, 240}), Follow({SeedAt(290), SeedAt(10)}));
+    const Outcome outcome = FollowThrough(Record(300, {60, 240}), Follow({SeedAt(290), SeedAt(10)}));
     ExpectOnTheThing(outcome.track);
     for (const KxFollowTrack::Point& point : outcome.track.points) {
         EXPECT_TRUE(point.frame < 60 || point.frame >= 240) << point.frame;
@@ -119,7 +120,7 @@ TEST(KxSubjectFollower, TheRangeOfTheChoiceBoundsTheWork)
     KxSubjectChoice choice = Follow({SeedAt(150)});
     choice.fromSeconds = 4.0;
     choice.toSeconds = 6.0;
-    const Outcome outcome = Run(Record(300), choice);
+    const Outcome outcome = FollowThrough(Record(300), choice);
     EXPECT_GE(outcome.track.points.front().frame, 120);
     EXPECT_LT(outcome.track.points.back().frame, 180);
     ExpectOnTheThing(outcome.track);
@@ -130,10 +131,10 @@ TEST(KxSubjectFollower, ALongShotIsFollowedInBlocksWithTheSameResult)
     KxSubjectOptions options;
     options.follow.blockSeconds = 1.0;
     const KxSubjectChoice choice = Follow({SeedAt(100), SeedAt(200)});
-    const Outcome outcome = Run(Record(300), choice, options);
+    const Outcome outcome = FollowThrough(Record(300), choice, options);
     ExpectOnTheThing(outcome.track);
     EXPECT_GT(outcome.ranges, 6);
-    const Outcome whole = Run(Record(300), choice);
+    const Outcome whole = FollowThrough(Record(300), choice);
     ASSERT_EQ(outcome.track.points.size(), whole.track.points.size());
     for (std::size_t i = 0; i < whole.track.points.size(); ++i) {
         EXPECT_EQ(outcome.track.points[i].frame, whole.track.points[i].frame);
@@ -145,7 +146,7 @@ TEST(KxSubjectFollower, ThePersonsOwnBoxIsKeptAtItsFrame)
 {
     KxSubjectSeed wrong = SeedAt(150);
     wrong.box.x -= 0.02;
-    const Outcome outcome = Run(Record(300), Follow({SeedAt(20), wrong}));
+    const Outcome outcome = FollowThrough(Record(300), Follow({SeedAt(20), wrong}));
     const auto at = std::find_if(outcome.track.points.begin(), outcome.track.points.end(),
                                  [](const KxFollowTrack::Point& point) { return point.frame == 150; });
     ASSERT_NE(at, outcome.track.points.end());
@@ -155,7 +156,8 @@ TEST(KxSubjectFollower, ThePersonsOwnBoxIsKeptAtItsFrame)
 
 TEST(KxSubjectFollower, APointBecomesABoxAroundTheThing)
 {
-    const Outcome outcome = Run(Record(60), Follow({{0.0, {Place(0), 0.5, 0.0, 0.0}, KxSubjectSeed::Extent::Guessed}}));
+    const Outcome outcome =
+        FollowThrough(Record(60), Follow({{0.0, {Place(0), 0.5, 0.0, 0.0}, KxSubjectSeed::Extent::Guessed}}));
     ASSERT_FALSE(outcome.track.points.empty());
     const KxSubjectBox& box = outcome.track.points.front().box;
     EXPECT_GT(box.width, 0.05);
@@ -168,7 +170,7 @@ TEST(KxSubjectFollower, NothingIsDoneForSeedsOutsideTheVideoOrTheRange)
 {
     KxSubjectChoice choice = Follow({SeedAt(900), SeedAt(10)});
     choice.fromSeconds = 2.0;
-    const Outcome outcome = Run(Record(300), choice);
+    const Outcome outcome = FollowThrough(Record(300), choice);
     EXPECT_EQ(outcome.ranges, 0);
     EXPECT_TRUE(outcome.track.points.empty());
 }
@@ -177,7 +179,7 @@ TEST(KxSubjectFollower, AChoiceThatPointsAtNothingNeedsNoPictures)
 {
     KxSubjectChoice hold;
     hold.kind = KxChoiceKind::Hold;
-    EXPECT_EQ(Run(Record(300, {60}), hold).ranges, 0);
+    EXPECT_EQ(FollowThrough(Record(300, {60}), hold).ranges, 0);
 }
 
 TEST(KxSubjectFollower, MissingAndWrongPicturesAreIgnored)
