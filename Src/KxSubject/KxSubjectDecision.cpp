@@ -4,6 +4,7 @@
 #include <KxSubject/Choice/KxChoiceRanges.h>
 #include <KxSubject/Choice/KxChosenEvidence.h>
 #include <KxSubject/Choice/KxEvidence.h>
+#include <KxSubject/Choice/KxShotConfidence.h>
 #include <KxSubject/Choice/KxSpeakerChoice.h>
 #include <KxSubject/Choice/KxSubjectTracker.h>
 #include <KxSubject/KxSubjectRecord.h>
@@ -64,8 +65,12 @@ private:
     Samples SamplesOf(const Shot& shot) const;
     ShotEvidence EvidenceIn(const Shot& shot, const KxChoiceRanges& choices, const KxCancelToken& cancel) const;
     /// The centre that the evidence asks for at each sample.
-    std::vector<KxPathPoint> WantedCentres(const Shot& shot, const ShotEvidence& evidence,
-                                           const KxCancelToken& cancel) const;
+    struct Wanted {
+        std::vector<KxPathPoint> points;
+        double total = 0.0; ///< of the tracker
+        double costPerPosition = 0.0;
+    };
+    Wanted WantedCentres(const Shot& shot, const ShotEvidence& evidence, const KxCancelToken& cancel) const;
     std::vector<double> Drawn(const Shot& shot, const ShotEvidence& evidence, const std::vector<KxPathPoint>& points,
                               const KxCancelToken& cancel) const;
     std::vector<double> CentresOf(const Shot& shot, const KxChoiceRanges& choices, const KxCancelToken& cancel);
@@ -78,8 +83,9 @@ private:
     std::vector<double> CentresOnSpeakers(const KxSpeakerChoice& choice,
                                           const std::vector<KxSpeakerChoice::Part>& parts,
                                           const KxCancelToken& cancel) const;
-    void RecordFindings(const Shot& shot, const ShotEvidence& evidence, const std::vector<KxPathPoint>& points,
-                        std::size_t firstSample);
+    /// `path`: the centre at each frame, as the evidence wants it.
+    void RecordFindings(const Shot& shot, const ShotEvidence& evidence, const Wanted& wanted,
+                        const std::vector<double>& path);
     KxSubjectOptions::Reaction ReactionIn(const ShotEvidence& evidence) const;
 
     const KxSubjectRecord& m_record;
@@ -206,21 +212,23 @@ Decider::Samples Decider::SamplesOf(const Shot& shot) const
     return {static_cast<std::size_t>(from - samples.begin()), static_cast<std::size_t>(to - samples.begin())};
 }
 
-std::vector<KxPathPoint> Decider::WantedCentres(const Shot& shot, const ShotEvidence& evidence,
-                                                const KxCancelToken& cancel) const
+Decider::Wanted Decider::WantedCentres(const Shot& shot, const ShotEvidence& evidence,
+                                       const KxCancelToken& cancel) const
 {
     const Samples range = SamplesOf(shot);
     const std::vector<KxSignalSample>& samples = m_record.samples;
-    KxSubjectTracker tracker(MoveCost(shot, range.begin, range.end) * m_score.Spacing());
+    Wanted wanted;
+    wanted.costPerPosition = MoveCost(shot, range.begin, range.end) * m_score.Spacing();
+    KxSubjectTracker tracker(wanted.costPerPosition);
     for (std::size_t i = range.begin; i < range.end && !cancel.IsCancelled(); ++i) {
         const bool clear = samples[i].frame >= shot.clearFirst && samples[i].frame < shot.clearEnd;
         tracker.Add(clear ? m_score.Of(Combined(evidence.signals.At(i), evidence, i)) : KxCentreScore::Scores{});
     }
-    std::vector<KxPathPoint> points;
     for (const std::size_t position : tracker.BestRun()) {
-        points.push_back({samples[range.begin + points.size()].frame, m_score.CentreAt(position)});
+        wanted.points.push_back({samples[range.begin + wanted.points.size()].frame, m_score.CentreAt(position)});
     }
-    return points;
+    wanted.total = tracker.BestTotal();
+    return wanted;
 }
 
 std::vector<double> Decider::Drawn(const Shot& shot, const ShotEvidence& evidence,
@@ -240,7 +248,8 @@ Decider::ShotEvidence Decider::EvidenceIn(const Shot& shot, const KxChoiceRanges
     ShotEvidence evidence = evidenceWith(choices);
     if (evidence.chosen.Follows()) {
         const ShotEvidence unchosen = evidenceWith(KxChoiceRanges::None());
-        const std::vector<double> automatic = Drawn(shot, unchosen, WantedCentres(shot, unchosen, cancel), cancel);
+        const std::vector<double> automatic =
+            Drawn(shot, unchosen, WantedCentres(shot, unchosen, cancel).points, cancel);
         evidence.chosen.LeaveWhatIsHeld(
             [&](std::int64_t frame) { return automatic[static_cast<std::size_t>(frame - shot.first)]; },
             m_geometry.Extent(), m_options.follow.heldShare);
@@ -251,17 +260,17 @@ Decider::ShotEvidence Decider::EvidenceIn(const Shot& shot, const KxChoiceRanges
 std::vector<double> Decider::CentresOf(const Shot& shot, const KxChoiceRanges& choices, const KxCancelToken& cancel)
 {
     const ShotEvidence evidence = EvidenceIn(shot, choices, cancel);
-    std::vector<KxPathPoint> points = WantedCentres(shot, evidence, cancel);
+    Wanted wanted = WantedCentres(shot, evidence, cancel);
     const std::vector<KxHeldRange> held = HeldRanges(choices);
     for (const KxHeldRange& range : held) {
-        for (KxPathPoint& point : points) {
+        for (KxPathPoint& point : wanted.points) {
             point.centre = point.frame >= range.first && point.frame < range.end ? range.centre : point.centre;
         }
     }
-    if (m_request.wantsFindings) {
-        RecordFindings(shot, evidence, points, SamplesOf(shot).begin);
+    std::vector<double> centres = Drawn(shot, evidence, wanted.points, cancel);
+    if (m_request.wantsFindings && !cancel.IsCancelled()) {
+        RecordFindings(shot, evidence, wanted, centres);
     }
-    std::vector<double> centres = Drawn(shot, evidence, points, cancel);
     if (choices.Placed().empty() && choices.Avoided().empty()) {
         FollowSpeaker(shot, cancel, centres);
     }
@@ -330,12 +339,14 @@ std::vector<double> Decider::CentresOnSpeakers(const KxSpeakerChoice& choice,
     return centres;
 }
 
-void Decider::RecordFindings(const Shot& shot, const ShotEvidence& evidence, const std::vector<KxPathPoint>& points,
-                             std::size_t firstSample)
+void Decider::RecordFindings(const Shot& shot, const ShotEvidence& evidence, const Wanted& wanted,
+                             const std::vector<double>& path)
 {
+    const std::vector<KxPathPoint>& points = wanted.points;
+    const std::size_t firstSample = SamplesOf(shot).begin;
+    KxShotConfidence confidence(m_score, m_geometry.Extent() / 2.0, wanted.costPerPosition);
     std::array<float, KxSignalCount> totals{};
     float whole = 0.0F;
-    float inside = 0.0F;
     for (std::size_t i = 0; i < points.size(); ++i) {
         const KxEvidence::Parts parts = evidence.signals.At(firstSample + i);
         KxSubjectFindings::Sample sample;
@@ -343,7 +354,7 @@ void Decider::RecordFindings(const Shot& shot, const ShotEvidence& evidence, con
         sample.wanted = points[i].centre;
         const KxSignalProfile combined = Combined(parts, evidence, firstSample + i);
         whole += combined.Sum();
-        inside += m_score.Inside(points[i].centre, combined);
+        confidence.Add({points[i].centre, path[static_cast<std::size_t>(points[i].frame - shot.first)]}, combined);
         sample.evidence = KxPackedProfile(combined);
         const std::array<const KxSignalProfile*, KxSignalCount> signals{&parts.motion, &parts.movers, &parts.saliency,
                                                                         &parts.faces, &parts.detections};
@@ -354,9 +365,8 @@ void Decider::RecordFindings(const Shot& shot, const ShotEvidence& evidence, con
         m_findings.samples.push_back(sample);
     }
     const auto dominant = std::max_element(totals.begin(), totals.end()) - totals.begin();
-    m_findings.shots.push_back({shot.first, shot.end, static_cast<KxSignal>(dominant),
-                                whole > 0.0F ? inside / whole : 0.0F, whole / static_cast<float>(points.size()),
-                                KxSpeech::None, 0});
+    m_findings.shots.push_back({shot.first, shot.end, static_cast<KxSignal>(dominant), confidence.Value(wanted.total),
+                                whole / static_cast<float>(points.size()), KxSpeech::None, 0});
 }
 
 KxSubjectDecision Decider::Run(const KxCancelToken& cancel)
