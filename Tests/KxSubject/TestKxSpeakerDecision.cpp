@@ -13,7 +13,7 @@ namespace
 
 KxSubjectRequest Request(KxIntSize aspect = {9, 16}, KxSpeakerMode speaker = KxSpeakerMode::Auto)
 {
-    return {aspect.width, aspect.height, KxMotionSpeed::Auto, true, speaker};
+    return {aspect.width, aspect.height, KxMotionSpeed::Auto, true, {}, {}, speaker};
 }
 
 KxSubjectDecision Decide(const KxSubjectRecord& record, const KxSubjectRequest& request = Request())
