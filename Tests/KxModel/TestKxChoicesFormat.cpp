@@ -94,7 +94,7 @@ TEST(KxChoicesFormat, TextThatIsNoListOfChoicesIsRefused)
 
 TEST(KxChoicesFormat, AnInvalidChoiceIsRefusedByItsNumber)
 {
-    ExpectRefused(ProblemOf("{\"kind\":\"folow\"}"), "choice 2 has no known \"kind\"");
+    ExpectRefused(ProblemOf("{\"kind\":\"chase\"}"), "choice 2 has no known \"kind\"");
     ExpectRefused(ProblemOf("7"), "choice 2 has no known \"kind\"");
     ExpectRefused(ProblemOf("{\"kind\":\"follow\"}"), "choice 2 has no \"seeds\"");
     ExpectRefused(ProblemOf("{\"kind\":\"avoid\",\"seeds\":{}}"), "choice 2 has \"seeds\" that are no list");

@@ -28,7 +28,7 @@ KxSubjectRecord Record(std::int64_t frames, const std::vector<std::int64_t>& cut
     return record;
 }
 
-/// The thing goes to and fro, in fractions of the width.
+/// The thing swings from side to side, in fractions of the width.
 double Place(std::int64_t frame)
 {
     return 0.5 + 0.3 * std::sin(0.03 * static_cast<double>(frame));
