@@ -328,8 +328,8 @@ struct KxSubjectOptions {
     } path;
 
     /// The path's reaction at one motion speed. Widths are the picture's unless the crop's is named. Origin: trial. The
-    /// range of a static crop is in crop widths: half of it cannot let the subject leave the crop. The hold of Fast is
-    /// longer than a person's 0.4 s: with 0.4 s the choice changes more often and keeps less of the subject.
+    /// range of a static crop is in crop widths: half of it cannot let the subject leave the crop. The holds of Slow
+    /// and Fast, relative to Auto's, scale the cost of a move: Fast follows what crosses the picture in two seconds.
     struct Reaction {
         double stillRange;       ///< 0.05 to 0.3 crop widths: the crop is static while the subject's range is less
         double deadZone;         ///< 0.03 to 0.3 crop widths
@@ -337,9 +337,9 @@ struct KxSubjectOptions {
         double smoothingSeconds; ///< 0.2 to 3; 1 means the weights of Path
         double holdSeconds;      ///< 0.3 to 2 before the subject changes
     };
-    Reaction slow{0.25, 0.20, 0.08, 1.5, 1.5};
+    Reaction slow{0.25, 0.20, 0.08, 1.5, 0.9};
     Reaction automatic{0.18, 0.15, 0.20, 0.5, 0.8};
-    Reaction fast{0.075, 0.05, 0.45, 0.2, 0.6};
+    Reaction fast{0.075, 0.05, 0.45, 0.2, 0.36};
 
     const Reaction& For(KxMotionSpeed speed) const
     {
