@@ -63,6 +63,8 @@ KrAutoReframeDialog::~KrAutoReframeDialog()
     m_playerView->Pause();
     m_process->StopProcess();
     LeaveSource();
+    // It watches the player's widgets, which are destroyed before it otherwise.
+    delete Extension();
     releaseMediaItem(m_importedMedia);
 }
 
