@@ -1,140 +1,14 @@
-#include <Apps/AutoReframe/Backend/MediaBackendLoader.h>
-#include <Apps/AutoReframe/Exports/ExportQueue.h>
-#include <Apps/AutoReframe/Library/MediaLibraryView.h>
-#include <Apps/AutoReframe/MainWindow.h>
-#include <Apps/AutoReframe/Store/LibraryStore.h>
-#include <Tests/AutoReframe/Backend/FakeMediaBackend.h>
+#include <Tests/AutoReframe/MainWindowTest.h>
 
-#include <KxWidgets/Windows/KxFileResponder.h>
-#include <KxWidgets/Windows/KxMessageResponder.h>
-
-#include <QAbstractButton>
 #include <QApplication>
-#include <QDesktopServices>
 #include <QDir>
 #include <QDropEvent>
-#include <QLabel>
 #include <QMimeData>
 #include <QProcess>
-#include <QProgressBar>
 #include <QScreen>
 #include <QStandardPaths>
-#include <QTemporaryDir>
-#include <QTest>
-#include <QUrl>
-
-#include <gtest/gtest.h>
 
 #include <future>
-
-namespace
-{
-
-/// Stands in for the system's file manager.
-class FileManager : public QObject
-{
-    Q_OBJECT
-public:
-    QStringList shown;
-
-public Q_SLOTS:
-    void Show(const QUrl& folder) { shown += folder.toLocalFile(); }
-};
-
-class TestMainWindow : public testing::Test
-{
-protected:
-    void SetUp() override
-    {
-        qputenv("KX_CONFIG_FILE", m_folder.filePath(QStringLiteral("config.ini")).toLocal8Bit());
-        KrMessageDialog::SetResponder([this](const KrMessageDialog::Shown& shown) {
-            m_boxes += shown.text;
-            return m_answer;
-        });
-        m_window = std::make_unique<MainWindow>(m_loader, m_store);
-        QDesktopServices::setUrlHandler(QStringLiteral("file"), &m_fileManager, "Show");
-        m_window->show();
-    }
-    void TearDown() override
-    {
-        m_window.reset();
-        QDesktopServices::unsetUrlHandler(QStringLiteral("file"));
-        KrMessageDialog::SetResponder({});
-        KxFileDialog::SetResponder({});
-        qputenv("KX_CONFIG_FILE", m_folder.filePath(QStringLiteral("none.ini")).toLocal8Bit());
-    }
-
-    template<typename T>
-    T* Child(const char* name) const
-    {
-        return m_window->findChild<T*>(QLatin1String(name));
-    }
-    QString Text(const char* name) const { return Child<QLabel>(name)->text(); }
-    QAbstractButton* Button(const char* name) const { return Child<QAbstractButton>(name); }
-    MediaLibraryView* View() const { return Child<MediaLibraryView>("MediaLibrary"); }
-
-    void Open(const QStringList& names)
-    {
-        QStringList paths;
-        for (const QString& name : names) {
-            paths += m_folder.filePath(name);
-        }
-        m_window->Open(paths);
-    }
-    bool WaitForStatus(const QString& text) const
-    {
-        return QTest::qWaitFor([&] { return Text("StatusBar_text") == text; }, 10000);
-    }
-    bool WaitUntilUsable() const
-    {
-        return QTest::qWaitFor([&] { return Button("TopBar_reframe")->isEnabled(); }, 10000);
-    }
-    bool WaitUntilAllAreOpen() const
-    {
-        return QTest::qWaitFor(
-            [&] {
-                const QAbstractItemModel& model = *View()->model();
-                for (int row = 0; row + 1 < model.rowCount(); ++row) {
-                    const QString details = model.index(row, 0).data(Qt::AccessibleDescriptionRole).toString();
-                    if (!details.endsWith(QLatin1String("fps"))) {
-                        return false;
-                    }
-                }
-                return true;
-            },
-            10000);
-    }
-    ExportRequest Request(const QString& name) const
-    {
-        ExportRequest request;
-        request.settings.outputPath = m_folder.filePath(name);
-        request.settings.resolution = QSize(608, 1080);
-        return request;
-    }
-    void ExportInDialog(const QString& name)
-    {
-        m_backend->inDialog = [this, name](const DialogCallbacks& callbacks) {
-            callbacks.exportRequested(Request(name));
-        };
-        Button("TopBar_reframe")->click();
-    }
-    bool WaitForCard(const QString& status) const
-    {
-        return QTest::qWaitFor([&] { return Text("ExportCard_status") == status; }, 10000);
-    }
-
-    QTemporaryDir m_folder;
-    std::shared_ptr<FakeMediaBackend> m_backend = std::make_shared<FakeMediaBackend>();
-    MediaBackendLoader m_loader{[this] { return KxResult<std::shared_ptr<MediaBackend>>(m_backend); }, nullptr};
-    /// Saves nothing.
-    LibraryStore m_store{QString(), nullptr};
-    QStringList m_boxes;
-    bool m_answer = false;
-    FileManager m_fileManager;
-    std::unique_ptr<MainWindow> m_window;
-};
-
-} // namespace
 
 TEST_F(TestMainWindow, StartsEmptyAndWithoutTheBackend)
 {
@@ -354,83 +228,6 @@ TEST_F(TestMainWindow, ATooSlowComputerIsReported)
     EXPECT_TRUE(m_boxes.first().startsWith(QLatin1String("This computer may be too slow")));
 }
 
-TEST_F(TestMainWindow, ACardShowsTheStatesOfItsExport)
-{
-    Open({QStringLiteral("a.mp4")});
-    ASSERT_TRUE(WaitUntilUsable());
-    ExportInDialog(QStringLiteral("out.mp4"));
-    EXPECT_EQ(Text("ExportCard_name"), QStringLiteral("out.mp4"));
-    EXPECT_EQ(Text("ExportCard_size"), QStringLiteral("608 × 1080"));
-    m_backend->task->callbacks.progress(6250);
-    ASSERT_TRUE(WaitForCard(QStringLiteral("62 %")));
-    EXPECT_EQ(Child<QProgressBar>("ExportCard_progress")->value(), 6250);
-
-    QFile written(m_folder.filePath(QStringLiteral("out.mp4")));
-    ASSERT_TRUE(written.open(QIODevice::WriteOnly) && written.resize(34LL * 1024 * 1024));
-    m_backend->task->EndWell();
-    ASSERT_TRUE(WaitForCard(QStringLiteral("Done · 34 MB")));
-    EXPECT_FALSE(Button("ExportCard_cancel")->isVisible());
-    Button("ExportCard_show")->click();
-    EXPECT_EQ(m_fileManager.shown, QStringList(m_folder.path()));
-    Button("ExportPanel_clear")->click();
-    EXPECT_TRUE(Child<QLabel>("ExportPanel_hint")->isVisible());
-}
-
-TEST_F(TestMainWindow, CardsDoNotMoveWhenTheFirstExportEnds)
-{
-    Open({QStringLiteral("a.mp4")});
-    ASSERT_TRUE(WaitUntilUsable());
-    ExportInDialog(QStringLiteral("out.mp4"));
-    QApplication::sendPostedEvents();
-    const QPoint before = Child<QWidget>("ExportCard")->mapTo(m_window.get(), QPoint());
-    m_backend->task->EndWell();
-    ASSERT_TRUE(QTest::qWaitFor([&] { return Button("ExportPanel_clear")->isVisible(); }, 10000));
-    QApplication::sendPostedEvents();
-    EXPECT_EQ(Child<QWidget>("ExportCard")->mapTo(m_window.get(), QPoint()), before);
-}
-
-TEST_F(TestMainWindow, AFailedExportShowsItsReasonAndCanBeRetried)
-{
-    Open({QStringLiteral("a.mp4")});
-    ASSERT_TRUE(WaitUntilUsable());
-    ExportInDialog(QStringLiteral("out.mp4"));
-    m_backend->task->End({KxOutcome::Failed, QStringLiteral("The disk is full."), QString(), QString()});
-    ASSERT_TRUE(WaitForCard(QStringLiteral("The disk is full.")));
-    EXPECT_EQ(Child<QLabel>("ExportCard_status")->property("textRole").toString(), QStringLiteral("error"));
-    Button("ExportCard_retry")->click();
-    EXPECT_NE(m_backend->task, nullptr);
-    EXPECT_TRUE(WaitForCard(QStringLiteral("0 %")));
-}
-
-TEST_F(TestMainWindow, TheCrossCancelsAnExport)
-{
-    Open({QStringLiteral("a.mp4")});
-    ASSERT_TRUE(WaitUntilUsable());
-    ExportInDialog(QStringLiteral("out.mp4"));
-    Button("ExportCard_cancel")->click();
-    EXPECT_TRUE(WaitForCard(QStringLiteral("Cancelled")));
-    EXPECT_TRUE(Button("ExportCard_retry")->isVisible());
-}
-
-TEST_F(TestMainWindow, QuittingAsksWhileExportsRun)
-{
-    Open({QStringLiteral("a.mp4")});
-    ASSERT_TRUE(WaitUntilUsable());
-    ExportInDialog(QStringLiteral("out.mp4"));
-    EXPECT_FALSE(m_window->close());
-    EXPECT_TRUE(m_window->isVisible());
-    EXPECT_EQ(m_boxes.size(), 1);
-    m_answer = true;
-    EXPECT_TRUE(m_window->close());
-    EXPECT_TRUE(m_backend->task->isCancelled);
-}
-
-TEST_F(TestMainWindow, QuittingWithoutExportsAsksNothing)
-{
-    EXPECT_TRUE(m_window->close());
-    EXPECT_TRUE(m_boxes.isEmpty());
-}
-
 TEST_F(TestMainWindow, TheFirstWindowFitsOnASmallScreen)
 {
     const QRect screen = m_window->screen()->availableGeometry();
@@ -517,5 +314,3 @@ TEST_F(TestMainWindow, EveryControlHasANameAndIsReachedWithTab)
         }
     }
 }
-
-#include "TestMainWindow.moc"
