@@ -21,9 +21,19 @@ KxSubjectRecord Record(std::int64_t first, const std::vector<double>& decibels)
     return record;
 }
 
-void Append(std::vector<double>& decibels, int count, double level)
+struct Stretch {
+    std::size_t count;
+    double decibels;
+};
+
+/// From the beginning on.
+KxSubjectRecord Record(const std::vector<Stretch>& stretches)
 {
-    decibels.insert(decibels.end(), static_cast<std::size_t>(count), level);
+    std::vector<double> decibels;
+    for (const Stretch& stretch : stretches) {
+        decibels.insert(decibels.end(), stretch.count, stretch.decibels);
+    }
+    return Record(0, decibels);
 }
 
 } // namespace
@@ -41,11 +51,8 @@ TEST(KxHeardSound, APartWithoutSoundIsUnknown)
 
 TEST(KxHeardSound, TheGateIsOpenWhileItIsLoud)
 {
-    std::vector<double> decibels;
-    Append(decibels, 100, -65.0);
-    Append(decibels, 100, -25.0);
-    Append(decibels, 100, -65.0);
-    const KxHeardSound sound(Record(0, decibels), Options, 50, 250);
+    const KxSubjectRecord record = Record({{100, -65.0}, {100, -25.0}, {100, -65.0}});
+    const KxHeardSound sound(record, Options, 50, 250);
     ASSERT_EQ(sound.Gate().size(), 200U);
     ASSERT_EQ(sound.Scores().size(), 200U);
     EXPECT_FALSE(sound.Gate()[20]);
@@ -56,25 +63,17 @@ TEST(KxHeardSound, TheGateIsOpenWhileItIsLoud)
 
 TEST(KxHeardSound, APauseWithinAWordDoesNotCloseTheGate)
 {
-    std::vector<double> decibels;
-    Append(decibels, 100, -65.0);
-    Append(decibels, 50, -25.0);
-    Append(decibels, 6, -65.0);
-    Append(decibels, 50, -25.0);
-    Append(decibels, 40, -65.0);
-    Append(decibels, 50, -25.0);
-    const KxHeardSound sound(Record(0, decibels), Options, 0, 296);
+    const KxSubjectRecord record =
+        Record({{100, -65.0}, {50, -25.0}, {6, -65.0}, {50, -25.0}, {40, -65.0}, {50, -25.0}});
+    const KxHeardSound sound(record, Options, 0, 296);
     EXPECT_TRUE(sound.Gate()[153]);
     EXPECT_FALSE(sound.Gate()[225]);
 }
 
 TEST(KxHeardSound, SteadyNoiseIsNoSpeech)
 {
-    std::vector<double> decibels;
-    Append(decibels, 300, -40.0);
-    Append(decibels, 200, -20.0);
-    Append(decibels, 300, -40.0);
-    const KxHeardSound sound(Record(0, decibels), Options, 0, 800);
+    const KxSubjectRecord record = Record({{300, -40.0}, {200, -20.0}, {300, -40.0}});
+    const KxHeardSound sound(record, Options, 0, 800);
     EXPECT_FALSE(sound.Gate()[100]);
     EXPECT_TRUE(sound.Gate()[400]);
     EXPECT_FALSE(sound.Gate()[700]);
