@@ -91,7 +91,10 @@ void KrAutoReframeDialog::slotAnalysisFinished(bool success)
     m_progressDialog->hide();
     KrDialogExtension* const extension = Extension();
     const bool staysAtFrame = extension != nullptr && extension->StaysAtFrame();
-    if (!success || !m_playerView->SwitchTimeline(false, !staysAtFrame)) {
+    if (!success) {
+        return;
+    }
+    if (!(staysAtFrame ? m_playerView->ShowResultsAtFrame() : m_playerView->SwitchTimeline(false, true))) {
         return;
     }
     m_propertyPanel->SetPreviewEnabled(true);

@@ -159,11 +159,25 @@ bool KrAutoReframePlayerView::SwitchTimeline(bool reframed, bool fromStart)
     }
     m_isReframedShown = reframed;
     m_isOverlayHiddenByError = false;
-    m_shadowForm->setVisible(!reframed);
+    UpdateOverlay();
+    return true;
+}
+
+bool KrAutoReframePlayerView::ShowResultsAtFrame()
+{
+    if (m_isReframedShown || m_isOverlayHiddenByError || !m_helper || m_helper->GetDisplayResults().isEmpty()) {
+        return SwitchTimeline(false, false);
+    }
+    UpdateOverlay();
+    return true;
+}
+
+void KrAutoReframePlayerView::UpdateOverlay()
+{
+    m_shadowForm->setVisible(!m_isReframedShown);
     RefreshFrame(m_presenter->currentFrame());
     UpdatePictureSize();
     UpdateOverlayGeometry();
-    return true;
 }
 
 void KrAutoReframePlayerView::UpdateOverlayGeometry()

@@ -50,6 +50,9 @@ public:
     /// picture. Without `fromStart` the player stays at the current frame. Without results it does nothing and returns
     /// false.
     bool SwitchTimeline(bool reframed, bool fromStart);
+    /// SwitchTimeline(false, false), but where the source is shown already it is not opened again: the picture stays
+    /// while its crop changes.
+    bool ShowResultsAtFrame();
     /// Places the overlay over the video picture. Call it when the dialog was moved: the overlay is a window of its
     /// own, unless windows cannot overlay each other. The picture's position is used as the player reports it; only its
     /// size is converted from device pixels.
@@ -67,6 +70,7 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
+    void UpdateOverlay();
     void InitLayout();
     void ConnectSignals();
 

@@ -56,6 +56,17 @@ TEST_F(KrDialogExtensionTest, AnotherAnalysisStaysAtTheFrameAndDoesNotPlay)
     FakePlayer::ShowFrame(*presenter, 40);
     Player().calls.clear();
     Analyse();
+    EXPECT_EQ(Player().calls, QStringList{QStringLiteral("pause")}) << "the picture would be black meanwhile";
+}
+
+TEST_F(KrDialogExtensionTest, AnotherAnalysisLeavesThePreview)
+{
+    Load(Video(clip));
+    Analyse();
+    view->SwitchTimeline(true, false);
+    FakePlayer::ShowFrame(*presenter, 40);
+    Player().calls.clear();
+    Analyse();
     EXPECT_EQ(Player().calls,
               (QStringList{QStringLiteral("pause"), QStringLiteral("open true false"), QStringLiteral("seek 40 0 0")}));
 }
