@@ -4,12 +4,12 @@ include(CMakePackageConfigHelpers)
 
 # ./run builds one program. The installation builds the other installed targets.
 add_custom_target(installed-parts)
-add_dependencies(installed-parts KxCore KxMedia KxSubject KxModel KxRender KxWidgets KxPlayer KxMediaLibrary KrAutoReframe
+add_dependencies(installed-parts KxCore KxMedia KxSubject KxModel KxRender KxEditList KxWidgets KxPlayer KxMediaLibrary KrAutoReframe
     reframe auto-reframe AutoReframeBackend)
 install(CODE "execute_process(
     COMMAND \"${CMAKE_COMMAND}\" --build \"${CMAKE_BINARY_DIR}\" --target installed-parts COMMAND_ERROR_IS_FATAL ANY)")
 
-install(TARGETS KxInterfaces KxCore KxMedia KxSubject KxModel KxRender KxWidgets KxPlayer KxMediaLibrary KrAutoReframe
+install(TARGETS KxInterfaces KxCore KxMedia KxSubject KxModel KxRender KxEditList KxWidgets KxPlayer KxMediaLibrary KrAutoReframe
     EXPORT KrAutoReframeTargets
     RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}"
     LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"

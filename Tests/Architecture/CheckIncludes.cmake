@@ -12,10 +12,11 @@ set(MAY_USE_KxMedia "KxCore")
 set(MAY_USE_KxSubject "KxCore")
 set(MAY_USE_KxModel "KxCore;KxMedia;KxSubject")
 set(MAY_USE_KxRender "KxCore;KxMedia;KxModel")
+set(MAY_USE_KxEditList "KxCore")
 set(MAY_USE_KxWidgets "KxCore")
 set(MAY_USE_KxPlayer "KxCore;KxMedia;KxModel;KxWidgets")
 set(MAY_USE_KxMediaLibrary "KxCore;KxMedia;KxModel;KxWidgets")
-set(MAY_USE_Apps "KrAutoReframe;KxCore;KxMedia;KxModel;KxPlayer;KxRender;KxSubject;KxMediaLibrary;KxWidgets")
+set(MAY_USE_Apps "KrAutoReframe;KxCore;KxEditList;KxMedia;KxModel;KxPlayer;KxRender;KxSubject;KxMediaLibrary;KxWidgets")
 
 # Whose headers below include/ each library may include.
 set(INTERFACES_include "KxCore;KxModel;KxMediaLibrary;KxPlayer;KxWidgets;KrAutoReframe")
@@ -25,6 +26,7 @@ set(INTERFACES_KxMedia "KxCore")
 set(INTERFACES_KxSubject "KxCore")
 set(INTERFACES_KxModel "KxCore;KxModel")
 set(INTERFACES_KxRender "KxCore;KxModel")
+set(INTERFACES_KxEditList "KxCore")
 set(INTERFACES_KxWidgets "KxCore;KxWidgets")
 set(INTERFACES_KxPlayer "KxCore;KxModel;KxPlayer;KxWidgets")
 set(INTERFACES_KxMediaLibrary "KxCore;KxModel;KxMediaLibrary;KxWidgets")
@@ -75,7 +77,7 @@ only_in("^(unistd|fcntl|signal|termios|dlfcn|pthread|io|windows|commdlg|direct)[
 only_in("^Q(tWidgets|Application|Widget|Dialog|MessageBox|Label|PushButton|ToolButton|FileDialog|Undo.*|.*Layout)$"
     KrAutoReframe KxWidgets KxPlayer KxMediaLibrary Apps include)
 only_in("^Q[A-Z]"
-    KrAutoReframe KxCore KxMedia KxModel KxRender KxWidgets KxPlayer KxMediaLibrary Apps include)
+    KrAutoReframe KxCore KxMedia KxModel KxRender KxEditList KxWidgets KxPlayer KxMediaLibrary Apps include)
 
 # A file that may know foreign headers which its folder may not. The system's file chooser is an interface of the host, so its
 # record comes from the system where there is one.

@@ -45,6 +45,12 @@
 #define KXRENDER_API KX_SYMBOL_IMPORT
 #endif
 
+#if defined(KxEditList_EXPORTS)
+#define KXEDITLIST_API KX_SYMBOL_EXPORT
+#else
+#define KXEDITLIST_API KX_SYMBOL_IMPORT
+#endif
+
 #if defined(KxWidgets_EXPORTS)
 #define KXWIDGETS_API KX_SYMBOL_EXPORT
 #else
