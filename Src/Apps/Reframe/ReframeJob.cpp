@@ -45,9 +45,10 @@ KxOutcome ReframeJob::Run()
 
 KxOutcome ReframeJob::RunSteps()
 {
-    for (Ended (ReframeJob::*step)() : {&ReframeJob::Open, &ReframeJob::ReadTrack, &ReframeJob::ReadChoices,
-                                        &ReframeJob::CheckTargets, &ReframeJob::FindCrops, &ReframeJob::WriteKeyframes,
-                                        &ReframeJob::WriteReport, &ReframeJob::WritePreview, &ReframeJob::WriteVideo}) {
+    for (Ended (ReframeJob::*step)() :
+         {&ReframeJob::Open, &ReframeJob::ReadTrack, &ReframeJob::ReadChoices, &ReframeJob::CheckTargets,
+          &ReframeJob::FindCrops, &ReframeJob::WriteKeyframes, &ReframeJob::WriteEditLists, &ReframeJob::WriteReport,
+          &ReframeJob::WritePreview, &ReframeJob::WriteVideo}) {
         if (KxInterrupt::IsRequested()) {
             return KxOutcome::Cancelled;
         }
@@ -134,6 +135,9 @@ ReframeJob::Ended ReframeJob::CheckTargets()
     QStringList targets;
     if (!m_options.keyframes.isEmpty()) {
         targets += TargetPath(m_options.keyframes, QStringLiteral("json"));
+    }
+    for (const QString& editList : m_options.editLists) {
+        targets += EditListPath(editList);
     }
     if (!m_options.report.isEmpty()) {
         targets += TargetPath(m_options.report, QStringLiteral("html"));
@@ -310,6 +314,13 @@ KxOutcome ReframeJob::Fail(const QString& message)
 KxOutcome ReframeJob::FailUnlessInterrupted(const QString& message)
 {
     return KxInterrupt::IsRequested() ? KxOutcome::Cancelled : Fail(message);
+}
+
+KxOutcome ReframeJob::FailTooSmall()
+{
+    const QSize size = static_cast<const KxClip*>(m_media->clip())->StreamInfo().resolution();
+    return Fail(QStringLiteral("Cannot reframe %1: its picture of %2 x %3 pixels is too small.")
+                    .arg(m_input, QString::number(size.width()), QString::number(size.height())));
 }
 
 QString ReframeJob::TargetPath(const QString& named, const QString& suffix) const

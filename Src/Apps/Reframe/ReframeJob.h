@@ -6,6 +6,7 @@
 #include <KxCore/KxCancelToken.h>
 #include <KxCore/KxOutputFile.h>
 #include <KxCore/KxResult.h>
+#include <KxEditList/KxCroppedClip.h>
 #include <KxModel/KxMediaItem.h>
 #include <KxRender/KxRenderer.h>
 
@@ -47,6 +48,7 @@ private:
     /// Notes the shots with their confidence as a fact.
     void NoteShots();
     Ended WriteKeyframes();
+    Ended WriteEditLists();
     Ended WriteReport();
     Ended WritePreview();
     Ended WritePreviewVideo();
@@ -57,10 +59,15 @@ private:
 
     KrAutoReframeHelper& Helper() const;
     CropTrack Track() const;
+    /// The crops as other programs need them.
+    KxCroppedClip CroppedClip() const;
+    /// The file that a value of --edit-list means.
+    QString EditListPath(const QString& named) const;
     /// The content of a contact sheet file; `format` is one of QImageWriter.
     KxResult<QByteArray> ContactSheetFile(const char* format) const;
     KxOutcome Fail(const QString& message);
     KxOutcome FailUnlessInterrupted(const QString& message);
+    KxOutcome FailTooSmall();
     /// The file `named` itself; if that is a folder, a file in it that is named after the input; if it is empty, such a
     /// file beside the input.
     QString TargetPath(const QString& named, const QString& suffix) const;

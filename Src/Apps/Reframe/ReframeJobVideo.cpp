@@ -38,9 +38,7 @@ ReframeJob::Ended ReframeJob::WriteVideo()
     }
     KxRenderSettings settings = SettingsFor(*m_media, Helper().GetDisplayResults().first().cropRect());
     if (settings.resolution.isEmpty()) {
-        const QSize size = static_cast<const KxClip*>(m_media->clip())->StreamInfo().resolution();
-        return Fail(QStringLiteral("Cannot reframe %1: its picture of %2 x %3 pixels is too small.")
-                        .arg(m_input, QString::number(size.width()), QString::number(size.height())));
+        return FailTooSmall();
     }
     settings.outputPath = TargetPath(m_options.output, QStringLiteral("mp4"));
     settings.existing = WhenItExists(settings.outputPath);

@@ -4,6 +4,7 @@
 
 #include <KxCore/KxPlatform.h>
 #include <KxCore/KxWildcards.h>
+#include <KxEditList/KxEditList.h>
 #include <KxModel/KxDetectorFiles.h>
 
 #include <QCommandLineParser>
@@ -29,6 +30,12 @@ struct Definitions {
     QCommandLineOption keyframes{QStringLiteral("keyframes"),
                                  QStringLiteral("Write the crop of every frame, as .json or .csv."),
                                  QStringLiteral("FILE")};
+    QCommandLineOption editList{QStringLiteral("edit-list"),
+                                QStringLiteral("Write the crop as a project or as keyframes for another program: "
+                                               ".mlt, .kdenlive, .fcpxml, .txt (After Effects) or .ffscript "
+                                               "(ffmpeg). A suffix alone, such as mlt, names the file after the "
+                                               "video. May be given several times."),
+                                QStringLiteral("FILE|SUFFIX")};
     QCommandLineOption apply{QStringLiteral("apply"), QStringLiteral("Take the crops from FILE instead of analysing."),
                              QStringLiteral("FILE")};
     QCommandLineOption choices{QStringLiteral("choices"),
@@ -65,7 +72,7 @@ struct Definitions {
 
     QList<QCommandLineOption> All() const
     {
-        return {aspect,  speed,  speaker, follow,  choices,   cache, output, keyframes, apply,
+        return {aspect,  speed,  speaker, follow,  choices,   cache, output, keyframes, editList, apply,
                 preview, report, models,  noVideo, overwrite, json,  quiet,  help,      version};
     }
 };
@@ -166,6 +173,18 @@ QString Contradiction(const ReframeOptions& options)
         return QStringLiteral("--choices and --follow guide the analysis, and with --apply there is none.");
     }
     const bool isOne = options.inputs.size() == 1 && options.aspects.size() == 1;
+    for (const QString& editList : options.editLists) {
+        const bool isSuffix = KxEditList::Suffixes().contains(editList.toLower());
+        if (!isSuffix && !KxEditList::Suffixes().contains(QFileInfo(editList).suffix().toLower())) {
+            return QStringLiteral("--edit-list takes the name of a .%1 file or such a suffix alone; %2 is neither.")
+                .arg(KxEditList::Suffixes().join(QStringLiteral(", .")), editList);
+        }
+        if (!isSuffix && !isOne) {
+            return QStringLiteral("With several inputs or aspect ratios --edit-list takes a suffix alone; write %1 "
+                                  "instead of %2.")
+                .arg(QFileInfo(editList).suffix().toLower(), editList);
+        }
+    }
     for (const Target& target : Targets(options)) {
         if (!isOne && target.IsFile()) {
             return QStringLiteral("With several inputs or aspect ratios %1 must name an existing folder; %2 is none.")
@@ -259,6 +278,7 @@ ReframeOptions::Parsed ReframeOptions::Parse(const QStringList& arguments)
                                                          : KxWildcards::Expand(parser.positionalArguments());
     options.output = parser.value(definitions.output);
     options.keyframes = parser.value(definitions.keyframes);
+    options.editLists = parser.values(definitions.editList);
     options.apply = parser.value(definitions.apply);
     options.preview = parser.value(definitions.preview);
     options.report = parser.value(definitions.report);

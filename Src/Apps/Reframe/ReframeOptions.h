@@ -16,6 +16,7 @@ struct ReframeOptions {
     bool followsSpeaker = true;                 ///< where several people talk
     QString output;                             ///< file or folder; empty: beside each input
     QString keyframes;                          ///< file (folder for several results); empty: none
+    QStringList editLists;                      ///< files, or only their suffixes
     QString apply;                              ///< a crop track that replaces the analysis; empty: none
     QString choices;                            ///< a file of a person's choices; empty: none
     QList<FollowOption> follow;                 ///< what the crop must follow, besides those

@@ -13,7 +13,8 @@ int ReframeProgram::Run(const ReframeOptions& options)
     KxAutoReframeService::PrepareProgram();
     const KxDetectorFiles::NetworkFolder networks = KxDetectorFiles::FindNetworks(options.models);
     KxAutoReframeService::Instance().SetNetworkFolder(networks.path);
-    const bool explains = !options.report.isEmpty() || options.PreviewIsVideo() || options.json;
+    const bool explains =
+        !options.report.isEmpty() || options.PreviewIsVideo() || options.json || !options.editLists.isEmpty();
     KxAutoReframeService::Instance().SetFindings(explains ? KxAutoReframeService::Findings::Keep
                                                           : KxAutoReframeService::Findings::Drop);
     KxAutoReframeService::Instance().SetSpeakers(options.followsSpeaker ? KxAutoReframeService::Speakers::Follow

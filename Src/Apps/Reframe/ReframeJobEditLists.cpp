@@ -1,0 +1,59 @@
+#include <Apps/Reframe/ReframeJob.h>
+
+#include <KrAutoReframe/Engine/KrAutoReframeHelper.h>
+#include <KrAutoReframe/Engine/KrExportParameters.h>
+#include <KxEditList/KxEditList.h>
+#include <KxModel/KxAutoReframeService.h>
+#include <KxSubject/KxSubjectFindings.h>
+
+#include <QFileInfo>
+
+QString ReframeJob::EditListPath(const QString& named) const
+{
+    // Nothing but a suffix: named like the video, and in its folder if there is one.
+    if (KxEditList::Suffixes().contains(named.toLower())) {
+        return TargetPath(QFileInfo(m_options.output).isDir() ? m_options.output : QString(), named.toLower());
+    }
+    return named;
+}
+
+KxCroppedClip ReframeJob::CroppedClip() const
+{
+    const auto& stream = static_cast<const KxClip*>(m_media->clip())->StreamInfo();
+    KxCroppedClip clip;
+    clip.path = QFileInfo(m_input).absoluteFilePath();
+    clip.size = stream.resolution();
+    clip.frameRate = stream.frameRate();
+    clip.hasSound = stream.hasAudioStream();
+    const QList<IKxAutoReframeResult> crops = Helper().GetDisplayResults();
+    clip.outputSize = KrExportParameters::EvenResolution(clip.size, crops.first().cropRect());
+    for (const IKxAutoReframeResult& crop : crops) {
+        clip.crops.push_back(crop.cropRect());
+    }
+    const std::shared_ptr<const KxSubjectFindings> findings = KxAutoReframeService::Instance().LastFindings();
+    if (!m_track && findings != nullptr) {
+        for (const KxSubjectFindings::Shot& shot : findings->shots) {
+            clip.shotStarts.push_back(shot.first);
+        }
+    }
+    return clip;
+}
+
+ReframeJob::Ended ReframeJob::WriteEditLists()
+{
+    if (m_options.editLists.isEmpty()) {
+        return std::nullopt;
+    }
+    const KxCroppedClip clip = CroppedClip();
+    if (clip.outputSize.isEmpty()) {
+        return FailTooSmall();
+    }
+    for (const QString& named : m_options.editLists) {
+        const QString path = EditListPath(named);
+        const QString suffix = QFileInfo(path).suffix();
+        if (const Ended ended = WriteFile(path, KxEditList::Text(clip, suffix), suffix.toLower())) {
+            return ended;
+        }
+    }
+    return std::nullopt;
+}
