@@ -17,17 +17,24 @@ int EnlargementOf(const QSize& picture)
 
 QByteArray Number(double value)
 {
-    return QByteArray::number(value, 'f', 4);
+    return QByteArray::number(value, 'f', 6);
 }
 
+QByteArray WholeNumber(double value)
+{
+    return QByteArray::number(std::round(value), 'f', 0);
+}
+
+/// One number that moves, and the filter that it steers.
 struct Side {
-    const char* option; ///< of the filter `crop`
-    double (*of)(const QRectF& crop);
+    const char* filter;
+    const char* option;
+    double (*of)(const QRectF& place);
 };
-constexpr std::array<Side, 4> Sides{{{"w", [](const QRectF& crop) { return crop.width(); }},
-                                     {"h", [](const QRectF& crop) { return crop.height(); }},
-                                     {"x", [](const QRectF& crop) { return crop.x(); }},
-                                     {"y", [](const QRectF& crop) { return crop.y(); }}}};
+constexpr std::array<Side, 4> Sides{{{"scale", "w", [](const QRectF& place) { return place.width(); }},
+                                     {"scale", "h", [](const QRectF& place) { return place.height(); }},
+                                     {"crop", "x", [](const QRectF& place) { return -place.x(); }},
+                                     {"crop", "y", [](const QRectF& place) { return -place.y(); }}}};
 
 class Writer
 {
@@ -44,7 +51,7 @@ public:
 private:
     /// Seconds; half a frame early, so that rounded times of frames lie safely inside the intervals.
     double StartOf(qint64 frame) const { return (static_cast<double>(frame) - 0.5) / m_clip.frameRate.ToDouble(); }
-    QRectF EnlargedCrop(const KxPlacementKey& key) const;
+    QRectF EnlargedPlace(const KxPlacementKey& key) const;
     /// What changes from `key` until the frame of `next`.
     QByteArray Interval(const KxPlacementKey& key, const KxPlacementKey& next) const;
     QByteArray Commands() const;
@@ -54,31 +61,29 @@ private:
     int m_enlargement;
 };
 
-QRectF Writer::EnlargedCrop(const KxPlacementKey& key) const
+QRectF Writer::EnlargedPlace(const KxPlacementKey& key) const
 {
-    const QRectF crop = KxPlacementKeys::CropOf(m_clip, key.place);
-    return {crop.topLeft() * m_enlargement, crop.size() * m_enlargement};
+    return {key.place.topLeft() * m_enlargement, key.place.size() * m_enlargement};
 }
 
 QByteArray Writer::Interval(const KxPlacementKey& key, const KxPlacementKey& next) const
 {
-    const QRectF from = EnlargedCrop(key);
-    const QRectF to = key.holds ? from : EnlargedCrop(next);
+    const QRectF from = EnlargedPlace(key);
+    const QRectF to = key.holds ? from : EnlargedPlace(next);
     const double rate = m_clip.frameRate.ToDouble();
     const double seconds = static_cast<double>(next.frame - key.frame) / rate;
     QByteArray commands;
     for (const Side& side : Sides) {
         const double perSecond = (side.of(to) - side.of(from)) / seconds;
+        const QByteArray target = QByteArray(side.filter) + " " + side.option + " ";
         // Numbers that do not change are sent once, when the interval begins.
-        const QByteArray command =
-            perSecond == 0.0 ? "[enter] crop " + QByteArray(side.option) + " " + Number(std::round(side.of(from)))
-                             : "[expr] crop " + QByteArray(side.option) + " round(" + Number(side.of(from)) + "+(" +
-                                   QByteArray::number(perSecond, 'f', 6) + ")*(T-" +
-                                   QByteArray::number(static_cast<double>(key.frame) / rate, 'f', 6) + "))";
+        const QByteArray command = perSecond == 0.0 ? "[enter] " + target + WholeNumber(side.of(from))
+                                                    : "[expr] " + target + "round(" + Number(side.of(from)) + "+(" +
+                                                          Number(perSecond) + ")*(T-" +
+                                                          Number(static_cast<double>(key.frame) / rate) + "))";
         commands += (commands.isEmpty() ? "" : ", ") + command;
     }
-    return QByteArray::number(std::max(0.0, StartOf(key.frame)), 'f', 6) + "-" +
-           QByteArray::number(StartOf(next.frame), 'f', 6) + " " + commands;
+    return Number(std::max(0.0, StartOf(key.frame))) + "-" + Number(StartOf(next.frame)) + " " + commands;
 }
 
 QByteArray Writer::Commands() const
@@ -96,19 +101,18 @@ QByteArray Writer::Commands() const
 
 QByteArray Writer::Text() const
 {
-    const QRectF first = EnlargedCrop(m_keys.front());
+    const QRectF first = EnlargedPlace(m_keys.front());
     const auto size = [](const QSize& pixels) {
         return QByteArray::number(pixels.width()) + ":" + QByteArray::number(pixels.height());
     };
-    QByteArray options;
-    for (const Side& side : Sides) {
-        options += ":" + QByteArray(side.option) + "=" + Number(std::round(side.of(first)));
-    }
-    // All colour samples lie on pixels, so that every pixel can be cut at.
+    // All colour samples lie on pixels, so that every pixel can be cut at. The filter `crop` has to follow `scale`
+    // directly: only then it learns of another size.
     return "setpts=PTS-STARTPTS,\nfps=" + QByteArray::number(m_clip.frameRate.numerator) + "/" +
-           QByteArray::number(m_clip.frameRate.denominator) + ",\nscale=" + size(m_clip.size * m_enlargement) +
-           ":flags=bicubic,\nsetsar=1,\nformat=yuv444p,\nsendcmd=c='" + Commands() + "',\ncrop=exact=1" + options +
-           ",\nscale=" + size(m_clip.outputSize) + ":flags=bicubic,\nsetsar=1,\nformat=yuv420p\n";
+           QByteArray::number(m_clip.frameRate.denominator) + ",\nformat=yuv444p,\nsendcmd=c='" + Commands() +
+           "',\nscale=" + WholeNumber(first.width()) + ":" + WholeNumber(first.height()) +
+           ":flags=bicubic,\ncrop=" + size(m_clip.outputSize * m_enlargement) + ":" + WholeNumber(-first.x()) + ":" +
+           WholeNumber(-first.y()) + ":exact=1,\nscale=" + size(m_clip.outputSize) +
+           ":flags=bicubic,\nsetsar=1,\nformat=yuv420p\n";
 }
 
 } // namespace

@@ -14,14 +14,17 @@ QString Number(double value)
     return QString::number(value, 'f', 4);
 }
 
+/// The filter `qtblend` moves a picture of unchanged size in whole pixels; one that is wider by this much moves evenly.
+constexpr double WiderPx = 0.01;
+
 /// MLT's animation syntax: `=` is linear until the next key, `|=` holds.
-QString Animation(const std::vector<KxPlacementKey>& keys)
+QString Animation(const std::vector<KxPlacementKey>& keys, double widerPx)
 {
     QStringList parts;
     for (const KxPlacementKey& key : keys) {
         parts += QStringLiteral("%1%2%3 %4 %5 %6 1")
                      .arg(QString::number(key.frame), key.holds ? QStringLiteral("|=") : QStringLiteral("="),
-                          Number(key.place.x()), Number(key.place.y()), Number(key.place.width()),
+                          Number(key.place.x()), Number(key.place.y()), Number(key.place.width() + widerPx),
                           Number(key.place.height()));
     }
     return parts.join(QLatin1Char(';'));
@@ -104,13 +107,13 @@ void Writer::Crop()
         Property("transition.distort", QStringLiteral("1"));
         Property("transition.repeat_off", QStringLiteral("1"));
         Property("transition.mirror_off", QStringLiteral("1"));
-        Property("transition.rect", Animation(m_keys));
+        Property("transition.rect", Animation(m_keys, 0.0));
     } else {
         Property("mlt_service", QStringLiteral("qtblend"));
         Property("kdenlive_id", QStringLiteral("qtblend"));
         Property("compositing", QStringLiteral("0"));
         Property("distort", QStringLiteral("1"));
-        Property("rect", Animation(m_keys));
+        Property("rect", Animation(m_keys, WiderPx));
     }
     m_xml.writeEndElement();
 }

@@ -77,13 +77,28 @@ TEST(ReframeOptions, RefusesAnInvalidAspectRatioAndQuotesIt)
 
 TEST(ReframeOptions, WrongUseIsOneErrorMessageAndStatusTwo)
 {
-    for (const char* line :
-         {"--speed quick a.mp4", "--speaker on a.mp4", "--no-such-option a.mp4", "--output o.mp4 --no-video a.mp4",
-          "--output o.mp4 a.mp4 b.mp4", "--apply t.json a.mp4 b.mp4", "--aspect", "--output o.avi a.mp4",
-          "--output folder/ a.mp4", "--keyframes k.txt a.mp4", "--preview p.jpg a.mp4", "--report r.txt a.mp4",
-          "--report r.html --apply t.json a.mp4", "--report r.html a.mp4 b.mp4", "--preview p.mp4 a.mp4 b.mp4",
-          "--output o.mp4 --aspect 9:16,1:1 a.mp4", "--keyframes k.json --aspect 9:16,1:1 a.mp4",
-          "--apply t.json --aspect 9:16,1:1 a.mp4"}) {
+    for (const char* line : {"--speed quick a.mp4",
+                             "--speaker on a.mp4",
+                             "--no-such-option a.mp4",
+                             "--output o.mp4 --no-video a.mp4",
+                             "--output o.mp4 a.mp4 b.mp4",
+                             "--apply t.json a.mp4 b.mp4",
+                             "--aspect",
+                             "--output o.avi a.mp4",
+                             "--output folder/ a.mp4",
+                             "--keyframes k.txt a.mp4",
+                             "--preview p.jpg a.mp4",
+                             "--report r.txt a.mp4",
+                             "--report r.html --apply t.json a.mp4",
+                             "--report r.html a.mp4 b.mp4",
+                             "--preview p.mp4 a.mp4 b.mp4",
+                             "--output o.mp4 --aspect 9:16,1:1 a.mp4",
+                             "--keyframes k.json --aspect 9:16,1:1 a.mp4",
+                             "--apply t.json --aspect 9:16,1:1 a.mp4",
+                             "--edit-list e.avi a.mp4",
+                             "--edit-list avi a.mp4",
+                             "--edit-list e.mlt a.mp4 b.mp4",
+                             "--edit-list e.mlt --aspect 9:16,1:1 a.mp4"}) {
         const auto parsed = Parse(Words(line));
         EXPECT_FALSE(parsed.options) << line;
         EXPECT_EQ(parsed.exitStatus, ReframeExit::WrongUse) << line;
@@ -125,6 +140,17 @@ TEST(ReframeOptions, SeveralInputsTakeFolders)
     EXPECT_EQ(parsed.options->inputs.size(), 2);
 }
 
+TEST(ReframeOptions, EditListsAreFilesOrSuffixesAlone)
+{
+    const auto one = Parse(Words("--edit-list e.MLT --edit-list fcpxml a.mp4"));
+    ASSERT_TRUE(one.options) << one.text.toStdString();
+    EXPECT_EQ(one.options->editLists, (QStringList{QStringLiteral("e.MLT"), QStringLiteral("fcpxml")}));
+    EXPECT_TRUE(Parse(Words("--edit-list mlt a.mp4 b.mp4")).options);
+    EXPECT_TRUE(Parse(Words("--edit-list e.mlt a.mp4 b.mp4"))
+                    .text.startsWith(QStringLiteral("With several inputs or aspect ratios --edit-list takes a suffix "
+                                                    "alone; write mlt instead of e.mlt.\n")));
+}
+
 TEST(ReframeOptions, ModelsAreAFolderWithADetectorOrNone)
 {
     EXPECT_EQ(Parse(Words("a.mp4")).options->models, QString());
@@ -149,7 +175,7 @@ TEST(ReframeOptions, HelpAndVersionNeedNoInput)
     EXPECT_EQ(help.exitStatus, ReframeExit::Done);
     for (const char* option :
          {"--aspect", "--speed", "--cache", "--output", "--keyframes", "--apply", "--no-video", "--preview", "--report",
-          "--models", "--speaker", "--json", "--quiet", "--version", "--overwrite"}) {
+          "--models", "--speaker", "--edit-list", "--json", "--quiet", "--version", "--overwrite"}) {
         EXPECT_TRUE(help.text.contains(QLatin1String(option))) << option;
     }
     EXPECT_EQ(Parse({QStringLiteral("--version")}).exitStatus, ReframeExit::Done);
