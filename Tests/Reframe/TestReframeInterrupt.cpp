@@ -1,4 +1,4 @@
-#include <Apps/Reframe/CropTrackFile.h>
+#include <Apps/CropTracks/CropTrackFile.h>
 #include <Tests/Support/MadeVideo.h>
 
 #include <QDir>

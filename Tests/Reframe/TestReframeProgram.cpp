@@ -94,8 +94,8 @@ TEST_F(ReframeProgramTest, TheOutputHasTheAspectAndEveryFrame)
 TEST_F(ReframeProgramTest, SeveralAspectRatiosGiveWhatEachAloneGives)
 {
     const QString clip = MakeClip("clip.mp4");
-    const auto track = [this](const QString& folder, const char* aspect) {
-        QFile file(folder + QStringLiteral("/clip-AutoReframe-%1.json").arg(QLatin1String(aspect)));
+    const auto track = [](const QString& folder, const QString& aspect) {
+        QFile file(folder + QStringLiteral("/clip-AutoReframe-%1.json").arg(aspect));
         EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << file.fileName().toStdString();
         return file.readAll();
     };
@@ -105,12 +105,13 @@ TEST_F(ReframeProgramTest, SeveralAspectRatiosGiveWhatEachAloneGives)
                                QStringLiteral("--keyframes"), folder, clip});
         EXPECT_EQ(done.exitStatus, 0) << done.standardError.toStdString();
     };
-    run(Path("both"), "9:16,1:1");
-    run(Path("first"), "9:16");
-    run(Path("second"), "1:1");
-    EXPECT_EQ(track(Path("both"), "9 16"), track(Path("first"), "9 16"));
-    EXPECT_EQ(track(Path("both"), "1 1"), track(Path("second"), "1 1"));
-    EXPECT_NE(track(Path("both"), "9 16"), track(Path("both"), "1 1"));
+    run(Path("together"), "9:16,1:1,21:9");
+    for (const char* const aspect : {"9:16", "1:1", "21:9"}) {
+        const QString name = QString::fromLatin1(aspect).replace(QLatin1Char(':'), QLatin1Char(' '));
+        run(m_folder.filePath(name), aspect);
+        EXPECT_EQ(track(Path("together"), name), track(m_folder.filePath(name), name)) << aspect;
+    }
+    EXPECT_NE(track(Path("together"), QStringLiteral("9 16")), track(Path("together"), QStringLiteral("1 1")));
 }
 
 TEST_F(ReframeProgramTest, WhatWasSeenIsKeptInTheNamedFolderAlone)

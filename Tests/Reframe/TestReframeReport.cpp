@@ -1,6 +1,6 @@
 #include <Tests/Reframe/ReframeRun.h>
 
-#include <Apps/Reframe/CropTrackFile.h>
+#include <Apps/CropTracks/CropTrackFile.h>
 #include <Tests/Support/MadeVideo.h>
 
 #include <QDir>

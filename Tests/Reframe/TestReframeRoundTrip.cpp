@@ -1,6 +1,6 @@
 #include <Tests/Reframe/ReframeRun.h>
 
-#include <Apps/Reframe/CropTrackFile.h>
+#include <Apps/CropTracks/CropTrackFile.h>
 #include <KxMedia/Picture/KxPictureScaler.h>
 #include <KxMedia/Read/KxAudioReader.h>
 #include <KxMedia/Read/KxVideoReader.h>

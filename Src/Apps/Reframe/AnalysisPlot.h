@@ -1,6 +1,6 @@
 #pragma once
 
-#include <Apps/Reframe/CropTrackFile.h>
+#include <Apps/CropTracks/CropTrackFile.h>
 #include <KxSubject/KxSubjectFindings.h>
 
 /// The findings of an analysis over the time of a video, as inline SVG with one time axis. It contains no text from a

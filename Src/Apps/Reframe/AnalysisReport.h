@@ -1,6 +1,6 @@
 #pragma once
 
-#include <Apps/Reframe/CropTrackFile.h>
+#include <Apps/CropTracks/CropTrackFile.h>
 #include <KxSubject/KxSubjectFindings.h>
 
 /// The findings of an analysis as one self-contained page: no network, no scripts, no other file.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <Apps/Reframe/CropTrackFile.h>
+#include <Apps/CropTracks/CropTrackFile.h>
 #include <Apps/Reframe/ReframeOptions.h>
 #include <Apps/Reframe/ReframeReporter.h>
 #include <KxCore/KxCancelToken.h>

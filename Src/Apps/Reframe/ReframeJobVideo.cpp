@@ -1,31 +1,12 @@
 #include <Apps/Reframe/ReframeJob.h>
 
+#include <Apps/CropTracks/CropRenderSettings.h>
 #include <KrAutoReframe/Engine/KrAutoReframeHelper.h>
-#include <KrAutoReframe/Engine/KrExportParameters.h>
 #include <KxCore/KxInterrupt.h>
 #include <KxCore/KxThread.h>
 #include <KxRender/KxRenderer.h>
 
 #include <QEventLoop>
-
-namespace
-{
-
-KxRenderSettings SettingsFor(const KxMediaItem& media, const QRectF& firstCrop)
-{
-    const auto* const video = dynamic_cast<const IKxVideoMediaInfo*>(media.mediaInfo());
-    const auto* const audio = dynamic_cast<const IKxAudioMediaInfo*>(media.mediaInfo());
-    KxRenderSettings settings;
-    settings.resolution = KrExportParameters::EvenResolution(video->resolution(), firstCrop);
-    settings.frameRate = KrExportParameters::FrameRate(video->frameRate());
-    settings.videoBitRate = KrExportParameters::VideoBitRate(video->bitRate());
-    settings.audioBitRate = audio->hasAudioStream()
-                                ? KrExportParameters::AudioBitRate(audio->bitRate(media.audioStreamIndex()))
-                                : KrExportParameters::DefaultAudioBitRate;
-    return settings;
-}
-
-} // namespace
 
 ReframeJob::Ended ReframeJob::WriteVideo()
 {
@@ -36,7 +17,7 @@ ReframeJob::Ended ReframeJob::WriteVideo()
     if (!source) {
         return Fail(source.Message());
     }
-    KxRenderSettings settings = SettingsFor(*m_media, Helper().GetDisplayResults().first().cropRect());
+    KxRenderSettings settings = CropRenderSettings::For(*m_media, Helper().GetDisplayResults().first().cropRect());
     if (settings.resolution.isEmpty()) {
         return FailTooSmall();
     }

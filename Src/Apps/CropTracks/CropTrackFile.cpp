@@ -1,6 +1,6 @@
-#include <Apps/Reframe/CropTrackFile.h>
+#include <Apps/CropTracks/CropTrackFile.h>
 
-#include <Apps/Reframe/CropTrackParser.h>
+#include <Apps/CropTracks/CropTrackParser.h>
 #include <KxCore/KxSystemError.h>
 
 #include <QFile>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <Apps/Reframe/CropTrackFile.h>
+#include <Apps/CropTracks/CropTrackFile.h>
 
 class JsonReader;
 class QIODevice;

@@ -1,4 +1,4 @@
-#include <Apps/Reframe/JsonReader.h>
+#include <Apps/CropTracks/JsonReader.h>
 
 #include <QIODevice>
 

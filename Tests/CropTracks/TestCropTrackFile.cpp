@@ -1,6 +1,6 @@
 #include <Tests/Support/TestSystem.h>
 
-#include <Apps/Reframe/CropTrackFile.h>
+#include <Apps/CropTracks/CropTrackFile.h>
 
 #include <QDir>
 #include <QFile>

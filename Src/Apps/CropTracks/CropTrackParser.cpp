@@ -1,6 +1,6 @@
-#include <Apps/Reframe/CropTrackParser.h>
+#include <Apps/CropTracks/CropTrackParser.h>
 
-#include <Apps/Reframe/JsonReader.h>
+#include <Apps/CropTracks/JsonReader.h>
 
 #include <QIODevice>
 
