@@ -203,11 +203,7 @@ QList<KxAutoReframeShot> KxAutoReframeService::GetShots(const QString& path) con
 
 bool KxAutoReframeService::IsKnown(const QString& path) const
 {
-    KxAnalysisSettings settings;
-    {
-        const std::lock_guard<std::mutex> lock(m_mutex);
-        settings = m_settings;
-    }
+    const KxAnalysisSettings settings = Settings();
     bool isKnown = false;
     // A record that is too large to read is as good as none.
     KxCallGuarded([&] { isKnown = KxVideoAnalysis::HasRecord(path, settings); });
@@ -278,6 +274,12 @@ std::shared_ptr<const KxSubjectFindings> KxAutoReframeService::LastFindings() co
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     return m_result.findings;
+}
+
+KxAnalysisSettings KxAutoReframeService::Settings() const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return m_settings;
 }
 
 QString KxAutoReframeService::LastErrorMessage() const

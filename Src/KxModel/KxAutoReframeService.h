@@ -78,6 +78,10 @@ public:
     /// Of the task whose results `GetResults` returns; null if it did not keep them, or failed. Any thread.
     std::shared_ptr<const KxSubjectFindings> LastFindings() const;
 
+    /// With what a task would start now; for an analysis beside the service's tasks, which shares its records. Any
+    /// thread.
+    KxAnalysisSettings Settings() const;
+
     /// The error message of the last start if it was refused, or of the last task if it failed; otherwise empty. Any
     /// thread.
     QString LastErrorMessage() const;
