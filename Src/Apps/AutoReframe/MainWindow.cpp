@@ -40,7 +40,7 @@ void ShowFolder(const QString& filePath)
     QDesktopServices::openUrl(QUrl::fromLocalFile(QFileInfo(filePath).absolutePath()));
 }
 
-std::unique_ptr<RenderTask> Render(MediaBackendLoader& loader, const ExportRequest& request,
+std::unique_ptr<MediaTask> Render(MediaBackendLoader& loader, const ExportRequest& request,
                                    const KxRenderJob::Callbacks& callbacks)
 {
     MediaBackend* const backend = loader.Get();

@@ -4,6 +4,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QObject>
 
 #include <new>
 #include <thread>
@@ -14,7 +15,7 @@ class FakeMediaBackend final : public MediaBackend
 {
 public:
     /// A rendering that runs until a test ends it.
-    class Task final : public RenderTask
+    class Task final : public MediaTask
     {
     public:
         Task(FakeMediaBackend& backend, ExportRequest requested, KxRenderJob::Callbacks called)
@@ -50,6 +51,50 @@ public:
     private:
         FakeMediaBackend& m_backend;
         std::thread m_thread;
+    };
+
+    /// A search for crops that runs until a test ends it.
+    class Finding final : public MediaTask
+    {
+    public:
+        Finding(FakeMediaBackend& backend, CropRequest requested, CropCallbacks called)
+            : request(std::move(requested))
+            , callbacks(std::move(called))
+            , m_backend(backend)
+        {
+            m_backend.finding = this;
+        }
+        ~Finding() override { m_backend.finding = nullptr; }
+        void Cancel() override
+        {
+            isCancelled = true;
+            FoundCrops cancelled;
+            cancelled.outcome = KxOutcome::Cancelled;
+            End(cancelled);
+        }
+        /// Through the event loop, as real ones do.
+        void End(const FoundCrops& found)
+        {
+            QMetaObject::invokeMethod(
+                &m_context, [this, found] { callbacks.finished(found); }, Qt::QueuedConnection);
+        }
+        void EndWell(const QList<uint>& doubtfulShots = {})
+        {
+            FoundCrops found;
+            found.outcome = KxOutcome::Done;
+            found.request.source.path = request.path;
+            found.request.settings.resolution = QSize(608, 1080);
+            found.doubtfulShots = doubtfulShots;
+            End(found);
+        }
+
+        const CropRequest request;
+        const CropCallbacks callbacks;
+        bool isCancelled = false;
+
+    private:
+        FakeMediaBackend& m_backend;
+        QObject m_context;
     };
 
     KxResult<MediaFile> Open(const QString& path, const KxCancelToken& cancel) override
@@ -97,9 +142,19 @@ public:
             inDialog(callbacks);
         }
     }
-    std::unique_ptr<RenderTask> Render(const ExportRequest& request, const KxRenderJob::Callbacks& callbacks) override
+    std::unique_ptr<MediaTask> Render(const ExportRequest& request, const KxRenderJob::Callbacks& callbacks) override
     {
         return std::make_unique<Task>(*this, request, callbacks);
+    }
+    std::unique_ptr<MediaTask> FindCrops(const CropRequest& request, const CropCallbacks& callbacks) override
+    {
+        ++findings;
+        return std::make_unique<Finding>(*this, request, callbacks);
+    }
+    KxResult<QString> SaveCropTrack(const FoundCrops&, const QString& filePath) override
+    {
+        savedTracks += filePath;
+        return filePath;
     }
 
     /// Called by the thread that opens a file.
@@ -112,4 +167,8 @@ public:
     std::function<void(const DialogCallbacks&)> inDialog;
     /// The running rendering, or null.
     Task* task = nullptr;
+    /// The running search for crops, or null.
+    Finding* finding = nullptr;
+    int findings = 0;
+    QStringList savedTracks;
 };

@@ -1,7 +1,9 @@
 #include <Apps/AutoReframe/Backend/HostMediaBackend.h>
 
+#include <Apps/AutoReframe/Backend/CropFinder.h>
 #include <Apps/AutoReframe/Backend/DialogEdits.h>
 #include <Apps/AutoReframe/Backend/ExportRecord.h>
+#include <Apps/CropTracks/CropTrackFile.h>
 #include <KxCore/KxLog.h>
 #include <KxMediaLibrary/KxThumbnailer.h>
 #include <KxModel/KxAutoReframeService.h>
@@ -21,7 +23,7 @@
 namespace
 {
 
-class JobTask final : public RenderTask
+class JobTask final : public MediaTask
 {
 public:
     JobTask(const KxRenderSource& source, const KxRenderSettings& settings, const KxRenderJob::Callbacks& callbacks)
@@ -146,8 +148,19 @@ void HostMediaBackend::Reframe(const MediaFile& video, QWidget& parent, const Di
     KxSimpleTimeline::ReleaseAll();
 }
 
-std::unique_ptr<RenderTask> HostMediaBackend::Render(const ExportRequest& request,
-                                                     const KxRenderJob::Callbacks& callbacks)
+std::unique_ptr<MediaTask> HostMediaBackend::Render(const ExportRequest& request,
+                                                    const KxRenderJob::Callbacks& callbacks)
 {
     return std::make_unique<JobTask>(request.source, request.settings, callbacks);
+}
+
+std::unique_ptr<MediaTask> HostMediaBackend::FindCrops(const CropRequest& request, const CropCallbacks& callbacks)
+{
+    return std::make_unique<CropFinder>(request, KxAutoReframeService::Instance().Settings(), callbacks);
+}
+
+KxResult<QString> HostMediaBackend::SaveCropTrack(const FoundCrops& crops, const QString& filePath)
+{
+    return KxOutputFile::Write(filePath, CropTrackFile::Format(*crops.track, filePath),
+                               KxOutputFile::Existing::AddNumber);
 }

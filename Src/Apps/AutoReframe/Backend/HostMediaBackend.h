@@ -20,7 +20,9 @@ public:
     void CancelThumbnail(quint64 request) override;
     QString ImportPatterns() const override;
     void Reframe(const MediaFile& video, QWidget& parent, const DialogCallbacks& callbacks) override;
-    std::unique_ptr<RenderTask> Render(const ExportRequest& request, const KxRenderJob::Callbacks& callbacks) override;
+    std::unique_ptr<MediaTask> Render(const ExportRequest& request, const KxRenderJob::Callbacks& callbacks) override;
+    std::unique_ptr<MediaTask> FindCrops(const CropRequest& request, const CropCallbacks& callbacks) override;
+    KxResult<QString> SaveCropTrack(const FoundCrops& crops, const QString& filePath) override;
 
 private:
     KxThumbnailer& Thumbnailer();

@@ -1,4 +1,4 @@
 #include <Apps/AutoReframe/Backend/MediaBackend.h>
 
-RenderTask::~RenderTask() = default;
+MediaTask::~MediaTask() = default;
 MediaBackend::~MediaBackend() = default;

@@ -59,17 +59,65 @@ struct ExportRequest {
     KxRenderSettings settings;
 };
 
-/// A running rendering. Its destructor cancels it and waits for its end.
-class RenderTask
+/// How to reframe a video without the dialog. A plain record.
+struct ReframePlan {
+    QSize aspect;
+    /// As in IKxAutoReframeParam: 8 fast, 16 auto, 24 slow.
+    int speed = 16;
+    /// Of the result; 0: as large as the crop.
+    int shortSidePx = 0;
+
+    bool operator==(const ReframePlan& other) const
+    {
+        return aspect == other.aspect && speed == other.speed && shortSidePx == other.shortSidePx;
+    }
+};
+
+/// What the crop of a video is found from. A plain record.
+struct CropRequest {
+    QString path;
+    ReframePlan plan;
+    /// Choices and edit points are kept to, in whatever aspect ratio they were made.
+    VideoEdits edits;
+    /// A file that holds the crops already: nothing is analyzed, and the edits do not count. Usually empty.
+    QString cropTrack;
+};
+
+struct CropTrack;
+
+/// The crop of every frame of a video, and what follows from it.
+struct FoundCrops {
+    KxOutcome outcome = KxOutcome::Failed;
+    /// The error message of a failure; empty otherwise.
+    QString message;
+    /// Complete but for the path of the result.
+    ExportRequest request;
+    /// First frames of the doubtful shots, ascending.
+    QList<uint> doubtfulShots;
+    /// Null unless done. Only the backend looks into it.
+    std::shared_ptr<const CropTrack> track;
+};
+
+/// A running analysis or rendering. Its destructor cancels it and waits for its end.
+class MediaTask
 {
 public:
-    virtual ~RenderTask();
+    virtual ~MediaTask();
     /// Returns at once; `finished` is still called. Any thread.
     virtual void Cancel() = 0;
 
 protected:
-    RenderTask() = default;
-    Q_DISABLE_COPY_MOVE(RenderTask)
+    MediaTask() = default;
+    Q_DISABLE_COPY_MOVE(MediaTask)
+};
+
+/// Of a task that finds crops. Both may be empty.
+struct CropCallbacks {
+    /// Ascending ten-thousandths, on a thread of the task, which waits while the call lasts.
+    std::function<void(int tenThousandths)> progress;
+    /// Once, as the last call, on the user-interface thread; not if the task was destroyed before. Must not destroy the
+    /// task.
+    std::function<void(const FoundCrops& found)> finished;
 };
 
 /// Called while the dialog is open, on the user-interface thread.
@@ -109,8 +157,14 @@ public:
     /// Shows the Auto Reframe dialog over `parent` and returns when it was closed. User-interface thread.
     virtual void Reframe(const MediaFile& video, QWidget& parent, const DialogCallbacks& callbacks) = 0;
     /// Starts to render. User-interface thread.
-    virtual std::unique_ptr<RenderTask> Render(const ExportRequest& request,
-                                               const KxRenderJob::Callbacks& callbacks) = 0;
+    virtual std::unique_ptr<MediaTask> Render(const ExportRequest& request,
+                                              const KxRenderJob::Callbacks& callbacks) = 0;
+    /// Starts to find the crop of every frame as the dialog does; a video that was analyzed before, in whatever aspect
+    /// ratio, is not decoded again. May run beside the dialog and its analysis. User-interface thread.
+    virtual std::unique_ptr<MediaTask> FindCrops(const CropRequest& request, const CropCallbacks& callbacks) = 0;
+    /// Writes the crops to a file for the command line, .json or .csv. A file of that name is kept, and the new one
+    /// gets a number. Returns the path.
+    virtual KxResult<QString> SaveCropTrack(const FoundCrops& crops, const QString& filePath) = 0;
 
 protected:
     MediaBackend() = default;

@@ -40,7 +40,7 @@ class ExportQueue : public QObject
     Q_OBJECT
 public:
     /// Starts a rendering; called again only after the last one has ended.
-    using Renderer = std::function<std::unique_ptr<RenderTask>(const ExportRequest& request,
+    using Renderer = std::function<std::unique_ptr<MediaTask>(const ExportRequest& request,
                                                                const KxRenderJob::Callbacks& callbacks)>;
 
     /// A steady clock in milliseconds.
@@ -99,5 +99,5 @@ private:
     std::vector<ExportItem> m_items;
     qint64 m_startedMs = 0;
     int m_lastId = 0;
-    std::unique_ptr<RenderTask> m_task;
+    std::unique_ptr<MediaTask> m_task;
 };

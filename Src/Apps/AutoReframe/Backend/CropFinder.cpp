@@ -1,0 +1,260 @@
+#include <Apps/AutoReframe/Backend/CropFinder.h>
+
+#include <Apps/CropTracks/CropRenderSettings.h>
+#include <Apps/CropTracks/CropTrackFile.h>
+#include <KrAutoReframe/Engine/KrAutoReframeHelper.h>
+#include <KrAutoReframe/Engine/KrExportParameters.h>
+#include <KxModel/KxChoicesFormat.h>
+#include <KxModel/KxMediaItem.h>
+#include <KxModel/KxSimpleTimeline.h>
+
+#include <QCoreApplication>
+#include <QFileInfo>
+
+#include <algorithm>
+
+namespace
+{
+
+constexpr int WholeProgress = 10000;
+
+QString Translated(const char* text)
+{
+    return QCoreApplication::translate("CropFinder", text);
+}
+
+const KxStreamInfo& InfoOf(KxMediaItem& media)
+{
+    return static_cast<const KxClip*>(media.clip())->StreamInfo();
+}
+
+QString SpeedName(int speed)
+{
+    constexpr int fast = 8;
+    constexpr int slow = 24;
+    return speed == fast ? QStringLiteral("fast") : speed == slow ? QStringLiteral("slow") : QStringLiteral("auto");
+}
+
+QString AspectText(const QSize& aspect)
+{
+    return QStringLiteral("%1:%2").arg(QString::number(aspect.width()), QString::number(aspect.height()));
+}
+
+/// `crop` scaled so that its shorter side has `shortSidePx`.
+QSize ScaledTo(int shortSidePx, const QSizeF& crop)
+{
+    const double scale = shortSidePx / std::min(crop.width(), crop.height());
+    return KrExportParameters::EvenResolution(QSize(1, 1), {0.0, 0.0, crop.width() * scale, crop.height() * scale});
+}
+
+} // namespace
+
+CropFinder::CropFinder(CropRequest request, const KxAnalysisSettings& settings, CropCallbacks callbacks)
+    : m_request(std::move(request))
+    , m_settings(settings)
+    , m_callbacks(std::move(callbacks))
+    , m_timeline(nullptr, &IKxTimeline::releaseInstance)
+    , m_thread([this] { Run(); })
+{
+}
+
+CropFinder::~CropFinder()
+{
+    m_cancel.Cancel();
+    m_thread.Join();
+    // It refers to the timeline.
+    m_helper.reset();
+}
+
+void CropFinder::Cancel()
+{
+    m_cancel.Cancel();
+}
+
+void CropFinder::Run()
+{
+    Analyzed analyzed;
+    const KxError failure = KxCallGuarded([&] { analyzed = Find(); });
+    if (failure) {
+        analyzed = {};
+        analyzed.found.message =
+            Translated("Cannot reframe %1: %2.").arg(QFileInfo(m_request.path).fileName(), *failure);
+    }
+    QMetaObject::invokeMethod(
+        this, [this, analyzed] { ApplyEdits(analyzed); }, Qt::QueuedConnection);
+}
+
+CropFinder::Analyzed CropFinder::Find()
+{
+    Analyzed failed;
+    KxResult<std::unique_ptr<KxMediaItem>> media = KxMediaItem::Open(m_request.path, m_cancel);
+    if (!media) {
+        failed.found.message = media.Message();
+        return failed;
+    }
+    if (!(*media)->mediaInfo()->hasVideoStream()) {
+        failed.found.message = Translated("Cannot reframe %1: it has no moving picture.").arg((*media)->name());
+        return failed;
+    }
+    if (!m_request.cropTrack.isEmpty()) {
+        return ReadTrack(std::move(*media));
+    }
+    if (const KxError reason = ReasonNotToAnalyze(**media)) {
+        failed.found.message = *reason;
+        return failed;
+    }
+    return Analyze(std::move(*media));
+}
+
+CropFinder::Analyzed CropFinder::ReadTrack(std::shared_ptr<KxMediaItem> media) const
+{
+    Analyzed analyzed;
+    KxResult<CropTrack> track = CropTrackFile::Read(m_request.cropTrack, media->duration());
+    if (!track) {
+        analyzed.found.message = track.Message();
+    } else if (track->crops.size() < media->duration()) {
+        analyzed.found.message =
+            Translated("Cannot use %1: it has the crops of %2 frames, and %3 has %4 frames.")
+                .arg(QFileInfo(m_request.cropTrack).fileName(), QString::number(track->crops.size()), media->name(),
+                     QString::number(media->duration()));
+    } else {
+        analyzed.found.outcome = KxOutcome::Done;
+        analyzed.crops = track->crops;
+        analyzed.aspect = track->aspect;
+    }
+    analyzed.media = std::move(media);
+    return analyzed;
+}
+
+KxError CropFinder::ReasonNotToAnalyze(const KxMediaItem& media) const
+{
+    // The rules of the dialog.
+    constexpr int fewestFrames = 32;
+    const auto* const video = dynamic_cast<const IKxVideoMediaInfo*>(media.mediaInfo());
+    const QSize aspect = m_request.plan.aspect;
+    const QSize picture = video->resolution();
+    if (qint64{picture.width()} * aspect.height() == qint64{picture.height()} * aspect.width()) {
+        return Translated("Cannot reframe %1: it has the aspect ratio %2 already.")
+            .arg(media.name(), AspectText(aspect));
+    }
+    if (video->frameCount() < fewestFrames) {
+        return Translated("Cannot reframe %1: it has only %2 frames; %3 are needed.")
+            .arg(media.name(), QString::number(video->frameCount()), QString::number(fewestFrames));
+    }
+    return std::nullopt;
+}
+
+CropFinder::Analyzed CropFinder::Analyze(std::shared_ptr<KxMediaItem> media)
+{
+    Analyzed analyzed;
+    m_settings.wantsShots = true;
+    m_settings.choices.clear();
+    if (!m_request.edits.choices.isEmpty()) {
+        KxResult<KxSubjectChoices> choices = KxChoicesFormat::Read(m_request.edits.choices, media->name());
+        if (!choices) {
+            analyzed.found.message = choices.Message();
+            return analyzed;
+        }
+        m_settings.choices = std::move(*choices);
+    }
+    const IKxAutoReframeParam param(m_request.plan.speed, m_request.plan.aspect);
+    KxResult<std::unique_ptr<KxAnalysis>> analysis = KxVideoAnalysis::Open(m_request.path, param, m_settings, m_cancel);
+    if (!analysis) {
+        analyzed.found.message = analysis.Message();
+        return analyzed;
+    }
+    KxAnalysis::Result result = (*analysis)->Run([this](int percent) {
+        if (m_callbacks.progress) {
+            m_callbacks.progress(percent * WholeProgress / 100);
+        }
+    });
+    analyzed.found.outcome = result.outcome;
+    analyzed.found.message = result.message;
+    for (const KxAutoReframeShot& shot : result.shots) {
+        if (shot.doubt != KxAutoReframeDoubt::None) {
+            analyzed.found.doubtfulShots += static_cast<uint>(shot.first);
+        }
+    }
+    analyzed.crops = result.crops;
+    analyzed.models = std::move(result.models);
+    analyzed.aspect = m_request.plan.aspect;
+    analyzed.media = std::move(media);
+    return analyzed;
+}
+
+void CropFinder::ApplyEdits(const Analyzed& analyzed)
+{
+    m_analyzed = analyzed;
+    if (m_cancel.IsCancelled()) {
+        m_analyzed.found.outcome = KxOutcome::Cancelled;
+        m_analyzed.found.message.clear();
+    }
+    if (m_analyzed.found.outcome != KxOutcome::Done) {
+        Finish();
+        return;
+    }
+    auto clip = static_cast<const KxClip*>(m_analyzed.media->clip())->Copy(KxClip::KeyFrames::Copied);
+    m_timeline.reset(new KxSimpleTimeline(std::move(clip)));
+    m_helper = std::make_unique<KrAutoReframeHelper>();
+    m_helper->SetTimeline(m_timeline.get());
+    m_helper->SetEditsSurvive(true);
+    if (m_request.cropTrack.isEmpty()) {
+        m_helper->RestoreEditPoints(m_request.edits.editPoints);
+    }
+    connect(m_helper.get(), &KrAutoReframeHelper::sigApplyFinished, this, &CropFinder::Finish);
+    m_helper->ApplyResults(m_analyzed.crops);
+}
+
+void CropFinder::Finish()
+{
+    FoundCrops& found = m_analyzed.found;
+    if (found.outcome == KxOutcome::Done && m_cancel.IsCancelled()) {
+        found.outcome = KxOutcome::Cancelled;
+    }
+    if (found.outcome == KxOutcome::Done) {
+        if (const KxError reason = MakeRequest(found.request)) {
+            found.outcome = KxOutcome::Failed;
+            found.message = *reason;
+        } else {
+            found.track = std::make_shared<const CropTrack>(MakeTrack());
+        }
+    }
+    if (m_callbacks.finished) {
+        m_callbacks.finished(found);
+    }
+}
+
+KxError CropFinder::MakeRequest(ExportRequest& request) const
+{
+    const KxResult<KxRenderSource> source = KxRenderSource::FromTimeline(*m_helper->GetWorkTimeline());
+    if (!source) {
+        return source.Message();
+    }
+    const QSize picture = InfoOf(*m_analyzed.media).resolution();
+    const QRectF crop = m_analyzed.crops.first().cropRect();
+    KxRenderSettings settings = CropRenderSettings::For(*m_analyzed.media, crop);
+    if (settings.resolution.isEmpty()) {
+        return Translated("Cannot reframe %1: its picture of %2 x %3 pixels is too small.")
+            .arg(m_analyzed.media->name(), QString::number(picture.width()), QString::number(picture.height()));
+    }
+    if (m_request.plan.shortSidePx > 0) {
+        settings.resolution =
+            ScaledTo(m_request.plan.shortSidePx, {crop.width() * picture.width(), crop.height() * picture.height()});
+    }
+    request = {*source, settings};
+    return std::nullopt;
+}
+
+CropTrack CropFinder::MakeTrack() const
+{
+    const KxStreamInfo& info = InfoOf(*m_analyzed.media);
+    CropTrack track;
+    track.sourcePath = m_request.path;
+    track.sourceSize = info.resolution();
+    track.frameRate = info.frameRate();
+    track.aspect = m_analyzed.aspect;
+    track.speedName = SpeedName(m_request.plan.speed);
+    track.crops = m_helper->GetDisplayResults();
+    track.models = m_analyzed.models;
+    return track;
+}

@@ -1,0 +1,183 @@
+#include <Apps/AutoReframe/Backend/HostMediaBackend.h>
+#include <Apps/CropTracks/CropTrackFile.h>
+#include <Tests/Support/MadeVideo.h>
+
+#include <KxModel/KxSimpleTimeline.h>
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace
+{
+
+class TestCropFinder : public testing::Test
+{
+protected:
+    QString MakeClip(const char* name, int frames = 50)
+    {
+        MadeVideo::Recipe recipe;
+        recipe.size = QSize(192, 108);
+        recipe.frames = frames;
+        const QString path = m_folder.filePath(QLatin1String(name));
+        EXPECT_TRUE(MadeVideo::Make(path, recipe));
+        return path;
+    }
+    static CropRequest Request(const QString& path, const QSize& aspect = QSize(9, 16))
+    {
+        CropRequest request;
+        request.path = path;
+        request.plan.aspect = aspect;
+        return request;
+    }
+    FoundCrops Find(const CropRequest& request)
+    {
+        std::optional<FoundCrops> found;
+        const auto task = m_backend.FindCrops(request, {{}, [&found](const FoundCrops& end) { found = end; }});
+        EXPECT_TRUE(QTest::qWaitFor([&found] { return found.has_value(); }, 60000));
+        return found.value_or(FoundCrops());
+    }
+
+    QTemporaryDir m_folder;
+    HostMediaBackend m_backend;
+};
+
+} // namespace
+
+TEST_F(TestCropFinder, FindsTheCropOfEveryFrame)
+{
+    const FoundCrops found = Find(Request(MakeClip("clip.mp4")));
+    ASSERT_EQ(found.outcome, KxOutcome::Done) << found.message.toStdString();
+    ASSERT_NE(found.request.source.crops, nullptr);
+    EXPECT_EQ(found.request.source.crops->size(), 50U);
+    EXPECT_EQ(found.request.settings.resolution, QSize(60, 108));
+    EXPECT_NEAR(found.request.source.crops->front().width() * 192, 60.75, 0.01);
+}
+
+TEST_F(TestCropFinder, AnotherAspectRatioOfTheSameVideoIsNotDecodedAgain)
+{
+    const QString clip = MakeClip("clip.mp4");
+    ASSERT_EQ(Find(Request(clip)).outcome, KxOutcome::Done);
+    std::atomic_int steps{0};
+    std::optional<FoundCrops> found;
+    const auto task = m_backend.FindCrops(
+        Request(clip, QSize(1, 1)), {[&steps](int) { ++steps; }, [&found](const FoundCrops& end) { found = end; }});
+    ASSERT_TRUE(QTest::qWaitFor([&found] { return found.has_value(); }, 60000));
+    EXPECT_EQ(found->outcome, KxOutcome::Done);
+    EXPECT_EQ(found->request.settings.resolution, QSize(108, 108));
+    EXPECT_EQ(steps, 0);
+}
+
+TEST_F(TestCropFinder, TheResultCanHaveAnotherSizeThanTheCrop)
+{
+    CropRequest request = Request(MakeClip("clip.mp4"));
+    request.plan.shortSidePx = 1080;
+    EXPECT_EQ(Find(request).request.settings.resolution, QSize(1080, 1920));
+    request.plan.aspect = QSize(21, 9);
+    request.plan.shortSidePx = 720;
+    EXPECT_EQ(Find(request).request.settings.resolution, QSize(1680, 720));
+}
+
+TEST_F(TestCropFinder, EditPointsOfTheDialogAreKeptTo)
+{
+    CropRequest request = Request(MakeClip("clip.mp4"));
+    const FoundCrops automatic = Find(request);
+    const double width = automatic.request.source.crops->at(25).width();
+    request.edits.editPoints.insert(25, QRectF(0.0, 0.0, width, 1.0));
+    const FoundCrops edited = Find(request);
+    ASSERT_EQ(edited.outcome, KxOutcome::Done);
+    EXPECT_NE(automatic.request.source.crops->at(25).left(), 0.0);
+    EXPECT_EQ(edited.request.source.crops->at(25).left(), 0.0);
+}
+
+TEST_F(TestCropFinder, ChoicesOfTheDialogAreKeptTo)
+{
+    CropRequest request = Request(MakeClip("clip.mp4"));
+    request.edits.choices = R"({"version":1,"choices":[{"kind":"hold","centre":[0.9,0.5]}]})";
+    const FoundCrops found = Find(request);
+    ASSERT_EQ(found.outcome, KxOutcome::Done) << found.message.toStdString();
+    for (const QRectF& crop : *found.request.source.crops) {
+        EXPECT_NEAR(crop.right(), 1.0, 0.01);
+    }
+}
+
+TEST_F(TestCropFinder, TimelinesOfTheDialogCanBeReleasedMeanwhile)
+{
+    std::optional<FoundCrops> found;
+    const auto task =
+        m_backend.FindCrops(Request(MakeClip("clip.mp4")), {{}, [&found](const FoundCrops& end) { found = end; }});
+    ASSERT_TRUE(QTest::qWaitFor(
+        [&found] {
+            KxSimpleTimeline::ReleaseAll();
+            return found.has_value();
+        },
+        60000));
+    EXPECT_EQ(found->outcome, KxOutcome::Done);
+}
+
+TEST_F(TestCropFinder, AnErrorMessageNamesTheVideoAndTheReason)
+{
+    EXPECT_EQ(Find(Request(MakeClip("clip.mp4"), QSize(16, 9))).message,
+              QStringLiteral("Cannot reframe clip.mp4: it has the aspect ratio 16:9 already."));
+    EXPECT_EQ(Find(Request(MakeClip("short.mp4", 20))).message,
+              QStringLiteral("Cannot reframe short.mp4: it has only 20 frames; 32 are needed."));
+    EXPECT_TRUE(
+        Find(Request(m_folder.filePath(QStringLiteral("none.mp4")))).message.contains(QLatin1String("none.mp4")));
+}
+
+TEST_F(TestCropFinder, ACancelledOneEndsAsCancelled)
+{
+    std::optional<FoundCrops> found;
+    const auto task =
+        m_backend.FindCrops(Request(MakeClip("clip.mp4")), {{}, [&found](const FoundCrops& end) { found = end; }});
+    task->Cancel();
+    ASSERT_TRUE(QTest::qWaitFor([&found] { return found.has_value(); }, 60000));
+    EXPECT_EQ(found->outcome, KxOutcome::Cancelled);
+    EXPECT_TRUE(found->message.isEmpty());
+}
+
+TEST_F(TestCropFinder, OneThatIsDestroyedWhileItRunsReportsNothing)
+{
+    int ends = 0;
+    auto task = m_backend.FindCrops(Request(MakeClip("clip.mp4")), {{}, [&ends](const FoundCrops&) { ++ends; }});
+    task.reset();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(ends, 0);
+}
+
+TEST_F(TestCropFinder, ASavedCropTrackIsReadAgain)
+{
+    const QString clip = MakeClip("clip.mp4");
+    const FoundCrops found = Find(Request(clip));
+    for (const char* const name : {"track.json", "track.csv"}) {
+        const KxResult<QString> saved = m_backend.SaveCropTrack(found, m_folder.filePath(QLatin1String(name)));
+        ASSERT_TRUE(saved) << saved.Message().toStdString();
+        CropRequest request = Request(clip);
+        request.cropTrack = *saved;
+        request.edits.editPoints.insert(25, QRectF(0.0, 0.0, 0.3, 1.0));
+        const FoundCrops read = Find(request);
+        ASSERT_EQ(read.outcome, KxOutcome::Done) << read.message.toStdString();
+        ASSERT_EQ(read.request.source.crops->size(), found.request.source.crops->size());
+        for (size_t frame = 0; frame < found.request.source.crops->size(); ++frame) {
+            EXPECT_NEAR(read.request.source.crops->at(frame).left(), found.request.source.crops->at(frame).left(),
+                        1e-9);
+        }
+        EXPECT_EQ(read.request.settings.resolution, QSize(60, 108));
+    }
+}
+
+TEST_F(TestCropFinder, ACropTrackOfAnotherVideoIsRefused)
+{
+    const FoundCrops found = Find(Request(MakeClip("short.mp4", 40)));
+    const KxResult<QString> saved = m_backend.SaveCropTrack(found, m_folder.filePath(QStringLiteral("track.json")));
+    ASSERT_TRUE(saved);
+    CropRequest request = Request(MakeClip("clip.mp4"));
+    request.cropTrack = *saved;
+    EXPECT_EQ(Find(request).message,
+              QStringLiteral("Cannot use track.json: it has the crops of 40 frames, and clip.mp4 has 50 frames."));
+    request.path = MakeClip("shorter.mp4", 33);
+    EXPECT_EQ(Find(request).message,
+              QStringLiteral("Cannot use track.json: it holds more frames than the video, which has 33."));
+}
