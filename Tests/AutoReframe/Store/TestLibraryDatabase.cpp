@@ -321,6 +321,31 @@ TEST_F(TestLibraryDatabase, AnExportWhoseCropsAreDamagedIsLeftOut)
     }
 }
 
+TEST_F(TestLibraryDatabase, APlannedExportComesBackWithItsPlanAndWhatIsToBeLookedAt)
+{
+    const ReframePlan plan{QSize(4, 5), 24, 1080};
+    {
+        const auto database = Open();
+        StoredExport item = Export(1, State::Waiting);
+        item.plan = plan;
+        item.frames = 4242;
+        ASSERT_FALSE(database->SaveExport(item));
+        item.state = State::Done;
+        item.shotsToLookAt = {30, 90};
+        ASSERT_FALSE(database->SaveExportState(item));
+        ASSERT_FALSE(database->SaveExport(Export(2, State::Waiting)));
+    }
+    const auto database = Open();
+    const QList<StoredExport> exports = Contents(*database).exports;
+    ASSERT_EQ(exports.size(), 2);
+    ASSERT_TRUE(exports[0].plan.has_value());
+    EXPECT_TRUE(*exports[0].plan == plan);
+    EXPECT_EQ(exports[0].frames, 4242);
+    EXPECT_EQ(exports[0].shotsToLookAt, QList<uint>({30, 90}));
+    EXPECT_FALSE(exports[1].plan.has_value());
+    EXPECT_TRUE(exports[1].shotsToLookAt.isEmpty());
+}
+
 TEST_F(TestLibraryDatabase, LockFilesOfKilledRunsAreRemoved)
 {
     const auto database = Open();

@@ -31,6 +31,11 @@ struct StoredExport {
     qint64 key = 0;
     State state = State::Waiting;
     ExportRequest request;
+    /// Set if the crops are found when its turn comes; then `request` has none.
+    std::optional<ReframePlan> plan;
+    qint64 frames = 0;
+    /// First frames, ascending.
+    QList<uint> shotsToLookAt;
     QString filePath;
     qint64 fileBytes = 0;
     QString message;

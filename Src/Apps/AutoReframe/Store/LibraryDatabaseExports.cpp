@@ -76,6 +76,24 @@ std::shared_ptr<const Crops> Unpack(const QByteArray& packed)
     return crops;
 }
 
+QString TextOf(const QList<uint>& frames)
+{
+    QStringList numbers;
+    for (const uint frame : frames) {
+        numbers += QString::number(frame);
+    }
+    return numbers.join(QLatin1Char(' '));
+}
+
+QList<uint> FramesOf(const QString& text)
+{
+    QList<uint> frames;
+    for (const QString& number : text.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
+        frames += number.toUInt();
+    }
+    return frames;
+}
+
 StoredExport ExportOf(const QSqlQuery& row, State state)
 {
     StoredExport item;
@@ -95,6 +113,12 @@ StoredExport ExportOf(const QSqlQuery& row, State state)
     item.filePath = row.value(12).toString();
     item.fileBytes = row.value(13).toLongLong();
     item.message = row.value(14).toString();
+    const QSize aspect(row.value(15).toInt(), row.value(16).toInt());
+    if (!aspect.isEmpty()) {
+        item.plan = ReframePlan{aspect, row.value(17).toInt(), row.value(18).toInt()};
+    }
+    item.frames = row.value(19).toLongLong();
+    item.shotsToLookAt = FramesOf(row.value(20).toString());
     return item;
 }
 
@@ -128,9 +152,10 @@ KxError LibraryDatabase::ClaimInterruptedExports()
 KxError LibraryDatabase::ReadExports(StoredContents& contents)
 {
     return m_connection.Select(
-        QStringLiteral("SELECT key, state, source_path, audio_stream, crops, output_path, adds_number, width, height, "
-                       "frame_rate, video_bit_rate, audio_bit_rate, file_path, file_bytes, message "
-                       "FROM exports WHERE run = ? OR NOT ") +
+        QStringLiteral(
+            "SELECT key, state, source_path, audio_stream, crops, output_path, adds_number, width, height, "
+            "frame_rate, video_bit_rate, audio_bit_rate, file_path, file_bytes, message, plan_width, "
+            "plan_height, plan_speed, plan_short_side, frames, shots_to_look_at FROM exports WHERE run = ? OR NOT ") +
             Unfinished + QStringLiteral(" ORDER BY position, key"),
         {m_run.Name()}, [&contents](const QSqlQuery& row) {
             const std::optional<State> state = StateOf(row.value(1).toString());
@@ -150,28 +175,48 @@ KxError LibraryDatabase::SaveExport(const StoredExport& item)
 {
     const KxRenderSource& source = item.request.source;
     const KxRenderSettings& settings = item.request.settings;
+    const ReframePlan plan = item.plan.value_or(ReframePlan{QSize(0, 0), 0, 0});
     return m_connection.Execute(
         QStringLiteral("INSERT OR REPLACE INTO exports(key, position, state, run, source_path, audio_stream, crops, "
                        "output_path, adds_number, width, height, frame_rate, video_bit_rate, audio_bit_rate, "
-                       "file_path, file_bytes, message) "
+                       "file_path, file_bytes, message, plan_width, plan_height, plan_speed, plan_short_side, "
+                       "frames, shots_to_look_at) "
                        "VALUES(?, (SELECT coalesce(max(position), 0) + 1 FROM exports), ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, "
-                       "?, ?, ?, ?, ?)"),
-        {item.key, NameOf(item.state), m_run.Name(), source.path,
-         source.audioStream ? QVariant(*source.audioStream) : QVariant(QVariant::Int), Pack(source.crops),
-         settings.outputPath, settings.existing == KxOutputFile::Existing::AddNumber, settings.resolution.width(),
-         settings.resolution.height(), settings.frameRate, settings.videoBitRate, settings.audioBitRate, item.filePath,
-         item.fileBytes, item.message});
+                       "?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)"),
+        {item.key,
+         NameOf(item.state),
+         m_run.Name(),
+         source.path,
+         source.audioStream ? QVariant(*source.audioStream) : QVariant(QVariant::Int),
+         item.plan ? Pack({}) : Pack(source.crops),
+         settings.outputPath,
+         settings.existing == KxOutputFile::Existing::AddNumber,
+         settings.resolution.width(),
+         settings.resolution.height(),
+         settings.frameRate,
+         settings.videoBitRate,
+         settings.audioBitRate,
+         item.filePath,
+         item.fileBytes,
+         item.message,
+         plan.aspect.width(),
+         plan.aspect.height(),
+         plan.speed,
+         plan.shortSidePx,
+         item.frames,
+         TextOf(item.shotsToLookAt)});
 }
 
 KxError LibraryDatabase::SaveExportState(const StoredExport& item)
 {
     return m_connection.Execute(
         QStringLiteral("UPDATE exports SET state = ?, run = ?, file_path = ?, file_bytes = ?, message = ?, "
+                       "shots_to_look_at = ?, "
                        "crops = CASE ? WHEN 'done' THEN NULL ELSE crops END, "
                        "position = CASE ? WHEN 'waiting' THEN (SELECT max(position) + 1 FROM exports) "
                        "ELSE position END WHERE key = ?"),
-        {NameOf(item.state), m_run.Name(), item.filePath, item.fileBytes, item.message, NameOf(item.state),
-         NameOf(item.state), item.key});
+        {NameOf(item.state), m_run.Name(), item.filePath, item.fileBytes, item.message, TextOf(item.shotsToLookAt),
+         NameOf(item.state), NameOf(item.state), item.key});
 }
 
 KxError LibraryDatabase::RemoveExport(qint64 key)

@@ -43,11 +43,23 @@ QStringList SecondVersion()
                            "ON DELETE CASCADE, jpeg BLOB NOT NULL)")};
 }
 
+QStringList ThirdVersion()
+{
+    // A plan without an aspect ratio is none.
+    QStringList statements;
+    for (const char* const column : {"plan_width", "plan_height", "plan_speed", "plan_short_side", "frames"}) {
+        statements +=
+            QStringLiteral("ALTER TABLE exports ADD COLUMN %1 INTEGER NOT NULL DEFAULT 0").arg(QLatin1String(column));
+    }
+    statements += QStringLiteral("ALTER TABLE exports ADD COLUMN shots_to_look_at TEXT NOT NULL DEFAULT ''");
+    return statements;
+}
+
 } // namespace
 
 KxError LibrarySchema::Migrate(LibraryConnection& connection, int from)
 {
-    const std::vector<QStringList> versions{FirstVersion(), SecondVersion()};
+    const std::vector<QStringList> versions{FirstVersion(), SecondVersion(), ThirdVersion()};
     for (size_t version = static_cast<size_t>(from); version < versions.size(); ++version) {
         for (const QString& statement : versions[version]) {
             if (const KxError failure = connection.Execute(statement)) {
