@@ -41,7 +41,7 @@ void ShowFolder(const QString& filePath)
 }
 
 std::unique_ptr<MediaTask> Render(MediaBackendLoader& loader, const ExportRequest& request,
-                                   const KxRenderJob::Callbacks& callbacks)
+                                  const KxRenderJob::Callbacks& callbacks)
 {
     MediaBackend* const backend = loader.Get();
     if (backend == nullptr) {
@@ -49,6 +49,19 @@ std::unique_ptr<MediaTask> Render(MediaBackendLoader& loader, const ExportReques
         return nullptr;
     }
     return backend->Render(request, callbacks);
+}
+
+std::unique_ptr<MediaTask> FindCrops(MediaBackendLoader& loader, const CropRequest& request,
+                                     const CropCallbacks& callbacks)
+{
+    MediaBackend* const backend = loader.Get();
+    if (backend == nullptr) {
+        FoundCrops none;
+        none.message = loader.Error();
+        callbacks.finished(none);
+        return nullptr;
+    }
+    return backend->FindCrops(request, callbacks);
 }
 
 /// A bar with a line along one of its sides.
@@ -69,9 +82,12 @@ MainWindow::MainWindow(MediaBackendLoader& backend, LibraryStore& store)
     : m_backend(backend)
     , m_store(store)
     , m_exports(new ExportQueue(
-          [&backend](const ExportRequest& request, const KxRenderJob::Callbacks& callbacks) {
-              return Render(backend, request, callbacks);
-          },
+          {[&backend](const ExportRequest& request, const KxRenderJob::Callbacks& callbacks) {
+               return Render(backend, request, callbacks);
+           },
+           [this](const QString& path, const ReframePlan& plan, const CropCallbacks& callbacks) {
+               return FindCrops(m_backend, {path, plan, m_library->EditsOf(path), QString()}, callbacks);
+           }},
           this))
     , m_keeper(new ExportKeeper(*m_exports, store, this))
     , m_library(new MediaLibrary(backend, store, this))

@@ -1,50 +1,4 @@
-#include <Apps/AutoReframe/Exports/ExportQueue.h>
-#include <Tests/AutoReframe/Backend/FakeMediaBackend.h>
-
-#include <QSignalSpy>
-#include <QTest>
-
-#include <gtest/gtest.h>
-
-namespace
-{
-
-using State = ExportItem::State;
-
-class TestExportQueue : public testing::Test
-{
-protected:
-    static ExportRequest Request(const QString& name)
-    {
-        ExportRequest request;
-        request.settings.outputPath = QStringLiteral("/exports/") + name;
-        request.settings.resolution = QSize(608, 1080);
-        return request;
-    }
-    State StateOf(int id) const { return m_queue.Find(id)->state; }
-    bool WaitFor(int id, State state) const
-    {
-        return QTest::qWaitFor([this, id, state] { return StateOf(id) == state; }, 10000);
-    }
-
-    /// The running rendering reports `progress`.
-    void Progress(int id, int progress)
-    {
-        QSignalSpy changes(&m_queue, &ExportQueue::sigChanged);
-        m_backend.task->callbacks.progress(progress);
-        ASSERT_TRUE(changes.wait(10000));
-        ASSERT_EQ(m_queue.Find(id)->progress, progress);
-    }
-
-    FakeMediaBackend m_backend;
-    qint64 m_nowMs = 1000;
-    ExportQueue m_queue{[this](const ExportRequest& request, const KxRenderJob::Callbacks& callbacks) {
-                            return m_backend.Render(request, callbacks);
-                        },
-                        [this] { return m_nowMs; }, nullptr};
-};
-
-} // namespace
+#include <Tests/AutoReframe/Exports/ExportQueueTest.h>
 
 TEST_F(TestExportQueue, OneIsRenderedAndTheOthersWaitInTheirOrder)
 {
@@ -170,11 +124,7 @@ TEST_F(TestExportQueue, CancelAllLeavesNothingRunning)
 
 TEST_F(TestExportQueue, TheDestructorWaitsForTheRunningExport)
 {
-    auto queue = std::make_unique<ExportQueue>(
-        [this](const ExportRequest& request, const KxRenderJob::Callbacks& callbacks) {
-            return m_backend.Render(request, callbacks);
-        },
-        nullptr);
+    auto queue = std::make_unique<ExportQueue>(Workers(), nullptr);
     queue->Add(Request(QStringLiteral("a.mp4")));
     m_backend.task->EndWell();
     queue.reset();

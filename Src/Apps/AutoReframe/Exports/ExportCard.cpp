@@ -71,11 +71,14 @@ ExportCard::ExportCard(QWidget* parent)
     m_size = MakeSmall(this, QStringLiteral("ExportCard_size"));
     m_retry = new LinkButton(this);
     m_retry->setObjectName(QStringLiteral("ExportCard_retry"));
+    m_look = new LinkButton(this);
+    m_look->setObjectName(QStringLiteral("ExportCard_look"));
     m_show = new LinkButton(this);
     m_show->setObjectName(QStringLiteral("ExportCard_show"));
     InitLayout();
     connect(m_cancel, &QAbstractButton::clicked, this, &ExportCard::sigCancel);
     connect(m_retry, &QAbstractButton::clicked, this, &ExportCard::sigRetry);
+    connect(m_look, &QAbstractButton::clicked, this, &ExportCard::sigLook);
     connect(m_show, &QAbstractButton::clicked, this, &ExportCard::sigShowInFolder);
     RetranslateUi();
 }
@@ -94,8 +97,8 @@ void ExportCard::InitLayout()
     foot->setContentsMargins(0, 0, aroundCrossPx, 0);
     foot->setSpacing(12);
     foot->addWidget(m_status, 1);
-    for (QWidget* const end :
-         {static_cast<QWidget*>(m_size), static_cast<QWidget*>(m_retry), static_cast<QWidget*>(m_show)}) {
+    for (QWidget* const end : {static_cast<QWidget*>(m_size), static_cast<QWidget*>(m_retry),
+                               static_cast<QWidget*>(m_look), static_cast<QWidget*>(m_show)}) {
         foot->addWidget(end, 0, Qt::AlignTop);
     }
     auto* const middle = new QHBoxLayout;
@@ -119,6 +122,7 @@ void ExportCard::Show(const ExportItem& item)
     m_bar->setValue(item.progress);
     m_size->setVisible(isActive);
     m_retry->setVisible(!isActive && item.state != State::Done);
+    m_look->setVisible(item.state == State::Done && !item.shotsToLookAt.isEmpty());
     m_show->setVisible(item.state == State::Done);
     SetTextRole(*m_status, item.state == State::Failed ? QStringLiteral("error") : QStringLiteral("muted"));
     ShowTexts();
@@ -131,11 +135,32 @@ void ExportCard::ShowTexts()
     m_name->setToolTip(QDir::toNativeSeparators(m_item.filePath));
     m_status->setText(StatusText());
     m_status->setToolTip(m_item.message);
-    m_size->setText(MediaText::Resolution(m_item.request.settings.resolution));
+    m_size->setText(SizeText());
+    m_look->setText(tr("%n to look at", nullptr, m_item.shotsToLookAt.size()));
     m_bar->setAccessibleName(tr("Progress of %1").arg(name));
     m_cancel->setAccessibleName(tr("Cancel %1").arg(name));
     m_retry->setAccessibleName(tr("Retry %1").arg(name));
+    m_look->setAccessibleName(tr("Look at the doubtful shots of %1").arg(name));
     m_show->setAccessibleName(tr("Show %1 in its folder").arg(name));
+}
+
+QString ExportCard::SizeText() const
+{
+    const QSize resolution = m_item.request.settings.resolution;
+    if (!resolution.isEmpty() || !m_item.plan) {
+        return MediaText::Resolution(resolution);
+    }
+    return MediaText::Aspect(m_item.plan->aspect);
+}
+
+QString ExportCard::ProgressText() const
+{
+    const QString percent = tr("%1 %").arg(m_item.progress / 100);
+    if (m_item.isPaused) {
+        return tr("Paused · %1").arg(percent);
+    }
+    return m_item.secondsLeft ? QStringLiteral("%1 · %2").arg(percent, MediaText::TimeLeft(*m_item.secondsLeft))
+                              : percent;
 }
 
 QString ExportCard::StatusText() const
@@ -143,11 +168,10 @@ QString ExportCard::StatusText() const
     switch (m_item.state) {
     case State::Waiting:
         return tr("Waiting");
-    case State::Running: {
-        const QString percent = tr("%1 %").arg(m_item.progress / 100);
-        return m_item.secondsLeft ? QStringLiteral("%1 · %2").arg(percent, MediaText::TimeLeft(*m_item.secondsLeft))
-                                  : percent;
-    }
+    case State::Analyzing:
+        return tr("Analyzing · %1").arg(ProgressText());
+    case State::Running:
+        return ProgressText();
     case State::Cancelling:
         return tr("Cancelling…");
     case State::Done: {
@@ -169,6 +193,9 @@ void ExportCard::RetranslateUi()
     m_cancel->setToolTip(tr("Cancel"));
     m_retry->setText(tr("Retry"));
     m_show->setText(tr("Show in folder"));
+    m_retry->setToolTip(tr("Export it again"));
+    m_look->setToolTip(tr("Opens the video at these settings; N leads to its doubtful shots."));
+    m_show->setToolTip(tr("Show the file in its folder"));
 }
 
 void ExportCard::changeEvent(QEvent* event)

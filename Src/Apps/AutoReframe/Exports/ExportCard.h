@@ -23,6 +23,8 @@ Q_SIGNALS:
     void sigCancel();
     void sigRetry();
     void sigShowInFolder();
+    /// At the doubtful shots.
+    void sigLook();
     void sigRemove();
 
 protected:
@@ -33,6 +35,8 @@ private:
     void InitLayout();
     void RetranslateUi();
     QString StatusText() const;
+    QString ProgressText() const;
+    QString SizeText() const;
     void ShowTexts();
 
     ExportItem m_item;
@@ -42,5 +46,6 @@ private:
     KxLabel* m_status = nullptr;
     KxLabel* m_size = nullptr;
     LinkButton* m_retry = nullptr;
+    LinkButton* m_look = nullptr;
     LinkButton* m_show = nullptr;
 };

@@ -13,9 +13,10 @@ namespace
 using State = ExportItem::State;
 
 /// An export that is being cancelled is not wanted any more. The first entry of a stored state is what is restored.
-constexpr std::array<std::pair<State, StoredExport::State>, 7> States{{
+constexpr std::array<std::pair<State, StoredExport::State>, 8> States{{
     {State::Waiting, StoredExport::State::Waiting},
     {State::Running, StoredExport::State::Running},
+    {State::Analyzing, StoredExport::State::Running},
     {State::Done, StoredExport::State::Done},
     {State::Failed, StoredExport::State::Failed},
     {State::Cancelled, StoredExport::State::Cancelled},
@@ -67,12 +68,15 @@ void ExportKeeper::Restore(const StoredContents& contents)
         ExportItem item;
         item.state = FromStoredState(stored.state);
         item.request = stored.request;
+        item.plan = stored.plan;
+        item.frames = stored.frames;
+        item.shotsToLookAt = stored.shotsToLookAt;
         item.filePath = stored.filePath;
         item.fileBytes = stored.fileBytes;
         item.message = stored.message;
         const int id = m_queue.Restore(item);
         m_keys.insert(id, stored.key);
-        m_savedStates.insert(id, item.state);
+        m_saved.insert(id, {item.state, item.shotsToLookAt});
     }
     m_isRestoring = false;
 }
@@ -84,6 +88,9 @@ StoredExport ExportKeeper::ToStored(int id) const
     stored.key = m_keys.value(id);
     stored.state = ToStoredState(item->state);
     stored.request = item->request;
+    stored.plan = item->plan;
+    stored.frames = item->frames;
+    stored.shotsToLookAt = item->shotsToLookAt;
     stored.filePath = item->filePath;
     stored.fileBytes = item->fileBytes;
     stored.message = item->message;
@@ -96,7 +103,7 @@ void ExportKeeper::SaveNew(int id)
         return;
     }
     m_keys.insert(id, MakeKey());
-    m_savedStates.insert(id, m_queue.Find(id)->state);
+    m_saved.insert(id, {m_queue.Find(id)->state, {}});
     m_store.SaveExport(ToStored(id));
 }
 
@@ -104,17 +111,19 @@ void ExportKeeper::SaveChange(int id)
 {
     const ExportItem* const item = m_queue.Find(id);
     // Progress is not saved: an interrupted export begins anew.
-    if (!m_saves || item == nullptr || m_savedStates.value(id) == item->state) {
+    const Saved now{item != nullptr ? item->state : State::Waiting,
+                    item != nullptr ? item->shotsToLookAt : QList<uint>()};
+    if (!m_saves || item == nullptr || m_saved.value(id) == now) {
         return;
     }
-    m_savedStates.insert(id, item->state);
+    m_saved.insert(id, now);
     m_store.SaveExportState(ToStored(id));
 }
 
 void ExportKeeper::SaveRemoval(int id)
 {
     if (m_saves) {
-        m_savedStates.remove(id);
+        m_saved.remove(id);
         m_store.RemoveExport(m_keys.take(id));
     }
 }

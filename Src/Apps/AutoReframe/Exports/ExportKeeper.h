@@ -31,7 +31,8 @@ private:
     LibraryStore& m_store;
     /// By the queue's number.
     QHash<int, qint64> m_keys;
-    QHash<int, ExportItem::State> m_savedStates;
+    using Saved = QPair<ExportItem::State, QList<uint>>;
+    QHash<int, Saved> m_saved;
     bool m_isRestoring = false;
     bool m_saves = true;
 };

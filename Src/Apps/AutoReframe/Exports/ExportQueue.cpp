@@ -1,6 +1,6 @@
 #include <Apps/AutoReframe/Exports/ExportQueue.h>
 
-#include <QFileInfo>
+#include <Apps/AutoReframe/Exports/PauseGate.h>
 
 #include <algorithm>
 #include <chrono>
@@ -10,10 +10,6 @@ namespace
 
 using State = ExportItem::State;
 
-constexpr int WholeProgress = 10000;
-/// An estimate of the time left from less than this would jump about.
-constexpr qint64 EnoughForEstimateMs = 1000;
-
 qint64 SteadyMs()
 {
     const auto now = std::chrono::steady_clock::now().time_since_epoch();
@@ -22,30 +18,63 @@ qint64 SteadyMs()
 
 } // namespace
 
-ExportQueue::ExportQueue(Renderer renderer, QObject* parent)
-    : ExportQueue(std::move(renderer), &SteadyMs, parent)
+ExportQueue::ExportQueue(Workers workers, QObject* parent)
+    : ExportQueue(std::move(workers), &SteadyMs, parent)
 {
 }
 
-ExportQueue::ExportQueue(Renderer renderer, Clock clock, QObject* parent)
+ExportQueue::ExportQueue(Workers workers, const Stopwatch::Clock& clock, QObject* parent)
     : QObject(parent)
-    , m_renderer(std::move(renderer))
-    , m_clock(std::move(clock))
+    , m_workers(std::move(workers))
+    , m_stateTime(clock)
+    , m_roundTime(clock)
+    , m_gate(std::make_shared<PauseGate>())
 {
 }
 
-ExportQueue::~ExportQueue() = default;
+ExportQueue::~ExportQueue()
+{
+    m_gate->Open();
+}
 
 int ExportQueue::Add(const ExportRequest& request)
 {
     ExportItem item;
-    item.id = ++m_lastId;
     item.request = request;
+    item.frames = request.source.crops != nullptr ? static_cast<qint64>(request.source.crops->size()) : 0;
     item.filePath = request.settings.outputPath;
+    Enqueue(std::move(item));
+    return m_lastId;
+}
+
+int ExportQueue::AddPlanned(const PlannedExport& planned)
+{
+    ExportItem item;
+    item.request.source.path = planned.path;
+    item.request.settings.outputPath = planned.outputPath;
+    item.plan = planned.plan;
+    item.frames = planned.frames;
+    item.filePath = planned.outputPath;
+    Enqueue(std::move(item));
+    return m_lastId;
+}
+
+void ExportQueue::Enqueue(ExportItem item)
+{
+    item.id = ++m_lastId;
+    item.isPaused = m_isPaused;
     m_items.push_back(item);
+    EnterRound(item.id);
     Q_EMIT sigAdded(item.id);
     StartNext();
-    return item.id;
+}
+
+void ExportQueue::EnterRound(int id)
+{
+    if (m_round.isEmpty()) {
+        m_roundTime.Restart();
+    }
+    m_round.insert(id);
 }
 
 int ExportQueue::Restore(ExportItem item)
@@ -65,9 +94,15 @@ void ExportQueue::Cancel(int id)
     }
     if (item->state == State::Waiting) {
         item->state = State::Cancelled;
-    } else if (item->state == State::Running) {
+        item->isPaused = false;
+        m_round.remove(id);
+        HandleIdle();
+    } else if (item->state == State::Running || item->state == State::Analyzing) {
         item->state = State::Cancelling;
-        m_task->Cancel();
+        if (m_task != nullptr) {
+            m_task->Cancel();
+        }
+        m_gate->Open();
     } else {
         return;
     }
@@ -82,6 +117,15 @@ void ExportQueue::CancelAll()
     }
 }
 
+void ExportQueue::CancelPlanned()
+{
+    for (auto item = m_items.rbegin(); item != m_items.rend(); ++item) {
+        if (item->plan) {
+            Cancel(item->id);
+        }
+    }
+}
+
 void ExportQueue::Retry(int id)
 {
     const auto found =
@@ -93,9 +137,12 @@ void ExportQueue::Retry(int id)
     found->progress = 0;
     found->secondsLeft.reset();
     found->message.clear();
+    found->shotsToLookAt.clear();
+    found->isPaused = m_isPaused;
     found->filePath = found->request.settings.outputPath;
     // The list shows the queue in its order, so the export moves to its end.
     std::rotate(found, found + 1, m_items.end());
+    EnterRound(id);
     Q_EMIT sigChanged(id);
     StartNext();
 }
@@ -107,6 +154,7 @@ void ExportQueue::Remove(int id)
         return;
     }
     m_items.erase(m_items.begin() + (item - m_items.data()));
+    m_round.remove(id);
     Q_EMIT sigRemoved(id);
 }
 
@@ -123,11 +171,11 @@ void ExportQueue::RemoveFinished()
     }
 }
 
-std::vector<int> ExportQueue::Interrupted() const
+std::vector<int> ExportQueue::WithState(State state, bool isPlanned) const
 {
     std::vector<int> ids;
     for (const ExportItem& item : m_items) {
-        if (item.state == State::Interrupted) {
+        if (item.state == state && (item.plan || !isPlanned)) {
             ids.push_back(item.id);
         }
     }
@@ -136,21 +184,28 @@ std::vector<int> ExportQueue::Interrupted() const
 
 void ExportQueue::ResumeInterrupted()
 {
-    for (const int id : Interrupted()) {
+    for (const int id : WithState(State::Interrupted, false)) {
         Retry(id);
     }
 }
 
 void ExportQueue::DiscardInterrupted()
 {
-    for (const int id : Interrupted()) {
+    for (const int id : WithState(State::Interrupted, false)) {
         Remove(id);
+    }
+}
+
+void ExportQueue::RetryFailed()
+{
+    for (const int id : WithState(State::Failed, true)) {
+        Retry(id);
     }
 }
 
 int ExportQueue::InterruptedCount() const
 {
-    return static_cast<int>(Interrupted().size());
+    return static_cast<int>(WithState(State::Interrupted, false).size());
 }
 
 const ExportItem* ExportQueue::Find(int id) const
@@ -177,77 +232,40 @@ int ExportQueue::UnfinishedCount() const
         std::count_if(m_items.begin(), m_items.end(), [](const ExportItem& item) { return item.IsActive(); }));
 }
 
-void ExportQueue::StartNext()
+QueueSummary ExportQueue::Summary() const
 {
-    if (m_task != nullptr) {
-        return;
-    }
-    const auto next = std::find_if(m_items.begin(), m_items.end(),
-                                   [](const ExportItem& item) { return item.state == State::Waiting; });
-    if (next != m_items.end()) {
-        Start(*next);
-    }
-}
-
-void ExportQueue::Start(ExportItem& item)
-{
-    const int id = item.id;
-    item.state = State::Running;
-    m_startedMs = m_clock();
-    const auto mailbox = std::make_shared<Mailbox>();
-    KxRenderJob::Callbacks callbacks;
-    callbacks.progress = [this, id, mailbox](int progress) {
-        mailbox->progress = progress;
-        if (mailbox->isRead.exchange(false)) {
-            QMetaObject::invokeMethod(
-                this, [this, id, mailbox] { HandleProgress(id, mailbox); }, Qt::QueuedConnection);
+    QueueSummary summary = QueueSummary::Of(m_items);
+    QueueWork work;
+    for (const ExportItem& item : m_items) {
+        if (m_round.contains(item.id)) {
+            work.Add(item);
         }
-    };
-    callbacks.finished = [this, id](const KxRenderResult& result) {
-        QMetaObject::invokeMethod(
-            this, [this, id, result] { HandleFinished(id, result); }, Qt::QueuedConnection);
-    };
-    m_task = m_renderer(item.request, callbacks);
-    Q_EMIT sigChanged(id);
+    }
+    summary.progress = work.Progress();
+    summary.secondsLeft = work.SecondsLeft(m_roundTime.ElapsedMs());
+    return summary;
 }
 
-void ExportQueue::HandleProgress(int id, const std::shared_ptr<Mailbox>& mailbox)
+const ExportItem* ExportQueue::FirstToLookAt() const
 {
-    mailbox->isRead = true;
-    ExportItem* const item = Item(id);
-    if (item == nullptr || item->state != State::Running) {
-        return;
-    }
-    item->progress = mailbox->progress;
-    const qint64 elapsedMs = m_clock() - m_startedMs;
-    if (elapsedMs >= EnoughForEstimateMs && item->progress > 0) {
-        item->secondsLeft = 1 + elapsedMs * (WholeProgress - item->progress) / item->progress / 1000;
-    }
-    Q_EMIT sigChanged(id);
+    const auto found = std::find_if(m_items.begin(), m_items.end(), [](const ExportItem& item) {
+        return item.state == State::Done && !item.shotsToLookAt.isEmpty();
+    });
+    return found != m_items.end() ? &*found : nullptr;
 }
 
-void ExportQueue::HandleFinished(int id, const KxRenderResult& result)
+void ExportQueue::MarkSeen(const QString& path, const QSet<uint>& shots)
 {
-    m_task.reset();
-    if (ExportItem* const item = Item(id)) {
-        item->secondsLeft.reset();
-        switch (result.outcome) {
-        case KxOutcome::Done:
-            item->state = State::Done;
-            item->progress = WholeProgress;
-            item->filePath = result.outputPath;
-            item->fileBytes = QFileInfo(result.outputPath).size();
-            item->message = result.warning;
-            break;
-        case KxOutcome::Cancelled:
-            item->state = State::Cancelled;
-            break;
-        case KxOutcome::Failed:
-            item->state = State::Failed;
-            item->message = result.message;
-            break;
+    for (ExportItem& item : m_items) {
+        if (item.request.source.path != path) {
+            continue;
         }
-        Q_EMIT sigChanged(id);
+        const auto isSeen = [&shots](uint shot) { return shots.contains(shot); };
+        QList<uint>& left = item.shotsToLookAt;
+        const int before = left.size();
+        left.erase(std::remove_if(left.begin(), left.end(), isSeen), left.end());
+        if (left.size() != before) {
+            Q_EMIT sigChanged(item.id);
+        }
     }
-    StartNext();
 }

@@ -22,6 +22,11 @@ QString MediaText::Resolution(const QSize& resolution)
     return QStringLiteral("%1 × %2").arg(QString::number(resolution.width()), QString::number(resolution.height()));
 }
 
+QString MediaText::Aspect(const QSize& aspect)
+{
+    return QStringLiteral("%1:%2").arg(QString::number(aspect.width()), QString::number(aspect.height()));
+}
+
 QString MediaText::FrameRate(const KxRational& rate)
 {
     if (!rate.IsPositive()) {

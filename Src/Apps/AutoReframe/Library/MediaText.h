@@ -10,6 +10,8 @@ namespace MediaText
 {
 /// "1920 × 1080".
 QString Resolution(const QSize& resolution);
+/// "9:16".
+QString Aspect(const QSize& aspect);
 /// "30 fps", "59.94 fps"; empty when unknown.
 QString FrameRate(const KxRational& rate);
 /// "1920 × 1080 · 30 fps".
