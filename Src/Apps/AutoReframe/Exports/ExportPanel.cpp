@@ -2,6 +2,7 @@
 
 #include <Apps/AutoReframe/Exports/ExportCard.h>
 #include <Apps/AutoReframe/Exports/LinkButton.h>
+#include <Apps/AutoReframe/Exports/QueueBar.h>
 
 #include <KxWidgets/KxLabel.h>
 #include <KxWidgets/KxUIStyle.h>
@@ -34,6 +35,11 @@ ExportPanel::ExportPanel(ExportQueue& queue, QWidget* parent)
     connect(m_clear, &QAbstractButton::clicked, &m_queue, &ExportQueue::RemoveFinished);
     connect(m_resume, &QAbstractButton::clicked, &m_queue, &ExportQueue::ResumeInterrupted);
     connect(m_discard, &QAbstractButton::clicked, &m_queue, &ExportQueue::DiscardInterrupted);
+    connect(m_queueBar, &QueueBar::sigLook, this, [this] {
+        if (const ExportItem* const item = m_queue.FirstToLookAt()) {
+            Q_EMIT sigLook(item->id);
+        }
+    });
     connect(&m_queue, &ExportQueue::sigAdded, this, &ExportPanel::AddCard);
     connect(&m_queue, &ExportQueue::sigChanged, this, &ExportPanel::UpdateCard);
     connect(&m_queue, &ExportQueue::sigRemoved, this, &ExportPanel::RemoveCard);
@@ -66,6 +72,10 @@ void ExportPanel::InitLayout()
     auto* const barRow = new QHBoxLayout;
     barRow->setContentsMargins(MarginPx, 0, MarginPx, 0);
     barRow->addWidget(m_resumeBar);
+    m_queueBar = new QueueBar(m_queue, this);
+    auto* const queueRow = new QHBoxLayout;
+    queueRow->setContentsMargins(MarginPx, 0, MarginPx, 0);
+    queueRow->addWidget(m_queueBar);
 
     auto* const head = new QHBoxLayout;
     head->setContentsMargins(MarginPx, 0, MarginPx, 0);
@@ -93,6 +103,7 @@ void ExportPanel::InitLayout()
     column->setSpacing(8);
     column->addLayout(head);
     column->addLayout(barRow);
+    column->addLayout(queueRow);
     column->addWidget(area, 1);
 }
 
@@ -141,6 +152,7 @@ void ExportPanel::AddCard(int id)
         card, &ExportCard::sigRemove, &m_queue, [this, id] { m_queue.Remove(id); }, Qt::QueuedConnection);
     connect(card, &ExportCard::sigShowInFolder, this,
             [this, id] { Q_EMIT sigShowInFolder(m_queue.Find(id)->filePath); });
+    connect(card, &ExportCard::sigLook, this, [this, id] { Q_EMIT sigLook(id); });
     // Before the stretch.
     m_column->insertWidget(m_column->count() - 1, card);
     UpdateCard(id);
@@ -166,6 +178,7 @@ void ExportPanel::RemoveCard(int id)
 
 void ExportPanel::ShowHints()
 {
+    m_queueBar->ShowState();
     m_hint->setVisible(m_cards.isEmpty());
     m_clear->setVisible(m_queue.FinishedCount() > 0);
     const int interrupted = m_queue.InterruptedCount();

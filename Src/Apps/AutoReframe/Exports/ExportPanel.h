@@ -9,6 +9,7 @@ class ExportQueue;
 class KxLabel;
 class LinkButton;
 class QVBoxLayout;
+class QueueBar;
 
 /// The export queue beside the library, one card for each export.
 class ExportPanel : public KxWidget
@@ -21,6 +22,8 @@ public:
 
 Q_SIGNALS:
     void sigShowInFolder(const QString& filePath);
+    /// At the doubtful shots of an export, given by its number.
+    void sigLook(int id);
 
 protected:
     void RetranslateUi() override;
@@ -37,6 +40,7 @@ private:
     KxLabel* m_heading = nullptr;
     LinkButton* m_clear = nullptr;
     QWidget* m_resumeBar = nullptr;
+    QueueBar* m_queueBar = nullptr;
     KxLabel* m_interrupted = nullptr;
     LinkButton* m_resume = nullptr;
     LinkButton* m_discard = nullptr;
