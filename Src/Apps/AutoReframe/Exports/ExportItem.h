@@ -2,6 +2,15 @@
 
 #include <Apps/AutoReframe/Backend/MediaBackend.h>
 
+/// An export whose crops are found when its turn comes. A plain record.
+struct PlannedExport {
+    QString path;
+    ReframePlan plan;
+    QString outputPath;
+    /// Of the video; for estimates.
+    qint64 frames = 0;
+};
+
 /// One export of the queue. A plain record.
 struct ExportItem {
     enum class State {

@@ -232,6 +232,13 @@ int ExportQueue::UnfinishedCount() const
         std::count_if(m_items.begin(), m_items.end(), [](const ExportItem& item) { return item.IsActive(); }));
 }
 
+bool ExportQueue::WillWrite(const QString& path) const
+{
+    return std::any_of(m_items.begin(), m_items.end(), [&path](const ExportItem& item) {
+        return !item.IsFinished() && item.request.settings.outputPath.compare(path, Qt::CaseInsensitive) == 0;
+    });
+}
+
 QueueSummary ExportQueue::Summary() const
 {
     QueueSummary summary = QueueSummary::Of(m_items);

@@ -12,15 +12,6 @@
 
 class PauseGate;
 
-/// An export whose crops are found when its turn comes. A plain record.
-struct PlannedExport {
-    QString path;
-    ReframePlan plan;
-    QString outputPath;
-    /// Of the video; for estimates.
-    qint64 frames = 0;
-};
-
 /// The exports: one is analyzed and rendered at a time, the others wait in the order in which they were added.
 /// User-interface thread.
 class ExportQueue : public QObject
@@ -72,6 +63,8 @@ public:
     int UnfinishedCount() const;
     int FinishedCount() const;
     int InterruptedCount() const;
+    /// Whether an export that is not finished is to be written to this path.
+    bool WillWrite(const QString& path) const;
     QueueSummary Summary() const;
     /// The first of those that QueueSummary::toLookAt counts; null without one.
     const ExportItem* FirstToLookAt() const;

@@ -53,4 +53,6 @@ struct StoredContents {
     QStringList recent;
     QStringList selection;
     int scrollPx = 0;
+    /// What "Reframe All…" was asked for last; empty before the first time.
+    QByteArray batchSettings;
 };

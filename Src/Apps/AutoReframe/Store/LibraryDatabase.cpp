@@ -110,6 +110,8 @@ KxError LibraryDatabase::ReadState(StoredContents& contents)
             }
         } else if (name == QLatin1String("scroll")) {
             contents.scrollPx = row.value(1).toInt();
+        } else if (name == QLatin1String("batch")) {
+            contents.batchSettings = row.value(1).toString().toUtf8();
         }
     });
 }

@@ -290,3 +290,10 @@ void LibraryStore::SaveScroll(int scrollPx)
         return database.SaveState(QStringLiteral("scroll"), QString::number(scrollPx));
     });
 }
+
+void LibraryStore::SaveBatchSettings(const QByteArray& settings)
+{
+    Save([settings](LibraryDatabase& database) {
+        return database.SaveState(QStringLiteral("batch"), QString::fromUtf8(settings));
+    });
+}

@@ -44,6 +44,7 @@ public:
     void RemoveExport(qint64 key);
     void SaveSelection(const QStringList& paths);
     void SaveScroll(int scrollPx);
+    void SaveBatchSettings(const QByteArray& settings);
 
     /// Calls back later, with a null picture if there is none; without a file at once.
     void ReadThumbnail(const QString& path, const std::function<void(const QImage& picture)>& ready);

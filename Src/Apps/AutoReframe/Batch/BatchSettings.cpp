@@ -1,0 +1,84 @@
+#include <Apps/AutoReframe/Batch/BatchSettings.h>
+
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+namespace
+{
+
+bool Changes(const BatchVideo& video, const QSize& aspect)
+{
+    return video.resolution.isEmpty() ||
+           qint64{video.resolution.width()} * aspect.height() != qint64{video.resolution.height()} * aspect.width();
+}
+
+} // namespace
+
+QList<PlannedExport> BatchSettings::PlanFor(const QList<BatchVideo>& videos,
+                                            const OutputNames::Unique::IsTaken& isTaken) const
+{
+    QList<PlannedExport> planned;
+    OutputNames::Unique paths(isTaken);
+    OutputNames::Facts facts;
+    facts.speed = speed;
+    facts.date = QDate::currentDate();
+    for (const BatchVideo& video : videos) {
+        facts.name = QFileInfo(video.path).completeBaseName();
+        for (const QSize& aspect : aspects) {
+            if (Changes(video, aspect)) {
+                facts.aspect = aspect;
+                const QString path = paths.Path(folder, OutputNames::Expand(pattern, facts));
+                planned += PlannedExport{video.path, {aspect, speed, shortSidePx}, path, video.frames};
+            }
+        }
+        ++facts.number;
+    }
+    return planned;
+}
+
+int BatchSettings::CountFor(const QList<BatchVideo>& videos) const
+{
+    int count = 0;
+    for (const BatchVideo& video : videos) {
+        for (const QSize& aspect : aspects) {
+            count += Changes(video, aspect) ? 1 : 0;
+        }
+    }
+    return count;
+}
+
+QByteArray BatchSettings::ToJson() const
+{
+    QJsonArray sides;
+    for (const QSize& aspect : aspects) {
+        sides += QJsonArray{aspect.width(), aspect.height()};
+    }
+    const QJsonObject object{{QStringLiteral("aspects"), sides},
+                             {QStringLiteral("speed"), speed},
+                             {QStringLiteral("short_side"), shortSidePx},
+                             {QStringLiteral("folder"), folder},
+                             {QStringLiteral("pattern"), pattern}};
+    return QJsonDocument(object).toJson(QJsonDocument::Compact);
+}
+
+BatchSettings BatchSettings::FromJson(const QByteArray& text)
+{
+    const QJsonObject object = QJsonDocument::fromJson(text).object();
+    BatchSettings settings;
+    QList<QSize> aspects;
+    const QJsonArray sides = object.value(QLatin1String("aspects")).toArray();
+    for (const QJsonValue pair : sides) {
+        const QSize aspect(pair[0].toInt(), pair[1].toInt());
+        if (!aspect.isEmpty()) {
+            aspects += aspect;
+        }
+    }
+    settings.aspects = aspects.isEmpty() ? settings.aspects : aspects;
+    settings.speed = object.value(QLatin1String("speed")).toInt(settings.speed);
+    settings.shortSidePx = object.value(QLatin1String("short_side")).toInt(settings.shortSidePx);
+    settings.folder = object.value(QLatin1String("folder")).toString();
+    settings.pattern = object.value(QLatin1String("pattern")).toString(settings.pattern);
+    return settings;
+}

@@ -1,0 +1,112 @@
+#include <Apps/AutoReframe/Batch/OutputNames.h>
+
+#include <KxCore/KxWindowsNames.h>
+
+#include <QCoreApplication>
+#include <QRegularExpression>
+
+namespace
+{
+
+QString Translated(const char* text)
+{
+    return QCoreApplication::translate("OutputNames", text);
+}
+
+const QRegularExpression& Placeholder()
+{
+    static const QRegularExpression placeholder(QStringLiteral("\\{[^{}]*\\}"));
+    return placeholder;
+}
+
+QString SpeedName(int speed)
+{
+    constexpr int fast = 8;
+    constexpr int slow = 24;
+    return speed == fast ? QStringLiteral("fast") : speed == slow ? QStringLiteral("slow") : QStringLiteral("auto");
+}
+
+QString Replacement(const QString& placeholder, const OutputNames::Facts& facts)
+{
+    if (placeholder == QLatin1String("{name}")) {
+        return facts.name;
+    }
+    if (placeholder == QLatin1String("{ratio}")) {
+        return QStringLiteral("%1x%2").arg(QString::number(facts.aspect.width()),
+                                           QString::number(facts.aspect.height()));
+    }
+    if (placeholder == QLatin1String("{speed}")) {
+        return SpeedName(facts.speed);
+    }
+    if (placeholder == QLatin1String("{date}")) {
+        return facts.date.toString(Qt::ISODate);
+    }
+    return QString::number(facts.number);
+}
+
+/// A name that every platform accepts.
+QString Permitted(QString name)
+{
+    static const QRegularExpression forbidden(QStringLiteral("[\\x00-\\x1f*|<>\\\\?/:\"]"));
+    static const QRegularExpression atTheEnd(QStringLiteral("[. ]+$"));
+    name.replace(forbidden, QStringLiteral("-"));
+    // Room for a number and the suffix in the 255 bytes of a name.
+    constexpr int mostBytes = 235;
+    while (name.toUtf8().size() > mostBytes) {
+        name.chop(name.size() > 1 && name.at(name.size() - 1).isLowSurrogate() ? 2 : 1);
+    }
+    name = name.remove(atTheEnd).trimmed();
+    const bool isDevice = KxWindowsNames::ReasonNotToName(QStringLiteral("C:\\%1.mp4").arg(name)).has_value();
+    return isDevice ? QLatin1Char('_') + name : name;
+}
+
+} // namespace
+
+QStringList OutputNames::Placeholders()
+{
+    return {QStringLiteral("{name}"), QStringLiteral("{ratio}"), QStringLiteral("{speed}"), QStringLiteral("{date}"),
+            QStringLiteral("{number}")};
+}
+
+KxError OutputNames::Problem(const QString& pattern)
+{
+    auto found = Placeholder().globalMatch(pattern);
+    while (found.hasNext()) {
+        const QString placeholder = found.next().captured();
+        if (!Placeholders().contains(placeholder)) {
+            return Translated("There is no %1. Use %2.").arg(placeholder, Placeholders().join(QStringLiteral(", ")));
+        }
+    }
+    Facts facts;
+    facts.name = QStringLiteral("a");
+    facts.aspect = QSize(1, 1);
+    return Expand(pattern, facts).isEmpty() ? KxError(Translated("Enter a file name.")) : std::nullopt;
+}
+
+QString OutputNames::Expand(const QString& pattern, const Facts& facts)
+{
+    QString name;
+    int end = 0;
+    auto found = Placeholder().globalMatch(pattern);
+    while (found.hasNext()) {
+        const QRegularExpressionMatch match = found.next();
+        name += pattern.mid(end, match.capturedStart() - end) + Replacement(match.captured(), facts);
+        end = match.capturedEnd();
+    }
+    return Permitted(name + pattern.mid(end));
+}
+
+OutputNames::Unique::Unique(IsTaken isTaken)
+    : m_isTaken(std::move(isTaken))
+{
+}
+
+QString OutputNames::Unique::Path(const QString& folder, const QString& name)
+{
+    QString path = QStringLiteral("%1/%2.mp4").arg(folder, name);
+    for (int number = 2; m_given.contains(path.toLower()) || m_isTaken(path); ++number) {
+        path = QStringLiteral("%1/%2 (%3).mp4").arg(folder, name, QString::number(number));
+    }
+    m_given.insert(path.toLower());
+    return path;
+}
