@@ -148,6 +148,8 @@ QWidget* MainWindow::MakeTopBar()
     m_menu->setFixedSize(ButtonPx, ButtonPx);
     m_import = KxPushButton::CreateSecondaryButton(bar, ButtonPx);
     m_import->setObjectName(QStringLiteral("TopBar_import"));
+    m_reframeAll = KxPushButton::CreateSecondaryButton(bar, ButtonPx);
+    m_reframeAll->setObjectName(QStringLiteral("TopBar_reframeAll"));
     m_reframe = KxPushButton::CreatePrimaryButton(bar, ButtonPx);
     m_reframe->setObjectName(QStringLiteral("TopBar_reframe"));
     auto* const row = new QHBoxLayout(bar);
@@ -156,6 +158,7 @@ QWidget* MainWindow::MakeTopBar()
     row->addWidget(m_title, 1);
     row->addWidget(m_menu);
     row->addWidget(m_import);
+    row->addWidget(m_reframeAll);
     row->addWidget(m_reframe);
     return bar;
 }
@@ -176,10 +179,14 @@ void MainWindow::ConnectSignals()
 {
     connect(m_menu, &QAbstractButton::clicked, this, &MainWindow::ShowMenu);
     connect(m_import, &QAbstractButton::clicked, this, &MainWindow::ChooseFiles);
+    connect(m_reframeAll, &QAbstractButton::clicked, this, &MainWindow::ReframeAllSelected);
     connect(m_reframe, &QAbstractButton::clicked, this, &MainWindow::ReframeSelected);
     connect(new QShortcut(QKeySequence::Open, this), &QShortcut::activated, this, &MainWindow::ChooseFiles);
     connect(new QShortcut(Qt::CTRL + Qt::Key_Q, this), &QShortcut::activated, this, &QWidget::close);
+    connect(new QShortcut(Qt::CTRL + Qt::SHIFT + Qt::Key_R, this), &QShortcut::activated, this,
+            &MainWindow::ReframeAllSelected);
     connect(m_panel, &ExportPanel::sigShowInFolder, this, &ShowFolder);
+    connect(m_panel, &ExportPanel::sigLook, this, &MainWindow::LookAtExport);
     connect(&m_store, &LibraryStore::sigNotice, this, &MainWindow::Inform);
     constexpr int savesAfterMs = 300;
     m_saving->setSingleShot(true);
@@ -198,6 +205,7 @@ void MainWindow::ConnectLibrary()
     connect(m_view, &MediaLibraryView::sigImport, this, &MainWindow::ChooseFiles);
     connect(m_view, &MediaLibraryView::sigRemove, this, &MainWindow::RemoveSelected);
     connect(m_view, &MediaLibraryView::sigReframe, this, &MainWindow::ReframeSelected);
+    connect(m_view, &MediaLibraryView::sigReframeAll, this, &MainWindow::ReframeAllSelected);
     connect(m_view, &MediaLibraryView::sigShowInFolder, this,
             [this](const QModelIndex& video) { ShowFolder(m_library->Model().PathAt(video)); });
     connect(m_library, &MediaLibrary::sigImported, this, &MainWindow::SelectImported);
@@ -223,7 +231,11 @@ void MainWindow::RetranslateUi()
     m_title->setText(tr("Auto Reframe"));
     m_menu->setToolTip(tr("Menu"));
     m_import->setText(tr("Import…"));
+    m_reframeAll->setText(tr("Reframe All…"));
     m_reframe->setText(tr("Auto Reframe…"));
+    m_import->setToolTip(tr("Add videos to the library"));
+    m_reframeAll->setToolTip(tr("Reframe all selected videos without looking at each"));
+    m_reframe->setToolTip(tr("Reframe the selected videos one after the other"));
     ShowState();
 }
 
@@ -234,11 +246,8 @@ void MainWindow::ShowState()
     m_status->setText(videos == 0 ? tr("No videos yet")
                                   : QStringLiteral("%1 · %2").arg(tr("%n videos", nullptr, videos),
                                                                   tr("%n selected", nullptr, selected.size())));
-    const bool canReframe = std::any_of(selected.begin(), selected.end(), [this](const QModelIndex& video) {
-        using State = MediaLibraryModel::State;
-        const State state = m_library->Model().StateAt(video);
-        return state == State::Open || state == State::Stored;
-    });
+    const bool canReframe = !UsableSelected().isEmpty();
+    m_reframeAll->setEnabled(canReframe);
     m_reframe->setEnabled(canReframe);
 }
 
@@ -267,6 +276,7 @@ void MainWindow::Restore(const StoredContents& contents)
 {
     m_view->SetLoading(false);
     ShowState();
+    m_batchSettings = BatchSettings::FromJson(contents.batchSettings);
     SelectPaths(contents.selection);
     // The scroll bar has no range before the cards have their places.
     m_view->doItemsLayout();

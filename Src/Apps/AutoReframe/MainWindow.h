@@ -1,6 +1,7 @@
 #pragma once
 
 #include <Apps/AutoReframe/Backend/MediaBackend.h>
+#include <Apps/AutoReframe/Batch/BatchSettings.h>
 
 #include <KxWidgets/KxWidgetView.h>
 
@@ -74,10 +75,14 @@ private:
     void FindFile(const QModelIndex& video);
     void AskForOtherFile(int id, const QString& path);
     void ReframeSelected();
+    void ReframeAllSelected();
+    QList<int> UsableSelected() const;
+    void LookAtExport(int id);
     void Reframe(const QModelIndexList& videos);
     /// Shows the dialog for the videos that are left, one after the other; returns while one of them is being opened.
     void ReframeNext();
     void ShowDialog(const MediaFile& video);
+    VideoEdits EditsFor(const QString& path) const;
     /// Asks the person before the dialog opens for the next one of `left` selected videos.
     bool ContinuesWith(const QString& path, int left);
     void Inform(const QString& text);
@@ -91,6 +96,7 @@ private:
     KxLabel* m_title = nullptr;
     KxToolButton* m_menu = nullptr;
     KxPushButton* m_import = nullptr;
+    KxPushButton* m_reframeAll = nullptr;
     KxPushButton* m_reframe = nullptr;
     MediaLibraryView* m_view = nullptr;
     ExportPanel* m_panel = nullptr;
@@ -99,5 +105,8 @@ private:
     bool m_isReframing = false;
     /// Numbers of the videos that the dialog is still to be shown for.
     QList<int> m_toReframe;
+    /// The settings with which the next dialog opens, in place of those that the person chose last.
+    std::optional<ReframePlan> m_dialogPlan;
+    BatchSettings m_batchSettings;
     QTimer* const m_saving;
 };

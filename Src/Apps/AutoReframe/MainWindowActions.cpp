@@ -8,6 +8,7 @@
 #include <KxCore/KxConfig.h>
 #include <KxWidgets/KrMessageDialog.h>
 #include <KxWidgets/KxFileDialog.h>
+#include <KxWidgets/KxPushButton.h>
 #include <KxWidgets/KxToolButton.h>
 
 #include <QApplication>
@@ -83,6 +84,10 @@ void MainWindow::ShowMenu()
     menu.addAction(tr("Import…"), this, &MainWindow::ChooseFiles)->setShortcut(QKeySequence::Open);
     menu.addAction(tr("Import Folder…"), this, &MainWindow::ChooseFolder);
     AddRecent(*menu.addMenu(tr("Open Recent")));
+    menu.addSeparator();
+    QAction* const reframeAll = menu.addAction(tr("Reframe All…"), this, &MainWindow::ReframeAllSelected);
+    reframeAll->setShortcut(Qt::CTRL + Qt::SHIFT + Qt::Key_R);
+    reframeAll->setEnabled(m_reframeAll->isEnabled());
     menu.addSeparator();
     menu.addAction(tr("Quit"), this, &QWidget::close)->setShortcut(Qt::CTRL + Qt::Key_Q);
     constexpr int gapPx = 4;
@@ -178,6 +183,7 @@ void MainWindow::Reframe(const QModelIndexList& videos)
         return;
     }
     m_toReframe.clear();
+    m_dialogPlan.reset();
     for (const QModelIndex& video : videos) {
         const MediaLibraryModel::State state = m_library->Model().StateAt(video);
         if (state == MediaLibraryModel::State::Open || state == MediaLibraryModel::State::Stored) {
@@ -217,15 +223,17 @@ void MainWindow::ShowDialog(const MediaFile& video)
     DialogCallbacks callbacks;
     callbacks.exportRequested = [this](const ExportRequest& request) { m_exports->Add(request); };
     callbacks.exportRefused = [this](const QString& message) { Inform(message); };
-    callbacks.loadEdits = [this](const QString& path) { return m_library->EditsOf(path); };
+    callbacks.loadEdits = [this](const QString& path) { return EditsFor(path); };
     callbacks.editsChanged = [this](const QString& path, const VideoEdits& edits) {
         m_library->SaveEdits(path, edits);
+        m_exports->MarkSeen(path, QSet<uint>(edits.seenShots.begin(), edits.seenShots.end()));
     };
     callbacks.unsupported = [this] {
         Inform(tr("This computer may be too slow for the analysis. To try anyway, start it again."));
     };
     m_backend.Get()->Reframe(video, *this, callbacks);
     m_isReframing = false;
+    m_dialogPlan.reset();
     activateWindow();
 }
 

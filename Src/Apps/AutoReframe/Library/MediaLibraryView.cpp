@@ -95,6 +95,8 @@ void MediaLibraryView::contextMenuEvent(QContextMenuEvent* event)
             menu.addAction(tr("Find File…"), this, [this, index] { Q_EMIT sigFindFile(index); });
         } else {
             menu.addAction(tr("Auto Reframe…"), this, &MediaLibraryView::sigReframe);
+            menu.addAction(tr("Reframe All…"), this, &MediaLibraryView::sigReframeAll)
+                ->setShortcut(Qt::CTRL + Qt::SHIFT + Qt::Key_R);
         }
         menu.addAction(tr("Show in folder"), this, [this, index] { Q_EMIT sigShowInFolder(index); });
         menu.addSeparator();

@@ -28,6 +28,7 @@ Q_SIGNALS:
     void sigImport();
     void sigRemove();
     void sigReframe();
+    void sigReframeAll();
     void sigShowInFolder(const QModelIndex& index);
     /// The file of a video is missing, and the person wants to find it.
     void sigFindFile(const QModelIndex& index);
