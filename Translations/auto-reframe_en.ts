@@ -26,6 +26,23 @@
     </message>
 </context>
 <context>
+    <name>BatchDialog</name>
+    <message numerus="yes">
+        <source>Reframe %n Videos</source>
+        <translation>
+            <numerusform>Reframe %n Video</numerusform>
+            <numerusform>Reframe %n Videos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files: %1</source>
+        <translation>
+            <numerusform>%n file: %1</numerusform>
+            <numerusform>%n files: %1</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>ExportPanel</name>
     <message numerus="yes">
         <source>%n exports not finished</source>

@@ -8,6 +8,7 @@ journey.py PROGRAM FOLDER NAME [VIDEO]: pictures of every step stay in FOLDER. T
   kept        the program is killed and started again, the video is renamed and moved
   dense       the first window on a screen of scale 2, in a session that also offers Wayland
   extended    the dialog's extensions; extended-dense: on a screen of scale 2
+  batch       many videos at once; batch-dense: on a screen of scale 2
 """
 
 import fcntl
@@ -17,6 +18,7 @@ import signal
 import sys
 import time
 
+import batch_journey
 import extension_journey
 import footage
 import kept_journey
@@ -392,17 +394,21 @@ def main():
         environment.update(QT_SCALE_FACTOR=str(short_journeys.SCALE), QT_QPA_PLATFORM="", XDG_SESSION_TYPE="wayland")
     elif name.startswith("extended"):
         extension_journey.make_shots(clip)
-        if name == "extended-dense":
-            size = "3200x2000"
-            environment.update(QT_SCALE_FACTOR="2")
-    else:
+    elif not name.startswith("batch"):
         footage.make(clip)
+    if name in ("extended-dense", "batch-dense"):
+        size = "3200x2000"
+        environment.update(QT_SCALE_FACTOR="2")
     started = time.monotonic()
     with Desktop(folder, size, composites=name != "plain") as desktop:
         if name == "kept":
             kept = kept_journey.KeptJourney(desktop, folder, program, clip, environment,
                                             lambda screen: Journey(screen, folder, clip))
             run, stop = kept.run, lambda: kept.screen.stop()
+        elif name.startswith("batch"):
+            batch = batch_journey.BatchJourney(desktop, folder, program, environment,
+                                               lambda screen: Journey(screen, folder, clip))
+            run, stop = batch.run, lambda: batch.screen.stop()
         else:
             screen = Screen(desktop, folder, program, [] if name == "whole" else [clip], environment)
             journey = Journey(screen, folder, clip)

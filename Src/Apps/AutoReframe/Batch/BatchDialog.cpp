@@ -270,14 +270,14 @@ void BatchDialog::RetranslateUi()
     m_ratiosCaption->setText(tr("Aspect Ratios"));
     for (int i = 0; i < m_ratios.size(); ++i) {
         const Ratio& ratio = Ratios[static_cast<size_t>(i)];
-        m_ratios.at(i)->setText(QStringLiteral("%1   %2").arg(MediaText::Aspect(ratio.aspect), tr(ratio.purpose)));
+        m_ratios.at(i)->setText(QStringLiteral("%1 · %2").arg(MediaText::Aspect(ratio.aspect), tr(ratio.purpose)));
     }
     m_speedCaption->setText(tr("Motion Speed"));
     m_speed->setToolTip(tr("How readily the crop follows the subject"));
     m_sizeCaption->setText(tr("Output Size"));
     m_size->setToolTip(tr("The size of the exported videos"));
-    m_patternCaption->setText(tr("File Name"));
-    m_pattern->setToolTip(tr("Replaced in each name: %1").arg(OutputNames::Placeholders().join(QStringLiteral(", "))));
+    m_patternCaption->setText(tr("File Name, with %1").arg(OutputNames::Placeholders().join(QStringLiteral(", "))));
+    m_pattern->setToolTip(tr("What stands in braces is replaced for each file."));
     m_folderCaption->setText(tr("Save To"));
     m_folder->setToolTip(tr("The folder for the exported videos"));
     m_cancel->setText(tr("Cancel"));

@@ -1,0 +1,160 @@
+"""Many videos at once: chosen with the mouse and keys, reframed unattended, interrupted, and looked at."""
+
+import os
+import subprocess
+
+import extension_journey
+import footage
+from screen import Screen
+
+SHOTS = "KrAutoReframePropertyPanel_shots"
+RATIO = "KrAutoReframePropertyPanel_aspectRatio"
+
+
+def make_short(path):
+    """Too short to be analyzed."""
+    subprocess.run(["ffmpeg", "-loglevel", "error", "-y", "-f", "lavfi", "-i",
+                    f"color=c=0x304060:size={footage.WIDTH}x{footage.HEIGHT}:rate={footage.RATE}", "-frames:v", "20",
+                    "-c:v", "libx264", "-pix_fmt", "yuv420p", path], check=True)
+
+
+def make_folder(folder):
+    os.makedirs(os.path.join(folder, "second day"))
+    footage.make(os.path.join(folder, "walk.mp4"))
+    extension_journey.make_shots(os.path.join(folder, "second day", "meeting.mp4"))
+    make_short(os.path.join(folder, "blink.mp4"))
+    for name in ("notes.txt", "second day/cover.png"):
+        with open(os.path.join(folder, name), "w", encoding="utf-8") as file:
+            file.write("not a video")
+
+
+class BatchJourney:
+    def __init__(self, desktop, folder, program, environment, make_journey):
+        self.desktop = desktop
+        self.folder = folder
+        self.program = program
+        self.make_journey = make_journey
+        self.clips = os.path.join(folder, "clips")
+        self.output = os.path.join(folder, "exports")
+        self.environment = dict(environment, KX_DATA=os.path.join(folder, "data"),
+                                KX_CACHE=os.path.join(folder, "cache"))
+        self.screen = None
+        self.journey = None
+        self.shots = 0
+
+    def start(self, *files):
+        self.screen = Screen(self.desktop, self.folder, self.program, files, self.environment)
+        self.screen.shots = self.shots
+        self.journey = self.make_journey(self.screen)
+        return self.screen
+
+    def run(self):
+        make_folder(self.clips)
+        self.import_folder()
+        self.select()
+        self.order()
+        self.pause_and_die()
+        self.resume()
+        self.look()
+        self.journey.quit()
+
+    def import_folder(self):
+        screen = self.start(self.clips)
+        screen.find("StatusBar_text", text="3 videos · 3 selected")
+        screen.find("TopBar_reframeAll", enabled=True)
+        screen.shoot("folder-imported")
+
+    def cards(self):
+        return self.screen.steady(lambda report: [item["rect"] for item in self.screen.first(report, "MediaLibrary", "items")
+                                                  or []][:3], "the cards")
+
+    def select(self):
+        """One by a click, another with Ctrl, a range with Shift, all with Ctrl+A."""
+        screen = self.screen
+        first, second, third = self.cards()
+        screen.click(first)
+        screen.find("StatusBar_text", text="3 videos · 1 selected")
+        screen.tool("keydown", "ctrl")
+        screen.click(third)
+        screen.tool("keyup", "ctrl")
+        screen.find("StatusBar_text", text="3 videos · 2 selected")
+        screen.click(second)
+        screen.find("StatusBar_text", text="3 videos · 1 selected")
+        screen.tool("keydown", "shift")
+        screen.click(third)
+        screen.tool("keyup", "shift")
+        screen.find("StatusBar_text", text="3 videos · 2 selected")
+        screen.key("ctrl+a")
+        screen.find("StatusBar_text", text="3 videos · 3 selected")
+        screen.shoot("all-selected")
+
+    def order(self):
+        screen = self.screen
+        screen.press("TopBar_reframeAll")
+        screen.find("BatchDialog_9x16", checked=True)
+        screen.press("BatchDialog_1x1")
+        screen.press("BatchDialog_16x9")
+        pattern = screen.find("BatchDialog_pattern")
+        screen.click(pattern["rect"], repeat=3)
+        screen.key("ctrl+a")
+        screen.type("{name} {size}")
+        screen.find("BatchDialog_start", enabled=False)
+        screen.shoot("unknown-placeholder")
+        screen.key("ctrl+a")
+        screen.type("{name}-{ratio}")
+        screen.find("BatchDialog_start", enabled=True)
+        field = screen.find("KxOpenFileLineEdit_edit")
+        screen.click(field["rect"], repeat=3)
+        screen.key("ctrl+a")
+        screen.type(self.output)
+        # They are 16:9 already, so that ratio is left out.
+        screen.find("BatchDialog_example", text="6 files: blink-9x16.mp4, blink-1x1.mp4, meeting-9x16.mp4, …")
+        screen.shoot("reframe-all")
+        screen.press("BatchDialog_start")
+        screen.gone("BatchDialog_start")
+
+    def pause_and_die(self):
+        screen = self.screen
+        screen.until(lambda report: "2 failed" in (screen.first(report, "QueueBar_text", "text") or ""), "the short one to fail")
+        screen.press("QueueBar_pause")
+        screen.find("QueueBar_timeLeft", text="Paused")
+        done = screen.find("QueueBar_text")["text"]
+        screen.shoot("paused")
+        assert screen.find("QueueBar_text")["text"] == done, "nothing is done while it is paused"
+        self.shots = screen.shots
+        screen.stop()
+
+    def resume(self):
+        screen = self.start()
+        screen.find("ExportPanel_resume")
+        screen.shoot("offered-again")
+        screen.press("ExportPanel_resume")
+        screen.gone("ExportPanel_resumeBar")
+        screen.until(lambda report: "Analyzing" in str(screen.all(report, "ExportCard_status"))
+                     or "%" in str(screen.all(report, "ExportCard_status")), "work to go on")
+        screen.shoot("resumed")
+        screen.find("QueueBar_text", text="4 done, 2 failed, 2 to look at")
+        screen.shoot("summary")
+        sizes = {}
+        for name in sorted(os.listdir(self.output)):
+            video = footage.stream(os.path.join(self.output, name), "video")
+            sizes[name] = (video["width"], video["height"])
+        assert sizes == {"meeting-1x1.mp4": (540, 540), "meeting-9x16.mp4": (304, 540),
+                         "walk-1x1.mp4": (540, 540), "walk-9x16.mp4": (304, 540)}, sizes
+
+    def look(self):
+        screen, journey = self.screen, self.journey
+        screen.press("QueueBar_look")
+        journey.wait_for_dialog()
+        screen.find("KrAutoReframePropertyPanel_restart", enabled=True)
+        screen.find(RATIO, text="9:16")
+        journey.pause()
+        screen.find(SHOTS, text="2 of 3 shots to look at")
+        screen.shoot("looking")
+        screen.key("n")
+        screen.find(SHOTS, text="1 of 3 shots to look at")
+        screen.key("n")
+        screen.find(SHOTS, text="All doubtful shots seen")
+        journey.close_with_title_bar()
+        screen.find("QueueBar_text", text="4 done, 2 failed")
+        screen.shoot("looked-at")
