@@ -55,6 +55,13 @@
 <context>
     <name>MainWindow</name>
     <message numerus="yes">
+        <source>%n files that are no videos were skipped</source>
+        <translation>
+            <numerusform>%n file that is no video was skipped</numerusform>
+            <numerusform>%n files that are no videos were skipped</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
         <source>%n videos</source>
         <translation>
             <numerusform>%n video</numerusform>

@@ -144,6 +144,30 @@ TEST_F(TestMainWindow, OfAFolderTheVideosInItAndBelowItAreImported)
     EXPECT_TRUE(m_boxes.isEmpty());
 }
 
+TEST_F(TestMainWindow, FilesOfADroppedFolderThatAreNoVideosAreCountedAndNotReported)
+{
+    const QDir folder(m_folder.path());
+    for (const char* const name : {"trip/b.mp4", "trip/bad.mp4", "trip/notes.txt", "trip/day 1/cover.png"}) {
+        const QString path = folder.filePath(QLatin1String(name));
+        folder.mkpath(QFileInfo(path).path());
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    }
+    QMimeData dragged;
+    dragged.setUrls({QUrl::fromLocalFile(folder.filePath(QStringLiteral("trip")))});
+    QDragEnterEvent enter(QPoint(100, 100), Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(m_window.get(), &enter);
+    EXPECT_TRUE(enter.isAccepted());
+    QDropEvent drop(QPointF(100, 100), Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(m_window.get(), &drop);
+    ASSERT_TRUE(WaitForStatus(QStringLiteral("1 videos · 1 selected")));
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] { return Text("StatusBar_skipped") == QLatin1String("3 files that are no videos were skipped"); }, 10000));
+    EXPECT_TRUE(m_boxes.isEmpty());
+    Open({QStringLiteral("a.mp4")});
+    EXPECT_EQ(Text("StatusBar_skipped"), QString());
+}
+
 TEST_F(TestMainWindow, AFolderWithoutVideosIsReported)
 {
     QDir(m_folder.path()).mkdir(QStringLiteral("empty"));

@@ -61,6 +61,7 @@ class BatchJourney:
     def import_folder(self):
         screen = self.start(self.clips)
         screen.find("StatusBar_text", text="3 videos · 3 selected")
+        screen.find("StatusBar_skipped", text="2 files that are no videos were skipped")
         screen.find("TopBar_reframeAll", enabled=True)
         screen.shoot("folder-imported")
 

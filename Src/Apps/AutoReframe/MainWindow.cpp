@@ -169,9 +169,13 @@ QWidget* MainWindow::MakeStatusBar()
     m_status = KxLabel::CreateLabel(bar, QString());
     m_status->setObjectName(QStringLiteral("StatusBar_text"));
     m_status->setProperty("textRole", QStringLiteral("small"));
+    m_skipped = KxLabel::CreateLabel(bar, QString());
+    m_skipped->setObjectName(QStringLiteral("StatusBar_skipped"));
+    m_skipped->setProperty("textRole", QStringLiteral("small"));
     auto* const row = new QHBoxLayout(bar);
     row->setContentsMargins(MarginPx, 0, MarginPx, 0);
-    row->addWidget(m_status);
+    row->addWidget(m_status, 1);
+    row->addWidget(m_skipped);
     return bar;
 }
 
@@ -220,6 +224,9 @@ void MainWindow::ConnectLibrary()
                     ShowState();
                 }
             });
+    connect(m_library, &MediaLibrary::sigSkipped, this, [this](int files) {
+        m_skipped->setText(files > 0 ? tr("%n files that are no videos were skipped", nullptr, files) : QString());
+    });
     connect(m_library, &MediaLibrary::sigRefused, this, &MainWindow::ReportRefused);
     connect(&m_library->Model(), &QAbstractItemModel::rowsInserted, this, &MainWindow::ShowState);
     connect(&m_library->Model(), &QAbstractItemModel::rowsRemoved, this, &MainWindow::ShowState);

@@ -101,6 +101,7 @@ private:
     MediaLibraryView* m_view = nullptr;
     ExportPanel* m_panel = nullptr;
     KxLabel* m_status = nullptr;
+    KxLabel* m_skipped = nullptr;
     bool m_isPainted = false;
     bool m_isReframing = false;
     /// Numbers of the videos that the dialog is still to be shown for.

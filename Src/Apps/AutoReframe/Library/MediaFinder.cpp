@@ -85,18 +85,23 @@ void MediaFinder::Compare(const Wanted& video, const QString& path, const std::f
 }
 
 void MediaFinder::ListFiles(const QString& folder, const QStringList& patterns,
-                            const std::function<void(const QStringList& files)>& ready)
+                            const std::function<void(const Listed& listed)>& ready)
 {
     KxWorker::Job job;
     job.work = [this, folder, patterns, ready](const KxCancelToken& cancel) {
-        QStringList files;
-        QDirIterator entries(folder, patterns, QDir::Files, QDirIterator::Subdirectories);
-        while (entries.hasNext() && files.size() < MostFiles && !cancel.IsCancelled()) {
-            files += entries.next();
+        Listed listed;
+        QDirIterator entries(folder, QDir::Files, QDirIterator::Subdirectories);
+        while (entries.hasNext() && listed.files.size() < MostFiles && !cancel.IsCancelled()) {
+            const QString path = entries.next();
+            if (QDir::match(patterns, entries.fileName())) {
+                listed.files += path;
+            } else {
+                ++listed.otherFiles;
+            }
         }
-        files.sort();
+        listed.files.sort();
         QMetaObject::invokeMethod(
-            this, [ready, files] { ready(files); }, Qt::QueuedConnection);
+            this, [ready, listed] { ready(listed); }, Qt::QueuedConnection);
     };
     m_worker.Add(std::move(job));
 }

@@ -42,10 +42,15 @@ public:
     /// Calls back whether the file `path` has the content of the video.
     void Compare(const Wanted& video, const QString& path, const std::function<void(bool isSame)>& ready);
 
-    /// Calls back with the files in a folder and the folders below it whose names fit one of the patterns, in the order
-    /// of their names; at most MostFiles of them. Links to folders are not followed.
+    /// What a folder and the folders below it hold.
+    struct Listed {
+        /// Those whose names fit one of the patterns, in the order of their names; at most MostFiles.
+        QStringList files;
+        int otherFiles = 0;
+    };
+    /// Calls back. Links to folders are not followed.
     void ListFiles(const QString& folder, const QStringList& patterns,
-                   const std::function<void(const QStringList& files)>& ready);
+                   const std::function<void(const Listed& listed)>& ready);
     static constexpr int MostFiles = 10000;
 
 Q_SIGNALS:

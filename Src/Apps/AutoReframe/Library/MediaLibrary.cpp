@@ -89,6 +89,16 @@ void MediaLibrary::Import(const QStringList& paths)
         m_store.Open();
         return;
     }
+    Skip(-m_skipped);
+    ImportFiles(paths, Origin::Files);
+    if (!m_folders.isEmpty()) {
+        m_backend.Start();
+        ImportFolders();
+    }
+}
+
+void MediaLibrary::ImportFiles(const QStringList& paths, Origin origin)
+{
     QModelIndexList imported;
     for (const QString& path : paths) {
         if (QFileInfo(path).isDir()) {
@@ -97,7 +107,11 @@ void MediaLibrary::Import(const QStringList& paths)
         }
         QModelIndex index = m_model.IndexOfPath(path);
         if (!index.isValid()) {
-            index = m_model.IndexOf(AddNew(QFileInfo(path).absoluteFilePath()));
+            const int id = AddNew(QFileInfo(path).absoluteFilePath());
+            index = m_model.IndexOf(id);
+            if (origin == Origin::Folder) {
+                m_ofFolders.insert(id);
+            }
         } else if (m_model.StateAt(index) == State::Missing) {
             StartOpening(m_model.IdAt(index));
         }
@@ -108,10 +122,15 @@ void MediaLibrary::Import(const QStringList& paths)
     }
     if (!imported.isEmpty()) {
         Q_EMIT sigImported(imported);
-    }
-    if (!imported.isEmpty() || !m_folders.isEmpty()) {
         m_backend.Start();
-        ImportFolders();
+    }
+}
+
+void MediaLibrary::Skip(int files)
+{
+    if (files != 0) {
+        m_skipped += files;
+        Q_EMIT sigSkipped(m_skipped);
     }
 }
 
@@ -123,12 +142,13 @@ void MediaLibrary::ImportFolders()
     }
     const QStringList patterns = m_backend.IfLoaded()->ImportPatterns().split(QLatin1Char(';'), Qt::SkipEmptyParts);
     for (const QString& folder : qAsConst(m_folders)) {
-        m_finder->ListFiles(folder, patterns, [this, folder](const QStringList& files) {
-            if (files.isEmpty()) {
+        m_finder->ListFiles(folder, patterns, [this, folder](const MediaFinder::Listed& listed) {
+            if (listed.files.isEmpty()) {
                 m_refused += tr("There are no videos in %1.").arg(QDir::toNativeSeparators(folder));
                 ReportRefused();
             }
-            Import(files);
+            Skip(listed.otherFiles);
+            ImportFiles(listed.files, Origin::Folder);
         });
     }
     m_folders.clear();
@@ -210,6 +230,7 @@ void MediaLibrary::HandleOpened(int id, const KxResult<MediaFile>& media)
     }
     if (media) {
         m_new.remove(id);
+        m_ofFolders.remove(id);
         const bool isOther = m_model.FactsAt(m_model.IndexOf(id)).contentHash != media->contentHash;
         m_model.SetMedia(id, *media);
         m_store.SaveVideo(ToStored(m_model.FactsAt(m_model.IndexOf(id))));
@@ -225,7 +246,9 @@ void MediaLibrary::HandleOpened(int id, const KxResult<MediaFile>& media)
 
 void MediaLibrary::HandleCannotOpen(int id, const QString& message)
 {
-    if (!message.isEmpty()) {
+    if (m_ofFolders.remove(id)) {
+        Skip(1);
+    } else if (!message.isEmpty()) {
         m_refused += message;
     }
     if (m_new.remove(id)) {
@@ -286,6 +309,7 @@ void MediaLibrary::Remove(const QModelIndexList& videos)
             m_loader->Forget(id);
         }
         m_new.remove(id);
+        m_ofFolders.remove(id);
         if (m_thumbnails.contains(id)) {
             m_backend.IfLoaded()->CancelThumbnail(m_thumbnails.take(id));
         }

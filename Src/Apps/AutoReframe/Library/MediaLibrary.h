@@ -25,8 +25,9 @@ public:
     MediaLibraryModel& Model();
 
     /// Each file appears at once and is opened in the background; a file that the library already has is not added
-    /// again. Of a folder, the videos in it and below it are imported. Files that cannot be opened are removed and
-    /// reported together, after the last one was tried. Until the store is open, files wait.
+    /// again. Of a folder, the videos in it and below it are imported, and its other files are only counted. Files that
+    /// cannot be opened are removed and, unless a folder was asked for, reported together after the last one was tried.
+    /// Until the store is open, files wait.
     void Import(const QStringList& paths);
     void Remove(const QModelIndexList& videos);
     /// Opens a stored video; sigOpened or sigCannotOpen follows.
@@ -48,6 +49,8 @@ Q_SIGNALS:
     /// All videos that were passed to Import(), new or not.
     void sigImported(const QModelIndexList& videos);
     void sigOpened(int id);
+    /// So many files of the folders that were imported last are no videos.
+    void sigSkipped(int files);
     /// A stored video cannot be opened; it stays in the library.
     void sigCannotOpen(int id);
     /// The videos of the last run are in the model.
@@ -67,7 +70,10 @@ private:
     void ReportRefused();
     void StartOpening(int id);
     int AddNew(const QString& path);
+    enum class Origin { Files, Folder };
+    void ImportFiles(const QStringList& paths, Origin origin);
     void ImportFolders();
+    void Skip(int files);
     MediaFinder::Wanted WantedOf(int id) const;
     static QSize ThumbnailRoomPx();
 
@@ -84,6 +90,9 @@ private:
     QSet<int> m_opening;
     /// Those of m_opening that leave the library if they cannot be opened.
     QSet<int> m_new;
+    /// Those of m_new that nobody asked for by name.
+    QSet<int> m_ofFolders;
+    int m_skipped = 0;
     QMap<int, quint64> m_thumbnails;
     /// Their thumbnails wait for the backend.
     QSet<int> m_wantThumbnails;
