@@ -57,11 +57,12 @@ set(FOLDERS_KrAutoReframe/Extensions "Engine;Player;Settings")
 set(FOLDERS_KrAutoReframe/Dialog "Engine;Extensions;Player;Settings")
 set(FOLDERS_Apps/CropTracks "")
 set(FOLDERS_Apps/Reframe "CropTracks")
-set(FOLDERS_Apps/AutoReframe "AutoReframe/Backend;AutoReframe/Batch;AutoReframe/Exports;AutoReframe/Library;AutoReframe/Store")
+set(FOLDERS_Apps/AutoReframe "AutoReframe/Backend;AutoReframe/Batch;AutoReframe/Exports;AutoReframe/Library;AutoReframe/Store;AutoReframe/Tracks")
 set(FOLDERS_Apps/AutoReframe/Backend "CropTracks")
 set(FOLDERS_Apps/AutoReframe/Store "AutoReframe/Backend")
 set(FOLDERS_Apps/AutoReframe/Library "AutoReframe/Backend;AutoReframe/Store")
 set(FOLDERS_Apps/AutoReframe/Batch "AutoReframe/Backend;AutoReframe/Exports;AutoReframe/Library")
+set(FOLDERS_Apps/AutoReframe/Tracks "AutoReframe/Backend;AutoReframe/Batch")
 set(FOLDERS_Apps/AutoReframe/Exports "AutoReframe/Backend;AutoReframe/Library;AutoReframe/Store")
 
 # Foreign headers, and the only libraries that know them; the first pattern that fits decides.

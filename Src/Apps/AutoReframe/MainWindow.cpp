@@ -35,11 +35,6 @@ constexpr int StatusBarPx = 28;
 constexpr int ButtonPx = 32;
 constexpr int MarginPx = 16;
 
-void ShowFolder(const QString& filePath)
-{
-    QDesktopServices::openUrl(QUrl::fromLocalFile(QFileInfo(filePath).absolutePath()));
-}
-
 std::unique_ptr<MediaTask> Render(MediaBackendLoader& loader, const ExportRequest& request,
                                   const KxRenderJob::Callbacks& callbacks)
 {
@@ -189,7 +184,7 @@ void MainWindow::ConnectSignals()
     connect(new QShortcut(Qt::CTRL + Qt::Key_Q, this), &QShortcut::activated, this, &QWidget::close);
     connect(new QShortcut(Qt::CTRL + Qt::SHIFT + Qt::Key_R, this), &QShortcut::activated, this,
             &MainWindow::ReframeAllSelected);
-    connect(m_panel, &ExportPanel::sigShowInFolder, this, &ShowFolder);
+    connect(m_panel, &ExportPanel::sigShowInFolder, this, &MainWindow::ShowInFolder);
     connect(m_panel, &ExportPanel::sigLook, this, &MainWindow::LookAtExport);
     connect(&m_store, &LibraryStore::sigNotice, this, &MainWindow::Inform);
     constexpr int savesAfterMs = 300;
@@ -210,8 +205,10 @@ void MainWindow::ConnectLibrary()
     connect(m_view, &MediaLibraryView::sigRemove, this, &MainWindow::RemoveSelected);
     connect(m_view, &MediaLibraryView::sigReframe, this, &MainWindow::ReframeSelected);
     connect(m_view, &MediaLibraryView::sigReframeAll, this, &MainWindow::ReframeAllSelected);
+    connect(m_view, &MediaLibraryView::sigSaveCropTrack, this, &MainWindow::SaveCropTrack);
+    connect(m_view, &MediaLibraryView::sigOpenCropTrack, this, &MainWindow::OpenCropTrack);
     connect(m_view, &MediaLibraryView::sigShowInFolder, this,
-            [this](const QModelIndex& video) { ShowFolder(m_library->Model().PathAt(video)); });
+            [this](const QModelIndex& video) { ShowInFolder(m_library->Model().PathAt(video)); });
     connect(m_library, &MediaLibrary::sigImported, this, &MainWindow::SelectImported);
     connect(m_library, &MediaLibrary::sigRestored, this, &MainWindow::Restore);
     connect(m_library, &MediaLibrary::sigOpened, this, &MainWindow::ShowState);
@@ -230,6 +227,11 @@ void MainWindow::ConnectLibrary()
     connect(m_library, &MediaLibrary::sigRefused, this, &MainWindow::ReportRefused);
     connect(&m_library->Model(), &QAbstractItemModel::rowsInserted, this, &MainWindow::ShowState);
     connect(&m_library->Model(), &QAbstractItemModel::rowsRemoved, this, &MainWindow::ShowState);
+}
+
+void MainWindow::ShowInFolder(const QString& filePath)
+{
+    QDesktopServices::openUrl(QUrl::fromLocalFile(QFileInfo(filePath).absolutePath()));
 }
 
 void MainWindow::RetranslateUi()

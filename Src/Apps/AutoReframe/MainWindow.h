@@ -78,6 +78,18 @@ private:
     void ReframeAllSelected();
     QList<int> UsableSelected() const;
     void LookAtExport(int id);
+    /// Of the one selected video, as its dialog would show it.
+    void SaveCropTrack();
+    /// Exports the one selected video with the crops of a file.
+    void OpenCropTrack();
+    /// Without a path unless one video is selected.
+    CropRequest RequestForSelected() const;
+    /// Nothing if the person cancelled or it failed, which is reported.
+    std::optional<FoundCrops> WaitForCrops(const CropRequest& request);
+    QString OutputFolder() const;
+    /// Whether there is such a file already, or an export is going to write it.
+    bool IsTaken(const QString& path) const;
+    static void ShowInFolder(const QString& filePath);
     void Reframe(const QModelIndexList& videos);
     /// Shows the dialog for the videos that are left, one after the other; returns while one of them is being opened.
     void ReframeNext();

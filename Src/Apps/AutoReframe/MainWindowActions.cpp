@@ -88,6 +88,9 @@ void MainWindow::ShowMenu()
     QAction* const reframeAll = menu.addAction(tr("Reframe All…"), this, &MainWindow::ReframeAllSelected);
     reframeAll->setShortcut(Qt::CTRL + Qt::SHIFT + Qt::Key_R);
     reframeAll->setEnabled(m_reframeAll->isEnabled());
+    const bool isOneSelected = UsableSelected().size() == 1;
+    menu.addAction(tr("Save Crop Track…"), this, &MainWindow::SaveCropTrack)->setEnabled(isOneSelected);
+    menu.addAction(tr("Open Crop Track…"), this, &MainWindow::OpenCropTrack)->setEnabled(isOneSelected);
     menu.addSeparator();
     menu.addAction(tr("Quit"), this, &QWidget::close)->setShortcut(Qt::CTRL + Qt::Key_Q);
     constexpr int gapPx = 4;

@@ -6,8 +6,6 @@
 #include <Apps/AutoReframe/Library/MediaLibraryView.h>
 #include <Apps/AutoReframe/Store/LibraryStore.h>
 
-#include <KxCore/KxConfig.h>
-
 #include <QFileInfo>
 
 QList<int> MainWindow::UsableSelected() const
@@ -24,6 +22,11 @@ QList<int> MainWindow::UsableSelected() const
     return ids;
 }
 
+bool MainWindow::IsTaken(const QString& path) const
+{
+    return QFileInfo::exists(path) || m_exports->WillWrite(path);
+}
+
 void MainWindow::ReframeAllSelected()
 {
     QList<BatchVideo> videos;
@@ -35,10 +38,8 @@ void MainWindow::ReframeAllSelected()
     if (videos.isEmpty() || m_isReframing) {
         return;
     }
-    if (m_batchSettings.folder.isEmpty()) {
-        m_batchSettings.folder = KxConfig::GetKorviOutputDirectory();
-    }
-    const auto isTaken = [this](const QString& path) { return QFileInfo::exists(path) || m_exports->WillWrite(path); };
+    m_batchSettings.folder = OutputFolder();
+    const auto isTaken = [this](const QString& path) { return IsTaken(path); };
     BatchDialog dialog(videos, m_batchSettings, isTaken, this);
     if (dialog.DoModal() == 0) {
         return;

@@ -149,7 +149,11 @@ public:
     std::unique_ptr<MediaTask> FindCrops(const CropRequest& request, const CropCallbacks& callbacks) override
     {
         ++findings;
-        return std::make_unique<Finding>(*this, request, callbacks);
+        auto made = std::make_unique<Finding>(*this, request, callbacks);
+        if (whenFinding) {
+            whenFinding(*made);
+        }
+        return made;
     }
     KxResult<QString> SaveCropTrack(const FoundCrops&, const QString& filePath) override
     {
@@ -170,5 +174,7 @@ public:
     /// The running search for crops, or null.
     Finding* finding = nullptr;
     int findings = 0;
+    /// Called when a search has started.
+    std::function<void(Finding&)> whenFinding;
     QStringList savedTracks;
 };

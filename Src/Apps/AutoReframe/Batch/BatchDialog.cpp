@@ -1,5 +1,6 @@
 #include <Apps/AutoReframe/Batch/BatchDialog.h>
 
+#include <Apps/AutoReframe/Batch/DialogFields.h>
 #include <Apps/AutoReframe/Library/MediaText.h>
 
 #include <KxWidgets/KxComboBox.h>
@@ -14,7 +15,6 @@
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QSignalBlocker>
-#include <QStyle>
 #include <QVariant>
 
 #include <array>
@@ -26,7 +26,6 @@ constexpr int WidthPx = 560;
 constexpr int MarginPx = 24;
 constexpr int GapPx = 18;
 constexpr int CaptionGapPx = 6;
-constexpr int FieldPx = 32;
 
 struct Ratio {
     QSize aspect;
@@ -39,13 +38,6 @@ const std::array<Ratio, 6> Ratios{{{QSize(9, 16), QT_TRANSLATE_NOOP("BatchDialog
                                    {QSize(16, 9), QT_TRANSLATE_NOOP("BatchDialog", "Widescreen")},
                                    {QSize(4, 3), QT_TRANSLATE_NOOP("BatchDialog", "Classic television")}}};
 constexpr std::array<int, 4> ShortSidesPx{720, 1080, 1440, 2160};
-
-KxLabel* MakeCaption(QWidget* parent)
-{
-    KxLabel* const caption = KxLabel::CreateLabel(parent, QString());
-    caption->setProperty("textRole", QStringLiteral("muted"));
-    return caption;
-}
 
 } // namespace
 
@@ -76,27 +68,27 @@ BatchDialog::~BatchDialog() = default;
 
 void BatchDialog::InitUi()
 {
-    m_ratiosCaption = MakeCaption(this);
+    m_ratiosCaption = DialogFields::MakeCaption(this);
     for (const Ratio& ratio : Ratios) {
         auto* const box = new QCheckBox(this);
         box->setObjectName(QStringLiteral("BatchDialog_%1x%2")
                                .arg(QString::number(ratio.aspect.width()), QString::number(ratio.aspect.height())));
         m_ratios += box;
     }
-    m_speedCaption = MakeCaption(this);
+    m_speedCaption = DialogFields::MakeCaption(this);
     m_speed = KxComboBox::CreateComboBox(this);
     m_speed->setObjectName(QStringLiteral("BatchDialog_speed"));
-    m_sizeCaption = MakeCaption(this);
+    m_sizeCaption = DialogFields::MakeCaption(this);
     m_size = KxComboBox::CreateComboBox(this);
     m_size->setObjectName(QStringLiteral("BatchDialog_size"));
-    m_patternCaption = MakeCaption(this);
-    m_pattern = KxLineEdit::creartNormalLineEdit(this, FieldPx);
+    m_patternCaption = DialogFields::MakeCaption(this);
+    m_pattern = KxLineEdit::creartNormalLineEdit(this, DialogFields::FieldHeightPx);
     m_pattern->setObjectName(QStringLiteral("BatchDialog_pattern"));
     m_pattern->SetFileNameValidator(true);
-    m_folderCaption = MakeCaption(this);
+    m_folderCaption = DialogFields::MakeCaption(this);
     m_folder = KxOpenFileLineEdit::CreateOpenFileLineEdit(this);
     m_folder->setObjectName(QStringLiteral("BatchDialog_folder"));
-    m_folder->setFixedHeight(FieldPx);
+    m_folder->setFixedHeight(DialogFields::FieldHeightPx);
     m_example = KxLabel::CreateLabel(this, QString());
     m_example->setObjectName(QStringLiteral("BatchDialog_example"));
     m_example->setWordWrap(true);
@@ -104,18 +96,6 @@ void BatchDialog::InitUi()
     m_cancel->setObjectName(QStringLiteral("BatchDialog_cancel"));
     m_start = GetButtonBar()->AddPushButton_R(0, -1);
     m_start->setObjectName(QStringLiteral("BatchDialog_start"));
-}
-
-QWidget* BatchDialog::MakeField(KxLabel* caption, QWidget* field)
-{
-    caption->setBuddy(field);
-    auto* const both = new QWidget(this);
-    auto* const column = new QVBoxLayout(both);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(CaptionGapPx);
-    column->addWidget(caption);
-    column->addWidget(field);
-    return both;
 }
 
 QLayout* BatchDialog::MakeRatios()
@@ -143,15 +123,15 @@ void BatchDialog::InitLayout()
     ratios->addLayout(MakeRatios());
     auto* const combos = new QHBoxLayout;
     combos->setSpacing(GapPx);
-    combos->addWidget(MakeField(m_speedCaption, m_speed), 1);
-    combos->addWidget(MakeField(m_sizeCaption, m_size), 1);
+    combos->addWidget(DialogFields::WithCaption(m_speedCaption, m_speed, this), 1);
+    combos->addWidget(DialogFields::WithCaption(m_sizeCaption, m_size, this), 1);
     auto* const column = new QVBoxLayout(content);
     column->setContentsMargins(MarginPx, MarginPx, MarginPx, CaptionGapPx);
     column->setSpacing(GapPx);
     column->addLayout(ratios);
     column->addLayout(combos);
-    column->addWidget(MakeField(m_patternCaption, m_pattern));
-    column->addWidget(MakeField(m_folderCaption, m_folder));
+    column->addWidget(DialogFields::WithCaption(m_patternCaption, m_pattern, this));
+    column->addWidget(DialogFields::WithCaption(m_folderCaption, m_folder, this));
     column->addWidget(m_example);
     // Two lines, so that the dialog does not change its size while the person types.
     m_example->setFixedHeight(2 * m_example->fontMetrics().lineSpacing() + 2);
@@ -244,10 +224,7 @@ void BatchDialog::ShowExample()
     const BatchSettings settings = Settings();
     const KxError problem = Problem(settings);
     m_start->setEnabled(!problem);
-    m_example->setText(problem ? *problem : Example(settings));
-    m_example->setProperty("textRole", problem ? QStringLiteral("error") : QStringLiteral("muted"));
-    m_example->style()->unpolish(m_example);
-    m_example->style()->polish(m_example);
+    DialogFields::ShowText(*m_example, problem ? *problem : Example(settings), problem.has_value());
 }
 
 void BatchDialog::HandleStart()
@@ -257,10 +234,8 @@ void BatchDialog::HandleStart()
         accept();
         return;
     }
-    m_example->setText(tr("Cannot write to the folder %1.").arg(QDir::toNativeSeparators(folder)));
-    m_example->setProperty("textRole", QStringLiteral("error"));
-    m_example->style()->unpolish(m_example);
-    m_example->style()->polish(m_example);
+    DialogFields::ShowText(*m_example, tr("Cannot write to the folder %1.").arg(QDir::toNativeSeparators(folder)),
+                           true);
     m_folder->setFocus();
 }
 

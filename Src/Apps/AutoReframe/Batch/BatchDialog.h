@@ -33,7 +33,6 @@ private:
     void InitUi();
     void InitLayout();
     QLayout* MakeRatios();
-    QWidget* MakeField(KxLabel* caption, QWidget* field);
     void Fill(const BatchSettings& settings);
     void FillCombos();
     /// Shows what will be written, or why nothing can be.

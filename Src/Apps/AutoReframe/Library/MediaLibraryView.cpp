@@ -97,6 +97,12 @@ void MediaLibraryView::contextMenuEvent(QContextMenuEvent* event)
             menu.addAction(tr("Auto Reframe…"), this, &MediaLibraryView::sigReframe);
             menu.addAction(tr("Reframe All…"), this, &MediaLibraryView::sigReframeAll)
                 ->setShortcut(Qt::CTRL + Qt::SHIFT + Qt::Key_R);
+            if (SelectedVideos().size() == 1) {
+                menu.addSeparator();
+                menu.addAction(tr("Save Crop Track…"), this, &MediaLibraryView::sigSaveCropTrack);
+                menu.addAction(tr("Open Crop Track…"), this, &MediaLibraryView::sigOpenCropTrack);
+                menu.addSeparator();
+            }
         }
         menu.addAction(tr("Show in folder"), this, [this, index] { Q_EMIT sigShowInFolder(index); });
         menu.addSeparator();

@@ -29,6 +29,8 @@ Q_SIGNALS:
     void sigRemove();
     void sigReframe();
     void sigReframeAll();
+    void sigSaveCropTrack();
+    void sigOpenCropTrack();
     void sigShowInFolder(const QModelIndex& index);
     /// The file of a video is missing, and the person wants to find it.
     void sigFindFile(const QModelIndex& index);

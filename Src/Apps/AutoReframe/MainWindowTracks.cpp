@@ -1,0 +1,107 @@
+#include <Apps/AutoReframe/MainWindow.h>
+
+#include <Apps/AutoReframe/Backend/MediaBackendLoader.h>
+#include <Apps/AutoReframe/Exports/ExportQueue.h>
+#include <Apps/AutoReframe/Library/MediaLibrary.h>
+#include <Apps/AutoReframe/Library/MediaLibraryView.h>
+#include <Apps/AutoReframe/Library/MediaText.h>
+#include <Apps/AutoReframe/Tracks/CropTrackDialog.h>
+#include <Apps/AutoReframe/Tracks/CropWait.h>
+
+#include <KxCore/KxConfig.h>
+#include <KxWidgets/KrMessageDialog.h>
+#include <KxWidgets/KxFileDialog.h>
+
+#include <QDir>
+#include <QFileInfo>
+
+QString MainWindow::OutputFolder() const
+{
+    return m_batchSettings.folder.isEmpty() ? KxConfig::GetKorviOutputDirectory() : m_batchSettings.folder;
+}
+
+CropRequest MainWindow::RequestForSelected() const
+{
+    const QList<int> ids = UsableSelected();
+    CropRequest request;
+    if (ids.size() != 1) {
+        return request;
+    }
+    request.path = m_library->Model().PathAt(m_library->Model().IndexOf(ids.first()));
+    request.edits = m_library->EditsOf(request.path);
+    request.plan.aspect = request.edits.aspect.isEmpty() ? QSize(9, 16) : request.edits.aspect;
+    request.plan.speed = request.edits.speed > 0 ? request.edits.speed : request.plan.speed;
+    return request;
+}
+
+std::optional<FoundCrops> MainWindow::WaitForCrops(const CropRequest& request)
+{
+    MediaBackend* const backend = m_backend.Get();
+    if (backend == nullptr) {
+        Inform(m_backend.Error());
+        return std::nullopt;
+    }
+    const FoundCrops found = CropWait::Run(*backend, request, *this);
+    if (found.outcome == KxOutcome::Failed) {
+        Inform(found.message);
+    }
+    return found.outcome == KxOutcome::Done ? std::optional<FoundCrops>(found) : std::nullopt;
+}
+
+void MainWindow::SaveCropTrack()
+{
+    const CropRequest request = RequestForSelected();
+    if (request.path.isEmpty() || m_isReframing) {
+        return;
+    }
+    const QString name =
+        QStringLiteral("%1-%2x%3")
+            .arg(QFileInfo(request.path).completeBaseName(), QString::number(request.plan.aspect.width()),
+                 QString::number(request.plan.aspect.height()));
+    CropTrackDialog dialog(name, OutputFolder(), this);
+    if (dialog.DoModal() == 0) {
+        return;
+    }
+    const std::optional<FoundCrops> found = WaitForCrops(request);
+    if (!found) {
+        return;
+    }
+    const KxResult<QString> saved = m_backend.Get()->SaveCropTrack(*found, dialog.FilePath());
+    if (!saved) {
+        Inform(saved.Message());
+    } else if (KrMessageDialog::Question_CustomYesNo(tr("The crop track was saved."), tr("Close"), tr("Show in Folder"),
+                                                     this, KrStandardButton::No, QDir::toNativeSeparators(*saved),
+                                                     tr("Auto Reframe"), KrMessageType::Information)) {
+        ShowInFolder(*saved);
+    }
+}
+
+void MainWindow::OpenCropTrack()
+{
+    CropRequest request = RequestForSelected();
+    if (request.path.isEmpty() || m_isReframing) {
+        return;
+    }
+    const QStringList chosen = KxFileDialog::GetOpenFileNamesUnchecked(
+        this, tr("Open Crop Track"), OutputFolder(), QStringLiteral("%1(*.json;*.csv;)").arg(tr("Crop tracks")));
+    if (chosen.isEmpty()) {
+        return;
+    }
+    request.cropTrack = chosen.first();
+    std::optional<FoundCrops> found = WaitForCrops(request);
+    if (!found) {
+        return;
+    }
+    const QFileInfo track(request.cropTrack);
+    OutputNames::Unique paths([this](const QString& taken) { return IsTaken(taken); });
+    const QString path = paths.Path(QDir::cleanPath(OutputFolder()), track.completeBaseName());
+    const bool exports = KrMessageDialog::Question_CustomYesNo(
+        tr("Export %1 with the crops of %2?").arg(QFileInfo(request.path).fileName(), track.fileName()), tr("Cancel"),
+        tr("Export"), this, KrStandardButton::Yes,
+        tr("%1, to %2").arg(MediaText::Resolution(found->request.settings.resolution), QDir::toNativeSeparators(path)),
+        tr("Auto Reframe"), KrMessageType::Question);
+    if (exports) {
+        found->request.settings.outputPath = path;
+        m_exports->Add(found->request);
+    }
+}

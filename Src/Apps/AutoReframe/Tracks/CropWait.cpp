@@ -1,0 +1,40 @@
+#include <Apps/AutoReframe/Tracks/CropWait.h>
+
+#include <KxWidgets/KxProgressDialog.h>
+
+#include <QCoreApplication>
+#include <QEventLoop>
+#include <QFileInfo>
+#include <QTimer>
+
+FoundCrops CropWait::Run(MediaBackend& backend, const CropRequest& request, QWidget& parent)
+{
+    const auto translated = [](const char* text) { return QCoreApplication::translate("CropWait", text); };
+    constexpr int wholeProgress = 10000;
+    KxProgressDialog dialog(translated("Auto Reframe"), &parent);
+    dialog.SetRange(0, wholeProgress);
+    dialog.SetProgressTitle(translated("Analyzing %1").arg(QFileInfo(request.path).fileName()), QStringLiteral("film"));
+    std::optional<FoundCrops> found;
+    QEventLoop beginning;
+    CropCallbacks callbacks;
+    callbacks.progress = [&dialog](int progress) {
+        QMetaObject::invokeMethod(
+            &dialog, [&dialog, progress] { dialog.SetProgress(progress); }, Qt::QueuedConnection);
+    };
+    callbacks.finished = [&](const FoundCrops& end) {
+        found = end;
+        beginning.quit();
+        dialog.hide();
+    };
+    const std::unique_ptr<MediaTask> task = backend.FindCrops(request, callbacks);
+    // A dialog that appeared for less would flash.
+    constexpr int soonMs = 500;
+    QTimer::singleShot(soonMs, &beginning, &QEventLoop::quit);
+    beginning.exec(QEventLoop::ExcludeUserInputEvents);
+    if (!found) {
+        dialog.DoModal();
+    }
+    FoundCrops cancelled;
+    cancelled.outcome = KxOutcome::Cancelled;
+    return found.value_or(cancelled);
+}
