@@ -1,5 +1,6 @@
 """Many videos at once: chosen with the mouse and keys, reframed unattended, interrupted, and looked at."""
 
+import json
 import os
 import subprocess
 
@@ -56,6 +57,8 @@ class BatchJourney:
         self.pause_and_die()
         self.resume()
         self.look()
+        self.save_track()
+        self.open_track()
         self.journey.quit()
 
     def import_folder(self):
@@ -159,3 +162,46 @@ class BatchJourney:
         journey.close_with_title_bar()
         screen.find("QueueBar_text", text="4 done, 2 failed")
         screen.shoot("looked-at")
+
+    def choose(self, entry):
+        screen = self.screen
+        screen.press("TopBar_menu")
+        item = screen.steady(lambda report: next((item["rect"] for item in screen.first(report, "MainMenu", "items") or []
+                                                  if item["text"] == entry and item["enabled"]), None), entry)
+        screen.shoot("menu")
+        screen.click(item)
+
+    def save_track(self):
+        screen = self.screen
+        screen.click(self.cards()[2])
+        screen.find("StatusBar_text", text="3 videos · 1 selected")
+        self.choose("Save Crop Track…")
+        screen.find("CropTrackDialog_name", text="walk-9x16")
+        screen.shoot("save-crop-track")
+        screen.press("CropTrackDialog_save")
+        screen.find("KxMessageBox_text", text="The crop track was saved.")
+        screen.shoot("crop-track-saved")
+        screen.press("KxMessageBox_refuse", text="Close")
+        screen.gone("KxMessageBox_refuse")
+        with open(os.path.join(self.output, "walk-9x16.json"), encoding="utf-8") as file:
+            track = json.load(file)
+        assert len(track["frames"]) == footage.FRAMES and track["aspect"] == [9, 16], track["aspect"]
+
+    def open_track(self):
+        screen = self.screen
+        self.choose("Open Crop Track…")
+        chosen = screen.steady(lambda report: next((item["rect"] for view in screen.all(report, "treeView")
+                                                    for item in view["items"] if item["text"] == "walk-9x16.json"), None),
+                               "the file in the chooser")
+        screen.click([chosen[0], chosen[1], 60, chosen[3]])
+        button = screen.until(lambda report: next((widget for widget in report["widgets"] if widget["enabled"]
+                                                   and widget.get("text") == "&Open"), None), "a file to be chosen")
+        screen.click(button["rect"])
+        screen.find("KxMessageBox_text", text="Export walk.mp4 with the crops of walk-9x16.json?")
+        screen.shoot("export-with-crop-track")
+        screen.press("KxMessageBox_confirm", text="Export")
+        again = os.path.join(self.output, "walk-9x16 (2).mp4")
+        screen.until(lambda: os.path.exists(again), again, fresh=False)
+        assert footage.stream(again, "video")["nb_read_frames"] == str(footage.FRAMES)
+        screen.until(lambda report: len([card for card in screen.all(report, "ExportCard_status")
+                                         if card["text"].startswith("Done")]) == 5, "five finished exports")
