@@ -66,7 +66,6 @@ QMap<QString, double*> Values(KxSubjectOptions& options)
             {QStringLiteral("detectionEmptyFloor"), &options.detections.emptyFloor},
             {QStringLiteral("detectionFadeSeconds"), &options.detections.fadeSeconds},
             {QStringLiteral("detectionPersonUpperShare"), &options.detections.personUpperShare},
-            {QStringLiteral("speechHeadShare"), &speech.headShare},
             {QStringLiteral("speechOpeningWeight"), &speech.openingWeight},
             {QStringLiteral("speechRestShare"), &speech.restShare},
             {QStringLiteral("speechMostActivity"), &speech.mostActivity},

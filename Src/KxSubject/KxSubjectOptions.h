@@ -216,7 +216,6 @@ struct KxSubjectOptions {
         double meanSeconds = 1.5;      ///< 1 to 2 each way, of a local mean; speech
         double deviationSeconds = 3.0; ///< 2 to 5 each way, of a local deviation; speech
         double mostScore = 3.0;        ///< 2 to 4 deviations; speech
-        double headShare = 1.0;        ///< 0.4 to 1 of the head's movement, which the mouth does by itself; talk
         double openingSeconds = 0.6;   ///< 0.4 to 1: the mean opening over this time is no movement; speech
         double openingWeight = 1.5;    ///< 1 to 2 of the opening, against the movement; talk
         double productScale = 1.6;     ///< 1 to 2; speech
@@ -225,8 +224,7 @@ struct KxSubjectOptions {
         int mostLagAfter = 2;          ///< 1 to 4 steps that it may be earlier; speech
         double lagSeconds = 2.0;       ///< 1 to 3, over which a lag has to hold; speech
         double activitySeconds = 1.0;  ///< 0.5 to 2; speech
-        double activityHead = 0.6;     ///< 0.4 to 0.8 of the head's movement; speech
-        double activityFloor = 0.02;   ///< 0.01 to 0.04 deviations; speech
+        double activityFloor = 0.02;   ///< 0.01 to 0.04 deviations: movement far below is noise; speech
         double restSeconds = 1.0;      ///< 0.5 to 3 of silence that show how a mouth moves at rest; chosen
         double restShare = 0.25;       ///< 0.1 to 0.4: without silence, the mouth rests this share of the time; talk
         double mostActivity = 0.5;     ///< 0.2 to 1 above rest; talk
@@ -234,6 +232,7 @@ struct KxSubjectOptions {
         double nobody = 0.05;          ///< 0.02 to 0.1: what a speaker's evidence has to exceed; speech
         double changeCost = 13.0;      ///< 9 to 16 of a change of speaker, in steps of evidence; talk
         double leastRunSeconds = 0.7;  ///< 0.5 to 1: a shorter turn is not followed; speech
+        double pauseSeconds = 1.0;     ///< 0.7 to 2: a word before a longer silence starts no turn; chosen
         double leastSeconds = 2.0;     ///< 1.5 to 4 that each of two faces lasts; speech
         double leastShare = 0.6;       ///< 0.4 to 0.8 of a shot in which two mouths are seen; chosen
         double leastMargin = 0.05;     ///< 0.02 to 0.1, mean evidence ahead of the next face; speech

@@ -57,13 +57,9 @@ KxMouthEvidence::KxMouthEvidence(const KxSubjectRecord& record, const KxSubjectO
 {
     Sample(LooksOf(record, first, faces), first, record.source.frameRate);
     Correlate(sound);
-    const Values mouth = KxSeries::MeansAround(m_mouth, StepsOf(m_options.activitySeconds / 2.0));
-    const Values head = KxSeries::MeansAround(m_head, StepsOf(m_options.activitySeconds / 2.0));
-    m_activity.resize(mouth.size());
-    for (std::size_t i = 0; i < mouth.size(); ++i) {
-        constexpr double least = 1e-6;
-        m_activity[i] =
-            std::log(std::max(mouth[i], least) / (m_options.activityHead * head[i] + m_options.activityFloor));
+    m_activity = KxSeries::MeansAround(m_mouth, StepsOf(m_options.activitySeconds / 2.0));
+    for (double& activity : m_activity) {
+        activity = std::log(activity + m_options.activityFloor);
     }
 }
 
@@ -128,10 +124,9 @@ KxSeries::Values KxMouthEvidence::Movement() const
         return KxSeries::LocalScores(values, StepsOf(m_options.meanSeconds), StepsOf(m_options.deviationSeconds),
                                      m_options.mostScore);
     };
-    Values moved(count);
+    Values moved = KxSeries::WithoutWhatFollows(m_mouth, m_head, StepsOf(m_options.deviationSeconds));
     Values opened = KxSeries::MeansAround(m_opening, StepsOf(m_options.openingSeconds / 2.0));
     for (std::size_t i = 0; i < count; ++i) {
-        moved[i] = m_mouth[i] - m_options.headShare * m_head[i];
         opened[i] = m_opening[i] - opened[i];
     }
     moved = scores(KxSeries::MeansAround(moved, 1));

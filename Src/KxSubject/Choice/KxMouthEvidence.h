@@ -23,7 +23,7 @@ public:
     const std::vector<bool>& Measured() const { return m_measured; }
     /// How much the mouth's ups and downs are those of the sound; positive: alike.
     const KxSeries::Values& Correlation() const { return m_correlation; }
-    /// The logarithm of the mouth's movement over the head's.
+    /// The logarithm of the mouth's movement. Not relative to the head's: who talks moves both.
     const KxSeries::Values& Activity() const { return m_activity; }
     /// For Viterbi: what speaks for this person at each level; 0 where the gate is shut.
     KxSeries::Values Emissions(const std::vector<bool>& gate) const;

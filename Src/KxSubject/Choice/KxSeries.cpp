@@ -34,6 +34,29 @@ KxSeries::Values KxSeries::LocalScores(const Values& values, std::size_t meanRea
     return scores;
 }
 
+KxSeries::Values KxSeries::WithoutWhatFollows(const Values& values, const Values& other, std::size_t reach)
+{
+    constexpr double mostShare = 2.0; // more is an accident of few values
+    Values products(values.size());
+    Values squares(values.size());
+    for (std::size_t i = 0; i < values.size(); ++i) {
+        products[i] = values[i] * other[i];
+        squares[i] = other[i] * other[i];
+    }
+    products = MeansAround(products, reach);
+    squares = MeansAround(squares, reach);
+    const Values mean = MeansAround(values, reach);
+    const Values otherMean = MeansAround(other, reach);
+    Values left(values.size());
+    for (std::size_t i = 0; i < values.size(); ++i) {
+        constexpr double least = 1e-9;
+        const double variance = squares[i] - otherMean[i] * otherMean[i];
+        const double share = (products[i] - mean[i] * otherMean[i]) / std::max(variance, least);
+        left[i] = values[i] - std::clamp(share, 0.0, mostShare) * (variance > least ? other[i] - otherMean[i] : 0.0);
+    }
+    return left;
+}
+
 double KxSeries::Percentile(Values values, double share)
 {
     const auto at =

@@ -18,6 +18,10 @@ KXSUBJECT_API Values MeansAround(const Values& values, std::size_t reach);
 /// +-`limit`.
 KXSUBJECT_API Values LocalScores(const Values& values, std::size_t meanReach, std::size_t deviationReach, double limit);
 
+/// `values` less the part that rises and falls with `other`, by linear regression over what is at most `reach` steps
+/// away; what falls while the other rises stays.
+KXSUBJECT_API Values WithoutWhatFollows(const Values& values, const Values& other, std::size_t reach);
+
 /// The value below which `share` of them are; `values` is not empty.
 KXSUBJECT_API double Percentile(Values values, double share);
 } // namespace KxSeries

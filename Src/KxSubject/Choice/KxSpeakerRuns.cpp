@@ -9,6 +9,11 @@
 namespace
 {
 
+std::ptrdiff_t StepsOf(double seconds)
+{
+    return std::lround(seconds * KxSoundSpan::LevelsPerSecond);
+}
+
 /// The best state at each step; the last state is nobody.
 std::vector<std::size_t> BestStates(const std::vector<KxSeries::Values>& emissions, const std::vector<bool>& gate,
                                     const KxSubjectOptions::Speech& options)
@@ -54,14 +59,26 @@ std::vector<KxSpeakerRun> RunsOf(const std::vector<std::size_t>& states, std::si
     return runs;
 }
 
+/// The first sound of a run. A word that is followed by a long silence is an interjection: the sound after it counts.
+std::size_t StartOf(const KxSpeakerRun& run, const std::vector<bool>& gate, const KxSubjectOptions::Speech& options)
+{
+    const auto least = StepsOf(options.leastRunSeconds);
+    const auto pause = StepsOf(options.pauseSeconds);
+    const auto last = gate.begin() + static_cast<std::ptrdiff_t>(run.end) - 1;
+    const auto first = std::find(gate.begin() + static_cast<std::ptrdiff_t>(run.first), last, true);
+    const auto silent = std::find(first, last, false);
+    const auto next = std::find(silent, last, true);
+    const bool isInterjection = silent - first < least && next - silent >= pause && next != last;
+    return static_cast<std::size_t>((isInterjection ? next : first) - gate.begin());
+}
+
 /// Each run from its first sound until the next one; neighbours of one person become one run.
-std::vector<KxSpeakerRun> Stretched(const std::vector<KxSpeakerRun>& runs, const std::vector<bool>& gate)
+std::vector<KxSpeakerRun> Stretched(const std::vector<KxSpeakerRun>& runs, const std::vector<bool>& gate,
+                                    const KxSubjectOptions::Speech& options)
 {
     std::vector<KxSpeakerRun> stretched;
     for (KxSpeakerRun run : runs) {
-        const auto first = gate.begin() + static_cast<std::ptrdiff_t>(run.first);
-        const auto heard = std::find(first, gate.begin() + static_cast<std::ptrdiff_t>(run.end) - 1, true);
-        run.first = static_cast<std::size_t>(heard - gate.begin());
+        run.first = StartOf(run, gate, options);
         if (stretched.empty()) {
             stretched.push_back({run.person, 0, run.end});
         } else if (stretched.back().person != run.person) {
@@ -93,7 +110,7 @@ KxSpeakerRuns::KxSpeakerRuns(const std::vector<KxSeries::Values>& emissions, con
                              const KxSubjectOptions::Speech& options)
 {
     std::vector<KxSpeakerRun> spoken = RunsOf(BestStates(emissions, gate, options), emissions.size());
-    const auto least = static_cast<std::size_t>(std::lround(options.leastRunSeconds * KxSoundSpan::LevelsPerSecond));
+    const auto least = static_cast<std::size_t>(StepsOf(options.leastRunSeconds));
     spoken.erase(std::remove_if(spoken.begin(), spoken.end(),
                                 [least](const KxSpeakerRun& run) { return run.end - run.first < least; }),
                  spoken.end());
@@ -109,5 +126,5 @@ KxSpeakerRuns::KxSpeakerRuns(const std::vector<KxSeries::Values>& emissions, con
     }
     margin = steps > 0 ? margin / static_cast<double>(steps) : 0.0;
     speechSeconds = static_cast<double>(steps) / KxSoundSpan::LevelsPerSecond;
-    runs = Stretched(spoken, gate);
+    runs = Stretched(spoken, gate, options);
 }

@@ -35,7 +35,49 @@ double CorrelationIfLateBy(std::size_t looks)
     return Mean(KxMouthEvidence(record, Options, sound, 0, {0}).Correlation(), 10, 240);
 }
 
+/// Who speaks nods with the own voice: the head moves more than the mouth, which moves with it, and the mouth alone
+/// besides.
+KxSubjectRecord NoddingSpeakers()
+{
+    KxSubjectRecord record = Interview();
+    for (KxMouthTrack& mouth : record.mouths) {
+        for (KxMouthLook& look : mouth.looks) {
+            const int nod = 3 * std::max(0, look.movement - static_cast<int>(0.07 * KxMouthLook::One));
+            look.head = static_cast<std::uint16_t>(look.head + nod);
+            look.movement = static_cast<std::uint16_t>(look.movement + nod / 2);
+            look.opening = 0;
+        }
+    }
+    return record;
+}
+
 } // namespace
+
+TEST(KxMouthEvidence, ANodWithTheOwnVoiceDoesNotHideTheMouth)
+{
+    const KxSubjectRecord record = NoddingSpeakers();
+    const KxHeardSound sound(record, Options, 0, Levels);
+    for (const std::size_t person : {0U, 1U}) {
+        const KxMouthEvidence mouth(record, Options, sound, 0, {person});
+        const std::size_t own = person == 0 ? 0 : 250;
+        EXPECT_GT(Mean(mouth.Activity(), own + 10, own + 240),
+                  Mean(mouth.Activity(), 250 - own + 10, 250 - own + 240) + 0.2)
+            << person;
+        EXPECT_GT(Mean(mouth.Correlation(), own + 10, own + 240), -0.05) << person;
+    }
+}
+
+TEST(KxMouthEvidence, AMouthThatOnlyMovesWithItsHeadDoesNotCorrelate)
+{
+    KxSubjectRecord record = Interview();
+    for (KxMouthLook& look : record.mouths[0].looks) {
+        look.head = look.movement;
+        look.movement = static_cast<std::uint16_t>(2 * look.head);
+        look.opening = 0;
+    }
+    const KxHeardSound sound(record, Options, 0, Levels);
+    EXPECT_LT(Mean(KxMouthEvidence(record, Options, sound, 0, {0}).Correlation(), 10, 240), 0.1);
+}
 
 TEST(KxMouthEvidence, AMouthThatMovesWithTheSoundCorrelates)
 {

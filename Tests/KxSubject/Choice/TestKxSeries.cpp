@@ -52,6 +52,31 @@ TEST(KxSeries, ScoresAreLimited)
     EXPECT_EQ(scores[100], 2.0);
 }
 
+TEST(KxSeries, WhatFollowsAnotherSeriesIsTakenOut)
+{
+    KxSeries::Values other;
+    KxSeries::Values own;
+    KxSeries::Values both;
+    for (int i = 0; i < 400; ++i) {
+        other.push_back(1.0 + std::sin(i * 0.7));
+        own.push_back(std::sin(i * 0.23));
+        // How much of the other one is in it changes.
+        both.push_back(own.back() + (i < 200 ? 0.5 : 1.5) * other.back());
+    }
+    const KxSeries::Values left = KxSeries::WithoutWhatFollows(both, other, 40);
+    for (const std::size_t from : {20U, 260U}) {
+        for (std::size_t i = from; i < from + 100; ++i) {
+            EXPECT_NEAR(left[i] - own[i], left[from] - own[from], 0.25) << i;
+        }
+    }
+}
+
+TEST(KxSeries, WhatDoesNotFollowAnotherSeriesStays)
+{
+    const KxSeries::Values own{1.0, 3.0, 2.0, 5.0};
+    EXPECT_THAT(KxSeries::WithoutWhatFollows(own, KxSeries::Values(4, 2.0), 10), ElementsAre(1.0, 3.0, 2.0, 5.0));
+}
+
 TEST(KxSeries, APercentileIsOneOfTheValues)
 {
     EXPECT_EQ(KxSeries::Percentile({5.0, 1.0, 3.0, 2.0, 4.0}, 0.0), 1.0);

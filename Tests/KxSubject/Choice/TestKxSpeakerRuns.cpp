@@ -83,6 +83,18 @@ TEST(KxSpeakerRuns, AChangeInASilenceComesWithTheFirstSound)
     EXPECT_EQ(speakers.runs[1].first, 300U);
 }
 
+TEST(KxSpeakerRuns, AnInterjectionBeforeAPauseStartsNoTurn)
+{
+    // A word, silence of a second and a half, and then the turn.
+    std::vector<bool> gate = Open;
+    std::fill(gate.begin() + 215, gate.begin() + 255, false);
+    const Evidence evidence = Evidence().For(0, 0, 200).For(1, 200, 500);
+    ASSERT_EQ(evidence.Runs(gate).runs.size(), 2U);
+    EXPECT_EQ(evidence.Runs(gate).runs[1].first, 255U);
+    std::fill(gate.begin() + 230, gate.begin() + 255, true);
+    EXPECT_EQ(evidence.Runs(gate).runs[1].first, 200U) << "the pause is short: the word belongs to the turn";
+}
+
 TEST(KxSpeakerRuns, WithoutEvidenceThereAreNoRuns)
 {
     const KxSpeakerRuns speakers = Evidence().For(0, 0, Steps, -0.1).For(1, 0, Steps, -0.2).Runs();
