@@ -132,6 +132,17 @@ TEST(KxSpeakerDecision, AShortInterjectionIsNotFollowed)
     }
 }
 
+TEST(KxSpeakerDecision, WhileNobodyVisibleSpeaksTheCropStays)
+{
+    MadeSpeech::Scene scene{
+        20.0, {0.25, 0.75}, {{0.0, 6.0, 0}, {6.0, 12.0, MadeSpeech::Offscreen}, {14.0, 20.0, 1}}, {}};
+    const KxSubjectDecision decision = Decide(MadeSpeech::Record(scene));
+    EXPECT_TRUE(Holds(decision.crops[25 * 3], 0.25));
+    EXPECT_TRUE(Holds(decision.crops[25 * 11], 0.25));
+    EXPECT_TRUE(Holds(decision.crops[25 * 13], 0.25));
+    EXPECT_TRUE(Holds(decision.crops[25 * 17], 0.75));
+}
+
 TEST(KxSpeakerDecision, ThePeopleOfEveryShotAreOthers)
 {
     MadeSpeech::Scene scene = Interview();
