@@ -16,7 +16,7 @@
 ///
 /// User-interface thread. Every request that is not cancelled ends with exactly one signal, never from inside
 /// Request(). The destructor cancels all requests and waits for the picture that is being made.
-class KXMEDIALIBRARY_API KxThumbnailer : public QObject
+class KXMEDIALIBRARY_SIGNAL_API KxThumbnailer : public QObject
 {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(KxThumbnailer)
