@@ -6,6 +6,8 @@
 #include <QRectF>
 #include <QString>
 
+#include <functional>
+
 /// What a person has decided about one video in the dialog. A plain value.
 struct KrAutoReframeState {
     /// The settings of the panel; 0 if none were chosen yet.
@@ -34,14 +36,44 @@ struct KrAutoReframeState {
     bool operator!=(const KrAutoReframeState& other) const { return !(*this == other); }
 };
 
+/// How an export that was asked for in the dialog is getting on. A plain value.
+struct KrAutoReframeExport {
+    enum class State { Queued, Running, Done, Failed, Cancelled };
+
+    State state = State::Queued;
+    int progress = 0; ///< ten-thousandths
+    QString filePath; ///< that will be written, or was
+    QString message;  ///< why it failed, or a warning about the file that was written
+};
+
+/// What a host may offer beside KrAutoReframeExtensions, by deriving from both: reports on the exports that it was
+/// asked for by KrAutoReframeDialog::sigExportToLocal. The dialog then shows how the last one is getting on, and offers
+/// to show its file. Defined in this header alone; user-interface thread.
+class KrAutoReframeExports
+{
+public:
+    using Listener = std::function<void(const KrAutoReframeExport& state)>;
+
+    /// From now on `listener` is called at each change of the last export that this dialog asked for, also at once
+    /// when it is queued. An empty one ends that.
+    virtual void ListenToExports(const Listener& listener) = 0;
+    /// The person wants to see the file in its folder.
+    virtual void ShowInFolder(const QString& filePath) = 0;
+
+protected:
+    virtual ~KrAutoReframeExports() = default;
+};
+
 /// Opt-in extensions of the dialog. A host that implements this and hands it over (KrAutoReframeDialog::SetExtensions)
 /// turns them on; without it the dialog shows and does nothing of the following:
 /// - edit points, choices and the undo history survive another analysis, in another speed or aspect ratio too, and a
 ///   hint says when the settings differ from what is shown;
 /// - an analysis that ends at once shows no progress dialog, and the player stays at its frame;
+/// - guides over the result (safe zones of vertical players, thirds, headroom), never exported, and its size;
 /// - the arrow keys move the crop while the picture has the focus: by a pixel of the video, with Shift by 10;
 /// - where the service offers IKxAutoReframeShots: shots on the slider, and a way through those that are doubtful;
-/// - where the service offers IKxAutoReframeChoices: pointing at what the crop follows or avoids in a shot.
+/// - where the service offers IKxAutoReframeChoices: pointing at what the crop follows or avoids in a shot;
+/// - where the host also implements KrAutoReframeExports: how an export is getting on.
 ///
 /// The host implements it; the dialog calls it on the user-interface thread. No function of the module's library is
 /// needed to implement it.

@@ -2,6 +2,7 @@
 
 #include <Apps/AutoReframe/Backend/MediaBackendLoader.h>
 #include <Apps/AutoReframe/Exports/ExportQueue.h>
+#include <Apps/AutoReframe/Exports/ExportWatch.h>
 #include <Apps/AutoReframe/Library/MediaLibrary.h>
 #include <Apps/AutoReframe/Library/MediaLibraryView.h>
 
@@ -224,7 +225,12 @@ void MainWindow::ShowDialog(const MediaFile& video)
     m_isReframing = true;
     m_library->MarkUsed(video.path);
     DialogCallbacks callbacks;
-    callbacks.exportRequested = [this](const ExportRequest& request) { m_exports->Add(request); };
+    ExportWatch exports(*m_exports);
+    callbacks.exportRequested = [&exports](const ExportRequest& request) { exports.Add(request); };
+    callbacks.listenToExports = [&exports](const KrAutoReframeExports::Listener& listener) {
+        exports.Listen(listener);
+    };
+    callbacks.showInFolder = &MainWindow::ShowInFolder;
     callbacks.exportRefused = [this](const QString& message) { Inform(message); };
     callbacks.loadEdits = [this](const QString& path) { return EditsFor(path); };
     callbacks.editsChanged = [this](const QString& path, const VideoEdits& edits) {

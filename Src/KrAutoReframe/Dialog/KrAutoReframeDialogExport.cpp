@@ -59,10 +59,13 @@ void KrAutoReframeDialog::slotExportToLocal()
     if (info->hasAudioStream() && audio != nullptr) {
         audioBitRate = audio->bitRate(m_videoMedia->audioStreamIndex());
     }
-    const QSize resolution = CalculateResolution(sourceResolution, results.first().cropRect());
+    const KrAutoReframeAnalyzeParam param = m_process->GetParam();
+    const QRectF shape = Extension() != nullptr ? KrExportParameters::ShapeOfResult(results, sourceResolution,
+                                                                                    QSize(param.width, param.height))
+                                                : results.first().cropRect();
+    const QSize resolution = CalculateResolution(sourceResolution, shape);
     SendClickEvent(QStringLiteral("export_btn"));
 
-    const KrAutoReframeAnalyzeParam param = m_process->GetParam();
     KrAutoReframeExportDlg dialog(this);
     dialog.SetDefaultName(QFileInfo(m_sourcePath).baseName());
     dialog.SetResolution(resolution);

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <KxCore/KxRational.h>
+#include <KxModel/IKxAutoReframeResult.h>
 
+#include <QList>
 #include <QRectF>
 #include <QSize>
 
@@ -15,6 +17,11 @@ constexpr int DefaultAudioBitRate = 192000;  ///< bits a second
 /// The pixel size of a crop given in fractions of `source`: each side rounded (halves away from zero) and, where that
 /// is odd, moved to the even neighbour on the side of the exact value.
 QSize EvenResolution(const QSize& source, const QRectF& cropRatio);
+
+/// The crop that has the shape of the result. It is that of the first frame; but where that one shows the whole picture
+/// in a result of another shape, fitted, the first one that does not, or the middle of the picture in that shape.
+/// `results` is not empty.
+QRectF ShapeOfResult(const QList<IKxAutoReframeResult>& results, const QSize& source, const QSize& aspect);
 
 /// Frames a second, at most 60. 24000/1001 gives exactly 23.97, the editor's own name for that rate; 0
 /// when the rate is unknown.

@@ -2,8 +2,10 @@
 
 #include <KrAutoReframe/Engine/KrAutoReframeProcess.h>
 #include <KrAutoReframe/Engine/KrChoiceList.h>
+#include <KrAutoReframe/Engine/KrExportParameters.h>
 #include <KrAutoReframe/Extensions/KrCropKeys.h>
 #include <KrAutoReframe/Extensions/KrDoubtfulShots.h>
+#include <KrAutoReframe/Extensions/KrExportStatus.h>
 #include <KrAutoReframe/Extensions/KrFollowControls.h>
 #include <KrAutoReframe/Player/KrAutoReframePlayerControlBar.h>
 #include <KrAutoReframe/Player/KrAutoReframePlayerToolSlider.h>
@@ -44,12 +46,14 @@ KrDialogExtension::KrDialogExtension(KrAutoReframeExtensions& host, const Parts&
     : QObject(parent)
     , m_host(host)
     , m_parts(parts)
+    , m_exportStatus(new KrExportStatus(dynamic_cast<KrAutoReframeExports*>(&host), &parts.panel))
     , m_choices(new KrChoiceList(parts.process.GetHelper()->GetUndoStack(), this))
 {
     setObjectName(QStringLiteral("KrDialogExtension"));
     KrAutoReframeHelper& helper = *m_parts.process.GetHelper();
     helper.SetEditsSurvive(true);
     m_parts.panel.AddLine();
+    m_parts.panel.AddBelowExport(m_exportStatus);
     new KrCropKeys(m_parts.view, this);
     if (IKxAutoReframeShots* const shots = ServiceShots()) {
         shots->CollectShots(true);
@@ -115,6 +119,7 @@ void KrDialogExtension::LeaveSource()
     m_hasResults = false;
     m_isKnown.cancel();
     m_decide.stop();
+    m_exportStatus->SetOutputSize({});
     m_choices->Restore({});
     if (m_followControls != nullptr) {
         m_followControls->Clear();
@@ -191,6 +196,7 @@ void KrDialogExtension::ShowResults()
     m_shown = {param.width, param.height, param.mode};
     m_shownChoices = m_choices->Current();
     UpdateHint();
+    ShowOutputSize();
     ShowShots();
     ReportChange();
 }
@@ -249,6 +255,14 @@ void KrDialogExtension::UpdateHint()
 {
     const bool differs = !(PanelSettings() == m_shown) || !(m_choices->Current() == m_shownChoices);
     m_parts.panel.SetHint(m_hasResults && differs ? tr("Settings changed: analyze again") : QString());
+}
+
+void KrDialogExtension::ShowOutputSize()
+{
+    const QList<IKxAutoReframeResult> results = m_parts.process.GetHelper()->GetResults();
+    const QSize source = m_parts.view.VideoSize();
+    const QRectF shape = KrExportParameters::ShapeOfResult(results, source, QSize(m_shown.width, m_shown.height));
+    m_exportStatus->SetOutputSize(KrExportParameters::EvenResolution(source, shape));
 }
 
 KrAutoReframeState KrDialogExtension::CurrentState() const

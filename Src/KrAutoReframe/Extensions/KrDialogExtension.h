@@ -14,6 +14,7 @@ class KrAutoReframeProcess;
 class KrAutoReframePropertyPanel;
 class KrChoiceList;
 class KrDoubtfulShots;
+class KrExportStatus;
 class KrFollowControls;
 
 /// What the dialog does beyond its required behaviour, for a host that has turned it on: connects the dialog's parts
@@ -71,6 +72,7 @@ private:
     void ShowChoices();
     double FrameRate() const;
     void UpdateHint();
+    void ShowOutputSize();
     KrAutoReframeState CurrentState() const;
     void ReportChange();
 
@@ -87,6 +89,7 @@ private:
     QList<KxAutoReframeChoice> m_shownChoices;
     /// Null if the host's service has no shots.
     KrDoubtfulShots* m_doubtfulShots = nullptr;
+    KrExportStatus* m_exportStatus;
     KrChoiceList* m_choices;
     /// Null if the host's service takes no choices.
     KrFollowControls* m_followControls = nullptr;

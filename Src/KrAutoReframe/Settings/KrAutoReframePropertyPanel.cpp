@@ -210,6 +210,13 @@ void KrAutoReframePropertyPanel::AddLine()
     m_fact->setMinimumHeight(m_fact->fontMetrics().height());
 }
 
+void KrAutoReframePropertyPanel::AddBelowExport(QWidget* widget)
+{
+    auto* const column = static_cast<QVBoxLayout*>(layout());
+    column->insertWidget(column->indexOf(m_exportButton) + 1, widget);
+    widget->show();
+}
+
 void KrAutoReframePropertyPanel::SetHint(const QString& text)
 {
     m_hint->setText(text);

@@ -35,6 +35,8 @@ public:
 
     /// Adds a line below the analyse button, hidden at first.
     void AddLine();
+    /// Puts `widget` below the export button; the panel owns it.
+    void AddBelowExport(QWidget* widget);
     /// What the line shows: the hint, or without one the fact. For a fact that is empty, but not null, the line keeps
     /// its place, so that a hint that comes and goes does not move the export button. Only after AddLine().
     void SetHint(const QString& text);

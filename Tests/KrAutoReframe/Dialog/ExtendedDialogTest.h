@@ -10,7 +10,7 @@
 #include <QMap>
 
 /// A host that keeps the state of each video.
-class StateKeeper final : public KrAutoReframeExtensions
+class StateKeeper : public KrAutoReframeExtensions
 {
 public:
     KrAutoReframeState LoadState(const QString& path) override

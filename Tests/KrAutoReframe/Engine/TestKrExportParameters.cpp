@@ -62,3 +62,24 @@ TEST(KrExportParameters, UnknownParametersHaveDefaults)
     EXPECT_EQ(KrExportParameters::DefaultVideoBitRate, 2000000);
     EXPECT_EQ(KrExportParameters::DefaultAudioBitRate, 192000);
 }
+
+TEST(KrExportParameters, TheShapeOfTheResultIsThatOfItsFirstCrop)
+{
+    const QList<IKxAutoReframeResult> results{{0, {0.1, 0.0, 0.25, 1.0}}, {1, {0.2, 0.0, 0.3, 1.0}}};
+    EXPECT_EQ(KrExportParameters::ShapeOfResult(results, QSize(1280, 720), QSize(9, 16)), QRectF(0.1, 0.0, 0.25, 1.0));
+}
+
+TEST(KrExportParameters, AShotThatShowsTheWholePictureDoesNotSetTheShape)
+{
+    const QList<IKxAutoReframeResult> results{{0, {0.0, 0.0, 1.0, 1.0}}, {1, {0.2, 0.0, 0.3, 1.0}}};
+    EXPECT_EQ(KrExportParameters::ShapeOfResult(results, QSize(1280, 720), QSize(9, 16)), QRectF(0.2, 0.0, 0.3, 1.0));
+}
+
+TEST(KrExportParameters, IfAllShotsShowTheWholePictureTheAspectRatioSetsTheShape)
+{
+    const QList<IKxAutoReframeResult> whole{{0, {0.0, 0.0, 1.0, 1.0}}};
+    const QRectF shape = KrExportParameters::ShapeOfResult(whole, QSize(1280, 720), QSize(9, 16));
+    EXPECT_DOUBLE_EQ(shape.width(), 405.0 / 1280.0);
+    EXPECT_DOUBLE_EQ(shape.height(), 1.0);
+    EXPECT_DOUBLE_EQ(shape.center().x(), 0.5);
+}

@@ -27,3 +27,17 @@ void DialogEdits::OnStateChanged(const QString& path, const KrAutoReframeState& 
                                         state.isAnalyzed, state.editPoints, state.choices, state.seenShots});
     }
 }
+
+void DialogEdits::ListenToExports(const Listener& listener)
+{
+    if (m_callbacks.listenToExports) {
+        m_callbacks.listenToExports(listener);
+    }
+}
+
+void DialogEdits::ShowInFolder(const QString& filePath)
+{
+    if (m_callbacks.showInFolder) {
+        m_callbacks.showInFolder(filePath);
+    }
+}

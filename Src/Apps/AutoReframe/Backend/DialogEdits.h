@@ -4,8 +4,9 @@
 
 #include <KrAutoReframe/KrAutoReframeExtensions.h>
 
-/// Turns the dialog's extensions on, and passes what the person decides between dialog and program.
-class DialogEdits final : public KrAutoReframeExtensions
+/// Turns the dialog's extensions on, and passes what the person decides and how exports are getting on between dialog
+/// and program.
+class DialogEdits final : public KrAutoReframeExtensions, public KrAutoReframeExports
 {
 public:
     /// `callbacks` is borrowed.
@@ -13,6 +14,8 @@ public:
 
     KrAutoReframeState LoadState(const QString& path) override;
     void OnStateChanged(const QString& path, const KrAutoReframeState& state) override;
+    void ListenToExports(const Listener& listener) override;
+    void ShowInFolder(const QString& filePath) override;
 
 private:
     const DialogCallbacks& m_callbacks;

@@ -6,6 +6,8 @@
 #include <KxCore/KxResult.h>
 #include <KxRender/KxRenderJob.h>
 
+#include <KrAutoReframe/KrAutoReframeExtensions.h>
+
 #include <QImage>
 #include <QMap>
 #include <QRectF>
@@ -130,6 +132,9 @@ struct DialogCallbacks {
     std::function<VideoEdits(const QString& path)> loadEdits;
     /// The person changed something. May be empty.
     std::function<void(const QString& path, const VideoEdits& edits)> editsChanged;
+    /// See KrAutoReframeExports. May be empty.
+    std::function<void(const KrAutoReframeExports::Listener& listener)> listenToExports;
+    std::function<void(const QString& filePath)> showInFolder;
     /// The dialog considers this computer too slow for the analysis.
     std::function<void()> unsupported;
 };

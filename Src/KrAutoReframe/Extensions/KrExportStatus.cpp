@@ -1,0 +1,138 @@
+#include <KrAutoReframe/Extensions/KrExportStatus.h>
+
+#include <KxWidgets/KxLabel.h>
+#include <KxWidgets/KxPushButton.h>
+
+#include <QDir>
+#include <QFileInfo>
+#include <QProgressBar>
+#include <QStyle>
+#include <QVBoxLayout>
+#include <QVariant>
+
+namespace
+{
+
+using State = KrAutoReframeExport::State;
+
+constexpr int ButtonHeightPx = 32;
+constexpr int WidthPx = 225;
+constexpr int SideMarginPx = 11;
+constexpr int TenThousandths = 10000;
+
+KxLabel* MakeLabel(QWidget* parent, const char* name)
+{
+    KxLabel* const label = KxLabel::CreateLabel(parent, QString());
+    label->setObjectName(QLatin1String(name));
+    label->setProperty("textRole", QStringLiteral("muted"));
+    label->hide();
+    return label;
+}
+
+} // namespace
+
+KrExportStatus::KrExportStatus(KrAutoReframeExports* exports, QWidget* parent)
+    : KxWidget(parent)
+    , m_exports(exports)
+    , m_size(MakeLabel(this, "KrAutoReframe_outputSize"))
+    , m_file(MakeLabel(this, "KrAutoReframe_exportFile"))
+    , m_state(MakeLabel(this, "KrAutoReframe_exportState"))
+    , m_progress(new QProgressBar(this))
+    , m_showInFolder(KxPushButton::CreateSecondaryButton(this, ButtonHeightPx))
+{
+    setObjectName(QStringLiteral("KrAutoReframe_exportStatus"));
+    m_file->SetElideMode(Qt::ElideMiddle);
+    m_state->setWordWrap(true);
+    m_progress->setObjectName(QStringLiteral("KrAutoReframe_exportProgress"));
+    m_progress->setRange(0, TenThousandths);
+    m_progress->setTextVisible(false);
+    m_progress->hide();
+    m_showInFolder->setObjectName(QStringLiteral("KrAutoReframe_showInFolder"));
+    m_showInFolder->setFixedWidth(WidthPx);
+    m_showInFolder->hide();
+    auto* const column = new QVBoxLayout(this);
+    column->setContentsMargins(SideMarginPx, 0, SideMarginPx, 0);
+    column->setSpacing(8);
+    column->addWidget(m_size);
+    column->addSpacing(8);
+    for (QWidget* const part :
+         {static_cast<QWidget*>(m_file), static_cast<QWidget*>(m_progress), static_cast<QWidget*>(m_state)}) {
+        column->addWidget(part);
+    }
+    column->addWidget(m_showInFolder, 0, Qt::AlignHCenter);
+    if (m_exports != nullptr) {
+        m_exports->ListenToExports([this](const KrAutoReframeExport& state) { Show(state); });
+        connect(m_showInFolder, &QAbstractButton::clicked, this,
+                [this] { m_exports->ShowInFolder(m_export.filePath); });
+    }
+    RetranslateUi();
+}
+
+KrExportStatus::~KrExportStatus()
+{
+    if (m_exports != nullptr) {
+        m_exports->ListenToExports({});
+    }
+}
+
+void KrExportStatus::SetOutputSize(const QSize& size)
+{
+    m_outputSize = size;
+    ShowText();
+}
+
+void KrExportStatus::Show(const KrAutoReframeExport& state)
+{
+    m_export = state;
+    const bool isUnfinished = state.state == State::Queued || state.state == State::Running;
+    m_file->show();
+    m_state->show();
+    m_progress->setVisible(isUnfinished);
+    m_progress->setValue(state.progress);
+    m_showInFolder->setVisible(state.state == State::Done);
+    const QString role = state.state == State::Failed ? QStringLiteral("error") : QStringLiteral("muted");
+    if (m_state->property("textRole").toString() != role) {
+        m_state->setProperty("textRole", role);
+        // The style sheet reads properties only while a widget is polished.
+        m_state->style()->unpolish(m_state);
+        m_state->style()->polish(m_state);
+    }
+    ShowText();
+}
+
+void KrExportStatus::RetranslateUi()
+{
+    m_progress->setAccessibleName(tr("Progress of the export"));
+    m_size->setToolTip(tr("The size of the exported video in pixels."));
+    m_showInFolder->setText(tr("Show in Folder"));
+    m_showInFolder->setToolTip(tr("Opens the folder of the exported video."));
+    ShowText();
+}
+
+void KrExportStatus::ShowText()
+{
+    m_size->setText(
+        tr("Output: %1 × %2").arg(QString::number(m_outputSize.width()), QString::number(m_outputSize.height())));
+    m_size->setVisible(!m_outputSize.isEmpty());
+    m_file->setText(QFileInfo(m_export.filePath).fileName());
+    m_file->setToolTip(QDir::toNativeSeparators(m_export.filePath));
+    m_state->setText(StateText());
+}
+
+QString KrExportStatus::StateText() const
+{
+    constexpr int perPercent = TenThousandths / 100;
+    switch (m_export.state) {
+    case State::Queued:
+        return tr("Waiting in the export queue");
+    case State::Running:
+        return tr("Exporting: %1 %").arg(m_export.progress / perPercent);
+    case State::Done:
+        return m_export.message.isEmpty() ? tr("Exported") : m_export.message;
+    case State::Cancelled:
+        return tr("Export cancelled");
+    case State::Failed:
+        break;
+    }
+    return m_export.message;
+}

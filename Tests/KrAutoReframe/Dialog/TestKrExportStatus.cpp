@@ -1,0 +1,111 @@
+#include <KrAutoReframe/Engine/KrExportParameters.h>
+#include <KrAutoReframe/Extensions/KrExportStatus.h>
+#include <Tests/KrAutoReframe/Dialog/ExtendedDialogTest.h>
+
+#include <QProgressBar>
+
+namespace
+{
+
+using State = KrAutoReframeExport::State;
+
+class ReportingHost final : public StateKeeper, public KrAutoReframeExports
+{
+public:
+    void ListenToExports(const Listener& listener) override { report = listener; }
+    void ShowInFolder(const QString& filePath) override { shown.append(filePath); }
+
+    Listener report;
+    QStringList shown;
+};
+
+class KrExportStatusTest : public DialogTest
+{
+protected:
+    KrExportStatusTest()
+    {
+        Make(nullptr);
+        dialog->SetExtensions(host);
+        Load(Video(QStringLiteral("/v/clip.mp4")));
+    }
+    ~KrExportStatusTest() override { dialog.reset(); }
+
+    KxLabel& Label(const char* name) const { return *panel->findChild<KxLabel*>(QLatin1String(name)); }
+    QString OutputSize() const
+    {
+        const KxLabel& label = Label("KrAutoReframe_outputSize");
+        return label.isVisibleTo(panel) ? label.text() : QString();
+    }
+    QString StateText() const
+    {
+        const KxLabel& label = Label("KrAutoReframe_exportState");
+        return label.isVisibleTo(panel) ? label.text() : QString();
+    }
+    QProgressBar& Progress() const { return *panel->findChild<QProgressBar*>(); }
+    QAbstractButton& ShowInFolder() const { return PanelButton("KrAutoReframe_showInFolder"); }
+
+    ReportingHost host;
+};
+
+} // namespace
+
+TEST_F(KrExportStatusTest, TheOutputSizeIsKnownBeforeTheExport)
+{
+    EXPECT_EQ(OutputSize(), QString());
+    Analyse();
+    const QSize size = KrExportParameters::EvenResolution(view->VideoSize(), Helper().GetResults().first().cropRect());
+    EXPECT_EQ(OutputSize(), QStringLiteral("Output: %1 × %2").arg(size.width()).arg(size.height()));
+    Load(Video(QStringLiteral("/v/other.mp4")));
+    EXPECT_EQ(OutputSize(), QString());
+}
+
+TEST_F(KrExportStatusTest, ALineFollowsTheExport)
+{
+    EXPECT_EQ(StateText(), QString());
+    host.report({State::Queued, 0, QStringLiteral("/out/clip-AutoReframe-9 16.mp4"), QString()});
+    EXPECT_EQ(StateText(), QStringLiteral("Waiting in the export queue"));
+    EXPECT_EQ(Label("KrAutoReframe_exportFile").text(), QStringLiteral("clip-AutoReframe-9 16.mp4"));
+    host.report({State::Running, 4260, QStringLiteral("/out/clip.mp4"), QString()});
+    EXPECT_EQ(StateText(), QStringLiteral("Exporting: 42 %"));
+    EXPECT_TRUE(Progress().isVisibleTo(panel));
+    EXPECT_EQ(Progress().value(), 4260);
+    EXPECT_FALSE(ShowInFolder().isVisibleTo(panel));
+    host.report({State::Done, 10000, QStringLiteral("/out/clip.mp4"), QString()});
+    EXPECT_EQ(StateText(), QStringLiteral("Exported"));
+    EXPECT_FALSE(Progress().isVisibleTo(panel));
+    ASSERT_TRUE(ShowInFolder().isVisibleTo(panel));
+    ShowInFolder().click();
+    EXPECT_EQ(host.shown, QStringList{QStringLiteral("/out/clip.mp4")});
+}
+
+TEST_F(KrExportStatusTest, AFailureNamesItsReason)
+{
+    host.report({State::Failed, 0, QStringLiteral("/out/clip.mp4"), QStringLiteral("Cannot write /out/clip.mp4.")});
+    EXPECT_EQ(StateText(), QStringLiteral("Cannot write /out/clip.mp4."));
+    EXPECT_EQ(Label("KrAutoReframe_exportState").property("textRole").toString(), QStringLiteral("error"));
+    EXPECT_FALSE(ShowInFolder().isVisibleTo(panel));
+    host.report({State::Cancelled, 0, QStringLiteral("/out/clip.mp4"), QString()});
+    EXPECT_EQ(StateText(), QStringLiteral("Export cancelled"));
+    EXPECT_EQ(Label("KrAutoReframe_exportState").property("textRole").toString(), QStringLiteral("muted"));
+}
+
+TEST_F(KrExportStatusTest, TheHostReportsNothingToADialogThatHasGone)
+{
+    dialog.reset();
+    EXPECT_FALSE(host.report);
+}
+
+TEST_F(ExtendedDialogTest, AHostWithoutReportsOnExportsShowsTheSizeAlone)
+{
+    Load(Video(clip));
+    Analyse();
+    EXPECT_FALSE(Line("KrAutoReframe_outputSize").isEmpty());
+    EXPECT_TRUE(Line("KrAutoReframe_exportState").isEmpty());
+}
+
+TEST_F(DialogTest, WithoutExtensionsNothingIsBelowTheExportButton)
+{
+    Load(Video(QStringLiteral("/v/clip.mp4")));
+    Analyse();
+    EXPECT_EQ(panel->findChild<KrExportStatus*>(), nullptr);
+}
