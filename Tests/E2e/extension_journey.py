@@ -9,6 +9,7 @@ SHOT_FRAMES = SHOT_SECONDS * footage.RATE
 EDITED = (0xFF, 0x8B, 0x55)
 HINT = "KrAutoReframePropertyPanel_hint"
 SHOTS = "KrAutoReframePropertyPanel_shots"
+PREVIEW = "KrAutoReframePropertyPanel_previewSwitch"
 RATIO = "KrAutoReframePropertyPanel_aspectRatio"
 
 
@@ -128,6 +129,50 @@ class ExtensionJourney:
         journey.shadow()
         screen.shoot("followed")
 
+    def choose_guides(self, *names):
+        """Each choice closes the menu."""
+        screen = self.screen
+        for name in names:
+            screen.press("KrAutoReframe_view")
+            menu = screen.find("KrAutoReframe_viewMenu")
+            screen.steady(lambda report: str(screen.first(report, "KrAutoReframe_viewMenu", "rect")), "the menu")
+            screen.click(next(item["rect"] for item in menu["items"] if item["text"] == name))
+            screen.gone("KrAutoReframe_viewMenu")
+
+    def see_before_exporting(self):
+        """Guides over the crop and over the result; the file that is exported has none of them."""
+        screen, journey = self.screen, self.journey
+        self.choose_ratio("9:16")
+        screen.press("KrAutoReframePropertyPanel_restart")
+        screen.gone(HINT)
+        screen.find("KrAutoReframe_outputSize", text="Output: 304 × 540")
+        self.choose_guides("Safe Zones", "Thirds", "Headroom")
+        journey.shadow()
+        screen.shoot("guides-over-crop")
+        screen.press("KrAutoReframe_view")
+        screen.find("KrAutoReframe_viewMenu")
+        screen.shoot("view-menu")
+        screen.key("Escape")
+        screen.gone("KrAutoReframe_viewMenu")
+        screen.press(PREVIEW)
+        screen.until(lambda report: not any(widget["class"] == "ShadowForm" for widget in report["widgets"]),
+                     "the overlay to disappear")
+        screen.shoot("guides-over-result")
+        self.choose_guides("Thirds", "Headroom")
+        screen.shoot("safe-zones-over-result")
+        screen.press(PREVIEW)
+        journey.shadow()
+
+    def follow_the_export(self):
+        screen, journey = self.screen, self.journey
+        journey.order_export("a-rather-long-name-of-a-video-of-a-walk")
+        screen.find("KrAutoReframe_exportFile")
+        screen.shoot("export-begins")
+        screen.find("KrAutoReframe_exportState", text="Exported")
+        screen.find("KrAutoReframe_showInFolder", enabled=True)
+        screen.shoot("exported")
+        assert len(journey.results()) == 1, journey.results()
+
     def run(self):
         self.screen.find("StatusBar_text", text="1 video · 1 selected")
         self.look_at_doubtful_shots()
@@ -135,5 +180,7 @@ class ExtensionJourney:
         self.keep_the_edit(frame)
         self.open_again(frame)
         self.follow_a_box()
+        self.see_before_exporting()
+        self.follow_the_export()
         self.journey.close_with_title_bar()
         self.journey.quit()

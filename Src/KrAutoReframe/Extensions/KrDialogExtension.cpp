@@ -7,6 +7,7 @@
 #include <KrAutoReframe/Extensions/KrDoubtfulShots.h>
 #include <KrAutoReframe/Extensions/KrExportStatus.h>
 #include <KrAutoReframe/Extensions/KrFollowControls.h>
+#include <KrAutoReframe/Extensions/KrViewMenu.h>
 #include <KrAutoReframe/Player/KrAutoReframePlayerControlBar.h>
 #include <KrAutoReframe/Player/KrAutoReframePlayerToolSlider.h>
 #include <KrAutoReframe/Player/KrAutoReframePlayerView.h>
@@ -55,6 +56,7 @@ KrDialogExtension::KrDialogExtension(KrAutoReframeExtensions& host, const Parts&
     m_parts.panel.AddLine();
     m_parts.panel.AddBelowExport(m_exportStatus);
     new KrCropKeys(m_parts.view, this);
+    new KrViewMenu(m_parts.view);
     if (IKxAutoReframeShots* const shots = ServiceShots()) {
         shots->CollectShots(true);
         m_doubtfulShots = new KrDoubtfulShots(m_parts.view, m_parts.panel);

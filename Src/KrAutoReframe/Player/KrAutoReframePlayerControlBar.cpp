@@ -149,6 +149,11 @@ void KrAutoReframePlayerControlBar::AddEditing(QWidget* buttons)
     m_row->insertWidget(m_row->indexOf(m_nextButton) + 1, buttons);
 }
 
+void KrAutoReframePlayerControlBar::AddViewing(QWidget* buttons)
+{
+    m_row->insertWidget(m_row->indexOf(m_timeLabel), buttons);
+}
+
 void KrAutoReframePlayerControlBar::SetUndoRedoEnabled(bool canUndo, bool canRedo)
 {
     m_undoButton->setEnabled(canUndo);

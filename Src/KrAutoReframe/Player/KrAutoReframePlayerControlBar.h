@@ -37,6 +37,8 @@ public:
     KrAutoReframePlayerToolSlider& Slider() const;
     /// Puts `buttons` behind those that edit; the bar owns them.
     void AddEditing(QWidget* buttons);
+    /// Puts `buttons` before the time; the bar owns them.
+    void AddViewing(QWidget* buttons);
 
     void updateToolTip() override;
 

@@ -28,6 +28,12 @@ ShadowForm::Kind OverlayKind()
     return KxSingleton<KxScreen>::instance()->canOverlayWindows() ? ShadowForm::Kind::Window : ShadowForm::Kind::Child;
 }
 
+double ScreenRatio()
+{
+    const double ratio = KxSingleton<KxScreen>::instance()->devicePixelRatio();
+    return ratio < 1e-6 ? 1.0 : ratio;
+}
+
 bool IsSameRect(const QRectF& a, const QRectF& b)
 {
     return qFuzzyCompare(a.x(), b.x()) && qFuzzyCompare(a.y(), b.y()) && qFuzzyCompare(a.width(), b.width()) &&
@@ -129,6 +135,15 @@ ShadowForm& KrAutoReframePlayerView::Overlay() const
     return *m_shadowForm;
 }
 
+QRectF KrAutoReframePlayerView::ResultArea() const
+{
+    if (!m_isReframedShown) {
+        return {};
+    }
+    const QRect video = m_presenter->mediaPlayer()->videoRect();
+    return {video.topLeft(), QSizeF(video.size()) / ScreenRatio()};
+}
+
 QSize KrAutoReframePlayerView::VideoSize() const
 {
     const IKxTimeline* const timeline = m_helper ? m_helper->GetSourceTimeline() : nullptr;
@@ -185,10 +200,7 @@ void KrAutoReframePlayerView::UpdateOverlayGeometry()
     if (!m_shadowForm->isVisible()) {
         return;
     }
-    double ratio = KxSingleton<KxScreen>::instance()->devicePixelRatio();
-    if (ratio < 1e-6) {
-        ratio = 1.0;
-    }
+    const double ratio = ScreenRatio();
     const QRect video = m_presenter->mediaPlayer()->videoRect();
     m_shadowForm->move(m_shadowForm->isWindow() ? mapToGlobal(video.topLeft()) : video.topLeft());
     m_shadowForm->setFixedSize(qRound(video.width() / ratio), qRound(video.height() / ratio));

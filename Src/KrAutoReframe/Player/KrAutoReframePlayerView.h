@@ -41,6 +41,8 @@ public:
     KrAutoReframePlayerControlBar& ControlBar() const;
     ShadowForm& Overlay() const;
 
+    /// Where the result is in the player widget; empty while the source is shown.
+    QRectF ResultArea() const;
     /// Of the source, in pixels; 16 x 9 without one.
     QSize VideoSize() const;
     /// Sets the crop of the current frame, as a drag of the overlay does.

@@ -61,6 +61,12 @@ void ShadowForm::SetCropRect(const QRectF& rect)
     m_cropRect = rect;
 }
 
+QRect ShadowForm::CropArea() const
+{
+    const QRect outline = CropPixels();
+    return {outline.topLeft(), outline.size() + QSize(1, 1)};
+}
+
 bool ShadowForm::IsEditedFrame() const
 {
     return m_editedFrame;

@@ -33,6 +33,9 @@ public:
     const QRectF& GetCropRect() const;
     void SetCropRect(const QRectF& rect);
 
+    /// The crop in the form's pixels.
+    QRect CropArea() const;
+
     /// Whether the current frame is an edited one; it determines the outline's colour. Setting it does not repaint.
     bool IsEditedFrame() const;
     void SetEditedFrame(bool isEdited);
