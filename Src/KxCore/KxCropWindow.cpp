@@ -58,6 +58,14 @@ QRectF KxCropWindow::Pixels(const QRectF& crop, const QSize& picture)
     return {across.start, down.start, across.length, down.length};
 }
 
+bool KxCropWindow::HasShapeOf(const QSizeF& target, const QRectF& crop, const QSize& picture)
+{
+    // A side is rounded to an even number of pixels, which changes the shape of small pictures.
+    constexpr double rounding = 0.03;
+    const QSizeF size = Pixels(crop, picture).size();
+    return std::abs(size.width() * target.height() / (size.height() * target.width()) - 1.0) <= rounding;
+}
+
 QRectF KxCropWindow::MappedTo(const QRectF& area, const QRectF& crop)
 {
     return {area.x() + crop.x() * area.width(), area.y() + crop.y() * area.height(), crop.width() * area.width(),

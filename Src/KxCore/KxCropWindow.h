@@ -23,6 +23,10 @@ KXCORE_API QRectF Central(const QSizeF& picture, const QSizeF& aspect);
 /// 1/4096 pixel. Fractions come with rounding errors; without the steps, a crop of whole pixels would be resampled.
 KXCORE_API QRectF Pixels(const QRectF& crop, const QSize& picture);
 
+/// Whether `crop`, in a picture of size `picture`, has the shape of `target`, as far as whole even pixels allow.
+/// Neither size is empty.
+KXCORE_API bool HasShapeOf(const QSizeF& target, const QRectF& crop, const QSize& picture);
+
 /// Where `crop` lies if the picture fills `area`.
 KXCORE_API QRectF MappedTo(const QRectF& area, const QRectF& crop);
 } // namespace KxCropWindow

@@ -37,13 +37,26 @@ KxReadStatus KxPictureMaker::Make(int frame, const QSize& area, KxPlayerPicture&
     picture.shape = m_source->ShapeAt(frame, decoded.DisplayedSize());
     const QSize size = KxPicturePlace::In(area, picture.shape).size().expandedTo(QSize(1, 1));
     const std::optional<QRectF> crop = m_source->CropAt(frame);
-    picture.image = crop ? Cut(decoded, *crop, size) : Whole(decoded, size);
+    const QSize displayed = decoded.DisplayedSize();
+    picture.image = m_source->IsFittedAt(frame, displayed) ? Fitted(decoded, *crop, size)
+                    : crop                                 ? Cut(decoded, *crop, size)
+                                                           : Whole(decoded, size);
     return picture.image.isNull() ? KxReadStatus::Failed : KxReadStatus::Delivered;
 }
 
 QImage KxPictureMaker::Whole(const KxVideoFrame& decoded, const QSize& size)
 {
     return m_scaler.Scale(decoded, size, QImage::Format_RGB32);
+}
+
+QImage KxPictureMaker::Fitted(const KxVideoFrame& decoded, const QRectF& crop, const QSize& size)
+{
+    const QSize even(size.width() + size.width() % 2, size.height() + size.height() % 2);
+    if (m_fittedCutter == nullptr || m_fittedCutter->Size() != even) {
+        m_fittedCutter = std::make_unique<KxFittedCutter>(even);
+    }
+    const KxResult<KxVideoFrame> fitted = m_fittedCutter->Cut(decoded, crop);
+    return fitted ? Whole(*fitted, size) : QImage();
 }
 
 QImage KxPictureMaker::Cut(const KxVideoFrame& decoded, const QRectF& crop, const QSize& size)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <KxMedia/Picture/KxFittedCutter.h>
 #include <KxMedia/Picture/KxPictureScaler.h>
 #include <KxMedia/Read/KxVideoReader.h>
 #include <KxPlayer/KxPlaySource.h>
@@ -26,9 +27,12 @@ public:
 private:
     KxPictureMaker(std::shared_ptr<const KxPlaySource> source, std::unique_ptr<KxVideoReader> reader);
     QImage Whole(const KxVideoFrame& decoded, const QSize& size);
+    QImage Fitted(const KxVideoFrame& decoded, const QRectF& crop, const QSize& size);
     QImage Cut(const KxVideoFrame& decoded, const QRectF& crop, const QSize& size);
 
     std::shared_ptr<const KxPlaySource> m_source;
     std::unique_ptr<KxVideoReader> m_reader;
     KxPictureScaler m_scaler;
+    /// For the last size.
+    std::unique_ptr<KxFittedCutter> m_fittedCutter;
 };

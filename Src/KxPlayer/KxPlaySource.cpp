@@ -23,6 +23,14 @@ std::optional<int> PlayedAudio(const IKxClip& clip)
     return clip.mediaInfo()->hasAudioStream() ? std::optional<int>(0) : std::nullopt;
 }
 
+/// `result` if it has another shape than `picture`, otherwise empty.
+QSize OtherShape(const QSize& result, const QSize& picture)
+{
+    const bool isOther = !result.isEmpty() && !picture.isEmpty() &&
+                         !KxCropWindow::HasShapeOf(result, QRectF(0.0, 0.0, 1.0, 1.0), picture);
+    return isOther ? result : QSize();
+}
+
 } // namespace
 
 std::shared_ptr<const KxPlaySource> KxPlaySource::Of(const IKxTimeline& timeline)
@@ -47,6 +55,7 @@ std::shared_ptr<const KxPlaySource> KxPlaySource::Of(const IKxTimeline& timeline
         source->cropKeyFrames = crops->KeyFrames();
         if (!source->cropKeyFrames.isEmpty()) {
             source->resolution = video->resolution();
+            source->result = OtherShape(resolution, source->resolution);
         }
     }
     source->audioStream = PlayedAudio(clip);
@@ -74,8 +83,17 @@ std::optional<QRectF> KxPlaySource::CropAt(int frame) const
     return KxCropWindow::Inside(param.cropRect);
 }
 
+bool KxPlaySource::IsFittedAt(int frame, const QSize& picture) const
+{
+    const std::optional<QRectF> crop = CropAt(frame);
+    return crop && !result.isEmpty() && !KxCropWindow::HasShapeOf(result, *crop, picture);
+}
+
 QSizeF KxPlaySource::ShapeAt(int frame, const QSize& picture) const
 {
+    if (IsFittedAt(frame, picture)) {
+        return result;
+    }
     const std::optional<QRectF> crop = CropAt(frame);
     return crop ? KxCropWindow::Pixels(*crop, picture).size() : QSizeF(resolution);
 }

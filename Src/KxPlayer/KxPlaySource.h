@@ -20,6 +20,9 @@ struct KXPLAYER_API KxPlaySource {
     int frameCount = 0;
     /// Display size of pictures without a crop.
     QSize resolution;
+    /// The shape of the result, in a timeline whose shape is not that of its clip; otherwise empty. Crops that do not
+    /// have it are fitted into it (see KxFittedCutter).
+    QSize result;
     /// In ascending order; empty for a timeline that shows whole pictures.
     QList<KxCropPanZoomKeyFrameParam> cropKeyFrames;
     /// Index among the file's audio streams, from 0; nothing without sound.
@@ -37,6 +40,8 @@ struct KXPLAYER_API KxPlaySource {
     /// The part of the picture that is shown at `frame`, in fractions inside the picture; nothing if the whole picture
     /// is shown.
     std::optional<QRectF> CropAt(int frame) const;
+    /// Whether what is shown at `frame` is fitted into `result`, for pictures of size `picture`.
+    bool IsFittedAt(int frame, const QSize& picture) const;
     /// The aspect ratio of what is shown at `frame`, for pictures of size `picture`.
     QSizeF ShapeAt(int frame, const QSize& picture) const;
 };

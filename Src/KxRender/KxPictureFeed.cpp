@@ -1,5 +1,6 @@
 #include <KxRender/KxPictureFeed.h>
 
+#include <KxCore/KxCropWindow.h>
 #include <KxMedia/Picture/KxDrawnFrame.h>
 
 #include <algorithm>
@@ -33,6 +34,7 @@ KxPictureFeed::KxPictureFeed(KxVideoReader& reader, const KxRenderSource& source
     , m_cancel(cancel)
     , m_pictures(QueueLength(size))
     , m_cutter(size)
+    , m_fittedCutter(size)
     , m_thread([this] { Work(); })
 {
 }
@@ -97,7 +99,10 @@ void KxPictureFeed::DecodeAndCut()
 KxResult<KxVideoFrame> KxPictureFeed::Make(const KxVideoFrame& picture, qint64 frame)
 {
     if (!m_source.overlay) {
-        return m_cutter.Cut(picture, m_source.CropAt(frame, picture.DisplayedSize(), m_size));
+        const QRectF crop = m_source.CropAt(frame, picture.DisplayedSize(), m_size);
+        const bool isFitted = m_source.otherShapes == KxRenderSource::OtherShapes::Fitted &&
+                              !KxCropWindow::HasShapeOf(m_size, crop, picture.DisplayedSize());
+        return isFitted ? m_fittedCutter.Cut(picture, crop) : m_cutter.Cut(picture, crop);
     }
     QImage image = m_scaler.Scale(picture, m_size, QImage::Format_RGB32);
     if (!image.isNull()) {

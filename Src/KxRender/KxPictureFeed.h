@@ -3,6 +3,7 @@
 #include <KxCore/KxBoundedQueue.h>
 #include <KxCore/KxCancelToken.h>
 #include <KxCore/KxThread.h>
+#include <KxMedia/Picture/KxFittedCutter.h>
 #include <KxMedia/Picture/KxFrameCutter.h>
 #include <KxMedia/Picture/KxPictureScaler.h>
 #include <KxMedia/Picture/KxVideoFrame.h>
@@ -46,6 +47,7 @@ private:
     KxBoundedQueue<KxVideoFrame> m_pictures;
     // Used by the thread only.
     KxFrameCutter m_cutter;
+    KxFittedCutter m_fittedCutter;
     KxPictureScaler m_scaler;
     // Written by the thread, read after it has ended.
     KxError m_failure;

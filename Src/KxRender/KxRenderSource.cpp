@@ -2,6 +2,7 @@
 
 #include <KxCore/KxCropWindow.h>
 #include <KxModel/IKxKeyFrameHelper.h>
+#include <KxModel/IKxMediaInfo.h>
 #include <KxModel/IKxTimeline.h>
 
 #include <QFileInfo>
@@ -21,6 +22,12 @@ KxResult<KxRenderSource> KxRenderSource::FromTimeline(IKxTimeline& timeline)
     KxCropPanZoomKeyFrameParam param;
     if (keyFrames == nullptr || !keyFrames->interpolatedParam(0, &param)) {
         return source;
+    }
+    const auto* const video = dynamic_cast<const IKxVideoMediaInfo*>(clips.first()->mediaInfo());
+    const QSize result = timeline.projectSettings().resolution;
+    if (video != nullptr && !video->resolution().isEmpty() && !result.isEmpty() &&
+        !KxCropWindow::HasShapeOf(result, QRectF(0.0, 0.0, 1.0, 1.0), video->resolution())) {
+        source.otherShapes = OtherShapes::Fitted;
     }
     auto crops = std::make_shared<std::vector<QRectF>>();
     crops->reserve(static_cast<size_t>(std::max<qint64>(timeline.duration(), 1)));

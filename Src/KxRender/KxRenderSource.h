@@ -22,11 +22,16 @@ struct KXRENDER_API KxRenderSource {
     /// The crop of each frame, in fractions of the picture, frame 0 first; later frames have the last one. Null or
     /// empty: the central window of the target's shape.
     std::shared_ptr<const std::vector<QRectF>> crops;
+    /// How a crop of another shape than the result is shown: stretched, or fitted, complete over its own blurred middle
+    /// (see KxFittedCutter).
+    enum class OtherShapes { Stretched, Fitted };
+    OtherShapes otherShapes = OtherShapes::Stretched;
     /// If set, nothing is cut: the whole picture is scaled to the size of the result, and this draws on it. Called on a
     /// thread of the rendering; an exception fails the rendering.
     std::function<void(QImage& picture, qint64 frame)> overlay;
 
-    /// Takes the first clip of `timeline` and the crop of its keyframes at every frame. Fails for a timeline whose
+    /// Takes the first clip of `timeline` and the crop of its keyframes at every frame. In a timeline of another shape
+    /// than its clip, crops that do not have that shape are fitted. Fails for a timeline whose
     /// first clip has no file. User-interface thread.
     static KxResult<KxRenderSource> FromTimeline(IKxTimeline& timeline);
 
