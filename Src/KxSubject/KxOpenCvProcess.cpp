@@ -8,3 +8,8 @@ void KxOpenCvProcess::Prepare()
     cv::setNumThreads(1);
     cv::utils::logging::setLogLevel(cv::utils::logging::LOG_LEVEL_SILENT);
 }
+
+std::string KxOpenCvProcess::Version()
+{
+    return cv::getVersionString();
+}
