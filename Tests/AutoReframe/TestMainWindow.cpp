@@ -7,6 +7,7 @@
 #include <QProcess>
 #include <QScreen>
 #include <QStandardPaths>
+#include <QTimer>
 
 #include <future>
 
@@ -177,6 +178,20 @@ TEST_F(TestMainWindow, AFolderWithoutVideosIsReported)
         m_boxes,
         QStringList(QStringLiteral("There are no videos in %1.").arg(m_folder.filePath(QStringLiteral("empty")))));
     EXPECT_EQ(View()->model()->rowCount(), 0);
+}
+
+TEST_F(TestMainWindow, F1ListsTheShortcuts)
+{
+    m_window->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(m_window.get()));
+    QString shown;
+    QTimer::singleShot(0, m_window.get(), [&shown] {
+        ASSERT_NE(QApplication::activeModalWidget(), nullptr);
+        shown = QApplication::activeModalWidget()->objectName();
+        QApplication::activeModalWidget()->close();
+    });
+    QTest::keyClick(m_window.get(), Qt::Key_F1);
+    EXPECT_EQ(shown, QStringLiteral("HelpDialog"));
 }
 
 TEST_F(TestMainWindow, DeleteRemovesTheSelection)

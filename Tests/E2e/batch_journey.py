@@ -59,6 +59,8 @@ class BatchJourney:
         self.look()
         self.save_track()
         self.open_track()
+        self.read_help()
+        self.import_recent_folder()
         self.journey.quit()
 
     def import_folder(self):
@@ -205,3 +207,34 @@ class BatchJourney:
         assert footage.stream(again, "video")["nb_read_frames"] == str(footage.FRAMES)
         screen.until(lambda report: len([card for card in screen.all(report, "ExportCard_status")
                                          if card["text"].startswith("Done")]) == 5, "five finished exports")
+
+    def read_help(self):
+        screen = self.screen
+        screen.key("F1")
+        screen.find("HelpDialog_close")
+        screen.steady(lambda report: screen.first(report, "HelpDialog", "rect"), "the list of shortcuts")
+        screen.shoot("shortcuts")
+        screen.key("Escape")
+        screen.gone("HelpDialog_close")
+        self.choose("About Auto Reframe")
+        versions = screen.find("AboutDialog_versions")["text"]
+        assert all(name in versions for name in ("Qt ", "FFmpeg ", "OpenCV ", "SQLite ")), versions
+        screen.steady(lambda report: screen.first(report, "AboutDialog", "rect"), "the dialog")
+        screen.shoot("about")
+        screen.press("AboutDialog_close")
+        screen.gone("AboutDialog_close")
+
+    def import_recent_folder(self):
+        """The folder was imported in the first run."""
+        screen = self.screen
+        extension_journey.make_shots(os.path.join(self.clips, "new.mp4"))
+        screen.press("TopBar_menu")
+        item = screen.steady(lambda report: next((item["rect"] for item in screen.first(report, "MainMenu", "items") or []
+                                                  if item["text"] == "Open Recent"), None), "Open Recent")
+        screen.click(item)
+        folder = screen.steady(lambda report: next((item["rect"] for item in screen.first(report, "RecentMenu", "items")
+                                                    or [] if item["text"] == os.path.basename(self.clips)), None),
+                               "the folder in the menu")
+        screen.shoot("recent-folders")
+        screen.click(folder)
+        screen.find("StatusBar_text", text="4 videos · 4 selected")

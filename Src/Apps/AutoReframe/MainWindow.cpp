@@ -184,6 +184,7 @@ void MainWindow::ConnectSignals()
     connect(new QShortcut(Qt::CTRL + Qt::Key_Q, this), &QShortcut::activated, this, &QWidget::close);
     connect(new QShortcut(Qt::CTRL + Qt::SHIFT + Qt::Key_R, this), &QShortcut::activated, this,
             &MainWindow::ReframeAllSelected);
+    connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, this, &MainWindow::ShowHelp);
     connect(m_panel, &ExportPanel::sigShowInFolder, this, &MainWindow::ShowInFolder);
     connect(m_panel, &ExportPanel::sigLook, this, &MainWindow::LookAtExport);
     connect(&m_store, &LibraryStore::sigNotice, this, &MainWindow::Inform);

@@ -64,6 +64,7 @@ private:
     void SaveView();
     void ShowMenu();
     void AddRecent(QMenu& menu);
+    void AddPaths(QMenu& menu, const QStringList& paths, const QIcon& icon);
     void ChooseFiles();
     void ChooseFolder();
     /// Empty if the person cancelled or the backend cannot be loaded, which is reported.
@@ -86,6 +87,8 @@ private:
     CropRequest RequestForSelected() const;
     /// Nothing if the person cancelled or it failed, which is reported.
     std::optional<FoundCrops> WaitForCrops(const CropRequest& request);
+    void ShowHelp();
+    void ShowAbout();
     QString OutputFolder() const;
     /// Whether there is such a file already, or an export is going to write it.
     bool IsTaken(const QString& path) const;

@@ -11,6 +11,7 @@
 #include <KxWidgets/KxFileDialog.h>
 #include <KxWidgets/KxPushButton.h>
 #include <KxWidgets/KxToolButton.h>
+#include <KxWidgets/KxUIStyle.h>
 
 #include <QApplication>
 #include <QDir>
@@ -93,6 +94,9 @@ void MainWindow::ShowMenu()
     menu.addAction(tr("Save Crop Track…"), this, &MainWindow::SaveCropTrack)->setEnabled(isOneSelected);
     menu.addAction(tr("Open Crop Track…"), this, &MainWindow::OpenCropTrack)->setEnabled(isOneSelected);
     menu.addSeparator();
+    menu.addAction(tr("Keyboard Shortcuts"), this, &MainWindow::ShowHelp)->setShortcut(QKeySequence::HelpContents);
+    menu.addAction(tr("About Auto Reframe"), this, &MainWindow::ShowAbout);
+    menu.addSeparator();
     menu.addAction(tr("Quit"), this, &QWidget::close)->setShortcut(Qt::CTRL + Qt::Key_Q);
     constexpr int gapPx = 4;
     menu.exec(m_menu->mapToGlobal(QPoint(0, m_menu->height() + gapPx)));
@@ -100,15 +104,24 @@ void MainWindow::ShowMenu()
 
 void MainWindow::AddRecent(QMenu& menu)
 {
-    constexpr int longestPx = 320;
     menu.setObjectName(QStringLiteral("RecentMenu"));
     menu.setToolTipsVisible(true);
-    menu.setEnabled(!m_library->Recent().isEmpty());
-    for (const QString& path : m_library->Recent()) {
+    menu.setEnabled(!m_library->Recent().isEmpty() || !m_library->RecentFolders().isEmpty());
+    AddPaths(menu, m_library->Recent(), QIcon());
+    if (!m_library->RecentFolders().isEmpty()) {
+        menu.addSeparator();
+        AddPaths(menu, m_library->RecentFolders(), KxUIStyle::Icon(QStringLiteral("folder")));
+    }
+}
+
+void MainWindow::AddPaths(QMenu& menu, const QStringList& paths, const QIcon& icon)
+{
+    constexpr int longestPx = 320;
+    for (const QString& path : paths) {
         QString name = menu.fontMetrics().elidedText(QFileInfo(path).fileName(), Qt::ElideMiddle, longestPx);
         // An ampersand would mark the key that chooses the entry.
         name.replace(QLatin1Char('&'), QStringLiteral("&&"));
-        QAction* const action = menu.addAction(name, this, [this, path] { m_library->Import({path}); });
+        QAction* const action = menu.addAction(icon, name, this, [this, path] { m_library->Import({path}); });
         action->setToolTip(QDir::toNativeSeparators(path));
     }
 }

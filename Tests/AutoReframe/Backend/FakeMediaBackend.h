@@ -133,6 +133,7 @@ public:
         return ++lastThumbnail;
     }
     void CancelThumbnail(quint64) override {}
+    QStringList LibraryVersions() const override { return {QStringLiteral("Camera 1.2")}; }
     QString ImportPatterns() const override { return QStringLiteral("*.mp4;*.mov"); }
     void Reframe(const MediaFile& video, QWidget&, const DialogCallbacks& callbacks) override
     {

@@ -1,6 +1,7 @@
 #include <Apps/AutoReframe/Backend/HostMediaBackend.h>
 #include <Tests/Support/MadeVideo.h>
 
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -70,4 +71,13 @@ TEST_F(TestHostMediaBackend, ACancelledThumbnailIsNotDelivered)
 TEST_F(TestHostMediaBackend, ImportPatternsIncludeMp4)
 {
     EXPECT_TRUE(m_backend.ImportPatterns().split(QLatin1Char(';')).contains(QStringLiteral("*.mp4")));
+}
+
+TEST_F(TestHostMediaBackend, NamesTheVersionsOfItsLibraries)
+{
+    const QRegularExpression version(QStringLiteral("^(FFmpeg|OpenCV) \\d+\\.\\d+"));
+    ASSERT_EQ(m_backend.LibraryVersions().size(), 2);
+    for (const QString& library : m_backend.LibraryVersions()) {
+        EXPECT_TRUE(version.match(library).hasMatch()) << library.toStdString();
+    }
 }

@@ -88,11 +88,15 @@ TEST_F(TestLibraryStore, TheDestructorWritesWhatIsWaiting)
         }
         store.RemoveVideo(QStringLiteral("/7.mp4"));
         store.SaveSelection({QStringLiteral("/3.mp4")});
+        store.SaveRecentFolders({QStringLiteral("/day 2"), QStringLiteral("/day 1")});
+        store.SaveBatchSettings("{\"speed\":8}");
         store.SaveScroll(321);
     }
     const StoredContents saved = Saved();
     EXPECT_EQ(saved.videos.size(), 199);
     EXPECT_EQ(saved.selection, QStringList(QStringLiteral("/3.mp4")));
+    EXPECT_EQ(saved.recentFolders, QStringList({QStringLiteral("/day 2"), QStringLiteral("/day 1")}));
+    EXPECT_EQ(saved.batchSettings, QByteArray("{\"speed\":8}"));
     EXPECT_EQ(saved.scrollPx, 321);
 }
 

@@ -5,6 +5,7 @@
 #include <Apps/AutoReframe/Backend/ExportRecord.h>
 #include <Apps/CropTracks/CropTrackFile.h>
 #include <KxCore/KxLog.h>
+#include <KxMedia/Container/KxAvVersion.h>
 #include <KxMediaLibrary/KxThumbnailer.h>
 #include <KxModel/KxAutoReframeService.h>
 #include <KxModel/KxDetectorFiles.h>
@@ -12,6 +13,7 @@
 #include <KxModel/KxRecordStore.h>
 #include <KxModel/KxSimpleTimeline.h>
 #include <KxRender/KxRenderJob.h>
+#include <KxSubject/KxOpenCvProcess.h>
 
 #include <KrAutoReframe/KrAutoReframeDialog.h>
 #include <KxMediaLibrary/KxMediaLibraryUtils.h>
@@ -124,6 +126,12 @@ void HostMediaBackend::CancelThumbnail(quint64 request)
 {
     m_thumbnailRequests.remove(request);
     Thumbnailer().Cancel(request);
+}
+
+QStringList HostMediaBackend::LibraryVersions() const
+{
+    return {QStringLiteral("FFmpeg %1").arg(KxAvVersion()),
+            QStringLiteral("OpenCV %1").arg(QString::fromStdString(KxOpenCvProcess::Version()))};
 }
 
 QString HostMediaBackend::ImportPatterns() const

@@ -18,6 +18,7 @@ public:
     quint64 RequestThumbnail(const QString& path, const QSize& roomPx,
                              const std::function<void(const QImage& picture)>& ready) override;
     void CancelThumbnail(quint64 request) override;
+    QStringList LibraryVersions() const override;
     QString ImportPatterns() const override;
     void Reframe(const MediaFile& video, QWidget& parent, const DialogCallbacks& callbacks) override;
     std::unique_ptr<MediaTask> Render(const ExportRequest& request, const KxRenderJob::Callbacks& callbacks) override;

@@ -157,6 +157,8 @@ public:
     virtual quint64 RequestThumbnail(const QString& path, const QSize& roomPx,
                                      const std::function<void(const QImage& picture)>& ready) = 0;
     virtual void CancelThumbnail(quint64 request) = 0;
+    /// The libraries behind the backend with the versions that run: "FFmpeg 5.1.6".
+    virtual QStringList LibraryVersions() const = 0;
     /// File name patterns of the formats that can be opened, separated by ";".
     virtual QString ImportPatterns() const = 0;
     /// Shows the Auto Reframe dialog over `parent` and returns when it was closed. User-interface thread.

@@ -15,6 +15,7 @@ namespace
 using State = MediaLibraryModel::State;
 
 constexpr int MostRecent = 10;
+constexpr int MostRecentFolders = 5;
 
 StoredVideo ToStored(const MediaFile& media)
 {
@@ -71,6 +72,7 @@ void MediaLibrary::Restore(const StoredContents& contents)
     }
     m_edits = contents.edits;
     m_recent = contents.recent;
+    m_recentFolders = contents.recentFolders;
     const QList<int> ids = m_model.AddStored(videos);
     m_isRestored = true;
     Q_EMIT sigRestored(contents);
@@ -102,7 +104,7 @@ void MediaLibrary::ImportFiles(const QStringList& paths, Origin origin)
     QModelIndexList imported;
     for (const QString& path : paths) {
         if (QFileInfo(path).isDir()) {
-            m_folders += path;
+            AddFolder(path);
             continue;
         }
         QModelIndex index = m_model.IndexOfPath(path);
@@ -124,6 +126,16 @@ void MediaLibrary::ImportFiles(const QStringList& paths, Origin origin)
         Q_EMIT sigImported(imported);
         m_backend.Start();
     }
+}
+
+void MediaLibrary::AddFolder(const QString& path)
+{
+    const QString folder = QDir::cleanPath(QFileInfo(path).absoluteFilePath());
+    m_folders += folder;
+    m_recentFolders.removeAll(folder);
+    m_recentFolders.prepend(folder);
+    m_recentFolders = m_recentFolders.mid(0, MostRecentFolders);
+    m_store.SaveRecentFolders(m_recentFolders);
 }
 
 void MediaLibrary::Skip(int files)

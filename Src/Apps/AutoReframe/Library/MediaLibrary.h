@@ -39,6 +39,8 @@ public:
 
     /// The list of videos used last, newest first.
     const QStringList& Recent() const { return m_recent; }
+    /// The folders imported last, newest first.
+    const QStringList& RecentFolders() const { return m_recentFolders; }
     void MarkUsed(const QString& path);
     VideoEdits EditsOf(const QString& path) const { return m_edits.value(path); }
     void SaveEdits(const QString& path, const VideoEdits& edits);
@@ -74,6 +76,7 @@ private:
     void ImportFiles(const QStringList& paths, Origin origin);
     void ImportFolders();
     void Skip(int files);
+    void AddFolder(const QString& path);
     MediaFinder::Wanted WantedOf(int id) const;
     static QSize ThumbnailRoomPx();
 
@@ -98,5 +101,6 @@ private:
     QSet<int> m_wantThumbnails;
     QStringList m_refused;
     QStringList m_recent;
+    QStringList m_recentFolders;
     QHash<QString, VideoEdits> m_edits;
 };

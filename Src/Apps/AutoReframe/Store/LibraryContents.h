@@ -51,6 +51,8 @@ struct StoredContents {
     QList<StoredExport> exports;
     /// Paths of videos, the one that was used last first; some may have been removed from the library.
     QStringList recent;
+    /// Folders that were imported, the one that was used last first.
+    QStringList recentFolders;
     QStringList selection;
     int scrollPx = 0;
     /// What "Reframe All…" was asked for last; empty before the first time.

@@ -33,6 +33,16 @@ StoredVideo VideoOf(const QSqlQuery& row)
     return video;
 }
 
+QStringList PathsOf(const QString& json)
+{
+    QStringList paths;
+    const QJsonArray array = QJsonDocument::fromJson(json.toUtf8()).array();
+    for (const QJsonValue path : array) {
+        paths += path.toString();
+    }
+    return paths;
+}
+
 } // namespace
 
 Opened LibraryDatabase::Open(const QString& filePath)
@@ -104,10 +114,9 @@ KxError LibraryDatabase::ReadState(StoredContents& contents)
     return m_connection.Select(QStringLiteral("SELECT name, value FROM state"), {}, [&contents](const QSqlQuery& row) {
         const QString name = row.value(0).toString();
         if (name == QLatin1String("selection")) {
-            const QJsonArray paths = QJsonDocument::fromJson(row.value(1).toString().toUtf8()).array();
-            for (const QJsonValue path : paths) {
-                contents.selection += path.toString();
-            }
+            contents.selection = PathsOf(row.value(1).toString());
+        } else if (name == QLatin1String("folders")) {
+            contents.recentFolders = PathsOf(row.value(1).toString());
         } else if (name == QLatin1String("scroll")) {
             contents.scrollPx = row.value(1).toInt();
         } else if (name == QLatin1String("batch")) {

@@ -277,11 +277,21 @@ void LibraryStore::RemoveExport(qint64 key)
     Save([key](LibraryDatabase& database) { return database.RemoveExport(key); });
 }
 
-void LibraryStore::SaveSelection(const QStringList& paths)
+void LibraryStore::SavePaths(const QString& name, const QStringList& paths)
 {
     const QString text =
         QString::fromUtf8(QJsonDocument(QJsonArray::fromStringList(paths)).toJson(QJsonDocument::Compact));
-    Save([text](LibraryDatabase& database) { return database.SaveState(QStringLiteral("selection"), text); });
+    Save([name, text](LibraryDatabase& database) { return database.SaveState(name, text); });
+}
+
+void LibraryStore::SaveSelection(const QStringList& paths)
+{
+    SavePaths(QStringLiteral("selection"), paths);
+}
+
+void LibraryStore::SaveRecentFolders(const QStringList& paths)
+{
+    SavePaths(QStringLiteral("folders"), paths);
 }
 
 void LibraryStore::SaveScroll(int scrollPx)

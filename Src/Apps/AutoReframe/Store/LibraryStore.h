@@ -43,6 +43,7 @@ public:
     void SaveExportState(const StoredExport& item);
     void RemoveExport(qint64 key);
     void SaveSelection(const QStringList& paths);
+    void SaveRecentFolders(const QStringList& paths);
     void SaveScroll(int scrollPx);
     void SaveBatchSettings(const QByteArray& settings);
 
@@ -61,6 +62,7 @@ private:
     using Change = std::function<KxError(LibraryDatabase& database)>;
 
     void Save(Change change);
+    void SavePaths(const QString& name, const QStringList& paths);
     void ScheduleWriting();
 
     // On the store's thread.
