@@ -133,6 +133,19 @@ protected:
 
 } // namespace
 
+TEST_F(TestRestoredWindow, TheHintOfTheExportsDoesNotFlashBeforeTheyAreRestored)
+{
+    LibraryStore store(Data(), nullptr);
+    MediaBackendLoader loader(
+        [] { return KxResult<std::shared_ptr<MediaBackend>>(std::make_shared<FakeMediaBackend>()); }, nullptr);
+    MainWindow window(loader, store);
+    window.show();
+    const auto* const hint = window.findChild<QLabel*>(QStringLiteral("ExportPanel_hint"));
+    EXPECT_FALSE(hint->isVisible());
+    store.Open();
+    EXPECT_TRUE(QTest::qWaitFor([hint] { return hint->isVisible(); }, 30000));
+}
+
 TEST_F(TestRestoredWindow, LibrarySelectionAndScrollPositionComeBack)
 {
     QStringList paths;

@@ -101,6 +101,7 @@ MainWindow::MainWindow(MediaBackendLoader& backend, LibraryStore& store)
     m_view->setFocus();
     if (m_store.IsFile()) {
         m_view->SetLoading(true);
+        m_panel->SetLoading(true);
         m_status->clear();
     } else {
         m_store.Open();
@@ -285,6 +286,7 @@ void MainWindow::Interrupt()
 void MainWindow::Restore(const StoredContents& contents)
 {
     m_view->SetLoading(false);
+    m_panel->SetLoading(false);
     ShowState();
     m_batchSettings = BatchSettings::FromJson(contents.batchSettings);
     SelectPaths(contents.selection);

@@ -176,10 +176,16 @@ void ExportPanel::RemoveCard(int id)
     ShowHints();
 }
 
+void ExportPanel::SetLoading(bool isLoading)
+{
+    m_isLoading = isLoading;
+    ShowHints();
+}
+
 void ExportPanel::ShowHints()
 {
     m_queueBar->ShowState();
-    m_hint->setVisible(m_cards.isEmpty());
+    m_hint->setVisible(m_cards.isEmpty() && !m_isLoading);
     m_clear->setVisible(m_queue.FinishedCount() > 0);
     const int interrupted = m_queue.InterruptedCount();
     m_resumeBar->setVisible(interrupted > 0);

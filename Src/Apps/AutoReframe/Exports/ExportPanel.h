@@ -20,6 +20,9 @@ public:
     ExportPanel(ExportQueue& queue, QWidget* parent);
     ~ExportPanel() override;
 
+    /// While the exports of the last run are read, the empty list explains nothing.
+    void SetLoading(bool isLoading);
+
 Q_SIGNALS:
     void sigShowInFolder(const QString& filePath);
     /// At the doubtful shots of an export, given by its number.
@@ -37,6 +40,7 @@ private:
     QWidget* MakeResumeBar();
 
     ExportQueue& m_queue;
+    bool m_isLoading = false;
     KxLabel* m_heading = nullptr;
     LinkButton* m_clear = nullptr;
     QWidget* m_resumeBar = nullptr;
