@@ -20,6 +20,13 @@ double Distance(const KxSubjectBox& a, const KxSubjectBox& b)
     return std::hypot(a.x + a.width / 2.0 - b.x - b.width / 2.0, a.y + a.height / 2.0 - b.y - b.height / 2.0);
 }
 
+/// Whether the points, away from one seed, end on the other one: then they were on the thing all the way.
+bool Arrives(const std::vector<Point>& points, const Point& seed, const KxSubjectOptions::Follow& options)
+{
+    return !points.empty() && static_cast<double>(points.back().confidence) >= options.goodConfidence &&
+           Distance(points.back().box, seed.box) < options.agreeingShare * seed.box.width;
+}
+
 /// A frame's point on each side; null where that side has none.
 struct Pair {
     const Point* left = nullptr;
@@ -32,12 +39,14 @@ std::vector<Point> KxTrackBlend::Between(const Side& left, const Side& right, co
 {
     const std::int32_t first = left.seed.frame;
     const std::int32_t last = right.seed.frame;
+    const bool leftArrives = Arrives(left.points, right.seed, options);
+    const bool rightArrives = Arrives(right.points, left.seed, options);
     std::map<std::int32_t, Pair> frames;
     for (const Point& point : left.points) {
-        frames[point.frame].left = &point;
+        frames[point.frame].left = leftArrives || !rightArrives ? &point : nullptr;
     }
     for (const Point& point : right.points) {
-        frames[point.frame].right = &point;
+        frames[point.frame].right = rightArrives || !leftArrives ? &point : nullptr;
     }
     std::vector<Point> blended;
     for (const auto& [frame, pair] : frames) {

@@ -15,9 +15,9 @@ struct Side {
     std::vector<KxFollowTrack::Point> points; ///< away from the seed
 };
 
-/// The points between the two seeds, without these, growing by frame. Where both sides agree, the box goes over from
-/// one to the other; where not, the nearer and surer one counts; where both have lost the thing, the line between the
-/// seeds.
+/// The points between the two seeds, without these, growing by frame. If one side alone ends on the other seed, it was
+/// right and counts alone. Where both sides agree, the box goes over from one to the other; where not, the nearer and
+/// surer one counts; where both have lost the thing, the line between the seeds.
 KXSUBJECT_API std::vector<KxFollowTrack::Point> Between(const Side& left, const Side& right,
                                                         const KxSubjectOptions::Follow& options);
 } // namespace KxTrackBlend

@@ -41,6 +41,17 @@ TEST(KxTrackBlend, WhereTheyDisagreeTheNearerAndSurerOneCounts)
     EXPECT_EQ(Blend({At(60, 0.2, 1.0F)}, {At(60, 0.6, 0.4F)})[0].box.x, 0.2) << "farther, but much surer";
 }
 
+TEST(KxTrackBlend, ASideThatEndsOnTheOtherSeedWasRightAllTheWay)
+{
+    const std::vector<Point> strayed{At(75, 0.9, 1.0F), At(25, 0.9, 1.0F), At(2, 0.9, 1.0F)};
+    const auto points = Blend({At(25, 0.2, 0.5F), At(75, 0.4, 0.5F), At(98, 0.49, 0.5F)}, strayed);
+    ASSERT_EQ(points.size(), 4U);
+    EXPECT_EQ(points[2].frame, 75);
+    EXPECT_EQ(points[2].box.x, 0.4) << "the other side is nearer and surer, and somewhere else";
+    const auto mirrored = Blend({At(25, 0.9, 1.0F), At(98, 0.9, 1.0F)}, {At(25, 0.2, 0.5F), At(2, 0.11, 0.5F)});
+    EXPECT_EQ(mirrored[1].box.x, 0.2);
+}
+
 TEST(KxTrackBlend, WhereBothHaveLostItTheBoxIsOnTheLineBetweenTheSeeds)
 {
     const auto points = Blend({At(50, 0.9, 0.1F)}, {At(50, 0.0, 0.2F)});
