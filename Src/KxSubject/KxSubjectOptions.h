@@ -289,13 +289,20 @@ struct KxSubjectOptions {
         double surePeakShare = 0.6;       ///< 0.5 to 0.8 of the running mean, the same; chosen
         double goodConfidence = 0.3;      ///< 0.2 to 0.5: below, the thing counts as lost; chosen
         double lostSeconds = 1.0;         ///< 0.5 to 2: a shorter loss is not reported; chosen
-        double agreeingShare = 0.6;       ///< 0.4 to 1 of the box's width: tracks nearer than this agree; chosen
-        double gateWidth = 0.15;          ///< 0.1 to 0.25: evidence farther from the track counts less; trial
-        double gateGrowth = 0.3;          ///< 0.2 to 0.5 a second without a good picture; trial
-        double denial = 0.3;              ///< 0 to 0.7 of the other evidence is denied by full confidence; cross
-        double weight = 2.0;              ///< 1 to 4 of the tracked box; trial
-        double seedWeight = 4.0;          ///< 2 to 8 of a box that a person drew; chosen
-        double seedSeconds = 0.35;        ///< 0.2 to 1 each way, for which that holds; chosen
+        /// 0.4 to 0.7, the intersection over the union of the box that a person drew and a detection of the same thing;
+        /// chosen
+        double firstOverlap = 0.5;
+        double stillOverlap = 0.3;      ///< 0.2 to 0.4: the same for a tracked box, which may have drifted; chosen
+        double sameOverlap = 0.6;       ///< 0.5 to 0.8: a tracked box that overlaps more is left as it is; chosen
+        double stillGrowth = 0.7;       ///< 0.5 to 1, logarithm of the areas' ratio from one look to the next; chosen
+        double bridgedConfidence = 0.5; ///< 0.3 to 0.7 of a place that is known from movers alone; chosen
+        double agreeingShare = 0.6;     ///< 0.4 to 1 of the box's width: tracks nearer than this agree; chosen
+        double gateWidth = 0.15;        ///< 0.1 to 0.25: evidence farther from the track counts less; trial
+        double gateGrowth = 0.3;        ///< 0.2 to 0.5 a second without a good picture; trial
+        double denial = 0.3;            ///< 0 to 0.7 of the other evidence is denied by full confidence; cross
+        double weight = 2.0;            ///< 1 to 4 of the tracked box; trial
+        double seedWeight = 4.0;        ///< 2 to 8 of a box that a person drew; chosen
+        double seedSeconds = 0.35;      ///< 0.2 to 1 each way, for which that holds; chosen
         /// 0.8 to 1 of the thing, over the shot: where the automatic crop holds more, it stays as it is; cross
         double heldShare = 0.9;
         double smoothingSeconds = 0.4; ///< 0.3 to 0.6, of a path that follows, at most; trial

@@ -189,10 +189,15 @@ KxFollowTracker::Match KxFollowTracker::LookAround()
     return best;
 }
 
+void KxFollowTracker::MoveTo(cv::Point2d centre)
+{
+    m_centre = {std::clamp(centre.x, 0.0, static_cast<double>(m_picturePx.width)),
+                std::clamp(centre.y, 0.0, static_cast<double>(m_picturePx.height))};
+}
+
 void KxFollowTracker::Accept(const Match& match)
 {
-    m_centre = {std::clamp(match.centre.x, 0.0, static_cast<double>(m_picturePx.width)),
-                std::clamp(match.centre.y, 0.0, static_cast<double>(m_picturePx.height))};
+    MoveTo(match.centre);
     const double most = std::min(m_picturePx.width / m_size.width, m_picturePx.height / m_size.height);
     m_scale = std::clamp(m_scale * match.factor, std::min(m_options.leastScale, most), most);
     m_meanPeak += m_options.meanRate * (match.peak - m_meanPeak);

@@ -22,6 +22,9 @@ public:
 
     void AddPicture(const cv::Mat& picture);
 
+    /// The thing is known to be there, although it was not recognised: it is searched for around this place next.
+    void MoveTo(cv::Point2d centre);
+
     cv::Rect2d Box() const;
     /// 0 to 1, of the box in the last picture; 1 in the first one.
     double Confidence() const { return m_confidence; }

@@ -2,7 +2,9 @@
 
 #include <KxSubject/Choice/KxChoiceRanges.h>
 #include <KxSubject/Follow/KxBoxGuess.h>
+#include <KxSubject/Follow/KxDetectionAnchor.h>
 #include <KxSubject/Follow/KxFollowTracker.h>
+#include <KxSubject/Follow/KxMoverBridge.h>
 #include <KxSubject/Follow/KxTrackBlend.h>
 #include <KxSubject/KxPictureView.h>
 #include <KxSubject/KxSubjectOptions.h>
@@ -58,10 +60,21 @@ private:
     void AddShot(const Range& shot, const KxSubjectChoice& choice);
     void FollowForward(const Picture& picture);
     void FollowBackward(std::size_t seed, std::int64_t until);
-    void Start(Seed& seed, const Picture& picture, std::optional<KxFollowTracker>& tracker);
-    KxFollowTrack::Point PointOf(std::int64_t frame, const KxFollowTracker& tracker) const;
+    /// Follows the thing of one seed in one direction of time.
+    struct Run {
+        std::size_t seed;
+        KxFollowTracker tracker;
+        KxDetectionAnchor anchor;
+        KxMoverBridge bridge;
+    };
+    /// `before`: of an earlier seed in the same shot, which knows what is beside the thing.
+    Run Started(std::size_t index, const Picture& picture, const std::optional<Run>& before);
+    KxFollowTrack::Point Advance(Run& run, const Picture& picture) const;
+    cv::Rect2d PixelsOf(const KxSubjectBox& box) const;
+    KxSubjectBox ShareOf(const cv::Rect2d& box) const;
 
-    KxSubjectOptions::Follow m_options;
+    const KxSubjectRecord& m_record;
+    KxSubjectOptions m_options;
     cv::Size m_sizePx;
     std::int64_t m_stepFrames;
     double m_frameRate;
@@ -69,15 +82,16 @@ private:
     std::vector<Step> m_steps;
     std::size_t m_next = 0;
     std::vector<Picture> m_kept; ///< of this range, growing by frame
-    std::optional<KxFollowTracker> m_forward;
     std::optional<std::size_t> m_forwardSeed;
-    std::optional<KxFollowTracker> m_backward;
+    std::optional<Run> m_forward;
     std::optional<std::size_t> m_backwardSeed;
+    std::optional<Run> m_backward;
 };
 
 KxSubjectFollower::Impl::Impl(const KxSubjectRecord& record, const KxSubjectChoice& choice,
                               const KxSubjectOptions& options)
-    : m_options(options.follow)
+    : m_record(record)
+    , m_options(options)
     , m_sizePx(record.workingSizePx.width, record.workingSizePx.height)
     , m_stepFrames(std::max<std::int64_t>(
           1, static_cast<std::int64_t>(std::floor(record.source.frameRate / options.follow.picturesPerSecond + 0.01))))
@@ -109,7 +123,7 @@ void KxSubjectFollower::Impl::AddShot(const Range& shot, const KxSubjectChoice& 
     std::stable_sort(m_seeds.begin() + static_cast<std::ptrdiff_t>(firstSeed), m_seeds.end(),
                      [](const Seed& a, const Seed& b) { return a.frame < b.frame; });
     m_seeds[firstSeed].startsShot = true;
-    const auto block = static_cast<std::int64_t>(m_options.blockSeconds * m_frameRate);
+    const auto block = static_cast<std::int64_t>(m_options.follow.blockSeconds * m_frameRate);
     if (shot.end - shot.first <= block) {
         Step step{shot, true, {}};
         for (std::size_t seed = firstSeed; seed < m_seeds.size(); ++seed) {
@@ -138,7 +152,9 @@ std::optional<KxSubjectFollower::Range> KxSubjectFollower::Impl::NextRange() con
 
 bool KxSubjectFollower::Impl::Wants(std::int64_t frame) const
 {
-    return frame % m_stepFrames == 0 ||
+    const auto isBefore = [](const KxDetectionLook& look, std::int64_t time) { return look.frame < time; };
+    const auto look = std::lower_bound(m_record.looks.begin(), m_record.looks.end(), frame, isBefore);
+    return frame % m_stepFrames == 0 || (look != m_record.looks.end() && look->frame == frame) ||
            std::any_of(m_seeds.begin(), m_seeds.end(), [frame](const Seed& seed) { return seed.frame == frame; });
 }
 
@@ -166,24 +182,53 @@ void KxSubjectFollower::Impl::AddPicture(std::int64_t frame, const KxPictureView
     }
 }
 
-KxFollowTrack::Point KxSubjectFollower::Impl::PointOf(std::int64_t frame, const KxFollowTracker& tracker) const
+cv::Rect2d KxSubjectFollower::Impl::PixelsOf(const KxSubjectBox& box) const
 {
-    const cv::Rect2d box = tracker.Box();
-    return {static_cast<std::int32_t>(frame),
-            {box.x / m_sizePx.width, box.y / m_sizePx.height, box.width / m_sizePx.width, box.height / m_sizePx.height},
-            static_cast<float>(tracker.Confidence())};
+    return {box.x * m_sizePx.width, box.y * m_sizePx.height, box.width * m_sizePx.width, box.height * m_sizePx.height};
 }
 
-void KxSubjectFollower::Impl::Start(Seed& seed, const Picture& picture, std::optional<KxFollowTracker>& tracker)
+KxSubjectBox KxSubjectFollower::Impl::ShareOf(const cv::Rect2d& box) const
 {
-    cv::Rect2d box(seed.box.x * m_sizePx.width, seed.box.y * m_sizePx.height, seed.box.width * m_sizePx.width,
-                   seed.box.height * m_sizePx.height);
-    if (box.empty()) {
-        box = KxBoxGuess::Around(picture.pixels, box.tl(), m_options);
-        seed.box = {box.x / m_sizePx.width, box.y / m_sizePx.height, box.width / m_sizePx.width,
-                    box.height / m_sizePx.height};
+    return {box.x / m_sizePx.width, box.y / m_sizePx.height, box.width / m_sizePx.width, box.height / m_sizePx.height};
+}
+
+KxSubjectFollower::Impl::Run KxSubjectFollower::Impl::Started(std::size_t index, const Picture& picture,
+                                                              const std::optional<Run>& before)
+{
+    Seed& seed = m_seeds[index];
+    KxDetectionAnchor anchor = before && !seed.startsShot ? before->anchor : KxDetectionAnchor(m_record, m_options);
+    if (PixelsOf(seed.box).empty()) {
+        const std::optional<KxSubjectBox> found = anchor.Around(picture.frame, seed.box.x, seed.box.y);
+        seed.box =
+            found ? *found : ShareOf(KxBoxGuess::Around(picture.pixels, PixelsOf(seed.box).tl(), m_options.follow));
     }
-    tracker.emplace(m_options, picture.pixels, box);
+    Run run{index, KxFollowTracker(m_options.follow, picture.pixels, PixelsOf(seed.box)), anchor,
+            KxMoverBridge(m_record)};
+    run.anchor.Correct({picture.frame, seed.box, 1.0});
+    run.bridge.SeeAt(picture.frame, seed.box);
+    return run;
+}
+
+KxFollowTrack::Point KxSubjectFollower::Impl::Advance(Run& run, const Picture& picture) const
+{
+    KxFollowTracker& tracker = run.tracker;
+    tracker.AddPicture(picture.pixels);
+    const KxSubjectBox tracked = ShareOf(tracker.Box());
+    const std::optional<KxSubjectBox> found = run.anchor.Correct({picture.frame, tracked, tracker.Confidence()});
+    if (found && !KxDetectionAnchor::AreSame(*found, tracked, m_options.follow)) {
+        tracker = KxFollowTracker(m_options.follow, picture.pixels, PixelsOf(*found));
+    }
+    KxFollowTrack::Point point{static_cast<std::int32_t>(picture.frame), ShareOf(tracker.Box()),
+                               static_cast<float>(tracker.Confidence())};
+    if (tracker.Confidence() >= m_options.follow.goodConfidence) {
+        run.bridge.SeeAt(picture.frame, point.box);
+    } else if (const std::optional<KxSubjectBox> bridged = run.bridge.BoxAt(picture.frame)) {
+        point.box = *bridged;
+        point.confidence = static_cast<float>(m_options.follow.bridgedConfidence);
+        const cv::Rect2d box = PixelsOf(*bridged);
+        tracker.MoveTo((box.tl() + box.br()) / 2.0);
+    }
+    return point;
 }
 
 void KxSubjectFollower::Impl::FollowForward(const Picture& picture)
@@ -198,33 +243,30 @@ void KxSubjectFollower::Impl::FollowForward(const Picture& picture)
     }
     if (started) {
         m_forwardSeed = started;
-        Start(m_seeds[*started], picture, m_forward);
+        m_forward.emplace(Started(*started, picture, m_forward));
     } else if (m_forward) {
-        m_forward->AddPicture(picture.pixels);
-        m_seeds[*m_forwardSeed].after.push_back(PointOf(picture.frame, *m_forward));
+        m_seeds[m_forward->seed].after.push_back(Advance(*m_forward, picture));
     }
 }
 
 void KxSubjectFollower::Impl::FollowBackward(std::size_t index, std::int64_t until)
 {
-    Seed& seed = m_seeds[index];
     auto from = m_kept.end();
     if (m_backwardSeed != index) {
         m_backward.reset();
         m_backwardSeed = index;
-        from = std::lower_bound(m_kept.begin(), m_kept.end(), seed.frame,
+        from = std::lower_bound(m_kept.begin(), m_kept.end(), m_seeds[index].frame,
                                 [](const Picture& picture, std::int64_t frame) { return picture.frame < frame; });
         if (from == m_kept.end() && !m_kept.empty()) {
             --from;
         }
         if (from != m_kept.end()) {
-            Start(seed, *from, m_backward);
+            m_backward.emplace(Started(index, *from, std::nullopt));
         }
     }
     while (m_backward && from != m_kept.begin() && std::prev(from)->frame >= until) {
         --from;
-        m_backward->AddPicture(from->pixels);
-        seed.before.push_back(PointOf(from->frame, *m_backward));
+        m_seeds[index].before.push_back(Advance(*m_backward, *from));
     }
 }
 
@@ -269,7 +311,8 @@ KxFollowTrack KxSubjectFollower::Impl::Track() const
         }
         const Seed& next = m_seeds[i + 1];
         add(KxTrackBlend::Between({here, seed.after},
-                                  {{static_cast<std::int32_t>(next.frame), next.box, 1.0F}, next.before}, m_options));
+                                  {{static_cast<std::int32_t>(next.frame), next.box, 1.0F}, next.before},
+                                  m_options.follow));
     }
     return track;
 }

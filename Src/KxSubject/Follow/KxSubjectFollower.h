@@ -15,12 +15,13 @@ struct KxPictureView;
 struct KxSubjectOptions;
 
 /// Follows what a choice points at through the shots of its seeds: outward from each seed to the ends of the shot, and
-/// from both sides between two seeds. It asks for the pictures that it needs, some of them twice where a shot is long.
+/// from both sides between two seeds. What the detector saw corrects the tracker, and movers lead on where the tracker
+/// does not recognise the thing. It asks for the pictures that it needs, some of them twice where a shot is long.
 /// One thread at a time. Apart from lack of memory, no error of OpenCV leaves this class.
 class KXSUBJECT_API KxSubjectFollower
 {
 public:
-    /// `record` and `options` are used by this call alone.
+    /// `record` must outlive this.
     KxSubjectFollower(const KxSubjectRecord& record, const KxSubjectChoice& choice, const KxSubjectOptions& options);
     ~KxSubjectFollower();
 

@@ -83,6 +83,54 @@ Outcome FollowThrough(const KxSubjectRecord& record, const KxSubjectChoice& choi
     return outcome;
 }
 
+/// Something that moves to the right and looks different from this frame on.
+constexpr std::int64_t TurnFrame = 16;
+double TurningPlace(std::int64_t frame)
+{
+    return 0.3 + 0.005 * static_cast<double>(frame);
+}
+
+cv::Mat PictureOfTurn(std::int64_t frame)
+{
+    cv::Mat picture = MadePictures::Texture(PictureSize, 21);
+    const cv::Rect place(cvRound(TurningPlace(frame) * PictureSize.width) - 15, 70, 30, 40);
+    if (frame < TurnFrame) {
+        MadePictures::PaintObject(picture, place);
+    } else {
+        MadePictures::Texture(place.size(), 77).copyTo(picture(place));
+    }
+    return picture;
+}
+
+KxDetection DetectionAt(std::int64_t frame)
+{
+    return {static_cast<float>(TurningPlace(frame) - 15.0 / 320.0),
+            70.0F / 180.0F,
+            30.0F / 320.0F,
+            40.0F / 180.0F,
+            0.7F,
+            KxDetectionKind::Person};
+}
+
+KxFollowTrack FollowThroughTurn(const KxSubjectRecord& record)
+{
+    const KxDetection first = DetectionAt(0);
+    KxSubjectFollower follower(record,
+                               Follow({{0.0,
+                                        {static_cast<double>(first.x), static_cast<double>(first.y),
+                                         static_cast<double>(first.width), static_cast<double>(first.height)}}}),
+                               {});
+    EXPECT_TRUE(follower.NextRange());
+    for (std::int64_t frame = 0; frame < 60; ++frame) {
+        if (follower.Wants(frame)) {
+            const cv::Mat picture = PictureOfTurn(frame);
+            follower.AddPicture(frame, {picture.data, {picture.cols, picture.rows}, picture.step[0]});
+        }
+    }
+    follower.EndRange();
+    return follower.Track();
+}
+
 void ExpectOnTheThing(const KxFollowTrack& track)
 {
     std::int32_t before = -1;
@@ -182,9 +230,53 @@ TEST(KxSubjectFollower, AChoiceThatPointsAtNothingNeedsNoPictures)
     EXPECT_EQ(FollowThrough(Record(300, {60}), hold).ranges, 0);
 }
 
+TEST(KxSubjectFollower, WhatTurnsAndLooksDifferentIsFoundByTheDetector)
+{
+    KxSubjectRecord record = Record(60);
+    for (const std::int32_t frame : {0, 30}) {
+        record.looks.push_back({frame, {DetectionAt(frame)}});
+    }
+    const KxFollowTrack track = FollowThroughTurn(record);
+    for (const KxFollowTrack::Point& point : track.points) {
+        if (point.frame < TurnFrame || point.frame >= 30) {
+            EXPECT_NEAR(point.box.x + point.box.width / 2.0, TurningPlace(point.frame), 0.04) << point.frame;
+        }
+    }
+    EXPECT_GT(track.points.back().confidence, 0.5F);
+}
+
+TEST(KxSubjectFollower, WhatTurnsAndLooksDifferentIsFollowedByItsMovement)
+{
+    KxSubjectRecord record = Record(60);
+    KxMover mover;
+    for (std::int32_t frame = 0; frame < 60; frame += 3) {
+        record.samples.push_back({frame, {}, {}});
+        const KxDetection box = DetectionAt(frame);
+        const auto packed = [](float value) { return static_cast<std::uint8_t>(std::lround(value * 255.0F)); };
+        mover.boxes.push_back({packed(box.x), packed(box.y), packed(box.x + box.width), packed(box.y + box.height)});
+    }
+    record.movers.push_back(mover);
+    for (const KxFollowTrack::Point& point : FollowThroughTurn(record).points) {
+        EXPECT_NEAR(point.box.x + point.box.width / 2.0, TurningPlace(point.frame), 0.04) << point.frame;
+    }
+}
+
+TEST(KxSubjectFollower, APointBecomesTheDetectionAroundIt)
+{
+    KxSubjectRecord record = Record(60);
+    record.looks.push_back({0, {DetectionAt(0)}});
+    const KxSubjectChoice choice =
+        Follow({{0.0, {TurningPlace(0) + 0.01, 0.45, 0.0, 0.0}, KxSubjectSeed::Extent::Guessed}});
+    const Outcome outcome = FollowThrough(record, choice);
+    ASSERT_FALSE(outcome.track.points.empty());
+    EXPECT_NEAR(outcome.track.points.front().box.x, static_cast<double>(DetectionAt(0).x), 1e-6);
+    EXPECT_NEAR(outcome.track.points.front().box.height, static_cast<double>(DetectionAt(0).height), 1e-6);
+}
+
 TEST(KxSubjectFollower, MissingAndWrongPicturesAreIgnored)
 {
-    KxSubjectFollower follower(Record(60), Follow({SeedAt(30)}), {});
+    const KxSubjectRecord record = Record(60);
+    KxSubjectFollower follower(record, Follow({SeedAt(30)}), {});
     ASSERT_TRUE(follower.NextRange());
     const cv::Mat small(3, 3, CV_8UC3, cv::Scalar::all(0));
     follower.AddPicture(0, {});

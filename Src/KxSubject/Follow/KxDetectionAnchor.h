@@ -1,0 +1,57 @@
+#pragma once
+
+#include <KxCore/KxExport.h>
+
+#include <KxSubject/KxSubjectChoices.h>
+#include <KxSubject/KxSubjectOptions.h>
+#include <KxSubject/KxSubjectRecord.h>
+
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+/// Corrects a tracked box by what the object detector saw, so that a box that drifts off a person or an animal returns
+/// to it. Follows one thing in one direction of time.
+class KXSUBJECT_API KxDetectionAnchor
+{
+public:
+    /// `record` must outlive this.
+    KxDetectionAnchor(const KxSubjectRecord& record, const KxSubjectOptions& options);
+
+    struct Tracked {
+        std::int64_t frame = 0;
+        KxSubjectBox box;
+        double confidence = 0.0;
+    };
+    /// 1. The detection that overlaps the tracked box most is the thing; at first by a half, later by less, since the
+    ///    box may have drifted. What is much smaller or larger than a detection (a face) is never taken for one.
+    /// 2. Where there is none, the tracker has lost it or stays on the background: it is the nearest detection of
+    ///    about its size.
+    /// 3. What was beside the thing at the look before is neither.
+    /// The correction is to the detection what the followed box was to the first one: a person may have drawn more or
+    /// less. Nothing if there was no look at this frame, or no such detection.
+    std::optional<KxSubjectBox> Correct(const Tracked& tracked);
+
+    /// Whether two boxes overlap so much that correcting one by the other gains nothing.
+    static bool AreSame(const KxSubjectBox& a, const KxSubjectBox& b, const KxSubjectOptions::Follow& options);
+
+    /// At a point that a person clicked on: the detection around it whose middle is nearest.
+    std::optional<KxSubjectBox> Around(std::int64_t frame, double x, double y) const;
+
+private:
+    const KxDetectionLook* LookAt(std::int64_t frame) const;
+    /// Whether a detection is rather one of what was beside the thing at the last look.
+    bool WasBeside(const KxDetection& detection) const;
+    const KxDetection* Overlapping(const KxDetectionLook& look, const KxSubjectBox& box) const;
+    const KxDetection* FoundAgain(const KxDetectionLook& look) const;
+    /// The box that is to a detection what the followed box was to the first one.
+    KxSubjectBox Mapped(const KxDetection& detection) const;
+
+    const KxSubjectRecord& m_record;
+    KxSubjectOptions::Follow m_options;
+    KxSubjectOptions::Detections m_linking;
+    std::optional<KxDetection> m_thing;          ///< as it was detected last
+    std::int64_t m_frame = 0;                    ///< when that was
+    KxSubjectBox m_relation{0.0, 0.0, 1.0, 1.0}; ///< of the followed box to the detection, in its sides
+    std::vector<KxDetection> m_bystanders;       ///< beside it at that time
+};

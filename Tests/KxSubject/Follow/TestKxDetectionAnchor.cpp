@@ -1,0 +1,116 @@
+#include <KxSubject/Follow/KxDetectionAnchor.h>
+
+#include <gtest/gtest.h>
+
+namespace
+{
+
+const KxSubjectOptions Options;
+
+/// Looks at frames 0, 25, 50 and so on.
+KxSubjectRecord Record(const std::vector<std::vector<KxDetection>>& looks)
+{
+    KxSubjectRecord record;
+    record.source = {1280, 720, 25.0, 250};
+    std::int32_t frame = 0;
+    for (const std::vector<KxDetection>& found : looks) {
+        record.looks.push_back({frame, found});
+        frame += 25;
+    }
+    return record;
+}
+
+KxDetection Person(float left, float width = 0.1F)
+{
+    return {left, 0.2F, width, 0.6F, 0.6F, KxDetectionKind::Person};
+}
+
+KxSubjectBox Box(double left, double width = 0.1)
+{
+    return {left, 0.2, width, 0.6};
+}
+
+void ExpectBox(const std::optional<KxSubjectBox>& box, double left, double width = 0.1)
+{
+    ASSERT_TRUE(box);
+    EXPECT_NEAR(box->x, left, 1e-6);
+    EXPECT_NEAR(box->width, width, 1e-6);
+}
+
+} // namespace
+
+TEST(KxDetectionAnchor, ABoxThatDriftsReturnsToItsDetection)
+{
+    const KxSubjectRecord record = Record({{Person(0.3F), Person(0.6F)}, {Person(0.36F), Person(0.6F)}});
+    KxDetectionAnchor anchor(record, Options);
+    ExpectBox(anchor.Correct({0, Box(0.3), 1.0}), 0.3);
+    ExpectBox(anchor.Correct({25, Box(0.32), 1.0}), 0.36);
+    EXPECT_FALSE(anchor.Correct({26, Box(0.33), 1.0})) << "there was no look";
+}
+
+TEST(KxDetectionAnchor, TheCorrectionIsToTheDetectionWhatThePersonDrew)
+{
+    // The person left out an arm to the left.
+    const KxSubjectRecord record = Record({{Person(0.3F, 0.2F)}, {Person(0.4F, 0.2F)}});
+    KxDetectionAnchor anchor(record, Options);
+    ExpectBox(anchor.Correct({0, Box(0.35, 0.15), 1.0}), 0.35, 0.15);
+    ExpectBox(anchor.Correct({25, Box(0.41, 0.15), 1.0}), 0.45, 0.15);
+}
+
+TEST(KxDetectionAnchor, AFaceIsNotTakenForItsPerson)
+{
+    const KxSubjectRecord record = Record({{Person(0.3F)}, {Person(0.3F)}});
+    KxDetectionAnchor anchor(record, Options);
+    const KxSubjectBox face{0.33, 0.22, 0.04, 0.12};
+    EXPECT_FALSE(anchor.Correct({0, face, 1.0}));
+    EXPECT_FALSE(anchor.Correct({25, face, 0.0})) << "lost, too";
+}
+
+TEST(KxDetectionAnchor, WhatIsLostIsTheNearestOfItsSizeThatWasNotBesideIt)
+{
+    const KxSubjectRecord record =
+        Record({{Person(0.3F), Person(0.42F)}, {}, {Person(0.46F), Person(0.43F), Person(0.36F, 0.6F)}});
+    KxDetectionAnchor anchor(record, Options);
+    ExpectBox(anchor.Correct({0, Box(0.3), 1.0}), 0.3);
+    EXPECT_FALSE(anchor.Correct({25, Box(0.3), 0.0}));
+    EXPECT_FALSE(anchor.Correct({50, Box(0.3), 0.0})) << "both were beside it, one is too large";
+    const KxSubjectRecord apart = Record({{Person(0.3F), Person(0.42F)}, {}, {Person(0.5F), Person(0.42F)}});
+    KxDetectionAnchor other(apart, Options);
+    ExpectBox(other.Correct({0, Box(0.3), 1.0}), 0.3);
+    ExpectBox(other.Correct({50, Box(0.3), 0.0}), 0.5);
+}
+
+TEST(KxDetectionAnchor, ABoxThatStayedOnTheBackgroundGoesAfterTheThing)
+{
+    const KxSubjectRecord record = Record({{Person(0.3F), Person(0.7F)}, {Person(0.45F), Person(0.7F)}});
+    KxDetectionAnchor anchor(record, Options);
+    ExpectBox(anchor.Correct({0, Box(0.3), 1.0}), 0.3);
+    ExpectBox(anchor.Correct({25, Box(0.3), 1.0}), 0.45);
+}
+
+TEST(KxDetectionAnchor, ABystanderWhoIsPassedIsNotTakenForTheThing)
+{
+    // The tracker stays on the bystander while the thing goes on.
+    const KxSubjectRecord record = Record({{Person(0.3F), Person(0.38F)}, {Person(0.48F), Person(0.38F)}});
+    KxDetectionAnchor anchor(record, Options);
+    ExpectBox(anchor.Correct({0, Box(0.3), 1.0}), 0.3);
+    ExpectBox(anchor.Correct({25, Box(0.38), 1.0}), 0.48);
+}
+
+TEST(KxDetectionAnchor, ADetectionOfMuchAnotherSizeIsNoCorrection)
+{
+    const KxSubjectRecord record = Record({{Person(0.3F, 0.3F)}, {Person(0.3F, 0.1F)}});
+    KxDetectionAnchor anchor(record, Options);
+    ExpectBox(anchor.Correct({0, Box(0.3, 0.3), 1.0}), 0.3, 0.3);
+    EXPECT_FALSE(anchor.Correct({25, Box(0.3, 0.3), 1.0}));
+}
+
+TEST(KxDetectionAnchor, APointIsInTheDetectionWhoseMiddleIsNearest)
+{
+    const KxSubjectRecord record = Record({{Person(0.3F), Person(0.36F), Person(0.1F, 0.8F)}});
+    const KxDetectionAnchor anchor(record, Options);
+    ExpectBox(anchor.Around(0, 0.4, 0.5), 0.36);
+    ExpectBox(anchor.Around(0, 0.34, 0.5), 0.3);
+    EXPECT_FALSE(anchor.Around(0, 0.6, 0.5)) << "only a detection that is too large for one thing is there";
+    EXPECT_FALSE(anchor.Around(10, 0.4, 0.5)) << "there was no look";
+}
