@@ -62,6 +62,9 @@ std::filesystem::path KxSystemFile::NativePath(const QString& path)
 {
     // From this length on, a folder name leaves no room for a file name of the old form.
     constexpr int longestPlain = MAX_PATH - 13;
+    if (path.startsWith(QLatin1String("\\\\?\\"))) {
+        return {path.toStdWString()};
+    }
     QString native = QDir::toNativeSeparators(QDir::cleanPath(path));
     if (native.size() >= longestPlain && QDir::isAbsolutePath(path)) {
         native = native.startsWith(QLatin1String("\\\\")) ? QStringLiteral("\\\\?\\UNC") + native.mid(1)

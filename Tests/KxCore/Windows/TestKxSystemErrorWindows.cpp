@@ -61,6 +61,14 @@ TEST(KxSystemFile, LongPathsGetTheFormThatHasNoLimit)
               (QStringLiteral("\\\\?\\UNC\\server\\share\\") + name).toStdWString());
 }
 
+TEST(KxSystemFile, ALongPathThatHasThePrefixKeepsIt)
+{
+    const std::wstring name(300, L'n');
+    for (const std::wstring prefix : {L"\\\\?\\C:\\", L"\\\\?\\UNC\\server\\share\\"}) {
+        EXPECT_EQ(KxSystemFile::NativePath(QString::fromStdWString(prefix + name)).wstring(), prefix + name);
+    }
+}
+
 TEST(KxSystemFile, CapitalLettersNameTheSameFile)
 {
     const QTemporaryDir folder;
