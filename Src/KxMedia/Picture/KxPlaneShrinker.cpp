@@ -31,6 +31,18 @@ void AddRows(std::uint16_t* sums, const KxPlaneShrinker::WeightedRow* rows, std:
     }
 }
 
+/// What turns a sum over the columns of one sample into the sample, with 32 fractional bits.
+std::uint64_t FactorOf(int sourceColumns, int columns)
+{
+    return (static_cast<std::uint64_t>(columns) << 24) / static_cast<std::uint64_t>(sourceColumns);
+}
+
+std::uint8_t Rounded(std::uint32_t sum, std::uint64_t factor)
+{
+    constexpr std::uint64_t half = std::uint64_t{1} << 31;
+    return static_cast<std::uint8_t>(std::min<std::uint64_t>((sum * factor + half) >> 32, 255));
+}
+
 } // namespace
 
 void KxPlaneShrinker::AverageRows(const Source& source, int targetRow, int targetRows)
@@ -57,8 +69,30 @@ void KxPlaneShrinker::AverageRows(const Source& source, int targetRow, int targe
     }
 }
 
+void KxPlaneShrinker::AverageWholeColumns(int pairsInOne, std::uint8_t* row, int columns)
+{
+    // Adding neighbours first lets the processor work on several at once.
+    const std::size_t pairs = static_cast<std::size_t>(pairsInOne) * static_cast<std::size_t>(columns);
+    for (std::size_t i = 0; i < pairs; ++i) {
+        m_running[i] = std::uint32_t{m_means[2 * i]} + m_means[2 * i + 1];
+    }
+    const std::uint64_t factor = FactorOf(2 * pairsInOne * columns, columns);
+    const std::uint32_t* pair = m_running.data();
+    for (int x = 0; x < columns; ++x) {
+        std::uint32_t sum = 0;
+        for (int i = 0; i < pairsInOne; ++i) {
+            sum += *pair++;
+        }
+        row[x] = Rounded(sum, factor);
+    }
+}
+
 void KxPlaneShrinker::AverageColumns(int sourceColumns, std::uint8_t* row, int columns)
 {
+    if (sourceColumns % (2 * columns) == 0) {
+        AverageWholeColumns(sourceColumns / (2 * columns), row, columns);
+        return;
+    }
     std::uint32_t sum = 0;
     for (int x = 0; x < sourceColumns; ++x) {
         m_running[static_cast<std::size_t>(x)] = sum;
@@ -68,9 +102,7 @@ void KxPlaneShrinker::AverageColumns(int sourceColumns, std::uint8_t* row, int c
 
     // Positions and factor are fixed-point numbers with 32 fractional bits.
     const std::uint64_t step = (static_cast<std::uint64_t>(sourceColumns) << 32) / static_cast<std::uint64_t>(columns);
-    const std::uint64_t factor =
-        (static_cast<std::uint64_t>(columns) << 24) / static_cast<std::uint64_t>(sourceColumns);
-    constexpr std::uint64_t half = std::uint64_t{1} << 31;
+    const std::uint64_t factor = FactorOf(sourceColumns, columns);
     std::uint64_t position = 0;
     std::uint32_t before = 0;
     for (int x = 0; x < columns; ++x) {
@@ -78,7 +110,7 @@ void KxPlaneShrinker::AverageColumns(int sourceColumns, std::uint8_t* row, int c
         const auto at = static_cast<std::size_t>(position >> 32);
         const std::uint32_t part = (static_cast<std::uint32_t>(position) >> 16) * m_means[at] >> 16;
         const std::uint32_t after = m_running[at] + part;
-        row[x] = static_cast<std::uint8_t>(std::min<std::uint64_t>(((after - before) * factor + half) >> 32, 255));
+        row[x] = Rounded(after - before, factor);
         before = after;
     }
 }

@@ -35,8 +35,10 @@ public:
 private:
     void AverageRows(const Source& source, int targetRow, int targetRows);
     void AverageColumns(int sourceColumns, std::uint8_t* row, int columns);
+    /// The same where a sample takes a whole, even number of columns, as in most videos.
+    void AverageWholeColumns(int pairsInOne, std::uint8_t* row, int columns);
 
     std::vector<WeightedRow> m_rows;      ///< of the source, that make the present row
     std::vector<std::uint16_t> m_means;   ///< of each column over the rows, 16 bits for the whole range
-    std::vector<std::uint32_t> m_running; ///< sums of m_means from the left
+    std::vector<std::uint32_t> m_running; ///< sums of m_means, from the left or of two neighbours each
 };

@@ -77,6 +77,18 @@ private:
 
 constexpr QSize SourceSize{61, 47};
 
+Plane Noise(const QSize& size, int bits)
+{
+    std::mt19937 random(7);
+    Plane noise(size, bits);
+    for (int y = 0; y < size.height(); ++y) {
+        for (int x = 0; x < size.width(); ++x) {
+            noise.Set(x, y, static_cast<int>(random() >> (32 - bits)));
+        }
+    }
+    return noise;
+}
+
 void ExpectMeans(const Plane& source, const QSize& size, double tolerance)
 {
     Plane small(size, 8);
@@ -95,18 +107,23 @@ void ExpectMeans(const Plane& source, const QSize& size, double tolerance)
 TEST(KxPlaneShrinker, AveragesTheAreaOfEachSample)
 {
     for (const int bits : {8, 10}) {
-        std::mt19937 random(7);
-        Plane source(SourceSize, bits);
-        for (int y = 0; y < SourceSize.height(); ++y) {
-            for (int x = 0; x < SourceSize.width(); ++x) {
-                source.Set(x, y, static_cast<int>(random() >> (32 - bits)));
-            }
-        }
+        const Plane source = Noise(SourceSize, bits);
         for (const QSize size :
              {QSize(61, 47), QSize(60, 46), QSize(40, 13), QSize(30, 23), QSize(7, 5), QSize(1, 1)}) {
             SCOPED_TRACE(bits);
             // The steps of the rows' weights, for neighbours that have nothing in common.
             ExpectMeans(source, size, bits == 8 ? 1.6 : 4.5);
+        }
+    }
+}
+
+TEST(KxPlaneShrinker, AveragesAWholeNumberOfColumns)
+{
+    for (const int bits : {8, 10, 16}) {
+        const Plane source = Noise({60, 12}, bits);
+        for (const int columns : {30, 15, 10, 6, 5, 3, 2, 1}) {
+            SCOPED_TRACE(bits);
+            ExpectMeans(source, {columns, 12}, 0.51);
         }
     }
 }
