@@ -111,7 +111,7 @@ struct KxSubjectOptions {
         int borderPx = 9;             ///< 5 to 15: parallax and warping cause false motion there; trial
     } motion;
 
-    /// Lengths in pixels are of the map halved.
+    /// Lengths in pixels are of the motion map, which has half of the picture's.
     struct Movers {
         double threshold = 0.2;  ///< 0.1 to 0.4 of the motion map: a peak below is noise; clips
         int levels = 4;          ///< 1 to 6 levels of segmentation, each tracked separately; clips

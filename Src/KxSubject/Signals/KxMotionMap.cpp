@@ -24,25 +24,30 @@ cv::Mat SlopeOf(const cv::Mat& grey)
 
 } // namespace
 
+cv::Size KxMotionMap::HalfOf(cv::Size picturePx)
+{
+    return {(picturePx.width + 1) / 2, (picturePx.height + 1) / 2};
+}
+
 KxMotionMap::KxMotionMap(const KxSubjectOptions::Motion& options)
     : m_options(options)
 {
 }
 
-void KxMotionMap::ClearBorder(cv::Mat& map, const cv::Matx33d& movement) const
+void KxMotionMap::ClearBorder(cv::Mat& map, cv::Size picturePx, const cv::Matx33d& movement) const
 {
-    const auto right = static_cast<float>(map.cols - 1);
-    const auto bottom = static_cast<float>(map.rows - 1);
+    const auto right = static_cast<float>(picturePx.width - 1);
+    const auto bottom = static_cast<float>(picturePx.height - 1);
     const std::vector<cv::Point2f> corners{{0.0F, 0.0F}, {right, 0.0F}, {right, bottom}, {0.0F, bottom}};
     std::vector<cv::Point2f> warped;
     cv::perspectiveTransform(corners, warped, movement);
     std::vector<cv::Point> outline;
     for (const cv::Point2f& corner : warped) {
-        outline.emplace_back(cvRound(corner.x), cvRound(corner.y));
+        outline.emplace_back(cvRound(corner.x / 2.0F), cvRound(corner.y / 2.0F));
     }
     cv::Mat inside(map.size(), CV_8UC1, cv::Scalar(0));
     cv::fillConvexPoly(inside, outline, cv::Scalar(255));
-    const int border = std::min(m_options.borderPx, std::min(map.cols, map.rows) / 8);
+    const int border = std::min((m_options.borderPx + 1) / 2, std::min(map.cols, map.rows) / 8);
     cv::erode(inside, inside, cv::getStructuringElement(cv::MORPH_RECT, cv::Size(2 * border + 1, 2 * border + 1)),
               cv::Point(-1, -1), 1, cv::BORDER_CONSTANT, cv::Scalar(0));
     map.setTo(0.0F, inside == 0);
@@ -68,20 +73,25 @@ cv::Mat KxMotionMap::Difference(const cv::Mat& now, const cv::Mat& slope, const 
             out[x] = std::clamp(excess / (gradientFloor + steep[x]), 0.0F, full);
         }
     }
-    ClearBorder(map, other.movement);
     return map;
 }
 
 cv::Mat KxMotionMap::Of(const cv::Mat& now, const std::vector<KxNeighbourPicture>& neighbours) const
 {
+    const cv::Size halfPx = HalfOf(now.size());
     if (neighbours.empty()) {
-        return cv::Mat::zeros(now.size(), CV_32FC1);
+        return cv::Mat::zeros(halfPx, CV_32FC1);
     }
     const cv::Mat slope = SlopeOf(now);
-    cv::Mat map = Difference(now, slope, neighbours.front());
+    cv::Mat whole = Difference(now, slope, neighbours.front());
     for (std::size_t i = 1; i < neighbours.size(); ++i) {
-        map = cv::min(map, Difference(now, slope, neighbours[i]));
+        whole = cv::min(whole, Difference(now, slope, neighbours[i]));
     }
-    cv::GaussianBlur(map, map, cv::Size(), m_options.blurSigmaPx);
+    cv::Mat map;
+    cv::resize(whole, map, halfPx, 0.0, 0.0, cv::INTER_AREA);
+    for (const KxNeighbourPicture& neighbour : neighbours) {
+        ClearBorder(map, now.size(), neighbour.movement);
+    }
+    cv::GaussianBlur(map, map, cv::Size(), m_options.blurSigmaPx / 2.0);
     return map;
 }

@@ -23,14 +23,17 @@ class KXSUBJECT_API KxMotionMap
 public:
     explicit KxMotionMap(const KxSubjectOptions::Motion& options);
 
-    /// CV_32FC1 of the size of `now`, 0 where nothing moves and about 1 for a pixel of movement at an edge. All
+    /// The size of the map of a picture: it is smooth, so half of the resolution loses nothing and costs a quarter.
+    static cv::Size HalfOf(cv::Size picturePx);
+
+    /// CV_32FC1 of half the size of `now`, 0 where nothing moves and about 1 for a pixel of movement at an edge. All
     /// pictures are CV_8UC1 of one size. Nothing moves without neighbours.
     cv::Mat Of(const cv::Mat& now, const std::vector<KxNeighbourPicture>& neighbours) const;
 
 private:
     /// `slope` is how much `now` changes in a pixel.
     cv::Mat Difference(const cv::Mat& now, const cv::Mat& slope, const KxNeighbourPicture& other) const;
-    void ClearBorder(cv::Mat& map, const cv::Matx33d& movement) const;
+    void ClearBorder(cv::Mat& map, cv::Size picturePx, const cv::Matx33d& movement) const;
 
     KxSubjectOptions::Motion m_options;
 };

@@ -12,7 +12,7 @@ namespace
 constexpr double PackedOne = 255.0;
 constexpr int HitsThatCount = 20;
 
-/// The movement of a map given for one twice as large.
+/// A movement in pixels of the picture, in those of its map.
 cv::Matx33d Halved(cv::Matx33d movement)
 {
     movement(0, 2) /= 2.0;
@@ -211,17 +211,15 @@ void KxMoverTracks::AddMap(double timeSeconds, const cv::Mat& map, const std::op
     ++m_sample;
     m_gapSeconds = timeSeconds - m_nowSeconds;
     m_nowSeconds = timeSeconds;
-    cv::Mat half;
-    cv::resize(map, half, {(map.cols + 1) / 2, (map.rows + 1) / 2}, 0.0, 0.0, cv::INTER_AREA);
-    m_mapPx = half.size();
+    m_mapPx = map.size();
     if (camera) {
         Predict(Halved(*camera));
     } else {
         EndAll();
     }
-    const std::vector<Peak> peaks = PeaksOf(half);
+    const std::vector<Peak> peaks = PeaksOf(map);
     for (std::size_t level = 0; level < m_open.size(); ++level) {
-        Associate(m_open[level], BlobsAt(static_cast<int>(level), half, peaks));
+        Associate(m_open[level], BlobsAt(static_cast<int>(level), map, peaks));
     }
 }
 

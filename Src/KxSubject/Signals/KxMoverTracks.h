@@ -21,8 +21,8 @@ class KXSUBJECT_API KxMoverTracks
 public:
     explicit KxMoverTracks(const KxSubjectOptions::Movers& options);
 
-    /// The next sample's motion map (CV_32FC1, of the size that the first one had) and its time. `camera` maps the
-    /// previous sample onto this one; without it every track ends, because the scene is another.
+    /// The next sample's motion map (of KxMotionMap, all of one size) and its time. `camera` maps the previous sample
+    /// onto this one, in pixels of the picture; without it every track ends, because the scene is another.
     void AddMap(double timeSeconds, const cv::Mat& map, const std::optional<cv::Matx33d>& camera);
 
     /// Ends the open tracks. The movers that were tracked long enough to count, in the order of their first samples.
@@ -65,7 +65,7 @@ private:
     void EndAll();
 
     KxSubjectOptions::Movers m_options;
-    cv::Size m_mapPx; ///< of the halved map
+    cv::Size m_mapPx;
     std::int32_t m_sample = -1;
     double m_nowSeconds = 0.0;
     double m_gapSeconds = 0.0;              ///< since the sample before

@@ -110,9 +110,10 @@ void KxSignalRecorder::MeasureMotion(const Picture* after)
     if (after != nullptr && after->cameraHere) {
         neighbours.push_back({after->grey(content), From(content.tl(), after->cameraHere->inv())});
     }
-    cv::Mat map(m_picturePx, CV_32FC1, cv::Scalar(0.0));
-    m_motion.Of(m_newest->grey(content), neighbours).copyTo(map(content));
-    m_samples.back().motion = Profiles(map(content), content);
+    const cv::Mat inside = m_motion.Of(m_newest->grey(content), neighbours);
+    m_samples.back().motion = Profiles(inside, content);
+    cv::Mat map(KxMotionMap::HalfOf(m_picturePx), CV_32FC1, cv::Scalar(0.0));
+    inside.copyTo(map(cv::Rect(content.tl() / 2, inside.size())));
     m_movers.AddMap(SecondsAt(m_newest->frame), map, m_newest->cameraHere);
 }
 

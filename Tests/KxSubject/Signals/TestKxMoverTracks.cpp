@@ -1,8 +1,10 @@
 #include <KxSubject/Signals/KxMoverTracks.h>
 
 #include <KxSubject/Choice/KxMoverEvidence.h>
+#include <KxSubject/Signals/KxMotionMap.h>
 
 #include <opencv2/core.hpp>
+#include <opencv2/imgproc.hpp>
 
 #include <gtest/gtest.h>
 
@@ -11,7 +13,7 @@
 namespace
 {
 
-const cv::Size MapSize(320, 180);
+const cv::Size PictureSize(320, 180);
 /// One level: the others work in the same way.
 KxSubjectOptions::Movers OneLevel()
 {
@@ -25,12 +27,20 @@ cv::Matx33d Shift(double across)
     return {1.0, 0.0, across, 0.0, 1.0, 0.0, 0.0, 0.0, 1.0};
 }
 
-cv::Mat Map(const std::vector<cv::Rect>& moving)
+/// What moves in a picture, in its own resolution.
+cv::Mat Picture(const std::vector<cv::Rect>& moving)
 {
-    cv::Mat map(MapSize, CV_32FC1, cv::Scalar(0.0));
+    cv::Mat map(PictureSize, CV_32FC1, cv::Scalar(0.0));
     for (const cv::Rect& place : moving) {
-        map(place & cv::Rect({}, MapSize)).setTo(1.0);
+        map(place & cv::Rect({}, PictureSize)).setTo(1.0);
     }
+    return map;
+}
+
+cv::Mat MapOf(const cv::Mat& picture)
+{
+    cv::Mat map;
+    cv::resize(picture, map, KxMotionMap::HalfOf(PictureSize), 0.0, 0.0, cv::INTER_AREA);
     return map;
 }
 
@@ -40,7 +50,7 @@ std::vector<KxMover> Followed(int samples, Places places, double camera = 0.0)
 {
     KxMoverTracks tracks(OneLevel());
     for (int i = 0; i < samples; ++i) {
-        tracks.AddMap(i / 10.0, Map(places(i)), i == 0 ? std::nullopt : std::optional(Shift(camera)));
+        tracks.AddMap(i / 10.0, MapOf(Picture(places(i))), i == 0 ? std::nullopt : std::optional(Shift(camera)));
     }
     return tracks.Finish();
 }
@@ -75,9 +85,9 @@ KxSignalProfile OfPair(float saddle, const KxSubjectOptions::Movers& options)
     KxMoverTracks tracks(options);
     for (int i = 0; i < 30; ++i) {
         const int left = 20 + 6 * i;
-        cv::Mat map = Map({{left, 80, 16, 24}, {left + 40, 80, 16, 24}});
-        map(cv::Rect(left + 16, 80, 24, 24)).setTo(saddle);
-        tracks.AddMap(i / 10.0, map, i == 0 ? std::nullopt : std::optional(Shift(0.0)));
+        cv::Mat picture = Picture({{left, 80, 16, 24}, {left + 40, 80, 16, 24}});
+        picture(cv::Rect(left + 16, 80, 24, 24)).setTo(saddle);
+        tracks.AddMap(i / 10.0, MapOf(picture), i == 0 ? std::nullopt : std::optional(Shift(0.0)));
     }
     return ProfileAt(15, KxAxis::Across, tracks.Finish(), options);
 }
@@ -218,7 +228,7 @@ TEST(KxMoverTracks, AnotherSceneEndsEveryTrack)
     KxMoverTracks tracks(OneLevel());
     for (int i = 0; i < 40; ++i) {
         const auto camera = i % 20 == 0 ? std::nullopt : std::optional(Shift(0.0));
-        tracks.AddMap(i / 10.0, Map({{20 + 6 * i, 80, 24, 24}}), camera);
+        tracks.AddMap(i / 10.0, MapOf(Picture({{20 + 6 * i, 80, 24, 24}})), camera);
     }
     const std::vector<KxMover> movers = tracks.Finish();
     ASSERT_EQ(movers.size(), 2U);
@@ -240,7 +250,7 @@ TEST(KxMoverTracks, AMoverIsFollowedAtEachLevelAndCountsOnce)
     const KxSubjectOptions::Movers options;
     KxMoverTracks tracks(options);
     for (int i = 0; i < 30; ++i) {
-        tracks.AddMap(i / 10.0, Map(place(i)), i == 0 ? std::nullopt : std::optional(Shift(0.0)));
+        tracks.AddMap(i / 10.0, MapOf(Picture(place(i))), i == 0 ? std::nullopt : std::optional(Shift(0.0)));
     }
     const std::vector<KxMover> movers = tracks.Finish();
     EXPECT_EQ(movers.size(), static_cast<std::size_t>(options.levels));
