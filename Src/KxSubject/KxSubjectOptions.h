@@ -94,7 +94,7 @@ struct KxSubjectOptions {
         double gapMaximumSeconds = 0.6; ///< 0.3 to 1: beyond it a scene has changed too much to compare; chosen
         int cellsAlong = 8;             ///< 4 to 12 parts of the longer side, each with corners of its own; clips
         int cellsAcross = 5;            ///< 3 to 8 of the shorter side; clips
-        int cornersInCell = 6;          ///< 4 to 10; trial: about 200 in all
+        int cornersInCell = 4;          ///< 4 to 10; clips: 6 the same; about 150 in all
         double cornerQuality = 0.0005;  ///< 0 to 0.01 of the best corner; low for plain backgrounds; clips
         int cornerDistancePx = 3;       ///< 2 to 6 each way in which a corner is the strongest; clips
         double inlierPx = 1.0;          ///< 0.5 to 2.5; clips

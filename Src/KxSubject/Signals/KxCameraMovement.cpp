@@ -1,17 +1,21 @@
 #include <KxSubject/Signals/KxCameraMovement.h>
 
 #include <opencv2/calib3d.hpp>
+#include <opencv2/core/hal/hal.hpp>
 #include <opencv2/imgproc.hpp>
 #include <opencv2/video/tracking.hpp>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <cstdint>
 
 namespace
 {
 
 constexpr double LeastStrength = 4.0; ///< a slope of a quarter of a grey level
-constexpr int WindowPx = 15;
+/// Lucas-Kanade compares eight columns at once: a window of 15 takes nearly twice as long.
+constexpr int WindowPx = 16;
 constexpr int PyramidLevels = 3;
 
 bool IsPlausible(const cv::Mat& movement, cv::Size size)
@@ -25,48 +29,83 @@ bool IsPlausible(const cv::Mat& movement, cv::Size size)
            std::abs(m(2, 1)) * size.height < 0.3;
 }
 
-/// The sums of all blocks of three by three, for whole numbers below 2^20; beyond its edges the map is mirrored.
-cv::Mat SumsOf(const cv::Mat& map)
+/// Products of the slopes in a row.
+struct SlopeProducts {
+    std::vector<float> acrossSquared;
+    std::vector<float> downSquared;
+    std::vector<float> mixed;
+};
+
+void Multiply(const std::int16_t* across, const std::int16_t* down, SlopeProducts& products)
 {
-    cv::Mat sums(map.size(), CV_32FC1);
-    std::vector<float> columns(static_cast<std::size_t>(map.cols) + 2);
-    const int lastRow = map.rows - 1;
-    const int nextColumn = std::min(1, map.cols - 1);
-    for (int y = 0; y <= lastRow; ++y) {
-        const auto* above = map.ptr<float>(std::abs(y - 1) <= lastRow ? std::abs(y - 1) : 0);
-        const auto* here = map.ptr<float>(y);
-        const auto* below = map.ptr<float>(y < lastRow ? y + 1 : std::max(lastRow - 1, 0));
-        float* inner = columns.data() + 1;
-        for (int x = 0; x < map.cols; ++x) {
-            inner[x] = above[x] + here[x] + below[x];
-        }
-        columns.front() = inner[nextColumn];
-        columns.back() = inner[map.cols - 1 - nextColumn];
-        const float* left = columns.data();
-        auto* out = sums.ptr<float>(y);
-        for (int x = 0; x < map.cols; ++x) {
-            out[x] = left[x] + left[x + 1] + left[x + 2];
-        }
+    for (std::size_t x = 0; x < products.mixed.size(); ++x) {
+        const auto acrossHere = static_cast<float>(across[x]);
+        const auto downHere = static_cast<float>(down[x]);
+        products.acrossSquared[x] = acrossHere * acrossHere;
+        products.downSquared[x] = downHere * downHere;
+        products.mixed[x] = acrossHere * downHere;
     }
-    return sums;
+}
+
+/// The sums of blocks of three by three, for the middle row; at its ends the row is mirrored. `columns` is for
+/// intermediate results and has two values more.
+void SumBlocks(const std::vector<float>& above, const std::vector<float>& here, const std::vector<float>& below,
+               std::vector<float>& columns, std::vector<float>& sums)
+{
+    const std::size_t count = sums.size();
+    for (std::size_t x = 0; x < count; ++x) {
+        columns[x + 1] = above[x] + here[x] + below[x];
+    }
+    columns.front() = columns[std::min<std::size_t>(2, count)];
+    columns.back() = columns[std::max<std::size_t>(count, 2) - 1];
+    for (std::size_t x = 0; x < count; ++x) {
+        sums[x] = columns[x] + columns[x + 1] + columns[x + 2];
+    }
 }
 
 /// The smaller eigenvalue of the structure tensor (Shi and Tomasi 1994), up to a factor. cv::cornerMinEigenVal and
-/// cv::boxFilter give the same in many times the time.
+/// cv::boxFilter give the same in many times the time: here, three rows at once stay in the processor's cache.
 cv::Mat StrengthOf(const cv::Mat& grey)
 {
     cv::Mat across;
     cv::Mat down;
     cv::spatialGradient(grey, across, down);
-    across.convertTo(across, CV_32F);
-    down.convertTo(down, CV_32F);
-    const cv::Mat acrossSquared = SumsOf(across.mul(across));
-    const cv::Mat downSquared = SumsOf(down.mul(down));
-    const cv::Mat mixed = SumsOf(across.mul(down));
-    cv::Mat root;
-    cv::magnitude(acrossSquared - downSquared, 2.0 * mixed, root);
-    constexpr double blockArea = 9.0;
-    return (acrossSquared + downSquared - root) / blockArea;
+    const auto count = static_cast<std::size_t>(grey.cols);
+    const std::vector<float> empty(count);
+    std::array<SlopeProducts, 3> rows;
+    rows.fill({empty, empty, empty});
+    std::vector<float> columns(count + 2);
+    std::vector<float> acrossSquared = empty;
+    std::vector<float> downSquared = empty;
+    std::vector<float> mixed = empty;
+    std::vector<float> root = empty;
+    const auto productsOf = [&rows](int y) -> SlopeProducts& { return rows[static_cast<std::size_t>(y % 3)]; };
+    const int last = grey.rows - 1;
+    cv::Mat strength(grey.size(), CV_32FC1);
+    Multiply(across.ptr<std::int16_t>(0), down.ptr<std::int16_t>(0), productsOf(0));
+    for (int y = 0; y <= last; ++y) {
+        if (y < last) {
+            Multiply(across.ptr<std::int16_t>(y + 1), down.ptr<std::int16_t>(y + 1), productsOf(y + 1));
+        }
+        const SlopeProducts& here = productsOf(y);
+        const SlopeProducts& above = productsOf(y > 0 ? y - 1 : std::min(1, last));
+        const SlopeProducts& below = productsOf(y < last ? y + 1 : std::max(last - 1, 0));
+        SumBlocks(above.acrossSquared, here.acrossSquared, below.acrossSquared, columns, acrossSquared);
+        SumBlocks(above.downSquared, here.downSquared, below.downSquared, columns, downSquared);
+        SumBlocks(above.mixed, here.mixed, below.mixed, columns, mixed);
+        auto* out = strength.ptr<float>(y);
+        for (std::size_t x = 0; x < count; ++x) {
+            out[x] = acrossSquared[x] + downSquared[x];
+            acrossSquared[x] -= downSquared[x];
+            mixed[x] *= 2.0F;
+        }
+        cv::hal::magnitude32f(acrossSquared.data(), mixed.data(), root.data(), grey.cols);
+        constexpr float blockArea = 9.0F;
+        for (std::size_t x = 0; x < count; ++x) {
+            out[x] = (out[x] - root[x]) / blockArea;
+        }
+    }
+    return strength;
 }
 
 } // namespace
@@ -98,7 +137,7 @@ std::vector<cv::Point2f> KxCameraMovement::Corners(const cv::Mat& grey) const
         const auto* value = strength.ptr<float>(y);
         const auto* largest = around.ptr<float>(y);
         for (int x = 0; x < grey.cols; ++x) {
-            if (value[x] > least && value[x] == largest[x]) {
+            if (value[x] == largest[x] && value[x] > least) {
                 const int cell = y * rows / grey.rows * columns + x * columns / grey.cols;
                 cells[static_cast<std::size_t>(cell)].push_back({value[x], {x, y}});
             }
