@@ -150,6 +150,7 @@ struct KxSubjectOptions {
         double profilePeriodSeconds = 1.2; ///< 0.5 to 2: the same for one of the two sides in turn; clips
         double modelPeriodSeconds = 0.2;   ///< 0.1 to 0.5: the same for the neural detector; chosen
         double followPeriodSeconds = 0.2;  ///< 0.1 to 0.4 between two looks near a known face; clips
+        double alonePeriodSeconds = 0.4;   ///< 0.2 to 0.6: the same for a single face that is sure; clips: cost
         int sidesAtFirst = 4;              ///< 4 to 8 looks from the sides in turn at a new scene; clips: 3 miss faces
         int settledLooks = 4;              ///< 2 to 8 searches without a new face: then they are rarer; chosen
         double settledFactor = 3.0;        ///< 1 to 4 times; for the sides also while a face is followed; clips: cost
@@ -161,6 +162,7 @@ struct KxSubjectOptions {
         int profileNeighbours = 4; ///< 2 to 6 raw hits near a candidate that make a face; clips
         int followNeighbours = 2;  ///< 1 to 4 raw hits that keep a known face; clips: with 4 it is often lost
         int minimumPx = 24;        ///< 20 to 40, smallest face looked for; chosen
+        int profileMinimumPx = 32; ///< 24 to 40, the same from the sides, where most of the cost is; clips: cost
         double modelThreshold = 0.7;   ///< 0.5 to 0.9, the neural detector's own score; chosen
         int followedAtOnce = 6;        ///< 3 to 12 faces; bounds the cost of a crowd; chosen
         double sameShare = 0.6;        ///< 0.4 to 0.8 of the size: nearer boxes of similar size are one; chosen

@@ -88,8 +88,9 @@ std::vector<cv::Rect> KxFaceFinder::Find(const cv::Mat& picture, const cv::Mat& 
 
 std::vector<cv::Rect> KxFaceFinder::FindBySearch(const cv::Mat& grey, KxFaceView view)
 {
-    std::vector<cv::Rect> candidates = FindByCascade(
-        grey, view, {m_options.minimumPx, std::min(grey.cols, grey.rows), m_options.searchScaleFactor, 0});
+    const int smallestPx = view == KxFaceView::Frontal ? m_options.minimumPx : m_options.profileMinimumPx;
+    std::vector<cv::Rect> candidates =
+        FindByCascade(grey, view, {smallestPx, std::min(grey.cols, grey.rows), m_options.searchScaleFactor, 0});
     std::sort(candidates.begin(), candidates.end(),
               [](const cv::Rect& a, const cv::Rect& b) { return a.area() > b.area(); });
     const int neighbours = view == KxFaceView::Frontal ? m_options.frontalNeighbours : m_options.profileNeighbours;

@@ -36,7 +36,7 @@ void KxFaceTracks::AddPicture(double timeSeconds, const cv::Mat& picture, const 
         }
         return;
     }
-    if (timeSeconds >= m_lastFollow + m_options.followPeriodSeconds - Early) {
+    if (timeSeconds >= m_lastFollow + FollowPeriodSeconds() - Early) {
         m_lastFollow = timeSeconds;
         Follow(timeSeconds, grey);
     }
@@ -51,6 +51,23 @@ void KxFaceTracks::AddPicture(double timeSeconds, const cv::Mat& picture, const 
         LookEverywhere(timeSeconds, picture, grey, m_nextSide);
         m_nextSide = m_nextSide == KxFaceView::LeftProfile ? KxFaceView::RightProfile : KxFaceView::LeftProfile;
     }
+}
+
+double KxFaceTracks::FollowPeriodSeconds() const
+{
+    bool isAlone = false;
+    for (std::size_t i = m_firstOpen; i < m_tracks.size(); ++i) {
+        const Track& track = m_tracks[i];
+        if (track.misses >= m_options.missesToDrop) {
+            continue;
+        }
+        const bool isSure = track.misses == 0 && track.looks.size() > static_cast<std::size_t>(m_options.agreeing);
+        if (isAlone || !isSure) {
+            return m_options.followPeriodSeconds;
+        }
+        isAlone = true;
+    }
+    return isAlone ? m_options.alonePeriodSeconds : m_options.followPeriodSeconds;
 }
 
 int KxFaceTracks::Followed() const

@@ -41,6 +41,8 @@ public:
 
 private:
     void LookEverywhere(double timeSeconds, const cv::Mat& picture, const cv::Mat& grey, KxFaceView view);
+    /// A face that is alone and sure needs fewer looks; who speaks is found from more.
+    double FollowPeriodSeconds() const;
     void Follow(double timeSeconds, const cv::Mat& grey);
 
     KxSubjectOptions::Faces m_options;

@@ -99,6 +99,24 @@ TEST_F(KxFaceFinderOnAPhotograph, AFaceOfAnySizeIsFoundBetweenTheCoarseStepsOfTh
     }
 }
 
+TEST_F(KxFaceFinderOnAPhotograph, ASmallFaceIsSearchedForFromTheFrontOnly)
+{
+    // The same cascade for all views: only the smallest size differs.
+    KxFaceModels models = InstalledModels::Cascades();
+    models.profileCascade = models.frontalCascade;
+    options.profileNeighbours = options.frontalNeighbours;
+    const auto finds = [&](KxFaceView view) {
+        return !KxFaceFinder(options, models, PictureSize).Find(picture, grey, view).empty();
+    };
+    constexpr double scale = 0.8; // 33 pixels
+    cv::resize(MadePictures::Grey(picture), grey, {}, scale, scale, cv::INTER_AREA);
+    options.profileMinimumPx = 64;
+    EXPECT_TRUE(finds(KxFaceView::Frontal));
+    EXPECT_FALSE(finds(KxFaceView::LeftProfile));
+    options.profileMinimumPx = options.minimumPx;
+    EXPECT_TRUE(finds(KxFaceView::LeftProfile));
+}
+
 TEST_F(KxFaceFinderOnAPhotograph, AKnownFaceNeedsFewerHitsThanANewOne)
 {
     options.frontalNeighbours = 1000;
