@@ -305,7 +305,7 @@ struct KxSubjectOptions {
         double weight = 2.0;            ///< 1 to 4 of the tracked box; trial
         double seedWeight = 4.0;        ///< 2 to 8 of a box that a person drew; chosen
         double seedSeconds = 0.35;      ///< 0.2 to 1 each way, for which that holds; chosen
-        /// 0.8 to 1 of the thing, over the shot: where the automatic crop holds more, it stays as it is; cross
+        /// 0.8 to 1 of the thing, over the shot: where the automatic crop holds more, it stays as it is; chosen
         double heldShare = 0.9;
         double smoothingSeconds = 0.4; ///< 0.3 to 0.6, of a path that follows, at most; trial
         double avoidedShare = 0.1;     ///< 0 to 0.3 of the evidence under an avoided box is left; chosen
