@@ -193,3 +193,32 @@ TEST_F(TestMainWindowBatch, SelectingAllLeavesThePlaceForDropsOut)
     EXPECT_EQ(View()->SelectedVideos().size(), 3);
     EXPECT_EQ(Text("StatusBar_text"), QStringLiteral("3 videos · 3 selected"));
 }
+
+TEST_F(TestMainWindowBatch, EveryButtonHasAToolTipAndIsReachedWithTab)
+{
+    Open({QStringLiteral("a.mp4")});
+    ASSERT_TRUE(WaitUntilUsable());
+    ReframeAll();
+    FinishOne({40});
+    FoundCrops failed;
+    failed.message = QStringLiteral("Cannot reframe a.mp4: it is too short.");
+    ASSERT_TRUE(WaitForFinding());
+    m_backend->finding->End(failed);
+    ASSERT_TRUE(WaitForText("QueueBar_text", QStringLiteral("1 done, 1 failed, 1 to look at")));
+    QApplication::setActiveWindow(m_window.get());
+    QSet<QWidget*> reached;
+    Button("TopBar_import")->setFocus();
+    while (!reached.contains(QApplication::focusWidget())) {
+        reached.insert(QApplication::focusWidget());
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    }
+    int links = 0;
+    for (QAbstractButton* const button : m_window->findChildren<QAbstractButton*>()) {
+        if (button->isVisible() && button->isEnabled()) {
+            EXPECT_TRUE(reached.contains(button)) << button->objectName().toStdString();
+            EXPECT_FALSE(button->toolTip().isEmpty()) << button->objectName().toStdString();
+            links += button->objectName().startsWith(QLatin1String("QueueBar_")) ? 1 : 0;
+        }
+    }
+    EXPECT_EQ(links, 2);
+}

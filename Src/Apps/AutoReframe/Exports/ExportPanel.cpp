@@ -137,6 +137,9 @@ void ExportPanel::RetranslateUi()
     m_clear->setText(tr("Clear finished"));
     m_resume->setText(tr("Resume"));
     m_discard->setText(tr("Discard"));
+    m_clear->setToolTip(tr("Remove the finished exports from the list; their files stay"));
+    m_resume->setToolTip(tr("Export those that the last run did not finish"));
+    m_discard->setToolTip(tr("Remove those that the last run did not finish from the list"));
     ShowHints();
     m_hint->setText(tr("Videos that you export from the Auto Reframe window appear here."));
 }
