@@ -327,6 +327,36 @@ TEST_F(TestRestoredWindow, ExportsOfAKilledRunAreOfferedAndResumed)
     EXPECT_EQ(run.window.Exports().UnfinishedCount(), 2);
 }
 
+TEST_F(TestRestoredWindow, PlannedExportsOfAKilledRunAreAnalyzedAgainAndSummedUp)
+{
+    const QString clip = Clip(QStringLiteral("a.mp4"));
+    PlannedExport planned;
+    planned.path = clip;
+    planned.plan = {QSize(4, 5), 24, 1080};
+    planned.frames = 1260;
+    {
+        Run killed(Data());
+        for (const char* const name : {"1.mp4", "2.mp4"}) {
+            planned.outputPath = m_folder.filePath(QLatin1String(name));
+            killed.window.Exports().AddPlanned(planned);
+        }
+        killed.backend->finding->EndWell({40});
+        ASSERT_TRUE(QTest::qWaitFor([&] { return killed.backend->task != nullptr; }, 30000));
+        killed.backend->task->EndWell();
+        ASSERT_TRUE(QTest::qWaitFor([&] { return killed.window.Exports().Summary().done == 1; }, 30000));
+        killed.window.Interrupt();
+    }
+    Run run(Data());
+    const auto* const text = run.window.findChild<QLabel*>(QStringLiteral("QueueBar_text"));
+    EXPECT_EQ(text->text(), QStringLiteral("1 done, 1 to look at"));
+    EXPECT_EQ(run.window.Exports().InterruptedCount(), 1);
+    run.Button("ExportPanel_resume")->click();
+    ASSERT_NE(run.backend->finding, nullptr);
+    EXPECT_EQ(run.backend->finding->request.path, clip);
+    EXPECT_TRUE(run.backend->finding->request.plan == planned.plan);
+    EXPECT_EQ(text->text(), QStringLiteral("1 of 2 done"));
+}
+
 TEST_F(TestRestoredWindow, DiscardedExportsDoNotComeBack)
 {
     {
