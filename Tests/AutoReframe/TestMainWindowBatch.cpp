@@ -177,6 +177,23 @@ TEST_F(TestMainWindowBatch, TheLastSettingsAreOfferedAgain)
     EXPECT_EQ(m_window->findChildren<QWidget*>(QStringLiteral("ExportCard")).size(), 2);
 }
 
+TEST_F(TestMainWindowBatch, TheFirstFolderIsThatOfTheLastExport)
+{
+    QFile config(m_folder.filePath(QStringLiteral("config.ini")));
+    ASSERT_TRUE(config.open(QIODevice::WriteOnly));
+    config.write("[Auto%20Reframe]\nOutputPath=" + m_folder.path().toUtf8() + "\n");
+    config.close();
+    Open({QStringLiteral("a.mp4")});
+    ASSERT_TRUE(WaitUntilUsable());
+    QString folder;
+    WhenAsked([&folder](BatchDialog& dialog) {
+        folder = dialog.Settings().folder;
+        dialog.reject();
+    });
+    Button("TopBar_reframeAll")->click();
+    EXPECT_EQ(folder, m_folder.path());
+}
+
 TEST_F(TestMainWindowBatch, WithoutAVideoThereIsNothingToReframe)
 {
     EXPECT_FALSE(Button("TopBar_reframeAll")->isEnabled());

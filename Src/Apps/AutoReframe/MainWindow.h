@@ -89,6 +89,7 @@ private:
     std::optional<FoundCrops> WaitForCrops(const CropRequest& request);
     void ShowHelp();
     void ShowAbout();
+    /// Where the person has exported to last.
     QString OutputFolder() const;
     /// Whether there is such a file already, or an export is going to write it.
     bool IsTaken(const QString& path) const;

@@ -7,6 +7,7 @@
 #include <Apps/AutoReframe/Library/MediaText.h>
 #include <Apps/AutoReframe/Tracks/CropTrackDialog.h>
 #include <Apps/AutoReframe/Tracks/CropWait.h>
+#include <KxCore/KxConfigFile.h>
 
 #include <KxCore/KxConfig.h>
 #include <KxWidgets/KrMessageDialog.h>
@@ -17,7 +18,11 @@
 
 QString MainWindow::OutputFolder() const
 {
-    return m_batchSettings.folder.isEmpty() ? KxConfig::GetKorviOutputDirectory() : m_batchSettings.folder;
+    if (!m_batchSettings.folder.isEmpty()) {
+        return m_batchSettings.folder;
+    }
+    const QString ofDialog = KxConfigFile::ReadAutoReframe(QStringLiteral("OutputPath"));
+    return QFileInfo(ofDialog).isDir() ? ofDialog : KxConfig::GetKorviOutputDirectory();
 }
 
 CropRequest MainWindow::RequestForSelected() const

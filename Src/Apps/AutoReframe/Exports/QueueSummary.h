@@ -18,6 +18,7 @@ struct QueueSummary {
     /// Empty while there is too little progress for an estimate.
     std::optional<qint64> secondsLeft;
 
+    /// Without progress and time left, which the queue adds.
     static QueueSummary Of(const std::vector<ExportItem>& items);
 };
 
