@@ -62,7 +62,7 @@ set(FOLDERS_Apps/AutoReframe/Backend "CropTracks")
 set(FOLDERS_Apps/AutoReframe/Store "AutoReframe/Backend")
 set(FOLDERS_Apps/AutoReframe/Library "AutoReframe/Backend;AutoReframe/Store")
 set(FOLDERS_Apps/AutoReframe/Batch "AutoReframe/Backend;AutoReframe/Exports;AutoReframe/Library")
-set(FOLDERS_Apps/AutoReframe/Help "")
+set(FOLDERS_Apps/AutoReframe/Help "AutoReframe/Library")
 set(FOLDERS_Apps/AutoReframe/Tracks "AutoReframe/Backend;AutoReframe/Batch")
 set(FOLDERS_Apps/AutoReframe/Exports "AutoReframe/Backend;AutoReframe/Library;AutoReframe/Store")
 

@@ -4,6 +4,7 @@
 #include <Apps/AutoReframe/Exports/ExportKeeper.h>
 #include <Apps/AutoReframe/Exports/ExportPanel.h>
 #include <Apps/AutoReframe/Exports/ExportQueue.h>
+#include <Apps/AutoReframe/Library/LibraryShortcuts.h>
 #include <Apps/AutoReframe/Library/MediaLibrary.h>
 #include <Apps/AutoReframe/Library/MediaLibraryView.h>
 #include <Apps/AutoReframe/Store/LibraryStore.h>
@@ -182,8 +183,8 @@ void MainWindow::ConnectSignals()
     connect(m_reframeAll, &QAbstractButton::clicked, this, &MainWindow::ReframeAllSelected);
     connect(m_reframe, &QAbstractButton::clicked, this, &MainWindow::ReframeSelected);
     connect(new QShortcut(QKeySequence::Open, this), &QShortcut::activated, this, &MainWindow::ChooseFiles);
-    connect(new QShortcut(Qt::CTRL + Qt::Key_Q, this), &QShortcut::activated, this, &QWidget::close);
-    connect(new QShortcut(Qt::CTRL + Qt::SHIFT + Qt::Key_R, this), &QShortcut::activated, this,
+    connect(new QShortcut(LibraryShortcuts::Quit(), this), &QShortcut::activated, this, &QWidget::close);
+    connect(new QShortcut(LibraryShortcuts::ReframeAll(), this), &QShortcut::activated, this,
             &MainWindow::ReframeAllSelected);
     connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, this, &MainWindow::ShowHelp);
     connect(m_panel, &ExportPanel::sigShowInFolder, this, &MainWindow::ShowInFolder);

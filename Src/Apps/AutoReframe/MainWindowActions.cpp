@@ -3,6 +3,7 @@
 #include <Apps/AutoReframe/Backend/MediaBackendLoader.h>
 #include <Apps/AutoReframe/Exports/ExportQueue.h>
 #include <Apps/AutoReframe/Exports/ExportWatch.h>
+#include <Apps/AutoReframe/Library/LibraryShortcuts.h>
 #include <Apps/AutoReframe/Library/MediaLibrary.h>
 #include <Apps/AutoReframe/Library/MediaLibraryView.h>
 
@@ -88,7 +89,7 @@ void MainWindow::ShowMenu()
     AddRecent(*menu.addMenu(tr("Open Recent")));
     menu.addSeparator();
     QAction* const reframeAll = menu.addAction(tr("Reframe All…"), this, &MainWindow::ReframeAllSelected);
-    reframeAll->setShortcut(Qt::CTRL + Qt::SHIFT + Qt::Key_R);
+    reframeAll->setShortcut(LibraryShortcuts::ReframeAll());
     reframeAll->setEnabled(m_reframeAll->isEnabled());
     const bool isOneSelected = UsableSelected().size() == 1;
     menu.addAction(tr("Save Crop Track…"), this, &MainWindow::SaveCropTrack)->setEnabled(isOneSelected);
@@ -97,7 +98,7 @@ void MainWindow::ShowMenu()
     menu.addAction(tr("Keyboard Shortcuts"), this, &MainWindow::ShowHelp)->setShortcut(QKeySequence::HelpContents);
     menu.addAction(tr("About Auto Reframe"), this, &MainWindow::ShowAbout);
     menu.addSeparator();
-    menu.addAction(tr("Quit"), this, &QWidget::close)->setShortcut(Qt::CTRL + Qt::Key_Q);
+    menu.addAction(tr("Quit"), this, &QWidget::close)->setShortcut(LibraryShortcuts::Quit());
     constexpr int gapPx = 4;
     menu.exec(m_menu->mapToGlobal(QPoint(0, m_menu->height() + gapPx)));
 }

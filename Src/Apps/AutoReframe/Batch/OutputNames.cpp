@@ -13,10 +13,9 @@ QString Translated(const char* text)
     return QCoreApplication::translate("OutputNames", text);
 }
 
-const QRegularExpression& Placeholder()
+QRegularExpression PlaceholderPattern()
 {
-    static const QRegularExpression placeholder(QStringLiteral("\\{[^{}]*\\}"));
-    return placeholder;
+    return QRegularExpression(QStringLiteral("\\{[^{}]*\\}"));
 }
 
 QString SpeedName(int speed)
@@ -47,15 +46,15 @@ QString Replacement(const QString& placeholder, const OutputNames::Facts& facts)
 /// A name that every platform accepts.
 QString Permitted(QString name)
 {
-    static const QRegularExpression forbidden(QStringLiteral("[\\x00-\\x1f*|<>\\\\?/:\"]"));
-    static const QRegularExpression atTheEnd(QStringLiteral("[. ]+$"));
-    name.replace(forbidden, QStringLiteral("-"));
+    static const QRegularExpression Forbidden(QStringLiteral("[\\x00-\\x1f*|<>\\\\?/:\"]"));
+    static const QRegularExpression AtTheEnd(QStringLiteral("[. ]+$"));
+    name.replace(Forbidden, QStringLiteral("-"));
     // Room for a number and the suffix in the 255 bytes of a name.
     constexpr int mostBytes = 235;
     while (name.toUtf8().size() > mostBytes) {
         name.chop(name.size() > 1 && name.at(name.size() - 1).isLowSurrogate() ? 2 : 1);
     }
-    name = name.remove(atTheEnd).trimmed();
+    name = name.remove(AtTheEnd).trimmed();
     const bool isDevice = KxWindowsNames::ReasonNotToName(QStringLiteral("C:\\%1.mp4").arg(name)).has_value();
     return isDevice ? QLatin1Char('_') + name : name;
 }
@@ -70,7 +69,7 @@ QStringList OutputNames::Placeholders()
 
 KxError OutputNames::Problem(const QString& pattern)
 {
-    auto found = Placeholder().globalMatch(pattern);
+    auto found = PlaceholderPattern().globalMatch(pattern);
     while (found.hasNext()) {
         const QString placeholder = found.next().captured();
         if (!Placeholders().contains(placeholder)) {
@@ -87,7 +86,7 @@ QString OutputNames::Expand(const QString& pattern, const Facts& facts)
 {
     QString name;
     int end = 0;
-    auto found = Placeholder().globalMatch(pattern);
+    auto found = PlaceholderPattern().globalMatch(pattern);
     while (found.hasNext()) {
         const QRegularExpressionMatch match = found.next();
         name += pattern.mid(end, match.capturedStart() - end) + Replacement(match.captured(), facts);

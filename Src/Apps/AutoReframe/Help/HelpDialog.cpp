@@ -1,5 +1,7 @@
 #include <Apps/AutoReframe/Help/HelpDialog.h>
 
+#include <Apps/AutoReframe/Library/LibraryShortcuts.h>
+
 #include <KxWidgets/IKxShortcutEditManager.h>
 #include <KxWidgets/KxDialogButtonBar.h>
 #include <KxWidgets/KxLabel.h>
@@ -48,10 +50,10 @@ QList<HelpDialog::Shortcut> HelpDialog::OfLibrary()
             {tr("Select all videos"), TextOf(QKeySequence::SelectAll)},
             {tr("Select several videos"), tr("Ctrl+Click, Shift+Click")},
             {tr("Reframe the selected video"), TextOf(Qt::Key_Return)},
-            {tr("Reframe all selected videos"), TextOf(Qt::CTRL + Qt::SHIFT + Qt::Key_R)},
+            {tr("Reframe all selected videos"), TextOf(LibraryShortcuts::ReframeAll())},
             {tr("Remove from the library"), TextOf(Qt::Key_Delete)},
             {tr("Show this list"), TextOf(Qt::Key_F1)},
-            {tr("Quit"), TextOf(Qt::CTRL + Qt::Key_Q)}};
+            {tr("Quit"), TextOf(LibraryShortcuts::Quit())}};
 }
 
 QList<HelpDialog::Shortcut> HelpDialog::OfDialog()

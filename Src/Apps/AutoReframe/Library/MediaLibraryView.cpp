@@ -1,5 +1,6 @@
 #include <Apps/AutoReframe/Library/MediaLibraryView.h>
 
+#include <Apps/AutoReframe/Library/LibraryShortcuts.h>
 #include <Apps/AutoReframe/Library/MediaCardDelegate.h>
 #include <Apps/AutoReframe/Library/MediaLibraryModel.h>
 
@@ -96,7 +97,7 @@ void MediaLibraryView::contextMenuEvent(QContextMenuEvent* event)
         } else {
             menu.addAction(tr("Auto Reframe…"), this, &MediaLibraryView::sigReframe);
             menu.addAction(tr("Reframe All…"), this, &MediaLibraryView::sigReframeAll)
-                ->setShortcut(Qt::CTRL + Qt::SHIFT + Qt::Key_R);
+                ->setShortcut(LibraryShortcuts::ReframeAll());
             if (SelectedVideos().size() == 1) {
                 menu.addSeparator();
                 menu.addAction(tr("Save Crop Track…"), this, &MediaLibraryView::sigSaveCropTrack);
