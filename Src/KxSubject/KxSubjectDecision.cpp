@@ -28,7 +28,8 @@ public:
         , m_geometry({record.source.pictureWidthPx, record.source.pictureHeightPx},
                      {request.aspectWidth, request.aspectHeight}, record.content)
         , m_score(options.evidence, m_geometry)
-        , m_evidence(record, options, m_geometry.FreeAxis())
+        , m_withoutAvoided(WithoutAvoidedThings())
+        , m_evidence(m_withoutAvoided ? *m_withoutAvoided : record, options, m_geometry.FreeAxis())
     {
     }
 
@@ -46,6 +47,8 @@ private:
     /// another shot, and no path has to be computed through the pause.
     std::vector<KxShotBoundary> Boundaries() const;
     std::vector<Shot> Shots() const;
+    /// The record less what a person wants to avoid; nothing if there is no such choice.
+    std::optional<KxSubjectRecord> WithoutAvoidedThings() const;
     std::int64_t LongestHoldFrames() const;
     /// What is known about one shot: the signals, and what the person makes of them.
     struct ShotEvidence {
@@ -93,6 +96,7 @@ private:
     const KxSubjectOptions& m_options;
     KxCropGeometry m_geometry;
     KxCentreScore m_score;
+    std::optional<KxSubjectRecord> m_withoutAvoided;
     KxEvidence m_evidence;
     KxSubjectFindings m_findings;
 };
@@ -137,6 +141,23 @@ std::vector<Decider::Shot> Decider::Shots() const
                          m_record.source.frameCount});
     }
     return shots;
+}
+
+std::optional<KxSubjectRecord> Decider::WithoutAvoidedThings() const
+{
+    const bool avoids = std::any_of(m_request.choices.begin(), m_request.choices.end(),
+                                    [](const KxSubjectChoice& choice) { return choice.kind == KxChoiceKind::Avoid; });
+    if (!avoids) {
+        return std::nullopt;
+    }
+    KxSubjectRecord left = m_record;
+    for (const Shot& shot : Shots()) {
+        const KxChoiceRanges choices(m_request.choices, m_record.source.frameRate, shot.first, shot.end);
+        const KxChosenEvidence chosen(m_request, choices, m_options.follow, m_record.source.frameRate,
+                                      m_geometry.FreeAxis());
+        chosen.RemoveAvoided(left, m_options);
+    }
+    return left;
 }
 
 KxSignalProfile Decider::Combined(const KxEvidence::Parts& parts, const ShotEvidence& evidence,

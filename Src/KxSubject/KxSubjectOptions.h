@@ -309,6 +309,8 @@ struct KxSubjectOptions {
         double heldShare = 0.9;
         double smoothingSeconds = 0.4; ///< 0.3 to 0.6, of a path that follows, at most; trial
         double avoidedShare = 0.1;     ///< 0 to 0.3 of the evidence under an avoided box is left; chosen
+        double avoidedMargin = 0.04;   ///< 0.02 to 0.06 beside that box: what is measured there is blurred; chosen
+        double avoidedGain = 3.0;      ///< 1 to 5 times the rest of the evidence counts, at most; chosen
         double pointWidth = 0.14;      ///< 0.1 to 0.2 of the picture: a box for a point; trial
         double pointHeight = 0.28;     ///< 0.2 to 0.4 of the picture; trial
         double blockSeconds = 20.0;    ///< 10 to 60 of pictures are kept to go backward: 50 MB; chosen

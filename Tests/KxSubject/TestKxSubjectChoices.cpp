@@ -41,6 +41,12 @@ std::vector<KxCropRect> Decide(const KxSubjectChoices& choices, KxIntSize aspect
     return KxDecide(TwoShots(), request, {}, KxCancelToken()).crops;
 }
 
+/// The middle of a ball that bounces between 0.2 and 0.4 of the width.
+double BallAt(std::int64_t frame)
+{
+    return 0.3 + 0.1 * std::sin(0.3 * static_cast<double>(frame));
+}
+
 double Middle(const KxCropRect& crop)
 {
     return crop.x + crop.width / 2.0;
@@ -241,4 +247,62 @@ TEST(KxSubjectChoices, WhatIsFollowedOutweighsWhatTheSignalsPrefer)
     EXPECT_NEAR(Middle(crops[200]), SecondPlace, 0.05) << "another shot";
     EXPECT_EQ(findings.shots.size(), 2U) << "each shot is recorded once";
     EXPECT_EQ(findings.samples.size(), static_cast<std::size_t>(Frames / 5));
+}
+
+namespace
+{
+
+/// A ball bounces fast; something at the right stands out, without movement.
+KxSubjectRecord FastBall()
+{
+    KxSubjectRecord record;
+    record.source = {1280, 720, Rate, Frames};
+    record.workingSizePx = {320, 180};
+    KxMover mover;
+    mover.seconds = 10.0F;
+    mover.travel = 3.0F;
+    for (std::int32_t frame = 0; frame < Frames; frame += 2) {
+        const double place = BallAt(frame);
+        KxSignalProfile motion;
+        motion.Add(place - 0.04, place + 0.04, 1.0);
+        KxSignalSample sample{frame, {}, {}};
+        sample.motion[0] = KxPackedProfile(motion);
+        KxSignalProfile saliency;
+        saliency.Add(0.78, 0.88, 1.0);
+        sample.saliency[0] = KxPackedProfile(saliency);
+        record.samples.push_back(sample);
+        const auto packed = [](double value) { return static_cast<std::uint8_t>(std::lround(value * 255.0)); };
+        mover.boxes.push_back({packed(place - 0.04), packed(0.45), packed(place + 0.04), packed(0.55)});
+    }
+    for (int level = 0; level < 4; ++level) {
+        record.movers.push_back(mover);
+    }
+    return record;
+}
+
+KxSubjectBox BallBox(std::int64_t frame)
+{
+    return {BallAt(frame) - 0.05, 0.43, 0.1, 0.14};
+}
+
+} // namespace
+
+TEST(KxSubjectChoices, WhatIsAvoidedDoesNotAttractTheCropWhereTheTrackerLosesIt)
+{
+    KxSubjectRequest request;
+    KxSubjectChoice avoid;
+    avoid.kind = KxChoiceKind::Avoid;
+    avoid.seeds = {{0.0, BallBox(0)}};
+    KxFollowTrack track;
+    for (std::int32_t frame = 0; frame < Frames; frame += 2) {
+        track.points.push_back({frame, BallBox(frame < 10 ? frame : 10), frame < 10 ? 1.0F : 0.0F});
+    }
+    const auto automatic = KxDecide(FastBall(), request, {}, KxCancelToken()).crops;
+    request.choices = {avoid};
+    request.tracks = {track};
+    const auto crops = KxDecide(FastBall(), request, {}, KxCancelToken()).crops;
+    for (const std::size_t frame : {30U, 100U, 180U, 240U}) {
+        EXPECT_LT(Middle(automatic[frame]), 0.65) << frame;
+        EXPECT_NEAR(Middle(crops[frame]), 0.83, 0.06) << frame;
+    }
 }

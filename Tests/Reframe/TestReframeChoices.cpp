@@ -106,6 +106,14 @@ TEST_F(ReframeChoicesTest, WhatIsPointedAtIsFollowedInsteadOfWhatMovesMost)
     }
 }
 
+TEST_F(ReframeChoicesTest, WhatIsAvoidedIsLeftForTheOther)
+{
+    const auto crops = Crops(
+        {QStringLiteral("--choices"), MakeFile("{\"version\":1,\"choices\":[{\"kind\":\"avoid\",\"seeds\":[{\"time\":0,"
+                                               "\"box\":[0.156,0.388,0.094,0.278]}]}]}")});
+    EXPECT_GT(Middle(crops.value(40)), 0.55);
+}
+
 TEST_F(ReframeChoicesTest, AFileHoldsTheCropAndShowsTheWholePicture)
 {
     const auto crops = Crops({QStringLiteral("--choices"),

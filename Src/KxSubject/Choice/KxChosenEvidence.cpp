@@ -1,5 +1,7 @@
 #include <KxSubject/Choice/KxChosenEvidence.h>
 
+#include <KxSubject/Choice/KxAvoidedThing.h>
+
 #include <algorithm>
 
 KxChosenEvidence::KxChosenEvidence(const KxSubjectRequest& request, const KxChoiceRanges& ranges,
@@ -18,6 +20,13 @@ KxChosenEvidence::KxChosenEvidence(const KxSubjectRequest& request, const KxChoi
     }
     for (const KxChoiceRanges::Range& range : ranges.Avoided()) {
         m_avoided.push_back(part(range));
+    }
+}
+
+void KxChosenEvidence::RemoveAvoided(KxSubjectRecord& record, const KxSubjectOptions& options) const
+{
+    for (const Part& avoided : m_avoided) {
+        KxRemoveAvoidedThing(record, options, avoided.range, avoided.evidence);
     }
 }
 

@@ -4,6 +4,7 @@
 
 #include <KxSubject/Choice/KxChoiceRanges.h>
 #include <KxSubject/Choice/KxFollowEvidence.h>
+#include <KxSubject/KxSubjectRecord.h>
 #include <KxSubject/KxSubjectRequest.h>
 
 #include <vector>
@@ -15,6 +16,8 @@ public:
     KxChosenEvidence(const KxSubjectRequest& request, const KxChoiceRanges& ranges,
                      const KxSubjectOptions::Follow& options, double frameRate, KxAxis axis);
 
+    /// Takes the things that are avoided out of the record.
+    void RemoveAvoided(KxSubjectRecord& record, const KxSubjectOptions& options) const;
     KxSignalProfile Of(const KxSignalProfile& evidence, std::int64_t frame) const;
     /// Whether something is followed in the shot.
     bool Follows() const { return !m_followed.empty(); }

@@ -56,8 +56,10 @@ KxFollowEvidence::Place KxFollowEvidence::At(std::int64_t frame) const
     const auto mix = [part](double a, double b) { return a + part * (b - a); };
     const bool across = m_axis == KxAxis::Across;
     Place place;
-    place.from = across ? mix(before.box.x, next.box.x) : mix(before.box.y, next.box.y);
-    place.to = place.from + (across ? mix(before.box.width, next.box.width) : mix(before.box.height, next.box.height));
+    place.box = {mix(before.box.x, next.box.x), mix(before.box.y, next.box.y), mix(before.box.width, next.box.width),
+                 mix(before.box.height, next.box.height)};
+    place.from = across ? place.box.x : place.box.y;
+    place.to = place.from + (across ? place.box.width : place.box.height);
     const auto secondsTo = [this, frame](std::int64_t other) {
         return static_cast<double>(std::abs(other - frame)) / m_frameRate;
     };
@@ -70,6 +72,17 @@ KxFollowEvidence::Place KxFollowEvidence::At(std::int64_t frame) const
                                           });
     place.confidence = secondsTo(nearest->frame) <= ReachSeconds ? static_cast<double>(nearest->confidence) : 0.0;
     return place;
+}
+
+bool KxFollowEvidence::IsKnown(const Place& place) const
+{
+    return place.isSeed || place.confidence >= m_options.goodConfidence;
+}
+
+std::optional<KxSubjectBox> KxFollowEvidence::BoxAt(std::int64_t frame) const
+{
+    const Place place = At(frame);
+    return IsKnown(place) ? std::optional(place.box) : std::nullopt;
 }
 
 KxSignalProfile KxFollowEvidence::Followed(const KxSignalProfile& evidence, std::int64_t frame) const
@@ -93,15 +106,19 @@ KxSignalProfile KxFollowEvidence::WithoutAvoided(const KxSignalProfile& evidence
 {
     const Place place = At(frame);
     KxSignalProfile left = evidence;
-    if (!place.isSeed && place.confidence < m_options.goodConfidence) {
+    if (!IsKnown(place)) {
         return left;
     }
     for (std::size_t bin = 0; bin < KxSignalProfile::Bins; ++bin) {
         const double x = (static_cast<double>(bin) + 0.5) / KxSignalProfile::Bins;
-        if (x >= place.from && x <= place.to) {
+        if (x >= place.from - m_options.avoidedMargin && x <= place.to + m_options.avoidedMargin) {
             left.share[bin] *= static_cast<float>(m_options.avoidedShare);
         }
     }
+    // The rest has to win against the middle, too, as if the thing had not taken most of the evidence.
+    const double rest = static_cast<double>(left.Sum());
+    const double gain = std::min(m_options.avoidedGain, static_cast<double>(evidence.Sum()) / std::max(rest, 1e-9));
+    std::for_each(left.share.begin(), left.share.end(), [gain](float& share) { share *= static_cast<float>(gain); });
     return left;
 }
 

@@ -10,6 +10,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <vector>
 
 /// Changes the evidence to what a person pointed at. The tracker decides whom to show, the other signals correct where
@@ -30,6 +31,8 @@ public:
 
     /// `evidence` of all signals in a picture that the choice follows through.
     KxSignalProfile Followed(const KxSignalProfile& evidence, std::int64_t frame) const;
+    /// Where the thing is, if that is known.
+    std::optional<KxSubjectBox> BoxAt(std::int64_t frame) const;
     /// The mean share of the thing that a crop of an extent around some centres holds, of the most that it can hold, in
     /// the pictures in which the thing was seen well.
     double HeldBy(const std::function<double(std::int64_t frame)>& centreAt, double extent) const;
@@ -38,15 +41,17 @@ public:
     KxSignalProfile WithoutAvoided(const KxSignalProfile& evidence, std::int64_t frame) const;
 
 private:
-    /// The thing along the axis at one time.
+    /// The thing at one time.
     struct Place {
-        double from = 0.0;
+        KxSubjectBox box;
+        double from = 0.0; ///< along the axis
         double to = 0.0;
         double confidence = 0.0;
         double seconds = 0.0; ///< since, or until, it was seen well
         bool isSeed = false;  ///< a person pointed at it just then
     };
     Place At(std::int64_t frame) const;
+    bool IsKnown(const Place& place) const;
 
     KxSubjectOptions::Follow m_options;
     double m_frameRate;
