@@ -33,6 +33,7 @@ KxSignalRecorder::KxSignalRecorder(const KxSubjectOptions& options, cv::Size pic
     , m_saliency(options.saliency)
     , m_faces(options.faces, KxFaceFinder(options.faces, models.faces, picturePx))
     , m_objects(KxObjectDetector::Load(models.objectDetector))
+    , m_schedule(options.detections, frameRate)
     , m_isObjectDetectorRefused(!m_objects && !models.objectDetector.empty())
 {
 }
@@ -80,10 +81,9 @@ void KxSignalRecorder::DetectObjects(std::int64_t frame, const cv::Mat& picture,
     if (!m_objects) {
         return;
     }
-    const bool isDue = m_looks.empty() || SecondsAt(frame - m_looks.back().frame) >=
-                                              m_options.detections.periodSeconds - 0.25 / m_frameRate;
-    if (isDue || isNewScene) {
+    if (m_schedule.IsDue(frame, isNewScene)) {
         m_looks.push_back({static_cast<std::int32_t>(frame), m_objects->Detect(picture)});
+        m_schedule.Add(m_looks.back(), isNewScene);
     }
 }
 

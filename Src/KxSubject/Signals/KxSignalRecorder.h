@@ -7,6 +7,7 @@
 #include <KxSubject/Shots/KxBarDetector.h>
 #include <KxSubject/Signals/KxCameraMovement.h>
 #include <KxSubject/Signals/KxFaceTracks.h>
+#include <KxSubject/Signals/KxLookSchedule.h>
 #include <KxSubject/Signals/KxMotionMap.h>
 #include <KxSubject/Signals/KxMoverTracks.h>
 #include <KxSubject/Signals/KxObjectDetector.h>
@@ -55,7 +56,7 @@ private:
     std::array<KxPackedProfile, 2> Profiles(const cv::Mat& map, const cv::Rect& region) const;
     std::optional<cv::Matx33d> CameraTo(const Picture& now) const;
     KxCropRect ContentShare() const;
-    /// Looks for people and animals at the start of a scene and from time to time.
+    /// Looks for people and animals when it is due.
     void DetectObjects(std::int64_t frame, const cv::Mat& picture, bool isNewScene);
     /// `after` may be missing.
     void MeasureMotion(const Picture* after);
@@ -71,6 +72,7 @@ private:
     KxSaliencyMap m_saliency;
     KxFaceTracks m_faces;
     std::optional<KxObjectDetector> m_objects;
+    KxLookSchedule m_schedule;
     bool m_isObjectDetectorRefused;
     std::vector<KxDetectionLook> m_looks;
     std::vector<KxSignalSample> m_samples;
