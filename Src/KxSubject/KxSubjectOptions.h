@@ -90,14 +90,15 @@ struct KxSubjectOptions {
         int insetPx = 1; ///< 0 to 2: the row at a bar's edge is half bar, half picture; chosen
     } bars;
 
+    /// Lengths in pixels are of pictures of half the size.
     struct Camera {
         double gapMaximumSeconds = 0.6; ///< 0.3 to 1: beyond it a scene has changed too much to compare; chosen
         int cellsAlong = 8;             ///< 4 to 12 parts of the longer side, each with corners of its own; clips
         int cellsAcross = 5;            ///< 3 to 8 of the shorter side; clips
         int cornersInCell = 4;          ///< 4 to 10; clips: 6 the same; about 150 in all
         double cornerQuality = 0.0005;  ///< 0 to 0.01 of the best corner; low for plain backgrounds; clips
-        int cornerDistancePx = 3;       ///< 2 to 6 each way in which a corner is the strongest; clips
-        double inlierPx = 1.0;          ///< 0.5 to 2.5; clips
+        int cornerDistancePx = 2;       ///< 1 to 3 each way in which a corner is the strongest; clips
+        double inlierPx = 0.5;          ///< 0.25 to 1.25; clips
         int leastFollowed = 12;         ///< 6 to 30 corners; with fewer the camera counts as static; chosen
         double agreeingShare = 0.08;    ///< 0.05 to 0.13 of the corners; clips: across cuts less, in a shot more
     } camera;

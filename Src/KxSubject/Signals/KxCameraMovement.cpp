@@ -16,7 +16,14 @@ namespace
 constexpr double LeastStrength = 4.0; ///< a slope of a quarter of a grey level
 /// Lucas-Kanade compares eight columns at once: a window of 15 takes nearly twice as long.
 constexpr int WindowPx = 16;
-constexpr int PyramidLevels = 3;
+constexpr int PyramidLevels = 2;
+
+cv::Mat HalfOf(const cv::Mat& grey)
+{
+    cv::Mat half;
+    cv::resize(grey, half, {(grey.cols + 1) / 2, (grey.rows + 1) / 2}, 0.0, 0.0, cv::INTER_AREA);
+    return half;
+}
 
 bool IsPlausible(const cv::Mat& movement, cv::Size size)
 {
@@ -155,6 +162,14 @@ std::vector<cv::Point2f> KxCameraMovement::Corners(const cv::Mat& grey) const
 }
 
 std::optional<cv::Matx33d> KxCameraMovement::Between(const cv::Mat& before, const cv::Mat& now) const
+{
+    const std::optional<cv::Matx33d> movement = BetweenHalves(HalfOf(before), HalfOf(now));
+    // The middle of a pixel of the half lies between those of two pixels.
+    const cv::Matx33d enlarge(2, 0, 0.5, 0, 2, 0.5, 0, 0, 1);
+    return movement ? std::optional(enlarge * *movement * enlarge.inv()) : std::nullopt;
+}
+
+std::optional<cv::Matx33d> KxCameraMovement::BetweenHalves(const cv::Mat& before, const cv::Mat& now) const
 {
     const std::vector<cv::Point2f> corners = Corners(before);
     const auto enough = static_cast<std::size_t>(m_options.leastFollowed);
