@@ -52,6 +52,21 @@ void ExpectRefused(const QString& path, const char* reason)
 
 } // namespace
 
+TEST_F(CropTrackFileTest, JsonCarriesHowCropsOfAnotherShapeAreShown)
+{
+    using OtherShapes = KxRenderSource::OtherShapes;
+    CropTrack track = Track();
+    EXPECT_FALSE(CropTrackFile::Format(track, Path("t.json")).contains("other_shapes"));
+    track.otherShapes = OtherShapes::Fitted;
+    const auto read = CropTrackFile::Read(WithContent("t.json", CropTrackFile::Format(track, Path("t.json"))), 3);
+    ASSERT_TRUE(read) << read.Message().toStdString();
+    EXPECT_EQ(read->otherShapes, OtherShapes::Fitted);
+    EXPECT_EQ(read->crops.size(), 3);
+    const auto plain = CropTrackFile::Read(WithContent("p.json", CropTrackFile::Format(Track(), Path("p.json"))), 3);
+    ASSERT_TRUE(plain);
+    EXPECT_EQ(plain->otherShapes, OtherShapes::Stretched);
+}
+
 TEST_F(CropTrackFileTest, JsonHasTheDocumentedShape)
 {
     const QJsonObject root = QJsonDocument::fromJson(CropTrackFile::Format(Track(), Path("t.json"))).object();

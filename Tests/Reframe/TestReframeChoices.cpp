@@ -1,5 +1,8 @@
 #include <Tests/Reframe/ReframeRun.h>
 
+#include <KxMedia/Picture/KxFittedCutter.h>
+#include <KxMedia/Picture/KxPictureScaler.h>
+#include <KxMedia/Read/KxVideoReader.h>
 #include <Tests/Support/MadeVideo.h>
 
 #include <QFile>
@@ -141,4 +144,36 @@ TEST_F(ReframeChoicesTest, ATimeAfterTheEndIsRefused)
     EXPECT_EQ(run.exitStatus, 1);
     EXPECT_TRUE(run.standardError.contains(QStringLiteral("the video ends after 3.00 s")))
         << run.standardError.toStdString();
+}
+
+TEST_F(ReframeChoicesTest, TheWholePictureIsFittedAndNotStretched)
+{
+    const QString choices = MakeFile(R"({"version":1,"choices":[{"kind":"fit"}]})");
+    const QString video = m_folder.filePath(QStringLiteral("fitted.mp4"));
+    const QString track = m_folder.filePath(QStringLiteral("fitted.json"));
+    const QString applied = m_folder.filePath(QStringLiteral("applied.mp4"));
+    const ReframeRun run({QStringLiteral("--models"), QStringLiteral("none"), QStringLiteral("--cache"),
+                          m_folder.path(), QStringLiteral("--choices"), choices, QStringLiteral("--keyframes"), track,
+                          QStringLiteral("--output"), video, Clip()});
+    ASSERT_EQ(run.exitStatus, 0) << run.standardError.toStdString();
+    const ReframeRun again({QStringLiteral("--apply"), track, QStringLiteral("--output"), applied, Clip()});
+    ASSERT_EQ(again.exitStatus, 0) << again.standardError.toStdString();
+    for (const QString& path : {video, applied}) {
+        auto reader = KxVideoReader::Open(path, {});
+        ASSERT_TRUE(reader) << reader.Message().toStdString();
+        KxVideoFrame picture;
+        ASSERT_EQ((*reader)->Read(10, picture), KxReadStatus::Delivered);
+        ASSERT_EQ(picture.DisplayedSize(), QSize(202, 360));
+        KxPictureScaler scaler;
+        const QImage shown = scaler.Scale(picture, picture.DisplayedSize(), QImage::Format_RGB32);
+        // The thing that rests, which a crop around the other one would not show, is 0.19 as high as the picture is
+        // wide.
+        const QRect place = KxFittedCutter::PlaceOf({16, 9}, shown.size());
+        const QColor thing(
+            shown.pixel(place.x() + qRound(StillPlace * place.width()) - 7, place.y() + place.height() / 2));
+        EXPECT_GT(thing.green(), thing.red() + 40) << path.toStdString();
+        const QColor wall(shown.pixel(place.center().x(), place.y() + 4));
+        const QColor background(shown.pixel(place.center().x(), 40));
+        EXPECT_LT(background.lightness(), wall.lightness() * 3 / 4) << path.toStdString();
+    }
 }

@@ -56,6 +56,9 @@ QByteArray FormatJson(const CropTrack& track)
         const QByteArray object = QJsonDocument(models).toJson(QJsonDocument::Compact);
         text += object.mid(1, object.size() - 2) + ",\n";
     }
+    if (track.otherShapes == KxRenderSource::OtherShapes::Fitted) {
+        text += "\"other_shapes\":\"fitted\",\n";
+    }
     text += "\"frames\":[";
     const char* separator = "\n[";
     for (const IKxAutoReframeResult& crop : track.crops) {

@@ -4,6 +4,7 @@
 #include <KxModel/IKxAutoReframeResult.h>
 
 #include <KxCore/KxOutputFile.h>
+#include <KxRender/KxRenderSource.h>
 #include <KxSubject/KxUsedModel.h>
 
 #include <QJsonValue>
@@ -21,6 +22,8 @@ struct CropTrack {
     QSize aspect;      ///< empty in a track that was read from CSV
     QString speedName; ///< empty in a track that was read from CSV
     QList<IKxAutoReframeResult> crops;
+    /// How crops of another shape than the result are shown; a CSV file does not carry it.
+    KxRenderSource::OtherShapes otherShapes = KxRenderSource::OtherShapes::Stretched;
     std::optional<std::vector<KxUsedModel>> models; ///< of the analysis; nothing in a track that was read
 };
 

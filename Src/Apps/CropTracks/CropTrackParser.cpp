@@ -112,6 +112,12 @@ KxError CropTrackParser::ReadMember(JsonReader& reader, const QString& key)
         m_track.speedName = isText ? reader.Text() : QString();
         return isText ? std::nullopt : NotATrack(reader);
     }
+    if (key == QLatin1String("other_shapes")) {
+        const bool isText = reader.Next() == Token::String;
+        const bool isFitted = isText && reader.Text() == QLatin1String("fitted");
+        m_track.otherShapes = isFitted ? KxRenderSource::OtherShapes::Fitted : KxRenderSource::OtherShapes::Stretched;
+        return isText ? std::nullopt : NotATrack(reader);
+    }
     return SkipValue(reader);
 }
 

@@ -98,6 +98,7 @@ ReframeJob::Ended ReframeJob::ReadTrack()
     if (!track->aspect.isEmpty()) {
         m_aspect = track->aspect;
     }
+    m_otherShapes = track->otherShapes;
     m_track = std::move(*track);
     return std::nullopt;
 }
@@ -125,6 +126,10 @@ ReframeJob::Ended ReframeJob::ReadChoices()
     }
     if (!follow.seeds.empty()) {
         choices.push_back(follow);
+    }
+    if (std::any_of(choices.begin(), choices.end(),
+                    [](const KxSubjectChoice& choice) { return choice.kind == KxChoiceKind::Fit; })) {
+        m_otherShapes = KxRenderSource::OtherShapes::Fitted;
     }
     KxAutoReframeService::Instance().SetChoices(std::move(choices));
     return std::nullopt;
@@ -260,6 +265,7 @@ CropTrack ReframeJob::Track() const
     track.aspect = m_aspect;
     track.speedName = m_options.speedName;
     track.crops = Helper().GetDisplayResults();
+    track.otherShapes = m_otherShapes;
     if (!m_track) {
         track.models = KxAutoReframeService::Instance().LastModels();
     }

@@ -59,6 +59,8 @@ private:
 
     KrAutoReframeHelper& Helper() const;
     CropTrack Track() const;
+    /// A crop with the shape of the video that is written.
+    QRectF ShapeOfResult() const;
     /// The crops as other programs need them.
     KxCroppedClip CroppedClip() const;
     /// The file that a value of --edit-list means.
@@ -85,6 +87,8 @@ private:
     std::unique_ptr<KrAutoReframeProcess> m_process;
     /// Applied in place of an analysis.
     std::optional<CropTrack> m_track;
+    /// Fitted if a choice or the track asks for the whole picture.
+    KxRenderSource::OtherShapes m_otherShapes = KxRenderSource::OtherShapes::Stretched;
     QJsonObject m_facts;
     QStringList& m_allWritten;
     QStringList m_written;

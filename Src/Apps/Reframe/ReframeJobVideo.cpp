@@ -2,22 +2,33 @@
 
 #include <Apps/CropTracks/CropRenderSettings.h>
 #include <KrAutoReframe/Engine/KrAutoReframeHelper.h>
+#include <KrAutoReframe/Engine/KrExportParameters.h>
 #include <KxCore/KxInterrupt.h>
 #include <KxCore/KxThread.h>
 #include <KxRender/KxRenderer.h>
 
 #include <QEventLoop>
 
+QRectF ReframeJob::ShapeOfResult() const
+{
+    const QList<IKxAutoReframeResult>& results = Helper().GetDisplayResults();
+    const QSize picture = static_cast<const KxClip*>(m_media->clip())->StreamInfo().resolution();
+    return m_otherShapes == KxRenderSource::OtherShapes::Fitted
+               ? KrExportParameters::ShapeOfResult(results, picture, m_aspect)
+               : results.first().cropRect();
+}
+
 ReframeJob::Ended ReframeJob::WriteVideo()
 {
     if (!m_options.writesVideo) {
         return std::nullopt;
     }
-    const KxResult<KxRenderSource> source = KxRenderSource::FromTimeline(*Helper().GetWorkTimeline());
+    KxResult<KxRenderSource> source = KxRenderSource::FromTimeline(*Helper().GetWorkTimeline());
     if (!source) {
         return Fail(source.Message());
     }
-    KxRenderSettings settings = CropRenderSettings::For(*m_media, Helper().GetDisplayResults().first().cropRect());
+    source->otherShapes = m_otherShapes;
+    KxRenderSettings settings = CropRenderSettings::For(*m_media, ShapeOfResult());
     if (settings.resolution.isEmpty()) {
         return FailTooSmall();
     }

@@ -250,6 +250,25 @@ TEST_F(TestLibraryDatabase, AnExportComesBackWithEverythingThatItNeeds)
     EXPECT_EQ(request.settings.audioBitRate, 128000);
 }
 
+TEST_F(TestLibraryDatabase, AnExportThatFitsWholePicturesStillDoesSo)
+{
+    {
+        const auto database = Open();
+        StoredExport fitting = Export(77, State::Failed);
+        fitting.request.source.otherShapes = KxRenderSource::OtherShapes::Fitted;
+        ASSERT_FALSE(database->SaveExport(fitting));
+        ASSERT_FALSE(database->SaveExport(Export(78, State::Failed)));
+    }
+    const QList<StoredExport> exports = Contents(*Open()).exports;
+    ASSERT_EQ(exports.size(), 2);
+    EXPECT_EQ(exports[0].request.source.otherShapes, KxRenderSource::OtherShapes::Fitted);
+    EXPECT_EQ(exports[1].request.source.otherShapes, KxRenderSource::OtherShapes::Stretched);
+    for (const StoredExport& item : exports) {
+        ASSERT_NE(item.request.source.crops, nullptr);
+        EXPECT_EQ(*item.request.source.crops, *Export(77, State::Failed).request.source.crops);
+    }
+}
+
 TEST_F(TestLibraryDatabase, ExportsOfARunThatEndedAreInterruptedAndOthersKeepTheirState)
 {
     {

@@ -37,9 +37,13 @@ std::optional<State> StateOf(const QString& name)
 constexpr int NumbersPerCrop = 4;
 constexpr int CropBytes = NumbersPerCrop * static_cast<int>(sizeof(double));
 
+/// Ends the crops of an export that fits those of another shape into the result.
+constexpr char FittedMark = 1;
+
 /// Four numbers for each crop, in the byte order of x86, compressed. The database stays on one machine.
-QByteArray Pack(const std::shared_ptr<const Crops>& crops)
+QByteArray Pack(const KxRenderSource& source)
 {
+    const std::shared_ptr<const Crops>& crops = source.crops;
     QByteArray bytes;
     if (crops != nullptr) {
         bytes.reserve(static_cast<int>(crops->size()) * CropBytes);
@@ -48,10 +52,14 @@ QByteArray Pack(const std::shared_ptr<const Crops>& crops)
             bytes.append(reinterpret_cast<const char*>(numbers), CropBytes);
         }
     }
+    if (!bytes.isEmpty() && source.otherShapes == KxRenderSource::OtherShapes::Fitted) {
+        bytes.append(FittedMark);
+    }
     return bytes.isEmpty() ? QByteArray() : qCompress(bytes, 1); // a null array is stored as NULL
 }
 
-std::shared_ptr<const Crops> Unpack(const QByteArray& packed)
+/// Sets the crops to null if they cannot be read.
+void Unpack(const QByteArray& packed, KxRenderSource& source)
 {
     // The first four bytes claim how much memory is needed. A day of video at 60 frames a second takes 158 MiB.
     constexpr quint32 mostBytes = 256U * 1024 * 1024;
@@ -60,11 +68,13 @@ std::shared_ptr<const Crops> Unpack(const QByteArray& packed)
         claimed = (claimed << 8) | static_cast<uchar>(packed.at(i));
     }
     if (claimed == 0 || claimed > mostBytes) {
-        return nullptr;
+        return;
     }
     const QByteArray bytes = qUncompress(packed);
-    if (bytes.isEmpty() || bytes.size() % CropBytes != 0) {
-        return nullptr;
+    const int rest = bytes.size() % CropBytes;
+    const bool isFitted = rest == 1 && bytes.back() == FittedMark;
+    if (bytes.size() < CropBytes || (rest != 0 && !isFitted)) {
+        return;
     }
     auto crops = std::make_shared<Crops>();
     crops->reserve(static_cast<size_t>(bytes.size() / CropBytes));
@@ -73,7 +83,8 @@ std::shared_ptr<const Crops> Unpack(const QByteArray& packed)
         std::memcpy(numbers, bytes.constData() + at, CropBytes);
         crops->push_back({numbers[0], numbers[1], numbers[2], numbers[3]});
     }
-    return crops;
+    source.crops = std::move(crops);
+    source.otherShapes = isFitted ? KxRenderSource::OtherShapes::Fitted : KxRenderSource::OtherShapes::Stretched;
 }
 
 QString TextOf(const QList<uint>& frames)
@@ -102,7 +113,7 @@ StoredExport ExportOf(const QSqlQuery& row, State state)
     KxRenderSource& source = item.request.source;
     source.path = row.value(2).toString();
     source.audioStream = row.value(3).isNull() ? std::nullopt : std::optional<int>(row.value(3).toInt());
-    source.crops = Unpack(row.value(4).toByteArray());
+    Unpack(row.value(4).toByteArray(), source);
     KxRenderSettings& settings = item.request.settings;
     settings.outputPath = row.value(5).toString();
     settings.existing = row.value(6).toBool() ? KxOutputFile::Existing::AddNumber : KxOutputFile::Existing::Replace;
@@ -188,7 +199,7 @@ KxError LibraryDatabase::SaveExport(const StoredExport& item)
          m_run.Name(),
          source.path,
          source.audioStream ? QVariant(*source.audioStream) : QVariant(QVariant::Int),
-         item.plan ? Pack({}) : Pack(source.crops),
+         item.plan ? Pack({}) : Pack(source),
          settings.outputPath,
          settings.existing == KxOutputFile::Existing::AddNumber,
          settings.resolution.width(),
