@@ -129,6 +129,43 @@ class ExtensionJourney:
         journey.shadow()
         screen.shoot("followed")
 
+    def show_whole_picture(self):
+        """The first shot is shown completely, over its own blurred picture."""
+        screen, journey = self.screen, self.journey
+        journey.go_to(0.1)
+        x, y, width, height = journey.shadow()
+        screen.move(x + width // 2, y + height // 2)
+        screen.tool("click", 3)
+        menu = screen.find("KrAutoReframe_followMenu")
+        screen.steady(lambda report: str(screen.first(report, "KrAutoReframe_followMenu", "rect")), "the menu")
+        screen.shoot("menu-after-click")
+        screen.click(next(item["rect"] for item in menu["items"]
+                          if item["text"] == "Show the Whole Picture in This Shot"))
+        screen.gone("KrAutoReframe_followMenu")
+        left, right = journey.outline(journey.ACCENT)
+        assert right - left > 0.98, f"the crop is {left}..{right}"
+        screen.shoot("whole-picture-to-adjust")
+        screen.press(PREVIEW)
+        screen.until(lambda report: not any(widget["class"] == "ShadowForm" for widget in report["widgets"]),
+                     "the overlay to disappear")
+
+        def red():
+            """Where the figure is in the preview: left, right, top, bottom in pixels."""
+            player = next(widget["rect"] for widget in screen.report()["widgets"]
+                          if widget["class"] == "KxMediaPlayerWidget")
+            rows = screen.pixels(player)
+            found = [(column, row) for row, line in enumerate(rows) for column, pixel in enumerate(line)
+                     if pixel[0] > 180 and pixel[1] < 60 and pixel[2] < 60]
+            if not found:
+                return None
+            columns, lines = [place[0] for place in found], [place[1] for place in found]
+            return max(columns) - min(columns) + 1, max(lines) - min(lines) + 1
+        size = screen.until(red, "the figure in the preview", fresh=False)
+        assert abs(size[0] / size[1] - 70 / 300) < 0.03, f"the figure is stretched: {size}"
+        screen.shoot("whole-picture-in-the-preview")
+        screen.press(PREVIEW)
+        journey.shadow()
+
     def choose_guides(self, *names):
         """Each choice closes the menu."""
         screen = self.screen
@@ -182,5 +219,6 @@ class ExtensionJourney:
         self.follow_a_box()
         self.see_before_exporting()
         self.follow_the_export()
+        self.show_whole_picture()
         self.journey.close_with_title_bar()
         self.journey.quit()

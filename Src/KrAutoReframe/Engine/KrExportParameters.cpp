@@ -15,10 +15,13 @@ int EvenNear(double exact)
     return rounded > exact ? rounded - 1 : rounded + 1;
 }
 
-bool IsWholePicture(const QRectF& crop)
+bool HasShapeOf(const QSize& aspect, const QRectF& crop, const QSize& source)
 {
-    constexpr double nearlyAll = 0.999;
-    return crop.width() > nearlyAll && crop.height() > nearlyAll;
+    // A crop of whole pixels misses the ratio a little.
+    constexpr double rounding = 0.03;
+    const double width = crop.width() * source.width();
+    const double height = crop.height() * source.height();
+    return std::abs(width * aspect.height() / (height * aspect.width()) - 1.0) <= rounding;
 }
 
 } // namespace
@@ -31,13 +34,15 @@ QSize KrExportParameters::EvenResolution(const QSize& source, const QRectF& crop
 QRectF KrExportParameters::ShapeOfResult(const QList<IKxAutoReframeResult>& results, const QSize& source,
                                          const QSize& aspect)
 {
-    const auto isPart = [](const IKxAutoReframeResult& result) { return !IsWholePicture(result.cropRect()); };
-    const auto part = std::find_if(results.cbegin(), results.cend(), isPart);
-    if (part != results.cend()) {
-        return part->cropRect();
-    }
     if (source.isEmpty() || aspect.isEmpty()) {
         return results.first().cropRect();
+    }
+    const auto isCut = [&](const IKxAutoReframeResult& result) {
+        return HasShapeOf(aspect, result.cropRect(), source);
+    };
+    const auto cut = std::find_if(results.cbegin(), results.cend(), isCut);
+    if (cut != results.cend()) {
+        return cut->cropRect();
     }
     const QSizeF shape = QSizeF(aspect).scaled(source, Qt::KeepAspectRatio);
     const QSizeF size(shape.width() / source.width(), shape.height() / source.height());

@@ -18,9 +18,9 @@ constexpr int DefaultAudioBitRate = 192000;  ///< bits a second
 /// is odd, moved to the even neighbour on the side of the exact value.
 QSize EvenResolution(const QSize& source, const QRectF& cropRatio);
 
-/// The crop that has the shape of the result. It is that of the first frame; but where that one shows the whole picture
-/// in a result of another shape, fitted, the first one that does not, or the middle of the picture in that shape.
-/// `results` is not empty.
+/// The crop that has the shape of the result: the first one of the aspect ratio `aspect`. Where shots show the whole
+/// picture, fitted, it need not be that of the first frame; where all do, it is the middle of the picture. `results` is
+/// not empty.
 QRectF ShapeOfResult(const QList<IKxAutoReframeResult>& results, const QSize& source, const QSize& aspect);
 
 /// Frames a second, at most 60. 24000/1001 gives exactly 23.97, the editor's own name for that rate; 0

@@ -198,7 +198,7 @@ void KrDialogExtension::ShowResults()
     m_shown = {param.width, param.height, param.mode};
     m_shownChoices = m_choices->Current();
     UpdateHint();
-    ShowOutputSize();
+    ShowResultSize();
     ShowShots();
     ReportChange();
 }
@@ -259,12 +259,18 @@ void KrDialogExtension::UpdateHint()
     m_parts.panel.SetHint(m_hasResults && differs ? tr("Settings changed: analyze again") : QString());
 }
 
-void KrDialogExtension::ShowOutputSize()
+void KrDialogExtension::ShowResultSize()
 {
     const QList<IKxAutoReframeResult> results = m_parts.process.GetHelper()->GetResults();
     const QSize source = m_parts.view.VideoSize();
     const QRectF shape = KrExportParameters::ShapeOfResult(results, source, QSize(m_shown.width, m_shown.height));
-    m_exportStatus->SetOutputSize(KrExportParameters::EvenResolution(source, shape));
+    const QSize size = KrExportParameters::EvenResolution(source, shape);
+    m_exportStatus->SetOutputSize(size);
+    // A shot that shows the whole picture is fitted into the result, whose size the preview has to know.
+    IKxTimeline* const timeline = m_parts.process.GetHelper()->GetWorkTimeline();
+    KxProjectSettings settings = timeline->projectSettings();
+    settings.resolution = size;
+    timeline->setProjectSettings(settings);
 }
 
 KrAutoReframeState KrDialogExtension::CurrentState() const

@@ -72,7 +72,7 @@ private:
     void ShowChoices();
     double FrameRate() const;
     void UpdateHint();
-    void ShowOutputSize();
+    void ShowResultSize();
     KrAutoReframeState CurrentState() const;
     void ReportChange();
 

@@ -247,6 +247,7 @@ void KrFollowControls::OpenMenu(const QPoint& global)
     AddAction(*menu, tr("Not This"), Kind::Avoid);
     menu->addSeparator();
     AddAction(*menu, tr("Hold the Crop in This Shot"), Kind::Hold);
+    AddAction(*menu, tr("Show the Whole Picture in This Shot"), Kind::Fit);
     menu->addSeparator();
     AddAction(*menu, tr("Back to Automatic"), Kind::Automatic);
     menu->popup(global);

@@ -2,6 +2,8 @@
 #include <KrAutoReframe/Extensions/KrExportStatus.h>
 #include <Tests/KrAutoReframe/Dialog/ExtendedDialogTest.h>
 
+#include <KxModel/IKxTimeline.h>
+
 #include <QProgressBar>
 
 namespace
@@ -30,6 +32,22 @@ protected:
     }
     ~KrExportStatusTest() override { dialog.reset(); }
 
+    QRectF TallCrop() const
+    {
+        const QSize video = view->VideoSize();
+        return {0.2, 0.0, video.height() * 9.0 / 16.0 / video.width(), 1.0};
+    }
+    QSize TallSize() const { return KrExportParameters::EvenResolution(view->VideoSize(), TallCrop()); }
+    /// The first frames show the whole picture.
+    QList<IKxAutoReframeResult> TallResults(int whole) const
+    {
+        QList<IKxAutoReframeResult> results;
+        for (qint64 frame = 0; frame < FrameCount; ++frame) {
+            results.append({frame, frame < whole ? QRectF(0.0, 0.0, 1.0, 1.0) : TallCrop()});
+        }
+        return results;
+    }
+
     KxLabel& Label(const char* name) const { return *panel->findChild<KxLabel*>(QLatin1String(name)); }
     QString OutputSize() const
     {
@@ -52,11 +70,19 @@ protected:
 TEST_F(KrExportStatusTest, TheOutputSizeIsKnownBeforeTheExport)
 {
     EXPECT_EQ(OutputSize(), QString());
-    Analyse();
-    const QSize size = KrExportParameters::EvenResolution(view->VideoSize(), Helper().GetResults().first().cropRect());
+    Analyse(TallResults(0));
+    const QSize size = TallSize();
     EXPECT_EQ(OutputSize(), QStringLiteral("Output: %1 × %2").arg(size.width()).arg(size.height()));
     Load(Video(QStringLiteral("/v/other.mp4")));
     EXPECT_EQ(OutputSize(), QString());
+}
+
+TEST_F(KrExportStatusTest, AFirstShotThatShowsTheWholePictureLeavesTheResultItsShape)
+{
+    Analyse(TallResults(25));
+    const QSize size = TallSize();
+    EXPECT_EQ(OutputSize(), QStringLiteral("Output: %1 × %2").arg(size.width()).arg(size.height()));
+    EXPECT_EQ(Helper().GetWorkTimeline()->projectSettings().resolution, size) << "what the preview fits pictures into";
 }
 
 TEST_F(KrExportStatusTest, ALineFollowsTheExport)

@@ -154,6 +154,17 @@ TEST_F(KrFollowControlsTest, HoldKeepsTheCropThatIsShown)
     EXPECT_TRUE(taking.choices.first().seeds.isEmpty());
 }
 
+TEST_F(KrFollowControlsTest, TheWholePictureCanBeShownInAShot)
+{
+    Drag(At(0.2, 0.3), At(0.4, 0.7));
+    Choose(QStringLiteral("Show the Whole Picture in This Shot"));
+    ASSERT_EQ(taking.choices.size(), 1);
+    EXPECT_EQ(taking.choices.first().kind, Kind::Fit);
+    EXPECT_TRUE(taking.choices.first().seeds.isEmpty());
+    EXPECT_DOUBLE_EQ(taking.choices.first().fromSeconds, 1.0);
+    EXPECT_DOUBLE_EQ(taking.choices.first().toSeconds, 4.0);
+}
+
 TEST_F(KrFollowControlsTest, ChoicesAndEditsAreOneHistory)
 {
     Helper().AddKeyFrame(10, QRectF(0.5, 0.0, 0.25, 1.0));
