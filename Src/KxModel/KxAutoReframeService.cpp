@@ -241,6 +241,13 @@ QRectF KxAutoReframeService::GuessBox(const QString& path, qint64 frame, const Q
     return box;
 }
 
+QList<KxAutoReframeLoss> KxAutoReframeService::GetLosses(const QString& path) const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    const bool hasResults = m_result.outcome == KxOutcome::Done && path == m_resultPath;
+    return hasResults ? m_result.losses : QList<KxAutoReframeLoss>();
+}
+
 void KxAutoReframeService::SetNetworkFolder(const QString& path)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);

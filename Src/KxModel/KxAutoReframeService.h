@@ -55,6 +55,7 @@ public:
     QByteArray WriteChoices(const QList<KxAutoReframeChoice>& choices) const override;
     QList<KxAutoReframeChoice> ReadChoices(const QByteArray& text) const override;
     QRectF GuessBox(const QString& path, qint64 frame, const QPointF& point) const override;
+    QList<KxAutoReframeLoss> GetLosses(const QString& path) const override;
 
     /// The folder of the optional detectors (KxDetectorFiles::FindNetworks) for the tasks that start from now on;
     /// empty, as at first: none. Any thread.

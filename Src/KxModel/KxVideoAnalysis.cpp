@@ -213,6 +213,7 @@ bool KxVideoAnalysis::Follow(const KxSubjectRecord& record, const QByteArray& ke
     }
     for (const KxFollowTrack& track : request.tracks) {
         for (const KxFollowTrack::Loss& loss : track.Losses(record.source.frameRate, {})) {
+            result.losses.append({loss.first, loss.last});
             result.warnings += QStringLiteral("What is followed is lost from %1 s to %2 s: point at it again there.")
                                    .arg(QString::number(record.SecondsAt(loss.first), 'f', 1),
                                         QString::number(record.SecondsAt(loss.last), 'f', 1));

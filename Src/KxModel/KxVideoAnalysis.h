@@ -1,5 +1,6 @@
 #pragma once
 
+#include <KxModel/IKxAutoReframeChoices.h>
 #include <KxModel/IKxAutoReframeParam.h>
 #include <KxModel/IKxAutoReframeResult.h>
 #include <KxModel/IKxAutoReframeShots.h>
@@ -37,6 +38,7 @@ public:
         std::vector<KxUsedModel> models;                   ///< the networks that the crops depend on
         std::shared_ptr<const KxSubjectFindings> findings; ///< null unless Done and wanted
         QList<KxAutoReframeShot> shots;                    ///< empty unless Done and wanted
+        QList<KxAutoReframeLoss> losses;                   ///< where the choices of the person were lost
     };
 
     virtual ~KxAnalysis();

@@ -41,6 +41,12 @@ struct KxAutoReframeChoice {
     }
 };
 
+/// Frames, both included, through which the analysis lost what a choice follows: a person should point at it again.
+struct KxAutoReframeLoss {
+    qint64 first = 0;
+    qint64 last = 0;
+};
+
 /// What a host's auto-reframe service may offer beside IKxAutoReframeService: it takes a person's choices. A service
 /// that does so derives from both classes: clients find this one by dynamic_cast. Defined in this header alone, so that
 /// a host without it has nothing to add. Any thread.
@@ -58,6 +64,9 @@ public:
     /// The box of what is at `point` in frame `frame` of the file `path`; empty if the frame cannot be read. Blocks for
     /// some tenths of a second.
     virtual QRectF GuessBox(const QString& path, qint64 frame, const QPointF& point) const = 0;
+    /// What was lost in the task whose results IKxAutoReframeService::GetResults returns for `path`, in order of the
+    /// choices. Empty if there is no such task.
+    virtual QList<KxAutoReframeLoss> GetLosses(const QString& path) const = 0;
 
 protected:
     virtual ~IKxAutoReframeChoices() = default;

@@ -3,6 +3,7 @@
 #include <KrAutoReframe/Engine/KrAutoReframeProcess.h>
 #include <KrAutoReframe/Engine/KrChoiceList.h>
 #include <KrAutoReframe/Engine/KrExportParameters.h>
+#include <KrAutoReframe/Engine/KrTimeCode.h>
 #include <KrAutoReframe/Extensions/KrCropKeys.h>
 #include <KrAutoReframe/Extensions/KrDoubtfulShots.h>
 #include <KrAutoReframe/Extensions/KrExportStatus.h>
@@ -144,6 +145,7 @@ void KrDialogExtension::EnterSource()
     UpdateHint();
     ShowChoices();
     ShowShots();
+    ShowLosses();
     const IKxAutoReframeShots* const shots = ServiceShots();
     if (m_state.isAnalyzed && shots != nullptr) {
         m_isKnown.setFuture(QtConcurrent::run([shots, path] { return shots->IsKnown(path); }));
@@ -200,6 +202,7 @@ void KrDialogExtension::ShowResults()
     UpdateHint();
     ShowResultSize();
     ShowShots();
+    ShowLosses();
     ReportChange();
 }
 
@@ -213,6 +216,7 @@ void KrDialogExtension::HandleChoicesChanged()
 {
     ServiceChoices()->SetChoices(m_choices->Current());
     ShowChoices();
+    m_parts.view.ControlBar().Slider().SetGaps({});
     if (m_hasResults) {
         m_decide.start(0);
     }
@@ -244,6 +248,19 @@ void KrDialogExtension::ShowChoices()
         marks.append(mark);
     }
     m_parts.view.ControlBar().Slider().SetChoices(marks);
+}
+
+void KrDialogExtension::ShowLosses()
+{
+    QList<KrAutoReframePlayerToolSlider::ChoiceMark> marks;
+    const QList<KxAutoReframeLoss> losses =
+        m_followControls != nullptr && m_hasResults ? ServiceChoices()->GetLosses(m_path) : QList<KxAutoReframeLoss>();
+    for (const KxAutoReframeLoss& loss : losses) {
+        const QString from = KrTimeCode::ToText(static_cast<int>(loss.first), static_cast<float>(FrameRate()),
+                                                KrTimeCode::Detail::Frames);
+        marks.append({loss.first, loss.last + 1, QColor(0xFF, 0x8B, 0x7A), tr("Lost from %1: point again").arg(from)});
+    }
+    m_parts.view.ControlBar().Slider().SetGaps(marks);
 }
 
 KrDialogExtension::Settings KrDialogExtension::PanelSettings() const

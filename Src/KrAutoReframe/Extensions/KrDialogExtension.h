@@ -70,6 +70,8 @@ private:
     /// Shows what the person chose, in the aspect ratio and speed that are on the screen.
     void DecideAgain();
     void ShowChoices();
+    /// Where the analysis lost what the person pointed at.
+    void ShowLosses();
     double FrameRate() const;
     void UpdateHint();
     void ShowResultSize();

@@ -95,6 +95,12 @@ void KrAutoReframePlayerToolSlider::SetChoices(const QList<ChoiceMark>& choices)
     m_markWidget->update();
 }
 
+void KrAutoReframePlayerToolSlider::SetGaps(const QList<ChoiceMark>& gaps)
+{
+    m_gaps = gaps;
+    m_markWidget->update();
+}
+
 void KrAutoReframePlayerToolSlider::SetMarkStyle(const QColor& penColor, double penWidth, const QColor& fillColor,
                                                  int markWidth)
 {
@@ -229,16 +235,16 @@ void KrAutoReframePlayerToolSlider::PaintShots(QPainter& painter) const
 {
     for (const ShotMark& shot : m_shots) {
         const double start = CentreAt(shot.first);
-        const bool isSure = shot.kind == ShotMark::Kind::Sure;
+        const bool isQuiet = shot.kind != ShotMark::Kind::Doubtful;
         if (shot.kind == ShotMark::Kind::Doubtful) {
             const double length = std::max(CentreAt(shot.end) - start, LeastShotLinePx);
             painter.fillRect(QRectF(start, rect().bottom() + 1 - ShotLinePx, length, ShotLinePx), DoubtColour);
         }
         // The slider's start is no boundary between shots.
         if (shot.first > 0) {
-            const double inset = isSure ? ShotTickInsetPx : 0.0;
+            const double inset = isQuiet ? ShotTickInsetPx : 0.0;
             painter.fillRect(QRectF(qRound(start), rect().top() + inset, ShotTickPx, rect().height() - 2.0 * inset),
-                             isSure ? ShotColour : DoubtColour);
+                             isQuiet ? ShotColour : DoubtColour);
         }
     }
 }
@@ -246,10 +252,18 @@ void KrAutoReframePlayerToolSlider::PaintShots(QPainter& painter) const
 void KrAutoReframePlayerToolSlider::PaintChoices(QPainter& painter) const
 {
     for (const ChoiceMark& choice : m_choices) {
-        const double start = CentreAt(choice.first);
-        const double length = std::max(CentreAt(choice.end) - start, LeastShotLinePx);
-        painter.fillRect(QRectF(start, rect().top(), length, ChoiceLinePx), choice.colour);
+        PaintChoice(painter, choice);
     }
+    for (const ChoiceMark& gap : m_gaps) {
+        PaintChoice(painter, gap);
+    }
+}
+
+void KrAutoReframePlayerToolSlider::PaintChoice(QPainter& painter, const ChoiceMark& choice) const
+{
+    const double start = CentreAt(choice.first);
+    const double length = std::max(CentreAt(choice.end) - start, LeastShotLinePx);
+    painter.fillRect(QRectF(start, rect().top(), length, ChoiceLinePx), choice.colour);
 }
 
 double KrAutoReframePlayerToolSlider::CentreAt(qint64 frame) const
@@ -265,7 +279,11 @@ bool KrAutoReframePlayerToolSlider::ShowShotToolTip(const QHelpEvent& event) con
     };
     const auto shot = std::find_if(m_shots.cbegin(), m_shots.cend(), isUnder);
     const auto choice = std::find_if(m_choices.crbegin(), m_choices.crend(), isUnder);
+    const auto gap = std::find_if(m_gaps.cbegin(), m_gaps.cend(), isUnder);
     QStringList texts;
+    if (gap != m_gaps.cend()) {
+        texts.append(gap->toolTip);
+    }
     if (choice != m_choices.crend()) {
         texts.append(choice->toolTip);
     }

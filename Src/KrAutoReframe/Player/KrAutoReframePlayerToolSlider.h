@@ -32,7 +32,7 @@ public:
     void SetEditFrames(const QList<uint>& frames);
 
     /// A shot that is shown behind the marks: a tick where it begins. A doubtful one has a tick of another colour and a
-    /// line along its length; the line goes when it was seen.
+    /// line along its length, until it was seen.
     struct ShotMark {
         enum class Kind { Sure, Doubtful, Seen };
 
@@ -55,6 +55,8 @@ public:
     };
     /// Later ones cover earlier ones. Initially there are none.
     void SetChoices(const QList<ChoiceMark>& choices);
+    /// Ranges in which a choice does not hold, over the choices. Initially there are none.
+    void SetGaps(const QList<ChoiceMark>& gaps);
 
     /// Widths in pixels.
     void SetMarkStyle(const QColor& penColor, double penWidth, const QColor& fillColor, int markWidth);
@@ -83,6 +85,7 @@ private:
     void PaintMarks();
     void PaintShots(QPainter& painter) const;
     void PaintChoices(QPainter& painter) const;
+    void PaintChoice(QPainter& painter, const ChoiceMark& choice) const;
     /// Where the handle's centre is at `frame`, pixels along the slider.
     double CentreAt(qint64 frame) const;
     bool ShowShotToolTip(const QHelpEvent& event) const;
@@ -94,6 +97,7 @@ private:
     QList<uint> m_editFrames;
     QList<ShotMark> m_shots;
     QList<ChoiceMark> m_choices;
+    QList<ChoiceMark> m_gaps;
     double m_markPenWidth = 0.5;
     QColor m_markPenColor{0, 0, 0, 61};
     int m_markWidth = 4;

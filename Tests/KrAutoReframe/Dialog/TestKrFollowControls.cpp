@@ -4,8 +4,10 @@
 #include <Tests/KrAutoReframe/WidgetProbe.h>
 
 #include <QContextMenuEvent>
+#include <QHelpEvent>
 #include <QLabel>
 #include <QMenu>
+#include <QToolTip>
 #include <QUndoStack>
 #include <QtTest>
 
@@ -152,6 +154,32 @@ TEST_F(KrFollowControlsTest, HoldKeepsTheCropThatIsShown)
     EXPECT_EQ(taking.choices.first().kind, Kind::Hold);
     EXPECT_EQ(taking.choices.first().centre, centre);
     EXPECT_TRUE(taking.choices.first().seeds.isEmpty());
+}
+
+TEST_F(KrFollowControlsTest, TheSliderShowsWhereWhatIsFollowedWasLost)
+{
+    taking.losses = {{60, 79}};
+    Drag(At(0.2, 0.3), At(0.4, 0.7));
+    Choose(QStringLiteral("Follow This"));
+    QTRY_VERIFY(HasDecided());
+    KrAutoReframePlayerToolSlider& slider = view->ControlBar().Slider();
+    slider.setDuration(100.0);
+    auto* const marks = slider.findChild<QWidget*>(QStringLiteral("KrUIStyle_ToolBarSlider_MarkWidget"));
+    const auto toolTipAt = [&](double share) {
+        QToolTip::hideText();
+        const QPoint at(qRound(slider.width() * share), slider.height() / 2);
+        QHelpEvent ask(QEvent::ToolTip, at, marks->mapToGlobal(at));
+        QApplication::sendEvent(marks, &ask);
+        return QToolTip::text();
+    };
+    const QString lost = QStringLiteral("Lost from 00:00:02:10: point again");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return toolTipAt(0.7).contains(lost); })) << toolTipAt(0.7).toStdString();
+    EXPECT_FALSE(toolTipAt(0.9).contains(QStringLiteral("Lost")));
+    taking.losses.clear();
+    Drag(At(0.2, 0.3), At(0.5, 0.7));
+    Choose(QStringLiteral("Back to Automatic"));
+    EXPECT_FALSE(toolTipAt(0.7).contains(QStringLiteral("Lost")));
+    QToolTip::hideText();
 }
 
 TEST_F(KrFollowControlsTest, TheWholePictureCanBeShownInAShot)

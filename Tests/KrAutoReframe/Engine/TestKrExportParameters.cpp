@@ -71,7 +71,8 @@ TEST(KrExportParameters, TheShapeOfTheResultIsThatOfItsFirstCrop)
 
 TEST(KrExportParameters, AShotThatShowsTheWholePictureDoesNotSetTheShape)
 {
-    const QList<IKxAutoReframeResult> results{{0, {0.0, 0.0, 1.0, 1.0}}, {1, {0.0, 0.12, 1.0, 0.76}}, {2, {0.2, 0.0, 0.317, 1.0}}};
+    const QList<IKxAutoReframeResult> results{
+        {0, {0.0, 0.0, 1.0, 1.0}}, {1, {0.0, 0.12, 1.0, 0.76}}, {2, {0.2, 0.0, 0.317, 1.0}}};
     EXPECT_EQ(KrExportParameters::ShapeOfResult(results, QSize(1280, 720), QSize(9, 16)), QRectF(0.2, 0.0, 0.317, 1.0));
 }
 

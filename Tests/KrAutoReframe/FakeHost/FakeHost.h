@@ -194,8 +194,10 @@ public:
     QByteArray WriteChoices(const QList<KxAutoReframeChoice>& wanted) const override;
     QList<KxAutoReframeChoice> ReadChoices(const QByteArray& text) const override;
     QRectF GuessBox(const QString& path, qint64 frame, const QPointF& point) const override;
+    QList<KxAutoReframeLoss> GetLosses(const QString&) const override { return losses; }
 
     QList<KxAutoReframeChoice> choices;
+    QList<KxAutoReframeLoss> losses;
     /// What is guessed, around the point.
     QSizeF guess{0.1, 0.2};
 };

@@ -364,3 +364,23 @@ TEST_F(SliderTest, KeepsItsOwnList)
     slider->slotOnToNextEdit();
     EXPECT_EQ(slider->value(), 10.0);
 }
+
+TEST_F(SliderTest, ADoubtfulShotThatWasSeenIsNoLongerAmber)
+{
+    using Kind = KrAutoReframePlayerToolSlider::ShotMark::Kind;
+    const auto isAmber = [this](Kind kind) {
+        slider->SetShots({{0, 40, Kind::Sure, QString()}, {40, 100, kind, QString()}});
+        const QImage image = Paint(*marks);
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                if (image.pixelColor(x, y) == QColor(255, 174, 52)) {
+                    return true;
+                }
+            }
+        }
+        return false;
+    };
+    EXPECT_TRUE(isAmber(Kind::Doubtful));
+    EXPECT_FALSE(isAmber(Kind::Seen));
+    EXPECT_FALSE(isAmber(Kind::Sure));
+}
