@@ -5,12 +5,14 @@
              all names, but takes too long for every run of the tests
   platforms  operating systems are told apart by files (Src/KxCore/Posix, Src/KxCore/Windows), not by conditions in the sources
   sleeps     a test waits for a condition or a signal; a pause is too short on a busy machine and too long on any other
+  checks     the macros of QtTest do not fail a test of GoogleTest: they end it, and it passes (Tests/Support/Eventually.h)
 """
 import os, re, sys
 
 CONSTANT = re.compile(r'^(\s*)((?:static |inline |thread_local )*)(?:constexpr|(?<![\w ])const) (?!auto \[)[^(={;]*?[\s*&](?!operator)(\w+)(?:\[\w*\])?\s*(?:[={;]|$)')
 SLEEP = re.compile(r'\b(?:qWait|qSleep|sleep_for|sleep_until|msleep|usleep|nanosleep)\s*\(|'
                    r'\bQThread::sleep\s*\(')
+QT_CHECK = re.compile(r'\bQ(?:TRY_\w+|VERIFY2?|COMPARE|FAIL)\s*\(')
 
 PLATFORM = re.compile(r'^\s*#\s*(?:el)?if.*\b(?:_WIN32|_WIN64|__MINGW\w+|_MSC_VER|__GLIBC__|__linux__|__unix__|__APPLE__|Q_OS_\w+|SIG[A-Z]+|E[A-Z]{3,})\b')
 # The folders of the platforms; how symbols are exported, which the compiler decides; and the system's file chooser, whose record comes from
@@ -40,10 +42,13 @@ def violation(rule, name, line):
         return wrong_constant(line)
     if rule == 'platforms':
         return not PLATFORM_FILES.match(name) and PLATFORM.match(line)
+    if rule == 'checks':
+        return QT_CHECK.search(line)
     return SLEEP.search(line)
 
 
-FOLDERS = {'constants': ['Src', 'include', 'Tests', 'Benchmarks'], 'platforms': ['Src', 'include'], 'sleeps': ['Tests']}
+FOLDERS = {'constants': ['Src', 'include', 'Tests', 'Benchmarks'], 'platforms': ['Src', 'include'], 'sleeps': ['Tests'],
+           'checks': ['Tests']}
 
 
 def broken(rule, root):

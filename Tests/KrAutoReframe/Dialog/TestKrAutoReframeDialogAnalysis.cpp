@@ -1,4 +1,5 @@
 #include <Tests/KrAutoReframe/Dialog/DialogFixture.h>
+#include <Tests/Support/Eventually.h>
 
 #include <KxWidgets/KxComboBox.h>
 
@@ -43,7 +44,7 @@ protected:
             hasLooked = true;
         });
         AnalyzeButton().click();
-        QTRY_VERIFY(hasLooked);
+        ASSERT_EVENTUALLY(hasLooked);
         EXPECT_EQ(recorders.BoxTexts(), boxes);
         EXPECT_FALSE(Export().isEnabled());
     }
@@ -165,7 +166,7 @@ TEST_F(DialogAnalysisTest, TheServicesProgressReachesTheBar)
     Load(Video(QStringLiteral("/v/clip.mp4")));
     StartAnd([this] {
         service.FireFromThread(Running, 50);
-        QTRY_COMPARE(progress->InfoText(), QStringLiteral("40%"));
+        ASSERT_EVENTUALLY_EQ(progress->InfoText(), QStringLiteral("40%"));
         progress->hide();
     });
 }
@@ -303,7 +304,7 @@ TEST_F(DialogAnalysisTest, CancelledDuringTheKeyframesItChangesNothing)
     });
     QSignalSpy finished(process, &KrAutoReframeProcess::sigProcessFinished);
     StartAnd([this] { service.FireFromThread(Ended, 100); });
-    QTRY_COMPARE(finished.count(), 1);
+    ASSERT_EVENTUALLY_EQ(finished.count(), 1);
     EXPECT_FALSE(finished.at(0).at(0).toBool());
     EXPECT_FALSE(Export().isEnabled());
     EXPECT_FALSE(overlay->isVisible());

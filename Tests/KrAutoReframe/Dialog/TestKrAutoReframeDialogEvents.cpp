@@ -1,4 +1,5 @@
 #include <Tests/KrAutoReframe/Dialog/DialogFixture.h>
+#include <Tests/Support/Eventually.h>
 
 #include <QtTest>
 
@@ -140,7 +141,7 @@ TEST_F(DialogEventsTest, TheCropFollowsTheDialog)
     EXPECT_EQ(overlay->pos(), view->mapToGlobal(QPoint(10, 20)));
     EXPECT_EQ(overlay->size(), QSize(600, 300));
     dialog->move(dialog->pos() + QPoint(60, 40));
-    QTRY_COMPARE(overlay->pos(), view->mapToGlobal(QPoint(10, 20)));
+    ASSERT_EVENTUALLY_EQ(overlay->pos(), view->mapToGlobal(QPoint(10, 20)));
 }
 
 TEST_F(DialogEventsTest, AHiddenCropStaysWhereItIs)
@@ -152,7 +153,7 @@ TEST_F(DialogEventsTest, AHiddenCropStaysWhereItIs)
     Player().videoRect = QRect(10, 20, 600, 300);
     const QPoint from = dialog->pos();
     dialog->move(from + QPoint(60, 40));
-    QTRY_COMPARE(dialog->pos(), from + QPoint(60, 40));
+    ASSERT_EVENTUALLY_EQ(dialog->pos(), from + QPoint(60, 40));
     EXPECT_EQ(overlay->geometry(), before);
 }
 
@@ -161,7 +162,7 @@ TEST_F(DialogEventsTest, TheNameStaysInTheMiddle)
     Load(Video(QStringLiteral("/v/clip.mp4")));
     for (const QSize& size : {QSize(1401, 900), QSize(1600, 901)}) {
         dialog->resize(size);
-        QTRY_COMPARE(dialog->size(), size);
+        ASSERT_EVENTUALLY_EQ(dialog->size(), size);
         const int barHeight = dialog->GetTitleBar()->height();
         EXPECT_EQ(NameLabel().geometry(), QRect((size.width() - 300) / 2, (barHeight - 24) / 2, 300, 24));
         EXPECT_EQ(NameLabel().text(), QStringLiteral("clip.mp4"));
@@ -171,6 +172,6 @@ TEST_F(DialogEventsTest, TheNameStaysInTheMiddle)
 TEST_F(DialogEventsTest, WithoutASourceResizingShowsNoName)
 {
     dialog->resize(1500, 900);
-    QTRY_COMPARE(dialog->width(), 1500);
+    ASSERT_EVENTUALLY_EQ(dialog->width(), 1500);
     EXPECT_TRUE(NameLabel().text().isEmpty());
 }

@@ -6,6 +6,7 @@
 #include <KxModel/KxSimpleTimeline.h>
 #include <Tests/KrAutoReframe/Dialog/Recorders.h>
 #include <Tests/KrAutoReframe/WidgetProbe.h>
+#include <Tests/Support/Eventually.h>
 #include <Tests/Support/MadeVideo.h>
 
 #include <KrAutoReframe/KrAutoReframeDialog.h>
@@ -85,7 +86,7 @@ protected:
     {
         presenter->pause();
         presenter->seek(frame, 0, 0);
-        QTRY_COMPARE_WITH_TIMEOUT(presenter->currentFrame(), frame, WaitMs);
+        ASSERT_EVENTUALLY_EQ(presenter->currentFrame(), frame);
     }
 
     /// Drags the crop by that many pixels to the right.
@@ -173,10 +174,10 @@ TEST_F(DialogWithHostTest, TheSwitchShowsTheReframedVideoAtTheSameFrame)
     ShowFrame(33);
     dialog->slotPreviewMode(false);
     EXPECT_FALSE(overlay->isVisible());
-    QTRY_COMPARE_WITH_TIMEOUT(presenter->currentFrame(), 33, WaitMs);
+    ASSERT_EVENTUALLY_EQ(presenter->currentFrame(), 33);
     dialog->slotPreviewMode(true);
     EXPECT_TRUE(overlay->isVisible());
-    QTRY_COMPARE_WITH_TIMEOUT(presenter->currentFrame(), 33, WaitMs);
+    ASSERT_EVENTUALLY_EQ(presenter->currentFrame(), 33);
 }
 
 TEST_F(DialogWithHostTest, CancelledAtOnceItCanStartAgain)
@@ -205,7 +206,7 @@ TEST_F(DialogWithHostTest, CanBeDestroyedWhileItPlays)
     Open();
     Analyse();
     helper.reset();
-    QTRY_VERIFY_WITH_TIMEOUT(presenter->currentFrame() > 2, WaitMs);
+    ASSERT_EVENTUALLY(presenter->currentFrame() > 2);
     dialog.reset();
     releaseMediaItem(item);
     item = nullptr;

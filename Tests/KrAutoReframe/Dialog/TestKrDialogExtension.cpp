@@ -1,6 +1,7 @@
 #include <KrAutoReframe/Extensions/KrDialogExtension.h>
 #include <Tests/KrAutoReframe/Dialog/ExtendedDialogTest.h>
 #include <Tests/KrAutoReframe/WidgetProbe.h>
+#include <Tests/Support/Eventually.h>
 
 #include <QUndoStack>
 #include <QtTest>
@@ -217,7 +218,7 @@ TEST_F(KrDialogExtensionTest, AVideoThatTheServiceKnowsOpensWhereItWasLeft)
         }
     });
     poll.start(10);
-    QTRY_VERIFY(Export().isEnabled());
+    ASSERT_EVENTUALLY(Export().isEnabled());
     EXPECT_EQ(Helper().GetEditPointFrames(), QList<uint>{10});
     EXPECT_DOUBLE_EQ(Helper().GetDisplayResults().at(10).cropRect().x(), 0.5);
     EXPECT_FALSE(Player().calls.contains(QStringLiteral("play")));

@@ -1,5 +1,6 @@
 #include <KrAutoReframe/Extensions/KrDoubtfulShots.h>
 #include <Tests/KrAutoReframe/Dialog/ExtendedDialogTest.h>
+#include <Tests/Support/Eventually.h>
 
 #include <QHelpEvent>
 #include <QToolTip>
@@ -81,10 +82,10 @@ TEST_F(KrDoubtfulShotsTest, ALookMarksAShotAsSeen)
 {
     AnalyseFourShots();
     FakePlayer::ShowFrame(*presenter, 30);
-    QTRY_VERIFY(HasSeen({25}));
+    ASSERT_EVENTUALLY(HasSeen({25}));
     EXPECT_EQ(Fact(), QStringLiteral("1 of 4 shots to look at"));
     FakePlayer::ShowFrame(*presenter, 80);
-    QTRY_VERIFY(HasSeen({25, 75}));
+    ASSERT_EVENTUALLY(HasSeen({25, 75}));
     EXPECT_EQ(Fact(), QStringLiteral("All doubtful shots seen"));
 }
 
@@ -93,7 +94,7 @@ TEST_F(KrDoubtfulShotsTest, ADragAcrossAShotIsNoLook)
     AnalyseFourShots();
     FakePlayer::ShowFrame(*presenter, 30);
     FakePlayer::ShowFrame(*presenter, 80);
-    QTRY_VERIFY(HasSeen({75}));
+    ASSERT_EVENTUALLY(HasSeen({75}));
 }
 
 TEST_F(KrDoubtfulShotsTest, WhatWasSeenEarlierStaysSeen)

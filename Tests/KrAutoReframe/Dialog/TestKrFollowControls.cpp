@@ -2,6 +2,7 @@
 #include <KrAutoReframe/Extensions/KrSubjectBox.h>
 #include <Tests/KrAutoReframe/Dialog/ExtendedDialogTest.h>
 #include <Tests/KrAutoReframe/WidgetProbe.h>
+#include <Tests/Support/Eventually.h>
 
 #include <QContextMenuEvent>
 #include <QHelpEvent>
@@ -106,13 +107,13 @@ TEST_F(KrFollowControlsTest, ABoxThatIsDrawnIsFollowedInItsShot)
     EXPECT_NEAR(choice.seeds.first().box.width(), 0.2, 0.01);
     EXPECT_FALSE(choice.seeds.first().isGuessed);
     EXPECT_TRUE(box->Box().isEmpty());
-    QTRY_VERIFY(HasDecided());
+    ASSERT_EVENTUALLY(HasDecided());
 }
 
 TEST_F(KrFollowControlsTest, AClickShowsTheBoxThatTheServiceGuesses)
 {
     Click(At(0.5, 0.5));
-    QTRY_VERIFY(Menu() != nullptr);
+    ASSERT_EVENTUALLY(Menu() != nullptr);
     EXPECT_NEAR(box->Box().x(), 0.45, 0.01);
     EXPECT_NEAR(box->Box().width(), 0.1, 1e-9);
     Choose(QStringLiteral("Not This"));
@@ -125,14 +126,14 @@ TEST_F(KrFollowControlsTest, WhereNothingIsGuessedABoxOfUsualSizeIsShown)
 {
     taking.guess = QSizeF();
     Click(At(0.5, 0.5));
-    QTRY_VERIFY(Menu() != nullptr);
+    ASSERT_EVENTUALLY(Menu() != nullptr);
     EXPECT_NEAR(box->Box().width(), 0.14, 1e-9);
 }
 
 TEST_F(KrFollowControlsTest, AHandleAdjustsTheBoxAndConfirmsIt)
 {
     Click(At(0.5, 0.5));
-    QTRY_VERIFY(Menu() != nullptr);
+    ASSERT_EVENTUALLY(Menu() != nullptr);
     Menu()->close();
     const QPoint corner(qRound(box->Box().right() * box->width()), qRound(box->Box().bottom() * box->height()));
     const QPoint wider = corner + QPoint(box->width() / 10, 0);
@@ -140,7 +141,7 @@ TEST_F(KrFollowControlsTest, AHandleAdjustsTheBoxAndConfirmsIt)
     WidgetProbe::MoveHeld(*box, wider);
     WidgetProbe::Release(*box, wider);
     EXPECT_NEAR(box->Box().width(), 0.2, 0.01);
-    QTRY_VERIFY(Menu() == nullptr);
+    ASSERT_EVENTUALLY(Menu() == nullptr);
     Click(At(0.5, 0.5));
     Choose(QStringLiteral("Follow This"));
     EXPECT_FALSE(taking.choices.first().seeds.first().isGuessed);
@@ -161,7 +162,7 @@ TEST_F(KrFollowControlsTest, TheSliderShowsWhereWhatIsFollowedWasLost)
     taking.losses = {{60, 79}};
     Drag(At(0.2, 0.3), At(0.4, 0.7));
     Choose(QStringLiteral("Follow This"));
-    QTRY_VERIFY(HasDecided());
+    ASSERT_EVENTUALLY(HasDecided());
     KrAutoReframePlayerToolSlider& slider = view->ControlBar().Slider();
     slider.setDuration(100.0);
     auto* const marks = slider.findChild<QWidget*>(QStringLiteral("KrUIStyle_ToolBarSlider_MarkWidget"));
@@ -198,7 +199,7 @@ TEST_F(KrFollowControlsTest, ChoicesAndEditsAreOneHistory)
     Helper().AddKeyFrame(10, QRectF(0.5, 0.0, 0.25, 1.0));
     Drag(At(0.2, 0.3), At(0.4, 0.7));
     Choose(QStringLiteral("Follow This"));
-    QTRY_VERIFY(HasDecided());
+    ASSERT_EVENTUALLY(HasDecided());
     EXPECT_EQ(Helper().GetEditPointFrames(), QList<uint>{10});
     EXPECT_EQ(StateOf(clip).choices, QByteArray("1"));
     Helper().Undo();
@@ -217,7 +218,7 @@ TEST_F(KrFollowControlsTest, AChoiceIsDecidedInTheRatioThatIsShown)
     Ratios().setCurrentText(QStringLiteral("1:1"));
     Drag(At(0.2, 0.3), At(0.4, 0.7));
     Choose(QStringLiteral("Follow This"));
-    QTRY_VERIFY(HasDecided());
+    ASSERT_EVENTUALLY(HasDecided());
     EXPECT_TRUE(taking.Calls().filter(QStringLiteral("StartTask")).last().endsWith(QStringLiteral("9x16)")));
     EXPECT_EQ(Hint(), QStringLiteral("Settings changed: analyze again"));
 }
@@ -241,14 +242,14 @@ TEST_F(KrFollowControlsTest, TheMenuKeyPointsAtTheMiddleOfTheCrop)
 {
     QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint());
     QApplication::sendEvent(&view->PlayerWidget(), &event);
-    QTRY_VERIFY(Menu() != nullptr);
+    ASSERT_EVENTUALLY(Menu() != nullptr);
     EXPECT_NEAR(box->Box().center().x(), overlay->GetCropRect().center().x(), 0.001);
 }
 
 TEST_F(KrFollowControlsTest, ALongPressDoesWhatTheRightButtonDoes)
 {
     WidgetProbe::Press(*overlay, At(0.15, 0.5));
-    QTRY_VERIFY(Menu() != nullptr);
+    ASSERT_EVENTUALLY(Menu() != nullptr);
     EXPECT_NEAR(box->Box().center().x(), 0.15, 0.01);
 }
 
@@ -257,7 +258,7 @@ TEST_F(KrFollowControlsTest, AfterALongPressThePointerDoesNotDragTheCrop)
     const QRectF crop = overlay->GetCropRect();
     ASSERT_TRUE(crop.contains(QPointF(0.15, 0.5)));
     WidgetProbe::Press(*overlay, At(0.15, 0.5));
-    QTRY_VERIFY(Menu() != nullptr);
+    ASSERT_EVENTUALLY(Menu() != nullptr);
     Menu()->close();
     WidgetProbe::Hover(*overlay, At(0.2, 0.5));
     WidgetProbe::Hover(*overlay, At(0.4, 0.5));
@@ -268,7 +269,7 @@ TEST_F(KrFollowControlsTest, AnotherSourceHasItsOwnChoices)
 {
     Drag(At(0.2, 0.3), At(0.4, 0.7));
     Choose(QStringLiteral("Follow This"));
-    QTRY_VERIFY(HasDecided());
+    ASSERT_EVENTUALLY(HasDecided());
     const QString other = QStringLiteral("/v/other.mp4");
     StateOf(other).choices = "2";
     Load(Video(other));

@@ -1,6 +1,7 @@
 #include <KrAutoReframe/Player/KrAutoReframePlayerToolSlider.h>
 
 #include <Tests/KrAutoReframe/WidgetProbe.h>
+#include <Tests/Support/Eventually.h>
 
 #include <QPainterPath>
 #include <QSignalSpy>
@@ -131,7 +132,7 @@ TEST_F(SliderTest, MarksCoverTheSliderUnderTheHandle)
     const QObjectList& children = slider->children();
     EXPECT_LT(children.indexOf(marks), children.indexOf(slider->chunkWidget()));
     slider->resize(300, 30);
-    QTRY_COMPARE(marks->geometry(), QRect(0, 0, 300, 30));
+    ASSERT_EVENTUALLY_EQ(marks->geometry(), QRect(0, 0, 300, 30));
 }
 
 TEST_F(SliderTest, PaintsABarAtEachEditedFrame)

@@ -1,4 +1,5 @@
 #include <Tests/KrAutoReframe/Player/PlayerViewTest.h>
+#include <Tests/Support/Eventually.h>
 
 #include <KxCore/KxScreen.h>
 #include <KxCore/KxUtility.h>
@@ -115,13 +116,13 @@ TEST_F(PlayerViewTest, TheOverlayFollowsMovesAndSizes)
     ShowCrop();
     Script().videoRect = QRect(0, 0, 500, 250);
     view->resize(700, 520);
-    QTRY_COMPARE(overlay->size(), QSize(500, 250));
+    ASSERT_EVENTUALLY_EQ(overlay->size(), QSize(500, 250));
     const QSize player = view->findChild<KxMediaPlayerWidget*>()->size();
     const QRect frame = KxUtility::getFitCentralWindowRectByRatio(QRect(QPoint(0, 0), player), QSize(1920, 1080));
     const QRect picture = KxUtility::getFitCentralWindowRectByRatio(frame, QSize(1920, 1080));
     EXPECT_EQ(Picture().size(), picture.size());
     view->move(view->pos() + QPoint(30, 40));
-    QTRY_COMPARE(overlay->pos(), view->mapToGlobal(QPoint(0, 0)));
+    ASSERT_EVENTUALLY_EQ(overlay->pos(), view->mapToGlobal(QPoint(0, 0)));
 }
 
 TEST_F(PlayerViewTest, FitsThePictureIntoTheWideFrameFirst)
@@ -130,7 +131,7 @@ TEST_F(PlayerViewTest, FitsThePictureIntoTheWideFrameFirst)
     helper->SetTimeline(timeline);
     KxMediaPlayerWidget& player = *view->findChild<KxMediaPlayerWidget*>();
     view->resize(640, view->height() - player.height() + 480);
-    QTRY_COMPARE(player.size(), QSize(640, 480));
+    ASSERT_EVENTUALLY_EQ(player.size(), QSize(640, 480));
     // 640 x 360 of the widget, and of that 202 x 360 for the picture.
     EXPECT_EQ(Picture().size(), QSize(202, 360));
 }
@@ -139,7 +140,7 @@ TEST_F(PlayerViewTest, APictureIsWideWithoutASource)
 {
     KxMediaPlayerWidget& player = *view->findChild<KxMediaPlayerWidget*>();
     view->resize(640, view->height() - player.height() + 480);
-    QTRY_COMPARE(player.size(), QSize(640, 480));
+    ASSERT_EVENTUALLY_EQ(player.size(), QSize(640, 480));
     EXPECT_EQ(Picture().size(), QSize(640, 360));
 }
 

@@ -1,6 +1,7 @@
 #include <KrAutoReframe/Settings/KrAutoReframePropertyPanel.h>
 
 #include <Tests/KrAutoReframe/WidgetProbe.h>
+#include <Tests/Support/Eventually.h>
 
 #include <KxWidgets/KxComboBox.h>
 #include <KxWidgets/KxLabel.h>
@@ -298,7 +299,7 @@ TEST_F(PropertyPanelTest, TakesItsTextsFromTheTranslation)
 {
     Brackets brackets;
     QCoreApplication::installTranslator(&brackets);
-    QTRY_COMPARE(Import().text(), QStringLiteral("[Import]"));
+    ASSERT_EVENTUALLY_EQ(Import().text(), QStringLiteral("[Import]"));
     EXPECT_EQ(Replace().text(), QStringLiteral("[Replace File]"));
     EXPECT_EQ(Preview().text(), QStringLiteral("[Adjust Frame]"));
     EXPECT_EQ(RatioLabel().text(), QStringLiteral("[Aspect Ratio]"));
