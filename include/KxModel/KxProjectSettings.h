@@ -28,6 +28,8 @@ enum KxProjectAspectRatioType {
 
 /// The format of a timeline's pictures. A plain record: read it, change it, write it back.
 struct KxProjectSettings {
+    /// Of the result. If it has another shape than the clip's pictures, crops that do not have its shape are fitted
+    /// into it.
     QSize resolution;
     KxProjectFrameRateType frameRateType = KxProjectFrameRateType::Custom;
     KxProjectAspectRatioType aspectRatioType = KxProjectAspectRatioUnknown;
