@@ -248,6 +248,28 @@ QList<KxAutoReframeLoss> KxAutoReframeService::GetLosses(const QString& path) co
     return hasResults ? m_result.losses : QList<KxAutoReframeLoss>();
 }
 
+QList<IKxAutoReframeResult> KxAutoReframeService::Decide(const QString& path, const IKxAutoReframeParam& param) const
+{
+    KxAnalysisSettings settings;
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        settings = m_settings;
+    }
+    settings.wantsFindings = false;
+    settings.wantsShots = false;
+    KxAnalysis::Result result;
+    // The person sees that there is no result; a task would report why.
+    KxCallGuarded([&] {
+        const KxCancelToken cancel;
+        if (KxVideoAnalysis::HasRecord(path, settings)) {
+            if (const auto analysis = m_open(path, param, settings, cancel)) {
+                result = (*analysis)->Run([](int) {});
+            }
+        }
+    });
+    return result.crops;
+}
+
 void KxAutoReframeService::SetNetworkFolder(const QString& path)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <KxModel/IKxAutoReframeChoices.h>
+#include <KxModel/IKxAutoReframeDecisions.h>
 #include <KxModel/IKxAutoReframeService.h>
 #include <KxModel/IKxAutoReframeShots.h>
 
@@ -21,7 +22,8 @@
 /// becomes a failed task with an error message.
 class KXMODEL_API KxAutoReframeService final : public IKxAutoReframeService,
                                                public IKxAutoReframeShots,
-                                               public IKxAutoReframeChoices
+                                               public IKxAutoReframeChoices,
+                                               public IKxAutoReframeDecisions
 {
 public:
     /// The service that getAutoReframeService() returns.
@@ -56,6 +58,8 @@ public:
     QList<KxAutoReframeChoice> ReadChoices(const QByteArray& text) const override;
     QRectF GuessBox(const QString& path, qint64 frame, const QPointF& point) const override;
     QList<KxAutoReframeLoss> GetLosses(const QString& path) const override;
+
+    QList<IKxAutoReframeResult> Decide(const QString& path, const IKxAutoReframeParam& param) const override;
 
     /// The folder of the optional detectors (KxDetectorFiles::FindNetworks) for the tasks that start from now on;
     /// empty, as at first: none. Any thread.

@@ -200,6 +200,20 @@ class ExtensionJourney:
         screen.press(PREVIEW)
         journey.shadow()
 
+    def compare_ratios(self):
+        screen, journey = self.screen, self.journey
+        screen.press("KrAutoReframe_view")
+        menu = screen.find("KrAutoReframe_viewMenu")
+        screen.steady(lambda report: str(screen.first(report, "KrAutoReframe_viewMenu", "rect")), "the menu")
+        screen.shoot("view-menu-to-compare")
+        screen.click(next(item["rect"] for item in menu["items"] if item["text"].startswith("Compare")))
+        for caption in ("9:16 · 304 × 540", "1:1 · 540 × 540", "4:5 · 432 × 540"):
+            screen.until(lambda report, caption=caption: any(widget.get("text") == caption
+                                                             for widget in report["widgets"]), caption)
+        screen.shoot("ratios-side-by-side")
+        screen.key("Escape")
+        screen.gone("KrAutoReframe_ratioComparison")
+
     def follow_the_export(self):
         screen, journey = self.screen, self.journey
         journey.order_export("a-rather-long-name-of-a-video-of-a-walk")
@@ -218,6 +232,7 @@ class ExtensionJourney:
         self.open_again(frame)
         self.follow_a_box()
         self.see_before_exporting()
+        self.compare_ratios()
         self.follow_the_export()
         self.show_whole_picture()
         self.journey.close_with_title_bar()

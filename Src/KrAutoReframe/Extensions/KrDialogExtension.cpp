@@ -8,12 +8,14 @@
 #include <KrAutoReframe/Extensions/KrDoubtfulShots.h>
 #include <KrAutoReframe/Extensions/KrExportStatus.h>
 #include <KrAutoReframe/Extensions/KrFollowControls.h>
+#include <KrAutoReframe/Extensions/KrRatioComparison.h>
 #include <KrAutoReframe/Extensions/KrViewMenu.h>
 #include <KrAutoReframe/Player/KrAutoReframePlayerControlBar.h>
 #include <KrAutoReframe/Player/KrAutoReframePlayerToolSlider.h>
 #include <KrAutoReframe/Player/KrAutoReframePlayerView.h>
 #include <KrAutoReframe/Settings/KrAutoReframePropertyPanel.h>
 
+#include <KxModel/IKxAutoReframeDecisions.h>
 #include <KxModel/IKxAutoReframeShots.h>
 #include <KxModel/IKxMediaInfo.h>
 #include <KxModel/IKxTimeline.h>
@@ -42,6 +44,12 @@ IKxAutoReframeChoices* ServiceChoices()
     return dynamic_cast<IKxAutoReframeChoices*>(getAutoReframeService());
 }
 
+/// Null if the host's service does not offer it.
+IKxAutoReframeDecisions* ServiceDecisions()
+{
+    return dynamic_cast<IKxAutoReframeDecisions*>(getAutoReframeService());
+}
+
 } // namespace
 
 KrDialogExtension::KrDialogExtension(KrAutoReframeExtensions& host, const Parts& parts, QObject* parent)
@@ -57,7 +65,7 @@ KrDialogExtension::KrDialogExtension(KrAutoReframeExtensions& host, const Parts&
     m_parts.panel.AddLine();
     m_parts.panel.AddBelowExport(m_exportStatus);
     new KrCropKeys(m_parts.view, this);
-    new KrViewMenu(m_parts.view);
+    CreateViewMenu();
     if (IKxAutoReframeShots* const shots = ServiceShots()) {
         shots->CollectShots(true);
         m_doubtfulShots = new KrDoubtfulShots(m_parts.view, m_parts.panel);
@@ -82,6 +90,46 @@ KrDialogExtension::~KrDialogExtension()
     }
     if (IKxAutoReframeChoices* const choices = ServiceChoices()) {
         choices->SetChoices({});
+    }
+}
+
+void KrDialogExtension::CreateViewMenu()
+{
+    m_viewMenu = new KrViewMenu(m_parts.view);
+    if (ServiceDecisions() == nullptr) {
+        return;
+    }
+    m_viewMenu->AddComparison();
+    connect(m_viewMenu, &KrViewMenu::sigCompare, this, &KrDialogExtension::Compare);
+    m_fillComparison.setSingleShot(true);
+    m_fillComparison.setInterval(0);
+    connect(&m_fillComparison, &QTimer::timeout, this, &KrDialogExtension::FillComparison);
+    connect(&m_parts.process.GetHelper()->GetUndoStack(), &QUndoStack::indexChanged, &m_fillComparison,
+            qOverload<>(&QTimer::start));
+    connect(&m_parts.view.Presenter(), &KxMediaPlayerPresenter::sigFrameChanged, this, [this](int frame) {
+        if (m_comparison != nullptr && m_comparison->isVisible()) {
+            m_comparison->ShowFrame(frame);
+        }
+    });
+}
+
+void KrDialogExtension::Compare()
+{
+    if (m_comparison == nullptr) {
+        m_comparison = std::make_unique<KrRatioComparison>(*ServiceDecisions(), m_parts.view.window());
+    }
+    m_comparison->show();
+    m_comparison->raise();
+    m_comparison->activateWindow();
+    FillComparison();
+}
+
+void KrDialogExtension::FillComparison()
+{
+    if (m_comparison != nullptr && m_comparison->isVisible() && m_hasResults) {
+        const KrAutoReframeHelper& helper = *m_parts.process.GetHelper();
+        m_comparison->Fill({m_path, helper.GetSourceTimeline(), m_shown.speed, helper.GetEditPoints(),
+                            m_parts.view.Presenter().currentFrame()});
     }
 }
 
@@ -123,6 +171,12 @@ void KrDialogExtension::LeaveSource()
     m_isKnown.cancel();
     m_decide.stop();
     m_exportStatus->SetOutputSize({});
+    m_viewMenu->SetComparisonEnabled(false);
+    m_fillComparison.stop();
+    if (m_comparison != nullptr) {
+        m_comparison->close();
+        m_comparison->Clear();
+    }
     m_choices->Restore({});
     if (m_followControls != nullptr) {
         m_followControls->Clear();
@@ -203,6 +257,8 @@ void KrDialogExtension::ShowResults()
     ShowResultSize();
     ShowShots();
     ShowLosses();
+    m_viewMenu->SetComparisonEnabled(true);
+    FillComparison();
     ReportChange();
 }
 

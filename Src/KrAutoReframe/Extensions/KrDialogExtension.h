@@ -8,6 +8,7 @@
 #include <QTimer>
 
 #include <functional>
+#include <memory>
 
 class KrAutoReframePlayerView;
 class KrAutoReframeProcess;
@@ -16,6 +17,8 @@ class KrChoiceList;
 class KrDoubtfulShots;
 class KrExportStatus;
 class KrFollowControls;
+class KrRatioComparison;
+class KrViewMenu;
 
 /// What the dialog does beyond its required behaviour, for a host that has turned it on: connects the dialog's parts
 /// with the host's KrAutoReframeExtensions. Child of the dialog; user-interface thread.
@@ -62,6 +65,9 @@ private:
     Settings PanelSettings() const;
     void Analyze(const Settings& settings);
     void CreateFollowControls();
+    void CreateViewMenu();
+    void Compare();
+    void FillComparison();
     void EnterSource();
     void HandleKnown();
     void ShowShots();
@@ -92,6 +98,11 @@ private:
     /// Null if the host's service has no shots.
     KrDoubtfulShots* m_doubtfulShots = nullptr;
     KrExportStatus* m_exportStatus;
+    KrViewMenu* m_viewMenu = nullptr;
+    /// Null until the person asks for it.
+    std::unique_ptr<KrRatioComparison> m_comparison;
+    /// Several changes fill the comparison once.
+    QTimer m_fillComparison;
     KrChoiceList* m_choices;
     /// Null if the host's service takes no choices.
     KrFollowControls* m_followControls = nullptr;

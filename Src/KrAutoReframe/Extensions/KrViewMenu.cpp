@@ -67,6 +67,22 @@ QAction* KrViewMenu::AddGuide(KrGuideOverlay::Guide guide, const QString& name)
     return action;
 }
 
+void KrViewMenu::AddComparison()
+{
+    m_menu->addSeparator();
+    m_compare = m_menu->addAction(QString(), this, &KrViewMenu::sigCompare);
+    m_compare->setObjectName(QStringLiteral("Compare"));
+    m_compare->setEnabled(false);
+    RetranslateUi();
+}
+
+void KrViewMenu::SetComparisonEnabled(bool isEnabled)
+{
+    if (m_compare != nullptr) {
+        m_compare->setEnabled(isEnabled);
+    }
+}
+
 void KrViewMenu::CreateOverlays()
 {
     ShadowForm& crop = m_view.Overlay();
@@ -89,6 +105,10 @@ void KrViewMenu::RetranslateUi()
     for (int index = 0; index < m_guides.size(); ++index) {
         m_guides.at(index).action->setText(texts[index].text);
         m_guides.at(index).action->setToolTip(texts[index].toolTip);
+    }
+    if (m_compare != nullptr) {
+        m_compare->setText(tr("Compare Aspect Ratios…"));
+        m_compare->setToolTip(tr("Shows the results of several aspect ratios side by side."));
     }
 }
 

@@ -22,7 +22,14 @@ public:
     explicit KrViewMenu(KrAutoReframePlayerView& view);
     ~KrViewMenu() override;
 
+    /// Adds the entry that compares aspect ratios, disabled at first. Only once.
+    void AddComparison();
+    void SetComparisonEnabled(bool isEnabled);
+
     void RetranslateUi() override;
+
+Q_SIGNALS:
+    void sigCompare();
 
 private:
     struct Entry {
@@ -40,6 +47,8 @@ private:
     KxToolButton* m_button = nullptr;
     QMenu* m_menu = nullptr;
     QList<Entry> m_guides;
+    /// Null without it.
+    QAction* m_compare = nullptr;
     /// Children of what they are drawn over.
     QList<KrGuideOverlay*> m_overlays;
 };

@@ -3,6 +3,7 @@
 #include <KxCore/KxRational.h>
 #include <KxModel/IKxAbstractMedia.h>
 #include <KxModel/IKxAutoReframeChoices.h>
+#include <KxModel/IKxAutoReframeDecisions.h>
 #include <KxModel/IKxAutoReframeService.h>
 #include <KxModel/IKxAutoReframeShots.h>
 #include <KxModel/IKxKeyFrameHelper.h>
@@ -186,8 +187,8 @@ public:
     QStringList knows;
 };
 
-/// The same, taking a person's choices too. As text it writes their number.
-class ServiceWithChoices : public ServiceWithShots, public IKxAutoReframeChoices
+/// The same, taking a person's choices and deciding on other ratios too. As text it writes the choices' number.
+class ServiceWithChoices : public ServiceWithShots, public IKxAutoReframeChoices, public IKxAutoReframeDecisions
 {
 public:
     void SetChoices(const QList<KxAutoReframeChoice>& wanted) override;
@@ -195,9 +196,13 @@ public:
     QList<KxAutoReframeChoice> ReadChoices(const QByteArray& text) const override;
     QRectF GuessBox(const QString& path, qint64 frame, const QPointF& point) const override;
     QList<KxAutoReframeLoss> GetLosses(const QString&) const override { return losses; }
+    /// For every ratio, `decided`.
+    QList<IKxAutoReframeResult> Decide(const QString&, const IKxAutoReframeParam&) const override { return decided; }
 
     QList<KxAutoReframeChoice> choices;
     QList<KxAutoReframeLoss> losses;
+    /// Set before it is asked for.
+    QList<IKxAutoReframeResult> decided;
     /// What is guessed, around the point.
     QSizeF guess{0.1, 0.2};
 };
