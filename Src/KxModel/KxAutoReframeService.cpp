@@ -233,12 +233,12 @@ QList<KxAutoReframeChoice> KxAutoReframeService::ReadChoices(const QByteArray& t
     return KxChoiceRecords::FromSubject(*read);
 }
 
-QRectF KxAutoReframeService::GuessBox(const QString& path, qint64 frame, const QPointF& point) const
+KxAutoReframeGuess KxAutoReframeService::GuessBox(const QString& path, qint64 frame, const QPointF& point) const
 {
-    QRectF box;
+    KxAutoReframeGuess guess;
     // Without a guess the person draws the box.
-    KxCallGuarded([&] { box = KxPointedPicture::BoxAt(path, frame, point); });
-    return box;
+    KxCallGuarded([&] { guess = KxPointedPicture::GuessAt(path, frame, point); });
+    return guess;
 }
 
 QList<KxAutoReframeLoss> KxAutoReframeService::GetLosses(const QString& path) const

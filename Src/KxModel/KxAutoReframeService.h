@@ -56,7 +56,7 @@ public:
     void SetChoices(const QList<KxAutoReframeChoice>& choices) override;
     QByteArray WriteChoices(const QList<KxAutoReframeChoice>& choices) const override;
     QList<KxAutoReframeChoice> ReadChoices(const QByteArray& text) const override;
-    QRectF GuessBox(const QString& path, qint64 frame, const QPointF& point) const override;
+    KxAutoReframeGuess GuessBox(const QString& path, qint64 frame, const QPointF& point) const override;
     QList<KxAutoReframeLoss> GetLosses(const QString& path) const override;
 
     QList<IKxAutoReframeResult> Decide(const QString& path, const IKxAutoReframeParam& param) const override;

@@ -1,5 +1,10 @@
 #pragma once
 
+#include <KxModel/IKxAutoReframeChoices.h>
+
+#include <KxCore/KxExport.h>
+
+#include <QImage>
 #include <QPointF>
 #include <QRectF>
 #include <QString>
@@ -7,7 +12,10 @@
 /// What a person points at in a video.
 namespace KxPointedPicture
 {
-/// The box of what is at `point` in frame `frame` of the file `path`, fractions of the picture; empty if the frame
-/// cannot be read. Blocks.
-QRectF BoxAt(const QString& path, qint64 frame, const QPointF& point);
+/// What is at `point` in frame `frame` of the file `path`; places are fractions of the picture. Blocks.
+KxAutoReframeGuess GuessAt(const QString& path, qint64 frame, const QPointF& point);
+
+/// Whether there is nothing in `box` that could be told from its surroundings in another picture: hardly any edges. A
+/// wall with a pattern has edges.
+KXMODEL_API bool IsPlain(const QImage& picture, const QRectF& box);
 } // namespace KxPointedPicture

@@ -489,8 +489,9 @@ TEST_F(KxAutoReframeServiceTest, ChoicesAreReadAsTheyWereWritten)
 TEST_F(KxAutoReframeServiceTest, ABoxIsGuessedAroundAPlaceInAFrame)
 {
     const QString clip = MakeClip("clip.mp4", 20);
-    const QRectF box = m_service.GuessBox(clip, 10, QPointF(0.5, 0.5));
+    const QRectF box = m_service.GuessBox(clip, 10, QPointF(0.5, 0.5)).box;
     EXPECT_FALSE(box.isEmpty());
     EXPECT_TRUE(box.contains(QPointF(0.5, 0.5)));
-    EXPECT_TRUE(m_service.GuessBox(m_folder.filePath(QStringLiteral("missing.mp4")), 10, QPointF(0.5, 0.5)).isEmpty());
+    EXPECT_TRUE(
+        m_service.GuessBox(m_folder.filePath(QStringLiteral("missing.mp4")), 10, QPointF(0.5, 0.5)).box.isEmpty());
 }

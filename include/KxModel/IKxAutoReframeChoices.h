@@ -41,6 +41,12 @@ struct KxAutoReframeChoice {
     }
 };
 
+/// What is at a place in a picture.
+struct KxAutoReframeGuess {
+    QRectF box;                ///< empty if the picture cannot be read
+    bool isBackground = false; ///< a surface without details, such as a wall or the sky, which cannot be followed
+};
+
 /// Frames, both included, through which the analysis lost what a choice follows: a person should point at it again.
 struct KxAutoReframeLoss {
     qint64 first = 0;
@@ -61,9 +67,8 @@ public:
     virtual QByteArray WriteChoices(const QList<KxAutoReframeChoice>& choices) const = 0;
     virtual QList<KxAutoReframeChoice> ReadChoices(const QByteArray& text) const = 0;
 
-    /// The box of what is at `point` in frame `frame` of the file `path`; empty if the frame cannot be read. Blocks for
-    /// some tenths of a second.
-    virtual QRectF GuessBox(const QString& path, qint64 frame, const QPointF& point) const = 0;
+    /// What is at `point` in frame `frame` of the file `path`. Blocks for some tenths of a second.
+    virtual KxAutoReframeGuess GuessBox(const QString& path, qint64 frame, const QPointF& point) const = 0;
     /// What was lost in the task whose results IKxAutoReframeService::GetResults returns for `path`, in order of the
     /// choices. Empty if there is no such task.
     virtual QList<KxAutoReframeLoss> GetLosses(const QString& path) const = 0;

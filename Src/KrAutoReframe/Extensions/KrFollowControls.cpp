@@ -46,8 +46,11 @@ KrFollowControls::KrFollowControls(KrAutoReframePlayerView& view, IKxAutoReframe
     m_view.Overlay().GetPictureLabel()->installEventFilter(this);
     m_view.PlayerWidget().installEventFilter(this);
     m_box->installEventFilter(this);
-    connect(m_box, &KrSubjectBox::sigAdjusted, this, [this] { m_isGuessed = Guessed::No; });
-    connect(&m_guess, &QFutureWatcher<QRectF>::finished, this, &KrFollowControls::HandleGuess);
+    connect(m_box, &KrSubjectBox::sigAdjusted, this, [this] {
+        m_isGuessed = Guessed::No;
+        m_isBackground = false;
+    });
+    connect(&m_guess, &QFutureWatcherBase::finished, this, &KrFollowControls::HandleGuess);
     connect(&m_view.Presenter(), &KxMediaPlayerPresenter::sigFrameChanged, this, [this](int frame) {
         if (frame != m_boxFrame) {
             Clear();
@@ -69,6 +72,7 @@ void KrFollowControls::Clear()
     m_longPress.stop();
     m_pressedAt.reset();
     m_isDrawing = false;
+    m_isBackground = false;
     m_box->SetBox({});
 }
 
@@ -191,6 +195,7 @@ void KrFollowControls::DrawTo(const QPoint& inPicture)
         m_guess.cancel();
         m_boxFrame = CurrentFrame();
         m_isGuessed = Guessed::No;
+        m_isBackground = false;
         m_box->SetBox(QRectF(m_box->FractionAt(*m_pressedAt), m_box->FractionAt(inPicture)).normalized());
     }
 }
@@ -222,8 +227,10 @@ void KrFollowControls::HandleGuess()
     if (m_guess.isCanceled() || !m_view.Overlay().isVisible()) {
         return;
     }
-    const QRectF found = m_guess.result();
+    const KxAutoReframeGuess guess = m_guess.result();
+    const QRectF found = guess.box;
     m_isGuessed = Guessed::Yes;
+    m_isBackground = guess.isBackground;
     m_box->SetBox(found.isEmpty() ? Around(m_guessedPoint, UsualBox) : found);
     const QRectF& box = m_box->Box();
     OpenMenu(m_box->mapToGlobal(QPoint(qRound(box.right() * m_box->width()), qRound(box.top() * m_box->height()))));
@@ -243,10 +250,17 @@ void KrFollowControls::OpenMenu(const QPoint& global)
     auto* const menu = new QMenu(&m_view);
     menu->setObjectName(QStringLiteral("KrAutoReframe_followMenu"));
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    AddAction(*menu, tr("Follow This"), Kind::Follow);
-    AddAction(*menu, tr("Not This"), Kind::Avoid);
-    menu->addSeparator();
-    AddAction(*menu, tr("Hold the Crop in This Shot"), Kind::Hold);
+    if (m_isBackground) {
+        menu->addAction(tr("This looks like background"))->setEnabled(false);
+        AddAction(*menu, tr("Hold the Crop Here in This Shot"), Kind::Hold);
+        AddAction(*menu, tr("Follow This Anyway"), Kind::Follow);
+        menu->addSeparator();
+    } else {
+        AddAction(*menu, tr("Follow This"), Kind::Follow);
+        AddAction(*menu, tr("Not This"), Kind::Avoid);
+        menu->addSeparator();
+        AddAction(*menu, tr("Hold the Crop in This Shot"), Kind::Hold);
+    }
     AddAction(*menu, tr("Show the Whole Picture in This Shot"), Kind::Fit);
     menu->addSeparator();
     AddAction(*menu, tr("Back to Automatic"), Kind::Automatic);
@@ -264,7 +278,7 @@ void KrFollowControls::Choose(Kind kind)
     if (kind == Kind::Follow || kind == Kind::Avoid) {
         choice.seeds.append({SecondsOf(frame), m_box->Box(), m_isGuessed == Guessed::Yes});
     }
-    choice.centre = m_view.Overlay().GetCropRect().center();
+    choice.centre = m_isBackground ? m_guessedPoint : m_view.Overlay().GetCropRect().center();
     Clear();
     m_choices.Change(KrChoices::With(m_choices.Current(), choice));
 }

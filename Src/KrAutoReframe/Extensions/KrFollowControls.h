@@ -78,8 +78,10 @@ private:
     /// Where the right button went down, in the picture.
     std::optional<QPoint> m_pressedAt;
     bool m_isDrawing = false;
+    /// The person pointed at a plain surface, and has not drawn a box since.
+    bool m_isBackground = false;
     QPointF m_guessedPoint;
-    QFutureWatcher<QRectF> m_guess;
+    QFutureWatcher<KxAutoReframeGuess> m_guess;
     QTimer m_longPress;
     QPoint m_longPressAt;
     /// The frame at which the box was drawn.

@@ -157,6 +157,32 @@ TEST_F(KrFollowControlsTest, HoldKeepsTheCropThatIsShown)
     EXPECT_TRUE(taking.choices.first().seeds.isEmpty());
 }
 
+TEST_F(KrFollowControlsTest, AClickOnBackgroundOffersToHoldTheCropThere)
+{
+    taking.isBackground = true;
+    Click(At(0.6, 0.5));
+    ASSERT_EVENTUALLY(Menu() != nullptr);
+    EXPECT_EQ(Menu()->actions().first()->text(), QStringLiteral("This looks like background"));
+    EXPECT_FALSE(Menu()->actions().first()->isEnabled());
+    Choose(QStringLiteral("Hold the Crop Here in This Shot"));
+    ASSERT_EQ(taking.choices.size(), 1);
+    EXPECT_EQ(taking.choices.first().kind, Kind::Hold);
+    EXPECT_NEAR(taking.choices.first().centre.x(), 0.6, 0.01);
+    EXPECT_TRUE(taking.choices.first().seeds.isEmpty());
+}
+
+TEST_F(KrFollowControlsTest, ABoxThatWasDrawnIsFollowedWhateverIsInIt)
+{
+    taking.isBackground = true;
+    Click(At(0.6, 0.5));
+    ASSERT_EVENTUALLY(Menu() != nullptr);
+    Menu()->close();
+    ASSERT_EVENTUALLY(Menu() == nullptr);
+    Drag(At(0.2, 0.3), At(0.4, 0.7));
+    ASSERT_EVENTUALLY(Menu() != nullptr);
+    EXPECT_EQ(Menu()->actions().first()->text(), QStringLiteral("Follow This"));
+}
+
 TEST_F(KrFollowControlsTest, TheSliderShowsWhereWhatIsFollowedWasLost)
 {
     taking.losses = {{60, 79}};

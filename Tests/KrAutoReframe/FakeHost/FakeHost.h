@@ -194,7 +194,7 @@ public:
     void SetChoices(const QList<KxAutoReframeChoice>& wanted) override;
     QByteArray WriteChoices(const QList<KxAutoReframeChoice>& wanted) const override;
     QList<KxAutoReframeChoice> ReadChoices(const QByteArray& text) const override;
-    QRectF GuessBox(const QString& path, qint64 frame, const QPointF& point) const override;
+    KxAutoReframeGuess GuessBox(const QString& path, qint64 frame, const QPointF& point) const override;
     QList<KxAutoReframeLoss> GetLosses(const QString&) const override { return losses; }
     /// For every ratio, `decided`.
     QList<IKxAutoReframeResult> Decide(const QString&, const IKxAutoReframeParam&) const override { return decided; }
@@ -205,6 +205,7 @@ public:
     QList<IKxAutoReframeResult> decided;
     /// What is guessed, around the point.
     QSizeF guess{0.1, 0.2};
+    bool isBackground = false;
 };
 
 /// The plain service, or after OfferShots() the other one.

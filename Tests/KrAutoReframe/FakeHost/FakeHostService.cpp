@@ -185,9 +185,9 @@ QList<KxAutoReframeChoice> ServiceWithChoices::ReadChoices(const QByteArray& tex
     return read;
 }
 
-QRectF ServiceWithChoices::GuessBox(const QString& /*path*/, qint64 /*frame*/, const QPointF& point) const
+KxAutoReframeGuess ServiceWithChoices::GuessBox(const QString& /*path*/, qint64 /*frame*/, const QPointF& point) const
 {
-    return {point.x() - guess.width() / 2.0, point.y() - guess.height() / 2.0, guess.width(), guess.height()};
+    return {QRectF(QPointF(point.x() - guess.width() / 2.0, point.y() - guess.height() / 2.0), guess), isBackground};
 }
 
 ServiceWithChoices& OfferChoices()

@@ -1,0 +1,47 @@
+#include <KxModel/KxPointedPicture.h>
+
+#include <QPainter>
+
+#include <gtest/gtest.h>
+
+namespace
+{
+
+constexpr QSize PictureSize(320, 180);
+constexpr QRectF Box(0.4, 0.3, 0.14, 0.28);
+
+/// A wall whose light changes gradually, with noise.
+QImage Wall()
+{
+    QImage picture(PictureSize, QImage::Format_BGR888);
+    quint32 noise = 1;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            noise = noise * 1664525U + 1013904223U;
+            const int level = 100 + x / 4 + static_cast<int>(noise >> 29U);
+            picture.setPixel(x, y, qRgb(level, level, level + 5));
+        }
+    }
+    return picture;
+}
+
+} // namespace
+
+TEST(KxPointedPicture, AWallIsPlain)
+{
+    EXPECT_TRUE(KxPointedPicture::IsPlain(Wall(), Box));
+}
+
+TEST(KxPointedPicture, AThingInFrontOfAWallIsNot)
+{
+    QImage picture = Wall();
+    QPainter(&picture).fillRect(QRect(138, 64, 24, 36), QColor(150, 40, 40));
+    EXPECT_FALSE(KxPointedPicture::IsPlain(picture, Box));
+}
+
+TEST(KxPointedPicture, ABoxBeyondThePictureIsNotCalledPlain)
+{
+    EXPECT_FALSE(KxPointedPicture::IsPlain(Wall(), QRectF(1.0, 1.0, 0.2, 0.2)));
+    EXPECT_FALSE(KxPointedPicture::IsPlain(QImage(), Box));
+    EXPECT_TRUE(KxPointedPicture::IsPlain(Wall(), QRectF(0.9, 0.9, 0.2, 0.2)));
+}
