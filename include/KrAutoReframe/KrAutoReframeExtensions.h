@@ -73,6 +73,7 @@ protected:
 /// - the arrow keys move the crop while the picture has the focus: by a pixel of the video, with Shift by 10;
 /// - where the service offers IKxAutoReframeShots: shots on the slider, and a way through those that are doubtful;
 /// - where the service offers IKxAutoReframeChoices: pointing at what the crop follows or avoids in a shot;
+/// - where the service offers IKxAutoReframeDecisions: several aspect ratios side by side;
 /// - where the host also implements KrAutoReframeExports: how an export is getting on.
 ///
 /// The host implements it; the dialog calls it on the user-interface thread. No function of the module's library is
