@@ -9,6 +9,7 @@
 #include <KxCore/KxLog.h>
 #include <KxSubject/KxOpenCvProcess.h>
 
+#include <QCoreApplication>
 #include <QFileInfo>
 
 namespace
@@ -32,6 +33,13 @@ IKxAutoReframeService* getAutoReframeService()
 KxAutoReframeService& KxAutoReframeService::Instance()
 {
     static KxAutoReframeService service;
+    // Windows ends a process's threads before it destroys the static objects of libraries, which would then wait for
+    // ever.
+    static const bool endsWithApplication = [] {
+        qAddPostRoutine([] { service.EndThread(); });
+        return true;
+    }();
+    Q_UNUSED(endsWithApplication)
     return service;
 }
 
@@ -55,6 +63,14 @@ KxAutoReframeService::KxAutoReframeService(Open open)
 KxAutoReframeService::~KxAutoReframeService()
 {
     StopTask(0);
+}
+
+void KxAutoReframeService::EndThread()
+{
+    StopTask(0);
+    std::unique_ptr<KxWorker> worker;
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    worker.swap(m_worker);
 }
 
 bool KxAutoReframeService::StartTask(const QString& path, const IKxAutoReframeParam& param)

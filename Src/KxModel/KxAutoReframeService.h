@@ -43,6 +43,9 @@ public:
     /// Stops the running task. Not from an event.
     ~KxAutoReframeService() override;
 
+    /// Stops the running task and ends the thread that runs tasks; the next task starts another one. Not from an event.
+    void EndThread();
+
     bool StartTask(const QString& path, const IKxAutoReframeParam& param) override;
     void StopTask(int task) override;
     int GetResults(const QString& path, QList<IKxAutoReframeResult>* out) override;

@@ -214,6 +214,19 @@ TEST_F(KxAutoReframeServiceTasks, DestroyingTheServiceCancelsTheRunningTask)
     ending.join();
 }
 
+TEST_F(KxAutoReframeServiceTasks, AServiceWhoseThreadHasEndedStartsAnother)
+{
+    Recorder recorder(m_service);
+    m_service.EndThread();
+    for (int ends = 1; ends <= 2; ++ends) {
+        m_files.Add(m_quick, [](const Progress&) { return Done(); });
+        ASSERT_TRUE(Start(m_quick));
+        ASSERT_TRUE(recorder.WaitForEnds(ends));
+        m_service.EndThread();
+        EXPECT_EQ(ResultsOf(m_quick), 0);
+    }
+}
+
 TEST_F(KxAutoReframeServiceTasks, TheNewestStartWinsOverAnOlderOneThatOpensSlowly)
 {
     std::promise<KxCancelToken> opening;
