@@ -16,6 +16,7 @@ struct KxCroppedClip {
     KxRational frameRate; ///< of the frame grid, positive
     bool hasSound = false;
     QSize outputSize;               ///< positive; its shape may differ slightly from that of the crops
+    bool fitsOtherShapes = false;   ///< crops of other shapes are shown whole, not stretched
     std::vector<QRectF> crops;      ///< one a frame, at least one, in fractions of the picture
     std::vector<qint64> shotStarts; ///< first frames of shots, growing; frame 0 may be missing
     std::vector<qint64> edits;      ///< frames that a person edited, growing

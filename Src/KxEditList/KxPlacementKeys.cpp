@@ -68,9 +68,14 @@ std::vector<std::size_t> FixedFrames(const KxCroppedClip& clip)
 QRectF KxPlacementKeys::PlaceOf(const KxCroppedClip& clip, const QRectF& crop)
 {
     const QRectF window = KxCropWindow::Pixels(crop, clip.size);
-    const double scaleX = clip.outputSize.width() / window.width();
-    const double scaleY = clip.outputSize.height() / window.height();
-    return {-window.x() * scaleX, -window.y() * scaleY, clip.size.width() * scaleX, clip.size.height() * scaleY};
+    double scaleX = clip.outputSize.width() / window.width();
+    double scaleY = clip.outputSize.height() / window.height();
+    if (clip.fitsOtherShapes && !KxCropWindow::HasShapeOf(clip.outputSize, crop, clip.size)) {
+        scaleX = scaleY = std::min(scaleX, scaleY);
+    }
+    const QPointF middle = window.center();
+    return {clip.outputSize.width() / 2.0 - middle.x() * scaleX, clip.outputSize.height() / 2.0 - middle.y() * scaleY,
+            clip.size.width() * scaleX, clip.size.height() * scaleY};
 }
 
 QRectF KxPlacementKeys::CropOf(const KxCroppedClip& clip, const QRectF& place)

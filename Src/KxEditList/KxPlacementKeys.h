@@ -10,7 +10,7 @@
 /// Where the whole picture lies while its crop fills the output.
 struct KxPlacementKey {
     qint64 frame = 0;
-    QRectF place;       ///< in pixels of the output; reaches beyond it
+    QRectF place;       ///< in pixels of the output; may reach beyond it
     bool holds = false; ///< until the next key, which begins another shot
 };
 
@@ -22,7 +22,7 @@ namespace KxPlacementKeys
 constexpr double TolerancePx = 0.25;
 
 KXEDITLIST_API QRectF PlaceOf(const KxCroppedClip& clip, const QRectF& crop);
-/// The crop in pixels of the source.
+/// What fills the output, in pixels of the source: the crop, or more than the picture where it is fitted.
 KXEDITLIST_API QRectF CropOf(const KxCroppedClip& clip, const QRectF& place);
 
 /// As few keys as recursive division (Douglas and Peucker, "Algorithms for the reduction of the number of points

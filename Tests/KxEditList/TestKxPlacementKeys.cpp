@@ -75,6 +75,15 @@ TEST(KxPlacementKeysTest, TheWholePictureIsPlacedSoThatTheCropFillsTheOutput)
     ExpectNear(place, QRectF(-480.0 * wider, 0.0, 1920.0 * wider, 1080.0), 1e-3, 0);
 }
 
+TEST(KxPlacementKeysTest, AWholePictureIsFittedWhereItMustNotBeStretched)
+{
+    KxCroppedClip clip = CroppedClips::Pan();
+    clip.fitsOtherShapes = true;
+    ExpectNear(KxPlacementKeys::PlaceOf(clip, QRectF(0.0, 0.0, 1.0, 1.0)), QRectF(0.0, 369.0, 608.0, 342.0), 1e-9, 0);
+    clip.fitsOtherShapes = false;
+    ExpectNear(KxPlacementKeys::PlaceOf(clip, QRectF(0.0, 0.0, 1.0, 1.0)), QRectF(0.0, 0.0, 608.0, 1080.0), 1e-9, 0);
+}
+
 TEST(KxPlacementKeysTest, CropAndPlaceAreTheSameWindow)
 {
     const KxCroppedClip clip = CroppedClips::Pan();

@@ -26,7 +26,8 @@ KxCroppedClip ReframeJob::CroppedClip() const
     clip.frameRate = stream.frameRate();
     clip.hasSound = stream.hasAudioStream();
     const QList<IKxAutoReframeResult> crops = Helper().GetDisplayResults();
-    clip.outputSize = KrExportParameters::EvenResolution(clip.size, crops.first().cropRect());
+    clip.outputSize = KrExportParameters::EvenResolution(clip.size, ShapeOfResult());
+    clip.fitsOtherShapes = m_otherShapes == KxRenderSource::OtherShapes::Fitted;
     for (const IKxAutoReframeResult& crop : crops) {
         clip.crops.push_back(crop.cropRect());
     }

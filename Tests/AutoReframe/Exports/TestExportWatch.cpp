@@ -31,9 +31,10 @@ protected:
     }
 
     FakeMediaBackend m_backend;
-    ExportQueue m_queue{[this](const ExportRequest& request, const KxRenderJob::Callbacks& callbacks) {
-                            return m_backend.Render(request, callbacks);
-                        },
+    ExportQueue m_queue{{[this](const ExportRequest& request, const KxRenderJob::Callbacks& callbacks) {
+                             return m_backend.Render(request, callbacks);
+                         },
+                         {}},
                         nullptr};
     ExportWatch m_watch{m_queue};
     QList<KrAutoReframeExport> m_reports;

@@ -4,6 +4,7 @@
 #include <Apps/CropTracks/CropTrackFile.h>
 #include <KrAutoReframe/Engine/KrAutoReframeHelper.h>
 #include <KrAutoReframe/Engine/KrExportParameters.h>
+#include <KxCore/KxCropWindow.h>
 #include <KxModel/KxChoicesFormat.h>
 #include <KxModel/KxMediaItem.h>
 #include <KxModel/KxSimpleTimeline.h>
@@ -226,12 +227,13 @@ void CropFinder::Finish()
 
 KxError CropFinder::MakeRequest(ExportRequest& request) const
 {
-    const KxResult<KxRenderSource> source = KxRenderSource::FromTimeline(*m_helper->GetWorkTimeline());
+    KxResult<KxRenderSource> source = KxRenderSource::FromTimeline(*m_helper->GetWorkTimeline());
     if (!source) {
         return source.Message();
     }
     const QSize picture = InfoOf(*m_analyzed.media).resolution();
-    const QRectF crop = m_analyzed.crops.first().cropRect();
+    const QRectF crop = KrExportParameters::ShapeOfResult(m_analyzed.crops, picture, m_analyzed.aspect);
+    source->otherShapes = OtherShapes();
     KxRenderSettings settings = CropRenderSettings::For(*m_analyzed.media, crop);
     if (settings.resolution.isEmpty()) {
         return Translated("Cannot reframe %1: its picture of %2 x %3 pixels is too small.")
@@ -245,6 +247,19 @@ KxError CropFinder::MakeRequest(ExportRequest& request) const
     return std::nullopt;
 }
 
+KxRenderSource::OtherShapes CropFinder::OtherShapes() const
+{
+    const QSize picture = InfoOf(*m_analyzed.media).resolution();
+    const QList<IKxAutoReframeResult>& crops = m_analyzed.crops;
+    const QSize result = KrExportParameters::EvenResolution(
+        picture, KrExportParameters::ShapeOfResult(crops, picture, m_analyzed.aspect));
+    const bool isWholeAnywhere =
+        std::any_of(crops.begin(), crops.end(), [&result, &picture](const IKxAutoReframeResult& crop) {
+            return !KxCropWindow::HasShapeOf(result, crop.cropRect(), picture);
+        });
+    return isWholeAnywhere ? KxRenderSource::OtherShapes::Fitted : KxRenderSource::OtherShapes::Stretched;
+}
+
 CropTrack CropFinder::MakeTrack() const
 {
     const KxStreamInfo& info = InfoOf(*m_analyzed.media);
@@ -256,5 +271,6 @@ CropTrack CropFinder::MakeTrack() const
     track.speedName = SpeedName(m_request.plan.speed);
     track.crops = m_helper->GetDisplayResults();
     track.models = m_analyzed.models;
+    track.otherShapes = OtherShapes();
     return track;
 }

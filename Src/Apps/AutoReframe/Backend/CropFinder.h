@@ -43,6 +43,8 @@ private:
     void ApplyEdits(const Analyzed& analyzed);
     void Finish();
     KxError MakeRequest(ExportRequest& request) const;
+    /// Shots that show the whole picture are fitted.
+    KxRenderSource::OtherShapes OtherShapes() const;
     CropTrack MakeTrack() const;
 
     const CropRequest m_request;
