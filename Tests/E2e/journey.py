@@ -9,6 +9,7 @@ journey.py PROGRAM FOLDER NAME [VIDEO]: pictures of every step stay in FOLDER. T
   dense       the first window on a screen of scale 2, in a session that also offers Wayland
   extended    the dialog's extensions; extended-dense: on a screen of scale 2
   batch       many videos at once; batch-dense: on a screen of scale 2
+  spoken      the dialog as a screen reader sees it
 """
 
 import fcntl
@@ -23,6 +24,7 @@ import extension_journey
 import footage
 import kept_journey
 import short_journeys
+import spoken_journey
 from desktop import Desktop
 from screen import Screen
 
@@ -400,6 +402,7 @@ def main():
         size = "3200x2000"
         environment.update(QT_SCALE_FACTOR="2")
     started = time.monotonic()
+    bus = None
     with Desktop(folder, size, composites=name != "plain") as desktop:
         if name == "kept":
             kept = kept_journey.KeptJourney(desktop, folder, program, clip, environment,
@@ -410,11 +413,16 @@ def main():
                                                lambda screen: Journey(screen, folder, clip))
             run, stop = batch.run, lambda: batch.screen.stop()
         else:
+            if name == "spoken":
+                bus = spoken_journey.Bus(desktop.environment)
+                environment.update(DBUS_SESSION_BUS_ADDRESS=bus.address, QT_ACCESSIBILITY="1",
+                                   QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1")
             screen = Screen(desktop, folder, program, [] if name == "whole" else [clip], environment)
             journey = Journey(screen, folder, clip)
             run = {"whole": journey.run, "cancelling": journey.run_on_real_footage,
                    "extended": lambda: extension_journey.ExtensionJourney(journey).run(),
                    "extended-dense": lambda: extension_journey.ExtensionJourney(journey).run(),
+                   "spoken": lambda: spoken_journey.SpokenJourney(journey).run(),
                    "plain": lambda: short_journeys.run_without_compositor(journey),
                    "dense": lambda: short_journeys.run_on_a_dense_screen(screen)}[name]
             stop = screen.stop
@@ -422,6 +430,8 @@ def main():
             run()
         finally:
             stop()
+            if bus is not None:
+                bus.stop()
             with open(os.path.join(folder, "program.log"), encoding="utf-8", errors="replace") as log:
                 output = log.read()
             print(output, end="")
