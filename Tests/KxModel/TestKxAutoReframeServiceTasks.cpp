@@ -110,7 +110,7 @@ public:
     }
 
 private:
-    long Ends() const
+    std::ptrdiff_t Ends() const
     {
         return std::count_if(m_events.begin(), m_events.end(), [](const Event& event) { return event.state == 2; });
     }

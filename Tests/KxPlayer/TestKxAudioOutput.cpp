@@ -31,7 +31,11 @@ protected:
     }
 
     // The value of a sine of 440 Hz at `frame`; ffmpeg's source has an amplitude of 1/8.
-    static double Sine(qint64 frame) { return std::sin(2 * M_PI * 440 * static_cast<double>(frame) / RateHz) / 8; }
+    static double Sine(qint64 frame)
+    {
+        const double pi = std::acos(-1.0);
+        return std::sin(2 * pi * 440 * static_cast<double>(frame) / RateHz) / 8;
+    }
 
     void ExpectSineFrom(qint64 firstFrame, size_t skipped = 0) const
     {
