@@ -69,4 +69,9 @@ Section "Uninstall"
     RMDir "$LOCALAPPDATA\Programs"
     Delete "$SMPROGRAMS\${NAME}.lnk"
     DeleteRegKey HKCU "${UNINSTALL_KEY}"
+    MessageBox MB_YESNO|MB_ICONQUESTION "Remove your settings, your list of videos and saved analyses too? Your videos are kept." /SD IDYES IDNO keep
+    RMDir /r "$LOCALAPPDATA\auto-reframe"
+    RMDir /r "$LOCALAPPDATA\cache\auto-reframe"
+    RMDir "$LOCALAPPDATA\cache"
+keep:
 SectionEnd
