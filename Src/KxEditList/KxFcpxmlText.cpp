@@ -50,7 +50,8 @@ private:
 
 QString Writer::Time(qint64 frame) const
 {
-    return QStringLiteral("%1/%2s").arg(frame * m_clip.frameRate.denominator).arg(m_clip.frameRate.numerator);
+    return QStringLiteral("%1/%2s").arg(QString::number(frame * m_clip.frameRate.denominator),
+                                        QString::number(m_clip.frameRate.numerator));
 }
 
 void Writer::Start(const char* name, std::initializer_list<Attribute> attributes)

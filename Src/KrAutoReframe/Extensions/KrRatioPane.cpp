@@ -121,13 +121,14 @@ void KrRatioPane::Clear()
 
 void KrRatioPane::RetranslateUi()
 {
-    m_picture->setAccessibleName(tr("Result in %1:%2").arg(m_aspect.width()).arg(m_aspect.height()));
+    m_picture->setAccessibleName(
+        tr("Result in %1:%2").arg(QString::number(m_aspect.width()), QString::number(m_aspect.height())));
     ShowText();
 }
 
 void KrRatioPane::ShowText()
 {
-    const QString ratio = tr("%1:%2").arg(m_aspect.width()).arg(m_aspect.height());
+    const QString ratio = tr("%1:%2").arg(QString::number(m_aspect.width()), QString::number(m_aspect.height()));
     switch (m_state) {
     case State::Empty:
         m_caption->setText(ratio);

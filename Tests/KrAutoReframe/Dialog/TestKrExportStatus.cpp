@@ -72,7 +72,8 @@ TEST_F(KrExportStatusTest, TheOutputSizeIsKnownBeforeTheExport)
     EXPECT_EQ(OutputSize(), QString());
     Analyse(TallResults(0));
     const QSize size = TallSize();
-    EXPECT_EQ(OutputSize(), QStringLiteral("Output: %1 × %2").arg(size.width()).arg(size.height()));
+    EXPECT_EQ(OutputSize(),
+              QStringLiteral("Output: %1 × %2").arg(QString::number(size.width()), QString::number(size.height())));
     Load(Video(QStringLiteral("/v/other.mp4")));
     EXPECT_EQ(OutputSize(), QString());
 }
@@ -81,7 +82,8 @@ TEST_F(KrExportStatusTest, AFirstShotThatShowsTheWholePictureLeavesTheResultItsS
 {
     Analyse(TallResults(25));
     const QSize size = TallSize();
-    EXPECT_EQ(OutputSize(), QStringLiteral("Output: %1 × %2").arg(size.width()).arg(size.height()));
+    EXPECT_EQ(OutputSize(),
+              QStringLiteral("Output: %1 × %2").arg(QString::number(size.width()), QString::number(size.height())));
     EXPECT_EQ(Helper().GetWorkTimeline()->projectSettings().resolution, size) << "what the preview fits pictures into";
 }
 
