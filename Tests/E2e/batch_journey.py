@@ -6,7 +6,7 @@ import subprocess
 
 import extension_journey
 import footage
-from screen import Screen
+from restarted_program import RestartedProgram
 
 SHOTS = "KrAutoReframePropertyPanel_shots"
 RATIO = "KrAutoReframePropertyPanel_aspectRatio"
@@ -29,25 +29,11 @@ def make_folder(folder):
             file.write("not a video")
 
 
-class BatchJourney:
+class BatchJourney(RestartedProgram):
     def __init__(self, desktop, folder, program, environment, make_journey):
-        self.desktop = desktop
-        self.folder = folder
-        self.program = program
-        self.make_journey = make_journey
+        super().__init__(desktop, folder, program, environment, make_journey)
         self.clips = os.path.join(folder, "clips")
         self.output = os.path.join(folder, "exports")
-        self.environment = dict(environment, KX_DATA=os.path.join(folder, "data"),
-                                KX_CACHE=os.path.join(folder, "cache"))
-        self.screen = None
-        self.journey = None
-        self.shots = 0
-
-    def start(self, *files):
-        self.screen = Screen(self.desktop, self.folder, self.program, files, self.environment)
-        self.screen.shots = self.shots
-        self.journey = self.make_journey(self.screen)
-        return self.screen
 
     def run(self):
         make_folder(self.clips)
@@ -80,15 +66,11 @@ class BatchJourney:
         first, second, third = self.cards()
         screen.click(first)
         screen.find("StatusBar_text", text="3 videos · 1 selected")
-        screen.tool("keydown", "ctrl")
-        screen.click(third)
-        screen.tool("keyup", "ctrl")
+        screen.click_with("ctrl", third)
         screen.find("StatusBar_text", text="3 videos · 2 selected")
         screen.click(second)
         screen.find("StatusBar_text", text="3 videos · 1 selected")
-        screen.tool("keydown", "shift")
-        screen.click(third)
-        screen.tool("keyup", "shift")
+        screen.click_with("shift", third)
         screen.find("StatusBar_text", text="3 videos · 2 selected")
         screen.key("ctrl+a")
         screen.find("StatusBar_text", text="3 videos · 3 selected")
@@ -127,8 +109,7 @@ class BatchJourney:
         done = screen.find("QueueBar_text")["text"]
         screen.shoot("paused")
         assert screen.find("QueueBar_text")["text"] == done, "nothing is done while it is paused"
-        self.shots = screen.shots
-        screen.stop()
+        self.kill()
 
     def resume(self):
         screen = self.start()
@@ -192,13 +173,7 @@ class BatchJourney:
     def open_track(self):
         screen = self.screen
         self.choose("Open Crop Track…")
-        chosen = screen.steady(lambda report: next((item["rect"] for view in screen.all(report, "treeView")
-                                                    for item in view["items"] if item["text"] == "walk-9x16.json"), None),
-                               "the file in the chooser")
-        screen.click([chosen[0], chosen[1], 60, chosen[3]])
-        button = screen.until(lambda report: next((widget for widget in report["widgets"] if widget["enabled"]
-                                                   and widget.get("text") == "&Open"), None), "a file to be chosen")
-        screen.click(button["rect"])
+        screen.choose_file("walk-9x16.json")
         screen.find("KxMessageBox_text", text="Export walk.mp4 with the crops of walk-9x16.json?")
         screen.shoot("export-with-crop-track")
         screen.press("KxMessageBox_confirm", text="Export")

@@ -145,14 +145,7 @@ class Journey:
         screen.find("StatusBar_text", text="No videos yet")
         screen.shoot("empty")
         screen.press("TopBar_import")
-        chosen = screen.steady(lambda report: next((item["rect"] for view in screen.all(report, "treeView")
-                                                    for item in view["items"] if item["text"] == "walk.mp4"), None),
-                               "the file in the chooser")
-        screen.click([chosen[0], chosen[1], 60, chosen[3]])
-        button = screen.until(lambda report: next((widget for widget in report["widgets"] if widget["enabled"]
-                                                   and widget.get("text") == "&Open"), None), "a file to be chosen")
-        screen.shoot("chooser")
-        screen.click(button["rect"])
+        screen.choose_file("walk.mp4", shot="chooser")
         screen.find("StatusBar_text", text="1 video · 1 selected")
         screen.find("TopBar_reframe", enabled=True)
         screen.steady(lambda report: str(screen.all(report, "MediaLibrary")), "the library")

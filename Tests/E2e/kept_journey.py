@@ -3,35 +3,13 @@
 import os
 import sqlite3
 
-from screen import Screen
+from restarted_program import RestartedProgram
 
 
-class KeptJourney:
+class KeptJourney(RestartedProgram):
     def __init__(self, desktop, folder, program, clip, environment, make_journey):
-        self.desktop = desktop
-        self.folder = folder
-        self.program = program
+        super().__init__(desktop, folder, program, environment, make_journey)
         self.clip = clip
-        self.make_journey = make_journey
-        self.data = os.path.join(folder, "data")
-        self.environment = dict(environment, KX_DATA=self.data, KX_CACHE=os.path.join(folder, "cache"))
-        self.journey = None
-        self.screen = None
-        self.shots = 0
-
-    def start(self, *files):
-        self.screen = Screen(self.desktop, self.folder, self.program, files, self.environment)
-        self.screen.shots = self.shots
-        self.journey = self.make_journey(self.screen)
-        return self.screen
-
-    def kill(self):
-        self.shots = self.screen.shots
-        self.screen.stop()
-
-    def quit(self):
-        self.journey.quit()
-        self.shots = self.screen.shots
 
     def saved(self, statement):
         """The first value of a query in the library's file; None while there is no such table."""

@@ -118,6 +118,23 @@ class Screen:
         self.move(*self.middle(rect))
         self.tool("click", "--repeat", repeat, "--delay", 80, button)
 
+    def click_with(self, modifier, rect):
+        self.tool("keydown", modifier)
+        self.click(rect)
+        self.tool("keyup", modifier)
+
+    def choose_file(self, name, shot=None):
+        """Opens a file that the chooser lists."""
+        chosen = self.steady(lambda report: next((item["rect"] for view in self.all(report, "treeView")
+                                                  for item in view["items"] if item["text"] == name), None),
+                             "the file in the chooser")
+        self.click([chosen[0], chosen[1], 60, chosen[3]])
+        button = self.until(lambda report: next((widget for widget in report["widgets"] if widget["enabled"]
+                                                 and widget.get("text") == "&Open"), None), "a file to be chosen")
+        if shot:
+            self.shoot(shot)
+        self.click(button["rect"])
+
     def press(self, name, window=None, **wanted):
         """Clicks a control once it is visible and enabled."""
         self.click(self.find(name, window, enabled=True, **wanted)["rect"])
