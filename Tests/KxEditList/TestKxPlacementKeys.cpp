@@ -1,4 +1,4 @@
-#include "CroppedClips.h"
+#include <Tests/KxEditList/CroppedClips.h>
 
 #include <KxEditList/KxPlacementKeys.h>
 
