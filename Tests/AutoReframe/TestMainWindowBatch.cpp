@@ -31,7 +31,7 @@ protected:
         WhenAsked([this](BatchDialog& dialog) {
             dialog.findChild<QLineEdit*>(QStringLiteral("KxOpenFileLineEdit_edit"))->setText(m_folder.path());
             In(dialog, "BatchDialog_1x1")->click();
-            In(dialog, "BatchDialog_start")->click();
+            In(dialog, "BatchDialog_accept")->click();
         });
         Button("TopBar_reframeAll")->click();
     }

@@ -61,7 +61,7 @@ protected:
             dialog.findChild<QLineEdit*>(QStringLiteral("CropTrackDialog_name"))->setText(name);
             dialog.findChild<QLineEdit*>(QStringLiteral("KxOpenFileLineEdit_edit"))->setText(m_folder.path());
             dialog.findChild<QComboBox*>()->setCurrentText(QLatin1String(format));
-            dialog.findChild<QAbstractButton*>(QStringLiteral("CropTrackDialog_save"))->click();
+            dialog.findChild<QAbstractButton*>(QStringLiteral("CropTrackDialog_accept"))->click();
         });
     }
     void OpenOne()

@@ -32,7 +32,7 @@ protected:
     {
         return m_dialog->findChild<QAbstractButton*>(QLatin1String(name));
     }
-    QString Example() const { return m_dialog->findChild<QLabel*>(QStringLiteral("BatchDialog_example"))->text(); }
+    QString Example() const { return m_dialog->findChild<QLabel*>(QStringLiteral("BatchDialog_message"))->text(); }
     QLineEdit* Field(const char* name) const { return m_dialog->findChild<QLineEdit*>(QLatin1String(name)); }
 
     QTemporaryDir m_folder;
@@ -67,7 +67,7 @@ TEST_F(TestBatchDialog, TheExampleFollowsEveryChange)
     EXPECT_EQ(Example(), QStringLiteral("2 files: walk-9x16.mp4, street-9x16.mp4"));
     Button("BatchDialog_1x1")->click();
     EXPECT_EQ(Example(), QStringLiteral("4 files: walk-9x16.mp4, walk-1x1.mp4, street-9x16.mp4, …"));
-    Field("BatchDialog_pattern")->setText(QStringLiteral("{ratio}"));
+    Field("BatchDialog_name")->setText(QStringLiteral("{ratio}"));
     EXPECT_EQ(Example(), QStringLiteral("4 files: 9x16.mp4, 1x1.mp4, 9x16 (2).mp4, …"));
 }
 
@@ -76,15 +76,15 @@ TEST_F(TestBatchDialog, WhatCannotBeStartedIsExplained)
     Show(InFolder());
     Button("BatchDialog_9x16")->click();
     EXPECT_EQ(Example(), QStringLiteral("Choose an aspect ratio."));
-    EXPECT_FALSE(Button("BatchDialog_start")->isEnabled());
+    EXPECT_FALSE(Button("BatchDialog_accept")->isEnabled());
     Button("BatchDialog_16x9")->click();
     EXPECT_EQ(Example(), QStringLiteral("The selected videos have this aspect ratio already."));
-    EXPECT_FALSE(Button("BatchDialog_start")->isEnabled());
+    EXPECT_FALSE(Button("BatchDialog_accept")->isEnabled());
     Button("BatchDialog_1x1")->click();
-    EXPECT_TRUE(Button("BatchDialog_start")->isEnabled());
-    Field("BatchDialog_pattern")->setText(QStringLiteral("{size}"));
+    EXPECT_TRUE(Button("BatchDialog_accept")->isEnabled());
+    Field("BatchDialog_name")->setText(QStringLiteral("{size}"));
     EXPECT_TRUE(Example().startsWith(QLatin1String("There is no {size}.")));
-    Field("BatchDialog_pattern")->setText(QStringLiteral("{name}"));
+    Field("BatchDialog_name")->setText(QStringLiteral("{name}"));
     Field("KxOpenFileLineEdit_edit")->setText(QStringLiteral("relative"));
     EXPECT_EQ(Example(), QStringLiteral("Choose a folder."));
 }
@@ -92,9 +92,9 @@ TEST_F(TestBatchDialog, WhatCannotBeStartedIsExplained)
 TEST_F(TestBatchDialog, ForbiddenCharactersCannotBeTyped)
 {
     Show(InFolder());
-    Field("BatchDialog_pattern")->clear();
-    QTest::keyClicks(Field("BatchDialog_pattern"), QStringLiteral("a/b:{name}?"));
-    EXPECT_EQ(Field("BatchDialog_pattern")->text(), QStringLiteral("ab{name}"));
+    Field("BatchDialog_name")->clear();
+    QTest::keyClicks(Field("BatchDialog_name"), QStringLiteral("a/b:{name}?"));
+    EXPECT_EQ(Field("BatchDialog_name")->text(), QStringLiteral("ab{name}"));
 }
 
 TEST_F(TestBatchDialog, AFolderThatIsNotThereIsMade)
@@ -102,7 +102,7 @@ TEST_F(TestBatchDialog, AFolderThatIsNotThereIsMade)
     BatchSettings settings = InFolder();
     settings.folder = m_folder.filePath(QStringLiteral("new/folder"));
     Show(settings);
-    Button("BatchDialog_start")->click();
+    Button("BatchDialog_accept")->click();
     EXPECT_EQ(m_dialog->result(), QDialog::Accepted);
     EXPECT_TRUE(QDir(settings.folder).exists());
 }
@@ -114,7 +114,7 @@ TEST_F(TestBatchDialog, AFolderThatCannotBeMadeIsReported)
     BatchSettings settings = InFolder();
     settings.folder = m_folder.filePath(QStringLiteral("file/below"));
     Show(settings);
-    Button("BatchDialog_start")->click();
+    Button("BatchDialog_accept")->click();
     EXPECT_TRUE(m_dialog->isVisible());
     EXPECT_TRUE(Example().startsWith(QLatin1String("Cannot write to the folder ")));
 }
@@ -136,6 +136,6 @@ TEST_F(TestBatchDialog, EveryControlHasANameAndIsReachedByTab)
             EXPECT_TRUE(reached.contains(control)) << control->objectName().toStdString();
         }
     }
-    EXPECT_TRUE(reached.contains(Field("BatchDialog_pattern")));
+    EXPECT_TRUE(reached.contains(Field("BatchDialog_name")));
     EXPECT_TRUE(reached.contains(Field("KxOpenFileLineEdit_edit")));
 }

@@ -1,14 +1,9 @@
 #include <Apps/AutoReframe/Batch/BatchDialog.h>
 
-#include <Apps/AutoReframe/Batch/DialogFields.h>
 #include <Apps/AutoReframe/Library/MediaText.h>
 
 #include <KxWidgets/KxComboBox.h>
-#include <KxWidgets/KxDialogButtonBar.h>
 #include <KxWidgets/KxLabel.h>
-#include <KxWidgets/KxLineEdit.h>
-#include <KxWidgets/KxOpenFileLineEdit.h>
-#include <KxWidgets/KxTopLevelWindowTitleBar.h>
 
 #include <QCheckBox>
 #include <QDir>
@@ -23,9 +18,6 @@ namespace
 {
 
 constexpr int WidthPx = 560;
-constexpr int MarginPx = 24;
-constexpr int GapPx = 18;
-constexpr int CaptionGapPx = 6;
 
 struct Ratio {
     QSize aspect;
@@ -43,24 +35,18 @@ constexpr std::array<int, 4> ShortSidesPx{720, 1080, 1440, 2160};
 
 BatchDialog::BatchDialog(QList<BatchVideo> videos, const BatchSettings& initial, OutputNames::Unique::IsTaken isTaken,
                          QWidget* parent)
-    : KxFramelessDialog(QString(), parent, true, true)
+    : SaveDialog(QStringLiteral("BatchDialog"), parent)
     , m_videos(std::move(videos))
     , m_isTaken(std::move(isTaken))
 {
-    setObjectName(QStringLiteral("BatchDialog"));
-    GetTitleBar()->SetButtons(KxTopLevelWindowTitleBar::CloseButton);
     InitUi();
     InitLayout();
     FillCombos();
     Fill(initial);
     for (const QCheckBox* const ratio : qAsConst(m_ratios)) {
-        connect(ratio, &QCheckBox::toggled, this, &BatchDialog::ShowExample);
+        connect(ratio, &QCheckBox::toggled, this, &BatchDialog::ShowState);
     }
-    connect(m_speed, qOverload<int>(&QComboBox::currentIndexChanged), this, &BatchDialog::ShowExample);
-    connect(m_pattern, &QLineEdit::textChanged, this, &BatchDialog::ShowExample);
-    connect(m_folder, &KxOpenFileLineEdit::sigTextChanged, this, &BatchDialog::ShowExample);
-    connect(m_start, &QAbstractButton::clicked, this, &BatchDialog::HandleStart);
-    connect(m_cancel, &QAbstractButton::clicked, this, &QDialog::reject);
+    connect(m_speed, qOverload<int>(&QComboBox::currentIndexChanged), this, &BatchDialog::ShowState);
     RetranslateUi();
 }
 
@@ -68,34 +54,19 @@ BatchDialog::~BatchDialog() = default;
 
 void BatchDialog::InitUi()
 {
-    m_ratiosCaption = DialogFields::MakeCaption(this);
+    m_ratiosCaption = MakeCaption();
     for (const Ratio& ratio : Ratios) {
         auto* const box = new QCheckBox(this);
         box->setObjectName(QStringLiteral("BatchDialog_%1x%2")
                                .arg(QString::number(ratio.aspect.width()), QString::number(ratio.aspect.height())));
         m_ratios += box;
     }
-    m_speedCaption = DialogFields::MakeCaption(this);
+    m_speedCaption = MakeCaption();
     m_speed = KxComboBox::CreateComboBox(this);
     m_speed->setObjectName(QStringLiteral("BatchDialog_speed"));
-    m_sizeCaption = DialogFields::MakeCaption(this);
+    m_sizeCaption = MakeCaption();
     m_size = KxComboBox::CreateComboBox(this);
     m_size->setObjectName(QStringLiteral("BatchDialog_size"));
-    m_patternCaption = DialogFields::MakeCaption(this);
-    m_pattern = KxLineEdit::creartNormalLineEdit(this, DialogFields::FieldHeightPx);
-    m_pattern->setObjectName(QStringLiteral("BatchDialog_pattern"));
-    m_pattern->SetFileNameValidator(true);
-    m_folderCaption = DialogFields::MakeCaption(this);
-    m_folder = KxOpenFileLineEdit::CreateOpenFileLineEdit(this);
-    m_folder->setObjectName(QStringLiteral("BatchDialog_folder"));
-    m_folder->setFixedHeight(DialogFields::FieldHeightPx);
-    m_example = KxLabel::CreateLabel(this, QString());
-    m_example->setObjectName(QStringLiteral("BatchDialog_example"));
-    m_example->setWordWrap(true);
-    m_cancel = GetButtonBar()->AddPushButton_R(1, -1);
-    m_cancel->setObjectName(QStringLiteral("BatchDialog_cancel"));
-    m_start = GetButtonBar()->AddPushButton_R(0, -1);
-    m_start->setObjectName(QStringLiteral("BatchDialog_start"));
 }
 
 QLayout* BatchDialog::MakeRatios()
@@ -115,7 +86,6 @@ QLayout* BatchDialog::MakeRatios()
 
 void BatchDialog::InitLayout()
 {
-    auto* const content = new QWidget(this);
     auto* const ratios = new QVBoxLayout;
     constexpr int ratiosGapPx = 10;
     ratios->setSpacing(ratiosGapPx);
@@ -123,21 +93,14 @@ void BatchDialog::InitLayout()
     ratios->addLayout(MakeRatios());
     auto* const combos = new QHBoxLayout;
     combos->setSpacing(GapPx);
-    combos->addWidget(DialogFields::WithCaption(m_speedCaption, m_speed, this), 1);
-    combos->addWidget(DialogFields::WithCaption(m_sizeCaption, m_size, this), 1);
-    auto* const column = new QVBoxLayout(content);
-    column->setContentsMargins(MarginPx, MarginPx, MarginPx, CaptionGapPx);
-    column->setSpacing(GapPx);
+    combos->addWidget(WithCaption(m_speedCaption, m_speed), 1);
+    combos->addWidget(WithCaption(m_sizeCaption, m_size), 1);
+    QVBoxLayout* const column = MakeColumn();
     column->addLayout(ratios);
     column->addLayout(combos);
-    column->addWidget(DialogFields::WithCaption(m_patternCaption, m_pattern, this));
-    column->addWidget(DialogFields::WithCaption(m_folderCaption, m_folder, this));
-    column->addWidget(m_example);
-    // Two lines, so that the dialog does not change its size while the person types.
-    m_example->setFixedHeight(2 * m_example->fontMetrics().lineSpacing() + 2);
-    m_example->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    SetContentWidget(content);
-    setFixedWidth(WidthPx);
+    column->addWidget(NameRow());
+    constexpr int messageLines = 2;
+    ShowColumn(column, messageLines, WidthPx);
 }
 
 void BatchDialog::FillCombos()
@@ -169,8 +132,8 @@ void BatchDialog::Fill(const BatchSettings& settings)
     }
     m_speed->setCurrentIndex(std::max(0, m_speed->findData(settings.speed)));
     m_size->setCurrentIndex(std::max(0, m_size->findData(settings.shortSidePx)));
-    m_pattern->setText(settings.pattern);
-    m_folder->SetText(QDir::toNativeSeparators(settings.folder));
+    SetFileName(settings.pattern);
+    SetFolder(settings.folder);
 }
 
 BatchSettings BatchDialog::Settings() const
@@ -184,13 +147,14 @@ BatchSettings BatchDialog::Settings() const
     }
     settings.speed = m_speed->currentData().toInt();
     settings.shortSidePx = m_size->currentData().toInt();
-    settings.pattern = m_pattern->text().trimmed();
-    settings.folder = QDir::cleanPath(QDir::fromNativeSeparators(m_folder->Text().trimmed()));
+    settings.pattern = FileName();
+    settings.folder = Folder();
     return settings;
 }
 
-KxError BatchDialog::Problem(const BatchSettings& settings) const
+KxError BatchDialog::Problem() const
 {
+    const BatchSettings settings = Settings();
     if (settings.aspects.isEmpty()) {
         return tr("Choose an aspect ratio.");
     }
@@ -206,8 +170,9 @@ KxError BatchDialog::Problem(const BatchSettings& settings) const
     return std::nullopt;
 }
 
-QString BatchDialog::Example(const BatchSettings& settings) const
+QString BatchDialog::Example() const
 {
+    const BatchSettings settings = Settings();
     // Asking the disk for thousands of files at every key would take too long.
     constexpr int examples = 3;
     QStringList names;
@@ -217,26 +182,6 @@ QString BatchDialog::Example(const BatchSettings& settings) const
     const int count = settings.CountFor(m_videos);
     const QString more = count > examples ? QStringLiteral(", …") : QString();
     return tr("%n files: %1", nullptr, count).arg(names.mid(0, examples).join(QStringLiteral(", ")) + more);
-}
-
-void BatchDialog::ShowExample()
-{
-    const BatchSettings settings = Settings();
-    const KxError problem = Problem(settings);
-    m_start->setEnabled(!problem);
-    DialogFields::ShowText(*m_example, problem ? *problem : Example(settings), problem.has_value());
-}
-
-void BatchDialog::HandleStart()
-{
-    const QString folder = Settings().folder;
-    if (QDir().mkpath(folder) && QFileInfo(folder).isWritable()) {
-        accept();
-        return;
-    }
-    DialogFields::ShowText(*m_example, tr("Cannot write to the folder %1.").arg(QDir::toNativeSeparators(folder)),
-                           true);
-    m_folder->setFocus();
 }
 
 void BatchDialog::RetranslateUi()
@@ -251,12 +196,10 @@ void BatchDialog::RetranslateUi()
     m_speed->setToolTip(tr("How readily the crop follows the subject"));
     m_sizeCaption->setText(tr("Output Size"));
     m_size->setToolTip(tr("The size of the exported videos"));
-    m_patternCaption->setText(tr("File Name, with %1").arg(OutputNames::Placeholders().join(QStringLiteral(", "))));
-    m_pattern->setToolTip(tr("What stands in braces is replaced for each file."));
-    m_folderCaption->setText(tr("Save To"));
-    m_folder->setToolTip(tr("The folder for the exported videos"));
-    m_cancel->setText(tr("Cancel"));
-    m_start->setText(tr("Reframe All"));
+    SetNameTexts(tr("File Name, with %1").arg(OutputNames::Placeholders().join(QStringLiteral(", "))),
+                 tr("What stands in braces is replaced for each file."));
+    SetFolderToolTip(tr("The folder for the exported videos"));
+    SetAcceptText(tr("Reframe All"));
     FillCombos();
-    ShowExample();
+    SaveDialog::RetranslateUi();
 }

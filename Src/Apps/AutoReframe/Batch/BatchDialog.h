@@ -1,22 +1,18 @@
 #pragma once
 
 #include <Apps/AutoReframe/Batch/BatchSettings.h>
-
-#include <KxWidgets/KxFramelessDialog.h>
+#include <Apps/AutoReframe/Dialogs/SaveDialog.h>
 
 #include <QVector>
 
 class KxComboBox;
 class KxLabel;
-class KxLineEdit;
-class KxOpenFileLineEdit;
-class KxPushButton;
 class QCheckBox;
 class QGridLayout;
 class QLayout;
 
 /// Asks what "Reframe All…" is to make of the selected videos.
-class BatchDialog : public KxFramelessDialog
+class BatchDialog : public SaveDialog
 {
     Q_OBJECT
 public:
@@ -27,6 +23,8 @@ public:
     BatchSettings Settings() const;
 
 protected:
+    KxError Problem() const override;
+    QString Example() const override;
     void RetranslateUi() override;
 
 private:
@@ -35,11 +33,6 @@ private:
     QLayout* MakeRatios();
     void Fill(const BatchSettings& settings);
     void FillCombos();
-    /// Shows what will be written, or why nothing can be.
-    void ShowExample();
-    QString Example(const BatchSettings& settings) const;
-    KxError Problem(const BatchSettings& settings) const;
-    void HandleStart();
 
     const QList<BatchVideo> m_videos;
     const OutputNames::Unique::IsTaken m_isTaken;
@@ -50,11 +43,4 @@ private:
     KxComboBox* m_speed = nullptr;
     KxLabel* m_sizeCaption = nullptr;
     KxComboBox* m_size = nullptr;
-    KxLabel* m_patternCaption = nullptr;
-    KxLineEdit* m_pattern = nullptr;
-    KxLabel* m_folderCaption = nullptr;
-    KxOpenFileLineEdit* m_folder = nullptr;
-    KxLabel* m_example = nullptr;
-    KxPushButton* m_start = nullptr;
-    KxPushButton* m_cancel = nullptr;
 };

@@ -1,15 +1,12 @@
 #pragma once
 
-#include <KxWidgets/KxFramelessDialog.h>
+#include <Apps/AutoReframe/Dialogs/SaveDialog.h>
 
 class KxComboBox;
 class KxLabel;
-class KxLineEdit;
-class KxOpenFileLineEdit;
-class KxPushButton;
 
 /// Asks where to save a crop track, and in which format.
-class CropTrackDialog : public KxFramelessDialog
+class CropTrackDialog : public SaveDialog
 {
     Q_OBJECT
 public:
@@ -20,21 +17,10 @@ public:
     QString FilePath() const;
 
 protected:
+    KxError Problem() const override;
     void RetranslateUi() override;
 
 private:
-    void InitUi();
-    void ShowProblem();
-    void HandleSave();
-    QString Folder() const;
-
-    KxLabel* m_nameCaption = nullptr;
-    KxLineEdit* m_name = nullptr;
     KxLabel* m_formatCaption = nullptr;
     KxComboBox* m_format = nullptr;
-    KxLabel* m_folderCaption = nullptr;
-    KxOpenFileLineEdit* m_folder = nullptr;
-    KxLabel* m_problem = nullptr;
-    KxPushButton* m_save = nullptr;
-    KxPushButton* m_cancel = nullptr;
 };
