@@ -1,18 +1,12 @@
 #include <KxEditList/KxFcpxmlText.h>
 
+#include <KxEditList/KxXmlText.h>
+
 #include <QFileInfo>
 #include <QUrl>
-#include <QXmlStreamWriter>
-
-#include <initializer_list>
 
 namespace
 {
-
-struct Attribute {
-    const char* name;
-    QString value;
-};
 
 class Writer
 {
@@ -22,7 +16,6 @@ public:
         , m_keys(keys)
         , m_name(QFileInfo(clip.path).completeBaseName())
         , m_duration(Time(clip.FrameCount()))
-        , m_xml(&m_text)
     {
     }
 
@@ -30,8 +23,6 @@ public:
 
 private:
     QString Time(qint64 frame) const;
-    void Start(const char* name, std::initializer_list<Attribute> attributes = {});
-    void Leaf(const char* name, std::initializer_list<Attribute> attributes);
     void Resources();
     void Format(const QString& id, const QSize& size);
     void Asset();
@@ -44,8 +35,7 @@ private:
     const std::vector<KxPlacementKey>& m_keys;
     QString m_name;
     QString m_duration;
-    QByteArray m_text;
-    QXmlStreamWriter m_xml;
+    KxXmlText m_xml;
 };
 
 QString Writer::Time(qint64 frame) const
@@ -54,81 +44,68 @@ QString Writer::Time(qint64 frame) const
                                         QString::number(m_clip.frameRate.numerator));
 }
 
-void Writer::Start(const char* name, std::initializer_list<Attribute> attributes)
-{
-    m_xml.writeStartElement(QLatin1String(name));
-    for (const Attribute& attribute : attributes) {
-        m_xml.writeAttribute(QLatin1String(attribute.name), attribute.value);
-    }
-}
-
-void Writer::Leaf(const char* name, std::initializer_list<Attribute> attributes)
-{
-    Start(name, attributes);
-    m_xml.writeEndElement();
-}
-
 void Writer::Format(const QString& id, const QSize& size)
 {
-    Leaf("format", {{"id", id},
-                    {"frameDuration", Time(1)},
-                    {"width", QString::number(size.width())},
-                    {"height", QString::number(size.height())}});
+    m_xml.Leaf("format", {{"id", id},
+                          {"frameDuration", Time(1)},
+                          {"width", QString::number(size.width())},
+                          {"height", QString::number(size.height())}});
 }
 
 void Writer::Asset()
 {
-    Start("asset", {{"id", QStringLiteral("r3")},
-                    {"name", m_name},
-                    {"start", QStringLiteral("0s")},
-                    {"duration", m_duration},
-                    {"hasVideo", QStringLiteral("1")},
-                    {"format", QStringLiteral("r1")}});
+    m_xml.Start("asset", {{"id", QStringLiteral("r3")},
+                          {"name", m_name},
+                          {"start", QStringLiteral("0s")},
+                          {"duration", m_duration},
+                          {"hasVideo", QStringLiteral("1")},
+                          {"format", QStringLiteral("r1")}});
     if (m_clip.hasSound) {
-        m_xml.writeAttribute(QStringLiteral("hasAudio"), QStringLiteral("1"));
-        m_xml.writeAttribute(QStringLiteral("audioSources"), QStringLiteral("1"));
+        m_xml.Add({"hasAudio", QStringLiteral("1")});
+        m_xml.Add({"audioSources", QStringLiteral("1")});
     }
     const QUrl url = QUrl::fromLocalFile(QFileInfo(m_clip.path).absoluteFilePath());
-    Leaf("media-rep", {{"kind", QStringLiteral("original-media")}, {"src", QString::fromLatin1(url.toEncoded())}});
-    m_xml.writeEndElement();
+    m_xml.Leaf("media-rep",
+               {{"kind", QStringLiteral("original-media")}, {"src", QString::fromLatin1(url.toEncoded())}});
+    m_xml.End();
 }
 
 void Writer::Resources()
 {
-    Start("resources");
+    m_xml.Start("resources");
     Format(QStringLiteral("r1"), m_clip.size);
     Format(QStringLiteral("r2"), m_clip.outputSize);
     Asset();
-    m_xml.writeEndElement();
+    m_xml.End();
 }
 
 template<typename ValueOf>
 void Writer::Parameter(const QString& name, ValueOf valueOf)
 {
-    Start("param", {{"name", name}});
-    Start("keyframeAnimation");
+    m_xml.Start("param", {{"name", name}});
+    m_xml.Start("keyframeAnimation");
     for (const KxPlacementKey& key : m_keys) {
         const QPointF value = valueOf(key);
-        Leaf("keyframe", {{"time", Time(key.frame)},
-                          {"value", QStringLiteral("%1 %2").arg(QString::number(value.x(), 'f', 8),
-                                                                QString::number(value.y(), 'f', 8))},
-                          {"curve", QStringLiteral("linear")}});
+        m_xml.Leaf("keyframe", {{"time", Time(key.frame)},
+                                {"value", QStringLiteral("%1 %2").arg(QString::number(value.x(), 'f', 8),
+                                                                      QString::number(value.y(), 'f', 8))},
+                                {"curve", QStringLiteral("linear")}});
     }
-    m_xml.writeEndElement();
-    m_xml.writeEndElement();
+    m_xml.End();
+    m_xml.End();
 }
 
 void Writer::Clip()
 {
-    Start("asset-clip", {{"ref", QStringLiteral("r3")},
-                         {"offset", QStringLiteral("0s")},
-                         {"name", m_name},
-                         {"start", QStringLiteral("0s")},
-                         {"duration", m_duration},
-                         {"tcFormat", QStringLiteral("NDF")}});
+    m_xml.Start("asset-clip", {{"ref", QStringLiteral("r3")},
+                               {"offset", QStringLiteral("0s")},
+                               {"name", m_name},
+                               {"start", QStringLiteral("0s")},
+                               {"duration", m_duration},
+                               {"tcFormat", QStringLiteral("NDF")}});
     // The picture's pixels are the project's before the transform.
-    Leaf("adjust-conform", {{"type", QStringLiteral("none")}});
-    Start("adjust-transform");
+    m_xml.Leaf("adjust-conform", {{"type", QStringLiteral("none")}});
+    m_xml.Start("adjust-transform");
     // How far the middle of the picture lies from the middle of the frame, to the right and up, in hundredths of the
     // frame's height.
     const QSizeF frame = m_clip.outputSize;
@@ -141,28 +118,25 @@ void Writer::Clip()
     Parameter(QStringLiteral("scale"), [this](const KxPlacementKey& key) {
         return QPointF(key.place.width() / m_clip.size.width(), key.place.height() / m_clip.size.height());
     });
-    m_xml.writeEndElement();
-    m_xml.writeEndElement();
+    m_xml.End();
+    m_xml.End();
 }
 
 QByteArray Writer::Text()
 {
-    m_xml.setAutoFormatting(true);
-    m_xml.writeStartDocument();
-    m_xml.writeDTD(QStringLiteral("<!DOCTYPE fcpxml>"));
-    Start("fcpxml", {{"version", QStringLiteral("1.10")}});
+    m_xml.DocType(QStringLiteral("<!DOCTYPE fcpxml>"));
+    m_xml.Start("fcpxml", {{"version", QStringLiteral("1.10")}});
     Resources();
-    Start("library");
-    Start("event", {{"name", m_name}});
-    Start("project", {{"name", m_name}});
-    Start("sequence", {{"format", QStringLiteral("r2")},
-                       {"duration", m_duration},
-                       {"tcStart", QStringLiteral("0s")},
-                       {"tcFormat", QStringLiteral("NDF")}});
-    Start("spine");
+    m_xml.Start("library");
+    m_xml.Start("event", {{"name", m_name}});
+    m_xml.Start("project", {{"name", m_name}});
+    m_xml.Start("sequence", {{"format", QStringLiteral("r2")},
+                             {"duration", m_duration},
+                             {"tcStart", QStringLiteral("0s")},
+                             {"tcFormat", QStringLiteral("NDF")}});
+    m_xml.Start("spine");
     Clip();
-    m_xml.writeEndDocument();
-    return m_text;
+    return m_xml.Finish();
 }
 
 } // namespace

@@ -1,7 +1,8 @@
 #include <KxEditList/KxMltText.h>
 
+#include <KxEditList/KxXmlText.h>
+
 #include <QFileInfo>
-#include <QXmlStreamWriter>
 
 namespace
 {
@@ -38,8 +39,6 @@ public:
         , m_keys(keys)
         , m_editor(editor)
         , m_last(QString::number(clip.FrameCount() - 1))
-        , m_length(QString::number(clip.FrameCount()))
-        , m_xml(&m_text)
     {
     }
 
@@ -47,10 +46,12 @@ public:
 
 private:
     void Property(const char* name, const QString& value);
+    /// An element of the whole clip's length.
+    void StartWhole(const char* element, const KxXmlText::Attribute& attribute);
     void Profile();
     void Source();
     void Crop();
-    void Playlist(const QString& id, const QString& producer);
+    void Track();
     void KdenliveBin();
     void Timeline();
 
@@ -58,47 +59,42 @@ private:
     const std::vector<KxPlacementKey>& m_keys;
     KxMltText::Editor m_editor;
     QString m_last;
-    QString m_length;
-    QByteArray m_text;
-    QXmlStreamWriter m_xml;
+    KxXmlText m_xml;
 };
 
 void Writer::Property(const char* name, const QString& value)
 {
-    m_xml.writeStartElement(QStringLiteral("property"));
-    m_xml.writeAttribute(QStringLiteral("name"), QLatin1String(name));
-    m_xml.writeCharacters(value);
-    m_xml.writeEndElement();
+    m_xml.Start("property", {{"name", QLatin1String(name)}});
+    m_xml.Characters(value);
+    m_xml.End();
+}
+
+void Writer::StartWhole(const char* element, const KxXmlText::Attribute& attribute)
+{
+    m_xml.Start(element, {attribute, {"in", QStringLiteral("0")}, {"out", m_last}});
 }
 
 void Writer::Profile()
 {
-    const QSize size = m_clip.outputSize;
-    m_xml.writeStartElement(QStringLiteral("profile"));
-    const QList<std::pair<const char*, int>> numbers{
-        {"width", size.width()},
-        {"height", size.height()},
-        {"frame_rate_num", m_clip.frameRate.numerator},
-        {"frame_rate_den", m_clip.frameRate.denominator},
-        {"sample_aspect_num", 1},
-        {"sample_aspect_den", 1},
-        {"display_aspect_num", size.width()},
-        {"display_aspect_den", size.height()},
-        {"progressive", 1},
-        {"colorspace", m_clip.size.height() < LeastHighDefinitionHeight ? 601 : 709},
-    };
-    for (const auto& [name, number] : numbers) {
-        m_xml.writeAttribute(QLatin1String(name), QString::number(number));
-    }
-    m_xml.writeEndElement();
+    const auto number = [](int value) { return QString::number(value); };
+    const QString width = number(m_clip.outputSize.width());
+    const QString height = number(m_clip.outputSize.height());
+    m_xml.Leaf("profile", {{"width", width},
+                           {"height", height},
+                           {"frame_rate_num", number(m_clip.frameRate.numerator)},
+                           {"frame_rate_den", number(m_clip.frameRate.denominator)},
+                           {"sample_aspect_num", number(1)},
+                           {"sample_aspect_den", number(1)},
+                           {"display_aspect_num", width},
+                           {"display_aspect_den", height},
+                           {"progressive", number(1)},
+                           {"colorspace", number(m_clip.size.height() < LeastHighDefinitionHeight ? 601 : 709)}});
 }
 
 void Writer::Crop()
 {
     const bool isShotcut = m_editor == KxMltText::Editor::Shotcut;
-    m_xml.writeStartElement(QStringLiteral("filter"));
-    m_xml.writeAttribute(QStringLiteral("id"), QStringLiteral("crop"));
-    m_xml.writeAttribute(QStringLiteral("out"), m_last);
+    StartWhole("filter", {"id", QStringLiteral("crop")});
     if (isShotcut) {
         Property("mlt_service", QStringLiteral("affine"));
         Property("shotcut:filter", QStringLiteral("affineSizePosition"));
@@ -115,91 +111,70 @@ void Writer::Crop()
         Property("distort", QStringLiteral("1"));
         Property("rect", Animation(m_keys, WiderPx));
     }
-    m_xml.writeEndElement();
+    m_xml.End();
 }
 
 void Writer::Source()
 {
-    m_xml.writeStartElement(QStringLiteral("producer"));
-    m_xml.writeAttribute(QStringLiteral("id"), QStringLiteral("source"));
-    m_xml.writeAttribute(QStringLiteral("in"), QStringLiteral("0"));
-    m_xml.writeAttribute(QStringLiteral("out"), m_last);
-    Property("length", m_length);
+    StartWhole("producer", {"id", QStringLiteral("source")});
+    Property("length", QString::number(m_clip.FrameCount()));
     Property("eof", QStringLiteral("pause"));
     Property("resource", m_clip.path);
     Property("mlt_service", QStringLiteral("avformat"));
     if (m_editor == KxMltText::Editor::Kdenlive) {
         Property("kdenlive:id", QStringLiteral("2"));
     }
-    m_xml.writeEndElement();
+    m_xml.End();
 }
 
-void Writer::Playlist(const QString& id, const QString& producer)
+void Writer::Track()
 {
-    m_xml.writeStartElement(QStringLiteral("playlist"));
-    m_xml.writeAttribute(QStringLiteral("id"), id);
-    m_xml.writeStartElement(QStringLiteral("entry"));
-    m_xml.writeAttribute(QStringLiteral("producer"), producer);
-    m_xml.writeAttribute(QStringLiteral("in"), QStringLiteral("0"));
-    m_xml.writeAttribute(QStringLiteral("out"), m_last);
+    m_xml.Start("playlist", {{"id", QStringLiteral("video")}});
+    StartWhole("entry", {"producer", QStringLiteral("source")});
     if (m_editor == KxMltText::Editor::Kdenlive) {
         Property("kdenlive:id", QStringLiteral("2"));
     }
     Crop();
-    m_xml.writeEndElement();
-    m_xml.writeEndElement();
+    m_xml.End();
+    m_xml.End();
 }
 
 void Writer::KdenliveBin()
 {
-    m_xml.writeStartElement(QStringLiteral("playlist"));
-    m_xml.writeAttribute(QStringLiteral("id"), QStringLiteral("main_bin"));
+    m_xml.Start("playlist", {{"id", QStringLiteral("main_bin")}});
     Property("kdenlive:docproperties.version", QStringLiteral("1.04"));
     Property("xml_retain", QStringLiteral("1"));
-    m_xml.writeStartElement(QStringLiteral("entry"));
-    m_xml.writeAttribute(QStringLiteral("producer"), QStringLiteral("source"));
-    m_xml.writeAttribute(QStringLiteral("in"), QStringLiteral("0"));
-    m_xml.writeAttribute(QStringLiteral("out"), m_last);
-    m_xml.writeEndElement();
-    m_xml.writeEndElement();
+    StartWhole("entry", {"producer", QStringLiteral("source")});
+    m_xml.End();
+    m_xml.End();
 }
 
 void Writer::Timeline()
 {
-    m_xml.writeStartElement(QStringLiteral("tractor"));
-    m_xml.writeAttribute(QStringLiteral("id"), QStringLiteral("timeline"));
-    m_xml.writeAttribute(QStringLiteral("in"), QStringLiteral("0"));
-    m_xml.writeAttribute(QStringLiteral("out"), m_last);
+    StartWhole("tractor", {"id", QStringLiteral("timeline")});
     if (m_editor == KxMltText::Editor::Shotcut) {
         Property("shotcut", QStringLiteral("1"));
     }
-    m_xml.writeStartElement(QStringLiteral("track"));
-    m_xml.writeAttribute(QStringLiteral("producer"), QStringLiteral("video"));
-    m_xml.writeEndElement();
-    m_xml.writeEndElement();
+    m_xml.Leaf("track", {{"producer", QStringLiteral("video")}});
+    m_xml.End();
 }
 
 QByteArray Writer::Text()
 {
-    m_xml.setAutoFormatting(true);
-    m_xml.writeStartDocument();
-    m_xml.writeStartElement(QStringLiteral("mlt"));
+    const bool isKdenlive = m_editor == KxMltText::Editor::Kdenlive;
     // Numbers have a point whatever the reader's language is.
-    m_xml.writeAttribute(QStringLiteral("LC_NUMERIC"), QStringLiteral("C"));
-    m_xml.writeAttribute(QStringLiteral("version"), QStringLiteral("7.0.0"));
-    m_xml.writeAttribute(QStringLiteral("title"), QFileInfo(m_clip.path).fileName());
-    m_xml.writeAttribute(QStringLiteral("producer"), m_editor == KxMltText::Editor::Kdenlive
-                                                         ? QStringLiteral("main_bin")
-                                                         : QStringLiteral("timeline"));
+    m_xml.Start("mlt", {{"LC_NUMERIC", QStringLiteral("C")},
+                        {"version", QStringLiteral("7.0.0")},
+                        {"title", QFileInfo(m_clip.path).fileName()},
+                        {"producer", isKdenlive ? QStringLiteral("main_bin") : QStringLiteral("timeline")}});
     Profile();
     Source();
-    if (m_editor == KxMltText::Editor::Kdenlive) {
+    if (isKdenlive) {
         KdenliveBin();
     }
-    Playlist(QStringLiteral("video"), QStringLiteral("source"));
+    Track();
     Timeline();
-    m_xml.writeEndDocument();
-    return m_text;
+    return m_xml.Finish();
 }
 
 } // namespace
