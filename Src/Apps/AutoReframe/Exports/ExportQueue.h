@@ -92,6 +92,8 @@ private:
     void Render(ExportItem& item);
     std::function<void(int progress)> MakeProgress(int id);
     void HandleProgress(int id, const std::shared_ptr<Mailbox>& mailbox);
+    /// Forgets the task; null, and the next one has started, if its item was removed.
+    ExportItem* ItemOfEndedTask(int id);
     void HandleCrops(int id, const FoundCrops& found);
     void HandleFinished(int id, const KxRenderResult& result);
     /// The item's task has ended.

@@ -115,12 +115,20 @@ void ExportQueue::HandleProgress(int id, const std::shared_ptr<Mailbox>& mailbox
     Q_EMIT sigChanged(id);
 }
 
-void ExportQueue::HandleCrops(int id, const FoundCrops& found)
+ExportItem* ExportQueue::ItemOfEndedTask(int id)
 {
     m_task.reset();
     ExportItem* const item = Item(id);
     if (item == nullptr) {
         StartNext();
+    }
+    return item;
+}
+
+void ExportQueue::HandleCrops(int id, const FoundCrops& found)
+{
+    ExportItem* const item = ItemOfEndedTask(id);
+    if (item == nullptr) {
         return;
     }
     const bool isWanted = item->state == State::Analyzing;
@@ -140,10 +148,8 @@ void ExportQueue::HandleCrops(int id, const FoundCrops& found)
 
 void ExportQueue::HandleFinished(int id, const KxRenderResult& result)
 {
-    m_task.reset();
-    ExportItem* const item = Item(id);
+    ExportItem* const item = ItemOfEndedTask(id);
     if (item == nullptr) {
-        StartNext();
         return;
     }
     if (result.outcome == KxOutcome::Done) {
