@@ -67,13 +67,7 @@ void ExportKeeper::Restore(const StoredContents& contents)
     for (const StoredExport& stored : contents.exports) {
         ExportItem item;
         item.state = FromStoredState(stored.state);
-        item.request = stored.request;
-        item.plan = stored.plan;
-        item.frames = stored.frames;
-        item.shotsToLookAt = stored.shotsToLookAt;
-        item.filePath = stored.filePath;
-        item.fileBytes = stored.fileBytes;
-        item.message = stored.message;
+        static_cast<ExportJob&>(item) = stored;
         const int id = m_queue.Restore(item);
         m_keys.insert(id, stored.key);
         m_saved.insert(id, {item.state, item.shotsToLookAt});
@@ -87,13 +81,7 @@ StoredExport ExportKeeper::ToStored(int id) const
     StoredExport stored;
     stored.key = m_keys.value(id);
     stored.state = ToStoredState(item->state);
-    stored.request = item->request;
-    stored.plan = item->plan;
-    stored.frames = item->frames;
-    stored.shotsToLookAt = item->shotsToLookAt;
-    stored.filePath = item->filePath;
-    stored.fileBytes = item->fileBytes;
-    stored.message = item->message;
+    static_cast<ExportJob&>(stored) = *item;
     return stored;
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <Apps/AutoReframe/Backend/MediaBackend.h>
+#include <Apps/AutoReframe/Backend/ExportJob.h>
 
 #include <QHash>
 #include <QStringList>
@@ -17,7 +17,7 @@ struct StoredVideo {
 };
 
 /// An export of the queue as it is saved. A plain record.
-struct StoredExport {
+struct StoredExport : ExportJob {
     enum class State {
         Waiting,
         Running,
@@ -30,15 +30,6 @@ struct StoredExport {
     /// Identifies the export in all runs; 0 in none.
     qint64 key = 0;
     State state = State::Waiting;
-    ExportRequest request;
-    /// Set if the crops are found when its turn comes; then `request` has none.
-    std::optional<ReframePlan> plan;
-    qint64 frames = 0;
-    /// First frames, ascending.
-    QList<uint> shotsToLookAt;
-    QString filePath;
-    qint64 fileBytes = 0;
-    QString message;
 };
 
 /// What a run begins with. A plain record.
