@@ -10,8 +10,10 @@
 #include <KxWidgets/Windows/KxMessageResponder.h>
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QDesktopServices>
 #include <QLabel>
+#include <QSet>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QUrl>
@@ -73,6 +75,18 @@ protected:
     bool WaitForStatus(const QString& text) const
     {
         return QTest::qWaitFor([&] { return Text("StatusBar_text") == text; }, 10000);
+    }
+    /// All widgets that the Tab key leads to, from the first button on.
+    QSet<QWidget*> ReachedWithTab() const
+    {
+        QApplication::setActiveWindow(m_window.get());
+        QSet<QWidget*> reached;
+        Button("TopBar_import")->setFocus();
+        while (!reached.contains(QApplication::focusWidget())) {
+            reached.insert(QApplication::focusWidget());
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        }
+        return reached;
     }
     bool WaitUntilUsable() const
     {

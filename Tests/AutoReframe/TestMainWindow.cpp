@@ -338,13 +338,7 @@ TEST_F(TestMainWindow, EveryControlHasANameAndIsReachedWithTab)
     Open({QStringLiteral("a.mp4")});
     ASSERT_TRUE(WaitUntilUsable());
     ExportInDialog(QStringLiteral("out.mp4"));
-    QApplication::setActiveWindow(m_window.get());
-    QSet<QWidget*> reached;
-    Button("TopBar_import")->setFocus();
-    while (!reached.contains(QApplication::focusWidget())) {
-        reached.insert(QApplication::focusWidget());
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-    }
+    const QSet<QWidget*> reached = ReachedWithTab();
     EXPECT_TRUE(reached.contains(View()));
     for (const QAbstractButton* const button : m_window->findChildren<QAbstractButton*>()) {
         EXPECT_FALSE(button->objectName().isEmpty());

@@ -43,6 +43,13 @@ protected:
     {
         return QTest::qWaitFor([&] { return m_backend->finding != nullptr; }, 10000);
     }
+    void FailOne(const QString& message)
+    {
+        ASSERT_TRUE(WaitForFinding());
+        FoundCrops failed;
+        failed.message = message;
+        m_backend->finding->End(failed);
+    }
     void FinishOne(const QList<uint>& doubtfulShots = {})
     {
         ASSERT_TRUE(WaitForFinding());
@@ -67,10 +74,7 @@ TEST_F(TestMainWindowBatch, AllSelectedVideosAreReframedInAllChosenRatios)
     ASSERT_TRUE(WaitForFinding());
     EXPECT_EQ(m_backend->finding->request.plan.aspect, QSize(1, 1));
     FinishOne({40});
-    FoundCrops failed;
-    failed.message = QStringLiteral("Cannot reframe b.mp4: it is too short.");
-    ASSERT_TRUE(WaitForFinding());
-    m_backend->finding->End(failed);
+    FailOne(QStringLiteral("Cannot reframe b.mp4: it is too short."));
     ASSERT_TRUE(WaitForText("QueueBar_text", QStringLiteral("2 of 4 done, 1 failed")));
     FinishOne({40, 90});
     EXPECT_TRUE(WaitForText("QueueBar_text", QStringLiteral("3 done, 1 failed, 2 to look at")));
@@ -217,18 +221,9 @@ TEST_F(TestMainWindowBatch, EveryButtonHasAToolTipAndIsReachedWithTab)
     ASSERT_TRUE(WaitUntilUsable());
     ReframeAll();
     FinishOne({40});
-    FoundCrops failed;
-    failed.message = QStringLiteral("Cannot reframe a.mp4: it is too short.");
-    ASSERT_TRUE(WaitForFinding());
-    m_backend->finding->End(failed);
+    FailOne(QStringLiteral("Cannot reframe a.mp4: it is too short."));
     ASSERT_TRUE(WaitForText("QueueBar_text", QStringLiteral("1 done, 1 failed, 1 to look at")));
-    QApplication::setActiveWindow(m_window.get());
-    QSet<QWidget*> reached;
-    Button("TopBar_import")->setFocus();
-    while (!reached.contains(QApplication::focusWidget())) {
-        reached.insert(QApplication::focusWidget());
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-    }
+    const QSet<QWidget*> reached = ReachedWithTab();
     int links = 0;
     for (QAbstractButton* const button : m_window->findChildren<QAbstractButton*>()) {
         if (button->isVisible() && button->isEnabled()) {

@@ -65,6 +65,13 @@ void ExpectAllFramesNear(const KxCroppedClip& clip, const std::vector<KxPlacemen
     }
 }
 
+void ExpectFewKeysShowEveryFrame(const KxCroppedClip& clip)
+{
+    const std::vector<KxPlacementKey> keys = KxPlacementKeys::Of(clip);
+    ExpectAllFramesNear(clip, keys);
+    EXPECT_LE(keys.size(), clip.crops.size() * 15 / 100);
+}
+
 } // namespace
 
 TEST(KxPlacementKeysTest, TheWholePictureIsPlacedSoThatTheCropFillsTheOutput)
@@ -94,10 +101,7 @@ TEST(KxPlacementKeysTest, CropAndPlaceAreTheSameWindow)
 
 TEST(KxPlacementKeysTest, FewKeysShowEveryFrameWithinTheTolerance)
 {
-    const KxCroppedClip clip = CroppedClips::Pan();
-    const std::vector<KxPlacementKey> keys = KxPlacementKeys::Of(clip);
-    ExpectAllFramesNear(clip, keys);
-    EXPECT_LE(keys.size(), clip.crops.size() * 15 / 100);
+    ExpectFewKeysShowEveryFrame(CroppedClips::Pan());
 }
 
 TEST(KxPlacementKeysTest, AnEvenPanHasItsEndsAlone)
@@ -145,9 +149,7 @@ TEST(KxPlacementKeysTest, AZoomStaysWithinTheToleranceAsWell)
         const double width = 607.5 / 1920.0 * (1.0 - 0.003 * static_cast<double>(frame));
         clip.crops[frame] = QRectF(0.2, 0.1, width, width * 1920.0 * 16.0 / 9.0 / 1080.0);
     }
-    const std::vector<KxPlacementKey> keys = KxPlacementKeys::Of(clip);
-    ExpectAllFramesNear(clip, keys);
-    EXPECT_LE(keys.size(), clip.crops.size() * 15 / 100);
+    ExpectFewKeysShowEveryFrame(clip);
 }
 
 TEST(KxPlacementKeysTest, OneFrameHasOneKey)

@@ -7,7 +7,7 @@ REFRAME is the program, FOOTAGE real footage (Megamind.avi), FORMAT ffscript (re
 melt). Each clip's luma SSIM must reach a mean of 0.995 and 0.99 in every frame, and exceed that of our own video
 shifted by one frame. Exits with 77 if the program that renders is missing.
 """
-import math, os, shutil, subprocess, sys, tempfile
+import json, math, os, shutil, subprocess, sys, tempfile
 
 MEAN, LEAST, CLEARLY = 0.995, 0.99, 0.005
 MISSING = 77
@@ -111,7 +111,8 @@ def check(reframe, footage, name, suffix):
             width, height = height, width
         if name == 'anamorphic':
             width = width * 4 // 3
-        frames = int(run([reframe, '--json', '--no-video', '--models', 'none', source]).stdout.decode().split('"frames":')[-1].split(',')[0])
+        events = run([reframe, '--json', '--no-video', '--models', 'none', source]).stdout.decode().splitlines()
+        frames = json.loads(events[-1])['frames']
         write_track(name + '.csv', frames, crop(min(0.3, 9 / 16 * height / width)))
         more = ['--apply', name + '.csv']
     run([reframe, '--quiet', '--overwrite', '--models', 'none', '--output', video, '--edit-list', edit_list] + more + [source])

@@ -51,6 +51,14 @@ KxSubjectRecord NoddingSpeakers()
     return record;
 }
 
+/// In the half of the interview from `own` on than in the other half.
+void ExpectMoreActivityIn(const KxMouthEvidence& mouth, std::size_t own)
+{
+    const std::size_t other = 250 - own;
+    EXPECT_GT(Mean(mouth.Activity(), own + 10, own + 240), Mean(mouth.Activity(), other + 10, other + 240) + 0.2)
+        << "from " << own;
+}
+
 } // namespace
 
 TEST(KxMouthEvidence, ANodWithTheOwnVoiceDoesNotHideTheMouth)
@@ -60,9 +68,7 @@ TEST(KxMouthEvidence, ANodWithTheOwnVoiceDoesNotHideTheMouth)
     for (const std::size_t person : {0U, 1U}) {
         const KxMouthEvidence mouth(record, Options, sound, 0, {person});
         const std::size_t own = person == 0 ? 0 : 250;
-        EXPECT_GT(Mean(mouth.Activity(), own + 10, own + 240),
-                  Mean(mouth.Activity(), 250 - own + 10, 250 - own + 240) + 0.2)
-            << person;
+        ExpectMoreActivityIn(mouth, own);
         EXPECT_GT(Mean(mouth.Correlation(), own + 10, own + 240), -0.05) << person;
     }
 }
@@ -88,9 +94,7 @@ TEST(KxMouthEvidence, AMouthThatMovesWithTheSoundCorrelates)
         const std::size_t own = person == 0 ? 0 : 250;
         EXPECT_GT(Mean(mouth.Correlation(), own + 10, own + 240), 0.3) << person;
         EXPECT_LT(Mean(mouth.Correlation(), 250 - own + 10, 250 - own + 240), 0.15) << person;
-        EXPECT_GT(Mean(mouth.Activity(), own + 10, own + 240),
-                  Mean(mouth.Activity(), 250 - own + 10, 250 - own + 240) + 0.2)
-            << person;
+        ExpectMoreActivityIn(mouth, own);
     }
 }
 
