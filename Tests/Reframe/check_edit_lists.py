@@ -86,7 +86,14 @@ def similarity(ours, theirs, shift):
     return values
 
 
-def render(source, edit_list, target):
+def frames_of(path):
+    done = subprocess.run(['ffprobe', '-v', 'error', '-select_streams', 'v', '-count_packets', '-show_entries',
+                           'stream=nb_read_packets', '-of', 'csv=p=0', path], stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
+    return int(done.stdout) if done.returncode == 0 else 0
+
+
+def render(source, edit_list, target, reference):
+    """`reference` is our own video of the same frames."""
     lossless = ['libx264', 'veryfast', '0']
     if edit_list.endswith('ffscript'):
         run(['ffmpeg', '-v', 'error', '-y', '-i', source, '-filter_script:v', edit_list, '-an', '-c:v', lossless[0],
@@ -97,7 +104,12 @@ def render(source, edit_list, target):
     if edit_list.endswith('kdenlive'):
         # Its filter needs a display.
         command = ['xvfb-run', '--auto-servernum'] + command
-    run(command)
+    # On a busy machine melt ends now and then, with success, before it has written anything.
+    for _ in range(3):
+        run(command)
+        if frames_of(target) == frames_of(reference):
+            return
+    sys.exit('%s: melt wrote %s of %s frames' % (edit_list, frames_of(target), frames_of(reference)))
 
 
 def check(reframe, footage, name, suffix):
@@ -116,7 +128,7 @@ def check(reframe, footage, name, suffix):
         write_track(name + '.csv', frames, crop(min(0.3, 9 / 16 * height / width)))
         more = ['--apply', name + '.csv']
     run([reframe, '--quiet', '--overwrite', '--models', 'none', '--output', video, '--edit-list', edit_list] + more + [source])
-    render(source, edit_list, rendered)
+    render(source, edit_list, rendered, video)
     right, late = similarity(video, rendered, 0), similarity(video, rendered, 1)
     mean, shifted = sum(right) / len(right), sum(late) / len(late)
     good = mean >= MEAN and min(right) >= LEAST and mean > shifted + CLEARLY
