@@ -133,6 +133,19 @@ protected:
 
 } // namespace
 
+TEST_F(TestRestoredWindow, TheLibraryIsNotReadForAnEmptyListOfFiles)
+{
+    {
+        MediaBackendLoader loader(
+            [] { return KxResult<std::shared_ptr<MediaBackend>>(std::make_shared<FakeMediaBackend>()); }, nullptr);
+        LibraryStore store(Data(), nullptr);
+        MainWindow window(loader, store);
+        window.Open({});
+    }
+
+    EXPECT_FALSE(QFileInfo::exists(Data()));
+}
+
 TEST_F(TestRestoredWindow, TheHintOfTheExportsDoesNotFlashBeforeTheyAreRestored)
 {
     LibraryStore store(Data(), nullptr);

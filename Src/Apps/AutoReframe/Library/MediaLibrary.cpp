@@ -86,6 +86,9 @@ void MediaLibrary::Restore(const StoredContents& contents)
 
 void MediaLibrary::Import(const QStringList& paths)
 {
+    if (paths.isEmpty()) {
+        return;
+    }
     if (!m_isRestored) {
         m_waiting += paths;
         m_store.Open();
