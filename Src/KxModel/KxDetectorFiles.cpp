@@ -4,10 +4,14 @@
 
 #include <QCoreApplication>
 #include <QCryptographicHash>
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QHash>
 #include <QStandardPaths>
+
+#include <mutex>
 
 namespace
 {
@@ -119,6 +123,39 @@ QString DetectorProblem(const QString& path, const QString& reason)
     return QStringLiteral("Cannot use the detector %1: %2.").arg(path, reason);
 }
 
+/// The checksums of the networks that were read before: hashing takes longer than all else that a decision on a known
+/// video does.
+class KnownChecksums
+{
+public:
+    QByteArray Of(const QFileInfo& file, const QByteArray& contents)
+    {
+        const Entry entry{file.size(), file.lastModified(), {}};
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        Entry& known = m_entries[file.absoluteFilePath()];
+        if (known.checksum.isEmpty() || known.bytes != entry.bytes || known.modified != entry.modified) {
+            known = entry;
+            known.checksum = QCryptographicHash::hash(contents, QCryptographicHash::Sha256).toHex();
+        }
+        const QByteArray checksum = known.checksum;
+        // A second change within the resolution of a file's time would go unnoticed.
+        constexpr qint64 settledMs = 3000;
+        if (known.modified.msecsTo(QDateTime::currentDateTime()) < settledMs) {
+            m_entries.remove(file.absoluteFilePath());
+        }
+        return checksum;
+    }
+
+private:
+    struct Entry {
+        qint64 bytes = 0;
+        QDateTime modified;
+        QByteArray checksum;
+    };
+    std::mutex m_mutex;
+    QHash<QString, Entry> m_entries; ///< guarded by the mutex
+};
+
 struct Network {
     std::string contents;
     KxUsedModel file;
@@ -134,7 +171,8 @@ Network ReadNetwork(const QString& folder, const QString& name, QStringList& pro
     }
     QString reason = ReasonNotToRead(file);
     const QByteArray contents = reason.isEmpty() ? ContentsOf(path) : QByteArray();
-    const QByteArray checksum = QCryptographicHash::hash(contents, QCryptographicHash::Sha256).toHex();
+    static KnownChecksums checksums;
+    const QByteArray checksum = checksums.Of(file, contents);
     if (reason.isEmpty()) {
         reason = ChecksumProblem(folder, name, checksum);
     }

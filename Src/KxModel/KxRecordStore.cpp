@@ -119,11 +119,18 @@ QByteArray KxRecordStore::KeyOf(const QString& videoPath, const KxSubjectModels&
     QCryptographicHash hash(QCryptographicHash::Sha256);
     hash.addData(QByteArray::number(KxSubjectRecordFormat::Version) + ' ' + QByteArray::number(file.size()));
     AddContent(hash, file);
-    for (const std::string* model :
-         {&models.faces.frontalCascade, &models.faces.profileCascade, &models.faces.detector, &models.objectDetector}) {
-        hash.addData(QByteArray::number(static_cast<qint64>(model->size())) + ' ');
-        hash.addData(model->data(), static_cast<int>(model->size()));
-    }
+    const auto add = [&hash](const std::string& text) {
+        hash.addData(QByteArray::number(static_cast<qint64>(text.size())) + ' ');
+        hash.addData(text.data(), static_cast<int>(text.size()));
+    };
+    // The networks are large, and their checksums are usually known.
+    const auto addNetwork = [&add](const std::string& contents, const KxUsedModel& network) {
+        add(network.sha256.empty() ? contents : network.sha256);
+    };
+    add(models.faces.frontalCascade);
+    add(models.faces.profileCascade);
+    addNetwork(models.faces.detector, models.faces.detectorFile);
+    addNetwork(models.objectDetector, models.objectDetectorFile);
     return hash.result().toHex();
 }
 

@@ -1,6 +1,7 @@
 #include <KxModel/KxDetectorFiles.h>
 
 #include <QCoreApplication>
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -207,4 +208,29 @@ TEST_F(KxDetectorFilesTest, ADamagedNetworkIsNotUsed)
     EXPECT_EQ(contents.problems, QStringList(ProblemWith(ObjectDetector, QStringLiteral("it is damaged (SHA256SUMS has "
                                                                                         "another checksum)"))));
     EXPECT_TRUE(contents.models.objectDetector.empty());
+}
+
+TEST_F(KxDetectorFilesTest, ANetworkThatWasReplacedIsCheckedAgain)
+{
+    const auto settle = [this](int daysAgo) {
+        QFile file(Path(ObjectDetector));
+        ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+        ASSERT_TRUE(
+            file.setFileTime(QDateTime::currentDateTime().addDays(-daysAgo), QFileDevice::FileModificationTime));
+    };
+    WriteFile(Path(QStringLiteral("SHA256SUMS")),
+              "ba7816bf8f01cfea414140de5dae2223b00361a396177a9cb410ff61f20015ad  nanodet-g.onnx\n");
+    WriteFile(Path(ObjectDetector), "abc");
+    settle(2);
+    EXPECT_TRUE(Problems().isEmpty());
+    EXPECT_TRUE(Problems().isEmpty()) << "its checksum is known now";
+    WriteFile(Path(ObjectDetector), "abd");
+    settle(1);
+    EXPECT_EQ(Problems().size(), 1) << "another time";
+    WriteFile(Path(ObjectDetector), "abcd");
+    settle(1);
+    EXPECT_EQ(Problems().size(), 1) << "another size";
+    WriteFile(Path(ObjectDetector), "abc");
+    settle(1);
+    EXPECT_TRUE(Problems().isEmpty());
 }

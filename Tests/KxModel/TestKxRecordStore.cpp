@@ -168,6 +168,9 @@ TEST_F(KxRecordStoreTest, TheKeyFollowsTheContentAndTheModels)
     const QString clip = Write("clip", content);
     EXPECT_NE(KxRecordStore::KeyOf(clip, {{"cascade", "profile", ""}, ""}), key);
     EXPECT_NE(KxRecordStore::KeyOf(clip, {{"cascade", "", "profile"}, "network"}), key);
+    EXPECT_NE(KxRecordStore::KeyOf(clip, {{"cascade", "", ""}, "network", {"file", "checksum"}}), key);
+    EXPECT_EQ(KxRecordStore::KeyOf(clip, {{"cascade", "", ""}, "network", {"file", "checksum"}}),
+              KxRecordStore::KeyOf(clip, {{"cascade", "", ""}, "", {"renamed", "checksum"}}));
     EXPECT_TRUE(KxRecordStore::KeyOf(m_folder.filePath(QStringLiteral("missing")), models).isEmpty());
     EXPECT_FALSE(KxRecordStore::KeyOf(Write("empty", {}), models).isEmpty());
 }
