@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <limits>
 #include <vector>
 
@@ -31,6 +32,12 @@ enum class KxChoiceKind {
     Automatic ///< the analysis decides; takes back earlier choices
 };
 
+/// What the video looks like at one time of a choice.
+struct KxChoicePicture {
+    double seconds = 0.0;    ///< since the first picture
+    std::uint64_t print = 0; ///< as of KxPrintOf
+};
+
 /// What a person decided for a range of time. Follow and Avoid apply to those shots in the range that contain a seed,
 /// the others to the whole range.
 struct KxSubjectChoice {
@@ -41,6 +48,8 @@ struct KxSubjectChoice {
     double centreX = 0.5;             ///< Hold
     double centreY = 0.5;             ///< Hold
     std::vector<KxSubjectBox> boxes;  ///< Fit
+    /// By which KxPlaceChoices finds the choice again in a file that was cut differently; may be empty.
+    std::vector<KxChoicePicture> pictures;
 };
 
 /// Where two overlap, the later one applies; an Avoid leaves what it overlaps in force.
@@ -56,10 +65,15 @@ inline bool operator==(const KxSubjectSeed& a, const KxSubjectSeed& b)
     return a.seconds == b.seconds && a.box == b.box && a.extent == b.extent;
 }
 
+inline bool operator==(const KxChoicePicture& a, const KxChoicePicture& b)
+{
+    return a.seconds == b.seconds && a.print == b.print;
+}
+
 inline bool operator==(const KxSubjectChoice& a, const KxSubjectChoice& b)
 {
     return a.kind == b.kind && a.fromSeconds == b.fromSeconds && a.toSeconds == b.toSeconds && a.seeds == b.seeds &&
-           a.centreX == b.centreX && a.centreY == b.centreY && a.boxes == b.boxes;
+           a.centreX == b.centreX && a.centreY == b.centreY && a.boxes == b.boxes && a.pictures == b.pictures;
 }
 
 inline bool operator!=(const KxSubjectChoice& a, const KxSubjectChoice& b)

@@ -53,11 +53,14 @@ public:
     KxSubjectRecord Finish();
 
 private:
+    void AddPrint(std::int64_t frame, const KxPictureView& picture);
+
     KxSubjectSampling m_sampling;
     std::array<KxUsedModel, 2> m_models; ///< of objects and faces; without a name: none
     KxShotDetector m_shots;
     KxSignalRecorder m_signals;
     KxMouthTracks m_mouths;
+    std::vector<KxPicturePrint> m_prints;
     std::optional<std::int64_t> m_lastFrame;
 };
 
@@ -68,6 +71,7 @@ void KxSubjectObserver::Impl::AddPicture(std::int64_t frame, const KxPictureView
     }
     const bool isSample = m_sampling.IsSample(frame, m_lastFrame);
     m_lastFrame = frame;
+    AddPrint(frame, shot);
     try {
         m_shots.AddPicture(frame, MatOf(shot));
         if (whole.data != nullptr) {
@@ -81,11 +85,19 @@ void KxSubjectObserver::Impl::AddPicture(std::int64_t frame, const KxPictureView
     }
 }
 
+void KxSubjectObserver::Impl::AddPrint(std::int64_t frame, const KxPictureView& picture)
+{
+    const std::uint64_t bits = KxPrintOf(picture);
+    m_prints.push_back(
+        {static_cast<std::int32_t>(frame), static_cast<std::uint32_t>(bits >> 32U), static_cast<std::uint32_t>(bits)});
+}
+
 KxSubjectRecord KxSubjectObserver::Impl::Finish()
 {
     KxSubjectRecord record;
     record.boundaries = m_shots.Boundaries(m_sampling.Source().frameRate);
     record.mouths = m_mouths.Finish(m_signals.Faces());
+    record.prints = std::move(m_prints);
     m_signals.Finish(record);
     record.source = m_sampling.Source();
     record.workingSizePx = WorkingSize();

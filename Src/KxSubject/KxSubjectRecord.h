@@ -5,6 +5,7 @@
 #include <KxSubject/KxCropRect.h>
 #include <KxSubject/KxDetection.h>
 #include <KxSubject/KxIntSize.h>
+#include <KxSubject/KxPicturePrint.h>
 #include <KxSubject/KxShotBoundary.h>
 #include <KxSubject/KxSignalProfile.h>
 #include <KxSubject/KxSubjectSource.h>
@@ -99,6 +100,7 @@ struct KXSUBJECT_API KxSubjectRecord {
     KxIntSize workingSizePx;                ///< of the pictures that were measured
     KxCropRect content{0.0, 0.0, 1.0, 1.0}; ///< what is not bars, in fractions of the picture
     std::vector<KxShotBoundary> boundaries; ///< growing by frame
+    std::vector<KxPicturePrint> prints;     ///< of all pictures that were looked at, growing by frame
     std::vector<KxSignalSample> samples;    ///< growing by frame
     std::vector<KxMover> movers;            ///< growing by first sample
     std::vector<KxFaceTrack> faces;

@@ -70,6 +70,12 @@ public:
         Put(boundary.last);
         Put(static_cast<std::uint8_t>(boundary.kind));
     }
+    void PutItem(const KxPicturePrint& print)
+    {
+        Put(print.frame);
+        Put(print.upper);
+        Put(print.lower);
+    }
     void PutItem(const KxPackedProfile& profile)
     {
         Put(profile.LargestGroup());
@@ -215,6 +221,12 @@ public:
         Get(kind);
         Require(kind <= static_cast<std::uint8_t>(KxShotBoundaryKind::Fade));
         boundary.kind = static_cast<KxShotBoundaryKind>(kind);
+    }
+    void GetItem(KxPicturePrint& print)
+    {
+        Get(print.frame);
+        Get(print.upper);
+        Get(print.lower);
     }
     void GetItem(KxPackedProfile& profile)
     {
@@ -389,7 +401,8 @@ bool IsConsistent(const KxSubjectRecord& record)
         }
         last = boundary.frame;
     }
-    if (!GrowsInside(record.samples, record.source) || !GrowsInside(record.looks, record.source)) {
+    if (!GrowsInside(record.prints, record.source) || !GrowsInside(record.samples, record.source) ||
+        !GrowsInside(record.looks, record.source)) {
         return false;
     }
     std::int64_t firstSample = 0;
@@ -419,6 +432,7 @@ std::string KxSubjectRecordFormat::Write(const KxSubjectRecord& record)
     writer.Put(static_cast<std::int32_t>(record.workingSizePx.height));
     writer.PutRect(record.content);
     writer.PutAll(record.boundaries);
+    writer.PutAll(record.prints);
     writer.PutAll(record.samples);
     writer.PutAll(record.movers);
     writer.PutAll(record.faces);
@@ -460,6 +474,7 @@ std::optional<KxSubjectRecord> KxSubjectRecordFormat::Read(const std::string& by
     reader.Require(IsPossible(record.source, record.workingSizePx));
     reader.GetRect(record.content);
     constexpr std::size_t boundaryBytes = 25;
+    constexpr std::size_t printBytes = 12;
     constexpr std::size_t sampleBytes = 116;
     constexpr std::size_t leastMoverBytes = 24;
     constexpr std::size_t leastFaceBytes = 20;
@@ -468,6 +483,7 @@ std::optional<KxSubjectRecord> KxSubjectRecordFormat::Read(const std::string& by
     constexpr std::size_t leastSoundBytes = 18;
     constexpr std::size_t leastModelBytes = 2;
     reader.GetAll(record.boundaries, boundaryBytes);
+    reader.GetAll(record.prints, printBytes);
     reader.GetAll(record.samples, sampleBytes);
     reader.GetAll(record.movers, leastMoverBytes);
     reader.GetAll(record.faces, leastFaceBytes);

@@ -22,6 +22,7 @@ KxSubjectRecord Record()
     record.workingSizePx = {320, 180};
     record.content = {0.0, 0.125, 1.0, 0.75};
     record.boundaries = {{30, 30, 30, KxShotBoundaryKind::Cut}, {60, 55, 66, KxShotBoundaryKind::Dissolve}};
+    record.prints = {{0, 1, 2}, {60, 0xFFFFFFFFU, 0}};
     for (int i = 0; i < 40; ++i) {
         record.samples.push_back({2 * i, {Profile(1), Profile(2)}, {Profile(3), Profile(i % 8)}});
     }
@@ -55,6 +56,7 @@ TEST(KxSubjectRecordFormat, ARecordComesBackAsItWasWritten)
     EXPECT_EQ(read->boundaries[1].last, 66);
     EXPECT_EQ(read->boundaries[1].kind, KxShotBoundaryKind::Dissolve);
     EXPECT_EQ(read->samples[5].saliency[1].Unpacked().share, written.samples[5].saliency[1].Unpacked().share);
+    EXPECT_EQ(read->prints[1].Bits(), 0xFFFFFFFF00000000U);
     EXPECT_EQ(read->samples[39].frame, 78);
     EXPECT_EQ(read->movers[0].travel, 0.2F);
     EXPECT_EQ(read->movers[1].boxes, written.movers[1].boxes);
@@ -113,6 +115,7 @@ TEST(KxSubjectRecordFormat, WhatNoObserverSeesIsRefused)
         [](KxSubjectRecord& record) { record.boundaries[0].frame = 0; },
         [](KxSubjectRecord& record) { record.boundaries[1].first = 67; },
         [](KxSubjectRecord& record) { record.boundaries[1].kind = static_cast<KxShotBoundaryKind>(3); },
+        [](KxSubjectRecord& record) { record.prints[1].frame = 0; },
         [](KxSubjectRecord& record) { record.samples[7].frame = record.samples[6].frame; },
         [](KxSubjectRecord& record) { record.samples[0].frame = -1; },
         [=](KxSubjectRecord& record) { record.samples[0].motion[0] = KxPackedProfile(infinity, {}); },
