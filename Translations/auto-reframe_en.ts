@@ -9,6 +9,23 @@
     </message>
 </context>
 <context>
+    <name>KrDialogExtension</name>
+    <message numerus="yes">
+        <source>%n choices are kept, but not in this cut of the video</source>
+        <translation>
+            <numerusform>%n choice is kept, but not in this cut of the video</numerusform>
+            <numerusform>%n choices are kept, but not in this cut of the video</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n choices were moved to where their pictures are</source>
+        <translation>
+            <numerusform>%n choice was moved to where its pictures are</numerusform>
+            <numerusform>%n choices were moved to where their pictures are</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>KrDoubtfulShots</name>
     <message numerus="yes">
         <source>%1 of %n shots to look at</source>

@@ -231,9 +231,19 @@ void KxAutoReframeService::SetChoices(const QList<KxAutoReframeChoice>& choices)
     SetChoices(KxChoiceRecords::ToSubject(choices));
 }
 
-QByteArray KxAutoReframeService::WriteChoices(const QList<KxAutoReframeChoice>& choices) const
+QByteArray KxAutoReframeService::WriteChoices(const QString& path, const QList<KxAutoReframeChoice>& choices) const
 {
-    return KxChoicesFormat::Write(KxChoiceRecords::ToSubject(choices));
+    KxSubjectChoices written = KxChoiceRecords::ToSubject(choices);
+    if (const std::shared_ptr<const KxSubjectRecord> record = RecordOf(path)) {
+        written = KxDescribeChoices(*record, std::move(written));
+    }
+    return KxChoicesFormat::Write(written);
+}
+
+std::shared_ptr<const KxSubjectRecord> KxAutoReframeService::RecordOf(const QString& path) const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return path == m_resultPath ? m_result.record : nullptr;
 }
 
 QList<KxAutoReframeChoice> KxAutoReframeService::ReadChoices(const QByteArray& text) const
@@ -262,6 +272,13 @@ QList<KxAutoReframeLoss> KxAutoReframeService::GetLosses(const QString& path) co
     const std::lock_guard<std::mutex> lock(m_mutex);
     const bool hasResults = m_result.outcome == KxOutcome::Done && path == m_resultPath;
     return hasResults ? m_result.losses : QList<KxAutoReframeLoss>();
+}
+
+QList<KxAutoReframeChoice> KxAutoReframeService::GetPlacedChoices(const QString& path) const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    const bool hasResults = m_result.outcome == KxOutcome::Done && path == m_resultPath;
+    return hasResults ? KxChoiceRecords::FromPlaced(m_result.choices) : QList<KxAutoReframeChoice>();
 }
 
 QList<IKxAutoReframeResult> KxAutoReframeService::Decide(const QString& path, const IKxAutoReframeParam& param) const
@@ -337,6 +354,20 @@ QStringList KxAutoReframeService::LastWarnings() const
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     return m_result.warnings;
+}
+
+QByteArray KxAutoReframeService::LastChoices() const
+{
+    KxSubjectChoices choices;
+    std::shared_ptr<const KxSubjectRecord> record;
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        for (const KxPlacedChoice& placed : m_result.choices) {
+            choices.push_back(placed.choice);
+        }
+        record = m_result.record;
+    }
+    return KxChoicesFormat::Write(record ? KxDescribeChoices(*record, std::move(choices)) : choices);
 }
 
 std::vector<KxUsedModel> KxAutoReframeService::LastModels() const

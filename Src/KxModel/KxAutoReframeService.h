@@ -57,10 +57,11 @@ public:
     bool IsKnown(const QString& path) const override;
 
     void SetChoices(const QList<KxAutoReframeChoice>& choices) override;
-    QByteArray WriteChoices(const QList<KxAutoReframeChoice>& choices) const override;
+    QByteArray WriteChoices(const QString& path, const QList<KxAutoReframeChoice>& choices) const override;
     QList<KxAutoReframeChoice> ReadChoices(const QByteArray& text) const override;
     KxAutoReframeGuess GuessBox(const QString& path, qint64 frame, const QPointF& point) const override;
     QList<KxAutoReframeLoss> GetLosses(const QString& path) const override;
+    QList<KxAutoReframeChoice> GetPlacedChoices(const QString& path) const override;
 
     QList<IKxAutoReframeResult> Decide(const QString& path, const IKxAutoReframeParam& param) const override;
 
@@ -95,6 +96,9 @@ public:
     QString LastErrorMessage() const;
     /// The neural networks that the results of the last finished task depend on. Any thread.
     std::vector<KxUsedModel> LastModels() const;
+    /// The choices of the last finished task as text (KxChoicesFormat): where their pictures are, and what these look
+    /// like. Any thread.
+    QByteArray LastChoices() const;
     /// What a person should know about the last finished task. Any thread.
     QStringList LastWarnings() const;
 
@@ -108,6 +112,8 @@ private:
     };
 
     bool Start(const QString& path, const IKxAutoReframeParam& param);
+    /// Of the last task, if it was for this file and succeeded; otherwise null.
+    std::shared_ptr<const KxSubjectRecord> RecordOf(const QString& path) const;
     void RunTask(Task& task);
     void Analyse(Task& task);
     /// Keeps the result and reports the end, unless the task was stopped.

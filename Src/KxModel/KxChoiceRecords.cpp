@@ -44,6 +44,9 @@ KxSubjectChoices KxChoiceRecords::ToSubject(const QList<KxAutoReframeChoice>& ch
         for (const KxAutoReframeChoice::Seed& seed : choice.seeds) {
             converted.seeds.push_back(::ToSubject(seed));
         }
+        for (const KxAutoReframeChoice::Picture& picture : choice.pictures) {
+            converted.pictures.push_back({picture.seconds, picture.print});
+        }
         result.push_back(converted);
     }
     return result;
@@ -63,7 +66,23 @@ QList<KxAutoReframeChoice> KxChoiceRecords::FromSubject(const KxSubjectChoices& 
         for (const KxSubjectSeed& seed : choice.seeds) {
             converted.seeds.append(::FromSubject(seed));
         }
+        for (const KxChoicePicture& picture : choice.pictures) {
+            converted.pictures.append({picture.seconds, picture.print});
+        }
         result.append(converted);
+    }
+    return result;
+}
+
+QList<KxAutoReframeChoice> KxChoiceRecords::FromPlaced(const std::vector<KxPlacedChoice>& placed)
+{
+    KxSubjectChoices choices;
+    for (const KxPlacedChoice& choice : placed) {
+        choices.push_back(choice.choice);
+    }
+    QList<KxAutoReframeChoice> result = FromSubject(choices);
+    for (int i = 0; i < result.size(); ++i) {
+        result[i].isFound = placed[static_cast<std::size_t>(i)].place != KxPlacedChoice::Place::Missing;
     }
     return result;
 }

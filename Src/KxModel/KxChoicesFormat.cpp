@@ -7,7 +7,9 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QLocale>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <optional>
@@ -27,6 +29,8 @@ constexpr std::array<KindName, 5> KindNames{{{KxChoiceKind::Follow, "follow"},
 
 /// Ten thousand hours.
 constexpr double LongestSeconds = 3.6e7;
+/// Of a picture's print, hexadecimal.
+constexpr int PrintDigits = 16;
 /// How far a box may reach out of the picture, in pictures: something that is half outside has its whole box.
 constexpr double FarthestOutside = 1.0;
 
@@ -72,6 +76,14 @@ QJsonObject JsonOf(const KxSubjectChoice& choice)
     if (!boxes.isEmpty()) {
         json.insert(QStringLiteral("boxes"), boxes);
     }
+    QJsonObject pictures;
+    for (const KxChoicePicture& picture : choice.pictures) {
+        pictures.insert(QString::number(picture.seconds, 'g', QLocale::FloatingPointShortest),
+                        QStringLiteral("%1").arg(picture.print, PrintDigits, 16, QLatin1Char('0')));
+    }
+    if (!pictures.isEmpty()) {
+        json.insert(QStringLiteral("pictures"), pictures);
+    }
     return json;
 }
 
@@ -90,6 +102,7 @@ private:
     KxSubjectChoice ReadChoice(const QJsonValue& value);
     void ReadSeeds(const QJsonObject& json, KxSubjectChoice& choice);
     void ReadBoxes(const QJsonObject& json, KxSubjectChoice& choice);
+    void ReadPictures(const QJsonValue& value, KxSubjectChoice& choice);
     std::optional<KxSubjectBox> BoxOf(const QJsonValue& value);
     std::optional<double> TimeOf(const QJsonValue& value, const QString& what);
     /// Of a member that must be a list, if it is there.
@@ -102,6 +115,7 @@ private:
 
     QString m_name;
     int m_choice = 0; ///< counted from 1
+    double m_earliestSeconds = 0.0;
     int m_seedsAndBoxes = 0;
     KxError m_problem;
 };
@@ -115,8 +129,8 @@ void Reader::Refuse(const QString& reason)
 
 std::optional<double> Reader::TimeOf(const QJsonValue& value, const QString& what)
 {
-    const double seconds = value.toDouble(-1.0);
-    if (value.isDouble() && seconds >= 0.0 && seconds <= LongestSeconds) {
+    const double seconds = value.toDouble();
+    if (value.isDouble() && seconds >= m_earliestSeconds && seconds <= LongestSeconds) {
         return seconds;
     }
     RefuseChoice(QStringLiteral("has no valid time (\"%1\"), in seconds").arg(what));
@@ -186,6 +200,31 @@ void Reader::ReadBoxes(const QJsonObject& json, KxSubjectChoice& choice)
     }
 }
 
+void Reader::ReadPictures(const QJsonValue& value, KxSubjectChoice& choice)
+{
+    const QJsonObject pictures = value.toObject();
+    if (pictures.size() > KxChoicesFormat::MostPictures) {
+        RefuseChoice(
+            QStringLiteral("has more than %1 \"pictures\"").arg(QString::number(KxChoicesFormat::MostPictures)));
+        return;
+    }
+    bool isOk = value.isObject() || value.isUndefined();
+    for (auto picture = pictures.begin(); isOk && picture != pictures.end(); ++picture) {
+        bool isTime = false;
+        bool isPrint = false;
+        const double seconds = picture.key().toDouble(&isTime);
+        const QString print = picture.value().toString();
+        choice.pictures.push_back({seconds, print.toULongLong(&isPrint, 16)});
+        isOk = isTime && isPrint && print.size() == PrintDigits && std::abs(seconds) <= LongestSeconds;
+    }
+    if (!isOk) {
+        RefuseChoice(QStringLiteral("has \"pictures\" that are not times with 16 hexadecimal digits"));
+    }
+    // The members of an object are in the order of their letters.
+    std::sort(choice.pictures.begin(), choice.pictures.end(),
+              [](const KxChoicePicture& a, const KxChoicePicture& b) { return a.seconds < b.seconds; });
+}
+
 KxSubjectChoice Reader::ReadChoice(const QJsonValue& value)
 {
     KxSubjectChoice choice;
@@ -202,6 +241,9 @@ KxSubjectChoice Reader::ReadChoice(const QJsonValue& value)
         RefuseChoice(QStringLiteral("has no known \"kind\"; it is follow, avoid, hold, fit or automatic"));
         return choice;
     }
+    ReadPictures(json.value(QLatin1String("pictures")), choice);
+    // A part of it may have been cut away since; its pictures say that this is no mistake.
+    m_earliestSeconds = choice.pictures.empty() ? 0.0 : -LongestSeconds;
     if (json.contains(QLatin1String("from"))) {
         choice.fromSeconds = TimeOf(json.value(QLatin1String("from")), QStringLiteral("from")).value_or(0.0);
     }

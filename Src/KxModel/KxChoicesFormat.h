@@ -13,9 +13,10 @@
 namespace KxChoicesFormat
 {
 constexpr int Version = 1;
-constexpr int MostBytes = 1024 * 1024;
+constexpr int MostBytes = 4 * 1024 * 1024;
 constexpr int MostChoices = 1000;
-constexpr int MostSeeds = 1000; ///< and boxes, in all choices of a text
+constexpr int MostSeeds = 1000;   ///< and boxes, in all choices of a text
+constexpr int MostPictures = 100; ///< in each choice
 
 KXMODEL_API QByteArray Write(const KxSubjectChoices& choices);
 

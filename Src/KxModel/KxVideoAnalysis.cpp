@@ -19,6 +19,7 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <cmath>
 
 namespace
 {
@@ -42,7 +43,7 @@ KxSubjectRequest RequestFor(const IKxAutoReframeParam& param, const KxAnalysisSe
             param.targetSize().height(),
             SpeedOfMode(param.mode()),
             wantsFindings,
-            settings.choices,
+            {},
             {},
             settings.followsSpeaker ? KxSpeakerMode::Auto : KxSpeakerMode::Off};
 }
@@ -82,6 +83,24 @@ QList<KxAutoReframeShot> ShotsOf(const KxSubjectFindings& findings)
         shots.append({shot.first, shot.end, static_cast<double>(shot.confidence), DoubtOf(shot)});
     }
     return shots;
+}
+
+QStringList PlacementWarnings(const std::vector<KxPlacedChoice>& placed, const QString& name)
+{
+    QStringList warnings;
+    for (std::size_t i = 0; i < placed.size(); ++i) {
+        const QString number = QString::number(i + 1);
+        if (placed[i].place == KxPlacedChoice::Place::Moved) {
+            const QString text =
+                placed[i].movedSeconds < 0.0
+                    ? QStringLiteral("Choice %1 is applied %2 s earlier, where its pictures are in %3.")
+                    : QStringLiteral("Choice %1 is applied %2 s later, where its pictures are in %3.");
+            warnings += text.arg(number, QString::number(std::abs(placed[i].movedSeconds), 'f', 2), name);
+        } else if (placed[i].place == KxPlacedChoice::Place::Missing) {
+            warnings += QStringLiteral("Choice %1 is not applied: its pictures are not in %2.").arg(number, name);
+        }
+    }
+    return warnings;
 }
 
 } // namespace
@@ -250,6 +269,9 @@ KxAnalysis::Result KxVideoAnalysis::Run(const std::function<void(int percent)>& 
     }
     m_scanner.reset();
     KxSubjectRequest request = RequestFor(m_param, m_settings);
+    result.choices = KxPlaceChoices(*record, m_settings.choices);
+    result.warnings += PlacementWarnings(result.choices, QFileInfo(m_path).fileName());
+    request.choices = KxChoicesInside(*record, result.choices);
     if (follows && !Follow(
                        *record, key, request,
                        [&](int percent) { report(observing + percent * (100 - observing) / 100); }, result)) {
@@ -262,6 +284,7 @@ KxAnalysis::Result KxVideoAnalysis::Run(const std::function<void(int percent)>& 
     }
     result.crops = ResultsOf(decision.crops);
     result.models = record->models;
+    result.record = record;
     decision.crops = {};
     if (m_settings.wantsShots) {
         result.shots = ShotsOf(decision.findings);

@@ -7,9 +7,9 @@
 
 #include <KxCore/KxCancelToken.h>
 #include <KxCore/KxResult.h>
-#include <KxSubject/KxUsedModel.h>
-
+#include <KxSubject/Choice/KxChoicePlacement.h>
 #include <KxSubject/KxSubjectChoices.h>
+#include <KxSubject/KxUsedModel.h>
 
 #include <QList>
 #include <QStringList>
@@ -39,6 +39,8 @@ public:
         std::shared_ptr<const KxSubjectFindings> findings; ///< null unless Done and wanted
         QList<KxAutoReframeShot> shots;                    ///< empty unless Done and wanted
         QList<KxAutoReframeLoss> losses;                   ///< where the choices of the person were lost
+        std::vector<KxPlacedChoice> choices;               ///< of the person, where their pictures are
+        std::shared_ptr<const KxSubjectRecord> record;     ///< null unless Done
     };
 
     virtual ~KxAnalysis();

@@ -481,7 +481,7 @@ TEST_F(KxAutoReframeServiceTest, ChoicesAreReadAsTheyWereWritten)
     hold.toSeconds = 5.0;
     hold.centre = QPointF(0.25, 0.75);
     const QList<KxAutoReframeChoice> choices{follow, hold};
-    EXPECT_EQ(m_service.ReadChoices(m_service.WriteChoices(choices)), choices);
+    EXPECT_EQ(m_service.ReadChoices(m_service.WriteChoices({}, choices)), choices);
     EXPECT_TRUE(m_service.ReadChoices("no JSON").isEmpty());
     EXPECT_TRUE(m_service.ReadChoices({}).isEmpty());
 }

@@ -30,7 +30,11 @@ KxSubjectChoices OfEveryKind()
     fit.boxes = {{0.1, 0.2, 0.2, 0.6}, {0.6, 0.2, 0.2, 0.6}};
     KxSubjectChoice automatic;
     automatic.fromSeconds = 20.0;
-    return {follow, avoid, hold, fit, automatic};
+    // As left by a move to where its pictures are.
+    KxSubjectChoice moved = hold;
+    moved.fromSeconds = -1.5;
+    moved.pictures = {{-1.5, 0}, {2.0 / 3.0, 0xFEDCBA9876543210U}, {12.06, 1}};
+    return {follow, avoid, hold, fit, automatic, moved};
 }
 
 QString Problem(const QByteArray& text)
@@ -118,6 +122,24 @@ TEST(KxChoicesFormat, ABoxMustTouchThePicture)
     }
 }
 
+TEST(KxChoicesFormat, APictureHasATimeAndAPrint)
+{
+    const auto problem = [](const QByteArray& pictures) {
+        return ProblemOf("{\"kind\":\"automatic\",\"pictures\":" + pictures + "}");
+    };
+    EXPECT_EQ(problem("{\"0.5\":\"0123456789abcdef\"}"), QString());
+    EXPECT_EQ(problem("{}"), QString());
+    for (const char* pictures : {"{\"soon\":\"0123456789abcdef\"}", "{\"1\":\"0123456789abcde\"}", "{\"1\":7}",
+                                 "{\"1\":\"0123456789abcdeg\"}", "{\"1e300\":\"0123456789abcdef\"}", "[1]"}) {
+        ExpectRefused(problem(pictures), "choice 2 has \"pictures\" that are not times with 16 hexadecimal digits");
+    }
+    QByteArray many;
+    for (int i = 0; i <= KxChoicesFormat::MostPictures; ++i) {
+        many += QByteArray(i == 0 ? "" : ",") + '"' + QByteArray::number(i) + "\":\"0123456789abcdef\"";
+    }
+    ExpectRefused(problem("{" + many + "}"), "choice 2 has more than 100 \"pictures\"");
+}
+
 TEST(KxChoicesFormat, LongListsAreRefused)
 {
     QByteArray choices;
@@ -132,7 +154,7 @@ TEST(KxChoicesFormat, LongListsAreRefused)
     }
     boxes.chop(1);
     ExpectRefused(ProblemOf("{\"kind\":\"fit\",\"boxes\":[" + boxes + "]}"), "more than 1000 seeds and boxes");
-    ExpectRefused(Problem(QByteArray(KxChoicesFormat::MostBytes + 1, ' ')), "longer than 1048576 bytes");
+    ExpectRefused(Problem(QByteArray(KxChoicesFormat::MostBytes + 1, ' ')), "longer than 4194304 bytes");
 }
 
 TEST(KxChoicesFormat, FilesAreReadAndNamedInErrors)

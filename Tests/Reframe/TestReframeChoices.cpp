@@ -177,3 +177,52 @@ TEST_F(ReframeChoicesTest, TheWholePictureIsFittedAndNotStretched)
         EXPECT_LT(background.lightness(), wall.lightness() * 3 / 4) << path.toStdString();
     }
 }
+
+TEST_F(ReframeChoicesTest, InATrimmedFileChoicesHoldWhereTheirPicturesAre)
+{
+    const QString footage = QStringLiteral("/usr/share/doc/opencv-doc/examples/data/Megamind.avi");
+    if (!QFile::exists(footage)) {
+        GTEST_SKIP() << "needs Megamind.avi of the package opencv-doc";
+    }
+    const QString made = MakeFile(R"({"version":1,"choices":[
+        {"kind":"hold","from":4,"to":6,"centre":[0.25,0.5]}, {"kind":"hold","from":0,"to":1,"centre":[0.8,0.5]}]})");
+    const QString saved = m_folder.filePath(QStringLiteral("saved.json"));
+    const QStringList options{QStringLiteral("--no-video"), QStringLiteral("--models"), QStringLiteral("none"),
+                              QStringLiteral("--cache"), m_folder.path()};
+    const ReframeRun first(
+        options + QStringList{QStringLiteral("--choices"), made, QStringLiteral("--save-choices"), saved, footage});
+    ASSERT_EQ(first.exitStatus, 0) << first.standardError.toStdString();
+    EXPECT_FALSE(first.standardError.contains(QStringLiteral("earlier"))) << first.standardError.toStdString();
+
+    const QString trimmed = m_folder.filePath(QStringLiteral("trimmed.mp4"));
+    ASSERT_TRUE(MadeVideo::RunFfmpeg({QStringLiteral("-ss"), QStringLiteral("2.5"), QStringLiteral("-i"), footage,
+                                      QStringLiteral("-an"), QStringLiteral("-vf"), QStringLiteral("scale=480:-2"),
+                                      QStringLiteral("-c:v"), QStringLiteral("libx264"), QStringLiteral("-crf"),
+                                      QStringLiteral("28"), trimmed}));
+    const QString track = m_folder.filePath(QStringLiteral("trimmed.csv"));
+    const ReframeRun second(options + QStringList{QStringLiteral("--choices"), saved, QStringLiteral("--keyframes"),
+                                                  track, QStringLiteral("--save-choices"),
+                                                  m_folder.filePath(QStringLiteral("again.json")), trimmed});
+    ASSERT_EQ(second.exitStatus, 0) << second.standardError.toStdString();
+    EXPECT_TRUE(second.standardError.contains(QStringLiteral("Choice 1 is applied 2.")))
+        << second.standardError.toStdString();
+    EXPECT_TRUE(second.standardError.contains(QStringLiteral("Choice 2 is not applied")))
+        << second.standardError.toStdString();
+    QFile file(track);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QList<QByteArray> lines = file.readAll().split('\n');
+    const auto middle = [&lines](double seconds) {
+        const QList<QByteArray> sides = lines.value(1 + qRound(seconds * 23.976)).split(',');
+        return sides.value(1).toDouble() + sides.value(3).toDouble() / 2.0;
+    };
+    for (const double seconds : {4.1, 5.0, 5.9}) {
+        EXPECT_NEAR(middle(seconds - 2.46), 0.25, 0.001) << seconds;
+    }
+    QFile again(m_folder.filePath(QStringLiteral("again.json")));
+    ASSERT_TRUE(again.open(QIODevice::ReadOnly));
+    const QJsonArray kept = QJsonDocument::fromJson(again.readAll())[QLatin1String("choices")].toArray();
+    ASSERT_EQ(kept.size(), 2) << "nothing is lost";
+    EXPECT_EQ(kept[1][QLatin1String("from")].toDouble(), 0.0);
+    EXPECT_EQ(kept[1][QLatin1String("to")].toDouble(), 1.0);
+    EXPECT_NEAR(kept[0][QLatin1String("from")].toDouble(), 4.0 - 2.46, 0.1);
+}

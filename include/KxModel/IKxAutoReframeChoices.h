@@ -28,16 +28,29 @@ struct KxAutoReframeChoice {
         }
     };
 
+    /// What the video looks like at one time, in the terms of the service.
+    struct Picture {
+        double seconds = 0.0;
+        quint64 print = 0;
+
+        bool operator==(const Picture& other) const { return seconds == other.seconds && print == other.print; }
+    };
+
     Kind kind = Kind::Automatic;
     double fromSeconds = 0.0;
     double toSeconds = 0.0;
     QList<Seed> seeds;        ///< Follow and Avoid
     QPointF centre{0.5, 0.5}; ///< Hold
+    /// By which the service finds the choice again in a file that was cut differently; empty in a new choice.
+    QList<Picture> pictures;
+    /// False: these pictures are not in the video, so the choice is not applied. The service sets it.
+    bool isFound = true;
 
     bool operator==(const KxAutoReframeChoice& other) const
     {
         return kind == other.kind && fromSeconds == other.fromSeconds && toSeconds == other.toSeconds &&
-               seeds == other.seeds && centre == other.centre;
+               seeds == other.seeds && centre == other.centre && pictures == other.pictures &&
+               isFound == other.isFound;
     }
 };
 
@@ -63,8 +76,9 @@ public:
     /// applies. A task for a video that the service has looked at before looks again only at what the choices need.
     virtual void SetChoices(const QList<KxAutoReframeChoice>& choices) = 0;
 
-    /// Choices as text, to be stored, and read again by this or a later version. Text that cannot be read gives none.
-    virtual QByteArray WriteChoices(const QList<KxAutoReframeChoice>& choices) const = 0;
+    /// Choices for the file `path` as text, to be stored, and read again by this or a later version, together with
+    /// what the pictures around them look like if the last task was for that file. Text that cannot be read gives none.
+    virtual QByteArray WriteChoices(const QString& path, const QList<KxAutoReframeChoice>& choices) const = 0;
     virtual QList<KxAutoReframeChoice> ReadChoices(const QByteArray& text) const = 0;
 
     /// What is at `point` in frame `frame` of the file `path`. Blocks for some tenths of a second.
@@ -72,6 +86,11 @@ public:
     /// What was lost in the task whose results IKxAutoReframeService::GetResults returns for `path`, in order of the
     /// choices. Empty if there is no such task.
     virtual QList<KxAutoReframeLoss> GetLosses(const QString& path) const = 0;
+
+    /// The choices as the task applied them whose results IKxAutoReframeService::GetResults returns for `path`: if the
+    /// file was cut differently when they were made, they are where their pictures are now. In the same order; empty if
+    /// there is no such task.
+    virtual QList<KxAutoReframeChoice> GetPlacedChoices(const QString& path) const = 0;
 
 protected:
     virtual ~IKxAutoReframeChoices() = default;

@@ -47,8 +47,8 @@ KxOutcome ReframeJob::RunSteps()
 {
     for (Ended (ReframeJob::*step)() :
          {&ReframeJob::Open, &ReframeJob::ReadTrack, &ReframeJob::ReadChoices, &ReframeJob::CheckTargets,
-          &ReframeJob::FindCrops, &ReframeJob::WriteKeyframes, &ReframeJob::WriteEditLists, &ReframeJob::WriteReport,
-          &ReframeJob::WritePreview, &ReframeJob::WriteVideo}) {
+          &ReframeJob::FindCrops, &ReframeJob::WriteChoices, &ReframeJob::WriteKeyframes, &ReframeJob::WriteEditLists,
+          &ReframeJob::WriteReport, &ReframeJob::WritePreview, &ReframeJob::WriteVideo}) {
         if (KxInterrupt::IsRequested()) {
             return KxOutcome::Cancelled;
         }
@@ -138,6 +138,9 @@ ReframeJob::Ended ReframeJob::ReadChoices()
 ReframeJob::Ended ReframeJob::CheckTargets()
 {
     QStringList targets;
+    if (!m_options.saveChoices.isEmpty()) {
+        targets += m_options.saveChoices;
+    }
     if (!m_options.keyframes.isEmpty()) {
         targets += TargetPath(m_options.keyframes, QStringLiteral("json"));
     }
@@ -270,6 +273,14 @@ CropTrack ReframeJob::Track() const
         track.models = KxAutoReframeService::Instance().LastModels();
     }
     return track;
+}
+
+ReframeJob::Ended ReframeJob::WriteChoices()
+{
+    if (m_options.saveChoices.isEmpty()) {
+        return std::nullopt;
+    }
+    return WriteFile(m_options.saveChoices, KxAutoReframeService::Instance().LastChoices(), QStringLiteral("choices"));
 }
 
 ReframeJob::Ended ReframeJob::WriteKeyframes()

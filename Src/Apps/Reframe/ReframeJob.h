@@ -47,6 +47,7 @@ private:
     Ended WaitForCrops();
     /// Notes the shots with their confidence as a fact.
     void NoteShots();
+    Ended WriteChoices();
     Ended WriteKeyframes();
     Ended WriteEditLists();
     Ended WriteReport();

@@ -42,6 +42,11 @@ struct Definitions {
                                QStringLiteral("Decide as FILE says (.json): what to follow, to avoid, where to hold "
                                               "the crop or to show the whole picture."),
                                QStringLiteral("FILE")};
+    QCommandLineOption saveChoices{
+        QStringLiteral("save-choices"),
+        QStringLiteral("Write what --choices and --follow decided to FILE (.json), with what "
+                       "its pictures look like, for this or another cut of the video."),
+        QStringLiteral("FILE")};
     QCommandLineOption follow{QStringLiteral("follow"),
                               QStringLiteral("Follow what is at the point X,Y, or in the box from X,Y of the size W,H, "
                                              "through its shot. TIME in seconds, or a frame (75f); the place in "
@@ -72,8 +77,8 @@ struct Definitions {
 
     QList<QCommandLineOption> All() const
     {
-        return {aspect,  speed,  speaker, follow,  choices,   cache, output, keyframes, editList, apply,
-                preview, report, models,  noVideo, overwrite, json,  quiet,  help,      version};
+        return {aspect, speed,   speaker, follow, choices, saveChoices, cache, output, keyframes, editList,
+                apply,  preview, report,  models, noVideo, overwrite,   json,  quiet,  help,      version};
     }
 };
 
@@ -165,12 +170,18 @@ QString Contradiction(const ReframeOptions& options)
     if (!options.apply.isEmpty() && options.aspects.size() > 1) {
         return QStringLiteral("--apply takes one aspect ratio.");
     }
+    if (!options.saveChoices.isEmpty() && options.aspects.size() > 1) {
+        return QStringLiteral("--save-choices takes one aspect ratio.");
+    }
     const bool hasChoices = !options.choices.isEmpty() || !options.follow.isEmpty();
     if (hasChoices && options.inputs.size() > 1) {
         return QStringLiteral("--choices and --follow take one input.");
     }
     if (hasChoices && !options.apply.isEmpty()) {
         return QStringLiteral("--choices and --follow guide the analysis, and with --apply there is none.");
+    }
+    if (!hasChoices && !options.saveChoices.isEmpty()) {
+        return QStringLiteral("--save-choices writes what --choices and --follow decided, and neither was given.");
     }
     const bool isOne = options.inputs.size() == 1 && options.aspects.size() == 1;
     for (const QString& editList : options.editLists) {
@@ -269,6 +280,7 @@ ReframeOptions::Parsed ReframeOptions::Parse(const QStringList& arguments)
         options.follow += *parsed;
     }
     options.choices = parser.value(definitions.choices);
+    options.saveChoices = parser.value(definitions.saveChoices);
     const QString speaker = parser.value(definitions.speaker);
     if (speaker != QLatin1String("auto") && speaker != QLatin1String("off")) {
         return WrongUse(QStringLiteral("--speaker takes auto or off; \"%1\" is neither.").arg(speaker));

@@ -19,6 +19,7 @@ struct ReframeOptions {
     QStringList editLists;                      ///< files, or only their suffixes
     QString apply;                              ///< a crop track that replaces the analysis; empty: none
     QString choices;                            ///< a file of a person's choices; empty: none
+    QString saveChoices;                        ///< a file for the choices that were applied; empty: none
     QList<FollowOption> follow;                 ///< what the crop must follow, besides those
     QString preview;                            ///< file (folder for several results); empty: none
     QString report;                             ///< file (folder for several results); empty: none

@@ -48,7 +48,7 @@ QList<Choice> KrChoices::With(const QList<Choice>& choices, const Choice& added)
     Choice wanted = added;
     QList<Choice> result;
     for (const Choice& choice : choices) {
-        if (!IsForSameRange(choice, added)) {
+        if (!choice.isFound || !IsForSameRange(choice, added)) {
             result.append(choice);
             continue;
         }
@@ -58,8 +58,9 @@ QList<Choice> KrChoices::With(const QList<Choice>& choices, const Choice& added)
             result.append(choice);
         }
     }
-    const bool hidesOthers = std::any_of(result.cbegin(), result.cend(),
-                                         [&wanted](const Choice& choice) { return Overlap(choice, wanted); });
+    const bool hidesOthers = std::any_of(result.cbegin(), result.cend(), [&wanted](const Choice& choice) {
+        return choice.isFound && Overlap(choice, wanted);
+    });
     if (wanted.kind != Choice::Kind::Automatic || hidesOthers) {
         result.append(wanted);
     }
@@ -70,7 +71,7 @@ const Choice* KrChoices::At(const QList<Choice>& choices, double seconds)
 {
     for (auto choice = choices.crbegin(); choice != choices.crend(); ++choice) {
         const bool covers = seconds >= choice->fromSeconds - SameSeconds && seconds < choice->toSeconds - SameSeconds;
-        if (covers && choice->kind != Choice::Kind::Avoid) {
+        if (covers && choice->isFound && choice->kind != Choice::Kind::Avoid) {
             return choice->kind == Choice::Kind::Automatic ? nullptr : &*choice;
         }
     }

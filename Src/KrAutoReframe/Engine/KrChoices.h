@@ -13,10 +13,11 @@ using Choice = KxAutoReframeChoice;
 /// 1. a Follow joins the seeds of a Follow of the same shot; a seed at the same time replaces the earlier one;
 /// 2. any other kind but Avoid replaces what was chosen for the same shot, Avoid included;
 /// 3. an Avoid leaves it in force;
-/// 4. an Automatic only takes back: it remains in the list only where a longer choice lies under it.
+/// 4. one whose pictures are not in the video stays as it is;
+/// 5. an Automatic only takes back: it remains in the list only where a longer choice lies under it.
 QList<Choice> With(const QList<Choice>& choices, const Choice& added);
 
-/// The choice that applies at a time, not counting Avoid; null if the analysis decides there. Valid as long as the
+/// The choice that applies at a time, not counting Avoid and those whose pictures are not in the video; null if the analysis decides there. Valid as long as the
 /// list.
 const Choice* At(const QList<Choice>& choices, double seconds);
 } // namespace KrChoices

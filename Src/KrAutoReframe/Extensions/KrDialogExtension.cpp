@@ -168,6 +168,7 @@ void KrDialogExtension::LeaveSource()
 {
     m_path.clear();
     m_hasResults = false;
+    m_placement.clear();
     m_isKnown.cancel();
     m_decide.stop();
     m_exportStatus->SetOutputSize({});
@@ -252,6 +253,7 @@ void KrDialogExtension::ShowResults()
     m_hasResults = true;
     const KrAutoReframeAnalyzeParam param = m_parts.process.GetParam();
     m_shown = {param.width, param.height, param.mode};
+    TakePlacedChoices();
     m_shownChoices = m_choices->Current();
     UpdateHint();
     ShowResultSize();
@@ -260,6 +262,28 @@ void KrDialogExtension::ShowResults()
     m_viewMenu->SetComparisonEnabled(true);
     FillComparison();
     ReportChange();
+}
+
+void KrDialogExtension::TakePlacedChoices()
+{
+    const KrChoiceList::Choices given = m_choices->Current();
+    const KrChoiceList::Choices placed =
+        m_followControls != nullptr ? ServiceChoices()->GetPlacedChoices(m_path) : KrChoiceList::Choices();
+    if (placed.size() != given.size() || placed == given) {
+        return;
+    }
+    int moved = 0;
+    int missing = 0;
+    for (int i = 0; i < placed.size(); ++i) {
+        missing += placed.at(i).isFound ? 0 : 1;
+        moved += placed.at(i).isFound && placed.at(i).fromSeconds != given.at(i).fromSeconds ? 1 : 0;
+    }
+    m_choices->Restore(placed);
+    ServiceChoices()->SetChoices(placed);
+    ShowChoices();
+    m_placement = missing > 0 ? tr("%n choices are kept, but not in this cut of the video", nullptr, missing)
+                  : moved > 0 ? tr("%n choices were moved to where their pictures are", nullptr, moved)
+                              : QString();
 }
 
 void KrDialogExtension::HandleSettingsChanged()
@@ -292,6 +316,9 @@ void KrDialogExtension::ShowChoices()
     using Kind = KxAutoReframeChoice::Kind;
     QList<Mark> marks;
     for (const KxAutoReframeChoice& choice : m_choices->Current()) {
+        if (!choice.isFound) {
+            continue;
+        }
         Mark mark;
         mark.first = qRound64(choice.fromSeconds * FrameRate());
         mark.end = qRound64(choice.toSeconds * FrameRate());
@@ -329,7 +356,7 @@ KrDialogExtension::Settings KrDialogExtension::PanelSettings() const
 void KrDialogExtension::UpdateHint()
 {
     const bool differs = !(PanelSettings() == m_shown) || !(m_choices->Current() == m_shownChoices);
-    m_parts.panel.SetHint(m_hasResults && differs ? tr("Settings changed: analyze again") : QString());
+    m_parts.panel.SetHint(m_hasResults && differs ? tr("Settings changed: analyze again") : m_placement);
 }
 
 void KrDialogExtension::ShowResultSize()
@@ -357,7 +384,7 @@ KrAutoReframeState KrDialogExtension::CurrentState() const
     state.editPoints = m_parts.process.GetHelper()->GetEditPoints();
     if (m_followControls != nullptr) {
         const bool hasChoices = !m_choices->Current().isEmpty();
-        state.choices = hasChoices ? ServiceChoices()->WriteChoices(m_choices->Current()) : QByteArray();
+        state.choices = hasChoices ? ServiceChoices()->WriteChoices(m_path, m_choices->Current()) : QByteArray();
     }
     if (m_doubtfulShots != nullptr) {
         state.seenShots = m_doubtfulShots->Shots().Seen();

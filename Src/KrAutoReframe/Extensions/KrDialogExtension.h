@@ -70,6 +70,8 @@ private:
     void FillComparison();
     void EnterSource();
     void HandleKnown();
+    /// Takes over the choices as the analysis found them in a video that was cut differently when they were made.
+    void TakePlacedChoices();
     void ShowShots();
     void HandleSettingsChanged();
     void HandleChoicesChanged();
@@ -95,6 +97,8 @@ private:
     /// What they were made with.
     Settings m_shown;
     QList<KxAutoReframeChoice> m_shownChoices;
+    /// What became of choices that were made for another cut of the video; empty: nothing.
+    QString m_placement;
     /// Null if the host's service has no shots.
     KrDoubtfulShots* m_doubtfulShots = nullptr;
     KrExportStatus* m_exportStatus;

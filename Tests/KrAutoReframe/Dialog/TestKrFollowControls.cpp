@@ -304,3 +304,39 @@ TEST_F(KrFollowControlsTest, AnotherSourceHasItsOwnChoices)
     dialog.reset();
     EXPECT_TRUE(taking.choices.isEmpty());
 }
+
+TEST_F(KrFollowControlsTest, ChoicesAreShownWhereTheAnalysisFoundTheirPictures)
+{
+    Drag(At(0.2, 0.3), At(0.4, 0.7));
+    KxAutoReframeChoice moved;
+    moved.kind = Kind::Follow;
+    moved.fromSeconds = 0.5;
+    moved.toSeconds = 3.5;
+    taking.placed = {moved};
+    Choose(QStringLiteral("Follow This"));
+    ASSERT_EVENTUALLY(HasDecided());
+    ASSERT_EVENTUALLY(Hint() == QStringLiteral("1 choices were moved to where their pictures are"));
+    EXPECT_EQ(taking.choices, taking.placed);
+}
+
+TEST_F(KrFollowControlsTest, AChoiceWhosePicturesAreMissingIsKeptAndReported)
+{
+    Drag(At(0.2, 0.3), At(0.4, 0.7));
+    KxAutoReframeChoice missing;
+    missing.kind = Kind::Hold;
+    missing.fromSeconds = 1.0;
+    missing.toSeconds = 4.0;
+    missing.isFound = false;
+    taking.placed = {missing};
+    Choose(QStringLiteral("Follow This"));
+    ASSERT_EVENTUALLY(HasDecided());
+    ASSERT_EVENTUALLY(Hint() == QStringLiteral("1 choices are kept, but not in this cut of the video"));
+    EXPECT_EQ(StateOf(clip).choices, "1") << "it is stored";
+    EXPECT_FALSE(BarButton("KrAutoReframe_undo").isHidden());
+
+    taking.placed.clear();
+    Drag(At(0.5, 0.3), At(0.7, 0.7));
+    Choose(QStringLiteral("Follow This"));
+    ASSERT_EQ(taking.choices.size(), 2) << "a new choice for the same time does not replace it";
+    EXPECT_FALSE(taking.choices.first().isFound);
+}

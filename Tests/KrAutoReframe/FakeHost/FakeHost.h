@@ -192,14 +192,17 @@ class ServiceWithChoices : public ServiceWithShots, public IKxAutoReframeChoices
 {
 public:
     void SetChoices(const QList<KxAutoReframeChoice>& wanted) override;
-    QByteArray WriteChoices(const QList<KxAutoReframeChoice>& wanted) const override;
+    QByteArray WriteChoices(const QString& path, const QList<KxAutoReframeChoice>& wanted) const override;
     QList<KxAutoReframeChoice> ReadChoices(const QByteArray& text) const override;
     KxAutoReframeGuess GuessBox(const QString& path, qint64 frame, const QPointF& point) const override;
     QList<KxAutoReframeLoss> GetLosses(const QString&) const override { return losses; }
+    QList<KxAutoReframeChoice> GetPlacedChoices(const QString&) const override { return placed; }
     /// For every ratio, `decided`.
     QList<IKxAutoReframeResult> Decide(const QString&, const IKxAutoReframeParam&) const override { return decided; }
 
     QList<KxAutoReframeChoice> choices;
+    /// Where a task found them; empty: where they are.
+    QList<KxAutoReframeChoice> placed;
     QList<KxAutoReframeLoss> losses;
     /// Set before it is asked for.
     QList<IKxAutoReframeResult> decided;

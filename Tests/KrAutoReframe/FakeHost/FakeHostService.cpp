@@ -167,7 +167,7 @@ void ServiceWithChoices::SetChoices(const QList<KxAutoReframeChoice>& wanted)
     choices = wanted;
 }
 
-QByteArray ServiceWithChoices::WriteChoices(const QList<KxAutoReframeChoice>& wanted) const
+QByteArray ServiceWithChoices::WriteChoices(const QString& /*path*/, const QList<KxAutoReframeChoice>& wanted) const
 {
     return QByteArray::number(wanted.size());
 }
