@@ -115,6 +115,7 @@ TEST_F(TestMainWindowBatch, LookingOpensTheVideoAtTheSettingsOfItsExport)
         EXPECT_EQ(edits.aspect, QSize(1, 1));
         EXPECT_EQ(edits.speed, 16);
         EXPECT_TRUE(edits.isAnalyzed);
+        EXPECT_TRUE(callbacks.startsAtDoubtfulShot);
         edits.seenShots = {40, 90};
         callbacks.editsChanged(path, edits);
     };
@@ -125,6 +126,7 @@ TEST_F(TestMainWindowBatch, LookingOpensTheVideoAtTheSettingsOfItsExport)
     // Without the summary's link, the person's own settings count.
     m_backend->inDialog = [&](const DialogCallbacks& callbacks) {
         EXPECT_EQ(callbacks.loadEdits(path).aspect, QSize(1, 1));
+        EXPECT_FALSE(callbacks.startsAtDoubtfulShot);
     };
     Button("TopBar_reframe")->click();
     EXPECT_EQ(m_backend->dialogs, 2);

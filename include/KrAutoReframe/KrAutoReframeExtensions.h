@@ -8,6 +8,8 @@
 
 #include <functional>
 
+class QWidget;
+
 /// What a person has decided about one video in the dialog. A plain value.
 struct KrAutoReframeState {
     /// The settings of the panel; 0 if none were chosen yet.
@@ -26,6 +28,9 @@ struct KrAutoReframeState {
     QByteArray choices;
     /// The first frames of the doubtful shots that the person has looked at, ascending.
     QList<uint> seenShots;
+    /// A wish of the host, read when the video is opened: its first result is shown at the first doubtful shot that was
+    /// not seen, and not from the beginning.
+    bool startsAtDoubtfulShot = false;
 
     bool operator==(const KrAutoReframeState& other) const
     {
@@ -64,6 +69,18 @@ protected:
     virtual ~KrAutoReframeExports() = default;
 };
 
+/// What a host may offer beside KrAutoReframeExtensions, by deriving from both: help. Defined in this header alone;
+/// user-interface thread.
+class KrAutoReframeHelp
+{
+public:
+    /// The person pressed F1 in `dialog`.
+    virtual void ShowHelp(QWidget& dialog) = 0;
+
+protected:
+    virtual ~KrAutoReframeHelp() = default;
+};
+
 /// Opt-in extensions of the dialog. A host that implements this and hands it over (KrAutoReframeDialog::SetExtensions)
 /// turns them on; without it the dialog shows and does nothing of the following:
 /// - edit points, choices and the undo history survive another analysis, in another speed or aspect ratio too, and a
@@ -74,7 +91,8 @@ protected:
 /// - where the service offers IKxAutoReframeShots: shots on the slider, and a way through those that are doubtful;
 /// - where the service offers IKxAutoReframeChoices: pointing at what the crop follows or avoids in a shot;
 /// - where the service offers IKxAutoReframeDecisions: several aspect ratios side by side;
-/// - where the host also implements KrAutoReframeExports: how an export is getting on.
+/// - where the host also implements KrAutoReframeExports: how an export is getting on;
+/// - where the host also implements KrAutoReframeHelp: F1.
 ///
 /// The host implements it; the dialog calls it on the user-interface thread. No function of the module's library is
 /// needed to implement it.

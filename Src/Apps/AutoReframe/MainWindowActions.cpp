@@ -3,6 +3,7 @@
 #include <Apps/AutoReframe/Backend/MediaBackendLoader.h>
 #include <Apps/AutoReframe/Exports/ExportQueue.h>
 #include <Apps/AutoReframe/Exports/ExportWatch.h>
+#include <Apps/AutoReframe/Help/HelpDialog.h>
 #include <Apps/AutoReframe/Library/LibraryShortcuts.h>
 #include <Apps/AutoReframe/Library/MediaLibrary.h>
 #include <Apps/AutoReframe/Library/MediaLibraryView.h>
@@ -245,6 +246,8 @@ void MainWindow::ShowDialog(const MediaFile& video)
         exports.Listen(listener);
     };
     callbacks.showInFolder = &MainWindow::ShowInFolder;
+    callbacks.showHelp = [](QWidget& dialog) { HelpDialog(&dialog).DoModal(); };
+    callbacks.startsAtDoubtfulShot = m_dialogPlan.has_value();
     callbacks.exportRefused = [this](const QString& message) { Inform(message); };
     callbacks.loadEdits = [this](const QString& path) { return EditsFor(path); };
     callbacks.editsChanged = [this](const QString& path, const VideoEdits& edits) {

@@ -17,7 +17,7 @@ using Choice = KxAutoReframeChoice;
 /// 5. an Automatic only takes back: it remains in the list only where a longer choice lies under it.
 QList<Choice> With(const QList<Choice>& choices, const Choice& added);
 
-/// The choice that applies at a time, not counting Avoid and those whose pictures are not in the video; null if the analysis decides there. Valid as long as the
-/// list.
+/// The choice that applies at a time, not counting Avoid and those whose pictures are not in the video; null if the
+/// analysis decides there. Valid as long as the list.
 const Choice* At(const QList<Choice>& choices, double seconds);
 } // namespace KrChoices

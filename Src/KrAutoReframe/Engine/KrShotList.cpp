@@ -34,6 +34,16 @@ int KrShotList::PreviousDoubtful(qint64 frame) const
     return std::max(index, -1);
 }
 
+int KrShotList::FirstToLookAt() const
+{
+    for (int index = 0; index < m_shots.size(); ++index) {
+        if (IsDoubtful(index) && !IsSeen(index)) {
+            return index;
+        }
+    }
+    return -1;
+}
+
 bool KrShotList::IsDoubtful(int index) const
 {
     return index >= 0 && index < m_shots.size() && m_shots.at(index).doubt != KxAutoReframeDoubt::None;

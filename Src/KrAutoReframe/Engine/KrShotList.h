@@ -23,6 +23,9 @@ public:
     /// The last doubtful shot before the one of `frame`, seen or not.
     int PreviousDoubtful(qint64 frame) const;
 
+    /// The first doubtful shot that was not seen.
+    int FirstToLookAt() const;
+
     bool IsDoubtful(int index) const;
     bool IsSeen(int index) const;
     /// False if nothing changes: the shot is not doubtful, or was seen.

@@ -22,6 +22,7 @@
 #include <KxPlayer/KxMediaPlayerPresenter.h>
 
 #include <QEventLoop>
+#include <QShortcut>
 #include <QTimer>
 #include <QUndoStack>
 #include <QtConcurrent>
@@ -66,6 +67,7 @@ KrDialogExtension::KrDialogExtension(KrAutoReframeExtensions& host, const Parts&
     m_parts.panel.AddBelowExport(m_exportStatus);
     new KrCropKeys(m_parts.view, this);
     CreateViewMenu();
+    CreateHelp();
     if (IKxAutoReframeShots* const shots = ServiceShots()) {
         shots->CollectShots(true);
         m_doubtfulShots = new KrDoubtfulShots(m_parts.view, m_parts.panel);
@@ -91,6 +93,20 @@ KrDialogExtension::~KrDialogExtension()
     if (IKxAutoReframeChoices* const choices = ServiceChoices()) {
         choices->SetChoices({});
     }
+}
+
+void KrDialogExtension::CreateHelp()
+{
+    auto* const help = dynamic_cast<KrAutoReframeHelp*>(&m_host);
+    if (help == nullptr) {
+        return;
+    }
+    auto* const key = new QShortcut(QKeySequence::HelpContents, m_parts.view.window());
+    key->setObjectName(QStringLiteral("KrAutoReframe_help"));
+    connect(key, &QShortcut::activated, this, [this, help] {
+        m_parts.view.Pause();
+        help->ShowHelp(*m_parts.view.window());
+    });
 }
 
 void KrDialogExtension::CreateViewMenu()
@@ -262,6 +278,10 @@ void KrDialogExtension::ShowResults()
     m_viewMenu->SetComparisonEnabled(true);
     FillComparison();
     ReportChange();
+    if (m_state.startsAtDoubtfulShot && m_doubtfulShots != nullptr) {
+        m_doubtfulShots->GoToFirstToLookAt();
+    }
+    m_state.startsAtDoubtfulShot = false;
 }
 
 void KrDialogExtension::TakePlacedChoices()

@@ -66,6 +66,7 @@ private:
     void Analyze(const Settings& settings);
     void CreateFollowControls();
     void CreateViewMenu();
+    void CreateHelp();
     void Compare();
     void FillComparison();
     void EnterSource();

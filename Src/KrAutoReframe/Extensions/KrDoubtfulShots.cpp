@@ -87,6 +87,11 @@ void KrDoubtfulShots::SetShots(const KrShotList& shots)
     UpdateButtons();
 }
 
+void KrDoubtfulShots::GoToFirstToLookAt()
+{
+    GoTo(m_shots.FirstToLookAt());
+}
+
 void KrDoubtfulShots::GoToPrevious()
 {
     GoTo(m_shots.PreviousDoubtful(CurrentFrame()));

@@ -27,6 +27,8 @@ public:
 
     void SetShots(const KrShotList& shots);
     const KrShotList& Shots() const { return m_shots; }
+    /// Shows the first doubtful shot that was not seen; nothing changes without one.
+    void GoToFirstToLookAt();
 
     void RetranslateUi() override;
 

@@ -31,3 +31,12 @@ TEST(TestDialogEdits, EverythingThatThePersonDecidedComesBack)
     EXPECT_TRUE(edits.LoadState(QStringLiteral("/a.mp4")) == state);
     EXPECT_TRUE(edits.LoadState(QStringLiteral("/b.mp4")) == KrAutoReframeState());
 }
+
+TEST(TestDialogEdits, OnlyTheFirstVideoStartsAtADoubtfulShot)
+{
+    DialogCallbacks callbacks;
+    callbacks.startsAtDoubtfulShot = true;
+    DialogEdits edits(callbacks);
+    EXPECT_TRUE(edits.LoadState(QStringLiteral("/a.mp4")).startsAtDoubtfulShot);
+    EXPECT_FALSE(edits.LoadState(QStringLiteral("/b.mp4")).startsAtDoubtfulShot);
+}

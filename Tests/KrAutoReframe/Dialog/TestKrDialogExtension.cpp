@@ -3,6 +3,7 @@
 #include <Tests/KrAutoReframe/WidgetProbe.h>
 #include <Tests/Support/Eventually.h>
 
+#include <QShortcut>
 #include <QUndoStack>
 #include <QtTest>
 
@@ -249,4 +250,35 @@ TEST_F(KrDialogExtensionTest, ATimelinesStateIsThatOfItsFile)
     dialog->InitTimeline(timeline);
     EXPECT_EQ(keeper.loaded, QStringList{clip});
     EXPECT_EQ(Helper().GetEditPointFrames(), QList<uint>{20});
+}
+
+namespace
+{
+
+class HelpingHost final : public StateKeeper, public KrAutoReframeHelp
+{
+public:
+    void ShowHelp(QWidget& dialog) override { askedFrom = &dialog; }
+
+    QWidget* askedFrom = nullptr;
+};
+
+} // namespace
+
+TEST_F(DialogTest, F1AsksTheHostForHelp)
+{
+    HelpingHost host;
+    Make(nullptr);
+    dialog->SetExtensions(host);
+    dialog->show();
+    dialog->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(dialog.get()));
+    QTest::keyClick(dialog.get(), Qt::Key_F1);
+    EXPECT_EQ(host.askedFrom, dialog.get());
+    dialog.reset();
+}
+
+TEST_F(ExtendedDialogTest, AHostWithoutHelpLeavesF1Alone)
+{
+    EXPECT_EQ(dialog->findChild<QShortcut*>(QStringLiteral("KrAutoReframe_help")), nullptr);
 }

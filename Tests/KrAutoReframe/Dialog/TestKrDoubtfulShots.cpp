@@ -89,6 +89,23 @@ TEST_F(KrDoubtfulShotsTest, ALookMarksAShotAsSeen)
     EXPECT_EQ(Fact(), QStringLiteral("All doubtful shots seen"));
 }
 
+TEST_F(KrDoubtfulShotsTest, AHostMayStartAtTheFirstShotToLookAt)
+{
+    StateOf(clip).startsAtDoubtfulShot = true;
+    StateOf(clip).isAnalyzed = true;
+    StateOf(clip).seenShots = {25};
+    service.shots = {{0, 25, 0.9, Sure},
+                     {25, 50, 0.3, KxAutoReframeDoubt::SeveralPeople},
+                     {50, 75, 0.8, Sure},
+                     {75, 100, 0.0, KxAutoReframeDoubt::NothingStandsOut}};
+    Load(Video(clip));
+    Analyse();
+    EXPECT_EQ(Player().calls.last(), QStringLiteral("seek 75 0 0"));
+    Player().calls.clear();
+    Analyse();
+    EXPECT_FALSE(Player().calls.contains(QStringLiteral("seek 75 0 0"))) << "only the first result";
+}
+
 TEST_F(KrDoubtfulShotsTest, ADragAcrossAShotIsNoLook)
 {
     AnalyseFourShots();

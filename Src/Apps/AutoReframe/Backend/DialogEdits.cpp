@@ -1,7 +1,10 @@
 #include <Apps/AutoReframe/Backend/DialogEdits.h>
 
+#include <utility>
+
 DialogEdits::DialogEdits(const DialogCallbacks& callbacks)
     : m_callbacks(callbacks)
+    , m_startsAtDoubtfulShot(callbacks.startsAtDoubtfulShot)
 {
 }
 
@@ -17,6 +20,7 @@ KrAutoReframeState DialogEdits::LoadState(const QString& path)
     state.editPoints = edits.editPoints;
     state.choices = edits.choices;
     state.seenShots = edits.seenShots;
+    state.startsAtDoubtfulShot = std::exchange(m_startsAtDoubtfulShot, false);
     return state;
 }
 
@@ -39,5 +43,12 @@ void DialogEdits::ShowInFolder(const QString& filePath)
 {
     if (m_callbacks.showInFolder) {
         m_callbacks.showInFolder(filePath);
+    }
+}
+
+void DialogEdits::ShowHelp(QWidget& dialog)
+{
+    if (m_callbacks.showHelp) {
+        m_callbacks.showHelp(dialog);
     }
 }

@@ -6,7 +6,7 @@
 
 /// Turns the dialog's extensions on, and passes what the person decides and how exports are getting on between dialog
 /// and program.
-class DialogEdits final : public KrAutoReframeExtensions, public KrAutoReframeExports
+class DialogEdits final : public KrAutoReframeExtensions, public KrAutoReframeExports, public KrAutoReframeHelp
 {
 public:
     /// `callbacks` is borrowed.
@@ -16,7 +16,10 @@ public:
     void OnStateChanged(const QString& path, const KrAutoReframeState& state) override;
     void ListenToExports(const Listener& listener) override;
     void ShowInFolder(const QString& filePath) override;
+    void ShowHelp(QWidget& dialog) override;
 
 private:
     const DialogCallbacks& m_callbacks;
+    /// Of the first video: the person may open others in the dialog.
+    bool m_startsAtDoubtfulShot;
 };

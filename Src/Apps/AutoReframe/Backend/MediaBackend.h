@@ -135,6 +135,10 @@ struct DialogCallbacks {
     /// See KrAutoReframeExports. May be empty.
     std::function<void(const KrAutoReframeExports::Listener& listener)> listenToExports;
     std::function<void(const QString& filePath)> showInFolder;
+    /// The person pressed F1 in `dialog`. May be empty.
+    std::function<void(QWidget& dialog)> showHelp;
+    /// The dialog shows the video's first result at the first doubtful shot that was not seen.
+    bool startsAtDoubtfulShot = false;
     /// The dialog considers this computer too slow for the analysis.
     std::function<void()> unsupported;
 };

@@ -194,7 +194,7 @@ void ExportCard::RetranslateUi()
     m_retry->setText(tr("Retry"));
     m_show->setText(tr("Show in folder"));
     m_retry->setToolTip(tr("Export it again"));
-    m_look->setToolTip(tr("Opens the video at these settings; N leads to its doubtful shots."));
+    m_look->setToolTip(tr("Opens the video at these settings and its first doubtful shot; N leads to the next one."));
     m_show->setToolTip(tr("Show the file in its folder"));
 }
 
