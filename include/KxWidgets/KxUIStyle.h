@@ -44,6 +44,14 @@ enum class Role {
     Doubt,
 };
 
+/// Two sets of colours. The required look is the dark one.
+enum class Scheme { Dark, Light };
+
+/// Changes the colours of the whole program, also of what is on the screen; before Apply(), those that it begins with.
+/// Initially dark.
+KXWIDGETS_API void SetScheme(QApplication& application, Scheme scheme);
+KXWIDGETS_API Scheme ShownScheme();
+
 /// Sets style, palette, font and style sheet of the whole program. From then on a control that the keyboard focus has
 /// reached is surrounded by a ring, and takes the keys that it needs before a shortcut of its window does.
 KXWIDGETS_API void Apply(QApplication& application);
@@ -52,6 +60,7 @@ KXWIDGETS_API void Apply(QApplication& application);
 /// ("AutoReframe_Exit"). A program with translations of its own installs those after it: the last one is asked first.
 KXWIDGETS_API void InstallTranslation(QApplication& application);
 
+/// Of the scheme that is shown; ask for it whenever something is painted.
 KXWIDGETS_API QColor Colour(Role role);
 
 /// An icon by its name ("folder", "close", …), sharp at every size and tinted by state. Null for an unknown name.

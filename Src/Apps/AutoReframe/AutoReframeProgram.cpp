@@ -3,6 +3,7 @@
 #include <Apps/AutoReframe/Backend/MediaBackendLoader.h>
 #include <Apps/AutoReframe/MainWindow.h>
 #include <Apps/AutoReframe/Store/LibraryStore.h>
+#include <Apps/AutoReframe/Theme/ProgramTheme.h>
 #include <KxCore/KxInterrupt.h>
 
 #include <KxWidgets/KxUIStyle.h>
@@ -34,15 +35,17 @@ void EndWhenInterrupted(QTimer& timer, MainWindow& window)
 
 int AutoReframeProgram::Run(QApplication& application, const AutoReframeOptions& options)
 {
+    ProgramTheme theme(application);
     KxUIStyle::Apply(application);
     KxUIStyle::InstallTranslation(application);
     MediaBackendLoader backend(&MediaBackendLoader::LoadLibrary, nullptr);
     LibraryStore store(LibraryStore::ChooseFile(), nullptr);
     MainWindow window(backend, store);
-    QObject::connect(&window, &MainWindow::sigPainted, &backend, [&backend, &store] {
+    QObject::connect(&window, &MainWindow::sigPainted, &backend, [&backend, &store, &theme] {
         QApplication::setWindowIcon(QIcon(QStringLiteral(":/AutoReframe/auto-reframe.svg")));
         store.Open();
         backend.Start();
+        theme.FollowSystem();
     });
     window.show();
     window.Open(options.files);

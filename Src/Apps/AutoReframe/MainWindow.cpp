@@ -14,7 +14,6 @@
 #include <KxWidgets/KxLabel.h>
 #include <KxWidgets/KxPushButton.h>
 #include <KxWidgets/KxToolButton.h>
-#include <KxWidgets/KxUIStyle.h>
 
 #include <QCloseEvent>
 #include <QDesktopServices>
@@ -66,9 +65,7 @@ KxWidget* MakeBar(const QString& name, const QString& lineSide, int heightPx, QW
     auto* const bar = new KxWidget(parent);
     bar->setObjectName(name);
     bar->setFixedHeight(heightPx);
-    bar->setStyleSheet(QStringLiteral("#%1 { background-color: %2; border: none; border-%3: 1px solid %4; }")
-                           .arg(name, KxUIStyle::Colour(KxUIStyle::Role::Panel).name(), lineSide,
-                                KxUIStyle::Colour(KxUIStyle::Role::Line).name()));
+    bar->setProperty("barLine", lineSide);
     return bar;
 }
 

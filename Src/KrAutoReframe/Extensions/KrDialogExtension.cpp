@@ -334,6 +334,7 @@ void KrDialogExtension::ShowChoices()
 {
     using Mark = KrAutoReframePlayerToolSlider::ChoiceMark;
     using Kind = KxAutoReframeChoice::Kind;
+    const QPalette& palette = m_parts.panel.palette();
     QList<Mark> marks;
     for (const KxAutoReframeChoice& choice : m_choices->Current()) {
         if (!choice.isFound) {
@@ -342,7 +343,8 @@ void KrDialogExtension::ShowChoices()
         Mark mark;
         mark.first = qRound64(choice.fromSeconds * FrameRate());
         mark.end = qRound64(choice.toSeconds * FrameRate());
-        mark.colour = choice.kind == Kind::Follow ? QColor(0x55, 0xE5, 0xC5) : QColor(0xA9, 0xAE, 0xB6);
+        mark.colour =
+            choice.kind == Kind::Follow ? palette.color(QPalette::Highlight) : palette.color(QPalette::PlaceholderText);
         mark.toolTip = choice.kind == Kind::Follow  ? tr("The crop follows your choice")
                        : choice.kind == Kind::Avoid ? tr("The crop avoids your choice")
                        : choice.kind == Kind::Hold  ? tr("The crop is held")

@@ -12,7 +12,7 @@ KxGlyphLabel::KxGlyphLabel(int sidePx, QWidget* parent)
 
 KxGlyphLabel::~KxGlyphLabel() = default;
 
-void KxGlyphLabel::SetGlyph(const QString& name, const QColor& colour)
+void KxGlyphLabel::SetGlyph(const QString& name, KxUIStyle::Role colour)
 {
     m_name = name;
     m_colour = colour;
@@ -23,5 +23,5 @@ void KxGlyphLabel::SetGlyph(const QString& name, const QColor& colour)
 void KxGlyphLabel::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
-    KxGlyph::Paint(painter, m_name, rect(), m_colour);
+    KxGlyph::Paint(painter, m_name, rect(), KxUIStyle::Colour(m_colour));
 }

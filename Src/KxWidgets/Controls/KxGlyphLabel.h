@@ -1,5 +1,7 @@
 #pragma once
 
+#include <KxWidgets/KxUIStyle.h>
+
 #include <QWidget>
 
 /// One of the style's icons in one colour.
@@ -11,12 +13,12 @@ public:
     ~KxGlyphLabel() override;
 
     /// For an unknown name the label is hidden.
-    void SetGlyph(const QString& name, const QColor& colour);
+    void SetGlyph(const QString& name, KxUIStyle::Role colour);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
     QString m_name;
-    QColor m_colour;
+    KxUIStyle::Role m_colour = KxUIStyle::Role::Icon;
 };

@@ -14,30 +14,59 @@ namespace
 {
 
 using KxUIStyle::Role;
+using KxUIStyle::Scheme;
 
 struct NamedColour {
     Role role;
-    QRgb colour;
+    QRgb dark;
+    QRgb light;
 };
 
 constexpr std::array Colours{
-    NamedColour{Role::Window, 0xFF1B1D21},      NamedColour{Role::Panel, 0xFF202227},
-    NamedColour{Role::Surface, 0xFF25282D},     NamedColour{Role::Field, 0xFF1B1D21},
-    NamedColour{Role::Picture, 0xFF131518},     NamedColour{Role::Line, 0xFF2C2F35},
-    NamedColour{Role::SurfaceLine, 0xFF2F333A}, NamedColour{Role::FieldLine, 0xFF3A3E46},
-    NamedColour{Role::Text, 0xFFE8EAED},        NamedColour{Role::Muted, 0xFFA9AEB6},
-    NamedColour{Role::Off, 0xFF555B64},         NamedColour{Role::Strong, 0xFFFFFFFF},
-    NamedColour{Role::Accent, 0xFF55E5C5},      NamedColour{Role::OnAccent, 0xFF0C211C},
-    NamedColour{Role::Edited, 0xFFFF8B55},      NamedColour{Role::Error, 0xFFFF8B7A},
-    NamedColour{Role::Icon, 0xFFD3D6DB},        NamedColour{Role::Button, 0xFF2F333A},
-    NamedColour{Role::ButtonLine, 0xFF444952},  NamedColour{Role::PlayedTrack, 0xFF7A818C},
-    NamedColour{Role::DropFrame, 0xFF7A818C},   NamedColour{Role::Doubt, 0xFFFFAE34},
+    NamedColour{Role::Window, 0xFF1B1D21, 0xFFF3F4F6},      NamedColour{Role::Panel, 0xFF202227, 0xFFFAFBFC},
+    NamedColour{Role::Surface, 0xFF25282D, 0xFFFFFFFF},     NamedColour{Role::Field, 0xFF1B1D21, 0xFFFFFFFF},
+    NamedColour{Role::Picture, 0xFF131518, 0xFFE6E9ED},     NamedColour{Role::Line, 0xFF2C2F35, 0xFFDDE0E5},
+    NamedColour{Role::SurfaceLine, 0xFF2F333A, 0xFFD7DBE1}, NamedColour{Role::FieldLine, 0xFF3A3E46, 0xFFB4BAC4},
+    NamedColour{Role::Text, 0xFFE8EAED, 0xFF1B1D21},        NamedColour{Role::Muted, 0xFFA9AEB6, 0xFF565D68},
+    NamedColour{Role::Off, 0xFF555B64, 0xFF9AA1AB},         NamedColour{Role::Strong, 0xFFFFFFFF, 0xFF000000},
+    NamedColour{Role::Accent, 0xFF55E5C5, 0xFF0A7560},      NamedColour{Role::OnAccent, 0xFF0C211C, 0xFFFFFFFF},
+    NamedColour{Role::Edited, 0xFFFF8B55, 0xFFB8481A},      NamedColour{Role::Error, 0xFFFF8B7A, 0xFFB3261E},
+    NamedColour{Role::Icon, 0xFFD3D6DB, 0xFF3C424B},        NamedColour{Role::Button, 0xFF2F333A, 0xFFEDEFF2},
+    NamedColour{Role::ButtonLine, 0xFF444952, 0xFFB9BFC9},  NamedColour{Role::PlayedTrack, 0xFF7A818C, 0xFF6F7682},
+    NamedColour{Role::DropFrame, 0xFF7A818C, 0xFF7A818C},   NamedColour{Role::Doubt, 0xFFFFAE34, 0xFF8F5B00},
 };
+
+/// Colours of the style sheet alone.
+struct SheetColour {
+    const char* word;
+    QRgb dark;
+    QRgb light;
+};
+
+constexpr std::array SheetColours{
+    SheetColour{"accentHover", 0xFF79EED4, 0xFF086853},     SheetColour{"accentPressed", 0xFF3DCBAC, 0xFF06503F},
+    SheetColour{"accentOff", 0xFF26403A, 0xFFD3E4E0},       SheetColour{"onAccentOff", 0xFF5E857B, 0xFF7B9991},
+    SheetColour{"buttonHover", 0xFF383D45, 0xFFE2E5EA},     SheetColour{"buttonPressed", 0xFF292C32, 0xFFD5D9DF},
+    SheetColour{"buttonLineHover", 0xFF59606B, 0xFF949BA6}, SheetColour{"hover", 0xFF2E3238, 0xFFE8EAEE},
+    SheetColour{"pressed", 0xFF1F2226, 0xFFDADDE3},         SheetColour{"toolTip", 0xFF30343B, 0xFFFFFFFF},
+};
+
+Scheme& Shown()
+{
+    static Scheme scheme = Scheme::Dark;
+    return scheme;
+}
+
+template<typename Entry>
+QColor ColourOf(const Entry& entry)
+{
+    return QColor::fromRgba(Shown() == Scheme::Light ? entry.light : entry.dark);
+}
 
 QHash<QString, QString> Words()
 {
     const auto colour = [](Role role) { return KxUIStyle::Colour(role).name(); };
-    return {
+    QHash<QString, QString> words{
         {QStringLiteral("window"), colour(Role::Window)},
         {QStringLiteral("panel"), colour(Role::Panel)},
         {QStringLiteral("surface"), colour(Role::Surface)},
@@ -52,22 +81,19 @@ QHash<QString, QString> Words()
         {QStringLiteral("strong"), colour(Role::Strong)},
         {QStringLiteral("accent"), colour(Role::Accent)},
         {QStringLiteral("onAccent"), colour(Role::OnAccent)},
+        {QStringLiteral("edited"), colour(Role::Edited)},
         {QStringLiteral("error"), colour(Role::Error)},
         {QStringLiteral("button"), colour(Role::Button)},
         {QStringLiteral("buttonLine"), colour(Role::ButtonLine)},
         {QStringLiteral("doubt"), colour(Role::Doubt)},
-        {QStringLiteral("accentHover"), QStringLiteral("#79eed4")},
-        {QStringLiteral("accentPressed"), QStringLiteral("#3dcbac")},
-        {QStringLiteral("accentOff"), QStringLiteral("#26403a")},
-        {QStringLiteral("onAccentOff"), QStringLiteral("#5e857b")},
-        {QStringLiteral("buttonHover"), QStringLiteral("#383d45")},
-        {QStringLiteral("buttonPressed"), QStringLiteral("#292c32")},
-        {QStringLiteral("buttonLineHover"), QStringLiteral("#59606b")},
-        {QStringLiteral("hover"), QStringLiteral("#2e3238")},
-        {QStringLiteral("pressed"), QStringLiteral("#1f2226")},
-        {QStringLiteral("toolTip"), QStringLiteral("#30343b")},
         {QStringLiteral("figures"), KxUIStyle::TabularFont().family()},
+        {QStringLiteral("drawings"),
+         Shown() == Scheme::Light ? QStringLiteral(":/KxWidgets/Style/light") : QStringLiteral(":/KxWidgets/Style")},
     };
+    for (const SheetColour& entry : SheetColours) {
+        words.insert(QLatin1String(entry.word), ColourOf(entry).name());
+    }
+    return words;
 }
 
 bool HasTabularFigures(const QFont& font)
@@ -100,7 +126,17 @@ QColor KxUIStyle::Colour(Role role)
     const auto found =
         std::find_if(Colours.begin(), Colours.end(), [role](const NamedColour& entry) { return entry.role == role; });
     Q_ASSERT(found != Colours.end());
-    return QColor::fromRgba(found->colour);
+    return ColourOf(*found);
+}
+
+KxUIStyle::Scheme KxUIStyle::ShownScheme()
+{
+    return Shown();
+}
+
+void KxTheme::SetScheme(Scheme scheme)
+{
+    Shown() = scheme;
 }
 
 QFont KxUIStyle::TabularFont()
@@ -117,7 +153,7 @@ QFont KxUIStyle::TabularFont()
 
 QString KxTheme::StyleSheet()
 {
-    QFile file(QStringLiteral(":/KxWidgets/Style/dark.qss"));
+    QFile file(QStringLiteral(":/KxWidgets/Style/style.qss"));
     if (!file.open(QIODevice::ReadOnly)) {
         Q_ASSERT_X(false, "KxTheme", "the style sheet is not among the resources");
         return {};

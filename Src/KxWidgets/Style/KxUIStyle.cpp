@@ -22,6 +22,19 @@ void KxUIStyle::Apply(QApplication& application)
     KxFocusRing::Install(application);
 }
 
+void KxUIStyle::SetScheme(QApplication& application, Scheme scheme)
+{
+    if (scheme == ShownScheme()) {
+        return;
+    }
+    KxTheme::SetScheme(scheme);
+    // Before Apply() there is nothing to change.
+    if (!application.styleSheet().isEmpty()) {
+        QApplication::setPalette(KxTheme::Palette());
+        application.setStyleSheet(KxTheme::StyleSheet());
+    }
+}
+
 void KxUIStyle::InstallTranslation(QApplication& application)
 {
     auto* translator = new QTranslator(&application);

@@ -56,7 +56,7 @@ KxMessageBox::KxMessageBox(KrMessageType type, const Texts& texts, QWidget* pare
     layout->setContentsMargins(MarginPx, MarginPx, MarginPx, GapPx);
     layout->setSpacing(GapPx);
     auto* icon = new KxGlyphLabel(IconPx, content);
-    icon->SetGlyph(GlyphOf(type), KxUIStyle::Colour(type == KrMessageType::Warning ? Role::Edited : Role::Accent));
+    icon->SetGlyph(GlyphOf(type), type == KrMessageType::Warning ? Role::Edited : Role::Accent);
     layout->addWidget(icon, 0, Qt::AlignTop);
     m_texts = new QVBoxLayout;
     m_texts->setSpacing(TextGapPx);

@@ -79,7 +79,7 @@ void KxProgressDialog::SetProgressTitle(const QString& title, const QString& ico
 {
     m_title->setText(title);
     m_bar->setAccessibleName(title);
-    m_icon->SetGlyph(icon, KxUIStyle::Colour(KxUIStyle::Role::Muted));
+    m_icon->SetGlyph(icon, KxUIStyle::Role::Muted);
 }
 
 void KxProgressDialog::SetInfoText(const QString& text, const QString& toolTip, Qt::Alignment alignment)

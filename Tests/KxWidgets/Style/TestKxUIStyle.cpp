@@ -86,7 +86,43 @@ TEST_F(KxUIStyleTest, EveryPlaceholderOfTheSheetIsReplaced)
     EXPECT_EQ(QApplication::font().pixelSize(), 13);
 }
 
-TEST_F(KxUIStyleTest, TextsAndIconsStandOutFromTheirBackgrounds)
+class KxUIStyleSchemeTest : public KxUIStyleTest, public testing::WithParamInterface<KxUIStyle::Scheme>
+{
+protected:
+    KxUIStyleSchemeTest() { KxUIStyle::SetScheme(*qApp, GetParam()); }
+    ~KxUIStyleSchemeTest() override { KxUIStyle::SetScheme(*qApp, KxUIStyle::Scheme::Dark); }
+};
+
+INSTANTIATE_TEST_SUITE_P(Schemes, KxUIStyleSchemeTest,
+                         testing::Values(KxUIStyle::Scheme::Dark, KxUIStyle::Scheme::Light));
+
+TEST_P(KxUIStyleSchemeTest, EveryPlaceholderAndDrawingOfTheSheetExists)
+{
+    const QString sheet = qApp->styleSheet();
+    EXPECT_FALSE(sheet.contains(QRegularExpression(QStringLiteral("@[A-Za-z]"))));
+    int drawings = 0;
+    static const QRegularExpression url(QStringLiteral("url\\(([^)]*)\\)"));
+    for (auto match = url.globalMatch(sheet); match.hasNext(); ++drawings) {
+        const QString path = match.next().captured(1);
+        EXPECT_TRUE(QFile::exists(path)) << path.toStdString();
+    }
+    EXPECT_GE(drawings, 8);
+}
+
+TEST_F(KxUIStyleTest, AnotherSchemeChangesWhatIsOnTheScreen)
+{
+    TwoButtons pair;
+    pair.window.show();
+    const auto brightness = [&pair] { return qGray(pair.window.grab().toImage().pixel(2, 2)); };
+    EXPECT_LT(brightness(), 60);
+    KxUIStyle::SetScheme(*qApp, KxUIStyle::Scheme::Light);
+    EXPECT_EQ(KxUIStyle::ShownScheme(), KxUIStyle::Scheme::Light);
+    EXPECT_GT(brightness(), 200);
+    KxUIStyle::SetScheme(*qApp, KxUIStyle::Scheme::Dark);
+    EXPECT_LT(brightness(), 60);
+}
+
+TEST_P(KxUIStyleSchemeTest, TextsAndIconsStandOutFromTheirBackgrounds)
 {
     for (const Role background : {Role::Window, Role::Panel, Role::Surface, Role::Field, Role::Picture}) {
         for (const Role text : {Role::Text, Role::Muted, Role::Accent, Role::Error}) {
@@ -100,6 +136,7 @@ TEST_F(KxUIStyleTest, TextsAndIconsStandOutFromTheirBackgrounds)
     EXPECT_GE(Contrast(Role::PlayedTrack, Role::Window), 3.0);
     EXPECT_GE(Contrast(Role::DropFrame, Role::Window), 3.0);
     EXPECT_GE(Contrast(Role::DropFrame, Role::Panel), 3.0);
+    EXPECT_GE(Contrast(Role::Doubt, Role::Panel), 4.5);
 }
 
 TEST_F(KxUIStyleTest, EveryIconOfTheFamilyPaintsAndDimsWhenDisabled)

@@ -5,7 +5,6 @@
 #include <Apps/AutoReframe/Exports/QueueBar.h>
 
 #include <KxWidgets/KxLabel.h>
-#include <KxWidgets/KxUIStyle.h>
 
 #include <QFrame>
 #include <QHBoxLayout>
@@ -27,10 +26,8 @@ ExportPanel::ExportPanel(ExportQueue& queue, QWidget* parent)
 {
     setObjectName(QStringLiteral("ExportPanel"));
     setFixedWidth(WidthPx);
-    setStyleSheet(
-        QStringLiteral("#ExportPanel { background-color: %1; border: none; border-left: 1px solid %2; }"
-                       "#ExportPanel_list, #ExportPanel_content { background: transparent; }")
-            .arg(KxUIStyle::Colour(KxUIStyle::Role::Panel).name(), KxUIStyle::Colour(KxUIStyle::Role::Line).name()));
+    setProperty("barLine", QStringLiteral("left"));
+    setStyleSheet(QStringLiteral("#ExportPanel_list, #ExportPanel_content { background: transparent; }"));
     InitLayout();
     connect(m_clear, &QAbstractButton::clicked, &m_queue, &ExportQueue::RemoveFinished);
     connect(m_resume, &QAbstractButton::clicked, &m_queue, &ExportQueue::ResumeInterrupted);
@@ -111,10 +108,7 @@ QWidget* ExportPanel::MakeResumeBar()
 {
     auto* const bar = new QFrame(this);
     bar->setObjectName(QStringLiteral("ExportPanel_resumeBar"));
-    bar->setStyleSheet(QStringLiteral("#ExportPanel_resumeBar { background-color: %1; border: 1px solid %2; "
-                                      "border-radius: 8px; }")
-                           .arg(KxUIStyle::Colour(KxUIStyle::Role::Surface).name(),
-                                KxUIStyle::Colour(KxUIStyle::Role::Edited).name()));
+    bar->setProperty("notice", true);
     m_interrupted = KxLabel::CreateLabel(bar, QString());
     m_interrupted->setObjectName(QStringLiteral("ExportPanel_interrupted"));
     m_interrupted->setWordWrap(true);

@@ -6,7 +6,6 @@
 #include <KxWidgets/KxDialogButtonBar.h>
 #include <KxWidgets/KxLabel.h>
 #include <KxWidgets/KxTopLevelWindowTitleBar.h>
-#include <KxWidgets/KxUIStyle.h>
 
 #include <QGridLayout>
 #include <QKeySequence>
@@ -30,12 +29,8 @@ QString TextOf(const QKeySequence& key)
 HelpDialog::HelpDialog(QWidget* parent)
     : KxFramelessDialog(QString(), parent, true, true)
 {
-    using KxUIStyle::Role;
     setObjectName(QStringLiteral("HelpDialog"));
     GetTitleBar()->SetButtons(KxTopLevelWindowTitleBar::CloseButton);
-    setStyleSheet(QStringLiteral("#HelpDialog_key { background-color: %1; border: 1px solid %2; border-radius: 4px; "
-                                 "padding: 2px 6px; }")
-                      .arg(KxUIStyle::Colour(Role::Field).name(), KxUIStyle::Colour(Role::FieldLine).name()));
     m_close = GetButtonBar()->AddPushButton_R(0, -1);
     m_close->setObjectName(QStringLiteral("HelpDialog_close"));
     connect(m_close, &QAbstractButton::clicked, this, &QDialog::accept);
@@ -97,6 +92,7 @@ QVBoxLayout* HelpDialog::MakeColumn(const QString& heading, const QList<Shortcut
         action->setObjectName(QStringLiteral("HelpDialog_action"));
         KxLabel* const key = KxLabel::CreateLabel(parent, shortcuts.at(row).second);
         key->setObjectName(QStringLiteral("HelpDialog_key"));
+        key->setProperty("keyCap", true);
         grid->addWidget(action, row, 0);
         grid->addWidget(key, row, 1, Qt::AlignRight);
     }

@@ -183,7 +183,9 @@ void MediaCardDelegate::PaintLength(QPainter& painter, const QRect& picture, con
     painter.setPen(Qt::NoPen);
     painter.setBrush(QColor(0, 0, 0, opacity));
     painter.drawRoundedRect(badge, radiusPx, radiusPx);
-    painter.setPen(KxUIStyle::Colour(Role::Text));
+    // Over the picture, whatever the scheme is.
+    constexpr QColor lengthColour(0xE8, 0xEA, 0xED);
+    painter.setPen(lengthColour);
     painter.drawText(badge, Qt::AlignCenter, length);
     painter.restore();
 }
