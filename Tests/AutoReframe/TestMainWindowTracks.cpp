@@ -17,14 +17,16 @@ namespace
 class TestMainWindowTracks : public TestMainWindow
 {
 protected:
-    /// Chooses an entry of the window's menu; false if it is disabled.
-    bool Choose(const QString& entry)
+    /// Chooses an entry of the window's menu, or of the menu `submenu` in it; false if it is disabled.
+    bool Choose(const QString& entry, const QString& submenu = QString())
     {
         bool isEnabled = false;
         QTimer::singleShot(0, m_window.get(), [&] {
             auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
             ASSERT_NE(menu, nullptr);
-            for (QAction* const action : menu->actions()) {
+            const QMenu* const entries = submenu.isEmpty() ? menu : menu->findChild<QMenu*>(submenu);
+            ASSERT_NE(entries, nullptr);
+            for (QAction* const action : entries->actions()) {
                 if (action->text() == entry) {
                     isEnabled = action->isEnabled();
                     menu->close();
@@ -64,6 +66,17 @@ protected:
             dialog.findChild<QAbstractButton*>(QStringLiteral("CropTrackDialog_accept"))->click();
         });
     }
+    /// Enters a name for the file that is made for another program.
+    void WhenAskedForAFile(const QString& name, const QString& title)
+    {
+        WhenShown<CropTrackDialog>([this, name, title](CropTrackDialog& dialog) {
+            EXPECT_EQ(dialog.windowTitle(), title);
+            EXPECT_FALSE(dialog.findChild<QComboBox*>()->isVisible());
+            dialog.findChild<QLineEdit*>(QStringLiteral("CropTrackDialog_name"))->setText(name);
+            dialog.findChild<QLineEdit*>(QStringLiteral("KxOpenFileLineEdit_edit"))->setText(m_folder.path());
+            dialog.findChild<QAbstractButton*>(QStringLiteral("CropTrackDialog_accept"))->click();
+        });
+    }
     void OpenOne()
     {
         Open({QStringLiteral("a.mp4")});
@@ -99,6 +112,28 @@ TEST_F(TestMainWindowTracks, ACropTrackIsSavedAsTheDialogWouldShowTheVideo)
     EXPECT_EQ(m_backend->savedTracks, QStringList(m_folder.filePath(QStringLiteral("track.csv"))));
     EXPECT_EQ(m_boxes, QStringList(QStringLiteral("The crop track was saved.")));
     EXPECT_EQ(m_fileManager.shown, QStringList(m_folder.path()));
+}
+
+TEST_F(TestMainWindowTracks, TheCropIsHandedOverToEachProgram)
+{
+    OpenOne();
+    m_backend->whenFinding = [](FakeMediaBackend::Finding& finding) { finding.EndWell(); };
+    const QList<std::pair<QString, QString>> targets{{QStringLiteral("Shotcut"), QStringLiteral("mlt")},
+                                                     {QStringLiteral("Kdenlive"), QStringLiteral("kdenlive")},
+                                                     {QStringLiteral("Final Cut Pro"), QStringLiteral("fcpxml")},
+                                                     {QStringLiteral("After Effects"), QStringLiteral("txt")},
+                                                     {QStringLiteral("ffmpeg"), QStringLiteral("ffscript")}};
+    QStringList files;
+    QStringList messages;
+    for (const auto& [program, suffix] : targets) {
+        WhenAskedForAFile(QStringLiteral("crop"), QStringLiteral("Export for %1").arg(program));
+        EXPECT_TRUE(Choose(QStringLiteral("%1 (.%2)…").arg(program, suffix), QStringLiteral("ExportForMenu")));
+        files += m_folder.filePath(QStringLiteral("crop.%1").arg(suffix));
+        messages += QStringLiteral("The file for %1 was saved.").arg(program);
+    }
+    EXPECT_EQ(m_backend->savedEditLists, files);
+    EXPECT_EQ(m_boxes, messages);
+    EXPECT_TRUE(m_backend->savedTracks.isEmpty());
 }
 
 TEST_F(TestMainWindowTracks, AFailureIsReportedAndNothingSaved)
@@ -171,6 +206,7 @@ TEST_F(TestMainWindowTracks, OnlyOneVideoHasACropTrack)
     ASSERT_TRUE(WaitUntilAllAreOpen());
     EXPECT_FALSE(Choose(QStringLiteral("Save Crop Track…")));
     EXPECT_FALSE(Choose(QStringLiteral("Open Crop Track…")));
+    EXPECT_FALSE(Choose(QStringLiteral("Export for")));
     View()->setCurrentIndex(View()->model()->index(0, 0));
     KxFileDialog::SetResponder([](const KxFileDialog::Shown&) { return QStringList(); });
     EXPECT_TRUE(Choose(QStringLiteral("Open Crop Track…")));

@@ -207,6 +207,7 @@ void MainWindow::ConnectLibrary()
     connect(m_view, &MediaLibraryView::sigReframeAll, this, &MainWindow::ReframeAllSelected);
     connect(m_view, &MediaLibraryView::sigSaveCropTrack, this, &MainWindow::SaveCropTrack);
     connect(m_view, &MediaLibraryView::sigOpenCropTrack, this, &MainWindow::OpenCropTrack);
+    connect(m_view, &MediaLibraryView::sigExportFor, this, &MainWindow::SaveCrops);
     connect(m_view, &MediaLibraryView::sigShowInFolder, this,
             [this](const QModelIndex& video) { ShowInFolder(m_library->Model().PathAt(video)); });
     connect(m_library, &MediaLibrary::sigImported, this, &MainWindow::SelectImported);

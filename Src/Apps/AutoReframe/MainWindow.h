@@ -19,6 +19,7 @@ class MediaLibraryView;
 class MediaBackendLoader;
 class QMenu;
 class QTimer;
+struct EditListTarget;
 struct StoredContents;
 
 /// The program's window: library, exports, status.
@@ -81,6 +82,8 @@ private:
     void LookAtExport(int id);
     /// Of the one selected video, as its dialog would show it.
     void SaveCropTrack();
+    /// The same as a crop track, or for another program.
+    void SaveCrops(const std::optional<EditListTarget>& target);
     /// Exports the one selected video with the crops of a file.
     void OpenCropTrack();
     /// Without a path unless one video is selected.

@@ -7,6 +7,7 @@
 #include <Apps/AutoReframe/Library/LibraryShortcuts.h>
 #include <Apps/AutoReframe/Library/MediaLibrary.h>
 #include <Apps/AutoReframe/Library/MediaLibraryView.h>
+#include <Apps/AutoReframe/Tracks/ExportForMenu.h>
 
 #include <KxCore/KxConfig.h>
 #include <KxWidgets/KrMessageDialog.h>
@@ -95,6 +96,7 @@ void MainWindow::ShowMenu()
     const bool isOneSelected = UsableSelected().size() == 1;
     menu.addAction(tr("Save Crop Track…"), this, &MainWindow::SaveCropTrack)->setEnabled(isOneSelected);
     menu.addAction(tr("Open Crop Track…"), this, &MainWindow::OpenCropTrack)->setEnabled(isOneSelected);
+    ExportForMenu::AddTo(menu, [this](const EditListTarget& target) { SaveCrops(target); })->setEnabled(isOneSelected);
     menu.addSeparator();
     menu.addAction(tr("Keyboard Shortcuts"), this, &MainWindow::ShowHelp)->setShortcut(QKeySequence::HelpContents);
     menu.addAction(tr("About Auto Reframe"), this, &MainWindow::ShowAbout);

@@ -55,6 +55,11 @@ std::optional<FoundCrops> MainWindow::WaitForCrops(const CropRequest& request)
 
 void MainWindow::SaveCropTrack()
 {
+    SaveCrops(std::nullopt);
+}
+
+void MainWindow::SaveCrops(const std::optional<EditListTarget>& target)
+{
     const CropRequest request = RequestForSelected();
     if (request.path.isEmpty() || m_isReframing) {
         return;
@@ -63,7 +68,7 @@ void MainWindow::SaveCropTrack()
         QStringLiteral("%1-%2x%3")
             .arg(QFileInfo(request.path).completeBaseName(), QString::number(request.plan.aspect.width()),
                  QString::number(request.plan.aspect.height()));
-    CropTrackDialog dialog(name, OutputFolder(), this);
+    CropTrackDialog dialog(name, OutputFolder(), target, this);
     if (dialog.DoModal() == 0) {
         return;
     }
@@ -71,11 +76,15 @@ void MainWindow::SaveCropTrack()
     if (!found) {
         return;
     }
-    const KxResult<QString> saved = m_backend.Get()->SaveCropTrack(*found, dialog.FilePath());
+    MediaBackend& backend = *m_backend.Get();
+    const KxResult<QString> saved =
+        target ? backend.SaveEditList(*found, dialog.FilePath()) : backend.SaveCropTrack(*found, dialog.FilePath());
+    const QString done =
+        target ? tr("The file for %1 was saved.").arg(target->program) : tr("The crop track was saved.");
     if (!saved) {
         Inform(saved.Message());
-    } else if (KrMessageDialog::Question_CustomYesNo(tr("The crop track was saved."), tr("Close"), tr("Show in Folder"),
-                                                     this, KrStandardButton::No, QDir::toNativeSeparators(*saved),
+    } else if (KrMessageDialog::Question_CustomYesNo(done, tr("Close"), tr("Show in Folder"), this,
+                                                     KrStandardButton::No, QDir::toNativeSeparators(*saved),
                                                      tr("Auto Reframe"), KrMessageType::Information)) {
         ShowInFolder(*saved);
     }

@@ -1,5 +1,6 @@
 #include <Apps/Reframe/ReframeJob.h>
 
+#include <Apps/CropTracks/CroppedMedia.h>
 #include <KrAutoReframe/Engine/KrAutoReframeHelper.h>
 #include <KrAutoReframe/Engine/KrExportParameters.h>
 #include <KxEditList/KxEditList.h>
@@ -19,18 +20,9 @@ QString ReframeJob::EditListPath(const QString& named) const
 
 KxCroppedClip ReframeJob::CroppedClip() const
 {
-    const auto& stream = static_cast<const KxClip*>(m_media->clip())->StreamInfo();
-    KxCroppedClip clip;
-    clip.path = QFileInfo(m_input).absoluteFilePath();
-    clip.size = stream.resolution();
-    clip.frameRate = stream.frameRate();
-    clip.hasSound = stream.hasAudioStream();
-    const QList<IKxAutoReframeResult> crops = Helper().GetDisplayResults();
-    clip.outputSize = KrExportParameters::EvenResolution(clip.size, ShapeOfResult());
-    clip.fitsOtherShapes = m_otherShapes == KxRenderSource::OtherShapes::Fitted;
-    for (const IKxAutoReframeResult& crop : crops) {
-        clip.crops.push_back(crop.cropRect());
-    }
+    const QSize picture = static_cast<const KxClip*>(m_media->clip())->StreamInfo().resolution();
+    const QSize outputSize = KrExportParameters::EvenResolution(picture, ShapeOfResult());
+    KxCroppedClip clip = CroppedMedia::Clip(*m_media, Helper().GetDisplayResults(), outputSize, m_otherShapes);
     const std::shared_ptr<const KxSubjectFindings> findings = KxAutoReframeService::Instance().LastFindings();
     if (!m_track && findings != nullptr) {
         for (const KxSubjectFindings::Shot& shot : findings->shots) {

@@ -161,6 +161,11 @@ public:
         savedTracks += filePath;
         return filePath;
     }
+    KxResult<QString> SaveEditList(const FoundCrops&, const QString& filePath) override
+    {
+        savedEditLists += filePath;
+        return filePath;
+    }
 
     /// Called by the thread that opens a file.
     std::function<void(const QString& name, const KxCancelToken& cancel)> whileOpening;
@@ -178,4 +183,5 @@ public:
     /// Called when a search has started.
     std::function<void(Finding&)> whenFinding;
     QStringList savedTracks;
+    QStringList savedEditLists;
 };

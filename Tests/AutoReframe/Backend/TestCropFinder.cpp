@@ -2,6 +2,7 @@
 #include <Apps/CropTracks/CropTrackFile.h>
 #include <Tests/Support/MadeVideo.h>
 
+#include <KxEditList/KxEditList.h>
 #include <KxModel/KxSimpleTimeline.h>
 
 #include <QFile>
@@ -165,6 +166,26 @@ TEST_F(TestCropFinder, ASavedCropTrackIsReadAgain)
                         1e-9);
         }
         EXPECT_EQ(read.request.settings.resolution, QSize(60, 108));
+    }
+}
+
+TEST_F(TestCropFinder, AnEditListHasTheEditsAndTheSizeOfTheVideo)
+{
+    CropRequest request = Request(MakeClip("clip.mp4"));
+    request.edits.editPoints.insert(25, QRectF(0.0, 0.0, 60.75 / 192, 1.0));
+    const FoundCrops found = Find(request);
+    ASSERT_NE(found.clip, nullptr);
+    EXPECT_EQ(found.clip->outputSize, QSize(60, 108));
+    EXPECT_EQ(found.clip->edits, std::vector<qint64>{25});
+    ASSERT_FALSE(found.clip->shotStarts.empty());
+    EXPECT_EQ(found.clip->shotStarts.front(), 0);
+    for (const QString& suffix : KxEditList::Suffixes()) {
+        const KxResult<QString> saved =
+            m_backend.SaveEditList(found, m_folder.filePath(QStringLiteral("crop.") + suffix));
+        ASSERT_TRUE(saved) << saved.Message().toStdString();
+        QFile file(*saved);
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+        EXPECT_EQ(file.readAll(), KxEditList::Text(*found.clip, suffix)) << suffix.toStdString();
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include <Apps/CropTracks/CropRenderSettings.h>
 #include <Apps/CropTracks/CropTrackFile.h>
+#include <Apps/CropTracks/CroppedMedia.h>
 #include <KrAutoReframe/Engine/KrAutoReframeHelper.h>
 #include <KrAutoReframe/Engine/KrExportParameters.h>
 #include <KxCore/KxCropWindow.h>
@@ -172,6 +173,7 @@ CropFinder::Analyzed CropFinder::Analyze(std::shared_ptr<KxMediaItem> media)
     analyzed.found.outcome = result.outcome;
     analyzed.found.message = result.message;
     for (const KxAutoReframeShot& shot : result.shots) {
+        analyzed.shotStarts.push_back(shot.first);
         if (shot.doubt != KxAutoReframeDoubt::None) {
             analyzed.found.doubtfulShots += static_cast<uint>(shot.first);
         }
@@ -218,6 +220,7 @@ void CropFinder::Finish()
             found.message = *reason;
         } else {
             found.track = std::make_shared<const CropTrack>(MakeTrack());
+            found.clip = std::make_shared<const KxCroppedClip>(MakeClip());
         }
     }
     if (m_callbacks.finished) {
@@ -273,4 +276,15 @@ CropTrack CropFinder::MakeTrack() const
     track.models = m_analyzed.models;
     track.otherShapes = OtherShapes();
     return track;
+}
+
+KxCroppedClip CropFinder::MakeClip() const
+{
+    KxCroppedClip clip = CroppedMedia::Clip(*m_analyzed.media, m_helper->GetDisplayResults(),
+                                            m_analyzed.found.request.settings.resolution, OtherShapes());
+    clip.shotStarts = m_analyzed.shotStarts;
+    for (const uint frame : m_helper->GetEditPointFrames()) {
+        clip.edits.push_back(frame);
+    }
+    return clip;
 }

@@ -2,6 +2,7 @@
 
 #include <Apps/AutoReframe/Backend/MediaBackend.h>
 #include <KxCore/KxThread.h>
+#include <KxEditList/KxCroppedClip.h>
 #include <KxModel/KxVideoAnalysis.h>
 
 #include <QObject>
@@ -30,6 +31,7 @@ private:
         std::shared_ptr<KxMediaItem> media;
         QList<IKxAutoReframeResult> crops;
         std::vector<KxUsedModel> models;
+        std::vector<qint64> shotStarts; ///< ascending; empty if the crops were read
         QSize aspect;
     };
 
@@ -46,6 +48,7 @@ private:
     /// Shots that show the whole picture are fitted.
     KxRenderSource::OtherShapes OtherShapes() const;
     CropTrack MakeTrack() const;
+    KxCroppedClip MakeClip() const;
 
     const CropRequest m_request;
     KxAnalysisSettings m_settings;

@@ -5,6 +5,7 @@
 #include <Apps/AutoReframe/Backend/ExportRecord.h>
 #include <Apps/CropTracks/CropTrackFile.h>
 #include <KxCore/KxLog.h>
+#include <KxEditList/KxEditList.h>
 #include <KxMedia/Container/KxAvVersion.h>
 #include <KxMediaLibrary/KxThumbnailer.h>
 #include <KxModel/KxAutoReframeService.h>
@@ -170,5 +171,11 @@ std::unique_ptr<MediaTask> HostMediaBackend::FindCrops(const CropRequest& reques
 KxResult<QString> HostMediaBackend::SaveCropTrack(const FoundCrops& crops, const QString& filePath)
 {
     return KxOutputFile::Write(filePath, CropTrackFile::Format(*crops.track, filePath),
+                               KxOutputFile::Existing::AddNumber);
+}
+
+KxResult<QString> HostMediaBackend::SaveEditList(const FoundCrops& crops, const QString& filePath)
+{
+    return KxOutputFile::Write(filePath, KxEditList::Text(*crops.clip, QFileInfo(filePath).suffix()),
                                KxOutputFile::Existing::AddNumber);
 }

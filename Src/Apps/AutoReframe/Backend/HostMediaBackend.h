@@ -24,6 +24,7 @@ public:
     std::unique_ptr<MediaTask> Render(const ExportRequest& request, const KxRenderJob::Callbacks& callbacks) override;
     std::unique_ptr<MediaTask> FindCrops(const CropRequest& request, const CropCallbacks& callbacks) override;
     KxResult<QString> SaveCropTrack(const FoundCrops& crops, const QString& filePath) override;
+    KxResult<QString> SaveEditList(const FoundCrops& crops, const QString& filePath) override;
 
 private:
     KxThumbnailer& Thumbnailer();

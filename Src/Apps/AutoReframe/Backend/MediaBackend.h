@@ -86,6 +86,7 @@ struct CropRequest {
 };
 
 struct CropTrack;
+struct KxCroppedClip;
 
 /// The crop of every frame of a video, and what follows from it.
 struct FoundCrops {
@@ -98,6 +99,7 @@ struct FoundCrops {
     QList<uint> doubtfulShots;
     /// Null unless done. Only the backend looks into it.
     std::shared_ptr<const CropTrack> track;
+    std::shared_ptr<const KxCroppedClip> clip; ///< the same
 };
 
 /// A running analysis or rendering. Its destructor cancels it and waits for its end.
@@ -176,6 +178,8 @@ public:
     /// Writes the crops to a file for the command line, .json or .csv. A file of that name is kept, and the new one
     /// gets a number. Returns the path.
     virtual KxResult<QString> SaveCropTrack(const FoundCrops& crops, const QString& filePath) = 0;
+    /// Writes the crops to a file for another program, by its suffix (see KxEditList). Names are kept as above.
+    virtual KxResult<QString> SaveEditList(const FoundCrops& crops, const QString& filePath) = 0;
 
 protected:
     MediaBackend() = default;

@@ -102,6 +102,7 @@ void MediaLibraryView::contextMenuEvent(QContextMenuEvent* event)
                 menu.addSeparator();
                 menu.addAction(tr("Save Crop Track…"), this, &MediaLibraryView::sigSaveCropTrack);
                 menu.addAction(tr("Open Crop Track…"), this, &MediaLibraryView::sigOpenCropTrack);
+                ExportForMenu::AddTo(menu, [this](const EditListTarget& target) { Q_EMIT sigExportFor(target); });
                 menu.addSeparator();
             }
         }

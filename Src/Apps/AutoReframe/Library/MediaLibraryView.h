@@ -1,5 +1,7 @@
 #pragma once
 
+#include <Apps/AutoReframe/Tracks/ExportForMenu.h>
+
 #include <QListView>
 
 class MediaCardDelegate;
@@ -31,6 +33,7 @@ Q_SIGNALS:
     void sigReframeAll();
     void sigSaveCropTrack();
     void sigOpenCropTrack();
+    void sigExportFor(const EditListTarget& target);
     void sigShowInFolder(const QModelIndex& index);
     /// The file of a video is missing, and the person wants to find it.
     void sigFindFile(const QModelIndex& index);

@@ -1,17 +1,21 @@
 #pragma once
 
 #include <Apps/AutoReframe/Dialogs/SaveDialog.h>
+#include <Apps/AutoReframe/Tracks/ExportForMenu.h>
+
+#include <optional>
 
 class KxComboBox;
 class KxLabel;
 
-/// Asks where to save a crop track, and in which format.
+/// Asks where to save the crops of a video: as a crop track, and in which format, or for another program.
 class CropTrackDialog : public SaveDialog
 {
     Q_OBJECT
 public:
-    /// `name` has no suffix.
-    CropTrackDialog(const QString& name, const QString& folder, QWidget* parent);
+    /// `name` has no suffix. Without a `target`, for a crop track.
+    CropTrackDialog(const QString& name, const QString& folder, const std::optional<EditListTarget>& target,
+                    QWidget* parent);
     ~CropTrackDialog() override;
 
     QString FilePath() const;
@@ -21,6 +25,7 @@ protected:
     void RetranslateUi() override;
 
 private:
+    const std::optional<EditListTarget> m_target;
     KxLabel* m_formatCaption = nullptr;
     KxComboBox* m_format = nullptr;
 };
