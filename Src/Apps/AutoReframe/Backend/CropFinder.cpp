@@ -6,6 +6,7 @@
 #include <KrAutoReframe/Engine/KrAutoReframeHelper.h>
 #include <KrAutoReframe/Engine/KrExportParameters.h>
 #include <KxCore/KxCropWindow.h>
+#include <KxCore/KxOutputSize.h>
 #include <KxModel/KxChoicesFormat.h>
 #include <KxModel/KxMediaItem.h>
 #include <KxModel/KxSimpleTimeline.h>
@@ -40,13 +41,6 @@ QString SpeedName(int speed)
 QString AspectText(const QSize& aspect)
 {
     return QStringLiteral("%1:%2").arg(QString::number(aspect.width()), QString::number(aspect.height()));
-}
-
-/// `crop` scaled so that its shorter side has `shortSidePx`.
-QSize ScaledTo(int shortSidePx, const QSizeF& crop)
-{
-    const double scale = shortSidePx / std::min(crop.width(), crop.height());
-    return KrExportParameters::EvenResolution(QSize(1, 1), {0.0, 0.0, crop.width() * scale, crop.height() * scale});
 }
 
 } // namespace
@@ -242,10 +236,14 @@ KxError CropFinder::MakeRequest(ExportRequest& request) const
         return Translated("Cannot reframe %1: its picture of %2 x %3 pixels is too small.")
             .arg(m_analyzed.media->name(), QString::number(picture.width()), QString::number(picture.height()));
     }
-    if (m_request.plan.shortSidePx > 0) {
-        settings.resolution =
-            ScaledTo(m_request.plan.shortSidePx, {crop.width() * picture.width(), crop.height() * picture.height()});
+    KxOutputSize size;
+    size.shortSidePx = m_request.plan.shortSidePx;
+    const KxResult<QSize> resolution =
+        size.For({crop.width() * picture.width(), crop.height() * picture.height()}, settings.resolution);
+    if (!resolution) {
+        return Translated("Cannot reframe %1: %2.").arg(m_analyzed.media->name(), resolution.Message());
     }
+    settings.resolution = *resolution;
     request = {*source, settings};
     return std::nullopt;
 }

@@ -1,0 +1,65 @@
+#include <KxCore/KxOutputSize.h>
+
+#include <QCoreApplication>
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <cmath>
+
+namespace
+{
+
+constexpr int LongestSidePx = 16384;
+// A crop of odd width becomes a pixel wider or narrower, and people round.
+constexpr double ShapeTolerance = 0.01;
+
+int Even(double exact)
+{
+    return std::max(2, 2 * static_cast<int>(std::lround(exact / 2.0)));
+}
+
+bool IsUsable(int sidePx)
+{
+    return sidePx >= 2 && sidePx <= LongestSidePx && sidePx % 2 == 0;
+}
+
+} // namespace
+
+std::optional<KxOutputSize> KxOutputSize::Parse(const QString& text)
+{
+    static const QRegularExpression Both(QStringLiteral("^(\\d{1,5})x(\\d{1,5})$"));
+    static const QRegularExpression Height(QStringLiteral("^(\\d{1,5})p$"));
+    KxOutputSize size;
+    if (const auto match = Both.match(text); match.hasMatch()) {
+        size.exact = QSize(match.captured(1).toInt(), match.captured(2).toInt());
+        return IsUsable(size.exact.width()) && IsUsable(size.exact.height()) ? std::optional(size) : std::nullopt;
+    }
+    const auto match = Height.match(text);
+    size.heightPx = match.captured(1).toInt();
+    return match.hasMatch() && IsUsable(size.heightPx) ? std::optional(size) : std::nullopt;
+}
+
+KxResult<QSize> KxOutputSize::For(const QSizeF& crop, const QSize& cropSize) const
+{
+    if (IsThatOfTheCrop()) {
+        return cropSize;
+    }
+    const double aspect = crop.width() / crop.height();
+    if (exact.isEmpty()) {
+        const double height = heightPx > 0 ? heightPx : aspect < 1.0 ? shortSidePx / aspect : shortSidePx;
+        return QSize(Even(height * aspect), Even(height));
+    }
+    if (std::abs(aspect * exact.height() / exact.width() - 1.0) > ShapeTolerance) {
+        return KxResult<QSize>::Failure(
+            QCoreApplication::translate("KxOutputSize",
+                                        "the size %1 x %2 has not the shape of the crop; %1 x %3 has it")
+                .arg(QString::number(exact.width()), QString::number(exact.height()),
+                     QString::number(Even(exact.width() / aspect))));
+    }
+    return exact;
+}
+
+bool KxOutputSize::Enlarges(const QSize& size, const QSize& cropSize)
+{
+    return size.width() > cropSize.width() || size.height() > cropSize.height();
+}
