@@ -26,6 +26,7 @@ constexpr int BlurPasses = 2;
 // What remains of the background's light and colour, so that the picture before it stands out.
 constexpr double Remaining = 0.45;
 
+// In values of 8 bits.
 constexpr int Neutral = 128;
 constexpr int BlackOfLimitedRange = 16;
 
@@ -45,8 +46,25 @@ QSize PlaneSize(const QSize& size, int plane)
     return plane == 0 ? size : size / 2;
 }
 
-/// A running mean along a line of samples that lie `step` bytes apart; the ends are repeated.
-void BlurLine(std::uint8_t* samples, int count, std::ptrdiff_t step, std::vector<std::uint8_t>& line)
+/// One plane of a picture.
+template<typename Sample>
+struct Plane {
+    Sample* samples;
+    std::ptrdiff_t stride; ///< in samples
+    QSize size;
+};
+
+template<typename Sample>
+Plane<Sample> PlaneOf(AVFrame& picture, int plane)
+{
+    return {reinterpret_cast<Sample*>(picture.data[plane]),
+            static_cast<std::ptrdiff_t>(picture.linesize[plane] / static_cast<int>(sizeof(Sample))),
+            PlaneSize({picture.width, picture.height}, plane)};
+}
+
+/// A running mean along a line of samples that lie `step` samples apart; the ends are repeated.
+template<typename Sample>
+void BlurLine(Sample* samples, int count, std::ptrdiff_t step, std::vector<Sample>& line)
 {
     line.resize(static_cast<std::size_t>(count));
     for (int at = 0; at < count; ++at) {
@@ -58,40 +76,59 @@ void BlurLine(std::uint8_t* samples, int count, std::ptrdiff_t step, std::vector
         for (int near = at - BlurRadius; near <= at + BlurRadius; ++near) {
             sum += line[static_cast<std::size_t>(std::clamp(near, 0, count - 1))];
         }
-        samples[at * step] = static_cast<std::uint8_t>(sum / width);
+        samples[at * step] = static_cast<Sample>(sum / width);
     }
 }
 
-void Blur(std::uint8_t* plane, std::ptrdiff_t strideBytes, const QSize& size)
+template<typename Sample>
+void Blur(const Plane<Sample>& plane)
 {
-    std::vector<std::uint8_t> line;
+    std::vector<Sample> line;
     for (int pass = 0; pass < BlurPasses; ++pass) {
-        for (int y = 0; y < size.height(); ++y) {
-            BlurLine(plane + y * strideBytes, size.width(), 1, line);
+        for (int y = 0; y < plane.size.height(); ++y) {
+            BlurLine(plane.samples + y * plane.stride, plane.size.width(), 1, line);
         }
-        for (int x = 0; x < size.width(); ++x) {
-            BlurLine(plane + x, size.height(), strideBytes, line);
+        for (int x = 0; x < plane.size.width(); ++x) {
+            BlurLine(plane.samples + x, plane.size.height(), plane.stride, line);
         }
     }
 }
 
-void Darken(std::uint8_t* plane, std::ptrdiff_t strideBytes, const QSize& size, int unchanged)
+template<typename Sample>
+void Darken(const Plane<Sample>& plane, int unchanged)
 {
-    for (int y = 0; y < size.height(); ++y) {
-        std::uint8_t* const row = plane + y * strideBytes;
-        std::transform(row, row + size.width(), row, [unchanged](std::uint8_t value) {
-            return static_cast<std::uint8_t>(std::lround(unchanged + (value - unchanged) * Remaining));
+    for (int y = 0; y < plane.size.height(); ++y) {
+        Sample* const row = plane.samples + y * plane.stride;
+        std::transform(row, row + plane.size.width(), row, [unchanged](Sample value) {
+            return static_cast<Sample>(std::lround(unchanged + (value - unchanged) * Remaining));
         });
     }
+}
+
+int SampleBytes(const AVFrame& picture)
+{
+    return picture.format == AV_PIX_FMT_YUV420P10 ? 2 : 1;
+}
+
+template<typename Sample>
+void BlurAndDarken(AVFrame& picture, int plane)
+{
+    constexpr int unit = sizeof(Sample) == 1 ? 1 : 4; // 10 bits
+    const int black = picture.color_range == AVCOL_RANGE_JPEG ? 0 : BlackOfLimitedRange;
+    const Plane<Sample> samples = PlaneOf<Sample>(picture, plane);
+    Blur(samples);
+    Darken(samples, (plane == 0 ? black : Neutral) * unit);
 }
 
 void CopyPlane(const AVFrame& from, AVFrame& to, int plane, const QRect& place)
 {
     const QRect area = plane == 0 ? place : QRect(place.topLeft() / 2, place.size() / 2);
+    const int bytes = SampleBytes(to);
     for (int y = 0; y < area.height(); ++y) {
-        std::memcpy(to.data[plane] + static_cast<std::ptrdiff_t>(area.y() + y) * to.linesize[plane] + area.x(),
+        std::memcpy(to.data[plane] + static_cast<std::ptrdiff_t>(area.y() + y) * to.linesize[plane] +
+                        std::ptrdiff_t{1} * area.x() * bytes,
                     from.data[plane] + static_cast<std::ptrdiff_t>(y) * from.linesize[plane],
-                    static_cast<std::size_t>(area.width()));
+                    static_cast<std::size_t>(area.width() * bytes));
     }
 }
 
@@ -107,10 +144,11 @@ QRectF MiddleOf(const QRectF& crop, const QSizeF& shape, const QSize& size)
 class KxFittedCutter::Impl
 {
 public:
-    explicit Impl(const QSize& size)
+    Impl(const QSize& size, KxHighRange highRange)
         : m_size(size)
+        , m_highRange(highRange)
         , m_backgroundSize(BackgroundSize(size))
-        , m_background(m_backgroundSize)
+        , m_background(m_backgroundSize, highRange)
     {
     }
 
@@ -122,6 +160,7 @@ private:
     bool PaintBackground(const AVFrame& small, AVFrame& target);
 
     const QSize m_size;
+    const KxHighRange m_highRange;
     const QSize m_backgroundSize;
     KxFrameCutter m_background;
     /// For the last shape of a crop.
@@ -142,7 +181,7 @@ Cutting KxFittedCutter::Impl::Cut(const KxVideoFrame& picture, const QRectF& cro
     const QSizeF shape = KxCropWindow::Pixels(inside, picture.DisplayedSize()).size();
     const QRect place = PlaceOf(shape, m_size);
     if (m_front == nullptr || m_frontSize != place.size()) {
-        m_front = std::make_unique<KxFrameCutter>(place.size());
+        m_front = std::make_unique<KxFrameCutter>(place.size(), m_highRange);
         m_frontSize = place.size();
     }
     const Cutting front = m_front->Cut(picture, inside);
@@ -150,12 +189,13 @@ Cutting KxFittedCutter::Impl::Cut(const KxVideoFrame& picture, const QRectF& cro
     if (!front || !background) {
         return front ? background : front;
     }
-    KxAvFrame result = m_pool.Take(AV_PIX_FMT_YUV420P, m_size);
+    const AVFrame& cut = (*front).Picture();
+    KxAvFrame result = m_pool.Take(static_cast<AVPixelFormat>(cut.format), m_size);
     if (result == nullptr || !PaintBackground((*background).Picture(), *result)) {
         return Cutting::Failure(QStringLiteral("Cannot cut a picture: memory ran out."));
     }
-    const AVFrame& cut = (*front).Picture();
     KxPictureColour::Copy(cut, *result);
+    KxPictureColour::CopyBrightness(cut, *result);
     result->sample_aspect_ratio = cut.sample_aspect_ratio;
     for (int plane = 0; plane < Planes; ++plane) {
         CopyPlane(cut, *result, plane, place);
@@ -165,17 +205,19 @@ Cutting KxFittedCutter::Impl::Cut(const KxVideoFrame& picture, const QRectF& cro
 
 bool KxFittedCutter::Impl::PaintBackground(const AVFrame& small, AVFrame& target)
 {
-    const KxAvFrame blurred = m_blurPool.Take(AV_PIX_FMT_YUV420P, m_backgroundSize);
+    const KxAvFrame blurred = m_blurPool.Take(static_cast<AVPixelFormat>(small.format), m_backgroundSize);
     if (blurred == nullptr) {
         return false;
     }
-    const int black = small.color_range == AVCOL_RANGE_JPEG ? 0 : BlackOfLimitedRange;
+    blurred->color_range = small.color_range;
+    const bool isDeep = SampleBytes(small) > 1;
     for (int plane = 0; plane < Planes; ++plane) {
         const QSize size = PlaneSize(m_backgroundSize, plane);
         CopyPlane(small, *blurred, plane, QRect(QPoint(0, 0), m_backgroundSize));
-        Blur(blurred->data[plane], blurred->linesize[plane], size);
-        Darken(blurred->data[plane], blurred->linesize[plane], size, plane == 0 ? black : Neutral);
+        isDeep ? BlurAndDarken<std::uint16_t>(*blurred, plane) : BlurAndDarken<std::uint8_t>(*blurred, plane);
         KxPlaneResampler::Request request;
+        request.sourceBits = isDeep ? 10 : 8;
+        request.targetBits = request.sourceBits;
         request.source = size;
         request.width = size.width();
         request.height = size.height();
@@ -189,8 +231,8 @@ bool KxFittedCutter::Impl::PaintBackground(const AVFrame& small, AVFrame& target
     return true;
 }
 
-KxFittedCutter::KxFittedCutter(const QSize& size)
-    : m_impl(std::make_unique<Impl>(size))
+KxFittedCutter::KxFittedCutter(const QSize& size, KxHighRange highRange)
+    : m_impl(std::make_unique<Impl>(size, highRange))
 {
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <KxCore/KxResult.h>
+#include <KxMedia/Picture/KxHighRange.h>
 #include <KxMedia/Picture/KxVideoFrame.h>
 
 #include <QRect>
@@ -15,7 +16,7 @@ class KXMEDIA_API KxFittedCutter
 {
 public:
     /// `size` is that of the result: even and positive.
-    explicit KxFittedCutter(const QSize& size);
+    explicit KxFittedCutter(const QSize& size, KxHighRange highRange = KxHighRange::ToneMapped);
     ~KxFittedCutter();
 
     const QSize& Size() const;

@@ -10,13 +10,11 @@
 #include <KxMedia/Picture/KxToneMapper.h>
 
 extern "C" {
-#include <libavutil/mastering_display_metadata.h>
 #include <libavutil/pixdesc.h>
 }
 
 #include <algorithm>
 #include <cstdint>
-#include <cstring>
 
 namespace
 {
@@ -110,29 +108,14 @@ void FillNeutral(const KxPlaneResampler::Request& request, AVFrame& target, int 
     }
 }
 
-// Brightness metadata for the tone mapper.
-void CopyBrightness(const AVFrame& from, AVFrame& to)
-{
-    for (const AVFrameSideDataType type :
-         {AV_FRAME_DATA_MASTERING_DISPLAY_METADATA, AV_FRAME_DATA_CONTENT_LIGHT_LEVEL}) {
-        const AVFrameSideData* const known = av_frame_get_side_data(&from, type);
-        if (known == nullptr) {
-            continue;
-        }
-        AVFrameSideData* const copy = av_frame_new_side_data(&to, type, known->size);
-        if (copy != nullptr) {
-            std::memcpy(copy->data, known->data, known->size);
-        }
-    }
-}
-
 } // namespace
 
 class KxFrameCutter::Impl
 {
 public:
-    explicit Impl(const QSize& size)
+    Impl(const QSize& size, KxHighRange highRange)
         : m_size(size)
+        , m_highRange(highRange)
     {
     }
 
@@ -147,6 +130,7 @@ private:
     Cutting Turned(KxAvFrame cut, const KxVideoFrame::Orientation& turn);
 
     QSize m_size;
+    const KxHighRange m_highRange;
     KxPlanarConverter m_converter;
     KxFramePool m_cutPool;
     KxFramePool m_turnPool;
@@ -169,15 +153,18 @@ KxResult<KxVideoFrame> KxFrameCutter::Impl::Cut(const KxVideoFrame& picture, con
     }
     const KxVideoFrame::Orientation& turn = picture.Turn();
     const QRectF codedCrop = KxPlaneGeometry::ToCoded(KxCropWindow::Inside(crop), turn);
-    const bool isHighRange = KxPictureColour::IsHighDynamicRange(*source);
+    const bool keeps = m_highRange == KxHighRange::Kept;
+    const bool isMapped = !keeps && KxPictureColour::IsHighDynamicRange(*source);
     // Tone mapping needs more than 8 bits; full-resolution chroma saves it a scaling step.
-    const AVPixelFormat format = isHighRange ? AV_PIX_FMT_YUV444P10 : AV_PIX_FMT_YUV420P;
+    const AVPixelFormat format = keeps ? AV_PIX_FMT_YUV420P10 : isMapped ? AV_PIX_FMT_YUV444P10 : AV_PIX_FMT_YUV420P;
     Cutting cut = CutCoded(*source, codedCrop, turn, format);
     if (cut && (turn.clockwiseDegrees != 0 || turn.mirror)) {
         cut = Turned(std::move(*cut), turn);
     }
-    if (cut && isHighRange) {
-        CopyBrightness(picture.Picture(), **cut);
+    if (cut && (keeps || isMapped)) {
+        KxPictureColour::CopyBrightness(picture.Picture(), **cut);
+    }
+    if (cut && isMapped) {
         cut = m_toneMapper.Map(**cut);
     }
     if (!cut) {
@@ -197,7 +184,7 @@ KxFrameCutter::Impl::Cutting KxFrameCutter::Impl::CutCoded(const AVFrame& source
         return Cutting::Failure(QStringLiteral("Cannot cut a picture: memory ran out."));
     }
     KxPictureColour::Copy(source, *target);
-    target->chroma_location = format == AV_PIX_FMT_YUV420P ? AVCHROMA_LOC_LEFT : AVCHROMA_LOC_UNSPECIFIED;
+    target->chroma_location = format == AV_PIX_FMT_YUV444P10 ? AVCHROMA_LOC_UNSPECIFIED : AVCHROMA_LOC_LEFT;
     const QRectF windowPx = KxCropWindow::Pixels(codedCrop, QSize(source.width, source.height));
     const KxPlaneResampler::Request luma = LumaRequest(source, windowPx, *target);
     const KxPlaneResampler::Request chroma = ChromaRequest(source, windowPx, turn, *target);
@@ -233,8 +220,8 @@ KxFrameCutter::Impl::Cutting KxFrameCutter::Impl::Turned(KxAvFrame cut, const Kx
     return Cutting(std::move(turned));
 }
 
-KxFrameCutter::KxFrameCutter(const QSize& size)
-    : m_impl(std::make_unique<Impl>(size))
+KxFrameCutter::KxFrameCutter(const QSize& size, KxHighRange highRange)
+    : m_impl(std::make_unique<Impl>(size, highRange))
 {
 }
 KxFrameCutter::~KxFrameCutter() = default;

@@ -1,21 +1,23 @@
 #pragma once
 
 #include <KxCore/KxResult.h>
+#include <KxMedia/Picture/KxHighRange.h>
 #include <KxMedia/Picture/KxVideoFrame.h>
 
 #include <QRectF>
 
 #include <memory>
 
-/// Cuts a rectangle out of decoded pictures and scales it, once, to an upright 8-bit 4:2:0 picture of a fixed size.
+/// Cuts a rectangle out of decoded pictures and scales it, once, to an upright 4:2:0 picture of a fixed size with 8
+/// bits, or with 10 where high dynamic range is kept.
 ///
-/// The rectangle is accurate to a fraction of a pixel, in luma and chroma, so that slow pans move evenly. Pictures in
-/// high dynamic range (PQ, HLG) are tone-mapped to BT.709. One thread at a time.
+/// The rectangle is accurate to a fraction of a pixel, in luma and chroma, so that slow pans move evenly. One thread at
+/// a time.
 class KXMEDIA_API KxFrameCutter
 {
 public:
     /// `size` is that of the result: even and positive.
-    explicit KxFrameCutter(const QSize& size);
+    explicit KxFrameCutter(const QSize& size, KxHighRange highRange = KxHighRange::ToneMapped);
     ~KxFrameCutter();
 
     /// `crop` is in fractions of the upright picture; a rectangle that extends beyond it is moved inside. The result

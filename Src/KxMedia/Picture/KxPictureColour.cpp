@@ -73,6 +73,21 @@ void KxPictureColour::MarkAsConvertedRgb(AVFrame& picture)
     }
 }
 
+void KxPictureColour::CopyBrightness(const AVFrame& from, AVFrame& to)
+{
+    for (const AVFrameSideDataType type :
+         {AV_FRAME_DATA_MASTERING_DISPLAY_METADATA, AV_FRAME_DATA_CONTENT_LIGHT_LEVEL}) {
+        const AVFrameSideData* const known = av_frame_get_side_data(&from, type);
+        if (known == nullptr) {
+            continue;
+        }
+        AVFrameSideData* const copy = av_frame_new_side_data(&to, type, known->size);
+        if (copy != nullptr) {
+            std::memcpy(copy->data, known->data, known->size);
+        }
+    }
+}
+
 bool KxPictureColour::IsHighDynamicRange(const AVFrame& picture)
 {
     return picture.color_trc == AVCOL_TRC_SMPTE2084 || picture.color_trc == AVCOL_TRC_ARIB_STD_B67;

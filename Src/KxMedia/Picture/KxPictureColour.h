@@ -18,6 +18,9 @@ bool IsRgb(AVPixelFormat format);
 /// range.
 void Copy(const AVFrame& from, AVFrame& to);
 
+/// Copies the brightness of the display that the picture was made for and that of the video, where they are known.
+void CopyBrightness(const AVFrame& from, AVFrame& to);
+
 /// For a picture converted from RGB: BT.709 matrix, limited range. A known transfer and known primaries are kept.
 void MarkAsConvertedRgb(AVFrame& picture);
 
