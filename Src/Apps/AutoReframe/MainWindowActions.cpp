@@ -1,13 +1,13 @@
 #include <Apps/AutoReframe/MainWindow.h>
 
 #include <Apps/AutoReframe/Backend/MediaBackendLoader.h>
+#include <Apps/AutoReframe/Dialogs/ExportForMenu.h>
 #include <Apps/AutoReframe/Exports/ExportQueue.h>
 #include <Apps/AutoReframe/Exports/ExportWatch.h>
 #include <Apps/AutoReframe/Help/HelpDialog.h>
 #include <Apps/AutoReframe/Library/LibraryShortcuts.h>
 #include <Apps/AutoReframe/Library/MediaLibrary.h>
 #include <Apps/AutoReframe/Library/MediaLibraryView.h>
-#include <Apps/AutoReframe/Tracks/ExportForMenu.h>
 
 #include <KxCore/KxConfig.h>
 #include <KxWidgets/KrMessageDialog.h>

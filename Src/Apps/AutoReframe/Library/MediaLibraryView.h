@@ -1,6 +1,6 @@
 #pragma once
 
-#include <Apps/AutoReframe/Tracks/ExportForMenu.h>
+#include <Apps/AutoReframe/Dialogs/ExportForMenu.h>
 
 #include <QListView>
 

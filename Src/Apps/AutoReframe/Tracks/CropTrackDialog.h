@@ -1,7 +1,7 @@
 #pragma once
 
+#include <Apps/AutoReframe/Dialogs/ExportForMenu.h>
 #include <Apps/AutoReframe/Dialogs/SaveDialog.h>
-#include <Apps/AutoReframe/Tracks/ExportForMenu.h>
 
 #include <optional>
 

@@ -1,4 +1,4 @@
-#include <Apps/AutoReframe/Tracks/ExportForMenu.h>
+#include <Apps/AutoReframe/Dialogs/ExportForMenu.h>
 
 #include <QCoreApplication>
 #include <QMenu>
