@@ -3,7 +3,7 @@
 #include <KxCore/KxResult.h>
 #include <KxMedia/Container/KxAvHandles.h>
 #include <KxMedia/Read/KxAudioReader.h>
-#include <KxMedia/Write/KxH264Encoder.h>
+#include <KxMedia/Write/KxVideoEncoder.h>
 
 #include <memory>
 #include <vector>

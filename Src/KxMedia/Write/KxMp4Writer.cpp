@@ -3,7 +3,7 @@
 #include <KxMedia/Container/KxAvError.h>
 #include <KxMedia/Container/KxMp4Muxer.h>
 #include <KxMedia/Write/KxAacEncoder.h>
-#include <KxMedia/Write/KxH264Encoder.h>
+#include <KxMedia/Write/KxVideoEncoder.h>
 
 namespace
 {
@@ -56,7 +56,7 @@ private:
     // Destroyed after the muxer, which has the file open.
     std::unique_ptr<KxOutputFile> m_file;
     KxMp4Muxer m_muxer;
-    std::unique_ptr<KxH264Encoder> m_video;
+    std::unique_ptr<KxVideoEncoder> m_video;
     std::unique_ptr<KxAacEncoder> m_audio;
     // Sound added before the first picture.
     std::vector<KxAudioBlock> m_earlyAudio;
@@ -90,8 +90,8 @@ KxError KxMp4Writer::Impl::OpenAudio()
 
 KxError KxMp4Writer::Impl::Begin(const AVFrame& first)
 {
-    KxResult<std::unique_ptr<KxH264Encoder>> video = KxH264Encoder::Open(
-        {m_settings.size, m_settings.frameRate, m_settings.videoBitRate, m_settings.videoPreset}, first);
+    KxResult<std::unique_ptr<KxVideoEncoder>> video = KxVideoEncoder::Open(
+        {m_settings.size, m_settings.frameRate, m_settings.videoBitRate, m_settings.videoPreset, {}}, first);
     if (!video) {
         return Message(m_settings.path, video.Message());
     }

@@ -100,7 +100,8 @@ TEST_F(KxMp4WriterTest, ImpossibleSettingsAreRefused)
     const std::unique_ptr<KxMp4Writer> writer = Open(settings);
     const KxError error = AddPictures(*writer, 1);
     ASSERT_TRUE(error);
-    EXPECT_TRUE(error->contains(QStringLiteral("out.mp4: the video encoder does not start"))) << error->toStdString();
+    EXPECT_TRUE(error->contains(QStringLiteral("out.mp4: the video encoder libx264 does not start")))
+        << error->toStdString();
 }
 
 TEST_F(KxMp4WriterTest, UnusableFolderIsNamed)
