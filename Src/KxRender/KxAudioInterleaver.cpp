@@ -6,10 +6,39 @@
 
 using KxFrameTime::Rounding;
 
-KxAudioInterleaver::KxAudioInterleaver(std::unique_ptr<KxAudioReader> reader, const KxAudioReader::Format& format)
+KxAudioInterleaver::KxAudioInterleaver(std::unique_ptr<KxAudioReader> reader, const KxAudioReader::Format& format,
+                                       std::unique_ptr<KxLoudnessFilter> loudness)
     : m_reader(std::move(reader))
     , m_format(format)
+    , m_loudness(std::move(loudness))
 {
+}
+
+KxReadStatus KxAudioInterleaver::ReadBlock()
+{
+    return m_loudness != nullptr ? ReadFiltered() : m_reader->Next(m_block);
+}
+
+KxReadStatus KxAudioInterleaver::ReadFiltered()
+{
+    m_block.samples.clear();
+    while (m_block.samples.empty()) {
+        if (m_readStatus != KxReadStatus::Delivered) {
+            return m_readStatus;
+        }
+        KxAudioBlock read;
+        m_readStatus = m_reader->Next(read);
+        const bool isDelivered = m_readStatus == KxReadStatus::Delivered;
+        if (isDelivered && !m_startUs) {
+            m_startUs = read.timeUs;
+        }
+        if ((isDelivered ? m_loudness->Add(read) : m_loudness->End()) || m_loudness->TakeInto(m_block.samples)) {
+            return KxReadStatus::Failed;
+        }
+    }
+    m_block.timeUs = m_startUs.value_or(0);
+    m_block.channels = m_format.channels;
+    return KxReadStatus::Delivered;
 }
 
 bool KxAudioInterleaver::Fill()
@@ -20,7 +49,7 @@ bool KxAudioInterleaver::Fill()
     if (m_usedValues < m_block.samples.size()) {
         return true;
     }
-    const KxReadStatus status = m_reader->Next(m_block);
+    const KxReadStatus status = ReadBlock();
     m_usedValues = 0;
     m_hasEnded = status != KxReadStatus::Delivered;
     m_hasFailed = status == KxReadStatus::Failed;

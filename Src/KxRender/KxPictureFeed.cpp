@@ -14,9 +14,11 @@ constexpr qint64 PicturesAhead = 6;
 // The queue of large pictures is shorter, so that it stays below this size.
 constexpr qint64 BytesAhead = qint64{96} * 1024 * 1024;
 
-size_t QueueLength(const QSize& size)
+size_t QueueLength(const KxPictureFeed::Target& target)
 {
-    const qint64 pictureBytes = std::max<qint64>(1, qint64{size.width()} * size.height() * 3 / 2);
+    const int sampleBytes = target.highRange == KxHighRange::Kept ? 2 : 1;
+    const qint64 pictureBytes =
+        std::max<qint64>(1, qint64{target.size.width()} * target.size.height() * sampleBytes * 3 / 2);
     return static_cast<size_t>(std::clamp<qint64>(BytesAhead / pictureBytes, 1, PicturesAhead));
 }
 
@@ -26,15 +28,15 @@ constexpr double LongestHoldS = 0.25;
 } // namespace
 
 KxPictureFeed::KxPictureFeed(KxVideoReader& reader, const KxRenderSource& source, const KxOutputGrid& grid,
-                             const QSize& size, const KxCancelToken& cancel)
+                             const Target& target, const KxCancelToken& cancel)
     : m_reader(reader)
     , m_source(source)
     , m_grid(grid)
-    , m_size(size)
+    , m_size(target.size)
     , m_cancel(cancel)
-    , m_pictures(QueueLength(size))
-    , m_cutter(size)
-    , m_fittedCutter(size)
+    , m_pictures(QueueLength(target))
+    , m_cutter(target.size, target.highRange)
+    , m_fittedCutter(target.size, target.highRange)
     , m_thread([this] { Work(); })
 {
 }

@@ -16,8 +16,13 @@
 class KxPictureFeed
 {
 public:
+    /// What the pictures become.
+    struct Target {
+        QSize size;
+        KxHighRange highRange = KxHighRange::ToneMapped;
+    };
     /// `reader` and `source` are borrowed; nothing else uses the reader during the lifetime of this object.
-    KxPictureFeed(KxVideoReader& reader, const KxRenderSource& source, const KxOutputGrid& grid, const QSize& size,
+    KxPictureFeed(KxVideoReader& reader, const KxRenderSource& source, const KxOutputGrid& grid, const Target& target,
                   const KxCancelToken& cancel);
     ~KxPictureFeed();
     KxPictureFeed(const KxPictureFeed&) = delete;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <KxCore/KxOutputFile.h>
+#include <KxMedia/Write/KxOutputFormat.h>
 
 #include <QSize>
 #include <QString>
@@ -15,4 +16,5 @@ struct KxRenderSettings {
     double frameRate = 0.0;
     int videoBitRate = 2000000; ///< bits per second
     int audioBitRate = 192000;  ///< bits per second
+    KxOutputFormat format;
 };

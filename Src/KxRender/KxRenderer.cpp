@@ -4,14 +4,13 @@
 #include <KxCore/KxThread.h>
 #include <KxMedia/Read/KxVideoReader.h>
 #include <KxMedia/Write/KxMp4Writer.h>
-#include <KxRender/KxAudioInterleaver.h>
 #include <KxRender/KxOutputGrid.h>
 #include <KxRender/KxPictureFeed.h>
+#include <KxRender/KxRenderSound.h>
 
 #include <QFileInfo>
 
 #include <algorithm>
-#include <array>
 
 namespace
 {
@@ -53,18 +52,6 @@ KxError Check(const KxRenderSource& source, const KxRenderSettings& settings)
     return std::nullopt;
 }
 
-// The source's sample rate if AAC supports it, and at most two channels, which is what phones play.
-KxAudioReader::Format SoundFormat(const KxAudioFacts& facts)
-{
-    constexpr std::array<int, 9> ratesHz{8000, 11025, 12000, 16000, 22050, 24000, 32000, 44100, 48000};
-    KxAudioReader::Format format;
-    format.channels = facts.channels == 1 ? 1 : 2;
-    if (std::find(ratesHz.begin(), ratesHz.end(), facts.sampleRateHz) != ratesHz.end()) {
-        format.sampleRateHz = facts.sampleRateHz;
-    }
-    return format;
-}
-
 class Rendering
 {
 public:
@@ -94,8 +81,7 @@ private:
     const KxCancelToken& m_cancel;
     const QSize m_size;
     std::unique_ptr<KxVideoReader> m_reader;
-    std::unique_ptr<KxAudioInterleaver> m_sound;
-    KxAudioReader::Format m_soundFormat;
+    KxRenderSound m_sound;
     std::unique_ptr<KxMp4Writer> m_writer;
     QString m_warning;
     qint64 m_written = 0;
@@ -118,18 +104,9 @@ void Rendering::ReportProgress(qint64 done, qint64 all)
 
 void Rendering::OpenSound()
 {
-    const KxMediaFacts& facts = m_reader->Facts();
-    const int stream = m_source.audioStream.value_or(facts.defaultAudio);
-    if (stream < 0 || stream >= facts.audio.size()) {
-        return;
-    }
-    m_soundFormat = SoundFormat(facts.audio.at(stream));
-    KxResult<std::unique_ptr<KxAudioReader>> sound =
-        KxAudioReader::Open(m_source.path, stream, m_soundFormat, m_reader->Clock(), m_cancel);
-    if (sound) {
-        m_sound = std::make_unique<KxAudioInterleaver>(std::move(*sound), m_soundFormat);
-    } else {
-        Warn(QStringLiteral("The sound is left out. %1").arg(sound.Message()));
+    m_sound = KxRenderSound::Open(*m_reader, m_source, m_settings.format, m_cancel);
+    for (const QString& warning : qAsConst(m_sound.warnings)) {
+        Warn(warning);
     }
 }
 
@@ -141,9 +118,11 @@ KxError Rendering::OpenWriter(const KxOutputGrid& grid)
     settings.size = m_size;
     settings.frameRate = grid.Rate();
     settings.videoBitRate = m_settings.videoBitRate > 0 ? m_settings.videoBitRate : settings.videoBitRate;
-    settings.hasAudio = m_sound != nullptr;
-    settings.audioFormat = m_soundFormat;
+    settings.copiedSound = m_sound.copied;
+    settings.hasAudio = m_sound.feed != nullptr && m_sound.copied == nullptr;
+    settings.audioFormat = m_sound.format;
     settings.audioBitRate = m_settings.audioBitRate > 0 ? m_settings.audioBitRate : settings.audioBitRate;
+    settings.format = m_settings.format;
     KxResult<std::unique_ptr<KxMp4Writer>> writer = KxMp4Writer::Open(settings);
     if (!writer) {
         return writer.Message();
@@ -164,7 +143,7 @@ KxError Rendering::AddAll(KxPictureFeed& pictures, const KxOutputGrid& grid)
         }
         ++m_written;
         if (KxError error =
-                m_sound != nullptr ? m_sound->WriteUntil(m_written, grid.Rate(), *m_writer) : std::nullopt) {
+                m_sound.feed != nullptr ? m_sound.feed->WriteUntil(m_written, grid.Rate(), *m_writer) : std::nullopt) {
             return error;
         }
         ReportProgress(m_written, grid.Frames());
@@ -184,7 +163,7 @@ KxRenderResult Rendering::Finish(KxPictureFeed& pictures, const KxOutputGrid& gr
         Warn(QStringLiteral("%1 is damaged or incomplete: only %2 of %3 frames could be rendered.")
                  .arg(m_source.Name(), QString::number(m_written), QString::number(grid.Frames())));
     }
-    if (m_sound != nullptr && m_sound->HasFailed()) {
+    if (m_sound.feed != nullptr && m_sound.feed->HasFailed()) {
         Warn(QStringLiteral("The sound of %1 is damaged and ends early.").arg(m_source.Name()));
     }
     const KxResult<QString> path = m_writer->Finish();
@@ -194,7 +173,7 @@ KxRenderResult Rendering::Finish(KxPictureFeed& pictures, const KxOutputGrid& gr
     if (m_progress) {
         m_progress(ProgressEnd);
     }
-    return {KxOutcome::Done, {}, *path, m_warning};
+    return {KxOutcome::Done, {}, *path, m_warning, m_writer->UsedEncoder()};
 }
 
 KxRenderResult Rendering::Run()
@@ -221,7 +200,7 @@ KxRenderResult Rendering::Run()
     if (KxError error = OpenWriter(*grid)) {
         return Failed(*error);
     }
-    KxPictureFeed pictures(*m_reader, m_source, *grid, m_size, m_cancel);
+    KxPictureFeed pictures(*m_reader, m_source, *grid, {m_size, m_settings.format.highRange}, m_cancel);
     if (KxError error = AddAll(pictures, *grid)) {
         return Failed(*error);
     }

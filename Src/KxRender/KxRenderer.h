@@ -15,6 +15,7 @@ struct KxRenderResult {
     QString outputPath;
     /// What the user should know about a file that was written nevertheless, such as a damaged source; usually empty.
     QString warning;
+    KxUsedEncoder encoder = {}; ///< of the file that was written
 };
 
 /// Renders a source to an MP4 file with its sound, as long as the source. A rendering that is cancelled or fails leaves

@@ -14,28 +14,52 @@ KxMp4Muxer::KxMp4Muxer(QString path)
 {
 }
 
-int KxMp4Muxer::AddStream(const AVCodecContext& encoder)
+AVStream* KxMp4Muxer::NewStream(AVRational timeBase)
 {
     if (m_context == nullptr) {
         AVFormatContext* context = nullptr;
         // The prefix keeps a name with a colon from being taken for a protocol. The muxer needs the path: it opens the
         // file again to move the index.
         const QByteArray url = QByteArrayLiteral("file:") + m_path.toUtf8();
-        const int error = avformat_alloc_output_context2(&context, nullptr, "mp4", url.constData());
-        if (error < 0) {
-            return error;
+        if (avformat_alloc_output_context2(&context, nullptr, "mp4", url.constData()) < 0) {
+            return nullptr;
         }
         m_context.reset(context);
     }
     AVStream* const stream = avformat_new_stream(m_context.get(), nullptr);
+    if (stream != nullptr) {
+        m_timeBases.push_back(timeBase);
+        stream->time_base = timeBase;
+    }
+    return stream;
+}
+
+int KxMp4Muxer::AddStream(const AVCodecParameters& parameters, AVRational timeBase)
+{
+    AVStream* const stream = NewStream(timeBase);
     if (stream == nullptr) {
         return AVERROR(ENOMEM);
     }
-    m_encoderTimeBases.push_back(encoder.time_base);
-    stream->time_base = encoder.time_base;
+    const int error = avcodec_parameters_copy(stream->codecpar, &parameters);
+    // That of another container has no meaning here.
+    stream->codecpar->codec_tag = 0;
+    return error;
+}
+
+int KxMp4Muxer::AddStream(const AVCodecContext& encoder)
+{
+    AVStream* const stream = NewStream(encoder.time_base);
+    if (stream == nullptr) {
+        return AVERROR(ENOMEM);
+    }
     stream->sample_aspect_ratio = encoder.sample_aspect_ratio;
     stream->avg_frame_rate = encoder.framerate;
-    return avcodec_parameters_from_context(stream->codecpar, &encoder);
+    const int error = avcodec_parameters_from_context(stream->codecpar, &encoder);
+    if (encoder.codec_id == AV_CODEC_ID_HEVC) {
+        // Some players accept no other tag.
+        stream->codecpar->codec_tag = MKTAG('h', 'v', 'c', '1');
+    }
+    return error;
 }
 
 int KxMp4Muxer::Begin()
@@ -57,7 +81,7 @@ int KxMp4Muxer::Begin()
 int KxMp4Muxer::Write(AVPacket& packet, int stream)
 {
     const AVStream& target = *m_context->streams[stream];
-    av_packet_rescale_ts(&packet, m_encoderTimeBases[static_cast<size_t>(stream)], target.time_base);
+    av_packet_rescale_ts(&packet, m_timeBases[static_cast<size_t>(stream)], target.time_base);
     packet.stream_index = stream;
     const int error = av_interleaved_write_frame(m_context.get(), &packet);
     return error < 0 ? error : m_context->pb->error;

@@ -15,17 +15,22 @@ public:
 
     /// Call before Begin(). Streams are numbered in the order in which they are added.
     int AddStream(const AVCodecContext& encoder);
+    /// For packets that were encoded elsewhere.
+    int AddStream(const AVCodecParameters& parameters, AVRational timeBase);
     /// Creates or replaces the file and writes the header.
     int Begin();
     bool HasBegun() const { return m_hasBegun; }
-    /// `packet` is in the time base of its encoder; it is blank afterwards.
+    /// `packet` is in the time base of its encoder, or that of AddStream(); it is blank afterwards.
     int Write(AVPacket& packet, int stream);
     /// Writes the rest, moves the index to the front and closes the file: late write errors are detected here.
     int End();
 
 private:
+    /// Null if memory runs out.
+    AVStream* NewStream(AVRational timeBase);
+
     QString m_path;
     KxAvOutput m_context;
-    std::vector<AVRational> m_encoderTimeBases;
+    std::vector<AVRational> m_timeBases;
     bool m_hasBegun = false;
 };

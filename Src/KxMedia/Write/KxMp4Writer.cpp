@@ -3,6 +3,8 @@
 #include <KxMedia/Container/KxAvError.h>
 #include <KxMedia/Container/KxMp4Muxer.h>
 #include <KxMedia/Write/KxAacEncoder.h>
+#include <KxMedia/Write/KxEncoderProof.h>
+#include <KxMedia/Write/KxSoundPackets.h>
 #include <KxMedia/Write/KxVideoEncoder.h>
 
 namespace
@@ -45,14 +47,20 @@ public:
     KxError OpenAudio();
     KxError AddPicture(const KxVideoFrame& picture, qint64 index);
     KxError AddAudio(const KxAudioBlock& block);
+    KxError AddSoundPacket(AVPacket& packet);
+    KxUsedEncoder UsedEncoder() const;
     KxResult<QString> Finish();
 
 private:
+    KxVideoEncoder::Settings VideoSettings() const;
+    /// Chooses the encoder and encodes the pictures that were held back for that.
+    KxError BeginWithTheBest();
     KxError Begin(const AVFrame& first);
+    KxError Encode(const KxVideoFrame& picture);
     KxError ErrorOf(int error) const;
     KxPacketSink Into(int stream);
 
-    const Settings m_settings;
+    Settings m_settings;
     // Destroyed after the muxer, which has the file open.
     std::unique_ptr<KxOutputFile> m_file;
     KxMp4Muxer m_muxer;
@@ -60,7 +68,12 @@ private:
     std::unique_ptr<KxAacEncoder> m_audio;
     // Sound added before the first picture.
     std::vector<KxAudioBlock> m_earlyAudio;
-    qint64 m_pictures = 0;
+    std::vector<KxAvPacket> m_earlyPackets;
+    // Held back until the encoder is chosen.
+    std::vector<KxVideoFrame> m_earlyPictures;
+    QString m_choiceReason;
+    qint64 m_added = 0;
+    qint64 m_encoded = 0;
 };
 
 KxError KxMp4Writer::Impl::ErrorOf(int error) const
@@ -88,10 +101,28 @@ KxError KxMp4Writer::Impl::OpenAudio()
     return std::nullopt;
 }
 
+KxVideoEncoder::Settings KxMp4Writer::Impl::VideoSettings() const
+{
+    return {m_settings.size, m_settings.frameRate, m_settings.videoBitRate, m_settings.videoPreset, m_settings.format};
+}
+
+KxError KxMp4Writer::Impl::BeginWithTheBest()
+{
+    const KxEncoderProof::Choice choice = KxEncoderProof::Choose(VideoSettings(), m_earlyPictures);
+    m_settings.format.encoder = choice.encoder;
+    m_choiceReason = choice.reason;
+    for (const KxVideoFrame& picture : m_earlyPictures) {
+        if (KxError error = Encode(picture)) {
+            return error;
+        }
+    }
+    m_earlyPictures.clear();
+    return std::nullopt;
+}
+
 KxError KxMp4Writer::Impl::Begin(const AVFrame& first)
 {
-    KxResult<std::unique_ptr<KxVideoEncoder>> video = KxVideoEncoder::Open(
-        {m_settings.size, m_settings.frameRate, m_settings.videoBitRate, m_settings.videoPreset, {}}, first);
+    KxResult<std::unique_ptr<KxVideoEncoder>> video = KxVideoEncoder::Open(VideoSettings(), first);
     if (!video) {
         return Message(m_settings.path, video.Message());
     }
@@ -99,6 +130,8 @@ KxError KxMp4Writer::Impl::Begin(const AVFrame& first)
     int error = m_muxer.AddStream(m_video->Context());
     if (error >= 0 && m_audio != nullptr) {
         error = m_muxer.AddStream(m_audio->Context());
+    } else if (error >= 0 && m_settings.copiedSound != nullptr) {
+        error = m_muxer.AddStream(m_settings.copiedSound->Parameters(), m_settings.copiedSound->TimeBase());
     }
     if (error >= 0) {
         error = m_muxer.Begin();
@@ -109,21 +142,42 @@ KxError KxMp4Writer::Impl::Begin(const AVFrame& first)
         }
     }
     m_earlyAudio.clear();
+    for (const KxAvPacket& packet : m_earlyPackets) {
+        if (error >= 0) {
+            error = m_muxer.Write(*packet, AudioStream);
+        }
+    }
+    m_earlyPackets.clear();
     return ErrorOf(error);
 }
 
 KxError KxMp4Writer::Impl::AddPicture(const KxVideoFrame& picture, qint64 index)
 {
-    Q_ASSERT(index == m_pictures);
-    Q_ASSERT(!picture.IsNull() && picture.Picture().format == AV_PIX_FMT_YUV420P);
+    Q_ASSERT(index == m_added);
+    Q_ASSERT(!picture.IsNull() &&
+             (picture.Picture().format == AV_PIX_FMT_YUV420P || picture.Picture().format == AV_PIX_FMT_YUV420P10));
     Q_ASSERT(QSize(picture.Picture().width, picture.Picture().height) == m_settings.size);
+    ++m_added;
+    if (m_settings.format.encoder != KxOutputFormat::Encoder::Auto) {
+        return Encode(picture);
+    }
+    m_earlyPictures.push_back(picture);
+    return m_earlyPictures.size() < KxEncoderProof::Frames ? std::nullopt : BeginWithTheBest();
+}
+
+KxError KxMp4Writer::Impl::Encode(const KxVideoFrame& picture)
+{
     if (m_video == nullptr) {
         if (KxError error = Begin(picture.Picture())) {
             return error;
         }
     }
-    ++m_pictures;
-    return ErrorOf(m_video->Encode(picture.Picture(), index, Into(VideoStream)));
+    return ErrorOf(m_video->Encode(picture.Picture(), m_encoded++, Into(VideoStream)));
+}
+
+KxUsedEncoder KxMp4Writer::Impl::UsedEncoder() const
+{
+    return {KxVideoEncoder::NameOf(m_settings.format), m_choiceReason};
 }
 
 KxError KxMp4Writer::Impl::AddAudio(const KxAudioBlock& block)
@@ -136,9 +190,27 @@ KxError KxMp4Writer::Impl::AddAudio(const KxAudioBlock& block)
     return ErrorOf(m_audio->Encode(block, Into(AudioStream)));
 }
 
+KxError KxMp4Writer::Impl::AddSoundPacket(AVPacket& packet)
+{
+    Q_ASSERT(m_settings.copiedSound != nullptr);
+    if (m_muxer.HasBegun()) {
+        return ErrorOf(m_muxer.Write(packet, AudioStream));
+    }
+    KxAvPacket early(av_packet_alloc());
+    if (early == nullptr) {
+        return ErrorOf(AVERROR(ENOMEM));
+    }
+    av_packet_move_ref(early.get(), &packet);
+    m_earlyPackets.push_back(std::move(early));
+    return std::nullopt;
+}
+
 KxResult<QString> KxMp4Writer::Impl::Finish()
 {
     using Result = KxResult<QString>;
+    if (KxError error = m_earlyPictures.empty() ? std::nullopt : BeginWithTheBest()) {
+        return Result::Failure(*error);
+    }
     if (!m_muxer.HasBegun()) {
         return Result::Failure(Message(m_settings.path, QStringLiteral("there is no picture to write")));
     }
@@ -186,6 +258,16 @@ KxError KxMp4Writer::AddPicture(const KxVideoFrame& picture, qint64 index)
 KxError KxMp4Writer::AddAudio(const KxAudioBlock& block)
 {
     return m_impl->AddAudio(block);
+}
+
+KxError KxMp4Writer::AddSoundPacket(AVPacket& packet)
+{
+    return m_impl->AddSoundPacket(packet);
+}
+
+KxUsedEncoder KxMp4Writer::UsedEncoder() const
+{
+    return m_impl->UsedEncoder();
 }
 
 KxResult<QString> KxMp4Writer::Finish()

@@ -6,12 +6,16 @@
 #include <KxCore/KxResult.h>
 #include <KxMedia/Picture/KxVideoFrame.h>
 #include <KxMedia/Read/KxAudioReader.h>
+#include <KxMedia/Write/KxOutputFormat.h>
 
 #include <memory>
 
-/// Writes an MP4 file with H.264 video and optional AAC sound. The file is written under a temporary name beside its
-/// target and renamed in Finish(); a writer that is destroyed before that leaves no file. One thread at a time. Error
-/// messages name the target and the reason; a writer that has failed can only be destroyed.
+class KxSoundPackets;
+struct AVPacket;
+
+/// Writes an MP4 file with H.264, HEVC or AV1 video and optional sound. The file is written under a temporary name
+/// beside its target and renamed in Finish(); a writer that is destroyed before that leaves no file. One thread at a
+/// time. Error messages name the target and the reason; a writer that has failed can only be destroyed.
 ///
 /// Equal settings, pictures and sound give equal bytes in each run and on each machine with the same libraries: no
 /// creation time is written, and the encoders do not depend on the number of cores. Exception: if a scene needs so many
@@ -26,12 +30,15 @@ public:
         Existing existing = Existing::AddNumber;
         QSize size; ///< even
         KxRational frameRate;
-        qint64 videoBitRate = 2000000; ///< bits per second
+        qint64 videoBitRate = 2000000; ///< bits per second; unused if the format has a quality
         /// Speed against quality at the same bit rate: a preset of libx264, "veryfast" to "veryslow".
         QString videoPreset = QStringLiteral("medium");
         bool hasAudio = false;
         KxAudioReader::Format audioFormat;
         qint64 audioBitRate = 192000; ///< bits per second
+        KxOutputFormat format;
+        /// Sound that is copied: its packets come instead of blocks. Null: none. Borrowed until the first picture.
+        const KxSoundPackets* copiedSound = nullptr;
     };
 
     /// Checks the folder and creates the temporary file. The header is written with the first picture, which provides
@@ -39,12 +46,16 @@ public:
     static KxResult<std::unique_ptr<KxMp4Writer>> Open(const Settings& settings);
     ~KxMp4Writer();
 
-    /// `picture` is an 8-bit 4:2:0 picture of the settings' size (see KxFrameCutter), shown at frame `index` of the
-    /// output's grid; indices ascend by one from 0.
+    /// `picture` is a 4:2:0 picture of the settings' size with 8 or 10 bits (see KxFrameCutter), shown at frame `index`
+    /// of the output's grid; indices ascend by one from 0.
     KxError AddPicture(const KxVideoFrame& picture, qint64 index);
     /// Blocks are contiguous; the first one may start later than 0. To keep memory constant, add sound in step with the
     /// pictures.
     KxError AddAudio(const KxAudioBlock& block);
+    /// The next packet of copied sound; it is blank afterwards.
+    KxError AddSoundPacket(AVPacket& packet);
+    /// Complete after Finish().
+    KxUsedEncoder UsedEncoder() const;
     /// Flushes the encoders, moves the index to the front and renames the file. Returns its final path.
     KxResult<QString> Finish();
 
