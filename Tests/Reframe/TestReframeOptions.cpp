@@ -95,6 +95,23 @@ TEST(ReframeOptions, WrongUseIsOneErrorMessageAndStatusTwo)
                              "--output o.mp4 --aspect 9:16,1:1 a.mp4",
                              "--keyframes k.json --aspect 9:16,1:1 a.mp4",
                              "--apply t.json --aspect 9:16,1:1 a.mp4",
+                             "--size 1080 a.mp4",
+                             "--size 1081x1920 a.mp4",
+                             "--fps 0 a.mp4",
+                             "--fps many a.mp4",
+                             "--quality 101 a.mp4",
+                             "--quality -1 a.mp4",
+                             "--quality 50 --bitrate 1M a.mp4",
+                             "--bitrate 5G a.mp4",
+                             "--bitrate 5 a.mp4",
+                             "--codec vp9 a.mp4",
+                             "--encoder cuda a.mp4",
+                             "--hdr on a.mp4",
+                             "--hdr keep --codec h264 a.mp4",
+                             "--hdr keep --encoder vaapi a.mp4",
+                             "--sound none a.mp4",
+                             "--loudness 14 a.mp4",
+                             "--loudness -14 --sound copy a.mp4",
                              "--edit-list e.avi a.mp4",
                              "--edit-list avi a.mp4",
                              "--edit-list e.mlt a.mp4 b.mp4",
@@ -149,6 +166,30 @@ TEST(ReframeOptions, EditListsAreFilesOrSuffixesAlone)
     EXPECT_TRUE(Parse(Words("--edit-list e.mlt a.mp4 b.mp4"))
                     .text.startsWith(QStringLiteral("With several inputs or aspect ratios --edit-list takes a suffix "
                                                     "alone; write mlt instead of e.mlt.\n")));
+}
+
+TEST(ReframeOptions, SayHowTheVideoIsWritten)
+{
+    const auto usual = Parse(Words("a.mp4"));
+    ASSERT_TRUE(usual.options);
+    EXPECT_TRUE(usual.options->video.size.IsThatOfTheCrop());
+    EXPECT_EQ(usual.options->video.format.codec, KxOutputFormat::Codec::H264);
+    EXPECT_EQ(usual.options->video.format.encoder, KxOutputFormat::Encoder::Software);
+    EXPECT_FALSE(usual.options->video.format.quality);
+    const auto parsed = Parse(Words("--size 720x1280 --fps 29.97 --bitrate 2.5M --codec av1 --encoder auto "
+                                    "--loudness -14 a.mp4"));
+    ASSERT_TRUE(parsed.options) << parsed.text.toStdString();
+    const OutputOptions& video = parsed.options->video;
+    EXPECT_EQ(video.size.exact, QSize(720, 1280));
+    EXPECT_DOUBLE_EQ(video.frameRate, 29.97);
+    EXPECT_EQ(video.videoBitRate, 2500000);
+    EXPECT_EQ(video.format.codec, KxOutputFormat::Codec::Av1);
+    EXPECT_EQ(video.format.encoder, KxOutputFormat::Encoder::Auto);
+    EXPECT_EQ(video.format.loudnessLufs, std::optional(-14.0));
+    EXPECT_EQ(Parse(Words("--bitrate 800k a.mp4")).options->video.videoBitRate, 800000);
+    EXPECT_EQ(Parse(Words("--quality 75 a.mp4")).options->video.format.quality, std::optional(75.0));
+    EXPECT_EQ(Parse(Words("--sound copy a.mp4")).options->video.format.sound, KxOutputFormat::Sound::Copied);
+    EXPECT_EQ(Parse(Words("--hdr keep a.mp4")).options->video.format.codec, KxOutputFormat::Codec::Hevc);
 }
 
 TEST(ReframeOptions, ModelsAreAFolderWithADetectorOrNone)

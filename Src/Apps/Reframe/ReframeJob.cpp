@@ -9,6 +9,7 @@
 #include <KxModel/KxAutoReframeService.h>
 #include <KxModel/KxChoicesFormat.h>
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QEventLoop>
 #include <QFileInfo>
@@ -56,13 +57,21 @@ KxOutcome ReframeJob::RunSteps()
             return *ended;
         }
     }
-    const QString frames = FramesText();
-    m_reporter.Succeed(m_input,
-                       m_written.isEmpty()
-                           ? QStringLiteral("%1: %2 analysed").arg(m_input, frames)
-                           : QStringLiteral("%1: %2 -> %3").arg(m_input, frames, m_written.join(QStringLiteral(", "))),
-                       m_facts);
+    m_reporter.Succeed(m_input, FinishedMessage(), m_facts);
     return KxOutcome::Done;
+}
+
+QString ReframeJob::FinishedMessage() const
+{
+    const QString frames = FramesText();
+    if (m_written.isEmpty()) {
+        return QStringLiteral("%1: %2 analysed").arg(m_input, frames);
+    }
+    const QString files = m_written.join(QStringLiteral(", "));
+    const bool isChosen = m_options.writesVideo && m_options.video.format.encoder == KxOutputFormat::Encoder::Auto;
+    return isChosen ? QCoreApplication::translate("ReframeJob", "%1: %2 -> %3 (encoded by %4)")
+                          .arg(m_input, frames, files, m_encoder.name)
+                    : QStringLiteral("%1: %2 -> %3").arg(m_input, frames, files);
 }
 
 QString ReframeJob::FramesText() const

@@ -62,8 +62,12 @@ private:
     CropTrack Track() const;
     /// A crop with the shape of the video that is written.
     QRectF ShapeOfResult() const;
-    /// The crops as other programs need them.
-    KxCroppedClip CroppedClip() const;
+    /// The size of the video that is written, as --size says. Empty if the picture is too small.
+    KxResult<QSize> OutputSize() const;
+    /// Warns where a picture becomes larger than its crop.
+    void WarnOfEnlargement(const QSize& size) const;
+    /// The crops as other programs need them, for an output of this size.
+    KxCroppedClip CroppedClip(const QSize& outputSize) const;
     /// The file that a value of --edit-list means.
     QString EditListPath(const QString& named) const;
     /// The content of a contact sheet file; `format` is one of QImageWriter.
@@ -79,6 +83,7 @@ private:
     Ended WriteFile(const QString& path, const QByteArray& content, const QString& fact);
     void NoteWritten(const QString& path, const QString& fact);
     QString FramesText() const;
+    QString FinishedMessage() const;
 
     const QString m_input;
     const ReframeOptions& m_options;
@@ -90,6 +95,7 @@ private:
     std::optional<CropTrack> m_track;
     /// Fitted if a choice or the track asks for the whole picture.
     KxRenderSource::OtherShapes m_otherShapes = KxRenderSource::OtherShapes::Stretched;
+    KxUsedEncoder m_encoder; ///< of the last video that was written
     QJsonObject m_facts;
     QStringList& m_allWritten;
     QStringList m_written;

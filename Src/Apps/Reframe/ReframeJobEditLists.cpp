@@ -2,7 +2,6 @@
 
 #include <Apps/CropTracks/CroppedMedia.h>
 #include <KrAutoReframe/Engine/KrAutoReframeHelper.h>
-#include <KrAutoReframe/Engine/KrExportParameters.h>
 #include <KxEditList/KxEditList.h>
 #include <KxModel/KxAutoReframeService.h>
 #include <KxSubject/KxSubjectFindings.h>
@@ -18,10 +17,8 @@ QString ReframeJob::EditListPath(const QString& named) const
     return named;
 }
 
-KxCroppedClip ReframeJob::CroppedClip() const
+KxCroppedClip ReframeJob::CroppedClip(const QSize& outputSize) const
 {
-    const QSize picture = static_cast<const KxClip*>(m_media->clip())->StreamInfo().resolution();
-    const QSize outputSize = KrExportParameters::EvenResolution(picture, ShapeOfResult());
     KxCroppedClip clip = CroppedMedia::Clip(*m_media, Helper().GetDisplayResults(), outputSize, m_otherShapes);
     const std::shared_ptr<const KxSubjectFindings> findings = KxAutoReframeService::Instance().LastFindings();
     if (!m_track && findings != nullptr) {
@@ -37,10 +34,14 @@ ReframeJob::Ended ReframeJob::WriteEditLists()
     if (m_options.editLists.isEmpty()) {
         return std::nullopt;
     }
-    const KxCroppedClip clip = CroppedClip();
-    if (clip.outputSize.isEmpty()) {
+    const KxResult<QSize> size = OutputSize();
+    if (!size) {
+        return Fail(size.Message());
+    }
+    if (size->isEmpty()) {
         return FailTooSmall();
     }
+    const KxCroppedClip clip = CroppedClip(*size);
     for (const QString& named : m_options.editLists) {
         const QString path = EditListPath(named);
         const QString suffix = QFileInfo(path).suffix();

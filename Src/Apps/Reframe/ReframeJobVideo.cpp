@@ -7,6 +7,7 @@
 #include <KxCore/KxThread.h>
 #include <KxRender/KxRenderer.h>
 
+#include <QCoreApplication>
 #include <QEventLoop>
 
 QRectF ReframeJob::ShapeOfResult() const
@@ -16,6 +17,37 @@ QRectF ReframeJob::ShapeOfResult() const
     return m_otherShapes == KxRenderSource::OtherShapes::Fitted
                ? KrExportParameters::ShapeOfResult(results, picture, m_aspect)
                : results.first().cropRect();
+}
+
+KxResult<QSize> ReframeJob::OutputSize() const
+{
+    const QSize picture = static_cast<const KxClip*>(m_media->clip())->StreamInfo().resolution();
+    const QRectF shape = ShapeOfResult();
+    const QSize cropSize = KrExportParameters::EvenResolution(picture, shape);
+    if (cropSize.isEmpty()) {
+        return cropSize;
+    }
+    KxResult<QSize> size =
+        m_options.video.size.For({shape.width() * picture.width(), shape.height() * picture.height()}, cropSize);
+    if (!size) {
+        return KxResult<QSize>::Failure(
+            QCoreApplication::translate("ReframeJob", "Cannot reframe %1: %2.").arg(m_input, size.Message()));
+    }
+    return size;
+}
+
+void ReframeJob::WarnOfEnlargement(const QSize& size) const
+{
+    const QSize picture = static_cast<const KxClip*>(m_media->clip())->StreamInfo().resolution();
+    const QSize cropSize = KrExportParameters::EvenResolution(picture, ShapeOfResult());
+    if (KxOutputSize::Enlarges(size, cropSize)) {
+        m_reporter.Warn(
+            m_input, QCoreApplication::translate("ReframeJob",
+                                                 "The size %1 x %2 is above that of the crop, %3 x %4: the picture is "
+                                                 "enlarged.")
+                         .arg(QString::number(size.width()), QString::number(size.height()),
+                              QString::number(cropSize.width()), QString::number(cropSize.height())));
+    }
 }
 
 ReframeJob::Ended ReframeJob::WriteVideo()
@@ -29,9 +61,19 @@ ReframeJob::Ended ReframeJob::WriteVideo()
     }
     source->otherShapes = m_otherShapes;
     KxRenderSettings settings = CropRenderSettings::For(*m_media, ShapeOfResult());
-    if (settings.resolution.isEmpty()) {
+    const KxResult<QSize> size = OutputSize();
+    if (!size) {
+        return Fail(size.Message());
+    }
+    if (size->isEmpty()) {
         return FailTooSmall();
     }
+    settings.resolution = *size;
+    WarnOfEnlargement(*size);
+    const OutputOptions& video = m_options.video;
+    settings.frameRate = video.frameRate > 0.0 ? video.frameRate : settings.frameRate;
+    settings.videoBitRate = video.videoBitRate > 0 ? video.videoBitRate : settings.videoBitRate;
+    settings.format = video.format;
     settings.outputPath = TargetPath(m_options.output, QStringLiteral("mp4"));
     settings.existing = WhenItExists(settings.outputPath);
 
@@ -40,6 +82,10 @@ ReframeJob::Ended ReframeJob::WriteVideo()
     }
     m_facts.insert(QStringLiteral("width"), settings.resolution.width());
     m_facts.insert(QStringLiteral("height"), settings.resolution.height());
+    m_facts.insert(QStringLiteral("encoder"), m_encoder.name);
+    if (!m_encoder.reason.isEmpty()) {
+        m_facts.insert(QStringLiteral("encoder_reason"), m_encoder.reason);
+    }
     return std::nullopt;
 }
 
@@ -74,5 +120,6 @@ ReframeJob::Ended ReframeJob::Render(const KxRenderSource& source, const KxRende
         m_reporter.Warn(m_input, result.warning);
     }
     NoteWritten(result.outputPath, fact);
+    m_encoder = result.encoder;
     return std::nullopt;
 }

@@ -67,6 +67,7 @@ struct Definitions {
                               QStringLiteral("Use the optional detectors in FOLDER, or none, instead of those that are "
                                              "installed."),
                               QStringLiteral("FOLDER|none")};
+    OutputOptions::Definitions video;
     QCommandLineOption noVideo{QStringLiteral("no-video"), QStringLiteral("Analyse only; write no video.")};
     QCommandLineOption overwrite{QStringLiteral("overwrite"),
                                  QStringLiteral("Replace existing files instead of adding a number to the name.")};
@@ -77,8 +78,9 @@ struct Definitions {
 
     QList<QCommandLineOption> All() const
     {
-        return {aspect, speed,   speaker, follow, choices, saveChoices, cache, output, keyframes, editList,
-                apply,  preview, report,  models, noVideo, overwrite,   json,  quiet,  help,      version};
+        return QList<QCommandLineOption>{aspect, speed, speaker, follow, choices, saveChoices, cache, output} +
+               video.All() + QList<QCommandLineOption>{keyframes, editList,  apply, preview, report, models,
+                                                       noVideo,   overwrite, json,  quiet,   help,   version};
     }
 };
 
@@ -289,6 +291,11 @@ ReframeOptions::Parsed ReframeOptions::Parse(const QStringList& arguments)
     options.inputs = KxPlatform::ShellExpandsWildcards() ? parser.positionalArguments()
                                                          : KxWildcards::Expand(parser.positionalArguments());
     options.output = parser.value(definitions.output);
+    const KxResult<OutputOptions> video = OutputOptions::Parse(parser, definitions.video);
+    if (!video) {
+        return WrongUse(video.Message());
+    }
+    options.video = *video;
     options.keyframes = parser.value(definitions.keyframes);
     options.editLists = parser.values(definitions.editList);
     options.apply = parser.value(definitions.apply);

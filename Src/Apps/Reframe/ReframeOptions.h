@@ -1,6 +1,7 @@
 #pragma once
 
 #include <Apps/Reframe/FollowOption.h>
+#include <Apps/Reframe/OutputOptions.h>
 #include <KxCore/KxResult.h>
 
 #include <QList>
@@ -25,6 +26,7 @@ struct ReframeOptions {
     QString report;                             ///< file (folder for several results); empty: none
     QString cache;                              ///< folder of records, or "none"; empty: the usual one
     QString models;                             ///< folder of the optional detectors, or "none"; empty: the usual ones
+    OutputOptions video;
     bool writesVideo = true;
     bool overwrites = false;
     bool json = false;

@@ -46,6 +46,8 @@ int Run(int argc, char** argv)
     QCoreApplication::setApplicationVersion(QStringLiteral(KR_VERSION));
     KxLogSettings::RouteQtMessages();
     KxRouteAvLog();
+    // The encoder for AV1 would report what it does on standard error.
+    qputenv("SVT_LOG", "1");
     KxMemory::KeepNoPictures();
     KxTerminal::Prepare();
 
