@@ -3,6 +3,7 @@
 import json
 import os
 import subprocess
+import xml.etree.ElementTree
 
 import extension_journey
 import footage
@@ -44,6 +45,7 @@ class BatchJourney(RestartedProgram):
         self.resume()
         self.look()
         self.save_track()
+        self.export_for_shotcut()
         self.open_track()
         self.read_help()
         self.import_recent_folder()
@@ -146,11 +148,16 @@ class BatchJourney(RestartedProgram):
         screen.find("QueueBar_text", text="4 done, 2 failed")
         screen.shoot("looked-at")
 
+    def entry(self, menu, text):
+        """The place of an entry that can be chosen."""
+        screen = self.screen
+        return screen.steady(lambda report: next((item["rect"] for item in screen.first(report, menu, "items") or []
+                                                  if item["text"] == text and item["enabled"]), None), text)
+
     def choose(self, entry):
         screen = self.screen
         screen.press("TopBar_menu")
-        item = screen.steady(lambda report: next((item["rect"] for item in screen.first(report, "MainMenu", "items") or []
-                                                  if item["text"] == entry and item["enabled"]), None), entry)
+        item = self.entry("MainMenu", entry)
         screen.shoot("menu")
         screen.click(item)
 
@@ -169,6 +176,22 @@ class BatchJourney(RestartedProgram):
         with open(os.path.join(self.output, "walk-9x16.json"), encoding="utf-8") as file:
             track = json.load(file)
         assert len(track["frames"]) == footage.FRAMES and track["aspect"] == [9, 16], track["aspect"]
+
+    def export_for_shotcut(self):
+        screen = self.screen
+        screen.press("TopBar_menu")
+        screen.click(self.entry("MainMenu", "Export for"))
+        entry = self.entry("ExportForMenu", "Shotcut (.mlt)…")
+        screen.shoot("export-for")
+        screen.click(entry)
+        screen.find("CropTrackDialog_name", text="walk-9x16")
+        screen.press("CropTrackDialog_accept")
+        screen.find("KxMessageBox_text", text="The file for Shotcut was saved.")
+        screen.press("KxMessageBox_refuse", text="Close")
+        screen.gone("KxMessageBox_refuse")
+        project = xml.etree.ElementTree.parse(os.path.join(self.output, "walk-9x16.mlt"))
+        profile = project.find("profile")
+        assert (profile.get("width"), profile.get("height")) == ("304", "540"), profile.attrib
 
     def open_track(self):
         screen = self.screen
@@ -204,12 +227,8 @@ class BatchJourney(RestartedProgram):
         screen = self.screen
         extension_journey.make_shots(os.path.join(self.clips, "new.mp4"))
         screen.press("TopBar_menu")
-        item = screen.steady(lambda report: next((item["rect"] for item in screen.first(report, "MainMenu", "items") or []
-                                                  if item["text"] == "Open Recent"), None), "Open Recent")
-        screen.click(item)
-        folder = screen.steady(lambda report: next((item["rect"] for item in screen.first(report, "RecentMenu", "items")
-                                                    or [] if item["text"] == os.path.basename(self.clips)), None),
-                               "the folder in the menu")
+        screen.click(self.entry("MainMenu", "Open Recent"))
+        folder = self.entry("RecentMenu", os.path.basename(self.clips))
         screen.shoot("recent-folders")
         screen.click(folder)
         screen.find("StatusBar_text", text="4 videos · 4 selected")
