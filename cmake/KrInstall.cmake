@@ -25,8 +25,8 @@ else()
     install(FILES Packaging/auto-reframe.desktop DESTINATION "${CMAKE_INSTALL_DATADIR}/applications")
     install(FILES Packaging/icon/auto-reframe.svg DESTINATION "${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps")
 endif()
-# For programs that load the translation themselves; KxUIStyle::InstallTranslation() needs no file.
-install(FILES "${KR_TRANSLATION}" DESTINATION "${CMAKE_INSTALL_DATADIR}/auto-reframe/translations")
+# For programs that load a translation themselves; KxUIStyle::InstallTranslation() needs no file.
+install(FILES ${KR_TRANSLATIONS} DESTINATION "${CMAKE_INSTALL_DATADIR}/auto-reframe/translations")
 # What Packaging/install-models has put there, if it did.
 install(DIRECTORY "${KR_MODELS_FOLDER}/" DESTINATION "${CMAKE_INSTALL_DATADIR}/auto-reframe/models" OPTIONAL)
 install(DIRECTORY include/ DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}" FILES_MATCHING PATTERN "*.h")

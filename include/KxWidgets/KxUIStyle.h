@@ -56,9 +56,10 @@ KXWIDGETS_API Scheme ShownScheme();
 /// reached is surrounded by a ring, and takes the keys that it needs before a shortcut of its window does.
 KXWIDGETS_API void Apply(QApplication& application);
 
-/// Installs the English texts of the host and of the module, whose sources contain keys in place of some of them
-/// ("AutoReframe_Exit"). A program with translations of its own installs those after it: the last one is asked first.
-KXWIDGETS_API void InstallTranslation(QApplication& application);
+/// Shows the texts of the host and of the module in a language: "en", "de", "es", "fr", "ja", "pt_BR" or "zh_CN".
+/// English needs the call, too: the sources contain keys in place of some texts ("AutoReframe_Exit"). Another call
+/// changes the language. A program with translations of its own installs those after it: the last one is asked first.
+KXWIDGETS_API void InstallTranslation(QApplication& application, const QString& language = QStringLiteral("en"));
 
 /// Of the scheme that is shown; ask for it whenever something is painted.
 KXWIDGETS_API QColor Colour(Role role);

@@ -1,5 +1,7 @@
 #include <KxWidgets/Style/KxTheme.h>
 
+#include <KxCore/KxLanguage.h>
+
 #include <QFile>
 #include <QFontDatabase>
 #include <QFontInfo>
@@ -119,6 +121,19 @@ QString FirstInstalled(std::initializer_list<QString> families)
     return QFontDatabase::systemFont(QFontDatabase::GeneralFont).family();
 }
 
+/// Families with the characters of a language that the program's font lacks. Chinese and Japanese share characters that
+/// they draw differently, so the system's choice would depend on the system's language.
+QStringList FamiliesOf(const QString& language)
+{
+    if (language == QLatin1String("ja")) {
+        return {QStringLiteral("Noto Sans CJK JP"), QStringLiteral("Yu Gothic UI"), QStringLiteral("Meiryo UI")};
+    }
+    if (language == QLatin1String("zh_CN")) {
+        return {QStringLiteral("Noto Sans CJK SC"), QStringLiteral("Microsoft YaHei UI"), QStringLiteral("SimHei")};
+    }
+    return {};
+}
+
 } // namespace
 
 QColor KxUIStyle::Colour(Role role)
@@ -209,6 +224,10 @@ QFont KxTheme::Font()
     static const QString family =
         FirstInstalled({QStringLiteral("Inter"), QStringLiteral("Noto Sans"), QStringLiteral("Segoe UI")});
     QFont font(family);
+    const QStringList others = FamiliesOf(KxLanguage::Current());
+    if (!others.isEmpty()) {
+        font.setFamilies(QStringList(family) + others);
+    }
     font.setPixelSize(13);
     return font;
 }

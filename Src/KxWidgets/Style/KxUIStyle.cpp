@@ -1,5 +1,6 @@
 #include <KxWidgets/KxUIStyle.h>
 
+#include <KxCore/KxLanguage.h>
 #include <KxWidgets/Style/KxAccessible.h>
 #include <KxWidgets/Style/KxFocusRing.h>
 #include <KxWidgets/Style/KxGlyph.h>
@@ -9,15 +10,30 @@
 #include <QApplication>
 #include <QStyle>
 #include <QToolTip>
-#include <QTranslator>
+
+namespace
+{
+
+bool IsApplied(const QApplication& application)
+{
+    return !application.styleSheet().isEmpty();
+}
+
+/// The style sheet contains the font, too.
+void ApplyFont(QApplication& application)
+{
+    QApplication::setFont(KxTheme::Font());
+    QToolTip::setFont(KxTheme::Font());
+    application.setStyleSheet(KxTheme::StyleSheet());
+}
+
+} // namespace
 
 void KxUIStyle::Apply(QApplication& application)
 {
     QApplication::setStyle(new KxStyle);
     QApplication::setPalette(KxTheme::Palette());
-    QApplication::setFont(KxTheme::Font());
-    QToolTip::setFont(KxTheme::Font());
-    application.setStyleSheet(KxTheme::StyleSheet());
+    ApplyFont(application);
     KxAccessible::Install();
     KxFocusRing::Install(application);
 }
@@ -35,13 +51,13 @@ void KxUIStyle::SetScheme(QApplication& application, Scheme scheme)
     }
 }
 
-void KxUIStyle::InstallTranslation(QApplication& application)
+void KxUIStyle::InstallTranslation(QApplication& application, const QString& language)
 {
-    auto* translator = new QTranslator(&application);
-    const bool isLoaded = translator->load(QStringLiteral(":/KxWidgets/Translations/auto-reframe_en.qm"));
-    Q_ASSERT_X(isLoaded, "KxUIStyle", "the translation is not among the resources");
-    Q_UNUSED(isLoaded)
-    QCoreApplication::installTranslator(translator);
+    const QFont before = KxTheme::Font();
+    KxLanguage::Install(language);
+    if (IsApplied(application) && before != KxTheme::Font()) {
+        ApplyFont(application);
+    }
 }
 
 QIcon KxUIStyle::Icon(const QString& name)

@@ -1,0 +1,11 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>KrAutoReframeDialog</name>
+    <message>
+        <source>AutoReframe_Exit</source>
+        <translation>Beenden</translation>
+    </message>
+</context>
+</TS>
