@@ -1,5 +1,7 @@
 #include <Apps/AutoReframe/AutoReframeOptions.h>
 
+#include <KxCore/KxLanguage.h>
+
 #include <QCommandLineParser>
 
 namespace
@@ -36,11 +38,12 @@ AutoReframeOptions::Parsed AutoReframeOptions::Parse(const QStringList& argument
 {
     const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Show this text."));
     const QCommandLineOption version(QStringLiteral("version"), QStringLiteral("Show the version."));
+    const QCommandLineOption language(QStringLiteral("language"), KxLanguage::OptionText(), QStringLiteral("CODE"));
     QCommandLineParser parser;
     parser.setApplicationDescription(
         QStringLiteral("Turns videos into another aspect ratio and keeps their subject in the picture.\n"
                        "The command line program for many files at once is reframe."));
-    parser.addOptions(OptionsOfQt() << help << version);
+    parser.addOptions(OptionsOfQt() << language << help << version);
     parser.addPositionalArgument(QStringLiteral("FILE"), QStringLiteral("Videos to open the library with."),
                                  QStringLiteral("[FILE...]"));
     parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
@@ -54,8 +57,12 @@ AutoReframeOptions::Parsed AutoReframeOptions::Parse(const QStringList& argument
     } else if (!isUnderstood) {
         parsed.text = QStringLiteral("%1\nTry auto-reframe --help.\n").arg(parser.errorText());
         parsed.exitStatus = WrongUse;
+    } else if (const QString name = parser.value(language); parser.isSet(language) && !KxLanguage::Find(name)) {
+        parsed.text = QStringLiteral("%1\nTry auto-reframe --help.\n").arg(KxLanguage::UnknownText(name));
+        parsed.exitStatus = WrongUse;
     } else {
         parsed.options.files = parser.positionalArguments();
+        parsed.options.language = KxLanguage::Find(name).value_or(QString());
     }
     return parsed;
 }

@@ -5,6 +5,7 @@
 /// The command line. A plain record.
 struct AutoReframeOptions {
     QStringList files;
+    QString language; ///< a code of KxLanguage; empty: the saved choice or the system's
 
     struct Parsed;
     /// `arguments` begins with the program's name and may contain the options that Qt takes. Needs an application

@@ -1,6 +1,7 @@
 #include <Apps/AutoReframe/AutoReframeProgram.h>
 
 #include <Apps/AutoReframe/Backend/MediaBackendLoader.h>
+#include <Apps/AutoReframe/LanguageChoice.h>
 #include <Apps/AutoReframe/MainWindow.h>
 #include <Apps/AutoReframe/Store/LibraryStore.h>
 #include <Apps/AutoReframe/Theme/ProgramTheme.h>
@@ -37,7 +38,7 @@ int AutoReframeProgram::Run(QApplication& application, const AutoReframeOptions&
 {
     ProgramTheme theme(application);
     KxUIStyle::Apply(application);
-    KxUIStyle::InstallTranslation(application);
+    KxUIStyle::InstallTranslation(application, LanguageChoice::Of(options.language));
     MediaBackendLoader backend(&MediaBackendLoader::LoadLibrary, nullptr);
     LibraryStore store(LibraryStore::ChooseFile(), nullptr);
     MainWindow window(backend, store);

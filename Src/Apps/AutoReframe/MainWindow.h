@@ -65,6 +65,7 @@ private:
     void SaveView();
     void ShowMenu();
     void AddRecent(QMenu& menu);
+    void AddLanguages(QMenu& menu);
     void AddPaths(QMenu& menu, const QStringList& paths, const QIcon& icon);
     void ChooseFiles();
     void ChooseFolder();

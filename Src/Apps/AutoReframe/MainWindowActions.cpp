@@ -98,6 +98,7 @@ void MainWindow::ShowMenu()
     menu.addAction(tr("Open Crop Track…"), this, &MainWindow::OpenCropTrack)->setEnabled(isOneSelected);
     ExportForMenu::AddTo(menu, [this](const EditListTarget& target) { SaveCrops(target); })->setEnabled(isOneSelected);
     menu.addSeparator();
+    AddLanguages(*menu.addMenu(tr("Language")));
     menu.addAction(tr("Keyboard Shortcuts"), this, &MainWindow::ShowHelp)->setShortcut(QKeySequence::HelpContents);
     menu.addAction(tr("About Auto Reframe"), this, &MainWindow::ShowAbout);
     menu.addSeparator();

@@ -1,6 +1,7 @@
 #include <Apps/AutoReframe/AutoReframePlatform.h>
 #include <Apps/AutoReframe/AutoReframeProgram.h>
 #include <KxCore/KxInterrupt.h>
+#include <KxCore/KxLanguage.h>
 #include <KxCore/KxMemory.h>
 #include <KxCore/KxPlatform.h>
 #include <KxCore/KxSpdlog.h>
@@ -18,7 +19,9 @@ namespace
 AutoReframeOptions::Parsed Parse(int& argc, char** argv)
 {
     const QCoreApplication application(argc, argv);
-    return AutoReframeOptions::Parse(QCoreApplication::arguments());
+    const QStringList arguments = QCoreApplication::arguments();
+    KxLanguage::Install(KxLanguage::OfCommandLine(arguments));
+    return AutoReframeOptions::Parse(arguments);
 }
 
 void PrepareQt()

@@ -2,6 +2,7 @@
 
 #include <Apps/Reframe/ReframeExit.h>
 
+#include <KxCore/KxLanguage.h>
 #include <KxCore/KxPlatform.h>
 #include <KxCore/KxWildcards.h>
 #include <KxEditList/KxEditList.h>
@@ -73,14 +74,15 @@ struct Definitions {
                                  QStringLiteral("Replace existing files instead of adding a number to the name.")};
     QCommandLineOption json{QStringLiteral("json"), QStringLiteral("Print progress and results as JSON lines.")};
     QCommandLineOption quiet{QStringLiteral("quiet"), QStringLiteral("Print errors only.")};
+    QCommandLineOption language{QStringLiteral("language"), KxLanguage::OptionText(), QStringLiteral("CODE")};
     QCommandLineOption help{{QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Show this text.")};
     QCommandLineOption version{QStringLiteral("version"), QStringLiteral("Show the version.")};
 
     QList<QCommandLineOption> All() const
     {
         return QList<QCommandLineOption>{aspect, speed, speaker, follow, choices, saveChoices, cache, output} +
-               video.All() + QList<QCommandLineOption>{keyframes, editList,  apply, preview, report, models,
-                                                       noVideo,   overwrite, json,  quiet,   help,   version};
+               video.All() + QList<QCommandLineOption>{keyframes, editList, apply, preview,  report, models, noVideo,
+                                                       overwrite, json,     quiet, language, help,   version};
     }
 };
 
@@ -251,6 +253,10 @@ ReframeOptions::Parsed ReframeOptions::Parse(const QStringList& arguments)
         return Shown(QStringLiteral("reframe %1\n").arg(QStringLiteral(KR_VERSION)));
     }
 
+    const QString language = parser.value(definitions.language);
+    if (parser.isSet(definitions.language) && !KxLanguage::Find(language)) {
+        return WrongUse(KxLanguage::UnknownText(language));
+    }
     ReframeOptions options;
     options.aspects.clear();
     const QStringList aspects = parser.value(definitions.aspect).split(QLatin1Char(','));

@@ -1,6 +1,7 @@
 #include <Apps/Reframe/ReframeExit.h>
 #include <Apps/Reframe/ReframeProgram.h>
 #include <KxCore/KxInterrupt.h>
+#include <KxCore/KxLanguage.h>
 #include <KxCore/KxMemory.h>
 #include <KxCore/KxPlatform.h>
 #include <KxCore/KxSpdlog.h>
@@ -17,10 +18,19 @@
 namespace
 {
 
+// JSON is read by programs, so its messages do not depend on the person's language.
+QString LanguageOf(const QStringList& arguments)
+{
+    return arguments.contains(QStringLiteral("--json")) ? KxLanguage::Codes().first()
+                                                        : KxLanguage::OfCommandLine(arguments);
+}
+
 ReframeOptions::Parsed Parse(int argc, char** argv)
 {
     const QCoreApplication application(argc, argv);
-    return ReframeOptions::Parse(QCoreApplication::arguments());
+    const QStringList arguments = QCoreApplication::arguments();
+    KxLanguage::Install(LanguageOf(arguments));
+    return ReframeOptions::Parse(arguments);
 }
 
 // Only a preview video needs fonts, which come with the larger kind of application; neither kind needs a display.
@@ -59,6 +69,7 @@ int Run(int argc, char** argv)
         return isShown ? parsed.exitStatus : ReframeExit::SomeFailed;
     }
     const std::unique_ptr<QCoreApplication> application = MakeApplication(*parsed.options, argc, argv);
+    KxLanguage::Install(KxLanguage::Current());
     KxInterrupt::Install();
     return ReframeProgram::Run(*parsed.options);
 }

@@ -44,8 +44,7 @@ void KxUIStyle::SetScheme(QApplication& application, Scheme scheme)
         return;
     }
     KxTheme::SetScheme(scheme);
-    // Before Apply() there is nothing to change.
-    if (!application.styleSheet().isEmpty()) {
+    if (IsApplied(application)) {
         QApplication::setPalette(KxTheme::Palette());
         application.setStyleSheet(KxTheme::StyleSheet());
     }
