@@ -2,10 +2,74 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
+    <name>AnalysisReport</name>
+    <message numerus="yes">
+        <source>%n frames</source>
+        <translation>
+            <numerusform>%n frame</numerusform>
+            <numerusform>%n frames</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>BatchDialog</name>
+    <message numerus="yes">
+        <source>%n files: %1</source>
+        <translation>
+            <numerusform>%n file: %1</numerusform>
+            <numerusform>%n files: %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Reframe %n Videos</source>
+        <translation>
+            <numerusform>Reframe %n Video</numerusform>
+            <numerusform>Reframe %n Videos</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ExportCard</name>
+    <message numerus="yes">
+        <source>%n to look at</source>
+        <translation>
+            <numerusform>%n to look at</numerusform>
+            <numerusform>%n to look at</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ExportPanel</name>
+    <message numerus="yes">
+        <source>%n exports not finished</source>
+        <translation>
+            <numerusform>An export not finished</numerusform>
+            <numerusform>%n exports not finished</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>FoundSignals</name>
+    <message numerus="yes">
+        <source>follows who speaks, with %n cuts</source>
+        <translation>
+            <numerusform>follows who speaks, with %n cut</numerusform>
+            <numerusform>follows who speaks, with %n cuts</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>KrAutoReframeDialog</name>
     <message>
         <source>AutoReframe_Exit</source>
         <translation>Exit</translation>
+    </message>
+</context>
+<context>
+    <name>KrAutoReframePropertyPanel</name>
+    <message>
+        <source>AutoReframe_Restart</source>
+        <translation>Analyze Again</translation>
     </message>
 </context>
 <context>
@@ -32,40 +96,6 @@
         <translation>
             <numerusform>%1 of %n shot to look at</numerusform>
             <numerusform>%1 of %n shots to look at</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
-    <name>KrAutoReframePropertyPanel</name>
-    <message>
-        <source>AutoReframe_Restart</source>
-        <translation>Analyze Again</translation>
-    </message>
-</context>
-<context>
-    <name>BatchDialog</name>
-    <message numerus="yes">
-        <source>Reframe %n Videos</source>
-        <translation>
-            <numerusform>Reframe %n Video</numerusform>
-            <numerusform>Reframe %n Videos</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n files: %1</source>
-        <translation>
-            <numerusform>%n file: %1</numerusform>
-            <numerusform>%n files: %1</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
-    <name>ExportPanel</name>
-    <message numerus="yes">
-        <source>%n exports not finished</source>
-        <translation>
-            <numerusform>An export not finished</numerusform>
-            <numerusform>%n exports not finished</numerusform>
         </translation>
     </message>
 </context>
@@ -100,17 +130,58 @@
         </translation>
     </message>
     <message numerus="yes">
+        <source>… and %n more.</source>
+        <translation>
+            <numerusform>… and %n more.</numerusform>
+            <numerusform>… and %n more.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
         <source>%n selected videos are left.</source>
         <translation>
             <numerusform>It is the last one of the selected videos.</numerusform>
             <numerusform>%n selected videos are left.</numerusform>
         </translation>
     </message>
+</context>
+<context>
+    <name>QueueBar</name>
     <message numerus="yes">
-        <source>… and %n more.</source>
+        <source>%n failed</source>
         <translation>
-            <numerusform>… and %n more.</numerusform>
-            <numerusform>… and %n more.</numerusform>
+            <numerusform>%n failed</numerusform>
+            <numerusform>%n failed</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n done</source>
+        <translation>
+            <numerusform>%n done</numerusform>
+            <numerusform>%n done</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cancelled</source>
+        <translation>
+            <numerusform>%n cancelled</numerusform>
+            <numerusform>%n cancelled</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n to look at</source>
+        <translation>
+            <numerusform>%n to look at</numerusform>
+            <numerusform>%n to look at</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ReframeJob</name>
+    <message numerus="yes">
+        <source>%n frames</source>
+        <translation>
+            <numerusform>%n frame</numerusform>
+            <numerusform>%n frames</numerusform>
         </translation>
     </message>
 </context>

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <atomic>
 
 namespace
 {
@@ -26,11 +27,7 @@ constexpr std::array Languages{Language{"en", u"English"},    Language{"de", u"D
 
 const QString English = QStringLiteral("en");
 
-QString& CurrentCode()
-{
-    static QString code = English;
-    return code;
-}
+std::atomic<std::size_t> g_current = 0; ///< an index of Languages
 
 /// A translation that Install() replaces.
 class Translation : public QTranslator
@@ -146,11 +143,7 @@ QString KxLanguage::UnknownText(const QString& name)
 void KxLanguage::Install(const QString& code)
 {
     Q_ASSERT(QCoreApplication::instance() != nullptr && Codes().contains(code));
-    QLocale locale(code);
-    // A picture is 1920 pixels wide, not 1,920.
-    locale.setNumberOptions(QLocale::OmitGroupSeparator);
-    QLocale::setDefault(locale);
-    CurrentCode() = code;
+    g_current = static_cast<std::size_t>(Codes().indexOf(code));
     RemoveAll();
     // Qt's own texts are there if its package is; those of Qt in English are in its sources.
     Add(QStringLiteral("qtbase_") + code, QLibraryInfo::location(QLibraryInfo::TranslationsPath));
@@ -161,5 +154,12 @@ void KxLanguage::Install(const QString& code)
 
 QString KxLanguage::Current()
 {
-    return CurrentCode();
+    return QLatin1String(Languages[g_current].code);
+}
+
+QLocale KxLanguage::Locale()
+{
+    QLocale locale(Current());
+    locale.setNumberOptions(QLocale::OmitGroupSeparator);
+    return locale;
 }

@@ -35,10 +35,13 @@ KXCORE_API QString OfCommandLine(const QStringList& arguments);
 KXCORE_API QString OptionText();
 KXCORE_API QString UnknownText(const QString& name);
 
-/// From now on texts are in this language, those of Qt included, and so are the numbers in them (QLocale's default).
-/// Existing widgets receive QEvent::LanguageChange. Needs an application object; a new one needs a new call.
+/// From now on texts are in this language, those of Qt included. Existing widgets receive QEvent::LanguageChange. Needs
+/// an application object; a new one needs a new call.
 KXCORE_API void Install(const QString& code);
 
-/// What Install() was last given; English before.
+/// What Install() was last given; English before. Any thread.
 KXCORE_API QString Current();
+
+/// For the numbers in a text, without separators of thousands: a picture is 1920 pixels wide, not 1,920. Any thread.
+KXCORE_API QLocale Locale();
 } // namespace KxLanguage

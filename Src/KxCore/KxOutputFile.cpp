@@ -3,6 +3,7 @@
 #include <KxCore/KxSystemError.h>
 #include <KxCore/KxSystemFile.h>
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -13,9 +14,13 @@
 namespace
 {
 
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(KxOutputFile)
+};
+
 QString CannotWrite(const QString& path, const QString& reason)
 {
-    return QStringLiteral("Cannot write %1: %2.").arg(path, reason);
+    return Texts::tr("Cannot write %1: %2.").arg(path, reason);
 }
 
 /// Reports an impossible name before the work, not after it. Devices and the like are never replaced.
@@ -27,10 +32,10 @@ KxError ReasonNotToReplace(const QString& path)
     std::error_code problem;
     const std::filesystem::file_status existing = std::filesystem::status(KxSystemFile::NativePath(path), problem);
     if (std::filesystem::is_directory(existing)) {
-        return QStringLiteral("it is a folder");
+        return Texts::tr("it is a folder");
     }
     const bool isOther = std::filesystem::exists(existing) && !std::filesystem::is_regular_file(existing);
-    return isOther ? KxError(QStringLiteral("it is not a regular file")) : std::nullopt;
+    return isOther ? KxError(Texts::tr("it is not a regular file")) : std::nullopt;
 }
 
 /// Reserves the name by an empty file.
@@ -66,7 +71,7 @@ KxResult<QString> ReserveFreeName(const QString& path)
             return KxResult<QString>::Failure(CannotWrite(candidate, KxSystemErrorMeaning(problem)));
         }
     }
-    return KxResult<QString>::Failure(CannotWrite(path, QStringLiteral("no free name was found in its folder")));
+    return KxResult<QString>::Failure(CannotWrite(path, Texts::tr("no free name was found in its folder")));
 }
 
 } // namespace
@@ -94,10 +99,10 @@ KxResult<std::unique_ptr<KxOutputFile>> KxOutputFile::Create(const QString& targ
     const QFileInfo folder(target.absolutePath());
     if (!folder.exists()) {
         return Created::Failure(
-            CannotWrite(targetPath, QStringLiteral("the folder %1 does not exist").arg(folder.filePath())));
+            CannotWrite(targetPath, Texts::tr("the folder %1 does not exist").arg(folder.filePath())));
     }
     if (!folder.isDir()) {
-        return Created::Failure(CannotWrite(targetPath, QStringLiteral("%1 is not a folder").arg(folder.filePath())));
+        return Created::Failure(CannotWrite(targetPath, Texts::tr("%1 is not a folder").arg(folder.filePath())));
     }
     if (const KxError reason = ReasonNotToReplace(target.absoluteFilePath())) {
         return Created::Failure(CannotWrite(targetPath, *reason));

@@ -1,7 +1,18 @@
 #include <KxCore/KxThread.h>
 
+#include <QCoreApplication>
+
 #include <exception>
 #include <new>
+
+namespace
+{
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(KxThread)
+};
+
+} // namespace
 
 KxError KxCallGuarded(const std::function<void()>& work)
 {
@@ -9,11 +20,11 @@ KxError KxCallGuarded(const std::function<void()>& work)
         work();
         return std::nullopt;
     } catch (const std::bad_alloc&) {
-        return QStringLiteral("memory ran out");
+        return Texts::tr("memory ran out");
     } catch (const std::exception& exception) {
         return QString::fromUtf8(exception.what());
     } catch (...) {
-        return QStringLiteral("an unknown error occurred");
+        return Texts::tr("an unknown error occurred");
     }
 }
 

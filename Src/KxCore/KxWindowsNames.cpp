@@ -1,10 +1,15 @@
 #include <KxCore/KxWindowsNames.h>
 
+#include <QCoreApplication>
 #include <QRegularExpression>
 #include <QStringList>
 
 namespace
 {
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(KxWindowsNames)
+};
 
 constexpr int LongestName = 255;
 constexpr int LongestPath = 32000;
@@ -28,18 +33,17 @@ KxError ReasonAgainst(const QString& name)
         QRegularExpression::CaseInsensitiveOption);
     for (const QChar character : name) {
         if (IsForbidden(character)) {
-            return character < QLatin1Char(' ')
-                       ? QStringLiteral("its name contains a control character")
-                       : QStringLiteral("a name cannot contain the character %1").arg(character);
+            return character < QLatin1Char(' ') ? Texts::tr("its name contains a control character")
+                                                : Texts::tr("a name cannot contain the character %1").arg(character);
         }
     }
     if (device.match(name).hasMatch()) {
-        return QStringLiteral("%1 is the name of a device").arg(name.section(QLatin1Char('.'), 0, 0).trimmed());
+        return Texts::tr("%1 is the name of a device").arg(name.section(QLatin1Char('.'), 0, 0).trimmed());
     }
     if (name.endsWith(QLatin1Char('.')) || name.endsWith(QLatin1Char(' '))) {
-        return QStringLiteral("a name cannot end with a dot or a space");
+        return Texts::tr("a name cannot end with a dot or a space");
     }
-    return name.size() > LongestName ? KxError(QStringLiteral("its name is too long")) : std::nullopt;
+    return name.size() > LongestName ? KxError(Texts::tr("its name is too long")) : std::nullopt;
 }
 
 } // namespace
@@ -56,5 +60,5 @@ KxError KxWindowsNames::ReasonNotToName(const QString& path)
             return reason;
         }
     }
-    return path.size() > LongestPath ? KxError(QStringLiteral("its name is too long")) : std::nullopt;
+    return path.size() > LongestPath ? KxError(Texts::tr("its name is too long")) : std::nullopt;
 }

@@ -3,12 +3,17 @@
 #include <KxMedia/Picture/KxPictureScaler.h>
 #include <KxMedia/Read/KxVideoReader.h>
 
+#include <QCoreApplication>
 #include <QFileInfo>
 
 #include <algorithm>
 
 namespace
 {
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(KxThumbnailPicture)
+};
 
 /// Where pictures are taken, as fractions of the video's length.
 constexpr double Places[] = {0.1, 0.35, 0.65};
@@ -60,7 +65,7 @@ KxResult<QImage> KxThumbnailPicture::Make(const QString& path, const QSize& room
     }
     if (first.isNull()) {
         return KxResult<QImage>::Failure(
-            QStringLiteral("Cannot show %1: no picture could be read.").arg(QFileInfo(path).fileName()));
+            Texts::tr("Cannot show %1: no picture could be read.").arg(QFileInfo(path).fileName()));
     }
     return first;
 }

@@ -3,8 +3,18 @@
 #include <KxCore/KxWorker.h>
 #include <KxMediaLibrary/KxThumbnailPicture.h>
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QHash>
+
+namespace
+{
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(KxThumbnailer)
+};
+
+} // namespace
 
 struct KxThumbnailer::Work {
     explicit Work(Maker made)
@@ -60,7 +70,7 @@ quint64 KxThumbnailer::Request(const QString& path, const QSize& roomPx)
     job.failed = [this, work = m_work.get(), request, path](const QString& message) {
         work->Deliver(
             *this, request,
-            KxResult<QImage>::Failure(QStringLiteral("Cannot show %1: %2.").arg(QFileInfo(path).fileName(), message)));
+            KxResult<QImage>::Failure(Texts::tr("Cannot show %1: %2.").arg(QFileInfo(path).fileName(), message)));
     };
     m_work->jobs.insert(request, m_work->worker.Add(std::move(job)));
     return request;

@@ -3,11 +3,17 @@
 #include <KxCore/KxCropWindow.h>
 #include <KxMedia/Picture/KxDrawnFrame.h>
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <cmath>
 
 namespace
 {
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(KxPictureFeed)
+};
 
 // Decoding runs in bursts; a few pictures in reserve keep the encoder busy.
 constexpr qint64 PicturesAhead = 6;
@@ -66,7 +72,7 @@ bool KxPictureFeed::EndedEarly()
 void KxPictureFeed::Work()
 {
     if (const KxError reason = KxCallGuarded([this] { DecodeAndCut(); })) {
-        m_failure = QStringLiteral("Cannot render %1: %2.").arg(m_source.Name(), *reason);
+        m_failure = Texts::tr("Cannot render %1: %2.").arg(m_source.Name(), *reason);
     }
     m_pictures.Close();
 }
@@ -84,7 +90,7 @@ void KxPictureFeed::DecodeAndCut()
             }
             KxResult<KxVideoFrame> result = Make(picture, sourceFrame);
             if (!result) {
-                m_failure = QStringLiteral("Cannot render %1 at frame %2. %3")
+                m_failure = Texts::tr("Cannot render %1 at frame %2. %3")
                                 .arg(m_source.Name(), QString::number(sourceFrame), result.Message());
                 return;
             }
@@ -112,7 +118,7 @@ KxResult<KxVideoFrame> KxPictureFeed::Make(const KxVideoFrame& picture, qint64 f
     }
     const KxVideoFrame drawn = image.isNull() ? KxVideoFrame() : KxDrawnFrame(image, picture.Index());
     if (drawn.IsNull()) {
-        return KxResult<KxVideoFrame>::Failure(QStringLiteral("Memory ran out."));
+        return KxResult<KxVideoFrame>::Failure(Texts::tr("Memory ran out."));
     }
     return m_cutter.Cut(drawn, QRectF(0.0, 0.0, 1.0, 1.0));
 }

@@ -5,15 +5,25 @@
 #include <KxModel/IKxMediaInfo.h>
 #include <KxModel/IKxTimeline.h>
 
+#include <QCoreApplication>
 #include <QFileInfo>
 
 #include <algorithm>
+
+namespace
+{
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(KxRenderSource)
+};
+
+} // namespace
 
 KxResult<KxRenderSource> KxRenderSource::FromTimeline(IKxTimeline& timeline)
 {
     const QList<IKxClip*> clips = timeline.clips();
     if (clips.isEmpty() || clips.first()->filePath().isEmpty()) {
-        return KxResult<KxRenderSource>::Failure(QStringLiteral("Cannot render the timeline: it shows no file."));
+        return KxResult<KxRenderSource>::Failure(Texts::tr("Cannot render the timeline: it shows no file."));
     }
     KxRenderSource source;
     source.path = clips.first()->filePath();

@@ -8,12 +8,17 @@
 #include <KxRender/KxPictureFeed.h>
 #include <KxRender/KxRenderSound.h>
 
+#include <QCoreApplication>
 #include <QFileInfo>
 
 #include <algorithm>
 
 namespace
 {
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(KxRenderer)
+};
 
 constexpr int ProgressEnd = 10000;
 
@@ -29,7 +34,7 @@ KxRenderResult Cancelled()
 
 QString CannotWrite(const KxRenderSettings& settings, const QString& reason)
 {
-    return QStringLiteral("Cannot write %1: %2.").arg(settings.outputPath, reason);
+    return Texts::tr("Cannot write %1: %2.").arg(settings.outputPath, reason);
 }
 
 QSize Even(const QSize& size)
@@ -42,12 +47,12 @@ KxError Check(const KxRenderSource& source, const KxRenderSettings& settings)
     constexpr int longestSidePx = 16384;
     const QSize size = settings.resolution;
     if (size.isEmpty() || size.width() > longestSidePx || size.height() > longestSidePx) {
-        return CannotWrite(settings, QStringLiteral("a resolution of %1 x %2 is not possible")
+        return CannotWrite(settings, Texts::tr("a resolution of %1 x %2 is not possible")
                                          .arg(QString::number(size.width()), QString::number(size.height())));
     }
     if (settings.existing == KxOutputFile::Existing::Replace && QFileInfo::exists(settings.outputPath) &&
         KxSystemFile::Identity(settings.outputPath) == KxSystemFile::Identity(source.path)) {
-        return CannotWrite(settings, QStringLiteral("it is the very file that is rendered"));
+        return CannotWrite(settings, Texts::tr("it is the very file that is rendered"));
     }
     return std::nullopt;
 }
@@ -157,14 +162,14 @@ KxRenderResult Rendering::Finish(KxPictureFeed& pictures, const KxOutputGrid& gr
         return Failed(*failure);
     }
     if (m_written == 0) {
-        return Failed(QStringLiteral("Cannot render %1: it is damaged.").arg(m_source.Name()));
+        return Failed(Texts::tr("Cannot render %1: it is damaged.").arg(m_source.Name()));
     }
     if (pictures.EndedEarly()) {
-        Warn(QStringLiteral("%1 is damaged or incomplete: only %2 of %3 frames could be rendered.")
+        Warn(Texts::tr("%1 is damaged or incomplete: only %2 of %3 frames could be rendered.")
                  .arg(m_source.Name(), QString::number(m_written), QString::number(grid.Frames())));
     }
     if (m_sound.feed != nullptr && m_sound.feed->HasFailed()) {
-        Warn(QStringLiteral("The sound of %1 is damaged and ends early.").arg(m_source.Name()));
+        Warn(Texts::tr("The sound of %1 is damaged and ends early.").arg(m_source.Name()));
     }
     const KxResult<QString> path = m_writer->Finish();
     if (!path) {
@@ -194,7 +199,7 @@ KxRenderResult Rendering::Run()
         KxOutputGrid::Make(video.frameRate, video.frameCount, m_settings.frameRate);
     if (!grid) {
         return Failed(
-            CannotWrite(m_settings, QStringLiteral("%1 frames a second are not possible").arg(m_settings.frameRate)));
+            CannotWrite(m_settings, Texts::tr("%1 frames a second are not possible").arg(m_settings.frameRate)));
     }
     OpenSound();
     if (KxError error = OpenWriter(*grid)) {
@@ -217,6 +222,5 @@ KxRenderResult KxRenderer::Run(const KxRenderSource& source, const KxRenderSetti
     if (!reason) {
         return result;
     }
-    return cancel.IsCancelled() ? Cancelled()
-                                : Failed(QStringLiteral("Cannot render %1: %2.").arg(source.Name(), *reason));
+    return cancel.IsCancelled() ? Cancelled() : Failed(Texts::tr("Cannot render %1: %2.").arg(source.Name(), *reason));
 }

@@ -3,6 +3,7 @@
 #include <Apps/CropTracks/CropTrackParser.h>
 #include <KxCore/KxSystemError.h>
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonArray>
@@ -11,6 +12,10 @@
 
 namespace
 {
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(CropTrackFile)
+};
 
 // Finer than a hundredth of a pixel in any picture that can be opened.
 constexpr int Decimals = 9;
@@ -99,30 +104,28 @@ KxResult<CropTrack> CropTrackFile::Read(const QString& path, qint64 frameCount)
     QFile file(path);
     // Opening a pipe would wait for its writer.
     if (info.exists() && !info.isFile()) {
-        const QString reason =
-            info.isDir() ? QStringLiteral("it is a folder") : QStringLiteral("it is not a regular file");
-        return Result::Failure(QStringLiteral("Cannot open %1: %2.").arg(path, reason));
+        const QString reason = info.isDir() ? Texts::tr("it is a folder") : Texts::tr("it is not a regular file");
+        return Result::Failure(Texts::tr("Cannot open %1: %2.").arg(path, reason));
     }
     if (!file.open(QIODevice::ReadOnly)) {
-        return Result::Failure(QStringLiteral("Cannot open %1: %2.").arg(path, KxFileErrorText(file)));
+        return Result::Failure(Texts::tr("Cannot open %1: %2.").arg(path, KxFileErrorText(file)));
     }
     // Four numbers of 17 digits, indented by a person's editor, stay below.
     constexpr qint64 baseBytes = 64 * 1024;
     constexpr qint64 bytesPerFrame = 256;
     if (file.size() > baseBytes + bytesPerFrame * frameCount) {
-        return Result::Failure(
-            QStringLiteral("Cannot use %1: it is too large for a crop track of a video of %2 frames.")
-                .arg(name, QString::number(frameCount)));
+        return Result::Failure(Texts::tr("Cannot use %1: it is too large for a crop track of a video of %2 frames.")
+                                   .arg(name, QString::number(frameCount)));
     }
     CropTrackParser parser(name, frameCount);
     if (const KxError problem = IsCsv(path) ? parser.ReadCsv(file) : parser.ReadJson(file)) {
         return Result::Failure(*problem);
     }
     if (file.error() != QFileDevice::NoError) {
-        return Result::Failure(QStringLiteral("Cannot read %1: %2.").arg(path, KxFileErrorText(file)));
+        return Result::Failure(Texts::tr("Cannot read %1: %2.").arg(path, KxFileErrorText(file)));
     }
     if (parser.Track().crops.isEmpty()) {
-        return Result::Failure(QStringLiteral("Cannot use %1: it holds no frames.").arg(name));
+        return Result::Failure(Texts::tr("Cannot use %1: it holds no frames.").arg(name));
     }
     return parser.Track();
 }

@@ -2,10 +2,20 @@
 
 #include <Apps/CropTracks/JsonReader.h>
 
+#include <QCoreApplication>
 #include <QIODevice>
 
 #include <array>
 #include <cmath>
+
+namespace
+{
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(CropTrackParser)
+};
+
+} // namespace
 
 using Token = JsonReader::Token;
 
@@ -17,19 +27,19 @@ CropTrackParser::CropTrackParser(QString name, qint64 frameCount)
 
 KxError CropTrackParser::NotATrack(const JsonReader& reader) const
 {
-    return QStringLiteral("Cannot use %1: it is no crop track (line %2).").arg(m_name, QString::number(reader.Line()));
+    return Texts::tr("Cannot use %1: it is no crop track (line %2).").arg(m_name, QString::number(reader.Line()));
 }
 
 KxError CropTrackParser::BadFrame() const
 {
-    return QStringLiteral("Cannot use %1: frame %2 is no rectangle inside the picture.")
+    return Texts::tr("Cannot use %1: frame %2 is no rectangle inside the picture.")
         .arg(m_name, QString::number(m_track.crops.size()));
 }
 
 KxError CropTrackParser::Append(const QRectF& crop)
 {
     if (m_track.crops.size() >= m_frameCount) {
-        return QStringLiteral("Cannot use %1: it holds more frames than the video, which has %2.")
+        return Texts::tr("Cannot use %1: it holds more frames than the video, which has %2.")
             .arg(m_name, QString::number(m_frameCount));
     }
     constexpr double slack = 1e-6;
@@ -130,7 +140,7 @@ KxError CropTrackParser::ReadVersion(JsonReader& reader) const
     if (reader.Value() == known) {
         return std::nullopt;
     }
-    return QStringLiteral("Cannot use %1: it is a crop track of version %2, and this program reads version 1.")
+    return Texts::tr("Cannot use %1: it is a crop track of version %2, and this program reads version 1.")
         .arg(m_name, QString::number(reader.Value()));
 }
 

@@ -3,6 +3,7 @@
 #include <KxCore/KxSystemError.h>
 #include <KxCore/KxWindowsNames.h>
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileDevice>
 #include <QFileInfo>
@@ -14,6 +15,10 @@
 
 namespace
 {
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(KxSystemFile)
+};
 
 constexpr std::array<std::pair<DWORD, std::errc>, 21> Meanings{{
     {ERROR_FILE_NOT_FOUND, std::errc::no_such_file_or_directory},
@@ -93,7 +98,7 @@ KxError KxSystemFile::Rename(const QString& from, const QString& to)
         return std::nullopt;
     }
     const std::error_code problem = SystemError(GetLastError());
-    return IsHeldOpen(target) ? QStringLiteral("another program has it open") : KxSystemErrorMeaning(problem);
+    return IsHeldOpen(target) ? Texts::tr("another program has it open") : KxSystemErrorMeaning(problem);
 }
 
 std::error_code KxSystemFile::ErrorOf(const QFileDevice& file)

@@ -6,7 +6,18 @@ extern "C" {
 #include <libavutil/error.h>
 }
 
+#include <QCoreApplication>
+
 #include <array>
+
+namespace
+{
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(KxAvError)
+};
+
+} // namespace
 
 QString KxAvErrorText(int error)
 {
@@ -16,15 +27,15 @@ QString KxAvErrorText(int error)
     }
     switch (error) {
     case AVERROR_EXIT:
-        return QStringLiteral("it was cancelled");
+        return Texts::tr("it was cancelled");
     case AVERROR_EOF:
-        return QStringLiteral("it ends too early");
+        return Texts::tr("it ends too early");
     case AVERROR_INVALIDDATA:
-        return QStringLiteral("it is damaged");
+        return Texts::tr("it is damaged");
     case AVERROR_DECODER_NOT_FOUND:
     case AVERROR_DEMUXER_NOT_FOUND:
     case AVERROR_PATCHWELCOME:
-        return QStringLiteral("its format is not supported");
+        return Texts::tr("its format is not supported");
     default:
         break;
     }

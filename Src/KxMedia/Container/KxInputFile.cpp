@@ -9,6 +9,7 @@ extern "C" {
 #include <libavutil/avstring.h>
 }
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -17,6 +18,10 @@ extern "C" {
 
 namespace
 {
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(KxInputFile)
+};
 
 constexpr const char* Containers =
     "mov,mp4,m4a,3gp,3g2,mj2,matroska,webm,avi,mpegts,mpeg,mpegvideo,flv,asf,ogg,mxf,dv,gif,apng,wtv,yuv4mpegpipe,ivf,"
@@ -86,18 +91,18 @@ QString ReasonToRefuse(const AVInputFormat& format)
 {
     const QLatin1String name(format.name);
     if (name.endsWith(QLatin1String("_pipe")) || name == QLatin1String("image2") || name == QLatin1String("ico")) {
-        return QStringLiteral("it is a single picture, not a video");
+        return Texts::tr("it is a single picture, not a video");
     }
     if (name.startsWith(QLatin1String("hls")) || name == QLatin1String("concat") || name == QLatin1String("dash") ||
         name == QLatin1String("imf") || name == QLatin1String("webm_dash_manifest") || name == QLatin1String("sdp")) {
-        return QStringLiteral("it is a list of other files, not a video");
+        return Texts::tr("it is a list of other files, not a video");
     }
-    return QStringLiteral("it is not a video file");
+    return Texts::tr("it is not a video file");
 }
 
 QString TooManyStreams()
 {
-    return QStringLiteral("it has more than %1 streams").arg(MostStreams);
+    return Texts::tr("it has more than %1 streams").arg(MostStreams);
 }
 
 bool IsPicture(const AVStream& stream)
@@ -156,7 +161,7 @@ KxInputFile::~KxInputFile()
 QString KxInputFile::Message(const QString& path, const QString& reason)
 {
     const QString name = QFileInfo(path).fileName();
-    return QStringLiteral("Cannot open %1: %2.").arg(name.isEmpty() ? QDir::toNativeSeparators(path) : name, reason);
+    return Texts::tr("Cannot open %1: %2.").arg(name.isEmpty() ? QDir::toNativeSeparators(path) : name, reason);
 }
 
 bool KxInputFile::HasChanged() const
@@ -181,35 +186,35 @@ int KxInputFile::IsInterrupted(void* watch)
 QString KxInputFile::Failure(int error) const
 {
     if (IsCancelled()) {
-        return QStringLiteral("it was cancelled");
+        return Texts::tr("it was cancelled");
     }
     if (error == AVERROR_EXIT || m_watch.isLate) {
-        return QStringLiteral("reading it takes too long");
+        return Texts::tr("reading it takes too long");
     }
     // For malformed files, the error codes of demuxers say little.
     const bool isNoFaultOfTheFile = error == AVERROR(ENOMEM) || error == AVERROR(EIO) || error == AVERROR_PATCHWELCOME;
-    return isNoFaultOfTheFile ? KxAvErrorText(error) : QStringLiteral("it is damaged or incomplete");
+    return isNoFaultOfTheFile ? KxAvErrorText(error) : Texts::tr("it is damaged or incomplete");
 }
 
 KxError KxInputFile::OpenFile()
 {
     const QFileInfo info(m_path);
     if (!info.exists()) {
-        return info.isSymLink() ? QStringLiteral("it is a link to a file that does not exist")
-                                : QStringLiteral("there is no such file");
+        return info.isSymLink() ? Texts::tr("it is a link to a file that does not exist")
+                                : Texts::tr("there is no such file");
     }
     if (info.isDir()) {
-        return QStringLiteral("it is a folder");
+        return Texts::tr("it is a folder");
     }
     if (!info.isFile()) {
-        return QStringLiteral("it is not a regular file");
+        return Texts::tr("it is not a regular file");
     }
     if (!info.isReadable()) {
-        return QStringLiteral("permission is denied");
+        return Texts::tr("permission is denied");
     }
     m_fileSize = info.size();
     if (m_fileSize == 0) {
-        return QStringLiteral("it is empty");
+        return Texts::tr("it is empty");
     }
     m_lastWrite = LastWriteTime(m_path);
     Options options;
@@ -231,7 +236,7 @@ KxError KxInputFile::OpenContainer()
     const AVInputFormat* format = nullptr;
     const int score = av_probe_input_buffer2(m_file, &format, url.constData(), nullptr, 0, 0);
     if (score < 0 || format == nullptr) {
-        return IsCancelled() || m_watch.isLate ? Failure(score) : QStringLiteral("it is not a video file");
+        return IsCancelled() || m_watch.isLate ? Failure(score) : Texts::tr("it is not a video file");
     }
     if (av_match_list(format->name, Containers, ',') <= 0) {
         return ReasonToRefuse(*format);
@@ -266,7 +271,7 @@ KxError KxInputFile::OpenContainer()
     if (error < 0) {
         // Nothing but the file's name suggested a format.
         const bool isGuess = score <= AVPROBE_SCORE_EXTENSION && !IsCancelled();
-        return isGuess ? QStringLiteral("it is not a video file") : Failure(error);
+        return isGuess ? Texts::tr("it is not a video file") : Failure(error);
     }
     m_context.reset(context);
     return std::nullopt;
@@ -280,7 +285,7 @@ KxError KxInputFile::ReasonToRefuseStreams() const
     for (unsigned i = 0; i < m_context->nb_streams; ++i) {
         const AVStream& stream = *m_context->streams[i];
         if (IsTooLarge(stream)) {
-            return QStringLiteral("its pictures are too large (%1 x %2)")
+            return Texts::tr("its pictures are too large (%1 x %2)")
                 .arg(QString::number(stream.codecpar->width), QString::number(stream.codecpar->height));
         }
     }
@@ -325,9 +330,9 @@ void KxInputFile::ChooseStreams()
             }
         }
     }
-    m_reasonForNoVideo = !m_audioStreams.empty() ? QStringLiteral("it has sound but no moving picture")
-                         : hasPicture            ? QStringLiteral("it is a single picture, not a video")
-                                                 : QStringLiteral("it has no moving picture");
+    m_reasonForNoVideo = !m_audioStreams.empty() ? Texts::tr("it has sound but no moving picture")
+                         : hasPicture            ? Texts::tr("it is a single picture, not a video")
+                                                 : Texts::tr("it has no moving picture");
 }
 
 void KxInputFile::Select(const AVStream& stream)

@@ -6,6 +6,8 @@
 #include <KxMedia/Picture/KxPictureColour.h>
 #include <KxMedia/Picture/KxPlaneResampler.h>
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <cmath>
 #include <cstring>
@@ -14,6 +16,10 @@
 
 namespace
 {
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(KxFittedCutter)
+};
 
 using Cutting = KxResult<KxVideoFrame>;
 
@@ -175,7 +181,7 @@ private:
 Cutting KxFittedCutter::Impl::Cut(const KxVideoFrame& picture, const QRectF& crop)
 {
     if (picture.IsNull() || !KxCropWindow::IsUsable(crop)) {
-        return Cutting::Failure(QStringLiteral("Cannot cut a picture: the rectangle to cut out is empty."));
+        return Cutting::Failure(Texts::tr("Cannot cut a picture: the rectangle to cut out is empty."));
     }
     const QRectF inside = KxCropWindow::Inside(crop);
     const QSizeF shape = KxCropWindow::Pixels(inside, picture.DisplayedSize()).size();
@@ -192,7 +198,7 @@ Cutting KxFittedCutter::Impl::Cut(const KxVideoFrame& picture, const QRectF& cro
     const AVFrame& cut = (*front).Picture();
     KxAvFrame result = m_pool.Take(static_cast<AVPixelFormat>(cut.format), m_size);
     if (result == nullptr || !PaintBackground((*background).Picture(), *result)) {
-        return Cutting::Failure(QStringLiteral("Cannot cut a picture: memory ran out."));
+        return Cutting::Failure(Texts::tr("Cannot cut a picture: memory ran out."));
     }
     KxPictureColour::Copy(cut, *result);
     KxPictureColour::CopyBrightness(cut, *result);

@@ -13,11 +13,17 @@ extern "C" {
 #include <libavutil/pixdesc.h>
 }
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <cstdint>
 
 namespace
 {
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(KxFrameCutter)
+};
 
 using KxPlaneGeometry::PlaneSampling;
 using KxPlaneGeometry::Span;
@@ -143,12 +149,12 @@ KxResult<KxVideoFrame> KxFrameCutter::Impl::Cut(const KxVideoFrame& picture, con
 {
     using Result = KxResult<KxVideoFrame>;
     if (picture.IsNull() || !KxCropWindow::IsUsable(crop)) {
-        return Result::Failure(QStringLiteral("Cannot cut a picture: the rectangle to cut out is empty."));
+        return Result::Failure(Texts::tr("Cannot cut a picture: the rectangle to cut out is empty."));
     }
     const AVFrame* const source = m_converter.Convert(picture.Picture());
     if (source == nullptr) {
         const char* const name = av_get_pix_fmt_name(static_cast<AVPixelFormat>(picture.Picture().format));
-        return Result::Failure(QStringLiteral("Cannot cut a picture: its pixel format \"%1\" cannot be converted.")
+        return Result::Failure(Texts::tr("Cannot cut a picture: its pixel format \"%1\" cannot be converted.")
                                    .arg(QLatin1String(name != nullptr ? name : "unknown")));
     }
     const KxVideoFrame::Orientation& turn = picture.Turn();
@@ -181,7 +187,7 @@ KxFrameCutter::Impl::Cutting KxFrameCutter::Impl::CutCoded(const AVFrame& source
     const QSize size = isQuarter ? m_size.transposed() : m_size;
     KxAvFrame target = m_cutPool.Take(format, size);
     if (target == nullptr) {
-        return Cutting::Failure(QStringLiteral("Cannot cut a picture: memory ran out."));
+        return Cutting::Failure(Texts::tr("Cannot cut a picture: memory ran out."));
     }
     KxPictureColour::Copy(source, *target);
     target->chroma_location = format == AV_PIX_FMT_YUV444P10 ? AVCHROMA_LOC_UNSPECIFIED : AVCHROMA_LOC_LEFT;
@@ -190,7 +196,7 @@ KxFrameCutter::Impl::Cutting KxFrameCutter::Impl::CutCoded(const AVFrame& source
     const KxPlaneResampler::Request chroma = ChromaRequest(source, windowPx, turn, *target);
     if (!CutPlane(source, 0, luma, *target) || !CutPlane(source, 1, chroma, *target) ||
         !CutPlane(source, 2, chroma, *target)) {
-        return Cutting::Failure(QStringLiteral("Cannot cut a picture: it cannot be scaled from %1 x %2 to %3 x %4.")
+        return Cutting::Failure(Texts::tr("Cannot cut a picture: it cannot be scaled from %1 x %2 to %3 x %4.")
                                     .arg(QString::number(windowPx.width()), QString::number(windowPx.height()),
                                          QString::number(size.width()), QString::number(size.height())));
     }
@@ -213,7 +219,7 @@ KxFrameCutter::Impl::Cutting KxFrameCutter::Impl::Turned(KxAvFrame cut, const Kx
 {
     KxAvFrame turned = m_turnPool.Take(static_cast<AVPixelFormat>(cut->format), m_size);
     if (turned == nullptr) {
-        return Cutting::Failure(QStringLiteral("Cannot cut a picture: memory ran out."));
+        return Cutting::Failure(Texts::tr("Cannot cut a picture: memory ran out."));
     }
     KxPictureColour::Copy(*cut, *turned);
     KxPictureTurner::Turn(*cut, turn, *turned);

@@ -2,8 +2,14 @@
 
 #include <KxMedia/Container/KxAvError.h>
 
+#include <QCoreApplication>
+
 namespace
 {
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(KxToneMapper)
+};
 
 // BT.709 is mastered for a peak white of 100 cd/m2. Linear light and the conversion of primaries require floats; the
 // curve preserves mid-tones and rolls off highlights.
@@ -12,7 +18,7 @@ const char* const MappingSteps = "zscale=t=linear:npl=100,format=gbrpf32le,zscal
 
 QString Message(const QString& reason)
 {
-    return QStringLiteral("Cannot convert a picture of high dynamic range: %1.").arg(reason);
+    return Texts::tr("Cannot convert a picture of high dynamic range: %1.").arg(reason);
 }
 
 void FillGaps(AVFrame& picture)
@@ -58,7 +64,7 @@ KxResult<KxAvFrame> KxToneMapper::Map(const AVFrame& picture)
     if (!mapped || *mapped == nullptr) {
         // The state of a chain that has failed is unknown.
         m_chain.reset();
-        return Result::Failure(Message(mapped ? QStringLiteral("it yields no picture") : mapped.Message()));
+        return Result::Failure(Message(mapped ? Texts::tr("it yields no picture") : mapped.Message()));
     }
     AVFrame& output = **mapped;
     output.color_primaries = AVCOL_PRI_BT709;

@@ -4,10 +4,16 @@
 #include <KxMedia/Read/KxAudioTrack.h>
 #include <KxMedia/Read/KxVideoSource.h>
 
+#include <QCoreApplication>
+
 #include <algorithm>
 
 namespace
 {
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(KxAudioReader)
+};
 
 constexpr int BlocksASecond = 25;
 
@@ -162,7 +168,7 @@ KxResult<std::unique_ptr<KxAudioReader>> KxAudioReader::Open(const QString& path
     }
     const std::vector<AVStream*>& streams = (*input)->AudioStreams();
     if (stream < 0 || static_cast<size_t>(stream) >= streams.size()) {
-        return Result::Failure(KxInputFile::Message(path, QStringLiteral("it has no such sound track")));
+        return Result::Failure(KxInputFile::Message(path, Texts::tr("it has no such sound track")));
     }
     AVStream& chosen = *streams[static_cast<size_t>(stream)];
     KxResult<std::unique_ptr<KxAudioTrack>> track = KxAudioTrack::Open(std::move(*input), chosen, format, clock);

@@ -8,11 +8,17 @@ extern "C" {
 #include <libavutil/common.h>
 }
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <cstdlib>
 
 namespace
 {
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(KxAudioTrack)
+};
 
 constexpr int MostErrorsInARow = 200;
 // Some containers round time stamps to milliseconds; a real gap is at least one packet long.
@@ -30,7 +36,7 @@ KxResult<std::unique_ptr<KxAudioTrack>> KxAudioTrack::Open(std::unique_ptr<KxInp
     using Result = KxResult<std::unique_ptr<KxAudioTrack>>;
     const AVCodec* codec = avcodec_find_decoder(stream.codecpar->codec_id);
     if (codec == nullptr) {
-        return Result::Failure(QStringLiteral("its sound format (%1) is not supported")
+        return Result::Failure(Texts::tr("its sound format (%1) is not supported")
                                    .arg(QLatin1String(avcodec_get_name(stream.codecpar->codec_id))));
     }
     KxAvCodec context(avcodec_alloc_context3(codec));
@@ -41,7 +47,7 @@ KxResult<std::unique_ptr<KxAudioTrack>> KxAudioTrack::Open(std::unique_ptr<KxInp
     context->pkt_timebase = stream.time_base;
     context->thread_count = 1;
     if (avcodec_open2(context.get(), codec, nullptr) < 0) {
-        return Result::Failure(QStringLiteral("its sound is damaged"));
+        return Result::Failure(Texts::tr("its sound is damaged"));
     }
     return std::unique_ptr<KxAudioTrack>(
         new KxAudioTrack(std::move(input), stream, std::move(context), format, std::move(clock)));

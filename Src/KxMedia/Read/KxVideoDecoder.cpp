@@ -4,11 +4,17 @@
 #include <KxMedia/Container/KxAvLog.h>
 #include <KxMedia/Picture/KxPictureColour.h>
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <thread>
 
 namespace
 {
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(KxVideoDecoder)
+};
 
 constexpr int MostErrorsInARow = 200;
 
@@ -49,7 +55,7 @@ KxResult<std::unique_ptr<KxVideoDecoder>> KxVideoDecoder::Open(KxVideoPackets& p
     const AVCodecParameters& parameters = *packets.Stream().codecpar;
     const AVCodec* codec = avcodec_find_decoder(parameters.codec_id);
     if (codec == nullptr) {
-        return Result::Failure(QStringLiteral("its video format (%1) is not supported")
+        return Result::Failure(Texts::tr("its video format (%1) is not supported")
                                    .arg(QLatin1String(avcodec_get_name(parameters.codec_id))));
     }
     KxAvCodec context(avcodec_alloc_context3(codec));
@@ -66,7 +72,7 @@ KxResult<std::unique_ptr<KxVideoDecoder>> KxVideoDecoder::Open(KxVideoPackets& p
     const int error = avcodec_open2(context.get(), codec, nullptr);
     if (error < 0) {
         return Result::Failure(error == AVERROR(ENOMEM) ? KxAvErrorText(error)
-                                                        : QStringLiteral("its video stream is damaged"));
+                                                        : Texts::tr("its video stream is damaged"));
     }
     return std::unique_ptr<KxVideoDecoder>(new KxVideoDecoder(packets, std::move(context)));
 }

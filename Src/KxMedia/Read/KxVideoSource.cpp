@@ -7,14 +7,20 @@ extern "C" {
 #include <libavutil/common.h>
 }
 
+#include <QCoreApplication>
+
 #include <array>
 
 namespace
 {
 
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(KxVideoSource)
+};
+
 QString CancelledReason()
 {
-    return QStringLiteral("it was cancelled");
+    return Texts::tr("it was cancelled");
 }
 
 } // namespace
@@ -50,7 +56,7 @@ KxError KxVideoSource::Prepare(std::unique_ptr<KxInputFile> input, KxVideoDecode
     m_orientation = KxOrientationOf(*input->VideoStream());
     m_packets = std::make_unique<KxVideoPackets>(std::move(input), rate);
     if (const KxReadStatus status = m_packets->Prepare(); status != KxReadStatus::Delivered) {
-        return status == KxReadStatus::Cancelled ? CancelledReason() : QStringLiteral("it is damaged");
+        return status == KxReadStatus::Cancelled ? CancelledReason() : Texts::tr("it is damaged");
     }
     KxResult<std::unique_ptr<KxVideoDecoder>> decoder = KxVideoDecoder::Open(*m_packets, effort);
     if (!decoder) {
@@ -65,7 +71,7 @@ KxError KxVideoSource::Prepare(std::unique_ptr<KxInputFile> input, KxVideoDecode
     const KxReadStatus status = m_decoder->Next(first);
     if (status != KxReadStatus::Delivered) {
         return status == KxReadStatus::Cancelled ? CancelledReason()
-                                                 : QStringLiteral("no picture of it can be decoded, it is damaged");
+                                                 : Texts::tr("no picture of it can be decoded, it is damaged");
     }
     const AVRational base = m_packets->TimeBase();
     m_grid.emplace(rate, KxRational{base.num, base.den}, first.ticks);
@@ -77,10 +83,10 @@ KxError KxVideoSource::Prepare(std::unique_ptr<KxInputFile> input, KxVideoDecode
         return reason;
     }
     if (IsStillPicture()) {
-        return QStringLiteral("it is a single picture, not a video");
+        return Texts::tr("it is a single picture, not a video");
     }
     KxCompleteVideoFacts(*m_packets, *m_facts.video, m_facts.audio);
-    return Rewind() ? KxError() : QStringLiteral("it cannot be read from the start again");
+    return Rewind() ? KxError() : Texts::tr("it cannot be read from the start again");
 }
 
 KxError KxVideoSource::MeasureLength(qint64 firstTicks)
@@ -107,7 +113,7 @@ KxError KxVideoSource::MeasureLength(qint64 firstTicks)
         m_lastPictureIndex = length - 1;
     }
     if (length > KxFrameGrid::LongestGrid || length < 1) {
-        return QStringLiteral("its time stamps are damaged");
+        return Texts::tr("its time stamps are damaged");
     }
     m_facts.video->frameCount = length;
     return std::nullopt;

@@ -10,15 +10,14 @@
 namespace
 {
 
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(KrMessageDialog)
+};
+
 KrMessageDialog::Responder& CurrentResponder()
 {
     static KrMessageDialog::Responder responder;
     return responder;
-}
-
-QString Translated(const char* text)
-{
-    return QCoreApplication::translate("KrMessageDialog", text);
 }
 
 QString TitleOrProduct(const QString& title)
@@ -27,7 +26,7 @@ QString TitleOrProduct(const QString& title)
         return title;
     }
     const QString product = QCoreApplication::applicationName();
-    return product.isEmpty() ? Translated("Auto Reframe") : product;
+    return product.isEmpty() ? Texts::tr("Auto Reframe") : product;
 }
 
 // Boxes are identified by their text. Its hash serves as the key because a key may not contain every character.
@@ -39,9 +38,9 @@ QString HiddenKey(const QString& text)
 
 QString ConfirmText(KrStandardButton buttons)
 {
-    return buttons == KrStandardButton::Yes  ? Translated("Yes")
-           : buttons == KrStandardButton::No ? Translated("No")
-                                             : Translated("OK");
+    return buttons == KrStandardButton::Yes  ? Texts::tr("Yes")
+           : buttons == KrStandardButton::No ? Texts::tr("No")
+                                             : Texts::tr("OK");
 }
 
 } // namespace

@@ -14,10 +14,9 @@
 namespace
 {
 
-QString Translated(const char* text)
-{
-    return QCoreApplication::translate("KxOpenFileName", text);
-}
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(KxOpenFileName)
+};
 
 /// Splits a list of zero-terminated texts that ends with an empty one.
 QStringList TextsOf(const wchar_t* list)
@@ -38,7 +37,7 @@ QString FilterOf(const OPENFILENAMEW& request)
     const QStringList texts = TextsOf(request.lpstrFilter);
     const int pairs = texts.size() / 2;
     if (pairs == 0) {
-        return Translated("All files(%1)").arg(QStringLiteral("*;"));
+        return Texts::tr("All files(%1)").arg(QStringLiteral("*;"));
     }
     const int pair = std::clamp(static_cast<int>(request.nFilterIndex), 1, pairs) - 1;
     const QString& name = texts.at(2 * pair);
@@ -91,7 +90,7 @@ int GetOpenFileNameW(OPENFILENAMEW* request)
         return 0;
     }
     const QString caption =
-        request->lpstrTitle != nullptr ? QString::fromWCharArray(request->lpstrTitle) : Translated("Open");
+        request->lpstrTitle != nullptr ? QString::fromWCharArray(request->lpstrTitle) : Texts::tr("Open");
     const QString folder =
         request->lpstrInitialDir != nullptr ? QString::fromWCharArray(request->lpstrInitialDir) : QString();
     QWidget* const owner = QWidget::find(reinterpret_cast<WId>(request->hwndOwner));

@@ -19,12 +19,11 @@
 namespace
 {
 
-constexpr int WholeProgress = 10000;
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(CropFinder)
+};
 
-QString Translated(const char* text)
-{
-    return QCoreApplication::translate("CropFinder", text);
-}
+constexpr int WholeProgress = 10000;
 
 const KxStreamInfo& InfoOf(KxMediaItem& media)
 {
@@ -74,7 +73,7 @@ void CropFinder::Run()
     if (failure) {
         analyzed = {};
         analyzed.found.message =
-            Translated("Cannot reframe %1: %2.").arg(QFileInfo(m_request.path).fileName(), *failure);
+            Texts::tr("Cannot reframe %1: %2.").arg(QFileInfo(m_request.path).fileName(), *failure);
     }
     QMetaObject::invokeMethod(
         this, [this, analyzed] { ApplyEdits(analyzed); }, Qt::QueuedConnection);
@@ -89,7 +88,7 @@ CropFinder::Analyzed CropFinder::Find()
         return failed;
     }
     if (!(*media)->mediaInfo()->hasVideoStream()) {
-        failed.found.message = Translated("Cannot reframe %1: it has no moving picture.").arg((*media)->name());
+        failed.found.message = Texts::tr("Cannot reframe %1: it has no moving picture.").arg((*media)->name());
         return failed;
     }
     if (!m_request.cropTrack.isEmpty()) {
@@ -110,7 +109,7 @@ CropFinder::Analyzed CropFinder::ReadTrack(std::shared_ptr<KxMediaItem> media) c
         analyzed.found.message = track.Message();
     } else if (track->crops.size() < media->duration()) {
         analyzed.found.message =
-            Translated("Cannot use %1: it has the crops of %2 frames, and %3 has %4 frames.")
+            Texts::tr("Cannot use %1: it has the crops of %2 frames, and %3 has %4 frames.")
                 .arg(QFileInfo(m_request.cropTrack).fileName(), QString::number(track->crops.size()), media->name(),
                      QString::number(media->duration()));
     } else {
@@ -130,11 +129,11 @@ KxError CropFinder::ReasonNotToAnalyze(const KxMediaItem& media) const
     const QSize aspect = m_request.plan.aspect;
     const QSize picture = video->resolution();
     if (qint64{picture.width()} * aspect.height() == qint64{picture.height()} * aspect.width()) {
-        return Translated("Cannot reframe %1: it has the aspect ratio %2 already.")
+        return Texts::tr("Cannot reframe %1: it has the aspect ratio %2 already.")
             .arg(media.name(), AspectText(aspect));
     }
     if (video->frameCount() < fewestFrames) {
-        return Translated("Cannot reframe %1: it has only %2 frames; %3 are needed.")
+        return Texts::tr("Cannot reframe %1: it has only %2 frames; %3 are needed.")
             .arg(media.name(), QString::number(video->frameCount()), QString::number(fewestFrames));
     }
     return std::nullopt;
@@ -233,7 +232,7 @@ KxError CropFinder::MakeRequest(ExportRequest& request) const
     source->otherShapes = OtherShapes();
     KxRenderSettings settings = CropRenderSettings::For(*m_analyzed.media, crop);
     if (settings.resolution.isEmpty()) {
-        return Translated("Cannot reframe %1: its picture of %2 x %3 pixels is too small.")
+        return Texts::tr("Cannot reframe %1: its picture of %2 x %3 pixels is too small.")
             .arg(m_analyzed.media->name(), QString::number(picture.width()), QString::number(picture.height()));
     }
     KxOutputSize size;

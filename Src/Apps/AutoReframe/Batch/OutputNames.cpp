@@ -8,10 +8,9 @@
 namespace
 {
 
-QString Translated(const char* text)
-{
-    return QCoreApplication::translate("OutputNames", text);
-}
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(OutputNames)
+};
 
 QRegularExpression PlaceholderPattern()
 {
@@ -73,13 +72,13 @@ KxError OutputNames::Problem(const QString& pattern)
     while (found.hasNext()) {
         const QString placeholder = found.next().captured();
         if (!Placeholders().contains(placeholder)) {
-            return Translated("There is no %1. Use %2.").arg(placeholder, Placeholders().join(QStringLiteral(", ")));
+            return Texts::tr("There is no %1. Use %2.").arg(placeholder, Placeholders().join(QStringLiteral(", ")));
         }
     }
     Facts facts;
     facts.name = QStringLiteral("a");
     facts.aspect = QSize(1, 1);
-    return Expand(pattern, facts).isEmpty() ? KxError(Translated("Enter a file name.")) : std::nullopt;
+    return Expand(pattern, facts).isEmpty() ? KxError(Texts::tr("Enter a file name.")) : std::nullopt;
 }
 
 QString OutputNames::Expand(const QString& pattern, const Facts& facts)

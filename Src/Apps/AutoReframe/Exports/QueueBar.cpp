@@ -82,8 +82,7 @@ QString QueueBar::StateText() const
     const QueueSummary summary = m_queue.Summary();
     if (summary.active > 0) {
         const QString count = tr("%1 of %2 done").arg(QString::number(summary.done), QString::number(summary.planned));
-        return summary.failed > 0 ? QStringLiteral("%1, %2").arg(count, tr("%n failed", nullptr, summary.failed))
-                                  : count;
+        return summary.failed > 0 ? count + tr(", ") + tr("%n failed", nullptr, summary.failed) : count;
     }
     QStringList parts{tr("%n done", nullptr, summary.done)};
     if (summary.failed > 0) {
@@ -95,7 +94,7 @@ QString QueueBar::StateText() const
     if (summary.toLookAt > 0) {
         parts += tr("%n to look at", nullptr, summary.toLookAt);
     }
-    return parts.join(QStringLiteral(", "));
+    return parts.join(tr(", "));
 }
 
 void QueueBar::ShowState()

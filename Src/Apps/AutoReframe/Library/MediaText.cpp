@@ -1,5 +1,7 @@
 #include <Apps/AutoReframe/Library/MediaText.h>
 
+#include <KxCore/KxLanguage.h>
+
 #include <QCoreApplication>
 
 #include <cmath>
@@ -7,13 +9,12 @@
 namespace
 {
 
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(MediaText)
+};
+
 constexpr qint64 Minute = 60;
 constexpr qint64 Hour = 60 * Minute;
-
-QString Translated(const char* text)
-{
-    return QCoreApplication::translate("MediaText", text);
-}
 
 } // namespace
 
@@ -33,7 +34,7 @@ QString MediaText::FrameRate(const KxRational& rate)
         return {};
     }
     const double hundredths = std::round(rate.ToDouble() * 100.0) / 100.0;
-    return Translated("%1 fps").arg(QString::number(hundredths, 'g', 6));
+    return Texts::tr("%1 fps").arg(KxLanguage::Locale().toString(hundredths, 'g', 6));
 }
 
 QString MediaText::Details(const QSize& resolution, const KxRational& rate)
@@ -47,22 +48,21 @@ QString MediaText::FileSize(qint64 bytes)
     constexpr double megabyte = 1024.0 * 1024.0;
     const double megabytes = static_cast<double>(bytes) / megabyte;
     if (megabytes >= 10.0) {
-        return Translated("%1 MB").arg(std::llround(megabytes));
+        return Texts::tr("%1 MB").arg(std::llround(megabytes));
     }
     if (megabytes >= 0.1) {
-        return Translated("%1 MB").arg(megabytes, 0, 'f', 1);
+        return Texts::tr("%1 MB").arg(KxLanguage::Locale().toString(megabytes, 'f', 1));
     }
-    return Translated("%1 KB").arg(std::max<qint64>(1, bytes / 1024));
+    return Texts::tr("%1 KB").arg(std::max<qint64>(1, bytes / 1024));
 }
 
 QString MediaText::TimeLeft(qint64 seconds)
 {
     if (seconds < Minute) {
-        return Translated("%1 s left").arg(seconds);
+        return Texts::tr("%1 s left").arg(seconds);
     }
     if (seconds < Hour) {
-        return Translated("%1 min %2 s left").arg(QString::number(seconds / Minute), QString::number(seconds % Minute));
+        return Texts::tr("%1 min %2 s left").arg(QString::number(seconds / Minute), QString::number(seconds % Minute));
     }
-    return Translated("%1 h %2 min left")
-        .arg(QString::number(seconds / Hour), QString::number(seconds % Hour / Minute));
+    return Texts::tr("%1 h %2 min left").arg(QString::number(seconds / Hour), QString::number(seconds % Hour / Minute));
 }

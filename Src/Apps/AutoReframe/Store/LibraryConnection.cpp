@@ -1,5 +1,6 @@
 #include <Apps/AutoReframe/Store/LibraryConnection.h>
 
+#include <QCoreApplication>
 #include <QSqlDatabase>
 #include <QSqlError>
 #include <QSqlQuery>
@@ -7,6 +8,10 @@
 
 namespace
 {
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(LibraryConnection)
+};
 
 using Problem = LibraryConnection::Problem;
 
@@ -49,18 +54,18 @@ QString ReasonOf(const QSqlError& error)
     switch (CodeOf(error)) {
     case Busy:
     case Locked:
-        return QStringLiteral("another program is using it");
+        return Texts::tr("another program is using it");
     case ReadOnly:
-        return QStringLiteral("it is write-protected");
+        return Texts::tr("it is write-protected");
     case IoError:
-        return QStringLiteral("the disk cannot be read or written");
+        return Texts::tr("the disk cannot be read or written");
     case Corrupt:
     case NoDatabase:
-        return QStringLiteral("it is damaged");
+        return Texts::tr("it is damaged");
     case Full:
-        return QStringLiteral("the disk is full");
+        return Texts::tr("the disk is full");
     case CannotOpen:
-        return QStringLiteral("it cannot be opened");
+        return Texts::tr("it cannot be opened");
     default:
         return error.databaseText().isEmpty() ? error.driverText() : error.databaseText();
     }

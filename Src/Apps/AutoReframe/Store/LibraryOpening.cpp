@@ -14,16 +14,15 @@
 namespace
 {
 
-using Problem = LibraryConnection::Problem;
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(LibraryOpening)
+};
 
-QString Translated(const char* text)
-{
-    return QCoreApplication::translate("LibraryOpening", text);
-}
+using Problem = LibraryConnection::Problem;
 
 KxResult<QString> CannotOpen(const QString& filePath, const QString& reason)
 {
-    return KxResult<QString>::Failure(Translated("Cannot open the library %1: %2. What you do now is not saved.")
+    return KxResult<QString>::Failure(Texts::tr("Cannot open the library %1: %2. What you do now is not saved.")
                                           .arg(QDir::toNativeSeparators(filePath), reason));
 }
 
@@ -47,7 +46,7 @@ KxError BackUp(LibraryConnection& connection, const QString& filePath, int versi
     }
     QFile::remove(backup);
     return QFile::rename(part, backup) ? std::nullopt
-                                       : KxError(Translated("its backup %1 cannot be written").arg(backup));
+                                       : KxError(Texts::tr("its backup %1 cannot be written").arg(backup));
 }
 
 KxError Migrate(LibraryConnection& connection, const QString& filePath)
@@ -58,7 +57,7 @@ KxError Migrate(LibraryConnection& connection, const QString& filePath)
     }
     const int found = version->toInt();
     if (found > LibrarySchema::Version) {
-        return Translated("it was written by a newer version of this program");
+        return Texts::tr("it was written by a newer version of this program");
     }
     if (found == LibrarySchema::Version) {
         return std::nullopt;
@@ -116,29 +115,29 @@ KxResult<QString> LibraryOpening::Prepare(const QString& filePath)
 {
     const QFileInfo info(filePath);
     if (!QDir().mkpath(info.absolutePath())) {
-        return CannotOpen(filePath, Translated("its folder cannot be made"));
+        return CannotOpen(filePath, Texts::tr("its folder cannot be made"));
     }
     // Opening a pipe could wait for ever.
     if (info.exists() && !info.isFile()) {
-        return CannotOpen(filePath, Translated("it is not a regular file"));
+        return CannotOpen(filePath, Texts::tr("it is not a regular file"));
     }
     constexpr int patienceMs = 10000;
     QLockFile lock(filePath + QStringLiteral(".lock"));
     lock.setStaleLockTime(0);
     if (!lock.tryLock(patienceMs)) {
         return CannotOpen(filePath, lock.error() == QLockFile::LockFailedError
-                                        ? Translated("another program is opening it")
-                                        : Translated("its folder cannot be written to"));
+                                        ? Texts::tr("another program is opening it")
+                                        : Texts::tr("its folder cannot be written to"));
     }
     Prepared prepared = CheckAndMigrate(filePath);
     QString notice;
     if (prepared.isDamaged) {
         const QString aside = SetAside(filePath);
         if (aside.isEmpty()) {
-            return CannotOpen(filePath, Translated("it is damaged, and it cannot be renamed"));
+            return CannotOpen(filePath, Texts::tr("it is damaged, and it cannot be renamed"));
         }
         KX_LOG_WARNING(QStringLiteral("The library was damaged and is now %1.").arg(aside));
-        notice = Translated("The library was damaged. It was renamed to %1, and a new one was begun.")
+        notice = Texts::tr("The library was damaged. It was renamed to %1, and a new one was begun.")
                      .arg(QDir::toNativeSeparators(aside));
         prepared = CheckAndMigrate(filePath);
     }

@@ -7,13 +7,21 @@
 #include <QFileInfo>
 #include <QTimer>
 
+namespace
+{
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(CropWait)
+};
+
+} // namespace
+
 FoundCrops CropWait::Run(MediaBackend& backend, const CropRequest& request, QWidget& parent)
 {
-    const auto translated = [](const char* text) { return QCoreApplication::translate("CropWait", text); };
     constexpr int wholeProgress = 10000;
-    KxProgressDialog dialog(translated("Auto Reframe"), &parent);
+    KxProgressDialog dialog(Texts::tr("Auto Reframe"), &parent);
     dialog.SetRange(0, wholeProgress);
-    dialog.SetProgressTitle(translated("Analyzing %1").arg(QFileInfo(request.path).fileName()), QStringLiteral("film"));
+    dialog.SetProgressTitle(Texts::tr("Analyzing %1").arg(QFileInfo(request.path).fileName()), QStringLiteral("film"));
     std::optional<FoundCrops> found;
     QEventLoop beginning;
     CropCallbacks callbacks;
