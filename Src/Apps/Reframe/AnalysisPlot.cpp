@@ -4,6 +4,7 @@
 #include <KxCore/KxTimeText.h>
 
 #include <QBuffer>
+#include <QCoreApplication>
 #include <QImage>
 
 #include <algorithm>
@@ -11,6 +12,10 @@
 
 namespace
 {
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(AnalysisPlot)
+};
 
 constexpr int MostColumns = 1200;
 constexpr double LeftPx = 64.0;
@@ -35,13 +40,13 @@ QString Point(double x, double y)
 QString Opening(const char* id, double height, const QString& label)
 {
     return QStringLiteral("<svg id=\"%1\" viewBox=\"0 0 %2 %3\" role=\"img\" aria-label=\"%4\">\n")
-        .arg(QLatin1String(id), Number(LeftPx + WidthPx + RightPx), Number(height), label);
+        .arg(QLatin1String(id), Number(LeftPx + WidthPx + RightPx), Number(height), label.toHtmlEscaped());
 }
 
 QString Text(double x, double y, const char* anchor, const QString& text)
 {
     return QStringLiteral("<text x=\"%1\" y=\"%2\" text-anchor=\"%3\">%4</text>\n")
-        .arg(Number(x), Number(y), QLatin1String(anchor), text);
+        .arg(Number(x), Number(y), QLatin1String(anchor), text.toHtmlEscaped());
 }
 
 /// From the background through violet and red to a warm white, with increasing lightness.
@@ -87,12 +92,12 @@ AnalysisPlot::AnalysisPlot(const CropTrack& track, const KxSubjectFindings& find
 
 QString AnalysisPlot::StartName() const
 {
-    return m_findings.freeAxis == KxAxis::Across ? QStringLiteral("left") : QStringLiteral("top");
+    return m_findings.freeAxis == KxAxis::Across ? Texts::tr("left") : Texts::tr("top");
 }
 
 QString AnalysisPlot::EndName() const
 {
-    return m_findings.freeAxis == KxAxis::Across ? QStringLiteral("right") : QStringLiteral("bottom");
+    return m_findings.freeAxis == KxAxis::Across ? Texts::tr("right") : Texts::tr("bottom");
 }
 
 double AnalysisPlot::X(double frame) const
@@ -249,7 +254,7 @@ QString AnalysisPlot::Path() const
 {
     const double bottom = TopPx + PathHeightPx;
     const bool startsBelow = m_findings.freeAxis == KxAxis::Across;
-    return Opening("path", bottom + AxisPx, QStringLiteral("The crop's path over the evidence")) + Heat() +
+    return Opening("path", bottom + AxisPx, Texts::tr("The crop's path over the evidence")) + Heat() +
            ShotLines(PathHeightPx, true) + WantedLine() + CropLines() +
            Text(LeftPx - 8.0, bottom, "end", startsBelow ? StartName() : EndName()) +
            Text(LeftPx - 8.0, TopPx + 10.0, "end", startsBelow ? EndName() : StartName()) + TimeAxis(bottom) +
@@ -283,7 +288,7 @@ QString AnalysisPlot::Signals() const
         areas += QStringLiteral("<polygon fill=\"%1\" points=\"%2%3\"/>\n")
                      .arg(QColor(FoundSignals::Colour(*signal)).name(), upper, lower);
     }
-    return Opening("signals", bottom + AxisPx, QStringLiteral("Evidence by signal")) + areas +
-           ShotLines(SignalsHeightPx, false) + Text(LeftPx - 8.0, TopPx + 10.0, "end", QStringLiteral("strong")) +
-           Text(LeftPx - 8.0, bottom, "end", QStringLiteral("none")) + TimeAxis(bottom) + QStringLiteral("</svg>\n");
+    return Opening("signals", bottom + AxisPx, Texts::tr("Evidence by signal")) + areas +
+           ShotLines(SignalsHeightPx, false) + Text(LeftPx - 8.0, TopPx + 10.0, "end", Texts::tr("strong")) +
+           Text(LeftPx - 8.0, bottom, "end", Texts::tr("none")) + TimeAxis(bottom) + QStringLiteral("</svg>\n");
 }

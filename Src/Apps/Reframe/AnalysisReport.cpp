@@ -4,8 +4,10 @@
 #include <Apps/Reframe/DrawnCrop.h>
 #include <Apps/Reframe/FoundSignals.h>
 #include <KxCore/KxFrameTime.h>
+#include <KxCore/KxLanguage.h>
 
 #include <QColor>
+#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 #include <QHash>
@@ -22,6 +24,10 @@ static void LoadResources()
 
 namespace
 {
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(AnalysisReport)
+};
 
 QString Resource(const char* name)
 {
@@ -56,7 +62,7 @@ QString Fact(const QString& name, const QString& value)
 
 QString Frames(qint64 count)
 {
-    return count == 1 ? QStringLiteral("1 frame") : QStringLiteral("%1 frames").arg(count);
+    return count == 1 ? Texts::tr("1 frame") : Texts::tr("%n frames", nullptr, static_cast<int>(count));
 }
 
 QString Size(const QSizeF& size)
@@ -82,25 +88,71 @@ public:
     QString Text(const QByteArray& jpeg) const
     {
         const QHash<QString, QString> look{{QStringLiteral("accent"), QColor(DrawnCrop::Accent).name()}};
-        return Filled(
-            Resource("report.html"),
-            {{QStringLiteral("title"), Title()},
-             {QStringLiteral("style"), Filled(Resource("report.css"), look)},
-             {QStringLiteral("facts"), Facts()},
-             {QStringLiteral("sheet"), QString::fromLatin1(jpeg.toBase64())},
-             {QStringLiteral("bottom"), IsAcross() ? m_plot.StartName() : m_plot.EndName()},
-             {QStringLiteral("top"), IsAcross() ? m_plot.EndName() : m_plot.StartName()},
-             {QStringLiteral("path"), m_plot.Path()},
-             {QStringLiteral("signals"), m_plot.Signals()},
-             {QStringLiteral("signal-legend"), SignalsLegend()},
-             {QStringLiteral("shots"), Shots()},
-             {QStringLiteral("travel-side"), IsAcross() ? QStringLiteral("width") : QStringLiteral("height")}});
+        QHash<QString, QString> values = Words();
+        values.insert(QStringLiteral("language"), KxLanguage::Locale().bcp47Name());
+        values.insert(QStringLiteral("title"), Title());
+        values.insert(QStringLiteral("style"), Filled(Resource("report.css"), look));
+        values.insert(QStringLiteral("facts"), Facts());
+        values.insert(QStringLiteral("sheet"), QString::fromLatin1(jpeg.toBase64()));
+        values.insert(QStringLiteral("path"), m_plot.Path());
+        values.insert(QStringLiteral("signals"), m_plot.Signals());
+        values.insert(QStringLiteral("signal-legend"), SignalsLegend());
+        values.insert(QStringLiteral("shot-columns"), Columns());
+        values.insert(QStringLiteral("shots"), Shots());
+        return Filled(Resource("report.html"), values);
     }
 
 private:
+    /// The page's own texts.
+    QHash<QString, QString> Words() const
+    {
+        QHash<QString, QString> words;
+        const auto add = [&words](const char* name, const QString& text) {
+            words.insert(QLatin1String(name), text.toHtmlEscaped());
+        };
+        add("crop-heading", Texts::tr("The crop"));
+        add("sheet-text", Texts::tr("Frames of the video with the crop drawn"));
+        add("path-heading", Texts::tr("Path of the crop"));
+        add("path-text", IsAcross()
+                             ? Texts::tr("Time runs from left to right. The left of the picture is at the bottom, "
+                                         "its right at the top. A brighter spot has more evidence.")
+                             : Texts::tr("Time runs from left to right. The bottom of the picture is at the "
+                                         "bottom, its top at the top. A brighter spot has more evidence."));
+        add("line-middle", Texts::tr("centre of the crop"));
+        add("line-edge", Texts::tr("edges of the crop"));
+        add("line-evidence", Texts::tr("centre with the most evidence"));
+        add("line-shot", Texts::tr("start of a shot, numbered above"));
+        add("signals-heading", Texts::tr("Evidence by signal"));
+        add("signals-text",
+            Texts::tr("How much stronger each signal is at the centre with the most evidence than at an "
+                      "average place."));
+        add("shots-heading", Texts::tr("Shots"));
+        add("shots-text",
+            IsAcross()
+                ? Texts::tr(
+                      "Travel is the sum of all movements of the crop in the shot, in percent of the width of the "
+                      "picture. Confidence is the share of the evidence that the crop holds; where it is low, "
+                      "look at the shot.")
+                : Texts::tr("Travel is the sum of all movements of the crop in the shot, in percent of the height of "
+                            "the picture. Confidence is the share of the evidence that the crop holds; where it is "
+                            "low, look at the shot."));
+        return words;
+    }
+
+    static QString Columns()
+    {
+        QString cells;
+        for (const QString& name :
+             {Texts::tr("Shot"), Texts::tr("First frame"), Texts::tr("Time"), Texts::tr("Length"), Texts::tr("Seconds"),
+              Texts::tr("Dominant signal"), Texts::tr("Travel of the crop"), Texts::tr("Confidence")}) {
+            cells += QStringLiteral("<th>%1</th>").arg(name.toHtmlEscaped());
+        }
+        return cells;
+    }
+
     QString Title() const
     {
-        return QStringLiteral("%1 at %2:%3")
+        return Texts::tr("%1 at %2:%3")
             .arg(QFileInfo(m_track.sourcePath).fileName().toHtmlEscaped(), QString::number(m_track.aspect.width()),
                  QString::number(m_track.aspect.height()));
     }
@@ -108,19 +160,26 @@ private:
     QString Facts() const
     {
         const QRectF crop = m_track.crops.first().cropRect();
-        const QLocale locale = QLocale::c();
+        const QLocale locale = KxLanguage::Locale();
         const QSizeF cropPx(crop.width() * m_track.sourceSize.width(), crop.height() * m_track.sourceSize.height());
-        return Fact(QStringLiteral("File size"),
+        return Fact(Texts::tr("File size"),
                     locale.formattedDataSize(QFileInfo(m_track.sourcePath).size(), 1, QLocale::DataSizeSIFormat)) +
-               Fact(QStringLiteral("Picture"), Size(m_track.sourceSize)) +
-               Fact(QStringLiteral("Frames per second"), locale.toString(m_track.frameRate.ToDouble(), 'g', 5)) +
-               Fact(QStringLiteral("Length"),
-                    QStringLiteral("%1 (%2)").arg(Clock(m_track.crops.size()), Frames(m_track.crops.size()))) +
-               Fact(QStringLiteral("Crop"), QStringLiteral("%1, %2:%3")
-                                                .arg(Size(cropPx), QString::number(m_track.aspect.width()),
-                                                     QString::number(m_track.aspect.height()))) +
-               Fact(QStringLiteral("Speed"), m_track.speedName) +
-               Fact(QStringLiteral("Shots"), QString::number(m_findings.shots.size()));
+               Fact(Texts::tr("Picture"), Size(m_track.sourceSize)) +
+               Fact(Texts::tr("Frames per second"), locale.toString(m_track.frameRate.ToDouble(), 'g', 5)) +
+               Fact(Texts::tr("Length"),
+                    Texts::tr("%1 (%2)").arg(Clock(m_track.crops.size()), Frames(m_track.crops.size()))) +
+               Fact(Texts::tr("Crop"), QStringLiteral("%1, %2:%3")
+                                           .arg(Size(cropPx), QString::number(m_track.aspect.width()),
+                                                QString::number(m_track.aspect.height()))) +
+               Fact(Texts::tr("Speed"), SpeedText()) +
+               Fact(Texts::tr("Shots"), QString::number(m_findings.shots.size()));
+    }
+
+    QString SpeedText() const
+    {
+        return m_track.speedName == QLatin1String("fast")   ? Texts::tr("fast")
+               : m_track.speedName == QLatin1String("slow") ? Texts::tr("slow")
+                                                            : Texts::tr("auto");
     }
 
     QString Shots() const
@@ -149,10 +208,11 @@ private:
     QString DominantSignal(const KxSubjectFindings::Shot& shot) const
     {
         const double share = FoundSignals::DominantShare(m_findings, shot);
-        return share <= 0.0 ? QStringLiteral("none: the crop is centred")
-                            : QStringLiteral("%1%2, %3 %")
-                                  .arg(Swatch(FoundSignals::Colour(shot.dominantSignal)),
-                                       FoundSignals::Name(shot.dominantSignal), QString::number(qRound(share * 100.0)));
+        return share <= 0.0
+                   ? Texts::tr("none: the crop is centred")
+                   : Swatch(FoundSignals::Colour(shot.dominantSignal)) +
+                         Texts::tr("%1, %2 %")
+                             .arg(FoundSignals::Name(shot.dominantSignal), QString::number(qRound(share * 100.0)));
     }
 
     static QString ConfidenceOf(const KxSubjectFindings::Shot& shot)
@@ -161,7 +221,7 @@ private:
         remarks.removeAll(QString());
         return remarks.isEmpty()
                    ? FoundSignals::Confidence(shot)
-                   : QStringLiteral("%1: %2").arg(FoundSignals::Confidence(shot), remarks.join(QStringLiteral("; ")));
+                   : Texts::tr("%1: %2").arg(FoundSignals::Confidence(shot), remarks.join(QStringLiteral("; ")));
     }
 
     double Travel(const KxSubjectFindings::Shot& shot) const
@@ -181,10 +241,11 @@ private:
         const KxSubjectFindings::Shot& shot = m_findings.shots[index];
         const auto frames = shot.end - shot.first;
         const double seconds = static_cast<double>(frames) / std::max(m_track.frameRate.ToDouble(), 1e-3);
-        return QStringLiteral("<tr><td>%1</td><td>%2</td><td>%3</td><td>%4</td><td>%5</td><td>%6</td><td>%7 %</td>"
+        return QStringLiteral("<tr><td>%1</td><td>%2</td><td>%3</td><td>%4</td><td>%5</td><td>%6</td><td>%7</td>"
                               "<td>%8</td></tr>\n")
             .arg(QString::number(index + 1), QString::number(shot.first), Clock(shot.first), Frames(frames),
-                 QString::number(seconds, 'f', 1), DominantSignal(shot), QString::number(Travel(shot) * 100.0, 'f', 1),
+                 KxLanguage::Locale().toString(seconds, 'f', 1), DominantSignal(shot),
+                 Texts::tr("%1 %").arg(KxLanguage::Locale().toString(Travel(shot) * 100.0, 'f', 1)),
                  ConfidenceOf(shot));
     }
 

@@ -1,9 +1,21 @@
 #include <Apps/Reframe/FollowOption.h>
 
+#include <KxCore/KxLanguage.h>
+
+#include <QCoreApplication>
 #include <QStringList>
 
 #include <algorithm>
 #include <cmath>
+
+namespace
+{
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(FollowOption)
+};
+
+} // namespace
 
 std::optional<FollowOption> FollowOption::Parse(const QString& text)
 {
@@ -44,14 +56,14 @@ KxResult<KxSubjectSeed> FollowOption::SeedIn(const Video& video) const
     const double seconds = isFrame ? time / video.frameRate : time;
     if (seconds * video.frameRate > static_cast<double>(video.frameCount) - 0.5) {
         return Result::Failure(
-            QStringLiteral("the video ends after %1 s")
-                .arg(QString::number(static_cast<double>(video.frameCount) / video.frameRate, 'f', 2)));
+            Texts::tr("the video ends after %1 s")
+                .arg(KxLanguage::Locale().toString(static_cast<double>(video.frameCount) / video.frameRate, 'f', 2)));
     }
     const double width = isPixels ? video.sizePx.width() : 1.0;
     const double height = isPixels ? video.sizePx.height() : 1.0;
     const KxSubjectBox box{place.x() / width, place.y() / height, place.width() / width, place.height() / height};
     if (box.x >= 1.0 || box.y >= 1.0 || box.x + box.width < 0.0 || box.y + box.height < 0.0) {
-        return Result::Failure(QStringLiteral("it lies outside the picture of %1x%2 pixels")
+        return Result::Failure(Texts::tr("it lies outside the picture of %1x%2 pixels")
                                    .arg(QString::number(video.sizePx.width()), QString::number(video.sizePx.height())));
     }
     const bool isPoint = place.isEmpty();

@@ -2,11 +2,17 @@
 
 #include <KxSubject/KxShotDoubt.h>
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <numeric>
 
 namespace
 {
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(FoundSignals)
+};
 
 float SumOf(const KxSubjectFindings::Sample& sample)
 {
@@ -19,15 +25,15 @@ QString FoundSignals::Name(KxSignal signal)
 {
     switch (signal) {
     case KxSignal::Motion:
-        return QStringLiteral("motion");
+        return Texts::tr("motion");
     case KxSignal::Movers:
-        return QStringLiteral("movers");
+        return Texts::tr("movers");
     case KxSignal::Saliency:
-        return QStringLiteral("saliency");
+        return Texts::tr("saliency");
     case KxSignal::Faces:
-        return QStringLiteral("faces");
+        return Texts::tr("faces");
     case KxSignal::Detections:
-        return QStringLiteral("detected");
+        return Texts::tr("detected");
     }
     return {};
 }
@@ -36,15 +42,15 @@ QString FoundSignals::Explanation(KxSignal signal)
 {
     switch (signal) {
     case KxSignal::Motion:
-        return QStringLiteral("motion: what the camera's own movement does not explain");
+        return Texts::tr("motion: what the camera's own movement does not explain");
     case KxSignal::Movers:
-        return QStringLiteral("movers: what travels through the shot, however small");
+        return Texts::tr("movers: what travels through the shot, however small");
     case KxSignal::Saliency:
-        return QStringLiteral("saliency: what stands out in a still picture");
+        return Texts::tr("saliency: what stands out in a still picture");
     case KxSignal::Faces:
-        return QStringLiteral("faces");
+        return Texts::tr("faces");
     case KxSignal::Detections:
-        return QStringLiteral("detected: people and animals");
+        return Texts::tr("detected: people and animals");
     }
     return {};
 }
@@ -118,22 +124,22 @@ QString FoundSignals::Doubt(const KxSubjectFindings::Shot& shot)
     case KxShotDoubt::None:
         return {};
     case KxShotDoubt::SpeakerUnclear:
-        return QStringLiteral("it is not clear who speaks");
+        return Texts::tr("it is not clear who speaks");
     case KxShotDoubt::SpeakerHardlyClear:
-        return QStringLiteral("who speaks is hardly clear");
+        return Texts::tr("who speaks is hardly clear");
     case KxShotDoubt::NothingStandsOut:
-        return QStringLiteral("nothing stands out");
+        return Texts::tr("nothing stands out");
     case KxShotDoubt::SeveralPlaces:
         break;
     case KxShotDoubt::SeveralPeople:
-        return QStringLiteral("people or animals are in several places");
+        return Texts::tr("people or animals are in several places");
     }
-    return QStringLiteral("what stands out is in several places");
+    return Texts::tr("what stands out is in several places");
 }
 
 QString FoundSignals::Confidence(const KxSubjectFindings::Shot& shot)
 {
-    return QStringLiteral("%1 %").arg(qRound(shot.confidence * 100.0F));
+    return Texts::tr("%1 %").arg(qRound(shot.confidence * 100.0F));
 }
 
 QString FoundSignals::Speech(const KxSubjectFindings::Shot& shot)
@@ -143,16 +149,16 @@ QString FoundSignals::Speech(const KxSubjectFindings::Shot& shot)
     case KxSpeech::Unclear:
         return {};
     case KxSpeech::Held:
-        return QStringLiteral("holds who speaks");
+        return Texts::tr("holds who speaks");
     case KxSpeech::Followed:
         break;
     }
     switch (shot.speakerChanges) {
     case 0:
-        return QStringLiteral("follows who speaks");
+        return Texts::tr("follows who speaks");
     case 1:
-        return QStringLiteral("follows who speaks, with 1 cut");
+        return Texts::tr("follows who speaks, with 1 cut");
     default:
-        return QStringLiteral("follows who speaks, with %1 cuts").arg(shot.speakerChanges);
+        return Texts::tr("follows who speaks, with %n cuts", nullptr, shot.speakerChanges);
     }
 }

@@ -4,12 +4,17 @@
 #include <Apps/Reframe/FoundSignals.h>
 #include <KxCore/KxFrameTime.h>
 
+#include <QCoreApplication>
 #include <QPainter>
 
 #include <algorithm>
 
 namespace
 {
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(PreviewOverlay)
+};
 
 constexpr double LinesInAPicture = 36.0;
 constexpr int SmallestTextPx = 6;
@@ -95,15 +100,14 @@ void PreviewOverlay::DrawPanel(QPainter& painter, const QSizeF& picture, qint64 
         painter.setPen(FaintInk);
         painter.drawText(area, Qt::AlignRight | Qt::AlignVCenter, right);
     };
-    write(row, QStringLiteral("Frame %1").arg(frame), KxFrameTime::Text(frame, m_frameRate));
+    write(row, Texts::tr("Frame %1").arg(frame), KxFrameTime::Text(frame, m_frameRate));
     if (!explains) {
         return;
     }
     row.translate(0.0, line);
     const std::size_t shot = FoundSignals::ShotAt(*m_findings, frame);
-    write(row,
-          QStringLiteral("Shot %1 of %2").arg(QString::number(shot + 1), QString::number(m_findings->shots.size())),
-          QStringLiteral("confidence %1").arg(FoundSignals::Confidence(m_findings->shots[shot])));
+    write(row, Texts::tr("Shot %1 of %2").arg(QString::number(shot + 1), QString::number(m_findings->shots.size())),
+          Texts::tr("confidence %1").arg(FoundSignals::Confidence(m_findings->shots[shot])));
     row.translate(0.0, 1.3 * line);
     DrawSignals(painter, row, frame);
 }

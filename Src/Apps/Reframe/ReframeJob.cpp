@@ -17,6 +17,15 @@
 
 #include <algorithm>
 
+namespace
+{
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(ReframeJob)
+};
+
+} // namespace
+
 ReframeJob::ReframeJob(const QString& input, const QSize& aspect, const ReframeOptions& options,
                        ReframeReporter& reporter, QStringList& written)
     : m_input(input)
@@ -65,19 +74,18 @@ QString ReframeJob::FinishedMessage() const
 {
     const QString frames = FramesText();
     if (m_written.isEmpty()) {
-        return QStringLiteral("%1: %2 analysed").arg(m_input, frames);
+        return Texts::tr("%1: %2 analysed").arg(m_input, frames);
     }
     const QString files = m_written.join(QStringLiteral(", "));
     const bool isChosen = m_options.writesVideo && m_options.video.format.encoder == KxOutputFormat::Encoder::Auto;
-    return isChosen ? QCoreApplication::translate("ReframeJob", "%1: %2 -> %3 (encoded by %4)")
-                          .arg(m_input, frames, files, m_encoder.name)
-                    : QStringLiteral("%1: %2 -> %3").arg(m_input, frames, files);
+    return isChosen ? Texts::tr("%1: %2 -> %3 (encoded by %4)").arg(m_input, frames, files, m_encoder.name)
+                    : Texts::tr("%1: %2 -> %3").arg(m_input, frames, files);
 }
 
 QString ReframeJob::FramesText() const
 {
     const qint64 frames = m_media->duration();
-    return frames == 1 ? QStringLiteral("1 frame") : QStringLiteral("%1 frames").arg(frames);
+    return frames == 1 ? Texts::tr("1 frame") : Texts::tr("%n frames", nullptr, static_cast<int>(frames));
 }
 
 ReframeJob::Ended ReframeJob::Open()
@@ -88,7 +96,7 @@ ReframeJob::Ended ReframeJob::Open()
     }
     m_media = std::move(*media);
     if (!m_media->mediaInfo()->hasVideoStream()) {
-        return Fail(QStringLiteral("Cannot reframe %1: it has no moving picture.").arg(m_input));
+        return Fail(Texts::tr("Cannot reframe %1: it has no moving picture.").arg(m_input));
     }
     m_process->OpenMedia(m_media.get());
     m_facts.insert(QStringLiteral("frames"), m_media->duration());
@@ -129,7 +137,7 @@ ReframeJob::Ended ReframeJob::ReadChoices()
         const KxResult<KxSubjectSeed> seed =
             option.SeedIn({stream.resolution(), stream.frameRate().ToDouble(), m_media->duration()});
         if (!seed) {
-            return Fail(QStringLiteral("Cannot follow %1 in %2: %3.").arg(option.text, m_input, seed.Message()));
+            return Fail(Texts::tr("Cannot follow %1 in %2: %3.").arg(option.text, m_input, seed.Message()));
         }
         follow.seeds.push_back(*seed);
     }
@@ -167,7 +175,7 @@ ReframeJob::Ended ReframeJob::CheckTargets()
     }
     for (const QString& target : qAsConst(targets)) {
         if (WouldReplaceInput(target)) {
-            return Fail(QStringLiteral("Cannot write %1: it is one of the inputs.").arg(target));
+            return Fail(Texts::tr("Cannot write %1: it is one of the inputs.").arg(target));
         }
         if (const auto tried = KxOutputFile::Create(target); !tried) {
             return Fail(tried.Message());
@@ -227,10 +235,9 @@ ReframeJob::Ended ReframeJob::StartAnalysis()
     case 0:
         return std::nullopt;
     case 1:
-        return Fail(
-            QStringLiteral("Cannot reframe %1: it is too short (%2; 32 are needed).").arg(m_input, FramesText()));
+        return Fail(Texts::tr("Cannot reframe %1: it is too short (%2; 32 are needed).").arg(m_input, FramesText()));
     case 3:
-        return Fail(QStringLiteral("Cannot reframe %1: it has the aspect ratio %2:%3 already.")
+        return Fail(Texts::tr("Cannot reframe %1: it has the aspect ratio %2:%3 already.")
                         .arg(m_input, QString::number(m_aspect.width()), QString::number(m_aspect.height())));
     default:
         return Fail(KxAutoReframeService::Instance().LastErrorMessage());
@@ -240,7 +247,7 @@ ReframeJob::Ended ReframeJob::StartAnalysis()
 ReframeJob::Ended ReframeJob::StartApplying()
 {
     if (!Helper().ApplyResults(m_track->crops)) {
-        return Fail(QStringLiteral("Cannot use %1: it holds %2 of the %3 of %4.")
+        return Fail(Texts::tr("Cannot use %1: it holds %2 of the %3 of %4.")
                         .arg(m_options.apply, QString::number(m_track->crops.size()), FramesText(), m_input));
     }
     return std::nullopt;
@@ -262,7 +269,7 @@ ReframeJob::Ended ReframeJob::WaitForCrops()
     }
     if (!succeeded || Helper().GetDisplayResults().isEmpty()) {
         const QString reason = KxAutoReframeService::Instance().LastErrorMessage();
-        return Fail(reason.isEmpty() ? QStringLiteral("Cannot reframe %1: the analysis found nothing.").arg(m_input)
+        return Fail(reason.isEmpty() ? Texts::tr("Cannot reframe %1: the analysis found nothing.").arg(m_input)
                                      : reason);
     }
     return std::nullopt;
@@ -345,7 +352,7 @@ KxOutcome ReframeJob::FailUnlessInterrupted(const QString& message)
 KxOutcome ReframeJob::FailTooSmall()
 {
     const QSize size = static_cast<const KxClip*>(m_media->clip())->StreamInfo().resolution();
-    return Fail(QStringLiteral("Cannot reframe %1: its picture of %2 x %3 pixels is too small.")
+    return Fail(Texts::tr("Cannot reframe %1: its picture of %2 x %3 pixels is too small.")
                     .arg(m_input, QString::number(size.width()), QString::number(size.height())));
 }
 

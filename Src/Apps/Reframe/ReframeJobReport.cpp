@@ -8,11 +8,16 @@
 #include <KxModel/KxAutoReframeService.h>
 
 #include <QBuffer>
+#include <QCoreApplication>
 
 #include <algorithm>
 
 namespace
 {
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(ReframeJob)
+};
 
 /// At most 1280 pixels wide, with even sides.
 QSize PreviewSize(const QSize& source)
@@ -35,7 +40,7 @@ KxResult<QByteArray> ReframeJob::ContactSheetFile(const char* format) const
     QBuffer buffer(&file);
     buffer.open(QIODevice::WriteOnly);
     if (!sheet->save(&buffer, format)) {
-        return KxResult<QByteArray>::Failure(QStringLiteral("Cannot draw the contact sheet of %1.").arg(m_input));
+        return KxResult<QByteArray>::Failure(Texts::tr("Cannot draw the contact sheet of %1.").arg(m_input));
     }
     return file;
 }

@@ -10,6 +10,15 @@
 #include <QCoreApplication>
 #include <QEventLoop>
 
+namespace
+{
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(ReframeJob)
+};
+
+} // namespace
+
 QRectF ReframeJob::ShapeOfResult() const
 {
     const QList<IKxAutoReframeResult>& results = Helper().GetDisplayResults();
@@ -104,7 +113,7 @@ ReframeJob::Ended ReframeJob::Render(const KxRenderSource& source, const KxRende
         const KxError failure =
             KxCallGuarded([&] { result = KxRenderer::Run(source, settings, progress, KxInterrupt::Token()); });
         if (failure) {
-            result = {KxOutcome::Failed, QStringLiteral("Cannot reframe %1: %2.").arg(m_input, *failure), {}, {}};
+            result = {KxOutcome::Failed, Texts::tr("Cannot reframe %1: %2.").arg(m_input, *failure), {}, {}};
         }
         QMetaObject::invokeMethod(&loop, &QEventLoop::quit, Qt::QueuedConnection);
     });

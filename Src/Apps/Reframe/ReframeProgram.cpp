@@ -8,6 +8,17 @@
 #include <KxModel/KxDetectorFiles.h>
 #include <KxModel/KxRecordStore.h>
 
+#include <QCoreApplication>
+
+namespace
+{
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(ReframeProgram)
+};
+
+} // namespace
+
 int ReframeProgram::Run(const ReframeOptions& options)
 {
     KxAutoReframeService::PrepareProgram();
@@ -32,7 +43,7 @@ int ReframeProgram::Run(const ReframeOptions& options)
             const KxError failure =
                 KxCallGuarded([&] { outcome = ReframeJob(input, aspect, options, reporter, written).Run(); });
             if (failure) {
-                reporter.Fail(input, QStringLiteral("Cannot reframe %1: %2.").arg(input, *failure));
+                reporter.Fail(input, Texts::tr("Cannot reframe %1: %2.").arg(input, *failure));
             }
             if (outcome == KxOutcome::Cancelled) {
                 return reporter.OutputProblem() ? ReframeExit::SomeFailed : ReframeExit::Interrupted;

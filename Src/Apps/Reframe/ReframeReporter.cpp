@@ -6,6 +6,7 @@
 #include <KxCore/KxSystemError.h>
 #include <KxCore/KxTerminal.h>
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QJsonDocument>
 
@@ -15,6 +16,10 @@
 namespace
 {
 
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(ReframeReporter)
+};
+
 /// Standard error has no other place to report its own failure to.
 void WriteError(const QByteArray& text)
 {
@@ -22,18 +27,30 @@ void WriteError(const QByteArray& text)
     std::fflush(stderr);
 }
 
-enum class Form { Name, Doing };
-
-QString StageWord(ReframeReporter::Stage stage, Form form)
+/// Of a stage in JSON.
+QString StageName(ReframeReporter::Stage stage)
 {
-    const bool isName = form == Form::Name;
     switch (stage) {
     case ReframeReporter::Stage::Analyze:
-        return isName ? QStringLiteral("analyze") : QStringLiteral("analyzing");
+        return QStringLiteral("analyze");
     case ReframeReporter::Stage::Preview:
-        return isName ? QStringLiteral("preview") : QStringLiteral("drawing the preview");
+        return QStringLiteral("preview");
     case ReframeReporter::Stage::Render:
-        return isName ? QStringLiteral("render") : QStringLiteral("rendering");
+        return QStringLiteral("render");
+    }
+    return {};
+}
+
+/// Of a progress line: file, percent, and the time that is left or nothing.
+QString StageLine(ReframeReporter::Stage stage)
+{
+    switch (stage) {
+    case ReframeReporter::Stage::Analyze:
+        return Texts::tr("%1: analyzing %2 %%3");
+    case ReframeReporter::Stage::Preview:
+        return Texts::tr("%1: drawing the preview %2 %%3");
+    case ReframeReporter::Stage::Render:
+        return Texts::tr("%1: rendering %2 %%3");
     }
     return {};
 }
@@ -70,11 +87,10 @@ void ReframeReporter::Progress(int progress)
     m_lastPercent = percent;
     if (m_format == Format::Json) {
         WriteJson(QStringLiteral("progress"), m_input,
-                  {{QStringLiteral("stage"), StageWord(m_stage, Form::Name)}, {QStringLiteral("percent"), percent}});
+                  {{QStringLiteral("stage"), StageName(m_stage)}, {QStringLiteral("percent"), percent}});
     } else if (m_showsLine) {
-        const QString line = QStringLiteral("%1: %2 %3 %%4")
-                                 .arg(QFileInfo(m_input).fileName(), StageWord(m_stage, Form::Doing),
-                                      QString::number(percent), TimeLeft::Text(m_stageTimer.elapsed(), progress));
+        const QString line = StageLine(m_stage).arg(QFileInfo(m_input).fileName(), QString::number(percent),
+                                                    TimeLeft::Text(m_stageTimer.elapsed(), progress));
         WriteError("\r\033[K" + line.toLocal8Bit());
         m_lineShown = true;
     }
@@ -87,7 +103,7 @@ void ReframeReporter::Warn(const QString& input, const QString& message)
     }
     ClearLine();
     if (!m_quiet) {
-        WriteError("Warning: " + message.toLocal8Bit() + '\n');
+        WriteError(Texts::tr("Warning: %1").arg(message).toLocal8Bit() + '\n');
     }
 }
 
@@ -128,8 +144,8 @@ void ReframeReporter::WriteOutput(const QByteArray& text)
         return;
     }
     const QString reason = KxSystemErrorText(std::error_code(errno, std::generic_category()));
-    m_outputProblem = QStringLiteral("Cannot write to standard output: %1.")
-                          .arg(reason.isEmpty() ? QStringLiteral("an error occurred") : reason);
+    m_outputProblem = Texts::tr("Cannot write to standard output: %1.")
+                          .arg(reason.isEmpty() ? Texts::tr("an error occurred") : reason);
     ClearLine();
     WriteError(m_outputProblem->toLocal8Bit() + '\n');
     KxInterrupt::Request();
@@ -142,8 +158,8 @@ void ReframeReporter::Interrupted(const QString& input, const QStringList& writt
     }
     Fail(input,
          written.isEmpty()
-             ? QStringLiteral("%1: interrupted.").arg(input)
-             : QStringLiteral("%1: interrupted after %2 was written.").arg(input, written.join(QStringLiteral(", "))));
+             ? Texts::tr("%1: interrupted.").arg(input)
+             : Texts::tr("%1: interrupted after %2 was written.").arg(input, written.join(QStringLiteral(", "))));
 }
 
 void ReframeReporter::ClearLine()

@@ -1,5 +1,16 @@
 #include <Apps/Reframe/TimeLeft.h>
 
+#include <QCoreApplication>
+
+namespace
+{
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(TimeLeft)
+};
+
+} // namespace
+
 QString TimeLeft::Text(qint64 elapsedMs, int progress)
 {
     constexpr qint64 enoughToJudgeMs = 1000;
@@ -8,6 +19,6 @@ QString TimeLeft::Text(qint64 elapsedMs, int progress)
     }
     const qint64 seconds = (elapsedMs * (10000 - progress) / progress + 999) / 1000;
     return seconds < 60
-               ? QStringLiteral(", %1 s left").arg(seconds)
-               : QStringLiteral(", %1 min %2 s left").arg(QString::number(seconds / 60), QString::number(seconds % 60));
+               ? Texts::tr(", %1 s left").arg(seconds)
+               : Texts::tr(", %1 min %2 s left").arg(QString::number(seconds / 60), QString::number(seconds % 60));
 }
