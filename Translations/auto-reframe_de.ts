@@ -206,7 +206,7 @@
     </message>
     <message>
         <source>%1, %2 %</source>
-        <translation>%1, %2 %</translation>
+        <translation>%1, %2&#xa0;%</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -214,7 +214,7 @@
     </message>
     <message>
         <source>%1 %</source>
-        <translation>%1 %</translation>
+        <translation>%1&#xa0;%</translation>
     </message>
 </context>
 <context>
@@ -480,7 +480,7 @@
     </message>
     <message>
         <source>%1 %</source>
-        <translation>%1 %</translation>
+        <translation>%1&#xa0;%</translation>
     </message>
     <message>
         <source>Paused · %1</source>
@@ -663,7 +663,7 @@
     </message>
     <message>
         <source>%1 %</source>
-        <translation>%1 %</translation>
+        <translation>%1&#xa0;%</translation>
     </message>
     <message>
         <source>holds who speaks</source>
@@ -1105,7 +1105,7 @@ Benötigt: %1 MB, verfügbar: %2 MB.</translation>
     </message>
     <message>
         <source>Exporting: %1 %</source>
-        <translation>Export läuft: %1 %</translation>
+        <translation>Export läuft: %1&#xa0;%</translation>
     </message>
     <message>
         <source>Exported</source>
@@ -2333,15 +2333,15 @@ Benötigt: %1 MB, verfügbar: %2 MB.</translation>
     <name>ReframeReporter</name>
     <message>
         <source>%1: analyzing %2 %%3</source>
-        <translation>%1: Analyse %2 %%3</translation>
+        <translation>%1: Analyse %2&#xa0;%%3</translation>
     </message>
     <message>
         <source>%1: drawing the preview %2 %%3</source>
-        <translation>%1: Vorschau wird gezeichnet %2 %%3</translation>
+        <translation>%1: Vorschau wird gezeichnet %2&#xa0;%%3</translation>
     </message>
     <message>
         <source>%1: rendering %2 %%3</source>
-        <translation>%1: Video wird ausgegeben %2 %%3</translation>
+        <translation>%1: Video wird ausgegeben %2&#xa0;%%3</translation>
     </message>
     <message>
         <source>Warning: %1</source>
