@@ -2,10 +2,2392 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
+    <name>AboutDialog</name>
+    <message>
+        <source>About Auto Reframe</source>
+        <translation>À propos d’Auto Reframe</translation>
+    </message>
+    <message>
+        <source>Auto Reframe %1</source>
+        <translation>Auto Reframe %1</translation>
+    </message>
+    <message>
+        <source>Keeps the subject of a video in the picture. Everything runs on this computer.</source>
+        <translation>Garde le sujet d’une vidéo dans l’image. Tout se passe sur cet ordinateur.</translation>
+    </message>
+    <message>
+        <source>Licences</source>
+        <translation>Licences</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+</context>
+<context>
+    <name>AnalysisPlot</name>
+    <message>
+        <source>left</source>
+        <translation>gauche</translation>
+    </message>
+    <message>
+        <source>top</source>
+        <translation>haut</translation>
+    </message>
+    <message>
+        <source>right</source>
+        <translation>droite</translation>
+    </message>
+    <message>
+        <source>bottom</source>
+        <translation>bas</translation>
+    </message>
+    <message>
+        <source>The crop&apos;s path over the evidence</source>
+        <translation>Trajet du cadre sur les indices</translation>
+    </message>
+    <message>
+        <source>Evidence by signal</source>
+        <translation>Indices par signal</translation>
+    </message>
+    <message>
+        <source>strong</source>
+        <translation>fort</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>aucun</translation>
+    </message>
+</context>
+<context>
+    <name>AnalysisReport</name>
+    <message>
+        <source>1 frame</source>
+        <translation>1 image</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n frames</source>
+        <translation>
+            <numerusform>%n image</numerusform>
+            <numerusform>%n images</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The crop</source>
+        <translation>Le cadre</translation>
+    </message>
+    <message>
+        <source>Frames of the video with the crop drawn</source>
+        <translation>Images de la vidéo avec le cadre dessiné</translation>
+    </message>
+    <message>
+        <source>Path of the crop</source>
+        <translation>Trajet du cadre</translation>
+    </message>
+    <message>
+        <source>Time runs from left to right. The left of the picture is at the bottom, its right at the top. A brighter spot has more evidence.</source>
+        <translation>Le temps va de gauche à droite. La gauche de l’image est en bas, sa droite en haut. Plus un point est clair, plus il y a d’indices.</translation>
+    </message>
+    <message>
+        <source>Time runs from left to right. The bottom of the picture is at the bottom, its top at the top. A brighter spot has more evidence.</source>
+        <translation>Le temps va de gauche à droite. Le bas de l’image est en bas, son haut en haut. Plus un point est clair, plus il y a d’indices.</translation>
+    </message>
+    <message>
+        <source>centre of the crop</source>
+        <translation>centre du cadre</translation>
+    </message>
+    <message>
+        <source>edges of the crop</source>
+        <translation>bords du cadre</translation>
+    </message>
+    <message>
+        <source>centre with the most evidence</source>
+        <translation>centre réunissant le plus d’indices</translation>
+    </message>
+    <message>
+        <source>start of a shot, numbered above</source>
+        <translation>début d’un plan, numéroté au-dessus</translation>
+    </message>
+    <message>
+        <source>Evidence by signal</source>
+        <translation>Indices par signal</translation>
+    </message>
+    <message>
+        <source>How much stronger each signal is at the centre with the most evidence than at an average place.</source>
+        <translation>De combien chaque signal est plus fort au centre réunissant le plus d’indices qu’à un endroit moyen.</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>Plans</translation>
+    </message>
+    <message>
+        <source>Travel is the sum of all movements of the crop in the shot, in percent of the width of the picture. Confidence is the share of the evidence that the crop holds; where it is low, look at the shot.</source>
+        <translation>Le trajet est la somme de tous les mouvements du cadre dans le plan, en pourcentage de la largeur de l’image. La confiance est la part des indices que contient le cadre&#xa0;; si elle est faible, vérifier le plan.</translation>
+    </message>
+    <message>
+        <source>Travel is the sum of all movements of the crop in the shot, in percent of the height of the picture. Confidence is the share of the evidence that the crop holds; where it is low, look at the shot.</source>
+        <translation>Le trajet est la somme de tous les mouvements du cadre dans le plan, en pourcentage de la hauteur de l’image. La confiance est la part des indices que contient le cadre&#xa0;; si elle est faible, vérifier le plan.</translation>
+    </message>
+    <message>
+        <source>Shot</source>
+        <translation>Plan</translation>
+    </message>
+    <message>
+        <source>First frame</source>
+        <translation>Première image</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Temps</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Durée</translation>
+    </message>
+    <message>
+        <source>Seconds</source>
+        <translation>Secondes</translation>
+    </message>
+    <message>
+        <source>Dominant signal</source>
+        <translation>Signal dominant</translation>
+    </message>
+    <message>
+        <source>Travel of the crop</source>
+        <translation>Trajet du cadre</translation>
+    </message>
+    <message>
+        <source>Confidence</source>
+        <translation>Confiance</translation>
+    </message>
+    <message>
+        <source>%1 at %2:%3</source>
+        <translation>%1 en %2:%3</translation>
+    </message>
+    <message>
+        <source>File size</source>
+        <translation>Taille du fichier</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Image</translation>
+    </message>
+    <message>
+        <source>Frames per second</source>
+        <translation>Images par seconde</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Crop</source>
+        <translation>Cadre</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Vitesse</translation>
+    </message>
+    <message>
+        <source>fast</source>
+        <translation>rapide</translation>
+    </message>
+    <message>
+        <source>slow</source>
+        <translation>lente</translation>
+    </message>
+    <message>
+        <source>auto</source>
+        <translation>automatique</translation>
+    </message>
+    <message>
+        <source>none: the crop is centred</source>
+        <translation>aucun&#xa0;: le cadre est centré</translation>
+    </message>
+    <message>
+        <source>%1, %2 %</source>
+        <translation>%1, %2&#xa0;%</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1&#xa0;%</translation>
+    </message>
+</context>
+<context>
+    <name>BatchDialog</name>
+    <message>
+        <source>Shorts, Reels, Stories</source>
+        <translation>Shorts, Reels, stories</translation>
+    </message>
+    <message>
+        <source>Feed, portrait</source>
+        <translation>Fil, portrait</translation>
+    </message>
+    <message>
+        <source>Feed, square</source>
+        <translation>Fil, carré</translation>
+    </message>
+    <message>
+        <source>Cinema</source>
+        <translation>Cinéma</translation>
+    </message>
+    <message>
+        <source>Widescreen</source>
+        <translation>Écran large</translation>
+    </message>
+    <message>
+        <source>Classic television</source>
+        <translation>Télévision classique</translation>
+    </message>
+    <message>
+        <source>Auto</source>
+        <translation>Automatique</translation>
+    </message>
+    <message>
+        <source>Slow</source>
+        <translation>Lente</translation>
+    </message>
+    <message>
+        <source>Fast</source>
+        <translation>Rapide</translation>
+    </message>
+    <message>
+        <source>As large as the crop</source>
+        <translation>Aussi grande que le cadre</translation>
+    </message>
+    <message>
+        <source>Shorter side %1 pixels</source>
+        <translation>Petit côté de %1 pixels</translation>
+    </message>
+    <message>
+        <source>Choose an aspect ratio.</source>
+        <translation>Choisir un format d’image.</translation>
+    </message>
+    <message>
+        <source>Choose a folder.</source>
+        <translation>Choisir un dossier.</translation>
+    </message>
+    <message>
+        <source>The selected videos have this aspect ratio already.</source>
+        <translation>Les vidéos sélectionnées ont déjà ce format d’image.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files: %1</source>
+        <translation>
+            <numerusform>%n fichier&#xa0;: %1</numerusform>
+            <numerusform>%n fichiers&#xa0;: %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Reframe %n Videos</source>
+        <translation>
+            <numerusform>Recadrer %n vidéo</numerusform>
+            <numerusform>Recadrer %n vidéos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Aspect Ratios</source>
+        <translation>Formats d’image</translation>
+    </message>
+    <message>
+        <source>Motion Speed</source>
+        <translation>Vitesse de suivi</translation>
+    </message>
+    <message>
+        <source>How readily the crop follows the subject</source>
+        <translation>Réactivité avec laquelle le cadre suit le sujet</translation>
+    </message>
+    <message>
+        <source>Output Size</source>
+        <translation>Taille de sortie</translation>
+    </message>
+    <message>
+        <source>The size of the exported videos</source>
+        <translation>La taille des vidéos exportées</translation>
+    </message>
+    <message>
+        <source>File Name, with %1</source>
+        <translation>Nom de fichier, avec %1</translation>
+    </message>
+    <message>
+        <source>What stands in braces is replaced for each file.</source>
+        <translation>Ce qui est entre accolades est remplacé pour chaque fichier.</translation>
+    </message>
+    <message>
+        <source>The folder for the exported videos</source>
+        <translation>Le dossier des vidéos exportées</translation>
+    </message>
+    <message>
+        <source>Reframe All</source>
+        <translation>Tout recadrer</translation>
+    </message>
+</context>
+<context>
+    <name>CropFinder</name>
+    <message>
+        <source>Cannot reframe %1: %2.</source>
+        <translation>Impossible de recadrer %1&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>Cannot reframe %1: it has no moving picture.</source>
+        <translation>Impossible de recadrer %1&#xa0;: le fichier n’a pas d’image animée.</translation>
+    </message>
+    <message>
+        <source>Cannot use %1: it has the crops of %2 frames, and %3 has %4 frames.</source>
+        <translation>Impossible d’utiliser %1&#xa0;: il contient les cadres de %2 images, et %3 a %4 images.</translation>
+    </message>
+    <message>
+        <source>Cannot reframe %1: it has the aspect ratio %2 already.</source>
+        <translation>Impossible de recadrer %1&#xa0;: la vidéo est déjà au format %2.</translation>
+    </message>
+    <message>
+        <source>Cannot reframe %1: it has only %2 frames; %3 are needed.</source>
+        <translation>Impossible de recadrer %1&#xa0;: la vidéo n’a que %2 images&#xa0;; il en faut %3.</translation>
+    </message>
+    <message>
+        <source>Cannot reframe %1: its picture of %2 x %3 pixels is too small.</source>
+        <translation>Impossible de recadrer %1&#xa0;: son image de %2 x %3 pixels est trop petite.</translation>
+    </message>
+</context>
+<context>
+    <name>CropTrackDialog</name>
+    <message>
+        <source>Enter a file name.</source>
+        <translation>Saisir un nom de fichier.</translation>
+    </message>
+    <message>
+        <source>Choose a folder.</source>
+        <translation>Choisir un dossier.</translation>
+    </message>
+    <message>
+        <source>Save Crop Track</source>
+        <translation>Enregistrer la piste de cadrage</translation>
+    </message>
+    <message>
+        <source>File Name</source>
+        <translation>Nom de fichier</translation>
+    </message>
+    <message>
+        <source>The file gets a number if there is one of this name</source>
+        <translation>Un numéro est ajouté si un fichier de ce nom existe déjà</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <source>The command line reads both</source>
+        <translation>La ligne de commande lit les deux</translation>
+    </message>
+    <message>
+        <source>The folder for the crop track</source>
+        <translation>Le dossier de la piste de cadrage</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Enregistrer</translation>
+    </message>
+</context>
+<context>
+    <name>CropTrackFile</name>
+    <message>
+        <source>it is a folder</source>
+        <translation>c’est un dossier</translation>
+    </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>ce n’est pas un fichier ordinaire</translation>
+    </message>
+    <message>
+        <source>Cannot open %1: %2.</source>
+        <translation>Impossible d’ouvrir %1&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>Cannot use %1: it is too large for a crop track of a video of %2 frames.</source>
+        <translation>Impossible d’utiliser %1&#xa0;: il est trop grand pour la piste de cadrage d’une vidéo de %2 images.</translation>
+    </message>
+    <message>
+        <source>Cannot read %1: %2.</source>
+        <translation>Impossible de lire %1&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>Cannot use %1: it holds no frames.</source>
+        <translation>Impossible d’utiliser %1&#xa0;: il ne contient aucune image.</translation>
+    </message>
+</context>
+<context>
+    <name>CropTrackParser</name>
+    <message>
+        <source>Cannot use %1: it is no crop track (line %2).</source>
+        <translation>Impossible d’utiliser %1&#xa0;: ce n’est pas une piste de cadrage (ligne %2).</translation>
+    </message>
+    <message>
+        <source>Cannot use %1: frame %2 is no rectangle inside the picture.</source>
+        <translation>Impossible d’utiliser %1&#xa0;: l’image %2 n’est pas un rectangle à l’intérieur de l’image.</translation>
+    </message>
+    <message>
+        <source>Cannot use %1: it holds more frames than the video, which has %2.</source>
+        <translation>Impossible d’utiliser %1&#xa0;: il contient plus d’images que la vidéo, qui en a %2.</translation>
+    </message>
+    <message>
+        <source>Cannot use %1: it is a crop track of version %2, and this program reads version 1.</source>
+        <translation>Impossible d’utiliser %1&#xa0;: c’est une piste de cadrage de version %2, et ce programme lit la version 1.</translation>
+    </message>
+</context>
+<context>
+    <name>CropWait</name>
+    <message>
+        <source>Auto Reframe</source>
+        <translation>Auto Reframe</translation>
+    </message>
+    <message>
+        <source>Analyzing %1</source>
+        <translation>Analyse de %1</translation>
+    </message>
+</context>
+<context>
+    <name>ExportCard</name>
+    <message numerus="yes">
+        <source>%n to look at</source>
+        <translation>
+            <numerusform>%n à vérifier</numerusform>
+            <numerusform>%n à vérifier</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Progress of %1</source>
+        <translation>Progression de %1</translation>
+    </message>
+    <message>
+        <source>Cancel %1</source>
+        <translation>Annuler %1</translation>
+    </message>
+    <message>
+        <source>Retry %1</source>
+        <translation>Réessayer %1</translation>
+    </message>
+    <message>
+        <source>Look at the doubtful shots of %1</source>
+        <translation>Vérifier les plans douteux de %1</translation>
+    </message>
+    <message>
+        <source>Show %1 in its folder</source>
+        <translation>Afficher %1 dans son dossier</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1&#xa0;%</translation>
+    </message>
+    <message>
+        <source>Paused · %1</source>
+        <translation>En pause · %1</translation>
+    </message>
+    <message>
+        <source>Waiting</source>
+        <translation>En attente</translation>
+    </message>
+    <message>
+        <source>Analyzing · %1</source>
+        <translation>Analyse · %1</translation>
+    </message>
+    <message>
+        <source>Cancelling…</source>
+        <translation>Annulation…</translation>
+    </message>
+    <message>
+        <source>Done · %1</source>
+        <translation>Terminé · %1</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>Annulé</translation>
+    </message>
+    <message>
+        <source>Not finished</source>
+        <translation>Inachevé</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>Réessayer</translation>
+    </message>
+    <message>
+        <source>Show in folder</source>
+        <translation>Afficher dans le dossier</translation>
+    </message>
+    <message>
+        <source>Export it again</source>
+        <translation>L’exporter à nouveau</translation>
+    </message>
+    <message>
+        <source>Opens the video at these settings; N leads to its doubtful shots.</source>
+        <translation>Ouvre la vidéo avec ces réglages&#xa0;; N mène aux plans douteux.</translation>
+    </message>
+    <message>
+        <source>Show the file in its folder</source>
+        <translation>Afficher le fichier dans son dossier</translation>
+    </message>
+    <message>
+        <source>Remove from list</source>
+        <translation>Retirer de la liste</translation>
+    </message>
+</context>
+<context>
+    <name>ExportPanel</name>
+    <message>
+        <source>Exports</source>
+        <translation>Exports</translation>
+    </message>
+    <message>
+        <source>Clear finished</source>
+        <translation>Effacer terminés</translation>
+    </message>
+    <message>
+        <source>Resume</source>
+        <translation>Reprendre</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Abandonner</translation>
+    </message>
+    <message>
+        <source>Remove the finished exports from the list; their files stay</source>
+        <translation>Retirer de la liste les exports terminés&#xa0;; leurs fichiers restent</translation>
+    </message>
+    <message>
+        <source>Export those that the last run did not finish</source>
+        <translation>Exporter ce que la dernière session n’a pas terminé</translation>
+    </message>
+    <message>
+        <source>Remove those that the last run did not finish from the list</source>
+        <translation>Retirer de la liste ce que la dernière session n’a pas terminé</translation>
+    </message>
+    <message>
+        <source>Videos that you export from the Auto Reframe window appear here.</source>
+        <translation>Les vidéos exportées depuis la fenêtre Auto Reframe apparaissent ici.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n exports not finished</source>
+        <translation>
+            <numerusform>%n export inachevé</numerusform>
+            <numerusform>%n exports inachevés</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ExportRecord</name>
+    <message>
+        <source>Cannot export: no name or no folder was given.</source>
+        <translation>Exportation impossible&#xa0;: le nom ou le dossier manque.</translation>
+    </message>
+    <message>
+        <source>Cannot export %1: no picture size was given.</source>
+        <translation>Impossible d’exporter %1&#xa0;: la taille d’image manque.</translation>
+    </message>
+</context>
+<context>
+    <name>FollowOption</name>
+    <message>
+        <source>the video ends after %1 s</source>
+        <translation>la vidéo se termine après %1 s</translation>
+    </message>
+    <message>
+        <source>it lies outside the picture of %1x%2 pixels</source>
+        <translation>l’endroit est hors de l’image de %1x%2 pixels</translation>
+    </message>
+</context>
+<context>
+    <name>FoundSignals</name>
+    <message>
+        <source>motion</source>
+        <translation>mouvement</translation>
+    </message>
+    <message>
+        <source>movers</source>
+        <translation>mobiles</translation>
+    </message>
+    <message>
+        <source>saliency</source>
+        <translation>saillance</translation>
+    </message>
+    <message>
+        <source>faces</source>
+        <translation>visages</translation>
+    </message>
+    <message>
+        <source>detected</source>
+        <translation>détectés</translation>
+    </message>
+    <message>
+        <source>motion: what the camera&apos;s own movement does not explain</source>
+        <translation>mouvement&#xa0;: ce que le mouvement de la caméra n’explique pas</translation>
+    </message>
+    <message>
+        <source>movers: what travels through the shot, however small</source>
+        <translation>mobiles&#xa0;: ce qui traverse le plan, même petit</translation>
+    </message>
+    <message>
+        <source>saliency: what stands out in a still picture</source>
+        <translation>saillance&#xa0;: ce qui ressort dans une image fixe</translation>
+    </message>
+    <message>
+        <source>detected: people and animals</source>
+        <translation>détectés&#xa0;: personnes et animaux</translation>
+    </message>
+    <message>
+        <source>it is not clear who speaks</source>
+        <translation>on ne sait pas qui parle</translation>
+    </message>
+    <message>
+        <source>who speaks is hardly clear</source>
+        <translation>on sait à peine qui parle</translation>
+    </message>
+    <message>
+        <source>nothing stands out</source>
+        <translation>rien ne ressort</translation>
+    </message>
+    <message>
+        <source>people or animals are in several places</source>
+        <translation>des personnes ou des animaux sont à plusieurs endroits</translation>
+    </message>
+    <message>
+        <source>what stands out is in several places</source>
+        <translation>plusieurs endroits ressortent</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1&#xa0;%</translation>
+    </message>
+    <message>
+        <source>holds who speaks</source>
+        <translation>reste sur la personne qui parle</translation>
+    </message>
+    <message>
+        <source>follows who speaks</source>
+        <translation>suit la personne qui parle</translation>
+    </message>
+    <message>
+        <source>follows who speaks, with 1 cut</source>
+        <translation>suit la personne qui parle, avec 1 coupe</translation>
+    </message>
+    <message numerus="yes">
+        <source>follows who speaks, with %n cuts</source>
+        <translation>
+            <numerusform>suit la personne qui parle, avec %n coupe</numerusform>
+            <numerusform>suit la personne qui parle, avec %n coupes</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>HelpDialog</name>
+    <message>
+        <source>Import videos</source>
+        <translation>Importer des vidéos</translation>
+    </message>
+    <message>
+        <source>Select all videos</source>
+        <translation>Sélectionner toutes les vidéos</translation>
+    </message>
+    <message>
+        <source>Select several videos</source>
+        <translation>Sélectionner plusieurs vidéos</translation>
+    </message>
+    <message>
+        <source>Ctrl+Click, Shift+Click</source>
+        <translation>Ctrl+clic, Maj+clic</translation>
+    </message>
+    <message>
+        <source>Reframe the selected video</source>
+        <translation>Recadrer la vidéo sélectionnée</translation>
+    </message>
+    <message>
+        <source>Reframe all selected videos</source>
+        <translation>Recadrer toutes les vidéos sélectionnées</translation>
+    </message>
+    <message>
+        <source>Remove from the library</source>
+        <translation>Retirer de la bibliothèque</translation>
+    </message>
+    <message>
+        <source>Show this list</source>
+        <translation>Afficher cette liste</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Quitter</translation>
+    </message>
+    <message>
+        <source>Play, pause</source>
+        <translation>Lecture, pause</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Arrêter</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Reculer</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Avancer</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rétablir</translation>
+    </message>
+    <message>
+        <source>Previous edit point</source>
+        <translation>Point d’édition précédent</translation>
+    </message>
+    <message>
+        <source>Next edit point</source>
+        <translation>Point d’édition suivant</translation>
+    </message>
+    <message>
+        <source>Delete the edit point</source>
+        <translation>Supprimer le point d’édition</translation>
+    </message>
+    <message>
+        <source>Previous doubtful shot</source>
+        <translation>Plan douteux précédent</translation>
+    </message>
+    <message>
+        <source>Next doubtful shot</source>
+        <translation>Plan douteux suivant</translation>
+    </message>
+    <message>
+        <source>Move the crop by a pixel</source>
+        <translation>Déplacer le cadre d’un pixel</translation>
+    </message>
+    <message>
+        <source>Arrow keys</source>
+        <translation>Touches fléchées</translation>
+    </message>
+    <message>
+        <source>Move the crop by 10 pixels</source>
+        <translation>Déplacer le cadre de 10 pixels</translation>
+    </message>
+    <message>
+        <source>Shift+Arrow keys</source>
+        <translation>Maj+touches fléchées</translation>
+    </message>
+    <message>
+        <source>Point at the middle of the crop</source>
+        <translation>Désigner le centre du cadre</translation>
+    </message>
+    <message>
+        <source>Remove the box</source>
+        <translation>Retirer le cadre de sélection</translation>
+    </message>
+    <message>
+        <source>Library</source>
+        <translation>Bibliothèque</translation>
+    </message>
+    <message>
+        <source>Auto Reframe Window</source>
+        <translation>Fenêtre Auto Reframe</translation>
+    </message>
+    <message>
+        <source>Keyboard Shortcuts</source>
+        <translation>Raccourcis clavier</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+</context>
+<context>
+    <name>HostMediaBackend</name>
+    <message>
+        <source>Cannot open %1: it has no moving picture.</source>
+        <translation>Impossible d’ouvrir %1&#xa0;: le fichier n’a pas d’image animée.</translation>
+    </message>
+</context>
+<context>
     <name>KrAutoReframeDialog</name>
     <message>
         <source>AutoReframe_Exit</source>
         <translation>Quitter</translation>
+    </message>
+    <message>
+        <source>Auto Reframe</source>
+        <translation>Auto Reframe</translation>
+    </message>
+    <message>
+        <source>Analysis error. Please try again.</source>
+        <translation>Erreur d’analyse. Veuillez réessayer.</translation>
+    </message>
+    <message>
+        <source>This video is too short. Please try a different video.</source>
+        <translation>Cette vidéo est trop courte. Veuillez en essayer une autre.</translation>
+    </message>
+    <message>
+        <source>You&apos;ve chosen the same aspect ratio as the original video. Please select a different aspect ratio.</source>
+        <translation>Le format d’image choisi est celui de la vidéo d’origine. Veuillez en choisir un autre.</translation>
+    </message>
+    <message>
+        <source>Converting video. Please wait...</source>
+        <translation>Conversion de la vidéo. Veuillez patienter...</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to exit?</source>
+        <translation>Voulez-vous vraiment quitter&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Non</translation>
+    </message>
+    <message>
+        <source>All supported files(%1;);</source>
+        <translation>Tous les fichiers pris en charge(%1;);</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Ouvrir</translation>
+    </message>
+    <message>
+        <source>Unknown error, please try again</source>
+        <translation>Erreur inconnue, veuillez réessayer</translation>
+    </message>
+</context>
+<context>
+    <name>KrAutoReframeExportDlg</name>
+    <message>
+        <source>Export to MP4</source>
+        <translation>Exporter en MP4</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Exporter</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>Nom&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Save to:</source>
+        <translation>Dossier&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Please make sure you have selected a valid folder.</source>
+        <translation>Veuillez choisir un dossier valide.</translation>
+    </message>
+    <message>
+        <source>Please check write permission, or choose another path to continue.</source>
+        <translation>Veuillez vérifier le droit d’écriture ou choisir un autre emplacement.</translation>
+    </message>
+    <message>
+        <source>The outputted file path is too long, please choose another path to continue.</source>
+        <translation>Le chemin du fichier de sortie est trop long, veuillez choisir un autre emplacement.</translation>
+    </message>
+    <message>
+        <source>There is not enough space in the specified output directory, please choose another one.
+Dise Space needed :%1 MB, remaining:%2 MB.</source>
+        <translation>L’espace est insuffisant dans le dossier de sortie, veuillez en choisir un autre.
+Espace nécessaire&#xa0;: %1 Mo, disponible&#xa0;: %2 Mo.</translation>
+    </message>
+</context>
+<context>
+    <name>KrAutoReframePlayerControlBar</name>
+    <message>
+        <source>Backward (%1)</source>
+        <translation>Reculer (%1)</translation>
+    </message>
+    <message>
+        <source>Forward (%1)</source>
+        <translation>Avancer (%1)</translation>
+    </message>
+    <message>
+        <source>Stop (%1)</source>
+        <translation>Arrêter (%1)</translation>
+    </message>
+    <message>
+        <source>Play (%1)</source>
+        <translation>Lecture (%1)</translation>
+    </message>
+    <message>
+        <source>Pause (%1)</source>
+        <translation>Pause (%1)</translation>
+    </message>
+    <message>
+        <source>Undo (%1)</source>
+        <translation>Annuler (%1)</translation>
+    </message>
+    <message>
+        <source>Redo (%1)</source>
+        <translation>Rétablir (%1)</translation>
+    </message>
+    <message>
+        <source>Delete (%1)</source>
+        <translation>Supprimer (%1)</translation>
+    </message>
+    <message>
+        <source>Previous Edit Point (%1)</source>
+        <translation>Point d’édition précédent (%1)</translation>
+    </message>
+    <message>
+        <source>Next Edit Point (%1)</source>
+        <translation>Point d’édition suivant (%1)</translation>
+    </message>
+</context>
+<context>
+    <name>KrAutoReframePropertyPanel</name>
+    <message>
+        <source>Auto</source>
+        <translation>Automatique</translation>
+    </message>
+    <message>
+        <source>Fast</source>
+        <translation>Rapide</translation>
+    </message>
+    <message>
+        <source>Slow</source>
+        <translation>Lente</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importer</translation>
+    </message>
+    <message>
+        <source>Replace File</source>
+        <translation>Remplacer le fichier</translation>
+    </message>
+    <message>
+        <source>Adjust Frame</source>
+        <translation>Ajuster le cadre</translation>
+    </message>
+    <message>
+        <source>Aspect Ratio</source>
+        <translation>Format d’image</translation>
+    </message>
+    <message>
+        <source>Motion Speed</source>
+        <translation>Vitesse de suivi</translation>
+    </message>
+    <message>
+        <source>Analyze</source>
+        <translation>Analyser</translation>
+    </message>
+    <message>
+        <source>AutoReframe_Restart</source>
+        <translation>Réanalyser</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Exporter</translation>
+    </message>
+</context>
+<context>
+    <name>KrCropKeys</name>
+    <message>
+        <source>Picture</source>
+        <translation>Image</translation>
+    </message>
+    <message>
+        <source>The arrow keys move the crop, with Shift in larger steps.</source>
+        <translation>Les touches fléchées déplacent le cadre, avec Maj par pas plus grands.</translation>
+    </message>
+</context>
+<context>
+    <name>KrDialogExtension</name>
+    <message>
+        <source>The crop follows your choice</source>
+        <translation>Le cadre suit votre choix</translation>
+    </message>
+    <message>
+        <source>The crop avoids your choice</source>
+        <translation>Le cadre évite votre choix</translation>
+    </message>
+    <message>
+        <source>The crop is held</source>
+        <translation>Le cadre reste fixe</translation>
+    </message>
+    <message>
+        <source>The whole picture is shown</source>
+        <translation>L’image entière est montrée</translation>
+    </message>
+    <message>
+        <source>The analysis decides</source>
+        <translation>L’analyse décide</translation>
+    </message>
+    <message>
+        <source>Lost from %1: point again</source>
+        <translation>Perdu à partir de %1&#xa0;: désigner à nouveau</translation>
+    </message>
+    <message>
+        <source>Settings changed: analyze again</source>
+        <translation>Réglages modifiés&#xa0;: réanalyser</translation>
+    </message>
+</context>
+<context>
+    <name>KrDoubtfulShots</name>
+    <message>
+        <source>Previous Doubtful Shot (%1)</source>
+        <translation>Plan douteux précédent (%1)</translation>
+    </message>
+    <message>
+        <source>Next Doubtful Shot (%1)</source>
+        <translation>Plan douteux suivant (%1)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n shots to look at</source>
+        <translation>
+            <numerusform>%1 plan sur %n à vérifier</numerusform>
+            <numerusform>%1 plans sur %n à vérifier</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>All doubtful shots seen</source>
+        <translation>Tous les plans douteux ont été vus</translation>
+    </message>
+    <message>
+        <source>Shot %1 of %2</source>
+        <translation>Plan %1 sur %2</translation>
+    </message>
+    <message>
+        <source>nothing stands out</source>
+        <translation>rien ne ressort</translation>
+    </message>
+    <message>
+        <source>what stands out is in several places, far apart</source>
+        <translation>plusieurs endroits ressortent, éloignés les uns des autres</translation>
+    </message>
+    <message>
+        <source>several people or animals, far apart</source>
+        <translation>plusieurs personnes ou animaux, éloignés les uns des autres</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1&#xa0;: %2</translation>
+    </message>
+</context>
+<context>
+    <name>KrExportStatus</name>
+    <message>
+        <source>Progress of the export</source>
+        <translation>Progression de l’export</translation>
+    </message>
+    <message>
+        <source>The size of the exported video in pixels.</source>
+        <translation>La taille de la vidéo exportée en pixels.</translation>
+    </message>
+    <message>
+        <source>Show in Folder</source>
+        <translation>Afficher dans le dossier</translation>
+    </message>
+    <message>
+        <source>Opens the folder of the exported video.</source>
+        <translation>Ouvre le dossier de la vidéo exportée.</translation>
+    </message>
+    <message>
+        <source>Output: %1 × %2</source>
+        <translation>Sortie&#xa0;: %1 × %2</translation>
+    </message>
+    <message>
+        <source>Waiting in the export queue</source>
+        <translation>En attente d’exportation</translation>
+    </message>
+    <message>
+        <source>Exporting: %1 %</source>
+        <translation>Exportation&#xa0;: %1&#xa0;%</translation>
+    </message>
+    <message>
+        <source>Exported</source>
+        <translation>Exporté</translation>
+    </message>
+    <message>
+        <source>Export cancelled</source>
+        <translation>Export annulé</translation>
+    </message>
+</context>
+<context>
+    <name>KrFollowControls</name>
+    <message>
+        <source>This looks like background</source>
+        <translation>Cela ressemble à l’arrière-plan</translation>
+    </message>
+    <message>
+        <source>Hold the Crop Here in This Shot</source>
+        <translation>Fixer le cadre ici dans ce plan</translation>
+    </message>
+    <message>
+        <source>Follow This Anyway</source>
+        <translation>Suivre quand même</translation>
+    </message>
+    <message>
+        <source>Follow This</source>
+        <translation>Suivre ceci</translation>
+    </message>
+    <message>
+        <source>Not This</source>
+        <translation>Pas ceci</translation>
+    </message>
+    <message>
+        <source>Hold the Crop in This Shot</source>
+        <translation>Fixer le cadre dans ce plan</translation>
+    </message>
+    <message>
+        <source>Show the Whole Picture in This Shot</source>
+        <translation>Montrer l’image entière dans ce plan</translation>
+    </message>
+    <message>
+        <source>Back to Automatic</source>
+        <translation>Revenir à l’automatique</translation>
+    </message>
+</context>
+<context>
+    <name>KrMessageDialog</name>
+    <message>
+        <source>Auto Reframe</source>
+        <translation>Auto Reframe</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Oui</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Non</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>KrRatioComparison</name>
+    <message>
+        <source>Compare Aspect Ratios</source>
+        <translation>Comparer les formats d’image</translation>
+    </message>
+</context>
+<context>
+    <name>KrRatioPane</name>
+    <message>
+        <source>Result in %1:%2</source>
+        <translation>Résultat en %1:%2</translation>
+    </message>
+    <message>
+        <source>%1:%2</source>
+        <translation>%1:%2</translation>
+    </message>
+    <message>
+        <source>%1 · finding the crop…</source>
+        <translation>%1 · recherche du cadre…</translation>
+    </message>
+    <message>
+        <source>%1 · %2 × %3</source>
+        <translation>%1 · %2 × %3</translation>
+    </message>
+    <message>
+        <source>%1 · analyze the video again</source>
+        <translation>%1 · analyser à nouveau la vidéo</translation>
+    </message>
+</context>
+<context>
+    <name>KrViewMenu</name>
+    <message>
+        <source>View</source>
+        <translation>Affichage</translation>
+    </message>
+    <message>
+        <source>Safe Zones</source>
+        <translation>Zones sûres</translation>
+    </message>
+    <message>
+        <source>Dims what players of vertical videos cover with texts and buttons. For 9:16 only.</source>
+        <translation>Assombrit ce que les lecteurs de vidéos verticales couvrent de textes et de boutons. Pour 9:16 uniquement.</translation>
+    </message>
+    <message>
+        <source>Thirds</source>
+        <translation>Tiers</translation>
+    </message>
+    <message>
+        <source>A grid that divides the result into thirds.</source>
+        <translation>Une grille qui divise le résultat en tiers.</translation>
+    </message>
+    <message>
+        <source>Headroom</source>
+        <translation>Espace au-dessus de la tête</translation>
+    </message>
+    <message>
+        <source>The band in which the top of a head belongs.</source>
+        <translation>La bande où doit se trouver le haut d’une tête.</translation>
+    </message>
+    <message>
+        <source>Compare Aspect Ratios…</source>
+        <translation>Comparer les formats d’image…</translation>
+    </message>
+    <message>
+        <source>Shows the results of several aspect ratios side by side.</source>
+        <translation>Montre côte à côte les résultats de plusieurs formats d’image.</translation>
+    </message>
+</context>
+<context>
+    <name>KxAudioReader</name>
+    <message>
+        <source>it has no such sound track</source>
+        <translation>il n’y a pas de telle piste audio</translation>
+    </message>
+</context>
+<context>
+    <name>KxAudioTrack</name>
+    <message>
+        <source>its sound format (%1) is not supported</source>
+        <translation>le format audio (%1) n’est pas pris en charge</translation>
+    </message>
+    <message>
+        <source>its sound is damaged</source>
+        <translation>le son est endommagé</translation>
+    </message>
+</context>
+<context>
+    <name>KxAvError</name>
+    <message>
+        <source>it was cancelled</source>
+        <translation>annulé</translation>
+    </message>
+    <message>
+        <source>it ends too early</source>
+        <translation>le fichier se termine trop tôt</translation>
+    </message>
+    <message>
+        <source>it is damaged</source>
+        <translation>le fichier est endommagé</translation>
+    </message>
+    <message>
+        <source>its format is not supported</source>
+        <translation>le format n’est pas pris en charge</translation>
+    </message>
+</context>
+<context>
+    <name>KxFittedCutter</name>
+    <message>
+        <source>Cannot cut a picture: the rectangle to cut out is empty.</source>
+        <translation>Impossible de découper une image&#xa0;: le rectangle à découper est vide.</translation>
+    </message>
+    <message>
+        <source>Cannot cut a picture: memory ran out.</source>
+        <translation>Impossible de découper une image&#xa0;: mémoire insuffisante.</translation>
+    </message>
+</context>
+<context>
+    <name>KxFrameCutter</name>
+    <message>
+        <source>Cannot cut a picture: the rectangle to cut out is empty.</source>
+        <translation>Impossible de découper une image&#xa0;: le rectangle à découper est vide.</translation>
+    </message>
+    <message>
+        <source>Cannot cut a picture: its pixel format &quot;%1&quot; cannot be converted.</source>
+        <translation>Impossible de découper une image&#xa0;: son format de pixels «&#xa0;%1&#xa0;» ne peut pas être converti.</translation>
+    </message>
+    <message>
+        <source>Cannot cut a picture: memory ran out.</source>
+        <translation>Impossible de découper une image&#xa0;: mémoire insuffisante.</translation>
+    </message>
+    <message>
+        <source>Cannot cut a picture: it cannot be scaled from %1 x %2 to %3 x %4.</source>
+        <translation>Impossible de découper une image&#xa0;: elle ne peut pas passer de %1 x %2 à %3 x %4.</translation>
+    </message>
+</context>
+<context>
+    <name>KxInputFile</name>
+    <message>
+        <source>it is a single picture, not a video</source>
+        <translation>c’est une image seule, pas une vidéo</translation>
+    </message>
+    <message>
+        <source>it is a list of other files, not a video</source>
+        <translation>c’est une liste d’autres fichiers, pas une vidéo</translation>
+    </message>
+    <message>
+        <source>it is not a video file</source>
+        <translation>ce n’est pas un fichier vidéo</translation>
+    </message>
+    <message>
+        <source>it has more than %1 streams</source>
+        <translation>le fichier a plus de %1 flux</translation>
+    </message>
+    <message>
+        <source>Cannot open %1: %2.</source>
+        <translation>Impossible d’ouvrir %1&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>it was cancelled</source>
+        <translation>annulé</translation>
+    </message>
+    <message>
+        <source>reading it takes too long</source>
+        <translation>la lecture prend trop de temps</translation>
+    </message>
+    <message>
+        <source>it is damaged or incomplete</source>
+        <translation>le fichier est endommagé ou incomplet</translation>
+    </message>
+    <message>
+        <source>it is a link to a file that does not exist</source>
+        <translation>c’est un lien vers un fichier qui n’existe pas</translation>
+    </message>
+    <message>
+        <source>there is no such file</source>
+        <translation>ce fichier n’existe pas</translation>
+    </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>c’est un dossier</translation>
+    </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>ce n’est pas un fichier ordinaire</translation>
+    </message>
+    <message>
+        <source>permission is denied</source>
+        <translation>l’accès est refusé</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>le fichier est vide</translation>
+    </message>
+    <message>
+        <source>its pictures are too large (%1 x %2)</source>
+        <translation>ses images sont trop grandes (%1 x %2)</translation>
+    </message>
+    <message>
+        <source>it has sound but no moving picture</source>
+        <translation>le fichier a du son mais pas d’image animée</translation>
+    </message>
+    <message>
+        <source>it has no moving picture</source>
+        <translation>le fichier n’a pas d’image animée</translation>
+    </message>
+</context>
+<context>
+    <name>KxLanguage</name>
+    <message>
+        <source>Language of the texts: %1. Otherwise that of the system.</source>
+        <translation>Langue des textes&#xa0;: %1. Sinon celle du système.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an available language; choose one of %2.</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas une langue disponible&#xa0;; choisir parmi %2.</translation>
+    </message>
+</context>
+<context>
+    <name>KxMediaLibraryUtils</name>
+    <message>
+        <source>Cannot open %1: it has no moving picture.</source>
+        <translation>Impossible d’ouvrir %1&#xa0;: le fichier n’a pas d’image animée.</translation>
+    </message>
+</context>
+<context>
+    <name>KxMediaPlayerPresenter</name>
+    <message>
+        <source>Cannot show the timeline: it holds no video.</source>
+        <translation>Impossible d’afficher la timeline&#xa0;: elle ne contient aucune vidéo.</translation>
+    </message>
+    <message>
+        <source>Cannot show %1: %2.</source>
+        <translation>Impossible d’afficher %1&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>its pictures cannot be decoded</source>
+        <translation>ses images ne peuvent pas être décodées</translation>
+    </message>
+</context>
+<context>
+    <name>KxMessageBox</name>
+    <message>
+        <source>Do not show this again</source>
+        <translation>Ne plus afficher</translation>
+    </message>
+</context>
+<context>
+    <name>KxOpenFileLineEdit</name>
+    <message>
+        <source>Folder</source>
+        <translation>Dossier</translation>
+    </message>
+    <message>
+        <source>Choose a folder</source>
+        <translation>Choisir un dossier</translation>
+    </message>
+</context>
+<context>
+    <name>KxOpenFileName</name>
+    <message>
+        <source>All files(%1)</source>
+        <translation>Tous les fichiers(%1)</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Ouvrir</translation>
+    </message>
+</context>
+<context>
+    <name>KxOutputFile</name>
+    <message>
+        <source>Cannot write %1: %2.</source>
+        <translation>Impossible d’écrire %1&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>c’est un dossier</translation>
+    </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>ce n’est pas un fichier ordinaire</translation>
+    </message>
+    <message>
+        <source>no free name was found in its folder</source>
+        <translation>aucun nom libre n’a été trouvé dans son dossier</translation>
+    </message>
+    <message>
+        <source>the folder %1 does not exist</source>
+        <translation>le dossier %1 n’existe pas</translation>
+    </message>
+    <message>
+        <source>%1 is not a folder</source>
+        <translation>%1 n’est pas un dossier</translation>
+    </message>
+</context>
+<context>
+    <name>KxPictureFeed</name>
+    <message>
+        <source>Cannot render %1: %2.</source>
+        <translation>Impossible de produire %1&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>Cannot render %1 at frame %2. %3</source>
+        <translation>Impossible de produire %1 à l’image %2. %3</translation>
+    </message>
+    <message>
+        <source>Memory ran out.</source>
+        <translation>Mémoire insuffisante.</translation>
+    </message>
+</context>
+<context>
+    <name>KxPlayerToolBarBase</name>
+    <message>
+        <source>Play (%1)</source>
+        <translation>Lecture (%1)</translation>
+    </message>
+    <message>
+        <source>Pause (%1)</source>
+        <translation>Pause (%1)</translation>
+    </message>
+    <message>
+        <source>Stop (%1)</source>
+        <translation>Arrêter (%1)</translation>
+    </message>
+    <message>
+        <source>Backward (%1)</source>
+        <translation>Reculer (%1)</translation>
+    </message>
+    <message>
+        <source>Forward (%1)</source>
+        <translation>Avancer (%1)</translation>
+    </message>
+    <message>
+        <source>Play or pause</source>
+        <translation>Lecture ou pause</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Arrêter</translation>
+    </message>
+    <message>
+        <source>Backward</source>
+        <translation>Reculer</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Avancer</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Position</translation>
+    </message>
+</context>
+<context>
+    <name>KxProgressDialog</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+</context>
+<context>
+    <name>KxRenderSource</name>
+    <message>
+        <source>Cannot render the timeline: it shows no file.</source>
+        <translation>Impossible de produire la timeline&#xa0;: elle ne montre aucun fichier.</translation>
+    </message>
+</context>
+<context>
+    <name>KxRenderer</name>
+    <message>
+        <source>Cannot write %1: %2.</source>
+        <translation>Impossible d’écrire %1&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>a resolution of %1 x %2 is not possible</source>
+        <translation>une résolution de %1 x %2 n’est pas possible</translation>
+    </message>
+    <message>
+        <source>it is the very file that is rendered</source>
+        <translation>c’est le fichier même qui est traité</translation>
+    </message>
+    <message>
+        <source>The sound is left out. %1</source>
+        <translation>Le son est omis. %1</translation>
+    </message>
+    <message>
+        <source>Cannot render %1: it is damaged.</source>
+        <translation>Impossible de produire %1&#xa0;: le fichier est endommagé.</translation>
+    </message>
+    <message>
+        <source>%1 is damaged or incomplete: only %2 of %3 frames could be rendered.</source>
+        <translation>%1 est endommagé ou incomplet&#xa0;: seules %2 images sur %3 ont pu être traitées.</translation>
+    </message>
+    <message>
+        <source>The sound of %1 is damaged and ends early.</source>
+        <translation>Le son de %1 est endommagé et se termine trop tôt.</translation>
+    </message>
+    <message>
+        <source>%1 frames a second are not possible</source>
+        <translation>%1 images par seconde ne sont pas possibles</translation>
+    </message>
+    <message>
+        <source>Cannot render %1: %2.</source>
+        <translation>Impossible de produire %1&#xa0;: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>KxSystemError</name>
+    <message>
+        <source>the file would become too large for its disk</source>
+        <translation>le fichier deviendrait trop grand pour son disque</translation>
+    </message>
+    <message>
+        <source>there is no such file</source>
+        <translation>ce fichier n’existe pas</translation>
+    </message>
+    <message>
+        <source>permission is denied</source>
+        <translation>l’accès est refusé</translation>
+    </message>
+    <message>
+        <source>the disk can only be read</source>
+        <translation>le disque est en lecture seule</translation>
+    </message>
+    <message>
+        <source>the disk reports an error</source>
+        <translation>le disque signale une erreur</translation>
+    </message>
+    <message>
+        <source>memory ran out</source>
+        <translation>mémoire insuffisante</translation>
+    </message>
+    <message>
+        <source>too many files are open</source>
+        <translation>trop de fichiers sont ouverts</translation>
+    </message>
+    <message>
+        <source>its name is too long</source>
+        <translation>le nom est trop long</translation>
+    </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>c’est un dossier</translation>
+    </message>
+    <message>
+        <source>its reader has gone</source>
+        <translation>le destinataire s’est arrêté</translation>
+    </message>
+    <message>
+        <source>it is in use</source>
+        <translation>en cours d’utilisation</translation>
+    </message>
+    <message>
+        <source>the disk is full</source>
+        <translation>le disque est plein</translation>
+    </message>
+</context>
+<context>
+    <name>KxSystemFile</name>
+    <message>
+        <source>another program has it open</source>
+        <translation>un autre programme l’a ouvert</translation>
+    </message>
+</context>
+<context>
+    <name>KxThread</name>
+    <message>
+        <source>memory ran out</source>
+        <translation>mémoire insuffisante</translation>
+    </message>
+    <message>
+        <source>an unknown error occurred</source>
+        <translation>une erreur inconnue s’est produite</translation>
+    </message>
+</context>
+<context>
+    <name>KxThumbnailPicture</name>
+    <message>
+        <source>Cannot show %1: no picture could be read.</source>
+        <translation>Impossible d’afficher %1&#xa0;: aucune image n’a pu être lue.</translation>
+    </message>
+</context>
+<context>
+    <name>KxThumbnailer</name>
+    <message>
+        <source>Cannot show %1: %2.</source>
+        <translation>Impossible d’afficher %1&#xa0;: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>KxToneMapper</name>
+    <message>
+        <source>Cannot convert a picture of high dynamic range: %1.</source>
+        <translation>Impossible de convertir une image à grande gamme dynamique&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>it yields no picture</source>
+        <translation>le résultat est vide</translation>
+    </message>
+</context>
+<context>
+    <name>KxTopLevelWindowTitleBar</name>
+    <message>
+        <source>Restore</source>
+        <translation>Restaurer</translation>
+    </message>
+    <message>
+        <source>Maximize</source>
+        <translation>Agrandir</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>Réduire</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+</context>
+<context>
+    <name>KxVideoDecoder</name>
+    <message>
+        <source>its video format (%1) is not supported</source>
+        <translation>le format vidéo (%1) n’est pas pris en charge</translation>
+    </message>
+    <message>
+        <source>its video stream is damaged</source>
+        <translation>le flux vidéo est endommagé</translation>
+    </message>
+</context>
+<context>
+    <name>KxVideoSource</name>
+    <message>
+        <source>it was cancelled</source>
+        <translation>annulé</translation>
+    </message>
+    <message>
+        <source>it is damaged</source>
+        <translation>le fichier est endommagé</translation>
+    </message>
+    <message>
+        <source>no picture of it can be decoded, it is damaged</source>
+        <translation>aucune image ne peut être décodée, le fichier est endommagé</translation>
+    </message>
+    <message>
+        <source>it is a single picture, not a video</source>
+        <translation>c’est une image seule, pas une vidéo</translation>
+    </message>
+    <message>
+        <source>it cannot be read from the start again</source>
+        <translation>le fichier ne peut pas être relu depuis le début</translation>
+    </message>
+    <message>
+        <source>its time stamps are damaged</source>
+        <translation>ses horodatages sont endommagés</translation>
+    </message>
+</context>
+<context>
+    <name>KxWindowsNames</name>
+    <message>
+        <source>its name contains a control character</source>
+        <translation>le nom contient un caractère de contrôle</translation>
+    </message>
+    <message>
+        <source>a name cannot contain the character %1</source>
+        <translation>un nom ne peut pas contenir le caractère %1</translation>
+    </message>
+    <message>
+        <source>%1 is the name of a device</source>
+        <translation>%1 est le nom d’un périphérique</translation>
+    </message>
+    <message>
+        <source>a name cannot end with a dot or a space</source>
+        <translation>un nom ne peut pas se terminer par un point ou une espace</translation>
+    </message>
+    <message>
+        <source>its name is too long</source>
+        <translation>le nom est trop long</translation>
+    </message>
+</context>
+<context>
+    <name>LibraryConnection</name>
+    <message>
+        <source>another program is using it</source>
+        <translation>un autre programme l’utilise</translation>
+    </message>
+    <message>
+        <source>it is write-protected</source>
+        <translation>le fichier est protégé en écriture</translation>
+    </message>
+    <message>
+        <source>the disk cannot be read or written</source>
+        <translation>le disque ne peut être ni lu ni écrit</translation>
+    </message>
+    <message>
+        <source>it is damaged</source>
+        <translation>le fichier est endommagé</translation>
+    </message>
+    <message>
+        <source>the disk is full</source>
+        <translation>le disque est plein</translation>
+    </message>
+    <message>
+        <source>it cannot be opened</source>
+        <translation>le fichier ne peut pas être ouvert</translation>
+    </message>
+</context>
+<context>
+    <name>LibraryOpening</name>
+    <message>
+        <source>Cannot open the library %1: %2. What you do now is not saved.</source>
+        <translation>Impossible d’ouvrir la bibliothèque %1&#xa0;: %2. Les modifications ne seront pas enregistrées.</translation>
+    </message>
+    <message>
+        <source>its backup %1 cannot be written</source>
+        <translation>sa sauvegarde %1 ne peut pas être écrite</translation>
+    </message>
+    <message>
+        <source>it was written by a newer version of this program</source>
+        <translation>elle vient d’une version plus récente de ce programme</translation>
+    </message>
+    <message>
+        <source>its folder cannot be made</source>
+        <translation>son dossier ne peut pas être créé</translation>
+    </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>ce n’est pas un fichier ordinaire</translation>
+    </message>
+    <message>
+        <source>another program is opening it</source>
+        <translation>un autre programme est en train de l’ouvrir</translation>
+    </message>
+    <message>
+        <source>its folder cannot be written to</source>
+        <translation>son dossier n’est pas accessible en écriture</translation>
+    </message>
+    <message>
+        <source>it is damaged, and it cannot be renamed</source>
+        <translation>elle est endommagée et ne peut pas être renommée</translation>
+    </message>
+    <message>
+        <source>The library was damaged. It was renamed to %1, and a new one was begun.</source>
+        <translation>La bibliothèque était endommagée. Elle a été renommée en %1, et une nouvelle a été créée.</translation>
+    </message>
+</context>
+<context>
+    <name>LibraryStore</name>
+    <message>
+        <source>Cannot read the library %1: %2. What you do now is not saved.</source>
+        <translation>Impossible de lire la bibliothèque %1&#xa0;: %2. Les modifications ne seront pas enregistrées.</translation>
+    </message>
+    <message>
+        <source>Cannot save the library %1: %2.</source>
+        <translation>Impossible d’enregistrer la bibliothèque %1&#xa0;: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message numerus="yes">
+        <source>%n files that are no videos were skipped</source>
+        <translation>
+            <numerusform>%n fichier qui n’est pas une vidéo a été ignoré</numerusform>
+            <numerusform>%n fichiers qui ne sont pas des vidéos ont été ignorés</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Auto Reframe</source>
+        <translation>Auto Reframe</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>Menu</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>Importer…</translation>
+    </message>
+    <message>
+        <source>Reframe All…</source>
+        <translation>Tout recadrer…</translation>
+    </message>
+    <message>
+        <source>Auto Reframe…</source>
+        <translation>Auto Reframe…</translation>
+    </message>
+    <message>
+        <source>Add videos to the library</source>
+        <translation>Ajouter des vidéos à la bibliothèque</translation>
+    </message>
+    <message>
+        <source>Reframe all selected videos without looking at each</source>
+        <translation>Recadrer toutes les vidéos sélectionnées sans vérifier chacune</translation>
+    </message>
+    <message>
+        <source>Reframe the selected videos one after the other</source>
+        <translation>Recadrer les vidéos sélectionnées l’une après l’autre</translation>
+    </message>
+    <message>
+        <source>No videos yet</source>
+        <translation>Pas encore de vidéos</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n videos</source>
+        <translation>
+            <numerusform>%n vidéo</numerusform>
+            <numerusform>%n vidéos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n selected</source>
+        <translation>
+            <numerusform>%n sélectionnée</numerusform>
+            <numerusform>%n sélectionnées</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n exports are not finished. They are cancelled when you quit.</source>
+        <translation>
+            <numerusform>%n export n’est pas terminé. Il sera annulé si vous quittez.</numerusform>
+            <numerusform>%n exports ne sont pas terminés. Ils seront annulés si vous quittez.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Keep Exporting</source>
+        <translation>Continuer l’exportation</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Quitter</translation>
+    </message>
+    <message>
+        <source>All supported files</source>
+        <translation>Tous les fichiers pris en charge</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importer</translation>
+    </message>
+    <message>
+        <source>Import Folder</source>
+        <translation>Importer un dossier</translation>
+    </message>
+    <message>
+        <source>Import Folder…</source>
+        <translation>Importer un dossier…</translation>
+    </message>
+    <message>
+        <source>Open Recent</source>
+        <translation>Ouvrir un élément récent</translation>
+    </message>
+    <message>
+        <source>Save Crop Track…</source>
+        <translation>Enregistrer la piste de cadrage…</translation>
+    </message>
+    <message>
+        <source>Open Crop Track…</source>
+        <translation>Ouvrir une piste de cadrage…</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Langue</translation>
+    </message>
+    <message>
+        <source>Keyboard Shortcuts</source>
+        <translation>Raccourcis clavier</translation>
+    </message>
+    <message>
+        <source>About Auto Reframe</source>
+        <translation>À propos d’Auto Reframe</translation>
+    </message>
+    <message numerus="yes">
+        <source>… and %n more.</source>
+        <translation>
+            <numerusform>… et %n autre.</numerusform>
+            <numerusform>… et %n autres.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Find %1</source>
+        <translation>Rechercher %1</translation>
+    </message>
+    <message>
+        <source>The content of this file differs from that of %1.</source>
+        <translation>Le contenu de ce fichier diffère de celui de %1.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Use This File</source>
+        <translation>Utiliser ce fichier</translation>
+    </message>
+    <message>
+        <source>Your edits are kept, but may not fit this file.</source>
+        <translation>Vos modifications sont conservées, mais pourraient ne pas convenir à ce fichier.</translation>
+    </message>
+    <message>
+        <source>This computer may be too slow for the analysis. To try anyway, start it again.</source>
+        <translation>Cet ordinateur est peut-être trop lent pour l’analyse. Pour essayer quand même, la relancer.</translation>
+    </message>
+    <message>
+        <source>Continue with %1?</source>
+        <translation>Continuer avec %1&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Arrêter</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Continuer</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n selected videos are left.</source>
+        <translation>
+            <numerusform>Il reste %n vidéo sélectionnée.</numerusform>
+            <numerusform>Il reste %n vidéos sélectionnées.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 is no longer in the library. Import it to look at its shots.</source>
+        <translation>%1 n’est plus dans la bibliothèque. L’importer pour vérifier ses plans.</translation>
+    </message>
+    <message>
+        <source>Language of the System</source>
+        <translation>Langue du système</translation>
+    </message>
+    <message>
+        <source>The crop track was saved.</source>
+        <translation>La piste de cadrage a été enregistrée.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Show in Folder</source>
+        <translation>Afficher dans le dossier</translation>
+    </message>
+    <message>
+        <source>Open Crop Track</source>
+        <translation>Ouvrir une piste de cadrage</translation>
+    </message>
+    <message>
+        <source>Crop tracks</source>
+        <translation>Pistes de cadrage</translation>
+    </message>
+    <message>
+        <source>Export %1 with the crops of %2?</source>
+        <translation>Exporter %1 avec les cadres de %2&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Exporter</translation>
+    </message>
+    <message>
+        <source>%1, to %2</source>
+        <translation>%1, vers %2</translation>
+    </message>
+</context>
+<context>
+    <name>MediaBackendLoader</name>
+    <message>
+        <source>Cannot load the video engine: %1.</source>
+        <translation>Impossible de charger le moteur vidéo&#xa0;: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>MediaLibrary</name>
+    <message>
+        <source>There are no videos in %1.</source>
+        <translation>Il n’y a pas de vidéos dans %1.</translation>
+    </message>
+</context>
+<context>
+    <name>MediaLibraryModel</name>
+    <message>
+        <source>Drop videos here</source>
+        <translation>Déposer des vidéos ici</translation>
+    </message>
+    <message>
+        <source>%1 was not found. Right-click to find it.</source>
+        <translation>%1 est introuvable. Clic droit pour le rechercher.</translation>
+    </message>
+    <message>
+        <source>Opening…</source>
+        <translation>Ouverture…</translation>
+    </message>
+    <message>
+        <source>File not found</source>
+        <translation>Fichier introuvable</translation>
+    </message>
+</context>
+<context>
+    <name>MediaLibraryView</name>
+    <message>
+        <source>Videos</source>
+        <translation>Vidéos</translation>
+    </message>
+    <message>
+        <source>Find File…</source>
+        <translation>Rechercher le fichier…</translation>
+    </message>
+    <message>
+        <source>Auto Reframe…</source>
+        <translation>Auto Reframe…</translation>
+    </message>
+    <message>
+        <source>Reframe All…</source>
+        <translation>Tout recadrer…</translation>
+    </message>
+    <message>
+        <source>Save Crop Track…</source>
+        <translation>Enregistrer la piste de cadrage…</translation>
+    </message>
+    <message>
+        <source>Open Crop Track…</source>
+        <translation>Ouvrir une piste de cadrage…</translation>
+    </message>
+    <message>
+        <source>Show in folder</source>
+        <translation>Afficher dans le dossier</translation>
+    </message>
+    <message>
+        <source>Remove from library</source>
+        <translation>Retirer de la bibliothèque</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>Importer…</translation>
+    </message>
+    <message>
+        <source>Drop videos here</source>
+        <translation>Déposer des vidéos ici</translation>
+    </message>
+    <message>
+        <source>or click to choose files</source>
+        <translation>ou cliquer pour choisir des fichiers</translation>
+    </message>
+</context>
+<context>
+    <name>MediaLoader</name>
+    <message>
+        <source>Cannot open %1: %2.</source>
+        <translation>Impossible d’ouvrir %1&#xa0;: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>MediaText</name>
+    <message>
+        <source>%1 fps</source>
+        <translation>%1 i/s</translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation>%1 Mo</translation>
+    </message>
+    <message>
+        <source>%1 KB</source>
+        <translation>%1 Ko</translation>
+    </message>
+    <message>
+        <source>%1 s left</source>
+        <translation>%1 s restantes</translation>
+    </message>
+    <message>
+        <source>%1 min %2 s left</source>
+        <translation>%1 min %2 s restantes</translation>
+    </message>
+    <message>
+        <source>%1 h %2 min left</source>
+        <translation>%1 h %2 min restantes</translation>
+    </message>
+</context>
+<context>
+    <name>OutputNames</name>
+    <message>
+        <source>There is no %1. Use %2.</source>
+        <translation>%1 n’existe pas. Utiliser %2.</translation>
+    </message>
+    <message>
+        <source>Enter a file name.</source>
+        <translation>Saisir un nom de fichier.</translation>
+    </message>
+</context>
+<context>
+    <name>PreviewOverlay</name>
+    <message>
+        <source>Frame %1</source>
+        <translation>Image %1</translation>
+    </message>
+    <message>
+        <source>Shot %1 of %2</source>
+        <translation>Plan %1 sur %2</translation>
+    </message>
+    <message>
+        <source>confidence %1</source>
+        <translation>confiance %1</translation>
+    </message>
+</context>
+<context>
+    <name>QueueBar</name>
+    <message>
+        <source>%1 of %2 done</source>
+        <translation>%1 sur %2 terminés</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n failed</source>
+        <translation>
+            <numerusform>%n échec</numerusform>
+            <numerusform>%n échecs</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n done</source>
+        <translation>
+            <numerusform>%n terminé</numerusform>
+            <numerusform>%n terminés</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cancelled</source>
+        <translation>
+            <numerusform>%n annulé</numerusform>
+            <numerusform>%n annulés</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n to look at</source>
+        <translation>
+            <numerusform>%n à vérifier</numerusform>
+            <numerusform>%n à vérifier</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>En pause</translation>
+    </message>
+    <message>
+        <source>Progress of all exports</source>
+        <translation>Progression de tous les exports</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Continuer</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>Go on with the exports</source>
+        <translation>Reprendre les exports</translation>
+    </message>
+    <message>
+        <source>Interrupt the exports for a while</source>
+        <translation>Interrompre les exports pour un moment</translation>
+    </message>
+    <message>
+        <source>Cancel all</source>
+        <translation>Tout annuler</translation>
+    </message>
+    <message>
+        <source>Cancel all exports of Reframe All that are not done</source>
+        <translation>Annuler tous les exports de Tout recadrer qui ne sont pas terminés</translation>
+    </message>
+    <message>
+        <source>Retry failed</source>
+        <translation>Réessayer</translation>
+    </message>
+    <message>
+        <source>Export those that failed again</source>
+        <translation>Exporter à nouveau ceux qui ont échoué</translation>
+    </message>
+    <message>
+        <source>Look at them</source>
+        <translation>Les vérifier</translation>
+    </message>
+    <message>
+        <source>Open the first video that has doubtful shots</source>
+        <translation>Ouvrir la première vidéo qui a des plans douteux</translation>
+    </message>
+</context>
+<context>
+    <name>ReframeJob</name>
+    <message>
+        <source>%1: %2 analysed</source>
+        <translation>%1&#xa0;: %2 analysées</translation>
+    </message>
+    <message>
+        <source>%1: %2 -&gt; %3</source>
+        <translation>%1&#xa0;: %2 -&gt; %3</translation>
+    </message>
+    <message>
+        <source>1 frame</source>
+        <translation>1 image</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n frames</source>
+        <translation>
+            <numerusform>%n image</numerusform>
+            <numerusform>%n images</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Cannot reframe %1: it has no moving picture.</source>
+        <translation>Impossible de recadrer %1&#xa0;: le fichier n’a pas d’image animée.</translation>
+    </message>
+    <message>
+        <source>Cannot follow %1 in %2: %3.</source>
+        <translation>Impossible de suivre %1 dans %2&#xa0;: %3.</translation>
+    </message>
+    <message>
+        <source>Cannot write %1: it is one of the inputs.</source>
+        <translation>Impossible d’écrire %1&#xa0;: c’est l’une des entrées.</translation>
+    </message>
+    <message>
+        <source>Cannot reframe %1: it is too short (%2; 32 are needed).</source>
+        <translation>Impossible de recadrer %1&#xa0;: la vidéo est trop courte (%2&#xa0;; il en faut 32).</translation>
+    </message>
+    <message>
+        <source>Cannot reframe %1: it has the aspect ratio %2:%3 already.</source>
+        <translation>Impossible de recadrer %1&#xa0;: la vidéo est déjà au format %2:%3.</translation>
+    </message>
+    <message>
+        <source>Cannot use %1: it holds %2 of the %3 of %4.</source>
+        <translation>Impossible d’utiliser %1&#xa0;: %2 au lieu de %3 (%4).</translation>
+    </message>
+    <message>
+        <source>Cannot reframe %1: the analysis found nothing.</source>
+        <translation>Impossible de recadrer %1&#xa0;: l’analyse n’a rien trouvé.</translation>
+    </message>
+    <message>
+        <source>Cannot reframe %1: its picture of %2 x %3 pixels is too small.</source>
+        <translation>Impossible de recadrer %1&#xa0;: son image de %2 x %3 pixels est trop petite.</translation>
+    </message>
+    <message>
+        <source>Cannot draw the contact sheet of %1.</source>
+        <translation>Impossible de dessiner la planche-contact de %1.</translation>
+    </message>
+    <message>
+        <source>Cannot reframe %1: %2.</source>
+        <translation>Impossible de recadrer %1&#xa0;: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>ReframeProgram</name>
+    <message>
+        <source>Cannot reframe %1: %2.</source>
+        <translation>Impossible de recadrer %1&#xa0;: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>ReframeReporter</name>
+    <message>
+        <source>%1: analyzing %2 %%3</source>
+        <translation>%1&#xa0;: analyse %2&#xa0;%%3</translation>
+    </message>
+    <message>
+        <source>%1: drawing the preview %2 %%3</source>
+        <translation>%1&#xa0;: dessin de l’aperçu %2&#xa0;%%3</translation>
+    </message>
+    <message>
+        <source>%1: rendering %2 %%3</source>
+        <translation>%1&#xa0;: rendu %2&#xa0;%%3</translation>
+    </message>
+    <message>
+        <source>Warning: %1</source>
+        <translation>Avertissement&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Cannot write to standard output: %1.</source>
+        <translation>Impossible d’écrire sur la sortie standard&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>an error occurred</source>
+        <translation>une erreur s’est produite</translation>
+    </message>
+    <message>
+        <source>%1: interrupted.</source>
+        <translation>%1&#xa0;: interrompu.</translation>
+    </message>
+    <message>
+        <source>%1: interrupted after %2 was written.</source>
+        <translation>%1&#xa0;: interrompu après l’écriture de %2.</translation>
+    </message>
+</context>
+<context>
+    <name>SaveDialog</name>
+    <message>
+        <source>Cannot write to the folder %1.</source>
+        <translation>Impossible d’écrire dans le dossier %1.</translation>
+    </message>
+    <message>
+        <source>Save To</source>
+        <translation>Enregistrer dans</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+</context>
+<context>
+    <name>TimeLeft</name>
+    <message>
+        <source>, %1 s left</source>
+        <translation>, encore %1 s</translation>
+    </message>
+    <message>
+        <source>, %1 min %2 s left</source>
+        <translation>, encore %1 min %2 s</translation>
     </message>
 </context>
 </TS>
