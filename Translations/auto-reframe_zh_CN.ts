@@ -2,10 +2,2374 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en">
 <context>
+    <name>AboutDialog</name>
+    <message>
+        <source>About Auto Reframe</source>
+        <translation>关于 Auto Reframe</translation>
+    </message>
+    <message>
+        <source>Auto Reframe %1</source>
+        <translation>Auto Reframe %1</translation>
+    </message>
+    <message>
+        <source>Keeps the subject of a video in the picture. Everything runs on this computer.</source>
+        <translation>让视频的主体保持在画面中。一切都在本机上运行。</translation>
+    </message>
+    <message>
+        <source>Licences</source>
+        <translation>许可证</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+</context>
+<context>
+    <name>AnalysisPlot</name>
+    <message>
+        <source>left</source>
+        <translation>左</translation>
+    </message>
+    <message>
+        <source>top</source>
+        <translation>上</translation>
+    </message>
+    <message>
+        <source>right</source>
+        <translation>右</translation>
+    </message>
+    <message>
+        <source>bottom</source>
+        <translation>下</translation>
+    </message>
+    <message>
+        <source>The crop&apos;s path over the evidence</source>
+        <translation>裁剪框在线索图上的轨迹</translation>
+    </message>
+    <message>
+        <source>Evidence by signal</source>
+        <translation>各信号的线索</translation>
+    </message>
+    <message>
+        <source>strong</source>
+        <translation>强</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>无</translation>
+    </message>
+</context>
+<context>
+    <name>AnalysisReport</name>
+    <message>
+        <source>1 frame</source>
+        <translation>1 帧</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n frames</source>
+        <translation>
+            <numerusform>%n 帧</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The crop</source>
+        <translation>裁剪框</translation>
+    </message>
+    <message>
+        <source>Frames of the video with the crop drawn</source>
+        <translation>画有裁剪框的视频帧</translation>
+    </message>
+    <message>
+        <source>Path of the crop</source>
+        <translation>裁剪框的轨迹</translation>
+    </message>
+    <message>
+        <source>Time runs from left to right. The left of the picture is at the bottom, its right at the top. A brighter spot has more evidence.</source>
+        <translation>时间从左到右。画面左侧在下方，右侧在上方。越亮的位置线索越多。</translation>
+    </message>
+    <message>
+        <source>Time runs from left to right. The bottom of the picture is at the bottom, its top at the top. A brighter spot has more evidence.</source>
+        <translation>时间从左到右。画面底部在下方，顶部在上方。越亮的位置线索越多。</translation>
+    </message>
+    <message>
+        <source>centre of the crop</source>
+        <translation>裁剪框的中心</translation>
+    </message>
+    <message>
+        <source>edges of the crop</source>
+        <translation>裁剪框的边缘</translation>
+    </message>
+    <message>
+        <source>centre with the most evidence</source>
+        <translation>线索最多的中心</translation>
+    </message>
+    <message>
+        <source>start of a shot, numbered above</source>
+        <translation>镜头的开始，编号在上方</translation>
+    </message>
+    <message>
+        <source>Evidence by signal</source>
+        <translation>各信号的线索</translation>
+    </message>
+    <message>
+        <source>How much stronger each signal is at the centre with the most evidence than at an average place.</source>
+        <translation>与平均位置相比，各信号在线索最多的中心处强多少。</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>镜头</translation>
+    </message>
+    <message>
+        <source>Travel is the sum of all movements of the crop in the shot, in percent of the width of the picture. Confidence is the share of the evidence that the crop holds; where it is low, look at the shot.</source>
+        <translation>移动量是该镜头中裁剪框所有移动的总和，以画面宽度的百分比表示。置信度是裁剪框所含线索的比例；如果偏低，请查看该镜头。</translation>
+    </message>
+    <message>
+        <source>Travel is the sum of all movements of the crop in the shot, in percent of the height of the picture. Confidence is the share of the evidence that the crop holds; where it is low, look at the shot.</source>
+        <translation>移动量是该镜头中裁剪框所有移动的总和，以画面高度的百分比表示。置信度是裁剪框所含线索的比例；如果偏低，请查看该镜头。</translation>
+    </message>
+    <message>
+        <source>Shot</source>
+        <translation>镜头</translation>
+    </message>
+    <message>
+        <source>First frame</source>
+        <translation>第一帧</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>时间</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>长度</translation>
+    </message>
+    <message>
+        <source>Seconds</source>
+        <translation>秒</translation>
+    </message>
+    <message>
+        <source>Dominant signal</source>
+        <translation>主要信号</translation>
+    </message>
+    <message>
+        <source>Travel of the crop</source>
+        <translation>裁剪框移动量</translation>
+    </message>
+    <message>
+        <source>Confidence</source>
+        <translation>置信度</translation>
+    </message>
+    <message>
+        <source>%1 at %2:%3</source>
+        <translation>%1（%2:%3）</translation>
+    </message>
+    <message>
+        <source>File size</source>
+        <translation>文件大小</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>画面</translation>
+    </message>
+    <message>
+        <source>Frames per second</source>
+        <translation>每秒帧数</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1（%2）</translation>
+    </message>
+    <message>
+        <source>Crop</source>
+        <translation>裁剪框</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>速度</translation>
+    </message>
+    <message>
+        <source>fast</source>
+        <translation>快</translation>
+    </message>
+    <message>
+        <source>slow</source>
+        <translation>慢</translation>
+    </message>
+    <message>
+        <source>auto</source>
+        <translation>自动</translation>
+    </message>
+    <message>
+        <source>none: the crop is centred</source>
+        <translation>无：裁剪框居中</translation>
+    </message>
+    <message>
+        <source>%1, %2 %</source>
+        <translation>%1，%2%</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1%</translation>
+    </message>
+</context>
+<context>
+    <name>BatchDialog</name>
+    <message>
+        <source>Shorts, Reels, Stories</source>
+        <translation>短视频、Reels、快拍</translation>
+    </message>
+    <message>
+        <source>Feed, portrait</source>
+        <translation>信息流，竖版</translation>
+    </message>
+    <message>
+        <source>Feed, square</source>
+        <translation>信息流，方形</translation>
+    </message>
+    <message>
+        <source>Cinema</source>
+        <translation>电影</translation>
+    </message>
+    <message>
+        <source>Widescreen</source>
+        <translation>宽屏</translation>
+    </message>
+    <message>
+        <source>Classic television</source>
+        <translation>传统电视</translation>
+    </message>
+    <message>
+        <source>Auto</source>
+        <translation>自动</translation>
+    </message>
+    <message>
+        <source>Slow</source>
+        <translation>慢</translation>
+    </message>
+    <message>
+        <source>Fast</source>
+        <translation>快</translation>
+    </message>
+    <message>
+        <source>As large as the crop</source>
+        <translation>与裁剪框一样大</translation>
+    </message>
+    <message>
+        <source>Shorter side %1 pixels</source>
+        <translation>短边 %1 像素</translation>
+    </message>
+    <message>
+        <source>Choose an aspect ratio.</source>
+        <translation>请选择宽高比。</translation>
+    </message>
+    <message>
+        <source>Choose a folder.</source>
+        <translation>请选择文件夹。</translation>
+    </message>
+    <message>
+        <source>The selected videos have this aspect ratio already.</source>
+        <translation>所选视频已经是此宽高比。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files: %1</source>
+        <translation>
+            <numerusform>%n 个文件：%1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Reframe %n Videos</source>
+        <translation>
+            <numerusform>重新构图 %n 个视频</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Aspect Ratios</source>
+        <translation>宽高比</translation>
+    </message>
+    <message>
+        <source>Motion Speed</source>
+        <translation>运动速度</translation>
+    </message>
+    <message>
+        <source>How readily the crop follows the subject</source>
+        <translation>裁剪框跟随主体的快慢</translation>
+    </message>
+    <message>
+        <source>Output Size</source>
+        <translation>输出大小</translation>
+    </message>
+    <message>
+        <source>The size of the exported videos</source>
+        <translation>导出视频的大小</translation>
+    </message>
+    <message>
+        <source>File Name, with %1</source>
+        <translation>文件名，可用 %1</translation>
+    </message>
+    <message>
+        <source>What stands in braces is replaced for each file.</source>
+        <translation>花括号中的内容会按每个文件替换。</translation>
+    </message>
+    <message>
+        <source>The folder for the exported videos</source>
+        <translation>导出视频的文件夹</translation>
+    </message>
+    <message>
+        <source>Reframe All</source>
+        <translation>全部重新构图</translation>
+    </message>
+</context>
+<context>
+    <name>CropFinder</name>
+    <message>
+        <source>Cannot reframe %1: %2.</source>
+        <translation>无法对 %1 重新构图：%2。</translation>
+    </message>
+    <message>
+        <source>Cannot reframe %1: it has no moving picture.</source>
+        <translation>无法对 %1 重新构图：没有视频画面。</translation>
+    </message>
+    <message>
+        <source>Cannot use %1: it has the crops of %2 frames, and %3 has %4 frames.</source>
+        <translation>无法使用 %1：其中有 %2 帧的裁剪框，而 %3 有 %4 帧。</translation>
+    </message>
+    <message>
+        <source>Cannot reframe %1: it has the aspect ratio %2 already.</source>
+        <translation>无法对 %1 重新构图：宽高比已经是 %2。</translation>
+    </message>
+    <message>
+        <source>Cannot reframe %1: it has only %2 frames; %3 are needed.</source>
+        <translation>无法对 %1 重新构图：只有 %2 帧，需要 %3 帧。</translation>
+    </message>
+    <message>
+        <source>Cannot reframe %1: its picture of %2 x %3 pixels is too small.</source>
+        <translation>无法对 %1 重新构图：%2 x %3 像素的画面太小。</translation>
+    </message>
+</context>
+<context>
+    <name>CropTrackDialog</name>
+    <message>
+        <source>Enter a file name.</source>
+        <translation>请输入文件名。</translation>
+    </message>
+    <message>
+        <source>Choose a folder.</source>
+        <translation>请选择文件夹。</translation>
+    </message>
+    <message>
+        <source>Save Crop Track</source>
+        <translation>保存裁剪轨迹</translation>
+    </message>
+    <message>
+        <source>File Name</source>
+        <translation>文件名</translation>
+    </message>
+    <message>
+        <source>The file gets a number if there is one of this name</source>
+        <translation>如有同名文件，文件名会加上编号</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>格式</translation>
+    </message>
+    <message>
+        <source>The command line reads both</source>
+        <translation>命令行程序可读取这两种格式</translation>
+    </message>
+    <message>
+        <source>The folder for the crop track</source>
+        <translation>裁剪轨迹的文件夹</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+</context>
+<context>
+    <name>CropTrackFile</name>
+    <message>
+        <source>it is a folder</source>
+        <translation>这是文件夹</translation>
+    </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>不是普通文件</translation>
+    </message>
+    <message>
+        <source>Cannot open %1: %2.</source>
+        <translation>无法打开 %1：%2。</translation>
+    </message>
+    <message>
+        <source>Cannot use %1: it is too large for a crop track of a video of %2 frames.</source>
+        <translation>无法使用 %1：对于 %2 帧的视频，此裁剪轨迹太大。</translation>
+    </message>
+    <message>
+        <source>Cannot read %1: %2.</source>
+        <translation>无法读取 %1：%2。</translation>
+    </message>
+    <message>
+        <source>Cannot use %1: it holds no frames.</source>
+        <translation>无法使用 %1：其中没有任何帧。</translation>
+    </message>
+</context>
+<context>
+    <name>CropTrackParser</name>
+    <message>
+        <source>Cannot use %1: it is no crop track (line %2).</source>
+        <translation>无法使用 %1：不是裁剪轨迹（第 %2 行）。</translation>
+    </message>
+    <message>
+        <source>Cannot use %1: frame %2 is no rectangle inside the picture.</source>
+        <translation>无法使用 %1：第 %2 帧不是画面内的矩形。</translation>
+    </message>
+    <message>
+        <source>Cannot use %1: it holds more frames than the video, which has %2.</source>
+        <translation>无法使用 %1：其中的帧数超过视频的 %2 帧。</translation>
+    </message>
+    <message>
+        <source>Cannot use %1: it is a crop track of version %2, and this program reads version 1.</source>
+        <translation>无法使用 %1：这是版本 %2 的裁剪轨迹，本程序只能读取版本 1。</translation>
+    </message>
+</context>
+<context>
+    <name>CropWait</name>
+    <message>
+        <source>Auto Reframe</source>
+        <translation>Auto Reframe</translation>
+    </message>
+    <message>
+        <source>Analyzing %1</source>
+        <translation>正在分析 %1</translation>
+    </message>
+</context>
+<context>
+    <name>ExportCard</name>
+    <message numerus="yes">
+        <source>%n to look at</source>
+        <translation>
+            <numerusform>%n 个待查看</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Progress of %1</source>
+        <translation>%1 的进度</translation>
+    </message>
+    <message>
+        <source>Cancel %1</source>
+        <translation>取消 %1</translation>
+    </message>
+    <message>
+        <source>Retry %1</source>
+        <translation>重试 %1</translation>
+    </message>
+    <message>
+        <source>Look at the doubtful shots of %1</source>
+        <translation>查看 %1 中存疑的镜头</translation>
+    </message>
+    <message>
+        <source>Show %1 in its folder</source>
+        <translation>在文件夹中显示 %1</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1%</translation>
+    </message>
+    <message>
+        <source>Paused · %1</source>
+        <translation>已暂停 · %1</translation>
+    </message>
+    <message>
+        <source>Waiting</source>
+        <translation>等待中</translation>
+    </message>
+    <message>
+        <source>Analyzing · %1</source>
+        <translation>正在分析 · %1</translation>
+    </message>
+    <message>
+        <source>Cancelling…</source>
+        <translation>正在取消…</translation>
+    </message>
+    <message>
+        <source>Done · %1</source>
+        <translation>完成 · %1</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>已取消</translation>
+    </message>
+    <message>
+        <source>Not finished</source>
+        <translation>未完成</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>重试</translation>
+    </message>
+    <message>
+        <source>Show in folder</source>
+        <translation>在文件夹中显示</translation>
+    </message>
+    <message>
+        <source>Export it again</source>
+        <translation>重新导出</translation>
+    </message>
+    <message>
+        <source>Opens the video at these settings; N leads to its doubtful shots.</source>
+        <translation>以这些设置打开视频；按 N 键转到存疑的镜头。</translation>
+    </message>
+    <message>
+        <source>Show the file in its folder</source>
+        <translation>在文件夹中显示该文件</translation>
+    </message>
+    <message>
+        <source>Remove from list</source>
+        <translation>从列表中移除</translation>
+    </message>
+</context>
+<context>
+    <name>ExportPanel</name>
+    <message>
+        <source>Exports</source>
+        <translation>导出</translation>
+    </message>
+    <message>
+        <source>Clear finished</source>
+        <translation>清除已完成</translation>
+    </message>
+    <message>
+        <source>Resume</source>
+        <translation>继续</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>放弃</translation>
+    </message>
+    <message>
+        <source>Remove the finished exports from the list; their files stay</source>
+        <translation>从列表中移除已完成的导出；文件会保留</translation>
+    </message>
+    <message>
+        <source>Export those that the last run did not finish</source>
+        <translation>导出上次未完成的内容</translation>
+    </message>
+    <message>
+        <source>Remove those that the last run did not finish from the list</source>
+        <translation>从列表中移除上次未完成的内容</translation>
+    </message>
+    <message>
+        <source>Videos that you export from the Auto Reframe window appear here.</source>
+        <translation>从 Auto Reframe 窗口导出的视频会显示在这里。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n exports not finished</source>
+        <translation>
+            <numerusform>%n 个导出未完成</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ExportRecord</name>
+    <message>
+        <source>Cannot export: no name or no folder was given.</source>
+        <translation>无法导出：未指定名称或文件夹。</translation>
+    </message>
+    <message>
+        <source>Cannot export %1: no picture size was given.</source>
+        <translation>无法导出 %1：未指定画面大小。</translation>
+    </message>
+</context>
+<context>
+    <name>FollowOption</name>
+    <message>
+        <source>the video ends after %1 s</source>
+        <translation>视频在 %1 秒后结束</translation>
+    </message>
+    <message>
+        <source>it lies outside the picture of %1x%2 pixels</source>
+        <translation>位于 %1x%2 像素的画面之外</translation>
+    </message>
+</context>
+<context>
+    <name>FoundSignals</name>
+    <message>
+        <source>motion</source>
+        <translation>运动</translation>
+    </message>
+    <message>
+        <source>movers</source>
+        <translation>移动物</translation>
+    </message>
+    <message>
+        <source>saliency</source>
+        <translation>显著性</translation>
+    </message>
+    <message>
+        <source>faces</source>
+        <translation>人脸</translation>
+    </message>
+    <message>
+        <source>detected</source>
+        <translation>检测</translation>
+    </message>
+    <message>
+        <source>motion: what the camera&apos;s own movement does not explain</source>
+        <translation>运动：摄像机自身移动无法解释的部分</translation>
+    </message>
+    <message>
+        <source>movers: what travels through the shot, however small</source>
+        <translation>移动物：穿过镜头的物体，无论多小</translation>
+    </message>
+    <message>
+        <source>saliency: what stands out in a still picture</source>
+        <translation>显著性：静止画面中突出的部分</translation>
+    </message>
+    <message>
+        <source>detected: people and animals</source>
+        <translation>检测：人和动物</translation>
+    </message>
+    <message>
+        <source>it is not clear who speaks</source>
+        <translation>不清楚谁在说话</translation>
+    </message>
+    <message>
+        <source>who speaks is hardly clear</source>
+        <translation>不太清楚谁在说话</translation>
+    </message>
+    <message>
+        <source>nothing stands out</source>
+        <translation>没有突出的内容</translation>
+    </message>
+    <message>
+        <source>people or animals are in several places</source>
+        <translation>人或动物在多个位置</translation>
+    </message>
+    <message>
+        <source>what stands out is in several places</source>
+        <translation>突出的内容在多个位置</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1%</translation>
+    </message>
+    <message>
+        <source>holds who speaks</source>
+        <translation>保持在说话者上</translation>
+    </message>
+    <message>
+        <source>follows who speaks</source>
+        <translation>跟随说话者</translation>
+    </message>
+    <message>
+        <source>follows who speaks, with 1 cut</source>
+        <translation>跟随说话者，1 次切换</translation>
+    </message>
+    <message numerus="yes">
+        <source>follows who speaks, with %n cuts</source>
+        <translation>
+            <numerusform>跟随说话者，%n 次切换</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>HelpDialog</name>
+    <message>
+        <source>Import videos</source>
+        <translation>导入视频</translation>
+    </message>
+    <message>
+        <source>Select all videos</source>
+        <translation>选择所有视频</translation>
+    </message>
+    <message>
+        <source>Select several videos</source>
+        <translation>选择多个视频</translation>
+    </message>
+    <message>
+        <source>Ctrl+Click, Shift+Click</source>
+        <translation>Ctrl+单击、Shift+单击</translation>
+    </message>
+    <message>
+        <source>Reframe the selected video</source>
+        <translation>对所选视频重新构图</translation>
+    </message>
+    <message>
+        <source>Reframe all selected videos</source>
+        <translation>对所有所选视频重新构图</translation>
+    </message>
+    <message>
+        <source>Remove from the library</source>
+        <translation>从媒体库中移除</translation>
+    </message>
+    <message>
+        <source>Show this list</source>
+        <translation>显示此列表</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>退出</translation>
+    </message>
+    <message>
+        <source>Play, pause</source>
+        <translation>播放、暂停</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>后退</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>前进</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>撤销</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>重做</translation>
+    </message>
+    <message>
+        <source>Previous edit point</source>
+        <translation>上一个编辑点</translation>
+    </message>
+    <message>
+        <source>Next edit point</source>
+        <translation>下一个编辑点</translation>
+    </message>
+    <message>
+        <source>Delete the edit point</source>
+        <translation>删除编辑点</translation>
+    </message>
+    <message>
+        <source>Previous doubtful shot</source>
+        <translation>上一个存疑镜头</translation>
+    </message>
+    <message>
+        <source>Next doubtful shot</source>
+        <translation>下一个存疑镜头</translation>
+    </message>
+    <message>
+        <source>Move the crop by a pixel</source>
+        <translation>将裁剪框移动 1 像素</translation>
+    </message>
+    <message>
+        <source>Arrow keys</source>
+        <translation>方向键</translation>
+    </message>
+    <message>
+        <source>Move the crop by 10 pixels</source>
+        <translation>将裁剪框移动 10 像素</translation>
+    </message>
+    <message>
+        <source>Shift+Arrow keys</source>
+        <translation>Shift+方向键</translation>
+    </message>
+    <message>
+        <source>Point at the middle of the crop</source>
+        <translation>指向裁剪框中心</translation>
+    </message>
+    <message>
+        <source>Remove the box</source>
+        <translation>移除选框</translation>
+    </message>
+    <message>
+        <source>Library</source>
+        <translation>媒体库</translation>
+    </message>
+    <message>
+        <source>Auto Reframe Window</source>
+        <translation>Auto Reframe 窗口</translation>
+    </message>
+    <message>
+        <source>Keyboard Shortcuts</source>
+        <translation>键盘快捷键</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+</context>
+<context>
+    <name>HostMediaBackend</name>
+    <message>
+        <source>Cannot open %1: it has no moving picture.</source>
+        <translation>无法打开 %1：没有视频画面。</translation>
+    </message>
+</context>
+<context>
     <name>KrAutoReframeDialog</name>
     <message>
         <source>AutoReframe_Exit</source>
         <translation>退出</translation>
+    </message>
+    <message>
+        <source>Auto Reframe</source>
+        <translation>Auto Reframe</translation>
+    </message>
+    <message>
+        <source>Analysis error. Please try again.</source>
+        <translation>分析出错。请重试。</translation>
+    </message>
+    <message>
+        <source>This video is too short. Please try a different video.</source>
+        <translation>此视频太短。请尝试其他视频。</translation>
+    </message>
+    <message>
+        <source>You&apos;ve chosen the same aspect ratio as the original video. Please select a different aspect ratio.</source>
+        <translation>所选宽高比与原视频相同。请选择其他宽高比。</translation>
+    </message>
+    <message>
+        <source>Converting video. Please wait...</source>
+        <translation>正在转换视频，请稍候...</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to exit?</source>
+        <translation>确定要退出吗？</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>否</translation>
+    </message>
+    <message>
+        <source>All supported files(%1;);</source>
+        <translation>所有支持的文件(%1;);</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>打开</translation>
+    </message>
+    <message>
+        <source>Unknown error, please try again</source>
+        <translation>未知错误，请重试</translation>
+    </message>
+</context>
+<context>
+    <name>KrAutoReframeExportDlg</name>
+    <message>
+        <source>Export to MP4</source>
+        <translation>导出为 MP4</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>导出</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>名称：</translation>
+    </message>
+    <message>
+        <source>Save to:</source>
+        <translation>保存到：</translation>
+    </message>
+    <message>
+        <source>Please make sure you have selected a valid folder.</source>
+        <translation>请确保选择了有效的文件夹。</translation>
+    </message>
+    <message>
+        <source>Please check write permission, or choose another path to continue.</source>
+        <translation>请检查写入权限，或选择其他位置。</translation>
+    </message>
+    <message>
+        <source>The outputted file path is too long, please choose another path to continue.</source>
+        <translation>输出文件路径太长，请选择其他位置。</translation>
+    </message>
+    <message>
+        <source>There is not enough space in the specified output directory, please choose another one.
+Dise Space needed :%1 MB, remaining:%2 MB.</source>
+        <translation>指定的输出文件夹空间不足，请选择其他文件夹。
+所需空间：%1 MB，剩余：%2 MB。</translation>
+    </message>
+</context>
+<context>
+    <name>KrAutoReframePlayerControlBar</name>
+    <message>
+        <source>Backward (%1)</source>
+        <translation>后退 (%1)</translation>
+    </message>
+    <message>
+        <source>Forward (%1)</source>
+        <translation>前进 (%1)</translation>
+    </message>
+    <message>
+        <source>Stop (%1)</source>
+        <translation>停止 (%1)</translation>
+    </message>
+    <message>
+        <source>Play (%1)</source>
+        <translation>播放 (%1)</translation>
+    </message>
+    <message>
+        <source>Pause (%1)</source>
+        <translation>暂停 (%1)</translation>
+    </message>
+    <message>
+        <source>Undo (%1)</source>
+        <translation>撤销 (%1)</translation>
+    </message>
+    <message>
+        <source>Redo (%1)</source>
+        <translation>重做 (%1)</translation>
+    </message>
+    <message>
+        <source>Delete (%1)</source>
+        <translation>删除 (%1)</translation>
+    </message>
+    <message>
+        <source>Previous Edit Point (%1)</source>
+        <translation>上一个编辑点 (%1)</translation>
+    </message>
+    <message>
+        <source>Next Edit Point (%1)</source>
+        <translation>下一个编辑点 (%1)</translation>
+    </message>
+</context>
+<context>
+    <name>KrAutoReframePropertyPanel</name>
+    <message>
+        <source>Auto</source>
+        <translation>自动</translation>
+    </message>
+    <message>
+        <source>Fast</source>
+        <translation>快</translation>
+    </message>
+    <message>
+        <source>Slow</source>
+        <translation>慢</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>导入</translation>
+    </message>
+    <message>
+        <source>Replace File</source>
+        <translation>替换文件</translation>
+    </message>
+    <message>
+        <source>Adjust Frame</source>
+        <translation>调整画面</translation>
+    </message>
+    <message>
+        <source>Aspect Ratio</source>
+        <translation>宽高比</translation>
+    </message>
+    <message>
+        <source>Motion Speed</source>
+        <translation>运动速度</translation>
+    </message>
+    <message>
+        <source>Analyze</source>
+        <translation>分析</translation>
+    </message>
+    <message>
+        <source>AutoReframe_Restart</source>
+        <translation>重新分析</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>导出</translation>
+    </message>
+</context>
+<context>
+    <name>KrCropKeys</name>
+    <message>
+        <source>Picture</source>
+        <translation>画面</translation>
+    </message>
+    <message>
+        <source>The arrow keys move the crop, with Shift in larger steps.</source>
+        <translation>方向键移动裁剪框，按住 Shift 键步幅更大。</translation>
+    </message>
+</context>
+<context>
+    <name>KrDialogExtension</name>
+    <message>
+        <source>The crop follows your choice</source>
+        <translation>裁剪框跟随您的选择</translation>
+    </message>
+    <message>
+        <source>The crop avoids your choice</source>
+        <translation>裁剪框避开您的选择</translation>
+    </message>
+    <message>
+        <source>The crop is held</source>
+        <translation>裁剪框保持不动</translation>
+    </message>
+    <message>
+        <source>The whole picture is shown</source>
+        <translation>显示整个画面</translation>
+    </message>
+    <message>
+        <source>The analysis decides</source>
+        <translation>由分析决定</translation>
+    </message>
+    <message>
+        <source>Lost from %1: point again</source>
+        <translation>从 %1 起丢失：请重新指定</translation>
+    </message>
+    <message>
+        <source>Settings changed: analyze again</source>
+        <translation>设置已更改：请重新分析</translation>
+    </message>
+</context>
+<context>
+    <name>KrDoubtfulShots</name>
+    <message>
+        <source>Previous Doubtful Shot (%1)</source>
+        <translation>上一个存疑镜头 (%1)</translation>
+    </message>
+    <message>
+        <source>Next Doubtful Shot (%1)</source>
+        <translation>下一个存疑镜头 (%1)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n shots to look at</source>
+        <translation>
+            <numerusform>%n 个镜头中 %1 个待查看</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>All doubtful shots seen</source>
+        <translation>所有存疑镜头均已查看</translation>
+    </message>
+    <message>
+        <source>Shot %1 of %2</source>
+        <translation>镜头 %1 / %2</translation>
+    </message>
+    <message>
+        <source>nothing stands out</source>
+        <translation>没有突出的内容</translation>
+    </message>
+    <message>
+        <source>what stands out is in several places, far apart</source>
+        <translation>突出的内容在多个位置，相距较远</translation>
+    </message>
+    <message>
+        <source>several people or animals, far apart</source>
+        <translation>多个人或动物，相距较远</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+</context>
+<context>
+    <name>KrExportStatus</name>
+    <message>
+        <source>Progress of the export</source>
+        <translation>导出进度</translation>
+    </message>
+    <message>
+        <source>The size of the exported video in pixels.</source>
+        <translation>导出视频的像素大小。</translation>
+    </message>
+    <message>
+        <source>Show in Folder</source>
+        <translation>在文件夹中显示</translation>
+    </message>
+    <message>
+        <source>Opens the folder of the exported video.</source>
+        <translation>打开导出视频所在的文件夹。</translation>
+    </message>
+    <message>
+        <source>Output: %1 × %2</source>
+        <translation>输出：%1 × %2</translation>
+    </message>
+    <message>
+        <source>Waiting in the export queue</source>
+        <translation>在导出队列中等待</translation>
+    </message>
+    <message>
+        <source>Exporting: %1 %</source>
+        <translation>正在导出：%1%</translation>
+    </message>
+    <message>
+        <source>Exported</source>
+        <translation>已导出</translation>
+    </message>
+    <message>
+        <source>Export cancelled</source>
+        <translation>导出已取消</translation>
+    </message>
+</context>
+<context>
+    <name>KrFollowControls</name>
+    <message>
+        <source>This looks like background</source>
+        <translation>这看起来像背景</translation>
+    </message>
+    <message>
+        <source>Hold the Crop Here in This Shot</source>
+        <translation>在此镜头中将裁剪框固定在这里</translation>
+    </message>
+    <message>
+        <source>Follow This Anyway</source>
+        <translation>仍然跟随它</translation>
+    </message>
+    <message>
+        <source>Follow This</source>
+        <translation>跟随它</translation>
+    </message>
+    <message>
+        <source>Not This</source>
+        <translation>不是它</translation>
+    </message>
+    <message>
+        <source>Hold the Crop in This Shot</source>
+        <translation>在此镜头中固定裁剪框</translation>
+    </message>
+    <message>
+        <source>Show the Whole Picture in This Shot</source>
+        <translation>在此镜头中显示整个画面</translation>
+    </message>
+    <message>
+        <source>Back to Automatic</source>
+        <translation>恢复自动</translation>
+    </message>
+</context>
+<context>
+    <name>KrMessageDialog</name>
+    <message>
+        <source>Auto Reframe</source>
+        <translation>Auto Reframe</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>是</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>否</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
+</context>
+<context>
+    <name>KrRatioComparison</name>
+    <message>
+        <source>Compare Aspect Ratios</source>
+        <translation>比较宽高比</translation>
+    </message>
+</context>
+<context>
+    <name>KrRatioPane</name>
+    <message>
+        <source>Result in %1:%2</source>
+        <translation>%1:%2 的结果</translation>
+    </message>
+    <message>
+        <source>%1:%2</source>
+        <translation>%1:%2</translation>
+    </message>
+    <message>
+        <source>%1 · finding the crop…</source>
+        <translation>%1 · 正在查找裁剪框…</translation>
+    </message>
+    <message>
+        <source>%1 · %2 × %3</source>
+        <translation>%1 · %2 × %3</translation>
+    </message>
+    <message>
+        <source>%1 · analyze the video again</source>
+        <translation>%1 · 请重新分析视频</translation>
+    </message>
+</context>
+<context>
+    <name>KrViewMenu</name>
+    <message>
+        <source>View</source>
+        <translation>视图</translation>
+    </message>
+    <message>
+        <source>Safe Zones</source>
+        <translation>安全区域</translation>
+    </message>
+    <message>
+        <source>Dims what players of vertical videos cover with texts and buttons. For 9:16 only.</source>
+        <translation>将竖版视频播放器中被文字和按钮遮挡的部分变暗。仅适用于 9:16。</translation>
+    </message>
+    <message>
+        <source>Thirds</source>
+        <translation>三分线</translation>
+    </message>
+    <message>
+        <source>A grid that divides the result into thirds.</source>
+        <translation>将结果三等分的网格。</translation>
+    </message>
+    <message>
+        <source>Headroom</source>
+        <translation>头部空间</translation>
+    </message>
+    <message>
+        <source>The band in which the top of a head belongs.</source>
+        <translation>头顶应处于的区域。</translation>
+    </message>
+    <message>
+        <source>Compare Aspect Ratios…</source>
+        <translation>比较宽高比…</translation>
+    </message>
+    <message>
+        <source>Shows the results of several aspect ratios side by side.</source>
+        <translation>并排显示多个宽高比的结果。</translation>
+    </message>
+</context>
+<context>
+    <name>KxAudioReader</name>
+    <message>
+        <source>it has no such sound track</source>
+        <translation>没有该音轨</translation>
+    </message>
+</context>
+<context>
+    <name>KxAudioTrack</name>
+    <message>
+        <source>its sound format (%1) is not supported</source>
+        <translation>不支持其声音格式（%1）</translation>
+    </message>
+    <message>
+        <source>its sound is damaged</source>
+        <translation>声音已损坏</translation>
+    </message>
+</context>
+<context>
+    <name>KxAvError</name>
+    <message>
+        <source>it was cancelled</source>
+        <translation>已取消</translation>
+    </message>
+    <message>
+        <source>it ends too early</source>
+        <translation>提前结束</translation>
+    </message>
+    <message>
+        <source>it is damaged</source>
+        <translation>已损坏</translation>
+    </message>
+    <message>
+        <source>its format is not supported</source>
+        <translation>不支持其格式</translation>
+    </message>
+</context>
+<context>
+    <name>KxFittedCutter</name>
+    <message>
+        <source>Cannot cut a picture: the rectangle to cut out is empty.</source>
+        <translation>无法裁剪画面：要裁剪的矩形为空。</translation>
+    </message>
+    <message>
+        <source>Cannot cut a picture: memory ran out.</source>
+        <translation>无法裁剪画面：内存不足。</translation>
+    </message>
+</context>
+<context>
+    <name>KxFrameCutter</name>
+    <message>
+        <source>Cannot cut a picture: the rectangle to cut out is empty.</source>
+        <translation>无法裁剪画面：要裁剪的矩形为空。</translation>
+    </message>
+    <message>
+        <source>Cannot cut a picture: its pixel format &quot;%1&quot; cannot be converted.</source>
+        <translation>无法裁剪画面：无法转换像素格式“%1”。</translation>
+    </message>
+    <message>
+        <source>Cannot cut a picture: memory ran out.</source>
+        <translation>无法裁剪画面：内存不足。</translation>
+    </message>
+    <message>
+        <source>Cannot cut a picture: it cannot be scaled from %1 x %2 to %3 x %4.</source>
+        <translation>无法裁剪画面：无法从 %1 x %2 缩放到 %3 x %4。</translation>
+    </message>
+</context>
+<context>
+    <name>KxInputFile</name>
+    <message>
+        <source>it is a single picture, not a video</source>
+        <translation>这是单张图片，不是视频</translation>
+    </message>
+    <message>
+        <source>it is a list of other files, not a video</source>
+        <translation>这是其他文件的列表，不是视频</translation>
+    </message>
+    <message>
+        <source>it is not a video file</source>
+        <translation>不是视频文件</translation>
+    </message>
+    <message>
+        <source>it has more than %1 streams</source>
+        <translation>超过 %1 个流</translation>
+    </message>
+    <message>
+        <source>Cannot open %1: %2.</source>
+        <translation>无法打开 %1：%2。</translation>
+    </message>
+    <message>
+        <source>it was cancelled</source>
+        <translation>已取消</translation>
+    </message>
+    <message>
+        <source>reading it takes too long</source>
+        <translation>读取时间过长</translation>
+    </message>
+    <message>
+        <source>it is damaged or incomplete</source>
+        <translation>已损坏或不完整</translation>
+    </message>
+    <message>
+        <source>it is a link to a file that does not exist</source>
+        <translation>链接指向的文件不存在</translation>
+    </message>
+    <message>
+        <source>there is no such file</source>
+        <translation>没有该文件</translation>
+    </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>这是文件夹</translation>
+    </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>不是普通文件</translation>
+    </message>
+    <message>
+        <source>permission is denied</source>
+        <translation>权限被拒绝</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>文件为空</translation>
+    </message>
+    <message>
+        <source>its pictures are too large (%1 x %2)</source>
+        <translation>画面太大（%1 x %2）</translation>
+    </message>
+    <message>
+        <source>it has sound but no moving picture</source>
+        <translation>有声音但没有视频画面</translation>
+    </message>
+    <message>
+        <source>it has no moving picture</source>
+        <translation>没有视频画面</translation>
+    </message>
+</context>
+<context>
+    <name>KxLanguage</name>
+    <message>
+        <source>Language of the texts: %1. Otherwise that of the system.</source>
+        <translation>文本的语言：%1。默认为系统语言。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an available language; choose one of %2.</source>
+        <translation>“%1”不是可用的语言；请选择 %2 之一。</translation>
+    </message>
+</context>
+<context>
+    <name>KxMediaLibraryUtils</name>
+    <message>
+        <source>Cannot open %1: it has no moving picture.</source>
+        <translation>无法打开 %1：没有视频画面。</translation>
+    </message>
+</context>
+<context>
+    <name>KxMediaPlayerPresenter</name>
+    <message>
+        <source>Cannot show the timeline: it holds no video.</source>
+        <translation>无法显示时间线：其中没有视频。</translation>
+    </message>
+    <message>
+        <source>Cannot show %1: %2.</source>
+        <translation>无法显示 %1：%2。</translation>
+    </message>
+    <message>
+        <source>its pictures cannot be decoded</source>
+        <translation>无法解码其画面</translation>
+    </message>
+</context>
+<context>
+    <name>KxMessageBox</name>
+    <message>
+        <source>Do not show this again</source>
+        <translation>不再显示</translation>
+    </message>
+</context>
+<context>
+    <name>KxOpenFileLineEdit</name>
+    <message>
+        <source>Folder</source>
+        <translation>文件夹</translation>
+    </message>
+    <message>
+        <source>Choose a folder</source>
+        <translation>选择文件夹</translation>
+    </message>
+</context>
+<context>
+    <name>KxOpenFileName</name>
+    <message>
+        <source>All files(%1)</source>
+        <translation>所有文件(%1)</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>打开</translation>
+    </message>
+</context>
+<context>
+    <name>KxOutputFile</name>
+    <message>
+        <source>Cannot write %1: %2.</source>
+        <translation>无法写入 %1：%2。</translation>
+    </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>这是文件夹</translation>
+    </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>不是普通文件</translation>
+    </message>
+    <message>
+        <source>no free name was found in its folder</source>
+        <translation>在其文件夹中找不到可用的名称</translation>
+    </message>
+    <message>
+        <source>the folder %1 does not exist</source>
+        <translation>文件夹 %1 不存在</translation>
+    </message>
+    <message>
+        <source>%1 is not a folder</source>
+        <translation>%1 不是文件夹</translation>
+    </message>
+</context>
+<context>
+    <name>KxPictureFeed</name>
+    <message>
+        <source>Cannot render %1: %2.</source>
+        <translation>无法渲染 %1：%2。</translation>
+    </message>
+    <message>
+        <source>Cannot render %1 at frame %2. %3</source>
+        <translation>无法渲染 %1 的第 %2 帧。%3</translation>
+    </message>
+    <message>
+        <source>Memory ran out.</source>
+        <translation>内存不足。</translation>
+    </message>
+</context>
+<context>
+    <name>KxPlayerToolBarBase</name>
+    <message>
+        <source>Play (%1)</source>
+        <translation>播放 (%1)</translation>
+    </message>
+    <message>
+        <source>Pause (%1)</source>
+        <translation>暂停 (%1)</translation>
+    </message>
+    <message>
+        <source>Stop (%1)</source>
+        <translation>停止 (%1)</translation>
+    </message>
+    <message>
+        <source>Backward (%1)</source>
+        <translation>后退 (%1)</translation>
+    </message>
+    <message>
+        <source>Forward (%1)</source>
+        <translation>前进 (%1)</translation>
+    </message>
+    <message>
+        <source>Play or pause</source>
+        <translation>播放或暂停</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>Backward</source>
+        <translation>后退</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>前进</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>位置</translation>
+    </message>
+</context>
+<context>
+    <name>KxProgressDialog</name>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+</context>
+<context>
+    <name>KxRenderSource</name>
+    <message>
+        <source>Cannot render the timeline: it shows no file.</source>
+        <translation>无法渲染时间线：其中没有文件。</translation>
+    </message>
+</context>
+<context>
+    <name>KxRenderer</name>
+    <message>
+        <source>Cannot write %1: %2.</source>
+        <translation>无法写入 %1：%2。</translation>
+    </message>
+    <message>
+        <source>a resolution of %1 x %2 is not possible</source>
+        <translation>不支持 %1 x %2 的分辨率</translation>
+    </message>
+    <message>
+        <source>it is the very file that is rendered</source>
+        <translation>这正是要渲染的文件</translation>
+    </message>
+    <message>
+        <source>The sound is left out. %1</source>
+        <translation>声音已省略。%1</translation>
+    </message>
+    <message>
+        <source>Cannot render %1: it is damaged.</source>
+        <translation>无法渲染 %1：已损坏。</translation>
+    </message>
+    <message>
+        <source>%1 is damaged or incomplete: only %2 of %3 frames could be rendered.</source>
+        <translation>%1 已损坏或不完整：%3 帧中只渲染了 %2 帧。</translation>
+    </message>
+    <message>
+        <source>The sound of %1 is damaged and ends early.</source>
+        <translation>%1 的声音已损坏并提前结束。</translation>
+    </message>
+    <message>
+        <source>%1 frames a second are not possible</source>
+        <translation>不支持每秒 %1 帧</translation>
+    </message>
+    <message>
+        <source>Cannot render %1: %2.</source>
+        <translation>无法渲染 %1：%2。</translation>
+    </message>
+</context>
+<context>
+    <name>KxSystemError</name>
+    <message>
+        <source>the file would become too large for its disk</source>
+        <translation>文件会超过磁盘允许的大小</translation>
+    </message>
+    <message>
+        <source>there is no such file</source>
+        <translation>没有该文件</translation>
+    </message>
+    <message>
+        <source>permission is denied</source>
+        <translation>权限被拒绝</translation>
+    </message>
+    <message>
+        <source>the disk can only be read</source>
+        <translation>磁盘为只读</translation>
+    </message>
+    <message>
+        <source>the disk reports an error</source>
+        <translation>磁盘报告错误</translation>
+    </message>
+    <message>
+        <source>memory ran out</source>
+        <translation>内存不足</translation>
+    </message>
+    <message>
+        <source>too many files are open</source>
+        <translation>打开的文件太多</translation>
+    </message>
+    <message>
+        <source>its name is too long</source>
+        <translation>名称太长</translation>
+    </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>这是文件夹</translation>
+    </message>
+    <message>
+        <source>its reader has gone</source>
+        <translation>读取方已退出</translation>
+    </message>
+    <message>
+        <source>it is in use</source>
+        <translation>正在使用中</translation>
+    </message>
+    <message>
+        <source>the disk is full</source>
+        <translation>磁盘已满</translation>
+    </message>
+</context>
+<context>
+    <name>KxSystemFile</name>
+    <message>
+        <source>another program has it open</source>
+        <translation>另一个程序已将其打开</translation>
+    </message>
+</context>
+<context>
+    <name>KxThread</name>
+    <message>
+        <source>memory ran out</source>
+        <translation>内存不足</translation>
+    </message>
+    <message>
+        <source>an unknown error occurred</source>
+        <translation>发生未知错误</translation>
+    </message>
+</context>
+<context>
+    <name>KxThumbnailPicture</name>
+    <message>
+        <source>Cannot show %1: no picture could be read.</source>
+        <translation>无法显示 %1：读取不到画面。</translation>
+    </message>
+</context>
+<context>
+    <name>KxThumbnailer</name>
+    <message>
+        <source>Cannot show %1: %2.</source>
+        <translation>无法显示 %1：%2。</translation>
+    </message>
+</context>
+<context>
+    <name>KxToneMapper</name>
+    <message>
+        <source>Cannot convert a picture of high dynamic range: %1.</source>
+        <translation>无法转换高动态范围画面：%1。</translation>
+    </message>
+    <message>
+        <source>it yields no picture</source>
+        <translation>没有产生画面</translation>
+    </message>
+</context>
+<context>
+    <name>KxTopLevelWindowTitleBar</name>
+    <message>
+        <source>Restore</source>
+        <translation>还原</translation>
+    </message>
+    <message>
+        <source>Maximize</source>
+        <translation>最大化</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>最小化</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+</context>
+<context>
+    <name>KxVideoDecoder</name>
+    <message>
+        <source>its video format (%1) is not supported</source>
+        <translation>不支持其视频格式（%1）</translation>
+    </message>
+    <message>
+        <source>its video stream is damaged</source>
+        <translation>视频流已损坏</translation>
+    </message>
+</context>
+<context>
+    <name>KxVideoSource</name>
+    <message>
+        <source>it was cancelled</source>
+        <translation>已取消</translation>
+    </message>
+    <message>
+        <source>it is damaged</source>
+        <translation>已损坏</translation>
+    </message>
+    <message>
+        <source>no picture of it can be decoded, it is damaged</source>
+        <translation>无法解码任何画面，已损坏</translation>
+    </message>
+    <message>
+        <source>it is a single picture, not a video</source>
+        <translation>这是单张图片，不是视频</translation>
+    </message>
+    <message>
+        <source>it cannot be read from the start again</source>
+        <translation>无法从头重新读取</translation>
+    </message>
+    <message>
+        <source>its time stamps are damaged</source>
+        <translation>时间戳已损坏</translation>
+    </message>
+</context>
+<context>
+    <name>KxWindowsNames</name>
+    <message>
+        <source>its name contains a control character</source>
+        <translation>名称包含控制字符</translation>
+    </message>
+    <message>
+        <source>a name cannot contain the character %1</source>
+        <translation>名称不能包含字符 %1</translation>
+    </message>
+    <message>
+        <source>%1 is the name of a device</source>
+        <translation>%1 是设备名称</translation>
+    </message>
+    <message>
+        <source>a name cannot end with a dot or a space</source>
+        <translation>名称不能以句点或空格结尾</translation>
+    </message>
+    <message>
+        <source>its name is too long</source>
+        <translation>名称太长</translation>
+    </message>
+</context>
+<context>
+    <name>LibraryConnection</name>
+    <message>
+        <source>another program is using it</source>
+        <translation>另一个程序正在使用</translation>
+    </message>
+    <message>
+        <source>it is write-protected</source>
+        <translation>有写保护</translation>
+    </message>
+    <message>
+        <source>the disk cannot be read or written</source>
+        <translation>无法读写磁盘</translation>
+    </message>
+    <message>
+        <source>it is damaged</source>
+        <translation>已损坏</translation>
+    </message>
+    <message>
+        <source>the disk is full</source>
+        <translation>磁盘已满</translation>
+    </message>
+    <message>
+        <source>it cannot be opened</source>
+        <translation>无法打开</translation>
+    </message>
+</context>
+<context>
+    <name>LibraryOpening</name>
+    <message>
+        <source>Cannot open the library %1: %2. What you do now is not saved.</source>
+        <translation>无法打开媒体库 %1：%2。您现在的操作不会被保存。</translation>
+    </message>
+    <message>
+        <source>its backup %1 cannot be written</source>
+        <translation>无法写入其备份 %1</translation>
+    </message>
+    <message>
+        <source>it was written by a newer version of this program</source>
+        <translation>由本程序的更新版本写入</translation>
+    </message>
+    <message>
+        <source>its folder cannot be made</source>
+        <translation>无法创建其文件夹</translation>
+    </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>不是普通文件</translation>
+    </message>
+    <message>
+        <source>another program is opening it</source>
+        <translation>另一个程序正在打开它</translation>
+    </message>
+    <message>
+        <source>its folder cannot be written to</source>
+        <translation>无法写入其文件夹</translation>
+    </message>
+    <message>
+        <source>it is damaged, and it cannot be renamed</source>
+        <translation>已损坏且无法重命名</translation>
+    </message>
+    <message>
+        <source>The library was damaged. It was renamed to %1, and a new one was begun.</source>
+        <translation>媒体库已损坏。已将其重命名为 %1，并新建了一个。</translation>
+    </message>
+</context>
+<context>
+    <name>LibraryStore</name>
+    <message>
+        <source>Cannot read the library %1: %2. What you do now is not saved.</source>
+        <translation>无法读取媒体库 %1：%2。您现在的操作不会被保存。</translation>
+    </message>
+    <message>
+        <source>Cannot save the library %1: %2.</source>
+        <translation>无法保存媒体库 %1：%2。</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message numerus="yes">
+        <source>%n files that are no videos were skipped</source>
+        <translation>
+            <numerusform>已跳过 %n 个非视频文件</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Auto Reframe</source>
+        <translation>Auto Reframe</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>菜单</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>导入…</translation>
+    </message>
+    <message>
+        <source>Reframe All…</source>
+        <translation>全部重新构图…</translation>
+    </message>
+    <message>
+        <source>Auto Reframe…</source>
+        <translation>Auto Reframe…</translation>
+    </message>
+    <message>
+        <source>Add videos to the library</source>
+        <translation>将视频添加到媒体库</translation>
+    </message>
+    <message>
+        <source>Reframe all selected videos without looking at each</source>
+        <translation>对所有所选视频重新构图，无需逐个查看</translation>
+    </message>
+    <message>
+        <source>Reframe the selected videos one after the other</source>
+        <translation>逐个对所选视频重新构图</translation>
+    </message>
+    <message>
+        <source>No videos yet</source>
+        <translation>还没有视频</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n videos</source>
+        <translation>
+            <numerusform>%n 个视频</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n selected</source>
+        <translation>
+            <numerusform>已选择 %n 个</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n exports are not finished. They are cancelled when you quit.</source>
+        <translation>
+            <numerusform>%n 个导出未完成。退出时将被取消。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Keep Exporting</source>
+        <translation>继续导出</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>退出</translation>
+    </message>
+    <message>
+        <source>All supported files</source>
+        <translation>所有支持的文件</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>导入</translation>
+    </message>
+    <message>
+        <source>Import Folder</source>
+        <translation>导入文件夹</translation>
+    </message>
+    <message>
+        <source>Import Folder…</source>
+        <translation>导入文件夹…</translation>
+    </message>
+    <message>
+        <source>Open Recent</source>
+        <translation>打开最近使用</translation>
+    </message>
+    <message>
+        <source>Save Crop Track…</source>
+        <translation>保存裁剪轨迹…</translation>
+    </message>
+    <message>
+        <source>Open Crop Track…</source>
+        <translation>打开裁剪轨迹…</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>语言</translation>
+    </message>
+    <message>
+        <source>Keyboard Shortcuts</source>
+        <translation>键盘快捷键</translation>
+    </message>
+    <message>
+        <source>About Auto Reframe</source>
+        <translation>关于 Auto Reframe</translation>
+    </message>
+    <message numerus="yes">
+        <source>… and %n more.</source>
+        <translation>
+            <numerusform>… 还有 %n 个。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Find %1</source>
+        <translation>查找 %1</translation>
+    </message>
+    <message>
+        <source>The content of this file differs from that of %1.</source>
+        <translation>此文件的内容与 %1 不同。</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Use This File</source>
+        <translation>使用此文件</translation>
+    </message>
+    <message>
+        <source>Your edits are kept, but may not fit this file.</source>
+        <translation>您的编辑会保留，但可能不适合此文件。</translation>
+    </message>
+    <message>
+        <source>This computer may be too slow for the analysis. To try anyway, start it again.</source>
+        <translation>这台计算机进行分析可能太慢。如仍要尝试，请再次启动分析。</translation>
+    </message>
+    <message>
+        <source>Continue with %1?</source>
+        <translation>继续处理 %1？</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>继续</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n selected videos are left.</source>
+        <translation>
+            <numerusform>还剩 %n 个所选视频。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 is no longer in the library. Import it to look at its shots.</source>
+        <translation>%1 已不在媒体库中。请导入它以查看其镜头。</translation>
+    </message>
+    <message>
+        <source>Language of the System</source>
+        <translation>系统语言</translation>
+    </message>
+    <message>
+        <source>The crop track was saved.</source>
+        <translation>裁剪轨迹已保存。</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Show in Folder</source>
+        <translation>在文件夹中显示</translation>
+    </message>
+    <message>
+        <source>Open Crop Track</source>
+        <translation>打开裁剪轨迹</translation>
+    </message>
+    <message>
+        <source>Crop tracks</source>
+        <translation>裁剪轨迹</translation>
+    </message>
+    <message>
+        <source>Export %1 with the crops of %2?</source>
+        <translation>用 %2 的裁剪框导出 %1？</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>导出</translation>
+    </message>
+    <message>
+        <source>%1, to %2</source>
+        <translation>%1，到 %2</translation>
+    </message>
+</context>
+<context>
+    <name>MediaBackendLoader</name>
+    <message>
+        <source>Cannot load the video engine: %1.</source>
+        <translation>无法加载视频引擎：%1。</translation>
+    </message>
+</context>
+<context>
+    <name>MediaLibrary</name>
+    <message>
+        <source>There are no videos in %1.</source>
+        <translation>%1 中没有视频。</translation>
+    </message>
+</context>
+<context>
+    <name>MediaLibraryModel</name>
+    <message>
+        <source>Drop videos here</source>
+        <translation>将视频拖放到这里</translation>
+    </message>
+    <message>
+        <source>%1 was not found. Right-click to find it.</source>
+        <translation>找不到 %1。请右键单击以查找。</translation>
+    </message>
+    <message>
+        <source>Opening…</source>
+        <translation>正在打开…</translation>
+    </message>
+    <message>
+        <source>File not found</source>
+        <translation>找不到文件</translation>
+    </message>
+</context>
+<context>
+    <name>MediaLibraryView</name>
+    <message>
+        <source>Videos</source>
+        <translation>视频</translation>
+    </message>
+    <message>
+        <source>Find File…</source>
+        <translation>查找文件…</translation>
+    </message>
+    <message>
+        <source>Auto Reframe…</source>
+        <translation>Auto Reframe…</translation>
+    </message>
+    <message>
+        <source>Reframe All…</source>
+        <translation>全部重新构图…</translation>
+    </message>
+    <message>
+        <source>Save Crop Track…</source>
+        <translation>保存裁剪轨迹…</translation>
+    </message>
+    <message>
+        <source>Open Crop Track…</source>
+        <translation>打开裁剪轨迹…</translation>
+    </message>
+    <message>
+        <source>Show in folder</source>
+        <translation>在文件夹中显示</translation>
+    </message>
+    <message>
+        <source>Remove from library</source>
+        <translation>从媒体库中移除</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>导入…</translation>
+    </message>
+    <message>
+        <source>Drop videos here</source>
+        <translation>将视频拖放到这里</translation>
+    </message>
+    <message>
+        <source>or click to choose files</source>
+        <translation>或单击以选择文件</translation>
+    </message>
+</context>
+<context>
+    <name>MediaLoader</name>
+    <message>
+        <source>Cannot open %1: %2.</source>
+        <translation>无法打开 %1：%2。</translation>
+    </message>
+</context>
+<context>
+    <name>MediaText</name>
+    <message>
+        <source>%1 fps</source>
+        <translation>%1 fps</translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation>%1 MB</translation>
+    </message>
+    <message>
+        <source>%1 KB</source>
+        <translation>%1 KB</translation>
+    </message>
+    <message>
+        <source>%1 s left</source>
+        <translation>剩余 %1 秒</translation>
+    </message>
+    <message>
+        <source>%1 min %2 s left</source>
+        <translation>剩余 %1 分 %2 秒</translation>
+    </message>
+    <message>
+        <source>%1 h %2 min left</source>
+        <translation>剩余 %1 小时 %2 分</translation>
+    </message>
+</context>
+<context>
+    <name>OutputNames</name>
+    <message>
+        <source>There is no %1. Use %2.</source>
+        <translation>没有 %1。请使用 %2。</translation>
+    </message>
+    <message>
+        <source>Enter a file name.</source>
+        <translation>请输入文件名。</translation>
+    </message>
+</context>
+<context>
+    <name>PreviewOverlay</name>
+    <message>
+        <source>Frame %1</source>
+        <translation>第 %1 帧</translation>
+    </message>
+    <message>
+        <source>Shot %1 of %2</source>
+        <translation>镜头 %1 / %2</translation>
+    </message>
+    <message>
+        <source>confidence %1</source>
+        <translation>置信度 %1</translation>
+    </message>
+</context>
+<context>
+    <name>QueueBar</name>
+    <message>
+        <source>%1 of %2 done</source>
+        <translation>已完成 %1 / %2</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>，</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n failed</source>
+        <translation>
+            <numerusform>%n 个失败</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n done</source>
+        <translation>
+            <numerusform>%n 个完成</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cancelled</source>
+        <translation>
+            <numerusform>%n 个取消</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n to look at</source>
+        <translation>
+            <numerusform>%n 个待查看</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>已暂停</translation>
+    </message>
+    <message>
+        <source>Progress of all exports</source>
+        <translation>所有导出的进度</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>继续</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>暂停</translation>
+    </message>
+    <message>
+        <source>Go on with the exports</source>
+        <translation>继续导出</translation>
+    </message>
+    <message>
+        <source>Interrupt the exports for a while</source>
+        <translation>暂时中断导出</translation>
+    </message>
+    <message>
+        <source>Cancel all</source>
+        <translation>全部取消</translation>
+    </message>
+    <message>
+        <source>Cancel all exports of Reframe All that are not done</source>
+        <translation>取消“全部重新构图”中所有未完成的导出</translation>
+    </message>
+    <message>
+        <source>Retry failed</source>
+        <translation>重试失败项</translation>
+    </message>
+    <message>
+        <source>Export those that failed again</source>
+        <translation>重新导出失败的项目</translation>
+    </message>
+    <message>
+        <source>Look at them</source>
+        <translation>查看</translation>
+    </message>
+    <message>
+        <source>Open the first video that has doubtful shots</source>
+        <translation>打开第一个有存疑镜头的视频</translation>
+    </message>
+</context>
+<context>
+    <name>ReframeJob</name>
+    <message>
+        <source>%1: %2 analysed</source>
+        <translation>%1：已分析 %2</translation>
+    </message>
+    <message>
+        <source>%1: %2 -&gt; %3</source>
+        <translation>%1：%2 -&gt; %3</translation>
+    </message>
+    <message>
+        <source>1 frame</source>
+        <translation>1 帧</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n frames</source>
+        <translation>
+            <numerusform>%n 帧</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Cannot reframe %1: it has no moving picture.</source>
+        <translation>无法对 %1 重新构图：没有视频画面。</translation>
+    </message>
+    <message>
+        <source>Cannot follow %1 in %2: %3.</source>
+        <translation>无法在 %2 中跟随 %1：%3。</translation>
+    </message>
+    <message>
+        <source>Cannot write %1: it is one of the inputs.</source>
+        <translation>无法写入 %1：它是输入之一。</translation>
+    </message>
+    <message>
+        <source>Cannot reframe %1: it is too short (%2; 32 are needed).</source>
+        <translation>无法对 %1 重新构图：太短（%2，需要 32 帧）。</translation>
+    </message>
+    <message>
+        <source>Cannot reframe %1: it has the aspect ratio %2:%3 already.</source>
+        <translation>无法对 %1 重新构图：宽高比已经是 %2:%3。</translation>
+    </message>
+    <message>
+        <source>Cannot use %1: it holds %2 of the %3 of %4.</source>
+        <translation>无法使用 %1：只有 %2 帧（%4 有 %3）。</translation>
+    </message>
+    <message>
+        <source>Cannot reframe %1: the analysis found nothing.</source>
+        <translation>无法对 %1 重新构图：分析没有找到任何内容。</translation>
+    </message>
+    <message>
+        <source>Cannot reframe %1: its picture of %2 x %3 pixels is too small.</source>
+        <translation>无法对 %1 重新构图：%2 x %3 像素的画面太小。</translation>
+    </message>
+    <message>
+        <source>Cannot draw the contact sheet of %1.</source>
+        <translation>无法绘制 %1 的缩略图表。</translation>
+    </message>
+    <message>
+        <source>Cannot reframe %1: %2.</source>
+        <translation>无法对 %1 重新构图：%2。</translation>
+    </message>
+</context>
+<context>
+    <name>ReframeProgram</name>
+    <message>
+        <source>Cannot reframe %1: %2.</source>
+        <translation>无法对 %1 重新构图：%2。</translation>
+    </message>
+</context>
+<context>
+    <name>ReframeReporter</name>
+    <message>
+        <source>%1: analyzing %2 %%3</source>
+        <translation>%1：正在分析 %2%%3</translation>
+    </message>
+    <message>
+        <source>%1: drawing the preview %2 %%3</source>
+        <translation>%1：正在绘制预览 %2%%3</translation>
+    </message>
+    <message>
+        <source>%1: rendering %2 %%3</source>
+        <translation>%1：正在渲染 %2%%3</translation>
+    </message>
+    <message>
+        <source>Warning: %1</source>
+        <translation>警告：%1</translation>
+    </message>
+    <message>
+        <source>Cannot write to standard output: %1.</source>
+        <translation>无法写入标准输出：%1。</translation>
+    </message>
+    <message>
+        <source>an error occurred</source>
+        <translation>发生错误</translation>
+    </message>
+    <message>
+        <source>%1: interrupted.</source>
+        <translation>%1：已中断。</translation>
+    </message>
+    <message>
+        <source>%1: interrupted after %2 was written.</source>
+        <translation>%1：写入 %2 之后中断。</translation>
+    </message>
+</context>
+<context>
+    <name>SaveDialog</name>
+    <message>
+        <source>Cannot write to the folder %1.</source>
+        <translation>无法写入文件夹 %1。</translation>
+    </message>
+    <message>
+        <source>Save To</source>
+        <translation>保存到</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+</context>
+<context>
+    <name>TimeLeft</name>
+    <message>
+        <source>, %1 s left</source>
+        <translation>，剩余 %1 秒</translation>
+    </message>
+    <message>
+        <source>, %1 min %2 s left</source>
+        <translation>，剩余 %1 分 %2 秒</translation>
     </message>
 </context>
 </TS>
