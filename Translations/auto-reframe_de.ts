@@ -1197,7 +1197,7 @@ Benötigt: %1 MB, verfügbar: %2 MB.</translation>
     </message>
     <message>
         <source>%1 · analyze the video again</source>
-        <translation>%1 · Video neu analysieren</translation>
+        <translation>%1 · neu analysieren</translation>
     </message>
 </context>
 <context>
@@ -2128,11 +2128,11 @@ Benötigt: %1 MB, verfügbar: %2 MB.</translation>
     </message>
     <message>
         <source>%1 MB</source>
-        <translation>%1 MB</translation>
+        <translation>%1&#xa0;MB</translation>
     </message>
     <message>
         <source>%1 KB</source>
-        <translation>%1 KB</translation>
+        <translation>%1&#xa0;KB</translation>
     </message>
     <message>
         <source>%1 s left</source>

@@ -1032,7 +1032,7 @@ Espacio necesario: %1 MB, disponible: %2 MB.</translation>
     </message>
     <message>
         <source>Settings changed: analyze again</source>
-        <translation>Ajustes cambiados: volver a analizar</translation>
+        <translation>Ajustes modificados: reanalizar</translation>
     </message>
 </context>
 <context>
@@ -1197,7 +1197,7 @@ Espacio necesario: %1 MB, disponible: %2 MB.</translation>
     </message>
     <message>
         <source>%1 · analyze the video again</source>
-        <translation>%1 · analizar de nuevo el vídeo</translation>
+        <translation>%1 · volver a analizar</translation>
     </message>
 </context>
 <context>
@@ -2128,11 +2128,11 @@ Espacio necesario: %1 MB, disponible: %2 MB.</translation>
     </message>
     <message>
         <source>%1 MB</source>
-        <translation>%1 MB</translation>
+        <translation>%1&#xa0;MB</translation>
     </message>
     <message>
         <source>%1 KB</source>
-        <translation>%1 KB</translation>
+        <translation>%1&#xa0;KB</translation>
     </message>
     <message>
         <source>%1 s left</source>

@@ -520,7 +520,7 @@
     </message>
     <message>
         <source>Show in folder</source>
-        <translation>Afficher dans le dossier</translation>
+        <translation>Ouvrir le dossier</translation>
     </message>
     <message>
         <source>Export it again</source>
@@ -1048,8 +1048,8 @@ Espace nécessaire&#xa0;: %1 Mo, disponible&#xa0;: %2 Mo.</translation>
     <message numerus="yes">
         <source>%1 of %n shots to look at</source>
         <translation>
-            <numerusform>%1 plan sur %n à vérifier</numerusform>
-            <numerusform>%1 plans sur %n à vérifier</numerusform>
+            <numerusform>%1 sur %n plan à vérifier</numerusform>
+            <numerusform>%1 sur %n plans à vérifier</numerusform>
         </translation>
     </message>
     <message>
@@ -1197,7 +1197,7 @@ Espace nécessaire&#xa0;: %1 Mo, disponible&#xa0;: %2 Mo.</translation>
     </message>
     <message>
         <source>%1 · analyze the video again</source>
-        <translation>%1 · analyser à nouveau la vidéo</translation>
+        <translation>%1 · à réanalyser</translation>
     </message>
 </context>
 <context>
@@ -2128,11 +2128,11 @@ Espace nécessaire&#xa0;: %1 Mo, disponible&#xa0;: %2 Mo.</translation>
     </message>
     <message>
         <source>%1 MB</source>
-        <translation>%1 Mo</translation>
+        <translation>%1&#xa0;Mo</translation>
     </message>
     <message>
         <source>%1 KB</source>
-        <translation>%1 Ko</translation>
+        <translation>%1&#xa0;Ko</translation>
     </message>
     <message>
         <source>%1 s left</source>

@@ -1026,7 +1026,7 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
     </message>
     <message>
         <source>Settings changed: analyze again</source>
-        <translation>設定が変更されました: 再解析してください</translation>
+        <translation>設定が変わりました: 再解析</translation>
     </message>
 </context>
 <context>
@@ -1190,7 +1190,7 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
     </message>
     <message>
         <source>%1 · analyze the video again</source>
-        <translation>%1 · 動画を再解析してください</translation>
+        <translation>%1 · 再解析が必要です</translation>
     </message>
 </context>
 <context>

@@ -500,7 +500,7 @@
     </message>
     <message>
         <source>Done · %1</source>
-        <translation>Concluído · %1</translation>
+        <translation>Pronto · %1</translation>
     </message>
     <message>
         <source>Cancelled</source>
@@ -520,7 +520,7 @@
     </message>
     <message>
         <source>Show in folder</source>
-        <translation>Mostrar na pasta</translation>
+        <translation>Abrir pasta</translation>
     </message>
     <message>
         <source>Export it again</source>
@@ -1197,7 +1197,7 @@ Espaço necessário: %1 MB, disponível: %2 MB.</translation>
     </message>
     <message>
         <source>%1 · analyze the video again</source>
-        <translation>%1 · analise o vídeo de novo</translation>
+        <translation>%1 · analise de novo</translation>
     </message>
 </context>
 <context>
@@ -2128,11 +2128,11 @@ Espaço necessário: %1 MB, disponível: %2 MB.</translation>
     </message>
     <message>
         <source>%1 MB</source>
-        <translation>%1 MB</translation>
+        <translation>%1&#xa0;MB</translation>
     </message>
     <message>
         <source>%1 KB</source>
-        <translation>%1 KB</translation>
+        <translation>%1&#xa0;KB</translation>
     </message>
     <message>
         <source>%1 s left</source>

@@ -1190,7 +1190,7 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
     </message>
     <message>
         <source>%1 · analyze the video again</source>
-        <translation>%1 · 请重新分析视频</translation>
+        <translation>%1 · 请重新分析</translation>
     </message>
 </context>
 <context>

@@ -157,6 +157,7 @@ void KxTheme::SetScheme(Scheme scheme)
 QFont KxUIStyle::TabularFont()
 {
     QFont font = KxTheme::Font();
+    font.setFamilies({});
     for (const QString& family : {font.family(), QStringLiteral("Noto Sans"), QStringLiteral("Segoe UI")}) {
         font.setFamily(family);
         if (QFontInfo(font).family() == family && HasTabularFigures(font)) {

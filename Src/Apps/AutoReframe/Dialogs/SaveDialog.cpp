@@ -13,6 +13,8 @@
 #include <QVBoxLayout>
 #include <QVariant>
 
+#include <algorithm>
+
 namespace
 {
 
@@ -72,8 +74,11 @@ void SaveDialog::ShowColumn(QVBoxLayout* column, int messageLines, int widthPx)
 {
     column->addWidget(WithCaption(m_folderCaption, m_folder));
     column->addWidget(m_message);
-    // So that the dialog does not change its size while the person types.
-    m_message->setFixedHeight(messageLines * m_message->fontMetrics().lineSpacing() + 2);
+    // So that the dialog does not change its size while the person types. The characters of some languages come from a
+    // taller font, which the font's own line spacing does not take into account.
+    const QFontMetrics metrics = m_message->fontMetrics();
+    const int linePx = std::max(metrics.lineSpacing(), metrics.size(Qt::TextSingleLine, tr("Cancel")).height());
+    m_message->setFixedHeight(messageLines * linePx + 2);
     m_message->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     SetContentWidget(column->parentWidget());
     setFixedWidth(widthPx);
