@@ -57,7 +57,7 @@ set(FOLDERS_KrAutoReframe/Extensions "Engine;Player;Settings")
 set(FOLDERS_KrAutoReframe/Dialog "Engine;Extensions;Player;Settings")
 set(FOLDERS_Apps/CropTracks "")
 set(FOLDERS_Apps/Reframe "CropTracks")
-set(FOLDERS_Apps/AutoReframe "AutoReframe/Backend;AutoReframe/Batch;AutoReframe/Dialogs;AutoReframe/Exports;AutoReframe/Help;AutoReframe/Library;AutoReframe/Store;AutoReframe/Theme;AutoReframe/Tracks")
+set(FOLDERS_Apps/AutoReframe "AutoReframe/Backend;AutoReframe/Batch;AutoReframe/Desktop;AutoReframe/Dialogs;AutoReframe/Exports;AutoReframe/Help;AutoReframe/Library;AutoReframe/Store;AutoReframe/Theme;AutoReframe/Tracks")
 set(FOLDERS_Apps/AutoReframe/Backend "CropTracks")
 set(FOLDERS_Apps/AutoReframe/Theme "AutoReframe/Theme/Posix")
 set(FOLDERS_Apps/AutoReframe/Theme/Posix "AutoReframe/Theme")
@@ -68,6 +68,9 @@ set(FOLDERS_Apps/AutoReframe/Dialogs "")
 set(FOLDERS_Apps/AutoReframe/Batch "AutoReframe/Backend;AutoReframe/Dialogs;AutoReframe/Exports;AutoReframe/Library")
 set(FOLDERS_Apps/AutoReframe/Help "AutoReframe/Library")
 set(FOLDERS_Apps/AutoReframe/Tracks "AutoReframe/Backend;AutoReframe/Dialogs")
+set(FOLDERS_Apps/AutoReframe/Desktop "AutoReframe/Exports")
+set(FOLDERS_Apps/AutoReframe/Desktop/Posix "AutoReframe/Desktop")
+set(FOLDERS_Apps/AutoReframe/Desktop/Windows "AutoReframe/Desktop")
 set(FOLDERS_Apps/AutoReframe/Exports "AutoReframe/Backend;AutoReframe/Library;AutoReframe/Store")
 
 # Foreign headers, and the only libraries that know them; the first pattern that fits decides.
@@ -87,9 +90,10 @@ only_in("^Q(tWidgets|Application|Widget|Dialog|MessageBox|Label|PushButton|ToolB
 only_in("^Q[A-Z]"
     KrAutoReframe KxCore KxMedia KxModel KxRender KxEditList KxWidgets KxPlayer KxMediaLibrary Apps include)
 
-# A file that may know foreign headers which its folder may not. The system's file chooser is an interface of the host, so its
-# record comes from the system where there is one.
+# Files that may know foreign headers which their folders may not. The system's file chooser is an interface of the host, so its
+# record comes from the system where there is one; a desktop is the system's.
 set(MAY_KNOW_include/KxWidgets/KxOpenFileName.h "^(windows|commdlg)[.]h$")
+set(MAY_KNOW_Src/Apps/AutoReframe/Desktop/Windows/DesktopSession.cpp "^windows[.]h$")
 
 file(GLOB_RECURSE sources RELATIVE "${ROOT}" "${ROOT}/Src/*.h" "${ROOT}/Src/*.cpp" "${ROOT}/include/*.h")
 if(NOT sources)

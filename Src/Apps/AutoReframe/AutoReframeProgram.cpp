@@ -1,6 +1,8 @@
 #include <Apps/AutoReframe/AutoReframeProgram.h>
 
 #include <Apps/AutoReframe/Backend/MediaBackendLoader.h>
+#include <Apps/AutoReframe/Desktop/DesktopSession.h>
+#include <Apps/AutoReframe/Desktop/ExportManners.h>
 #include <Apps/AutoReframe/LanguageChoice.h>
 #include <Apps/AutoReframe/MainWindow.h>
 #include <Apps/AutoReframe/Store/LibraryStore.h>
@@ -48,6 +50,9 @@ int AutoReframeProgram::Run(QApplication& application, const AutoReframeOptions&
         backend.Start();
         theme.FollowSystem();
     });
+    const std::unique_ptr<DesktopSession> desktop = DesktopSession::Make();
+    const auto isLookedAt = [] { return QApplication::activeWindow() != nullptr; };
+    const ExportManners manners(window.Exports(), *desktop, isLookedAt, nullptr);
     window.show();
     window.Open(options.files);
     QTimer interrupt;
