@@ -1,0 +1,45 @@
+# bash completion for reframe: each option of `reframe --help` has a line here (Tests/Packaging/check_options.py).
+_reframe()
+{
+    local cur prev words cword split
+    _init_completion -s -n : || return
+    # Options with a value, by what the value is.
+    case $prev in
+        --aspect) COMPREPLY=($(compgen -W '9:16 1:1 4:5 4:3 16:9 21:9' -- "$cur")); __ltrim_colon_completions "$cur"; return ;;
+        --speed) COMPREPLY=($(compgen -W 'auto fast slow' -- "$cur")); return ;;
+        --speaker) COMPREPLY=($(compgen -W 'auto off' -- "$cur")); return ;;
+        --follow) return ;;
+        --choices) _filedir json; return ;;
+        --cache | --models) _filedir -d; COMPREPLY+=($(compgen -W none -- "$cur")); return ;;
+        --output) _filedir '@(mp4|m4v)'; return ;;
+        --keyframes | --apply) _filedir '@(json|csv)'; return ;;
+        --edit-list) _filedir '@(mlt|kdenlive|fcpxml|txt|ffscript)'
+            COMPREPLY+=($(compgen -W 'mlt kdenlive fcpxml txt ffscript' -- "$cur")); return ;;
+        --preview) _filedir '@(png|mp4)'; return ;;
+        --report) _filedir html; return ;;
+    esac
+    $split && return
+    case $cur in
+        -*) COMPREPLY=($(compgen -W '
+            --aspect
+            --speed
+            --speaker
+            --follow
+            --choices
+            --cache
+            --output
+            --keyframes
+            --edit-list
+            --apply
+            --preview
+            --report
+            --models
+            --no-video
+            --overwrite
+            --json
+            --quiet
+            -h --help
+            --version' -- "$cur")) ;;
+        *) _filedir ;;
+    esac
+} && complete -F _reframe reframe
