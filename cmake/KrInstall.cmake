@@ -1,4 +1,5 @@
 # `cmake --install` installs the programs, the libraries, the interfaces' headers and the files for find_package(KrAutoReframe).
+# The components Programs, Libraries, Development and Models become one Debian package each (KrDebian.cmake).
 
 include(CMakePackageConfigHelpers)
 
@@ -41,3 +42,7 @@ configure_package_config_file(cmake/KrAutoReframeConfig.cmake.in "${CMAKE_BINARY
 write_basic_package_version_file("${CMAKE_BINARY_DIR}/KrAutoReframeConfigVersion.cmake" COMPATIBILITY SameMajorVersion)
 install(FILES "${CMAKE_BINARY_DIR}/KrAutoReframeConfig.cmake" "${CMAKE_BINARY_DIR}/KrAutoReframeConfigVersion.cmake"
     DESTINATION "${KR_PACKAGE_FOLDER}" COMPONENT Development)
+
+if(NOT WIN32)
+    include(KrDebian)
+endif()
