@@ -4,6 +4,8 @@
 #include <QList>
 #include <QMap>
 #include <QRectF>
+#include <QSize>
+#include <QSizeF>
 #include <QString>
 
 #include <functional>
@@ -69,6 +71,31 @@ protected:
     virtual ~KrAutoReframeExports() = default;
 };
 
+/// A size in which a host can write the result. A plain value.
+struct KrAutoReframeOutput {
+    QString name; ///< as the person reads it
+    QSize size;   ///< of the written video, in pixels
+};
+
+/// What a host may offer beside KrAutoReframeExtensions, by deriving from both: other sizes for the exported video than
+/// the crop's. The dialog then shows them as a choice with the size that comes out, and says where it enlarges the
+/// picture. The record of an export keeps the crop's size: the host knows what was chosen. Defined in this header
+/// alone; user-interface thread.
+class KrAutoReframeOutputs
+{
+public:
+    /// The choices for a crop of `crop` pixels, which is written as `cropSize` without a choice; the first one is that.
+    /// Called for each new result.
+    virtual QList<KrAutoReframeOutput> OutputsFor(const QSizeF& crop, const QSize& cropSize) = 0;
+    /// Index of the one that holds.
+    virtual int ChosenOutput() const = 0;
+    /// The person chose another one.
+    virtual void ChooseOutput(int index) = 0;
+
+protected:
+    virtual ~KrAutoReframeOutputs() = default;
+};
+
 /// What a host may offer beside KrAutoReframeExtensions, by deriving from both: help. Defined in this header alone;
 /// user-interface thread.
 class KrAutoReframeHelp
@@ -92,6 +119,7 @@ protected:
 /// - where the service offers IKxAutoReframeChoices: pointing at what the crop follows or avoids in a shot;
 /// - where the service offers IKxAutoReframeDecisions: several aspect ratios side by side;
 /// - where the host also implements KrAutoReframeExports: how an export is getting on;
+/// - where the host also implements KrAutoReframeOutputs: the size in which it is written.
 /// - where the host also implements KrAutoReframeHelp: F1.
 ///
 /// The host implements it; the dialog calls it on the user-interface thread. No function of the module's library is

@@ -57,7 +57,8 @@ KrDialogExtension::KrDialogExtension(KrAutoReframeExtensions& host, const Parts&
     : QObject(parent)
     , m_host(host)
     , m_parts(parts)
-    , m_exportStatus(new KrExportStatus(dynamic_cast<KrAutoReframeExports*>(&host), &parts.panel))
+    , m_exportStatus(new KrExportStatus(dynamic_cast<KrAutoReframeExports*>(&host),
+                                        dynamic_cast<KrAutoReframeOutputs*>(&host), &parts.panel))
     , m_choices(new KrChoiceList(parts.process.GetHelper()->GetUndoStack(), this))
 {
     setObjectName(QStringLiteral("KrDialogExtension"));
@@ -187,7 +188,7 @@ void KrDialogExtension::LeaveSource()
     m_placement.clear();
     m_isKnown.cancel();
     m_decide.stop();
-    m_exportStatus->SetOutputSize({});
+    m_exportStatus->SetCrop({}, {});
     m_viewMenu->SetComparisonEnabled(false);
     m_fillComparison.stop();
     if (m_comparison != nullptr) {
@@ -387,7 +388,7 @@ void KrDialogExtension::ShowResultSize()
     const QSize source = m_parts.view.VideoSize();
     const QRectF shape = KrExportParameters::ShapeOfResult(results, source, QSize(m_shown.width, m_shown.height));
     const QSize size = KrExportParameters::EvenResolution(source, shape);
-    m_exportStatus->SetOutputSize(size);
+    m_exportStatus->SetCrop({shape.width() * source.width(), shape.height() * source.height()}, size);
     // A shot that shows the whole picture is fitted into the result, whose size the preview has to know.
     IKxTimeline* const timeline = m_parts.process.GetHelper()->GetWorkTimeline();
     KxProjectSettings settings = timeline->projectSettings();

@@ -1,11 +1,13 @@
 #include <KrAutoReframe/Extensions/KrExportStatus.h>
 
+#include <KxWidgets/KxComboBox.h>
 #include <KxWidgets/KxLabel.h>
 #include <KxWidgets/KxPushButton.h>
 
 #include <QDir>
 #include <QFileInfo>
 #include <QProgressBar>
+#include <QSignalBlocker>
 #include <QStyle>
 #include <QVBoxLayout>
 #include <QVariant>
@@ -31,9 +33,11 @@ KxLabel* MakeLabel(QWidget* parent, const char* name)
 
 } // namespace
 
-KrExportStatus::KrExportStatus(KrAutoReframeExports* exports, QWidget* parent)
+KrExportStatus::KrExportStatus(KrAutoReframeExports* exports, KrAutoReframeOutputs* outputs, QWidget* parent)
     : KxWidget(parent)
     , m_exports(exports)
+    , m_outputs(outputs)
+    , m_output(KxComboBox::CreateComboBox(this))
     , m_size(MakeLabel(this, "KrAutoReframe_outputSize"))
     , m_file(MakeLabel(this, "KrAutoReframe_exportFile"))
     , m_state(MakeLabel(this, "KrAutoReframe_exportState"))
@@ -41,6 +45,8 @@ KrExportStatus::KrExportStatus(KrAutoReframeExports* exports, QWidget* parent)
     , m_showInFolder(KxPushButton::CreateSecondaryButton(this, ButtonHeightPx))
 {
     setObjectName(QStringLiteral("KrAutoReframe_exportStatus"));
+    m_output->setObjectName(QStringLiteral("KrAutoReframe_output"));
+    m_output->hide();
     m_file->SetElideMode(Qt::ElideMiddle);
     m_state->setWordWrap(true);
     m_progress->setObjectName(QStringLiteral("KrAutoReframe_exportProgress"));
@@ -53,6 +59,7 @@ KrExportStatus::KrExportStatus(KrAutoReframeExports* exports, QWidget* parent)
     auto* const column = new QVBoxLayout(this);
     column->setContentsMargins(SideMarginPx, 0, SideMarginPx, 0);
     column->setSpacing(8);
+    column->addWidget(m_output);
     column->addWidget(m_size);
     column->addSpacing(8);
     for (QWidget* const part :
@@ -65,6 +72,9 @@ KrExportStatus::KrExportStatus(KrAutoReframeExports* exports, QWidget* parent)
         connect(m_showInFolder, &QAbstractButton::clicked, this,
                 [this] { m_exports->ShowInFolder(m_export.filePath); });
     }
+    if (m_outputs != nullptr) {
+        connect(m_output, qOverload<int>(&QComboBox::currentIndexChanged), this, &KrExportStatus::Choose);
+    }
     RetranslateUi();
 }
 
@@ -75,10 +85,40 @@ KrExportStatus::~KrExportStatus()
     }
 }
 
-void KrExportStatus::SetOutputSize(const QSize& size)
+void KrExportStatus::SetCrop(const QSizeF& crop, const QSize& cropSize)
 {
-    m_outputSize = size;
+    m_cropSize = cropSize;
+    m_outputSize = cropSize;
+    m_output->setVisible(m_outputs != nullptr && !cropSize.isEmpty());
+    if (!m_output->isHidden()) {
+        FillOutputs(crop);
+    }
     ShowText();
+}
+
+void KrExportStatus::FillOutputs(const QSizeF& crop)
+{
+    const QSignalBlocker blocker(m_output);
+    m_output->clear();
+    for (const KrAutoReframeOutput& output : m_outputs->OutputsFor(crop, m_cropSize)) {
+        m_output->addItem(output.name, output.size);
+    }
+    m_output->setCurrentIndex(m_outputs->ChosenOutput());
+    m_outputSize = m_output->currentData().toSize();
+}
+
+void KrExportStatus::Choose(int index)
+{
+    m_outputs->ChooseOutput(index);
+    m_outputSize = m_output->itemData(index).toSize();
+    ShowText();
+}
+
+QString KrExportStatus::SizeText() const
+{
+    const bool isEnlarged = m_outputSize.width() > m_cropSize.width() || m_outputSize.height() > m_cropSize.height();
+    const QString text = isEnlarged ? tr("Output: %1 × %2, enlarged") : tr("Output: %1 × %2");
+    return text.arg(QString::number(m_outputSize.width()), QString::number(m_outputSize.height()));
 }
 
 void KrExportStatus::Show(const KrAutoReframeExport& state)
@@ -103,6 +143,8 @@ void KrExportStatus::Show(const KrAutoReframeExport& state)
 void KrExportStatus::RetranslateUi()
 {
     m_progress->setAccessibleName(tr("Progress of the export"));
+    m_output->setAccessibleName(tr("Output"));
+    m_output->setToolTip(tr("The size in which the video is exported."));
     m_size->setToolTip(tr("The size of the exported video in pixels."));
     m_showInFolder->setText(tr("Show in Folder"));
     m_showInFolder->setToolTip(tr("Opens the folder of the exported video."));
@@ -111,8 +153,7 @@ void KrExportStatus::RetranslateUi()
 
 void KrExportStatus::ShowText()
 {
-    m_size->setText(
-        tr("Output: %1 × %2").arg(QString::number(m_outputSize.width()), QString::number(m_outputSize.height())));
+    m_size->setText(SizeText());
     m_size->setVisible(!m_outputSize.isEmpty());
     m_file->setText(QFileInfo(m_export.filePath).fileName());
     m_file->setToolTip(QDir::toNativeSeparators(m_export.filePath));

@@ -4,6 +4,7 @@
 
 #include <KxModel/IKxTimeline.h>
 
+#include <QComboBox>
 #include <QProgressBar>
 
 namespace
@@ -19,6 +20,22 @@ public:
 
     Listener report;
     QStringList shown;
+};
+
+/// Offers the size of the crop and twice that.
+class SizingHost final : public StateKeeper, public KrAutoReframeOutputs
+{
+public:
+    QList<KrAutoReframeOutput> OutputsFor(const QSizeF& crop, const QSize& cropSize) override
+    {
+        lastCrop = crop;
+        return {{QStringLiteral("Crop"), cropSize}, {QStringLiteral("Double"), 2 * cropSize}};
+    }
+    int ChosenOutput() const override { return chosen; }
+    void ChooseOutput(int index) override { chosen = index; }
+
+    QSizeF lastCrop;
+    int chosen = 0;
 };
 
 class KrExportStatusTest : public DialogTest
@@ -121,6 +138,33 @@ TEST_F(KrExportStatusTest, TheHostReportsNothingToADialogThatHasGone)
 {
     dialog.reset();
     EXPECT_FALSE(host.report);
+}
+
+TEST_F(DialogTest, TheOutputIsAChoiceWhereTheHostWritesSeveralSizes)
+{
+    SizingHost host;
+    Make(nullptr);
+    dialog->SetExtensions(host);
+    Load(Video(QStringLiteral("/v/clip.mp4")));
+    auto* const output = panel->findChild<QComboBox*>(QStringLiteral("KrAutoReframe_output"));
+    const auto* const size = panel->findChild<KxLabel*>(QStringLiteral("KrAutoReframe_outputSize"));
+    ASSERT_NE(output, nullptr);
+    EXPECT_FALSE(output->isVisibleTo(panel));
+    Analyse();
+    ASSERT_TRUE(output->isVisibleTo(panel));
+    EXPECT_EQ(output->count(), 2);
+    const QSize crop = output->itemData(0).toSize();
+    EXPECT_NEAR(host.lastCrop.width(), crop.width(), 1.0);
+    const auto text = [](const QSize& shown, const char* form) {
+        return QString::fromUtf8(form).arg(QString::number(shown.width()), QString::number(shown.height()));
+    };
+    EXPECT_EQ(size->text(), text(crop, "Output: %1 × %2"));
+    output->setCurrentIndex(1);
+    EXPECT_EQ(host.chosen, 1);
+    EXPECT_EQ(size->text(), text(2 * crop, "Output: %1 × %2, enlarged"));
+    Analyse();
+    EXPECT_EQ(output->currentIndex(), 1) << "a new result keeps the choice";
+    dialog.reset();
 }
 
 TEST_F(ExtendedDialogTest, AHostWithoutReportsOnExportsShowsTheSizeAlone)
