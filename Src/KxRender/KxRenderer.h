@@ -21,9 +21,10 @@ struct KxRenderResult {
 /// Renders a source to an MP4 file with its sound, as long as the source. A rendering that is cancelled or fails leaves
 /// no file.
 ///
-/// Memory does not grow with the length. It is the decoder's (see KxVideoScanner), plus 48 bytes per pixel of the
-/// result, plus the pictures that the encoder looks ahead: 320 MB, or 8 bytes per pixel of the result if that is more.
-/// Results above 4096 x 4096 pixels take 18 instead of 48 bytes: they have one reference picture and no B pictures.
+/// Memory does not grow with the length. With H.264 by libx264 it is the decoder's (see KxVideoScanner), plus 48 bytes
+/// per pixel of the result, plus the pictures that the encoder looks ahead: 320 MB, or 8 bytes per pixel of the result
+/// if that is more. Results above 4096 x 4096 pixels take 18 instead of 48 bytes: they have one reference picture and
+/// no B pictures.
 namespace KxRenderer
 {
 /// Called on the thread of Run() with ascending ten-thousandths; 10000 means that the file has its final name.

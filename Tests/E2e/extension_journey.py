@@ -31,14 +31,17 @@ class ExtensionJourney:
         self.screen = journey.screen
 
     def choose_ratio(self, text):
+        self.choose_from(RATIO, text)
+
+    def choose_from(self, name, text):
         screen = self.screen
-        screen.press(RATIO)
+        screen.press(name)
         item = screen.steady(lambda report: next((item["rect"] for widget in report["widgets"]
                                                   for item in widget.get("items") or []
                                                   if item.get("text") == text and widget["window"] != "MainWindow"), None),
                              f"{text} in the list")
         screen.click(item)
-        screen.find(RATIO, text=text)
+        screen.find(name, text=text)
 
     def look_at_doubtful_shots(self):
         screen, journey = self.screen, self.journey
@@ -182,6 +185,11 @@ class ExtensionJourney:
         self.choose_ratio("9:16")
         screen.press("KrAutoReframePropertyPanel_restart")
         screen.gone(HINT)
+        screen.find("KrAutoReframe_outputSize", text="Output: 304 × 540")
+        self.choose_from("KrAutoReframe_output", "720 × 1280")
+        screen.find("KrAutoReframe_outputSize", text="Output: 720 × 1280, enlarged")
+        screen.shoot("output-size")
+        self.choose_from("KrAutoReframe_output", "As large as the crop")
         screen.find("KrAutoReframe_outputSize", text="Output: 304 × 540")
         self.choose_guides("Safe Zones", "Thirds", "Headroom")
         journey.shadow()

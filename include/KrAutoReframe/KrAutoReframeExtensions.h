@@ -119,7 +119,7 @@ protected:
 /// - where the service offers IKxAutoReframeChoices: pointing at what the crop follows or avoids in a shot;
 /// - where the service offers IKxAutoReframeDecisions: several aspect ratios side by side;
 /// - where the host also implements KrAutoReframeExports: how an export is getting on;
-/// - where the host also implements KrAutoReframeOutputs: the size in which it is written.
+/// - where the host also implements KrAutoReframeOutputs: the size in which it is written;
 /// - where the host also implements KrAutoReframeHelp: F1.
 ///
 /// The host implements it; the dialog calls it on the user-interface thread. No function of the module's library is

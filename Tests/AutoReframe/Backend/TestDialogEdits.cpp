@@ -2,6 +2,8 @@
 
 #include <QHash>
 
+#include <QTemporaryDir>
+
 #include <gtest/gtest.h>
 
 TEST(TestDialogEdits, AVideoThatIsNewHasNoSettings)
@@ -39,4 +41,52 @@ TEST(TestDialogEdits, OnlyTheFirstVideoStartsAtADoubtfulShot)
     DialogEdits edits(callbacks);
     EXPECT_TRUE(edits.LoadState(QStringLiteral("/a.mp4")).startsAtDoubtfulShot);
     EXPECT_FALSE(edits.LoadState(QStringLiteral("/b.mp4")).startsAtDoubtfulShot);
+}
+
+namespace
+{
+
+/// A configuration file of its own.
+class TestDialogOutputs : public testing::Test
+{
+protected:
+    TestDialogOutputs() { qputenv("KX_CONFIG_FILE", m_folder.filePath(QStringLiteral("test.ini")).toUtf8()); }
+    ~TestDialogOutputs() override { qunsetenv("KX_CONFIG_FILE"); }
+
+    static QStringList Offered(DialogEdits& edits, const QSizeF& crop, const QSize& cropSize)
+    {
+        QStringList texts;
+        for (const KrAutoReframeOutput& output : edits.OutputsFor(crop, cropSize)) {
+            texts += QStringLiteral("%1: %2x%3")
+                         .arg(output.name, QString::number(output.size.width()), QString::number(output.size.height()));
+        }
+        return texts;
+    }
+
+    QTemporaryDir m_folder;
+    DialogCallbacks m_callbacks;
+};
+
+} // namespace
+
+TEST_F(TestDialogOutputs, OffersTheSizesForTheShapeOfTheCrop)
+{
+    DialogEdits edits(m_callbacks);
+    EXPECT_EQ(Offered(edits, QSizeF(607.5, 1080.0), QSize(608, 1080)),
+              (QStringList{QStringLiteral("As large as the crop: 608x1080"), QStringLiteral("1080 × 1920: 1080x1920"),
+                           QStringLiteral("720 × 1280: 720x1280"), QStringLiteral("2160 pixels high: 1216x2160")}));
+    EXPECT_EQ(Offered(edits, QSizeF(1080.0, 1080.0), QSize(1080, 1080)).at(1),
+              QStringLiteral("1080 × 1080: 1080x1080"));
+}
+
+TEST_F(TestDialogOutputs, TheChoiceHoldsForExportsAndForTheNextDialog)
+{
+    DialogEdits edits(m_callbacks);
+    edits.OutputsFor(QSizeF(607.5, 1080.0), QSize(608, 1080));
+    EXPECT_EQ(edits.ChosenOutput(), 0);
+    EXPECT_EQ(edits.SizeFor(QSize(608, 1080)), QSize(608, 1080));
+    edits.ChooseOutput(2);
+    EXPECT_EQ(edits.SizeFor(QSize(608, 1080)), QSize(720, 1280));
+    EXPECT_EQ(edits.SizeFor(QSize(540, 960)), QSize(540, 960)); // of another result
+    EXPECT_EQ(DialogEdits(m_callbacks).ChosenOutput(), 2);
 }

@@ -1,6 +1,46 @@
 #include <Apps/AutoReframe/Backend/DialogEdits.h>
 
+#include <KxCore/KxConfigFile.h>
+#include <KxCore/KxOutputSize.h>
+
+#include <QCoreApplication>
+#include <QSettings>
+
+#include <algorithm>
+#include <array>
 #include <utility>
+
+namespace
+{
+
+/// What the person can choose; in the configuration file each has its key.
+struct Output {
+    const char* key;
+    KxOutputSize size;
+};
+const std::array<Output, 4> Outputs{
+    {{"crop", {}}, {"1080", {QSize(), 0, 1080}}, {"720", {QSize(), 0, 720}}, {"2160p", {QSize(), 2160, 0}}}};
+
+const QString OutputKey = QStringLiteral("OutputSize");
+
+QSize SizeOf(const Output& output, const QSizeF& crop, const QSize& cropSize)
+{
+    const KxResult<QSize> size = output.size.For(crop, cropSize);
+    return size ? *size : cropSize;
+}
+
+QString NameOf(const Output& output, const QSize& size)
+{
+    if (output.size.IsThatOfTheCrop()) {
+        return QCoreApplication::translate("DialogEdits", "As large as the crop");
+    }
+    return output.size.heightPx > 0
+               ? QCoreApplication::translate("DialogEdits", "%1 pixels high").arg(output.size.heightPx)
+               : QCoreApplication::translate("DialogEdits", "%1 × %2")
+                     .arg(QString::number(size.width()), QString::number(size.height()));
+}
+
+} // namespace
 
 DialogEdits::DialogEdits(const DialogCallbacks& callbacks)
     : m_callbacks(callbacks)
@@ -51,4 +91,43 @@ void DialogEdits::ShowHelp(QWidget& dialog)
     if (m_callbacks.showHelp) {
         m_callbacks.showHelp(dialog);
     }
+}
+
+QList<KrAutoReframeOutput> DialogEdits::OutputsFor(const QSizeF& crop, const QSize& cropSize)
+{
+    m_crop = crop;
+    m_cropSize = cropSize;
+    QList<KrAutoReframeOutput> outputs;
+    for (const Output& output : Outputs) {
+        const QSize size = SizeOf(output, crop, cropSize);
+        outputs += KrAutoReframeOutput{NameOf(output, size), size};
+    }
+    return outputs;
+}
+
+int DialogEdits::ChosenOutput() const
+{
+    const QString key = KxConfigFile::ReadAutoReframe(OutputKey);
+    const auto chosen = std::find_if(Outputs.begin(), Outputs.end(),
+                                     [&key](const Output& output) { return key == QLatin1String(output.key); });
+    return chosen != Outputs.end() ? static_cast<int>(chosen - Outputs.begin()) : 0;
+}
+
+void DialogEdits::ChooseOutput(int index)
+{
+    if (index < 0 || index >= static_cast<int>(Outputs.size())) {
+        return;
+    }
+    QSettings settings(KxConfigFile::Path(), QSettings::IniFormat);
+    settings.beginGroup(QStringLiteral("Auto Reframe"));
+    settings.setValue(OutputKey, QLatin1String(Outputs[static_cast<size_t>(index)].key));
+}
+
+QSize DialogEdits::SizeFor(const QSize& cropSize) const
+{
+    // The choice belongs to the result that was shown with it.
+    if (cropSize != m_cropSize) {
+        return cropSize;
+    }
+    return SizeOf(Outputs[static_cast<size_t>(ChosenOutput())], m_crop, cropSize);
 }

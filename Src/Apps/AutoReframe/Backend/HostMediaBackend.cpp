@@ -39,9 +39,10 @@ private:
     KxRenderJob m_job;
 };
 
-void RequestExport(IKxTimeline* timeline, const QVariant& record, const DialogCallbacks& callbacks)
+void RequestExport(IKxTimeline* timeline, const QVariant& record, const DialogEdits& edits,
+                   const DialogCallbacks& callbacks)
 {
-    const KxResult<KxRenderSettings> settings = ExportRecord::Read(record);
+    KxResult<KxRenderSettings> settings = ExportRecord::Read(record);
     if (!settings) {
         callbacks.exportRefused(settings.Message());
         return;
@@ -51,6 +52,7 @@ void RequestExport(IKxTimeline* timeline, const QVariant& record, const DialogCa
         callbacks.exportRefused(source.Message());
         return;
     }
+    settings->resolution = edits.SizeFor(settings->resolution);
     callbacks.exportRequested({*source, *settings});
 }
 
@@ -145,10 +147,11 @@ void HostMediaBackend::Reframe(const MediaFile& video, QWidget& parent, const Di
     {
         DialogEdits edits(callbacks);
         const auto dialog = std::make_unique<KrAutoReframeDialog>(&parent);
-        QObject::connect(dialog.get(), &KrAutoReframeDialog::sigExportToLocal, &parent,
-                         [&callbacks](IKxTimeline* timeline, const QList<IKxAbstractMedia*>&, const QVariant& record) {
-                             RequestExport(timeline, record, callbacks);
-                         });
+        QObject::connect(
+            dialog.get(), &KrAutoReframeDialog::sigExportToLocal, &parent,
+            [&callbacks, &edits](IKxTimeline* timeline, const QList<IKxAbstractMedia*>&, const QVariant& record) {
+                RequestExport(timeline, record, edits, callbacks);
+            });
         QObject::connect(dialog.get(), &KrAutoReframeDialog::sigShowUnsupportDlg, &parent, callbacks.unsupported);
         dialog->SetExtensions(edits);
         dialog->InitMediaItem({video.item.get()});
