@@ -37,6 +37,13 @@
             <numerusform>%n to look at</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n files, enlarged beyond their crops: %1</source>
+        <translation>
+            <numerusform>%n file, enlarged beyond its crop: %1</numerusform>
+            <numerusform>%n files, enlarged beyond their crops: %1</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ExportPanel</name>

@@ -71,6 +71,18 @@ TEST_F(TestBatchDialog, TheExampleFollowsEveryChange)
     EXPECT_EQ(Example(), QStringLiteral("4 files: 9x16.mp4, 1x1.mp4, 9x16 (2).mp4, …"));
 }
 
+TEST_F(TestBatchDialog, PicturesThatBecomeLargerThanTheirCropsAreMentioned)
+{
+    Show(InFolder());
+    auto* const size = m_dialog->findChild<QComboBox*>(QStringLiteral("BatchDialog_size"));
+    ASSERT_NE(size, nullptr);
+    size->setCurrentIndex(size->findData(720)); // the crop has 607.5 pixels
+    EXPECT_EQ(Example(), QStringLiteral("2 files, enlarged beyond their crops: walk-9x16.mp4, street-9x16.mp4"));
+    Button("BatchDialog_9x16")->click();
+    Button("BatchDialog_1x1")->click();
+    EXPECT_EQ(Example(), QStringLiteral("2 files: walk-1x1.mp4, street-1x1.mp4"));
+}
+
 TEST_F(TestBatchDialog, WhatCannotBeStartedIsExplained)
 {
     Show(InFolder());

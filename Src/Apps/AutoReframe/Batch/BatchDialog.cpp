@@ -46,7 +46,9 @@ BatchDialog::BatchDialog(QList<BatchVideo> videos, const BatchSettings& initial,
     for (const QCheckBox* const ratio : qAsConst(m_ratios)) {
         connect(ratio, &QCheckBox::toggled, this, &BatchDialog::ShowState);
     }
-    connect(m_speed, qOverload<int>(&QComboBox::currentIndexChanged), this, &BatchDialog::ShowState);
+    for (const KxComboBox* const combo : {m_speed, m_size}) {
+        connect(combo, qOverload<int>(&QComboBox::currentIndexChanged), this, &BatchDialog::ShowState);
+    }
     RetranslateUi();
 }
 
@@ -181,7 +183,10 @@ QString BatchDialog::Example() const
     }
     const int count = settings.CountFor(m_videos);
     const QString more = count > examples ? QStringLiteral(", …") : QString();
-    return tr("%n files: %1", nullptr, count).arg(names.mid(0, examples).join(QStringLiteral(", ")) + more);
+    const QString text = settings.EnlargesAnyOf(m_videos)
+                             ? tr("%n files, enlarged beyond their crops: %1", nullptr, count)
+                             : tr("%n files: %1", nullptr, count);
+    return text.arg(names.mid(0, examples).join(QStringLiteral(", ")) + more);
 }
 
 void BatchDialog::RetranslateUi()

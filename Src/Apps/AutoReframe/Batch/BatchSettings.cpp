@@ -5,6 +5,9 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include <algorithm>
+#include <cmath>
+
 namespace
 {
 
@@ -47,6 +50,20 @@ int BatchSettings::CountFor(const QList<BatchVideo>& videos) const
         }
     }
     return count;
+}
+
+bool BatchSettings::EnlargesAnyOf(const QList<BatchVideo>& videos) const
+{
+    for (const BatchVideo& video : videos) {
+        for (const QSize& aspect : aspects) {
+            const QSizeF crop = QSizeF(aspect).scaled(video.resolution, Qt::KeepAspectRatio);
+            if (!video.resolution.isEmpty() && Changes(video, aspect) &&
+                shortSidePx > std::ceil(std::min(crop.width(), crop.height()))) {
+                return true;
+            }
+        }
+    }
+    return false;
 }
 
 QByteArray BatchSettings::ToJson() const

@@ -24,6 +24,8 @@ struct BatchSettings {
     QList<PlannedExport> PlanFor(const QList<BatchVideo>& videos, const OutputNames::Unique::IsTaken& isTaken) const;
     /// How many exports PlanFor() gives.
     int CountFor(const QList<BatchVideo>& videos) const;
+    /// Whether one of them would be larger than its crop.
+    bool EnlargesAnyOf(const QList<BatchVideo>& videos) const;
 
     QByteArray ToJson() const;
     /// What the text lacks is as in a default-constructed one.
