@@ -41,6 +41,18 @@ TEST(KxVideoEncoder, SavesMemoryForLargerPictures)
 namespace
 {
 
+/// The FFmpeg that is built for Windows has libx264 alone; Debian's has all of them.
+bool IsHere(KxOutputFormat::Codec codec)
+{
+    KxOutputFormat format;
+    format.codec = codec;
+    const bool isHere = avcodec_find_encoder_by_name(KxVideoEncoder::NameOf(format).toLatin1().constData()) != nullptr;
+#ifndef Q_OS_WIN
+    EXPECT_TRUE(isHere) << KxVideoEncoder::NameOf(format).toStdString();
+#endif
+    return isHere;
+}
+
 /// Bytes of a few textured pictures at a quality.
 qint64 BytesAt(KxOutputFormat::Codec codec, int quality)
 {
@@ -72,6 +84,9 @@ qint64 BytesAt(KxOutputFormat::Codec codec, int quality)
 TEST(KxVideoEncoder, ABetterQualityTakesMoreBytesInEachCodec)
 {
     for (const auto codec : {KxOutputFormat::Codec::H264, KxOutputFormat::Codec::Hevc, KxOutputFormat::Codec::Av1}) {
+        if (!IsHere(codec)) {
+            continue;
+        }
         const qint64 low = BytesAt(codec, 10);
         const qint64 middle = BytesAt(codec, 50);
         const qint64 high = BytesAt(codec, 90);
@@ -83,6 +98,9 @@ TEST(KxVideoEncoder, ABetterQualityTakesMoreBytesInEachCodec)
 
 TEST(KxVideoEncoder, PicturesOfTenBitsStayThat)
 {
+    if (!IsHere(KxOutputFormat::Codec::Hevc)) {
+        GTEST_SKIP() << "this FFmpeg has no libx265";
+    }
     const KxAvFrame picture = MadePicture::Make(AV_PIX_FMT_YUV420P10, QSize(320, 192), &MadePicture::Texture);
     KxVideoEncoder::Settings settings;
     settings.size = QSize(320, 192);
