@@ -79,6 +79,9 @@ TEST_F(TestCropFinder, TheResultCanHaveAnotherSizeThanTheCrop)
     request.plan.aspect = QSize(21, 9);
     request.plan.shortSidePx = 720;
     EXPECT_EQ(Find(request).request.settings.resolution, QSize(1680, 720));
+    request.plan.shortSidePx = 0;
+    request.plan.heightPx = 540;
+    EXPECT_EQ(Find(request).request.settings.resolution, QSize(1260, 540));
 }
 
 TEST_F(TestCropFinder, EditPointsOfTheDialogAreKeptTo)

@@ -76,11 +76,15 @@ TEST_F(TestBatchDialog, PicturesThatBecomeLargerThanTheirCropsAreMentioned)
     Show(InFolder());
     auto* const size = m_dialog->findChild<QComboBox*>(QStringLiteral("BatchDialog_size"));
     ASSERT_NE(size, nullptr);
-    size->setCurrentIndex(size->findData(720)); // the crop has 607.5 pixels
+    size->setCurrentText(QStringLiteral("Shorter side 720 pixels")); // the crop has 607.5
     EXPECT_EQ(Example(), QStringLiteral("2 files, enlarged beyond their crops: walk-9x16.mp4, street-9x16.mp4"));
     Button("BatchDialog_9x16")->click();
     Button("BatchDialog_1x1")->click();
     EXPECT_EQ(Example(), QStringLiteral("2 files: walk-1x1.mp4, street-1x1.mp4"));
+    size->setCurrentText(QStringLiteral("2160 pixels high"));
+    EXPECT_EQ(Example(), QStringLiteral("2 files, enlarged beyond their crops: walk-1x1.mp4, street-1x1.mp4"));
+    EXPECT_EQ(m_dialog->Settings().heightPx, 2160);
+    EXPECT_EQ(m_dialog->Settings().shortSidePx, 0);
 }
 
 TEST_F(TestBatchDialog, WhatCannotBeStartedIsExplained)

@@ -70,12 +70,14 @@ TEST(BatchSettingsTest, TheyAreReadAsTheyWereWritten)
     settings.aspects = {QSize(4, 5), QSize(21, 9)};
     settings.speed = 24;
     settings.shortSidePx = 720;
+    settings.heightPx = 2160;
     settings.folder = QString::fromUtf8("/videos/Вечер \"1\"");
     settings.pattern = QStringLiteral("{date}");
     const BatchSettings read = BatchSettings::FromJson(settings.ToJson());
     EXPECT_EQ(read.aspects, settings.aspects);
     EXPECT_EQ(read.speed, 24);
     EXPECT_EQ(read.shortSidePx, 720);
+    EXPECT_EQ(read.heightPx, 2160);
     EXPECT_EQ(read.folder, settings.folder);
     EXPECT_EQ(read.pattern, settings.pattern);
 }

@@ -276,7 +276,7 @@ TEST_F(TestLibraryDatabase, AnExportWhoseCropsAreDamagedIsLeftOut)
 
 TEST_F(TestLibraryDatabase, APlannedExportComesBackWithItsPlanAndWhatIsToBeLookedAt)
 {
-    const ReframePlan plan{QSize(4, 5), 24, 1080};
+    const ReframePlan plan{QSize(4, 5), 24, 1080, 2160};
     {
         const auto database = Open();
         StoredExport item = Export(1, State::Waiting);

@@ -235,8 +235,7 @@ KxError CropFinder::MakeRequest(ExportRequest& request) const
         return Texts::tr("Cannot reframe %1: its picture of %2 x %3 pixels is too small.")
             .arg(m_analyzed.media->name(), QString::number(picture.width()), QString::number(picture.height()));
     }
-    KxOutputSize size;
-    size.shortSidePx = m_request.plan.shortSidePx;
+    const KxOutputSize size{QSize(), m_request.plan.heightPx, m_request.plan.shortSidePx};
     const KxResult<QSize> resolution =
         size.For({crop.width() * picture.width(), crop.height() * picture.height()}, settings.resolution);
     if (!resolution) {

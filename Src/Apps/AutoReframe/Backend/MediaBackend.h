@@ -66,12 +66,14 @@ struct ReframePlan {
     QSize aspect;
     /// As in IKxAutoReframeParam: 8 fast, 16 auto, 24 slow.
     int speed = 16;
-    /// Of the result; 0: as large as the crop.
+    /// Of the result; at most one of both is set, otherwise it is as large as the crop.
     int shortSidePx = 0;
+    int heightPx = 0;
 
     bool operator==(const ReframePlan& other) const
     {
-        return aspect == other.aspect && speed == other.speed && shortSidePx == other.shortSidePx;
+        return aspect == other.aspect && speed == other.speed && shortSidePx == other.shortSidePx &&
+               heightPx == other.heightPx;
     }
 };
 

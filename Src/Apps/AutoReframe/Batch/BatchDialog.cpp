@@ -30,6 +30,12 @@ const std::array<Ratio, 6> Ratios{{{QSize(9, 16), QT_TRANSLATE_NOOP("BatchDialog
                                    {QSize(16, 9), QT_TRANSLATE_NOOP("BatchDialog", "Widescreen")},
                                    {QSize(4, 3), QT_TRANSLATE_NOOP("BatchDialog", "Classic television")}}};
 constexpr std::array<int, 4> ShortSidesPx{720, 1080, 1440, 2160};
+constexpr int HeightPx = 2160;
+
+QVariant SizeData(int shortSidePx, int heightPx)
+{
+    return QSize(shortSidePx, heightPx);
+}
 
 } // namespace
 
@@ -119,10 +125,11 @@ void BatchDialog::FillCombos()
     m_speed->addItem(tr("Slow"), slow);
     m_speed->addItem(tr("Fast"), fast);
     m_size->clear();
-    m_size->addItem(tr("As large as the crop"), 0);
+    m_size->addItem(tr("As large as the crop"), SizeData(0, 0));
     for (const int sidePx : ShortSidesPx) {
-        m_size->addItem(tr("Shorter side %1 pixels").arg(sidePx), sidePx);
+        m_size->addItem(tr("Shorter side %1 pixels").arg(sidePx), SizeData(sidePx, 0));
     }
+    m_size->addItem(tr("%1 pixels high").arg(HeightPx), SizeData(0, HeightPx));
     m_speed->setCurrentIndex(std::max(0, speed));
     m_size->setCurrentIndex(std::max(0, size));
 }
@@ -133,7 +140,7 @@ void BatchDialog::Fill(const BatchSettings& settings)
         m_ratios.at(i)->setChecked(settings.aspects.contains(Ratios[static_cast<size_t>(i)].aspect));
     }
     m_speed->setCurrentIndex(std::max(0, m_speed->findData(settings.speed)));
-    m_size->setCurrentIndex(std::max(0, m_size->findData(settings.shortSidePx)));
+    m_size->setCurrentIndex(std::max(0, m_size->findData(SizeData(settings.shortSidePx, settings.heightPx))));
     SetFileName(settings.pattern);
     SetFolder(settings.folder);
 }
@@ -148,7 +155,8 @@ BatchSettings BatchDialog::Settings() const
         }
     }
     settings.speed = m_speed->currentData().toInt();
-    settings.shortSidePx = m_size->currentData().toInt();
+    settings.shortSidePx = m_size->currentData().toSize().width();
+    settings.heightPx = m_size->currentData().toSize().height();
     settings.pattern = FileName();
     settings.folder = Folder();
     return settings;

@@ -33,7 +33,7 @@ QList<PlannedExport> BatchSettings::PlanFor(const QList<BatchVideo>& videos,
             if (Changes(video, aspect)) {
                 facts.aspect = aspect;
                 const QString path = paths.Path(folder, OutputNames::Expand(pattern, facts));
-                planned += PlannedExport{video.path, {aspect, speed, shortSidePx}, path, video.frames};
+                planned += PlannedExport{video.path, {aspect, speed, shortSidePx, heightPx}, path, video.frames};
             }
         }
         ++facts.number;
@@ -57,8 +57,9 @@ bool BatchSettings::EnlargesAnyOf(const QList<BatchVideo>& videos) const
     for (const BatchVideo& video : videos) {
         for (const QSize& aspect : aspects) {
             const QSizeF crop = QSizeF(aspect).scaled(video.resolution, Qt::KeepAspectRatio);
-            if (!video.resolution.isEmpty() && Changes(video, aspect) &&
-                shortSidePx > std::ceil(std::min(crop.width(), crop.height()))) {
+            const bool isLarger =
+                shortSidePx > std::ceil(std::min(crop.width(), crop.height())) || heightPx > std::ceil(crop.height());
+            if (isLarger && !video.resolution.isEmpty() && Changes(video, aspect)) {
                 return true;
             }
         }
@@ -72,11 +73,9 @@ QByteArray BatchSettings::ToJson() const
     for (const QSize& aspect : aspects) {
         sides += QJsonArray{aspect.width(), aspect.height()};
     }
-    const QJsonObject object{{QStringLiteral("aspects"), sides},
-                             {QStringLiteral("speed"), speed},
-                             {QStringLiteral("short_side"), shortSidePx},
-                             {QStringLiteral("folder"), folder},
-                             {QStringLiteral("pattern"), pattern}};
+    const QJsonObject object{{QStringLiteral("aspects"), sides},          {QStringLiteral("speed"), speed},
+                             {QStringLiteral("short_side"), shortSidePx}, {QStringLiteral("height"), heightPx},
+                             {QStringLiteral("folder"), folder},          {QStringLiteral("pattern"), pattern}};
     return QJsonDocument(object).toJson(QJsonDocument::Compact);
 }
 
@@ -95,6 +94,7 @@ BatchSettings BatchSettings::FromJson(const QByteArray& text)
     settings.aspects = aspects.isEmpty() ? settings.aspects : aspects;
     settings.speed = object.value(QLatin1String("speed")).toInt(settings.speed);
     settings.shortSidePx = object.value(QLatin1String("short_side")).toInt(settings.shortSidePx);
+    settings.heightPx = object.value(QLatin1String("height")).toInt(settings.heightPx);
     settings.folder = object.value(QLatin1String("folder")).toString();
     settings.pattern = object.value(QLatin1String("pattern")).toString(settings.pattern);
     return settings;

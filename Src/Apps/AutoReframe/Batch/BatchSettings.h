@@ -16,6 +16,7 @@ struct BatchSettings {
     QList<QSize> aspects{QSize(9, 16)};
     int speed = 16;      ///< as in ReframePlan
     int shortSidePx = 0; ///< as in ReframePlan
+    int heightPx = 0;    ///< as in ReframePlan
     QString folder;
     QString pattern = QStringLiteral("{name}-{ratio}");
 

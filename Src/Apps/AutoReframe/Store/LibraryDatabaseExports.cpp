@@ -126,7 +126,7 @@ StoredExport ExportOf(const QSqlQuery& row, State state)
     item.message = row.value(14).toString();
     const QSize aspect(row.value(15).toInt(), row.value(16).toInt());
     if (!aspect.isEmpty()) {
-        item.plan = ReframePlan{aspect, row.value(17).toInt(), row.value(18).toInt()};
+        item.plan = ReframePlan{aspect, row.value(17).toInt(), row.value(18).toInt(), row.value(21).toInt()};
     }
     item.frames = row.value(19).toLongLong();
     item.shotsToLookAt = FramesOf(row.value(20).toString());
@@ -166,7 +166,8 @@ KxError LibraryDatabase::ReadExports(StoredContents& contents)
         QStringLiteral(
             "SELECT key, state, source_path, audio_stream, crops, output_path, adds_number, width, height, "
             "frame_rate, video_bit_rate, audio_bit_rate, file_path, file_bytes, message, plan_width, "
-            "plan_height, plan_speed, plan_short_side, frames, shots_to_look_at FROM exports WHERE run = ? OR NOT ") +
+            "plan_height, plan_speed, plan_short_side, frames, shots_to_look_at, plan_output_height FROM exports "
+            "WHERE run = ? OR NOT ") +
             Unfinished + QStringLiteral(" ORDER BY position, key"),
         {m_run.Name()}, [&contents](const QSqlQuery& row) {
             const std::optional<State> state = StateOf(row.value(1).toString());
@@ -186,14 +187,14 @@ KxError LibraryDatabase::SaveExport(const StoredExport& item)
 {
     const KxRenderSource& source = item.request.source;
     const KxRenderSettings& settings = item.request.settings;
-    const ReframePlan plan = item.plan.value_or(ReframePlan{QSize(0, 0), 0, 0});
+    const ReframePlan plan = item.plan.value_or(ReframePlan{QSize(0, 0), 0, 0, 0});
     return m_connection.Execute(
         QStringLiteral("INSERT OR REPLACE INTO exports(key, position, state, run, source_path, audio_stream, crops, "
                        "output_path, adds_number, width, height, frame_rate, video_bit_rate, audio_bit_rate, "
                        "file_path, file_bytes, message, plan_width, plan_height, plan_speed, plan_short_side, "
-                       "frames, shots_to_look_at) "
+                       "frames, shots_to_look_at, plan_output_height) "
                        "VALUES(?, (SELECT coalesce(max(position), 0) + 1 FROM exports), ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, "
-                       "?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)"),
+                       "?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)"),
         {item.key,
          NameOf(item.state),
          m_run.Name(),
@@ -215,7 +216,8 @@ KxError LibraryDatabase::SaveExport(const StoredExport& item)
          plan.speed,
          plan.shortSidePx,
          item.frames,
-         TextOf(item.shotsToLookAt)});
+         TextOf(item.shotsToLookAt),
+         plan.heightPx});
 }
 
 KxError LibraryDatabase::SaveExportState(const StoredExport& item)
