@@ -263,7 +263,7 @@ KxAutoReframeGuess KxAutoReframeService::GuessBox(const QString& path, qint64 fr
 {
     KxAutoReframeGuess guess;
     // Without a guess the person draws the box.
-    KxCallGuarded([&] { guess = KxPointedPicture::GuessAt(path, frame, point); });
+    KxCallGuarded([&] { guess = KxPointedPicture::GuessAt(path, frame, point, RecordOf(path).get()); });
     return guess;
 }
 

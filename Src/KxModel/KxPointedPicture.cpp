@@ -3,10 +3,61 @@
 #include <KxMedia/Picture/KxPictureScaler.h>
 #include <KxMedia/Read/KxVideoReader.h>
 #include <KxSubject/KxPointedBox.h>
+#include <KxSubject/KxSubjectRecord.h>
 
+#include <algorithm>
+#include <array>
 #include <cstdlib>
 
-KxAutoReframeGuess KxPointedPicture::GuessAt(const QString& path, qint64 frame, const QPointF& point)
+namespace
+{
+
+/// Shares of coarse colours, eight steps of each channel.
+class Colours
+{
+public:
+    /// Of `area`, but for `hole`.
+    Colours(const QImage& picture, const QRect& area, const QRect& hole)
+    {
+        const QRect inside = area & picture.rect();
+        for (int y = inside.top(); y <= inside.bottom(); ++y) {
+            for (int x = inside.left(); x <= inside.right(); ++x) {
+                if (!hole.contains(x, y)) {
+                    const QRgb pixel = picture.pixel(x, y);
+                    constexpr int shift = 5;
+                    m_counts[static_cast<std::size_t>((qRed(pixel) >> shift) * 64 + (qGreen(pixel) >> shift) * 8 +
+                                                      (qBlue(pixel) >> shift))] += 1.0;
+                    m_pixels += 1.0;
+                }
+            }
+        }
+    }
+
+    double SharedWith(const Colours& other) const
+    {
+        double shared = 0.0;
+        for (std::size_t i = 0; m_pixels > 0.0 && other.m_pixels > 0.0 && i < m_counts.size(); ++i) {
+            shared += std::min(m_counts[i] / m_pixels, other.m_counts[i] / other.m_pixels);
+        }
+        return shared;
+    }
+
+private:
+    std::array<double, 512> m_counts{};
+    double m_pixels = 0.0;
+};
+
+QRect PixelsOf(const QRectF& box, const QSize& size)
+{
+    return QRectF(box.x() * size.width(), box.y() * size.height(), box.width() * size.width(),
+                  box.height() * size.height())
+        .toAlignedRect();
+}
+
+} // namespace
+
+KxAutoReframeGuess KxPointedPicture::GuessAt(const QString& path, qint64 frame, const QPointF& point,
+                                             const KxSubjectRecord* record)
 {
     // As large as the pictures in which what was pointed at is followed.
     constexpr int sidePx = 320;
@@ -26,7 +77,13 @@ KxAutoReframeGuess KxPointedPicture::GuessAt(const QString& path, qint64 frame, 
         {image.constBits(), {image.width(), image.height()}, static_cast<std::size_t>(image.bytesPerLine())}, point.x(),
         point.y());
     const QRectF found(box.x, box.y, box.width, box.height);
-    return {found, IsPlain(image, found)};
+    // Where the analysis saw nothing, a pattern that goes on is background; without an analysis it has to be clearer.
+    constexpr double usualShare = 0.5;
+    constexpr double clearShare = 0.7;
+    const bool isKnown = record != nullptr;
+    const bool isThing = isKnown && KxSawSomethingAt(*record, record->SecondsAt(frame), point.x(), point.y());
+    const bool goesOn = !isThing && SharedColours(image, found) > (isKnown ? usualShare : clearShare);
+    return {found, goesOn || IsPlain(image, found)};
 }
 
 bool KxPointedPicture::IsPlain(const QImage& picture, const QRectF& box)
@@ -34,10 +91,7 @@ bool KxPointedPicture::IsPlain(const QImage& picture, const QRectF& box)
     // Of 255, between neighbours; noise and a gradual light stay below.
     constexpr int edge = 14;
     constexpr double fewEdges = 0.02;
-    const QRect area = QRectF(box.x() * picture.width(), box.y() * picture.height(), box.width() * picture.width(),
-                              box.height() * picture.height())
-                           .toAlignedRect() &
-                       picture.rect().adjusted(0, 0, -1, -1);
+    const QRect area = PixelsOf(box, picture.size()) & picture.rect().adjusted(0, 0, -1, -1);
     if (area.isEmpty()) {
         return false;
     }
@@ -55,4 +109,17 @@ bool KxPointedPicture::IsPlain(const QImage& picture, const QRectF& box)
         }
     }
     return static_cast<double>(edges) < fewEdges * area.width() * area.height();
+}
+
+double KxPointedPicture::SharedColours(const QImage& picture, const QRectF& box)
+{
+    // On each side, in widths and heights of the box.
+    constexpr double margin = 0.6;
+    const QRect inner = PixelsOf(box, picture.size()) & picture.rect();
+    const QSize around(qRound(margin * inner.width()), qRound(margin * inner.height()));
+    const QRect outer = inner.adjusted(-around.width(), -around.height(), around.width(), around.height());
+    const QRect middle = inner.adjusted(inner.width() / 4, inner.height() / 4, -inner.width() / 4, -inner.height() / 4);
+    const Colours surroundings(picture, outer, inner);
+    return std::min(Colours(picture, inner, {}).SharedWith(surroundings),
+                    Colours(picture, middle, {}).SharedWith(surroundings));
 }

@@ -9,13 +9,21 @@
 #include <QRectF>
 #include <QString>
 
+struct KxSubjectRecord;
+
 /// What a person points at in a video.
 namespace KxPointedPicture
 {
-/// What is at `point` in frame `frame` of the file `path`; places are fractions of the picture. Blocks.
-KxAutoReframeGuess GuessAt(const QString& path, qint64 frame, const QPointF& point);
+/// What is at `point` in frame `frame` of the file `path`; places are fractions of the picture. `record` is of the same
+/// file, null without one. Blocks.
+KxAutoReframeGuess GuessAt(const QString& path, qint64 frame, const QPointF& point, const KxSubjectRecord* record);
 
 /// Whether there is nothing in `box` that could be told from its surroundings in another picture: hardly any edges. A
 /// wall with a pattern has edges.
 KXMODEL_API bool IsPlain(const QImage& picture, const QRectF& box);
+
+/// How much of the colours in `box`, and in its middle, are those around it: 0 to 1, the smaller of both. A pattern
+/// that goes on around the box has much of them, and so has a thing of the colours of its surroundings. 0 where there
+/// is nothing around it.
+KXMODEL_API double SharedColours(const QImage& picture, const QRectF& box);
 } // namespace KxPointedPicture

@@ -25,6 +25,21 @@ QImage Wall()
     return picture;
 }
 
+/// Wallpaper with stripes and dots.
+QImage Wallpaper()
+{
+    QImage picture(PictureSize, QImage::Format_BGR888);
+    picture.fill(QColor(200, 190, 160));
+    QPainter painter(&picture);
+    for (int x = 0; x < picture.width(); x += 16) {
+        painter.fillRect(x, 0, 6, picture.height(), QColor(90, 120, 90));
+        for (int y = 4; y < picture.height(); y += 12) {
+            painter.fillRect(x + 9, y, 4, 4, QColor(160, 60, 60));
+        }
+    }
+    return picture;
+}
+
 } // namespace
 
 TEST(KxPointedPicture, AWallIsPlain)
@@ -44,4 +59,24 @@ TEST(KxPointedPicture, ABoxBeyondThePictureIsNotCalledPlain)
     EXPECT_FALSE(KxPointedPicture::IsPlain(Wall(), QRectF(1.0, 1.0, 0.2, 0.2)));
     EXPECT_FALSE(KxPointedPicture::IsPlain(QImage(), Box));
     EXPECT_TRUE(KxPointedPicture::IsPlain(Wall(), QRectF(0.9, 0.9, 0.2, 0.2)));
+}
+
+TEST(KxPointedPicture, APatternThatGoesOnSharesItsColoursWithItsSurroundings)
+{
+    EXPECT_FALSE(KxPointedPicture::IsPlain(Wallpaper(), Box));
+    EXPECT_GT(KxPointedPicture::SharedColours(Wallpaper(), Box), 0.8);
+}
+
+TEST(KxPointedPicture, AThingInFrontOfAPatternDoesNot)
+{
+    QImage picture = Wallpaper();
+    QPainter(&picture).fillRect(QRect(130, 56, 42, 46), QColor(40, 60, 150));
+    EXPECT_LT(KxPointedPicture::SharedColours(picture, Box), 0.3);
+}
+
+TEST(KxPointedPicture, WithoutSurroundingsNothingIsShared)
+{
+    EXPECT_EQ(KxPointedPicture::SharedColours(Wallpaper(), QRectF(0.0, 0.0, 1.0, 1.0)), 0.0);
+    EXPECT_EQ(KxPointedPicture::SharedColours(Wallpaper(), QRectF(2.0, 0.0, 1.0, 1.0)), 0.0);
+    EXPECT_EQ(KxPointedPicture::SharedColours(QImage(), Box), 0.0);
 }
