@@ -218,6 +218,33 @@
     </message>
 </context>
 <context>
+    <name>AutoReframeOptions</name>
+    <message>
+        <source>%1
+Try auto-reframe --help.</source>
+        <translation>%1
+Hilfe: auto-reframe --help.</translation>
+    </message>
+    <message>
+        <source>Show this text.</source>
+        <translation>Diesen Text anzeigen.</translation>
+    </message>
+    <message>
+        <source>Show the version.</source>
+        <translation>Die Version anzeigen.</translation>
+    </message>
+    <message>
+        <source>Turns videos into another aspect ratio and keeps their subject in the picture.
+The command line program for many files at once is reframe.</source>
+        <translation>Bringt Videos in ein anderes Seitenverhältnis und hält ihr Motiv im Bild.
+Das Kommandozeilenprogramm für viele Dateien auf einmal heißt reframe.</translation>
+    </message>
+    <message>
+        <source>Videos to open the library with.</source>
+        <translation>Videos, mit denen die Bibliothek geöffnet wird.</translation>
+    </message>
+</context>
+<context>
     <name>BatchDialog</name>
     <message>
         <source>Shorts, Reels, Stories</source>
@@ -527,16 +554,16 @@
         <translation>Noch einmal exportieren</translation>
     </message>
     <message>
-        <source>Opens the video at these settings; N leads to its doubtful shots.</source>
-        <translation>Öffnet das Video mit diesen Einstellungen; N führt zu den fraglichen Stellen.</translation>
-    </message>
-    <message>
         <source>Show the file in its folder</source>
         <translation>Die Datei in ihrem Ordner zeigen</translation>
     </message>
     <message>
         <source>Remove from list</source>
         <translation>Aus der Liste entfernen</translation>
+    </message>
+    <message>
+        <source>Opens the video at these settings and its first doubtful shot; N leads to the next one.</source>
+        <translation>Öffnet das Video mit diesen Einstellungen an der ersten fraglichen Stelle; N führt zur nächsten.</translation>
     </message>
 </context>
 <context>
@@ -1034,6 +1061,20 @@ Benötigt: %1 MB, verfügbar: %2 MB.</translation>
         <source>Settings changed: analyze again</source>
         <translation>Einstellungen geändert: neu analysieren</translation>
     </message>
+    <message numerus="yes">
+        <source>%n choices are kept, but not in this cut of the video</source>
+        <translation>
+            <numerusform>%n Vorgabe bleibt, aber nicht in dieser Schnittfassung</numerusform>
+            <numerusform>%n Vorgaben bleiben, aber nicht in dieser Schnittfassung</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n choices were moved to where their pictures are</source>
+        <translation>
+            <numerusform>%n Vorgabe wurde dorthin verschoben, wo ihr Bild ist</numerusform>
+            <numerusform>%n Vorgaben wurden dorthin verschoben, wo ihre Bilder sind</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>KrDoubtfulShots</name>
@@ -1258,6 +1299,17 @@ Benötigt: %1 MB, verfügbar: %2 MB.</translation>
     </message>
 </context>
 <context>
+    <name>KxAutoReframeService</name>
+    <message>
+        <source>Cannot analyse %1: %2.</source>
+        <translation>%1 kann nicht analysiert werden: %2.</translation>
+    </message>
+    <message>
+        <source>the stored choices</source>
+        <translation>die gespeicherten Vorgaben</translation>
+    </message>
+</context>
+<context>
     <name>KxAvError</name>
     <message>
         <source>it was cancelled</source>
@@ -1277,6 +1329,148 @@ Benötigt: %1 MB, verfügbar: %2 MB.</translation>
     </message>
 </context>
 <context>
+    <name>KxChoicesFormat</name>
+    <message>
+        <source>Cannot use %1: %2.</source>
+        <translation>%1 kann nicht verwendet werden: %2.</translation>
+    </message>
+    <message>
+        <source>choice %1 has no valid time (&quot;%2&quot;), in seconds</source>
+        <translation>Vorgabe %1 hat keine gültige Zeit („%2“) in Sekunden</translation>
+    </message>
+    <message>
+        <source>choice %1 has &quot;%2&quot; that are no list</source>
+        <translation>Vorgabe %1 hat „%2“, aber nicht als Liste</translation>
+    </message>
+    <message>
+        <source>it has more than %1 seeds and boxes</source>
+        <translation>mehr als %1 Startpunkte und Rahmen</translation>
+    </message>
+    <message>
+        <source>choice %1 has a box that is not left, top, width and height in fractions of the picture</source>
+        <translation>Vorgabe %1 hat einen Rahmen, der nicht aus links, oben, Breite und Höhe in Bruchteilen des Bildes besteht</translation>
+    </message>
+    <message>
+        <source>choice %1 has no &quot;seeds&quot; that show what it means</source>
+        <translation>Vorgabe %1 hat keine „seeds“, die zeigen, was gemeint ist</translation>
+    </message>
+    <message>
+        <source>choice %1 has more than %2 &quot;pictures&quot;</source>
+        <translation>Vorgabe %1 hat mehr als %2 „pictures“</translation>
+    </message>
+    <message>
+        <source>choice %1 has &quot;pictures&quot; that are not times with 16 hexadecimal digits</source>
+        <translation>Vorgabe %1 hat „pictures“, die keine Zeiten mit 16 hexadezimalen Ziffern sind</translation>
+    </message>
+    <message>
+        <source>choice %1 has no known &quot;kind&quot;; it is follow, avoid, hold, fit or automatic</source>
+        <translation>Vorgabe %1 hat kein bekanntes „kind“; möglich sind follow, avoid, hold, fit oder automatic</translation>
+    </message>
+    <message>
+        <source>choice %1 ends before it begins</source>
+        <translation>Vorgabe %1 endet, bevor sie beginnt</translation>
+    </message>
+    <message>
+        <source>choice %1 has no &quot;centre&quot; in fractions of the picture</source>
+        <translation>Vorgabe %1 hat kein „centre“ in Bruchteilen des Bildes</translation>
+    </message>
+    <message>
+        <source>it is longer than %1 bytes</source>
+        <translation>länger als %1 Bytes</translation>
+    </message>
+    <message>
+        <source>it is no list of choices (JSON, byte %1)</source>
+        <translation>das ist keine Liste von Vorgaben (JSON, Byte %1)</translation>
+    </message>
+    <message>
+        <source>it is of version %1, and this program reads version %2</source>
+        <translation>die Datei hat Version %1, und dieses Programm liest Version %2</translation>
+    </message>
+    <message>
+        <source>it has no &quot;version&quot;</source>
+        <translation>„version“ fehlt</translation>
+    </message>
+    <message>
+        <source>it has no list of &quot;choices&quot;</source>
+        <translation>eine Liste „choices“ fehlt</translation>
+    </message>
+    <message>
+        <source>it has more than %1 choices</source>
+        <translation>mehr als %1 Vorgaben</translation>
+    </message>
+    <message>
+        <source>Cannot open %1: it is not a regular file.</source>
+        <translation>%1 kann nicht geöffnet werden: Das ist keine gewöhnliche Datei.</translation>
+    </message>
+    <message>
+        <source>Cannot open %1: %2.</source>
+        <translation>%1 kann nicht geöffnet werden: %2.</translation>
+    </message>
+    <message>
+        <source>Cannot read %1: %2.</source>
+        <translation>%1 kann nicht gelesen werden: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>KxDetectorFiles</name>
+    <message>
+        <source>it is a folder</source>
+        <translation>das ist ein Ordner</translation>
+    </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>das ist keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>it cannot be read</source>
+        <translation>die Datei kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>it is too large for a detector</source>
+        <translation>die Datei ist zu groß für einen Detektor</translation>
+    </message>
+    <message>
+        <source>its checksum is unknown (no SHA256SUMS beside it names the file)</source>
+        <translation>die Prüfsumme ist unbekannt (keine SHA256SUMS im selben Ordner nennt die Datei)</translation>
+    </message>
+    <message>
+        <source>it is damaged (SHA256SUMS has another checksum)</source>
+        <translation>die Datei ist beschädigt (SHA256SUMS nennt eine andere Prüfsumme)</translation>
+    </message>
+    <message>
+        <source>Cannot use the detector %1: %2.</source>
+        <translation>Der Detektor %1 kann nicht verwendet werden: %2.</translation>
+    </message>
+    <message>
+        <source>there is no such folder</source>
+        <translation>es gibt keinen solchen Ordner</translation>
+    </message>
+    <message>
+        <source>it is not a folder</source>
+        <translation>das ist kein Ordner</translation>
+    </message>
+    <message>
+        <source>it has neither %1 nor %2</source>
+        <translation>weder %1 noch %2 ist vorhanden</translation>
+    </message>
+    <message>
+        <source>Cannot use the models in %1: %2.</source>
+        <translation>Die Modelle in %1 können nicht verwendet werden: %2.</translation>
+    </message>
+    <message>
+        <source>The detector of people and animals is not installed; the analysis works without it.</source>
+        <translation>Der Detektor für Menschen und Tiere ist nicht installiert; die Analyse funktioniert auch ohne ihn.</translation>
+    </message>
+    <message>
+        <source>it is not NanoDet-g as OpenCV can run it</source>
+        <translation>das ist nicht NanoDet-g, wie OpenCV es ausführen kann</translation>
+    </message>
+    <message>
+        <source>it is not a face detector that OpenCV can run</source>
+        <translation>das ist kein Gesichtsdetektor, den OpenCV ausführen kann</translation>
+    </message>
+</context>
+<context>
     <name>KxFittedCutter</name>
     <message>
         <source>Cannot cut a picture: the rectangle to cut out is empty.</source>
@@ -1285,6 +1479,13 @@ Benötigt: %1 MB, verfügbar: %2 MB.</translation>
     <message>
         <source>Cannot cut a picture: memory ran out.</source>
         <translation>Ein Bild kann nicht ausgeschnitten werden: Der Arbeitsspeicher reicht nicht.</translation>
+    </message>
+</context>
+<context>
+    <name>KxFollowPass</name>
+    <message>
+        <source>Cannot follow in %1: %2.</source>
+        <translation>Verfolgen in %1 nicht möglich: %2.</translation>
     </message>
 </context>
 <context>
@@ -1688,6 +1889,41 @@ Benötigt: %1 MB, verfügbar: %2 MB.</translation>
     <message>
         <source>Close</source>
         <translation>Schließen</translation>
+    </message>
+</context>
+<context>
+    <name>KxVideoAnalysis</name>
+    <message>
+        <source>Choice %1 is applied %2 s earlier, where its pictures are in %3.</source>
+        <translation>Vorgabe %1 gilt %2 s früher, wo ihre Bilder in %3 sind.</translation>
+    </message>
+    <message>
+        <source>Choice %1 is applied %2 s later, where its pictures are in %3.</source>
+        <translation>Vorgabe %1 gilt %2 s später, wo ihre Bilder in %3 sind.</translation>
+    </message>
+    <message>
+        <source>Choice %1 is not applied: its pictures are not in %2.</source>
+        <translation>Vorgabe %1 gilt nicht: Ihre Bilder sind nicht in %2.</translation>
+    </message>
+    <message>
+        <source>The aspect ratio %1:%2 has a side that is not positive.</source>
+        <translation>Das Seitenverhältnis %1:%2 hat eine Seite, die nicht positiv ist.</translation>
+    </message>
+    <message>
+        <source>Cannot analyse %1: its time stamps span %2 frames, the limit is %3.</source>
+        <translation>%1 kann nicht analysiert werden: Die Zeitstempel umfassen %2 Bilder, höchstens %3 sind möglich.</translation>
+    </message>
+    <message>
+        <source>Cannot analyse %1: %2.</source>
+        <translation>%1 kann nicht analysiert werden: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is cut off or damaged: it decodes only in part.</source>
+        <translation>%1 ist abgeschnitten oder beschädigt: Nur ein Teil lässt sich decodieren.</translation>
+    </message>
+    <message>
+        <source>What is followed is lost from %1 s to %2 s: point at it again there.</source>
+        <translation>Das Verfolgte ist von %1 s bis %2 s verloren: Dort noch einmal darauf zeigen.</translation>
     </message>
 </context>
 <context>

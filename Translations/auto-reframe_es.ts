@@ -218,6 +218,33 @@
     </message>
 </context>
 <context>
+    <name>AutoReframeOptions</name>
+    <message>
+        <source>%1
+Try auto-reframe --help.</source>
+        <translation>%1
+Consultar auto-reframe --help.</translation>
+    </message>
+    <message>
+        <source>Show this text.</source>
+        <translation>Mostrar este texto.</translation>
+    </message>
+    <message>
+        <source>Show the version.</source>
+        <translation>Mostrar la versión.</translation>
+    </message>
+    <message>
+        <source>Turns videos into another aspect ratio and keeps their subject in the picture.
+The command line program for many files at once is reframe.</source>
+        <translation>Convierte vídeos a otra relación de aspecto y mantiene su sujeto dentro de la imagen.
+El programa de línea de órdenes para muchos archivos a la vez es reframe.</translation>
+    </message>
+    <message>
+        <source>Videos to open the library with.</source>
+        <translation>Vídeos con los que abrir la biblioteca.</translation>
+    </message>
+</context>
+<context>
     <name>BatchDialog</name>
     <message>
         <source>Shorts, Reels, Stories</source>
@@ -527,16 +554,16 @@
         <translation>Exportarlo de nuevo</translation>
     </message>
     <message>
-        <source>Opens the video at these settings; N leads to its doubtful shots.</source>
-        <translation>Abre el vídeo con estos ajustes; N lleva a sus planos dudosos.</translation>
-    </message>
-    <message>
         <source>Show the file in its folder</source>
         <translation>Mostrar el archivo en su carpeta</translation>
     </message>
     <message>
         <source>Remove from list</source>
         <translation>Quitar de la lista</translation>
+    </message>
+    <message>
+        <source>Opens the video at these settings and its first doubtful shot; N leads to the next one.</source>
+        <translation>Abre el vídeo con estos ajustes en su primer plano dudoso; N lleva al siguiente.</translation>
     </message>
 </context>
 <context>
@@ -1034,6 +1061,20 @@ Espacio necesario: %1 MB, disponible: %2 MB.</translation>
         <source>Settings changed: analyze again</source>
         <translation>Ajustes modificados: reanalizar</translation>
     </message>
+    <message numerus="yes">
+        <source>%n choices are kept, but not in this cut of the video</source>
+        <translation>
+            <numerusform>%n elección se conserva, pero no en este montaje del vídeo</numerusform>
+            <numerusform>%n elecciones se conservan, pero no en este montaje del vídeo</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n choices were moved to where their pictures are</source>
+        <translation>
+            <numerusform>%n elección se movió a donde está su imagen</numerusform>
+            <numerusform>%n elecciones se movieron a donde están sus imágenes</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>KrDoubtfulShots</name>
@@ -1258,6 +1299,17 @@ Espacio necesario: %1 MB, disponible: %2 MB.</translation>
     </message>
 </context>
 <context>
+    <name>KxAutoReframeService</name>
+    <message>
+        <source>Cannot analyse %1: %2.</source>
+        <translation>No se puede analizar %1: %2.</translation>
+    </message>
+    <message>
+        <source>the stored choices</source>
+        <translation>las elecciones guardadas</translation>
+    </message>
+</context>
+<context>
     <name>KxAvError</name>
     <message>
         <source>it was cancelled</source>
@@ -1277,6 +1329,148 @@ Espacio necesario: %1 MB, disponible: %2 MB.</translation>
     </message>
 </context>
 <context>
+    <name>KxChoicesFormat</name>
+    <message>
+        <source>Cannot use %1: %2.</source>
+        <translation>No se puede usar %1: %2.</translation>
+    </message>
+    <message>
+        <source>choice %1 has no valid time (&quot;%2&quot;), in seconds</source>
+        <translation>la elección %1 no tiene un tiempo válido («%2»), en segundos</translation>
+    </message>
+    <message>
+        <source>choice %1 has &quot;%2&quot; that are no list</source>
+        <translation>la elección %1 tiene «%2» que no es una lista</translation>
+    </message>
+    <message>
+        <source>it has more than %1 seeds and boxes</source>
+        <translation>tiene más de %1 puntos de partida y recuadros</translation>
+    </message>
+    <message>
+        <source>choice %1 has a box that is not left, top, width and height in fractions of the picture</source>
+        <translation>la elección %1 tiene un recuadro que no es izquierda, arriba, ancho y alto en fracciones de la imagen</translation>
+    </message>
+    <message>
+        <source>choice %1 has no &quot;seeds&quot; that show what it means</source>
+        <translation>la elección %1 no tiene «seeds» que muestren a qué se refiere</translation>
+    </message>
+    <message>
+        <source>choice %1 has more than %2 &quot;pictures&quot;</source>
+        <translation>la elección %1 tiene más de %2 «pictures»</translation>
+    </message>
+    <message>
+        <source>choice %1 has &quot;pictures&quot; that are not times with 16 hexadecimal digits</source>
+        <translation>la elección %1 tiene «pictures» que no son tiempos con 16 dígitos hexadecimales</translation>
+    </message>
+    <message>
+        <source>choice %1 has no known &quot;kind&quot;; it is follow, avoid, hold, fit or automatic</source>
+        <translation>la elección %1 no tiene un «kind» conocido; puede ser follow, avoid, hold, fit o automatic</translation>
+    </message>
+    <message>
+        <source>choice %1 ends before it begins</source>
+        <translation>la elección %1 termina antes de empezar</translation>
+    </message>
+    <message>
+        <source>choice %1 has no &quot;centre&quot; in fractions of the picture</source>
+        <translation>la elección %1 no tiene «centre» en fracciones de la imagen</translation>
+    </message>
+    <message>
+        <source>it is longer than %1 bytes</source>
+        <translation>tiene más de %1 bytes</translation>
+    </message>
+    <message>
+        <source>it is no list of choices (JSON, byte %1)</source>
+        <translation>no es una lista de elecciones (JSON, byte %1)</translation>
+    </message>
+    <message>
+        <source>it is of version %1, and this program reads version %2</source>
+        <translation>es de la versión %1 y este programa lee la versión %2</translation>
+    </message>
+    <message>
+        <source>it has no &quot;version&quot;</source>
+        <translation>no tiene «version»</translation>
+    </message>
+    <message>
+        <source>it has no list of &quot;choices&quot;</source>
+        <translation>no tiene una lista de «choices»</translation>
+    </message>
+    <message>
+        <source>it has more than %1 choices</source>
+        <translation>tiene más de %1 elecciones</translation>
+    </message>
+    <message>
+        <source>Cannot open %1: it is not a regular file.</source>
+        <translation>No se puede abrir %1: no es un archivo normal.</translation>
+    </message>
+    <message>
+        <source>Cannot open %1: %2.</source>
+        <translation>No se puede abrir %1: %2.</translation>
+    </message>
+    <message>
+        <source>Cannot read %1: %2.</source>
+        <translation>No se puede leer %1: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>KxDetectorFiles</name>
+    <message>
+        <source>it is a folder</source>
+        <translation>es una carpeta</translation>
+    </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>no es un archivo normal</translation>
+    </message>
+    <message>
+        <source>it cannot be read</source>
+        <translation>no se puede leer</translation>
+    </message>
+    <message>
+        <source>it is too large for a detector</source>
+        <translation>es demasiado grande para un detector</translation>
+    </message>
+    <message>
+        <source>its checksum is unknown (no SHA256SUMS beside it names the file)</source>
+        <translation>su suma de comprobación es desconocida (ningún SHA256SUMS de la carpeta nombra el archivo)</translation>
+    </message>
+    <message>
+        <source>it is damaged (SHA256SUMS has another checksum)</source>
+        <translation>está dañado (SHA256SUMS tiene otra suma de comprobación)</translation>
+    </message>
+    <message>
+        <source>Cannot use the detector %1: %2.</source>
+        <translation>No se puede usar el detector %1: %2.</translation>
+    </message>
+    <message>
+        <source>there is no such folder</source>
+        <translation>no existe esa carpeta</translation>
+    </message>
+    <message>
+        <source>it is not a folder</source>
+        <translation>no es una carpeta</translation>
+    </message>
+    <message>
+        <source>it has neither %1 nor %2</source>
+        <translation>no tiene ni %1 ni %2</translation>
+    </message>
+    <message>
+        <source>Cannot use the models in %1: %2.</source>
+        <translation>No se pueden usar los modelos de %1: %2.</translation>
+    </message>
+    <message>
+        <source>The detector of people and animals is not installed; the analysis works without it.</source>
+        <translation>El detector de personas y animales no está instalado; el análisis funciona sin él.</translation>
+    </message>
+    <message>
+        <source>it is not NanoDet-g as OpenCV can run it</source>
+        <translation>no es NanoDet-g tal como OpenCV puede ejecutarlo</translation>
+    </message>
+    <message>
+        <source>it is not a face detector that OpenCV can run</source>
+        <translation>no es un detector de caras que OpenCV pueda ejecutar</translation>
+    </message>
+</context>
+<context>
     <name>KxFittedCutter</name>
     <message>
         <source>Cannot cut a picture: the rectangle to cut out is empty.</source>
@@ -1285,6 +1479,13 @@ Espacio necesario: %1 MB, disponible: %2 MB.</translation>
     <message>
         <source>Cannot cut a picture: memory ran out.</source>
         <translation>No se puede recortar una imagen: no hay memoria suficiente.</translation>
+    </message>
+</context>
+<context>
+    <name>KxFollowPass</name>
+    <message>
+        <source>Cannot follow in %1: %2.</source>
+        <translation>No se puede seguir en %1: %2.</translation>
     </message>
 </context>
 <context>
@@ -1688,6 +1889,41 @@ Espacio necesario: %1 MB, disponible: %2 MB.</translation>
     <message>
         <source>Close</source>
         <translation>Cerrar</translation>
+    </message>
+</context>
+<context>
+    <name>KxVideoAnalysis</name>
+    <message>
+        <source>Choice %1 is applied %2 s earlier, where its pictures are in %3.</source>
+        <translation>La elección %1 se aplica %2 s antes, donde están sus imágenes en %3.</translation>
+    </message>
+    <message>
+        <source>Choice %1 is applied %2 s later, where its pictures are in %3.</source>
+        <translation>La elección %1 se aplica %2 s después, donde están sus imágenes en %3.</translation>
+    </message>
+    <message>
+        <source>Choice %1 is not applied: its pictures are not in %2.</source>
+        <translation>La elección %1 no se aplica: sus imágenes no están en %2.</translation>
+    </message>
+    <message>
+        <source>The aspect ratio %1:%2 has a side that is not positive.</source>
+        <translation>La relación de aspecto %1:%2 tiene un lado que no es positivo.</translation>
+    </message>
+    <message>
+        <source>Cannot analyse %1: its time stamps span %2 frames, the limit is %3.</source>
+        <translation>No se puede analizar %1: sus marcas de tiempo abarcan %2 fotogramas; el límite es %3.</translation>
+    </message>
+    <message>
+        <source>Cannot analyse %1: %2.</source>
+        <translation>No se puede analizar %1: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is cut off or damaged: it decodes only in part.</source>
+        <translation>%1 está cortado o dañado: solo se descodifica en parte.</translation>
+    </message>
+    <message>
+        <source>What is followed is lost from %1 s to %2 s: point at it again there.</source>
+        <translation>Lo que se sigue se pierde de %1 s a %2 s: señalarlo de nuevo ahí.</translation>
     </message>
 </context>
 <context>

@@ -218,6 +218,33 @@
     </message>
 </context>
 <context>
+    <name>AutoReframeOptions</name>
+    <message>
+        <source>%1
+Try auto-reframe --help.</source>
+        <translation>%1
+Voir auto-reframe --help.</translation>
+    </message>
+    <message>
+        <source>Show this text.</source>
+        <translation>Afficher ce texte.</translation>
+    </message>
+    <message>
+        <source>Show the version.</source>
+        <translation>Afficher la version.</translation>
+    </message>
+    <message>
+        <source>Turns videos into another aspect ratio and keeps their subject in the picture.
+The command line program for many files at once is reframe.</source>
+        <translation>Change le format d’image de vidéos et garde leur sujet dans l’image.
+Le programme en ligne de commande pour plusieurs fichiers à la fois est reframe.</translation>
+    </message>
+    <message>
+        <source>Videos to open the library with.</source>
+        <translation>Vidéos avec lesquelles ouvrir la bibliothèque.</translation>
+    </message>
+</context>
+<context>
     <name>BatchDialog</name>
     <message>
         <source>Shorts, Reels, Stories</source>
@@ -527,16 +554,16 @@
         <translation>L’exporter à nouveau</translation>
     </message>
     <message>
-        <source>Opens the video at these settings; N leads to its doubtful shots.</source>
-        <translation>Ouvre la vidéo avec ces réglages&#xa0;; N mène aux plans douteux.</translation>
-    </message>
-    <message>
         <source>Show the file in its folder</source>
         <translation>Afficher le fichier dans son dossier</translation>
     </message>
     <message>
         <source>Remove from list</source>
         <translation>Retirer de la liste</translation>
+    </message>
+    <message>
+        <source>Opens the video at these settings and its first doubtful shot; N leads to the next one.</source>
+        <translation>Ouvre la vidéo avec ces réglages à son premier plan douteux&#xa0;; N mène au suivant.</translation>
     </message>
 </context>
 <context>
@@ -1034,6 +1061,20 @@ Espace nécessaire&#xa0;: %1 Mo, disponible&#xa0;: %2 Mo.</translation>
         <source>Settings changed: analyze again</source>
         <translation>Réglages modifiés&#xa0;: réanalyser</translation>
     </message>
+    <message numerus="yes">
+        <source>%n choices are kept, but not in this cut of the video</source>
+        <translation>
+            <numerusform>%n choix est conservé, mais pas dans ce montage de la vidéo</numerusform>
+            <numerusform>%n choix sont conservés, mais pas dans ce montage de la vidéo</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n choices were moved to where their pictures are</source>
+        <translation>
+            <numerusform>%n choix a été déplacé là où est son image</numerusform>
+            <numerusform>%n choix ont été déplacés là où sont leurs images</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>KrDoubtfulShots</name>
@@ -1258,6 +1299,17 @@ Espace nécessaire&#xa0;: %1 Mo, disponible&#xa0;: %2 Mo.</translation>
     </message>
 </context>
 <context>
+    <name>KxAutoReframeService</name>
+    <message>
+        <source>Cannot analyse %1: %2.</source>
+        <translation>Impossible d’analyser %1&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>the stored choices</source>
+        <translation>les choix enregistrés</translation>
+    </message>
+</context>
+<context>
     <name>KxAvError</name>
     <message>
         <source>it was cancelled</source>
@@ -1277,6 +1329,148 @@ Espace nécessaire&#xa0;: %1 Mo, disponible&#xa0;: %2 Mo.</translation>
     </message>
 </context>
 <context>
+    <name>KxChoicesFormat</name>
+    <message>
+        <source>Cannot use %1: %2.</source>
+        <translation>Impossible d’utiliser %1&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>choice %1 has no valid time (&quot;%2&quot;), in seconds</source>
+        <translation>le choix %1 n’a pas de temps valide («&#xa0;%2&#xa0;») en secondes</translation>
+    </message>
+    <message>
+        <source>choice %1 has &quot;%2&quot; that are no list</source>
+        <translation>le choix %1 a «&#xa0;%2&#xa0;», qui n’est pas une liste</translation>
+    </message>
+    <message>
+        <source>it has more than %1 seeds and boxes</source>
+        <translation>plus de %1 points de départ et cadres</translation>
+    </message>
+    <message>
+        <source>choice %1 has a box that is not left, top, width and height in fractions of the picture</source>
+        <translation>le choix %1 a un cadre qui n’est pas gauche, haut, largeur et hauteur en fractions de l’image</translation>
+    </message>
+    <message>
+        <source>choice %1 has no &quot;seeds&quot; that show what it means</source>
+        <translation>le choix %1 n’a pas de «&#xa0;seeds&#xa0;» montrant ce qui est visé</translation>
+    </message>
+    <message>
+        <source>choice %1 has more than %2 &quot;pictures&quot;</source>
+        <translation>le choix %1 a plus de %2 «&#xa0;pictures&#xa0;»</translation>
+    </message>
+    <message>
+        <source>choice %1 has &quot;pictures&quot; that are not times with 16 hexadecimal digits</source>
+        <translation>le choix %1 a des «&#xa0;pictures&#xa0;» qui ne sont pas des temps avec 16 chiffres hexadécimaux</translation>
+    </message>
+    <message>
+        <source>choice %1 has no known &quot;kind&quot;; it is follow, avoid, hold, fit or automatic</source>
+        <translation>le choix %1 n’a pas de «&#xa0;kind&#xa0;» connu&#xa0;: follow, avoid, hold, fit ou automatic</translation>
+    </message>
+    <message>
+        <source>choice %1 ends before it begins</source>
+        <translation>le choix %1 se termine avant de commencer</translation>
+    </message>
+    <message>
+        <source>choice %1 has no &quot;centre&quot; in fractions of the picture</source>
+        <translation>le choix %1 n’a pas de «&#xa0;centre&#xa0;» en fractions de l’image</translation>
+    </message>
+    <message>
+        <source>it is longer than %1 bytes</source>
+        <translation>plus de %1 octets</translation>
+    </message>
+    <message>
+        <source>it is no list of choices (JSON, byte %1)</source>
+        <translation>ce n’est pas une liste de choix (JSON, octet %1)</translation>
+    </message>
+    <message>
+        <source>it is of version %1, and this program reads version %2</source>
+        <translation>le fichier est de version %1, et ce programme lit la version %2</translation>
+    </message>
+    <message>
+        <source>it has no &quot;version&quot;</source>
+        <translation>«&#xa0;version&#xa0;» manque</translation>
+    </message>
+    <message>
+        <source>it has no list of &quot;choices&quot;</source>
+        <translation>la liste «&#xa0;choices&#xa0;» manque</translation>
+    </message>
+    <message>
+        <source>it has more than %1 choices</source>
+        <translation>plus de %1 choix</translation>
+    </message>
+    <message>
+        <source>Cannot open %1: it is not a regular file.</source>
+        <translation>Impossible d’ouvrir %1&#xa0;: ce n’est pas un fichier ordinaire.</translation>
+    </message>
+    <message>
+        <source>Cannot open %1: %2.</source>
+        <translation>Impossible d’ouvrir %1&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>Cannot read %1: %2.</source>
+        <translation>Impossible de lire %1&#xa0;: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>KxDetectorFiles</name>
+    <message>
+        <source>it is a folder</source>
+        <translation>c’est un dossier</translation>
+    </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>ce n’est pas un fichier ordinaire</translation>
+    </message>
+    <message>
+        <source>it cannot be read</source>
+        <translation>le fichier ne peut pas être lu</translation>
+    </message>
+    <message>
+        <source>it is too large for a detector</source>
+        <translation>le fichier est trop grand pour un détecteur</translation>
+    </message>
+    <message>
+        <source>its checksum is unknown (no SHA256SUMS beside it names the file)</source>
+        <translation>la somme de contrôle est inconnue (aucun SHA256SUMS du dossier ne cite le fichier)</translation>
+    </message>
+    <message>
+        <source>it is damaged (SHA256SUMS has another checksum)</source>
+        <translation>le fichier est endommagé (SHA256SUMS indique une autre somme de contrôle)</translation>
+    </message>
+    <message>
+        <source>Cannot use the detector %1: %2.</source>
+        <translation>Impossible d’utiliser le détecteur %1&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>there is no such folder</source>
+        <translation>ce dossier n’existe pas</translation>
+    </message>
+    <message>
+        <source>it is not a folder</source>
+        <translation>ce n’est pas un dossier</translation>
+    </message>
+    <message>
+        <source>it has neither %1 nor %2</source>
+        <translation>il n’a ni %1 ni %2</translation>
+    </message>
+    <message>
+        <source>Cannot use the models in %1: %2.</source>
+        <translation>Impossible d’utiliser les modèles de %1&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>The detector of people and animals is not installed; the analysis works without it.</source>
+        <translation>Le détecteur de personnes et d’animaux n’est pas installé&#xa0;; l’analyse fonctionne sans lui.</translation>
+    </message>
+    <message>
+        <source>it is not NanoDet-g as OpenCV can run it</source>
+        <translation>ce n’est pas NanoDet-g tel qu’OpenCV peut l’exécuter</translation>
+    </message>
+    <message>
+        <source>it is not a face detector that OpenCV can run</source>
+        <translation>ce n’est pas un détecteur de visages qu’OpenCV peut exécuter</translation>
+    </message>
+</context>
+<context>
     <name>KxFittedCutter</name>
     <message>
         <source>Cannot cut a picture: the rectangle to cut out is empty.</source>
@@ -1285,6 +1479,13 @@ Espace nécessaire&#xa0;: %1 Mo, disponible&#xa0;: %2 Mo.</translation>
     <message>
         <source>Cannot cut a picture: memory ran out.</source>
         <translation>Impossible de découper une image&#xa0;: mémoire insuffisante.</translation>
+    </message>
+</context>
+<context>
+    <name>KxFollowPass</name>
+    <message>
+        <source>Cannot follow in %1: %2.</source>
+        <translation>Suivi impossible dans %1&#xa0;: %2.</translation>
     </message>
 </context>
 <context>
@@ -1688,6 +1889,41 @@ Espace nécessaire&#xa0;: %1 Mo, disponible&#xa0;: %2 Mo.</translation>
     <message>
         <source>Close</source>
         <translation>Fermer</translation>
+    </message>
+</context>
+<context>
+    <name>KxVideoAnalysis</name>
+    <message>
+        <source>Choice %1 is applied %2 s earlier, where its pictures are in %3.</source>
+        <translation>Le choix %1 s’applique %2 s plus tôt, là où sont ses images dans %3.</translation>
+    </message>
+    <message>
+        <source>Choice %1 is applied %2 s later, where its pictures are in %3.</source>
+        <translation>Le choix %1 s’applique %2 s plus tard, là où sont ses images dans %3.</translation>
+    </message>
+    <message>
+        <source>Choice %1 is not applied: its pictures are not in %2.</source>
+        <translation>Le choix %1 ne s’applique pas&#xa0;: ses images ne sont pas dans %2.</translation>
+    </message>
+    <message>
+        <source>The aspect ratio %1:%2 has a side that is not positive.</source>
+        <translation>Le format d’image %1:%2 a un côté qui n’est pas positif.</translation>
+    </message>
+    <message>
+        <source>Cannot analyse %1: its time stamps span %2 frames, the limit is %3.</source>
+        <translation>Impossible d’analyser %1&#xa0;: ses horodatages couvrent %2 images, la limite est %3.</translation>
+    </message>
+    <message>
+        <source>Cannot analyse %1: %2.</source>
+        <translation>Impossible d’analyser %1&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is cut off or damaged: it decodes only in part.</source>
+        <translation>%1 est tronqué ou endommagé&#xa0;: il n’est décodé qu’en partie.</translation>
+    </message>
+    <message>
+        <source>What is followed is lost from %1 s to %2 s: point at it again there.</source>
+        <translation>Ce qui est suivi est perdu de %1 s à %2 s&#xa0;: le désigner à nouveau à cet endroit.</translation>
     </message>
 </context>
 <context>

@@ -217,6 +217,33 @@
     </message>
 </context>
 <context>
+    <name>AutoReframeOptions</name>
+    <message>
+        <source>%1
+Try auto-reframe --help.</source>
+        <translation>%1
+auto-reframe --help を参照してください。</translation>
+    </message>
+    <message>
+        <source>Show this text.</source>
+        <translation>このテキストを表示します。</translation>
+    </message>
+    <message>
+        <source>Show the version.</source>
+        <translation>バージョンを表示します。</translation>
+    </message>
+    <message>
+        <source>Turns videos into another aspect ratio and keeps their subject in the picture.
+The command line program for many files at once is reframe.</source>
+        <translation>動画を別のアスペクト比に変換し、被写体を画面内に収めます。
+多数のファイルを一度に処理するコマンドラインプログラムは reframe です。</translation>
+    </message>
+    <message>
+        <source>Videos to open the library with.</source>
+        <translation>ライブラリで開く動画。</translation>
+    </message>
+</context>
+<context>
     <name>BatchDialog</name>
     <message>
         <source>Shorts, Reels, Stories</source>
@@ -523,16 +550,16 @@
         <translation>もう一度書き出す</translation>
     </message>
     <message>
-        <source>Opens the video at these settings; N leads to its doubtful shots.</source>
-        <translation>この設定で動画を開きます。N キーで要確認ショットに移動します。</translation>
-    </message>
-    <message>
         <source>Show the file in its folder</source>
         <translation>ファイルをフォルダーで表示</translation>
     </message>
     <message>
         <source>Remove from list</source>
         <translation>リストから削除</translation>
+    </message>
+    <message>
+        <source>Opens the video at these settings and its first doubtful shot; N leads to the next one.</source>
+        <translation>この設定で動画を開き、最初の要確認ショットを表示します。N キーで次に移動します。</translation>
     </message>
 </context>
 <context>
@@ -1028,6 +1055,18 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
         <source>Settings changed: analyze again</source>
         <translation>設定が変わりました: 再解析</translation>
     </message>
+    <message numerus="yes">
+        <source>%n choices are kept, but not in this cut of the video</source>
+        <translation>
+            <numerusform>%n 件の指定は保持されますが、この編集版にはありません</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n choices were moved to where their pictures are</source>
+        <translation>
+            <numerusform>%n 件の指定を画像のある位置に移動しました</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>KrDoubtfulShots</name>
@@ -1251,6 +1290,17 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
     </message>
 </context>
 <context>
+    <name>KxAutoReframeService</name>
+    <message>
+        <source>Cannot analyse %1: %2.</source>
+        <translation>%1 を解析できません: %2。</translation>
+    </message>
+    <message>
+        <source>the stored choices</source>
+        <translation>保存された指定</translation>
+    </message>
+</context>
+<context>
     <name>KxAvError</name>
     <message>
         <source>it was cancelled</source>
@@ -1270,6 +1320,148 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
     </message>
 </context>
 <context>
+    <name>KxChoicesFormat</name>
+    <message>
+        <source>Cannot use %1: %2.</source>
+        <translation>%1 を使用できません: %2。</translation>
+    </message>
+    <message>
+        <source>choice %1 has no valid time (&quot;%2&quot;), in seconds</source>
+        <translation>指定 %1 に有効な時間 (「%2」、秒) がありません</translation>
+    </message>
+    <message>
+        <source>choice %1 has &quot;%2&quot; that are no list</source>
+        <translation>指定 %1 の「%2」がリストではありません</translation>
+    </message>
+    <message>
+        <source>it has more than %1 seeds and boxes</source>
+        <translation>シードと枠が %1 個を超えています</translation>
+    </message>
+    <message>
+        <source>choice %1 has a box that is not left, top, width and height in fractions of the picture</source>
+        <translation>指定 %1 の枠が、画面に対する割合の左、上、幅、高さになっていません</translation>
+    </message>
+    <message>
+        <source>choice %1 has no &quot;seeds&quot; that show what it means</source>
+        <translation>指定 %1 に対象を示す「seeds」がありません</translation>
+    </message>
+    <message>
+        <source>choice %1 has more than %2 &quot;pictures&quot;</source>
+        <translation>指定 %1 の「pictures」が %2 個を超えています</translation>
+    </message>
+    <message>
+        <source>choice %1 has &quot;pictures&quot; that are not times with 16 hexadecimal digits</source>
+        <translation>指定 %1 の「pictures」が 16 桁の 16 進数付きの時間ではありません</translation>
+    </message>
+    <message>
+        <source>choice %1 has no known &quot;kind&quot;; it is follow, avoid, hold, fit or automatic</source>
+        <translation>指定 %1 の「kind」が不明です。follow、avoid、hold、fit、automatic のいずれかです</translation>
+    </message>
+    <message>
+        <source>choice %1 ends before it begins</source>
+        <translation>指定 %1 は開始前に終了しています</translation>
+    </message>
+    <message>
+        <source>choice %1 has no &quot;centre&quot; in fractions of the picture</source>
+        <translation>指定 %1 に画面に対する割合の「centre」がありません</translation>
+    </message>
+    <message>
+        <source>it is longer than %1 bytes</source>
+        <translation>%1 バイトを超えています</translation>
+    </message>
+    <message>
+        <source>it is no list of choices (JSON, byte %1)</source>
+        <translation>指定のリストではありません (JSON、%1 バイト目)</translation>
+    </message>
+    <message>
+        <source>it is of version %1, and this program reads version %2</source>
+        <translation>バージョン %1 です。このプログラムが読み込めるのはバージョン %2 です</translation>
+    </message>
+    <message>
+        <source>it has no &quot;version&quot;</source>
+        <translation>「version」がありません</translation>
+    </message>
+    <message>
+        <source>it has no list of &quot;choices&quot;</source>
+        <translation>「choices」のリストがありません</translation>
+    </message>
+    <message>
+        <source>it has more than %1 choices</source>
+        <translation>指定が %1 個を超えています</translation>
+    </message>
+    <message>
+        <source>Cannot open %1: it is not a regular file.</source>
+        <translation>%1 を開けません: 通常のファイルではありません。</translation>
+    </message>
+    <message>
+        <source>Cannot open %1: %2.</source>
+        <translation>%1 を開けません: %2。</translation>
+    </message>
+    <message>
+        <source>Cannot read %1: %2.</source>
+        <translation>%1 を読み込めません: %2。</translation>
+    </message>
+</context>
+<context>
+    <name>KxDetectorFiles</name>
+    <message>
+        <source>it is a folder</source>
+        <translation>フォルダーです</translation>
+    </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>通常のファイルではありません</translation>
+    </message>
+    <message>
+        <source>it cannot be read</source>
+        <translation>読み込めません</translation>
+    </message>
+    <message>
+        <source>it is too large for a detector</source>
+        <translation>検出器としては大きすぎます</translation>
+    </message>
+    <message>
+        <source>its checksum is unknown (no SHA256SUMS beside it names the file)</source>
+        <translation>チェックサムが不明です (同じ場所の SHA256SUMS に記載がありません)</translation>
+    </message>
+    <message>
+        <source>it is damaged (SHA256SUMS has another checksum)</source>
+        <translation>破損しています (SHA256SUMS のチェックサムと異なります)</translation>
+    </message>
+    <message>
+        <source>Cannot use the detector %1: %2.</source>
+        <translation>検出器 %1 を使用できません: %2。</translation>
+    </message>
+    <message>
+        <source>there is no such folder</source>
+        <translation>そのフォルダーはありません</translation>
+    </message>
+    <message>
+        <source>it is not a folder</source>
+        <translation>フォルダーではありません</translation>
+    </message>
+    <message>
+        <source>it has neither %1 nor %2</source>
+        <translation>%1 も %2 もありません</translation>
+    </message>
+    <message>
+        <source>Cannot use the models in %1: %2.</source>
+        <translation>%1 のモデルを使用できません: %2。</translation>
+    </message>
+    <message>
+        <source>The detector of people and animals is not installed; the analysis works without it.</source>
+        <translation>人物と動物の検出器はインストールされていません。解析はなくても動作します。</translation>
+    </message>
+    <message>
+        <source>it is not NanoDet-g as OpenCV can run it</source>
+        <translation>OpenCV で実行できる NanoDet-g ではありません</translation>
+    </message>
+    <message>
+        <source>it is not a face detector that OpenCV can run</source>
+        <translation>OpenCV で実行できる顔検出器ではありません</translation>
+    </message>
+</context>
+<context>
     <name>KxFittedCutter</name>
     <message>
         <source>Cannot cut a picture: the rectangle to cut out is empty.</source>
@@ -1278,6 +1470,13 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
     <message>
         <source>Cannot cut a picture: memory ran out.</source>
         <translation>画像を切り抜けません: メモリが足りません。</translation>
+    </message>
+</context>
+<context>
+    <name>KxFollowPass</name>
+    <message>
+        <source>Cannot follow in %1: %2.</source>
+        <translation>%1 で追従できません: %2。</translation>
     </message>
 </context>
 <context>
@@ -1681,6 +1880,41 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
     <message>
         <source>Close</source>
         <translation>閉じる</translation>
+    </message>
+</context>
+<context>
+    <name>KxVideoAnalysis</name>
+    <message>
+        <source>Choice %1 is applied %2 s earlier, where its pictures are in %3.</source>
+        <translation>指定 %1 は %2 秒早い、%3 内の画像のある位置に適用されます。</translation>
+    </message>
+    <message>
+        <source>Choice %1 is applied %2 s later, where its pictures are in %3.</source>
+        <translation>指定 %1 は %2 秒遅い、%3 内の画像のある位置に適用されます。</translation>
+    </message>
+    <message>
+        <source>Choice %1 is not applied: its pictures are not in %2.</source>
+        <translation>指定 %1 は適用されません: その画像が %2 にありません。</translation>
+    </message>
+    <message>
+        <source>The aspect ratio %1:%2 has a side that is not positive.</source>
+        <translation>アスペクト比 %1:%2 に正でない辺があります。</translation>
+    </message>
+    <message>
+        <source>Cannot analyse %1: its time stamps span %2 frames, the limit is %3.</source>
+        <translation>%1 を解析できません: タイムスタンプが %2 フレームに及びます。上限は %3 です。</translation>
+    </message>
+    <message>
+        <source>Cannot analyse %1: %2.</source>
+        <translation>%1 を解析できません: %2。</translation>
+    </message>
+    <message>
+        <source>%1 is cut off or damaged: it decodes only in part.</source>
+        <translation>%1 は途中で切れているか破損しています: 一部だけデコードできます。</translation>
+    </message>
+    <message>
+        <source>What is followed is lost from %1 s to %2 s: point at it again there.</source>
+        <translation>追従対象を %1 秒から %2 秒まで見失いました: そこでもう一度指定してください。</translation>
     </message>
 </context>
 <context>

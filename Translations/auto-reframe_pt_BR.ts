@@ -218,6 +218,33 @@
     </message>
 </context>
 <context>
+    <name>AutoReframeOptions</name>
+    <message>
+        <source>%1
+Try auto-reframe --help.</source>
+        <translation>%1
+Consulte auto-reframe --help.</translation>
+    </message>
+    <message>
+        <source>Show this text.</source>
+        <translation>Mostrar este texto.</translation>
+    </message>
+    <message>
+        <source>Show the version.</source>
+        <translation>Mostrar a versão.</translation>
+    </message>
+    <message>
+        <source>Turns videos into another aspect ratio and keeps their subject in the picture.
+The command line program for many files at once is reframe.</source>
+        <translation>Converte vídeos para outra proporção e mantém o assunto na imagem.
+O programa de linha de comando para muitos arquivos de uma vez é o reframe.</translation>
+    </message>
+    <message>
+        <source>Videos to open the library with.</source>
+        <translation>Vídeos com os quais abrir a biblioteca.</translation>
+    </message>
+</context>
+<context>
     <name>BatchDialog</name>
     <message>
         <source>Shorts, Reels, Stories</source>
@@ -527,16 +554,16 @@
         <translation>Exportar novamente</translation>
     </message>
     <message>
-        <source>Opens the video at these settings; N leads to its doubtful shots.</source>
-        <translation>Abre o vídeo com estas configurações; N leva aos planos duvidosos.</translation>
-    </message>
-    <message>
         <source>Show the file in its folder</source>
         <translation>Mostrar o arquivo na pasta</translation>
     </message>
     <message>
         <source>Remove from list</source>
         <translation>Remover da lista</translation>
+    </message>
+    <message>
+        <source>Opens the video at these settings and its first doubtful shot; N leads to the next one.</source>
+        <translation>Abre o vídeo com estas configurações no primeiro plano duvidoso; N leva ao próximo.</translation>
     </message>
 </context>
 <context>
@@ -1034,6 +1061,20 @@ Espaço necessário: %1 MB, disponível: %2 MB.</translation>
         <source>Settings changed: analyze again</source>
         <translation>Configurações alteradas: analise de novo</translation>
     </message>
+    <message numerus="yes">
+        <source>%n choices are kept, but not in this cut of the video</source>
+        <translation>
+            <numerusform>%n escolha é mantida, mas não nesta montagem do vídeo</numerusform>
+            <numerusform>%n escolhas são mantidas, mas não nesta montagem do vídeo</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n choices were moved to where their pictures are</source>
+        <translation>
+            <numerusform>%n escolha foi movida para onde está sua imagem</numerusform>
+            <numerusform>%n escolhas foram movidas para onde estão suas imagens</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>KrDoubtfulShots</name>
@@ -1258,6 +1299,17 @@ Espaço necessário: %1 MB, disponível: %2 MB.</translation>
     </message>
 </context>
 <context>
+    <name>KxAutoReframeService</name>
+    <message>
+        <source>Cannot analyse %1: %2.</source>
+        <translation>Não é possível analisar %1: %2.</translation>
+    </message>
+    <message>
+        <source>the stored choices</source>
+        <translation>as escolhas salvas</translation>
+    </message>
+</context>
+<context>
     <name>KxAvError</name>
     <message>
         <source>it was cancelled</source>
@@ -1277,6 +1329,148 @@ Espaço necessário: %1 MB, disponível: %2 MB.</translation>
     </message>
 </context>
 <context>
+    <name>KxChoicesFormat</name>
+    <message>
+        <source>Cannot use %1: %2.</source>
+        <translation>Não é possível usar %1: %2.</translation>
+    </message>
+    <message>
+        <source>choice %1 has no valid time (&quot;%2&quot;), in seconds</source>
+        <translation>a escolha %1 não tem um tempo válido (“%2”), em segundos</translation>
+    </message>
+    <message>
+        <source>choice %1 has &quot;%2&quot; that are no list</source>
+        <translation>a escolha %1 tem “%2” que não é uma lista</translation>
+    </message>
+    <message>
+        <source>it has more than %1 seeds and boxes</source>
+        <translation>tem mais de %1 pontos de partida e caixas</translation>
+    </message>
+    <message>
+        <source>choice %1 has a box that is not left, top, width and height in fractions of the picture</source>
+        <translation>a escolha %1 tem uma caixa que não é esquerda, topo, largura e altura em frações da imagem</translation>
+    </message>
+    <message>
+        <source>choice %1 has no &quot;seeds&quot; that show what it means</source>
+        <translation>a escolha %1 não tem “seeds” que mostrem o que ela significa</translation>
+    </message>
+    <message>
+        <source>choice %1 has more than %2 &quot;pictures&quot;</source>
+        <translation>a escolha %1 tem mais de %2 “pictures”</translation>
+    </message>
+    <message>
+        <source>choice %1 has &quot;pictures&quot; that are not times with 16 hexadecimal digits</source>
+        <translation>a escolha %1 tem “pictures” que não são tempos com 16 dígitos hexadecimais</translation>
+    </message>
+    <message>
+        <source>choice %1 has no known &quot;kind&quot;; it is follow, avoid, hold, fit or automatic</source>
+        <translation>a escolha %1 não tem um “kind” conhecido; pode ser follow, avoid, hold, fit ou automatic</translation>
+    </message>
+    <message>
+        <source>choice %1 ends before it begins</source>
+        <translation>a escolha %1 termina antes de começar</translation>
+    </message>
+    <message>
+        <source>choice %1 has no &quot;centre&quot; in fractions of the picture</source>
+        <translation>a escolha %1 não tem “centre” em frações da imagem</translation>
+    </message>
+    <message>
+        <source>it is longer than %1 bytes</source>
+        <translation>tem mais de %1 bytes</translation>
+    </message>
+    <message>
+        <source>it is no list of choices (JSON, byte %1)</source>
+        <translation>não é uma lista de escolhas (JSON, byte %1)</translation>
+    </message>
+    <message>
+        <source>it is of version %1, and this program reads version %2</source>
+        <translation>é da versão %1, e este programa lê a versão %2</translation>
+    </message>
+    <message>
+        <source>it has no &quot;version&quot;</source>
+        <translation>não tem “version”</translation>
+    </message>
+    <message>
+        <source>it has no list of &quot;choices&quot;</source>
+        <translation>não tem uma lista de “choices”</translation>
+    </message>
+    <message>
+        <source>it has more than %1 choices</source>
+        <translation>tem mais de %1 escolhas</translation>
+    </message>
+    <message>
+        <source>Cannot open %1: it is not a regular file.</source>
+        <translation>Não é possível abrir %1: não é um arquivo comum.</translation>
+    </message>
+    <message>
+        <source>Cannot open %1: %2.</source>
+        <translation>Não é possível abrir %1: %2.</translation>
+    </message>
+    <message>
+        <source>Cannot read %1: %2.</source>
+        <translation>Não é possível ler %1: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>KxDetectorFiles</name>
+    <message>
+        <source>it is a folder</source>
+        <translation>é uma pasta</translation>
+    </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>não é um arquivo comum</translation>
+    </message>
+    <message>
+        <source>it cannot be read</source>
+        <translation>não pode ser lido</translation>
+    </message>
+    <message>
+        <source>it is too large for a detector</source>
+        <translation>é grande demais para um detector</translation>
+    </message>
+    <message>
+        <source>its checksum is unknown (no SHA256SUMS beside it names the file)</source>
+        <translation>a soma de verificação é desconhecida (nenhum SHA256SUMS na pasta cita o arquivo)</translation>
+    </message>
+    <message>
+        <source>it is damaged (SHA256SUMS has another checksum)</source>
+        <translation>está danificado (SHA256SUMS tem outra soma de verificação)</translation>
+    </message>
+    <message>
+        <source>Cannot use the detector %1: %2.</source>
+        <translation>Não é possível usar o detector %1: %2.</translation>
+    </message>
+    <message>
+        <source>there is no such folder</source>
+        <translation>essa pasta não existe</translation>
+    </message>
+    <message>
+        <source>it is not a folder</source>
+        <translation>não é uma pasta</translation>
+    </message>
+    <message>
+        <source>it has neither %1 nor %2</source>
+        <translation>não tem nem %1 nem %2</translation>
+    </message>
+    <message>
+        <source>Cannot use the models in %1: %2.</source>
+        <translation>Não é possível usar os modelos em %1: %2.</translation>
+    </message>
+    <message>
+        <source>The detector of people and animals is not installed; the analysis works without it.</source>
+        <translation>O detector de pessoas e animais não está instalado; a análise funciona sem ele.</translation>
+    </message>
+    <message>
+        <source>it is not NanoDet-g as OpenCV can run it</source>
+        <translation>não é o NanoDet-g como o OpenCV consegue executar</translation>
+    </message>
+    <message>
+        <source>it is not a face detector that OpenCV can run</source>
+        <translation>não é um detector de rostos que o OpenCV consiga executar</translation>
+    </message>
+</context>
+<context>
     <name>KxFittedCutter</name>
     <message>
         <source>Cannot cut a picture: the rectangle to cut out is empty.</source>
@@ -1285,6 +1479,13 @@ Espaço necessário: %1 MB, disponível: %2 MB.</translation>
     <message>
         <source>Cannot cut a picture: memory ran out.</source>
         <translation>Não é possível recortar uma imagem: memória insuficiente.</translation>
+    </message>
+</context>
+<context>
+    <name>KxFollowPass</name>
+    <message>
+        <source>Cannot follow in %1: %2.</source>
+        <translation>Não é possível acompanhar em %1: %2.</translation>
     </message>
 </context>
 <context>
@@ -1688,6 +1889,41 @@ Espaço necessário: %1 MB, disponível: %2 MB.</translation>
     <message>
         <source>Close</source>
         <translation>Fechar</translation>
+    </message>
+</context>
+<context>
+    <name>KxVideoAnalysis</name>
+    <message>
+        <source>Choice %1 is applied %2 s earlier, where its pictures are in %3.</source>
+        <translation>A escolha %1 é aplicada %2 s antes, onde estão suas imagens em %3.</translation>
+    </message>
+    <message>
+        <source>Choice %1 is applied %2 s later, where its pictures are in %3.</source>
+        <translation>A escolha %1 é aplicada %2 s depois, onde estão suas imagens em %3.</translation>
+    </message>
+    <message>
+        <source>Choice %1 is not applied: its pictures are not in %2.</source>
+        <translation>A escolha %1 não é aplicada: suas imagens não estão em %2.</translation>
+    </message>
+    <message>
+        <source>The aspect ratio %1:%2 has a side that is not positive.</source>
+        <translation>A proporção %1:%2 tem um lado que não é positivo.</translation>
+    </message>
+    <message>
+        <source>Cannot analyse %1: its time stamps span %2 frames, the limit is %3.</source>
+        <translation>Não é possível analisar %1: os carimbos de tempo abrangem %2 quadros; o limite é %3.</translation>
+    </message>
+    <message>
+        <source>Cannot analyse %1: %2.</source>
+        <translation>Não é possível analisar %1: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is cut off or damaged: it decodes only in part.</source>
+        <translation>%1 está cortado ou danificado: só é decodificado em parte.</translation>
+    </message>
+    <message>
+        <source>What is followed is lost from %1 s to %2 s: point at it again there.</source>
+        <translation>O que é acompanhado se perde de %1 s a %2 s: aponte de novo ali.</translation>
     </message>
 </context>
 <context>

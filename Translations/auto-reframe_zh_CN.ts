@@ -217,6 +217,33 @@
     </message>
 </context>
 <context>
+    <name>AutoReframeOptions</name>
+    <message>
+        <source>%1
+Try auto-reframe --help.</source>
+        <translation>%1
+请参阅 auto-reframe --help。</translation>
+    </message>
+    <message>
+        <source>Show this text.</source>
+        <translation>显示此文本。</translation>
+    </message>
+    <message>
+        <source>Show the version.</source>
+        <translation>显示版本。</translation>
+    </message>
+    <message>
+        <source>Turns videos into another aspect ratio and keeps their subject in the picture.
+The command line program for many files at once is reframe.</source>
+        <translation>将视频转换为其他宽高比，并让主体保持在画面中。
+一次处理多个文件的命令行程序是 reframe。</translation>
+    </message>
+    <message>
+        <source>Videos to open the library with.</source>
+        <translation>打开媒体库时载入的视频。</translation>
+    </message>
+</context>
+<context>
     <name>BatchDialog</name>
     <message>
         <source>Shorts, Reels, Stories</source>
@@ -523,16 +550,16 @@
         <translation>重新导出</translation>
     </message>
     <message>
-        <source>Opens the video at these settings; N leads to its doubtful shots.</source>
-        <translation>以这些设置打开视频；按 N 键转到存疑的镜头。</translation>
-    </message>
-    <message>
         <source>Show the file in its folder</source>
         <translation>在文件夹中显示该文件</translation>
     </message>
     <message>
         <source>Remove from list</source>
         <translation>从列表中移除</translation>
+    </message>
+    <message>
+        <source>Opens the video at these settings and its first doubtful shot; N leads to the next one.</source>
+        <translation>以这些设置打开视频并转到第一个存疑镜头；按 N 键转到下一个。</translation>
     </message>
 </context>
 <context>
@@ -1028,6 +1055,18 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
         <source>Settings changed: analyze again</source>
         <translation>设置已更改：请重新分析</translation>
     </message>
+    <message numerus="yes">
+        <source>%n choices are kept, but not in this cut of the video</source>
+        <translation>
+            <numerusform>%n 个选择已保留，但不在此剪辑版本中</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n choices were moved to where their pictures are</source>
+        <translation>
+            <numerusform>%n 个选择已移到其画面所在的位置</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>KrDoubtfulShots</name>
@@ -1251,6 +1290,17 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
     </message>
 </context>
 <context>
+    <name>KxAutoReframeService</name>
+    <message>
+        <source>Cannot analyse %1: %2.</source>
+        <translation>无法分析 %1：%2。</translation>
+    </message>
+    <message>
+        <source>the stored choices</source>
+        <translation>已保存的选择</translation>
+    </message>
+</context>
+<context>
     <name>KxAvError</name>
     <message>
         <source>it was cancelled</source>
@@ -1270,6 +1320,148 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
     </message>
 </context>
 <context>
+    <name>KxChoicesFormat</name>
+    <message>
+        <source>Cannot use %1: %2.</source>
+        <translation>无法使用 %1：%2。</translation>
+    </message>
+    <message>
+        <source>choice %1 has no valid time (&quot;%2&quot;), in seconds</source>
+        <translation>选择 %1 没有有效的时间（“%2”，以秒为单位）</translation>
+    </message>
+    <message>
+        <source>choice %1 has &quot;%2&quot; that are no list</source>
+        <translation>选择 %1 的“%2”不是列表</translation>
+    </message>
+    <message>
+        <source>it has more than %1 seeds and boxes</source>
+        <translation>种子和选框超过 %1 个</translation>
+    </message>
+    <message>
+        <source>choice %1 has a box that is not left, top, width and height in fractions of the picture</source>
+        <translation>选择 %1 的选框不是以画面比例表示的左、上、宽、高</translation>
+    </message>
+    <message>
+        <source>choice %1 has no &quot;seeds&quot; that show what it means</source>
+        <translation>选择 %1 没有说明其含义的“seeds”</translation>
+    </message>
+    <message>
+        <source>choice %1 has more than %2 &quot;pictures&quot;</source>
+        <translation>选择 %1 的“pictures”超过 %2 个</translation>
+    </message>
+    <message>
+        <source>choice %1 has &quot;pictures&quot; that are not times with 16 hexadecimal digits</source>
+        <translation>选择 %1 的“pictures”不是带 16 位十六进制数的时间</translation>
+    </message>
+    <message>
+        <source>choice %1 has no known &quot;kind&quot;; it is follow, avoid, hold, fit or automatic</source>
+        <translation>选择 %1 没有已知的“kind”；应为 follow、avoid、hold、fit 或 automatic</translation>
+    </message>
+    <message>
+        <source>choice %1 ends before it begins</source>
+        <translation>选择 %1 在开始之前结束</translation>
+    </message>
+    <message>
+        <source>choice %1 has no &quot;centre&quot; in fractions of the picture</source>
+        <translation>选择 %1 没有以画面比例表示的“centre”</translation>
+    </message>
+    <message>
+        <source>it is longer than %1 bytes</source>
+        <translation>超过 %1 字节</translation>
+    </message>
+    <message>
+        <source>it is no list of choices (JSON, byte %1)</source>
+        <translation>不是选择列表（JSON，第 %1 字节）</translation>
+    </message>
+    <message>
+        <source>it is of version %1, and this program reads version %2</source>
+        <translation>版本为 %1，本程序读取版本 %2</translation>
+    </message>
+    <message>
+        <source>it has no &quot;version&quot;</source>
+        <translation>没有“version”</translation>
+    </message>
+    <message>
+        <source>it has no list of &quot;choices&quot;</source>
+        <translation>没有“choices”列表</translation>
+    </message>
+    <message>
+        <source>it has more than %1 choices</source>
+        <translation>选择超过 %1 个</translation>
+    </message>
+    <message>
+        <source>Cannot open %1: it is not a regular file.</source>
+        <translation>无法打开 %1：不是普通文件。</translation>
+    </message>
+    <message>
+        <source>Cannot open %1: %2.</source>
+        <translation>无法打开 %1：%2。</translation>
+    </message>
+    <message>
+        <source>Cannot read %1: %2.</source>
+        <translation>无法读取 %1：%2。</translation>
+    </message>
+</context>
+<context>
+    <name>KxDetectorFiles</name>
+    <message>
+        <source>it is a folder</source>
+        <translation>这是文件夹</translation>
+    </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>不是普通文件</translation>
+    </message>
+    <message>
+        <source>it cannot be read</source>
+        <translation>无法读取</translation>
+    </message>
+    <message>
+        <source>it is too large for a detector</source>
+        <translation>对检测器来说太大</translation>
+    </message>
+    <message>
+        <source>its checksum is unknown (no SHA256SUMS beside it names the file)</source>
+        <translation>校验和未知（同一文件夹的 SHA256SUMS 中没有该文件）</translation>
+    </message>
+    <message>
+        <source>it is damaged (SHA256SUMS has another checksum)</source>
+        <translation>已损坏（与 SHA256SUMS 中的校验和不符）</translation>
+    </message>
+    <message>
+        <source>Cannot use the detector %1: %2.</source>
+        <translation>无法使用检测器 %1：%2。</translation>
+    </message>
+    <message>
+        <source>there is no such folder</source>
+        <translation>没有该文件夹</translation>
+    </message>
+    <message>
+        <source>it is not a folder</source>
+        <translation>不是文件夹</translation>
+    </message>
+    <message>
+        <source>it has neither %1 nor %2</source>
+        <translation>既没有 %1 也没有 %2</translation>
+    </message>
+    <message>
+        <source>Cannot use the models in %1: %2.</source>
+        <translation>无法使用 %1 中的模型：%2。</translation>
+    </message>
+    <message>
+        <source>The detector of people and animals is not installed; the analysis works without it.</source>
+        <translation>未安装人和动物检测器；没有它也可以分析。</translation>
+    </message>
+    <message>
+        <source>it is not NanoDet-g as OpenCV can run it</source>
+        <translation>不是 OpenCV 可以运行的 NanoDet-g</translation>
+    </message>
+    <message>
+        <source>it is not a face detector that OpenCV can run</source>
+        <translation>不是 OpenCV 可以运行的人脸检测器</translation>
+    </message>
+</context>
+<context>
     <name>KxFittedCutter</name>
     <message>
         <source>Cannot cut a picture: the rectangle to cut out is empty.</source>
@@ -1278,6 +1470,13 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
     <message>
         <source>Cannot cut a picture: memory ran out.</source>
         <translation>无法裁剪画面：内存不足。</translation>
+    </message>
+</context>
+<context>
+    <name>KxFollowPass</name>
+    <message>
+        <source>Cannot follow in %1: %2.</source>
+        <translation>无法在 %1 中跟随：%2。</translation>
     </message>
 </context>
 <context>
@@ -1681,6 +1880,41 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
     <message>
         <source>Close</source>
         <translation>关闭</translation>
+    </message>
+</context>
+<context>
+    <name>KxVideoAnalysis</name>
+    <message>
+        <source>Choice %1 is applied %2 s earlier, where its pictures are in %3.</source>
+        <translation>选择 %1 提前 %2 秒应用，即其画面在 %3 中的位置。</translation>
+    </message>
+    <message>
+        <source>Choice %1 is applied %2 s later, where its pictures are in %3.</source>
+        <translation>选择 %1 推迟 %2 秒应用，即其画面在 %3 中的位置。</translation>
+    </message>
+    <message>
+        <source>Choice %1 is not applied: its pictures are not in %2.</source>
+        <translation>选择 %1 未应用：其画面不在 %2 中。</translation>
+    </message>
+    <message>
+        <source>The aspect ratio %1:%2 has a side that is not positive.</source>
+        <translation>宽高比 %1:%2 的一边不是正数。</translation>
+    </message>
+    <message>
+        <source>Cannot analyse %1: its time stamps span %2 frames, the limit is %3.</source>
+        <translation>无法分析 %1：其时间戳跨越 %2 帧，上限为 %3。</translation>
+    </message>
+    <message>
+        <source>Cannot analyse %1: %2.</source>
+        <translation>无法分析 %1：%2。</translation>
+    </message>
+    <message>
+        <source>%1 is cut off or damaged: it decodes only in part.</source>
+        <translation>%1 被截断或已损坏：只能解码一部分。</translation>
+    </message>
+    <message>
+        <source>What is followed is lost from %1 s to %2 s: point at it again there.</source>
+        <translation>跟随的对象从 %1 秒到 %2 秒丢失：请在该处重新指定。</translation>
     </message>
 </context>
 <context>

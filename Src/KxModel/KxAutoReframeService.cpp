@@ -15,12 +15,16 @@
 namespace
 {
 
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(KxAutoReframeService)
+};
+
 constexpr int StateRunning = 1;
 constexpr int StateEnded = 2;
 
 QString FailureMessage(const QString& path, const QString& reason)
 {
-    return QStringLiteral("Cannot analyse %1: %2.").arg(QFileInfo(path).fileName(), reason.simplified());
+    return Texts::tr("Cannot analyse %1: %2.").arg(QFileInfo(path).fileName(), reason.simplified());
 }
 
 } // namespace
@@ -251,7 +255,7 @@ QList<KxAutoReframeChoice> KxAutoReframeService::ReadChoices(const QByteArray& t
     if (text.isEmpty()) {
         return {};
     }
-    const KxResult<KxSubjectChoices> read = KxChoicesFormat::Read(text, QStringLiteral("the stored choices"));
+    const KxResult<KxSubjectChoices> read = KxChoicesFormat::Read(text, Texts::tr("the stored choices"));
     if (!read) {
         KX_LOG_WARNING(read.Message());
         return {};

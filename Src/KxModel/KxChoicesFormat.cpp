@@ -2,6 +2,7 @@
 
 #include <KxCore/KxSystemError.h>
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonArray>
@@ -16,6 +17,10 @@
 
 namespace
 {
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(KxChoicesFormat)
+};
 
 struct KindName {
     KxChoiceKind kind;
@@ -108,9 +113,11 @@ private:
     /// Of a member that must be a list, if it is there.
     QJsonArray ListOf(const QJsonObject& json, const QString& member);
     void Refuse(const QString& reason);
-    void RefuseChoice(const QString& reason)
+    /// `reason` has a place marker for the number of the choice, and another one if `what` is given.
+    void RefuseChoice(const QString& reason, const QString& what = QString())
     {
-        Refuse(QStringLiteral("choice %1 %2").arg(QString::number(m_choice), reason));
+        const QString number = QString::number(m_choice);
+        Refuse(what.isEmpty() ? reason.arg(number) : reason.arg(number, what));
     }
 
     QString m_name;
@@ -123,7 +130,7 @@ private:
 void Reader::Refuse(const QString& reason)
 {
     if (!m_problem) {
-        m_problem = QStringLiteral("Cannot use %1: %2.").arg(m_name, reason);
+        m_problem = Texts::tr("Cannot use %1: %2.").arg(m_name, reason);
     }
 }
 
@@ -133,7 +140,7 @@ std::optional<double> Reader::TimeOf(const QJsonValue& value, const QString& wha
     if (value.isDouble() && seconds >= m_earliestSeconds && seconds <= LongestSeconds) {
         return seconds;
     }
-    RefuseChoice(QStringLiteral("has no valid time (\"%1\"), in seconds").arg(what));
+    RefuseChoice(Texts::tr("choice %1 has no valid time (\"%2\"), in seconds"), what);
     return std::nullopt;
 }
 
@@ -141,12 +148,12 @@ QJsonArray Reader::ListOf(const QJsonObject& json, const QString& member)
 {
     const QJsonValue value = json.value(member);
     if (!value.isArray() && !value.isUndefined()) {
-        RefuseChoice(QStringLiteral("has \"%1\" that are no list").arg(member));
+        RefuseChoice(Texts::tr("choice %1 has \"%2\" that are no list"), member);
     }
     const QJsonArray list = value.toArray();
     m_seedsAndBoxes += list.size();
     if (m_seedsAndBoxes > KxChoicesFormat::MostSeeds) {
-        Refuse(QStringLiteral("it has more than %1 seeds and boxes").arg(QString::number(KxChoicesFormat::MostSeeds)));
+        Refuse(Texts::tr("it has more than %1 seeds and boxes").arg(QString::number(KxChoicesFormat::MostSeeds)));
         return {};
     }
     return list;
@@ -168,7 +175,7 @@ std::optional<KxSubjectBox> Reader::BoxOf(const QJsonValue& value)
     if (isBox && touches(sides[0], sides[2]) && touches(sides[1], sides[3])) {
         return KxSubjectBox{sides[0], sides[1], sides[2], sides[3]};
     }
-    RefuseChoice(QStringLiteral("has a box that is not left, top, width and height in fractions of the picture"));
+    RefuseChoice(Texts::tr("choice %1 has a box that is not left, top, width and height in fractions of the picture"));
     return std::nullopt;
 }
 
@@ -186,7 +193,7 @@ void Reader::ReadSeeds(const QJsonObject& json, KxSubjectChoice& choice)
             {*seconds, *box, isGuessed ? KxSubjectSeed::Extent::Guessed : KxSubjectSeed::Extent::Drawn});
     }
     if (seeds.isEmpty()) {
-        RefuseChoice(QStringLiteral("has no \"seeds\" that show what it means"));
+        RefuseChoice(Texts::tr("choice %1 has no \"seeds\" that show what it means"));
     }
 }
 
@@ -204,8 +211,8 @@ void Reader::ReadPictures(const QJsonValue& value, KxSubjectChoice& choice)
 {
     const QJsonObject pictures = value.toObject();
     if (pictures.size() > KxChoicesFormat::MostPictures) {
-        RefuseChoice(
-            QStringLiteral("has more than %1 \"pictures\"").arg(QString::number(KxChoicesFormat::MostPictures)));
+        RefuseChoice(Texts::tr("choice %1 has more than %2 \"pictures\""),
+                     QString::number(KxChoicesFormat::MostPictures));
         return;
     }
     bool isOk = value.isObject() || value.isUndefined();
@@ -218,7 +225,7 @@ void Reader::ReadPictures(const QJsonValue& value, KxSubjectChoice& choice)
         isOk = isTime && isPrint && print.size() == PrintDigits && std::abs(seconds) <= LongestSeconds;
     }
     if (!isOk) {
-        RefuseChoice(QStringLiteral("has \"pictures\" that are not times with 16 hexadecimal digits"));
+        RefuseChoice(Texts::tr("choice %1 has \"pictures\" that are not times with 16 hexadecimal digits"));
     }
     // The members of an object are in the order of their letters.
     std::sort(choice.pictures.begin(), choice.pictures.end(),
@@ -238,7 +245,7 @@ KxSubjectChoice Reader::ReadChoice(const QJsonValue& value)
         }
     }
     if (!isKnown) {
-        RefuseChoice(QStringLiteral("has no known \"kind\"; it is follow, avoid, hold, fit or automatic"));
+        RefuseChoice(Texts::tr("choice %1 has no known \"kind\"; it is follow, avoid, hold, fit or automatic"));
         return choice;
     }
     ReadPictures(json.value(QLatin1String("pictures")), choice);
@@ -250,7 +257,7 @@ KxSubjectChoice Reader::ReadChoice(const QJsonValue& value)
     if (json.contains(QLatin1String("to"))) {
         choice.toSeconds = TimeOf(json.value(QLatin1String("to")), QStringLiteral("to")).value_or(0.0);
         if (choice.toSeconds <= choice.fromSeconds) {
-            RefuseChoice(QStringLiteral("ends before it begins"));
+            RefuseChoice(Texts::tr("choice %1 ends before it begins"));
         }
     }
     if (choice.kind == KxChoiceKind::Follow || choice.kind == KxChoiceKind::Avoid) {
@@ -263,7 +270,7 @@ KxSubjectChoice Reader::ReadChoice(const QJsonValue& value)
         choice.centreY = centre.at(1).toDouble(-1.0);
         if (centre.size() != 2 || choice.centreX < 0.0 || choice.centreX > 1.0 || choice.centreY < 0.0 ||
             choice.centreY > 1.0) {
-            RefuseChoice(QStringLiteral("has no \"centre\" in fractions of the picture"));
+            RefuseChoice(Texts::tr("choice %1 has no \"centre\" in fractions of the picture"));
         }
     }
     return choice;
@@ -272,26 +279,26 @@ KxSubjectChoice Reader::ReadChoice(const QJsonValue& value)
 KxResult<KxSubjectChoices> Reader::Read(const QByteArray& text)
 {
     if (text.size() > KxChoicesFormat::MostBytes) {
-        Refuse(QStringLiteral("it is longer than %1 bytes").arg(QString::number(KxChoicesFormat::MostBytes)));
+        Refuse(Texts::tr("it is longer than %1 bytes").arg(QString::number(KxChoicesFormat::MostBytes)));
         return KxResult<KxSubjectChoices>::Failure(*m_problem);
     }
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(text, &error);
     if (!document.isObject()) {
-        Refuse(QStringLiteral("it is no list of choices (JSON, byte %1)").arg(QString::number(error.offset)));
+        Refuse(Texts::tr("it is no list of choices (JSON, byte %1)").arg(QString::number(error.offset)));
         return KxResult<KxSubjectChoices>::Failure(*m_problem);
     }
     const QJsonValue version = document[QLatin1String("version")];
     const QJsonArray list = document[QLatin1String("choices")].toArray();
     if (version.toDouble() != KxChoicesFormat::Version) {
         Refuse(version.isDouble()
-                   ? QStringLiteral("it is of version %1, and this program reads version %2")
+                   ? Texts::tr("it is of version %1, and this program reads version %2")
                          .arg(QString::number(version.toDouble()), QString::number(KxChoicesFormat::Version))
-                   : QStringLiteral("it has no \"version\""));
+                   : Texts::tr("it has no \"version\""));
     } else if (!document[QLatin1String("choices")].isArray()) {
-        Refuse(QStringLiteral("it has no list of \"choices\""));
+        Refuse(Texts::tr("it has no list of \"choices\""));
     } else if (list.size() > KxChoicesFormat::MostChoices) {
-        Refuse(QStringLiteral("it has more than %1 choices").arg(QString::number(KxChoicesFormat::MostChoices)));
+        Refuse(Texts::tr("it has more than %1 choices").arg(QString::number(KxChoicesFormat::MostChoices)));
     }
     KxSubjectChoices choices;
     for (int i = 0; i < list.size() && !m_problem; ++i) {
@@ -325,14 +332,14 @@ KxResult<KxSubjectChoices> KxChoicesFormat::ReadFile(const QString& path)
     QFile file(path);
     // Opening a pipe would wait for its writer.
     if (info.exists() && !info.isFile()) {
-        return Result::Failure(QStringLiteral("Cannot open %1: it is not a regular file.").arg(path));
+        return Result::Failure(Texts::tr("Cannot open %1: it is not a regular file.").arg(path));
     }
     if (!file.open(QIODevice::ReadOnly)) {
-        return Result::Failure(QStringLiteral("Cannot open %1: %2.").arg(path, KxFileErrorText(file)));
+        return Result::Failure(Texts::tr("Cannot open %1: %2.").arg(path, KxFileErrorText(file)));
     }
     const QByteArray text = file.read(MostBytes + 1);
     if (file.error() != QFileDevice::NoError) {
-        return Result::Failure(QStringLiteral("Cannot read %1: %2.").arg(path, KxFileErrorText(file)));
+        return Result::Failure(Texts::tr("Cannot read %1: %2.").arg(path, KxFileErrorText(file)));
     }
     return Read(text, info.fileName());
 }

@@ -16,6 +16,10 @@
 namespace
 {
 
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(KxDetectorFiles)
+};
+
 /// The detector of people and animals has 15 MB, the others less than 2 MB.
 constexpr qint64 MostBytes = 64 * 1024 * 1024;
 
@@ -66,16 +70,16 @@ QByteArray ContentsOf(const QString& path)
 QString ReasonNotToRead(const QFileInfo& file)
 {
     if (file.isDir()) {
-        return QStringLiteral("it is a folder");
+        return Texts::tr("it is a folder");
     }
     if (!file.isFile()) {
-        return QStringLiteral("it is not a regular file");
+        return Texts::tr("it is not a regular file");
     }
     if (!file.isReadable()) {
-        return QStringLiteral("it cannot be read");
+        return Texts::tr("it cannot be read");
     }
     if (file.size() > MostBytes) {
-        return QStringLiteral("it is too large for a detector");
+        return Texts::tr("it is too large for a detector");
     }
     return {};
 }
@@ -110,17 +114,17 @@ QString ChecksumProblem(const QString& folder, const QString& name, const QByteA
 {
     const QByteArray stated = StatedChecksum(folder, name);
     if (stated.isEmpty() && checksum != PublishedChecksum(name)) {
-        return QStringLiteral("its checksum is unknown (no SHA256SUMS beside it names the file)");
+        return Texts::tr("its checksum is unknown (no SHA256SUMS beside it names the file)");
     }
     if (!stated.isEmpty() && checksum != stated) {
-        return QStringLiteral("it is damaged (SHA256SUMS has another checksum)");
+        return Texts::tr("it is damaged (SHA256SUMS has another checksum)");
     }
     return {};
 }
 
 QString DetectorProblem(const QString& path, const QString& reason)
 {
-    return QStringLiteral("Cannot use the detector %1: %2.").arg(path, reason);
+    return Texts::tr("Cannot use the detector %1: %2.").arg(path, reason);
 }
 
 /// The checksums of the networks that were read before: hashing takes longer than all else that a decision on a known
@@ -210,17 +214,16 @@ QString KxDetectorFiles::FolderProblem(const QString& path)
     if (HasNetworks(path)) {
         return {};
     }
-    const QString reason =
-        !QFileInfo::exists(path) ? QStringLiteral("there is no such folder")
-        : !QFileInfo(path).isDir()
-            ? QStringLiteral("it is not a folder")
-            : QStringLiteral("it has neither %1 nor %2").arg(ObjectDetectorName(), FaceDetectorName());
-    return QStringLiteral("Cannot use the models in %1: %2.").arg(path, reason);
+    const QString reason = !QFileInfo::exists(path) ? Texts::tr("there is no such folder")
+                           : !QFileInfo(path).isDir()
+                               ? Texts::tr("it is not a folder")
+                               : Texts::tr("it has neither %1 nor %2").arg(ObjectDetectorName(), FaceDetectorName());
+    return Texts::tr("Cannot use the models in %1: %2.").arg(path, reason);
 }
 
 QString KxDetectorFiles::MissingNetworks()
 {
-    return QStringLiteral("The detector of people and animals is not installed; the analysis works without it.");
+    return Texts::tr("The detector of people and animals is not installed; the analysis works without it.");
 }
 
 QStringList KxDetectorFiles::CascadeFolders()
@@ -276,11 +279,11 @@ KxDetectorFiles::Contents KxDetectorFiles::Read(const QString& networkFolder)
 QString KxDetectorFiles::RefusedObjectDetector(const QString& networkFolder)
 {
     return DetectorProblem(PathIn(networkFolder, ObjectDetectorName()),
-                           QStringLiteral("it is not NanoDet-g as OpenCV can run it"));
+                           Texts::tr("it is not NanoDet-g as OpenCV can run it"));
 }
 
 QString KxDetectorFiles::RefusedFaceDetector(const QString& networkFolder)
 {
     return DetectorProblem(PathIn(networkFolder, FaceDetectorName()),
-                           QStringLiteral("it is not a face detector that OpenCV can run"));
+                           Texts::tr("it is not a face detector that OpenCV can run"));
 }

@@ -9,10 +9,15 @@
 #include <KxSubject/KxSubjectOptions.h>
 #include <KxSubject/KxSubjectRecord.h>
 
+#include <QCoreApplication>
 #include <QFileInfo>
 
 namespace
 {
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(KxFollowPass)
+};
 
 class Pass
 {
@@ -92,7 +97,7 @@ KxFollowPass::Result KxFollowPass::Run(const QString& path, const KxSubjectRecor
         }
         if (problem) {
             result.message =
-                QStringLiteral("Cannot follow in %1: %2.").arg(QFileInfo(path).fileName(), problem->simplified());
+                Texts::tr("Cannot follow in %1: %2.").arg(QFileInfo(path).fileName(), problem->simplified());
             return result;
         }
         follower.EndRange();

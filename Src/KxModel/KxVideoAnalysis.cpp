@@ -7,6 +7,7 @@
 #include <KxModel/KxSoundReading.h>
 #include <KxModel/KxVideoObservation.h>
 
+#include <KxCore/KxLanguage.h>
 #include <KxCore/KxMemory.h>
 
 #include <KxMedia/Read/KxVideoScanner.h>
@@ -16,6 +17,7 @@
 #include <KxSubject/KxSubjectOptions.h>
 #include <KxSubject/KxSubjectRecord.h>
 
+#include <QCoreApplication>
 #include <QFileInfo>
 
 #include <algorithm>
@@ -23,6 +25,10 @@
 
 namespace
 {
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(KxVideoAnalysis)
+};
 
 KxMotionSpeed SpeedOfMode(int mode)
 {
@@ -91,13 +97,12 @@ QStringList PlacementWarnings(const std::vector<KxPlacedChoice>& placed, const Q
     for (std::size_t i = 0; i < placed.size(); ++i) {
         const QString number = QString::number(i + 1);
         if (placed[i].place == KxPlacedChoice::Place::Moved) {
-            const QString text =
-                placed[i].movedSeconds < 0.0
-                    ? QStringLiteral("Choice %1 is applied %2 s earlier, where its pictures are in %3.")
-                    : QStringLiteral("Choice %1 is applied %2 s later, where its pictures are in %3.");
-            warnings += text.arg(number, QString::number(std::abs(placed[i].movedSeconds), 'f', 2), name);
+            const QString text = placed[i].movedSeconds < 0.0
+                                     ? Texts::tr("Choice %1 is applied %2 s earlier, where its pictures are in %3.")
+                                     : Texts::tr("Choice %1 is applied %2 s later, where its pictures are in %3.");
+            warnings += text.arg(number, KxLanguage::Locale().toString(std::abs(placed[i].movedSeconds), 'f', 2), name);
         } else if (placed[i].place == KxPlacedChoice::Place::Missing) {
-            warnings += QStringLiteral("Choice %1 is not applied: its pictures are not in %2.").arg(number, name);
+            warnings += Texts::tr("Choice %1 is not applied: its pictures are not in %2.").arg(number, name);
         }
     }
     return warnings;
@@ -126,7 +131,7 @@ KxResult<std::unique_ptr<KxAnalysis>> KxVideoAnalysis::Open(const QString& path,
     using Opened = KxResult<std::unique_ptr<KxAnalysis>>;
     if (param.targetSize().isEmpty()) {
         return Opened::Failure(
-            QStringLiteral("The aspect ratio %1:%2 has a side that is not positive.")
+            Texts::tr("The aspect ratio %1:%2 has a side that is not positive.")
                 .arg(QString::number(param.targetSize().width()), QString::number(param.targetSize().height())));
     }
     KxResult<std::unique_ptr<KxVideoScanner>> scanner = KxVideoScanner::Open(path, cancel);
@@ -136,7 +141,7 @@ KxResult<std::unique_ptr<KxAnalysis>> KxVideoAnalysis::Open(const QString& path,
     const qint64 frames = (*scanner)->Facts().video->frameCount;
     if (frames > MostFrames) {
         return Opened::Failure(
-            QStringLiteral("Cannot analyse %1: its time stamps span %2 frames, the limit is %3.")
+            Texts::tr("Cannot analyse %1: its time stamps span %2 frames, the limit is %3.")
                 .arg(QFileInfo(path).fileName(), QString::number(frames), QString::number(MostFrames)));
     }
     return std::unique_ptr<KxAnalysis>(new KxVideoAnalysis(std::move(*scanner), param, settings, cancel));
@@ -171,7 +176,7 @@ std::shared_ptr<const KxSubjectRecord> KxVideoAnalysis::Observe(KxSubjectModels 
         return nullptr;
     }
     if (problem) {
-        result.message = QStringLiteral("Cannot analyse %1: %2.").arg(name, problem->simplified());
+        result.message = Texts::tr("Cannot analyse %1: %2.").arg(name, problem->simplified());
         return nullptr;
     }
     const std::unique_ptr<KxSubjectObserver> observer = observation.TakeObserver();
@@ -182,7 +187,7 @@ std::shared_ptr<const KxSubjectRecord> KxVideoAnalysis::Observe(KxSubjectModels 
         result.warnings += KxDetectorFiles::RefusedFaceDetector(m_settings.networkFolder);
     }
     if (endedEarly) {
-        result.warnings += QStringLiteral("%1 is cut off or damaged: it decodes only in part.").arg(name);
+        result.warnings += Texts::tr("%1 is cut off or damaged: it decodes only in part.").arg(name);
     }
     auto record = std::make_shared<KxSubjectRecord>(observer->Finish());
     KxSoundReading::AddTo(*record, facts.path, facts.defaultAudio, clock, m_cancel);
@@ -233,9 +238,9 @@ bool KxVideoAnalysis::Follow(const KxSubjectRecord& record, const QByteArray& ke
     for (const KxFollowTrack& track : request.tracks) {
         for (const KxFollowTrack::Loss& loss : track.Losses(record.source.frameRate, {})) {
             result.losses.append({loss.first, loss.last});
-            result.warnings += QStringLiteral("What is followed is lost from %1 s to %2 s: point at it again there.")
-                                   .arg(QString::number(record.SecondsAt(loss.first), 'f', 1),
-                                        QString::number(record.SecondsAt(loss.last), 'f', 1));
+            result.warnings += Texts::tr("What is followed is lost from %1 s to %2 s: point at it again there.")
+                                   .arg(KxLanguage::Locale().toString(record.SecondsAt(loss.first), 'f', 1),
+                                        KxLanguage::Locale().toString(record.SecondsAt(loss.last), 'f', 1));
         }
     }
     return true;

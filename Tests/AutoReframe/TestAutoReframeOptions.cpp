@@ -76,3 +76,12 @@ TEST(TestAutoReframePlatform, WhatThePersonAskedForIsKept)
 {
     EXPECT_EQ(AutoReframePlatform::Choose(":0", "wayland"), std::nullopt);
 }
+
+TEST(TestAutoReframeOptions, ALanguageIsUnderstoodAsPeopleWriteIt)
+{
+    EXPECT_EQ(Parse({QStringLiteral("--language=pt-br")}).options.language, QStringLiteral("pt_BR"));
+    EXPECT_EQ(Parse({QStringLiteral("a.mp4")}).options.language, QString());
+    const auto parsed = Parse({QStringLiteral("--language"), QStringLiteral("xx")});
+    EXPECT_TRUE(parsed.text.startsWith(QLatin1String("\"xx\" is not an available language")));
+    EXPECT_EQ(parsed.exitStatus, 2);
+}

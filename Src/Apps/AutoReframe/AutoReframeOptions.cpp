@@ -3,11 +3,21 @@
 #include <KxCore/KxLanguage.h>
 
 #include <QCommandLineParser>
+#include <QCoreApplication>
 
 namespace
 {
 
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(AutoReframeOptions)
+};
+
 constexpr int WrongUse = 2;
+
+QString Hinted(const QString& message)
+{
+    return Texts::tr("%1\nTry auto-reframe --help.").arg(message) + QLatin1Char('\n');
+}
 
 /// The options that Qt takes from the command line when it opens the display, on X11 included.
 QList<QCommandLineOption> OptionsOfQt()
@@ -36,15 +46,15 @@ QList<QCommandLineOption> OptionsOfQt()
 
 AutoReframeOptions::Parsed AutoReframeOptions::Parse(const QStringList& arguments)
 {
-    const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Show this text."));
-    const QCommandLineOption version(QStringLiteral("version"), QStringLiteral("Show the version."));
+    const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")}, Texts::tr("Show this text."));
+    const QCommandLineOption version(QStringLiteral("version"), Texts::tr("Show the version."));
     const QCommandLineOption language(QStringLiteral("language"), KxLanguage::OptionText(), QStringLiteral("CODE"));
     QCommandLineParser parser;
     parser.setApplicationDescription(
-        QStringLiteral("Turns videos into another aspect ratio and keeps their subject in the picture.\n"
-                       "The command line program for many files at once is reframe."));
+        Texts::tr("Turns videos into another aspect ratio and keeps their subject in the picture.\n"
+                  "The command line program for many files at once is reframe."));
     parser.addOptions(OptionsOfQt() << language << help << version);
-    parser.addPositionalArgument(QStringLiteral("FILE"), QStringLiteral("Videos to open the library with."),
+    parser.addPositionalArgument(QStringLiteral("FILE"), Texts::tr("Videos to open the library with."),
                                  QStringLiteral("[FILE...]"));
     parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
     const bool isUnderstood = parser.parse(arguments);
@@ -55,10 +65,10 @@ AutoReframeOptions::Parsed AutoReframeOptions::Parse(const QStringList& argument
     } else if (parser.isSet(version)) {
         parsed.text = QStringLiteral("auto-reframe %1\n").arg(QStringLiteral(KR_VERSION));
     } else if (!isUnderstood) {
-        parsed.text = QStringLiteral("%1\nTry auto-reframe --help.\n").arg(parser.errorText());
+        parsed.text = Hinted(parser.errorText());
         parsed.exitStatus = WrongUse;
     } else if (const QString name = parser.value(language); parser.isSet(language) && !KxLanguage::Find(name)) {
-        parsed.text = QStringLiteral("%1\nTry auto-reframe --help.\n").arg(KxLanguage::UnknownText(name));
+        parsed.text = Hinted(KxLanguage::UnknownText(name));
         parsed.exitStatus = WrongUse;
     } else {
         parsed.options.files = parser.positionalArguments();
