@@ -27,6 +27,10 @@ KXCORE_API KxError ReasonNotToName(const QString& path);
 /// is no such file".
 KXCORE_API KxError Rename(const QString& from, const QString& to);
 
+/// When the file was last written to, in the system's finest unit and from its own start, for comparison only; -1 if
+/// there is no such file.
+KXCORE_API qint64 LastWriteTime(const QString& path);
+
 /// The error of the last operation on `file`. Call it right after the failure, on the same thread; some platforms need
 /// errno to have been 0 before it.
 KXCORE_API std::error_code ErrorOf(const QFileDevice& file);

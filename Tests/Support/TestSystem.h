@@ -11,6 +11,9 @@ namespace TestSystem
 /// Makes a named pipe. False where the system has none in folders.
 bool MakeNamedPipe(const QString& path);
 
+/// Whether a file that is open can be removed; otherwise the attempt fails.
+bool RemovesOpenFiles();
+
 /// The largest amount of memory that this process has used; since ResetPeakMemory(), where that returns true.
 qint64 PeakMemoryBytes();
 bool ResetPeakMemory();

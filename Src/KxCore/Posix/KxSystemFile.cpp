@@ -32,6 +32,14 @@ KxError KxSystemFile::Rename(const QString& from, const QString& to)
     return problem ? KxError(KxSystemErrorMeaning(problem)) : std::nullopt;
 }
 
+qint64 KxSystemFile::LastWriteTime(const QString& path)
+{
+    // QFileInfo would convert it to local time, which reads the time zone file on each call.
+    std::error_code problem;
+    const auto time = std::filesystem::last_write_time(NativePath(path), problem);
+    return problem ? -1 : static_cast<qint64>(time.time_since_epoch().count());
+}
+
 std::error_code KxSystemFile::ErrorOf(const QFileDevice&)
 {
     return {errno, std::generic_category()};

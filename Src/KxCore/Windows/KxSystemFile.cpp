@@ -101,6 +101,19 @@ KxError KxSystemFile::Rename(const QString& from, const QString& to)
     return IsHeldOpen(target) ? Texts::tr("another program has it open") : KxSystemErrorMeaning(problem);
 }
 
+qint64 KxSystemFile::LastWriteTime(const QString& path)
+{
+    // std::filesystem of this compiler counts whole seconds.
+    WIN32_FILE_ATTRIBUTE_DATA facts{};
+    if (GetFileAttributesExW(NativePath(path).c_str(), GetFileExInfoStandard, &facts) == 0) {
+        return -1;
+    }
+    ULARGE_INTEGER time{};
+    time.LowPart = facts.ftLastWriteTime.dwLowDateTime;
+    time.HighPart = facts.ftLastWriteTime.dwHighDateTime;
+    return static_cast<qint64>(time.QuadPart);
+}
+
 std::error_code KxSystemFile::ErrorOf(const QFileDevice& file)
 {
     // Qt keeps the text of the system's error, but not its number; GetLastError() may belong to a later call.

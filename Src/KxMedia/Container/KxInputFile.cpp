@@ -51,13 +51,6 @@ QByteArray Head(AVIOContext& file)
     return head;
 }
 
-/// For comparison only. QFileInfo would convert it to local time, which reads the time zone file on each call.
-std::filesystem::file_time_type LastWriteTime(const QString& path)
-{
-    std::error_code error;
-    return std::filesystem::last_write_time(KxSystemFile::NativePath(path), error);
-}
-
 /// The first bytes of the file that `path` names now.
 QByteArray HeadAt(const QString& path)
 {
@@ -167,7 +160,7 @@ QString KxInputFile::Message(const QString& path, const QString& reason)
 bool KxInputFile::HasChanged() const
 {
     const QFileInfo info(m_path);
-    if (!info.exists() || (info.size() >= m_fileSize && LastWriteTime(m_path) == m_lastWrite)) {
+    if (!info.exists() || (info.size() >= m_fileSize && KxSystemFile::LastWriteTime(m_path) == m_lastWrite)) {
         return false;
     }
     return info.size() <= m_fileSize || HeadAt(m_path) != m_head;
@@ -216,7 +209,7 @@ KxError KxInputFile::OpenFile()
     if (m_fileSize == 0) {
         return Texts::tr("it is empty");
     }
-    m_lastWrite = LastWriteTime(m_path);
+    m_lastWrite = KxSystemFile::LastWriteTime(m_path);
     Options options;
     options.Set("protocol_whitelist", "file");
     const QByteArray url = QByteArrayLiteral("file:") + info.absoluteFilePath().toUtf8();

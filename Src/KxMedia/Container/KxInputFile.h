@@ -12,7 +12,6 @@
 #include <QString>
 
 #include <chrono>
-#include <filesystem>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -82,7 +81,7 @@ private:
 
     QString m_path;
     qint64 m_fileSize = 0;
-    std::filesystem::file_time_type m_lastWrite;
+    qint64 m_lastWrite = -1;
     QByteArray m_head;
     bool m_isCutOff = false;
     Watch m_watch;

@@ -9,6 +9,11 @@ bool TestSystem::MakeNamedPipe(const QString&)
     return false;
 }
 
+bool TestSystem::RemovesOpenFiles()
+{
+    return false;
+}
+
 qint64 TestSystem::PeakMemoryBytes()
 {
     PROCESS_MEMORY_COUNTERS counters{};
