@@ -13,8 +13,10 @@ KxResult<KxRenderSettings> ExportRecord::Read(const QVariant& record)
             QCoreApplication::translate("ExportRecord", "Cannot export: no name or no folder was given."));
     }
     KxRenderSettings settings;
-    // QDir::filePath would take a name that begins with a separator for a path.
-    settings.outputPath = QDir::cleanPath(folder + QLatin1Char('/') + name + QStringLiteral(".mp4"));
+    // QDir::filePath would take a name that begins with a separator for a path; two separators would begin the name of
+    // another computer on Windows.
+    const QString separator = folder.endsWith(QLatin1Char('/')) ? QString() : QStringLiteral("/");
+    settings.outputPath = QDir::cleanPath(folder + separator + name + QStringLiteral(".mp4"));
     settings.existing = KxOutputFile::Existing::AddNumber;
     settings.resolution = values.value(QStringLiteral("resolution")).toSize();
     settings.frameRate = values.value(QStringLiteral("frame_rate")).toDouble();
