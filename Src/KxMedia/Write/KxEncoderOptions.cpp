@@ -19,8 +19,8 @@ using Encoder = KxOutputFormat::Encoder;
 using Settings = KxVideoEncoder::Settings;
 
 // With frame threads, rate control depends on the progress of the other threads, so each run would produce different
-// bytes. Slice threads are deterministic, and a fixed number of slices makes the result independent of the number of
-// cores.
+// bytes. With slice threads only the peak limit does, and a fixed number of slices makes the result independent of the
+// number of cores.
 constexpr int Slices = 4;
 constexpr int PeakSeconds = 3;
 
@@ -63,7 +63,7 @@ double RateFactor(Codec codec, double quality)
 void SetBitRate(AVCodecContext& context, qint64 bitRate)
 {
     // Peaks of twice the average for a few seconds leave room for a busy scene and still play on phones. With a shorter
-    // buffer, the encoder would correct individual rows by the progress of the other slices, which differs between
+    // buffer, the encoder would correct rows more often by the progress of the other slices, which differs between
     // runs.
     const qint64 limit = std::numeric_limits<int>::max();
     context.bit_rate = std::clamp<qint64>(bitRate, 1000, limit / (2 * PeakSeconds));

