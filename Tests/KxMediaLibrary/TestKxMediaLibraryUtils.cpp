@@ -71,6 +71,9 @@ TEST(KxMediaLibraryUtils, EveryOfferedFormatCanBeRead)
         MadeVideo::Recipe recipe;
         recipe.frames = 10;
         recipe.output = QString::fromLatin1(format.arguments).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+        if (recipe.output.value(0) == QLatin1String("-c:v") && !MadeVideo::HasEncoder(recipe.output.value(1))) {
+            continue;
+        }
         ASSERT_TRUE(MadeVideo::Make(path, recipe));
         const KxResult<KxMediaFacts> facts = KxProbeMedia(path, KxCancelToken());
         ASSERT_TRUE(facts) << facts.Message().toStdString();
