@@ -229,16 +229,21 @@ class Journey:
             return max(greys) - min(greys) > 30
         self.screen.until(look, "the video under the crop", fresh=False)
 
-    def switch_preview(self):
+    PREVIEW_SWITCH = "KrAutoReframePropertyPanel_previewSwitch"
+
+    def show_result(self):
         screen = self.screen
-        switch = "KrAutoReframePropertyPanel_previewSwitch"
-        screen.press(switch)
-        screen.find(switch, checked=False)
+        screen.press(self.PREVIEW_SWITCH)
+        screen.find(self.PREVIEW_SWITCH, checked=False)
         screen.until(lambda report: not any(widget["class"] == "ShadowForm" for widget in report["widgets"]),
                      "the overlay to disappear")
+
+    def switch_preview(self):
+        screen = self.screen
+        self.show_result()
         screen.shoot("reframed-preview")
-        screen.press(switch)
-        screen.find(switch, checked=True)
+        screen.press(self.PREVIEW_SWITCH)
+        screen.find(self.PREVIEW_SWITCH, checked=True)
         self.shadow()
 
     def order_export(self, name):
@@ -334,6 +339,9 @@ class Journey:
         self.analyse()
         frame, left = self.edit()
         self.switch_preview()
+        if os.environ.get("KR_EMULATOR"):
+            # Wine keeps the overlay out of the window manager's hands, so that it covers the dialogs over the player.
+            self.show_result()
         self.order_export("walk")
         self.order_export("walk")
         self.close_with_escape()
