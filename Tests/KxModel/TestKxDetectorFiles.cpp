@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QStandardPaths>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -109,6 +110,9 @@ TEST_F(KxDetectorFilesTest, InstalledNetworksAreFoundInThePersonsData)
     const Environment unset("KX_MODELS", QString());
     const Environment data("XDG_DATA_HOME", folder.path());
     const QString models = Path(QStringLiteral("auto-reframe/models"));
+    if (QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) != folder.path()) {
+        GTEST_SKIP() << "this system does not take the folder for data from the environment";
+    }
     ASSERT_TRUE(QDir().mkpath(models));
     EXPECT_NE(KxDetectorFiles::FindNetworks().path, models) << "an empty folder has no networks";
     WriteFile(models + QLatin1Char('/') + ObjectDetector, "x");

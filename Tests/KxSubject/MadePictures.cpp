@@ -30,6 +30,7 @@ cv::Mat FirstPicture(const std::string& name, cv::Size size)
     const auto bytes = static_cast<std::streamsize>(picture.total() * picture.elemSize());
     file.read(reinterpret_cast<char*>(picture.data), bytes);
     const bool whole = file.gcount() == bytes;
+    file.close();
     std::filesystem::remove(raw);
     return whole ? picture : cv::Mat();
 }

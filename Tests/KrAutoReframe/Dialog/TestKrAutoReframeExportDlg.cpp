@@ -330,7 +330,12 @@ TEST_F(ExportDlgTest, SpaceIsAskedForWhereTheFolderIs)
     dialog->SetDefaultName(QStringLiteral("clip"));
     path->SetText(recorders.folder.path());
     EXPECT_TRUE(Export());
-    EXPECT_EQ(recorders.spaceAskedFor, QStringList{recorders.folder.path()});
+    const bool hasDrives = recorders.folder.path().at(1) == QLatin1Char(':');
+    EXPECT_EQ(recorders.spaceAskedFor,
+              QStringList{hasDrives ? recorders.folder.path().left(2) : recorders.folder.path()});
+    if (hasDrives) {
+        return;
+    }
     // On this system a folder can have the name of a drive.
     ASSERT_TRUE(QDir::setCurrent(recorders.folder.path()));
     path->SetText(QStringLiteral("D:/out"));

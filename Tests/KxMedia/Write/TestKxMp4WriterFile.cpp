@@ -1,5 +1,7 @@
 #include <Tests/KxMedia/Write/WrittenClips.h>
 
+#include <KxCore/KxSystemFile.h>
+
 #include <QDir>
 #include <QFile>
 #include <QProcess>
@@ -47,6 +49,10 @@ TEST_F(KxMp4WriterTest, NamesThatLookLikeProtocolsAreNames)
     for (const QString& name :
          {QStringLiteral("a:b.mp4"), QStringLiteral("50%1 %d.mp4"), QString::fromUtf8("größe ünd.mp4"),
           QStringLiteral("pipe:1.mp4"), QStringLiteral("none")}) {
+        const QString path = m_folder.path() + QLatin1Char('/') + name;
+        if (name.contains(QLatin1Char(':')) && KxSystemFile::ReasonNotToName(path)) {
+            continue;
+        }
         EXPECT_EQ(WriteFlat(SettingsFor(Path(name)), 3), Path(name));
         EXPECT_EQ(DecodedLuma(QStringLiteral("file:") + Path(name)).size(), 3U);
     }
