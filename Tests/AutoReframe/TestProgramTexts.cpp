@@ -123,9 +123,13 @@ TEST_P(ProgramTexts, FitInTheDialogs)
         [](const QString&) { return false; }, nullptr);
     batch.show();
     ExpectFit(batch, "batch");
-    CropTrackDialog track(QStringLiteral("walk-9x16"), QString(), nullptr);
+    CropTrackDialog track(QStringLiteral("walk-9x16"), QString(), std::nullopt, nullptr);
     track.show();
     ExpectFit(track, "track");
+    const EditListTarget target{QStringLiteral("After Effects"), QStringLiteral("txt")};
+    CropTrackDialog project(QStringLiteral("walk-9x16"), QString(), target, nullptr);
+    project.show();
+    ExpectFit(project, "project");
     HelpDialog help(nullptr);
     help.show();
     ExpectFit(help, "help");

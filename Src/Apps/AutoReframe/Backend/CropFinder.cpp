@@ -239,7 +239,7 @@ KxError CropFinder::MakeRequest(ExportRequest& request) const
     const KxResult<QSize> resolution =
         size.For({crop.width() * picture.width(), crop.height() * picture.height()}, settings.resolution);
     if (!resolution) {
-        return Translated("Cannot reframe %1: %2.").arg(m_analyzed.media->name(), resolution.Message());
+        return Texts::tr("Cannot reframe %1: %2.").arg(m_analyzed.media->name(), resolution.Message());
     }
     settings.resolution = *resolution;
     request = {*source, settings};
