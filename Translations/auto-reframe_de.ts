@@ -418,6 +418,14 @@ Das Kommandozeilenprogramm für viele Dateien auf einmal heißt reframe.</transl
         <source>Save</source>
         <translation>Speichern</translation>
     </message>
+    <message>
+        <source>Export for %1</source>
+        <translation>Export für %1</translation>
+    </message>
+    <message>
+        <source>The folder for the project or the keyframes</source>
+        <translation>Der Ordner für das Projekt oder die Keyframes</translation>
+    </message>
 </context>
 <context>
     <name>CropTrackFile</name>
@@ -564,6 +572,17 @@ Das Kommandozeilenprogramm für viele Dateien auf einmal heißt reframe.</transl
     <message>
         <source>Opens the video at these settings and its first doubtful shot; N leads to the next one.</source>
         <translation>Öffnet das Video mit diesen Einstellungen an der ersten fraglichen Stelle; N führt zur nächsten.</translation>
+    </message>
+</context>
+<context>
+    <name>ExportForMenu</name>
+    <message>
+        <source>Export for</source>
+        <translation>Export für</translation>
+    </message>
+    <message>
+        <source>%1 (.%2)…</source>
+        <translation>%1 (.%2)…</translation>
     </message>
 </context>
 <context>
@@ -1281,6 +1300,21 @@ Benötigt: %1 MB, verfügbar: %2 MB.</translation>
     </message>
 </context>
 <context>
+    <name>KxAacEncoder</name>
+    <message>
+        <source>the AAC encoder is missing</source>
+        <translation>der AAC-Encoder fehlt</translation>
+    </message>
+    <message>
+        <source>sound of %1 Hz and %2 channels is not supported</source>
+        <translation>Ton mit %1 Hz und %2 Kanälen wird nicht unterstützt</translation>
+    </message>
+    <message>
+        <source>the sound encoder does not start (%1)</source>
+        <translation>der Toncodierer startet nicht (%1)</translation>
+    </message>
+</context>
+<context>
     <name>KxAudioReader</name>
     <message>
         <source>it has no such sound track</source>
@@ -1471,6 +1505,25 @@ Benötigt: %1 MB, verfügbar: %2 MB.</translation>
     </message>
 </context>
 <context>
+    <name>KxEncoderProof</name>
+    <message>
+        <source>there is nothing to compare it with</source>
+        <translation>es gibt nichts zum Vergleichen</translation>
+    </message>
+    <message>
+        <source>of %1 pictures it wrote %2</source>
+        <translation>von %1 Bildern wurden %2 geschrieben</translation>
+    </message>
+    <message>
+        <source>its pictures have another size or format</source>
+        <translation>die Bilder haben eine andere Größe oder ein anderes Format</translation>
+    </message>
+    <message>
+        <source>its picture %1 differs too much (%2 dB, %3 are needed)</source>
+        <translation>Bild %1 weicht zu sehr ab (%2 dB, nötig sind %3)</translation>
+    </message>
+</context>
+<context>
     <name>KxFittedCutter</name>
     <message>
         <source>Cannot cut a picture: the rectangle to cut out is empty.</source>
@@ -1619,6 +1672,25 @@ Benötigt: %1 MB, verfügbar: %2 MB.</translation>
     </message>
 </context>
 <context>
+    <name>KxMp4Writer</name>
+    <message>
+        <source>Cannot write %1: %2.</source>
+        <translation>%1 kann nicht geschrieben werden: %2.</translation>
+    </message>
+    <message>
+        <source>pictures of %1 x %2 pixels cannot be encoded; both have to be even</source>
+        <translation>Bilder von %1 x %2 Pixeln können nicht codiert werden; beide Zahlen müssen gerade sein</translation>
+    </message>
+    <message>
+        <source>the frame rate is unknown</source>
+        <translation>die Bildrate ist unbekannt</translation>
+    </message>
+    <message>
+        <source>there is no picture to write</source>
+        <translation>es gibt kein Bild zu schreiben</translation>
+    </message>
+</context>
+<context>
     <name>KxOpenFileLineEdit</name>
     <message>
         <source>Folder</source>
@@ -1665,6 +1737,13 @@ Benötigt: %1 MB, verfügbar: %2 MB.</translation>
     <message>
         <source>%1 is not a folder</source>
         <translation>%1 ist kein Ordner</translation>
+    </message>
+</context>
+<context>
+    <name>KxOutputSize</name>
+    <message>
+        <source>the size %1 x %2 has not the shape of the crop; %1 x %3 has it</source>
+        <translation>die Größe %1 x %2 hat nicht die Form des Ausschnitts; %1 x %3 hat sie</translation>
     </message>
 </context>
 <context>
@@ -1733,6 +1812,25 @@ Benötigt: %1 MB, verfügbar: %2 MB.</translation>
     </message>
 </context>
 <context>
+    <name>KxRenderSound</name>
+    <message>
+        <source>The sound is silent; its loudness is not changed.</source>
+        <translation>Der Ton ist still; die Lautheit wird nicht geändert.</translation>
+    </message>
+    <message>
+        <source>The loudness of the sound is not changed: %1.</source>
+        <translation>Die Lautheit des Tons wird nicht geändert: %1.</translation>
+    </message>
+    <message>
+        <source>The sound is encoded again: %1.</source>
+        <translation>Der Ton wird neu codiert: %1.</translation>
+    </message>
+    <message>
+        <source>The sound is left out. %1</source>
+        <translation>Der Ton wird weggelassen. %1</translation>
+    </message>
+</context>
+<context>
     <name>KxRenderSource</name>
     <message>
         <source>Cannot render the timeline: it shows no file.</source>
@@ -1754,10 +1852,6 @@ Benötigt: %1 MB, verfügbar: %2 MB.</translation>
         <translation>das ist die Datei, die gerade ausgegeben wird</translation>
     </message>
     <message>
-        <source>The sound is left out. %1</source>
-        <translation>Der Ton wird weggelassen. %1</translation>
-    </message>
-    <message>
         <source>Cannot render %1: it is damaged.</source>
         <translation>%1 kann nicht ausgegeben werden: Die Datei ist beschädigt.</translation>
     </message>
@@ -1776,6 +1870,21 @@ Benötigt: %1 MB, verfügbar: %2 MB.</translation>
     <message>
         <source>Cannot render %1: %2.</source>
         <translation>%1 kann nicht ausgegeben werden: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>KxSoundPackets</name>
+    <message>
+        <source>the time stamps of the file jump</source>
+        <translation>die Zeitstempel der Datei springen</translation>
+    </message>
+    <message>
+        <source>there is no such sound track</source>
+        <translation>es gibt keine solche Tonspur</translation>
+    </message>
+    <message>
+        <source>MP4 cannot hold %1</source>
+        <translation>MP4 kann %1 nicht enthalten</translation>
     </message>
 </context>
 <context>
@@ -1935,6 +2044,17 @@ Benötigt: %1 MB, verfügbar: %2 MB.</translation>
     <message>
         <source>its video stream is damaged</source>
         <translation>der Videodatenstrom ist beschädigt</translation>
+    </message>
+</context>
+<context>
+    <name>KxVideoEncoder</name>
+    <message>
+        <source>the video encoder %1 is missing</source>
+        <translation>der Videocodierer %1 fehlt</translation>
+    </message>
+    <message>
+        <source>the video encoder %1 does not start (%2)</source>
+        <translation>der Videocodierer %1 startet nicht (%2)</translation>
     </message>
 </context>
 <context>
@@ -2268,6 +2388,10 @@ Benötigt: %1 MB, verfügbar: %2 MB.</translation>
         <source>%1, to %2</source>
         <translation>%1, nach %2</translation>
     </message>
+    <message>
+        <source>The file for %1 was saved.</source>
+        <translation>Die Datei für %1 wurde gespeichert.</translation>
+    </message>
 </context>
 <context>
     <name>MediaBackendLoader</name>
@@ -2392,6 +2516,97 @@ Benötigt: %1 MB, verfügbar: %2 MB.</translation>
     <message>
         <source>Enter a file name.</source>
         <translation>Einen Dateinamen eingeben.</translation>
+    </message>
+</context>
+<context>
+    <name>OutputOptions</name>
+    <message>
+        <source>--size takes even numbers such as 1080x1920, or a height such as 1920p; &quot;%1&quot; is neither.</source>
+        <translation>--size nimmt gerade Zahlen wie 1080x1920 oder eine Höhe wie 1920p; „%1“ ist keines von beiden.</translation>
+    </message>
+    <message>
+        <source>--fps takes a number from 1 to 240; &quot;%1&quot; is none.</source>
+        <translation>--fps nimmt eine Zahl von 1 bis 240; „%1“ ist keine.</translation>
+    </message>
+    <message>
+        <source>--quality takes a number from 0 to 100; &quot;%1&quot; is none.</source>
+        <translation>--quality nimmt eine Zahl von 0 bis 100; „%1“ ist keine.</translation>
+    </message>
+    <message>
+        <source>--bitrate takes bits a second from 10k to 300M; &quot;%1&quot; are none.</source>
+        <translation>--bitrate nimmt Bits pro Sekunde von 10k bis 300M; „%1“ gehört nicht dazu.</translation>
+    </message>
+    <message>
+        <source>--codec takes h264, hevc or av1; &quot;%1&quot; is none of them.</source>
+        <translation>--codec nimmt h264, hevc oder av1; „%1“ ist keines davon.</translation>
+    </message>
+    <message>
+        <source>--encoder takes auto, software, vaapi, nvenc or qsv; &quot;%1&quot; is none of them.</source>
+        <translation>--encoder nimmt auto, software, vaapi, nvenc oder qsv; „%1“ ist keines davon.</translation>
+    </message>
+    <message>
+        <source>--hdr takes keep or tonemap; &quot;%1&quot; is neither.</source>
+        <translation>--hdr nimmt keep oder tonemap; „%1“ ist keines von beiden.</translation>
+    </message>
+    <message>
+        <source>--sound takes copy or encode; &quot;%1&quot; is neither.</source>
+        <translation>--sound nimmt copy oder encode; „%1“ ist keines von beiden.</translation>
+    </message>
+    <message>
+        <source>--loudness takes LUFS from -70 to -5; &quot;%1&quot; are none.</source>
+        <translation>--loudness nimmt LUFS von -70 bis -5; „%1“ gehört nicht dazu.</translation>
+    </message>
+    <message>
+        <source>--quality and --bitrate exclude each other.</source>
+        <translation>--quality und --bitrate schließen einander aus.</translation>
+    </message>
+    <message>
+        <source>--loudness changes the sound, which --sound copy does not.</source>
+        <translation>--loudness ändert den Ton, --sound copy nicht.</translation>
+    </message>
+    <message>
+        <source>--hdr keep needs --codec hevc.</source>
+        <translation>--hdr keep braucht --codec hevc.</translation>
+    </message>
+    <message>
+        <source>--hdr keep needs --encoder software or auto.</source>
+        <translation>--hdr keep braucht --encoder software oder auto.</translation>
+    </message>
+    <message>
+        <source>Size of the result, or its height, such as 1080x1920 or 1920p; as large as the crop when not given.</source>
+        <translation>Größe des Ergebnisses oder seine Höhe, etwa 1080x1920 oder 1920p; ohne Angabe so groß wie der Ausschnitt.</translation>
+    </message>
+    <message>
+        <source>Frames a second of the result; those of the source when not given.</source>
+        <translation>Bilder pro Sekunde des Ergebnisses; ohne Angabe die der Quelle.</translation>
+    </message>
+    <message>
+        <source>Constant quality from 0 to 100, about alike in each codec, instead of a bit rate.</source>
+        <translation>Gleichbleibende Qualität von 0 bis 100, in jedem Codec etwa gleich, statt einer Bitrate.</translation>
+    </message>
+    <message>
+        <source>Bits a second of the picture, such as 800k or 6M; those of the source when not given.</source>
+        <translation>Bits pro Sekunde des Bildes, etwa 800k oder 6M; ohne Angabe die der Quelle.</translation>
+    </message>
+    <message>
+        <source>Codec of the picture: h264, hevc or av1 (h264).</source>
+        <translation>Codec des Bildes: h264, hevc oder av1 (h264).</translation>
+    </message>
+    <message>
+        <source>What encodes the picture: software, vaapi, nvenc, qsv, or auto: hardware if ten frames of the video show that it works (software).</source>
+        <translation>Womit das Bild codiert wird: software, vaapi, nvenc, qsv oder auto: Hardware, wenn zehn Bilder des Videos zeigen, dass sie funktioniert (software).</translation>
+    </message>
+    <message>
+        <source>What becomes of a picture in high dynamic range: tonemap to the usual range, or keep, as 10-bit HEVC (tonemap).</source>
+        <translation>Was aus einem Bild mit hohem Dynamikumfang wird: tonemap, auf den üblichen Umfang, oder keep, als HEVC mit 10 Bit (tonemap).</translation>
+    </message>
+    <message>
+        <source>What becomes of the sound: encode as AAC, or copy bit for bit where MP4 can hold it (encode).</source>
+        <translation>Was aus dem Ton wird: encode, als AAC, oder copy, Bit für Bit, wo MP4 ihn enthalten kann (encode).</translation>
+    </message>
+    <message>
+        <source>Bring the sound to this loudness in LUFS (EBU R128), such as -14.</source>
+        <translation>Den Ton auf diese Lautheit in LUFS (EBU R128) bringen, etwa -14.</translation>
     </message>
 </context>
 <context>
@@ -2556,6 +2771,187 @@ Benötigt: %1 MB, verfügbar: %2 MB.</translation>
     <message>
         <source>Cannot reframe %1: %2.</source>
         <translation>%1 kann nicht neu kadriert werden: %2.</translation>
+    </message>
+    <message>
+        <source>%1: %2 -&gt; %3 (encoded by %4)</source>
+        <translation>%1: %2 -&gt; %3 (codiert mit %4)</translation>
+    </message>
+    <message>
+        <source>The size %1 x %2 is above that of the crop, %3 x %4: the picture is enlarged.</source>
+        <translation>Die Größe %1 x %2 liegt über der des Ausschnitts, %3 x %4: Das Bild wird vergrößert.</translation>
+    </message>
+</context>
+<context>
+    <name>ReframeOptions</name>
+    <message>
+        <source>Aspect ratio of the result (9:16); several with commas between them: the video is looked at once.</source>
+        <translation>Seitenverhältnis des Ergebnisses (9:16); mehrere durch Kommas getrennt: Das Video wird nur einmal angesehen.</translation>
+    </message>
+    <message>
+        <source>How readily the crop follows: auto, fast or slow (auto).</source>
+        <translation>Wie schnell der Ausschnitt folgt: auto, fast oder slow (auto).</translation>
+    </message>
+    <message>
+        <source>Where several people talk, follow who speaks: auto or off (auto).</source>
+        <translation>Der sprechenden Person folgen, wenn mehrere reden: auto oder off (auto).</translation>
+    </message>
+    <message>
+        <source>Where to write the video; beside the input when not given.</source>
+        <translation>Wohin das Video geschrieben wird; ohne Angabe neben die Eingabe.</translation>
+    </message>
+    <message>
+        <source>Write the crop of every frame, as .json or .csv.</source>
+        <translation>Den Ausschnitt jedes Bildes als .json oder .csv schreiben.</translation>
+    </message>
+    <message>
+        <source>Write the crop as a project or as keyframes for another program: .mlt, .kdenlive, .fcpxml, .txt (After Effects) or .ffscript (ffmpeg). A suffix alone, such as mlt, names the file after the video. May be given several times.</source>
+        <translation>Den Ausschnitt als Projekt oder als Keyframes für ein anderes Programm schreiben: .mlt, .kdenlive, .fcpxml, .txt (After Effects) oder .ffscript (ffmpeg). Eine Endung allein, etwa mlt, benennt die Datei nach dem Video. Kann mehrmals angegeben werden.</translation>
+    </message>
+    <message>
+        <source>Take the crops from FILE instead of analysing.</source>
+        <translation>Die Ausschnitte aus FILE nehmen, statt zu analysieren.</translation>
+    </message>
+    <message>
+        <source>Decide as FILE says (.json): what to follow, to avoid, where to hold the crop or to show the whole picture.</source>
+        <translation>Entscheiden, wie FILE (.json) es sagt: was zu verfolgen und zu meiden ist, wo der Ausschnitt feststeht oder das ganze Bild gezeigt wird.</translation>
+    </message>
+    <message>
+        <source>Write what --choices and --follow decided to FILE (.json), with what its pictures look like, for this or another cut of the video.</source>
+        <translation>Was --choices und --follow entschieden haben, in FILE (.json) schreiben, mit dem Aussehen der Bilder, für diese oder eine andere Schnittfassung des Videos.</translation>
+    </message>
+    <message>
+        <source>Follow what is at the point X,Y, or in the box from X,Y of the size W,H, through its shot. TIME in seconds, or a frame (75f); the place in pixels, or in fractions of the picture. May be given several times.</source>
+        <translation>Dem folgen, was am Punkt X,Y liegt oder im Rahmen ab X,Y der Größe W,H, durch die ganze Einstellung. TIME in Sekunden oder ein Bild (75f); die Stelle in Pixeln oder in Bruchteilen des Bildes. Kann mehrmals angegeben werden.</translation>
+    </message>
+    <message>
+        <source>Write the source with the crop drawn: a contact sheet as .png, or all of it, with sound and with what the analysis found, as .mp4.</source>
+        <translation>Die Quelle mit eingezeichnetem Ausschnitt schreiben: einen Kontaktbogen als .png oder alles, mit Ton und dem, was die Analyse fand, als .mp4.</translation>
+    </message>
+    <message>
+        <source>Write a page (.html) that shows what the analysis found.</source>
+        <translation>Eine Seite (.html) schreiben, die zeigt, was die Analyse fand.</translation>
+    </message>
+    <message>
+        <source>Keep what an analysis saw in FOLDER, or nowhere, instead of the usual folder.</source>
+        <translation>Was eine Analyse gesehen hat, in FOLDER aufbewahren oder nirgends, statt im üblichen Ordner.</translation>
+    </message>
+    <message>
+        <source>Use the optional detectors in FOLDER, or none, instead of those that are installed.</source>
+        <translation>Die optionalen Detektoren in FOLDER verwenden oder keine, statt der installierten.</translation>
+    </message>
+    <message>
+        <source>Analyse only; write no video.</source>
+        <translation>Nur analysieren, kein Video schreiben.</translation>
+    </message>
+    <message>
+        <source>Replace existing files instead of adding a number to the name.</source>
+        <translation>Vorhandene Dateien ersetzen, statt dem Namen eine Nummer anzuhängen.</translation>
+    </message>
+    <message>
+        <source>Print progress and results as JSON lines.</source>
+        <translation>Fortschritt und Ergebnisse als JSON-Zeilen ausgeben.</translation>
+    </message>
+    <message>
+        <source>Print errors only.</source>
+        <translation>Nur Fehler ausgeben.</translation>
+    </message>
+    <message>
+        <source>Show this text.</source>
+        <translation>Diesen Text anzeigen.</translation>
+    </message>
+    <message>
+        <source>Show the version.</source>
+        <translation>Die Version anzeigen.</translation>
+    </message>
+    <message>
+        <source>%1
+Try reframe --help.</source>
+        <translation>%1
+Hilfe: reframe --help.</translation>
+    </message>
+    <message>
+        <source>%1 or .%2</source>
+        <translation>%1 oder .%2</translation>
+    </message>
+    <message>
+        <source>No input file was given.</source>
+        <translation>Keine Eingabedatei angegeben.</translation>
+    </message>
+    <message>
+        <source>--output and --no-video exclude each other.</source>
+        <translation>--output und --no-video schließen einander aus.</translation>
+    </message>
+    <message>
+        <source>--report shows what an analysis found, and with --apply there is none.</source>
+        <translation>--report zeigt, was eine Analyse fand; mit --apply gibt es keine.</translation>
+    </message>
+    <message>
+        <source>--apply takes one input.</source>
+        <translation>--apply nimmt nur eine Eingabe.</translation>
+    </message>
+    <message>
+        <source>--apply takes one aspect ratio.</source>
+        <translation>--apply nimmt nur ein Seitenverhältnis.</translation>
+    </message>
+    <message>
+        <source>--save-choices takes one aspect ratio.</source>
+        <translation>--save-choices nimmt nur ein Seitenverhältnis.</translation>
+    </message>
+    <message>
+        <source>--choices and --follow take one input.</source>
+        <translation>--choices und --follow nehmen nur eine Eingabe.</translation>
+    </message>
+    <message>
+        <source>--choices and --follow guide the analysis, and with --apply there is none.</source>
+        <translation>--choices und --follow lenken die Analyse; mit --apply gibt es keine.</translation>
+    </message>
+    <message>
+        <source>--save-choices writes what --choices and --follow decided, and neither was given.</source>
+        <translation>--save-choices schreibt, was --choices und --follow entschieden haben; beide fehlen.</translation>
+    </message>
+    <message>
+        <source>--edit-list takes the name of a .%1 file or such a suffix alone; %2 is neither.</source>
+        <translation>--edit-list nimmt den Namen einer Datei mit der Endung .%1 oder nur eine solche Endung; %2 ist keines von beiden.</translation>
+    </message>
+    <message>
+        <source>With several inputs or aspect ratios --edit-list takes a suffix alone; write %1 instead of %2.</source>
+        <translation>Bei mehreren Eingaben oder Seitenverhältnissen nimmt --edit-list nur eine Endung; %1 statt %2 schreiben.</translation>
+    </message>
+    <message>
+        <source>With several inputs or aspect ratios %1 must name an existing folder; %2 is none.</source>
+        <translation>Bei mehreren Eingaben oder Seitenverhältnissen muss %1 einen vorhandenen Ordner nennen; %2 ist keiner.</translation>
+    </message>
+    <message>
+        <source>%1 takes an existing folder or the name of a .%2 file; %3 is neither.</source>
+        <translation>%1 nimmt einen vorhandenen Ordner oder den Namen einer Datei mit der Endung .%2; %3 ist keines von beiden.</translation>
+    </message>
+    <message>
+        <source>%1 begins like an option; as a file it is written ./%1.</source>
+        <translation>%1 beginnt wie eine Option; als Datei schreibt man ./%1.</translation>
+    </message>
+    <message>
+        <source>Turns a video into another aspect ratio and keeps its subject in the picture.</source>
+        <translation>Bringt ein Video in ein anderes Seitenverhältnis und hält sein Motiv im Bild.</translation>
+    </message>
+    <message>
+        <source>The video files to reframe.</source>
+        <translation>Die Videodateien, die neu kadriert werden.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no aspect ratio; write two whole numbers such as 9:16, neither more than 20 times the other.</source>
+        <translation>„%1“ ist kein Seitenverhältnis; zwei ganze Zahlen wie 9:16 angeben, keine mehr als 20-mal so groß wie die andere.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no speed; it is auto, fast or slow.</source>
+        <translation>„%1“ ist kein Tempo; möglich sind auto, fast oder slow.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is nothing to follow; write a time and a place such as 3.5@640,360, or a time and a box such as 3.5@0.4,0.2,0.1,0.5.</source>
+        <translation>„%1“ lässt sich nicht verfolgen; eine Zeit und eine Stelle wie 3.5@640,360 oder eine Zeit und einen Rahmen wie 3.5@0.4,0.2,0.1,0.5 angeben.</translation>
+    </message>
+    <message>
+        <source>--speaker takes auto or off; &quot;%1&quot; is neither.</source>
+        <translation>--speaker nimmt auto oder off; „%1“ ist keines von beiden.</translation>
     </message>
 </context>
 <context>

@@ -418,6 +418,14 @@ El programa de línea de órdenes para muchos archivos a la vez es reframe.</tra
         <source>Save</source>
         <translation>Guardar</translation>
     </message>
+    <message>
+        <source>Export for %1</source>
+        <translation>Exportar para %1</translation>
+    </message>
+    <message>
+        <source>The folder for the project or the keyframes</source>
+        <translation>La carpeta del proyecto o de los fotogramas clave</translation>
+    </message>
 </context>
 <context>
     <name>CropTrackFile</name>
@@ -564,6 +572,17 @@ El programa de línea de órdenes para muchos archivos a la vez es reframe.</tra
     <message>
         <source>Opens the video at these settings and its first doubtful shot; N leads to the next one.</source>
         <translation>Abre el vídeo con estos ajustes en su primer plano dudoso; N lleva al siguiente.</translation>
+    </message>
+</context>
+<context>
+    <name>ExportForMenu</name>
+    <message>
+        <source>Export for</source>
+        <translation>Exportar para</translation>
+    </message>
+    <message>
+        <source>%1 (.%2)…</source>
+        <translation>%1 (.%2)…</translation>
     </message>
 </context>
 <context>
@@ -1281,6 +1300,21 @@ Espacio necesario: %1 MB, disponible: %2 MB.</translation>
     </message>
 </context>
 <context>
+    <name>KxAacEncoder</name>
+    <message>
+        <source>the AAC encoder is missing</source>
+        <translation>falta el codificador AAC</translation>
+    </message>
+    <message>
+        <source>sound of %1 Hz and %2 channels is not supported</source>
+        <translation>no se admite sonido de %1 Hz y %2 canales</translation>
+    </message>
+    <message>
+        <source>the sound encoder does not start (%1)</source>
+        <translation>el codificador de sonido no se inicia (%1)</translation>
+    </message>
+</context>
+<context>
     <name>KxAudioReader</name>
     <message>
         <source>it has no such sound track</source>
@@ -1471,6 +1505,25 @@ Espacio necesario: %1 MB, disponible: %2 MB.</translation>
     </message>
 </context>
 <context>
+    <name>KxEncoderProof</name>
+    <message>
+        <source>there is nothing to compare it with</source>
+        <translation>no hay nada con qué compararlo</translation>
+    </message>
+    <message>
+        <source>of %1 pictures it wrote %2</source>
+        <translation>de %1 imágenes escribió %2</translation>
+    </message>
+    <message>
+        <source>its pictures have another size or format</source>
+        <translation>sus imágenes tienen otro tamaño o formato</translation>
+    </message>
+    <message>
+        <source>its picture %1 differs too much (%2 dB, %3 are needed)</source>
+        <translation>su imagen %1 difiere demasiado (%2 dB, se necesitan %3)</translation>
+    </message>
+</context>
+<context>
     <name>KxFittedCutter</name>
     <message>
         <source>Cannot cut a picture: the rectangle to cut out is empty.</source>
@@ -1619,6 +1672,25 @@ Espacio necesario: %1 MB, disponible: %2 MB.</translation>
     </message>
 </context>
 <context>
+    <name>KxMp4Writer</name>
+    <message>
+        <source>Cannot write %1: %2.</source>
+        <translation>No se puede escribir %1: %2.</translation>
+    </message>
+    <message>
+        <source>pictures of %1 x %2 pixels cannot be encoded; both have to be even</source>
+        <translation>no se pueden codificar imágenes de %1 x %2 píxeles; ambos números deben ser pares</translation>
+    </message>
+    <message>
+        <source>the frame rate is unknown</source>
+        <translation>se desconoce la velocidad de fotogramas</translation>
+    </message>
+    <message>
+        <source>there is no picture to write</source>
+        <translation>no hay ninguna imagen que escribir</translation>
+    </message>
+</context>
+<context>
     <name>KxOpenFileLineEdit</name>
     <message>
         <source>Folder</source>
@@ -1665,6 +1737,13 @@ Espacio necesario: %1 MB, disponible: %2 MB.</translation>
     <message>
         <source>%1 is not a folder</source>
         <translation>%1 no es una carpeta</translation>
+    </message>
+</context>
+<context>
+    <name>KxOutputSize</name>
+    <message>
+        <source>the size %1 x %2 has not the shape of the crop; %1 x %3 has it</source>
+        <translation>el tamaño %1 x %2 no tiene la forma del encuadre; %1 x %3 sí</translation>
     </message>
 </context>
 <context>
@@ -1733,6 +1812,25 @@ Espacio necesario: %1 MB, disponible: %2 MB.</translation>
     </message>
 </context>
 <context>
+    <name>KxRenderSound</name>
+    <message>
+        <source>The sound is silent; its loudness is not changed.</source>
+        <translation>El sonido es silencioso; no se cambia su sonoridad.</translation>
+    </message>
+    <message>
+        <source>The loudness of the sound is not changed: %1.</source>
+        <translation>No se cambia la sonoridad del sonido: %1.</translation>
+    </message>
+    <message>
+        <source>The sound is encoded again: %1.</source>
+        <translation>El sonido se codifica de nuevo: %1.</translation>
+    </message>
+    <message>
+        <source>The sound is left out. %1</source>
+        <translation>Se omite el sonido. %1</translation>
+    </message>
+</context>
+<context>
     <name>KxRenderSource</name>
     <message>
         <source>Cannot render the timeline: it shows no file.</source>
@@ -1754,10 +1852,6 @@ Espacio necesario: %1 MB, disponible: %2 MB.</translation>
         <translation>es el mismo archivo que se está procesando</translation>
     </message>
     <message>
-        <source>The sound is left out. %1</source>
-        <translation>Se omite el sonido. %1</translation>
-    </message>
-    <message>
         <source>Cannot render %1: it is damaged.</source>
         <translation>No se puede procesar %1: está dañado.</translation>
     </message>
@@ -1776,6 +1870,21 @@ Espacio necesario: %1 MB, disponible: %2 MB.</translation>
     <message>
         <source>Cannot render %1: %2.</source>
         <translation>No se puede procesar %1: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>KxSoundPackets</name>
+    <message>
+        <source>the time stamps of the file jump</source>
+        <translation>las marcas de tiempo del archivo saltan</translation>
+    </message>
+    <message>
+        <source>there is no such sound track</source>
+        <translation>no existe esa pista de sonido</translation>
+    </message>
+    <message>
+        <source>MP4 cannot hold %1</source>
+        <translation>MP4 no puede contener %1</translation>
     </message>
 </context>
 <context>
@@ -1935,6 +2044,17 @@ Espacio necesario: %1 MB, disponible: %2 MB.</translation>
     <message>
         <source>its video stream is damaged</source>
         <translation>su flujo de vídeo está dañado</translation>
+    </message>
+</context>
+<context>
+    <name>KxVideoEncoder</name>
+    <message>
+        <source>the video encoder %1 is missing</source>
+        <translation>falta el codificador de vídeo %1</translation>
+    </message>
+    <message>
+        <source>the video encoder %1 does not start (%2)</source>
+        <translation>el codificador de vídeo %1 no se inicia (%2)</translation>
     </message>
 </context>
 <context>
@@ -2268,6 +2388,10 @@ Espacio necesario: %1 MB, disponible: %2 MB.</translation>
         <source>%1, to %2</source>
         <translation>%1, en %2</translation>
     </message>
+    <message>
+        <source>The file for %1 was saved.</source>
+        <translation>Se guardó el archivo para %1.</translation>
+    </message>
 </context>
 <context>
     <name>MediaBackendLoader</name>
@@ -2392,6 +2516,97 @@ Espacio necesario: %1 MB, disponible: %2 MB.</translation>
     <message>
         <source>Enter a file name.</source>
         <translation>Escribir un nombre de archivo.</translation>
+    </message>
+</context>
+<context>
+    <name>OutputOptions</name>
+    <message>
+        <source>--size takes even numbers such as 1080x1920, or a height such as 1920p; &quot;%1&quot; is neither.</source>
+        <translation>--size admite números pares como 1080x1920, o una altura como 1920p; «%1» no es ninguna de las dos cosas.</translation>
+    </message>
+    <message>
+        <source>--fps takes a number from 1 to 240; &quot;%1&quot; is none.</source>
+        <translation>--fps admite un número de 1 a 240; «%1» no lo es.</translation>
+    </message>
+    <message>
+        <source>--quality takes a number from 0 to 100; &quot;%1&quot; is none.</source>
+        <translation>--quality admite un número de 0 a 100; «%1» no lo es.</translation>
+    </message>
+    <message>
+        <source>--bitrate takes bits a second from 10k to 300M; &quot;%1&quot; are none.</source>
+        <translation>--bitrate admite bits por segundo de 10k a 300M; «%1» no lo son.</translation>
+    </message>
+    <message>
+        <source>--codec takes h264, hevc or av1; &quot;%1&quot; is none of them.</source>
+        <translation>--codec admite h264, hevc o av1; «%1» no es ninguno de ellos.</translation>
+    </message>
+    <message>
+        <source>--encoder takes auto, software, vaapi, nvenc or qsv; &quot;%1&quot; is none of them.</source>
+        <translation>--encoder admite auto, software, vaapi, nvenc o qsv; «%1» no es ninguno de ellos.</translation>
+    </message>
+    <message>
+        <source>--hdr takes keep or tonemap; &quot;%1&quot; is neither.</source>
+        <translation>--hdr admite keep o tonemap; «%1» no es ninguno de los dos.</translation>
+    </message>
+    <message>
+        <source>--sound takes copy or encode; &quot;%1&quot; is neither.</source>
+        <translation>--sound admite copy o encode; «%1» no es ninguno de los dos.</translation>
+    </message>
+    <message>
+        <source>--loudness takes LUFS from -70 to -5; &quot;%1&quot; are none.</source>
+        <translation>--loudness admite LUFS de -70 a -5; «%1» no lo son.</translation>
+    </message>
+    <message>
+        <source>--quality and --bitrate exclude each other.</source>
+        <translation>--quality y --bitrate se excluyen entre sí.</translation>
+    </message>
+    <message>
+        <source>--loudness changes the sound, which --sound copy does not.</source>
+        <translation>--loudness cambia el sonido y --sound copy no.</translation>
+    </message>
+    <message>
+        <source>--hdr keep needs --codec hevc.</source>
+        <translation>--hdr keep necesita --codec hevc.</translation>
+    </message>
+    <message>
+        <source>--hdr keep needs --encoder software or auto.</source>
+        <translation>--hdr keep necesita --encoder software o auto.</translation>
+    </message>
+    <message>
+        <source>Size of the result, or its height, such as 1080x1920 or 1920p; as large as the crop when not given.</source>
+        <translation>Tamaño del resultado, o su altura, como 1080x1920 o 1920p; tan grande como el encuadre si no se indica.</translation>
+    </message>
+    <message>
+        <source>Frames a second of the result; those of the source when not given.</source>
+        <translation>Fotogramas por segundo del resultado; los del original si no se indica.</translation>
+    </message>
+    <message>
+        <source>Constant quality from 0 to 100, about alike in each codec, instead of a bit rate.</source>
+        <translation>Calidad constante de 0 a 100, parecida en todos los códecs, en lugar de una tasa de bits.</translation>
+    </message>
+    <message>
+        <source>Bits a second of the picture, such as 800k or 6M; those of the source when not given.</source>
+        <translation>Bits por segundo de la imagen, como 800k o 6M; los del original si no se indica.</translation>
+    </message>
+    <message>
+        <source>Codec of the picture: h264, hevc or av1 (h264).</source>
+        <translation>Códec de la imagen: h264, hevc o av1 (h264).</translation>
+    </message>
+    <message>
+        <source>What encodes the picture: software, vaapi, nvenc, qsv, or auto: hardware if ten frames of the video show that it works (software).</source>
+        <translation>Qué codifica la imagen: software, vaapi, nvenc, qsv o auto: hardware si diez fotogramas del vídeo muestran que funciona (software).</translation>
+    </message>
+    <message>
+        <source>What becomes of a picture in high dynamic range: tonemap to the usual range, or keep, as 10-bit HEVC (tonemap).</source>
+        <translation>Qué se hace con una imagen de alto rango dinámico: tonemap al rango habitual, o keep, como HEVC de 10 bits (tonemap).</translation>
+    </message>
+    <message>
+        <source>What becomes of the sound: encode as AAC, or copy bit for bit where MP4 can hold it (encode).</source>
+        <translation>Qué se hace con el sonido: encode como AAC, o copy bit a bit donde MP4 pueda contenerlo (encode).</translation>
+    </message>
+    <message>
+        <source>Bring the sound to this loudness in LUFS (EBU R128), such as -14.</source>
+        <translation>Llevar el sonido a esta sonoridad en LUFS (EBU R128), como -14.</translation>
     </message>
 </context>
 <context>
@@ -2556,6 +2771,187 @@ Espacio necesario: %1 MB, disponible: %2 MB.</translation>
     <message>
         <source>Cannot reframe %1: %2.</source>
         <translation>No se puede reencuadrar %1: %2.</translation>
+    </message>
+    <message>
+        <source>%1: %2 -&gt; %3 (encoded by %4)</source>
+        <translation>%1: %2 -&gt; %3 (codificado por %4)</translation>
+    </message>
+    <message>
+        <source>The size %1 x %2 is above that of the crop, %3 x %4: the picture is enlarged.</source>
+        <translation>El tamaño %1 x %2 supera el del encuadre, %3 x %4: la imagen se amplía.</translation>
+    </message>
+</context>
+<context>
+    <name>ReframeOptions</name>
+    <message>
+        <source>Aspect ratio of the result (9:16); several with commas between them: the video is looked at once.</source>
+        <translation>Relación de aspecto del resultado (9:16); varias separadas por comas: el vídeo se mira una sola vez.</translation>
+    </message>
+    <message>
+        <source>How readily the crop follows: auto, fast or slow (auto).</source>
+        <translation>Con qué rapidez sigue el encuadre: auto, fast o slow (auto).</translation>
+    </message>
+    <message>
+        <source>Where several people talk, follow who speaks: auto or off (auto).</source>
+        <translation>Cuando hablan varias personas, seguir a quien habla: auto u off (auto).</translation>
+    </message>
+    <message>
+        <source>Where to write the video; beside the input when not given.</source>
+        <translation>Dónde escribir el vídeo; junto a la entrada si no se indica.</translation>
+    </message>
+    <message>
+        <source>Write the crop of every frame, as .json or .csv.</source>
+        <translation>Escribir el encuadre de cada fotograma, como .json o .csv.</translation>
+    </message>
+    <message>
+        <source>Write the crop as a project or as keyframes for another program: .mlt, .kdenlive, .fcpxml, .txt (After Effects) or .ffscript (ffmpeg). A suffix alone, such as mlt, names the file after the video. May be given several times.</source>
+        <translation>Escribir el encuadre como proyecto o como fotogramas clave para otro programa: .mlt, .kdenlive, .fcpxml, .txt (After Effects) o .ffscript (ffmpeg). Un sufijo solo, como mlt, da al archivo el nombre del vídeo. Se puede indicar varias veces.</translation>
+    </message>
+    <message>
+        <source>Take the crops from FILE instead of analysing.</source>
+        <translation>Tomar los encuadres de FILE en lugar de analizar.</translation>
+    </message>
+    <message>
+        <source>Decide as FILE says (.json): what to follow, to avoid, where to hold the crop or to show the whole picture.</source>
+        <translation>Decidir como indica FILE (.json): qué seguir, qué evitar, dónde fijar el encuadre o mostrar la imagen completa.</translation>
+    </message>
+    <message>
+        <source>Write what --choices and --follow decided to FILE (.json), with what its pictures look like, for this or another cut of the video.</source>
+        <translation>Escribir en FILE (.json) lo que decidieron --choices y --follow, con el aspecto de sus imágenes, para este u otro montaje del vídeo.</translation>
+    </message>
+    <message>
+        <source>Follow what is at the point X,Y, or in the box from X,Y of the size W,H, through its shot. TIME in seconds, or a frame (75f); the place in pixels, or in fractions of the picture. May be given several times.</source>
+        <translation>Seguir lo que está en el punto X,Y, o en el recuadro desde X,Y de tamaño W,H, durante todo su plano. TIME en segundos, o un fotograma (75f); el lugar en píxeles o en fracciones de la imagen. Se puede indicar varias veces.</translation>
+    </message>
+    <message>
+        <source>Write the source with the crop drawn: a contact sheet as .png, or all of it, with sound and with what the analysis found, as .mp4.</source>
+        <translation>Escribir el original con el encuadre dibujado: una hoja de contactos como .png, o todo, con sonido y con lo que encontró el análisis, como .mp4.</translation>
+    </message>
+    <message>
+        <source>Write a page (.html) that shows what the analysis found.</source>
+        <translation>Escribir una página (.html) que muestra lo que encontró el análisis.</translation>
+    </message>
+    <message>
+        <source>Keep what an analysis saw in FOLDER, or nowhere, instead of the usual folder.</source>
+        <translation>Guardar lo que vio un análisis en FOLDER, o en ningún sitio, en lugar de la carpeta habitual.</translation>
+    </message>
+    <message>
+        <source>Use the optional detectors in FOLDER, or none, instead of those that are installed.</source>
+        <translation>Usar los detectores opcionales de FOLDER, o ninguno, en lugar de los instalados.</translation>
+    </message>
+    <message>
+        <source>Analyse only; write no video.</source>
+        <translation>Solo analizar; no escribir vídeo.</translation>
+    </message>
+    <message>
+        <source>Replace existing files instead of adding a number to the name.</source>
+        <translation>Reemplazar los archivos existentes en lugar de añadir un número al nombre.</translation>
+    </message>
+    <message>
+        <source>Print progress and results as JSON lines.</source>
+        <translation>Mostrar el progreso y los resultados como líneas JSON.</translation>
+    </message>
+    <message>
+        <source>Print errors only.</source>
+        <translation>Mostrar solo los errores.</translation>
+    </message>
+    <message>
+        <source>Show this text.</source>
+        <translation>Mostrar este texto.</translation>
+    </message>
+    <message>
+        <source>Show the version.</source>
+        <translation>Mostrar la versión.</translation>
+    </message>
+    <message>
+        <source>%1
+Try reframe --help.</source>
+        <translation>%1
+Consultar reframe --help.</translation>
+    </message>
+    <message>
+        <source>%1 or .%2</source>
+        <translation>%1 o .%2</translation>
+    </message>
+    <message>
+        <source>No input file was given.</source>
+        <translation>No se indicó ningún archivo de entrada.</translation>
+    </message>
+    <message>
+        <source>--output and --no-video exclude each other.</source>
+        <translation>--output y --no-video se excluyen entre sí.</translation>
+    </message>
+    <message>
+        <source>--report shows what an analysis found, and with --apply there is none.</source>
+        <translation>--report muestra lo que encontró un análisis, y con --apply no hay ninguno.</translation>
+    </message>
+    <message>
+        <source>--apply takes one input.</source>
+        <translation>--apply admite una sola entrada.</translation>
+    </message>
+    <message>
+        <source>--apply takes one aspect ratio.</source>
+        <translation>--apply admite una sola relación de aspecto.</translation>
+    </message>
+    <message>
+        <source>--save-choices takes one aspect ratio.</source>
+        <translation>--save-choices admite una sola relación de aspecto.</translation>
+    </message>
+    <message>
+        <source>--choices and --follow take one input.</source>
+        <translation>--choices y --follow admiten una sola entrada.</translation>
+    </message>
+    <message>
+        <source>--choices and --follow guide the analysis, and with --apply there is none.</source>
+        <translation>--choices y --follow guían el análisis, y con --apply no hay ninguno.</translation>
+    </message>
+    <message>
+        <source>--save-choices writes what --choices and --follow decided, and neither was given.</source>
+        <translation>--save-choices escribe lo que decidieron --choices y --follow, y no se indicó ninguno.</translation>
+    </message>
+    <message>
+        <source>--edit-list takes the name of a .%1 file or such a suffix alone; %2 is neither.</source>
+        <translation>--edit-list admite el nombre de un archivo .%1 o solo uno de esos sufijos; %2 no es ninguna de las dos cosas.</translation>
+    </message>
+    <message>
+        <source>With several inputs or aspect ratios --edit-list takes a suffix alone; write %1 instead of %2.</source>
+        <translation>Con varias entradas o relaciones de aspecto, --edit-list admite solo un sufijo; escribir %1 en lugar de %2.</translation>
+    </message>
+    <message>
+        <source>With several inputs or aspect ratios %1 must name an existing folder; %2 is none.</source>
+        <translation>Con varias entradas o relaciones de aspecto, %1 debe nombrar una carpeta existente; %2 no lo es.</translation>
+    </message>
+    <message>
+        <source>%1 takes an existing folder or the name of a .%2 file; %3 is neither.</source>
+        <translation>%1 admite una carpeta existente o el nombre de un archivo .%2; %3 no es ninguna de las dos cosas.</translation>
+    </message>
+    <message>
+        <source>%1 begins like an option; as a file it is written ./%1.</source>
+        <translation>%1 empieza como una opción; como archivo se escribe ./%1.</translation>
+    </message>
+    <message>
+        <source>Turns a video into another aspect ratio and keeps its subject in the picture.</source>
+        <translation>Convierte un vídeo a otra relación de aspecto y mantiene su sujeto dentro de la imagen.</translation>
+    </message>
+    <message>
+        <source>The video files to reframe.</source>
+        <translation>Los archivos de vídeo que se van a reencuadrar.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no aspect ratio; write two whole numbers such as 9:16, neither more than 20 times the other.</source>
+        <translation>«%1» no es una relación de aspecto; escribir dos números enteros como 9:16, ninguno mayor que 20 veces el otro.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no speed; it is auto, fast or slow.</source>
+        <translation>«%1» no es una velocidad; puede ser auto, fast o slow.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is nothing to follow; write a time and a place such as 3.5@640,360, or a time and a box such as 3.5@0.4,0.2,0.1,0.5.</source>
+        <translation>«%1» no indica nada que seguir; escribir un tiempo y un lugar como 3.5@640,360, o un tiempo y un recuadro como 3.5@0.4,0.2,0.1,0.5.</translation>
+    </message>
+    <message>
+        <source>--speaker takes auto or off; &quot;%1&quot; is neither.</source>
+        <translation>--speaker admite auto u off; «%1» no es ninguno de los dos.</translation>
     </message>
 </context>
 <context>

@@ -418,6 +418,14 @@ Le programme en ligne de commande pour plusieurs fichiers à la fois est reframe
         <source>Save</source>
         <translation>Enregistrer</translation>
     </message>
+    <message>
+        <source>Export for %1</source>
+        <translation>Exporter pour %1</translation>
+    </message>
+    <message>
+        <source>The folder for the project or the keyframes</source>
+        <translation>Le dossier du projet ou des images clés</translation>
+    </message>
 </context>
 <context>
     <name>CropTrackFile</name>
@@ -564,6 +572,17 @@ Le programme en ligne de commande pour plusieurs fichiers à la fois est reframe
     <message>
         <source>Opens the video at these settings and its first doubtful shot; N leads to the next one.</source>
         <translation>Ouvre la vidéo avec ces réglages à son premier plan douteux&#xa0;; N mène au suivant.</translation>
+    </message>
+</context>
+<context>
+    <name>ExportForMenu</name>
+    <message>
+        <source>Export for</source>
+        <translation>Exporter pour</translation>
+    </message>
+    <message>
+        <source>%1 (.%2)…</source>
+        <translation>%1 (.%2)…</translation>
     </message>
 </context>
 <context>
@@ -1281,6 +1300,21 @@ Espace nécessaire&#xa0;: %1 Mo, disponible&#xa0;: %2 Mo.</translation>
     </message>
 </context>
 <context>
+    <name>KxAacEncoder</name>
+    <message>
+        <source>the AAC encoder is missing</source>
+        <translation>l’encodeur AAC est absent</translation>
+    </message>
+    <message>
+        <source>sound of %1 Hz and %2 channels is not supported</source>
+        <translation>le son à %1 Hz et %2 canaux n’est pas pris en charge</translation>
+    </message>
+    <message>
+        <source>the sound encoder does not start (%1)</source>
+        <translation>l’encodeur audio ne démarre pas (%1)</translation>
+    </message>
+</context>
+<context>
     <name>KxAudioReader</name>
     <message>
         <source>it has no such sound track</source>
@@ -1471,6 +1505,25 @@ Espace nécessaire&#xa0;: %1 Mo, disponible&#xa0;: %2 Mo.</translation>
     </message>
 </context>
 <context>
+    <name>KxEncoderProof</name>
+    <message>
+        <source>there is nothing to compare it with</source>
+        <translation>il n’y a rien à quoi la comparer</translation>
+    </message>
+    <message>
+        <source>of %1 pictures it wrote %2</source>
+        <translation>sur %1 images, %2 ont été écrites</translation>
+    </message>
+    <message>
+        <source>its pictures have another size or format</source>
+        <translation>ses images ont une autre taille ou un autre format</translation>
+    </message>
+    <message>
+        <source>its picture %1 differs too much (%2 dB, %3 are needed)</source>
+        <translation>son image %1 diffère trop (%2 dB, il en faut %3)</translation>
+    </message>
+</context>
+<context>
     <name>KxFittedCutter</name>
     <message>
         <source>Cannot cut a picture: the rectangle to cut out is empty.</source>
@@ -1619,6 +1672,25 @@ Espace nécessaire&#xa0;: %1 Mo, disponible&#xa0;: %2 Mo.</translation>
     </message>
 </context>
 <context>
+    <name>KxMp4Writer</name>
+    <message>
+        <source>Cannot write %1: %2.</source>
+        <translation>Impossible d’écrire %1&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>pictures of %1 x %2 pixels cannot be encoded; both have to be even</source>
+        <translation>des images de %1 x %2 pixels ne peuvent pas être encodées&#xa0;; les deux nombres doivent être pairs</translation>
+    </message>
+    <message>
+        <source>the frame rate is unknown</source>
+        <translation>la fréquence d’images est inconnue</translation>
+    </message>
+    <message>
+        <source>there is no picture to write</source>
+        <translation>il n’y a pas d’image à écrire</translation>
+    </message>
+</context>
+<context>
     <name>KxOpenFileLineEdit</name>
     <message>
         <source>Folder</source>
@@ -1665,6 +1737,13 @@ Espace nécessaire&#xa0;: %1 Mo, disponible&#xa0;: %2 Mo.</translation>
     <message>
         <source>%1 is not a folder</source>
         <translation>%1 n’est pas un dossier</translation>
+    </message>
+</context>
+<context>
+    <name>KxOutputSize</name>
+    <message>
+        <source>the size %1 x %2 has not the shape of the crop; %1 x %3 has it</source>
+        <translation>la taille %1 x %2 n’a pas la forme du cadre&#xa0;; %1 x %3 l’a</translation>
     </message>
 </context>
 <context>
@@ -1733,6 +1812,25 @@ Espace nécessaire&#xa0;: %1 Mo, disponible&#xa0;: %2 Mo.</translation>
     </message>
 </context>
 <context>
+    <name>KxRenderSound</name>
+    <message>
+        <source>The sound is silent; its loudness is not changed.</source>
+        <translation>Le son est silencieux&#xa0;; son niveau n’est pas modifié.</translation>
+    </message>
+    <message>
+        <source>The loudness of the sound is not changed: %1.</source>
+        <translation>Le niveau du son n’est pas modifié&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>The sound is encoded again: %1.</source>
+        <translation>Le son est encodé à nouveau&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>The sound is left out. %1</source>
+        <translation>Le son est omis. %1</translation>
+    </message>
+</context>
+<context>
     <name>KxRenderSource</name>
     <message>
         <source>Cannot render the timeline: it shows no file.</source>
@@ -1754,10 +1852,6 @@ Espace nécessaire&#xa0;: %1 Mo, disponible&#xa0;: %2 Mo.</translation>
         <translation>c’est le fichier même qui est traité</translation>
     </message>
     <message>
-        <source>The sound is left out. %1</source>
-        <translation>Le son est omis. %1</translation>
-    </message>
-    <message>
         <source>Cannot render %1: it is damaged.</source>
         <translation>Impossible de produire %1&#xa0;: le fichier est endommagé.</translation>
     </message>
@@ -1776,6 +1870,21 @@ Espace nécessaire&#xa0;: %1 Mo, disponible&#xa0;: %2 Mo.</translation>
     <message>
         <source>Cannot render %1: %2.</source>
         <translation>Impossible de produire %1&#xa0;: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>KxSoundPackets</name>
+    <message>
+        <source>the time stamps of the file jump</source>
+        <translation>les horodatages du fichier sautent</translation>
+    </message>
+    <message>
+        <source>there is no such sound track</source>
+        <translation>il n’y a pas de telle piste audio</translation>
+    </message>
+    <message>
+        <source>MP4 cannot hold %1</source>
+        <translation>MP4 ne peut pas contenir %1</translation>
     </message>
 </context>
 <context>
@@ -1935,6 +2044,17 @@ Espace nécessaire&#xa0;: %1 Mo, disponible&#xa0;: %2 Mo.</translation>
     <message>
         <source>its video stream is damaged</source>
         <translation>le flux vidéo est endommagé</translation>
+    </message>
+</context>
+<context>
+    <name>KxVideoEncoder</name>
+    <message>
+        <source>the video encoder %1 is missing</source>
+        <translation>l’encodeur vidéo %1 est absent</translation>
+    </message>
+    <message>
+        <source>the video encoder %1 does not start (%2)</source>
+        <translation>l’encodeur vidéo %1 ne démarre pas (%2)</translation>
     </message>
 </context>
 <context>
@@ -2268,6 +2388,10 @@ Espace nécessaire&#xa0;: %1 Mo, disponible&#xa0;: %2 Mo.</translation>
         <source>%1, to %2</source>
         <translation>%1, vers %2</translation>
     </message>
+    <message>
+        <source>The file for %1 was saved.</source>
+        <translation>Le fichier pour %1 a été enregistré.</translation>
+    </message>
 </context>
 <context>
     <name>MediaBackendLoader</name>
@@ -2392,6 +2516,97 @@ Espace nécessaire&#xa0;: %1 Mo, disponible&#xa0;: %2 Mo.</translation>
     <message>
         <source>Enter a file name.</source>
         <translation>Saisir un nom de fichier.</translation>
+    </message>
+</context>
+<context>
+    <name>OutputOptions</name>
+    <message>
+        <source>--size takes even numbers such as 1080x1920, or a height such as 1920p; &quot;%1&quot; is neither.</source>
+        <translation>--size prend des nombres pairs comme 1080x1920, ou une hauteur comme 1920p&#xa0;; «&#xa0;%1&#xa0;» n’est ni l’un ni l’autre.</translation>
+    </message>
+    <message>
+        <source>--fps takes a number from 1 to 240; &quot;%1&quot; is none.</source>
+        <translation>--fps prend un nombre de 1 à 240&#xa0;; «&#xa0;%1&#xa0;» n’en est pas un.</translation>
+    </message>
+    <message>
+        <source>--quality takes a number from 0 to 100; &quot;%1&quot; is none.</source>
+        <translation>--quality prend un nombre de 0 à 100&#xa0;; «&#xa0;%1&#xa0;» n’en est pas un.</translation>
+    </message>
+    <message>
+        <source>--bitrate takes bits a second from 10k to 300M; &quot;%1&quot; are none.</source>
+        <translation>--bitrate prend des bits par seconde de 10k à 300M&#xa0;; «&#xa0;%1&#xa0;» n’en est pas.</translation>
+    </message>
+    <message>
+        <source>--codec takes h264, hevc or av1; &quot;%1&quot; is none of them.</source>
+        <translation>--codec prend h264, hevc ou av1&#xa0;; «&#xa0;%1&#xa0;» n’en fait pas partie.</translation>
+    </message>
+    <message>
+        <source>--encoder takes auto, software, vaapi, nvenc or qsv; &quot;%1&quot; is none of them.</source>
+        <translation>--encoder prend auto, software, vaapi, nvenc ou qsv&#xa0;; «&#xa0;%1&#xa0;» n’en fait pas partie.</translation>
+    </message>
+    <message>
+        <source>--hdr takes keep or tonemap; &quot;%1&quot; is neither.</source>
+        <translation>--hdr prend keep ou tonemap&#xa0;; «&#xa0;%1&#xa0;» n’est ni l’un ni l’autre.</translation>
+    </message>
+    <message>
+        <source>--sound takes copy or encode; &quot;%1&quot; is neither.</source>
+        <translation>--sound prend copy ou encode&#xa0;; «&#xa0;%1&#xa0;» n’est ni l’un ni l’autre.</translation>
+    </message>
+    <message>
+        <source>--loudness takes LUFS from -70 to -5; &quot;%1&quot; are none.</source>
+        <translation>--loudness prend des LUFS de -70 à -5&#xa0;; «&#xa0;%1&#xa0;» n’en est pas.</translation>
+    </message>
+    <message>
+        <source>--quality and --bitrate exclude each other.</source>
+        <translation>--quality et --bitrate s’excluent.</translation>
+    </message>
+    <message>
+        <source>--loudness changes the sound, which --sound copy does not.</source>
+        <translation>--loudness modifie le son, ce que --sound copy ne fait pas.</translation>
+    </message>
+    <message>
+        <source>--hdr keep needs --codec hevc.</source>
+        <translation>--hdr keep nécessite --codec hevc.</translation>
+    </message>
+    <message>
+        <source>--hdr keep needs --encoder software or auto.</source>
+        <translation>--hdr keep nécessite --encoder software ou auto.</translation>
+    </message>
+    <message>
+        <source>Size of the result, or its height, such as 1080x1920 or 1920p; as large as the crop when not given.</source>
+        <translation>Taille du résultat, ou sa hauteur, comme 1080x1920 ou 1920p&#xa0;; aussi grand que le cadre si non indiqué.</translation>
+    </message>
+    <message>
+        <source>Frames a second of the result; those of the source when not given.</source>
+        <translation>Images par seconde du résultat&#xa0;; celles de la source si non indiqué.</translation>
+    </message>
+    <message>
+        <source>Constant quality from 0 to 100, about alike in each codec, instead of a bit rate.</source>
+        <translation>Qualité constante de 0 à 100, à peu près la même dans chaque codec, au lieu d’un débit.</translation>
+    </message>
+    <message>
+        <source>Bits a second of the picture, such as 800k or 6M; those of the source when not given.</source>
+        <translation>Bits par seconde de l’image, comme 800k ou 6M&#xa0;; ceux de la source si non indiqué.</translation>
+    </message>
+    <message>
+        <source>Codec of the picture: h264, hevc or av1 (h264).</source>
+        <translation>Codec de l’image&#xa0;: h264, hevc ou av1 (h264).</translation>
+    </message>
+    <message>
+        <source>What encodes the picture: software, vaapi, nvenc, qsv, or auto: hardware if ten frames of the video show that it works (software).</source>
+        <translation>Ce qui encode l’image&#xa0;: software, vaapi, nvenc, qsv, ou auto&#xa0;: le matériel si dix images de la vidéo montrent qu’il fonctionne (software).</translation>
+    </message>
+    <message>
+        <source>What becomes of a picture in high dynamic range: tonemap to the usual range, or keep, as 10-bit HEVC (tonemap).</source>
+        <translation>Ce que devient une image à grande gamme dynamique&#xa0;: tonemap vers la gamme habituelle, ou keep, en HEVC 10 bits (tonemap).</translation>
+    </message>
+    <message>
+        <source>What becomes of the sound: encode as AAC, or copy bit for bit where MP4 can hold it (encode).</source>
+        <translation>Ce que devient le son&#xa0;: encode en AAC, ou copy bit à bit là où MP4 peut le contenir (encode).</translation>
+    </message>
+    <message>
+        <source>Bring the sound to this loudness in LUFS (EBU R128), such as -14.</source>
+        <translation>Amener le son à ce niveau en LUFS (EBU R128), comme -14.</translation>
     </message>
 </context>
 <context>
@@ -2556,6 +2771,187 @@ Espace nécessaire&#xa0;: %1 Mo, disponible&#xa0;: %2 Mo.</translation>
     <message>
         <source>Cannot reframe %1: %2.</source>
         <translation>Impossible de recadrer %1&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>%1: %2 -&gt; %3 (encoded by %4)</source>
+        <translation>%1&#xa0;: %2 -&gt; %3 (encodé par %4)</translation>
+    </message>
+    <message>
+        <source>The size %1 x %2 is above that of the crop, %3 x %4: the picture is enlarged.</source>
+        <translation>La taille %1 x %2 dépasse celle du cadre, %3 x %4&#xa0;: l’image est agrandie.</translation>
+    </message>
+</context>
+<context>
+    <name>ReframeOptions</name>
+    <message>
+        <source>Aspect ratio of the result (9:16); several with commas between them: the video is looked at once.</source>
+        <translation>Format d’image du résultat (9:16)&#xa0;; plusieurs séparés par des virgules&#xa0;: la vidéo n’est regardée qu’une fois.</translation>
+    </message>
+    <message>
+        <source>How readily the crop follows: auto, fast or slow (auto).</source>
+        <translation>Réactivité du cadre&#xa0;: auto, fast ou slow (auto).</translation>
+    </message>
+    <message>
+        <source>Where several people talk, follow who speaks: auto or off (auto).</source>
+        <translation>Quand plusieurs personnes parlent, suivre celle qui parle&#xa0;: auto ou off (auto).</translation>
+    </message>
+    <message>
+        <source>Where to write the video; beside the input when not given.</source>
+        <translation>Où écrire la vidéo&#xa0;; à côté de l’entrée si non indiqué.</translation>
+    </message>
+    <message>
+        <source>Write the crop of every frame, as .json or .csv.</source>
+        <translation>Écrire le cadre de chaque image, en .json ou .csv.</translation>
+    </message>
+    <message>
+        <source>Write the crop as a project or as keyframes for another program: .mlt, .kdenlive, .fcpxml, .txt (After Effects) or .ffscript (ffmpeg). A suffix alone, such as mlt, names the file after the video. May be given several times.</source>
+        <translation>Écrire le cadre sous forme de projet ou d’images clés pour un autre programme&#xa0;: .mlt, .kdenlive, .fcpxml, .txt (After Effects) ou .ffscript (ffmpeg). Un suffixe seul, tel que mlt, nomme le fichier d’après la vidéo. Peut être donné plusieurs fois.</translation>
+    </message>
+    <message>
+        <source>Take the crops from FILE instead of analysing.</source>
+        <translation>Prendre les cadres de FILE au lieu d’analyser.</translation>
+    </message>
+    <message>
+        <source>Decide as FILE says (.json): what to follow, to avoid, where to hold the crop or to show the whole picture.</source>
+        <translation>Décider comme l’indique FILE (.json)&#xa0;: ce qu’il faut suivre, éviter, où fixer le cadre ou montrer l’image entière.</translation>
+    </message>
+    <message>
+        <source>Write what --choices and --follow decided to FILE (.json), with what its pictures look like, for this or another cut of the video.</source>
+        <translation>Écrire dans FILE (.json) ce que --choices et --follow ont décidé, avec l’aspect des images, pour ce montage de la vidéo ou un autre.</translation>
+    </message>
+    <message>
+        <source>Follow what is at the point X,Y, or in the box from X,Y of the size W,H, through its shot. TIME in seconds, or a frame (75f); the place in pixels, or in fractions of the picture. May be given several times.</source>
+        <translation>Suivre ce qui est au point X,Y, ou dans le cadre partant de X,Y de taille W,H, pendant tout son plan. TIME en secondes, ou une image (75f)&#xa0;; l’endroit en pixels, ou en fractions de l’image. Peut être donné plusieurs fois.</translation>
+    </message>
+    <message>
+        <source>Write the source with the crop drawn: a contact sheet as .png, or all of it, with sound and with what the analysis found, as .mp4.</source>
+        <translation>Écrire la source avec le cadre dessiné&#xa0;: une planche-contact en .png, ou toute la vidéo, avec le son et ce que l’analyse a trouvé, en .mp4.</translation>
+    </message>
+    <message>
+        <source>Write a page (.html) that shows what the analysis found.</source>
+        <translation>Écrire une page (.html) qui montre ce que l’analyse a trouvé.</translation>
+    </message>
+    <message>
+        <source>Keep what an analysis saw in FOLDER, or nowhere, instead of the usual folder.</source>
+        <translation>Conserver ce qu’une analyse a vu dans FOLDER, ou nulle part, au lieu du dossier habituel.</translation>
+    </message>
+    <message>
+        <source>Use the optional detectors in FOLDER, or none, instead of those that are installed.</source>
+        <translation>Utiliser les détecteurs facultatifs de FOLDER, ou aucun, au lieu de ceux qui sont installés.</translation>
+    </message>
+    <message>
+        <source>Analyse only; write no video.</source>
+        <translation>Analyser seulement&#xa0;; ne pas écrire de vidéo.</translation>
+    </message>
+    <message>
+        <source>Replace existing files instead of adding a number to the name.</source>
+        <translation>Remplacer les fichiers existants au lieu d’ajouter un numéro au nom.</translation>
+    </message>
+    <message>
+        <source>Print progress and results as JSON lines.</source>
+        <translation>Afficher la progression et les résultats en lignes JSON.</translation>
+    </message>
+    <message>
+        <source>Print errors only.</source>
+        <translation>N’afficher que les erreurs.</translation>
+    </message>
+    <message>
+        <source>Show this text.</source>
+        <translation>Afficher ce texte.</translation>
+    </message>
+    <message>
+        <source>Show the version.</source>
+        <translation>Afficher la version.</translation>
+    </message>
+    <message>
+        <source>%1
+Try reframe --help.</source>
+        <translation>%1
+Voir reframe --help.</translation>
+    </message>
+    <message>
+        <source>%1 or .%2</source>
+        <translation>%1 ou .%2</translation>
+    </message>
+    <message>
+        <source>No input file was given.</source>
+        <translation>Aucun fichier d’entrée n’a été donné.</translation>
+    </message>
+    <message>
+        <source>--output and --no-video exclude each other.</source>
+        <translation>--output et --no-video s’excluent.</translation>
+    </message>
+    <message>
+        <source>--report shows what an analysis found, and with --apply there is none.</source>
+        <translation>--report montre ce qu’une analyse a trouvé, et avec --apply il n’y en a pas.</translation>
+    </message>
+    <message>
+        <source>--apply takes one input.</source>
+        <translation>--apply prend une seule entrée.</translation>
+    </message>
+    <message>
+        <source>--apply takes one aspect ratio.</source>
+        <translation>--apply prend un seul format d’image.</translation>
+    </message>
+    <message>
+        <source>--save-choices takes one aspect ratio.</source>
+        <translation>--save-choices prend un seul format d’image.</translation>
+    </message>
+    <message>
+        <source>--choices and --follow take one input.</source>
+        <translation>--choices et --follow prennent une seule entrée.</translation>
+    </message>
+    <message>
+        <source>--choices and --follow guide the analysis, and with --apply there is none.</source>
+        <translation>--choices et --follow guident l’analyse, et avec --apply il n’y en a pas.</translation>
+    </message>
+    <message>
+        <source>--save-choices writes what --choices and --follow decided, and neither was given.</source>
+        <translation>--save-choices écrit ce que --choices et --follow ont décidé, et aucun n’a été donné.</translation>
+    </message>
+    <message>
+        <source>--edit-list takes the name of a .%1 file or such a suffix alone; %2 is neither.</source>
+        <translation>--edit-list prend le nom d’un fichier .%1 ou un tel suffixe seul&#xa0;; %2 n’est ni l’un ni l’autre.</translation>
+    </message>
+    <message>
+        <source>With several inputs or aspect ratios --edit-list takes a suffix alone; write %1 instead of %2.</source>
+        <translation>Avec plusieurs entrées ou formats d’image, --edit-list prend un suffixe seul&#xa0;; écrire %1 au lieu de %2.</translation>
+    </message>
+    <message>
+        <source>With several inputs or aspect ratios %1 must name an existing folder; %2 is none.</source>
+        <translation>Avec plusieurs entrées ou formats d’image, %1 doit nommer un dossier existant&#xa0;; %2 n’en est pas un.</translation>
+    </message>
+    <message>
+        <source>%1 takes an existing folder or the name of a .%2 file; %3 is neither.</source>
+        <translation>%1 prend un dossier existant ou le nom d’un fichier .%2&#xa0;; %3 n’est ni l’un ni l’autre.</translation>
+    </message>
+    <message>
+        <source>%1 begins like an option; as a file it is written ./%1.</source>
+        <translation>%1 commence comme une option&#xa0;; en tant que fichier, écrire ./%1.</translation>
+    </message>
+    <message>
+        <source>Turns a video into another aspect ratio and keeps its subject in the picture.</source>
+        <translation>Change le format d’image d’une vidéo et garde son sujet dans l’image.</translation>
+    </message>
+    <message>
+        <source>The video files to reframe.</source>
+        <translation>Les fichiers vidéo à recadrer.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no aspect ratio; write two whole numbers such as 9:16, neither more than 20 times the other.</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un format d’image&#xa0;; écrire deux nombres entiers comme 9:16, aucun ne dépassant 20 fois l’autre.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no speed; it is auto, fast or slow.</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas une vitesse&#xa0;; choisir auto, fast ou slow.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is nothing to follow; write a time and a place such as 3.5@640,360, or a time and a box such as 3.5@0.4,0.2,0.1,0.5.</source>
+        <translation>«&#xa0;%1&#xa0;» ne désigne rien à suivre&#xa0;; écrire un temps et un endroit comme 3.5@640,360, ou un temps et un cadre comme 3.5@0.4,0.2,0.1,0.5.</translation>
+    </message>
+    <message>
+        <source>--speaker takes auto or off; &quot;%1&quot; is neither.</source>
+        <translation>--speaker prend auto ou off&#xa0;; «&#xa0;%1&#xa0;» n’est ni l’un ni l’autre.</translation>
     </message>
 </context>
 <context>

@@ -415,6 +415,14 @@ The command line program for many files at once is reframe.</source>
         <source>Save</source>
         <translation>保存</translation>
     </message>
+    <message>
+        <source>Export for %1</source>
+        <translation>%1 用に書き出し</translation>
+    </message>
+    <message>
+        <source>The folder for the project or the keyframes</source>
+        <translation>プロジェクトまたはキーフレームの保存先フォルダー</translation>
+    </message>
 </context>
 <context>
     <name>CropTrackFile</name>
@@ -560,6 +568,17 @@ The command line program for many files at once is reframe.</source>
     <message>
         <source>Opens the video at these settings and its first doubtful shot; N leads to the next one.</source>
         <translation>この設定で動画を開き、最初の要確認ショットを表示します。N キーで次に移動します。</translation>
+    </message>
+</context>
+<context>
+    <name>ExportForMenu</name>
+    <message>
+        <source>Export for</source>
+        <translation>他のプログラム用に書き出し</translation>
+    </message>
+    <message>
+        <source>%1 (.%2)…</source>
+        <translation>%1 (.%2)…</translation>
     </message>
 </context>
 <context>
@@ -1272,6 +1291,21 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
     </message>
 </context>
 <context>
+    <name>KxAacEncoder</name>
+    <message>
+        <source>the AAC encoder is missing</source>
+        <translation>AAC エンコーダーがありません</translation>
+    </message>
+    <message>
+        <source>sound of %1 Hz and %2 channels is not supported</source>
+        <translation>%1 Hz、%2 チャンネルの音声には対応していません</translation>
+    </message>
+    <message>
+        <source>the sound encoder does not start (%1)</source>
+        <translation>音声エンコーダーが起動しません (%1)</translation>
+    </message>
+</context>
+<context>
     <name>KxAudioReader</name>
     <message>
         <source>it has no such sound track</source>
@@ -1462,6 +1496,25 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
     </message>
 </context>
 <context>
+    <name>KxEncoderProof</name>
+    <message>
+        <source>there is nothing to compare it with</source>
+        <translation>比較する対象がありません</translation>
+    </message>
+    <message>
+        <source>of %1 pictures it wrote %2</source>
+        <translation>%1 枚のうち %2 枚だけ書き込まれました</translation>
+    </message>
+    <message>
+        <source>its pictures have another size or format</source>
+        <translation>画像のサイズまたは形式が異なります</translation>
+    </message>
+    <message>
+        <source>its picture %1 differs too much (%2 dB, %3 are needed)</source>
+        <translation>画像 %1 の差が大きすぎます (%2 dB、%3 dB 必要)</translation>
+    </message>
+</context>
+<context>
     <name>KxFittedCutter</name>
     <message>
         <source>Cannot cut a picture: the rectangle to cut out is empty.</source>
@@ -1610,6 +1663,25 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
     </message>
 </context>
 <context>
+    <name>KxMp4Writer</name>
+    <message>
+        <source>Cannot write %1: %2.</source>
+        <translation>%1 に書き込めません: %2。</translation>
+    </message>
+    <message>
+        <source>pictures of %1 x %2 pixels cannot be encoded; both have to be even</source>
+        <translation>%1 x %2 ピクセルの画像はエンコードできません。どちらも偶数にしてください</translation>
+    </message>
+    <message>
+        <source>the frame rate is unknown</source>
+        <translation>フレームレートが不明です</translation>
+    </message>
+    <message>
+        <source>there is no picture to write</source>
+        <translation>書き込む画像がありません</translation>
+    </message>
+</context>
+<context>
     <name>KxOpenFileLineEdit</name>
     <message>
         <source>Folder</source>
@@ -1656,6 +1728,13 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
     <message>
         <source>%1 is not a folder</source>
         <translation>%1 はフォルダーではありません</translation>
+    </message>
+</context>
+<context>
+    <name>KxOutputSize</name>
+    <message>
+        <source>the size %1 x %2 has not the shape of the crop; %1 x %3 has it</source>
+        <translation>サイズ %1 x %2 はクロップの形と異なります。%1 x %3 なら一致します</translation>
     </message>
 </context>
 <context>
@@ -1724,6 +1803,25 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
     </message>
 </context>
 <context>
+    <name>KxRenderSound</name>
+    <message>
+        <source>The sound is silent; its loudness is not changed.</source>
+        <translation>音声は無音です。ラウドネスは変更されません。</translation>
+    </message>
+    <message>
+        <source>The loudness of the sound is not changed: %1.</source>
+        <translation>音声のラウドネスは変更されません: %1。</translation>
+    </message>
+    <message>
+        <source>The sound is encoded again: %1.</source>
+        <translation>音声を再エンコードします: %1。</translation>
+    </message>
+    <message>
+        <source>The sound is left out. %1</source>
+        <translation>音声は含まれません。%1</translation>
+    </message>
+</context>
+<context>
     <name>KxRenderSource</name>
     <message>
         <source>Cannot render the timeline: it shows no file.</source>
@@ -1745,10 +1843,6 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
         <translation>レンダリング中のファイルそのものです</translation>
     </message>
     <message>
-        <source>The sound is left out. %1</source>
-        <translation>音声は含まれません。%1</translation>
-    </message>
-    <message>
         <source>Cannot render %1: it is damaged.</source>
         <translation>%1 をレンダリングできません: 破損しています。</translation>
     </message>
@@ -1767,6 +1861,21 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
     <message>
         <source>Cannot render %1: %2.</source>
         <translation>%1 をレンダリングできません: %2。</translation>
+    </message>
+</context>
+<context>
+    <name>KxSoundPackets</name>
+    <message>
+        <source>the time stamps of the file jump</source>
+        <translation>ファイルのタイムスタンプが飛んでいます</translation>
+    </message>
+    <message>
+        <source>there is no such sound track</source>
+        <translation>その音声トラックはありません</translation>
+    </message>
+    <message>
+        <source>MP4 cannot hold %1</source>
+        <translation>MP4 には %1 を格納できません</translation>
     </message>
 </context>
 <context>
@@ -1926,6 +2035,17 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
     <message>
         <source>its video stream is damaged</source>
         <translation>動画ストリームが破損しています</translation>
+    </message>
+</context>
+<context>
+    <name>KxVideoEncoder</name>
+    <message>
+        <source>the video encoder %1 is missing</source>
+        <translation>動画エンコーダー %1 がありません</translation>
+    </message>
+    <message>
+        <source>the video encoder %1 does not start (%2)</source>
+        <translation>動画エンコーダー %1 が起動しません (%2)</translation>
     </message>
 </context>
 <context>
@@ -2253,6 +2373,10 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
         <source>%1, to %2</source>
         <translation>%1、%2 に保存</translation>
     </message>
+    <message>
+        <source>The file for %1 was saved.</source>
+        <translation>%1 用のファイルを保存しました。</translation>
+    </message>
 </context>
 <context>
     <name>MediaBackendLoader</name>
@@ -2377,6 +2501,97 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
     <message>
         <source>Enter a file name.</source>
         <translation>ファイル名を入力してください。</translation>
+    </message>
+</context>
+<context>
+    <name>OutputOptions</name>
+    <message>
+        <source>--size takes even numbers such as 1080x1920, or a height such as 1920p; &quot;%1&quot; is neither.</source>
+        <translation>--size には 1080x1920 のような偶数、または 1920p のような高さを指定します。「%1」はどちらでもありません。</translation>
+    </message>
+    <message>
+        <source>--fps takes a number from 1 to 240; &quot;%1&quot; is none.</source>
+        <translation>--fps には 1 から 240 の数を指定します。「%1」は使用できません。</translation>
+    </message>
+    <message>
+        <source>--quality takes a number from 0 to 100; &quot;%1&quot; is none.</source>
+        <translation>--quality には 0 から 100 の数を指定します。「%1」は使用できません。</translation>
+    </message>
+    <message>
+        <source>--bitrate takes bits a second from 10k to 300M; &quot;%1&quot; are none.</source>
+        <translation>--bitrate には 10k から 300M のビット/秒を指定します。「%1」は使用できません。</translation>
+    </message>
+    <message>
+        <source>--codec takes h264, hevc or av1; &quot;%1&quot; is none of them.</source>
+        <translation>--codec には h264、hevc、av1 を指定します。「%1」は使用できません。</translation>
+    </message>
+    <message>
+        <source>--encoder takes auto, software, vaapi, nvenc or qsv; &quot;%1&quot; is none of them.</source>
+        <translation>--encoder には auto、software、vaapi、nvenc、qsv を指定します。「%1」は使用できません。</translation>
+    </message>
+    <message>
+        <source>--hdr takes keep or tonemap; &quot;%1&quot; is neither.</source>
+        <translation>--hdr には keep または tonemap を指定します。「%1」はどちらでもありません。</translation>
+    </message>
+    <message>
+        <source>--sound takes copy or encode; &quot;%1&quot; is neither.</source>
+        <translation>--sound には copy または encode を指定します。「%1」はどちらでもありません。</translation>
+    </message>
+    <message>
+        <source>--loudness takes LUFS from -70 to -5; &quot;%1&quot; are none.</source>
+        <translation>--loudness には -70 から -5 の LUFS を指定します。「%1」は使用できません。</translation>
+    </message>
+    <message>
+        <source>--quality and --bitrate exclude each other.</source>
+        <translation>--quality と --bitrate は同時に指定できません。</translation>
+    </message>
+    <message>
+        <source>--loudness changes the sound, which --sound copy does not.</source>
+        <translation>--loudness は音声を変更しますが、--sound copy は変更しません。</translation>
+    </message>
+    <message>
+        <source>--hdr keep needs --codec hevc.</source>
+        <translation>--hdr keep には --codec hevc が必要です。</translation>
+    </message>
+    <message>
+        <source>--hdr keep needs --encoder software or auto.</source>
+        <translation>--hdr keep には --encoder software または auto が必要です。</translation>
+    </message>
+    <message>
+        <source>Size of the result, or its height, such as 1080x1920 or 1920p; as large as the crop when not given.</source>
+        <translation>結果のサイズまたは高さ (1080x1920、1920p など)。指定しない場合はクロップと同じ大きさです。</translation>
+    </message>
+    <message>
+        <source>Frames a second of the result; those of the source when not given.</source>
+        <translation>結果のフレーム/秒。指定しない場合は元の動画と同じです。</translation>
+    </message>
+    <message>
+        <source>Constant quality from 0 to 100, about alike in each codec, instead of a bit rate.</source>
+        <translation>ビットレートの代わりに、0 から 100 の一定の品質 (どのコーデックでもほぼ同じ)。</translation>
+    </message>
+    <message>
+        <source>Bits a second of the picture, such as 800k or 6M; those of the source when not given.</source>
+        <translation>映像のビット/秒 (800k、6M など)。指定しない場合は元の動画と同じです。</translation>
+    </message>
+    <message>
+        <source>Codec of the picture: h264, hevc or av1 (h264).</source>
+        <translation>映像のコーデック: h264、hevc、av1 (h264)。</translation>
+    </message>
+    <message>
+        <source>What encodes the picture: software, vaapi, nvenc, qsv, or auto: hardware if ten frames of the video show that it works (software).</source>
+        <translation>映像のエンコード方法: software、vaapi、nvenc、qsv、または auto: 動画の 10 フレームで動作が確認できたハードウェア (software)。</translation>
+    </message>
+    <message>
+        <source>What becomes of a picture in high dynamic range: tonemap to the usual range, or keep, as 10-bit HEVC (tonemap).</source>
+        <translation>ハイダイナミックレンジの映像の扱い: tonemap は通常のレンジに変換、keep は 10 ビット HEVC のまま (tonemap)。</translation>
+    </message>
+    <message>
+        <source>What becomes of the sound: encode as AAC, or copy bit for bit where MP4 can hold it (encode).</source>
+        <translation>音声の扱い: encode は AAC、copy は MP4 に格納できる場合にそのままコピー (encode)。</translation>
+    </message>
+    <message>
+        <source>Bring the sound to this loudness in LUFS (EBU R128), such as -14.</source>
+        <translation>音声をこのラウドネス (LUFS、EBU R128) にします (例: -14)。</translation>
     </message>
 </context>
 <context>
@@ -2536,6 +2751,187 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
     <message>
         <source>Cannot reframe %1: %2.</source>
         <translation>%1 をリフレームできません: %2。</translation>
+    </message>
+    <message>
+        <source>%1: %2 -&gt; %3 (encoded by %4)</source>
+        <translation>%1: %2 -&gt; %3 (エンコーダー: %4)</translation>
+    </message>
+    <message>
+        <source>The size %1 x %2 is above that of the crop, %3 x %4: the picture is enlarged.</source>
+        <translation>サイズ %1 x %2 はクロップの %3 x %4 を超えています: 画像は拡大されます。</translation>
+    </message>
+</context>
+<context>
+    <name>ReframeOptions</name>
+    <message>
+        <source>Aspect ratio of the result (9:16); several with commas between them: the video is looked at once.</source>
+        <translation>結果のアスペクト比 (9:16)。コンマ区切りで複数指定でき、動画の解析は一度だけです。</translation>
+    </message>
+    <message>
+        <source>How readily the crop follows: auto, fast or slow (auto).</source>
+        <translation>クロップが追従する速さ: auto、fast、slow (auto)。</translation>
+    </message>
+    <message>
+        <source>Where several people talk, follow who speaks: auto or off (auto).</source>
+        <translation>複数の人が話すとき、話している人に追従: auto または off (auto)。</translation>
+    </message>
+    <message>
+        <source>Where to write the video; beside the input when not given.</source>
+        <translation>動画の書き込み先。指定しない場合は入力と同じ場所です。</translation>
+    </message>
+    <message>
+        <source>Write the crop of every frame, as .json or .csv.</source>
+        <translation>全フレームのクロップを .json または .csv で書き込みます。</translation>
+    </message>
+    <message>
+        <source>Write the crop as a project or as keyframes for another program: .mlt, .kdenlive, .fcpxml, .txt (After Effects) or .ffscript (ffmpeg). A suffix alone, such as mlt, names the file after the video. May be given several times.</source>
+        <translation>クロップを他のプログラム用のプロジェクトまたはキーフレームとして書き込みます: .mlt、.kdenlive、.fcpxml、.txt (After Effects)、.ffscript (ffmpeg)。mlt のように拡張子だけを指定すると、ファイル名は動画に合わせて付きます。複数回指定できます。</translation>
+    </message>
+    <message>
+        <source>Take the crops from FILE instead of analysing.</source>
+        <translation>解析せずに FILE のクロップを使います。</translation>
+    </message>
+    <message>
+        <source>Decide as FILE says (.json): what to follow, to avoid, where to hold the crop or to show the whole picture.</source>
+        <translation>FILE (.json) の内容に従って決定します: 追従するもの、避けるもの、クロップを固定する場所、画面全体を表示する場所。</translation>
+    </message>
+    <message>
+        <source>Write what --choices and --follow decided to FILE (.json), with what its pictures look like, for this or another cut of the video.</source>
+        <translation>--choices と --follow で決めた内容を画像の特徴とともに FILE (.json) に書き込みます。この動画または別の編集版で使えます。</translation>
+    </message>
+    <message>
+        <source>Follow what is at the point X,Y, or in the box from X,Y of the size W,H, through its shot. TIME in seconds, or a frame (75f); the place in pixels, or in fractions of the picture. May be given several times.</source>
+        <translation>点 X,Y にあるもの、または X,Y から大きさ W,H の枠内にあるものに、そのショットの間追従します。TIME は秒またはフレーム (75f)、位置はピクセルまたは画面に対する割合です。複数回指定できます。</translation>
+    </message>
+    <message>
+        <source>Write the source with the crop drawn: a contact sheet as .png, or all of it, with sound and with what the analysis found, as .mp4.</source>
+        <translation>クロップを描き込んだ元の動画を書き込みます: コンタクトシートは .png、音声と解析結果を含む全体は .mp4。</translation>
+    </message>
+    <message>
+        <source>Write a page (.html) that shows what the analysis found.</source>
+        <translation>解析結果を示すページ (.html) を書き込みます。</translation>
+    </message>
+    <message>
+        <source>Keep what an analysis saw in FOLDER, or nowhere, instead of the usual folder.</source>
+        <translation>解析の記録を通常のフォルダーの代わりに FOLDER に保存します (none: 保存しない)。</translation>
+    </message>
+    <message>
+        <source>Use the optional detectors in FOLDER, or none, instead of those that are installed.</source>
+        <translation>インストール済みの検出器の代わりに FOLDER の検出器を使います (none: 使わない)。</translation>
+    </message>
+    <message>
+        <source>Analyse only; write no video.</source>
+        <translation>解析だけを行い、動画は書き込みません。</translation>
+    </message>
+    <message>
+        <source>Replace existing files instead of adding a number to the name.</source>
+        <translation>名前に番号を付けず、既存のファイルを置き換えます。</translation>
+    </message>
+    <message>
+        <source>Print progress and results as JSON lines.</source>
+        <translation>進行状況と結果を JSON 形式で 1 行ずつ出力します。</translation>
+    </message>
+    <message>
+        <source>Print errors only.</source>
+        <translation>エラーだけを出力します。</translation>
+    </message>
+    <message>
+        <source>Show this text.</source>
+        <translation>このテキストを表示します。</translation>
+    </message>
+    <message>
+        <source>Show the version.</source>
+        <translation>バージョンを表示します。</translation>
+    </message>
+    <message>
+        <source>%1
+Try reframe --help.</source>
+        <translation>%1
+reframe --help を参照してください。</translation>
+    </message>
+    <message>
+        <source>%1 or .%2</source>
+        <translation>%1 または .%2</translation>
+    </message>
+    <message>
+        <source>No input file was given.</source>
+        <translation>入力ファイルが指定されていません。</translation>
+    </message>
+    <message>
+        <source>--output and --no-video exclude each other.</source>
+        <translation>--output と --no-video は同時に指定できません。</translation>
+    </message>
+    <message>
+        <source>--report shows what an analysis found, and with --apply there is none.</source>
+        <translation>--report は解析結果を示しますが、--apply では解析を行いません。</translation>
+    </message>
+    <message>
+        <source>--apply takes one input.</source>
+        <translation>--apply の入力は 1 つだけです。</translation>
+    </message>
+    <message>
+        <source>--apply takes one aspect ratio.</source>
+        <translation>--apply のアスペクト比は 1 つだけです。</translation>
+    </message>
+    <message>
+        <source>--save-choices takes one aspect ratio.</source>
+        <translation>--save-choices のアスペクト比は 1 つだけです。</translation>
+    </message>
+    <message>
+        <source>--choices and --follow take one input.</source>
+        <translation>--choices と --follow の入力は 1 つだけです。</translation>
+    </message>
+    <message>
+        <source>--choices and --follow guide the analysis, and with --apply there is none.</source>
+        <translation>--choices と --follow は解析を導きますが、--apply では解析を行いません。</translation>
+    </message>
+    <message>
+        <source>--save-choices writes what --choices and --follow decided, and neither was given.</source>
+        <translation>--save-choices は --choices と --follow の内容を書き込みますが、どちらも指定されていません。</translation>
+    </message>
+    <message>
+        <source>--edit-list takes the name of a .%1 file or such a suffix alone; %2 is neither.</source>
+        <translation>--edit-list には .%1 ファイルの名前、または拡張子だけを指定します。%2 はどちらでもありません。</translation>
+    </message>
+    <message>
+        <source>With several inputs or aspect ratios --edit-list takes a suffix alone; write %1 instead of %2.</source>
+        <translation>入力やアスペクト比が複数の場合、--edit-list には拡張子だけを指定します。%2 ではなく %1 と書いてください。</translation>
+    </message>
+    <message>
+        <source>With several inputs or aspect ratios %1 must name an existing folder; %2 is none.</source>
+        <translation>入力やアスペクト比が複数の場合、%1 には既存のフォルダーを指定します。%2 はフォルダーではありません。</translation>
+    </message>
+    <message>
+        <source>%1 takes an existing folder or the name of a .%2 file; %3 is neither.</source>
+        <translation>%1 には既存のフォルダー、または .%2 ファイルの名前を指定します。%3 はどちらでもありません。</translation>
+    </message>
+    <message>
+        <source>%1 begins like an option; as a file it is written ./%1.</source>
+        <translation>%1 はオプションのように始まっています。ファイルとしては ./%1 と書きます。</translation>
+    </message>
+    <message>
+        <source>Turns a video into another aspect ratio and keeps its subject in the picture.</source>
+        <translation>動画を別のアスペクト比に変換し、被写体を画面内に収めます。</translation>
+    </message>
+    <message>
+        <source>The video files to reframe.</source>
+        <translation>リフレームする動画ファイル。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no aspect ratio; write two whole numbers such as 9:16, neither more than 20 times the other.</source>
+        <translation>「%1」はアスペクト比ではありません。9:16 のように整数 2 つを書いてください。一方が他方の 20 倍を超えることはできません。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no speed; it is auto, fast or slow.</source>
+        <translation>「%1」は速度ではありません。auto、fast、slow のいずれかです。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is nothing to follow; write a time and a place such as 3.5@640,360, or a time and a box such as 3.5@0.4,0.2,0.1,0.5.</source>
+        <translation>「%1」は追従対象ではありません。3.5@640,360 のような時間と位置、または 3.5@0.4,0.2,0.1,0.5 のような時間と枠を書いてください。</translation>
+    </message>
+    <message>
+        <source>--speaker takes auto or off; &quot;%1&quot; is neither.</source>
+        <translation>--speaker には auto または off を指定します。「%1」はどちらでもありません。</translation>
     </message>
 </context>
 <context>

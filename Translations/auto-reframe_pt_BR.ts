@@ -418,6 +418,14 @@ O programa de linha de comando para muitos arquivos de uma vez é o reframe.</tr
         <source>Save</source>
         <translation>Salvar</translation>
     </message>
+    <message>
+        <source>Export for %1</source>
+        <translation>Exportar para %1</translation>
+    </message>
+    <message>
+        <source>The folder for the project or the keyframes</source>
+        <translation>A pasta do projeto ou dos quadros-chave</translation>
+    </message>
 </context>
 <context>
     <name>CropTrackFile</name>
@@ -564,6 +572,17 @@ O programa de linha de comando para muitos arquivos de uma vez é o reframe.</tr
     <message>
         <source>Opens the video at these settings and its first doubtful shot; N leads to the next one.</source>
         <translation>Abre o vídeo com estas configurações no primeiro plano duvidoso; N leva ao próximo.</translation>
+    </message>
+</context>
+<context>
+    <name>ExportForMenu</name>
+    <message>
+        <source>Export for</source>
+        <translation>Exportar para</translation>
+    </message>
+    <message>
+        <source>%1 (.%2)…</source>
+        <translation>%1 (.%2)…</translation>
     </message>
 </context>
 <context>
@@ -1281,6 +1300,21 @@ Espaço necessário: %1 MB, disponível: %2 MB.</translation>
     </message>
 </context>
 <context>
+    <name>KxAacEncoder</name>
+    <message>
+        <source>the AAC encoder is missing</source>
+        <translation>falta o codificador AAC</translation>
+    </message>
+    <message>
+        <source>sound of %1 Hz and %2 channels is not supported</source>
+        <translation>som de %1 Hz e %2 canais não é compatível</translation>
+    </message>
+    <message>
+        <source>the sound encoder does not start (%1)</source>
+        <translation>o codificador de som não inicia (%1)</translation>
+    </message>
+</context>
+<context>
     <name>KxAudioReader</name>
     <message>
         <source>it has no such sound track</source>
@@ -1471,6 +1505,25 @@ Espaço necessário: %1 MB, disponível: %2 MB.</translation>
     </message>
 </context>
 <context>
+    <name>KxEncoderProof</name>
+    <message>
+        <source>there is nothing to compare it with</source>
+        <translation>não há nada com que comparar</translation>
+    </message>
+    <message>
+        <source>of %1 pictures it wrote %2</source>
+        <translation>de %1 imagens, gravou %2</translation>
+    </message>
+    <message>
+        <source>its pictures have another size or format</source>
+        <translation>as imagens têm outro tamanho ou formato</translation>
+    </message>
+    <message>
+        <source>its picture %1 differs too much (%2 dB, %3 are needed)</source>
+        <translation>a imagem %1 difere demais (%2 dB, são necessários %3)</translation>
+    </message>
+</context>
+<context>
     <name>KxFittedCutter</name>
     <message>
         <source>Cannot cut a picture: the rectangle to cut out is empty.</source>
@@ -1619,6 +1672,25 @@ Espaço necessário: %1 MB, disponível: %2 MB.</translation>
     </message>
 </context>
 <context>
+    <name>KxMp4Writer</name>
+    <message>
+        <source>Cannot write %1: %2.</source>
+        <translation>Não é possível gravar %1: %2.</translation>
+    </message>
+    <message>
+        <source>pictures of %1 x %2 pixels cannot be encoded; both have to be even</source>
+        <translation>imagens de %1 x %2 pixels não podem ser codificadas; os dois números devem ser pares</translation>
+    </message>
+    <message>
+        <source>the frame rate is unknown</source>
+        <translation>a taxa de quadros é desconhecida</translation>
+    </message>
+    <message>
+        <source>there is no picture to write</source>
+        <translation>não há imagem para gravar</translation>
+    </message>
+</context>
+<context>
     <name>KxOpenFileLineEdit</name>
     <message>
         <source>Folder</source>
@@ -1665,6 +1737,13 @@ Espaço necessário: %1 MB, disponível: %2 MB.</translation>
     <message>
         <source>%1 is not a folder</source>
         <translation>%1 não é uma pasta</translation>
+    </message>
+</context>
+<context>
+    <name>KxOutputSize</name>
+    <message>
+        <source>the size %1 x %2 has not the shape of the crop; %1 x %3 has it</source>
+        <translation>o tamanho %1 x %2 não tem a forma do corte; %1 x %3 tem</translation>
     </message>
 </context>
 <context>
@@ -1733,6 +1812,25 @@ Espaço necessário: %1 MB, disponível: %2 MB.</translation>
     </message>
 </context>
 <context>
+    <name>KxRenderSound</name>
+    <message>
+        <source>The sound is silent; its loudness is not changed.</source>
+        <translation>O som é silencioso; a intensidade não é alterada.</translation>
+    </message>
+    <message>
+        <source>The loudness of the sound is not changed: %1.</source>
+        <translation>A intensidade do som não é alterada: %1.</translation>
+    </message>
+    <message>
+        <source>The sound is encoded again: %1.</source>
+        <translation>O som é codificado de novo: %1.</translation>
+    </message>
+    <message>
+        <source>The sound is left out. %1</source>
+        <translation>O som é omitido. %1</translation>
+    </message>
+</context>
+<context>
     <name>KxRenderSource</name>
     <message>
         <source>Cannot render the timeline: it shows no file.</source>
@@ -1754,10 +1852,6 @@ Espaço necessário: %1 MB, disponível: %2 MB.</translation>
         <translation>é o próprio arquivo que está sendo renderizado</translation>
     </message>
     <message>
-        <source>The sound is left out. %1</source>
-        <translation>O som é omitido. %1</translation>
-    </message>
-    <message>
         <source>Cannot render %1: it is damaged.</source>
         <translation>Não é possível renderizar %1: está danificado.</translation>
     </message>
@@ -1776,6 +1870,21 @@ Espaço necessário: %1 MB, disponível: %2 MB.</translation>
     <message>
         <source>Cannot render %1: %2.</source>
         <translation>Não é possível renderizar %1: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>KxSoundPackets</name>
+    <message>
+        <source>the time stamps of the file jump</source>
+        <translation>os carimbos de tempo do arquivo saltam</translation>
+    </message>
+    <message>
+        <source>there is no such sound track</source>
+        <translation>essa trilha de som não existe</translation>
+    </message>
+    <message>
+        <source>MP4 cannot hold %1</source>
+        <translation>MP4 não pode conter %1</translation>
     </message>
 </context>
 <context>
@@ -1935,6 +2044,17 @@ Espaço necessário: %1 MB, disponível: %2 MB.</translation>
     <message>
         <source>its video stream is damaged</source>
         <translation>o fluxo de vídeo está danificado</translation>
+    </message>
+</context>
+<context>
+    <name>KxVideoEncoder</name>
+    <message>
+        <source>the video encoder %1 is missing</source>
+        <translation>falta o codificador de vídeo %1</translation>
+    </message>
+    <message>
+        <source>the video encoder %1 does not start (%2)</source>
+        <translation>o codificador de vídeo %1 não inicia (%2)</translation>
     </message>
 </context>
 <context>
@@ -2268,6 +2388,10 @@ Espaço necessário: %1 MB, disponível: %2 MB.</translation>
         <source>%1, to %2</source>
         <translation>%1, em %2</translation>
     </message>
+    <message>
+        <source>The file for %1 was saved.</source>
+        <translation>O arquivo para %1 foi salvo.</translation>
+    </message>
 </context>
 <context>
     <name>MediaBackendLoader</name>
@@ -2392,6 +2516,97 @@ Espaço necessário: %1 MB, disponível: %2 MB.</translation>
     <message>
         <source>Enter a file name.</source>
         <translation>Digite um nome de arquivo.</translation>
+    </message>
+</context>
+<context>
+    <name>OutputOptions</name>
+    <message>
+        <source>--size takes even numbers such as 1080x1920, or a height such as 1920p; &quot;%1&quot; is neither.</source>
+        <translation>--size aceita números pares como 1080x1920, ou uma altura como 1920p; “%1” não é nenhum dos dois.</translation>
+    </message>
+    <message>
+        <source>--fps takes a number from 1 to 240; &quot;%1&quot; is none.</source>
+        <translation>--fps aceita um número de 1 a 240; “%1” não é.</translation>
+    </message>
+    <message>
+        <source>--quality takes a number from 0 to 100; &quot;%1&quot; is none.</source>
+        <translation>--quality aceita um número de 0 a 100; “%1” não é.</translation>
+    </message>
+    <message>
+        <source>--bitrate takes bits a second from 10k to 300M; &quot;%1&quot; are none.</source>
+        <translation>--bitrate aceita bits por segundo de 10k a 300M; “%1” não são.</translation>
+    </message>
+    <message>
+        <source>--codec takes h264, hevc or av1; &quot;%1&quot; is none of them.</source>
+        <translation>--codec aceita h264, hevc ou av1; “%1” não é nenhum deles.</translation>
+    </message>
+    <message>
+        <source>--encoder takes auto, software, vaapi, nvenc or qsv; &quot;%1&quot; is none of them.</source>
+        <translation>--encoder aceita auto, software, vaapi, nvenc ou qsv; “%1” não é nenhum deles.</translation>
+    </message>
+    <message>
+        <source>--hdr takes keep or tonemap; &quot;%1&quot; is neither.</source>
+        <translation>--hdr aceita keep ou tonemap; “%1” não é nenhum dos dois.</translation>
+    </message>
+    <message>
+        <source>--sound takes copy or encode; &quot;%1&quot; is neither.</source>
+        <translation>--sound aceita copy ou encode; “%1” não é nenhum dos dois.</translation>
+    </message>
+    <message>
+        <source>--loudness takes LUFS from -70 to -5; &quot;%1&quot; are none.</source>
+        <translation>--loudness aceita LUFS de -70 a -5; “%1” não são.</translation>
+    </message>
+    <message>
+        <source>--quality and --bitrate exclude each other.</source>
+        <translation>--quality e --bitrate excluem um ao outro.</translation>
+    </message>
+    <message>
+        <source>--loudness changes the sound, which --sound copy does not.</source>
+        <translation>--loudness altera o som, e --sound copy não.</translation>
+    </message>
+    <message>
+        <source>--hdr keep needs --codec hevc.</source>
+        <translation>--hdr keep requer --codec hevc.</translation>
+    </message>
+    <message>
+        <source>--hdr keep needs --encoder software or auto.</source>
+        <translation>--hdr keep requer --encoder software ou auto.</translation>
+    </message>
+    <message>
+        <source>Size of the result, or its height, such as 1080x1920 or 1920p; as large as the crop when not given.</source>
+        <translation>Tamanho do resultado, ou sua altura, como 1080x1920 ou 1920p; tão grande quanto o corte se não for indicado.</translation>
+    </message>
+    <message>
+        <source>Frames a second of the result; those of the source when not given.</source>
+        <translation>Quadros por segundo do resultado; os do original se não for indicado.</translation>
+    </message>
+    <message>
+        <source>Constant quality from 0 to 100, about alike in each codec, instead of a bit rate.</source>
+        <translation>Qualidade constante de 0 a 100, parecida em todos os codecs, em vez de uma taxa de bits.</translation>
+    </message>
+    <message>
+        <source>Bits a second of the picture, such as 800k or 6M; those of the source when not given.</source>
+        <translation>Bits por segundo da imagem, como 800k ou 6M; os do original se não for indicado.</translation>
+    </message>
+    <message>
+        <source>Codec of the picture: h264, hevc or av1 (h264).</source>
+        <translation>Codec da imagem: h264, hevc ou av1 (h264).</translation>
+    </message>
+    <message>
+        <source>What encodes the picture: software, vaapi, nvenc, qsv, or auto: hardware if ten frames of the video show that it works (software).</source>
+        <translation>O que codifica a imagem: software, vaapi, nvenc, qsv, ou auto: hardware se dez quadros do vídeo mostrarem que funciona (software).</translation>
+    </message>
+    <message>
+        <source>What becomes of a picture in high dynamic range: tonemap to the usual range, or keep, as 10-bit HEVC (tonemap).</source>
+        <translation>O que fazer com uma imagem de alta faixa dinâmica: tonemap para a faixa usual, ou keep, como HEVC de 10 bits (tonemap).</translation>
+    </message>
+    <message>
+        <source>What becomes of the sound: encode as AAC, or copy bit for bit where MP4 can hold it (encode).</source>
+        <translation>O que fazer com o som: encode como AAC, ou copy bit a bit onde MP4 puder contê-lo (encode).</translation>
+    </message>
+    <message>
+        <source>Bring the sound to this loudness in LUFS (EBU R128), such as -14.</source>
+        <translation>Levar o som a esta intensidade em LUFS (EBU R128), como -14.</translation>
     </message>
 </context>
 <context>
@@ -2556,6 +2771,187 @@ Espaço necessário: %1 MB, disponível: %2 MB.</translation>
     <message>
         <source>Cannot reframe %1: %2.</source>
         <translation>Não é possível reenquadrar %1: %2.</translation>
+    </message>
+    <message>
+        <source>%1: %2 -&gt; %3 (encoded by %4)</source>
+        <translation>%1: %2 -&gt; %3 (codificado por %4)</translation>
+    </message>
+    <message>
+        <source>The size %1 x %2 is above that of the crop, %3 x %4: the picture is enlarged.</source>
+        <translation>O tamanho %1 x %2 está acima do tamanho do corte, %3 x %4: a imagem é ampliada.</translation>
+    </message>
+</context>
+<context>
+    <name>ReframeOptions</name>
+    <message>
+        <source>Aspect ratio of the result (9:16); several with commas between them: the video is looked at once.</source>
+        <translation>Proporção do resultado (9:16); várias separadas por vírgulas: o vídeo é examinado uma só vez.</translation>
+    </message>
+    <message>
+        <source>How readily the crop follows: auto, fast or slow (auto).</source>
+        <translation>Com que rapidez o corte acompanha: auto, fast ou slow (auto).</translation>
+    </message>
+    <message>
+        <source>Where several people talk, follow who speaks: auto or off (auto).</source>
+        <translation>Quando várias pessoas falam, acompanhar quem fala: auto ou off (auto).</translation>
+    </message>
+    <message>
+        <source>Where to write the video; beside the input when not given.</source>
+        <translation>Onde gravar o vídeo; ao lado da entrada se não for indicado.</translation>
+    </message>
+    <message>
+        <source>Write the crop of every frame, as .json or .csv.</source>
+        <translation>Gravar o corte de cada quadro, como .json ou .csv.</translation>
+    </message>
+    <message>
+        <source>Write the crop as a project or as keyframes for another program: .mlt, .kdenlive, .fcpxml, .txt (After Effects) or .ffscript (ffmpeg). A suffix alone, such as mlt, names the file after the video. May be given several times.</source>
+        <translation>Gravar o corte como projeto ou como quadros-chave para outro programa: .mlt, .kdenlive, .fcpxml, .txt (After Effects) ou .ffscript (ffmpeg). Um sufixo sozinho, como mlt, dá ao arquivo o nome do vídeo. Pode ser indicado várias vezes.</translation>
+    </message>
+    <message>
+        <source>Take the crops from FILE instead of analysing.</source>
+        <translation>Usar os cortes de FILE em vez de analisar.</translation>
+    </message>
+    <message>
+        <source>Decide as FILE says (.json): what to follow, to avoid, where to hold the crop or to show the whole picture.</source>
+        <translation>Decidir como FILE (.json) indica: o que acompanhar, o que evitar, onde fixar o corte ou mostrar a imagem inteira.</translation>
+    </message>
+    <message>
+        <source>Write what --choices and --follow decided to FILE (.json), with what its pictures look like, for this or another cut of the video.</source>
+        <translation>Gravar em FILE (.json) o que --choices e --follow decidiram, com a aparência das imagens, para esta ou outra montagem do vídeo.</translation>
+    </message>
+    <message>
+        <source>Follow what is at the point X,Y, or in the box from X,Y of the size W,H, through its shot. TIME in seconds, or a frame (75f); the place in pixels, or in fractions of the picture. May be given several times.</source>
+        <translation>Acompanhar o que está no ponto X,Y, ou na caixa a partir de X,Y com tamanho W,H, durante todo o plano. TIME em segundos, ou um quadro (75f); o lugar em pixels ou em frações da imagem. Pode ser indicado várias vezes.</translation>
+    </message>
+    <message>
+        <source>Write the source with the crop drawn: a contact sheet as .png, or all of it, with sound and with what the analysis found, as .mp4.</source>
+        <translation>Gravar o original com o corte desenhado: uma folha de contatos como .png, ou tudo, com som e com o que a análise encontrou, como .mp4.</translation>
+    </message>
+    <message>
+        <source>Write a page (.html) that shows what the analysis found.</source>
+        <translation>Gravar uma página (.html) que mostra o que a análise encontrou.</translation>
+    </message>
+    <message>
+        <source>Keep what an analysis saw in FOLDER, or nowhere, instead of the usual folder.</source>
+        <translation>Guardar o que uma análise viu em FOLDER, ou em nenhum lugar, em vez da pasta habitual.</translation>
+    </message>
+    <message>
+        <source>Use the optional detectors in FOLDER, or none, instead of those that are installed.</source>
+        <translation>Usar os detectores opcionais em FOLDER, ou nenhum, em vez dos instalados.</translation>
+    </message>
+    <message>
+        <source>Analyse only; write no video.</source>
+        <translation>Apenas analisar; não gravar vídeo.</translation>
+    </message>
+    <message>
+        <source>Replace existing files instead of adding a number to the name.</source>
+        <translation>Substituir arquivos existentes em vez de acrescentar um número ao nome.</translation>
+    </message>
+    <message>
+        <source>Print progress and results as JSON lines.</source>
+        <translation>Mostrar o progresso e os resultados como linhas JSON.</translation>
+    </message>
+    <message>
+        <source>Print errors only.</source>
+        <translation>Mostrar apenas os erros.</translation>
+    </message>
+    <message>
+        <source>Show this text.</source>
+        <translation>Mostrar este texto.</translation>
+    </message>
+    <message>
+        <source>Show the version.</source>
+        <translation>Mostrar a versão.</translation>
+    </message>
+    <message>
+        <source>%1
+Try reframe --help.</source>
+        <translation>%1
+Consulte reframe --help.</translation>
+    </message>
+    <message>
+        <source>%1 or .%2</source>
+        <translation>%1 ou .%2</translation>
+    </message>
+    <message>
+        <source>No input file was given.</source>
+        <translation>Nenhum arquivo de entrada foi indicado.</translation>
+    </message>
+    <message>
+        <source>--output and --no-video exclude each other.</source>
+        <translation>--output e --no-video excluem um ao outro.</translation>
+    </message>
+    <message>
+        <source>--report shows what an analysis found, and with --apply there is none.</source>
+        <translation>--report mostra o que uma análise encontrou, e com --apply não há nenhuma.</translation>
+    </message>
+    <message>
+        <source>--apply takes one input.</source>
+        <translation>--apply aceita uma única entrada.</translation>
+    </message>
+    <message>
+        <source>--apply takes one aspect ratio.</source>
+        <translation>--apply aceita uma única proporção.</translation>
+    </message>
+    <message>
+        <source>--save-choices takes one aspect ratio.</source>
+        <translation>--save-choices aceita uma única proporção.</translation>
+    </message>
+    <message>
+        <source>--choices and --follow take one input.</source>
+        <translation>--choices e --follow aceitam uma única entrada.</translation>
+    </message>
+    <message>
+        <source>--choices and --follow guide the analysis, and with --apply there is none.</source>
+        <translation>--choices e --follow orientam a análise, e com --apply não há nenhuma.</translation>
+    </message>
+    <message>
+        <source>--save-choices writes what --choices and --follow decided, and neither was given.</source>
+        <translation>--save-choices grava o que --choices e --follow decidiram, e nenhum foi indicado.</translation>
+    </message>
+    <message>
+        <source>--edit-list takes the name of a .%1 file or such a suffix alone; %2 is neither.</source>
+        <translation>--edit-list aceita o nome de um arquivo .%1 ou apenas um desses sufixos; %2 não é nenhum dos dois.</translation>
+    </message>
+    <message>
+        <source>With several inputs or aspect ratios --edit-list takes a suffix alone; write %1 instead of %2.</source>
+        <translation>Com várias entradas ou proporções, --edit-list aceita apenas um sufixo; escreva %1 em vez de %2.</translation>
+    </message>
+    <message>
+        <source>With several inputs or aspect ratios %1 must name an existing folder; %2 is none.</source>
+        <translation>Com várias entradas ou proporções, %1 deve indicar uma pasta existente; %2 não é.</translation>
+    </message>
+    <message>
+        <source>%1 takes an existing folder or the name of a .%2 file; %3 is neither.</source>
+        <translation>%1 aceita uma pasta existente ou o nome de um arquivo .%2; %3 não é nenhum dos dois.</translation>
+    </message>
+    <message>
+        <source>%1 begins like an option; as a file it is written ./%1.</source>
+        <translation>%1 começa como uma opção; como arquivo, escreve-se ./%1.</translation>
+    </message>
+    <message>
+        <source>Turns a video into another aspect ratio and keeps its subject in the picture.</source>
+        <translation>Converte um vídeo para outra proporção e mantém o assunto na imagem.</translation>
+    </message>
+    <message>
+        <source>The video files to reframe.</source>
+        <translation>Os arquivos de vídeo a reenquadrar.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no aspect ratio; write two whole numbers such as 9:16, neither more than 20 times the other.</source>
+        <translation>“%1” não é uma proporção; escreva dois números inteiros como 9:16, nenhum deles maior que 20 vezes o outro.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no speed; it is auto, fast or slow.</source>
+        <translation>“%1” não é uma velocidade; pode ser auto, fast ou slow.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is nothing to follow; write a time and a place such as 3.5@640,360, or a time and a box such as 3.5@0.4,0.2,0.1,0.5.</source>
+        <translation>“%1” não é algo a acompanhar; escreva um tempo e um lugar como 3.5@640,360, ou um tempo e uma caixa como 3.5@0.4,0.2,0.1,0.5.</translation>
+    </message>
+    <message>
+        <source>--speaker takes auto or off; &quot;%1&quot; is neither.</source>
+        <translation>--speaker aceita auto ou off; “%1” não é nenhum dos dois.</translation>
     </message>
 </context>
 <context>

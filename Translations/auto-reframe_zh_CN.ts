@@ -415,6 +415,14 @@ The command line program for many files at once is reframe.</source>
         <source>Save</source>
         <translation>保存</translation>
     </message>
+    <message>
+        <source>Export for %1</source>
+        <translation>导出供 %1 使用</translation>
+    </message>
+    <message>
+        <source>The folder for the project or the keyframes</source>
+        <translation>项目或关键帧的文件夹</translation>
+    </message>
 </context>
 <context>
     <name>CropTrackFile</name>
@@ -560,6 +568,17 @@ The command line program for many files at once is reframe.</source>
     <message>
         <source>Opens the video at these settings and its first doubtful shot; N leads to the next one.</source>
         <translation>以这些设置打开视频并转到第一个存疑镜头；按 N 键转到下一个。</translation>
+    </message>
+</context>
+<context>
+    <name>ExportForMenu</name>
+    <message>
+        <source>Export for</source>
+        <translation>导出供其他程序使用</translation>
+    </message>
+    <message>
+        <source>%1 (.%2)…</source>
+        <translation>%1 (.%2)…</translation>
     </message>
 </context>
 <context>
@@ -1272,6 +1291,21 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
     </message>
 </context>
 <context>
+    <name>KxAacEncoder</name>
+    <message>
+        <source>the AAC encoder is missing</source>
+        <translation>缺少 AAC 编码器</translation>
+    </message>
+    <message>
+        <source>sound of %1 Hz and %2 channels is not supported</source>
+        <translation>不支持 %1 Hz、%2 声道的声音</translation>
+    </message>
+    <message>
+        <source>the sound encoder does not start (%1)</source>
+        <translation>声音编码器无法启动（%1）</translation>
+    </message>
+</context>
+<context>
     <name>KxAudioReader</name>
     <message>
         <source>it has no such sound track</source>
@@ -1462,6 +1496,25 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
     </message>
 </context>
 <context>
+    <name>KxEncoderProof</name>
+    <message>
+        <source>there is nothing to compare it with</source>
+        <translation>没有可比较的内容</translation>
+    </message>
+    <message>
+        <source>of %1 pictures it wrote %2</source>
+        <translation>%1 个画面中只写入了 %2 个</translation>
+    </message>
+    <message>
+        <source>its pictures have another size or format</source>
+        <translation>其画面的大小或格式不同</translation>
+    </message>
+    <message>
+        <source>its picture %1 differs too much (%2 dB, %3 are needed)</source>
+        <translation>第 %1 个画面差异太大（%2 dB，需要 %3）</translation>
+    </message>
+</context>
+<context>
     <name>KxFittedCutter</name>
     <message>
         <source>Cannot cut a picture: the rectangle to cut out is empty.</source>
@@ -1610,6 +1663,25 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
     </message>
 </context>
 <context>
+    <name>KxMp4Writer</name>
+    <message>
+        <source>Cannot write %1: %2.</source>
+        <translation>无法写入 %1：%2。</translation>
+    </message>
+    <message>
+        <source>pictures of %1 x %2 pixels cannot be encoded; both have to be even</source>
+        <translation>无法编码 %1 x %2 像素的画面；两个数都必须是偶数</translation>
+    </message>
+    <message>
+        <source>the frame rate is unknown</source>
+        <translation>帧率未知</translation>
+    </message>
+    <message>
+        <source>there is no picture to write</source>
+        <translation>没有可写入的画面</translation>
+    </message>
+</context>
+<context>
     <name>KxOpenFileLineEdit</name>
     <message>
         <source>Folder</source>
@@ -1656,6 +1728,13 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
     <message>
         <source>%1 is not a folder</source>
         <translation>%1 不是文件夹</translation>
+    </message>
+</context>
+<context>
+    <name>KxOutputSize</name>
+    <message>
+        <source>the size %1 x %2 has not the shape of the crop; %1 x %3 has it</source>
+        <translation>大小 %1 x %2 与裁剪框的形状不符；%1 x %3 相符</translation>
     </message>
 </context>
 <context>
@@ -1724,6 +1803,25 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
     </message>
 </context>
 <context>
+    <name>KxRenderSound</name>
+    <message>
+        <source>The sound is silent; its loudness is not changed.</source>
+        <translation>声音为静音；不更改其响度。</translation>
+    </message>
+    <message>
+        <source>The loudness of the sound is not changed: %1.</source>
+        <translation>不更改声音的响度：%1。</translation>
+    </message>
+    <message>
+        <source>The sound is encoded again: %1.</source>
+        <translation>声音将重新编码：%1。</translation>
+    </message>
+    <message>
+        <source>The sound is left out. %1</source>
+        <translation>声音已省略。%1</translation>
+    </message>
+</context>
+<context>
     <name>KxRenderSource</name>
     <message>
         <source>Cannot render the timeline: it shows no file.</source>
@@ -1745,10 +1843,6 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
         <translation>这正是要渲染的文件</translation>
     </message>
     <message>
-        <source>The sound is left out. %1</source>
-        <translation>声音已省略。%1</translation>
-    </message>
-    <message>
         <source>Cannot render %1: it is damaged.</source>
         <translation>无法渲染 %1：已损坏。</translation>
     </message>
@@ -1767,6 +1861,21 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
     <message>
         <source>Cannot render %1: %2.</source>
         <translation>无法渲染 %1：%2。</translation>
+    </message>
+</context>
+<context>
+    <name>KxSoundPackets</name>
+    <message>
+        <source>the time stamps of the file jump</source>
+        <translation>文件的时间戳有跳跃</translation>
+    </message>
+    <message>
+        <source>there is no such sound track</source>
+        <translation>没有该音轨</translation>
+    </message>
+    <message>
+        <source>MP4 cannot hold %1</source>
+        <translation>MP4 不能包含 %1</translation>
     </message>
 </context>
 <context>
@@ -1926,6 +2035,17 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
     <message>
         <source>its video stream is damaged</source>
         <translation>视频流已损坏</translation>
+    </message>
+</context>
+<context>
+    <name>KxVideoEncoder</name>
+    <message>
+        <source>the video encoder %1 is missing</source>
+        <translation>缺少视频编码器 %1</translation>
+    </message>
+    <message>
+        <source>the video encoder %1 does not start (%2)</source>
+        <translation>视频编码器 %1 无法启动（%2）</translation>
     </message>
 </context>
 <context>
@@ -2253,6 +2373,10 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
         <source>%1, to %2</source>
         <translation>%1，到 %2</translation>
     </message>
+    <message>
+        <source>The file for %1 was saved.</source>
+        <translation>供 %1 使用的文件已保存。</translation>
+    </message>
 </context>
 <context>
     <name>MediaBackendLoader</name>
@@ -2377,6 +2501,97 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
     <message>
         <source>Enter a file name.</source>
         <translation>请输入文件名。</translation>
+    </message>
+</context>
+<context>
+    <name>OutputOptions</name>
+    <message>
+        <source>--size takes even numbers such as 1080x1920, or a height such as 1920p; &quot;%1&quot; is neither.</source>
+        <translation>--size 接受偶数，如 1080x1920，或高度，如 1920p；“%1”两者都不是。</translation>
+    </message>
+    <message>
+        <source>--fps takes a number from 1 to 240; &quot;%1&quot; is none.</source>
+        <translation>--fps 接受 1 到 240 的数；“%1”不是。</translation>
+    </message>
+    <message>
+        <source>--quality takes a number from 0 to 100; &quot;%1&quot; is none.</source>
+        <translation>--quality 接受 0 到 100 的数；“%1”不是。</translation>
+    </message>
+    <message>
+        <source>--bitrate takes bits a second from 10k to 300M; &quot;%1&quot; are none.</source>
+        <translation>--bitrate 接受 10k 到 300M 的每秒比特数；“%1”不是。</translation>
+    </message>
+    <message>
+        <source>--codec takes h264, hevc or av1; &quot;%1&quot; is none of them.</source>
+        <translation>--codec 接受 h264、hevc 或 av1；“%1”都不是。</translation>
+    </message>
+    <message>
+        <source>--encoder takes auto, software, vaapi, nvenc or qsv; &quot;%1&quot; is none of them.</source>
+        <translation>--encoder 接受 auto、software、vaapi、nvenc 或 qsv；“%1”都不是。</translation>
+    </message>
+    <message>
+        <source>--hdr takes keep or tonemap; &quot;%1&quot; is neither.</source>
+        <translation>--hdr 接受 keep 或 tonemap；“%1”两者都不是。</translation>
+    </message>
+    <message>
+        <source>--sound takes copy or encode; &quot;%1&quot; is neither.</source>
+        <translation>--sound 接受 copy 或 encode；“%1”两者都不是。</translation>
+    </message>
+    <message>
+        <source>--loudness takes LUFS from -70 to -5; &quot;%1&quot; are none.</source>
+        <translation>--loudness 接受 -70 到 -5 的 LUFS；“%1”不是。</translation>
+    </message>
+    <message>
+        <source>--quality and --bitrate exclude each other.</source>
+        <translation>--quality 和 --bitrate 不能同时使用。</translation>
+    </message>
+    <message>
+        <source>--loudness changes the sound, which --sound copy does not.</source>
+        <translation>--loudness 会更改声音，而 --sound copy 不会。</translation>
+    </message>
+    <message>
+        <source>--hdr keep needs --codec hevc.</source>
+        <translation>--hdr keep 需要 --codec hevc。</translation>
+    </message>
+    <message>
+        <source>--hdr keep needs --encoder software or auto.</source>
+        <translation>--hdr keep 需要 --encoder software 或 auto。</translation>
+    </message>
+    <message>
+        <source>Size of the result, or its height, such as 1080x1920 or 1920p; as large as the crop when not given.</source>
+        <translation>结果的大小或高度，如 1080x1920 或 1920p；未指定时与裁剪框一样大。</translation>
+    </message>
+    <message>
+        <source>Frames a second of the result; those of the source when not given.</source>
+        <translation>结果的每秒帧数；未指定时与源视频相同。</translation>
+    </message>
+    <message>
+        <source>Constant quality from 0 to 100, about alike in each codec, instead of a bit rate.</source>
+        <translation>0 到 100 的恒定质量，在各编解码器中大致相同，用来代替比特率。</translation>
+    </message>
+    <message>
+        <source>Bits a second of the picture, such as 800k or 6M; those of the source when not given.</source>
+        <translation>画面的每秒比特数，如 800k 或 6M；未指定时与源视频相同。</translation>
+    </message>
+    <message>
+        <source>Codec of the picture: h264, hevc or av1 (h264).</source>
+        <translation>画面的编解码器：h264、hevc 或 av1 (h264)。</translation>
+    </message>
+    <message>
+        <source>What encodes the picture: software, vaapi, nvenc, qsv, or auto: hardware if ten frames of the video show that it works (software).</source>
+        <translation>画面的编码方式：software、vaapi、nvenc、qsv 或 auto：如果视频的十帧表明硬件可用，则使用硬件 (software)。</translation>
+    </message>
+    <message>
+        <source>What becomes of a picture in high dynamic range: tonemap to the usual range, or keep, as 10-bit HEVC (tonemap).</source>
+        <translation>高动态范围画面的处理：tonemap 转换为普通范围，keep 保留为 10 位 HEVC (tonemap)。</translation>
+    </message>
+    <message>
+        <source>What becomes of the sound: encode as AAC, or copy bit for bit where MP4 can hold it (encode).</source>
+        <translation>声音的处理：encode 编码为 AAC，copy 在 MP4 可以包含时原样复制 (encode)。</translation>
+    </message>
+    <message>
+        <source>Bring the sound to this loudness in LUFS (EBU R128), such as -14.</source>
+        <translation>将声音调整到此响度 (LUFS，EBU R128)，如 -14。</translation>
     </message>
 </context>
 <context>
@@ -2536,6 +2751,187 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
     <message>
         <source>Cannot reframe %1: %2.</source>
         <translation>无法对 %1 重新构图：%2。</translation>
+    </message>
+    <message>
+        <source>%1: %2 -&gt; %3 (encoded by %4)</source>
+        <translation>%1：%2 -&gt; %3（由 %4 编码）</translation>
+    </message>
+    <message>
+        <source>The size %1 x %2 is above that of the crop, %3 x %4: the picture is enlarged.</source>
+        <translation>大小 %1 x %2 超过裁剪框的 %3 x %4：画面被放大。</translation>
+    </message>
+</context>
+<context>
+    <name>ReframeOptions</name>
+    <message>
+        <source>Aspect ratio of the result (9:16); several with commas between them: the video is looked at once.</source>
+        <translation>结果的宽高比 (9:16)；可用逗号分隔多个：视频只分析一次。</translation>
+    </message>
+    <message>
+        <source>How readily the crop follows: auto, fast or slow (auto).</source>
+        <translation>裁剪框跟随的快慢：auto、fast 或 slow (auto)。</translation>
+    </message>
+    <message>
+        <source>Where several people talk, follow who speaks: auto or off (auto).</source>
+        <translation>多人说话时跟随说话者：auto 或 off (auto)。</translation>
+    </message>
+    <message>
+        <source>Where to write the video; beside the input when not given.</source>
+        <translation>视频的写入位置；未指定时与输入在同一位置。</translation>
+    </message>
+    <message>
+        <source>Write the crop of every frame, as .json or .csv.</source>
+        <translation>以 .json 或 .csv 写入每一帧的裁剪框。</translation>
+    </message>
+    <message>
+        <source>Write the crop as a project or as keyframes for another program: .mlt, .kdenlive, .fcpxml, .txt (After Effects) or .ffscript (ffmpeg). A suffix alone, such as mlt, names the file after the video. May be given several times.</source>
+        <translation>将裁剪框写为其他程序的项目或关键帧：.mlt、.kdenlive、.fcpxml、.txt (After Effects) 或 .ffscript (ffmpeg)。只写后缀（如 mlt）时，文件按视频命名。可多次指定。</translation>
+    </message>
+    <message>
+        <source>Take the crops from FILE instead of analysing.</source>
+        <translation>使用 FILE 中的裁剪框，不进行分析。</translation>
+    </message>
+    <message>
+        <source>Decide as FILE says (.json): what to follow, to avoid, where to hold the crop or to show the whole picture.</source>
+        <translation>按 FILE (.json) 的内容决定：跟随什么、避开什么、在哪里固定裁剪框或显示整个画面。</translation>
+    </message>
+    <message>
+        <source>Write what --choices and --follow decided to FILE (.json), with what its pictures look like, for this or another cut of the video.</source>
+        <translation>将 --choices 和 --follow 的决定连同画面特征写入 FILE (.json)，供此视频或其其他剪辑版本使用。</translation>
+    </message>
+    <message>
+        <source>Follow what is at the point X,Y, or in the box from X,Y of the size W,H, through its shot. TIME in seconds, or a frame (75f); the place in pixels, or in fractions of the picture. May be given several times.</source>
+        <translation>在整个镜头中跟随点 X,Y 处或从 X,Y 起大小为 W,H 的框中的对象。TIME 以秒为单位，或为帧 (75f)；位置以像素或画面比例表示。可多次指定。</translation>
+    </message>
+    <message>
+        <source>Write the source with the crop drawn: a contact sheet as .png, or all of it, with sound and with what the analysis found, as .mp4.</source>
+        <translation>写入画有裁剪框的源视频：缩略图表为 .png，带声音和分析结果的完整视频为 .mp4。</translation>
+    </message>
+    <message>
+        <source>Write a page (.html) that shows what the analysis found.</source>
+        <translation>写入显示分析结果的网页 (.html)。</translation>
+    </message>
+    <message>
+        <source>Keep what an analysis saw in FOLDER, or nowhere, instead of the usual folder.</source>
+        <translation>将分析记录保存在 FOLDER 中而不是默认文件夹；none 表示不保存。</translation>
+    </message>
+    <message>
+        <source>Use the optional detectors in FOLDER, or none, instead of those that are installed.</source>
+        <translation>使用 FOLDER 中的可选检测器而不是已安装的检测器；none 表示不使用。</translation>
+    </message>
+    <message>
+        <source>Analyse only; write no video.</source>
+        <translation>只分析，不写入视频。</translation>
+    </message>
+    <message>
+        <source>Replace existing files instead of adding a number to the name.</source>
+        <translation>替换现有文件，而不是在名称后加编号。</translation>
+    </message>
+    <message>
+        <source>Print progress and results as JSON lines.</source>
+        <translation>以 JSON 行输出进度和结果。</translation>
+    </message>
+    <message>
+        <source>Print errors only.</source>
+        <translation>只输出错误。</translation>
+    </message>
+    <message>
+        <source>Show this text.</source>
+        <translation>显示此文本。</translation>
+    </message>
+    <message>
+        <source>Show the version.</source>
+        <translation>显示版本。</translation>
+    </message>
+    <message>
+        <source>%1
+Try reframe --help.</source>
+        <translation>%1
+请参阅 reframe --help。</translation>
+    </message>
+    <message>
+        <source>%1 or .%2</source>
+        <translation>%1 或 .%2</translation>
+    </message>
+    <message>
+        <source>No input file was given.</source>
+        <translation>未指定输入文件。</translation>
+    </message>
+    <message>
+        <source>--output and --no-video exclude each other.</source>
+        <translation>--output 和 --no-video 不能同时使用。</translation>
+    </message>
+    <message>
+        <source>--report shows what an analysis found, and with --apply there is none.</source>
+        <translation>--report 显示分析结果，而使用 --apply 时没有分析。</translation>
+    </message>
+    <message>
+        <source>--apply takes one input.</source>
+        <translation>--apply 只接受一个输入。</translation>
+    </message>
+    <message>
+        <source>--apply takes one aspect ratio.</source>
+        <translation>--apply 只接受一个宽高比。</translation>
+    </message>
+    <message>
+        <source>--save-choices takes one aspect ratio.</source>
+        <translation>--save-choices 只接受一个宽高比。</translation>
+    </message>
+    <message>
+        <source>--choices and --follow take one input.</source>
+        <translation>--choices 和 --follow 只接受一个输入。</translation>
+    </message>
+    <message>
+        <source>--choices and --follow guide the analysis, and with --apply there is none.</source>
+        <translation>--choices 和 --follow 用于引导分析，而使用 --apply 时没有分析。</translation>
+    </message>
+    <message>
+        <source>--save-choices writes what --choices and --follow decided, and neither was given.</source>
+        <translation>--save-choices 写入 --choices 和 --follow 的决定，但两者都未指定。</translation>
+    </message>
+    <message>
+        <source>--edit-list takes the name of a .%1 file or such a suffix alone; %2 is neither.</source>
+        <translation>--edit-list 接受 .%1 文件的名称或仅此类后缀；%2 两者都不是。</translation>
+    </message>
+    <message>
+        <source>With several inputs or aspect ratios --edit-list takes a suffix alone; write %1 instead of %2.</source>
+        <translation>有多个输入或宽高比时，--edit-list 只接受后缀；请写 %1 而不是 %2。</translation>
+    </message>
+    <message>
+        <source>With several inputs or aspect ratios %1 must name an existing folder; %2 is none.</source>
+        <translation>有多个输入或宽高比时，%1 必须是现有文件夹；%2 不是。</translation>
+    </message>
+    <message>
+        <source>%1 takes an existing folder or the name of a .%2 file; %3 is neither.</source>
+        <translation>%1 接受现有文件夹或 .%2 文件的名称；%3 两者都不是。</translation>
+    </message>
+    <message>
+        <source>%1 begins like an option; as a file it is written ./%1.</source>
+        <translation>%1 的开头像选项；作为文件应写成 ./%1。</translation>
+    </message>
+    <message>
+        <source>Turns a video into another aspect ratio and keeps its subject in the picture.</source>
+        <translation>将视频转换为其他宽高比，并让主体保持在画面中。</translation>
+    </message>
+    <message>
+        <source>The video files to reframe.</source>
+        <translation>要重新构图的视频文件。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no aspect ratio; write two whole numbers such as 9:16, neither more than 20 times the other.</source>
+        <translation>“%1”不是宽高比；请写两个整数，如 9:16，任一个不得超过另一个的 20 倍。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no speed; it is auto, fast or slow.</source>
+        <translation>“%1”不是速度；应为 auto、fast 或 slow。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is nothing to follow; write a time and a place such as 3.5@640,360, or a time and a box such as 3.5@0.4,0.2,0.1,0.5.</source>
+        <translation>“%1”不能跟随；请写时间和位置，如 3.5@640,360，或时间和选框，如 3.5@0.4,0.2,0.1,0.5。</translation>
+    </message>
+    <message>
+        <source>--speaker takes auto or off; &quot;%1&quot; is neither.</source>
+        <translation>--speaker 接受 auto 或 off；“%1”两者都不是。</translation>
     </message>
 </context>
 <context>

@@ -5,11 +5,17 @@
 #include <KxMedia/Write/KxSoundCopier.h>
 #include <KxRender/KxAudioInterleaver.h>
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <array>
 
 namespace
 {
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(KxRenderSound)
+};
 
 // The source's sample rate if AAC supports it, and at most two channels, which is what phones play.
 KxAudioReader::Format SoundFormat(const KxAudioFacts& facts)
@@ -80,14 +86,14 @@ std::unique_ptr<KxLoudnessFilter> LoudnessFilter(const Opener& opener, double ta
     }
     const KxResult<std::optional<KxLoudness>> measured = Measure(**reader, sound.format, endUs);
     if (measured && !*measured) {
-        sound.warnings += QStringLiteral("The sound is silent; its loudness is not changed.");
+        sound.warnings += Texts::tr("The sound is silent; its loudness is not changed.");
         return nullptr;
     }
     using Made = KxResult<std::unique_ptr<KxLoudnessFilter>>;
     Made filter =
         measured ? KxLoudnessFilter::Make(**measured, targetLufs, sound.format) : Made::Failure(measured.Message());
     if (!filter) {
-        sound.warnings += QStringLiteral("The loudness of the sound is not changed: %1.").arg(filter.Message());
+        sound.warnings += Texts::tr("The loudness of the sound is not changed: %1.").arg(filter.Message());
         return nullptr;
     }
     return std::move(*filter);
@@ -112,7 +118,7 @@ KxRenderSound KxRenderSound::Open(const KxVideoReader& reader, const KxRenderSou
             sound.feed = std::move(*copier);
             return sound;
         }
-        sound.warnings += QStringLiteral("The sound is encoded again: %1.").arg(copier.Message());
+        sound.warnings += Texts::tr("The sound is encoded again: %1.").arg(copier.Message());
     }
     sound.format = SoundFormat(facts.audio.at(stream));
     std::unique_ptr<KxLoudnessFilter> filter;
@@ -126,7 +132,7 @@ KxRenderSound KxRenderSound::Open(const KxVideoReader& reader, const KxRenderSou
     if (opened) {
         sound.feed = std::make_unique<KxAudioInterleaver>(std::move(*opened), sound.format, std::move(filter));
     } else {
-        sound.warnings += QStringLiteral("The sound is left out. %1").arg(opened.Message());
+        sound.warnings += Texts::tr("The sound is left out. %1").arg(opened.Message());
     }
     return sound;
 }

@@ -1,6 +1,7 @@
 #!/usr/bin/env python3
-"""check_translations.py ROOT WORK: each text of the sources is translated into each language, and each translation has what
-its source has: place markers, keys, ellipsis, colon, line breaks. Prints all faults; the exit status is 1 if there are any.
+"""check_translations.py ROOT WORK: each sentence in the sources can be translated, each text is translated into each language,
+and each translation has what its source has: place markers, keys, ellipsis, colon, line breaks. Prints all faults; the exit
+status is 1 if there are any.
 
 check_translations.py --self-test: whether it finds faults that are put into a translation."""
 
@@ -14,6 +15,10 @@ import xml.etree.ElementTree as ElementTree
 PLACE = re.compile(r"%L?\d|%n")
 KEY = re.compile(r"^\w+_\w+$")
 COLONS = (":", "：")
+LITERAL = re.compile(r'Q(?:StringLiteral|Latin1String)\(\s*((?:"(?:[^"\\\\]|\\\\.)*"\s*)+)\)')
+LOGGED = re.compile(r"KX_LOG_\w+\(.*?\);", re.DOTALL)
+# Their texts are for the log alone.
+FOR_THE_LOG = ("KxConfigFile.cpp", "KxTrackEvent.cpp")
 
 
 def messages(path):
@@ -90,6 +95,28 @@ def faults_of_english(path, other):
     yield from faults_of(path)
 
 
+def is_sentence(text):
+    """Three words of small letters; SQL has capitals, HTML and style sheets have their brackets."""
+    return bool(re.search(r"\b[a-z]+ [a-z]+ [a-z]+\b", text)) and not re.search(r"[<{#]|\b[A-Z]{4,} ", text)
+
+
+def untranslatable(source):
+    """Sentences in C++ that bypass translation."""
+    for literal in LITERAL.finditer(LOGGED.sub("", source)):
+        text = "".join(re.findall(r'"((?:[^"\\\\]|\\\\.)*)"', literal.group(1)))
+        if is_sentence(text):
+            yield text
+
+
+def faults_of_sources(root):
+    for folder, _, names in os.walk(os.path.join(root, "Src")):
+        for name in sorted(names):
+            if name.endswith((".cpp", ".h")) and name not in FOR_THE_LOG:
+                with open(os.path.join(folder, name), encoding="utf-8") as file:
+                    for text in untranslatable(file.read()):
+                        yield f"{name}: {text!r} cannot be translated (CONTRIBUTING.md, Texts and languages)"
+
+
 def differs(path, updated):
     """Texts of the sources that a file lacks, and those that it has too much."""
     had = {(context, message.findtext("source")) for context, message in messages(path)}
@@ -105,7 +132,7 @@ def check(root, work):
     shutil.rmtree(work, ignore_errors=True)
     shutil.copytree(os.path.join(root, "Translations"), work)
     subprocess.run([os.path.join(root, "Packaging", "update-translations"), work], check=True)
-    faults, count = [], []
+    faults, count = list(faults_of_sources(root)), []
     files = sorted(name for name in os.listdir(work) if name.endswith(".ts"))
     others = [name for name in files if name != "auto-reframe_en.ts"]
     for name in others:
@@ -127,8 +154,12 @@ def self_test():
     good = [("%1 of %2", "%2 中 %1", False), ("Open…", "Öffnen…", False), ("Wait...", "待ち...", False),
             ("Name:", "名称：", False), ("%n files: %1", "Datei: %1", True), ("R&&D", "F&&E", False)]
     wrong = [case for case in good if differences(*case)]
-    print(f"missed {missed}, wrong {wrong}")
-    return 1 if missed or wrong else 0
+    source = """Failure(QStringLiteral("it is not "
+        "a video")); KX_LOG_INFO(QStringLiteral("it is not logged")); Execute(QStringLiteral("SELECT path from the videos"));
+        setStyleSheet(QStringLiteral("#bar { padding of no pixels }")); Texts::tr("it is not a file");"""
+    found = list(untranslatable(source))
+    print(f"missed {missed}, wrong {wrong}, sentences {found}")
+    return 1 if missed or wrong or found != ["it is not a video"] else 0
 
 
 if __name__ == "__main__":

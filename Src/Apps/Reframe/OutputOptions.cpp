@@ -10,14 +10,13 @@
 namespace
 {
 
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(OutputOptions)
+};
+
 using Parsed = KxResult<OutputOptions>;
 using Codec = KxOutputFormat::Codec;
 using Encoder = KxOutputFormat::Encoder;
-
-QString Translated(const char* text)
-{
-    return QCoreApplication::translate("OutputOptions", text);
-}
 
 template<typename Value>
 struct Named {
@@ -119,19 +118,19 @@ KxError Contradiction(const OutputOptions& options, bool hasCodec, bool hasBitRa
 {
     const KxOutputFormat& format = options.format;
     if (format.quality && hasBitRate) {
-        return Translated("--quality and --bitrate exclude each other.");
+        return Texts::tr("--quality and --bitrate exclude each other.");
     }
     if (format.loudnessLufs && format.sound == KxOutputFormat::Sound::Copied) {
-        return Translated("--loudness changes the sound, which --sound copy does not.");
+        return Texts::tr("--loudness changes the sound, which --sound copy does not.");
     }
     if (format.highRange != KxHighRange::Kept) {
         return std::nullopt;
     }
     if (hasCodec && format.codec != Codec::Hevc) {
-        return Translated("--hdr keep needs --codec hevc.");
+        return Texts::tr("--hdr keep needs --codec hevc.");
     }
     if (format.encoder != Encoder::Software && format.encoder != Encoder::Auto) {
-        return Translated("--hdr keep needs --encoder software or auto.");
+        return Texts::tr("--hdr keep needs --encoder software or auto.");
     }
     return std::nullopt;
 }
@@ -140,32 +139,32 @@ KxError Contradiction(const OutputOptions& options, bool hasCodec, bool hasBitRa
 
 OutputOptions::Definitions::Definitions()
     : size(QStringLiteral("size"),
-           Translated("Size of the result, or its height, such as 1080x1920 or 1920p; as large as the crop when not "
-                      "given."),
+           Texts::tr("Size of the result, or its height, such as 1080x1920 or 1920p; as large as the crop when not "
+                     "given."),
            QStringLiteral("WxH|HEIGHTp"))
-    , frameRate(QStringLiteral("fps"), Translated("Frames a second of the result; those of the source when not given."),
+    , frameRate(QStringLiteral("fps"), Texts::tr("Frames a second of the result; those of the source when not given."),
                 QStringLiteral("N"))
     , quality(QStringLiteral("quality"),
-              Translated("Constant quality from 0 to 100, about alike in each codec, instead of a bit rate."),
+              Texts::tr("Constant quality from 0 to 100, about alike in each codec, instead of a bit rate."),
               QStringLiteral("N"))
     , bitRate(QStringLiteral("bitrate"),
-              Translated("Bits a second of the picture, such as 800k or 6M; those of the source when not given."),
+              Texts::tr("Bits a second of the picture, such as 800k or 6M; those of the source when not given."),
               QStringLiteral("N"))
-    , codec(QStringLiteral("codec"), Translated("Codec of the picture: h264, hevc or av1 (h264)."),
+    , codec(QStringLiteral("codec"), Texts::tr("Codec of the picture: h264, hevc or av1 (h264)."),
             QStringLiteral("CODEC"), QStringLiteral("h264"))
     , encoder(QStringLiteral("encoder"),
-              Translated("What encodes the picture: software, vaapi, nvenc, qsv, or auto: hardware if ten frames of "
-                         "the video show that it works (software)."),
+              Texts::tr("What encodes the picture: software, vaapi, nvenc, qsv, or auto: hardware if ten frames of "
+                        "the video show that it works (software)."),
               QStringLiteral("ENCODER"), QStringLiteral("software"))
     , highRange(QStringLiteral("hdr"),
-                Translated("What becomes of a picture in high dynamic range: tonemap to the usual range, or keep, as "
-                           "10-bit HEVC (tonemap)."),
+                Texts::tr("What becomes of a picture in high dynamic range: tonemap to the usual range, or keep, as "
+                          "10-bit HEVC (tonemap)."),
                 QStringLiteral("MODE"), QStringLiteral("tonemap"))
     , sound(QStringLiteral("sound"),
-            Translated("What becomes of the sound: encode as AAC, or copy bit for bit where MP4 can hold it (encode)."),
+            Texts::tr("What becomes of the sound: encode as AAC, or copy bit for bit where MP4 can hold it (encode)."),
             QStringLiteral("MODE"), QStringLiteral("encode"))
     , loudness(QStringLiteral("loudness"),
-               Translated("Bring the sound to this loudness in LUFS (EBU R128), such as -14."), QStringLiteral("LUFS"))
+               Texts::tr("Bring the sound to this loudness in LUFS (EBU R128), such as -14."), QStringLiteral("LUFS"))
 {
 }
 
@@ -179,7 +178,7 @@ Parsed OutputOptions::Parse(const QCommandLineParser& parser, const Definitions&
     OutputOptions options;
     for (const Rule& rule : Rules(definitions, options)) {
         if (parser.isSet(rule.option) && !rule.take(parser.value(rule.option))) {
-            return Parsed::Failure(Translated(rule.message).arg(parser.value(rule.option)));
+            return Parsed::Failure(Texts::tr(rule.message).arg(parser.value(rule.option)));
         }
     }
     if (const KxError message =

@@ -9,74 +9,77 @@
 #include <KxModel/KxDetectorFiles.h>
 
 #include <QCommandLineParser>
+#include <QCoreApplication>
 #include <QFileInfo>
 
 namespace
 {
 
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(ReframeOptions)
+};
+
 struct Definitions {
     QCommandLineOption aspect{QStringLiteral("aspect"),
-                              QStringLiteral("Aspect ratio of the result (9:16); several with commas between them: "
-                                             "the video is looked at once."),
+                              Texts::tr("Aspect ratio of the result (9:16); several with commas between them: "
+                                        "the video is looked at once."),
                               QStringLiteral("W:H,..."), QStringLiteral("9:16")};
     QCommandLineOption speed{QStringLiteral("speed"),
-                             QStringLiteral("How readily the crop follows: auto, fast or slow (auto)."),
+                             Texts::tr("How readily the crop follows: auto, fast or slow (auto)."),
                              QStringLiteral("SPEED"), QStringLiteral("auto")};
     QCommandLineOption speaker{QStringLiteral("speaker"),
-                               QStringLiteral("Where several people talk, follow who speaks: auto or off (auto)."),
+                               Texts::tr("Where several people talk, follow who speaks: auto or off (auto)."),
                                QStringLiteral("MODE"), QStringLiteral("auto")};
     QCommandLineOption output{QStringLiteral("output"),
-                              QStringLiteral("Where to write the video; beside the input when not given."),
+                              Texts::tr("Where to write the video; beside the input when not given."),
                               QStringLiteral("FILE|FOLDER")};
     QCommandLineOption keyframes{QStringLiteral("keyframes"),
-                                 QStringLiteral("Write the crop of every frame, as .json or .csv."),
-                                 QStringLiteral("FILE")};
+                                 Texts::tr("Write the crop of every frame, as .json or .csv."), QStringLiteral("FILE")};
     QCommandLineOption editList{QStringLiteral("edit-list"),
-                                QStringLiteral("Write the crop as a project or as keyframes for another program: "
-                                               ".mlt, .kdenlive, .fcpxml, .txt (After Effects) or .ffscript "
-                                               "(ffmpeg). A suffix alone, such as mlt, names the file after the "
-                                               "video. May be given several times."),
+                                Texts::tr("Write the crop as a project or as keyframes for another program: "
+                                          ".mlt, .kdenlive, .fcpxml, .txt (After Effects) or .ffscript "
+                                          "(ffmpeg). A suffix alone, such as mlt, names the file after the "
+                                          "video. May be given several times."),
                                 QStringLiteral("FILE|SUFFIX")};
-    QCommandLineOption apply{QStringLiteral("apply"), QStringLiteral("Take the crops from FILE instead of analysing."),
+    QCommandLineOption apply{QStringLiteral("apply"), Texts::tr("Take the crops from FILE instead of analysing."),
                              QStringLiteral("FILE")};
     QCommandLineOption choices{QStringLiteral("choices"),
-                               QStringLiteral("Decide as FILE says (.json): what to follow, to avoid, where to hold "
-                                              "the crop or to show the whole picture."),
+                               Texts::tr("Decide as FILE says (.json): what to follow, to avoid, where to hold "
+                                         "the crop or to show the whole picture."),
                                QStringLiteral("FILE")};
-    QCommandLineOption saveChoices{
-        QStringLiteral("save-choices"),
-        QStringLiteral("Write what --choices and --follow decided to FILE (.json), with what "
-                       "its pictures look like, for this or another cut of the video."),
-        QStringLiteral("FILE")};
+    QCommandLineOption saveChoices{QStringLiteral("save-choices"),
+                                   Texts::tr("Write what --choices and --follow decided to FILE (.json), with what "
+                                             "its pictures look like, for this or another cut of the video."),
+                                   QStringLiteral("FILE")};
     QCommandLineOption follow{QStringLiteral("follow"),
-                              QStringLiteral("Follow what is at the point X,Y, or in the box from X,Y of the size W,H, "
-                                             "through its shot. TIME in seconds, or a frame (75f); the place in "
-                                             "pixels, or in fractions of the picture. May be given several times."),
+                              Texts::tr("Follow what is at the point X,Y, or in the box from X,Y of the size W,H, "
+                                        "through its shot. TIME in seconds, or a frame (75f); the place in "
+                                        "pixels, or in fractions of the picture. May be given several times."),
                               QStringLiteral("TIME@X,Y[,W,H]")};
     QCommandLineOption preview{QStringLiteral("preview"),
-                               QStringLiteral("Write the source with the crop drawn: a contact sheet as .png, or all "
-                                              "of it, with sound and with what the analysis found, as .mp4."),
+                               Texts::tr("Write the source with the crop drawn: a contact sheet as .png, or all "
+                                         "of it, with sound and with what the analysis found, as .mp4."),
                                QStringLiteral("FILE")};
     QCommandLineOption report{QStringLiteral("report"),
-                              QStringLiteral("Write a page (.html) that shows what the analysis found."),
+                              Texts::tr("Write a page (.html) that shows what the analysis found."),
                               QStringLiteral("FILE")};
     QCommandLineOption cache{QStringLiteral("cache"),
-                             QStringLiteral("Keep what an analysis saw in FOLDER, or nowhere, instead of the usual "
-                                            "folder."),
+                             Texts::tr("Keep what an analysis saw in FOLDER, or nowhere, instead of the usual "
+                                       "folder."),
                              QStringLiteral("FOLDER|none")};
     QCommandLineOption models{QStringLiteral("models"),
-                              QStringLiteral("Use the optional detectors in FOLDER, or none, instead of those that are "
-                                             "installed."),
+                              Texts::tr("Use the optional detectors in FOLDER, or none, instead of those that are "
+                                        "installed."),
                               QStringLiteral("FOLDER|none")};
     OutputOptions::Definitions video;
-    QCommandLineOption noVideo{QStringLiteral("no-video"), QStringLiteral("Analyse only; write no video.")};
+    QCommandLineOption noVideo{QStringLiteral("no-video"), Texts::tr("Analyse only; write no video.")};
     QCommandLineOption overwrite{QStringLiteral("overwrite"),
-                                 QStringLiteral("Replace existing files instead of adding a number to the name.")};
-    QCommandLineOption json{QStringLiteral("json"), QStringLiteral("Print progress and results as JSON lines.")};
-    QCommandLineOption quiet{QStringLiteral("quiet"), QStringLiteral("Print errors only.")};
+                                 Texts::tr("Replace existing files instead of adding a number to the name.")};
+    QCommandLineOption json{QStringLiteral("json"), Texts::tr("Print progress and results as JSON lines.")};
+    QCommandLineOption quiet{QStringLiteral("quiet"), Texts::tr("Print errors only.")};
     QCommandLineOption language{QStringLiteral("language"), KxLanguage::OptionText(), QStringLiteral("CODE")};
-    QCommandLineOption help{{QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Show this text.")};
-    QCommandLineOption version{QStringLiteral("version"), QStringLiteral("Show the version.")};
+    QCommandLineOption help{{QStringLiteral("h"), QStringLiteral("help")}, Texts::tr("Show this text.")};
+    QCommandLineOption version{QStringLiteral("version"), Texts::tr("Show the version.")};
 
     QList<QCommandLineOption> All() const
     {
@@ -89,7 +92,7 @@ struct Definitions {
 ReframeOptions::Parsed WrongUse(const QString& message)
 {
     ReframeOptions::Parsed parsed;
-    parsed.text = message + QStringLiteral("\nTry reframe --help.");
+    parsed.text = Texts::tr("%1\nTry reframe --help.").arg(message);
     parsed.exitStatus = ReframeExit::WrongUse;
     return parsed;
 }
@@ -150,17 +153,23 @@ QList<Target> Targets(const ReframeOptions& options)
             {QStringLiteral("--report"), options.report, {QStringLiteral("html")}}};
 }
 
+/// "mp4 or .m4v"
+QString Alternatives(const QStringList& suffixes)
+{
+    return suffixes.size() == 2 ? Texts::tr("%1 or .%2").arg(suffixes.first(), suffixes.last()) : suffixes.first();
+}
+
 /// The message about options that exclude each other; empty if there are none.
 QString Contradiction(const ReframeOptions& options)
 {
     if (options.inputs.isEmpty()) {
-        return QStringLiteral("No input file was given.");
+        return Texts::tr("No input file was given.");
     }
     if (!options.writesVideo && !options.output.isEmpty()) {
-        return QStringLiteral("--output and --no-video exclude each other.");
+        return Texts::tr("--output and --no-video exclude each other.");
     }
     if (!options.report.isEmpty() && !options.apply.isEmpty()) {
-        return QStringLiteral("--report shows what an analysis found, and with --apply there is none.");
+        return Texts::tr("--report shows what an analysis found, and with --apply there is none.");
     }
     if (!options.models.isEmpty() && options.models != QLatin1String("none")) {
         const QString problem = KxDetectorFiles::FolderProblem(options.models);
@@ -169,45 +178,45 @@ QString Contradiction(const ReframeOptions& options)
         }
     }
     if (!options.apply.isEmpty() && options.inputs.size() > 1) {
-        return QStringLiteral("--apply takes one input.");
+        return Texts::tr("--apply takes one input.");
     }
     if (!options.apply.isEmpty() && options.aspects.size() > 1) {
-        return QStringLiteral("--apply takes one aspect ratio.");
+        return Texts::tr("--apply takes one aspect ratio.");
     }
     if (!options.saveChoices.isEmpty() && options.aspects.size() > 1) {
-        return QStringLiteral("--save-choices takes one aspect ratio.");
+        return Texts::tr("--save-choices takes one aspect ratio.");
     }
     const bool hasChoices = !options.choices.isEmpty() || !options.follow.isEmpty();
     if (hasChoices && options.inputs.size() > 1) {
-        return QStringLiteral("--choices and --follow take one input.");
+        return Texts::tr("--choices and --follow take one input.");
     }
     if (hasChoices && !options.apply.isEmpty()) {
-        return QStringLiteral("--choices and --follow guide the analysis, and with --apply there is none.");
+        return Texts::tr("--choices and --follow guide the analysis, and with --apply there is none.");
     }
     if (!hasChoices && !options.saveChoices.isEmpty()) {
-        return QStringLiteral("--save-choices writes what --choices and --follow decided, and neither was given.");
+        return Texts::tr("--save-choices writes what --choices and --follow decided, and neither was given.");
     }
     const bool isOne = options.inputs.size() == 1 && options.aspects.size() == 1;
     for (const QString& editList : options.editLists) {
         const bool isSuffix = KxEditList::Suffixes().contains(editList.toLower());
         if (!isSuffix && !KxEditList::Suffixes().contains(QFileInfo(editList).suffix().toLower())) {
-            return QStringLiteral("--edit-list takes the name of a .%1 file or such a suffix alone; %2 is neither.")
+            return Texts::tr("--edit-list takes the name of a .%1 file or such a suffix alone; %2 is neither.")
                 .arg(KxEditList::Suffixes().join(QStringLiteral(", .")), editList);
         }
         if (!isSuffix && !isOne) {
-            return QStringLiteral("With several inputs or aspect ratios --edit-list takes a suffix alone; write %1 "
-                                  "instead of %2.")
+            return Texts::tr("With several inputs or aspect ratios --edit-list takes a suffix alone; write %1 "
+                             "instead of %2.")
                 .arg(QFileInfo(editList).suffix().toLower(), editList);
         }
     }
     for (const Target& target : Targets(options)) {
         if (!isOne && target.IsFile()) {
-            return QStringLiteral("With several inputs or aspect ratios %1 must name an existing folder; %2 is none.")
+            return Texts::tr("With several inputs or aspect ratios %1 must name an existing folder; %2 is none.")
                 .arg(target.option, target.path);
         }
         if (target.IsFile() && !target.HasSuffix()) {
-            return QStringLiteral("%1 takes an existing folder or the name of a .%2 file; %3 is neither.")
-                .arg(target.option, target.suffixes.join(QStringLiteral(" or .")), target.path);
+            return Texts::tr("%1 takes an existing folder or the name of a .%2 file; %3 is neither.")
+                .arg(target.option, Alternatives(target.suffixes), target.path);
         }
     }
     return {};
@@ -218,7 +227,7 @@ QString Misunderstanding(const QCommandLineParser& parser, const QStringList& ar
 {
     for (const QString& argument : arguments) {
         if (argument.startsWith(QLatin1Char('-')) && QFileInfo::exists(argument)) {
-            return QStringLiteral("%1 begins like an option; as a file it is written ./%1.").arg(argument);
+            return Texts::tr("%1 begins like an option; as a file it is written ./%1.").arg(argument);
         }
     }
     const QString text = parser.errorText();
@@ -238,9 +247,9 @@ ReframeOptions::Parsed ReframeOptions::Parse(const QStringList& arguments)
     const Definitions definitions;
     QCommandLineParser parser;
     parser.setApplicationDescription(
-        QStringLiteral("Turns a video into another aspect ratio and keeps its subject in the picture."));
+        Texts::tr("Turns a video into another aspect ratio and keeps its subject in the picture."));
     parser.addOptions(definitions.All());
-    parser.addPositionalArgument(QStringLiteral("INPUT"), QStringLiteral("The video files to reframe."),
+    parser.addPositionalArgument(QStringLiteral("INPUT"), Texts::tr("The video files to reframe."),
                                  QStringLiteral("INPUT..."));
     parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
     if (!parser.parse(arguments)) {
@@ -263,8 +272,8 @@ ReframeOptions::Parsed ReframeOptions::Parse(const QStringList& arguments)
     for (const QString& text : aspects) {
         const std::optional<QSize> aspect = ParseAspect(text);
         if (!aspect) {
-            return WrongUse(QStringLiteral("\"%1\" is no aspect ratio; write two whole numbers such as 9:16, neither "
-                                           "more than 20 times the other.")
+            return WrongUse(Texts::tr("\"%1\" is no aspect ratio; write two whole numbers such as 9:16, neither "
+                                      "more than 20 times the other.")
                                 .arg(text));
         }
         if (!options.aspects.contains(*aspect)) {
@@ -274,15 +283,15 @@ ReframeOptions::Parsed ReframeOptions::Parse(const QStringList& arguments)
     options.speedName = parser.value(definitions.speed);
     const std::optional<int> mode = ModeOfSpeed(options.speedName);
     if (!mode) {
-        return WrongUse(QStringLiteral("\"%1\" is no speed; it is auto, fast or slow.").arg(options.speedName));
+        return WrongUse(Texts::tr("\"%1\" is no speed; it is auto, fast or slow.").arg(options.speedName));
     }
     options.speedMode = *mode;
     const QStringList follow = parser.values(definitions.follow);
     for (const QString& text : follow) {
         const std::optional<FollowOption> parsed = FollowOption::Parse(text);
         if (!parsed) {
-            return WrongUse(QStringLiteral("\"%1\" is nothing to follow; write a time and a place such as "
-                                           "3.5@640,360, or a time and a box such as 3.5@0.4,0.2,0.1,0.5.")
+            return WrongUse(Texts::tr("\"%1\" is nothing to follow; write a time and a place such as "
+                                      "3.5@640,360, or a time and a box such as 3.5@0.4,0.2,0.1,0.5.")
                                 .arg(text));
         }
         options.follow += *parsed;
@@ -291,7 +300,7 @@ ReframeOptions::Parsed ReframeOptions::Parse(const QStringList& arguments)
     options.saveChoices = parser.value(definitions.saveChoices);
     const QString speaker = parser.value(definitions.speaker);
     if (speaker != QLatin1String("auto") && speaker != QLatin1String("off")) {
-        return WrongUse(QStringLiteral("--speaker takes auto or off; \"%1\" is neither.").arg(speaker));
+        return WrongUse(Texts::tr("--speaker takes auto or off; \"%1\" is neither.").arg(speaker));
     }
     options.followsSpeaker = speaker == QLatin1String("auto");
     options.inputs = KxPlatform::ShellExpandsWildcards() ? parser.positionalArguments()

@@ -3,11 +3,17 @@
 #include <KxMedia/Container/KxAvError.h>
 #include <KxMedia/Container/KxAvLog.h>
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <cmath>
 
 namespace
 {
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(KxAacEncoder)
+};
 
 bool Supports(const AVCodec& codec, int sampleRateHz)
 {
@@ -33,10 +39,10 @@ KxResult<std::unique_ptr<KxAacEncoder>> KxAacEncoder::Open(const KxAudioReader::
     using Opened = KxResult<std::unique_ptr<KxAacEncoder>>;
     const AVCodec* const codec = avcodec_find_encoder(AV_CODEC_ID_AAC);
     if (codec == nullptr) {
-        return Opened::Failure(QStringLiteral("the AAC encoder is missing"));
+        return Opened::Failure(Texts::tr("the AAC encoder is missing"));
     }
     if (!Supports(*codec, format.sampleRateHz) || format.channels < 1) {
-        return Opened::Failure(QStringLiteral("sound of %1 Hz and %2 channels is not supported")
+        return Opened::Failure(Texts::tr("sound of %1 Hz and %2 channels is not supported")
                                    .arg(QString::number(format.sampleRateHz), QString::number(format.channels)));
     }
     KxAvCodec context(avcodec_alloc_context3(codec));
@@ -63,7 +69,7 @@ KxResult<std::unique_ptr<KxAacEncoder>> KxAacEncoder::Open(const KxAudioReader::
         error = av_frame_get_buffer(frame.get(), 0);
     }
     if (error < 0) {
-        return Opened::Failure(QStringLiteral("the sound encoder does not start (%1)").arg(KxAvErrorText(error)));
+        return Opened::Failure(Texts::tr("the sound encoder does not start (%1)").arg(KxAvErrorText(error)));
     }
     return std::unique_ptr<KxAacEncoder>(new KxAacEncoder(std::move(context), std::move(frame), std::move(packet)));
 }

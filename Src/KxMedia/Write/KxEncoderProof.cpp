@@ -3,6 +3,7 @@
 #include <KxMedia/Container/KxAvError.h>
 #include <KxMedia/Container/KxAvLog.h>
 
+#include <QCoreApplication>
 #include <QStringList>
 
 #include <algorithm>
@@ -11,6 +12,10 @@
 
 namespace
 {
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(KxEncoderProof)
+};
 
 using Encoder = KxOutputFormat::Encoder;
 using Decoded = std::vector<KxAvFrame>;
@@ -140,22 +145,22 @@ KxError KxEncoderProof::Compare(const KxVideoEncoder::Settings& candidate, const
     }
     const KxResult<Decoded> expected = EncodedAndDecoded(reference, pictures);
     if (!expected || (*expected).size() != pictures.size()) {
-        return QStringLiteral("there is nothing to compare it with");
+        return Texts::tr("there is nothing to compare it with");
     }
     if ((*decoded).size() != pictures.size()) {
-        return QStringLiteral("of %1 pictures it wrote %2")
+        return Texts::tr("of %1 pictures it wrote %2")
             .arg(QString::number(pictures.size()), QString::number((*decoded).size()));
     }
     for (size_t i = 0; i < pictures.size(); ++i) {
         const AVFrame& original = pictures[i].Picture();
         const AVFrame& written = *(*decoded)[i];
         if (written.width != original.width || written.height != original.height || written.format != original.format) {
-            return QStringLiteral("its pictures have another size or format");
+            return Texts::tr("its pictures have another size or format");
         }
         const double similarity = Similarity(original, written);
         const double least = std::min(SimilarDb, Similarity(original, *(*expected)[i]) - LargestLossDb);
         if (similarity < least) {
-            return QStringLiteral("its picture %1 differs too much (%2 dB, %3 are needed)")
+            return Texts::tr("its picture %1 differs too much (%2 dB, %3 are needed)")
                 .arg(QString::number(i), QString::number(similarity, 'f', 1), QString::number(least, 'f', 1));
         }
     }

@@ -7,27 +7,32 @@
 #include <KxMedia/Write/KxSoundPackets.h>
 #include <KxMedia/Write/KxVideoEncoder.h>
 
+#include <QCoreApplication>
+
 namespace
 {
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(KxMp4Writer)
+};
 
 constexpr int VideoStream = 0;
 constexpr int AudioStream = 1;
 
 QString Message(const QString& path, const QString& reason)
 {
-    return QStringLiteral("Cannot write %1: %2.").arg(path, reason);
+    return Texts::tr("Cannot write %1: %2.").arg(path, reason);
 }
 
 KxError Check(const KxMp4Writer::Settings& settings)
 {
     const QSize& size = settings.size;
     if (size.width() <= 0 || size.height() <= 0 || size.width() % 2 != 0 || size.height() % 2 != 0) {
-        return Message(settings.path,
-                       QStringLiteral("pictures of %1 x %2 pixels cannot be encoded; both have to be even")
-                           .arg(QString::number(size.width()), QString::number(size.height())));
+        return Message(settings.path, Texts::tr("pictures of %1 x %2 pixels cannot be encoded; both have to be even")
+                                          .arg(QString::number(size.width()), QString::number(size.height())));
     }
     if (!settings.frameRate.IsPositive()) {
-        return Message(settings.path, QStringLiteral("the frame rate is unknown"));
+        return Message(settings.path, Texts::tr("the frame rate is unknown"));
     }
     return std::nullopt;
 }
@@ -212,7 +217,7 @@ KxResult<QString> KxMp4Writer::Impl::Finish()
         return Result::Failure(*error);
     }
     if (!m_muxer.HasBegun()) {
-        return Result::Failure(Message(m_settings.path, QStringLiteral("there is no picture to write")));
+        return Result::Failure(Message(m_settings.path, Texts::tr("there is no picture to write")));
     }
     int error = m_video->Finish(Into(VideoStream));
     if (error >= 0 && m_audio != nullptr) {

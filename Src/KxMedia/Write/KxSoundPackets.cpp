@@ -2,7 +2,18 @@
 
 #include <KxMedia/Container/KxAvError.h>
 
+#include <QCoreApplication>
+
 #include <algorithm>
+
+namespace
+{
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(KxSoundPackets)
+};
+
+} // namespace
 
 KxSoundPackets::KxSoundPackets(std::unique_ptr<KxInputFile> input, AVStream& stream, qint64 zeroUs)
     : m_input(std::move(input))
@@ -16,7 +27,7 @@ KxResult<std::unique_ptr<KxSoundPackets>> KxSoundPackets::Open(const QString& pa
 {
     using Opened = KxResult<std::unique_ptr<KxSoundPackets>>;
     if (!clock.zeroUs || !clock.jumps || !clock.jumps->empty()) {
-        return Opened::Failure(QStringLiteral("the time stamps of the file jump"));
+        return Opened::Failure(Texts::tr("the time stamps of the file jump"));
     }
     KxResult<std::unique_ptr<KxInputFile>> input = KxInputFile::Open(path, cancel);
     if (!input) {
@@ -24,13 +35,13 @@ KxResult<std::unique_ptr<KxSoundPackets>> KxSoundPackets::Open(const QString& pa
     }
     const std::vector<AVStream*>& streams = (*input)->AudioStreams();
     if (stream < 0 || static_cast<size_t>(stream) >= streams.size()) {
-        return Opened::Failure(QStringLiteral("there is no such sound track"));
+        return Opened::Failure(Texts::tr("there is no such sound track"));
     }
     AVStream& chosen = *streams[static_cast<size_t>(stream)];
     const AVOutputFormat* const mp4 = av_guess_format("mp4", nullptr, nullptr);
     if (mp4 == nullptr || avformat_query_codec(mp4, chosen.codecpar->codec_id, FF_COMPLIANCE_NORMAL) != 1) {
         return Opened::Failure(
-            QStringLiteral("MP4 cannot hold %1").arg(QLatin1String(avcodec_get_name(chosen.codecpar->codec_id))));
+            Texts::tr("MP4 cannot hold %1").arg(QLatin1String(avcodec_get_name(chosen.codecpar->codec_id))));
     }
     (*input)->Select(chosen);
     return std::unique_ptr<KxSoundPackets>(new KxSoundPackets(std::move(*input), chosen, *clock.zeroUs));

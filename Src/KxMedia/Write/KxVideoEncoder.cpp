@@ -8,6 +8,8 @@ extern "C" {
 #include <libavutil/hwcontext.h>
 }
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <cmath>
 #include <cstring>
@@ -30,6 +32,10 @@ int KxEncode(AVCodecContext& encoder, const AVFrame* frame, AVPacket& packet, co
 
 namespace
 {
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(KxVideoEncoder)
+};
 
 using Codec = KxOutputFormat::Codec;
 using Encoder = KxOutputFormat::Encoder;
@@ -155,7 +161,7 @@ KxResult<std::unique_ptr<KxVideoEncoder>> KxVideoEncoder::Open(const Settings& s
     const QString name = NameOf(settings.format);
     const AVCodec* const codec = avcodec_find_encoder_by_name(name.toLatin1().constData());
     if (codec == nullptr) {
-        return Opened::Failure(QStringLiteral("the video encoder %1 is missing").arg(name));
+        return Opened::Failure(Texts::tr("the video encoder %1 is missing").arg(name));
     }
     KxAvCodec context(avcodec_alloc_context3(codec));
     KxAvFrame frame(av_frame_alloc());
@@ -173,8 +179,7 @@ KxResult<std::unique_ptr<KxVideoEncoder>> KxVideoEncoder::Open(const Settings& s
         error = avcodec_open2(context.get(), codec, nullptr);
     }
     if (error < 0) {
-        return Opened::Failure(
-            QStringLiteral("the video encoder %1 does not start (%2)").arg(name, KxAvErrorText(error)));
+        return Opened::Failure(Texts::tr("the video encoder %1 does not start (%2)").arg(name, KxAvErrorText(error)));
     }
     return std::unique_ptr<KxVideoEncoder>(new KxVideoEncoder(std::move(context), std::move(frame), std::move(packet)));
 }
