@@ -352,6 +352,17 @@ Das Kommandozeilenprogramm für viele Dateien auf einmal heißt reframe.</transl
         <source>Reframe All</source>
         <translation>Alle neu kadrieren</translation>
     </message>
+    <message>
+        <source>%1 pixels high</source>
+        <translation>%1 Pixel hoch</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files, enlarged beyond their crops: %1</source>
+        <translation>
+            <numerusform>%n Datei, größer als ihr Ausschnitt: %1</numerusform>
+            <numerusform>%n Dateien, größer als ihre Ausschnitte: %1</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>CropFinder</name>
@@ -485,6 +496,21 @@ Das Kommandozeilenprogramm für viele Dateien auf einmal heißt reframe.</transl
     </message>
 </context>
 <context>
+    <name>DialogEdits</name>
+    <message>
+        <source>As large as the crop</source>
+        <translation>So groß wie der Ausschnitt</translation>
+    </message>
+    <message>
+        <source>%1 pixels high</source>
+        <translation>%1 Pixel hoch</translation>
+    </message>
+    <message>
+        <source>%1 × %2</source>
+        <translation>%1 × %2</translation>
+    </message>
+</context>
+<context>
     <name>ExportCard</name>
     <message numerus="yes">
         <source>%n to look at</source>
@@ -583,6 +609,21 @@ Das Kommandozeilenprogramm für viele Dateien auf einmal heißt reframe.</transl
     <message>
         <source>%1 (.%2)…</source>
         <translation>%1 (.%2)…</translation>
+    </message>
+</context>
+<context>
+    <name>ExportManners</name>
+    <message>
+        <source>Exported %1</source>
+        <translation>%1 exportiert</translation>
+    </message>
+    <message>
+        <source>Cannot export %1</source>
+        <translation>%1 kann nicht exportiert werden</translation>
+    </message>
+    <message>
+        <source>Videos are being exported</source>
+        <translation>Videos werden exportiert</translation>
     </message>
 </context>
 <context>
@@ -1174,6 +1215,18 @@ Benötigt: %1 MB, verfügbar: %2 MB.</translation>
     <message>
         <source>Export cancelled</source>
         <translation>Export abgebrochen</translation>
+    </message>
+    <message>
+        <source>Output: %1 × %2, enlarged</source>
+        <translation>Ausgabe: %1 × %2, vergrößert</translation>
+    </message>
+    <message>
+        <source>Output</source>
+        <translation>Ausgabe</translation>
+    </message>
+    <message>
+        <source>The size in which the video is exported.</source>
+        <translation>Die Größe, in der das Video exportiert wird.</translation>
     </message>
 </context>
 <context>

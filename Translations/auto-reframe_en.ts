@@ -14,6 +14,13 @@
 <context>
     <name>BatchDialog</name>
     <message numerus="yes">
+        <source>%n files, enlarged beyond their crops: %1</source>
+        <translation>
+            <numerusform>%n file, enlarged beyond its crop: %1</numerusform>
+            <numerusform>%n files, enlarged beyond their crops: %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
         <source>%n files: %1</source>
         <translation>
             <numerusform>%n file: %1</numerusform>
@@ -35,13 +42,6 @@
         <translation>
             <numerusform>%n to look at</numerusform>
             <numerusform>%n to look at</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n files, enlarged beyond their crops: %1</source>
-        <translation>
-            <numerusform>%n file, enlarged beyond its crop: %1</numerusform>
-            <numerusform>%n files, enlarged beyond their crops: %1</numerusform>
         </translation>
     </message>
 </context>

@@ -352,6 +352,17 @@ El programa de línea de órdenes para muchos archivos a la vez es reframe.</tra
         <source>Reframe All</source>
         <translation>Reencuadrar todo</translation>
     </message>
+    <message>
+        <source>%1 pixels high</source>
+        <translation>%1 píxeles de alto</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files, enlarged beyond their crops: %1</source>
+        <translation>
+            <numerusform>%n archivo, ampliado más que su encuadre: %1</numerusform>
+            <numerusform>%n archivos, ampliados más que sus encuadres: %1</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>CropFinder</name>
@@ -485,6 +496,21 @@ El programa de línea de órdenes para muchos archivos a la vez es reframe.</tra
     </message>
 </context>
 <context>
+    <name>DialogEdits</name>
+    <message>
+        <source>As large as the crop</source>
+        <translation>Tan grande como el encuadre</translation>
+    </message>
+    <message>
+        <source>%1 pixels high</source>
+        <translation>%1 píxeles de alto</translation>
+    </message>
+    <message>
+        <source>%1 × %2</source>
+        <translation>%1 × %2</translation>
+    </message>
+</context>
+<context>
     <name>ExportCard</name>
     <message numerus="yes">
         <source>%n to look at</source>
@@ -583,6 +609,21 @@ El programa de línea de órdenes para muchos archivos a la vez es reframe.</tra
     <message>
         <source>%1 (.%2)…</source>
         <translation>%1 (.%2)…</translation>
+    </message>
+</context>
+<context>
+    <name>ExportManners</name>
+    <message>
+        <source>Exported %1</source>
+        <translation>%1 exportado</translation>
+    </message>
+    <message>
+        <source>Cannot export %1</source>
+        <translation>No se puede exportar %1</translation>
+    </message>
+    <message>
+        <source>Videos are being exported</source>
+        <translation>Se están exportando vídeos</translation>
     </message>
 </context>
 <context>
@@ -1174,6 +1215,18 @@ Espacio necesario: %1 MB, disponible: %2 MB.</translation>
     <message>
         <source>Export cancelled</source>
         <translation>Exportación cancelada</translation>
+    </message>
+    <message>
+        <source>Output: %1 × %2, enlarged</source>
+        <translation>Salida: %1 × %2, ampliada</translation>
+    </message>
+    <message>
+        <source>Output</source>
+        <translation>Salida</translation>
+    </message>
+    <message>
+        <source>The size in which the video is exported.</source>
+        <translation>El tamaño con el que se exporta el vídeo.</translation>
     </message>
 </context>
 <context>

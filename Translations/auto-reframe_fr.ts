@@ -352,6 +352,17 @@ Le programme en ligne de commande pour plusieurs fichiers à la fois est reframe
         <source>Reframe All</source>
         <translation>Tout recadrer</translation>
     </message>
+    <message>
+        <source>%1 pixels high</source>
+        <translation>%1 pixels de haut</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files, enlarged beyond their crops: %1</source>
+        <translation>
+            <numerusform>%n fichier, agrandi au-delà de son cadre&#xa0;: %1</numerusform>
+            <numerusform>%n fichiers, agrandis au-delà de leurs cadres&#xa0;: %1</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>CropFinder</name>
@@ -485,6 +496,21 @@ Le programme en ligne de commande pour plusieurs fichiers à la fois est reframe
     </message>
 </context>
 <context>
+    <name>DialogEdits</name>
+    <message>
+        <source>As large as the crop</source>
+        <translation>Aussi grande que le cadre</translation>
+    </message>
+    <message>
+        <source>%1 pixels high</source>
+        <translation>%1 pixels de haut</translation>
+    </message>
+    <message>
+        <source>%1 × %2</source>
+        <translation>%1 × %2</translation>
+    </message>
+</context>
+<context>
     <name>ExportCard</name>
     <message numerus="yes">
         <source>%n to look at</source>
@@ -583,6 +609,21 @@ Le programme en ligne de commande pour plusieurs fichiers à la fois est reframe
     <message>
         <source>%1 (.%2)…</source>
         <translation>%1 (.%2)…</translation>
+    </message>
+</context>
+<context>
+    <name>ExportManners</name>
+    <message>
+        <source>Exported %1</source>
+        <translation>%1 exporté</translation>
+    </message>
+    <message>
+        <source>Cannot export %1</source>
+        <translation>Impossible d’exporter %1</translation>
+    </message>
+    <message>
+        <source>Videos are being exported</source>
+        <translation>Des vidéos sont en cours d’exportation</translation>
     </message>
 </context>
 <context>
@@ -1174,6 +1215,18 @@ Espace nécessaire&#xa0;: %1 Mo, disponible&#xa0;: %2 Mo.</translation>
     <message>
         <source>Export cancelled</source>
         <translation>Export annulé</translation>
+    </message>
+    <message>
+        <source>Output: %1 × %2, enlarged</source>
+        <translation>Sortie&#xa0;: %1 × %2, agrandie</translation>
+    </message>
+    <message>
+        <source>Output</source>
+        <translation>Sortie</translation>
+    </message>
+    <message>
+        <source>The size in which the video is exported.</source>
+        <translation>La taille dans laquelle la vidéo est exportée.</translation>
     </message>
 </context>
 <context>

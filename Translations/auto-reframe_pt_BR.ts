@@ -352,6 +352,17 @@ O programa de linha de comando para muitos arquivos de uma vez é o reframe.</tr
         <source>Reframe All</source>
         <translation>Reenquadrar tudo</translation>
     </message>
+    <message>
+        <source>%1 pixels high</source>
+        <translation>%1 pixels de altura</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files, enlarged beyond their crops: %1</source>
+        <translation>
+            <numerusform>%n arquivo, ampliado além do corte: %1</numerusform>
+            <numerusform>%n arquivos, ampliados além dos cortes: %1</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>CropFinder</name>
@@ -485,6 +496,21 @@ O programa de linha de comando para muitos arquivos de uma vez é o reframe.</tr
     </message>
 </context>
 <context>
+    <name>DialogEdits</name>
+    <message>
+        <source>As large as the crop</source>
+        <translation>Tão grande quanto o corte</translation>
+    </message>
+    <message>
+        <source>%1 pixels high</source>
+        <translation>%1 pixels de altura</translation>
+    </message>
+    <message>
+        <source>%1 × %2</source>
+        <translation>%1 × %2</translation>
+    </message>
+</context>
+<context>
     <name>ExportCard</name>
     <message numerus="yes">
         <source>%n to look at</source>
@@ -583,6 +609,21 @@ O programa de linha de comando para muitos arquivos de uma vez é o reframe.</tr
     <message>
         <source>%1 (.%2)…</source>
         <translation>%1 (.%2)…</translation>
+    </message>
+</context>
+<context>
+    <name>ExportManners</name>
+    <message>
+        <source>Exported %1</source>
+        <translation>%1 exportado</translation>
+    </message>
+    <message>
+        <source>Cannot export %1</source>
+        <translation>Não é possível exportar %1</translation>
+    </message>
+    <message>
+        <source>Videos are being exported</source>
+        <translation>Vídeos estão sendo exportados</translation>
     </message>
 </context>
 <context>
@@ -1174,6 +1215,18 @@ Espaço necessário: %1 MB, disponível: %2 MB.</translation>
     <message>
         <source>Export cancelled</source>
         <translation>Exportação cancelada</translation>
+    </message>
+    <message>
+        <source>Output: %1 × %2, enlarged</source>
+        <translation>Saída: %1 × %2, ampliada</translation>
+    </message>
+    <message>
+        <source>Output</source>
+        <translation>Saída</translation>
+    </message>
+    <message>
+        <source>The size in which the video is exported.</source>
+        <translation>O tamanho em que o vídeo é exportado.</translation>
     </message>
 </context>
 <context>

@@ -349,6 +349,16 @@ The command line program for many files at once is reframe.</source>
         <source>Reframe All</source>
         <translation>全部重新构图</translation>
     </message>
+    <message>
+        <source>%1 pixels high</source>
+        <translation>高 %1 像素</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files, enlarged beyond their crops: %1</source>
+        <translation>
+            <numerusform>%n 个文件（放大超过裁剪框）：%1</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>CropFinder</name>
@@ -482,6 +492,21 @@ The command line program for many files at once is reframe.</source>
     </message>
 </context>
 <context>
+    <name>DialogEdits</name>
+    <message>
+        <source>As large as the crop</source>
+        <translation>与裁剪框一样大</translation>
+    </message>
+    <message>
+        <source>%1 pixels high</source>
+        <translation>高 %1 像素</translation>
+    </message>
+    <message>
+        <source>%1 × %2</source>
+        <translation>%1 × %2</translation>
+    </message>
+</context>
+<context>
     <name>ExportCard</name>
     <message numerus="yes">
         <source>%n to look at</source>
@@ -579,6 +604,21 @@ The command line program for many files at once is reframe.</source>
     <message>
         <source>%1 (.%2)…</source>
         <translation>%1 (.%2)…</translation>
+    </message>
+</context>
+<context>
+    <name>ExportManners</name>
+    <message>
+        <source>Exported %1</source>
+        <translation>已导出 %1</translation>
+    </message>
+    <message>
+        <source>Cannot export %1</source>
+        <translation>无法导出 %1</translation>
+    </message>
+    <message>
+        <source>Videos are being exported</source>
+        <translation>正在导出视频</translation>
     </message>
 </context>
 <context>
@@ -1165,6 +1205,18 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
     <message>
         <source>Export cancelled</source>
         <translation>导出已取消</translation>
+    </message>
+    <message>
+        <source>Output: %1 × %2, enlarged</source>
+        <translation>输出：%1 × %2（放大）</translation>
+    </message>
+    <message>
+        <source>Output</source>
+        <translation>输出</translation>
+    </message>
+    <message>
+        <source>The size in which the video is exported.</source>
+        <translation>导出视频的大小。</translation>
     </message>
 </context>
 <context>

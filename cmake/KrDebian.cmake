@@ -34,7 +34,8 @@ set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 set(CPACK_DEBIAN_PROGRAMS_PACKAGE_NAME auto-reframe)
 set(CPACK_DEBIAN_PROGRAMS_PACKAGE_SECTION video)
 set(CPACK_DEBIAN_PROGRAMS_PACKAGE_DEPENDS "libkrautoreframe1 (= ${PROJECT_VERSION}), libqt5sql5-sqlite")
-set(CPACK_DEBIAN_PROGRAMS_PACKAGE_RECOMMENDS "auto-reframe-models, libqt5multimedia5-plugins, fonts-inter")
+set(CPACK_DEBIAN_PROGRAMS_PACKAGE_RECOMMENDS "auto-reframe-models, libqt5multimedia5-plugins, fonts-inter, qttranslations5-l10n")
+set(CPACK_DEBIAN_PROGRAMS_PACKAGE_SUGGESTS "fonts-noto-cjk")
 set(CPACK_DEBIAN_PROGRAMS_DESCRIPTION "turn landscape video into any aspect ratio (programs)
 Auto Reframe finds the subject of a video frame by frame (moving objects,
 faces, salient areas), computes a smooth path for a crop of another aspect

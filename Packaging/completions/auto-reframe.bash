@@ -3,10 +3,14 @@ _auto_reframe()
 {
     local cur prev words cword split
     _init_completion -s || return
-    # Options with a value, by what the value is: none yet.
+    # Options with a value, by what the value is.
+    case $prev in
+        --language) COMPREPLY=($(compgen -W 'en de es fr ja pt_BR zh_CN' -- "$cur")); return ;;
+    esac
     $split && return
     case $cur in
         -*) COMPREPLY=($(compgen -W '
+            --language
             -h --help
             --version' -- "$cur")) ;;
         *) _filedir ;;

@@ -17,6 +17,7 @@ _reframe()
             COMPREPLY+=($(compgen -W 'mlt kdenlive fcpxml txt ffscript' -- "$cur")); return ;;
         --preview) _filedir '@(png|mp4)'; return ;;
         --report) _filedir html; return ;;
+        --language) COMPREPLY=($(compgen -W 'en de es fr ja pt_BR zh_CN' -- "$cur")); return ;;
     esac
     $split && return
     case $cur in
@@ -38,6 +39,7 @@ _reframe()
             --overwrite
             --json
             --quiet
+            --language
             -h --help
             --version' -- "$cur")) ;;
         *) _filedir ;;
