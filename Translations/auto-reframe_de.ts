@@ -2670,7 +2670,7 @@ Benötigt: %1 MB, verfügbar: %2 MB.</translation>
     </message>
     <message>
         <source>Shot %1 of %2</source>
-        <translation>Einstellung %1 von %2</translation>
+        <translation>Einst. %1/%2</translation>
     </message>
     <message>
         <source>confidence %1</source>

@@ -20,6 +20,7 @@ constexpr double LinesInAPicture = 36.0;
 constexpr int SmallestTextPx = 6;
 constexpr double LineHeight = 1.5;
 constexpr double PanelWidth = 17.0;
+constexpr double LabelsShare = 0.36;
 const QColor PanelGround(0x1B, 0x1D, 0x21, 224);
 const QColor BarGround(255, 255, 255, 36);
 const QColor Ink(0xF2, 0xF4, 0xF7);
@@ -116,12 +117,17 @@ void PreviewOverlay::DrawSignals(QPainter& painter, const QRectF& area, qint64 f
 {
     const KxSubjectFindings::Sample* const sample = FoundSignals::SampleAt(*m_findings, frame);
     QRectF row = area;
+    double labels = LabelsShare * row.width();
+    for (const KxSignal signal : FoundSignals::All) {
+        // A gap of half a letter's height to the bar, also after the longer names of other languages.
+        labels = std::max(labels, painter.fontMetrics().horizontalAdvance(FoundSignals::Name(signal)) +
+                                      0.5 * painter.fontMetrics().height());
+    }
     for (const KxSignal signal : FoundSignals::All) {
         const float strength = sample != nullptr ? sample->scores[static_cast<std::size_t>(signal)] : 0.0F;
         const double share = std::clamp(static_cast<double>(strength / m_strongest), 0.0, 1.0);
         painter.setPen(FaintInk);
         painter.drawText(row, Qt::AlignLeft | Qt::AlignVCenter, FoundSignals::Name(signal));
-        const double labels = 0.36 * row.width();
         const QRectF bar(row.x() + labels, row.center().y() - 0.16 * row.height(), row.width() - labels,
                          0.32 * row.height());
         painter.fillRect(bar, BarGround);
