@@ -54,8 +54,9 @@ QList<Need> NeedsOf(const QLabel& label)
     if (!label.wordWrap()) {
         return {{label.text(), WidthOf(label, label.text()), givenPx}};
     }
-    return {{label.text(), LongestWordPx(label, label.text()), givenPx},
-            {label.text() + QStringLiteral(" (height)"), label.heightForWidth(label.width()), label.height()}};
+    return {
+        {label.text(), LongestWordPx(label, label.text()), givenPx},
+        {label.text() + QStringLiteral(" (height)"), label.heightForWidth(label.width()), label.height() + RoundingPx}};
 }
 
 QList<Need> NeedsOf(const QComboBox& box)
