@@ -164,24 +164,33 @@ TEST_F(TestMainWindowTracks, ALongAnalysisShowsItsProgressAndCanBeCancelled)
     EXPECT_TRUE(m_boxes.isEmpty());
 }
 
-TEST_F(TestMainWindowTracks, AnOpenedCropTrackIsExported)
+TEST_F(TestMainWindowTracks, AnOpenedCropTrackIsShownInTheDialog)
 {
     OpenOne();
-    const QString track = m_folder.filePath(QStringLiteral("track.json"));
+    const QString path = m_folder.filePath(QStringLiteral("track.json"));
     KxFileDialog::SetResponder([&](const KxFileDialog::Shown& shown) {
         EXPECT_EQ(shown.filter, QStringLiteral("Crop tracks(*.json;*.csv;)"));
-        return QStringList(track);
+        return QStringList(path);
     });
+    // Only the backend looks into it.
+    const auto owner = std::make_shared<int>();
+    const std::shared_ptr<const CropTrack> track(owner, reinterpret_cast<const CropTrack*>(owner.get()));
     m_backend->whenFinding = [&](FakeMediaBackend::Finding& finding) {
-        EXPECT_EQ(finding.request.cropTrack, track);
-        finding.EndWell();
+        EXPECT_EQ(finding.request.cropTrack, path);
+        FoundCrops found;
+        found.outcome = KxOutcome::Done;
+        found.track = track;
+        finding.End(found);
     };
-    m_answer = true;
+    QList<std::shared_ptr<const CropTrack>> shown;
+    m_backend->inDialog = [&](const DialogCallbacks& callbacks) { shown += callbacks.track; };
     EXPECT_TRUE(Choose(QStringLiteral("Open Crop Track…")));
-    EXPECT_EQ(m_boxes, QStringList(QStringLiteral("Export a.mp4 with the crops of track.json?")));
-    ASSERT_NE(m_backend->task, nullptr);
-    EXPECT_TRUE(m_backend->task->request.settings.outputPath.endsWith(QLatin1String("/track.mp4")));
-    EXPECT_EQ(m_backend->task->request.source.path, m_folder.filePath(QStringLiteral("a.mp4")));
+    EXPECT_EQ(m_backend->reframed, QStringList(QStringLiteral("a.mp4")));
+    EXPECT_TRUE(m_boxes.isEmpty());
+    Button("TopBar_reframe")->click();
+    ASSERT_EQ(shown.size(), 2);
+    EXPECT_EQ(shown[0], track);
+    EXPECT_EQ(shown[1], nullptr) << "the next dialog analyzes the video";
 }
 
 TEST_F(TestMainWindowTracks, ACropTrackThatDoesNotFitIsReported)

@@ -128,6 +128,8 @@ private:
     QList<int> m_toReframe;
     /// The settings with which the next dialog opens, in place of those that the person chose last.
     std::optional<ReframePlan> m_dialogPlan;
+    /// Whose crops the next dialog shows; null if it analyzes the video.
+    std::shared_ptr<const CropTrack> m_dialogTrack;
     BatchSettings m_batchSettings;
     QTimer* const m_saving;
 };

@@ -206,6 +206,7 @@ void MainWindow::Reframe(const QModelIndexList& videos)
     }
     m_toReframe.clear();
     m_dialogPlan.reset();
+    m_dialogTrack.reset();
     for (const QModelIndex& video : videos) {
         const MediaLibraryModel::State state = m_library->Model().StateAt(video);
         if (state == MediaLibraryModel::State::Open || state == MediaLibraryModel::State::Stored) {
@@ -251,6 +252,7 @@ void MainWindow::ShowDialog(const MediaFile& video)
     callbacks.showInFolder = &MainWindow::ShowInFolder;
     callbacks.showHelp = [](QWidget& dialog) { HelpDialog(&dialog).DoModal(); };
     callbacks.startsAtDoubtfulShot = m_dialogPlan.has_value();
+    callbacks.track = m_dialogTrack;
     callbacks.exportRefused = [this](const QString& message) { Inform(message); };
     callbacks.loadEdits = [this](const QString& path) { return EditsFor(path); };
     callbacks.editsChanged = [this](const QString& path, const VideoEdits& edits) {
@@ -263,6 +265,7 @@ void MainWindow::ShowDialog(const MediaFile& video)
     m_backend.Get()->Reframe(video, *this, callbacks);
     m_isReframing = false;
     m_dialogPlan.reset();
+    m_dialogTrack.reset();
     activateWindow();
 }
 

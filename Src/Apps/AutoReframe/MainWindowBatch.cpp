@@ -79,5 +79,6 @@ void MainWindow::LookAtExport(int id)
     m_view->setCurrentIndex(video);
     m_toReframe = {m_library->Model().IdAt(video)};
     m_dialogPlan = plan;
+    m_dialogTrack.reset();
     ReframeNext();
 }

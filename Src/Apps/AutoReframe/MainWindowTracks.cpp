@@ -4,7 +4,6 @@
 #include <Apps/AutoReframe/Exports/ExportQueue.h>
 #include <Apps/AutoReframe/Library/MediaLibrary.h>
 #include <Apps/AutoReframe/Library/MediaLibraryView.h>
-#include <Apps/AutoReframe/Library/MediaText.h>
 #include <Apps/AutoReframe/Tracks/CropTrackDialog.h>
 #include <Apps/AutoReframe/Tracks/CropWait.h>
 #include <KxCore/KxConfigFile.h>
@@ -102,20 +101,11 @@ void MainWindow::OpenCropTrack()
         return;
     }
     request.cropTrack = chosen.first();
-    std::optional<FoundCrops> found = WaitForCrops(request);
-    if (!found) {
-        return;
-    }
-    const QFileInfo track(request.cropTrack);
-    OutputNames::Unique paths([this](const QString& taken) { return IsTaken(taken); });
-    const QString path = paths.Path(QDir::cleanPath(OutputFolder()), track.completeBaseName());
-    const bool exports = KrMessageDialog::Question_CustomYesNo(
-        tr("Export %1 with the crops of %2?").arg(QFileInfo(request.path).fileName(), track.fileName()), tr("Cancel"),
-        tr("Export"), this, KrStandardButton::Yes,
-        tr("%1, to %2").arg(MediaText::Resolution(found->request.settings.resolution), QDir::toNativeSeparators(path)),
-        tr("Auto Reframe"), KrMessageType::Question);
-    if (exports) {
-        found->request.settings.outputPath = path;
-        m_exports->Add(found->request);
+    const std::optional<FoundCrops> found = WaitForCrops(request);
+    if (found) {
+        m_toReframe = UsableSelected();
+        m_dialogPlan.reset();
+        m_dialogTrack = found->track;
+        ReframeNext();
     }
 }

@@ -1,5 +1,6 @@
 #include <KrAutoReframe/Extensions/KrDialogExtension.h>
 
+#include <KrAutoReframe/Engine/KrAutoReframeAnalyzer.h>
 #include <KrAutoReframe/Engine/KrAutoReframeProcess.h>
 #include <KrAutoReframe/Engine/KrChoiceList.h>
 #include <KrAutoReframe/Engine/KrExportParameters.h>
@@ -218,10 +219,28 @@ void KrDialogExtension::EnterSource()
     ShowChoices();
     ShowShots();
     ShowLosses();
+    if (ShowGivenCrops()) {
+        return;
+    }
     const IKxAutoReframeShots* const shots = ServiceShots();
     if (m_state.isAnalyzed && shots != nullptr) {
         m_isKnown.setFuture(QtConcurrent::run([shots, path] { return shots->IsKnown(path); }));
     }
+}
+
+bool KrDialogExtension::ShowGivenCrops()
+{
+    QList<IKxAutoReframeResult> results;
+    for (const QRectF& crop : qAsConst(m_state.crops)) {
+        results.append(IKxAutoReframeResult(results.size(), crop));
+    }
+    m_state.crops.clear();
+    if (results.isEmpty() || !m_parts.process.GetHelper()->ApplyResults(results)) {
+        return false;
+    }
+    // An export names the settings of the last analysis.
+    m_parts.process.GetAnalyzer()->SetParam({m_path, m_state.aspectWidth, m_state.aspectHeight, PanelSettings().speed});
+    return true;
 }
 
 void KrDialogExtension::Analyze(const Settings& settings)

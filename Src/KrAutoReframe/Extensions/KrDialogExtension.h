@@ -70,6 +70,8 @@ private:
     void Compare();
     void FillComparison();
     void EnterSource();
+    /// Shows the crops that the host gave with the video. False without any.
+    bool ShowGivenCrops();
     void HandleKnown();
     /// Takes over the choices as the analysis found them in a video that was cut differently when they were made.
     void TakePlacedChoices();

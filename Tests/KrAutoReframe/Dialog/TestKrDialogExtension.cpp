@@ -252,6 +252,23 @@ TEST_F(KrDialogExtensionTest, ATimelinesStateIsThatOfItsFile)
     EXPECT_EQ(Helper().GetEditPointFrames(), QList<uint>{20});
 }
 
+TEST_F(ExtendedDialogTest, CropsOfTheHostAreShownInPlaceOfAnAnalysis)
+{
+    for (int frame = 0; frame < 100; ++frame) {
+        StateOf(clip).crops.append(QRectF(0.01 * frame / 2.0, 0.0, 0.3, 1.0));
+    }
+    StateOf(clip).aspectWidth = 4;
+    StateOf(clip).aspectHeight = 5;
+    StateOf(clip).isAnalyzed = true;
+    service.knows = QStringList(clip);
+    Load(Video(clip));
+    ASSERT_EVENTUALLY(Helper().GetResults().size() == 100);
+    EXPECT_EQ(Helper().GetResults().at(40).cropRect(), QRectF(0.2, 0.0, 0.3, 1.0));
+    ASSERT_EVENTUALLY(!Helper().GetDisplayResults().isEmpty());
+    EXPECT_TRUE(service.Calls().filter(QStringLiteral("StartTask")).isEmpty());
+    EXPECT_EQ(Hint(), QString());
+}
+
 namespace
 {
 

@@ -1,5 +1,6 @@
 #include <Apps/AutoReframe/Backend/DialogEdits.h>
 
+#include <Apps/CropTracks/CropTrackFile.h>
 #include <KxCore/KxConfigFile.h>
 #include <KxCore/KxOutputSize.h>
 
@@ -40,16 +41,33 @@ QString NameOf(const Output& output, const QSize& size)
                      .arg(QString::number(size.width()), QString::number(size.height()));
 }
 
+KrAutoReframeState StateOf(const CropTrack& track)
+{
+    KrAutoReframeState state;
+    state.aspectWidth = std::max(0, track.aspect.width());
+    state.aspectHeight = std::max(0, track.aspect.height());
+    for (const IKxAutoReframeResult& crop : track.crops) {
+        state.crops.append(crop.cropRect());
+    }
+    return state;
+}
+
 } // namespace
 
 DialogEdits::DialogEdits(const DialogCallbacks& callbacks)
     : m_callbacks(callbacks)
     , m_startsAtDoubtfulShot(callbacks.startsAtDoubtfulShot)
+    , m_track(callbacks.track)
 {
 }
 
 KrAutoReframeState DialogEdits::LoadState(const QString& path)
 {
+    if (const std::shared_ptr<const CropTrack> track = std::exchange(m_track, nullptr)) {
+        m_pathWithTrack = path;
+        return StateOf(*track);
+    }
+    m_pathWithTrack.clear();
     const VideoEdits edits = m_callbacks.loadEdits ? m_callbacks.loadEdits(path) : VideoEdits();
     KrAutoReframeState state;
     // An empty size is -1 by -1.
@@ -66,7 +84,7 @@ KrAutoReframeState DialogEdits::LoadState(const QString& path)
 
 void DialogEdits::OnStateChanged(const QString& path, const KrAutoReframeState& state)
 {
-    if (m_callbacks.editsChanged) {
+    if (m_callbacks.editsChanged && path != m_pathWithTrack) {
         m_callbacks.editsChanged(path, {QSize(state.aspectWidth, state.aspectHeight), state.motionSpeed,
                                         state.isAnalyzed, state.editPoints, state.choices, state.seenShots});
     }

@@ -33,4 +33,7 @@ private:
     const DialogCallbacks& m_callbacks;
     /// Of the first video: the person may open others in the dialog.
     bool m_startsAtDoubtfulShot;
+    std::shared_ptr<const CropTrack> m_track;
+    /// The video that is shown with the crops of a track, whose edits are not saved.
+    QString m_pathWithTrack;
 };

@@ -126,7 +126,7 @@ struct CropCallbacks {
     std::function<void(const FoundCrops& found)> finished;
 };
 
-/// Called while the dialog is open, on the user-interface thread.
+/// What the dialog is opened with, and what is called while it is open, on the user-interface thread.
 struct DialogCallbacks {
     std::function<void(const ExportRequest& request)> exportRequested;
     /// The result cannot be exported; `message` gives the reason.
@@ -143,6 +143,9 @@ struct DialogCallbacks {
     std::function<void(QWidget& dialog)> showHelp;
     /// The dialog shows the video's first result at the first doubtful shot that was not seen.
     bool startsAtDoubtfulShot = false;
+    /// Shown in place of an analysis, without the person's earlier edits and choices; the edits made then are not saved.
+    /// Usually null.
+    std::shared_ptr<const CropTrack> track;
     /// The dialog considers this computer too slow for the analysis.
     std::function<void()> unsupported;
 };
