@@ -54,7 +54,17 @@ class SpokenJourney:
         nameless = [item for item in found if item["focusable"] and item["role"] in ("push button", "check box", "toggle button")
                     and not item["name"]]
         assert not nameless, f"nameless controls: {nameless}"
+        self.read_help()
         picture = [item for item in found if item["name"] == "Picture"]
         assert picture and picture[0]["focusable"], f"the picture: {picture}"
         journey.close_with_title_bar()
         journey.quit()
+
+    def read_help(self):
+        screen = self.screen
+        screen.key("F1")
+        screen.find("HelpDialog_close")
+        self.wait_for("push button", "Close")
+        self.wait_for("label", "Next doubtful shot")
+        screen.key("Escape")
+        screen.gone("HelpDialog_close")
