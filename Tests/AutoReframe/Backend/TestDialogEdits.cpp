@@ -91,28 +91,29 @@ TEST_F(TestDialogOutputs, TheChoiceHoldsForExportsAndForTheNextDialog)
     EXPECT_EQ(edits.SizeFor(QSize(608, 1080)), QSize(720, 1280));
     EXPECT_EQ(edits.SizeFor(QSize(540, 960)), QSize(540, 960)); // of another result
     EXPECT_EQ(DialogEdits(m_callbacks).ChosenOutput(), 2);
+}
 
-    TEST(TestDialogEdits, ACropTrackIsShownInPlaceOfWhatWasDecided)
-    {
-        VideoEdits stored;
-        stored.choices = "{}";
-        int changes = 0;
-        CropTrack track;
-        track.aspect = QSize(4, 5);
-        track.crops = {IKxAutoReframeResult(0, QRectF(0.1, 0.0, 0.5, 1.0)),
-                       IKxAutoReframeResult(1, QRectF(0.2, 0.0, 0.5, 1.0))};
-        DialogCallbacks callbacks;
-        callbacks.loadEdits = [&stored](const QString&) { return stored; };
-        callbacks.editsChanged = [&changes](const QString&, const VideoEdits&) { ++changes; };
-        callbacks.track = std::make_shared<const CropTrack>(track);
-        DialogEdits edits(callbacks);
-        const KrAutoReframeState state = edits.LoadState(QStringLiteral("/a.mp4"));
-        EXPECT_EQ(state.aspectHeight, 5);
-        EXPECT_EQ(state.crops, (QList<QRectF>{QRectF(0.1, 0.0, 0.5, 1.0), QRectF(0.2, 0.0, 0.5, 1.0)}));
-        EXPECT_TRUE(state.choices.isEmpty());
-        edits.OnStateChanged(QStringLiteral("/a.mp4"), state);
-        EXPECT_EQ(changes, 0) << "what was decided before stays";
-        EXPECT_EQ(edits.LoadState(QStringLiteral("/b.mp4")).choices, "{}");
-        edits.OnStateChanged(QStringLiteral("/b.mp4"), state);
-        EXPECT_EQ(changes, 1);
-    }
+TEST(TestDialogEdits, ACropTrackIsShownInPlaceOfWhatWasDecided)
+{
+    VideoEdits stored;
+    stored.choices = "{}";
+    int changes = 0;
+    CropTrack track;
+    track.aspect = QSize(4, 5);
+    track.crops = {IKxAutoReframeResult(0, QRectF(0.1, 0.0, 0.5, 1.0)),
+                   IKxAutoReframeResult(1, QRectF(0.2, 0.0, 0.5, 1.0))};
+    DialogCallbacks callbacks;
+    callbacks.loadEdits = [&stored](const QString&) { return stored; };
+    callbacks.editsChanged = [&changes](const QString&, const VideoEdits&) { ++changes; };
+    callbacks.track = std::make_shared<const CropTrack>(track);
+    DialogEdits edits(callbacks);
+    const KrAutoReframeState state = edits.LoadState(QStringLiteral("/a.mp4"));
+    EXPECT_EQ(state.aspectHeight, 5);
+    EXPECT_EQ(state.crops, (QList<QRectF>{QRectF(0.1, 0.0, 0.5, 1.0), QRectF(0.2, 0.0, 0.5, 1.0)}));
+    EXPECT_TRUE(state.choices.isEmpty());
+    edits.OnStateChanged(QStringLiteral("/a.mp4"), state);
+    EXPECT_EQ(changes, 0) << "what was decided before stays";
+    EXPECT_EQ(edits.LoadState(QStringLiteral("/b.mp4")).choices, "{}");
+    edits.OnStateChanged(QStringLiteral("/b.mp4"), state);
+    EXPECT_EQ(changes, 1);
+}
