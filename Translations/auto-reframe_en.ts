@@ -28,6 +28,13 @@
         </translation>
     </message>
     <message numerus="yes">
+        <source>%n files, enlarged beyond their crops: %1</source>
+        <translation>
+            <numerusform>%n file, enlarged beyond its crop: %1</numerusform>
+            <numerusform>%n files, enlarged beyond their crops: %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
         <source>Reframe %n Videos</source>
         <translation>
             <numerusform>Reframe %n Video</numerusform>
