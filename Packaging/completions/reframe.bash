@@ -12,6 +12,12 @@ _reframe()
         --choices) _filedir json; return ;;
         --cache | --models) _filedir -d; COMPREPLY+=($(compgen -W none -- "$cur")); return ;;
         --output) _filedir '@(mp4|m4v)'; return ;;
+        --size) COMPREPLY=($(compgen -W '1080x1920 720x1280 2160p' -- "$cur")); return ;;
+        --fps | --quality | --bitrate | --loudness) return ;;
+        --codec) COMPREPLY=($(compgen -W 'h264 hevc av1' -- "$cur")); return ;;
+        --encoder) COMPREPLY=($(compgen -W 'auto software vaapi nvenc qsv' -- "$cur")); return ;;
+        --hdr) COMPREPLY=($(compgen -W 'tonemap keep' -- "$cur")); return ;;
+        --sound) COMPREPLY=($(compgen -W 'encode copy' -- "$cur")); return ;;
         --keyframes | --apply) _filedir '@(json|csv)'; return ;;
         --edit-list) _filedir '@(mlt|kdenlive|fcpxml|txt|ffscript)'
             COMPREPLY+=($(compgen -W 'mlt kdenlive fcpxml txt ffscript' -- "$cur")); return ;;
@@ -29,6 +35,15 @@ _reframe()
             --choices
             --cache
             --output
+            --size
+            --fps
+            --quality
+            --bitrate
+            --codec
+            --encoder
+            --hdr
+            --sound
+            --loudness
             --keyframes
             --edit-list
             --apply
