@@ -163,7 +163,7 @@ struct KxSubjectOptions {
         int profileNeighbours = 4; ///< 2 to 6 raw hits near a candidate that make a face; clips
         int followNeighbours = 2;  ///< 1 to 4 raw hits that keep a known face; clips: with 4 it is often lost
         int minimumPx = 24;        ///< 20 to 40, smallest face looked for; chosen
-        int profileMinimumPx = 40; ///< 24 to 40, the same from the sides, where most of the cost is; clips: cost
+        int profileMinimumPx = 32; ///< 24 to 40, the same from the sides, where most of the cost is; talk
         double modelThreshold = 0.7;   ///< 0.5 to 0.9, the neural detector's own score; chosen
         int followedAtOnce = 6;        ///< 3 to 12 faces; bounds the cost of a crowd; chosen
         double sameShare = 0.6;        ///< 0.4 to 0.8 of the size: nearer boxes of similar size are one; chosen
