@@ -16,8 +16,12 @@ KXCORE_API void Install();
 
 /// Sets the flag. Any thread.
 KXCORE_API void Request();
+/// The same, because the process was asked to end by whoever runs it, not by a person at the terminal. Any thread.
+KXCORE_API void RequestTermination();
 /// Any thread.
 KXCORE_API bool IsRequested();
+/// Whether the first request was RequestTermination(). Any thread.
+KXCORE_API bool IsTermination();
 /// The flag as the cancel token of a job. Any thread.
 KXCORE_API const KxCancelToken& Token();
 } // namespace KxInterrupt

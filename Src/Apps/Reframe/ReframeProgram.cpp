@@ -3,6 +3,7 @@
 #include <Apps/Reframe/ReframeExit.h>
 #include <Apps/Reframe/ReframeJob.h>
 #include <Apps/Reframe/ReframeReporter.h>
+#include <KxCore/KxInterrupt.h>
 #include <KxCore/KxThread.h>
 #include <KxModel/KxAutoReframeService.h>
 #include <KxModel/KxDetectorFiles.h>
@@ -16,6 +17,11 @@ namespace
 struct Texts {
     Q_DECLARE_TR_FUNCTIONS(ReframeProgram)
 };
+
+int InterruptedStatus()
+{
+    return KxInterrupt::IsTermination() ? ReframeExit::Terminated : ReframeExit::Interrupted;
+}
 
 } // namespace
 
@@ -46,7 +52,7 @@ int ReframeProgram::Run(const ReframeOptions& options)
                 reporter.Fail(input, Texts::tr("Cannot reframe %1: %2.").arg(input, *failure));
             }
             if (outcome == KxOutcome::Cancelled) {
-                return reporter.OutputProblem() ? ReframeExit::SomeFailed : ReframeExit::Interrupted;
+                return reporter.OutputProblem() ? ReframeExit::SomeFailed : InterruptedStatus();
             }
             if (outcome == KxOutcome::Failed) {
                 status = ReframeExit::SomeFailed;

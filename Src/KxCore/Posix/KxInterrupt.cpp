@@ -12,6 +12,12 @@ extern "C" void HandleInterrupt(int number)
     std::signal(number, SIG_DFL);
 }
 
+extern "C" void HandleTermination(int number)
+{
+    KxInterrupt::RequestTermination();
+    std::signal(number, SIG_DFL);
+}
+
 extern "C" void HandleHangUp(int)
 {
     // The handler stays: a closed terminal may send the signal more than once.
@@ -25,7 +31,7 @@ void KxInterrupt::Install()
     // Created before a signal handler can use it.
     Token();
     std::signal(SIGINT, &HandleInterrupt);
-    std::signal(SIGTERM, &HandleInterrupt);
+    std::signal(SIGTERM, &HandleTermination);
     if (std::signal(SIGHUP, &HandleHangUp) == SIG_IGN) {
         std::signal(SIGHUP, SIG_IGN);
     }
