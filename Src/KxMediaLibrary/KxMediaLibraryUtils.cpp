@@ -1,14 +1,14 @@
 #include <KxMediaLibrary/KxMediaLibraryUtils.h>
 
 #include <KxMedia/Read/KxMediaProbe.h>
+#include <KxMedia/Read/KxVideoNames.h>
 
 #include <QCoreApplication>
 #include <QFileInfo>
 
 QString KxMediaLibraryUtils::getImportVideoFilter()
 {
-    return QStringLiteral("*.mp4;*.mov;*.m4v;*.mkv;*.webm;*.avi;*.wmv;*.asf;*.mts;*.m2ts;*.ts;*.mpg;*.mpeg;*.vob;"
-                          "*.flv;*.3gp;*.3g2;*.ogv;*.mxf;*.dv;*.wtv;*.y4m;*.ivf;*.h264;*.GIF");
+    return KxVideoNameFilter();
 }
 
 std::optional<QString> KxMediaLibraryUtils::CheckVideoFile(const QString& path)

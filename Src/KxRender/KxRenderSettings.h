@@ -17,4 +17,5 @@ struct KxRenderSettings {
     int videoBitRate = 2000000; ///< bits per second
     int audioBitRate = 192000;  ///< bits per second
     KxOutputFormat format;
+    QString comment; ///< stored in the file; may be empty
 };

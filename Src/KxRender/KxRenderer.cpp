@@ -128,6 +128,7 @@ KxError Rendering::OpenWriter(const KxOutputGrid& grid)
     settings.audioFormat = m_sound.format;
     settings.audioBitRate = m_settings.audioBitRate > 0 ? m_settings.audioBitRate : settings.audioBitRate;
     settings.format = m_settings.format;
+    settings.comment = m_settings.comment;
     KxResult<std::unique_ptr<KxMp4Writer>> writer = KxMp4Writer::Open(settings);
     if (!writer) {
         return writer.Message();

@@ -68,6 +68,12 @@ int KxMp4Muxer::Begin()
     if (error < 0) {
         return error;
     }
+    if (!m_comment.isEmpty()) {
+        error = av_dict_set(&m_context->metadata, "comment", m_comment.toUtf8().constData(), 0);
+        if (error < 0) {
+            return error;
+        }
+    }
     AVDictionary* options = nullptr;
     error = av_dict_set(&options, "movflags", "+faststart", 0);
     if (error >= 0) {

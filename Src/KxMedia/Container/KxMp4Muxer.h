@@ -17,6 +17,8 @@ public:
     int AddStream(const AVCodecContext& encoder);
     /// For packets that were encoded elsewhere.
     int AddStream(const AVCodecParameters& parameters, AVRational timeBase);
+    /// A text that is stored in the file; call before Begin().
+    void SetComment(const QString& comment) { m_comment = comment; }
     /// Creates or replaces the file and writes the header.
     int Begin();
     bool HasBegun() const { return m_hasBegun; }
@@ -30,6 +32,7 @@ private:
     AVStream* NewStream(AVRational timeBase);
 
     QString m_path;
+    QString m_comment;
     KxAvOutput m_context;
     std::vector<AVRational> m_timeBases;
     bool m_hasBegun = false;

@@ -47,6 +47,7 @@ public:
         , m_file(std::move(file))
         , m_muxer(m_file->TemporaryPath())
     {
+        m_muxer.SetComment(settings.comment);
     }
 
     KxError OpenAudio();

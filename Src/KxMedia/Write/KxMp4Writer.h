@@ -40,6 +40,7 @@ public:
         KxOutputFormat format;
         /// Sound that is copied: its packets come instead of blocks. Null: none. Borrowed until the first picture.
         const KxSoundPackets* copiedSound = nullptr;
+        QString comment; ///< stored in the file; may be empty
     };
 
     /// Checks the folder and creates the temporary file. The header is written with the first picture, which provides
