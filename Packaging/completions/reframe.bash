@@ -23,6 +23,7 @@ _reframe()
             COMPREPLY+=($(compgen -W 'mlt kdenlive fcpxml txt ffscript' -- "$cur")); return ;;
         --preview) _filedir '@(png|mp4)'; return ;;
         --report) _filedir html; return ;;
+        --inputs | --status) _filedir; return ;;
         --language) COMPREPLY=($(compgen -W 'en de es fr ja pt_BR zh_CN' -- "$cur")); return ;;
     esac
     $split && return
@@ -54,6 +55,10 @@ _reframe()
             --overwrite
             --json
             --quiet
+            --recursive
+            --inputs
+            --status
+            --if-needed
             --language
             -h --help
             --version' -- "$cur")) ;;

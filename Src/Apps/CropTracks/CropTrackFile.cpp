@@ -56,6 +56,11 @@ QByteArray FormatJson(const CropTrack& track)
     QByteArray text = "{\"version\":1,\n\"source\":" + QJsonDocument(source).toJson(QJsonDocument::Compact) +
                       ",\n\"aspect\":" + QJsonDocument(aspect).toJson(QJsonDocument::Compact) + ",\n\"speed\":\"" +
                       track.speedName.toUtf8() + "\",\n";
+    if (!track.madeBy.isEmpty()) {
+        const QJsonObject madeBy{{QStringLiteral("made_by"), track.madeBy}};
+        const QByteArray object = QJsonDocument(madeBy).toJson(QJsonDocument::Compact);
+        text += object.mid(1, object.size() - 2) + ",\n";
+    }
     if (track.models) {
         const QJsonObject models{{QStringLiteral("models"), CropTrackFile::ModelsAsJson(*track.models)}};
         const QByteArray object = QJsonDocument(models).toJson(QJsonDocument::Compact);
@@ -94,6 +99,25 @@ QJsonValue CropTrackFile::ModelsAsJson(const std::vector<KxUsedModel>& models)
 QByteArray CropTrackFile::Format(const CropTrack& track, const QString& path)
 {
     return IsCsv(path) ? FormatCsv(track) : FormatJson(track);
+}
+
+QString CropTrackFile::MadeBy(const QString& path)
+{
+    QFile file(path);
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly)) {
+        return {};
+    }
+    // Before the crops, on a line of its own.
+    constexpr int lastLine = 8;
+    constexpr qint64 longestBytes = 64 * 1024;
+    for (int line = 0; line < lastLine && !file.atEnd(); ++line) {
+        const QByteArray text = file.readLine(longestBytes).trimmed();
+        if (text.startsWith("\"made_by\":") && text.endsWith(',')) {
+            const QJsonDocument object = QJsonDocument::fromJson('{' + text.left(text.size() - 1) + '}');
+            return object.object().value(QStringLiteral("made_by")).toString();
+        }
+    }
+    return {};
 }
 
 KxResult<CropTrack> CropTrackFile::Read(const QString& path, qint64 frameCount)

@@ -56,9 +56,9 @@ KxOutcome ReframeJob::Run()
 KxOutcome ReframeJob::RunSteps()
 {
     for (Ended (ReframeJob::*step)() :
-         {&ReframeJob::Open, &ReframeJob::ReadTrack, &ReframeJob::ReadChoices, &ReframeJob::CheckTargets,
-          &ReframeJob::FindCrops, &ReframeJob::WriteChoices, &ReframeJob::WriteKeyframes, &ReframeJob::WriteEditLists,
-          &ReframeJob::WriteReport, &ReframeJob::WritePreview, &ReframeJob::WriteVideo}) {
+         {&ReframeJob::Open, &ReframeJob::ReadTrack, &ReframeJob::ReadChoices, &ReframeJob::SkipIfDone,
+          &ReframeJob::CheckTargets, &ReframeJob::FindCrops, &ReframeJob::WriteChoices, &ReframeJob::WriteKeyframes,
+          &ReframeJob::WriteEditLists, &ReframeJob::WriteReport, &ReframeJob::WritePreview, &ReframeJob::WriteVideo}) {
         if (KxInterrupt::IsRequested()) {
             return KxOutcome::Cancelled;
         }
@@ -154,26 +154,8 @@ ReframeJob::Ended ReframeJob::ReadChoices()
 
 ReframeJob::Ended ReframeJob::CheckTargets()
 {
-    QStringList targets;
-    if (!m_options.saveChoices.isEmpty()) {
-        targets += m_options.saveChoices;
-    }
-    if (!m_options.keyframes.isEmpty()) {
-        targets += TargetPath(m_options.keyframes, QStringLiteral("json"));
-    }
-    for (const QString& editList : m_options.editLists) {
-        targets += EditListPath(editList);
-    }
-    if (!m_options.report.isEmpty()) {
-        targets += TargetPath(m_options.report, QStringLiteral("html"));
-    }
-    if (!m_options.preview.isEmpty()) {
-        targets += TargetPath(m_options.preview, QStringLiteral("png"));
-    }
-    if (m_options.writesVideo) {
-        targets += TargetPath(m_options.output, QStringLiteral("mp4"));
-    }
-    for (const QString& target : qAsConst(targets)) {
+    const QStringList targets = Targets();
+    for (const QString& target : targets) {
         if (WouldReplaceInput(target)) {
             return Fail(Texts::tr("Cannot write %1: it is one of the inputs.").arg(target));
         }
@@ -285,6 +267,7 @@ CropTrack ReframeJob::Track() const
     track.speedName = m_options.speedName;
     track.crops = Helper().GetDisplayResults();
     track.otherShapes = m_otherShapes;
+    track.madeBy = RunText();
     if (!m_track) {
         track.models = KxAutoReframeService::Instance().LastModels();
     }
@@ -368,8 +351,34 @@ QString ReframeJob::TargetPath(const QString& named, const QString& suffix) cons
     return QDir(named.isEmpty() ? input.absolutePath() : named).filePath(name);
 }
 
+QStringList ReframeJob::Targets() const
+{
+    QStringList targets;
+    if (!m_options.saveChoices.isEmpty()) {
+        targets += m_options.saveChoices;
+    }
+    if (!m_options.keyframes.isEmpty()) {
+        targets += TargetPath(m_options.keyframes, QStringLiteral("json"));
+    }
+    for (const QString& editList : m_options.editLists) {
+        targets += EditListPath(editList);
+    }
+    if (!m_options.report.isEmpty()) {
+        targets += TargetPath(m_options.report, QStringLiteral("html"));
+    }
+    if (!m_options.preview.isEmpty()) {
+        targets += TargetPath(m_options.preview, QStringLiteral("png"));
+    }
+    if (m_options.writesVideo) {
+        targets += TargetPath(m_options.output, QStringLiteral("mp4"));
+    }
+    return targets;
+}
+
 KxOutputFile::Existing ReframeJob::WhenItExists(const QString& path) const
 {
-    const bool replaces = m_options.overwrites && !m_allWritten.contains(QFileInfo(path).absoluteFilePath());
-    return replaces ? KxOutputFile::Existing::Replace : KxOutputFile::Existing::AddNumber;
+    const bool isOfThisRun = m_allWritten.contains(QFileInfo(path).absoluteFilePath());
+    const bool isOurs = m_options.farm.ifNeeded && RunTextOf(path).endsWith(QString::fromLatin1(m_contentHash));
+    return !isOfThisRun && (m_options.overwrites || isOurs) ? KxOutputFile::Existing::Replace
+                                                            : KxOutputFile::Existing::AddNumber;
 }

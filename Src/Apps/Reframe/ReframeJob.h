@@ -39,6 +39,8 @@ private:
     Ended ReadTrack();
     /// Passes the person's choices to the analysis.
     Ended ReadChoices();
+    /// Notes what the results depend on. Ends the job if they are there already and --if-needed was given.
+    Ended SkipIfDone();
     /// Reports before the work what cannot be written and what must not be replaced.
     Ended CheckTargets();
     Ended FindCrops();
@@ -57,6 +59,11 @@ private:
     /// Reports progress (as that of `stage`) and warnings, and notes the file as `fact`.
     Ended Render(const KxRenderSource& source, const KxRenderSettings& settings, ReframeReporter::Stage stage,
                  const QString& fact);
+
+    /// What the results depend on, as it is stored in them.
+    QString RunText() const;
+    /// The text that is stored in a result of an earlier run; empty if there is none.
+    QString RunTextOf(const QString& path) const;
 
     KrAutoReframeHelper& Helper() const;
     CropTrack Track() const;
@@ -78,6 +85,8 @@ private:
     /// The file `named` itself; if that is a folder, a file in it that is named after the input; if it is empty, such a
     /// file beside the input.
     QString TargetPath(const QString& named, const QString& suffix) const;
+    /// Of all files that are asked for.
+    QStringList Targets() const;
     KxOutputFile::Existing WhenItExists(const QString& path) const;
     bool WouldReplaceInput(const QString& path) const;
     Ended WriteFile(const QString& path, const QByteArray& content, const QString& fact);
@@ -95,7 +104,9 @@ private:
     std::optional<CropTrack> m_track;
     /// Fitted if a choice or the track asks for the whole picture.
     KxRenderSource::OtherShapes m_otherShapes = KxRenderSource::OtherShapes::Stretched;
-    KxUsedEncoder m_encoder; ///< of the last video that was written
+    KxUsedEncoder m_encoder;  ///< of the last video that was written
+    QByteArray m_contentHash; ///< of the input
+    QString m_decisions;      ///< those of --apply and --choices, as a part of RunText()
     QJsonObject m_facts;
     QStringList& m_allWritten;
     QStringList m_written;

@@ -85,6 +85,7 @@ ReframeJob::Ended ReframeJob::WriteVideo()
     settings.format = video.format;
     settings.outputPath = TargetPath(m_options.output, QStringLiteral("mp4"));
     settings.existing = WhenItExists(settings.outputPath);
+    settings.comment = RunText();
 
     if (const Ended ended = Render(*source, settings, ReframeReporter::Stage::Render, QStringLiteral("output"))) {
         return ended;

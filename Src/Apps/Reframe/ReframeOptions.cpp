@@ -81,11 +81,14 @@ struct Definitions {
     QCommandLineOption help{{QStringLiteral("h"), QStringLiteral("help")}, Texts::tr("Show this text.")};
     QCommandLineOption version{QStringLiteral("version"), Texts::tr("Show the version.")};
 
+    FarmOptions::Definitions farm;
+
     QList<QCommandLineOption> All() const
     {
         return QList<QCommandLineOption>{aspect, speed, speaker, follow, choices, saveChoices, cache, output} +
-               video.All() + QList<QCommandLineOption>{keyframes, editList, apply, preview,  report, models, noVideo,
-                                                       overwrite, json,     quiet, language, help,   version};
+               video.All() + QList<QCommandLineOption>{keyframes, editList,  apply, preview, report,  models,
+                                                       noVideo,   overwrite, json,  quiet,   language} +
+               farm.All() + QList<QCommandLineOption>{help, version};
     }
 };
 
@@ -164,6 +167,9 @@ QString Contradiction(const ReframeOptions& options)
 {
     if (options.inputs.isEmpty()) {
         return Texts::tr("No input file was given.");
+    }
+    if (options.farm.WouldReplaceInput(options.inputs)) {
+        return QCoreApplication::translate("FarmOptions", "--status must not name an input.");
     }
     if (!options.writesVideo && !options.output.isEmpty()) {
         return Texts::tr("--output and --no-video exclude each other.");
@@ -249,7 +255,8 @@ ReframeOptions::Parsed ReframeOptions::Parse(const QStringList& arguments)
     parser.setApplicationDescription(
         Texts::tr("Turns a video into another aspect ratio and keeps its subject in the picture."));
     parser.addOptions(definitions.All());
-    parser.addPositionalArgument(QStringLiteral("INPUT"), Texts::tr("The video files to reframe."),
+    parser.addPositionalArgument(QStringLiteral("INPUT"),
+                                 Texts::tr("The video files to reframe; a folder is all videos in it."),
                                  QStringLiteral("INPUT..."));
     parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
     if (!parser.parse(arguments)) {
@@ -303,8 +310,14 @@ ReframeOptions::Parsed ReframeOptions::Parse(const QStringList& arguments)
         return WrongUse(Texts::tr("--speaker takes auto or off; \"%1\" is neither.").arg(speaker));
     }
     options.followsSpeaker = speaker == QLatin1String("auto");
-    options.inputs = KxPlatform::ShellExpandsWildcards() ? parser.positionalArguments()
-                                                         : KxWildcards::Expand(parser.positionalArguments());
+    const QStringList named = KxPlatform::ShellExpandsWildcards() ? parser.positionalArguments()
+                                                                  : KxWildcards::Expand(parser.positionalArguments());
+    const KxResult<QStringList> inputs = FarmOptions::Inputs(named, parser, definitions.farm);
+    if (!inputs) {
+        return WrongUse(inputs.Message());
+    }
+    options.inputs = *inputs;
+    options.farm = FarmOptions::Parse(parser, definitions.farm);
     options.output = parser.value(definitions.output);
     const KxResult<OutputOptions> video = OutputOptions::Parse(parser, definitions.video);
     if (!video) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <Apps/Reframe/FarmOptions.h>
 #include <Apps/Reframe/FollowOption.h>
 #include <Apps/Reframe/OutputOptions.h>
 #include <KxCore/KxResult.h>
@@ -31,6 +32,7 @@ struct ReframeOptions {
     bool overwrites = false;
     bool json = false;
     bool quiet = false;
+    FarmOptions farm;
 
     /// Whether the preview is a video and not a contact sheet.
     bool PreviewIsVideo() const;

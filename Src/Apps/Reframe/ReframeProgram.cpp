@@ -23,26 +23,23 @@ int InterruptedStatus()
     return KxInterrupt::IsTermination() ? ReframeExit::Terminated : ReframeExit::Interrupted;
 }
 
-} // namespace
-
-int ReframeProgram::Run(const ReframeOptions& options)
+void PrepareAnalysis(const ReframeOptions& options, const QString& networkFolder)
 {
     KxAutoReframeService::PrepareProgram();
-    const KxDetectorFiles::NetworkFolder networks = KxDetectorFiles::FindNetworks(options.models);
-    KxAutoReframeService::Instance().SetNetworkFolder(networks.path);
-    const bool explains =
-        !options.report.isEmpty() || options.PreviewIsVideo() || options.json || !options.editLists.isEmpty();
-    KxAutoReframeService::Instance().SetFindings(explains ? KxAutoReframeService::Findings::Keep
-                                                          : KxAutoReframeService::Findings::Drop);
-    KxAutoReframeService::Instance().SetSpeakers(options.followsSpeaker ? KxAutoReframeService::Speakers::Follow
-                                                                        : KxAutoReframeService::Speakers::Ignore);
-    KxAutoReframeService::Instance().SetRecordFolder(KxRecordStore::ChooseFolder(options.cache));
-    ReframeReporter reporter(options);
+    KxAutoReframeService& service = KxAutoReframeService::Instance();
+    service.SetNetworkFolder(networkFolder);
+    const bool explains = !options.report.isEmpty() || options.PreviewIsVideo() || options.json ||
+                          !options.editLists.isEmpty() || !options.farm.status.isEmpty();
+    service.SetFindings(explains ? KxAutoReframeService::Findings::Keep : KxAutoReframeService::Findings::Drop);
+    service.SetSpeakers(options.followsSpeaker ? KxAutoReframeService::Speakers::Follow
+                                               : KxAutoReframeService::Speakers::Ignore);
+    service.SetRecordFolder(KxRecordStore::ChooseFolder(options.cache));
+}
+
+int RunAll(const ReframeOptions& options, ReframeReporter& reporter)
+{
     QStringList written;
     int status = ReframeExit::Done;
-    if (networks.isWanted && networks.path.isEmpty() && options.apply.isEmpty()) {
-        reporter.Warn(options.inputs.first(), KxDetectorFiles::MissingNetworks());
-    }
     for (const QString& input : options.inputs) {
         for (const QSize& aspect : options.aspects) {
             KxOutcome outcome = KxOutcome::Failed;
@@ -60,4 +57,27 @@ int ReframeProgram::Run(const ReframeOptions& options)
         }
     }
     return reporter.OutputProblem() ? ReframeExit::SomeFailed : status;
+}
+
+} // namespace
+
+int ReframeProgram::Run(const ReframeOptions& options)
+{
+    const KxDetectorFiles::NetworkFolder networks = KxDetectorFiles::FindNetworks(options.models);
+    PrepareAnalysis(options, networks.path);
+    ReframeReporter reporter(options);
+    const QString first = options.inputs.first();
+    if (const KxError problem = reporter.StatusProblem()) {
+        reporter.Fail(first, *problem);
+        return ReframeExit::SomeFailed;
+    }
+    if (networks.isWanted && networks.path.isEmpty() && options.apply.isEmpty()) {
+        reporter.Warn(first, KxDetectorFiles::MissingNetworks());
+    }
+    const int status = RunAll(options, reporter);
+    reporter.End(status);
+    if (const KxError problem = reporter.StatusProblem()) {
+        reporter.Warn(first, *problem);
+    }
+    return status;
 }

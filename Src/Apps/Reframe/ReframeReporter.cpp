@@ -61,6 +61,7 @@ ReframeReporter::ReframeReporter(const ReframeOptions& options)
     : m_format(options.json ? Format::Json : Format::Text)
     , m_quiet(options.quiet)
     , m_showsLine(!options.quiet && !options.json && KxTerminal::IsErrorStreamInteractive())
+    , m_status(options.farm.status)
 {
 }
 
@@ -81,14 +82,15 @@ void ReframeReporter::BeginStage(const QString& input, Stage stage)
 void ReframeReporter::Progress(int progress)
 {
     const int percent = progress / 100;
-    if (m_quiet || percent == m_lastPercent) {
+    if (percent == m_lastPercent) {
         return;
     }
     m_lastPercent = percent;
-    if (m_format == Format::Json) {
+    if (WritesJson()) {
         WriteJson(QStringLiteral("progress"), m_input,
                   {{QStringLiteral("stage"), StageName(m_stage)}, {QStringLiteral("percent"), percent}});
-    } else if (m_showsLine) {
+    }
+    if (m_showsLine) {
         const QString line = StageLine(m_stage).arg(QFileInfo(m_input).fileName(), QString::number(percent),
                                                     TimeLeft::Text(m_stageTimer.elapsed(), progress));
         WriteError("\r\033[K" + line.toLocal8Bit());
@@ -98,7 +100,7 @@ void ReframeReporter::Progress(int progress)
 
 void ReframeReporter::Warn(const QString& input, const QString& message)
 {
-    if (m_format == Format::Json) {
+    if (WritesJson()) {
         WriteJson(QStringLiteral("warning"), input, {{QStringLiteral("message"), message}});
     }
     ClearLine();
@@ -109,7 +111,7 @@ void ReframeReporter::Warn(const QString& input, const QString& message)
 
 void ReframeReporter::Fail(const QString& input, const QString& message)
 {
-    if (m_format == Format::Json) {
+    if (WritesJson()) {
         WriteJson(QStringLiteral("error"), input, {{QStringLiteral("message"), message}});
     }
     ClearLine();
@@ -118,19 +120,40 @@ void ReframeReporter::Fail(const QString& input, const QString& message)
 
 void ReframeReporter::Succeed(const QString& input, const QString& message, const QJsonObject& facts)
 {
+    Conclude(QStringLiteral("done"), input, message, facts);
+}
+
+void ReframeReporter::Skip(const QString& input, const QString& message, const QJsonObject& facts)
+{
+    Conclude(QStringLiteral("skipped"), input, message, facts);
+}
+
+void ReframeReporter::Conclude(const QString& event, const QString& input, const QString& message,
+                               const QJsonObject& facts)
+{
     ClearLine();
-    if (m_format == Format::Json) {
-        WriteJson(QStringLiteral("done"), input, facts);
-    } else if (!m_quiet) {
+    WriteJson(event, input, facts);
+    if (m_format == Format::Text && !m_quiet) {
         WriteOutput(message.toLocal8Bit() + '\n');
     }
+}
+
+void ReframeReporter::End(int exitStatus)
+{
+    m_status.Write({{QStringLiteral("event"), QStringLiteral("end")}, {QStringLiteral("exit_status"), exitStatus}});
 }
 
 void ReframeReporter::WriteJson(const QString& event, const QString& input, QJsonObject facts)
 {
     facts.insert(QStringLiteral("event"), event);
     facts.insert(QStringLiteral("input"), input);
-    WriteOutput(QJsonDocument(facts).toJson(QJsonDocument::Compact) + '\n');
+    m_status.Write(facts);
+    if (m_format == Format::Json) {
+        // Quiet is without progress.
+        if (!m_quiet || event != QLatin1String("progress")) {
+            WriteOutput(QJsonDocument(facts).toJson(QJsonDocument::Compact) + '\n');
+        }
+    }
 }
 
 void ReframeReporter::WriteOutput(const QByteArray& text)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <Apps/Reframe/StatusFile.h>
 #include <KxCore/KxResult.h>
 
 #include <QElapsedTimer>
@@ -34,13 +35,24 @@ public:
     /// `facts` go into the JSON line; `message` is for people.
     void Succeed(const QString& input, const QString& message, const QJsonObject& facts);
 
+    /// The results of an input were there already.
+    void Skip(const QString& input, const QString& message, const QJsonObject& facts);
+    /// The run ends with this exit status: the last line of the status file.
+    void End(int exitStatus);
+
     /// Why standard output could not be written; nothing while it can.
     const KxError& OutputProblem() const { return m_outputProblem; }
+
+    /// The same for the status file, which the run does not depend on.
+    const KxError& StatusProblem() const { return m_status.Problem(); }
 
 private:
     enum class Format { Text, Json };
 
+    void Conclude(const QString& event, const QString& input, const QString& message, const QJsonObject& facts);
+    /// To the status file, and to standard output if that is asked for.
     void WriteJson(const QString& event, const QString& input, QJsonObject facts);
+    bool WritesJson() const { return m_format == Format::Json || m_status.IsWanted(); }
     void WriteOutput(const QByteArray& text);
     void ClearLine();
 
@@ -53,4 +65,5 @@ private:
     int m_lastPercent = -1;
     bool m_lineShown = false;
     KxError m_outputProblem;
+    StatusFile m_status;
 };

@@ -1,0 +1,63 @@
+#include <Apps/Reframe/ReframeJob.h>
+
+#include <KxCore/KxInterrupt.h>
+#include <KxMedia/Read/KxFileComment.h>
+#include <KxModel/KxRecordStore.h>
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QJsonArray>
+
+#include <algorithm>
+
+QString ReframeJob::RunText() const
+{
+    return QStringLiteral("%1%2 aspect=%3:%4 input=%5")
+        .arg(QString::fromUtf8(m_options.farm.settings), m_decisions, QString::number(m_aspect.width()),
+             QString::number(m_aspect.height()), QString::fromLatin1(m_contentHash));
+}
+
+QString ReframeJob::RunTextOf(const QString& path) const
+{
+    const QString suffix = QFileInfo(path).suffix().toLower();
+    if (suffix == QLatin1String("json")) {
+        return CropTrackFile::MadeBy(path);
+    }
+    const bool isVideo = suffix == QLatin1String("mp4") || suffix == QLatin1String("m4v");
+    return isVideo && QFileInfo(path).isFile() ? KxFileComment(path, KxInterrupt::Token()) : QString();
+}
+
+ReframeJob::Ended ReframeJob::SkipIfDone()
+{
+    m_contentHash = KxRecordStore::ContentHash(m_input);
+    if (!m_options.apply.isEmpty()) {
+        m_decisions += QStringLiteral(" apply=") + QString::fromLatin1(FarmOptions::ContentHash(m_options.apply));
+    }
+    if (!m_options.choices.isEmpty()) {
+        m_decisions += QStringLiteral(" choices=") + QString::fromLatin1(FarmOptions::ContentHash(m_options.choices));
+    }
+    const QStringList targets = Targets();
+    if (!m_options.farm.ifNeeded || targets.isEmpty()) {
+        return std::nullopt;
+    }
+    // Files that carry no settings are written before the video: they are those of the run that wrote it.
+    int carriers = 0;
+    for (const QString& target : targets) {
+        const QString text = RunTextOf(target);
+        carriers += text.isEmpty() ? 0 : 1;
+        if (!QFileInfo(target).isFile() || (!text.isEmpty() && text != RunText())) {
+            return std::nullopt;
+        }
+    }
+    if (carriers == 0) {
+        return std::nullopt;
+    }
+    for (const QString& target : targets) {
+        m_allWritten += QFileInfo(target).absoluteFilePath();
+    }
+    m_reporter.Skip(m_input,
+                    QCoreApplication::translate("ReframeJob", "%1: skipped, up to date: %2")
+                        .arg(m_input, targets.join(QStringLiteral(", "))),
+                    {{QStringLiteral("files"), QJsonArray::fromStringList(targets)}});
+    return KxOutcome::Done;
+}

@@ -1,0 +1,147 @@
+#include <Tests/Reframe/ReframeRun.h>
+#include <Tests/Support/MadeVideo.h>
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace
+{
+
+class ReframeFarmTest : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        ASSERT_TRUE(QDir(m_folder.path()).mkpath(QStringLiteral("in/sub")));
+        ASSERT_TRUE(QDir(m_folder.path()).mkpath(QStringLiteral("out")));
+        MakeClip(QStringLiteral("in/a.mp4"), 40);
+    }
+    QString Path(const QString& name) const { return m_folder.filePath(name); }
+
+    void MakeClip(const QString& name, int frames) const
+    {
+        MadeVideo::Recipe recipe;
+        recipe.frames = frames;
+        recipe.output = QStringList{QStringLiteral("-c:v"), QStringLiteral("libx264"), QStringLiteral("-pix_fmt"),
+                                    QStringLiteral("yuv420p")};
+        ASSERT_TRUE(MadeVideo::Make(Path(name), recipe));
+    }
+    void WriteFile(const QString& name, const QByteArray& content) const
+    {
+        QFile file(Path(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        ASSERT_EQ(file.write(content), content.size());
+    }
+    QByteArray Content(const QString& name) const
+    {
+        QFile file(Path(name));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+    QStringList Results() const { return QDir(Path(QStringLiteral("out"))).entryList(QDir::Files, QDir::Name); }
+
+    /// What the program prints when it writes crop tracks of the inputs only.
+    QString Reframe(const QStringList& arguments, int exitStatus = 0) const
+    {
+        const ReframeRun run(
+            QStringList{QStringLiteral("--no-video"), QStringLiteral("--keyframes"), Path(QStringLiteral("out"))} +
+            arguments);
+        EXPECT_EQ(run.exitStatus, exitStatus) << run.standardError.toStdString();
+        return run.standardOutput;
+    }
+
+    const QString m_track = QStringLiteral("out/a-AutoReframe-9 16.json");
+    QTemporaryDir m_folder;
+};
+
+} // namespace
+
+TEST_F(ReframeFarmTest, AFolderIsTheVideosInItWithoutResults)
+{
+    MakeClip(QStringLiteral("in/sub/b.mp4"), 40);
+    WriteFile(QStringLiteral("in/notes.txt"), "no video");
+    WriteFile(QStringLiteral("in/a-AutoReframe-9 16.mp4"), "a result");
+    WriteFile(QStringLiteral("in/a-AutoReframe-9 16 (2).mp4"), "a result");
+    Reframe({Path(QStringLiteral("in"))});
+    EXPECT_EQ(Results(), QStringList{QStringLiteral("a-AutoReframe-9 16.json")});
+    Reframe({QStringLiteral("--recursive"), QStringLiteral("--overwrite"), Path(QStringLiteral("in"))});
+    EXPECT_EQ(Results(),
+              QStringList({QStringLiteral("a-AutoReframe-9 16.json"), QStringLiteral("b-AutoReframe-9 16.json")}));
+}
+
+TEST_F(ReframeFarmTest, InputsComeFromAFile)
+{
+    WriteFile(QStringLiteral("list"), Path(QStringLiteral("in/a.mp4")).toUtf8() + "\r\n\n");
+    Reframe({QStringLiteral("--inputs"), Path(QStringLiteral("list"))});
+    EXPECT_EQ(Results(), QStringList{QStringLiteral("a-AutoReframe-9 16.json")});
+    Reframe({QStringLiteral("--inputs"), Path(QStringLiteral("missing"))}, 2);
+}
+
+TEST_F(ReframeFarmTest, TheStatusFileHasEachEventAndTheExitStatus)
+{
+    const QString out = Reframe({QStringLiteral("--quiet"), QStringLiteral("--status"), Path(QStringLiteral("status")),
+                                 Path(QStringLiteral("in/a.mp4")), Path(QStringLiteral("missing.mp4"))},
+                                1);
+    EXPECT_EQ(out, QString());
+    QStringList events;
+    QJsonObject last;
+    for (const QByteArray& line : Content(QStringLiteral("status")).trimmed().split('\n')) {
+        last = QJsonDocument::fromJson(line).object();
+        const QString event = last.value(QStringLiteral("event")).toString();
+        if (events.isEmpty() || events.last() != event) {
+            events += event;
+        }
+    }
+    EXPECT_EQ(events, QStringList({QStringLiteral("progress"), QStringLiteral("done"), QStringLiteral("error"),
+                                   QStringLiteral("end")}));
+    EXPECT_EQ(last.value(QStringLiteral("exit_status")).toInt(), 1);
+    const QString clip = Path(QStringLiteral("in/a.mp4"));
+    const qint64 bytes = QFileInfo(clip).size();
+    Reframe({QStringLiteral("--status"), clip, clip}, 2);
+    EXPECT_EQ(QFileInfo(clip).size(), bytes);
+    Reframe({QStringLiteral("--status"), Path(QStringLiteral("none/status")), Path(QStringLiteral("in/a.mp4"))}, 1);
+}
+
+TEST_F(ReframeFarmTest, OnlyWhatIsNotUpToDateIsDone)
+{
+    const QStringList arguments{QStringLiteral("--if-needed"), Path(QStringLiteral("in/a.mp4"))};
+    const QString skipped = QStringLiteral("skipped");
+    EXPECT_FALSE(Reframe(arguments).contains(skipped));
+    const QByteArray first = Content(m_track);
+    EXPECT_TRUE(Reframe(arguments).contains(skipped));
+    EXPECT_EQ(Content(m_track), first);
+    // Other settings: the same file is replaced.
+    EXPECT_FALSE(Reframe(arguments + QStringList{QStringLiteral("--speed"), QStringLiteral("slow")}).contains(skipped));
+    EXPECT_NE(Content(m_track), first);
+    EXPECT_EQ(Results().size(), 1);
+    // Another input of this name: what belongs to the former one stays.
+    const QByteArray second = Content(m_track);
+    MakeClip(QStringLiteral("in/a.mp4"), 50);
+    EXPECT_FALSE(Reframe(arguments).contains(skipped));
+    EXPECT_EQ(Content(m_track), second);
+    EXPECT_EQ(Results().size(), 2);
+}
+
+TEST_F(ReframeFarmTest, AVideoKnowsWhatItWasMadeOf)
+{
+    const QStringList arguments{QStringLiteral("--if-needed"), QStringLiteral("--output"), Path(QStringLiteral("out")),
+                                Path(QStringLiteral("in/a.mp4"))};
+    const QString video = QStringLiteral("out/a-AutoReframe-9 16.mp4");
+    WriteFile(video, "a file of somebody else");
+    const ReframeRun first(arguments);
+    ASSERT_EQ(first.exitStatus, 0) << first.standardError.toStdString();
+    EXPECT_EQ(Content(video), "a file of somebody else");
+    EXPECT_EQ(Results().size(), 2);
+    ASSERT_TRUE(QFile::remove(Path(video)));
+    ASSERT_EQ(ReframeRun(arguments).exitStatus, 0);
+    const QByteArray content = Content(video);
+    const ReframeRun again(arguments);
+    EXPECT_EQ(again.exitStatus, 0);
+    EXPECT_TRUE(again.standardOutput.contains(QLatin1String("skipped"))) << again.standardOutput.toStdString();
+    EXPECT_EQ(Content(video), content);
+}
