@@ -7,13 +7,14 @@ include(CMakePackageConfigHelpers)
 add_custom_target(installed-parts)
 add_dependencies(installed-parts KxCore KxMedia KxSubject KxModel KxRender KxEditList KxWidgets KxPlayer KxMediaLibrary KrAutoReframe
     reframe auto-reframe AutoReframeBackend)
+install(CODE "execute_process(
+    COMMAND \"${CMAKE_COMMAND}\" --build \"${CMAKE_BINARY_DIR}\" --target installed-parts COMMAND_ERROR_IS_FATAL ANY)"
+    ALL_COMPONENTS)
+# After the code that builds them: rules are followed in their order.
 if(NOT WIN32)
     include(KrDesktopFiles)
     add_dependencies(installed-parts KrDesktopFiles)
 endif()
-install(CODE "execute_process(
-    COMMAND \"${CMAKE_COMMAND}\" --build \"${CMAKE_BINARY_DIR}\" --target installed-parts COMMAND_ERROR_IS_FATAL ANY)"
-    ALL_COMPONENTS)
 
 set(libraries KxCore KxMedia KxSubject KxModel KxRender KxEditList KxWidgets KxPlayer KxMediaLibrary KrAutoReframe)
 install(TARGETS KxInterfaces ${libraries}
