@@ -680,6 +680,33 @@ Das Kommandozeilenprogramm für viele Dateien auf einmal heißt reframe.</transl
     </message>
 </context>
 <context>
+    <name>FarmOptions</name>
+    <message>
+        <source>Cannot open %1: %2.</source>
+        <translation>%1 kann nicht geöffnet werden: %2.</translation>
+    </message>
+    <message>
+        <source>Cannot read the folder %1.</source>
+        <translation>Der Ordner %1 kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>Of a folder that is an input, take the videos in its subfolders too.</source>
+        <translation>Ist eine Eingabe ein Ordner, auch die Videos in seinen Unterordnern nehmen.</translation>
+    </message>
+    <message>
+        <source>Read more inputs from FILE, one a line; - is standard input.</source>
+        <translation>Weitere Eingaben aus FILE lesen, eine je Zeile; - ist die Standardeingabe.</translation>
+    </message>
+    <message>
+        <source>Write progress and results to FILE as JSON lines, whatever is printed.</source>
+        <translation>Fortschritt und Ergebnisse als JSON-Zeilen in FILE schreiben, was auch immer ausgegeben wird.</translation>
+    </message>
+    <message>
+        <source>Skip inputs whose results are there already, from the same content, settings and version; replace results of other settings.</source>
+        <translation>Eingaben überspringen, deren Ergebnisse aus demselben Inhalt, mit denselben Einstellungen und derselben Version schon da sind; Ergebnisse anderer Einstellungen ersetzen.</translation>
+    </message>
+</context>
+<context>
     <name>FollowOption</name>
     <message>
         <source>the video ends after %1 s</source>
@@ -2430,18 +2457,6 @@ Benötigt: %1 MB, verfügbar: %2 MB.</translation>
         <translation>Ausschnittspuren</translation>
     </message>
     <message>
-        <source>Export %1 with the crops of %2?</source>
-        <translation>%1 mit den Ausschnitten von %2 exportieren?</translation>
-    </message>
-    <message>
-        <source>Export</source>
-        <translation>Exportieren</translation>
-    </message>
-    <message>
-        <source>%1, to %2</source>
-        <translation>%1, nach %2</translation>
-    </message>
-    <message>
         <source>The file for %1 was saved.</source>
         <translation>Die Datei für %1 wurde gespeichert.</translation>
     </message>
@@ -2835,6 +2850,13 @@ Benötigt: %1 MB, verfügbar: %2 MB.</translation>
     </message>
 </context>
 <context>
+    <name>ReframeJobNeed</name>
+    <message>
+        <source>%1: skipped, up to date: %2</source>
+        <translation>%1: übersprungen, aktuell: %2</translation>
+    </message>
+</context>
+<context>
     <name>ReframeOptions</name>
     <message>
         <source>Aspect ratio of the result (9:16); several with commas between them: the video is looked at once.</source>
@@ -3006,6 +3028,10 @@ Hilfe: reframe --help.</translation>
         <source>--speaker takes auto or off; &quot;%1&quot; is neither.</source>
         <translation>--speaker nimmt auto oder off; „%1“ ist keines von beiden.</translation>
     </message>
+    <message>
+        <source>--status must not name an input.</source>
+        <translation>--status darf keine Eingabe nennen.</translation>
+    </message>
 </context>
 <context>
     <name>ReframeProgram</name>
@@ -3062,6 +3088,13 @@ Hilfe: reframe --help.</translation>
     <message>
         <source>Cancel</source>
         <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>StatusFile</name>
+    <message>
+        <source>Cannot write %1: %2.</source>
+        <translation>%1 kann nicht geschrieben werden: %2.</translation>
     </message>
 </context>
 <context>

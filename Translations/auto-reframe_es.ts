@@ -680,6 +680,33 @@ El programa de línea de órdenes para muchos archivos a la vez es reframe.</tra
     </message>
 </context>
 <context>
+    <name>FarmOptions</name>
+    <message>
+        <source>Cannot open %1: %2.</source>
+        <translation>No se puede abrir %1: %2.</translation>
+    </message>
+    <message>
+        <source>Cannot read the folder %1.</source>
+        <translation>No se puede leer la carpeta %1.</translation>
+    </message>
+    <message>
+        <source>Of a folder that is an input, take the videos in its subfolders too.</source>
+        <translation>Si una entrada es una carpeta, tomar también los vídeos de sus subcarpetas.</translation>
+    </message>
+    <message>
+        <source>Read more inputs from FILE, one a line; - is standard input.</source>
+        <translation>Leer más entradas de FILE, una por línea; - es la entrada estándar.</translation>
+    </message>
+    <message>
+        <source>Write progress and results to FILE as JSON lines, whatever is printed.</source>
+        <translation>Escribir el progreso y los resultados en FILE como líneas JSON, se muestre lo que se muestre.</translation>
+    </message>
+    <message>
+        <source>Skip inputs whose results are there already, from the same content, settings and version; replace results of other settings.</source>
+        <translation>Omitir las entradas cuyos resultados ya existen, con el mismo contenido, ajustes y versión; reemplazar los resultados de otros ajustes.</translation>
+    </message>
+</context>
+<context>
     <name>FollowOption</name>
     <message>
         <source>the video ends after %1 s</source>
@@ -2430,18 +2457,6 @@ Espacio necesario: %1 MB, disponible: %2 MB.</translation>
         <translation>Pistas de encuadre</translation>
     </message>
     <message>
-        <source>Export %1 with the crops of %2?</source>
-        <translation>¿Exportar %1 con los encuadres de %2?</translation>
-    </message>
-    <message>
-        <source>Export</source>
-        <translation>Exportar</translation>
-    </message>
-    <message>
-        <source>%1, to %2</source>
-        <translation>%1, en %2</translation>
-    </message>
-    <message>
         <source>The file for %1 was saved.</source>
         <translation>Se guardó el archivo para %1.</translation>
     </message>
@@ -2835,6 +2850,13 @@ Espacio necesario: %1 MB, disponible: %2 MB.</translation>
     </message>
 </context>
 <context>
+    <name>ReframeJobNeed</name>
+    <message>
+        <source>%1: skipped, up to date: %2</source>
+        <translation>%1: omitido, ya está al día: %2</translation>
+    </message>
+</context>
+<context>
     <name>ReframeOptions</name>
     <message>
         <source>Aspect ratio of the result (9:16); several with commas between them: the video is looked at once.</source>
@@ -3006,6 +3028,10 @@ Consultar reframe --help.</translation>
         <source>--speaker takes auto or off; &quot;%1&quot; is neither.</source>
         <translation>--speaker admite auto u off; «%1» no es ninguno de los dos.</translation>
     </message>
+    <message>
+        <source>--status must not name an input.</source>
+        <translation>--status no debe indicar una entrada.</translation>
+    </message>
 </context>
 <context>
     <name>ReframeProgram</name>
@@ -3062,6 +3088,13 @@ Consultar reframe --help.</translation>
     <message>
         <source>Cancel</source>
         <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>StatusFile</name>
+    <message>
+        <source>Cannot write %1: %2.</source>
+        <translation>No se puede escribir %1: %2.</translation>
     </message>
 </context>
 <context>

@@ -680,6 +680,33 @@ Le programme en ligne de commande pour plusieurs fichiers à la fois est reframe
     </message>
 </context>
 <context>
+    <name>FarmOptions</name>
+    <message>
+        <source>Cannot open %1: %2.</source>
+        <translation>Impossible d’ouvrir %1&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>Cannot read the folder %1.</source>
+        <translation>Impossible de lire le dossier %1.</translation>
+    </message>
+    <message>
+        <source>Of a folder that is an input, take the videos in its subfolders too.</source>
+        <translation>Si une entrée est un dossier, prendre aussi les vidéos de ses sous-dossiers.</translation>
+    </message>
+    <message>
+        <source>Read more inputs from FILE, one a line; - is standard input.</source>
+        <translation>Lire d’autres entrées dans FILE, une par ligne ; - est l’entrée standard.</translation>
+    </message>
+    <message>
+        <source>Write progress and results to FILE as JSON lines, whatever is printed.</source>
+        <translation>Écrire la progression et les résultats dans FILE en lignes JSON, quoi qu’il soit affiché.</translation>
+    </message>
+    <message>
+        <source>Skip inputs whose results are there already, from the same content, settings and version; replace results of other settings.</source>
+        <translation>Ignorer les entrées dont les résultats existent déjà, avec le même contenu, les mêmes réglages et la même version ; remplacer les résultats d’autres réglages.</translation>
+    </message>
+</context>
+<context>
     <name>FollowOption</name>
     <message>
         <source>the video ends after %1 s</source>
@@ -2430,18 +2457,6 @@ Espace nécessaire&#xa0;: %1 Mo, disponible&#xa0;: %2 Mo.</translation>
         <translation>Pistes de cadrage</translation>
     </message>
     <message>
-        <source>Export %1 with the crops of %2?</source>
-        <translation>Exporter %1 avec les cadres de %2&#xa0;?</translation>
-    </message>
-    <message>
-        <source>Export</source>
-        <translation>Exporter</translation>
-    </message>
-    <message>
-        <source>%1, to %2</source>
-        <translation>%1, vers %2</translation>
-    </message>
-    <message>
         <source>The file for %1 was saved.</source>
         <translation>Le fichier pour %1 a été enregistré.</translation>
     </message>
@@ -2835,6 +2850,13 @@ Espace nécessaire&#xa0;: %1 Mo, disponible&#xa0;: %2 Mo.</translation>
     </message>
 </context>
 <context>
+    <name>ReframeJobNeed</name>
+    <message>
+        <source>%1: skipped, up to date: %2</source>
+        <translation>%1 : ignoré, déjà à jour : %2</translation>
+    </message>
+</context>
+<context>
     <name>ReframeOptions</name>
     <message>
         <source>Aspect ratio of the result (9:16); several with commas between them: the video is looked at once.</source>
@@ -3006,6 +3028,10 @@ Voir reframe --help.</translation>
         <source>--speaker takes auto or off; &quot;%1&quot; is neither.</source>
         <translation>--speaker prend auto ou off&#xa0;; «&#xa0;%1&#xa0;» n’est ni l’un ni l’autre.</translation>
     </message>
+    <message>
+        <source>--status must not name an input.</source>
+        <translation>--status ne doit pas désigner une entrée.</translation>
+    </message>
 </context>
 <context>
     <name>ReframeProgram</name>
@@ -3062,6 +3088,13 @@ Voir reframe --help.</translation>
     <message>
         <source>Cancel</source>
         <translation>Annuler</translation>
+    </message>
+</context>
+<context>
+    <name>StatusFile</name>
+    <message>
+        <source>Cannot write %1: %2.</source>
+        <translation>Impossible d’écrire %1&#xa0;: %2.</translation>
     </message>
 </context>
 <context>

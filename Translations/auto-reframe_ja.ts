@@ -674,6 +674,33 @@ The command line program for many files at once is reframe.</source>
     </message>
 </context>
 <context>
+    <name>FarmOptions</name>
+    <message>
+        <source>Cannot open %1: %2.</source>
+        <translation>%1 を開けません: %2。</translation>
+    </message>
+    <message>
+        <source>Cannot read the folder %1.</source>
+        <translation>フォルダー %1 を読み込めません。</translation>
+    </message>
+    <message>
+        <source>Of a folder that is an input, take the videos in its subfolders too.</source>
+        <translation>入力がフォルダーの場合、サブフォルダーの動画も対象にします。</translation>
+    </message>
+    <message>
+        <source>Read more inputs from FILE, one a line; - is standard input.</source>
+        <translation>FILE から入力を 1 行に 1 つずつ読み込みます。- は標準入力です。</translation>
+    </message>
+    <message>
+        <source>Write progress and results to FILE as JSON lines, whatever is printed.</source>
+        <translation>表示の設定に関係なく、進行状況と結果を JSON の行として FILE に書き込みます。</translation>
+    </message>
+    <message>
+        <source>Skip inputs whose results are there already, from the same content, settings and version; replace results of other settings.</source>
+        <translation>同じ内容、設定、バージョンによる結果がすでにある入力をスキップし、別の設定による結果は置き換えます。</translation>
+    </message>
+</context>
+<context>
     <name>FollowOption</name>
     <message>
         <source>the video ends after %1 s</source>
@@ -2414,18 +2441,6 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
         <translation>クロップトラック</translation>
     </message>
     <message>
-        <source>Export %1 with the crops of %2?</source>
-        <translation>%2 のクロップで %1 を書き出しますか？</translation>
-    </message>
-    <message>
-        <source>Export</source>
-        <translation>書き出し</translation>
-    </message>
-    <message>
-        <source>%1, to %2</source>
-        <translation>%1、%2 に保存</translation>
-    </message>
-    <message>
         <source>The file for %1 was saved.</source>
         <translation>%1 用のファイルを保存しました。</translation>
     </message>
@@ -2814,6 +2829,13 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
     </message>
 </context>
 <context>
+    <name>ReframeJobNeed</name>
+    <message>
+        <source>%1: skipped, up to date: %2</source>
+        <translation>%1: スキップしました。最新です: %2</translation>
+    </message>
+</context>
+<context>
     <name>ReframeOptions</name>
     <message>
         <source>Aspect ratio of the result (9:16); several with commas between them: the video is looked at once.</source>
@@ -2985,6 +3007,10 @@ reframe --help を参照してください。</translation>
         <source>--speaker takes auto or off; &quot;%1&quot; is neither.</source>
         <translation>--speaker には auto または off を指定します。「%1」はどちらでもありません。</translation>
     </message>
+    <message>
+        <source>--status must not name an input.</source>
+        <translation>--status に入力ファイルは指定できません。</translation>
+    </message>
 </context>
 <context>
     <name>ReframeProgram</name>
@@ -3041,6 +3067,13 @@ reframe --help を参照してください。</translation>
     <message>
         <source>Cancel</source>
         <translation>キャンセル</translation>
+    </message>
+</context>
+<context>
+    <name>StatusFile</name>
+    <message>
+        <source>Cannot write %1: %2.</source>
+        <translation>%1 に書き込めません: %2。</translation>
     </message>
 </context>
 <context>

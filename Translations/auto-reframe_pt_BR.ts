@@ -680,6 +680,33 @@ O programa de linha de comando para muitos arquivos de uma vez é o reframe.</tr
     </message>
 </context>
 <context>
+    <name>FarmOptions</name>
+    <message>
+        <source>Cannot open %1: %2.</source>
+        <translation>Não é possível abrir %1: %2.</translation>
+    </message>
+    <message>
+        <source>Cannot read the folder %1.</source>
+        <translation>Não é possível ler a pasta %1.</translation>
+    </message>
+    <message>
+        <source>Of a folder that is an input, take the videos in its subfolders too.</source>
+        <translation>Se uma entrada for uma pasta, usar também os vídeos das subpastas.</translation>
+    </message>
+    <message>
+        <source>Read more inputs from FILE, one a line; - is standard input.</source>
+        <translation>Ler mais entradas de FILE, uma por linha; - é a entrada padrão.</translation>
+    </message>
+    <message>
+        <source>Write progress and results to FILE as JSON lines, whatever is printed.</source>
+        <translation>Gravar o progresso e os resultados em FILE como linhas JSON, seja o que for exibido.</translation>
+    </message>
+    <message>
+        <source>Skip inputs whose results are there already, from the same content, settings and version; replace results of other settings.</source>
+        <translation>Ignorar entradas cujos resultados já existem, do mesmo conteúdo, ajustes e versão; substituir resultados de outros ajustes.</translation>
+    </message>
+</context>
+<context>
     <name>FollowOption</name>
     <message>
         <source>the video ends after %1 s</source>
@@ -2430,18 +2457,6 @@ Espaço necessário: %1 MB, disponível: %2 MB.</translation>
         <translation>Trilhas de corte</translation>
     </message>
     <message>
-        <source>Export %1 with the crops of %2?</source>
-        <translation>Exportar %1 com os cortes de %2?</translation>
-    </message>
-    <message>
-        <source>Export</source>
-        <translation>Exportar</translation>
-    </message>
-    <message>
-        <source>%1, to %2</source>
-        <translation>%1, em %2</translation>
-    </message>
-    <message>
         <source>The file for %1 was saved.</source>
         <translation>O arquivo para %1 foi salvo.</translation>
     </message>
@@ -2835,6 +2850,13 @@ Espaço necessário: %1 MB, disponível: %2 MB.</translation>
     </message>
 </context>
 <context>
+    <name>ReframeJobNeed</name>
+    <message>
+        <source>%1: skipped, up to date: %2</source>
+        <translation>%1: ignorado, já está atualizado: %2</translation>
+    </message>
+</context>
+<context>
     <name>ReframeOptions</name>
     <message>
         <source>Aspect ratio of the result (9:16); several with commas between them: the video is looked at once.</source>
@@ -3006,6 +3028,10 @@ Consulte reframe --help.</translation>
         <source>--speaker takes auto or off; &quot;%1&quot; is neither.</source>
         <translation>--speaker aceita auto ou off; “%1” não é nenhum dos dois.</translation>
     </message>
+    <message>
+        <source>--status must not name an input.</source>
+        <translation>--status não pode indicar uma entrada.</translation>
+    </message>
 </context>
 <context>
     <name>ReframeProgram</name>
@@ -3062,6 +3088,13 @@ Consulte reframe --help.</translation>
     <message>
         <source>Cancel</source>
         <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>StatusFile</name>
+    <message>
+        <source>Cannot write %1: %2.</source>
+        <translation>Não é possível gravar %1: %2.</translation>
     </message>
 </context>
 <context>

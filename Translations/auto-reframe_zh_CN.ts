@@ -674,6 +674,33 @@ The command line program for many files at once is reframe.</source>
     </message>
 </context>
 <context>
+    <name>FarmOptions</name>
+    <message>
+        <source>Cannot open %1: %2.</source>
+        <translation>无法打开 %1：%2。</translation>
+    </message>
+    <message>
+        <source>Cannot read the folder %1.</source>
+        <translation>无法读取文件夹 %1。</translation>
+    </message>
+    <message>
+        <source>Of a folder that is an input, take the videos in its subfolders too.</source>
+        <translation>如果输入是文件夹，也处理其子文件夹中的视频。</translation>
+    </message>
+    <message>
+        <source>Read more inputs from FILE, one a line; - is standard input.</source>
+        <translation>从 FILE 读取更多输入，每行一个；- 表示标准输入。</translation>
+    </message>
+    <message>
+        <source>Write progress and results to FILE as JSON lines, whatever is printed.</source>
+        <translation>无论显示什么，都将进度和结果以 JSON 行写入 FILE。</translation>
+    </message>
+    <message>
+        <source>Skip inputs whose results are there already, from the same content, settings and version; replace results of other settings.</source>
+        <translation>跳过已有结果（内容、设置和版本相同）的输入；替换其他设置的结果。</translation>
+    </message>
+</context>
+<context>
     <name>FollowOption</name>
     <message>
         <source>the video ends after %1 s</source>
@@ -2414,18 +2441,6 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
         <translation>裁剪轨迹</translation>
     </message>
     <message>
-        <source>Export %1 with the crops of %2?</source>
-        <translation>用 %2 的裁剪框导出 %1？</translation>
-    </message>
-    <message>
-        <source>Export</source>
-        <translation>导出</translation>
-    </message>
-    <message>
-        <source>%1, to %2</source>
-        <translation>%1，到 %2</translation>
-    </message>
-    <message>
         <source>The file for %1 was saved.</source>
         <translation>供 %1 使用的文件已保存。</translation>
     </message>
@@ -2814,6 +2829,13 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
     </message>
 </context>
 <context>
+    <name>ReframeJobNeed</name>
+    <message>
+        <source>%1: skipped, up to date: %2</source>
+        <translation>%1：已跳过，已是最新：%2</translation>
+    </message>
+</context>
+<context>
     <name>ReframeOptions</name>
     <message>
         <source>Aspect ratio of the result (9:16); several with commas between them: the video is looked at once.</source>
@@ -2985,6 +3007,10 @@ Try reframe --help.</source>
         <source>--speaker takes auto or off; &quot;%1&quot; is neither.</source>
         <translation>--speaker 接受 auto 或 off；“%1”两者都不是。</translation>
     </message>
+    <message>
+        <source>--status must not name an input.</source>
+        <translation>--status 不能指定输入文件。</translation>
+    </message>
 </context>
 <context>
     <name>ReframeProgram</name>
@@ -3041,6 +3067,13 @@ Try reframe --help.</source>
     <message>
         <source>Cancel</source>
         <translation>取消</translation>
+    </message>
+</context>
+<context>
+    <name>StatusFile</name>
+    <message>
+        <source>Cannot write %1: %2.</source>
+        <translation>无法写入 %1：%2。</translation>
     </message>
 </context>
 <context>

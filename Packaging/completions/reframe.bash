@@ -9,7 +9,7 @@ _reframe()
         --speed) COMPREPLY=($(compgen -W 'auto fast slow' -- "$cur")); return ;;
         --speaker) COMPREPLY=($(compgen -W 'auto off' -- "$cur")); return ;;
         --follow) return ;;
-        --choices) _filedir json; return ;;
+        --choices | --save-choices) _filedir json; return ;;
         --cache | --models) _filedir -d; COMPREPLY+=($(compgen -W none -- "$cur")); return ;;
         --output) _filedir '@(mp4|m4v)'; return ;;
         --size) COMPREPLY=($(compgen -W '1080x1920 720x1280 2160p' -- "$cur")); return ;;
@@ -34,6 +34,7 @@ _reframe()
             --speaker
             --follow
             --choices
+            --save-choices
             --cache
             --output
             --size

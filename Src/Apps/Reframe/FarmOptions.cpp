@@ -22,10 +22,9 @@ namespace
 
 using Paths = KxResult<QStringList>;
 
-QString Translated(const char* text)
-{
-    return QCoreApplication::translate("FarmOptions", text);
-}
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(FarmOptions)
+};
 
 /// Results of earlier runs, which lie beside their inputs.
 bool IsResult(const QString& name)
@@ -40,7 +39,7 @@ Paths ReadList(const QString& path)
     const bool isOpen =
         path == QLatin1String("-") ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly);
     if (!isOpen) {
-        return Paths::Failure(Translated("Cannot open %1: %2.").arg(path, KxFileErrorText(file)));
+        return Paths::Failure(Texts::tr("Cannot open %1: %2.").arg(path, KxFileErrorText(file)));
     }
     QStringList paths;
     const QList<QByteArray> lines = file.readAll().split('\n');
@@ -58,7 +57,7 @@ Paths ReadList(const QString& path)
 Paths VideosIn(const QString& folder, bool isRecursive)
 {
     if (!QFileInfo(folder).isReadable()) {
-        return Paths::Failure(Translated("Cannot read the folder %1.").arg(folder));
+        return Paths::Failure(Texts::tr("Cannot read the folder %1.").arg(folder));
     }
     const QStringList names = KxVideoNameFilter().split(QLatin1Char(';'));
     QDirIterator files(folder, names, QDir::Files,
@@ -121,16 +120,16 @@ QByteArray FarmOptions::ContentHash(const QString& path)
 }
 
 FarmOptions::Definitions::Definitions()
-    : recursive(QStringLiteral("recursive"), Translated("Of a folder that is an input, take the videos in its "
-                                                        "subfolders too."))
-    , inputs(QStringLiteral("inputs"), Translated("Read more inputs from FILE, one a line; - is standard input."),
+    : recursive(QStringLiteral("recursive"), Texts::tr("Of a folder that is an input, take the videos in its "
+                                                       "subfolders too."))
+    , inputs(QStringLiteral("inputs"), Texts::tr("Read more inputs from FILE, one a line; - is standard input."),
              QStringLiteral("FILE|-"))
     , status(QStringLiteral("status"),
-             Translated("Write progress and results to FILE as JSON lines, whatever is printed."),
+             Texts::tr("Write progress and results to FILE as JSON lines, whatever is printed."),
              QStringLiteral("FILE"))
     , ifNeeded(QStringLiteral("if-needed"),
-               Translated("Skip inputs whose results are there already, from the same content, settings and version; "
-                          "replace results of other settings."))
+               Texts::tr("Skip inputs whose results are there already, from the same content, settings and version; "
+                         "replace results of other settings."))
 {
 }
 

@@ -10,6 +10,15 @@
 
 #include <algorithm>
 
+namespace
+{
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(ReframeJobNeed)
+};
+
+} // namespace
+
 QString ReframeJob::RunText() const
 {
     return QStringLiteral("%1%2 aspect=%3:%4 input=%5")
@@ -55,9 +64,7 @@ ReframeJob::Ended ReframeJob::SkipIfDone()
     for (const QString& target : targets) {
         m_allWritten += QFileInfo(target).absoluteFilePath();
     }
-    m_reporter.Skip(m_input,
-                    QCoreApplication::translate("ReframeJob", "%1: skipped, up to date: %2")
-                        .arg(m_input, targets.join(QStringLiteral(", "))),
+    m_reporter.Skip(m_input, Texts::tr("%1: skipped, up to date: %2").arg(m_input, targets.join(QStringLiteral(", "))),
                     {{QStringLiteral("files"), QJsonArray::fromStringList(targets)}});
     return KxOutcome::Done;
 }

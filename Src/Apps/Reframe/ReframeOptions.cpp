@@ -169,7 +169,7 @@ QString Contradiction(const ReframeOptions& options)
         return Texts::tr("No input file was given.");
     }
     if (options.farm.WouldReplaceInput(options.inputs)) {
-        return QCoreApplication::translate("FarmOptions", "--status must not name an input.");
+        return Texts::tr("--status must not name an input.");
     }
     if (!options.writesVideo && !options.output.isEmpty()) {
         return Texts::tr("--output and --no-video exclude each other.");
