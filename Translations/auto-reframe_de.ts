@@ -3009,10 +3009,6 @@ Hilfe: reframe --help.</translation>
         <translation>Bringt ein Video in ein anderes Seitenverhältnis und hält sein Motiv im Bild.</translation>
     </message>
     <message>
-        <source>The video files to reframe.</source>
-        <translation>Die Videodateien, die neu kadriert werden.</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; is no aspect ratio; write two whole numbers such as 9:16, neither more than 20 times the other.</source>
         <translation>„%1“ ist kein Seitenverhältnis; zwei ganze Zahlen wie 9:16 angeben, keine mehr als 20-mal so groß wie die andere.</translation>
     </message>
@@ -3031,6 +3027,10 @@ Hilfe: reframe --help.</translation>
     <message>
         <source>--status must not name an input.</source>
         <translation>--status darf keine Eingabe nennen.</translation>
+    </message>
+    <message>
+        <source>The video files to reframe; a folder is all videos in it.</source>
+        <translation>Die Videodateien, die neu kadriert werden; ein Ordner steht für alle Videos darin.</translation>
     </message>
 </context>
 <context>

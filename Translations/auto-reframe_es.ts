@@ -3009,10 +3009,6 @@ Consultar reframe --help.</translation>
         <translation>Convierte un vídeo a otra relación de aspecto y mantiene su sujeto dentro de la imagen.</translation>
     </message>
     <message>
-        <source>The video files to reframe.</source>
-        <translation>Los archivos de vídeo que se van a reencuadrar.</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; is no aspect ratio; write two whole numbers such as 9:16, neither more than 20 times the other.</source>
         <translation>«%1» no es una relación de aspecto; escribir dos números enteros como 9:16, ninguno mayor que 20 veces el otro.</translation>
     </message>
@@ -3031,6 +3027,10 @@ Consultar reframe --help.</translation>
     <message>
         <source>--status must not name an input.</source>
         <translation>--status no debe indicar una entrada.</translation>
+    </message>
+    <message>
+        <source>The video files to reframe; a folder is all videos in it.</source>
+        <translation>Los archivos de vídeo que se reencuadran; una carpeta son todos los vídeos que contiene.</translation>
     </message>
 </context>
 <context>

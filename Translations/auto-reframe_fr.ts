@@ -3009,10 +3009,6 @@ Voir reframe --help.</translation>
         <translation>Change le format d’image d’une vidéo et garde son sujet dans l’image.</translation>
     </message>
     <message>
-        <source>The video files to reframe.</source>
-        <translation>Les fichiers vidéo à recadrer.</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; is no aspect ratio; write two whole numbers such as 9:16, neither more than 20 times the other.</source>
         <translation>«&#xa0;%1&#xa0;» n’est pas un format d’image&#xa0;; écrire deux nombres entiers comme 9:16, aucun ne dépassant 20 fois l’autre.</translation>
     </message>
@@ -3031,6 +3027,10 @@ Voir reframe --help.</translation>
     <message>
         <source>--status must not name an input.</source>
         <translation>--status ne doit pas désigner une entrée.</translation>
+    </message>
+    <message>
+        <source>The video files to reframe; a folder is all videos in it.</source>
+        <translation>Les fichiers vidéo à recadrer ; un dossier désigne toutes les vidéos qu’il contient.</translation>
     </message>
 </context>
 <context>

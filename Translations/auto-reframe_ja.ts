@@ -2988,10 +2988,6 @@ reframe --help を参照してください。</translation>
         <translation>動画を別のアスペクト比に変換し、被写体を画面内に収めます。</translation>
     </message>
     <message>
-        <source>The video files to reframe.</source>
-        <translation>リフレームする動画ファイル。</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; is no aspect ratio; write two whole numbers such as 9:16, neither more than 20 times the other.</source>
         <translation>「%1」はアスペクト比ではありません。9:16 のように整数 2 つを書いてください。一方が他方の 20 倍を超えることはできません。</translation>
     </message>
@@ -3010,6 +3006,10 @@ reframe --help を参照してください。</translation>
     <message>
         <source>--status must not name an input.</source>
         <translation>--status に入力ファイルは指定できません。</translation>
+    </message>
+    <message>
+        <source>The video files to reframe; a folder is all videos in it.</source>
+        <translation>リフレームする動画ファイル。フォルダーの場合はその中のすべての動画。</translation>
     </message>
 </context>
 <context>

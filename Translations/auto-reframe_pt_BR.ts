@@ -3009,10 +3009,6 @@ Consulte reframe --help.</translation>
         <translation>Converte um vídeo para outra proporção e mantém o assunto na imagem.</translation>
     </message>
     <message>
-        <source>The video files to reframe.</source>
-        <translation>Os arquivos de vídeo a reenquadrar.</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; is no aspect ratio; write two whole numbers such as 9:16, neither more than 20 times the other.</source>
         <translation>“%1” não é uma proporção; escreva dois números inteiros como 9:16, nenhum deles maior que 20 vezes o outro.</translation>
     </message>
@@ -3031,6 +3027,10 @@ Consulte reframe --help.</translation>
     <message>
         <source>--status must not name an input.</source>
         <translation>--status não pode indicar uma entrada.</translation>
+    </message>
+    <message>
+        <source>The video files to reframe; a folder is all videos in it.</source>
+        <translation>Os arquivos de vídeo a reenquadrar; uma pasta são todos os vídeos nela.</translation>
     </message>
 </context>
 <context>

@@ -2988,10 +2988,6 @@ Try reframe --help.</source>
         <translation>将视频转换为其他宽高比，并让主体保持在画面中。</translation>
     </message>
     <message>
-        <source>The video files to reframe.</source>
-        <translation>要重新构图的视频文件。</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; is no aspect ratio; write two whole numbers such as 9:16, neither more than 20 times the other.</source>
         <translation>“%1”不是宽高比；请写两个整数，如 9:16，任一个不得超过另一个的 20 倍。</translation>
     </message>
@@ -3010,6 +3006,10 @@ Try reframe --help.</source>
     <message>
         <source>--status must not name an input.</source>
         <translation>--status 不能指定输入文件。</translation>
+    </message>
+    <message>
+        <source>The video files to reframe; a folder is all videos in it.</source>
+        <translation>要重新构图的视频文件；文件夹表示其中的所有视频。</translation>
     </message>
 </context>
 <context>
