@@ -33,8 +33,8 @@ struct KrAutoReframeState {
     /// A wish of the host, read when the video is opened: its first result is shown at the first doubtful shot that was
     /// not seen, and not from the beginning.
     bool startsAtDoubtfulShot = false;
-    /// A wish of the host, read when the video is opened: crops of all its frames, which the dialog shows in place of an
-    /// analysis, as if one had found them. In fractions of the picture, as edit points are; usually empty.
+    /// A wish of the host, read when the video is opened: crops of all its frames, which the dialog shows in place of
+    /// an analysis, as if one had found them. In fractions of the picture, as edit points are; usually empty.
     QList<QRectF> crops;
 
     bool operator==(const KrAutoReframeState& other) const

@@ -49,8 +49,7 @@ struct KxAutoReframeChoice {
     bool operator==(const KxAutoReframeChoice& other) const
     {
         return kind == other.kind && fromSeconds == other.fromSeconds && toSeconds == other.toSeconds &&
-               seeds == other.seeds && centre == other.centre && pictures == other.pictures &&
-               isFound == other.isFound;
+               seeds == other.seeds && centre == other.centre && pictures == other.pictures && isFound == other.isFound;
     }
 };
 

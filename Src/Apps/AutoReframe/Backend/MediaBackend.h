@@ -143,8 +143,8 @@ struct DialogCallbacks {
     std::function<void(QWidget& dialog)> showHelp;
     /// The dialog shows the video's first result at the first doubtful shot that was not seen.
     bool startsAtDoubtfulShot = false;
-    /// Shown in place of an analysis, without the person's earlier edits and choices; the edits made then are not saved.
-    /// Usually null.
+    /// Shown in place of an analysis, without the person's earlier edits and choices; the edits made then are not
+    /// saved. Usually null.
     std::shared_ptr<const CropTrack> track;
     /// The dialog considers this computer too slow for the analysis.
     std::function<void()> unsupported;
