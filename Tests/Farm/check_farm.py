@@ -6,7 +6,7 @@ import getpass, glob, json, os, shutil, signal, socket, subprocess, sys, tempfil
 
 CLIPS = 40
 KILLS = 3
-PATIENCE = 300
+PATIENCE = 240
 SKIPPED = 77
 
 
@@ -25,11 +25,11 @@ def need(*programs):
         skip('not installed: ' + ', '.join(missing))
 
 
-def wait_for(what, condition):
+def wait_for(what, condition, give_up=sys.exit):
     end = time.monotonic() + PATIENCE
     while not condition():
         if time.monotonic() > end:
-            sys.exit('Not in time: ' + what)
+            give_up('Not in time: ' + what)
         time.sleep(0.05)
 
 
@@ -138,7 +138,7 @@ def run_parallel(farm):
     farm.start(shutil.which('sshd', path=farm.env['PATH']), '-D', '-e', '-f', config, stderr=subprocess.DEVNULL)
     ssh = farm.write('ssh', '#!/bin/sh\nexec ssh -q -p %d -i %s -o StrictHostKeyChecking=no -o UserKnownHostsFile=/dev/null "$@"\n'
                      % (port, farm.path('user')), 0o700)
-    wait_for('ssh', lambda: subprocess.run([ssh, 'localhost', 'true'], check=False).returncode == 0)
+    wait_for('ssh', lambda: subprocess.run([ssh, 'localhost', 'true'], check=False).returncode == 0, skip)
     hosts = farm.write('hosts', '%s %s@localhost\n' % (ssh, getpass.getuser()))
     command = [os.path.join(farm.scripts, 'parallel'), farm.list, farm.path('log'), '-H', hosts, '-j', '2', *farm.options]
     first = subprocess.Popen(command, env=farm.env, cwd=farm.work)
@@ -161,14 +161,14 @@ def run_slurm(farm):
     nodes = ''.join('NodeName=%s NodeHostname=%s NodeAddr=127.0.0.1 Port=%d CPUs=1 State=UNKNOWN\n' % (name, host, free_port()) for name in NODES)
     farm.env['SLURM_CONF'] = farm.write('slurm.conf', SLURM_CONF.format(host=host, port=free_port(), work=farm.work, munge=munge) + nodes, 0o644)
     os.mkdir(farm.path('state'))
-    wait_for('munge', lambda: os.path.exists(munge))
+    wait_for('munge', lambda: os.path.exists(munge), skip)
     farm.start(find(farm, 'slurmctld'), '-D', stderr=subprocess.DEVNULL)
     for name in NODES:
         os.mkdir(farm.path('spool.' + name))
         farm.start(find(farm, 'slurmd'), '-D', '-N', name, stderr=subprocess.DEVNULL)
     ask = lambda *command: subprocess.run(command, env=farm.env, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, encoding='utf-8',
                                           check=False).stdout
-    wait_for('the nodes', lambda: ask('sinfo', '--noheader', '--states=idle', '--format=%D').strip() == str(len(NODES)))
+    wait_for('the nodes', lambda: ask('sinfo', '--noheader', '--states=idle', '--format=%D').strip() == str(len(NODES)), skip)
     array = run(os.path.join(farm.scripts, 'slurm'), farm.list, *farm.options, env=farm.env, cwd=farm.work).strip()
     joined = run('sbatch', '--parsable', '--dependency=afterok:' + array, '--output=/dev/null', '--wrap', 'touch ' + farm.path('joined'),
                  env=farm.env, cwd=farm.work).strip()
