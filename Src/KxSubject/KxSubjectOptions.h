@@ -178,7 +178,7 @@ struct KxSubjectOptions {
     /// People and animals that the object detector finds.
     struct Detections {
         double periodSeconds = 1.0;        ///< 0.5 to 2 between looks, besides one at the start of each scene; chosen
-        double settledPeriodSeconds = 2.0; ///< 1 to 2: the same while the large things stay; clips: cost
+        double settledPeriodSeconds = 2.0; ///< 1 to 2: the same while the largest thing stays; clips: cost
         double settledOverlap = 0.6; ///< 0.5 to 0.8 of its boxes in two looks, intersection over union: it stays; clips
         double fullArea = 0.06;      ///< 0.03 to 0.15 of the picture: a larger box weighs no more; chosen
         double centrality = 0.4;     ///< 0 to 0.8: how much less a box at the picture's edge weighs; chosen

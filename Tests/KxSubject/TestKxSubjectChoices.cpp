@@ -227,27 +227,6 @@ TEST(KxSubjectChoices, WhatTheAutomaticCropHoldsAlreadyStaysAsItIs)
     }
 }
 
-TEST(KxSubjectChoices, ATrackThatNoCropHoldsBetterLeavesTheAutomaticCropAsItIs)
-{
-    // The tracked box grows to the whole picture and back: any crop holds most of what it can hold of it.
-    KxSubjectRequest request;
-    KxSubjectChoice follow;
-    follow.kind = KxChoiceKind::Follow;
-    follow.seeds = {{1.0, {0.12, 0.2, 0.1, 0.6}}};
-    KxFollowTrack track;
-    for (std::int32_t frame = 0; frame < Cut; frame += 2) {
-        const bool isWide = frame >= 26;
-        track.points.push_back({frame, {isWide ? 0.0 : 0.12, 0.2, isWide ? 1.0 : 0.1, 0.6}, 1.0F});
-    }
-    request.choices = {follow};
-    request.tracks = {track};
-    const auto automatic = Decide({});
-    const auto crops = KxDecide(TwoShots(), request, {}, KxCancelToken()).crops;
-    for (std::size_t frame = 0; frame < Cut; ++frame) {
-        EXPECT_EQ(crops[frame].x, automatic[frame].x) << frame;
-    }
-}
-
 TEST(KxSubjectChoices, WhatIsFollowedOutweighsWhatTheSignalsPrefer)
 {
     KxSubjectRequest request;

@@ -7,7 +7,6 @@
 #include <KxSubject/KxSubjectRecord.h>
 #include <KxSubject/KxSubjectRequest.h>
 
-#include <functional>
 #include <vector>
 
 /// The evidence in one shot after what a person chose to follow and to avoid there.
@@ -24,11 +23,7 @@ public:
     bool Follows() const { return !m_followed.empty(); }
     /// Nothing needs to be done for what the automatic crop holds: it stays as it is, so that pointing at it never
     /// makes it worse. `centreAt` is that crop's centre, of the extent `extent`.
-    using CentreAt = std::function<double(std::int64_t frame)>;
-    void LeaveWhatIsHeld(const CentreAt& centreAt, double extent, double heldShare);
-    /// The same where `followed`, the centre with what is followed, holds no more of it than `automatic`: a tracked box
-    /// that is off asks for a place from which not even the box itself gains.
-    void LeaveWhatGainsNothing(const CentreAt& automatic, const CentreAt& followed, double extent);
+    void LeaveWhatIsHeld(const std::function<double(std::int64_t frame)>& centreAt, double extent, double heldShare);
 
 private:
     struct Part {

@@ -19,22 +19,6 @@ float Overlap(const KxDetection& a, const KxDetection& b)
     return common / (AreaOf(a) + AreaOf(b) - common);
 }
 
-/// Whether each large thing of one look is in another: those of at least half the largest one's area. Smaller things
-/// come and go, and weigh little.
-bool AreIn(const std::vector<KxDetection>& things, const std::vector<KxDetection>& others, double leastOverlap)
-{
-    float largest = 0.0F;
-    for (const KxDetection& thing : things) {
-        largest = std::max(largest, AreaOf(thing));
-    }
-    return std::all_of(things.begin(), things.end(), [&](const KxDetection& thing) {
-        return AreaOf(thing) < largest / 2.0F ||
-               std::any_of(others.begin(), others.end(), [&](const KxDetection& other) {
-                   return other.kind == thing.kind && static_cast<double>(Overlap(other, thing)) >= leastOverlap;
-               });
-    });
-}
-
 } // namespace
 
 KxLookSchedule::KxLookSchedule(const KxSubjectOptions::Detections& options, double frameRate)
@@ -55,9 +39,12 @@ bool KxLookSchedule::IsDue(std::int64_t frame, bool isNewScene) const
 
 void KxLookSchedule::Add(const KxDetectionLook& look, bool isNewScene)
 {
-    m_isSettled = !isNewScene && !look.found.empty() && !m_found.empty() &&
-                  AreIn(look.found, m_found, m_options.settledOverlap) &&
-                  AreIn(m_found, look.found, m_options.settledOverlap);
-    m_found = look.found;
+    const auto largest =
+        std::max_element(look.found.begin(), look.found.end(),
+                         [](const KxDetection& a, const KxDetection& b) { return AreaOf(a) < AreaOf(b); });
+    const bool isFound = largest != look.found.end();
+    m_isSettled = !isNewScene && isFound && m_largest && largest->kind == m_largest->kind &&
+                  static_cast<double>(Overlap(*largest, *m_largest)) >= m_options.settledOverlap;
+    m_largest = isFound ? std::optional(*largest) : std::nullopt;
     m_lastFrame = look.frame;
 }

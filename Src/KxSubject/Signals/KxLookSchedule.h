@@ -7,11 +7,9 @@
 
 #include <cstdint>
 #include <optional>
-#include <vector>
 
 /// When the object detector looks: at the start of each scene and from time to time. A look is expensive, so looks are
-/// rarer while the large things stay where they are. A second person who moves needs as many looks as the first: what
-/// follows one of them is corrected by them.
+/// rarer while the largest thing stays where it is.
 class KXSUBJECT_API KxLookSchedule
 {
 public:
@@ -26,6 +24,6 @@ private:
     KxSubjectOptions::Detections m_options;
     double m_frameRate;
     std::optional<std::int64_t> m_lastFrame;
-    std::vector<KxDetection> m_found; ///< by the last look
-    bool m_isSettled = false;         ///< two successive looks found the large things in the same places
+    std::optional<KxDetection> m_largest; ///< that the last look found in this scene
+    bool m_isSettled = false;             ///< two successive looks found it in one place
 };

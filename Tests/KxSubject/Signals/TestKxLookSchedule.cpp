@@ -71,16 +71,6 @@ TEST(KxLookSchedule, SmallerThingsThatComeAndGoDoNotCount)
     EXPECT_EQ(Looks(60, found), (std::vector<int>{0, 10, 30, 50}));
 }
 
-TEST(KxLookSchedule, ASecondPersonWhoMovesIsLookedAtOnceASecond)
-{
-    const auto found = [](int frame) {
-        KxDetection second = Moved(0.012F * static_cast<float>(frame));
-        second.height = 0.5F;
-        return std::vector{Person, second};
-    };
-    EXPECT_EQ(Looks(45, found), (std::vector<int>{0, 10, 20, 30, 40}));
-}
-
 TEST(KxLookSchedule, AnotherKindInTheSamePlaceIsAnotherThing)
 {
     const auto found = [](int frame) {
