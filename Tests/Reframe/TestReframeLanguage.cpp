@@ -97,6 +97,12 @@ TEST_F(ReframeLanguageTest, JsonStaysEnglish)
     EXPECT_EQ(line.value(QStringLiteral("message")).toString() + QLatin1Char('\n'), Message(English));
 }
 
+TEST_F(ReframeLanguageTest, AStatusFileStaysEnglish)
+{
+    OpenNothing({QStringLiteral("--status"), Path("status.json"), QStringLiteral("--language"), QStringLiteral("de")});
+    EXPECT_TRUE(Content(Path("status.json")).contains("there is no such file"));
+}
+
 TEST_F(ReframeLanguageTest, FilesForProgramsDoNotDependOnTheLanguageAndTheReportDoes)
 {
     MadeVideo::Recipe recipe;

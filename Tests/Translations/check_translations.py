@@ -108,13 +108,21 @@ def untranslatable(source):
             yield text
 
 
+def hides_texts(source):
+    """Whether texts reach translate() through a variable, where lupdate does not find them."""
+    return bool(re.search(r'translate\(\s*"\w+",\s*[a-z]', source)) and "QT_TRANSLATE_NOOP" not in source
+
+
 def faults_of_sources(root):
     for folder, _, names in os.walk(os.path.join(root, "Src")):
         for name in sorted(names):
             if name.endswith((".cpp", ".h")) and name not in FOR_THE_LOG:
                 with open(os.path.join(folder, name), encoding="utf-8") as file:
-                    for text in untranslatable(file.read()):
-                        yield f"{name}: {text!r} cannot be translated (CONTRIBUTING.md, Texts and languages)"
+                    source = file.read()
+                for text in untranslatable(source):
+                    yield f"{name}: {text!r} cannot be translated (CONTRIBUTING.md, Texts and languages)"
+                if hides_texts(source):
+                    yield f"{name}: lupdate finds no texts that are given to a function other than tr()"
 
 
 def differs(path, updated):
@@ -158,8 +166,10 @@ def self_test():
         "a video")); KX_LOG_INFO(QStringLiteral("it is not logged")); Execute(QStringLiteral("SELECT path from the videos"));
         setStyleSheet(QStringLiteral("#bar { padding of no pixels }")); Texts::tr("it is not a file");"""
     found = list(untranslatable(source))
-    print(f"missed {missed}, wrong {wrong}, sentences {found}")
-    return 1 if missed or wrong or found != ["it is not a video"] else 0
+    hidden = hides_texts('QString Words(const char* text) { return QCoreApplication::translate("Words", text); }')
+    plain = hides_texts('return QCoreApplication::translate("Words", "a text");')
+    print(f"missed {missed}, wrong {wrong}, sentences {found}, hidden {hidden}, plain {plain}")
+    return 0 if not missed and not wrong and found == ["it is not a video"] and hidden and not plain else 1
 
 
 if __name__ == "__main__":

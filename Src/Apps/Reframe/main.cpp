@@ -11,6 +11,7 @@
 
 #include <QGuiApplication>
 #include <QLoggingCategory>
+#include <QRegularExpression>
 
 #include <cstdio>
 #include <memory>
@@ -21,8 +22,9 @@ namespace
 // JSON is read by programs, so its messages do not depend on the person's language.
 QString LanguageOf(const QStringList& arguments)
 {
-    return arguments.contains(QStringLiteral("--json")) ? KxLanguage::Codes().first()
-                                                        : KxLanguage::OfCommandLine(arguments);
+    const bool writesJson = arguments.contains(QStringLiteral("--json")) ||
+                            !arguments.filter(QRegularExpression(QStringLiteral("^--?status(=|$)"))).isEmpty();
+    return writesJson ? KxLanguage::Codes().first() : KxLanguage::OfCommandLine(arguments);
 }
 
 ReframeOptions::Parsed Parse(int argc, char** argv)
