@@ -695,7 +695,7 @@ Le programme en ligne de commande pour plusieurs fichiers à la fois est reframe
     </message>
     <message>
         <source>Read more inputs from FILE, one a line; - is standard input.</source>
-        <translation>Lire d’autres entrées dans FILE, une par ligne ; - est l’entrée standard.</translation>
+        <translation>Lire d’autres entrées dans FILE, une par ligne ; - est l’entrée standard.</translation>
     </message>
     <message>
         <source>Write progress and results to FILE as JSON lines, whatever is printed.</source>
@@ -703,7 +703,7 @@ Le programme en ligne de commande pour plusieurs fichiers à la fois est reframe
     </message>
     <message>
         <source>Skip inputs whose results are there already, from the same content, settings and version; replace results of other settings.</source>
-        <translation>Ignorer les entrées dont les résultats existent déjà, avec le même contenu, les mêmes réglages et la même version ; remplacer les résultats d’autres réglages.</translation>
+        <translation>Ignorer les entrées dont les résultats existent déjà, avec le même contenu, les mêmes réglages et la même version ; remplacer les résultats d’autres réglages.</translation>
     </message>
 </context>
 <context>
@@ -2853,7 +2853,7 @@ Espace nécessaire&#xa0;: %1 Mo, disponible&#xa0;: %2 Mo.</translation>
     <name>ReframeJobNeed</name>
     <message>
         <source>%1: skipped, up to date: %2</source>
-        <translation>%1 : ignoré, déjà à jour : %2</translation>
+        <translation>%1 : ignoré, déjà à jour : %2</translation>
     </message>
 </context>
 <context>
@@ -3030,7 +3030,7 @@ Voir reframe --help.</translation>
     </message>
     <message>
         <source>The video files to reframe; a folder is all videos in it.</source>
-        <translation>Les fichiers vidéo à recadrer ; un dossier désigne toutes les vidéos qu’il contient.</translation>
+        <translation>Les fichiers vidéo à recadrer ; un dossier désigne toutes les vidéos qu’il contient.</translation>
     </message>
 </context>
 <context>
