@@ -267,13 +267,17 @@ Decider::ShotEvidence Decider::EvidenceIn(const Shot& shot, const KxChoiceRanges
                             {m_request, ranges, m_options.follow, m_record.source.frameRate, m_geometry.FreeAxis()}};
     };
     ShotEvidence evidence = evidenceWith(choices);
+    if (!evidence.chosen.Follows()) {
+        return evidence;
+    }
+    const auto centresOf = [&](const ShotEvidence& from) {
+        return [this, &shot, centres = Drawn(shot, from, WantedCentres(shot, from, cancel).points, cancel)](
+                   std::int64_t frame) { return centres[static_cast<std::size_t>(frame - shot.first)]; };
+    };
+    const KxChosenEvidence::CentreAt automatic = centresOf(evidenceWith(KxChoiceRanges::None()));
+    evidence.chosen.LeaveWhatIsHeld(automatic, m_geometry.Extent(), m_options.follow.heldShare);
     if (evidence.chosen.Follows()) {
-        const ShotEvidence unchosen = evidenceWith(KxChoiceRanges::None());
-        const std::vector<double> automatic =
-            Drawn(shot, unchosen, WantedCentres(shot, unchosen, cancel).points, cancel);
-        evidence.chosen.LeaveWhatIsHeld(
-            [&](std::int64_t frame) { return automatic[static_cast<std::size_t>(frame - shot.first)]; },
-            m_geometry.Extent(), m_options.follow.heldShare);
+        evidence.chosen.LeaveWhatGainsNothing(automatic, centresOf(evidence), m_geometry.Extent());
     }
     return evidence;
 }

@@ -227,6 +227,27 @@ TEST(KxSubjectChoices, WhatTheAutomaticCropHoldsAlreadyStaysAsItIs)
     }
 }
 
+TEST(KxSubjectChoices, ATrackThatNoCropHoldsBetterLeavesTheAutomaticCropAsItIs)
+{
+    // The track jumps to the other side and back, faster than a crop can.
+    KxSubjectRequest request;
+    KxSubjectChoice follow;
+    follow.kind = KxChoiceKind::Follow;
+    follow.seeds = {{1.0, {0.15, 0.2, 0.1, 0.6}}};
+    KxFollowTrack track;
+    for (std::int32_t frame = 0; frame < Cut; frame += 2) {
+        const bool isAway = frame % 10 >= 6;
+        track.points.push_back({frame, {isAway ? 0.8 : 0.15, 0.2, 0.1, 0.6}, 1.0F});
+    }
+    request.choices = {follow};
+    request.tracks = {track};
+    const auto automatic = Decide({});
+    const auto crops = KxDecide(TwoShots(), request, {}, KxCancelToken()).crops;
+    for (std::size_t frame = 0; frame < Cut; ++frame) {
+        EXPECT_EQ(crops[frame].x, automatic[frame].x) << frame;
+    }
+}
+
 TEST(KxSubjectChoices, WhatIsFollowedOutweighsWhatTheSignalsPrefer)
 {
     KxSubjectRequest request;

@@ -46,11 +46,18 @@ KxSignalProfile KxChosenEvidence::Of(const KxSignalProfile& evidence, std::int64
     return chosen;
 }
 
-void KxChosenEvidence::LeaveWhatIsHeld(const std::function<double(std::int64_t frame)>& centreAt, double extent,
-                                       double heldShare)
+void KxChosenEvidence::LeaveWhatIsHeld(const CentreAt& centreAt, double extent, double heldShare)
 {
     m_followed.erase(
         std::remove_if(m_followed.begin(), m_followed.end(),
                        [&](const Part& part) { return part.evidence.HeldBy(centreAt, extent) >= heldShare; }),
         m_followed.end());
+}
+
+void KxChosenEvidence::LeaveWhatGainsNothing(const CentreAt& automatic, const CentreAt& followed, double extent)
+{
+    const auto gainsNothing = [&](const Part& part) {
+        return part.evidence.HeldBy(automatic, extent) >= part.evidence.HeldBy(followed, extent);
+    };
+    m_followed.erase(std::remove_if(m_followed.begin(), m_followed.end(), gainsNothing), m_followed.end());
 }

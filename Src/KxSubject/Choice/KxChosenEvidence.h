@@ -7,6 +7,7 @@
 #include <KxSubject/KxSubjectRecord.h>
 #include <KxSubject/KxSubjectRequest.h>
 
+#include <functional>
 #include <vector>
 
 /// The evidence in one shot after what a person chose to follow and to avoid there.
@@ -21,9 +22,14 @@ public:
     KxSignalProfile Of(const KxSignalProfile& evidence, std::int64_t frame) const;
     /// Whether something is followed in the shot.
     bool Follows() const { return !m_followed.empty(); }
+    /// The centre of a crop along its free axis.
+    using CentreAt = std::function<double(std::int64_t frame)>;
     /// Nothing needs to be done for what the automatic crop holds: it stays as it is, so that pointing at it never
     /// makes it worse. `centreAt` is that crop's centre, of the extent `extent`.
-    void LeaveWhatIsHeld(const std::function<double(std::int64_t frame)>& centreAt, double extent, double heldShare);
+    void LeaveWhatIsHeld(const CentreAt& centreAt, double extent, double heldShare);
+    /// The same for what the crop that follows it, around `followed`, holds no better than the automatic one: a track
+    /// that has gone astray moves faster than any crop, and then following is of no use.
+    void LeaveWhatGainsNothing(const CentreAt& automatic, const CentreAt& followed, double extent);
 
 private:
     struct Part {
