@@ -27,9 +27,9 @@ constexpr std::size_t MostSeedPictures = 4;
 
 /// How well pictures fit at one time.
 struct Fit {
-    int inside = 0;   ///< pictures that would be in the video
-    int close = 0;    ///< those that are like the video's
-    int likeness = 0; ///< bits by which they are closer than they had to be
+    int inside = 0;     ///< pictures that would be in the video
+    int close = 0;      ///< those that are like the video's
+    int similarity = 0; ///< bits by which they are closer than they had to be
 
     bool IsMostlyClose() const { return close * 5 >= inside * 3 && close > 0; }
 };
@@ -81,7 +81,7 @@ public:
                 const int bits = KxPrintDistance(picture.print, PrintAt(frame).Bits());
                 ++fit.inside;
                 fit.close += bits < CloseBits ? 1 : 0;
-                fit.likeness += std::max(0, CloseBits - bits);
+                fit.similarity += std::max(0, CloseBits - bits);
             }
         }
         return fit;
@@ -91,12 +91,12 @@ public:
     /// which most ends of the choices are at boundaries of shots, where a person's choices usually end.
     std::int64_t ToBoundaries(std::int64_t move, const Pictures& pictures, const KxSubjectChoices& choices) const
     {
-        const double fewest = FitOf(pictures, move).likeness - ClearlyBetter * static_cast<double>(pictures.size());
+        const double fewest = FitOf(pictures, move).similarity - ClearlyBetter * static_cast<double>(pictures.size());
         std::int64_t best = move;
         int most = 0;
         for (const std::int64_t change : {0, -1, 1, -2, 2}) {
             int count = 0;
-            if (FitOf(pictures, move + change).likeness < fewest) {
+            if (FitOf(pictures, move + change).similarity < fewest) {
                 continue;
             }
             for (const KxSubjectChoice& choice : choices) {
@@ -120,7 +120,7 @@ public:
     {
         const Fit unmoved = FitOf(pictures, 0);
         const auto count = static_cast<int>(pictures.size());
-        if (count == 0 || unmoved.likeness >= CloseBits * count) {
+        if (count == 0 || unmoved.similarity >= CloseBits * count) {
             return 0;
         }
         std::int64_t first = FarthestFrame;
@@ -130,12 +130,12 @@ public:
             last = std::max(last, FrameAt(picture.seconds));
         }
         std::int64_t best = 0;
-        double bestLikeness = unmoved.likeness + ClearlyBetter * count;
+        double bestSimilarity = unmoved.similarity + ClearlyBetter * count;
         for (std::int64_t move = -last; move < Frames() - first; ++move) {
-            const int likeness = FitOf(pictures, move).likeness;
-            if (likeness > bestLikeness) {
+            const int similarity = FitOf(pictures, move).similarity;
+            if (similarity > bestSimilarity) {
                 best = move;
-                bestLikeness = likeness;
+                bestSimilarity = similarity;
             }
         }
         return best;
