@@ -10,7 +10,8 @@
 namespace
 {
 
-/// The specifications of freedesktop.org, and the launcher entry that several desktops have adopted.
+/// Speaks to the desktop over D-Bus, by the interfaces of freedesktop.org; for the launcher by the entry that several
+/// desktops have adopted.
 class BusSession final : public QObject, public DesktopSession
 {
 public:
