@@ -28,6 +28,22 @@ double EnergyOf(double lufs)
     return std::pow(10.0, lufs / 10.0);
 }
 
+/// Passes on what the filters have ready.
+template<typename Use>
+KxError TakeEach(KxSoundChain& chain, const Use& use)
+{
+    for (;;) {
+        const KxResult<KxAvFrame> frame = chain.Take();
+        if (!frame) {
+            return frame.Message();
+        }
+        if (*frame == nullptr) {
+            return std::nullopt;
+        }
+        use(**frame);
+    }
+}
+
 } // namespace
 
 KxLoudnessMeter::KxLoudnessMeter(std::unique_ptr<KxSoundChain> chain)
@@ -55,27 +71,20 @@ KxError KxLoudnessMeter::Add(const KxAudioBlock& block)
 
 KxError KxLoudnessMeter::TakeAll()
 {
-    for (;;) {
-        const KxResult<KxAvFrame> frame = m_chain->Take();
-        if (!frame) {
-            return frame.Message();
-        }
-        if (*frame == nullptr) {
-            return std::nullopt;
-        }
-        const std::optional<double> momentary = Metadata(**frame, "lavfi.r128.M");
+    return TakeEach(*m_chain, [this](const AVFrame& frame) {
+        const std::optional<double> momentary = Metadata(frame, "lavfi.r128.M");
         if (!momentary) {
-            continue;
+            return;
         }
         if (*momentary > AbsoluteGateLufs) {
             m_energy += EnergyOf(*momentary);
             ++m_blocks;
         }
-        m_last.integratedLufs = Metadata(**frame, "lavfi.r128.I").value_or(AbsoluteGateLufs);
-        m_last.rangeLu = Metadata(**frame, "lavfi.r128.LRA").value_or(0.0);
-        const double peak = Metadata(**frame, "lavfi.r128.true_peak").value_or(1.0);
+        m_last.integratedLufs = Metadata(frame, "lavfi.r128.I").value_or(AbsoluteGateLufs);
+        m_last.rangeLu = Metadata(frame, "lavfi.r128.LRA").value_or(0.0);
+        const double peak = Metadata(frame, "lavfi.r128.true_peak").value_or(1.0);
         m_last.truePeakDb = 20.0 * std::log10(std::max(peak, 1e-5));
-    }
+    });
 }
 
 KxResult<std::optional<KxLoudness>> KxLoudnessMeter::Result()
@@ -136,15 +145,8 @@ KxError KxLoudnessFilter::End()
 
 KxError KxLoudnessFilter::TakeInto(std::vector<float>& samples)
 {
-    for (;;) {
-        const KxResult<KxAvFrame> frame = m_chain->Take();
-        if (!frame) {
-            return frame.Message();
-        }
-        if (*frame == nullptr) {
-            return std::nullopt;
-        }
-        const auto* const first = reinterpret_cast<const float*>((*frame)->data[0]);
-        samples.insert(samples.end(), first, first + std::ptrdiff_t{1} * (*frame)->nb_samples * m_channels);
-    }
+    return TakeEach(*m_chain, [&](const AVFrame& frame) {
+        const auto* const first = reinterpret_cast<const float*>(frame.data[0]);
+        samples.insert(samples.end(), first, first + std::ptrdiff_t{1} * frame.nb_samples * m_channels);
+    });
 }
