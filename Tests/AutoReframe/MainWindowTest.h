@@ -55,6 +55,20 @@ protected:
         qputenv("KX_CONFIG_FILE", m_folder.filePath(QStringLiteral("none.ini")).toLocal8Bit());
     }
 
+    bool WaitForFinding() const
+    {
+        return QTest::qWaitFor([&] { return m_backend->finding != nullptr; }, 10000);
+    }
+    /// The crops of one video are found, and one video is written.
+    void FinishOne(const QList<uint>& doubtfulShots = {})
+    {
+        ASSERT_TRUE(WaitForFinding());
+        m_backend->finding->EndWell(doubtfulShots);
+        ASSERT_TRUE(QTest::qWaitFor([&] { return m_backend->task != nullptr; }, 10000));
+        m_backend->task->EndWell();
+        ASSERT_TRUE(QTest::qWaitFor([&] { return m_backend->task == nullptr; }, 10000));
+    }
+
     template<typename T>
     T* Child(const char* name) const
     {

@@ -39,24 +39,12 @@ protected:
     {
         return QTest::qWaitFor([&] { return Text(name) == text; }, 10000);
     }
-    bool WaitForFinding() const
-    {
-        return QTest::qWaitFor([&] { return m_backend->finding != nullptr; }, 10000);
-    }
     void FailOne(const QString& message)
     {
         ASSERT_TRUE(WaitForFinding());
         FoundCrops failed;
         failed.message = message;
         m_backend->finding->End(failed);
-    }
-    void FinishOne(const QList<uint>& doubtfulShots = {})
-    {
-        ASSERT_TRUE(WaitForFinding());
-        m_backend->finding->EndWell(doubtfulShots);
-        ASSERT_TRUE(QTest::qWaitFor([&] { return m_backend->task != nullptr; }, 10000));
-        m_backend->task->EndWell();
-        ASSERT_TRUE(QTest::qWaitFor([&] { return m_backend->task == nullptr; }, 10000));
     }
 };
 

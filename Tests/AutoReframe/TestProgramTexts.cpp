@@ -62,18 +62,6 @@ protected:
         });
         Button("TopBar_reframeAll")->click();
     }
-    bool WaitForFinding() const
-    {
-        return QTest::qWaitFor([&] { return m_backend->finding != nullptr; }, 10000);
-    }
-    void FinishOne(const QList<uint>& doubtfulShots)
-    {
-        ASSERT_TRUE(WaitForFinding());
-        m_backend->finding->EndWell(doubtfulShots);
-        ASSERT_TRUE(QTest::qWaitFor([&] { return m_backend->task != nullptr; }, 10000));
-        m_backend->task->EndWell();
-        ASSERT_TRUE(QTest::qWaitFor([&] { return m_backend->task == nullptr; }, 10000));
-    }
 };
 
 } // namespace

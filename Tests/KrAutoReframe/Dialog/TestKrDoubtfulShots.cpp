@@ -15,12 +15,16 @@ class KrDoubtfulShotsTest : public ExtendedDialogTest
 {
 protected:
     /// Shots of 25 frames each; the second and the last are doubtful.
-    void AnalyseFourShots()
+    void FindFourShots()
     {
         service.shots = {{0, 25, 0.9, Sure},
                          {25, 50, 0.3, KxAutoReframeDoubt::SeveralPeople},
                          {50, 75, 0.8, Sure},
                          {75, 100, 0.0, KxAutoReframeDoubt::NothingStandsOut}};
+    }
+    void AnalyseFourShots()
+    {
+        FindFourShots();
         Load(Video(clip));
         Analyse();
         presenter->pause();
@@ -94,10 +98,7 @@ TEST_F(KrDoubtfulShotsTest, AHostMayStartAtTheFirstShotToLookAt)
     StateOf(clip).startsAtDoubtfulShot = true;
     StateOf(clip).isAnalyzed = true;
     StateOf(clip).seenShots = {25};
-    service.shots = {{0, 25, 0.9, Sure},
-                     {25, 50, 0.3, KxAutoReframeDoubt::SeveralPeople},
-                     {50, 75, 0.8, Sure},
-                     {75, 100, 0.0, KxAutoReframeDoubt::NothingStandsOut}};
+    FindFourShots();
     Load(Video(clip));
     Analyse();
     EXPECT_EQ(Player().calls.last(), QStringLiteral("seek 75 0 0"));
