@@ -4,6 +4,7 @@
 #include <KxCore/KxSystemFile.h>
 
 #include <QCoreApplication>
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -58,11 +59,18 @@ QString Numbered(const QString& path, int number)
         QStringLiteral("%1 (%2)%3").arg(info.completeBaseName(), QString::number(number), suffix));
 }
 
+constexpr int LastNumber = 9999;
+
+/// From 1 to LastNumber: "name.mp4", "name (2).mp4".
+QString Candidate(const QString& path, int number)
+{
+    return number == 1 ? path : Numbered(path, number);
+}
+
 KxResult<QString> ReserveFreeName(const QString& path)
 {
-    constexpr int lastNumber = 9999;
-    for (int number = 1; number <= lastNumber; ++number) {
-        const QString candidate = number == 1 ? path : Numbered(path, number);
+    for (int number = 1; number <= LastNumber; ++number) {
+        const QString candidate = Candidate(path, number);
         const std::error_code problem = Reserve(candidate);
         if (!problem) {
             return candidate;
@@ -149,4 +157,20 @@ KxResult<QString> KxOutputFile::Write(const QString& targetPath, const QByteArra
     }
     file.close();
     return (*output)->Commit(existing);
+}
+
+QString KxOutputFile::FindCommitted(const QString& targetPath, Existing existing, qint64 sinceMs)
+{
+    const int lastNumber = existing == Existing::AddNumber ? LastNumber : 1;
+    for (int number = 1; number <= lastNumber; ++number) {
+        const QFileInfo file(Candidate(targetPath, number));
+        if (!file.exists()) {
+            break;
+        }
+        // An empty file is a name that was reserved for a file that never came.
+        if (file.isFile() && file.size() > 0 && file.lastModified().toMSecsSinceEpoch() >= sinceMs) {
+            return file.absoluteFilePath();
+        }
+    }
+    return QString();
 }

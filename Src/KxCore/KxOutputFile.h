@@ -38,6 +38,10 @@ public:
     /// and it writes through symbolic links and does not sync the folder.
     static KxResult<QString> Write(const QString& targetPath, const QByteArray& content, Existing existing);
 
+    /// For a process that was killed and may have committed its file before: the file that Commit() gave this target's
+    /// name and that was written since this time, in milliseconds since 1970 UTC; empty if there is none.
+    static QString FindCommitted(const QString& targetPath, Existing existing, qint64 sinceMs);
+
 private:
     KxOutputFile(QString targetPath, std::unique_ptr<KxPartFile> part);
 

@@ -2,6 +2,8 @@
 
 #include <KxCore/KxOutputFile.h>
 
+#include <QDateTime>
+
 TEST_F(KxOutputFileTest, TheNameAppearsOnlyOnCommit)
 {
     auto output = KxOutputFile::Create(Path("a.txt"));
@@ -112,4 +114,26 @@ TEST_F(KxOutputFileTest, ThePartOfARunningWriterIsKept)
     ASSERT_TRUE(other);
     EXPECT_TRUE(QFile::exists((*living)->TemporaryPath()));
     ASSERT_TRUE((*living)->Commit(KxOutputFile::Existing::AddNumber));
+}
+
+TEST_F(KxOutputFileTest, FindsWhatAKilledProcessHadCommitted)
+{
+    using Existing = KxOutputFile::Existing;
+    const qint64 begunAtMs = 1700000000000;
+    const auto write = [&](const char* name, const QByteArray& content, qint64 ms) {
+        QFile file(Path(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        ASSERT_EQ(file.write(content), content.size());
+        ASSERT_TRUE(file.flush());
+        ASSERT_TRUE(file.setFileTime(QDateTime::fromMSecsSinceEpoch(begunAtMs + ms), QFile::FileModificationTime));
+    };
+    EXPECT_TRUE(KxOutputFile::FindCommitted(Path("a.mp4"), Existing::AddNumber, begunAtMs).isEmpty());
+    write("a.mp4", "before", -1000);
+    write("a (2).mp4", "", 1000);
+    EXPECT_TRUE(KxOutputFile::FindCommitted(Path("a.mp4"), Existing::AddNumber, begunAtMs).isEmpty());
+    write("a (3).mp4", "after", 1000);
+    EXPECT_EQ(KxOutputFile::FindCommitted(Path("a.mp4"), Existing::AddNumber, begunAtMs), Path("a (3).mp4"));
+    EXPECT_TRUE(KxOutputFile::FindCommitted(Path("a.mp4"), Existing::Replace, begunAtMs).isEmpty());
+    write("a.mp4", "replaced", 0);
+    EXPECT_EQ(KxOutputFile::FindCommitted(Path("a.mp4"), Existing::Replace, begunAtMs), Path("a.mp4"));
 }

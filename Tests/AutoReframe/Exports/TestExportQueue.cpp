@@ -8,6 +8,8 @@ TEST_F(TestExportQueue, OneIsRenderedAndTheOthersWaitInTheirOrder)
     EXPECT_EQ(StateOf(first), State::Running);
     EXPECT_EQ(StateOf(second), State::Waiting);
     EXPECT_EQ(m_queue.UnfinishedCount(), 3);
+    EXPECT_GT(m_queue.Find(first)->begunAtMs, 0);
+    EXPECT_EQ(m_queue.Find(second)->begunAtMs, 0);
     m_backend.task->EndWell();
     ASSERT_TRUE(WaitFor(second, State::Running));
     EXPECT_EQ(StateOf(first), State::Done);

@@ -2,6 +2,8 @@
 
 #include <Apps/AutoReframe/Store/LibrarySchema.h>
 
+#include <QDateTime>
+
 namespace
 {
 
@@ -224,6 +226,39 @@ TEST_F(TestLibraryDatabase, ExportsOfARunThatEndedAreInterruptedAndOthersKeepThe
     EXPECT_EQ(exports[3].state, State::Done);
     EXPECT_EQ(exports[3].fileBytes, 99);
     EXPECT_EQ(exports[3].request.source.crops, nullptr);
+}
+
+TEST_F(TestLibraryDatabase, AnExportWhoseFileWasCompleteWhenItsRunEndedIsDone)
+{
+    const QString older = m_folder.filePath(QStringLiteral("a.mp4"));
+    const QString own = m_folder.filePath(QStringLiteral("a (2).mp4"));
+    StoredExport item = Export(1, State::Running);
+    item.request.settings.outputPath = older;
+    item.request.settings.existing = KxOutputFile::Existing::AddNumber;
+    item.begunAtMs = 1700000000000;
+    StoredExport other = item;
+    other.key = 2;
+    other.request.settings.outputPath = m_folder.filePath(QStringLiteral("b.mp4"));
+    {
+        const auto database = Open();
+        ASSERT_FALSE(database->SaveExport(item));
+        ASSERT_FALSE(database->SaveExport(other));
+        for (const auto& [path, ms] : {std::pair(older, -60000), std::pair(own, 1000)}) {
+            QFile file(path);
+            ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+            ASSERT_EQ(file.write("video"), 5);
+            ASSERT_TRUE(file.flush());
+            ASSERT_TRUE(file.setFileTime(QDateTime::fromMSecsSinceEpoch(item.begunAtMs + ms),
+                                         QFileDevice::FileModificationTime));
+        }
+    }
+    const QList<StoredExport> exports = Contents(*Open()).exports;
+    ASSERT_EQ(exports.size(), 2);
+    EXPECT_EQ(exports[0].state, State::Done);
+    EXPECT_EQ(exports[0].filePath, own);
+    EXPECT_EQ(exports[0].fileBytes, 5);
+    EXPECT_EQ(exports[1].state, State::Interrupted);
+    EXPECT_EQ(exports[1].begunAtMs, other.begunAtMs);
 }
 
 TEST_F(TestLibraryDatabase, ExportsOfARunningProgramAreNotOffered)

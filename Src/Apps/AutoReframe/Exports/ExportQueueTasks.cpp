@@ -2,6 +2,7 @@
 
 #include <Apps/AutoReframe/Exports/PauseGate.h>
 
+#include <QDateTime>
 #include <QFileInfo>
 
 #include <algorithm>
@@ -50,6 +51,7 @@ void ExportQueue::StartNext()
 void ExportQueue::Start(ExportItem& item)
 {
     m_gate = std::make_shared<PauseGate>();
+    item.begunAtMs = QDateTime::currentMSecsSinceEpoch();
     if (item.plan) {
         FindCrops(item);
     } else {

@@ -61,6 +61,8 @@ private:
     KxError ReadState(StoredContents& contents);
     KxError ReadExports(StoredContents& contents);
     KxError ClaimInterruptedExports();
+    /// Those that this run, which has ended, rendered to the end but could not mark as done.
+    KxError FinishCommittedExports(const QString& run);
     KxError ForgetRemovedVideos();
 
     const QString m_folder;

@@ -1,5 +1,8 @@
 #include <Apps/AutoReframe/Store/LibraryDatabase.h>
 
+#include <KxCore/KxOutputFile.h>
+
+#include <QFileInfo>
 #include <QSet>
 #include <QSqlQuery>
 
@@ -105,6 +108,11 @@ QList<uint> FramesOf(const QString& text)
     return frames;
 }
 
+KxOutputFile::Existing ExistingOf(const QVariant& addsNumber)
+{
+    return addsNumber.toBool() ? KxOutputFile::Existing::AddNumber : KxOutputFile::Existing::Replace;
+}
+
 StoredExport ExportOf(const QSqlQuery& row, State state)
 {
     StoredExport item;
@@ -116,7 +124,7 @@ StoredExport ExportOf(const QSqlQuery& row, State state)
     Unpack(row.value(4).toByteArray(), source);
     KxRenderSettings& settings = item.request.settings;
     settings.outputPath = row.value(5).toString();
-    settings.existing = row.value(6).toBool() ? KxOutputFile::Existing::AddNumber : KxOutputFile::Existing::Replace;
+    settings.existing = ExistingOf(row.value(6));
     settings.resolution = QSize(row.value(7).toInt(), row.value(8).toInt());
     settings.frameRate = row.value(9).toDouble();
     settings.videoBitRate = row.value(10).toInt();
@@ -130,6 +138,7 @@ StoredExport ExportOf(const QSqlQuery& row, State state)
     }
     item.frames = row.value(19).toLongLong();
     item.shotsToLookAt = FramesOf(row.value(20).toString());
+    item.begunAtMs = row.value(22).toLongLong();
     return item;
 }
 
@@ -151,6 +160,9 @@ KxError LibraryDatabase::ClaimInterruptedExports()
         if (run == m_run.Name() || LibraryRun::IsAlive(run, m_folder)) {
             continue;
         }
+        if (const KxError finishFailure = FinishCommittedExports(run)) {
+            return finishFailure;
+        }
         if (const KxError claimFailure = m_connection.Execute(
                 QStringLiteral("UPDATE exports SET state = 'interrupted', run = ? WHERE run = ? AND ") + Unfinished,
                 {m_run.Name(), run})) {
@@ -160,14 +172,41 @@ KxError LibraryDatabase::ClaimInterruptedExports()
     return std::nullopt;
 }
 
+KxError LibraryDatabase::FinishCommittedExports(const QString& run)
+{
+    QHash<qint64, QString> written;
+    const KxError failure =
+        m_connection.Select(QStringLiteral("SELECT key, output_path, adds_number, begun_at FROM exports "
+                                           "WHERE run = ? AND state = 'running' AND begun_at > 0"),
+                            {run}, [&written](const QSqlQuery& row) {
+                                const QString path = KxOutputFile::FindCommitted(
+                                    row.value(1).toString(), ExistingOf(row.value(2)), row.value(3).toLongLong());
+                                if (!path.isEmpty()) {
+                                    written.insert(row.value(0).toLongLong(), path);
+                                }
+                            });
+    if (failure) {
+        return failure;
+    }
+    for (auto file = written.cbegin(); file != written.cend(); ++file) {
+        if (const KxError finishFailure = m_connection.Execute(
+                QStringLiteral("UPDATE exports SET state = 'done', crops = NULL, file_path = ?, file_bytes = ? "
+                               "WHERE key = ?"),
+                {file.value(), QFileInfo(file.value()).size(), file.key()})) {
+            return finishFailure;
+        }
+    }
+    return std::nullopt;
+}
+
 KxError LibraryDatabase::ReadExports(StoredContents& contents)
 {
     return m_connection.Select(
-        QStringLiteral(
-            "SELECT key, state, source_path, audio_stream, crops, output_path, adds_number, width, height, "
-            "frame_rate, video_bit_rate, audio_bit_rate, file_path, file_bytes, message, plan_width, "
-            "plan_height, plan_speed, plan_short_side, frames, shots_to_look_at, plan_output_height FROM exports "
-            "WHERE run = ? OR NOT ") +
+        QStringLiteral("SELECT key, state, source_path, audio_stream, crops, output_path, adds_number, width, height, "
+                       "frame_rate, video_bit_rate, audio_bit_rate, file_path, file_bytes, message, plan_width, "
+                       "plan_height, plan_speed, plan_short_side, frames, shots_to_look_at, plan_output_height, "
+                       "begun_at FROM exports "
+                       "WHERE run = ? OR NOT ") +
             Unfinished + QStringLiteral(" ORDER BY position, key"),
         {m_run.Name()}, [&contents](const QSqlQuery& row) {
             const std::optional<State> state = StateOf(row.value(1).toString());
@@ -192,9 +231,9 @@ KxError LibraryDatabase::SaveExport(const StoredExport& item)
         QStringLiteral("INSERT OR REPLACE INTO exports(key, position, state, run, source_path, audio_stream, crops, "
                        "output_path, adds_number, width, height, frame_rate, video_bit_rate, audio_bit_rate, "
                        "file_path, file_bytes, message, plan_width, plan_height, plan_speed, plan_short_side, "
-                       "frames, shots_to_look_at, plan_output_height) "
+                       "frames, shots_to_look_at, plan_output_height, begun_at) "
                        "VALUES(?, (SELECT coalesce(max(position), 0) + 1 FROM exports), ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, "
-                       "?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)"),
+                       "?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)"),
         {item.key,
          NameOf(item.state),
          m_run.Name(),
@@ -217,19 +256,20 @@ KxError LibraryDatabase::SaveExport(const StoredExport& item)
          plan.shortSidePx,
          item.frames,
          TextOf(item.shotsToLookAt),
-         plan.heightPx});
+         plan.heightPx,
+         item.begunAtMs});
 }
 
 KxError LibraryDatabase::SaveExportState(const StoredExport& item)
 {
     return m_connection.Execute(
         QStringLiteral("UPDATE exports SET state = ?, run = ?, file_path = ?, file_bytes = ?, message = ?, "
-                       "shots_to_look_at = ?, "
+                       "shots_to_look_at = ?, begun_at = ?, "
                        "crops = CASE ? WHEN 'done' THEN NULL ELSE crops END, "
                        "position = CASE ? WHEN 'waiting' THEN (SELECT max(position) + 1 FROM exports) "
                        "ELSE position END WHERE key = ?"),
         {NameOf(item.state), m_run.Name(), item.filePath, item.fileBytes, item.message, TextOf(item.shotsToLookAt),
-         NameOf(item.state), NameOf(item.state), item.key});
+         item.begunAtMs, NameOf(item.state), NameOf(item.state), item.key});
 }
 
 KxError LibraryDatabase::RemoveExport(qint64 key)

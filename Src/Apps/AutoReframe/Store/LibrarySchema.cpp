@@ -60,11 +60,17 @@ QStringList FourthVersion()
     return {QStringLiteral("ALTER TABLE exports ADD COLUMN plan_output_height INTEGER NOT NULL DEFAULT 0")};
 }
 
+QStringList FifthVersion()
+{
+    return {QStringLiteral("ALTER TABLE exports ADD COLUMN begun_at INTEGER NOT NULL DEFAULT 0")};
+}
+
 } // namespace
 
 KxError LibrarySchema::Migrate(LibraryConnection& connection, int from)
 {
-    const std::vector<QStringList> versions{FirstVersion(), SecondVersion(), ThirdVersion(), FourthVersion()};
+    const std::vector<QStringList> versions{FirstVersion(), SecondVersion(), ThirdVersion(), FourthVersion(),
+                                            FifthVersion()};
     for (size_t version = static_cast<size_t>(from); version < versions.size(); ++version) {
         for (const QString& statement : versions[version]) {
             if (const KxError failure = connection.Execute(statement)) {
