@@ -3,6 +3,7 @@
 #include <KxModel/KxChoiceRecords.h>
 #include <KxModel/KxChoicesFormat.h>
 #include <KxModel/KxFollowTracks.h>
+#include <KxModel/KxFramePictures.h>
 #include <KxModel/KxPointedPicture.h>
 #include <KxModel/KxRecordStore.h>
 
@@ -283,6 +284,27 @@ QList<KxAutoReframeChoice> KxAutoReframeService::GetPlacedChoices(const QString&
     const std::lock_guard<std::mutex> lock(m_mutex);
     const bool hasResults = m_result.outcome == KxOutcome::Done && path == m_resultPath;
     return hasResults ? KxChoiceRecords::FromPlaced(m_result.choices) : QList<KxAutoReframeChoice>();
+}
+
+QList<QByteArray> KxAutoReframeService::DescribeFrames(const QString& path, const QList<qint64>& frames) const
+{
+    if (const std::shared_ptr<const KxSubjectRecord> record = RecordOf(path)) {
+        return KxFramePictures::Describe(*record, frames);
+    }
+    return QVector<QByteArray>(frames.size()).toList();
+}
+
+QList<std::optional<qint64>> KxAutoReframeService::FindFrames(const QString& path,
+                                                              const QList<KxDescribedFrame>& frames) const
+{
+    if (const std::shared_ptr<const KxSubjectRecord> record = RecordOf(path)) {
+        return KxFramePictures::Find(*record, frames);
+    }
+    QList<std::optional<qint64>> found;
+    for (const KxDescribedFrame& frame : frames) {
+        found += frame.frame;
+    }
+    return found;
 }
 
 QList<IKxAutoReframeResult> KxAutoReframeService::Decide(const QString& path, const IKxAutoReframeParam& param) const

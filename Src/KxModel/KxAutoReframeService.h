@@ -2,6 +2,7 @@
 
 #include <KxModel/IKxAutoReframeChoices.h>
 #include <KxModel/IKxAutoReframeDecisions.h>
+#include <KxModel/IKxAutoReframePictures.h>
 #include <KxModel/IKxAutoReframeService.h>
 #include <KxModel/IKxAutoReframeShots.h>
 
@@ -23,6 +24,7 @@
 class KXMODEL_API KxAutoReframeService final : public IKxAutoReframeService,
                                                public IKxAutoReframeShots,
                                                public IKxAutoReframeChoices,
+                                               public IKxAutoReframePictures,
                                                public IKxAutoReframeDecisions
 {
 public:
@@ -62,6 +64,9 @@ public:
     KxAutoReframeGuess GuessBox(const QString& path, qint64 frame, const QPointF& point) const override;
     QList<KxAutoReframeLoss> GetLosses(const QString& path) const override;
     QList<KxAutoReframeChoice> GetPlacedChoices(const QString& path) const override;
+
+    QList<QByteArray> DescribeFrames(const QString& path, const QList<qint64>& frames) const override;
+    QList<std::optional<qint64>> FindFrames(const QString& path, const QList<KxDescribedFrame>& frames) const override;
 
     QList<IKxAutoReframeResult> Decide(const QString& path, const IKxAutoReframeParam& param) const override;
 
