@@ -1206,6 +1206,23 @@ Benötigt: %1 MB, verfügbar: %2 MB.</translation>
     </message>
 </context>
 <context>
+    <name>KrEditPictures</name>
+    <message numerus="yes">
+        <source>%n edit points are kept, but not in this cut of the video</source>
+        <translation>
+            <numerusform>%n Bearbeitungspunkt bleibt, aber nicht in dieser Schnittfassung</numerusform>
+            <numerusform>%n Bearbeitungspunkte bleiben, aber nicht in dieser Schnittfassung</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n edit points were moved to where their pictures are</source>
+        <translation>
+            <numerusform>%n Bearbeitungspunkt wurde dorthin verschoben, wo seine Bilder sind</numerusform>
+            <numerusform>%n Bearbeitungspunkte wurden dorthin verschoben, wo ihre Bilder sind</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>KrExportStatus</name>
     <message>
         <source>Progress of the export</source>

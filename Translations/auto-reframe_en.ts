@@ -114,6 +114,23 @@
     </message>
 </context>
 <context>
+    <name>KrEditPictures</name>
+    <message numerus="yes">
+        <source>%n edit points are kept, but not in this cut of the video</source>
+        <translation>
+            <numerusform>%n edit point is kept, but not in this cut of the video</numerusform>
+            <numerusform>%n edit points are kept, but not in this cut of the video</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n edit points were moved to where their pictures are</source>
+        <translation>
+            <numerusform>%n edit point was moved to where its pictures are</numerusform>
+            <numerusform>%n edit points were moved to where their pictures are</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message numerus="yes">
         <source>%n files that are no videos were skipped</source>

@@ -1206,6 +1206,23 @@ Espacio necesario: %1 MB, disponible: %2 MB.</translation>
     </message>
 </context>
 <context>
+    <name>KrEditPictures</name>
+    <message numerus="yes">
+        <source>%n edit points are kept, but not in this cut of the video</source>
+        <translation>
+            <numerusform>%n punto de edición se conserva, pero no en este montaje del vídeo</numerusform>
+            <numerusform>%n puntos de edición se conservan, pero no en este montaje del vídeo</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n edit points were moved to where their pictures are</source>
+        <translation>
+            <numerusform>%n punto de edición se movió a donde están sus imágenes</numerusform>
+            <numerusform>%n puntos de edición se movieron a donde están sus imágenes</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>KrExportStatus</name>
     <message>
         <source>Progress of the export</source>

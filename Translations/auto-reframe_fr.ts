@@ -1206,6 +1206,23 @@ Espace nécessaire&#xa0;: %1 Mo, disponible&#xa0;: %2 Mo.</translation>
     </message>
 </context>
 <context>
+    <name>KrEditPictures</name>
+    <message numerus="yes">
+        <source>%n edit points are kept, but not in this cut of the video</source>
+        <translation>
+            <numerusform>%n point d’édition est conservé, mais pas dans ce montage de la vidéo</numerusform>
+            <numerusform>%n points d’édition sont conservés, mais pas dans ce montage de la vidéo</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n edit points were moved to where their pictures are</source>
+        <translation>
+            <numerusform>%n point d’édition a été déplacé là où sont ses images</numerusform>
+            <numerusform>%n points d’édition ont été déplacés là où sont leurs images</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>KrExportStatus</name>
     <message>
         <source>Progress of the export</source>

@@ -1196,6 +1196,21 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
     </message>
 </context>
 <context>
+    <name>KrEditPictures</name>
+    <message numerus="yes">
+        <source>%n edit points are kept, but not in this cut of the video</source>
+        <translation>
+            <numerusform>%n 個の編集ポイントは保持されますが、この編集版にはありません</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n edit points were moved to where their pictures are</source>
+        <translation>
+            <numerusform>%n 個の編集ポイントを画像のある位置に移動しました</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>KrExportStatus</name>
     <message>
         <source>Progress of the export</source>

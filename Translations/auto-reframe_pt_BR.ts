@@ -1206,6 +1206,23 @@ Espaço necessário: %1 MB, disponível: %2 MB.</translation>
     </message>
 </context>
 <context>
+    <name>KrEditPictures</name>
+    <message numerus="yes">
+        <source>%n edit points are kept, but not in this cut of the video</source>
+        <translation>
+            <numerusform>%n ponto de edição é mantido, mas não nesta montagem do vídeo</numerusform>
+            <numerusform>%n pontos de edição são mantidos, mas não nesta montagem do vídeo</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n edit points were moved to where their pictures are</source>
+        <translation>
+            <numerusform>%n ponto de edição foi movido para onde estão suas imagens</numerusform>
+            <numerusform>%n pontos de edição foram movidos para onde estão suas imagens</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>KrExportStatus</name>
     <message>
         <source>Progress of the export</source>

@@ -12,6 +12,19 @@
 
 class QWidget;
 
+/// An edit point whose pictures were not in the video when it was analyzed last, because it was cut differently: it is
+/// kept, and set again if they return. A plain value.
+struct KrUnplacedEdit {
+    qint64 frame = 0; ///< where it was when it was set last
+    QRectF crop;      ///< as in KrAutoReframeState::editPoints
+    QByteArray pictures;
+
+    bool operator==(const KrUnplacedEdit& other) const
+    {
+        return frame == other.frame && crop == other.crop && pictures == other.pictures;
+    }
+};
+
 /// What a person has decided about one video in the dialog. A plain value.
 struct KrAutoReframeState {
     /// The settings of the panel; 0 if none were chosen yet.
@@ -26,6 +39,10 @@ struct KrAutoReframeState {
     /// The crops that the person placed, by frame: x and width as fractions of the picture's width, y and height as
     /// fractions of its height. Each has the aspect ratio in which it was placed; in another one it keeps its centre.
     QMap<uint, QRectF> editPoints;
+    /// What the pictures around the edit points look like, by frame: text as the service writes it, to be stored
+    /// unread. By it they are found again in a file that was cut differently. Empty without IKxAutoReframePictures.
+    QMap<uint, QByteArray> editPictures;
+    QList<KrUnplacedEdit> unplacedEdits;
     /// Whom to follow, and where: JSON text as the service writes it, to be stored unread. Empty: the analysis decides.
     QByteArray choices;
     /// The first frames of the doubtful shots that the person has looked at, ascending.
@@ -41,7 +58,8 @@ struct KrAutoReframeState {
     {
         return aspectWidth == other.aspectWidth && aspectHeight == other.aspectHeight &&
                motionSpeed == other.motionSpeed && isAnalyzed == other.isAnalyzed && editPoints == other.editPoints &&
-               choices == other.choices && seenShots == other.seenShots;
+               editPictures == other.editPictures && unplacedEdits == other.unplacedEdits && choices == other.choices &&
+               seenShots == other.seenShots;
     }
     bool operator!=(const KrAutoReframeState& other) const { return !(*this == other); }
 };
@@ -120,6 +138,8 @@ protected:
 /// - the arrow keys move the crop while the picture has the focus: by a pixel of the video, with Shift by 10;
 /// - where the service offers IKxAutoReframeShots: shots on the slider, and a way through those that are doubtful;
 /// - where the service offers IKxAutoReframeChoices: pointing at what the crop follows or avoids in a shot;
+/// - where the service offers IKxAutoReframePictures: edit points move with their pictures in a file that was cut
+///   differently;
 /// - where the service offers IKxAutoReframeDecisions: several aspect ratios side by side;
 /// - where the host also implements KrAutoReframeExports: how an export is getting on;
 /// - where the host also implements KrAutoReframeOutputs: the size in which it is written;

@@ -155,6 +155,18 @@ void KrAutoReframeHelper::RestoreEditPoints(const QMap<uint, QRectF>& points)
     }
 }
 
+void KrAutoReframeHelper::ReplaceEditPoints(const QMap<uint, QRectF>& points)
+{
+    const QList<KrEditSegment> earlier = m_segments;
+    m_segments.clear();
+    m_editPoints.clear();
+    for (const KrEditSegment& segment : earlier) {
+        ApplyEditRange(segment.start, segment.End(), KrEditSegment());
+    }
+    RestoreEditPoints(points);
+    m_undoStack->clear();
+}
+
 const QMap<uint, QRectF>& KrAutoReframeHelper::GetEditPoints() const
 {
     return m_editPoints;

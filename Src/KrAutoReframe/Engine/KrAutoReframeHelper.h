@@ -83,6 +83,8 @@ public:
     void SetEditsSurvive(bool survive);
     /// Sets the edit points of a source that has none, without a step to undo. Those after the last frame are dropped.
     void RestoreEditPoints(const QMap<uint, QRectF>& points);
+    /// Sets these edit points in place of all others, without a step to undo; the history ends.
+    void ReplaceEditPoints(const QMap<uint, QRectF>& points);
     /// As the person placed them, by frame.
     const QMap<uint, QRectF>& GetEditPoints() const;
     /// The history of the edits. Its owner's other decisions may be part of it.

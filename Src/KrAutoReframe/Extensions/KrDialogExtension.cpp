@@ -58,6 +58,7 @@ KrDialogExtension::KrDialogExtension(KrAutoReframeExtensions& host, const Parts&
     : QObject(parent)
     , m_host(host)
     , m_parts(parts)
+    , m_edits(*parts.process.GetHelper())
     , m_exportStatus(new KrExportStatus(dynamic_cast<KrAutoReframeExports*>(&host),
                                         dynamic_cast<KrAutoReframeOutputs*>(&host), &parts.panel))
     , m_choices(new KrChoiceList(parts.process.GetHelper()->GetUndoStack(), this))
@@ -208,7 +209,7 @@ void KrDialogExtension::EnterSource()
     const QString path = m_parts.process.GetPath();
     m_state = path.isEmpty() ? KrAutoReframeState() : m_host.LoadState(path);
     m_parts.panel.SetParameters(m_state.aspectWidth, m_state.aspectHeight, m_state.motionSpeed);
-    m_parts.process.GetHelper()->RestoreEditPoints(m_state.editPoints);
+    m_edits.Restore(m_state);
     m_parts.view.RefreshFrame(m_parts.view.Presenter().currentFrame());
     if (m_followControls != nullptr) {
         m_choices->Restore(ServiceChoices()->ReadChoices(m_state.choices));
@@ -290,6 +291,9 @@ void KrDialogExtension::ShowResults()
     const KrAutoReframeAnalyzeParam param = m_parts.process.GetParam();
     m_shown = {param.width, param.height, param.mode};
     TakePlacedChoices();
+    if (m_edits.Place(m_path)) {
+        m_parts.view.RefreshFrame(m_parts.view.Presenter().currentFrame());
+    }
     m_shownChoices = m_choices->Current();
     UpdateHint();
     ShowResultSize();
@@ -398,7 +402,10 @@ KrDialogExtension::Settings KrDialogExtension::PanelSettings() const
 void KrDialogExtension::UpdateHint()
 {
     const bool differs = !(PanelSettings() == m_shown) || !(m_choices->Current() == m_shownChoices);
-    m_parts.panel.SetHint(m_hasResults && differs ? tr("Settings changed: analyze again") : m_placement);
+    QStringList placement{m_placement, m_edits.Message()};
+    placement.removeAll(QString());
+    m_parts.panel.SetHint(m_hasResults && differs ? tr("Settings changed: analyze again")
+                                                  : placement.join(QLatin1Char('\n')));
 }
 
 void KrDialogExtension::ShowResultSize()
@@ -423,7 +430,9 @@ KrAutoReframeState KrDialogExtension::CurrentState() const
     state.aspectHeight = settings.height;
     state.motionSpeed = settings.speed;
     state.isAnalyzed = m_state.isAnalyzed || m_hasResults;
-    state.editPoints = m_parts.process.GetHelper()->GetEditPoints();
+    state.editPoints = m_edits.Edits().points;
+    state.editPictures = m_edits.Edits().pictures;
+    state.unplacedEdits = m_edits.Edits().unplaced;
     if (m_followControls != nullptr) {
         const bool hasChoices = !m_choices->Current().isEmpty();
         state.choices = hasChoices ? ServiceChoices()->WriteChoices(m_path, m_choices->Current()) : QByteArray();
@@ -439,6 +448,7 @@ void KrDialogExtension::ReportChange()
     if (m_path.isEmpty()) {
         return;
     }
+    m_edits.Describe(m_path);
     const KrAutoReframeState state = CurrentState();
     if (state != m_state) {
         m_state = state;

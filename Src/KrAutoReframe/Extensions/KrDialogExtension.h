@@ -1,5 +1,6 @@
 #pragma once
 
+#include <KrAutoReframe/Extensions/KrEditPictures.h>
 #include <KrAutoReframe/KrAutoReframeExtensions.h>
 #include <KxModel/IKxAutoReframeChoices.h>
 
@@ -102,6 +103,7 @@ private:
     QList<KxAutoReframeChoice> m_shownChoices;
     /// What became of choices that were made for another cut of the video; empty: nothing.
     QString m_placement;
+    KrEditPictures m_edits;
     /// Null if the host's service has no shots.
     KrDoubtfulShots* m_doubtfulShots = nullptr;
     KrExportStatus* m_exportStatus;

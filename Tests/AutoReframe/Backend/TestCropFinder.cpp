@@ -3,6 +3,7 @@
 #include <Tests/Support/MadeVideo.h>
 
 #include <KxEditList/KxEditList.h>
+#include <KxModel/KxAutoReframeService.h>
 #include <KxModel/KxSimpleTimeline.h>
 
 #include <QFile>
@@ -94,6 +95,37 @@ TEST_F(TestCropFinder, EditPointsOfTheDialogAreKeptTo)
     ASSERT_EQ(edited.outcome, KxOutcome::Done);
     EXPECT_NE(automatic.request.source.crops->at(25).left(), 0.0);
     EXPECT_EQ(edited.request.source.crops->at(25).left(), 0.0);
+}
+
+TEST_F(TestCropFinder, InATrimmedFileEditPointsHoldWhereTheirPicturesAre)
+{
+    const QString footage = QStringLiteral("/usr/share/doc/opencv-doc/examples/data/Megamind.avi");
+    if (!QFile::exists(footage)) {
+        GTEST_SKIP() << "needs Megamind.avi of the package opencv-doc";
+    }
+    KxAutoReframeService& service = KxAutoReframeService::Instance();
+    ASSERT_TRUE(service.StartTask(footage, IKxAutoReframeParam(16, QSize(9, 16))));
+    QList<IKxAutoReframeResult> results;
+    ASSERT_TRUE(QTest::qWaitFor([&] { return service.GetResults(footage, &results) == 0; }, 60000));
+    const QRectF placed(0.0, 0.0, results.first().cropRect().width(), 1.0);
+    CropRequest request = Request(m_folder.filePath(QStringLiteral("trimmed.mp4")));
+    const QList<qint64> frames{20, 120};
+    const QList<QByteArray> pictures = service.DescribeFrames(footage, frames);
+    for (int i = 0; i < frames.size(); ++i) {
+        request.edits.editPoints.insert(static_cast<uint>(frames.at(i)), placed);
+        request.edits.editPictures.insert(static_cast<uint>(frames.at(i)), pictures.at(i));
+    }
+
+    ASSERT_TRUE(MadeVideo::RunFfmpeg({QStringLiteral("-ss"), QStringLiteral("2.5"), QStringLiteral("-i"), footage,
+                                      QStringLiteral("-an"), QStringLiteral("-vf"), QStringLiteral("scale=480:-2"),
+                                      QStringLiteral("-c:v"), QStringLiteral("libx264"), QStringLiteral("-crf"),
+                                      QStringLiteral("28"), request.path}));
+    const FoundCrops found = Find(request);
+    ASSERT_EQ(found.outcome, KxOutcome::Done) << found.message.toStdString();
+    // 2.46 s were cut away, 59 frames. Pictures that were skipped make a difference of up to two frames.
+    ASSERT_EQ(found.clip->edits.size(), 1U) << "the first one was cut away";
+    EXPECT_NEAR(static_cast<double>(found.clip->edits.front()), 120.0 - 59.0, 2.0);
+    EXPECT_EQ(found.request.source.crops->at(static_cast<std::size_t>(found.clip->edits.front())).left(), 0.0);
 }
 
 TEST_F(TestCropFinder, ChoicesOfTheDialogAreKeptTo)

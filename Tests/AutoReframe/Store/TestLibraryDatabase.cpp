@@ -73,6 +73,8 @@ TEST_F(TestLibraryDatabase, EditsComeBackAndAreReplaced)
     edits.isAnalyzed = true;
     edits.seenShots = {0, 40};
     edits.editPoints = {{12, QRectF(0.1, 0.0, 1.0 / 3.0, 1.0)}, {99, QRectF(0.5, 0.25, 0.25, 0.5)}};
+    edits.editPictures = {{99, "{\"version\":1}"}};
+    edits.unplacedEdits = {{-30, QRectF(0.2, 0.0, 0.25, 1.0), "pictures"}, {12, QRectF(0.3, 0.0, 0.25, 1.0), {}}};
     edits.choices = "{\"version\":1}";
     const auto database = Open();
     ASSERT_FALSE(database->SaveVideo(Video(QStringLiteral("/a.mp4"))));
@@ -82,6 +84,7 @@ TEST_F(TestLibraryDatabase, EditsComeBackAndAreReplaced)
     EXPECT_TRUE(Edits(*database, "/b.mp4") == VideoEdits());
     edits.editPoints.remove(12);
     edits.choices.clear();
+    edits.unplacedEdits.removeFirst();
     ASSERT_FALSE(database->SaveEdits(QStringLiteral("/a.mp4"), edits));
     EXPECT_TRUE(Edits(*database, "/a.mp4") == edits);
 }

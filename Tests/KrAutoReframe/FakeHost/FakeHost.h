@@ -4,6 +4,7 @@
 #include <KxModel/IKxAbstractMedia.h>
 #include <KxModel/IKxAutoReframeChoices.h>
 #include <KxModel/IKxAutoReframeDecisions.h>
+#include <KxModel/IKxAutoReframePictures.h>
 #include <KxModel/IKxAutoReframeService.h>
 #include <KxModel/IKxAutoReframeShots.h>
 #include <KxModel/IKxKeyFrameHelper.h>
@@ -188,7 +189,10 @@ public:
 };
 
 /// The same, taking a person's choices and deciding on other ratios too. As text it writes the choices' number.
-class ServiceWithChoices : public ServiceWithShots, public IKxAutoReframeChoices, public IKxAutoReframeDecisions
+class ServiceWithChoices : public ServiceWithShots,
+                           public IKxAutoReframeChoices,
+                           public IKxAutoReframePictures,
+                           public IKxAutoReframeDecisions
 {
 public:
     void SetChoices(const QList<KxAutoReframeChoice>& wanted) override;
@@ -197,6 +201,10 @@ public:
     KxAutoReframeGuess GuessBox(const QString& path, qint64 frame, const QPointF& point) const override;
     QList<KxAutoReframeLoss> GetLosses(const QString&) const override { return losses; }
     QList<KxAutoReframeChoice> GetPlacedChoices(const QString&) const override { return placed; }
+    /// The number of the picture in the whole video.
+    QList<QByteArray> DescribeFrames(const QString& path, const QList<qint64>& frames) const override;
+    /// By these numbers.
+    QList<std::optional<qint64>> FindFrames(const QString& path, const QList<KxDescribedFrame>& frames) const override;
     /// For every ratio, `decided`.
     QList<IKxAutoReframeResult> Decide(const QString&, const IKxAutoReframeParam&) const override { return decided; }
 
@@ -204,6 +212,8 @@ public:
     /// Where a task found them; empty: where they are.
     QList<KxAutoReframeChoice> placed;
     QList<KxAutoReframeLoss> losses;
+    /// By how many frames the video was trimmed at its start.
+    qint64 trimmed = 0;
     /// Set before it is asked for.
     QList<IKxAutoReframeResult> decided;
     /// What is guessed, around the point.

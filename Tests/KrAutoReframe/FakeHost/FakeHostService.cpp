@@ -190,6 +190,26 @@ KxAutoReframeGuess ServiceWithChoices::GuessBox(const QString& /*path*/, qint64 
     return {QRectF(QPointF(point.x() - guess.width() / 2.0, point.y() - guess.height() / 2.0), guess), isBackground};
 }
 
+QList<QByteArray> ServiceWithChoices::DescribeFrames(const QString& /*path*/, const QList<qint64>& frames) const
+{
+    QList<QByteArray> texts;
+    for (const qint64 frame : frames) {
+        texts += QByteArray::number(frame + trimmed);
+    }
+    return texts;
+}
+
+QList<std::optional<qint64>> ServiceWithChoices::FindFrames(const QString& /*path*/,
+                                                            const QList<KxDescribedFrame>& frames) const
+{
+    QList<std::optional<qint64>> found;
+    for (const KxDescribedFrame& described : frames) {
+        const qint64 frame = described.pictures.isEmpty() ? described.frame : described.pictures.toLongLong() - trimmed;
+        found += frame >= 0 ? std::optional<qint64>(frame) : std::nullopt;
+    }
+    return found;
+}
+
 ServiceWithChoices& OfferChoices()
 {
     auto service = std::make_unique<ServiceWithChoices>();

@@ -5,9 +5,11 @@
 #include <Apps/CropTracks/CroppedMedia.h>
 #include <KrAutoReframe/Engine/KrAutoReframeHelper.h>
 #include <KrAutoReframe/Engine/KrExportParameters.h>
+#include <KrAutoReframe/Engine/KrKeptEdits.h>
 #include <KxCore/KxCropWindow.h>
 #include <KxCore/KxOutputSize.h>
 #include <KxModel/KxChoicesFormat.h>
+#include <KxModel/KxFramePictures.h>
 #include <KxModel/KxMediaItem.h>
 #include <KxModel/KxSimpleTimeline.h>
 
@@ -171,6 +173,12 @@ CropFinder::Analyzed CropFinder::Analyze(std::shared_ptr<KxMediaItem> media)
             analyzed.found.doubtfulShots += static_cast<uint>(shot.first);
         }
     }
+    if (result.record) {
+        const VideoEdits& edits = m_request.edits;
+        KrKeptEdits kept{edits.editPoints, edits.editPictures, edits.unplacedEdits};
+        kept.MoveTo(KxFramePictures::Find(*result.record, kept.Described()));
+        analyzed.editPoints = kept.points;
+    }
     analyzed.crops = result.crops;
     analyzed.models = std::move(result.models);
     analyzed.aspect = m_request.plan.aspect;
@@ -195,7 +203,7 @@ void CropFinder::ApplyEdits(const Analyzed& analyzed)
     m_helper->SetTimeline(m_timeline.get());
     m_helper->SetEditsSurvive(true);
     if (m_request.cropTrack.isEmpty()) {
-        m_helper->RestoreEditPoints(m_request.edits.editPoints);
+        m_helper->RestoreEditPoints(m_analyzed.editPoints);
     }
     connect(m_helper.get(), &KrAutoReframeHelper::sigApplyFinished, this, &CropFinder::Finish);
     m_helper->ApplyResults(m_analyzed.crops);

@@ -33,6 +33,7 @@ private:
         std::vector<KxUsedModel> models;
         std::vector<qint64> shotStarts; ///< ascending; empty if the crops were read
         QSize aspect;
+        QMap<uint, QRectF> editPoints; ///< where their pictures are in this cut of the video
     };
 
     // On the thread.

@@ -76,6 +76,8 @@ KrAutoReframeState DialogEdits::LoadState(const QString& path)
     state.motionSpeed = edits.speed;
     state.isAnalyzed = edits.isAnalyzed;
     state.editPoints = edits.editPoints;
+    state.editPictures = edits.editPictures;
+    state.unplacedEdits = edits.unplacedEdits;
     state.choices = edits.choices;
     state.seenShots = edits.seenShots;
     state.startsAtDoubtfulShot = std::exchange(m_startsAtDoubtfulShot, false);
@@ -86,7 +88,8 @@ void DialogEdits::OnStateChanged(const QString& path, const KrAutoReframeState& 
 {
     if (m_callbacks.editsChanged && path != m_pathWithTrack) {
         m_callbacks.editsChanged(path, {QSize(state.aspectWidth, state.aspectHeight), state.motionSpeed,
-                                        state.isAnalyzed, state.editPoints, state.choices, state.seenShots});
+                                        state.isAnalyzed, state.editPoints, state.editPictures, state.unplacedEdits,
+                                        state.choices, state.seenShots});
     }
 }
 

@@ -43,6 +43,8 @@ struct VideoEdits {
     bool isAnalyzed = false;
     /// The crops that the person placed, by frame, in fractions of the picture.
     QMap<uint, QRectF> editPoints;
+    QMap<uint, QByteArray> editPictures; ///< text around each; the program does not look into it
+    QList<KrUnplacedEdit> unplacedEdits;
     QByteArray choices; ///< JSON; the program does not look into it
     /// First frames of the doubtful shots that the person has looked at, ascending.
     QList<uint> seenShots;
@@ -50,7 +52,8 @@ struct VideoEdits {
     bool operator==(const VideoEdits& other) const
     {
         return aspect == other.aspect && speed == other.speed && isAnalyzed == other.isAnalyzed &&
-               editPoints == other.editPoints && choices == other.choices && seenShots == other.seenShots;
+               editPoints == other.editPoints && editPictures == other.editPictures &&
+               unplacedEdits == other.unplacedEdits && choices == other.choices && seenShots == other.seenShots;
     }
     bool operator!=(const VideoEdits& other) const { return !(*this == other); }
 };

@@ -9,6 +9,18 @@ namespace
 const QString FromVideo = QStringLiteral(" FROM videos WHERE path = ?");
 const QString WithPath = QStringLiteral(" JOIN videos ON video = id");
 
+/// Not null, which the database refuses.
+QString TextOf(const QByteArray& text)
+{
+    return text.isEmpty() ? QStringLiteral("") : QString::fromUtf8(text);
+}
+
+QRectF RectOf(const QSqlQuery& row, int column)
+{
+    return {row.value(column).toDouble(), row.value(column + 1).toDouble(), row.value(column + 2).toDouble(),
+            row.value(column + 3).toDouble()};
+}
+
 /// Runs the statements until one fails.
 KxError InTurn(const QList<std::function<KxError()>>& statements)
 {
@@ -39,7 +51,7 @@ KxError LibraryDatabase::SaveEdits(const QString& path, const VideoEdits& edits)
                     FromVideo,
                 {edits.aspect.width(), edits.aspect.height(), edits.speed, edits.isAnalyzed, path}),
     };
-    for (const char* const table : {"edits", "choices", "seen_shots"}) {
+    for (const char* const table : {"edits", "unplaced_edits", "choices", "seen_shots"}) {
         statements += execute(
             QStringLiteral("DELETE FROM %1 WHERE video = (SELECT id%2)").arg(QLatin1String(table), FromVideo), {path});
     }
@@ -48,9 +60,20 @@ KxError LibraryDatabase::SaveEdits(const QString& path, const VideoEdits& edits)
                               {QString::fromUtf8(edits.choices), path});
     }
     for (auto point = edits.editPoints.begin(); point != edits.editPoints.end(); ++point) {
-        statements += execute(
-            QStringLiteral("INSERT INTO edits(video, frame, x, y, width, height) SELECT id, ?, ?, ?, ?, ?") + FromVideo,
-            {point.key(), point->x(), point->y(), point->width(), point->height(), path});
+        statements +=
+            execute(QStringLiteral(
+                        "INSERT INTO edits(video, frame, x, y, width, height, pictures) SELECT id, ?, ?, ?, ?, ?, ?") +
+                        FromVideo,
+                    {point.key(), point->x(), point->y(), point->width(), point->height(),
+                     TextOf(edits.editPictures.value(point.key())), path});
+    }
+    for (int i = 0; i < edits.unplacedEdits.size(); ++i) {
+        const KrUnplacedEdit& edit = edits.unplacedEdits.at(i);
+        statements += execute(QStringLiteral("INSERT INTO unplaced_edits(video, position, frame, x, y, width, height, "
+                                             "pictures) SELECT id, ?, ?, ?, ?, ?, ?, ?") +
+                                  FromVideo,
+                              {i, edit.frame, edit.crop.x(), edit.crop.y(), edit.crop.width(), edit.crop.height(),
+                               TextOf(edit.pictures), path});
     }
     for (const uint frame : edits.seenShots) {
         statements +=
@@ -76,11 +99,18 @@ KxError LibraryDatabase::ReadEdits(StoredContents& contents)
                  edits.speed = row.value(3).toInt();
                  edits.isAnalyzed = row.value(4).toBool();
              }),
-        read("frame, x, y, edits.width, edits.height FROM edits",
+        read("frame, x, y, edits.width, edits.height, pictures FROM edits",
              [](VideoEdits& edits, const QSqlQuery& row) {
-                 edits.editPoints.insert(row.value(1).toUInt(),
-                                         QRectF(row.value(2).toDouble(), row.value(3).toDouble(),
-                                                row.value(4).toDouble(), row.value(5).toDouble()));
+                 const uint frame = row.value(1).toUInt();
+                 edits.editPoints.insert(frame, RectOf(row, 2));
+                 if (const QByteArray pictures = row.value(6).toString().toUtf8(); !pictures.isEmpty()) {
+                     edits.editPictures.insert(frame, pictures);
+                 }
+             }),
+        read("frame, x, y, unplaced_edits.width, unplaced_edits.height, pictures FROM unplaced_edits",
+             [](VideoEdits& edits, const QSqlQuery& row) {
+                 edits.unplacedEdits +=
+                     KrUnplacedEdit{row.value(1).toLongLong(), RectOf(row, 2), row.value(6).toString().toUtf8()};
              }),
         read("json FROM choices",
              [](VideoEdits& edits, const QSqlQuery& row) { edits.choices = row.value(1).toString().toUtf8(); }),

@@ -65,12 +65,21 @@ QStringList FifthVersion()
     return {QStringLiteral("ALTER TABLE exports ADD COLUMN begun_at INTEGER NOT NULL DEFAULT 0")};
 }
 
+QStringList SixthVersion()
+{
+    return {QStringLiteral("ALTER TABLE edits ADD COLUMN pictures TEXT NOT NULL DEFAULT ''"),
+            QStringLiteral("CREATE TABLE unplaced_edits(video INTEGER NOT NULL REFERENCES videos(id) "
+                           "ON DELETE CASCADE, position INTEGER NOT NULL, frame INTEGER NOT NULL, x REAL NOT NULL, "
+                           "y REAL NOT NULL, width REAL NOT NULL, height REAL NOT NULL, pictures TEXT NOT NULL, "
+                           "PRIMARY KEY(video, position)) WITHOUT ROWID")};
+}
+
 } // namespace
 
 KxError LibrarySchema::Migrate(LibraryConnection& connection, int from)
 {
-    const std::vector<QStringList> versions{FirstVersion(), SecondVersion(), ThirdVersion(), FourthVersion(),
-                                            FifthVersion()};
+    const std::vector<QStringList> versions{FirstVersion(),  SecondVersion(), ThirdVersion(),
+                                            FourthVersion(), FifthVersion(),  SixthVersion()};
     for (size_t version = static_cast<size_t>(from); version < versions.size(); ++version) {
         for (const QString& statement : versions[version]) {
             if (const KxError failure = connection.Execute(statement)) {
