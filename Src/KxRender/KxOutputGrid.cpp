@@ -59,3 +59,13 @@ qint64 KxOutputGrid::SourceFrame(qint64 frame) const
     return std::min(KxFrameTime::Rescale(frame, m_stepNumerator, m_stepDenominator, KxFrameTime::Rounding::Down),
                     m_sourceFrames - 1);
 }
+
+KxFrameRange KxOutputGrid::FramesOf(const KxFrameRange& source) const
+{
+    // The first frame of the output that shows this frame of the source, or a later one.
+    const auto begin = [this](qint64 frame) {
+        const qint64 first = KxFrameTime::Rescale(frame, m_stepDenominator, m_stepNumerator, KxFrameTime::Rounding::Up);
+        return frame >= m_sourceFrames ? m_frames : std::min(first, m_frames);
+    };
+    return {begin(source.first), begin(source.end)};
+}

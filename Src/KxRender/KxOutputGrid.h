@@ -1,6 +1,7 @@
 #pragma once
 
 #include <KxCore/KxExport.h>
+#include <KxCore/KxFrameRange.h>
 #include <KxCore/KxRational.h>
 
 #include <optional>
@@ -21,6 +22,8 @@ public:
     qint64 Frames() const { return m_frames; }
     /// The source's frame that is shown at the output's frame `frame`.
     qint64 SourceFrame(qint64 frame) const;
+    /// The output's frames that show these frames of the source; may be empty.
+    KxFrameRange FramesOf(const KxFrameRange& source) const;
 
 private:
     KxOutputGrid(const KxRational& sourceRate, qint64 sourceFrames, const KxRational& rate);

@@ -39,6 +39,7 @@ KxPictureFeed::KxPictureFeed(KxVideoReader& reader, const KxRenderSource& source
     , m_source(source)
     , m_grid(grid)
     , m_size(target.size)
+    , m_frames(target.frames)
     , m_cancel(cancel)
     , m_pictures(QueueLength(target))
     , m_cutter(target.size, target.highRange)
@@ -82,7 +83,7 @@ void KxPictureFeed::DecodeAndCut()
     KxVideoFrame picture;
     KxVideoFrame cut;
     qint64 cutFrame = -1;
-    for (qint64 frame = 0; frame < m_grid.Frames() && !m_cancel.IsCancelled(); ++frame) {
+    for (qint64 frame = m_frames.first; frame < m_frames.end && !m_cancel.IsCancelled(); ++frame) {
         const qint64 sourceFrame = m_grid.SourceFrame(frame);
         if (sourceFrame != cutFrame) {
             if (!Read(sourceFrame, picture)) {

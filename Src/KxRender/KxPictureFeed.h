@@ -19,6 +19,7 @@ public:
     /// What the pictures become.
     struct Target {
         QSize size;
+        KxFrameRange frames; ///< of the output
         KxHighRange highRange = KxHighRange::ToneMapped;
     };
     /// `reader` and `source` are borrowed; nothing else uses the reader during the lifetime of this object.
@@ -28,7 +29,7 @@ public:
     KxPictureFeed(const KxPictureFeed&) = delete;
     KxPictureFeed& operator=(const KxPictureFeed&) = delete;
 
-    /// Waits for the picture of the output's next frame. Nothing at the end, after a failure, or when cancelled.
+    /// Waits for the picture of the next frame. Nothing at the end, after a failure, or when cancelled.
     std::optional<KxVideoFrame> Next();
 
     /// After the last picture: the error message of a failure.
@@ -48,6 +49,7 @@ private:
     const KxRenderSource& m_source;
     const KxOutputGrid m_grid;
     const QSize m_size;
+    const KxFrameRange m_frames;
     const KxCancelToken m_cancel;
     KxBoundedQueue<KxVideoFrame> m_pictures;
     // Used by the thread only.

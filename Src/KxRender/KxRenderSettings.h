@@ -1,10 +1,14 @@
 #pragma once
 
+#include <KxCore/KxFrameRange.h>
 #include <KxCore/KxOutputFile.h>
 #include <KxMedia/Write/KxOutputFormat.h>
 
 #include <QSize>
 #include <QString>
+#include <QStringList>
+
+#include <optional>
 
 /// What to render to.
 struct KxRenderSettings {
@@ -18,4 +22,8 @@ struct KxRenderSettings {
     int audioBitRate = 192000;  ///< bits per second
     KxOutputFormat format;
     QString comment; ///< stored in the file; may be empty
+    /// A part of the source, without sound, to be joined with others. Nothing: all of it.
+    std::optional<KxFrameRange> frames;
+    /// The files of all parts in order; their pictures are copied instead of rendered.
+    QStringList parts;
 };

@@ -4,6 +4,7 @@
 #include <KxCore/KxThread.h>
 #include <KxMedia/Read/KxVideoReader.h>
 #include <KxMedia/Write/KxMp4Writer.h>
+#include <KxMedia/Write/KxVideoParts.h>
 #include <KxRender/KxOutputGrid.h>
 #include <KxRender/KxPictureFeed.h>
 #include <KxRender/KxRenderSound.h>
@@ -75,10 +76,15 @@ public:
 private:
     void OpenSound();
     KxError OpenWriter(const KxOutputGrid& grid);
-    KxError AddAll(KxPictureFeed& pictures, const KxOutputGrid& grid);
-    KxRenderResult Finish(KxPictureFeed& pictures, const KxOutputGrid& grid);
+    KxError OpenParts(const KxRational& rate);
+    KxRenderResult Render(const KxOutputGrid& grid);
+    /// Copies the pictures of the parts.
+    KxRenderResult Join(const KxOutputGrid& grid);
+    KxError AddAll(KxPictureFeed& pictures, const KxRational& rate);
+    /// After another picture has been written.
+    KxError AddSound(const KxRational& rate);
+    KxRenderResult Finish();
     void Warn(const QString& message);
-    void ReportProgress(qint64 done, qint64 all);
 
     const KxRenderSource& m_source;
     const KxRenderSettings& m_settings;
@@ -88,7 +94,9 @@ private:
     std::unique_ptr<KxVideoReader> m_reader;
     KxRenderSound m_sound;
     std::unique_ptr<KxMp4Writer> m_writer;
+    std::unique_ptr<KxVideoParts> m_parts; ///< null where pictures are rendered
     QString m_warning;
+    KxFrameRange m_frames; ///< of the output
     qint64 m_written = 0;
     int m_reported = 0;
 };
@@ -98,17 +106,11 @@ void Rendering::Warn(const QString& message)
     m_warning += m_warning.isEmpty() ? message : QLatin1Char(' ') + message;
 }
 
-void Rendering::ReportProgress(qint64 done, qint64 all)
-{
-    const auto value = static_cast<int>(std::min<qint64>(done * ProgressEnd / all, ProgressEnd - 1));
-    if (value > m_reported && m_progress) {
-        m_reported = value;
-        m_progress(value);
-    }
-}
-
 void Rendering::OpenSound()
 {
+    if (m_settings.frames) {
+        return;
+    }
     m_sound = KxRenderSound::Open(*m_reader, m_source, m_settings.format, m_cancel);
     for (const QString& warning : qAsConst(m_sound.warnings)) {
         Warn(warning);
@@ -129,6 +131,7 @@ KxError Rendering::OpenWriter(const KxOutputGrid& grid)
     settings.audioBitRate = m_settings.audioBitRate > 0 ? m_settings.audioBitRate : settings.audioBitRate;
     settings.format = m_settings.format;
     settings.comment = m_settings.comment;
+    settings.copiedVideo = m_parts != nullptr ? &m_parts->First() : nullptr;
     KxResult<std::unique_ptr<KxMp4Writer>> writer = KxMp4Writer::Open(settings);
     if (!writer) {
         return writer.Message();
@@ -137,7 +140,36 @@ KxError Rendering::OpenWriter(const KxOutputGrid& grid)
     return std::nullopt;
 }
 
-KxError Rendering::AddAll(KxPictureFeed& pictures, const KxOutputGrid& grid)
+KxError Rendering::OpenParts(const KxRational& rate)
+{
+    if (m_settings.parts.isEmpty()) {
+        return std::nullopt;
+    }
+    KxResult<std::unique_ptr<KxVideoParts>> parts = KxVideoParts::Open(m_settings.parts, rate, m_cancel);
+    if (!parts) {
+        return parts.Message();
+    }
+    m_parts = std::move(*parts);
+    return std::nullopt;
+}
+
+KxError Rendering::AddSound(const KxRational& rate)
+{
+    ++m_written;
+    if (m_sound.feed != nullptr) {
+        if (KxError error = m_sound.feed->WriteUntil(m_written, rate, *m_writer)) {
+            return error;
+        }
+    }
+    const auto value = static_cast<int>(std::min<qint64>(m_written * ProgressEnd / m_frames.Count(), ProgressEnd - 1));
+    if (value > m_reported && m_progress) {
+        m_reported = value;
+        m_progress(value);
+    }
+    return std::nullopt;
+}
+
+KxError Rendering::AddAll(KxPictureFeed& pictures, const KxRational& rate)
 {
     while (!m_cancel.IsCancelled()) {
         const std::optional<KxVideoFrame> picture = pictures.Next();
@@ -147,18 +179,22 @@ KxError Rendering::AddAll(KxPictureFeed& pictures, const KxOutputGrid& grid)
         if (KxError error = m_writer->AddPicture(*picture, m_written)) {
             return error;
         }
-        ++m_written;
-        if (KxError error =
-                m_sound.feed != nullptr ? m_sound.feed->WriteUntil(m_written, grid.Rate(), *m_writer) : std::nullopt) {
+        if (KxError error = AddSound(rate)) {
             return error;
         }
-        ReportProgress(m_written, grid.Frames());
     }
     return std::nullopt;
 }
 
-KxRenderResult Rendering::Finish(KxPictureFeed& pictures, const KxOutputGrid& grid)
+KxRenderResult Rendering::Render(const KxOutputGrid& grid)
 {
+    KxPictureFeed pictures(*m_reader, m_source, grid, {m_size, m_frames, m_settings.format.highRange}, m_cancel);
+    if (KxError error = AddAll(pictures, grid.Rate())) {
+        return Failed(*error);
+    }
+    if (m_cancel.IsCancelled()) {
+        return Cancelled();
+    }
     if (KxError failure = pictures.Failure()) {
         return Failed(*failure);
     }
@@ -167,8 +203,38 @@ KxRenderResult Rendering::Finish(KxPictureFeed& pictures, const KxOutputGrid& gr
     }
     if (pictures.EndedEarly()) {
         Warn(Texts::tr("%1 is damaged or incomplete: only %2 of %3 frames could be rendered.")
-                 .arg(m_source.Name(), QString::number(m_written), QString::number(grid.Frames())));
+                 .arg(m_source.Name(), QString::number(m_written), QString::number(m_frames.Count())));
     }
+    return Finish();
+}
+
+KxRenderResult Rendering::Join(const KxOutputGrid& grid)
+{
+    const KxAvPacket packet(av_packet_alloc());
+    KxReadStatus status = KxReadStatus::Failed;
+    while (packet != nullptr && (status = m_parts->Next(*packet)) == KxReadStatus::Delivered) {
+        if (KxError error = m_writer->AddVideoPacket(*packet)) {
+            return Failed(*error);
+        }
+        if (KxError error = AddSound(grid.Rate())) {
+            return Failed(*error);
+        }
+    }
+    if (m_cancel.IsCancelled()) {
+        return Cancelled();
+    }
+    if (status == KxReadStatus::Failed) {
+        return Failed(m_parts->Problem());
+    }
+    if (m_written != m_frames.Count()) {
+        return Failed(CannotWrite(m_settings, Texts::tr("its parts have %1 of %2 frames")
+                                                  .arg(QString::number(m_written), QString::number(m_frames.Count()))));
+    }
+    return Finish();
+}
+
+KxRenderResult Rendering::Finish()
+{
     if (m_sound.feed != nullptr && m_sound.feed->HasFailed()) {
         Warn(Texts::tr("The sound of %1 is damaged and ends early.").arg(m_source.Name()));
     }
@@ -202,15 +268,18 @@ KxRenderResult Rendering::Run()
         return Failed(
             CannotWrite(m_settings, Texts::tr("%1 frames a second are not possible").arg(m_settings.frameRate)));
     }
+    m_frames = m_settings.frames ? grid->FramesOf(*m_settings.frames) : KxFrameRange{0, grid->Frames()};
+    if (m_frames.Count() <= 0) {
+        return Failed(CannotWrite(m_settings, Texts::tr("there is no picture to write")));
+    }
     OpenSound();
+    if (KxError error = OpenParts(grid->Rate())) {
+        return m_cancel.IsCancelled() ? Cancelled() : Failed(*error);
+    }
     if (KxError error = OpenWriter(*grid)) {
         return Failed(*error);
     }
-    KxPictureFeed pictures(*m_reader, m_source, *grid, {m_size, m_settings.format.highRange}, m_cancel);
-    if (KxError error = AddAll(pictures, *grid)) {
-        return Failed(*error);
-    }
-    return m_cancel.IsCancelled() ? Cancelled() : Finish(pictures, *grid);
+    return m_parts != nullptr ? Join(*grid) : Render(*grid);
 }
 
 } // namespace

@@ -7,6 +7,13 @@ struct DictionaryDelete {
     void operator()(AVDictionary* dictionary) const { av_dict_free(&dictionary); }
 };
 
+/// That of another container has no meaning here.
+std::uint32_t TagOf(AVCodecID codec)
+{
+    // Some players accept no other tag.
+    return codec == AV_CODEC_ID_HEVC ? MKTAG('h', 'v', 'c', '1') : 0;
+}
+
 } // namespace
 
 KxMp4Muxer::KxMp4Muxer(QString path)
@@ -41,8 +48,8 @@ int KxMp4Muxer::AddStream(const AVCodecParameters& parameters, AVRational timeBa
         return AVERROR(ENOMEM);
     }
     const int error = avcodec_parameters_copy(stream->codecpar, &parameters);
-    // That of another container has no meaning here.
-    stream->codecpar->codec_tag = 0;
+    stream->codecpar->codec_tag = TagOf(parameters.codec_id);
+    stream->sample_aspect_ratio = parameters.sample_aspect_ratio;
     return error;
 }
 
@@ -55,10 +62,7 @@ int KxMp4Muxer::AddStream(const AVCodecContext& encoder)
     stream->sample_aspect_ratio = encoder.sample_aspect_ratio;
     stream->avg_frame_rate = encoder.framerate;
     const int error = avcodec_parameters_from_context(stream->codecpar, &encoder);
-    if (encoder.codec_id == AV_CODEC_ID_HEVC) {
-        // Some players accept no other tag.
-        stream->codecpar->codec_tag = MKTAG('h', 'v', 'c', '1');
-    }
+    stream->codecpar->codec_tag = TagOf(encoder.codec_id);
     return error;
 }
 

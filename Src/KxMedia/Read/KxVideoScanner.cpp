@@ -2,6 +2,8 @@
 
 #include <KxMedia/Read/KxVideoSource.h>
 
+#include <utility>
+
 namespace
 {
 
@@ -28,7 +30,16 @@ public:
         }
     }
 
+    /// Tries to continue at a key frame that is displayed at or before `frame`, and fetches the picture there.
+    bool Land(qint64 frame)
+    {
+        landed = {};
+        return source->Seek(source->Grid().TicksAt(frame)) && source->Next(landed) == KxReadStatus::Delivered &&
+               landed.Index() <= frame;
+    }
+
     std::unique_ptr<KxVideoSource> source;
+    KxVideoFrame landed; ///< fetched already; usually null
     qint64 lastIndex = -1;
     bool hasEnded = false;
 };
@@ -60,12 +71,29 @@ KxMediaClock KxVideoScanner::Clock() const
     return m_impl->source->Clock();
 }
 
+void KxVideoScanner::SkipTo(qint64 frame)
+{
+    Impl& impl = *m_impl;
+    if (!Clock().jumps) {
+        return;
+    }
+    // A second, then more: a container without an index lands anywhere.
+    const auto second = static_cast<qint64>(impl.source->Grid().Rate().ToDouble()) + 1;
+    for (qint64 back = second; back < frame; back *= 4) {
+        if (impl.Land(frame - back)) {
+            return;
+        }
+    }
+    impl.landed = {};
+    impl.source->Rewind();
+}
+
 KxReadStatus KxVideoScanner::Next(KxVideoFrame& picture)
 {
     Impl& impl = *m_impl;
     for (;;) {
-        KxVideoFrame next;
-        KxReadStatus status = impl.source->Next(next);
+        KxVideoFrame next = std::exchange(impl.landed, {});
+        KxReadStatus status = next.IsNull() ? impl.source->Next(next) : KxReadStatus::Delivered;
         if (status != KxReadStatus::Cancelled && FileHasChanged()) {
             status = KxReadStatus::Failed;
         }

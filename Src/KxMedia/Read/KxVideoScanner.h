@@ -19,6 +19,11 @@ public:
     /// Places the sound of the same file, see KxAudioReader::Open().
     KxMediaClock Clock() const;
 
+    /// Goes on with a picture at or before `frame`, so that from there on the pictures are those of a scanner that came
+    /// from the start. Where the file's clock jumps or no key frame is known, that is the first picture. Call before
+    /// the first Next().
+    void SkipTo(qint64 frame);
+
     /// The next picture in display order; its Index() strictly increases. Pictures in between may be missing.
     KxReadStatus Next(KxVideoFrame& picture);
 

@@ -6,6 +6,7 @@
 #include <KxMedia/Write/KxEncoderProof.h>
 #include <KxMedia/Write/KxSoundPackets.h>
 #include <KxMedia/Write/KxVideoEncoder.h>
+#include <KxMedia/Write/KxVideoPart.h>
 
 #include <QCoreApplication>
 
@@ -52,6 +53,7 @@ public:
 
     KxError OpenAudio();
     KxError AddPicture(const KxVideoFrame& picture, qint64 index);
+    KxError AddVideoPacket(AVPacket& packet);
     KxError AddAudio(const KxAudioBlock& block);
     KxError AddSoundPacket(AVPacket& packet);
     KxUsedEncoder UsedEncoder() const;
@@ -61,7 +63,9 @@ private:
     KxVideoEncoder::Settings VideoSettings() const;
     /// Chooses the encoder and encodes the pictures that were held back for that.
     KxError BeginWithTheBest();
-    KxError Begin(const AVFrame& first);
+    KxError OpenEncoder(const AVFrame& first);
+    /// Writes the header; the stream of the pictures has been added, or has failed to be with `error`.
+    KxError Begin(int error);
     KxError Encode(const KxVideoFrame& picture);
     KxError ErrorOf(int error) const;
     KxPacketSink Into(int stream);
@@ -126,14 +130,18 @@ KxError KxMp4Writer::Impl::BeginWithTheBest()
     return std::nullopt;
 }
 
-KxError KxMp4Writer::Impl::Begin(const AVFrame& first)
+KxError KxMp4Writer::Impl::OpenEncoder(const AVFrame& first)
 {
     KxResult<std::unique_ptr<KxVideoEncoder>> video = KxVideoEncoder::Open(VideoSettings(), first);
     if (!video) {
         return Message(m_settings.path, video.Message());
     }
     m_video = std::move(*video);
-    int error = m_muxer.AddStream(m_video->Context());
+    return Begin(m_muxer.AddStream(m_video->Context()));
+}
+
+KxError KxMp4Writer::Impl::Begin(int error)
+{
     if (error >= 0 && m_audio != nullptr) {
         error = m_muxer.AddStream(m_audio->Context());
     } else if (error >= 0 && m_settings.copiedSound != nullptr) {
@@ -174,16 +182,29 @@ KxError KxMp4Writer::Impl::AddPicture(const KxVideoFrame& picture, qint64 index)
 KxError KxMp4Writer::Impl::Encode(const KxVideoFrame& picture)
 {
     if (m_video == nullptr) {
-        if (KxError error = Begin(picture.Picture())) {
+        if (KxError error = OpenEncoder(picture.Picture())) {
             return error;
         }
     }
     return ErrorOf(m_video->Encode(picture.Picture(), m_encoded++, Into(VideoStream)));
 }
 
+KxError KxMp4Writer::Impl::AddVideoPacket(AVPacket& packet)
+{
+    Q_ASSERT(m_settings.copiedVideo != nullptr);
+    if (!m_muxer.HasBegun()) {
+        const KxVideoPart& video = *m_settings.copiedVideo;
+        if (KxError error = Begin(m_muxer.AddStream(video.Parameters(), video.TimeBase()))) {
+            return error;
+        }
+    }
+    return ErrorOf(m_muxer.Write(packet, VideoStream));
+}
+
 KxUsedEncoder KxMp4Writer::Impl::UsedEncoder() const
 {
-    return {KxVideoEncoder::NameOf(m_settings.format), m_choiceReason};
+    return m_settings.copiedVideo != nullptr ? KxUsedEncoder()
+                                             : KxUsedEncoder{KxVideoEncoder::NameOf(m_settings.format), m_choiceReason};
 }
 
 KxError KxMp4Writer::Impl::AddAudio(const KxAudioBlock& block)
@@ -220,7 +241,7 @@ KxResult<QString> KxMp4Writer::Impl::Finish()
     if (!m_muxer.HasBegun()) {
         return Result::Failure(Message(m_settings.path, Texts::tr("there is no picture to write")));
     }
-    int error = m_video->Finish(Into(VideoStream));
+    int error = m_video != nullptr ? m_video->Finish(Into(VideoStream)) : 0;
     if (error >= 0 && m_audio != nullptr) {
         error = m_audio->Finish(Into(AudioStream));
     }
@@ -259,6 +280,11 @@ KxResult<std::unique_ptr<KxMp4Writer>> KxMp4Writer::Open(const Settings& setting
 KxError KxMp4Writer::AddPicture(const KxVideoFrame& picture, qint64 index)
 {
     return m_impl->AddPicture(picture, index);
+}
+
+KxError KxMp4Writer::AddVideoPacket(AVPacket& packet)
+{
+    return m_impl->AddVideoPacket(packet);
 }
 
 KxError KxMp4Writer::AddAudio(const KxAudioBlock& block)

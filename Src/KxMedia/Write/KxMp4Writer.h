@@ -11,6 +11,7 @@
 #include <memory>
 
 class KxSoundPackets;
+class KxVideoPart;
 struct AVPacket;
 
 /// Writes an MP4 file with H.264, HEVC or AV1 video and optional sound. The file is written under a temporary name
@@ -40,6 +41,8 @@ public:
         KxOutputFormat format;
         /// Sound that is copied: its packets come instead of blocks. Null: none. Borrowed until the first picture.
         const KxSoundPackets* copiedSound = nullptr;
+        /// Pictures that are copied: packets come instead of pictures. Null: none. Borrowed until the first packet.
+        const KxVideoPart* copiedVideo = nullptr;
         QString comment; ///< stored in the file; may be empty
     };
 
@@ -51,12 +54,14 @@ public:
     /// `picture` is a 4:2:0 picture of the settings' size with 8 or 10 bits (see KxFrameCutter), shown at frame `index`
     /// of the output's grid; indices ascend by one from 0.
     KxError AddPicture(const KxVideoFrame& picture, qint64 index);
+    /// The next packet of copied pictures, with times in frames; it is blank afterwards.
+    KxError AddVideoPacket(AVPacket& packet);
     /// Blocks are contiguous; the first one may start later than 0. To keep memory constant, add sound in step with the
     /// pictures.
     KxError AddAudio(const KxAudioBlock& block);
     /// The next packet of copied sound; it is blank afterwards.
     KxError AddSoundPacket(AVPacket& packet);
-    /// Complete after Finish().
+    /// Complete after Finish(). Without a name if the pictures were copied.
     KxUsedEncoder UsedEncoder() const;
     /// Flushes the encoders, moves the index to the front and renames the file. Returns its final path.
     KxResult<QString> Finish();
