@@ -340,6 +340,12 @@ void KxAutoReframeService::SetRecordFolder(const QString& path)
     m_settings.records->SetFolder(path);
 }
 
+void KxAutoReframeService::SetParts(const QStringList& parts)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_settings.parts = parts;
+}
+
 void KxAutoReframeService::SetChoices(KxSubjectChoices choices)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);

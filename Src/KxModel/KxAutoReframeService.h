@@ -78,6 +78,9 @@ public:
     /// thread.
     void SetRecordFolder(const QString& path);
 
+    /// Where the tasks that start from now on find the pictures of the video (KxAnalysisSettings::parts). Any thread.
+    void SetParts(const QStringList& parts);
+
     /// What the person decided for the video of the tasks that start from now on; at first nothing. Where the record of
     /// a video is known, only what the choices need is looked at again. Any thread.
     void SetChoices(KxSubjectChoices choices);

@@ -1,11 +1,14 @@
 #include <KxModel/KxVideoAnalysis.h>
 
+#include <KxModel/KxAnalysisPictures.h>
 #include <KxModel/KxDetectorFiles.h>
 #include <KxModel/KxFollowPass.h>
 #include <KxModel/KxFollowTracks.h>
+#include <KxModel/KxJoinedPictures.h>
 #include <KxModel/KxRecordStore.h>
 #include <KxModel/KxSoundReading.h>
 #include <KxModel/KxVideoObservation.h>
+#include <KxModel/KxVideoSampling.h>
 
 #include <KxCore/KxLanguage.h>
 #include <KxCore/KxMemory.h>
@@ -35,11 +38,6 @@ KxMotionSpeed SpeedOfMode(int mode)
     constexpr int fast = 8;
     constexpr int slow = 24;
     return mode == fast ? KxMotionSpeed::Fast : mode == slow ? KxMotionSpeed::Slow : KxMotionSpeed::Auto;
-}
-
-KxSubjectSource SourceOf(const KxVideoFacts& video)
-{
-    return {video.resolution.width(), video.resolution.height(), video.frameRate.ToDouble(), video.frameCount};
 }
 
 KxSubjectRequest RequestFor(const IKxAutoReframeParam& param, const KxAnalysisSettings& settings)
@@ -150,7 +148,7 @@ KxResult<std::unique_ptr<KxAnalysis>> KxVideoAnalysis::Open(const QString& path,
 std::shared_ptr<const KxSubjectRecord> KxVideoAnalysis::FindRecord(const QByteArray& key) const
 {
     std::shared_ptr<const KxSubjectRecord> record = m_settings.records ? m_settings.records->Find(key) : nullptr;
-    const KxSubjectSource source = SourceOf(*m_scanner->Facts().video);
+    const KxSubjectSource source = KxVideoSampling::SourceOf(*m_scanner->Facts().video);
     const bool isOfThisVideo = record && record->source.pictureWidthPx == source.pictureWidthPx &&
                                record->source.pictureHeightPx == source.pictureHeightPx &&
                                record->source.frameCount == source.frameCount &&
@@ -163,10 +161,15 @@ std::shared_ptr<const KxSubjectRecord> KxVideoAnalysis::Observe(KxSubjectModels 
                                                                 Result& result)
 {
     const QString name = QFileInfo(m_scanner->Facts().path).fileName();
-    KxVideoObservation observation(*m_scanner, m_cancel);
-    const KxError problem = observation.Run(std::move(models), onProgress);
-    const bool endedEarly = m_scanner->EndedEarly();
     const KxMediaFacts facts = m_scanner->Facts();
+    KxDecodedPictures decoded(*m_scanner);
+    KxJoinedPictures joined(m_settings.parts, *facts.video);
+    const bool isJoined = !m_settings.parts.isEmpty();
+    KxVideoObservation observation(isJoined ? static_cast<KxAnalysisPictures&>(joined) : decoded, *facts.video,
+                                   m_cancel);
+    KxError problem = observation.Run(std::move(models), onProgress);
+    problem = problem ? problem : joined.Problem();
+    const bool endedEarly = isJoined ? joined.EndedEarly() : m_scanner->EndedEarly();
     const KxMediaClock clock = m_scanner->Clock();
     // The decoder's buffers take the most memory: they are freed before the results of every frame are made.
     m_scanner.reset();

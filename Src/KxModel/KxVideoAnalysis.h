@@ -63,6 +63,8 @@ struct KxAnalysisSettings {
     std::shared_ptr<KxRecordStore> records; ///< null: every analysis looks at the video
     KxSubjectChoices choices;               ///< of the person, for this video
     std::shared_ptr<KxFollowTracks> tracks; ///< null: what is followed is looked for anew each time
+    /// The files with the pictures of the video's parts (KxPicturesFile), in order; empty: the video is decoded.
+    QStringList parts;
 };
 
 /// The analysis of a video file. If the file was looked at before, its record decides; otherwise its pictures are

@@ -1,9 +1,9 @@
 #include <KxModel/KxVideoObservation.h>
 
+#include <KxModel/KxAnalysisPictures.h>
 #include <KxModel/KxPicturePipeline.h>
+#include <KxModel/KxVideoSampling.h>
 
-#include <KxMedia/Picture/KxPictureScaler.h>
-#include <KxMedia/Read/KxVideoScanner.h>
 #include <KxSubject/KxPictureView.h>
 #include <KxSubject/KxSubjectModels.h>
 #include <KxSubject/KxSubjectObserver.h>
@@ -23,11 +23,6 @@ KxPictureView ViewOf(const QImage& image)
         return {};
     }
     return {image.constBits(), {image.width(), image.height()}, static_cast<std::size_t>(image.bytesPerLine())};
-}
-
-KxSubjectSource SourceOf(const KxVideoFacts& video)
-{
-    return {video.resolution.width(), video.resolution.height(), video.frameRate.ToDouble(), video.frameCount};
 }
 
 } // namespace
@@ -56,7 +51,7 @@ private:
     std::size_t m_put = 0;
 };
 
-/// Shrinks decoded pictures to what the observer takes.
+/// Takes of each picture what the observer needs.
 class KxVideoObservation::Producer
 {
 public:
@@ -66,40 +61,37 @@ public:
     {
     }
 
-    /// Nothing if the picture is not wanted or cannot be converted.
-    std::optional<KxPicturePipeline::Picture> Shrink(const KxVideoFrame& picture)
+    /// Nothing if the current one of `pictures`, that of `frame`, is not wanted or cannot be converted.
+    std::optional<KxPicturePipeline::Picture> Take(qint64 frame, KxAnalysisPictures& pictures)
     {
-        const qint64 frame = picture.Index();
         if (!m_sampling.Wants(frame)) {
             return std::nullopt;
         }
-        KxPicturePipeline::Picture shrunk{frame, {}, Scaled(m_overview, picture, KxSubjectSampling::ShotSize)};
-        if (shrunk.shot.isNull()) {
+        KxPicturePipeline::Picture taken{frame, {}, pictures.Shot()};
+        if (taken.shot.isNull()) {
             return std::nullopt;
         }
-        const bool isWatching = m_watch.BeforePut();
-        if (isWatching || m_sampling.IsSample(frame, m_lastFrame)) {
-            shrunk.image = Scaled(m_coarse, picture, m_sampling.WorkingSize());
-        }
+        const bool isSample = m_sampling.IsSample(frame, m_hasTaken ? std::optional(m_lastFrame) : std::nullopt);
         m_lastFrame = frame;
-        return shrunk;
+        m_hasTaken = true;
+        if (m_watch.BeforePut() || isSample) {
+            taken.image = pictures.Whole();
+        }
+        return taken;
     }
 
 private:
-    static QImage Scaled(KxPictureScaler& scaler, const KxVideoFrame& picture, KxIntSize size)
-    {
-        return scaler.Scale(picture, QSize(size.width, size.height), QImage::Format_BGR888);
-    }
-
     const KxSubjectSampling& m_sampling;
     Watch& m_watch;
-    KxPictureScaler m_overview{KxPictureScaler::Detail::Overview};
-    KxPictureScaler m_coarse{KxPictureScaler::Detail::Coarse};
-    std::optional<qint64> m_lastFrame;
+    // Not std::optional: GCC 12 warns of it as not initialized once this is inlined.
+    std::int64_t m_lastFrame = 0;
+    bool m_hasTaken = false;
 };
 
-KxVideoObservation::KxVideoObservation(KxVideoScanner& scanner, const KxCancelToken& cancel)
-    : m_scanner(scanner)
+KxVideoObservation::KxVideoObservation(KxAnalysisPictures& pictures, const KxVideoFacts& video,
+                                       const KxCancelToken& cancel)
+    : m_pictures(pictures)
+    , m_video(video)
     , m_cancel(cancel)
 {
 }
@@ -109,21 +101,22 @@ KxVideoObservation::~KxVideoObservation() = default;
 KxError KxVideoObservation::Run(KxSubjectModels models, const std::function<void(int percent)>& onProgress)
 {
     const KxSubjectOptions options;
-    const KxSubjectSource source = SourceOf(*m_scanner.Facts().video);
-    const KxSubjectSampling sampling(source, options.sampling);
-
+    const KxSubjectSource source = KxVideoSampling::SourceOf(m_video);
+    const KxSubjectSampling sampling = KxVideoSampling::Of(m_video);
     Watch watch;
-
     const auto decode = [&](const KxPicturePipeline::Put& put) {
         Producer producer(sampling, watch);
         int reported = -1;
-        KxVideoFrame picture;
-        while (!m_cancel.IsCancelled() && m_scanner.Next(picture) == KxReadStatus::Delivered) {
-            std::optional<KxPicturePipeline::Picture> shrunk = producer.Shrink(picture);
-            if (shrunk && !put(std::move(*shrunk))) {
+        while (!m_cancel.IsCancelled()) {
+            const std::optional<qint64> frame = m_pictures.Next();
+            if (!frame) {
                 return;
             }
-            const int percent = static_cast<int>(qMin<qint64>(picture.Index() * 100 / source.frameCount, 99));
+            std::optional<KxPicturePipeline::Picture> taken = producer.Take(*frame, m_pictures);
+            if (taken && !put(std::move(*taken))) {
+                return;
+            }
+            const int percent = static_cast<int>(qMin<qint64>(*frame * 100 / source.frameCount, 99));
             if (percent > reported) {
                 reported = percent;
                 onProgress(percent);

@@ -8,17 +8,17 @@
 #include <memory>
 
 class KxSubjectObserver;
-class KxVideoScanner;
+class KxAnalysisPictures;
 struct KxSubjectModels;
-struct KxSubjectOptions;
+struct KxVideoFacts;
 
-/// One pass over a video's pictures: the calling thread decodes and shrinks them, another one looks at them
+/// One pass over a video's pictures: the calling thread obtains them, another one looks at them
 /// (KxPicturePipeline).
 class KXMODEL_API KxVideoObservation
 {
 public:
-    /// `scanner` is borrowed and at the start of its file.
-    KxVideoObservation(KxVideoScanner& scanner, const KxCancelToken& cancel);
+    /// Both are borrowed; `pictures` are those of the whole video.
+    KxVideoObservation(KxAnalysisPictures& pictures, const KxVideoFacts& video, const KxCancelToken& cancel);
     ~KxVideoObservation();
 
     /// Adds every picture to a new observer. `onProgress` is called on this thread with 0 to 99, each number at most
@@ -33,7 +33,8 @@ private:
     class Watch;
     class Producer;
 
-    KxVideoScanner& m_scanner;
+    KxAnalysisPictures& m_pictures;
+    const KxVideoFacts& m_video;
     KxCancelToken m_cancel;
     std::unique_ptr<KxSubjectObserver> m_observer;
 };
