@@ -13,7 +13,7 @@ _reframe()
         --cache | --models) _filedir -d; COMPREPLY+=($(compgen -W none -- "$cur")); return ;;
         --output) _filedir '@(mp4|m4v)'; return ;;
         --size) COMPREPLY=($(compgen -W '1080x1920 720x1280 2160p' -- "$cur")); return ;;
-        --fps | --quality | --bitrate | --loudness) return ;;
+        --frames | --fps | --quality | --bitrate | --loudness) return ;;
         --codec) COMPREPLY=($(compgen -W 'h264 hevc av1' -- "$cur")); return ;;
         --encoder) COMPREPLY=($(compgen -W 'auto software vaapi nvenc qsv' -- "$cur")); return ;;
         --hdr) COMPREPLY=($(compgen -W 'tonemap keep' -- "$cur")); return ;;
@@ -60,6 +60,8 @@ _reframe()
             --inputs
             --status
             --if-needed
+            --frames
+            --join
             --language
             -h --help
             --version' -- "$cur")) ;;

@@ -29,7 +29,8 @@ struct Texts {
 /// Results of earlier runs, which lie beside their inputs.
 bool IsResult(const QString& name)
 {
-    static const QRegularExpression result(QStringLiteral("-AutoReframe-\\d+ \\d+( ?\\(\\d+\\))?\\.\\w+$"));
+    static const QRegularExpression result(
+        QStringLiteral("-AutoReframe-\\d+ \\d+( \\d+-\\d+)?( ?\\(\\d+\\))?\\.\\w+$"));
     return result.match(name).hasMatch();
 }
 
@@ -78,13 +79,14 @@ QByteArray Settings(const QCommandLineParser& parser)
     // Of the options on the command line, all but those that only say where results go and what is reported, and those
     // that a job adds in its own way. A new option counts until it is named here.
     static const QStringList withoutInfluence{
-        QStringLiteral("output"),    QStringLiteral("keyframes"),   QStringLiteral("edit-list"),
-        QStringLiteral("preview"),   QStringLiteral("report"),      QStringLiteral("no-video"),
-        QStringLiteral("overwrite"), QStringLiteral("json"),        QStringLiteral("quiet"),
-        QStringLiteral("cache"),     QStringLiteral("recursive"),   QStringLiteral("inputs"),
-        QStringLiteral("if-needed"), QStringLiteral("status"),      QStringLiteral("language"),
-        QStringLiteral("models"),    QStringLiteral("apply"),       QStringLiteral("choices"),
-        QStringLiteral("aspect"),    QStringLiteral("save-choices")};
+        QStringLiteral("output"),    QStringLiteral("keyframes"),    QStringLiteral("edit-list"),
+        QStringLiteral("preview"),   QStringLiteral("report"),       QStringLiteral("no-video"),
+        QStringLiteral("overwrite"), QStringLiteral("json"),         QStringLiteral("quiet"),
+        QStringLiteral("cache"),     QStringLiteral("recursive"),    QStringLiteral("inputs"),
+        QStringLiteral("if-needed"), QStringLiteral("status"),       QStringLiteral("language"),
+        QStringLiteral("models"),    QStringLiteral("apply"),        QStringLiteral("choices"),
+        QStringLiteral("aspect"),    QStringLiteral("save-choices"), QStringLiteral("frames"),
+        QStringLiteral("join")};
     QStringList names = parser.optionNames();
     names.removeDuplicates();
     names.sort();
@@ -130,12 +132,18 @@ FarmOptions::Definitions::Definitions()
     , ifNeeded(QStringLiteral("if-needed"),
                Texts::tr("Skip inputs whose results are there already, from the same content, settings and version; "
                          "replace results of other settings."))
+    , frames(QStringLiteral("frames"),
+             Texts::tr("Only the frames A to B, counted from 0, or the part K of N: with --apply, render them without "
+                       "sound; otherwise write the pictures that the analysis takes of them (.pictures)."),
+             QStringLiteral("A-B|K/N"))
+    , join(QStringLiteral("join"), Texts::tr("The first input is a video, the others are all its parts, as --frames "
+                                             "wrote them; the results are those of the whole video."))
 {
 }
 
 QList<QCommandLineOption> FarmOptions::Definitions::All() const
 {
-    return {recursive, inputs, status, ifNeeded};
+    return {recursive, inputs, status, ifNeeded, frames, join};
 }
 
 FarmOptions FarmOptions::Parse(const QCommandLineParser& parser, const Definitions& definitions)

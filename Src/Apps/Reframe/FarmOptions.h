@@ -27,6 +27,8 @@ struct FarmOptions {
         QCommandLineOption inputs;
         QCommandLineOption status;
         QCommandLineOption ifNeeded;
+        QCommandLineOption frames;
+        QCommandLineOption join;
     };
     /// Empty if the file cannot be read.
     static QByteArray ContentHash(const QString& path);

@@ -56,9 +56,10 @@ KxOutcome ReframeJob::Run()
 KxOutcome ReframeJob::RunSteps()
 {
     for (Ended (ReframeJob::*step)() :
-         {&ReframeJob::Open, &ReframeJob::ReadTrack, &ReframeJob::ReadChoices, &ReframeJob::SkipIfDone,
-          &ReframeJob::CheckTargets, &ReframeJob::FindCrops, &ReframeJob::WriteChoices, &ReframeJob::WriteKeyframes,
-          &ReframeJob::WriteEditLists, &ReframeJob::WriteReport, &ReframeJob::WritePreview, &ReframeJob::WriteVideo}) {
+         {&ReframeJob::Open, &ReframeJob::FindFrames, &ReframeJob::ReadTrack, &ReframeJob::ReadChoices,
+          &ReframeJob::SkipIfDone, &ReframeJob::ReadParts, &ReframeJob::CheckTargets, &ReframeJob::WritePictures,
+          &ReframeJob::FindCrops, &ReframeJob::WriteChoices, &ReframeJob::WriteKeyframes, &ReframeJob::WriteEditLists,
+          &ReframeJob::WriteReport, &ReframeJob::WritePreview, &ReframeJob::WriteVideo}) {
         if (KxInterrupt::IsRequested()) {
             return KxOutcome::Cancelled;
         }
@@ -84,6 +85,9 @@ QString ReframeJob::FinishedMessage() const
 
 QString ReframeJob::FramesText() const
 {
+    if (m_frames) {
+        return Texts::tr("frames %1 to %2").arg(QString::number(m_frames->first), QString::number(m_frames->end - 1));
+    }
     const qint64 frames = m_media->duration();
     return frames == 1 ? Texts::tr("1 frame") : Texts::tr("%n frames", nullptr, static_cast<int>(frames));
 }
@@ -304,8 +308,9 @@ ReframeJob::Ended ReframeJob::WriteFile(const QString& path, const QByteArray& c
 bool ReframeJob::WouldReplaceInput(const QString& path) const
 {
     const QString target = KxSystemFile::Identity(path);
+    const QStringList inputs = m_options.inputs + m_options.parts;
     return WhenItExists(path) == KxOutputFile::Existing::Replace && QFileInfo::exists(path) &&
-           std::any_of(m_options.inputs.begin(), m_options.inputs.end(),
+           std::any_of(inputs.begin(), inputs.end(),
                        [&target](const QString& input) { return KxSystemFile::Identity(input) == target; });
 }
 
@@ -345,14 +350,22 @@ QString ReframeJob::TargetPath(const QString& named, const QString& suffix) cons
         return named;
     }
     const QFileInfo input(m_input);
-    const QString name = QStringLiteral("%1-AutoReframe-%2 %3.%4")
-                             .arg(input.completeBaseName(), QString::number(m_aspect.width()),
-                                  QString::number(m_aspect.height()), suffix);
+    QString name = input.completeBaseName() + QStringLiteral("-AutoReframe");
+    if (!WritesPictures()) {
+        name += QStringLiteral("-%1 %2").arg(QString::number(m_aspect.width()), QString::number(m_aspect.height()));
+    }
+    if (m_frames) {
+        name += QStringLiteral(" %1-%2").arg(QString::number(m_frames->first), QString::number(m_frames->end - 1));
+    }
+    name += QLatin1Char('.') + suffix;
     return QDir(named.isEmpty() ? input.absolutePath() : named).filePath(name);
 }
 
 QStringList ReframeJob::Targets() const
 {
+    if (WritesPictures()) {
+        return {TargetPath(m_options.output, QStringLiteral("pictures"))};
+    }
     QStringList targets;
     if (!m_options.saveChoices.isEmpty()) {
         targets += m_options.saveChoices;

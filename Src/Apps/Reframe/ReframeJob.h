@@ -2,6 +2,7 @@
 
 #include <Apps/CropTracks/CropTrackFile.h>
 #include <Apps/Reframe/ReframeOptions.h>
+#include <Apps/Reframe/ReframeParts.h>
 #include <Apps/Reframe/ReframeReporter.h>
 #include <KxCore/KxCancelToken.h>
 #include <KxCore/KxOutputFile.h>
@@ -36,13 +37,19 @@ private:
 
     KxOutcome RunSteps();
     Ended Open();
+    /// Notes the part of the video that --frames asks for.
+    Ended FindFrames();
     Ended ReadTrack();
     /// Passes the person's choices to the analysis.
     Ended ReadChoices();
     /// Notes what the results depend on. Ends the job if they are there already and --if-needed was given.
     Ended SkipIfDone();
+    /// Checks the parts of --join, and passes those of the analysis to it.
+    Ended ReadParts();
     /// Reports before the work what cannot be written and what must not be replaced.
     Ended CheckTargets();
+    /// Ends the job if --frames asks for the pictures of a part.
+    Ended WritePictures();
     Ended FindCrops();
     Ended StartAnalysis();
     Ended StartApplying();
@@ -62,6 +69,12 @@ private:
 
     /// What the results depend on, as it is stored in them.
     QString RunText() const;
+    /// The same of a result of the whole video.
+    QString RunTextOfResult() const;
+    /// The same of the pictures for the analysis, which depend on no setting.
+    QString RunTextOfPictures() const;
+    /// Whether the job is to write the pictures of a part.
+    bool WritesPictures() const { return m_frames && !m_track; }
     /// The text that is stored in a result of an earlier run; empty if there is none.
     QString RunTextOf(const QString& path) const;
 
@@ -104,9 +117,11 @@ private:
     std::optional<CropTrack> m_track;
     /// Fitted if a choice or the track asks for the whole picture.
     KxRenderSource::OtherShapes m_otherShapes = KxRenderSource::OtherShapes::Stretched;
-    KxUsedEncoder m_encoder;  ///< of the last video that was written
-    QByteArray m_contentHash; ///< of the input
-    QString m_decisions;      ///< those of --apply and --choices, as a part of RunText()
+    KxUsedEncoder m_encoder;              ///< of the last video that was written
+    std::optional<KxFrameRange> m_frames; ///< the part of --frames
+    QStringList m_videoParts;             ///< of --join, in order
+    QByteArray m_contentHash;             ///< of the input
+    QString m_decisions;                  ///< those of --apply and --choices, as a part of RunText()
     QJsonObject m_facts;
     QStringList& m_allWritten;
     QStringList m_written;

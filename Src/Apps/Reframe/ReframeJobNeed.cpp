@@ -2,6 +2,7 @@
 
 #include <KxCore/KxInterrupt.h>
 #include <KxMedia/Read/KxFileComment.h>
+#include <KxModel/KxPicturesFile.h>
 #include <KxModel/KxRecordStore.h>
 
 #include <QCoreApplication>
@@ -21,6 +22,18 @@ struct Texts {
 
 QString ReframeJob::RunText() const
 {
+    const QString text = WritesPictures() ? RunTextOfPictures() : RunTextOfResult();
+    return m_frames ? ReframeParts::MadeBy(text, *m_frames) : text;
+}
+
+QString ReframeJob::RunTextOfPictures() const
+{
+    return QStringLiteral("reframe %1 pictures input=%2")
+        .arg(QStringLiteral(KR_VERSION), QString::fromLatin1(m_contentHash));
+}
+
+QString ReframeJob::RunTextOfResult() const
+{
     return QStringLiteral("%1%2 aspect=%3:%4 input=%5")
         .arg(QString::fromUtf8(m_options.farm.settings), m_decisions, QString::number(m_aspect.width()),
              QString::number(m_aspect.height()), QString::fromLatin1(m_contentHash));
@@ -31,6 +44,10 @@ QString ReframeJob::RunTextOf(const QString& path) const
     const QString suffix = QFileInfo(path).suffix().toLower();
     if (suffix == QLatin1String("json")) {
         return CropTrackFile::MadeBy(path);
+    }
+    if (suffix == QLatin1String("pictures")) {
+        const std::optional<KxPicturesFile::Facts> facts = KxPicturesFile::Read(path);
+        return facts ? facts->madeBy : QString();
     }
     const bool isVideo = suffix == QLatin1String("mp4") || suffix == QLatin1String("m4v");
     return isVideo && QFileInfo(path).isFile() ? KxFileComment(path, KxInterrupt::Token()) : QString();

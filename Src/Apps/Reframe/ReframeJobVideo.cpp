@@ -86,13 +86,17 @@ ReframeJob::Ended ReframeJob::WriteVideo()
     settings.outputPath = TargetPath(m_options.output, QStringLiteral("mp4"));
     settings.existing = WhenItExists(settings.outputPath);
     settings.comment = RunText();
+    settings.frames = m_frames;
+    settings.parts = m_videoParts;
 
     if (const Ended ended = Render(*source, settings, ReframeReporter::Stage::Render, QStringLiteral("output"))) {
         return ended;
     }
     m_facts.insert(QStringLiteral("width"), settings.resolution.width());
     m_facts.insert(QStringLiteral("height"), settings.resolution.height());
-    m_facts.insert(QStringLiteral("encoder"), m_encoder.name);
+    if (!m_encoder.name.isEmpty()) {
+        m_facts.insert(QStringLiteral("encoder"), m_encoder.name);
+    }
     if (!m_encoder.reason.isEmpty()) {
         m_facts.insert(QStringLiteral("encoder_reason"), m_encoder.reason);
     }

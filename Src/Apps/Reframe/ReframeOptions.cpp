@@ -150,7 +150,10 @@ struct Target {
 
 QList<Target> Targets(const ReframeOptions& options)
 {
-    return {{QStringLiteral("--output"), options.output, {QStringLiteral("mp4"), QStringLiteral("m4v")}},
+    const bool writesPictures = options.frames && options.apply.isEmpty();
+    const QStringList outputs = writesPictures ? QStringList{QStringLiteral("pictures")}
+                                               : QStringList{QStringLiteral("mp4"), QStringLiteral("m4v")};
+    return {{QStringLiteral("--output"), options.output, outputs},
             {QStringLiteral("--keyframes"), options.keyframes, {QStringLiteral("json"), QStringLiteral("csv")}},
             {QStringLiteral("--preview"), options.preview, {QStringLiteral("png"), QStringLiteral("mp4")}},
             {QStringLiteral("--report"), options.report, {QStringLiteral("html")}}};
@@ -162,11 +165,36 @@ QString Alternatives(const QStringList& suffixes)
     return suffixes.size() == 2 ? Texts::tr("%1 or .%2").arg(suffixes.first(), suffixes.last()) : suffixes.first();
 }
 
+/// The same about those that a part of a video excludes.
+QString ContradictionOfPart(const ReframeOptions& options)
+{
+    if (!options.frames) {
+        return {};
+    }
+    if (options.inputs.size() > 1 || !options.parts.isEmpty()) {
+        return Texts::tr("--frames takes one input.");
+    }
+    if (options.aspects.size() > 1) {
+        return Texts::tr("--frames takes one aspect ratio.");
+    }
+    if (!options.writesVideo && !options.apply.isEmpty()) {
+        return Texts::tr("--frames with --apply renders a part of the video, and --no-video excludes that.");
+    }
+    const QString files = options.keyframes + options.preview + options.report + options.choices;
+    if (!files.isEmpty() || !options.editLists.isEmpty() || !options.follow.isEmpty()) {
+        return Texts::tr("--frames does a part of the work; files about the whole video, and choices, are for --join.");
+    }
+    return {};
+}
+
 /// The message about options that exclude each other; empty if there are none.
 QString Contradiction(const ReframeOptions& options)
 {
     if (options.inputs.isEmpty()) {
         return Texts::tr("No input file was given.");
+    }
+    if (const QString message = ContradictionOfPart(options); !message.isEmpty()) {
+        return message;
     }
     if (options.farm.WouldReplaceInput(options.inputs)) {
         return Texts::tr("--status must not name an input.");
@@ -317,6 +345,20 @@ ReframeOptions::Parsed ReframeOptions::Parse(const QStringList& arguments)
         return WrongUse(inputs.Message());
     }
     options.inputs = *inputs;
+    if (parser.isSet(definitions.farm.join)) {
+        if (inputs->size() < 2) {
+            return WrongUse(Texts::tr("--join takes a video and then its parts."));
+        }
+        options.inputs = inputs->mid(0, 1);
+        options.parts = inputs->mid(1);
+    }
+    if (parser.isSet(definitions.farm.frames)) {
+        options.frames = FramesOption::Parse(parser.value(definitions.farm.frames));
+        if (!options.frames) {
+            return WrongUse(Texts::tr("--frames takes frames such as 0-2999, or a part such as 3/8; \"%1\" is neither.")
+                                .arg(parser.value(definitions.farm.frames)));
+        }
+    }
     options.farm = FarmOptions::Parse(parser, definitions.farm);
     options.output = parser.value(definitions.output);
     const KxResult<OutputOptions> video = OutputOptions::Parse(parser, definitions.video);

@@ -2,6 +2,7 @@
 
 #include <Apps/Reframe/FarmOptions.h>
 #include <Apps/Reframe/FollowOption.h>
+#include <Apps/Reframe/FramesOption.h>
 #include <Apps/Reframe/OutputOptions.h>
 #include <KxCore/KxResult.h>
 
@@ -12,6 +13,8 @@
 /// The options of a command line, complete and valid.
 struct ReframeOptions {
     QStringList inputs;
+    std::optional<FramesOption> frames;         ///< a part of the input; nothing: all of it
+    QStringList parts;                          ///< of the input, to be joined; empty: none
     QList<QSize> aspects = {QSize(9, 16)};      ///< each once
     QString speedName = QStringLiteral("auto"); ///< auto, fast or slow
     int speedMode = 16;                         ///< the number by which the analysis knows it
