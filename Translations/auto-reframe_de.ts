@@ -705,6 +705,14 @@ Das Kommandozeilenprogramm für viele Dateien auf einmal heißt reframe.</transl
         <source>Skip inputs whose results are there already, from the same content, settings and version; replace results of other settings.</source>
         <translation>Eingaben überspringen, deren Ergebnisse aus demselben Inhalt, mit denselben Einstellungen und derselben Version schon da sind; Ergebnisse anderer Einstellungen ersetzen.</translation>
     </message>
+    <message>
+        <source>Only the frames A to B, counted from 0, or the part K of N: with --apply, render them without sound; otherwise write the pictures that the analysis takes of them (.pictures).</source>
+        <translation>Nur die Bilder A bis B, von 0 an gezählt, oder Teil K von N: mit --apply ohne Ton rendern; sonst die Bilder schreiben, die die Analyse von ihnen braucht (.pictures).</translation>
+    </message>
+    <message>
+        <source>The first input is a video, the others are all its parts, as --frames wrote them; the results are those of the whole video.</source>
+        <translation>Die erste Eingabe ist ein Video, die anderen sind alle seine Teile, wie --frames sie geschrieben hat; die Ergebnisse sind die des ganzen Videos.</translation>
+    </message>
 </context>
 <context>
     <name>FollowOption</name>
@@ -797,6 +805,17 @@ Das Kommandozeilenprogramm für viele Dateien auf einmal heißt reframe.</transl
             <numerusform>folgt der sprechenden Person, mit %n Schnitt</numerusform>
             <numerusform>folgt der sprechenden Person, mit %n Schnitten</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>FramesOption</name>
+    <message>
+        <source>its last frame is %1</source>
+        <translation>sein letztes Bild ist %1</translation>
+    </message>
+    <message>
+        <source>it has %1 frames only</source>
+        <translation>es hat nur %1 Bilder</translation>
     </message>
 </context>
 <context>
@@ -1729,6 +1748,21 @@ Benötigt: %1 MB, verfügbar: %2 MB.</translation>
     </message>
 </context>
 <context>
+    <name>KxJoinedPictures</name>
+    <message>
+        <source>%1 does not hold pictures of a part of this video</source>
+        <translation>%1 enthält keine Bilder eines Teils dieses Videos</translation>
+    </message>
+    <message>
+        <source>%1 is damaged</source>
+        <translation>%1 ist beschädigt</translation>
+    </message>
+    <message>
+        <source>%1 begins with other pictures than the part before ends with; analyse the video as a whole</source>
+        <translation>%1 beginnt mit anderen Bildern, als der Teil davor endet; das Video als Ganzes analysieren</translation>
+    </message>
+</context>
+<context>
     <name>KxLanguage</name>
     <message>
         <source>Language of the texts: %1. Otherwise that of the system.</source>
@@ -1859,6 +1893,17 @@ Benötigt: %1 MB, verfügbar: %2 MB.</translation>
     </message>
 </context>
 <context>
+    <name>KxPicturesFile</name>
+    <message>
+        <source>Cannot write %1: %2.</source>
+        <translation>%1 kann nicht geschrieben werden: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is cut off or damaged: it decodes only in part.</source>
+        <translation>%1 ist abgeschnitten oder beschädigt: Nur ein Teil lässt sich decodieren.</translation>
+    </message>
+</context>
+<context>
     <name>KxPlayerToolBarBase</name>
     <message>
         <source>Play (%1)</source>
@@ -1967,6 +2012,14 @@ Benötigt: %1 MB, verfügbar: %2 MB.</translation>
     <message>
         <source>Cannot render %1: %2.</source>
         <translation>%1 kann nicht ausgegeben werden: %2.</translation>
+    </message>
+    <message>
+        <source>its parts have %1 of %2 frames</source>
+        <translation>seine Teile haben %1 von %2 Bildern</translation>
+    </message>
+    <message>
+        <source>there is no picture to write</source>
+        <translation>es gibt kein Bild zu schreiben</translation>
     </message>
 </context>
 <context>
@@ -2152,6 +2205,28 @@ Benötigt: %1 MB, verfügbar: %2 MB.</translation>
     <message>
         <source>the video encoder %1 does not start (%2)</source>
         <translation>der Videocodierer %1 startet nicht (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>KxVideoPart</name>
+    <message>
+        <source>it has no picture</source>
+        <translation>es enthält kein Bild</translation>
+    </message>
+</context>
+<context>
+    <name>KxVideoParts</name>
+    <message>
+        <source>Cannot join %1 to %2: it was encoded in another way.</source>
+        <translation>%1 kann nicht mit %2 verbunden werden: Es wurde anders codiert.</translation>
+    </message>
+    <message>
+        <source>Cannot join %1: its time stamps are damaged.</source>
+        <translation>%1 kann nicht verbunden werden: Die Zeitstempel sind beschädigt.</translation>
+    </message>
+    <message>
+        <source>Cannot join %1: it is damaged.</source>
+        <translation>%1 kann nicht verbunden werden: Die Datei ist beschädigt.</translation>
     </message>
 </context>
 <context>
@@ -2865,12 +2940,35 @@ Benötigt: %1 MB, verfügbar: %2 MB.</translation>
         <source>The size %1 x %2 is above that of the crop, %3 x %4: the picture is enlarged.</source>
         <translation>Die Größe %1 x %2 liegt über der des Ausschnitts, %3 x %4: Das Bild wird vergrößert.</translation>
     </message>
+    <message>
+        <source>frames %1 to %2</source>
+        <translation>Bilder %1 bis %2</translation>
+    </message>
 </context>
 <context>
     <name>ReframeJobNeed</name>
     <message>
         <source>%1: skipped, up to date: %2</source>
         <translation>%1: übersprungen, aktuell: %2</translation>
+    </message>
+</context>
+<context>
+    <name>ReframeJobParts</name>
+    <message>
+        <source>Cannot take that part of %1: %2.</source>
+        <translation>Dieser Teil von %1 kann nicht genommen werden: %2.</translation>
+    </message>
+    <message>
+        <source>Cannot join %1: pictures are for an analysis, and with --apply there is none.</source>
+        <translation>%1 kann nicht verbunden werden: Bilder dienen einer Analyse, und mit --apply gibt es keine.</translation>
+    </message>
+    <message>
+        <source>Cannot join %1: parts of the video need the crop track that they were made with (--apply).</source>
+        <translation>%1 kann nicht verbunden werden: Teile des Videos brauchen die Ausschnittspur, mit der sie gemacht wurden (--apply).</translation>
+    </message>
+    <message>
+        <source>Cannot analyse %1: %2.</source>
+        <translation>%1 kann nicht analysiert werden: %2.</translation>
     </message>
 </context>
 <context>
@@ -3048,6 +3146,57 @@ Hilfe: reframe --help.</translation>
     <message>
         <source>The video files to reframe; a folder is all videos in it.</source>
         <translation>Die Videodateien, die neu kadriert werden; ein Ordner steht für alle Videos darin.</translation>
+    </message>
+    <message>
+        <source>--frames takes one input.</source>
+        <translation>--frames nimmt eine Eingabe.</translation>
+    </message>
+    <message>
+        <source>--frames takes one aspect ratio.</source>
+        <translation>--frames nimmt ein Seitenverhältnis.</translation>
+    </message>
+    <message>
+        <source>--frames with --apply renders a part of the video, and --no-video excludes that.</source>
+        <translation>--frames mit --apply rendert einen Teil des Videos, und --no-video schließt das aus.</translation>
+    </message>
+    <message>
+        <source>--frames does a part of the work; files about the whole video, and choices, are for --join.</source>
+        <translation>--frames macht einen Teil der Arbeit; Dateien über das ganze Video und Vorgaben gehören zu --join.</translation>
+    </message>
+    <message>
+        <source>--join takes a video and then its parts.</source>
+        <translation>--join nimmt ein Video und dann seine Teile.</translation>
+    </message>
+    <message>
+        <source>--frames takes frames such as 0-2999, or a part such as 3/8; &quot;%1&quot; is neither.</source>
+        <translation>--frames nimmt Bilder wie 0-2999 oder einen Teil wie 3/8; „%1“ ist keines von beiden.</translation>
+    </message>
+</context>
+<context>
+    <name>ReframeParts</name>
+    <message>
+        <source>Cannot join %1: it is a part of another video than %2.</source>
+        <translation>%1 kann nicht verbunden werden: Es ist ein Teil eines anderen Videos als %2.</translation>
+    </message>
+    <message>
+        <source>Cannot join %1: it was made with other settings or by another version (&quot;%2&quot;; now &quot;%3&quot;).</source>
+        <translation>%1 kann nicht verbunden werden: Es wurde mit anderen Einstellungen oder einer anderen Version gemacht („%2“; jetzt „%3“).</translation>
+    </message>
+    <message>
+        <source>Cannot join the parts of %1: the frames %2 to %3 are missing.</source>
+        <translation>Die Teile von %1 können nicht verbunden werden: Die Bilder %2 bis %3 fehlen.</translation>
+    </message>
+    <message>
+        <source>Cannot join %1 and %2: both have the frames %3 to %4.</source>
+        <translation>%1 und %2 können nicht verbunden werden: Beide haben die Bilder %3 bis %4.</translation>
+    </message>
+    <message>
+        <source>Cannot join %1: it is no part that --frames wrote.</source>
+        <translation>%1 kann nicht verbunden werden: Es ist kein Teil, den --frames geschrieben hat.</translation>
+    </message>
+    <message>
+        <source>Cannot join %1 and %2: only one of them holds pictures of the analysis.</source>
+        <translation>%1 und %2 können nicht verbunden werden: Nur eines davon enthält Bilder der Analyse.</translation>
     </message>
 </context>
 <context>

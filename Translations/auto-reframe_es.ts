@@ -705,6 +705,14 @@ El programa de línea de órdenes para muchos archivos a la vez es reframe.</tra
         <source>Skip inputs whose results are there already, from the same content, settings and version; replace results of other settings.</source>
         <translation>Omitir las entradas cuyos resultados ya existen, con el mismo contenido, ajustes y versión; reemplazar los resultados de otros ajustes.</translation>
     </message>
+    <message>
+        <source>Only the frames A to B, counted from 0, or the part K of N: with --apply, render them without sound; otherwise write the pictures that the analysis takes of them (.pictures).</source>
+        <translation>Solo los fotogramas A a B, contados desde 0, o la parte K de N: con --apply, renderizarlos sin sonido; si no, escribir las imágenes que el análisis toma de ellos (.pictures).</translation>
+    </message>
+    <message>
+        <source>The first input is a video, the others are all its parts, as --frames wrote them; the results are those of the whole video.</source>
+        <translation>La primera entrada es un vídeo y las demás son todas sus partes, tal como las escribió --frames; los resultados son los del vídeo completo.</translation>
+    </message>
 </context>
 <context>
     <name>FollowOption</name>
@@ -797,6 +805,17 @@ El programa de línea de órdenes para muchos archivos a la vez es reframe.</tra
             <numerusform>sigue a quien habla, con %n corte</numerusform>
             <numerusform>sigue a quien habla, con %n cortes</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>FramesOption</name>
+    <message>
+        <source>its last frame is %1</source>
+        <translation>su último fotograma es %1</translation>
+    </message>
+    <message>
+        <source>it has %1 frames only</source>
+        <translation>solo tiene %1 fotogramas</translation>
     </message>
 </context>
 <context>
@@ -1729,6 +1748,21 @@ Espacio necesario: %1 MB, disponible: %2 MB.</translation>
     </message>
 </context>
 <context>
+    <name>KxJoinedPictures</name>
+    <message>
+        <source>%1 does not hold pictures of a part of this video</source>
+        <translation>%1 no contiene imágenes de una parte de este vídeo</translation>
+    </message>
+    <message>
+        <source>%1 is damaged</source>
+        <translation>%1 está dañado</translation>
+    </message>
+    <message>
+        <source>%1 begins with other pictures than the part before ends with; analyse the video as a whole</source>
+        <translation>%1 empieza con imágenes distintas de las que terminan la parte anterior; analice el vídeo completo</translation>
+    </message>
+</context>
+<context>
     <name>KxLanguage</name>
     <message>
         <source>Language of the texts: %1. Otherwise that of the system.</source>
@@ -1859,6 +1893,17 @@ Espacio necesario: %1 MB, disponible: %2 MB.</translation>
     </message>
 </context>
 <context>
+    <name>KxPicturesFile</name>
+    <message>
+        <source>Cannot write %1: %2.</source>
+        <translation>No se puede escribir %1: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is cut off or damaged: it decodes only in part.</source>
+        <translation>%1 está cortado o dañado: solo se descodifica en parte.</translation>
+    </message>
+</context>
+<context>
     <name>KxPlayerToolBarBase</name>
     <message>
         <source>Play (%1)</source>
@@ -1967,6 +2012,14 @@ Espacio necesario: %1 MB, disponible: %2 MB.</translation>
     <message>
         <source>Cannot render %1: %2.</source>
         <translation>No se puede procesar %1: %2.</translation>
+    </message>
+    <message>
+        <source>its parts have %1 of %2 frames</source>
+        <translation>sus partes tienen %1 de %2 fotogramas</translation>
+    </message>
+    <message>
+        <source>there is no picture to write</source>
+        <translation>no hay ninguna imagen que escribir</translation>
     </message>
 </context>
 <context>
@@ -2152,6 +2205,28 @@ Espacio necesario: %1 MB, disponible: %2 MB.</translation>
     <message>
         <source>the video encoder %1 does not start (%2)</source>
         <translation>el codificador de vídeo %1 no se inicia (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>KxVideoPart</name>
+    <message>
+        <source>it has no picture</source>
+        <translation>no tiene ninguna imagen</translation>
+    </message>
+</context>
+<context>
+    <name>KxVideoParts</name>
+    <message>
+        <source>Cannot join %1 to %2: it was encoded in another way.</source>
+        <translation>No se puede unir %1 a %2: se codificó de otra manera.</translation>
+    </message>
+    <message>
+        <source>Cannot join %1: its time stamps are damaged.</source>
+        <translation>No se puede unir %1: sus marcas de tiempo están dañadas.</translation>
+    </message>
+    <message>
+        <source>Cannot join %1: it is damaged.</source>
+        <translation>No se puede unir %1: está dañado.</translation>
     </message>
 </context>
 <context>
@@ -2865,12 +2940,35 @@ Espacio necesario: %1 MB, disponible: %2 MB.</translation>
         <source>The size %1 x %2 is above that of the crop, %3 x %4: the picture is enlarged.</source>
         <translation>El tamaño %1 x %2 supera el del encuadre, %3 x %4: la imagen se amplía.</translation>
     </message>
+    <message>
+        <source>frames %1 to %2</source>
+        <translation>fotogramas %1 a %2</translation>
+    </message>
 </context>
 <context>
     <name>ReframeJobNeed</name>
     <message>
         <source>%1: skipped, up to date: %2</source>
         <translation>%1: omitido, ya está al día: %2</translation>
+    </message>
+</context>
+<context>
+    <name>ReframeJobParts</name>
+    <message>
+        <source>Cannot take that part of %1: %2.</source>
+        <translation>No se puede tomar esa parte de %1: %2.</translation>
+    </message>
+    <message>
+        <source>Cannot join %1: pictures are for an analysis, and with --apply there is none.</source>
+        <translation>No se puede unir %1: las imágenes son para un análisis y con --apply no lo hay.</translation>
+    </message>
+    <message>
+        <source>Cannot join %1: parts of the video need the crop track that they were made with (--apply).</source>
+        <translation>No se puede unir %1: las partes del vídeo necesitan la pista de recorte con la que se hicieron (--apply).</translation>
+    </message>
+    <message>
+        <source>Cannot analyse %1: %2.</source>
+        <translation>No se puede analizar %1: %2.</translation>
     </message>
 </context>
 <context>
@@ -3048,6 +3146,57 @@ Consultar reframe --help.</translation>
     <message>
         <source>The video files to reframe; a folder is all videos in it.</source>
         <translation>Los archivos de vídeo que se reencuadran; una carpeta son todos los vídeos que contiene.</translation>
+    </message>
+    <message>
+        <source>--frames takes one input.</source>
+        <translation>--frames admite una entrada.</translation>
+    </message>
+    <message>
+        <source>--frames takes one aspect ratio.</source>
+        <translation>--frames admite una relación de aspecto.</translation>
+    </message>
+    <message>
+        <source>--frames with --apply renders a part of the video, and --no-video excludes that.</source>
+        <translation>--frames con --apply renderiza una parte del vídeo, y --no-video lo excluye.</translation>
+    </message>
+    <message>
+        <source>--frames does a part of the work; files about the whole video, and choices, are for --join.</source>
+        <translation>--frames hace una parte del trabajo; los archivos sobre el vídeo completo y las decisiones son para --join.</translation>
+    </message>
+    <message>
+        <source>--join takes a video and then its parts.</source>
+        <translation>--join admite un vídeo y después sus partes.</translation>
+    </message>
+    <message>
+        <source>--frames takes frames such as 0-2999, or a part such as 3/8; &quot;%1&quot; is neither.</source>
+        <translation>--frames admite fotogramas como 0-2999 o una parte como 3/8; «%1» no es ninguna de las dos cosas.</translation>
+    </message>
+</context>
+<context>
+    <name>ReframeParts</name>
+    <message>
+        <source>Cannot join %1: it is a part of another video than %2.</source>
+        <translation>No se puede unir %1: es una parte de un vídeo distinto de %2.</translation>
+    </message>
+    <message>
+        <source>Cannot join %1: it was made with other settings or by another version (&quot;%2&quot;; now &quot;%3&quot;).</source>
+        <translation>No se puede unir %1: se hizo con otros ajustes o con otra versión («%2»; ahora «%3»).</translation>
+    </message>
+    <message>
+        <source>Cannot join the parts of %1: the frames %2 to %3 are missing.</source>
+        <translation>No se pueden unir las partes de %1: faltan los fotogramas %2 a %3.</translation>
+    </message>
+    <message>
+        <source>Cannot join %1 and %2: both have the frames %3 to %4.</source>
+        <translation>No se pueden unir %1 y %2: ambos tienen los fotogramas %3 a %4.</translation>
+    </message>
+    <message>
+        <source>Cannot join %1: it is no part that --frames wrote.</source>
+        <translation>No se puede unir %1: no es una parte escrita por --frames.</translation>
+    </message>
+    <message>
+        <source>Cannot join %1 and %2: only one of them holds pictures of the analysis.</source>
+        <translation>No se pueden unir %1 y %2: solo uno de ellos contiene imágenes del análisis.</translation>
     </message>
 </context>
 <context>

@@ -695,7 +695,7 @@ Le programme en ligne de commande pour plusieurs fichiers à la fois est reframe
     </message>
     <message>
         <source>Read more inputs from FILE, one a line; - is standard input.</source>
-        <translation>Lire d’autres entrées dans FILE, une par ligne ; - est l’entrée standard.</translation>
+        <translation>Lire d’autres entrées dans FILE, une par ligne&#xa0;; - est l’entrée standard.</translation>
     </message>
     <message>
         <source>Write progress and results to FILE as JSON lines, whatever is printed.</source>
@@ -703,7 +703,15 @@ Le programme en ligne de commande pour plusieurs fichiers à la fois est reframe
     </message>
     <message>
         <source>Skip inputs whose results are there already, from the same content, settings and version; replace results of other settings.</source>
-        <translation>Ignorer les entrées dont les résultats existent déjà, avec le même contenu, les mêmes réglages et la même version ; remplacer les résultats d’autres réglages.</translation>
+        <translation>Ignorer les entrées dont les résultats existent déjà, avec le même contenu, les mêmes réglages et la même version&#xa0;; remplacer les résultats d’autres réglages.</translation>
+    </message>
+    <message>
+        <source>Only the frames A to B, counted from 0, or the part K of N: with --apply, render them without sound; otherwise write the pictures that the analysis takes of them (.pictures).</source>
+        <translation>Seulement les images A à B, comptées à partir de 0, ou la partie K de N&#xa0;: avec --apply, les calculer sans le son&#xa0;; sinon, écrire les vignettes dont l’analyse a besoin (.pictures).</translation>
+    </message>
+    <message>
+        <source>The first input is a video, the others are all its parts, as --frames wrote them; the results are those of the whole video.</source>
+        <translation>La première entrée est une vidéo, les autres sont toutes ses parties, telles que --frames les a écrites&#xa0;; les résultats sont ceux de la vidéo entière.</translation>
     </message>
 </context>
 <context>
@@ -797,6 +805,17 @@ Le programme en ligne de commande pour plusieurs fichiers à la fois est reframe
             <numerusform>suit la personne qui parle, avec %n coupe</numerusform>
             <numerusform>suit la personne qui parle, avec %n coupes</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>FramesOption</name>
+    <message>
+        <source>its last frame is %1</source>
+        <translation>sa dernière image est %1</translation>
+    </message>
+    <message>
+        <source>it has %1 frames only</source>
+        <translation>elle n’a que %1 images</translation>
     </message>
 </context>
 <context>
@@ -1729,6 +1748,21 @@ Espace nécessaire&#xa0;: %1 Mo, disponible&#xa0;: %2 Mo.</translation>
     </message>
 </context>
 <context>
+    <name>KxJoinedPictures</name>
+    <message>
+        <source>%1 does not hold pictures of a part of this video</source>
+        <translation>%1 ne contient pas d’images d’une partie de cette vidéo</translation>
+    </message>
+    <message>
+        <source>%1 is damaged</source>
+        <translation>%1 est endommagé</translation>
+    </message>
+    <message>
+        <source>%1 begins with other pictures than the part before ends with; analyse the video as a whole</source>
+        <translation>%1 commence par d’autres images que celles qui terminent la partie précédente&#xa0;; analyser la vidéo entière</translation>
+    </message>
+</context>
+<context>
     <name>KxLanguage</name>
     <message>
         <source>Language of the texts: %1. Otherwise that of the system.</source>
@@ -1859,6 +1893,17 @@ Espace nécessaire&#xa0;: %1 Mo, disponible&#xa0;: %2 Mo.</translation>
     </message>
 </context>
 <context>
+    <name>KxPicturesFile</name>
+    <message>
+        <source>Cannot write %1: %2.</source>
+        <translation>Impossible d’écrire %1&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is cut off or damaged: it decodes only in part.</source>
+        <translation>%1 est tronqué ou endommagé&#xa0;: il n’est décodé qu’en partie.</translation>
+    </message>
+</context>
+<context>
     <name>KxPlayerToolBarBase</name>
     <message>
         <source>Play (%1)</source>
@@ -1967,6 +2012,14 @@ Espace nécessaire&#xa0;: %1 Mo, disponible&#xa0;: %2 Mo.</translation>
     <message>
         <source>Cannot render %1: %2.</source>
         <translation>Impossible de produire %1&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>its parts have %1 of %2 frames</source>
+        <translation>ses parties ont %1 images sur %2</translation>
+    </message>
+    <message>
+        <source>there is no picture to write</source>
+        <translation>il n’y a pas d’image à écrire</translation>
     </message>
 </context>
 <context>
@@ -2152,6 +2205,28 @@ Espace nécessaire&#xa0;: %1 Mo, disponible&#xa0;: %2 Mo.</translation>
     <message>
         <source>the video encoder %1 does not start (%2)</source>
         <translation>l’encodeur vidéo %1 ne démarre pas (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>KxVideoPart</name>
+    <message>
+        <source>it has no picture</source>
+        <translation>il n’a pas d’image</translation>
+    </message>
+</context>
+<context>
+    <name>KxVideoParts</name>
+    <message>
+        <source>Cannot join %1 to %2: it was encoded in another way.</source>
+        <translation>Impossible de joindre %1 à %2&#xa0;: l’encodage est différent.</translation>
+    </message>
+    <message>
+        <source>Cannot join %1: its time stamps are damaged.</source>
+        <translation>Impossible de joindre %1&#xa0;: ses horodatages sont endommagés.</translation>
+    </message>
+    <message>
+        <source>Cannot join %1: it is damaged.</source>
+        <translation>Impossible de joindre %1&#xa0;: le fichier est endommagé.</translation>
     </message>
 </context>
 <context>
@@ -2865,12 +2940,35 @@ Espace nécessaire&#xa0;: %1 Mo, disponible&#xa0;: %2 Mo.</translation>
         <source>The size %1 x %2 is above that of the crop, %3 x %4: the picture is enlarged.</source>
         <translation>La taille %1 x %2 dépasse celle du cadre, %3 x %4&#xa0;: l’image est agrandie.</translation>
     </message>
+    <message>
+        <source>frames %1 to %2</source>
+        <translation>images %1 à %2</translation>
+    </message>
 </context>
 <context>
     <name>ReframeJobNeed</name>
     <message>
         <source>%1: skipped, up to date: %2</source>
-        <translation>%1 : ignoré, déjà à jour : %2</translation>
+        <translation>%1&#xa0;: ignoré, déjà à jour&#xa0;: %2</translation>
+    </message>
+</context>
+<context>
+    <name>ReframeJobParts</name>
+    <message>
+        <source>Cannot take that part of %1: %2.</source>
+        <translation>Impossible de prendre cette partie de %1&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>Cannot join %1: pictures are for an analysis, and with --apply there is none.</source>
+        <translation>Impossible de joindre %1&#xa0;: les images servent à une analyse, et avec --apply il n’y en a pas.</translation>
+    </message>
+    <message>
+        <source>Cannot join %1: parts of the video need the crop track that they were made with (--apply).</source>
+        <translation>Impossible de joindre %1&#xa0;: les parties de la vidéo ont besoin de la piste de recadrage avec laquelle elles ont été faites (--apply).</translation>
+    </message>
+    <message>
+        <source>Cannot analyse %1: %2.</source>
+        <translation>Impossible d’analyser %1&#xa0;: %2.</translation>
     </message>
 </context>
 <context>
@@ -3047,7 +3145,58 @@ Voir reframe --help.</translation>
     </message>
     <message>
         <source>The video files to reframe; a folder is all videos in it.</source>
-        <translation>Les fichiers vidéo à recadrer ; un dossier désigne toutes les vidéos qu’il contient.</translation>
+        <translation>Les fichiers vidéo à recadrer&#xa0;; un dossier désigne toutes les vidéos qu’il contient.</translation>
+    </message>
+    <message>
+        <source>--frames takes one input.</source>
+        <translation>--frames prend une seule entrée.</translation>
+    </message>
+    <message>
+        <source>--frames takes one aspect ratio.</source>
+        <translation>--frames prend un seul format d’image.</translation>
+    </message>
+    <message>
+        <source>--frames with --apply renders a part of the video, and --no-video excludes that.</source>
+        <translation>--frames avec --apply calcule une partie de la vidéo, ce que --no-video exclut.</translation>
+    </message>
+    <message>
+        <source>--frames does a part of the work; files about the whole video, and choices, are for --join.</source>
+        <translation>--frames fait une partie du travail&#xa0;; les fichiers sur la vidéo entière et les choix sont pour --join.</translation>
+    </message>
+    <message>
+        <source>--join takes a video and then its parts.</source>
+        <translation>--join prend une vidéo, puis ses parties.</translation>
+    </message>
+    <message>
+        <source>--frames takes frames such as 0-2999, or a part such as 3/8; &quot;%1&quot; is neither.</source>
+        <translation>--frames prend des images comme 0-2999 ou une partie comme 3/8&#xa0;; «&#xa0;%1&#xa0;» n’est ni l’un ni l’autre.</translation>
+    </message>
+</context>
+<context>
+    <name>ReframeParts</name>
+    <message>
+        <source>Cannot join %1: it is a part of another video than %2.</source>
+        <translation>Impossible de joindre %1&#xa0;: c’est une partie d’une autre vidéo que %2.</translation>
+    </message>
+    <message>
+        <source>Cannot join %1: it was made with other settings or by another version (&quot;%2&quot;; now &quot;%3&quot;).</source>
+        <translation>Impossible de joindre %1&#xa0;: fait avec d’autres réglages ou une autre version («&#xa0;%2&#xa0;»&#xa0;; maintenant «&#xa0;%3&#xa0;»).</translation>
+    </message>
+    <message>
+        <source>Cannot join the parts of %1: the frames %2 to %3 are missing.</source>
+        <translation>Impossible de joindre les parties de %1&#xa0;: les images %2 à %3 manquent.</translation>
+    </message>
+    <message>
+        <source>Cannot join %1 and %2: both have the frames %3 to %4.</source>
+        <translation>Impossible de joindre %1 et %2&#xa0;: les deux ont les images %3 à %4.</translation>
+    </message>
+    <message>
+        <source>Cannot join %1: it is no part that --frames wrote.</source>
+        <translation>Impossible de joindre %1&#xa0;: ce n’est pas une partie écrite par --frames.</translation>
+    </message>
+    <message>
+        <source>Cannot join %1 and %2: only one of them holds pictures of the analysis.</source>
+        <translation>Impossible de joindre %1 et %2&#xa0;: un seul contient des images de l’analyse.</translation>
     </message>
 </context>
 <context>

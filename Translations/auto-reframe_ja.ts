@@ -699,6 +699,14 @@ The command line program for many files at once is reframe.</source>
         <source>Skip inputs whose results are there already, from the same content, settings and version; replace results of other settings.</source>
         <translation>同じ内容、設定、バージョンによる結果がすでにある入力をスキップし、別の設定による結果は置き換えます。</translation>
     </message>
+    <message>
+        <source>Only the frames A to B, counted from 0, or the part K of N: with --apply, render them without sound; otherwise write the pictures that the analysis takes of them (.pictures).</source>
+        <translation>フレーム A から B まで（0 から数える）、または N 分割の K 番目だけを処理します。--apply を付けると音声なしでレンダリングし、付けなければ解析に使う画像を書き出します (.pictures)。</translation>
+    </message>
+    <message>
+        <source>The first input is a video, the others are all its parts, as --frames wrote them; the results are those of the whole video.</source>
+        <translation>最初の入力は動画、残りは --frames が書き出したそのすべての部分です。結果は動画全体のものになります。</translation>
+    </message>
 </context>
 <context>
     <name>FollowOption</name>
@@ -790,6 +798,17 @@ The command line program for many files at once is reframe.</source>
         <translation>
             <numerusform>話している人に追従 (カット %n 回)</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>FramesOption</name>
+    <message>
+        <source>its last frame is %1</source>
+        <translation>最後のフレームは %1 です</translation>
+    </message>
+    <message>
+        <source>it has %1 frames only</source>
+        <translation>フレームは %1 個しかありません</translation>
     </message>
 </context>
 <context>
@@ -1717,6 +1736,21 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
     </message>
 </context>
 <context>
+    <name>KxJoinedPictures</name>
+    <message>
+        <source>%1 does not hold pictures of a part of this video</source>
+        <translation>%1 にはこの動画の一部の画像がありません</translation>
+    </message>
+    <message>
+        <source>%1 is damaged</source>
+        <translation>%1 は壊れています</translation>
+    </message>
+    <message>
+        <source>%1 begins with other pictures than the part before ends with; analyse the video as a whole</source>
+        <translation>%1 の最初の画像が前の部分の最後の画像と異なります。動画全体を解析してください</translation>
+    </message>
+</context>
+<context>
     <name>KxLanguage</name>
     <message>
         <source>Language of the texts: %1. Otherwise that of the system.</source>
@@ -1847,6 +1881,17 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
     </message>
 </context>
 <context>
+    <name>KxPicturesFile</name>
+    <message>
+        <source>Cannot write %1: %2.</source>
+        <translation>%1 を書き込めません: %2。</translation>
+    </message>
+    <message>
+        <source>%1 is cut off or damaged: it decodes only in part.</source>
+        <translation>%1 は途中で切れているか破損しています: 一部だけデコードできます。</translation>
+    </message>
+</context>
+<context>
     <name>KxPlayerToolBarBase</name>
     <message>
         <source>Play (%1)</source>
@@ -1955,6 +2000,14 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
     <message>
         <source>Cannot render %1: %2.</source>
         <translation>%1 をレンダリングできません: %2。</translation>
+    </message>
+    <message>
+        <source>its parts have %1 of %2 frames</source>
+        <translation>部分のフレームは %2 個中 %1 個です</translation>
+    </message>
+    <message>
+        <source>there is no picture to write</source>
+        <translation>書き込む画像がありません</translation>
     </message>
 </context>
 <context>
@@ -2140,6 +2193,28 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
     <message>
         <source>the video encoder %1 does not start (%2)</source>
         <translation>動画エンコーダー %1 が起動しません (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>KxVideoPart</name>
+    <message>
+        <source>it has no picture</source>
+        <translation>画像がありません</translation>
+    </message>
+</context>
+<context>
+    <name>KxVideoParts</name>
+    <message>
+        <source>Cannot join %1 to %2: it was encoded in another way.</source>
+        <translation>%1 を %2 に結合できません: エンコード方法が異なります。</translation>
+    </message>
+    <message>
+        <source>Cannot join %1: its time stamps are damaged.</source>
+        <translation>%1 を結合できません: タイムスタンプが壊れています。</translation>
+    </message>
+    <message>
+        <source>Cannot join %1: it is damaged.</source>
+        <translation>%1 を結合できません: ファイルが壊れています。</translation>
     </message>
 </context>
 <context>
@@ -2842,12 +2917,35 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
         <source>The size %1 x %2 is above that of the crop, %3 x %4: the picture is enlarged.</source>
         <translation>サイズ %1 x %2 はクロップの %3 x %4 を超えています: 画像は拡大されます。</translation>
     </message>
+    <message>
+        <source>frames %1 to %2</source>
+        <translation>フレーム %1～%2</translation>
+    </message>
 </context>
 <context>
     <name>ReframeJobNeed</name>
     <message>
         <source>%1: skipped, up to date: %2</source>
         <translation>%1: スキップしました。最新です: %2</translation>
+    </message>
+</context>
+<context>
+    <name>ReframeJobParts</name>
+    <message>
+        <source>Cannot take that part of %1: %2.</source>
+        <translation>%1 のその部分は処理できません: %2。</translation>
+    </message>
+    <message>
+        <source>Cannot join %1: pictures are for an analysis, and with --apply there is none.</source>
+        <translation>%1 を結合できません: 画像は解析用ですが、--apply では解析を行いません。</translation>
+    </message>
+    <message>
+        <source>Cannot join %1: parts of the video need the crop track that they were made with (--apply).</source>
+        <translation>%1 を結合できません: 動画の部分には、作成に使った切り抜きトラックが必要です (--apply)。</translation>
+    </message>
+    <message>
+        <source>Cannot analyse %1: %2.</source>
+        <translation>%1 を解析できません: %2。</translation>
     </message>
 </context>
 <context>
@@ -3025,6 +3123,57 @@ reframe --help を参照してください。</translation>
     <message>
         <source>The video files to reframe; a folder is all videos in it.</source>
         <translation>リフレームする動画ファイル。フォルダーの場合はその中のすべての動画。</translation>
+    </message>
+    <message>
+        <source>--frames takes one input.</source>
+        <translation>--frames の入力は 1 つだけです。</translation>
+    </message>
+    <message>
+        <source>--frames takes one aspect ratio.</source>
+        <translation>--frames の縦横比は 1 つだけです。</translation>
+    </message>
+    <message>
+        <source>--frames with --apply renders a part of the video, and --no-video excludes that.</source>
+        <translation>--frames と --apply は動画の一部をレンダリングするため、--no-video と併用できません。</translation>
+    </message>
+    <message>
+        <source>--frames does a part of the work; files about the whole video, and choices, are for --join.</source>
+        <translation>--frames は作業の一部だけを行います。動画全体のファイルと指定は --join で使います。</translation>
+    </message>
+    <message>
+        <source>--join takes a video and then its parts.</source>
+        <translation>--join には動画とその部分を順に指定します。</translation>
+    </message>
+    <message>
+        <source>--frames takes frames such as 0-2999, or a part such as 3/8; &quot;%1&quot; is neither.</source>
+        <translation>--frames には 0-2999 のようなフレームか 3/8 のような部分を指定します。「%1」はどちらでもありません。</translation>
+    </message>
+</context>
+<context>
+    <name>ReframeParts</name>
+    <message>
+        <source>Cannot join %1: it is a part of another video than %2.</source>
+        <translation>%1 を結合できません: %2 とは別の動画の部分です。</translation>
+    </message>
+    <message>
+        <source>Cannot join %1: it was made with other settings or by another version (&quot;%2&quot;; now &quot;%3&quot;).</source>
+        <translation>%1 を結合できません: 別の設定または別のバージョンで作成されました（「%2」、現在は「%3」）。</translation>
+    </message>
+    <message>
+        <source>Cannot join the parts of %1: the frames %2 to %3 are missing.</source>
+        <translation>%1 の部分を結合できません: フレーム %2～%3 がありません。</translation>
+    </message>
+    <message>
+        <source>Cannot join %1 and %2: both have the frames %3 to %4.</source>
+        <translation>%1 と %2 を結合できません: フレーム %3～%4 が両方にあります。</translation>
+    </message>
+    <message>
+        <source>Cannot join %1: it is no part that --frames wrote.</source>
+        <translation>%1 を結合できません: --frames が書き出した部分ではありません。</translation>
+    </message>
+    <message>
+        <source>Cannot join %1 and %2: only one of them holds pictures of the analysis.</source>
+        <translation>%1 と %2 を結合できません: 解析用の画像を含むのは一方だけです。</translation>
     </message>
 </context>
 <context>

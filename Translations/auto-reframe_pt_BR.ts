@@ -705,6 +705,14 @@ O programa de linha de comando para muitos arquivos de uma vez é o reframe.</tr
         <source>Skip inputs whose results are there already, from the same content, settings and version; replace results of other settings.</source>
         <translation>Ignorar entradas cujos resultados já existem, do mesmo conteúdo, ajustes e versão; substituir resultados de outros ajustes.</translation>
     </message>
+    <message>
+        <source>Only the frames A to B, counted from 0, or the part K of N: with --apply, render them without sound; otherwise write the pictures that the analysis takes of them (.pictures).</source>
+        <translation>Apenas os quadros A a B, contados a partir de 0, ou a parte K de N: com --apply, renderizá-los sem som; caso contrário, gravar as imagens que a análise usa deles (.pictures).</translation>
+    </message>
+    <message>
+        <source>The first input is a video, the others are all its parts, as --frames wrote them; the results are those of the whole video.</source>
+        <translation>A primeira entrada é um vídeo e as outras são todas as suas partes, como --frames as gravou; os resultados são os do vídeo inteiro.</translation>
+    </message>
 </context>
 <context>
     <name>FollowOption</name>
@@ -797,6 +805,17 @@ O programa de linha de comando para muitos arquivos de uma vez é o reframe.</tr
             <numerusform>acompanha quem fala, com %n corte</numerusform>
             <numerusform>acompanha quem fala, com %n cortes</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>FramesOption</name>
+    <message>
+        <source>its last frame is %1</source>
+        <translation>seu último quadro é %1</translation>
+    </message>
+    <message>
+        <source>it has %1 frames only</source>
+        <translation>ele tem apenas %1 quadros</translation>
     </message>
 </context>
 <context>
@@ -1729,6 +1748,21 @@ Espaço necessário: %1 MB, disponível: %2 MB.</translation>
     </message>
 </context>
 <context>
+    <name>KxJoinedPictures</name>
+    <message>
+        <source>%1 does not hold pictures of a part of this video</source>
+        <translation>%1 não contém imagens de uma parte deste vídeo</translation>
+    </message>
+    <message>
+        <source>%1 is damaged</source>
+        <translation>%1 está danificado</translation>
+    </message>
+    <message>
+        <source>%1 begins with other pictures than the part before ends with; analyse the video as a whole</source>
+        <translation>%1 começa com imagens diferentes das que encerram a parte anterior; analise o vídeo inteiro</translation>
+    </message>
+</context>
+<context>
     <name>KxLanguage</name>
     <message>
         <source>Language of the texts: %1. Otherwise that of the system.</source>
@@ -1859,6 +1893,17 @@ Espaço necessário: %1 MB, disponível: %2 MB.</translation>
     </message>
 </context>
 <context>
+    <name>KxPicturesFile</name>
+    <message>
+        <source>Cannot write %1: %2.</source>
+        <translation>Não é possível gravar %1: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is cut off or damaged: it decodes only in part.</source>
+        <translation>%1 está cortado ou danificado: só é decodificado em parte.</translation>
+    </message>
+</context>
+<context>
     <name>KxPlayerToolBarBase</name>
     <message>
         <source>Play (%1)</source>
@@ -1967,6 +2012,14 @@ Espaço necessário: %1 MB, disponível: %2 MB.</translation>
     <message>
         <source>Cannot render %1: %2.</source>
         <translation>Não é possível renderizar %1: %2.</translation>
+    </message>
+    <message>
+        <source>its parts have %1 of %2 frames</source>
+        <translation>suas partes têm %1 de %2 quadros</translation>
+    </message>
+    <message>
+        <source>there is no picture to write</source>
+        <translation>não há imagem para gravar</translation>
     </message>
 </context>
 <context>
@@ -2152,6 +2205,28 @@ Espaço necessário: %1 MB, disponível: %2 MB.</translation>
     <message>
         <source>the video encoder %1 does not start (%2)</source>
         <translation>o codificador de vídeo %1 não inicia (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>KxVideoPart</name>
+    <message>
+        <source>it has no picture</source>
+        <translation>não tem nenhuma imagem</translation>
+    </message>
+</context>
+<context>
+    <name>KxVideoParts</name>
+    <message>
+        <source>Cannot join %1 to %2: it was encoded in another way.</source>
+        <translation>Não é possível juntar %1 a %2: foi codificado de outra forma.</translation>
+    </message>
+    <message>
+        <source>Cannot join %1: its time stamps are damaged.</source>
+        <translation>Não é possível juntar %1: as marcas de tempo estão danificadas.</translation>
+    </message>
+    <message>
+        <source>Cannot join %1: it is damaged.</source>
+        <translation>Não é possível juntar %1: o arquivo está danificado.</translation>
     </message>
 </context>
 <context>
@@ -2865,12 +2940,35 @@ Espaço necessário: %1 MB, disponível: %2 MB.</translation>
         <source>The size %1 x %2 is above that of the crop, %3 x %4: the picture is enlarged.</source>
         <translation>O tamanho %1 x %2 está acima do tamanho do corte, %3 x %4: a imagem é ampliada.</translation>
     </message>
+    <message>
+        <source>frames %1 to %2</source>
+        <translation>quadros %1 a %2</translation>
+    </message>
 </context>
 <context>
     <name>ReframeJobNeed</name>
     <message>
         <source>%1: skipped, up to date: %2</source>
         <translation>%1: ignorado, já está atualizado: %2</translation>
+    </message>
+</context>
+<context>
+    <name>ReframeJobParts</name>
+    <message>
+        <source>Cannot take that part of %1: %2.</source>
+        <translation>Não é possível usar essa parte de %1: %2.</translation>
+    </message>
+    <message>
+        <source>Cannot join %1: pictures are for an analysis, and with --apply there is none.</source>
+        <translation>Não é possível juntar %1: as imagens são para uma análise e, com --apply, não há análise.</translation>
+    </message>
+    <message>
+        <source>Cannot join %1: parts of the video need the crop track that they were made with (--apply).</source>
+        <translation>Não é possível juntar %1: as partes do vídeo precisam da trilha de corte com que foram feitas (--apply).</translation>
+    </message>
+    <message>
+        <source>Cannot analyse %1: %2.</source>
+        <translation>Não é possível analisar %1: %2.</translation>
     </message>
 </context>
 <context>
@@ -3048,6 +3146,57 @@ Consulte reframe --help.</translation>
     <message>
         <source>The video files to reframe; a folder is all videos in it.</source>
         <translation>Os arquivos de vídeo a reenquadrar; uma pasta são todos os vídeos nela.</translation>
+    </message>
+    <message>
+        <source>--frames takes one input.</source>
+        <translation>--frames aceita uma entrada.</translation>
+    </message>
+    <message>
+        <source>--frames takes one aspect ratio.</source>
+        <translation>--frames aceita uma proporção.</translation>
+    </message>
+    <message>
+        <source>--frames with --apply renders a part of the video, and --no-video excludes that.</source>
+        <translation>--frames com --apply renderiza uma parte do vídeo, e --no-video exclui isso.</translation>
+    </message>
+    <message>
+        <source>--frames does a part of the work; files about the whole video, and choices, are for --join.</source>
+        <translation>--frames faz uma parte do trabalho; arquivos sobre o vídeo inteiro e escolhas são para --join.</translation>
+    </message>
+    <message>
+        <source>--join takes a video and then its parts.</source>
+        <translation>--join aceita um vídeo e depois as suas partes.</translation>
+    </message>
+    <message>
+        <source>--frames takes frames such as 0-2999, or a part such as 3/8; &quot;%1&quot; is neither.</source>
+        <translation>--frames aceita quadros como 0-2999 ou uma parte como 3/8; &quot;%1&quot; não é nenhum dos dois.</translation>
+    </message>
+</context>
+<context>
+    <name>ReframeParts</name>
+    <message>
+        <source>Cannot join %1: it is a part of another video than %2.</source>
+        <translation>Não é possível juntar %1: é uma parte de um vídeo diferente de %2.</translation>
+    </message>
+    <message>
+        <source>Cannot join %1: it was made with other settings or by another version (&quot;%2&quot;; now &quot;%3&quot;).</source>
+        <translation>Não é possível juntar %1: foi feito com outras configurações ou por outra versão (&quot;%2&quot;; agora &quot;%3&quot;).</translation>
+    </message>
+    <message>
+        <source>Cannot join the parts of %1: the frames %2 to %3 are missing.</source>
+        <translation>Não é possível juntar as partes de %1: faltam os quadros %2 a %3.</translation>
+    </message>
+    <message>
+        <source>Cannot join %1 and %2: both have the frames %3 to %4.</source>
+        <translation>Não é possível juntar %1 e %2: ambos têm os quadros %3 a %4.</translation>
+    </message>
+    <message>
+        <source>Cannot join %1: it is no part that --frames wrote.</source>
+        <translation>Não é possível juntar %1: não é uma parte gravada por --frames.</translation>
+    </message>
+    <message>
+        <source>Cannot join %1 and %2: only one of them holds pictures of the analysis.</source>
+        <translation>Não é possível juntar %1 e %2: só um deles contém imagens da análise.</translation>
     </message>
 </context>
 <context>

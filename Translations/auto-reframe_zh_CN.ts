@@ -699,6 +699,14 @@ The command line program for many files at once is reframe.</source>
         <source>Skip inputs whose results are there already, from the same content, settings and version; replace results of other settings.</source>
         <translation>跳过已有结果（内容、设置和版本相同）的输入；替换其他设置的结果。</translation>
     </message>
+    <message>
+        <source>Only the frames A to B, counted from 0, or the part K of N: with --apply, render them without sound; otherwise write the pictures that the analysis takes of them (.pictures).</source>
+        <translation>仅处理第 A 到 B 帧（从 0 开始计数），或 N 份中的第 K 份：使用 --apply 时渲染这些帧（无声音），否则写出分析所用的图像 (.pictures)。</translation>
+    </message>
+    <message>
+        <source>The first input is a video, the others are all its parts, as --frames wrote them; the results are those of the whole video.</source>
+        <translation>第一个输入是视频，其余是 --frames 写出的该视频的全部分段；结果即整个视频的结果。</translation>
+    </message>
 </context>
 <context>
     <name>FollowOption</name>
@@ -790,6 +798,17 @@ The command line program for many files at once is reframe.</source>
         <translation>
             <numerusform>跟随说话者，%n 次切换</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>FramesOption</name>
+    <message>
+        <source>its last frame is %1</source>
+        <translation>其最后一帧是 %1</translation>
+    </message>
+    <message>
+        <source>it has %1 frames only</source>
+        <translation>它只有 %1 帧</translation>
     </message>
 </context>
 <context>
@@ -1717,6 +1736,21 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
     </message>
 </context>
 <context>
+    <name>KxJoinedPictures</name>
+    <message>
+        <source>%1 does not hold pictures of a part of this video</source>
+        <translation>%1 不包含此视频某一部分的图像</translation>
+    </message>
+    <message>
+        <source>%1 is damaged</source>
+        <translation>%1 已损坏</translation>
+    </message>
+    <message>
+        <source>%1 begins with other pictures than the part before ends with; analyse the video as a whole</source>
+        <translation>%1 开头的图像与前一部分结尾的图像不同；请分析整个视频</translation>
+    </message>
+</context>
+<context>
     <name>KxLanguage</name>
     <message>
         <source>Language of the texts: %1. Otherwise that of the system.</source>
@@ -1847,6 +1881,17 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
     </message>
 </context>
 <context>
+    <name>KxPicturesFile</name>
+    <message>
+        <source>Cannot write %1: %2.</source>
+        <translation>无法写入 %1：%2。</translation>
+    </message>
+    <message>
+        <source>%1 is cut off or damaged: it decodes only in part.</source>
+        <translation>%1 被截断或已损坏：只能解码一部分。</translation>
+    </message>
+</context>
+<context>
     <name>KxPlayerToolBarBase</name>
     <message>
         <source>Play (%1)</source>
@@ -1955,6 +2000,14 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
     <message>
         <source>Cannot render %1: %2.</source>
         <translation>无法渲染 %1：%2。</translation>
+    </message>
+    <message>
+        <source>its parts have %1 of %2 frames</source>
+        <translation>其各部分共有 %1 帧，应为 %2 帧</translation>
+    </message>
+    <message>
+        <source>there is no picture to write</source>
+        <translation>没有可写入的画面</translation>
     </message>
 </context>
 <context>
@@ -2140,6 +2193,28 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
     <message>
         <source>the video encoder %1 does not start (%2)</source>
         <translation>视频编码器 %1 无法启动（%2）</translation>
+    </message>
+</context>
+<context>
+    <name>KxVideoPart</name>
+    <message>
+        <source>it has no picture</source>
+        <translation>其中没有图像</translation>
+    </message>
+</context>
+<context>
+    <name>KxVideoParts</name>
+    <message>
+        <source>Cannot join %1 to %2: it was encoded in another way.</source>
+        <translation>无法将 %1 与 %2 合并：编码方式不同。</translation>
+    </message>
+    <message>
+        <source>Cannot join %1: its time stamps are damaged.</source>
+        <translation>无法合并 %1：其时间戳已损坏。</translation>
+    </message>
+    <message>
+        <source>Cannot join %1: it is damaged.</source>
+        <translation>无法合并 %1：文件已损坏。</translation>
     </message>
 </context>
 <context>
@@ -2842,12 +2917,35 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
         <source>The size %1 x %2 is above that of the crop, %3 x %4: the picture is enlarged.</source>
         <translation>大小 %1 x %2 超过裁剪框的 %3 x %4：画面被放大。</translation>
     </message>
+    <message>
+        <source>frames %1 to %2</source>
+        <translation>第 %1 到 %2 帧</translation>
+    </message>
 </context>
 <context>
     <name>ReframeJobNeed</name>
     <message>
         <source>%1: skipped, up to date: %2</source>
         <translation>%1：已跳过，已是最新：%2</translation>
+    </message>
+</context>
+<context>
+    <name>ReframeJobParts</name>
+    <message>
+        <source>Cannot take that part of %1: %2.</source>
+        <translation>无法取 %1 的这一部分：%2。</translation>
+    </message>
+    <message>
+        <source>Cannot join %1: pictures are for an analysis, and with --apply there is none.</source>
+        <translation>无法合并 %1：图像用于分析，而使用 --apply 时不进行分析。</translation>
+    </message>
+    <message>
+        <source>Cannot join %1: parts of the video need the crop track that they were made with (--apply).</source>
+        <translation>无法合并 %1：视频的各部分需要制作时所用的裁剪轨迹 (--apply)。</translation>
+    </message>
+    <message>
+        <source>Cannot analyse %1: %2.</source>
+        <translation>无法分析 %1：%2。</translation>
     </message>
 </context>
 <context>
@@ -3025,6 +3123,57 @@ Try reframe --help.</source>
     <message>
         <source>The video files to reframe; a folder is all videos in it.</source>
         <translation>要重新构图的视频文件；文件夹表示其中的所有视频。</translation>
+    </message>
+    <message>
+        <source>--frames takes one input.</source>
+        <translation>--frames 只接受一个输入。</translation>
+    </message>
+    <message>
+        <source>--frames takes one aspect ratio.</source>
+        <translation>--frames 只接受一个宽高比。</translation>
+    </message>
+    <message>
+        <source>--frames with --apply renders a part of the video, and --no-video excludes that.</source>
+        <translation>--frames 与 --apply 会渲染视频的一部分，与 --no-video 冲突。</translation>
+    </message>
+    <message>
+        <source>--frames does a part of the work; files about the whole video, and choices, are for --join.</source>
+        <translation>--frames 只完成一部分工作；针对整个视频的文件和选择请用于 --join。</translation>
+    </message>
+    <message>
+        <source>--join takes a video and then its parts.</source>
+        <translation>--join 先接受一个视频，然后是它的各部分。</translation>
+    </message>
+    <message>
+        <source>--frames takes frames such as 0-2999, or a part such as 3/8; &quot;%1&quot; is neither.</source>
+        <translation>--frames 接受 0-2999 这样的帧或 3/8 这样的部分；“%1”两者都不是。</translation>
+    </message>
+</context>
+<context>
+    <name>ReframeParts</name>
+    <message>
+        <source>Cannot join %1: it is a part of another video than %2.</source>
+        <translation>无法合并 %1：它不是 %2 的一部分，而属于另一个视频。</translation>
+    </message>
+    <message>
+        <source>Cannot join %1: it was made with other settings or by another version (&quot;%2&quot;; now &quot;%3&quot;).</source>
+        <translation>无法合并 %1：它是用其他设置或其他版本制作的（“%2”；现在是“%3”）。</translation>
+    </message>
+    <message>
+        <source>Cannot join the parts of %1: the frames %2 to %3 are missing.</source>
+        <translation>无法合并 %1 的各部分：缺少第 %2 到 %3 帧。</translation>
+    </message>
+    <message>
+        <source>Cannot join %1 and %2: both have the frames %3 to %4.</source>
+        <translation>无法合并 %1 和 %2：两者都有第 %3 到 %4 帧。</translation>
+    </message>
+    <message>
+        <source>Cannot join %1: it is no part that --frames wrote.</source>
+        <translation>无法合并 %1：它不是 --frames 写出的部分。</translation>
+    </message>
+    <message>
+        <source>Cannot join %1 and %2: only one of them holds pictures of the analysis.</source>
+        <translation>无法合并 %1 和 %2：其中只有一个包含分析图像。</translation>
     </message>
 </context>
 <context>
