@@ -117,8 +117,8 @@ class Farm:
             result = self.path('results/clip%02d-AutoReframe-9 16' % number)
             with open(result + '.json', encoding='utf-8') as file:
                 track = json.load(file)
-            frames = run('ffprobe', '-v', 'error', '-count_frames', '-show_entries', 'stream=nb_read_frames', '-of', 'csv=p=0', result + '.mp4')
-            if not track['source']['path'].endswith('clip%02d.mp4' % number) or len(track['frames']) != 50 or frames.strip() != '50':
+            frames = count_frames(result + '.mp4')
+            if not track['source']['path'].endswith('clip%02d.mp4' % number) or len(track['frames']) != 50 or frames != '50':
                 sys.exit('%s is not right: %s' % (result, frames))
         again = run(self.reframe, '--inputs', self.list, '--if-needed', *self.options)
         if again.count('skipped') != CLIPS:
@@ -176,6 +176,27 @@ def run_slurm(farm):
     wait_for('the array', lambda: ask('squeue', '--noheader', '--jobs', array + ',' + joined) == '')
     if not os.path.exists(farm.path('joined')):
         sys.exit('The dependent job has not run: not all tasks have succeeded.')
+
+
+    check_parts(farm, lambda job: wait_for('the parts', lambda: ask('squeue', '--noheader', '--jobs', job) == ''))
+
+
+def check_parts(farm, wait):
+    """One clip in three parts: its crop track is that of the whole, its video has each frame."""
+    clip = farm.path('clip00.mp4')
+    options = ['--cache', 'none', '--models', 'none']
+    wait(run(os.path.join(farm.scripts, 'slurm-parts'), clip, '3', farm.path('in parts'), *options, env=farm.env, cwd=farm.work).strip())
+    run(farm.reframe, *options, '--no-video', '--keyframes', farm.path('whole.json'), clip)
+    with open(farm.path('whole.json'), 'rb') as whole, open(farm.path('in parts/track.json'), 'rb') as joined:
+        if whole.read() != joined.read():
+            sys.exit('The crop track of the parts is not that of the whole.')
+    if count_frames(farm.path('in parts/clip00-AutoReframe-9 16.mp4')) != '50':
+        sys.exit('The joined video does not have 50 frames.')
+
+
+def count_frames(video):
+    return run('ffprobe', '-v', 'error', '-count_frames', '-select_streams', 'v', '-show_entries', 'stream=nb_read_frames', '-of', 'csv=p=0',
+               video).strip()
 
 
 def find(farm, program):
