@@ -27,6 +27,26 @@ bool Arrives(const std::vector<Point>& points, const Point& seed, const KxSubjec
            Distance(points.back().box, seed.box) < options.agreeingShare * seed.box.width;
 }
 
+/// Puts the points without confidence on the line between the nearest ones that have some. The first and the last one
+/// have.
+void BridgeLost(std::vector<Point>& points, const KxSubjectOptions::Follow& options)
+{
+    std::size_t seen = 0;
+    for (std::size_t i = 1; i < points.size(); ++i) {
+        if (points[i].confidence == 0.0F) {
+            continue;
+        }
+        const Point before = points[seen];
+        for (std::size_t lost = seen + 1; lost < i; ++lost) {
+            const double part = static_cast<double>(points[lost].frame - before.frame) /
+                                static_cast<double>(points[i].frame - before.frame);
+            points[lost].box = Mix(before.box, points[i].box, part);
+            points[lost].confidence = static_cast<float>(options.goodConfidence);
+        }
+        seen = i;
+    }
+}
+
 /// A frame's point on each side; null where that side has none.
 struct Pair {
     const Point* left = nullptr;
@@ -48,7 +68,7 @@ std::vector<Point> KxTrackBlend::Between(const Side& left, const Side& right, co
     for (const Point& point : right.points) {
         frames[point.frame].right = rightArrives || !leftArrives ? &point : nullptr;
     }
-    std::vector<Point> blended;
+    std::vector<Point> blended{left.seed};
     for (const auto& [frame, pair] : frames) {
         if (frame <= first || frame >= last) {
             continue;
@@ -57,8 +77,7 @@ std::vector<Point> KxTrackBlend::Between(const Side& left, const Side& right, co
         const double leftConfidence = pair.left != nullptr ? static_cast<double>(pair.left->confidence) : 0.0;
         const double rightConfidence = pair.right != nullptr ? static_cast<double>(pair.right->confidence) : 0.0;
         if (std::max(leftConfidence, rightConfidence) < options.goodConfidence) {
-            blended.push_back(
-                {frame, Mix(left.seed.box, right.seed.box, part), static_cast<float>(options.goodConfidence)});
+            blended.push_back({frame, {}, 0.0F});
             continue;
         }
         const bool agrees = pair.left != nullptr && pair.right != nullptr &&
@@ -71,5 +90,7 @@ std::vector<Point> KxTrackBlend::Between(const Side& left, const Side& right, co
             blended.push_back((1.0 - part) * leftConfidence >= part * rightConfidence ? *pair.left : *pair.right);
         }
     }
-    return blended;
+    blended.push_back(right.seed);
+    BridgeLost(blended, options);
+    return {blended.begin() + 1, blended.end() - 1};
 }

@@ -52,7 +52,17 @@ TEST(KxTrackBlend, ASideThatEndsOnTheOtherSeedWasRightAllTheWay)
     EXPECT_EQ(mirrored[1].box.x, 0.2);
 }
 
-TEST(KxTrackBlend, WhereBothHaveLostItTheBoxIsOnTheLineBetweenTheSeeds)
+TEST(KxTrackBlend, WhereBothHaveLostItTheBoxStaysNearWhereItWasSeenLast)
+{
+    // It leaves the picture on the right and comes back there; the second seed is far from that.
+    const auto points = Blend({At(20, 0.9, 0.8F), At(50, 0.2, 0.0F), At(80, 0.2, 0.0F)},
+                              {At(80, 0.86, 0.8F), At(50, 0.2, 0.0F), At(20, 0.2, 0.0F)});
+    ASSERT_EQ(points.size(), 3U);
+    EXPECT_EQ(points[1].frame, 50);
+    EXPECT_NEAR(points[1].box.x, 0.88, 1e-9);
+}
+
+TEST(KxTrackBlend, WhereBothNeverSeeItTheBoxIsOnTheLineBetweenTheSeeds)
 {
     const auto points = Blend({At(50, 0.9, 0.1F)}, {At(50, 0.0, 0.2F)});
     ASSERT_EQ(points.size(), 1U);
