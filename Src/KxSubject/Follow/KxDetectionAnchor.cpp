@@ -77,10 +77,12 @@ bool KxDetectionAnchor::WasBeside(const KxDetection& detection) const
 const KxDetection* KxDetectionAnchor::Overlapping(const KxDetectionLook& look, const KxSubjectBox& box) const
 {
     double most = m_thing ? m_options.stillOverlap : m_options.firstOverlap;
+    // Looks are about a second apart, but a look may miss the thing, which comes nearer or goes away meanwhile.
+    const double mostGrowth = m_options.stillGrowth * std::max(1.0, std::abs(m_record.SecondsAt(look.frame - m_frame)));
     const KxDetection* best = nullptr;
     for (const KxDetection& detection : look.found) {
         const double overlap = Overlap(Inside(Mapped(detection)), Inside(box));
-        const bool isOther = m_thing && (WasBeside(detection) || Growth(*m_thing, detection) > m_options.stillGrowth);
+        const bool isOther = m_thing && (WasBeside(detection) || Growth(*m_thing, detection) > mostGrowth);
         if (overlap >= most && !isOther) {
             most = overlap;
             best = &detection;

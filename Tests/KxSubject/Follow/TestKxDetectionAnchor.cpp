@@ -105,6 +105,20 @@ TEST(KxDetectionAnchor, ADetectionOfMuchAnotherSizeIsNoCorrection)
     EXPECT_FALSE(anchor.Correct({25, Box(0.3, 0.3), 1.0}));
 }
 
+TEST(KxDetectionAnchor, WhoRunsAwayWhileALookMissesThemIsNotLeftForABystander)
+{
+    const auto sized = [](float left, float side) {
+        return KxDetection{left, 0.3F, 0.1F * side, 0.6F * side, 0.6F, KxDetectionKind::Person};
+    };
+    const KxSubjectRecord record = Record({{sized(0.6F, 1.0F)}, {}, {sized(0.4F, 0.6F), sized(0.5F, 0.6F)}});
+    KxDetectionAnchor anchor(record, Options);
+    ExpectBox(anchor.Correct({0, Box(0.6), 1.0}), 0.6);
+    const KxSubjectBox tracked{0.39, 0.3, 0.06, 0.36};
+    const std::optional<KxSubjectBox> corrected = anchor.Correct({50, tracked, 1.0});
+    ASSERT_TRUE(corrected);
+    EXPECT_NEAR(corrected->x, 0.4, 1e-6);
+}
+
 TEST(KxDetectionAnchor, APointIsInTheDetectionWhoseMiddleIsNearest)
 {
     const KxSubjectRecord record = Record({{Person(0.3F), Person(0.36F), Person(0.1F, 0.8F)}});
