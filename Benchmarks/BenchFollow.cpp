@@ -30,6 +30,7 @@ QMap<QString, double*> Values(KxSubjectOptions& options)
             {QStringLiteral("weight"), &follow.weight},
             {QStringLiteral("seedWeight"), &follow.seedWeight},
             {QStringLiteral("seedSeconds"), &follow.seedSeconds},
+            {QStringLiteral("boxError"), &follow.boxError},
             {QStringLiteral("heldShare"), &follow.heldShare},
             {QStringLiteral("smoothingSeconds"), &follow.smoothingSeconds},
             {QStringLiteral("goodConfidence"), &follow.goodConfidence}};

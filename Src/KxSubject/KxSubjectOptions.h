@@ -299,7 +299,7 @@ struct KxSubjectOptions {
         double firstOverlap = 0.5;
         double stillOverlap = 0.3;      ///< 0.2 to 0.4: the same for a tracked box, which may have drifted; chosen
         double sameOverlap = 0.6;       ///< 0.5 to 0.8: a tracked box that overlaps more is left as it is; chosen
-        double stillGrowth = 0.7;       ///< 0.5 to 1, logarithm of the areas' ratio from one look to the next; chosen
+        double stillGrowth = 0.7;       ///< 0.5 to 1 a second, logarithm of the areas' ratio of two looks; chosen
         double bridgedConfidence = 0.5; ///< 0.3 to 0.7 of a place that is known from movers alone; chosen
         double agreeingShare = 0.6;     ///< 0.4 to 1 of the box's width: tracks nearer than this agree; chosen
         double gateWidth = 0.15;        ///< 0.1 to 0.25: evidence farther from the track counts less; trial
@@ -308,8 +308,10 @@ struct KxSubjectOptions {
         double weight = 2.0;            ///< 1 to 4 of the tracked box; trial
         double seedWeight = 4.0;        ///< 2 to 8 of a box that a person drew; chosen
         double seedSeconds = 0.35;      ///< 0.2 to 1 each way, for which that holds; chosen
+        /// 0.05 to 0.15 of a box's side: what is nearer to its edge may not be of the thing; chosen
+        double boxError = 0.1;
         /// 0.8 to 1 of the thing, over the shot: where the automatic crop holds more, it stays as it is; chosen
-        double heldShare = 0.9;
+        double heldShare = 0.95;
         double smoothingSeconds = 0.4; ///< 0.3 to 0.6, of a path that follows, at most; trial
         double avoidedShare = 0.1;     ///< 0 to 0.3 of the evidence under an avoided box is left; chosen
         double avoidedMargin = 0.04;   ///< 0.02 to 0.06 beside that box: what is measured there is blurred; chosen

@@ -124,14 +124,16 @@ KxSignalProfile KxFollowEvidence::WithoutAvoided(const KxSignalProfile& evidence
 
 double KxFollowEvidence::HeldBy(const std::function<double(std::int64_t frame)>& centreAt, double extent) const
 {
-    double sum = 0.0;
+    double missed = 0.0;
     for (const std::size_t i : m_good) {
         const KxSubjectBox& box = m_points[i].box;
-        const double from = std::max(0.0, m_axis == KxAxis::Across ? box.x : box.y);
-        const double to = std::min(1.0, m_axis == KxAxis::Across ? box.x + box.width : box.y + box.height);
+        const bool across = m_axis == KxAxis::Across;
+        const double margin = m_options.boxError * (across ? box.width : box.height);
+        const double from = std::max(0.0, (across ? box.x : box.y) + margin);
+        const double to = std::min(1.0, (across ? box.x + box.width : box.y + box.height) - margin);
         const double left = centreAt(m_points[i].frame) - extent / 2.0;
         const double most = std::min(extent, to - from);
-        sum += most > 0.0 ? std::max(0.0, std::min(to, left + extent) - std::max(from, left)) / most : 1.0;
+        missed += most > 0.0 ? 1.0 - std::max(0.0, std::min(to, left + extent) - std::max(from, left)) / most : 0.0;
     }
-    return sum / static_cast<double>(m_good.size());
+    return 1.0 - missed / static_cast<double>(m_points.size());
 }

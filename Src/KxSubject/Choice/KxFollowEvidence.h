@@ -33,8 +33,9 @@ public:
     KxSignalProfile Followed(const KxSignalProfile& evidence, std::int64_t frame) const;
     /// Where the thing is, if that is known.
     std::optional<KxSubjectBox> BoxAt(std::int64_t frame) const;
-    /// The mean share of the thing that a crop of an extent around some centres holds, of the most that it can hold, in
-    /// the pictures in which the thing was seen well.
+    /// The mean share of the thing that a crop of an extent around some centres holds, of the most that it can hold.
+    /// What is near the edge of the box does not count, since the box is not exact. Where the thing was not seen well,
+    /// nothing says that the crop does not hold it.
     double HeldBy(const std::function<double(std::int64_t frame)>& centreAt, double extent) const;
 
     /// `evidence` of all signals in a picture with the thing in it that the choice avoids.

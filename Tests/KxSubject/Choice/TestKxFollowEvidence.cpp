@@ -121,7 +121,8 @@ TEST(KxFollowEvidence, TheShareThatACropHoldsCountsWhatItCouldHold)
     const KxFollowTrack track{{Seen(0, 0.1, 1.0F), Seen(10, 0.5, 1.0F), Seen(20, 0.9, 0.0F)}};
     const KxFollowEvidence evidence = Evidence(track);
     const auto still = [](double centre) { return [centre](std::int64_t) { return centre; }; };
-    EXPECT_NEAR(evidence.HeldBy(still(0.15), 0.2), 0.5, 1e-9) << "one of two; the lost one does not count";
-    EXPECT_NEAR(evidence.HeldBy(still(0.3), 0.3), 0.25, 1e-9) << "half of one";
-    EXPECT_NEAR(evidence.HeldBy(still(0.15), 0.05), 0.5, 1e-9) << "all that such a crop can hold of the first";
+    EXPECT_NEAR(evidence.HeldBy(still(0.15), 0.2), 2.0 / 3.0, 1e-9) << "one of two; nobody knows where the lost one is";
+    EXPECT_NEAR(evidence.HeldBy(still(0.3), 0.3), 0.5, 1e-9) << "half of one";
+    EXPECT_NEAR(evidence.HeldBy(still(0.15), 0.05), 2.0 / 3.0, 1e-9) << "all that such a crop can hold of the first";
+    EXPECT_NEAR(evidence.HeldBy(still(0.161), 0.1), 2.0 / 3.0, 1e-2) << "what is near its edge may not be of the thing";
 }
