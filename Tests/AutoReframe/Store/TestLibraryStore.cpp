@@ -52,6 +52,20 @@ protected:
 
 } // namespace
 
+TEST_F(TestLibraryStore, StartsNoThreadBeforeItIsOpened)
+{
+    const QDir threads(QStringLiteral("/proc/self/task"));
+    if (!threads.exists()) {
+        GTEST_SKIP() << "needs /proc";
+    }
+    const auto count = [&threads] { return threads.entryList(QDir::Dirs | QDir::NoDotAndDotDot).size(); };
+    const int before = count();
+    LibraryStore store(m_path, nullptr);
+    EXPECT_EQ(count(), before);
+    WaitForContents(store);
+    EXPECT_GT(count(), before);
+}
+
 TEST_F(TestLibraryStore, WithoutAFileNothingIsSavedAndEverythingIsAnsweredAtOnce)
 {
     LibraryStore store(QString(), nullptr);

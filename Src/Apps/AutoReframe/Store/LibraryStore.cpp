@@ -44,13 +44,16 @@ LibraryStore::LibraryStore(QString filePath, QObject* parent)
 
 LibraryStore::~LibraryStore()
 {
+    if (!m_worker) {
+        return;
+    }
     std::promise<void> written;
-    m_worker.Add({[this, &written](const KxCancelToken&) {
-                      KxCallGuarded([this] { Write(); });
-                      m_database.reset();
-                      written.set_value();
-                  },
-                  {}});
+    m_worker->Add({[this, &written](const KxCancelToken&) {
+                       KxCallGuarded([this] { Write(); });
+                       m_database.reset();
+                       written.set_value();
+                   },
+                   {}});
     written.get_future().wait();
 }
 
@@ -81,7 +84,7 @@ void LibraryStore::Open()
         QMetaObject::invokeMethod(
             this, [this, contents, notice] { FinishOpening(contents, notice); }, Qt::QueuedConnection);
     };
-    m_worker.Add({[this, deliver](const KxCancelToken&) {
+    Worker().Add({[this, deliver](const KxCancelToken&) {
                       QString notice;
                       StoredContents contents;
                       KxResult<std::unique_ptr<LibraryDatabase>> opened = LibraryDatabase::Open(m_filePath);
@@ -98,6 +101,14 @@ void LibraryStore::Open()
                       deliver(contents, notice);
                   },
                   [deliver](const QString& message) { deliver({}, message); }});
+}
+
+KxWorker& LibraryStore::Worker()
+{
+    if (!m_worker) {
+        m_worker = std::make_unique<KxWorker>(KxWorker::Order::OldestFirst);
+    }
+    return *m_worker;
 }
 
 void LibraryStore::FinishOpening(const StoredContents& contents, const QString& notice)
@@ -132,7 +143,7 @@ void LibraryStore::ScheduleWriting()
         }
         m_isWritingScheduled = true;
     }
-    m_worker.Add(
+    Worker().Add(
         {[this](const KxCancelToken&) { Write(); }, [this](const QString& message) { ReportWriting(message); }});
 }
 
@@ -223,7 +234,7 @@ void LibraryStore::ReadThumbnail(const QString& path, const std::function<void(c
         QMetaObject::invokeMethod(
             this, [ready, picture] { ready(picture); }, Qt::QueuedConnection);
     };
-    m_worker.Add({[this, path, deliver](const KxCancelToken&) {
+    Worker().Add({[this, path, deliver](const KxCancelToken&) {
                       Write();
                       const KxResult<QByteArray> jpeg =
                           m_database != nullptr ? m_database->ReadThumbnail(path) : QByteArray();

@@ -70,6 +70,7 @@ private:
     KxError WriteAll(const std::vector<Change>& changes);
     void ReportWriting(const KxError& failure);
 
+    KxWorker& Worker();
     void FinishOpening(const StoredContents& contents, const QString& notice);
     void FinishWriting(const KxError& failure);
 
@@ -85,6 +86,6 @@ private:
     std::vector<Change> m_changes;
     bool m_isWritingScheduled = false;
     bool m_isWriting = false;
-    // Last: its thread uses the others.
-    KxWorker m_worker{KxWorker::Order::OldestFirst};
+    // Null until the first job: starting a thread delays the first painting. Last: its thread uses the others.
+    std::unique_ptr<KxWorker> m_worker;
 };
