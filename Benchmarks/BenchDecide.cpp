@@ -15,6 +15,7 @@
 //       fractions of the picture).
 
 #include <KxMedia/Read/KxVideoScanner.h>
+#include <KxModel/KxAnalysisPictures.h>
 #include <KxModel/KxDetectorFiles.h>
 #include <KxModel/KxSoundReading.h>
 #include <KxModel/KxVideoObservation.h>
@@ -131,7 +132,8 @@ int Observe(const QString& clip, const QString& recordPath, const QString& objec
     if (!scanner) {
         return Fail(scanner.Message());
     }
-    KxVideoObservation observation(**scanner, KxCancelToken());
+    KxDecodedPictures pictures(**scanner);
+    KxVideoObservation observation(pictures, *(*scanner)->Facts().video, KxCancelToken());
     if (const KxError problem = observation.Run(std::move(models), [](int) {})) {
         return Fail(QStringLiteral("Cannot observe %1: %2.").arg(clip, *problem));
     }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <KxCore/KxExport.h>
 #include <KxMedia/Picture/KxPictureScaler.h>
 #include <KxMedia/Picture/KxVideoFrame.h>
 
@@ -13,7 +14,7 @@ struct KxVideoFacts;
 
 /// The pictures of a video in the sizes that the analysis takes (KxSubjectSampling), in display order. One thread at a
 /// time.
-class KxAnalysisPictures
+class KXMODEL_API KxAnalysisPictures
 {
 public:
     KxAnalysisPictures() = default;
@@ -30,7 +31,7 @@ public:
 };
 
 /// Pictures decoded from the video, shrunk when they are asked for.
-class KxDecodedPictures final : public KxAnalysisPictures
+class KXMODEL_API KxDecodedPictures final : public KxAnalysisPictures
 {
 public:
     /// `scanner` is borrowed.

@@ -106,7 +106,7 @@ protected:
     }
 };
 
-const QStringList x264{QStringLiteral("-c:v"), QStringLiteral("libx264"), QStringLiteral("-g"), QStringLiteral("40")};
+const QStringList X264{QStringLiteral("-c:v"), QStringLiteral("libx264"), QStringLiteral("-g"), QStringLiteral("40")};
 
 } // namespace
 
@@ -119,11 +119,11 @@ TEST_F(ReframePartsTest, JoinedPicturesGiveTheCropTrackOfTheWhole)
     };
     // Closed and open groups of pictures, pictures without others that refer to them, and one group only.
     const std::vector<Clip> clips{
-        {QStringLiteral("closed.mp4"), x264},
-        {QStringLiteral("open.mkv"), x264 + QStringList{QStringLiteral("-x264-params"), QStringLiteral("open-gop=1")}},
+        {QStringLiteral("closed.mp4"), X264},
+        {QStringLiteral("open.mkv"), X264 + QStringList{QStringLiteral("-x264-params"), QStringLiteral("open-gop=1")}},
         {QStringLiteral("long.mp4"),
          {QStringLiteral("-c:v"), QStringLiteral("libx264"), QStringLiteral("-g"), QStringLiteral("1000")}},
-        {QStringLiteral("stream.ts"), x264},
+        {QStringLiteral("stream.ts"), X264},
         {QStringLiteral("old.avi"),
          {QStringLiteral("-c:v"), QStringLiteral("mpeg4"), QStringLiteral("-q:v"), QStringLiteral("3"),
           QStringLiteral("-g"), QStringLiteral("25")},
@@ -197,7 +197,7 @@ TEST_F(ReframePartsTest, JoinedVideosShowEachFrameOnceWithTheSoundInStep)
 TEST_F(ReframePartsTest, PartsThatDoNotMakeAWholeAreRefused)
 {
     const QString clip = QStringLiteral("clip.mp4");
-    MakeScenes(clip, x264);
+    MakeScenes(clip, X264);
     const QString first = Part(clip, QStringLiteral("0-74"), QStringLiteral("first.pictures"));
     const QString last = Part(clip, QStringLiteral("75-149"), QStringLiteral("last.pictures"));
     const QString middle = Part(clip, QStringLiteral("70-99"), QStringLiteral("middle.pictures"));
@@ -229,7 +229,7 @@ TEST_F(ReframePartsTest, PartsThatDoNotMakeAWholeAreRefused)
 TEST_F(ReframePartsTest, DamagedPicturesAreRefused)
 {
     const QString clip = QStringLiteral("clip.mp4");
-    MakeScenes(clip, x264);
+    MakeScenes(clip, X264);
     const QString first = Part(clip, QStringLiteral("0-74"), QStringLiteral("first.pictures"));
     const QString last = Part(clip, QStringLiteral("75-149"), QStringLiteral("last.pictures"));
     QFile file(last);
