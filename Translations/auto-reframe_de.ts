@@ -2761,12 +2761,12 @@ Benötigt: %1 MB, verfügbar: %2 MB.</translation>
         <translation>Was aus einem Bild mit hohem Dynamikumfang wird: tonemap, auf den üblichen Umfang, oder keep, als HEVC mit 10 Bit (tonemap).</translation>
     </message>
     <message>
-        <source>What becomes of the sound: encode as AAC, or copy bit for bit where MP4 can hold it (encode).</source>
-        <translation>Was aus dem Ton wird: encode, als AAC, oder copy, Bit für Bit, wo MP4 ihn enthalten kann (encode).</translation>
-    </message>
-    <message>
         <source>Bring the sound to this loudness in LUFS (EBU R128), such as -14.</source>
         <translation>Den Ton auf diese Lautheit in LUFS (EBU R128) bringen, etwa -14.</translation>
+    </message>
+    <message>
+        <source>What becomes of the sound: encode as AAC, or copy bit for bit where MP4 can hold it. When not given, AAC in mono or stereo that nothing changes is copied, and any other sound is encoded.</source>
+        <translation>Was mit dem Ton geschieht: encode codiert ihn als AAC, copy kopiert ihn Bit für Bit, wo MP4 ihn aufnehmen kann. Ohne Angabe wird AAC in Mono oder Stereo, an dem sich nichts ändert, kopiert und anderer Ton codiert.</translation>
     </message>
 </context>
 <context>

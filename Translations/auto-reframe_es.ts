@@ -2761,12 +2761,12 @@ Espacio necesario: %1 MB, disponible: %2 MB.</translation>
         <translation>Qué se hace con una imagen de alto rango dinámico: tonemap al rango habitual, o keep, como HEVC de 10 bits (tonemap).</translation>
     </message>
     <message>
-        <source>What becomes of the sound: encode as AAC, or copy bit for bit where MP4 can hold it (encode).</source>
-        <translation>Qué se hace con el sonido: encode como AAC, o copy bit a bit donde MP4 pueda contenerlo (encode).</translation>
-    </message>
-    <message>
         <source>Bring the sound to this loudness in LUFS (EBU R128), such as -14.</source>
         <translation>Llevar el sonido a esta sonoridad en LUFS (EBU R128), como -14.</translation>
+    </message>
+    <message>
+        <source>What becomes of the sound: encode as AAC, or copy bit for bit where MP4 can hold it. When not given, AAC in mono or stereo that nothing changes is copied, and any other sound is encoded.</source>
+        <translation>Qué se hace con el sonido: encode lo codifica como AAC, copy lo copia bit a bit cuando MP4 puede contenerlo. Si no se indica, el AAC en mono o estéreo que nada cambia se copia y cualquier otro sonido se codifica.</translation>
     </message>
 </context>
 <context>

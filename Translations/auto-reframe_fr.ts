@@ -2761,12 +2761,12 @@ Espace nécessaire&#xa0;: %1 Mo, disponible&#xa0;: %2 Mo.</translation>
         <translation>Ce que devient une image à grande gamme dynamique&#xa0;: tonemap vers la gamme habituelle, ou keep, en HEVC 10 bits (tonemap).</translation>
     </message>
     <message>
-        <source>What becomes of the sound: encode as AAC, or copy bit for bit where MP4 can hold it (encode).</source>
-        <translation>Ce que devient le son&#xa0;: encode en AAC, ou copy bit à bit là où MP4 peut le contenir (encode).</translation>
-    </message>
-    <message>
         <source>Bring the sound to this loudness in LUFS (EBU R128), such as -14.</source>
         <translation>Amener le son à ce niveau en LUFS (EBU R128), comme -14.</translation>
+    </message>
+    <message>
+        <source>What becomes of the sound: encode as AAC, or copy bit for bit where MP4 can hold it. When not given, AAC in mono or stereo that nothing changes is copied, and any other sound is encoded.</source>
+        <translation>Ce que devient le son&#xa0;: encode l’encode en AAC, copy le copie bit par bit si MP4 peut le contenir. Sans indication, l’AAC mono ou stéréo que rien ne change est copié et tout autre son est encodé.</translation>
     </message>
 </context>
 <context>

@@ -2743,12 +2743,12 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
         <translation>ハイダイナミックレンジの映像の扱い: tonemap は通常のレンジに変換、keep は 10 ビット HEVC のまま (tonemap)。</translation>
     </message>
     <message>
-        <source>What becomes of the sound: encode as AAC, or copy bit for bit where MP4 can hold it (encode).</source>
-        <translation>音声の扱い: encode は AAC、copy は MP4 に格納できる場合にそのままコピー (encode)。</translation>
-    </message>
-    <message>
         <source>Bring the sound to this loudness in LUFS (EBU R128), such as -14.</source>
         <translation>音声をこのラウドネス (LUFS、EBU R128) にします (例: -14)。</translation>
+    </message>
+    <message>
+        <source>What becomes of the sound: encode as AAC, or copy bit for bit where MP4 can hold it. When not given, AAC in mono or stereo that nothing changes is copied, and any other sound is encoded.</source>
+        <translation>音声の扱い: encode は AAC にエンコードし、copy は MP4 に格納できる場合にそのままコピーします。指定しない場合、変更のないモノラルまたはステレオの AAC はコピーし、その他の音声はエンコードします。</translation>
     </message>
 </context>
 <context>

@@ -2761,12 +2761,12 @@ Espaço necessário: %1 MB, disponível: %2 MB.</translation>
         <translation>O que fazer com uma imagem de alta faixa dinâmica: tonemap para a faixa usual, ou keep, como HEVC de 10 bits (tonemap).</translation>
     </message>
     <message>
-        <source>What becomes of the sound: encode as AAC, or copy bit for bit where MP4 can hold it (encode).</source>
-        <translation>O que fazer com o som: encode como AAC, ou copy bit a bit onde MP4 puder contê-lo (encode).</translation>
-    </message>
-    <message>
         <source>Bring the sound to this loudness in LUFS (EBU R128), such as -14.</source>
         <translation>Levar o som a esta intensidade em LUFS (EBU R128), como -14.</translation>
+    </message>
+    <message>
+        <source>What becomes of the sound: encode as AAC, or copy bit for bit where MP4 can hold it. When not given, AAC in mono or stereo that nothing changes is copied, and any other sound is encoded.</source>
+        <translation>O que é feito do som: encode codifica em AAC, copy copia bit a bit onde o MP4 puder contê-lo. Se não for indicado, AAC mono ou estéreo que nada altera é copiado e qualquer outro som é codificado.</translation>
     </message>
 </context>
 <context>

@@ -2743,12 +2743,12 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
         <translation>高动态范围画面的处理：tonemap 转换为普通范围，keep 保留为 10 位 HEVC (tonemap)。</translation>
     </message>
     <message>
-        <source>What becomes of the sound: encode as AAC, or copy bit for bit where MP4 can hold it (encode).</source>
-        <translation>声音的处理：encode 编码为 AAC，copy 在 MP4 可以包含时原样复制 (encode)。</translation>
-    </message>
-    <message>
         <source>Bring the sound to this loudness in LUFS (EBU R128), such as -14.</source>
         <translation>将声音调整到此响度 (LUFS，EBU R128)，如 -14。</translation>
+    </message>
+    <message>
+        <source>What becomes of the sound: encode as AAC, or copy bit for bit where MP4 can hold it. When not given, AAC in mono or stereo that nothing changes is copied, and any other sound is encoded.</source>
+        <translation>声音的处理方式：encode 编码为 AAC，copy 在 MP4 能容纳时逐位复制。未指定时，无任何更改的单声道或立体声 AAC 会被复制，其他声音则被编码。</translation>
     </message>
 </context>
 <context>

@@ -3,6 +3,7 @@
 #include <KxCore/KxFrameTime.h>
 #include <KxMedia/Write/KxLoudness.h>
 #include <KxMedia/Write/KxSoundCopier.h>
+#include <KxMedia/Write/KxSoundPackets.h>
 #include <KxRender/KxAudioInterleaver.h>
 
 #include <QCoreApplication>
@@ -111,14 +112,17 @@ KxRenderSound KxRenderSound::Open(const KxVideoReader& reader, const KxRenderSou
         return sound;
     }
     const Opener opener(reader, source, stream, cancel);
-    if (format.sound == KxOutputFormat::Sound::Copied && !format.loudnessLufs) {
+    using Sound = KxOutputFormat::Sound;
+    if (format.sound != Sound::Encoded && !format.loudnessLufs) {
         KxResult<std::unique_ptr<KxSoundCopier>> copier = opener.OpenCopier();
-        if (copier) {
+        if (copier && (format.sound == Sound::Copied || (*copier)->Packets().PlaysEverywhere())) {
             sound.copied = &(*copier)->Packets();
             sound.feed = std::move(*copier);
             return sound;
         }
-        sound.warnings += Texts::tr("The sound is encoded again: %1.").arg(copier.Message());
+        if (format.sound == Sound::Copied) {
+            sound.warnings += Texts::tr("The sound is encoded again: %1.").arg(copier.Message());
+        }
     }
     sound.format = SoundFormat(facts.audio.at(stream));
     std::unique_ptr<KxLoudnessFilter> filter;

@@ -189,6 +189,8 @@ TEST(ReframeOptions, SayHowTheVideoIsWritten)
     EXPECT_EQ(Parse(Words("--bitrate 800k a.mp4")).options->video.videoBitRate, 800000);
     EXPECT_EQ(Parse(Words("--quality 75 a.mp4")).options->video.format.quality, std::optional(75.0));
     EXPECT_EQ(Parse(Words("--sound copy a.mp4")).options->video.format.sound, KxOutputFormat::Sound::Copied);
+    EXPECT_EQ(Parse(Words("--sound encode a.mp4")).options->video.format.sound, KxOutputFormat::Sound::Encoded);
+    EXPECT_EQ(Parse(Words("--loudness -14 a.mp4")).options->video.format.sound, KxOutputFormat::Sound::Automatic);
     EXPECT_EQ(Parse(Words("--hdr keep a.mp4")).options->video.format.codec, KxOutputFormat::Codec::Hevc);
 }
 

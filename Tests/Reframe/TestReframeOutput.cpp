@@ -258,7 +258,10 @@ TEST_F(ReframeOutputTest, CopiedSoundHasTheSamePackets)
     // Here the encoder is chosen after ten pictures, and their sound waits.
     Run("--sound copy --quality 30 --encoder auto --codec av1 --size 270x480", "late.mp4");
     ExpectPackets("late.mp4", Path("clip.mp4"), packets);
-    Run("--quality 30", "encoded.mp4");
+    // So it is when nothing is said, because this sound plays everywhere.
+    Run("--quality 30", "automatic.mp4");
+    ExpectPackets("automatic.mp4", Path("clip.mp4"), packets);
+    Run("--sound encode --quality 30", "encoded.mp4");
     EXPECT_FALSE(SoundPackets(Path("clip.mp4")).startsWith(SoundPackets(Path("encoded.mp4"))));
 }
 

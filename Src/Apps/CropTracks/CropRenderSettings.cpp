@@ -14,5 +14,6 @@ KxRenderSettings CropRenderSettings::For(const KxMediaItem& media, const QRectF&
     settings.audioBitRate = audio->hasAudioStream()
                                 ? KrExportParameters::AudioBitRate(audio->bitRate(media.audioStreamIndex()))
                                 : KrExportParameters::DefaultAudioBitRate;
+    settings.format.sound = KxOutputFormat::Sound::Automatic;
     return settings;
 }

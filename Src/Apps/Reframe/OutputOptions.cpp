@@ -161,8 +161,9 @@ OutputOptions::Definitions::Definitions()
                           "10-bit HEVC (tonemap)."),
                 QStringLiteral("MODE"), QStringLiteral("tonemap"))
     , sound(QStringLiteral("sound"),
-            Texts::tr("What becomes of the sound: encode as AAC, or copy bit for bit where MP4 can hold it (encode)."),
-            QStringLiteral("MODE"), QStringLiteral("encode"))
+            Texts::tr("What becomes of the sound: encode as AAC, or copy bit for bit where MP4 can hold it. When not "
+                      "given, AAC in mono or stereo that nothing changes is copied, and any other sound is encoded."),
+            QStringLiteral("MODE"))
     , loudness(QStringLiteral("loudness"),
                Texts::tr("Bring the sound to this loudness in LUFS (EBU R128), such as -14."), QStringLiteral("LUFS"))
 {
@@ -176,6 +177,7 @@ QList<QCommandLineOption> OutputOptions::Definitions::All() const
 Parsed OutputOptions::Parse(const QCommandLineParser& parser, const Definitions& definitions)
 {
     OutputOptions options;
+    options.format.sound = KxOutputFormat::Sound::Automatic;
     for (const Rule& rule : Rules(definitions, options)) {
         if (parser.isSet(rule.option) && !rule.take(parser.value(rule.option))) {
             return Parsed::Failure(Texts::tr(rule.message).arg(parser.value(rule.option)));

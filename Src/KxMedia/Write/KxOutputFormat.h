@@ -18,7 +18,8 @@ struct KxOutputFormat {
     };
     enum class Sound {
         Encoded,
-        Copied ///< packet by packet where MP4 can hold the codec, otherwise encoded
+        Copied,    ///< packet by packet where MP4 can hold the codec, otherwise encoded
+        Automatic, ///< copied if players of MP4 take it as it is and nothing about it changes, otherwise encoded
     };
 
     Codec codec = Codec::H264;

@@ -47,6 +47,14 @@ KxResult<std::unique_ptr<KxSoundPackets>> KxSoundPackets::Open(const QString& pa
     return std::unique_ptr<KxSoundPackets>(new KxSoundPackets(std::move(*input), chosen, *clock.zeroUs));
 }
 
+bool KxSoundPackets::PlaysEverywhere() const
+{
+    const AVCodecParameters& sound = Parameters();
+    constexpr int stereo = 2;
+    return sound.codec_id == AV_CODEC_ID_AAC && sound.profile == FF_PROFILE_AAC_LOW &&
+           sound.ch_layout.nb_channels <= stereo;
+}
+
 KxReadStatus KxSoundPackets::Next(AVPacket& packet)
 {
     for (;;) {

@@ -14,6 +14,8 @@ public:
                                                           const KxCancelToken& cancel);
 
     const AVCodecParameters& Parameters() const { return *m_stream->codecpar; }
+    /// Whether any player of MP4 files plays it: AAC with low complexity, mono or stereo.
+    bool PlaysEverywhere() const;
     AVRational TimeBase() const { return m_stream->time_base; }
 
     /// The next packet, with times in TimeBase() that count from the first picture. Packets that end before are left

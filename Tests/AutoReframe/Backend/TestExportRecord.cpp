@@ -28,6 +28,14 @@ TEST(TestExportRecord, ReadsEveryValue)
     EXPECT_EQ(settings->audioBitRate, 192000);
 }
 
+TEST(TestExportRecord, SoundIsEncodedOnlyWhereABitRateIsAskedFor)
+{
+    QVariantMap record = Record();
+    EXPECT_EQ(ExportRecord::Read(record)->format.sound, KxOutputFormat::Sound::Encoded);
+    record.remove(QStringLiteral("audio_bit_rate"));
+    EXPECT_EQ(ExportRecord::Read(record)->format.sound, KxOutputFormat::Sound::Automatic);
+}
+
 TEST(TestExportRecord, AddsNoSecondSeparatorToTheRootFolder)
 {
     QVariantMap record = Record();
