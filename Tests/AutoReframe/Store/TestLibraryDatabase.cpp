@@ -189,6 +189,42 @@ TEST_F(TestLibraryDatabase, AnExportComesBackWithEverythingThatItNeeds)
     EXPECT_EQ(request.settings.audioBitRate, 128000);
 }
 
+TEST_F(TestLibraryDatabase, AnExportComesBackWithTheFormatThatWasChosen)
+{
+    KxOutputFormat chosen;
+    chosen.codec = KxOutputFormat::Codec::Hevc;
+    chosen.encoder = KxOutputFormat::Encoder::Vaapi;
+    chosen.quality = 62.5;
+    chosen.highRange = KxHighRange::Kept;
+    chosen.sound = KxOutputFormat::Sound::Copied;
+    chosen.loudnessLufs = -16.5;
+    {
+        const auto database = Open();
+        StoredExport item = Export(1, State::Failed);
+        item.request.settings.format = chosen;
+        ASSERT_FALSE(database->SaveExport(item));
+        // Another one has no quality and no loudness.
+        item.key = 2;
+        item.request.settings.format = {};
+        item.request.settings.format.sound = KxOutputFormat::Sound::Automatic;
+        ASSERT_FALSE(database->SaveExport(item));
+    }
+    const QList<StoredExport> exports = Contents(*Open()).exports;
+    ASSERT_EQ(exports.size(), 2);
+    const KxOutputFormat& first = exports.first().request.settings.format;
+    EXPECT_EQ(first.codec, chosen.codec);
+    EXPECT_EQ(first.encoder, chosen.encoder);
+    EXPECT_EQ(first.quality, chosen.quality);
+    EXPECT_EQ(first.highRange, chosen.highRange);
+    EXPECT_EQ(first.sound, chosen.sound);
+    EXPECT_EQ(first.loudnessLufs, chosen.loudnessLufs);
+    const KxOutputFormat& last = exports.last().request.settings.format;
+    EXPECT_EQ(last.codec, KxOutputFormat::Codec::H264);
+    EXPECT_EQ(last.quality, std::nullopt);
+    EXPECT_EQ(last.sound, KxOutputFormat::Sound::Automatic);
+    EXPECT_EQ(last.loudnessLufs, std::nullopt);
+}
+
 TEST_F(TestLibraryDatabase, AnExportThatFitsWholePicturesStillDoesSo)
 {
     {

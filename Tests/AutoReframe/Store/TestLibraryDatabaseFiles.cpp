@@ -40,6 +40,8 @@ TEST_F(TestLibraryDatabase, AFileOfVersion1IsBackedUpAndMigrated)
               "file_bytes INTEGER NOT NULL, message TEXT NOT NULL)",
               "CREATE TABLE state(name TEXT PRIMARY KEY, value TEXT NOT NULL) WITHOUT ROWID",
               "INSERT INTO videos VALUES(5, '/old.mp4', 1, 10, 'hash', 640, 360, 25, 1, 50)",
+              "INSERT INTO exports VALUES(1, 1, 'done', 'run', '/old.mp4', NULL, NULL, '/out.mp4', 1, 606, 1080, 25, "
+              "1000, 1000, '/out.mp4', 5, '')",
               "INSERT INTO settings VALUES(5, 1, 1, 24)", "INSERT INTO edits VALUES(5, 7, 0.25, 0, 0.5, 1)",
               "PRAGMA user_version = 1"}) {
             const KxError failure = connection.Execute(QLatin1String(statement));
@@ -53,6 +55,11 @@ TEST_F(TestLibraryDatabase, AFileOfVersion1IsBackedUpAndMigrated)
     const VideoEdits edits = Edits(*database, "/old.mp4");
     EXPECT_EQ(edits.aspect, QSize(1, 1));
     EXPECT_EQ(edits.editPoints.value(7), QRectF(0.25, 0.0, 0.5, 1.0));
+    const QList<StoredExport> exports = Contents(*database).exports;
+    ASSERT_EQ(exports.size(), 1);
+    EXPECT_EQ(exports.first().request.settings.resolution, QSize(606, 1080));
+    EXPECT_EQ(exports.first().request.settings.format.codec, KxOutputFormat::Codec::H264);
+    EXPECT_EQ(exports.first().request.settings.format.sound, KxOutputFormat::Sound::Encoded);
     ASSERT_FALSE(database->MarkUsed(QStringLiteral("/old.mp4")));
     EXPECT_EQ(Contents(*database).recent, QStringList(QStringLiteral("/old.mp4")));
 

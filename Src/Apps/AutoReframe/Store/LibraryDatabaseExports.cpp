@@ -1,5 +1,6 @@
 #include <Apps/AutoReframe/Store/LibraryDatabase.h>
 
+#include <Apps/AutoReframe/Store/ExportFormatText.h>
 #include <KxCore/KxOutputFile.h>
 
 #include <QFileInfo>
@@ -139,6 +140,7 @@ StoredExport ExportOf(const QSqlQuery& row, State state)
     item.frames = row.value(19).toLongLong();
     item.shotsToLookAt = FramesOf(row.value(20).toString());
     item.begunAtMs = row.value(22).toLongLong();
+    settings.format = ExportFormatText::Read(row.value(23).toString());
     return item;
 }
 
@@ -205,7 +207,7 @@ KxError LibraryDatabase::ReadExports(StoredContents& contents)
         QStringLiteral("SELECT key, state, source_path, audio_stream, crops, output_path, adds_number, width, height, "
                        "frame_rate, video_bit_rate, audio_bit_rate, file_path, file_bytes, message, plan_width, "
                        "plan_height, plan_speed, plan_short_side, frames, shots_to_look_at, plan_output_height, "
-                       "begun_at FROM exports "
+                       "begun_at, format FROM exports "
                        "WHERE run = ? OR NOT ") +
             Unfinished + QStringLiteral(" ORDER BY position, key"),
         {m_run.Name()}, [&contents](const QSqlQuery& row) {
@@ -231,9 +233,9 @@ KxError LibraryDatabase::SaveExport(const StoredExport& item)
         QStringLiteral("INSERT OR REPLACE INTO exports(key, position, state, run, source_path, audio_stream, crops, "
                        "output_path, adds_number, width, height, frame_rate, video_bit_rate, audio_bit_rate, "
                        "file_path, file_bytes, message, plan_width, plan_height, plan_speed, plan_short_side, "
-                       "frames, shots_to_look_at, plan_output_height, begun_at) "
+                       "frames, shots_to_look_at, plan_output_height, begun_at, format) "
                        "VALUES(?, (SELECT coalesce(max(position), 0) + 1 FROM exports), ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, "
-                       "?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)"),
+                       "?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)"),
         {item.key,
          NameOf(item.state),
          m_run.Name(),
@@ -257,7 +259,8 @@ KxError LibraryDatabase::SaveExport(const StoredExport& item)
          item.frames,
          TextOf(item.shotsToLookAt),
          plan.heightPx,
-         item.begunAtMs});
+         item.begunAtMs,
+         ExportFormatText::Write(settings.format)});
 }
 
 KxError LibraryDatabase::SaveExportState(const StoredExport& item)

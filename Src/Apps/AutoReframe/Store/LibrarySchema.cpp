@@ -74,12 +74,18 @@ QStringList SixthVersion()
                            "PRIMARY KEY(video, position)) WITHOUT ROWID")};
 }
 
+QStringList SeventhVersion()
+{
+    // Earlier exports without a format were encoded as the empty text says.
+    return {QStringLiteral("ALTER TABLE exports ADD COLUMN format TEXT NOT NULL DEFAULT ''")};
+}
+
 } // namespace
 
 KxError LibrarySchema::Migrate(LibraryConnection& connection, int from)
 {
-    const std::vector<QStringList> versions{FirstVersion(),  SecondVersion(), ThirdVersion(),
-                                            FourthVersion(), FifthVersion(),  SixthVersion()};
+    const std::vector<QStringList> versions{FirstVersion(), SecondVersion(), ThirdVersion(),  FourthVersion(),
+                                            FifthVersion(), SixthVersion(),  SeventhVersion()};
     for (size_t version = static_cast<size_t>(from); version < versions.size(); ++version) {
         for (const QString& statement : versions[version]) {
             if (const KxError failure = connection.Execute(statement)) {
