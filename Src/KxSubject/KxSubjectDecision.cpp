@@ -386,6 +386,10 @@ void Decider::RecordFindings(const Shot& shot, const ShotEvidence& evidence, con
         for (std::size_t signal = 0; signal < KxSignalCount; ++signal) {
             sample.scores[signal] = m_score.Excess(points[i].centre, *signals[signal]);
             totals[signal] += sample.scores[signal];
+            // What a person points at need not be what the signals prefer.
+            if (!evidence.chosen.Follows()) {
+                confidence.AddSignal(path[static_cast<std::size_t>(points[i].frame - shot.first)], *signals[signal]);
+            }
         }
         m_findings.samples.push_back(sample);
     }

@@ -69,6 +69,20 @@ float KxCentreScore::Inside(double centre, const KxSignalProfile& profile) const
     return Sum(m_windows[PositionOf(centre)], profile);
 }
 
+double KxCentreScore::Preferred(const KxSignalProfile& profile, std::size_t stride) const
+{
+    std::size_t best = 0;
+    float most = m_prior[0] + Sum(m_windows[0], profile);
+    for (std::size_t position = stride; position < Positions; position += stride) {
+        const float score = m_prior[position] + Sum(m_windows[position], profile);
+        if (score > most) {
+            most = score;
+            best = position;
+        }
+    }
+    return CentreAt(best);
+}
+
 std::size_t KxCentreScore::PositionOf(double centre) const
 {
     if (m_spacing < LeastSpacing) {

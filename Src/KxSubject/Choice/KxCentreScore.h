@@ -25,6 +25,8 @@ public:
     float Excess(double centre, const KxSignalProfile& profile) const;
     /// The evidence under the window at the position nearest to a centre.
     float Inside(double centre, const KxSignalProfile& profile) const;
+    /// The centre with the best score among every `stride`th position.
+    double Preferred(const KxSignalProfile& profile, std::size_t stride) const;
     /// The position nearest to a centre.
     std::size_t PositionOf(double centre) const;
     /// The centre at a position, in fractions of the picture; positions are equally spaced between the geometry's ends.

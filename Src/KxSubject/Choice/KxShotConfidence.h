@@ -8,7 +8,8 @@
 /// 1. the share of the evidence that the crop holds where the path puts it,
 /// 2. the margin of the chosen sequence of positions over the best one that is clearly different: its crop is never
 ///    within half an extent of the chosen one, and
-/// 3. how far the path stays behind the chosen positions.
+/// 3. how far from the crop each signal alone would put it: signals that agree are seldom wrong together. It includes
+///    how far the path stays behind.
 class KXSUBJECT_API KxShotConfidence
 {
 public:
@@ -21,6 +22,8 @@ public:
     };
     /// `combined`: the evidence that was scored.
     void Add(const Choice& choice, const KxSignalProfile& combined);
+    /// The evidence of one signal, for a crop around `drawn`. A signal counts by its evidence.
+    void AddSignal(double drawn, const KxSignalProfile& evidence);
 
     /// 0 to 1. `chosenTotal`: of the tracker that chose, over the same samples.
     float Value(double chosenTotal) const;
@@ -29,8 +32,8 @@ private:
     const KxCentreScore& m_score;
     double m_halfExtent;
     KxSubjectTracker m_others;
-    double m_whole = 0.0;  ///< all evidence
-    double m_inside = 0.0; ///< that inside the crop
-    double m_behind = 0.0; ///< sum of the distances between the chosen centres and the path, in half extents
-    int m_samples = 0;
+    double m_whole = 0.0;     ///< all evidence
+    double m_inside = 0.0;    ///< that inside the crop
+    double m_ofSignals = 0.0; ///< evidence of the single signals
+    double m_apart = 0.0;     ///< the same times the distance of their own centres from the crop's, in half extents
 };
