@@ -5,6 +5,8 @@
 #include <KxSubject/Choice/KxChoicePlacement.h>
 #include <KxSubject/KxSubjectRecord.h>
 
+#include <QJsonDocument>
+
 #include <algorithm>
 #include <cmath>
 
@@ -13,8 +15,10 @@ namespace
 
 /// On both sides of a frame: long enough for the picture to change, short enough to be of the same take.
 constexpr double SecondsAround = 2.0;
-/// Of the pictures of the whole video, every so many are kept: there may be thousands of frames.
-constexpr std::size_t StepOutside = 4;
+/// Every so many pictures are kept, of those around the frame and of those of the whole video: there may be thousands
+/// of frames, and all texts are stored at each edit.
+constexpr std::size_t StepInside = 2;
+constexpr std::size_t StepOutside = 8;
 
 /// The time around a frame within its shot. Ends at cuts are found to the frame.
 KxSubjectChoice ChoiceAround(const KxSubjectRecord& record, std::int64_t frame)
@@ -39,14 +43,20 @@ KxSubjectChoice ChoiceAround(const KxSubjectRecord& record, std::int64_t frame)
 void ThinOut(KxSubjectChoice& choice)
 {
     std::vector<KxChoicePicture> kept;
+    std::size_t inside = 0;
     std::size_t outside = 0;
     for (const KxChoicePicture& picture : choice.pictures) {
         const bool isInside = picture.seconds >= choice.fromSeconds && picture.seconds <= choice.toSeconds;
-        if (isInside || outside++ % StepOutside == 0) {
+        if (isInside ? inside++ % StepInside == 0 : outside++ % StepOutside == 0) {
             kept.push_back(picture);
         }
     }
     choice.pictures = std::move(kept);
+}
+
+QByteArray TextOf(const KxSubjectChoice& choice)
+{
+    return QJsonDocument::fromJson(KxChoicesFormat::Write({choice})).toJson(QJsonDocument::Compact);
 }
 
 } // namespace
@@ -60,7 +70,7 @@ QList<QByteArray> KxFramePictures::Describe(const KxSubjectRecord& record, const
     QList<QByteArray> texts;
     for (KxSubjectChoice& choice : KxDescribeChoices(record, std::move(choices))) {
         ThinOut(choice);
-        texts += choice.pictures.empty() ? QByteArray() : KxChoicesFormat::Write({choice});
+        texts += choice.pictures.empty() ? QByteArray() : TextOf(choice);
     }
     return texts;
 }

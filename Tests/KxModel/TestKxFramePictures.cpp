@@ -69,5 +69,5 @@ TEST(KxFramePictures, WithoutPicturesAFrameStaysWhereItIs)
 
 TEST(KxFramePictures, ADescriptionIsShort)
 {
-    EXPECT_LT(Described({120}).first().pictures.size(), 1500);
+    EXPECT_LT(Described({120}).first().pictures.size(), 600);
 }

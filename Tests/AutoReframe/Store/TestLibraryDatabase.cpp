@@ -89,6 +89,24 @@ TEST_F(TestLibraryDatabase, EditsComeBackAndAreReplaced)
     EXPECT_TRUE(Edits(*database, "/a.mp4") == edits);
 }
 
+TEST_F(TestLibraryDatabase, OfManyEditPointsOnlyThoseThatChangedAreWritten)
+{
+    VideoEdits edits;
+    for (uint frame = 0; frame < 100; ++frame) {
+        edits.editPoints.insert(frame, QRectF(0.1, 0.0, 0.5, 1.0));
+        edits.editPictures.insert(frame, "{}");
+    }
+    const auto database = Open();
+    ASSERT_FALSE(database->SaveEdits(QStringLiteral("/a.mp4"), edits));
+    const int before = Value(*database, "SELECT total_changes()").toInt();
+    edits.editPoints[7].moveLeft(0.2);
+    edits.editPoints.remove(8);
+    edits.editPictures.remove(8);
+    ASSERT_FALSE(database->SaveEdits(QStringLiteral("/a.mp4"), edits));
+    EXPECT_LT(Value(*database, "SELECT total_changes()").toInt() - before, 10);
+    EXPECT_TRUE(Edits(*database, "/a.mp4") == edits);
+}
+
 TEST_F(TestLibraryDatabase, EditsOfAVideoThatIsNotInTheLibraryAreKept)
 {
     VideoEdits edits;

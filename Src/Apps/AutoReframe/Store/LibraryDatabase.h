@@ -56,6 +56,8 @@ public:
 private:
     LibraryDatabase(const QString& filePath, const QString& notice);
     KxError ReadVideos(StoredContents& contents);
+    /// Writes only those that have changed: there may be thousands, and one changes at a time.
+    KxError SaveEditPoints(const QString& path, const VideoEdits& edits);
     KxError ReadEdits(StoredContents& contents);
     KxError ReadRecent(StoredContents& contents);
     KxError ReadState(StoredContents& contents);

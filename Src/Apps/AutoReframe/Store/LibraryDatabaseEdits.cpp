@@ -51,7 +51,7 @@ KxError LibraryDatabase::SaveEdits(const QString& path, const VideoEdits& edits)
                     FromVideo,
                 {edits.aspect.width(), edits.aspect.height(), edits.speed, edits.isAnalyzed, path}),
     };
-    for (const char* const table : {"edits", "unplaced_edits", "choices", "seen_shots"}) {
+    for (const char* const table : {"unplaced_edits", "choices", "seen_shots"}) {
         statements += execute(
             QStringLiteral("DELETE FROM %1 WHERE video = (SELECT id%2)").arg(QLatin1String(table), FromVideo), {path});
     }
@@ -59,14 +59,7 @@ KxError LibraryDatabase::SaveEdits(const QString& path, const VideoEdits& edits)
         statements += execute(QStringLiteral("INSERT INTO choices(video, json) SELECT id, ?") + FromVideo,
                               {QString::fromUtf8(edits.choices), path});
     }
-    for (auto point = edits.editPoints.begin(); point != edits.editPoints.end(); ++point) {
-        statements +=
-            execute(QStringLiteral(
-                        "INSERT INTO edits(video, frame, x, y, width, height, pictures) SELECT id, ?, ?, ?, ?, ?, ?") +
-                        FromVideo,
-                    {point.key(), point->x(), point->y(), point->width(), point->height(),
-                     TextOf(edits.editPictures.value(point.key())), path});
-    }
+    statements += [this, path, edits] { return SaveEditPoints(path, edits); };
     for (int i = 0; i < edits.unplacedEdits.size(); ++i) {
         const KrUnplacedEdit& edit = edits.unplacedEdits.at(i);
         statements += execute(QStringLiteral("INSERT INTO unplaced_edits(video, position, frame, x, y, width, height, "
@@ -80,6 +73,43 @@ KxError LibraryDatabase::SaveEdits(const QString& path, const VideoEdits& edits)
             execute(QStringLiteral("INSERT INTO seen_shots(video, frame) SELECT id, ?") + FromVideo, {frame, path});
     }
     return InTurn(statements);
+}
+
+KxError LibraryDatabase::SaveEditPoints(const QString& path, const VideoEdits& edits)
+{
+    QList<uint> gone;
+    const QString ofVideo = QStringLiteral(" WHERE video = (SELECT id%1)").arg(FromVideo);
+    if (const KxError failure = m_connection.Select(QStringLiteral("SELECT frame FROM edits") + ofVideo, {path},
+                                                    [&gone, &edits](const QSqlQuery& row) {
+                                                        const uint frame = row.value(0).toUInt();
+                                                        if (!edits.editPoints.contains(frame)) {
+                                                            gone += frame;
+                                                        }
+                                                    })) {
+        return failure;
+    }
+    for (const uint frame : qAsConst(gone)) {
+        const QString statement = QStringLiteral("DELETE FROM edits%1 AND frame = ?").arg(ofVideo);
+        if (const KxError failure = m_connection.Execute(statement, {path, frame})) {
+            return failure;
+        }
+    }
+    const QString statement =
+        QStringLiteral("INSERT INTO edits(video, frame, x, y, width, height, pictures) SELECT id, ?, ?, ?, ?, ?, ?") +
+        FromVideo +
+        QStringLiteral(" ON CONFLICT(video, frame) DO UPDATE SET x = excluded.x, y = excluded.y, "
+                       "width = excluded.width, height = excluded.height, pictures = excluded.pictures "
+                       "WHERE x <> excluded.x OR y <> excluded.y OR width <> excluded.width OR "
+                       "height <> excluded.height OR pictures <> excluded.pictures");
+    for (auto point = edits.editPoints.begin(); point != edits.editPoints.end(); ++point) {
+        const KxError failure =
+            m_connection.Execute(statement, {point.key(), point->x(), point->y(), point->width(), point->height(),
+                                             TextOf(edits.editPictures.value(point.key())), path});
+        if (failure) {
+            return failure;
+        }
+    }
+    return std::nullopt;
 }
 
 KxError LibraryDatabase::ReadEdits(StoredContents& contents)
