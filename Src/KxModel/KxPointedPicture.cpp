@@ -54,6 +54,14 @@ QRect PixelsOf(const QRectF& box, const QSize& size)
         .toAlignedRect();
 }
 
+/// The number of edges of the picture that a box reaches.
+int EdgesAt(const QRectF& box)
+{
+    constexpr double rounding = 1e-6;
+    return (box.left() < rounding ? 1 : 0) + (box.top() < rounding ? 1 : 0) + (box.right() > 1.0 - rounding ? 1 : 0) +
+           (box.bottom() > 1.0 - rounding ? 1 : 0);
+}
+
 } // namespace
 
 KxAutoReframeGuess KxPointedPicture::GuessAt(const QString& path, qint64 frame, const QPointF& point,
@@ -73,17 +81,27 @@ KxAutoReframeGuess KxPointedPicture::GuessAt(const QString& path, qint64 frame, 
     if (image.isNull()) {
         return {};
     }
-    const KxSubjectBox box = KxGuessBoxAt(
-        {image.constBits(), {image.width(), image.height()}, static_cast<std::size_t>(image.bytesPerLine())}, point.x(),
-        point.y());
-    const QRectF found(box.x, box.y, box.width, box.height);
-    // Where the analysis saw nothing, a pattern that goes on is background; without an analysis it has to be clearer.
+    Seen seen = Seen::Unknown;
+    if (record != nullptr) {
+        seen =
+            KxSawSomethingAt(*record, record->SecondsAt(frame), point.x(), point.y()) ? Seen::Something : Seen::Nothing;
+    }
+    return GuessIn(image, point, seen);
+}
+
+KxAutoReframeGuess KxPointedPicture::GuessIn(const QImage& picture, const QPointF& point, Seen seen)
+{
+    const KxGuessedBox guess = KxGuessBoxAt(
+        {picture.constBits(), {picture.width(), picture.height()}, static_cast<std::size_t>(picture.bytesPerLine())},
+        point.x(), point.y());
+    const QRectF box(guess.box.x, guess.box.y, guess.box.width, guess.box.height);
+    // Chosen by trial on clicks on things and beside them (Benchmarks/follow --clicks).
     constexpr double usualShare = 0.5;
     constexpr double clearShare = 0.7;
-    const bool isKnown = record != nullptr;
-    const bool isThing = isKnown && KxSawSomethingAt(*record, record->SecondsAt(frame), point.x(), point.y());
-    const bool goesOn = !isThing && SharedColours(image, found) > (isKnown ? usualShare : clearShare);
-    return {found, goesOn || IsPlain(image, found)};
+    const bool isKnown = seen == Seen::Nothing;
+    const bool goesOn = SharedColours(picture, box) > (isKnown ? usualShare : clearShare);
+    const bool isCutOff = guess.isOutlined && EdgesAt(box) >= (isKnown ? 1 : 2);
+    return {box, (seen != Seen::Something && (goesOn || isCutOff)) || IsPlain(picture, box)};
 }
 
 bool KxPointedPicture::IsPlain(const QImage& picture, const QRectF& box)

@@ -16,7 +16,18 @@ namespace KxPointedPicture
 {
 /// What is at `point` in frame `frame` of the file `path`; places are fractions of the picture. `record` is of the same
 /// file, null without one. Blocks.
-KxAutoReframeGuess GuessAt(const QString& path, qint64 frame, const QPointF& point, const KxSubjectRecord* record);
+KXMODEL_API KxAutoReframeGuess GuessAt(const QString& path, qint64 frame, const QPointF& point,
+                                       const KxSubjectRecord* record);
+
+/// What the analysis saw around a place.
+enum class Seen { Unknown, Nothing, Something };
+
+/// The same in a picture of the format BGR888. Where the analysis saw nothing, background is
+/// 1. what is plain;
+/// 2. a pattern that goes on around the box;
+/// 3. a region that an edge of the picture cuts off, as floors, curtains and skies are.
+/// Without an analysis both of the latter have to be clearer: a region is cut off by two edges.
+KXMODEL_API KxAutoReframeGuess GuessIn(const QImage& picture, const QPointF& point, Seen seen);
 
 /// Whether there is nothing in `box` that could be told from its surroundings in another picture: hardly any edges. A
 /// wall with a pattern has edges.

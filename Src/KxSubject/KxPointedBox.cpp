@@ -75,20 +75,22 @@ bool SawDetection(const KxSubjectRecord& record, double seconds, const Place& pl
 
 } // namespace
 
-KxSubjectBox KxGuessBoxAt(const KxPictureView& picture, double x, double y)
+KxGuessedBox KxGuessBoxAt(const KxPictureView& picture, double x, double y)
 {
     const KxSubjectOptions::Follow options;
-    KxSubjectBox box{x - options.pointWidth / 2.0, y - options.pointHeight / 2.0, options.pointWidth,
-                     options.pointHeight};
+    KxGuessedBox guess{
+        {x - options.pointWidth / 2.0, y - options.pointHeight / 2.0, options.pointWidth, options.pointHeight}};
     try {
         const cv::Mat pixels(picture.sizePx.height, picture.sizePx.width, CV_8UC3,
                              const_cast<std::uint8_t*>(picture.data), picture.bytesPerRow);
-        const cv::Rect2d found = KxBoxGuess::Around(pixels, {x * pixels.cols, y * pixels.rows}, options);
-        box = {found.x / pixels.cols, found.y / pixels.rows, found.width / pixels.cols, found.height / pixels.rows};
+        const KxBoxGuess::Guess found = KxBoxGuess::Around(pixels, {x * pixels.cols, y * pixels.rows}, options);
+        guess.box = {found.box.x / pixels.cols, found.box.y / pixels.rows, found.box.width / pixels.cols,
+                     found.box.height / pixels.rows};
+        guess.isOutlined = found.isOutlined;
     } catch (const cv::Exception& problem) {
         KxThrowIfOutOfMemory(problem);
     }
-    return box;
+    return guess;
 }
 
 bool KxSawSomethingAt(const KxSubjectRecord& record, double seconds, double x, double y)

@@ -80,3 +80,53 @@ TEST(KxPointedPicture, WithoutSurroundingsNothingIsShared)
     EXPECT_EQ(KxPointedPicture::SharedColours(Wallpaper(), QRectF(2.0, 0.0, 1.0, 1.0)), 0.0);
     EXPECT_EQ(KxPointedPicture::SharedColours(QImage(), Box), 0.0);
 }
+
+namespace
+{
+
+using Seen = KxPointedPicture::Seen;
+
+/// A plaid that no other part of the picture resembles, from `topPx` on; `heightPx` high.
+QImage WithPlaid(int topPx, int heightPx)
+{
+    QImage picture = Wallpaper();
+    QPainter painter(&picture);
+    painter.fillRect(130, topPx, 50, heightPx, QColor(40, 60, 150));
+    for (int y = topPx; y + 6 <= topPx + heightPx; y += 12) {
+        painter.fillRect(130, y, 50, 6, QColor(70, 30, 110));
+    }
+    return picture;
+}
+
+bool IsBackground(const QImage& picture, const QPointF& point, Seen seen)
+{
+    return KxPointedPicture::GuessIn(picture, point, seen).isBackground;
+}
+
+} // namespace
+
+TEST(KxPointedPicture, WhatAnEdgeOfThePictureCutsOffIsBackgroundWhereNothingWasSeen)
+{
+    const QImage curtain = WithPlaid(90, 90);
+    const QPointF point(0.48, 0.75);
+    EXPECT_EQ(KxPointedPicture::GuessIn(curtain, point, Seen::Nothing).box.bottom(), 1.0);
+    EXPECT_TRUE(IsBackground(curtain, point, Seen::Nothing));
+    EXPECT_FALSE(IsBackground(curtain, point, Seen::Unknown)) << "one edge alone is not clear enough";
+    EXPECT_FALSE(IsBackground(curtain, point, Seen::Something));
+}
+
+TEST(KxPointedPicture, AThingThatIsWholeInThePictureIsNot)
+{
+    const QImage thing = WithPlaid(60, 70);
+    const QPointF point(0.48, 0.53);
+    for (const Seen seen : {Seen::Nothing, Seen::Unknown, Seen::Something}) {
+        EXPECT_FALSE(IsBackground(thing, point, seen));
+    }
+}
+
+TEST(KxPointedPicture, APatternThatGoesOnIsBackgroundUnlessSomethingWasSeen)
+{
+    const QPointF point(0.48, 0.5);
+    EXPECT_TRUE(IsBackground(Wallpaper(), point, Seen::Nothing));
+    EXPECT_FALSE(IsBackground(Wallpaper(), point, Seen::Something));
+}

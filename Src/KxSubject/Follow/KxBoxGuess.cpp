@@ -49,10 +49,11 @@ cv::Rect RegionAt(const cv::Mat& mask, const cv::Point& point, int nearPx)
 
 } // namespace
 
-cv::Rect2d KxBoxGuess::Around(const cv::Mat& picture, const cv::Point2d& point, const KxSubjectOptions::Follow& options)
+KxBoxGuess::Guess KxBoxGuess::Around(const cv::Mat& picture, const cv::Point2d& point,
+                                     const KxSubjectOptions::Follow& options)
 {
     const cv::Size2d usual(options.pointWidth * picture.cols, options.pointHeight * picture.rows);
-    const cv::Rect2d fallback = Centred(point, usual);
+    const Guess fallback{Centred(point, usual)};
     const cv::Rect whole(cv::Point(), picture.size());
     const cv::Rect reach = cv::Rect(Centred(point, {2.0 * ReachX * picture.cols, 2.0 * ReachY * picture.rows})) & whole;
     cv::Mat labels(picture.size(), CV_8UC1, cv::Scalar(cv::GC_BGD));
@@ -72,5 +73,5 @@ cv::Rect2d KxBoxGuess::Around(const cv::Mat& picture, const cv::Point2d& point, 
     const cv::Mat found = (labels == cv::GC_FGD) | (labels == cv::GC_PR_FGD);
     const cv::Rect region = RegionAt(found, point, std::max(1, picture.cols / 40));
     const bool isSane = region.width >= LeastWidth * picture.cols && region.width <= MostWidth * picture.cols;
-    return isSane ? cv::Rect2d(region) : fallback;
+    return isSane ? Guess{cv::Rect2d(region), true} : fallback;
 }

@@ -200,7 +200,7 @@ KxSubjectFollower::Impl::Run KxSubjectFollower::Impl::Started(std::size_t index,
     if (PixelsOf(seed.box).empty()) {
         const std::optional<KxSubjectBox> found = anchor.Around(picture.frame, seed.box.x, seed.box.y);
         seed.box =
-            found ? *found : ShareOf(KxBoxGuess::Around(picture.pixels, PixelsOf(seed.box).tl(), m_options.follow));
+            found ? *found : ShareOf(KxBoxGuess::Around(picture.pixels, PixelsOf(seed.box).tl(), m_options.follow).box);
     }
     Run run{index, KxFollowTracker(m_options.follow, picture.pixels, PixelsOf(seed.box)), anchor,
             KxMoverBridge(m_record)};
