@@ -580,7 +580,7 @@ Das Kommandozeilenprogramm für viele Dateien auf einmal heißt reframe.</transl
         <translation>Wiederholen</translation>
     </message>
     <message>
-        <source>Show in folder</source>
+        <source>Show in Folder</source>
         <translation>Im Ordner zeigen</translation>
     </message>
     <message>
@@ -592,7 +592,7 @@ Das Kommandozeilenprogramm für viele Dateien auf einmal heißt reframe.</transl
         <translation>Die Datei in ihrem Ordner zeigen</translation>
     </message>
     <message>
-        <source>Remove from list</source>
+        <source>Remove from List</source>
         <translation>Aus der Liste entfernen</translation>
     </message>
     <message>
@@ -2613,11 +2613,11 @@ Benötigt: %1 MB, verfügbar: %2 MB.</translation>
         <translation>Ausschnittspur öffnen…</translation>
     </message>
     <message>
-        <source>Show in folder</source>
+        <source>Show in Folder</source>
         <translation>Im Ordner zeigen</translation>
     </message>
     <message>
-        <source>Remove from library</source>
+        <source>Remove from Library</source>
         <translation>Aus der Bibliothek entfernen</translation>
     </message>
     <message>

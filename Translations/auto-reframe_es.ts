@@ -580,7 +580,7 @@ El programa de línea de órdenes para muchos archivos a la vez es reframe.</tra
         <translation>Reintentar</translation>
     </message>
     <message>
-        <source>Show in folder</source>
+        <source>Show in Folder</source>
         <translation>Mostrar en la carpeta</translation>
     </message>
     <message>
@@ -592,7 +592,7 @@ El programa de línea de órdenes para muchos archivos a la vez es reframe.</tra
         <translation>Mostrar el archivo en su carpeta</translation>
     </message>
     <message>
-        <source>Remove from list</source>
+        <source>Remove from List</source>
         <translation>Quitar de la lista</translation>
     </message>
     <message>
@@ -2613,11 +2613,11 @@ Espacio necesario: %1 MB, disponible: %2 MB.</translation>
         <translation>Abrir pista de encuadre…</translation>
     </message>
     <message>
-        <source>Show in folder</source>
+        <source>Show in Folder</source>
         <translation>Mostrar en la carpeta</translation>
     </message>
     <message>
-        <source>Remove from library</source>
+        <source>Remove from Library</source>
         <translation>Quitar de la biblioteca</translation>
     </message>
     <message>

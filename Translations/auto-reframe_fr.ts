@@ -580,7 +580,7 @@ Le programme en ligne de commande pour plusieurs fichiers à la fois est reframe
         <translation>Réessayer</translation>
     </message>
     <message>
-        <source>Show in folder</source>
+        <source>Show in Folder</source>
         <translation>Ouvrir le dossier</translation>
     </message>
     <message>
@@ -592,7 +592,7 @@ Le programme en ligne de commande pour plusieurs fichiers à la fois est reframe
         <translation>Afficher le fichier dans son dossier</translation>
     </message>
     <message>
-        <source>Remove from list</source>
+        <source>Remove from List</source>
         <translation>Retirer de la liste</translation>
     </message>
     <message>
@@ -2613,11 +2613,11 @@ Espace nécessaire&#xa0;: %1 Mo, disponible&#xa0;: %2 Mo.</translation>
         <translation>Ouvrir une piste de cadrage…</translation>
     </message>
     <message>
-        <source>Show in folder</source>
+        <source>Show in Folder</source>
         <translation>Afficher dans le dossier</translation>
     </message>
     <message>
-        <source>Remove from library</source>
+        <source>Remove from Library</source>
         <translation>Retirer de la bibliothèque</translation>
     </message>
     <message>

@@ -575,7 +575,7 @@ The command line program for many files at once is reframe.</source>
         <translation>再試行</translation>
     </message>
     <message>
-        <source>Show in folder</source>
+        <source>Show in Folder</source>
         <translation>フォルダーで表示</translation>
     </message>
     <message>
@@ -587,7 +587,7 @@ The command line program for many files at once is reframe.</source>
         <translation>ファイルをフォルダーで表示</translation>
     </message>
     <message>
-        <source>Remove from list</source>
+        <source>Remove from List</source>
         <translation>リストから削除</translation>
     </message>
     <message>
@@ -2595,11 +2595,11 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
         <translation>クロップトラックを開く…</translation>
     </message>
     <message>
-        <source>Show in folder</source>
+        <source>Show in Folder</source>
         <translation>フォルダーで表示</translation>
     </message>
     <message>
-        <source>Remove from library</source>
+        <source>Remove from Library</source>
         <translation>ライブラリから削除</translation>
     </message>
     <message>

@@ -580,7 +580,7 @@ O programa de linha de comando para muitos arquivos de uma vez é o reframe.</tr
         <translation>Repetir</translation>
     </message>
     <message>
-        <source>Show in folder</source>
+        <source>Show in Folder</source>
         <translation>Abrir pasta</translation>
     </message>
     <message>
@@ -592,7 +592,7 @@ O programa de linha de comando para muitos arquivos de uma vez é o reframe.</tr
         <translation>Mostrar o arquivo na pasta</translation>
     </message>
     <message>
-        <source>Remove from list</source>
+        <source>Remove from List</source>
         <translation>Remover da lista</translation>
     </message>
     <message>
@@ -2613,11 +2613,11 @@ Espaço necessário: %1 MB, disponível: %2 MB.</translation>
         <translation>Abrir trilha de corte…</translation>
     </message>
     <message>
-        <source>Show in folder</source>
+        <source>Show in Folder</source>
         <translation>Mostrar na pasta</translation>
     </message>
     <message>
-        <source>Remove from library</source>
+        <source>Remove from Library</source>
         <translation>Remover da biblioteca</translation>
     </message>
     <message>

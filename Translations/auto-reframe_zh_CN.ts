@@ -575,7 +575,7 @@ The command line program for many files at once is reframe.</source>
         <translation>重试</translation>
     </message>
     <message>
-        <source>Show in folder</source>
+        <source>Show in Folder</source>
         <translation>在文件夹中显示</translation>
     </message>
     <message>
@@ -587,7 +587,7 @@ The command line program for many files at once is reframe.</source>
         <translation>在文件夹中显示该文件</translation>
     </message>
     <message>
-        <source>Remove from list</source>
+        <source>Remove from List</source>
         <translation>从列表中移除</translation>
     </message>
     <message>
@@ -2595,11 +2595,11 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
         <translation>打开裁剪轨迹…</translation>
     </message>
     <message>
-        <source>Show in folder</source>
+        <source>Show in Folder</source>
         <translation>在文件夹中显示</translation>
     </message>
     <message>
-        <source>Remove from library</source>
+        <source>Remove from Library</source>
         <translation>从媒体库中移除</translation>
     </message>
     <message>

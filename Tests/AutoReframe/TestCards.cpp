@@ -144,9 +144,9 @@ TEST(ExportCardTest, ItsMenuOffersWhatTheStateAllows)
     } cases[] = {
         {State::Waiting, {QStringLiteral("Cancel")}},
         {State::Running, {QStringLiteral("Cancel")}},
-        {State::Done, {QStringLiteral("Show in folder"), QStringLiteral("Remove from list")}},
-        {State::Failed, {QStringLiteral("Retry"), QStringLiteral("Remove from list")}},
-        {State::Cancelled, {QStringLiteral("Retry"), QStringLiteral("Remove from list")}},
+        {State::Done, {QStringLiteral("Show in Folder"), QStringLiteral("Remove from List")}},
+        {State::Failed, {QStringLiteral("Retry"), QStringLiteral("Remove from List")}},
+        {State::Cancelled, {QStringLiteral("Retry"), QStringLiteral("Remove from List")}},
     };
     for (const auto& example : cases) {
         ExportItem item;

@@ -192,7 +192,7 @@ void ExportCard::RetranslateUi()
 {
     m_cancel->setToolTip(tr("Cancel"));
     m_retry->setText(tr("Retry"));
-    m_show->setText(tr("Show in folder"));
+    m_show->setText(tr("Show in Folder"));
     m_retry->setToolTip(tr("Export it again"));
     m_look->setToolTip(tr("Opens the video at these settings and its first doubtful shot; N leads to the next one."));
     m_show->setToolTip(tr("Show the file in its folder"));
@@ -215,11 +215,11 @@ void ExportCard::contextMenuEvent(QContextMenuEvent* event)
         menu.addAction(tr("Cancel"), this, &ExportCard::sigCancel);
     } else {
         if (m_item.state == State::Done) {
-            menu.addAction(tr("Show in folder"), this, &ExportCard::sigShowInFolder);
+            menu.addAction(tr("Show in Folder"), this, &ExportCard::sigShowInFolder);
         } else {
             menu.addAction(tr("Retry"), this, &ExportCard::sigRetry);
         }
-        menu.addAction(tr("Remove from list"), this, &ExportCard::sigRemove);
+        menu.addAction(tr("Remove from List"), this, &ExportCard::sigRemove);
     }
     menu.exec(event->globalPos());
 }

@@ -106,9 +106,9 @@ void MediaLibraryView::contextMenuEvent(QContextMenuEvent* event)
                 menu.addSeparator();
             }
         }
-        menu.addAction(tr("Show in folder"), this, [this, index] { Q_EMIT sigShowInFolder(index); });
+        menu.addAction(tr("Show in Folder"), this, [this, index] { Q_EMIT sigShowInFolder(index); });
         menu.addSeparator();
-        menu.addAction(tr("Remove from library"), this, &MediaLibraryView::sigRemove)->setShortcut(Qt::Key_Delete);
+        menu.addAction(tr("Remove from Library"), this, &MediaLibraryView::sigRemove)->setShortcut(Qt::Key_Delete);
     } else {
         menu.addAction(tr("Import…"), this, &MediaLibraryView::sigImport);
     }
