@@ -917,6 +917,10 @@ Das Kommandozeilenprogramm für viele Dateien auf einmal heißt reframe.</transl
         <translation>Umschalt+Pfeiltasten</translation>
     </message>
     <message>
+        <source>Back to automatic in this shot</source>
+        <translation>Zurück zur Automatik in dieser Einstellung</translation>
+    </message>
+    <message>
         <source>Point at the middle of the crop</source>
         <translation>Auf die Mitte des Ausschnitts zeigen</translation>
     </message>

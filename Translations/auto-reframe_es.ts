@@ -917,6 +917,10 @@ El programa de línea de órdenes para muchos archivos a la vez es reframe.</tra
         <translation>Mayús+teclas de flecha</translation>
     </message>
     <message>
+        <source>Back to automatic in this shot</source>
+        <translation>Volver a automático en este plano</translation>
+    </message>
+    <message>
         <source>Point at the middle of the crop</source>
         <translation>Señalar el centro del encuadre</translation>
     </message>

@@ -917,6 +917,10 @@ Le programme en ligne de commande pour plusieurs fichiers à la fois est reframe
         <translation>Maj+touches fléchées</translation>
     </message>
     <message>
+        <source>Back to automatic in this shot</source>
+        <translation>Revenir à l’automatique dans ce plan</translation>
+    </message>
+    <message>
         <source>Point at the middle of the crop</source>
         <translation>Désigner le centre du cadre</translation>
     </message>

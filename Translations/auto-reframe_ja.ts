@@ -910,6 +910,10 @@ The command line program for many files at once is reframe.</source>
         <translation>Shift+矢印キー</translation>
     </message>
     <message>
+        <source>Back to automatic in this shot</source>
+        <translation>このショットを自動に戻す</translation>
+    </message>
+    <message>
         <source>Point at the middle of the crop</source>
         <translation>クロップの中央を指定</translation>
     </message>

@@ -917,6 +917,10 @@ O programa de linha de comando para muitos arquivos de uma vez é o reframe.</tr
         <translation>Shift+teclas de seta</translation>
     </message>
     <message>
+        <source>Back to automatic in this shot</source>
+        <translation>Voltar ao automático neste plano</translation>
+    </message>
+    <message>
         <source>Point at the middle of the crop</source>
         <translation>Apontar para o centro do corte</translation>
     </message>

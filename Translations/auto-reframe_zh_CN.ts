@@ -910,6 +910,10 @@ The command line program for many files at once is reframe.</source>
         <translation>Shift+方向键</translation>
     </message>
     <message>
+        <source>Back to automatic in this shot</source>
+        <translation>此镜头恢复自动</translation>
+    </message>
+    <message>
         <source>Point at the middle of the crop</source>
         <translation>指向裁剪框中心</translation>
     </message>

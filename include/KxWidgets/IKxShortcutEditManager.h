@@ -23,6 +23,7 @@ public:
         NextEditPoint = 3007,
         PreviousDoubtfulShot = 3008,
         NextDoubtfulShot = 3009,
+        BackToAutomatic = 3010,
     };
 
     static IKxShortcutEditManager* GetInstance();

@@ -8,6 +8,7 @@
 
 #include <KxPlayer/KxMediaPlayerPresenter.h>
 #include <KxPlayer/KxMediaPlayerWidget.h>
+#include <KxWidgets/IKxShortcutEditManager.h>
 
 #include <QApplication>
 #include <QContextMenuEvent>
@@ -15,6 +16,7 @@
 #include <QLabel>
 #include <QMenu>
 #include <QMouseEvent>
+#include <QShortcut>
 #include <QtConcurrent>
 
 namespace
@@ -29,6 +31,11 @@ constexpr QSizeF UsualBox(0.14, 0.28);
 QRectF Around(const QPointF& centre, const QSizeF& size)
 {
     return {centre.x() - size.width() / 2.0, centre.y() - size.height() / 2.0, size.width(), size.height()};
+}
+
+QKeySequence BackToAutomaticKeys()
+{
+    return IKxShortcutEditManager::GetInstance()->keySequence(IKxShortcutEditManager::BackToAutomatic);
 }
 
 } // namespace
@@ -56,6 +63,8 @@ KrFollowControls::KrFollowControls(KrAutoReframePlayerView& view, IKxAutoReframe
             Clear();
         }
     });
+    auto* const back = new QShortcut(BackToAutomaticKeys(), &m_view);
+    connect(back, &QShortcut::activated, this, [this] { Choose(Kind::Automatic); });
     m_longPress.setSingleShot(true);
     m_longPress.setInterval(LongPressMs);
     connect(&m_longPress, &QTimer::timeout, this, &KrFollowControls::HandleLongPress);
@@ -236,10 +245,11 @@ void KrFollowControls::HandleGuess()
     OpenMenu(m_box->mapToGlobal(QPoint(qRound(box.right() * m_box->width()), qRound(box.top() * m_box->height()))));
 }
 
-void KrFollowControls::AddAction(QMenu& menu, const QString& text, Kind kind)
+QAction* KrFollowControls::AddAction(QMenu& menu, const QString& text, Kind kind)
 {
     QAction* const action = menu.addAction(text);
     connect(action, &QAction::triggered, this, [this, kind] { Choose(kind); });
+    return action;
 }
 
 void KrFollowControls::OpenMenu(const QPoint& global)
@@ -263,7 +273,10 @@ void KrFollowControls::OpenMenu(const QPoint& global)
     }
     AddAction(*menu, tr("Show the Whole Picture in This Shot"), Kind::Fit);
     menu->addSeparator();
-    AddAction(*menu, tr("Back to Automatic"), Kind::Automatic);
+    QAction* const back = AddAction(*menu, tr("Back to Automatic"), Kind::Automatic);
+    back->setShortcut(BackToAutomaticKeys());
+    // Elsewhere the key is the window's.
+    back->setShortcutContext(Qt::WidgetShortcut);
     menu->popup(global);
 }
 

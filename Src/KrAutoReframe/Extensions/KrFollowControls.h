@@ -13,6 +13,7 @@
 class KrAutoReframePlayerView;
 class KrChoiceList;
 class KrSubjectBox;
+class QAction;
 class QMenu;
 class QMouseEvent;
 
@@ -64,7 +65,7 @@ private:
     void Guess(const QPointF& point);
     void HandleGuess();
     void OpenMenu(const QPoint& global);
-    void AddAction(QMenu& menu, const QString& text, KxAutoReframeChoice::Kind kind);
+    QAction* AddAction(QMenu& menu, const QString& text, KxAutoReframeChoice::Kind kind);
     void Choose(KxAutoReframeChoice::Kind kind);
     qint64 CurrentFrame() const;
     double SecondsOf(qint64 frame) const;

@@ -34,6 +34,8 @@ QKeySequence Default(int actionId)
         return {Qt::SHIFT | Qt::Key_N};
     case IKxShortcutEditManager::NextDoubtfulShot:
         return {Qt::Key_N};
+    case IKxShortcutEditManager::BackToAutomatic:
+        return {Qt::Key_Backspace};
     default:
         return {};
     }

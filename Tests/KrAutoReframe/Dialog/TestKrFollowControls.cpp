@@ -220,6 +220,19 @@ TEST_F(KrFollowControlsTest, TheWholePictureCanBeShownInAShot)
     EXPECT_DOUBLE_EQ(taking.choices.first().toSeconds, 4.0);
 }
 
+TEST_F(KrFollowControlsTest, OneKeyLeadsBackToAutomatic)
+{
+    Click(At(0.3, 0.5));
+    ASSERT_EVENTUALLY(Menu() != nullptr);
+    Choose(QStringLiteral("Hold the Crop in This Shot"));
+    ASSERT_EVENTUALLY(HasDecided());
+    ASSERT_EQ(taking.choices.size(), 1);
+    QTest::keyClick(dialog.get(), Qt::Key_Backspace);
+    EXPECT_TRUE(taking.choices.isEmpty());
+    Helper().GetUndoStack().undo();
+    EXPECT_EQ(taking.choices.size(), 1);
+}
+
 TEST_F(KrFollowControlsTest, ChoicesAndEditsAreOneHistory)
 {
     Helper().AddKeyFrame(10, QRectF(0.5, 0.0, 0.25, 1.0));

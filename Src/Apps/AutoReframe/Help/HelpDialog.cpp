@@ -69,6 +69,7 @@ QList<HelpDialog::Shortcut> HelpDialog::OfDialog()
             {tr("Move the crop by a pixel"), tr("Arrow keys")},
             {tr("Move the crop by 10 pixels"), tr("Shift+Arrow keys")},
             {tr("Point at the middle of the crop"), TextOf(Qt::Key_Menu)},
+            {tr("Back to automatic in this shot"), of(Manager::BackToAutomatic)},
             {tr("Remove the box"), TextOf(Qt::Key_Escape)}};
 }
 
