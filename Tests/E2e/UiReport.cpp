@@ -32,6 +32,13 @@ QJsonArray OnScreen(const QWidget& widget, const QRect& part)
             qRound(part.height() * ratio)};
 }
 
+/// The window that the system shows in the middle of `window`: itself, unless another one covers it.
+QString TopmostOver(const QWidget& window)
+{
+    const QWidget* const top = QApplication::topLevelAt(window.mapToGlobal(window.rect().center()));
+    return top != nullptr ? NameOf(*top) : QString();
+}
+
 QJsonArray ItemsOf(const QAbstractItemView& view)
 {
     QJsonArray items;
@@ -117,6 +124,9 @@ QJsonObject UiReport::Describe() const
                            {QStringLiteral("window"), NameOf(*widget->window())},
                            {QStringLiteral("rect"), OnScreen(*widget, widget->rect())},
                            {QStringLiteral("enabled"), widget->isEnabled()}};
+        if (widget->isWindow()) {
+            object.insert(QStringLiteral("top"), TopmostOver(*widget));
+        }
         AddContent(*widget, object);
         widgets.append(object);
     }

@@ -11,7 +11,7 @@ class QJsonObject;
 /// The report is a JSON object: "serial" counts the reports, "platform" is Qt's, "window" and "focus" name the active
 /// window and the control with the focus, "widgets" lists the controls with "name", "class", "window", "rect" [x, y,
 /// width, height] in device pixels of the screen, "enabled" and, where they have them, "text", "value", "checked",
-/// "face" and "items".
+/// "face" and "items". For a window, "top" names the window that is above all others in its middle.
 class UiReport : public QObject
 {
     Q_OBJECT

@@ -164,6 +164,11 @@ class Screen:
 
     def stop(self):
         if self.process.poll() is None:
-            self.process.kill()
-            self.process.wait()
+            # An emulator passes this signal on to the program; killed, it would leave it behind, writing its reports.
+            self.process.terminate()
+            try:
+                self.process.wait(10)
+            except subprocess.TimeoutExpired:
+                self.process.kill()
+                self.process.wait()
         self.log.close()
