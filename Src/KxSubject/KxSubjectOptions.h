@@ -294,9 +294,9 @@ struct KxSubjectOptions {
         double surePeakShare = 0.6;       ///< 0.5 to 0.8 of the running mean, the same; chosen
         double goodConfidence = 0.3;      ///< 0.2 to 0.5: below, the thing counts as lost; chosen
         double lostSeconds = 1.0;         ///< 0.5 to 2: a shorter loss is not reported; chosen
-        /// 0.4 to 0.7, the intersection over the union of the box that a person drew and a detection of the same thing;
-        /// chosen
-        double firstOverlap = 0.5;
+        /// 0.3 to 0.6, the intersection over the union of the box that a person drew, perhaps with what the thing holds,
+        /// and a detection of it; trial
+        double firstOverlap = 0.4;
         double stillOverlap = 0.3;      ///< 0.2 to 0.4: the same for a tracked box, which may have drifted; chosen
         double sameOverlap = 0.6;       ///< 0.5 to 0.8: a tracked box that overlaps more is left as it is; chosen
         double stillGrowth = 0.7;       ///< 0.5 to 1 a second, logarithm of the areas' ratio of two looks; chosen

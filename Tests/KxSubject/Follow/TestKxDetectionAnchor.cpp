@@ -57,6 +57,14 @@ TEST(KxDetectionAnchor, TheCorrectionIsToTheDetectionWhatThePersonDrew)
     ExpectBox(anchor.Correct({25, Box(0.41, 0.15), 1.0}), 0.45, 0.15);
 }
 
+TEST(KxDetectionAnchor, APersonWhoWasDrawnWithTheirBicycleIsRecognised)
+{
+    const KxSubjectRecord record = Record({{Person(0.4F)}, {Person(0.5F)}});
+    KxDetectionAnchor anchor(record, Options);
+    ExpectBox(anchor.Correct({0, Box(0.34, 0.22), 1.0}), 0.34, 0.22);
+    ExpectBox(anchor.Correct({25, Box(0.2, 0.22), 1.0}), 0.44, 0.22);
+}
+
 TEST(KxDetectionAnchor, AFaceIsNotTakenForItsPerson)
 {
     const KxSubjectRecord record = Record({{Person(0.3F)}, {Person(0.3F)}});
