@@ -8,8 +8,6 @@
 /// origin:
 /// - trial: chosen by trial on real footage;
 /// - clips: chosen by the score of "Against ground truth" in Docs/ANALYSIS.md;
-/// - spread: the same, and `Benchmarks/spread` measures how much depends on it ("Sensitivity to the tuning values"
-/// there);
 /// - speech: taken from a study on the same clips ("Who speaks" there), and kept;
 /// - talk: chosen by trial on the clips of "Who speaks" there;
 /// - cross: `Benchmarks/crossvalidate` chose it on some clips and scored it on the others;
@@ -117,11 +115,11 @@ struct KxSubjectOptions {
         double threshold = 0.2;  ///< 0.1 to 0.4 of the motion map: a peak below is noise; clips
         int levels = 4;          ///< 1 to 6 levels of segmentation, each tracked separately; clips
         double levelRatio = 1.2; ///< 1.1 to 1.4, from one level to the next; clips
-        /// 0.25 to 0.5 of the peak, the middle level: the area above it around the peak is one mover; spread
+        /// 0.25 to 0.5 of the peak, the middle level: the area above it around the peak is one mover; clips
         double extentShare = 0.345;
         int peakDistancePx = 4; ///< 2 to 8 each way in which a peak is the highest; clips
         int mostAtOnce = 10;    ///< 5 to 20 per level; bounds the cost of a crowd; chosen
-        /// 0.4 to 1.2 of the width: a mover is searched for within this distance of its predicted position; spread
+        /// 0.4 to 1.2 of the width: a mover is searched for within this distance of its predicted position; clips
         double reachPerSecond = 0.76;
         double reachBySize = 0.35;  ///< 0 to 0.6 of the root of its area, on top; clips
         double mostGrowth = 1.5;    ///< 0.7 to 2, logarithm of the areas' ratio; clips
@@ -132,12 +130,12 @@ struct KxSubjectOptions {
         int mostMisses = 3;         ///< 1 to 6 samples in a row; clips
         int leastHits = 4;          ///< 3 to 8 samples seen, of a mover that counts at all; clips
         double secondsAtZero = 0.3; ///< 0 to 1 of being seen, that give no confidence yet; clips
-        double secondsToFull = 1.5; ///< 0.5 to 3 beyond, for full confidence; spread
-        double fullTravel = 0.15;   ///< 0.1 to 0.3 of the width, relative to the background, for the same; spread
+        double secondsToFull = 1.5; ///< 0.5 to 3 beyond, for full confidence; clips
+        double fullTravel = 0.15;   ///< 0.1 to 0.3 of the width, relative to the background, for the same; clips
         double leastSeconds = 0.37; ///< 0.3 to 0.6: a mover that was seen for less is forgotten; chosen
         double leastTravel = 0.007; ///< 0.003 to 0.03 of the width: one that travelled less, too; chosen
         double areaPower = 0.5;     ///< 0.4 to 0.6: a mover weighs as its box's side, not as its area; clips
-        double emptyFloor = 0.1; ///< 0.05 to 0.2, the sum of weights that gives half of the possible evidence; spread
+        double emptyFloor = 0.1;    ///< 0.05 to 0.2, the sum of weights that gives half of the possible evidence; clips
     } movers;
 
     struct Saliency {
@@ -250,19 +248,19 @@ struct KxSubjectOptions {
     } speech;
 
     struct Evidence {
-        double motionWeight = 0.5;          ///< 0.3 to 1; spread
-        double moverWeight = 0.45;          ///< 0.3 to 0.6; spread
+        double motionWeight = 0.5;          ///< 0.3 to 1; clips
+        double moverWeight = 0.45;          ///< 0.3 to 0.6; clips
         double saliencyWeightAcross = 0.35; ///< 0.2 to 0.6; cross
-        double saliencyWeightUpDown = 0.1;  ///< 0 to 0.3: it misleads on tall pictures; spread
+        double saliencyWeightUpDown = 0.1;  ///< 0 to 0.3: it misleads on tall pictures; clips
         double faceWeight = 1.0;            ///< 0.7 to 1.5; trial
         double detectionWeight = 2.5;       ///< 1.5 to 3.5; cross
         double emptyFloor = 0.01;           ///< 0.005 to 0.02 of the area: an empty map weighs little; trial
-        double concentration = 1.6;         ///< 1 to 2, power on the combined evidence; spread
-        double windowFlatAcross = 0.55;     ///< 0.3 to 0.7 of the scoring window; the rest is a squared cosine; spread
+        double concentration = 1.6;         ///< 1 to 2, power on the combined evidence; clips
+        double windowFlatAcross = 0.55;     ///< 0.3 to 0.7 of the scoring window; the rest is a squared cosine; clips
         double windowFlatUpDown =
-            0.9; ///< 0.5 to 1: a tall subject should fit in, not have its head in the middle; spread
+            0.9; ///< 0.5 to 1: a tall subject should fit in, not have its head in the middle; clips
         double centrePriorAcross = 0.3; ///< 0.15 to 0.45 for a crop that moves sideways; cross
-        double centrePriorUpDown = 4.0; ///< 1 to 6 for a crop that moves up and down, where evidence misleads; spread
+        double centrePriorUpDown = 4.0; ///< 1 to 6 for a crop that moves up and down, where evidence misleads; clips
     } evidence;
 
     /// Following what a person points at. The tracker's values are its published ones or were chosen once, except for
@@ -294,8 +292,8 @@ struct KxSubjectOptions {
         double surePeakShare = 0.6;       ///< 0.5 to 0.8 of the running mean, the same; chosen
         double goodConfidence = 0.3;      ///< 0.2 to 0.5: below, the thing counts as lost; chosen
         double lostSeconds = 1.0;         ///< 0.5 to 2: a shorter loss is not reported; chosen
-        /// 0.3 to 0.6, the intersection over the union of the box that a person drew, perhaps with what the thing holds,
-        /// and a detection of it; trial
+        /// 0.3 to 0.6, the intersection over the union of the box that a person drew, perhaps with what the thing
+        /// holds, and a detection of it; trial
         double firstOverlap = 0.4;
         double stillOverlap = 0.3;      ///< 0.2 to 0.4: the same for a tracked box, which may have drifted; chosen
         double sameOverlap = 0.6;       ///< 0.5 to 0.8: a tracked box that overlaps more is left as it is; chosen
