@@ -71,6 +71,19 @@ TEST_F(TestBatchDialog, TheExampleFollowsEveryChange)
     EXPECT_EQ(Example(), QStringLiteral("4 files: 9x16.mp4, 1x1.mp4, 9x16 (2).mp4, …"));
 }
 
+TEST_F(TestBatchDialog, OfLongNamesTheExampleShowsWhatFits)
+{
+    const QString name(QStringLiteral("a trip to the coast in late summer, second day, walk with the dog "));
+    for (int i = 0; i < m_videos.size(); ++i) {
+        m_videos[i].path = QStringLiteral("/clips/%1 %2.mp4").arg(name, QString::number(i));
+    }
+    Show(InFolder());
+    EXPECT_TRUE(Example().startsWith(QStringLiteral("2 files: a trip"))) << Example().toStdString();
+    EXPECT_TRUE(Example().endsWith(QStringLiteral("…"))) << Example().toStdString();
+    const auto* const label = m_dialog->findChild<QLabel*>(QStringLiteral("BatchDialog_message"));
+    EXPECT_LE(label->heightForWidth(label->width()), label->height());
+}
+
 TEST_F(TestBatchDialog, PicturesThatBecomeLargerThanTheirCropsAreMentioned)
 {
     Show(InFolder());

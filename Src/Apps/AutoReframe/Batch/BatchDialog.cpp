@@ -12,6 +12,7 @@
 #include <QSignalBlocker>
 #include <QVariant>
 
+#include <algorithm>
 #include <array>
 
 namespace
@@ -190,11 +191,21 @@ QString BatchDialog::Example() const
         names += QFileInfo(planned.outputPath).fileName();
     }
     const int count = settings.CountFor(m_videos);
-    const QString more = count > examples ? QStringLiteral(", …") : QString();
     const QString text = settings.EnlargesAnyOf(m_videos)
                              ? tr("%n files, enlarged beyond their crops: %1", nullptr, count)
                              : tr("%n files: %1", nullptr, count);
-    return text.arg(names.mid(0, examples).join(QStringLiteral(", ")) + more);
+    const auto naming = [&](int shown) {
+        const QString more = count > shown ? QStringLiteral(", …") : QString();
+        return text.arg(names.mid(0, shown).join(QStringLiteral(", ")) + more);
+    };
+    int shown = std::min(examples, names.size());
+    while (shown > 1 && !Fits(naming(shown))) {
+        --shown;
+    }
+    if (shown == 1 && !Fits(naming(shown))) {
+        names.first() = InOneLine(names.first());
+    }
+    return naming(shown);
 }
 
 void BatchDialog::RetranslateUi()

@@ -57,6 +57,18 @@ QString SaveDialog::Example() const
     return {};
 }
 
+bool SaveDialog::Fits(const QString& example) const
+{
+    const QRect area(0, 0, width() - 2 * MarginPx, QWIDGETSIZE_MAX);
+    const QRect text = m_message->fontMetrics().boundingRect(area, Qt::TextWordWrap, example);
+    return text.height() <= m_message->height() && text.width() <= area.width();
+}
+
+QString SaveDialog::InOneLine(const QString& name) const
+{
+    return m_message->fontMetrics().elidedText(name, Qt::ElideMiddle, width() - 2 * MarginPx);
+}
+
 QVBoxLayout* SaveDialog::MakeColumn()
 {
     auto* const column = new QVBoxLayout(new QWidget(this));

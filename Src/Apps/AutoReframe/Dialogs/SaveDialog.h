@@ -23,6 +23,10 @@ protected:
     virtual KxError Problem() const = 0;
     /// What is shown where there is no problem.
     virtual QString Example() const;
+    /// Whether an example is shown completely.
+    bool Fits(const QString& example) const;
+    /// `name` with its middle left out where it is longer than a line.
+    QString InOneLine(const QString& name) const;
 
     /// Empty, with margins; the rows are added to it.
     QVBoxLayout* MakeColumn();
