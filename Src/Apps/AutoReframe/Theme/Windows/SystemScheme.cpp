@@ -1,19 +1,20 @@
 #include <Apps/AutoReframe/Theme/SystemScheme.h>
 
 #include <QGuiApplication>
-#include <QSettings>
+
+#include <windows.h>
 
 namespace
 {
 
 void Ask(const std::function<void(KxUIStyle::Scheme)>& found)
 {
-    const QSettings settings(
-        QStringLiteral("HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Themes\\Personalize"),
-        QSettings::NativeFormat);
-    const QVariant isLight = settings.value(QStringLiteral("AppsUseLightTheme"));
-    if (isLight.isValid()) {
-        found(isLight.toInt() != 0 ? KxUIStyle::Scheme::Light : KxUIStyle::Scheme::Dark);
+    // QSettings would create the key where it is missing.
+    DWORD isLight = 0;
+    DWORD size = sizeof isLight;
+    if (RegGetValueW(HKEY_CURRENT_USER, L"Software\\Microsoft\\Windows\\CurrentVersion\\Themes\\Personalize",
+                     L"AppsUseLightTheme", RRF_RT_REG_DWORD, nullptr, &isLight, &size) == ERROR_SUCCESS) {
+        found(isLight != 0 ? KxUIStyle::Scheme::Light : KxUIStyle::Scheme::Dark);
     }
 }
 
