@@ -94,6 +94,7 @@ only_in("^Q[A-Z]"
 # record comes from the system where there is one; a desktop is the system's.
 set(MAY_KNOW_include/KxWidgets/KxOpenFileName.h "^(windows|commdlg)[.]h$")
 set(MAY_KNOW_Src/Apps/AutoReframe/Desktop/Windows/DesktopSession.cpp "^windows[.]h$")
+set(MAY_KNOW_Src/Apps/AutoReframe/Theme/Windows/SystemScheme.cpp "^windows[.]h$")
 
 file(GLOB_RECURSE sources RELATIVE "${ROOT}" "${ROOT}/Src/*.h" "${ROOT}/Src/*.cpp" "${ROOT}/include/*.h")
 if(NOT sources)
