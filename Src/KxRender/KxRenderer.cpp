@@ -210,10 +210,9 @@ KxRenderResult Rendering::Render(const KxOutputGrid& grid)
 
 KxRenderResult Rendering::Join(const KxOutputGrid& grid)
 {
-    const KxAvPacket packet(av_packet_alloc());
-    KxReadStatus status = KxReadStatus::Failed;
-    while (packet != nullptr && (status = m_parts->Next(*packet)) == KxReadStatus::Delivered) {
-        if (KxError error = m_writer->AddVideoPacket(*packet)) {
+    KxReadStatus status = m_parts->Next();
+    for (; status == KxReadStatus::Delivered; status = m_parts->Next()) {
+        if (KxError error = m_writer->AddVideoPacket(m_parts->Packet())) {
             return Failed(*error);
         }
         if (KxError error = AddSound(grid.Rate())) {

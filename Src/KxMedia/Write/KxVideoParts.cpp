@@ -1,5 +1,7 @@
 #include <KxMedia/Write/KxVideoParts.h>
 
+#include <KxMedia/Container/KxAvError.h>
+
 #include <QCoreApplication>
 
 #include <algorithm>
@@ -13,19 +15,25 @@ struct Texts {
 
 } // namespace
 
-KxVideoParts::KxVideoParts(QStringList paths, const KxRational& rate, const KxCancelToken& cancel)
+KxVideoParts::KxVideoParts(QStringList paths, const KxRational& rate, const KxCancelToken& cancel, KxAvPacket packet)
     : m_paths(std::move(paths))
     , m_rate(rate)
     , m_cancel(cancel)
+    , m_packet(std::move(packet))
 {
 }
 
 KxResult<std::unique_ptr<KxVideoParts>> KxVideoParts::Open(const QStringList& paths, const KxRational& rate,
                                                            const KxCancelToken& cancel)
 {
-    std::unique_ptr<KxVideoParts> parts(new KxVideoParts(paths, rate, cancel));
+    using Opened = KxResult<std::unique_ptr<KxVideoParts>>;
+    KxAvPacket packet(av_packet_alloc());
+    if (packet == nullptr) {
+        return Opened::Failure(KxAvErrorText(AVERROR(ENOMEM)));
+    }
+    std::unique_ptr<KxVideoParts> parts(new KxVideoParts(paths, rate, cancel, std::move(packet)));
     if (const KxError problem = parts->Check()) {
-        return KxResult<std::unique_ptr<KxVideoParts>>::Failure(*problem);
+        return Opened::Failure(*problem);
     }
     return parts;
 }
@@ -53,7 +61,7 @@ KxReadStatus KxVideoParts::Fail(const QString& message)
     return KxReadStatus::Failed;
 }
 
-KxReadStatus KxVideoParts::Next(AVPacket& packet)
+KxReadStatus KxVideoParts::Next()
 {
     for (;;) {
         if (m_current == nullptr) {
@@ -67,12 +75,12 @@ KxReadStatus KxVideoParts::Next(AVPacket& packet)
             m_current = std::move(*part);
             m_start = m_packets;
         }
-        const KxReadStatus status = m_current->Next(packet);
+        const KxReadStatus status = m_current->Next(*m_packet);
         if (status == KxReadStatus::Delivered) {
-            packet.pts += m_start;
+            m_packet->pts += m_start;
             // Each part begins as many frames early as the one before ends.
-            packet.dts = m_packets++ - m_delay;
-            return packet.pts >= packet.dts
+            m_packet->dts = m_packets++ - m_delay;
+            return m_packet->pts >= m_packet->dts
                        ? status
                        : Fail(Texts::tr("Cannot join %1: its time stamps are damaged.").arg(m_paths.at(m_opened - 1)));
         }

@@ -15,19 +15,22 @@ public:
     /// For the header of the joined file.
     const KxVideoPart& First() const { return *m_first; }
 
-    /// The next packet in decoding order, with both times in frames.
-    KxReadStatus Next(AVPacket& packet);
+    /// Goes to the next packet in decoding order.
+    KxReadStatus Next();
+    /// With both times in frames. May be moved from.
+    AVPacket& Packet() const { return *m_packet; }
     /// After a failed Next(), the error message.
     const QString& Problem() const { return m_problem; }
 
 private:
-    KxVideoParts(QStringList paths, const KxRational& rate, const KxCancelToken& cancel);
+    KxVideoParts(QStringList paths, const KxRational& rate, const KxCancelToken& cancel, KxAvPacket packet);
     KxError Check();
     KxReadStatus Fail(const QString& message);
 
     const QStringList m_paths;
     const KxRational m_rate;
     const KxCancelToken m_cancel;
+    const KxAvPacket m_packet;
     std::unique_ptr<KxVideoPart> m_first;   ///< of which nothing is read but its header
     std::unique_ptr<KxVideoPart> m_current; ///< null between two parts
     int m_opened = 0;                       ///< parts
