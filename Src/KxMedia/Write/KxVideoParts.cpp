@@ -23,6 +23,8 @@ KxVideoParts::KxVideoParts(QStringList paths, const KxRational& rate, const KxCa
 {
 }
 
+KxVideoParts::~KxVideoParts() = default;
+
 KxResult<std::unique_ptr<KxVideoParts>> KxVideoParts::Open(const QStringList& paths, const KxRational& rate,
                                                            const KxCancelToken& cancel)
 {

@@ -11,6 +11,9 @@ public:
     /// Reads the header of each file. On failure, the error message names the file and the reason.
     static KxResult<std::unique_ptr<KxVideoParts>> Open(const QStringList& paths, const KxRational& rate,
                                                         const KxCancelToken& cancel);
+    ~KxVideoParts();
+    KxVideoParts(const KxVideoParts&) = delete;
+    KxVideoParts& operator=(const KxVideoParts&) = delete;
 
     /// For the header of the joined file.
     const KxVideoPart& First() const { return *m_first; }
