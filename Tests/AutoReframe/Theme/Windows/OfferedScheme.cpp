@@ -12,7 +12,7 @@ class OfferedScheme::Impl
 public:
     Impl()
     {
-        EXPECT_EQ(RegCreateKeyExW(HKEY_CURRENT_USER, Path, 0, nullptr, REG_OPTION_VOLATILE, KEY_ALL_ACCESS, nullptr,
+        EXPECT_EQ(RegCreateKeyExW(HKEY_CURRENT_USER, Path, 0, nullptr, REG_OPTION_NON_VOLATILE, KEY_ALL_ACCESS, nullptr,
                                   &key, nullptr),
                   ERROR_SUCCESS);
         EXPECT_EQ(RegOverridePredefKey(HKEY_CURRENT_USER, key), ERROR_SUCCESS);
