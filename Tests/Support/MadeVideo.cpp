@@ -133,9 +133,13 @@ bool MadeVideo::Make(const QString& path, const Recipe& recipe)
         const int number = recipe.firstNumber + n;
         const QImage drawn = recipe.draw ? recipe.draw(number) : Draw(number, recipe.size);
         const QImage picture = drawn.convertToFormat(QImage::Format_RGB888);
+        // At once: QProcess on Windows passes on what one call wrote, then waits for a millisecond or more.
+        QByteArray samples;
+        samples.reserve(3 * picture.width() * picture.height());
         for (int y = 0; y < picture.height(); ++y) {
-            process.write(reinterpret_cast<const char*>(picture.constScanLine(y)), qint64{3} * picture.width());
+            samples.append(reinterpret_cast<const char*>(picture.constScanLine(y)), 3 * picture.width());
         }
+        process.write(samples);
         while (process.bytesToWrite() > 4 * 1024 * 1024 && process.waitForBytesWritten()) {
         }
     }
