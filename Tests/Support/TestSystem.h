@@ -17,4 +17,7 @@ bool RemovesOpenFiles();
 /// The largest amount of memory that this process has used; since ResetPeakMemory(), where that returns true.
 qint64 PeakMemoryBytes();
 bool ResetPeakMemory();
+
+/// How many threads this process has.
+int Threads();
 } // namespace TestSystem

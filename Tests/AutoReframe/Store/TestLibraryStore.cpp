@@ -1,5 +1,6 @@
 #include <Apps/AutoReframe/Store/LibraryDatabase.h>
 #include <Apps/AutoReframe/Store/LibraryStore.h>
+#include <Tests/Support/TestSystem.h>
 
 #include <QDir>
 #include <QSignalSpy>
@@ -54,16 +55,12 @@ protected:
 
 TEST_F(TestLibraryStore, StartsNoThreadBeforeItIsOpened)
 {
-    const QDir threads(QStringLiteral("/proc/self/task"));
-    if (!threads.exists()) {
-        GTEST_SKIP() << "needs /proc";
-    }
-    const auto count = [&threads] { return threads.entryList(QDir::Dirs | QDir::NoDotAndDotDot).size(); };
-    const int before = count();
+    const int before = TestSystem::Threads();
+    ASSERT_GT(before, 0);
     LibraryStore store(m_path, nullptr);
-    EXPECT_EQ(count(), before);
+    EXPECT_EQ(TestSystem::Threads(), before);
     WaitForContents(store);
-    EXPECT_GT(count(), before);
+    EXPECT_GT(TestSystem::Threads(), before);
 }
 
 TEST_F(TestLibraryStore, WithoutAFileNothingIsSavedAndEverythingIsAnsweredAtOnce)

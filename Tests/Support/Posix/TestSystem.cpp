@@ -1,5 +1,6 @@
 #include <Tests/Support/TestSystem.h>
 
+#include <QDir>
 #include <QFile>
 
 #include <sys/stat.h>
@@ -30,4 +31,9 @@ bool TestSystem::ResetPeakMemory()
 {
     QFile file(QStringLiteral("/proc/self/clear_refs"));
     return file.open(QIODevice::WriteOnly) && file.write("5") == 1;
+}
+
+int TestSystem::Threads()
+{
+    return QDir(QStringLiteral("/proc/self/task")).entryList(QDir::Dirs | QDir::NoDotAndDotDot).size();
 }

@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include <psapi.h>
+#include <tlhelp32.h>
 
 bool TestSystem::MakeNamedPipe(const QString&)
 {
@@ -25,4 +26,21 @@ qint64 TestSystem::PeakMemoryBytes()
 bool TestSystem::ResetPeakMemory()
 {
     return false;
+}
+
+int TestSystem::Threads()
+{
+    const HANDLE snapshot = CreateToolhelp32Snapshot(TH32CS_SNAPTHREAD, 0);
+    if (snapshot == INVALID_HANDLE_VALUE) {
+        return 0;
+    }
+    THREADENTRY32 entry{};
+    entry.dwSize = sizeof entry;
+    int count = 0;
+    // All threads of all processes are listed.
+    for (BOOL isListed = Thread32First(snapshot, &entry); isListed != 0; isListed = Thread32Next(snapshot, &entry)) {
+        count += entry.th32OwnerProcessID == GetCurrentProcessId() ? 1 : 0;
+    }
+    CloseHandle(snapshot);
+    return count;
 }
