@@ -123,12 +123,11 @@ protected:
     /// What ffprobe reports about a stream, one entry a line.
     QString Probe(const char* name, const char* stream, const char* entries) const
     {
-        QProcess probe;
-        probe.start(QStringLiteral("ffprobe"), Words("-v error -of default=noprint_wrappers=1 -select_streams") +
-                                                   Words(stream) + Words("-show_entries") + Words(entries) +
-                                                   QStringList(Path(name)));
-        EXPECT_TRUE(probe.waitForFinished());
-        return QString::fromUtf8(probe.readAllStandardOutput());
+        const ProgramRun probe(QStringLiteral("ffprobe"),
+                               Words("-v error -of default=noprint_wrappers=1 -select_streams") + Words(stream) +
+                                   Words("-show_entries") + Words(entries) + QStringList(Path(name)));
+        EXPECT_EQ(probe.exitStatus, 0);
+        return probe.standardOutput;
     }
 
     double LoudnessOf(const char* name) const

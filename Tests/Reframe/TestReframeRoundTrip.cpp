@@ -9,7 +9,6 @@
 #include <QFile>
 #include <QImage>
 #include <QPainter>
-#include <QProcess>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -107,13 +106,9 @@ std::vector<qint64> Onsets(const QString& path)
 /// What a program writes to standard output and standard error.
 QString OutputOf(const QString& program, const QStringList& arguments)
 {
-    QProcess process;
-    process.setProcessChannelMode(QProcess::MergedChannels);
-    process.start(program, arguments);
-    constexpr int longestMs = 120000;
-    EXPECT_TRUE(process.waitForFinished(longestMs)) << program.toStdString();
-    EXPECT_EQ(process.exitCode(), 0) << program.toStdString();
-    return QString::fromLocal8Bit(process.readAll()).trimmed();
+    const ProgramRun run(program, arguments);
+    EXPECT_EQ(run.exitStatus, 0) << program.toStdString();
+    return (run.standardOutput + run.standardError).trimmed();
 }
 
 class ReframeRoundTrip : public testing::Test
