@@ -13,6 +13,8 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
 namespace
 {
 
@@ -316,7 +318,11 @@ TEST_F(ReframeProgramTest, AMissingInputDoesNotFailTheOthersWithOverwrite)
 TEST_F(ReframeProgramTest, ALinkToAnInputIsNotReplacedEither)
 {
     const QString clip = MakeClip("clip.mp4");
-    ASSERT_TRUE(QFile::link(clip, Path("link.mp4")));
+    std::error_code error;
+    std::filesystem::create_symlink(clip.toStdString(), Path("link.mp4").toStdString(), error);
+    if (error) {
+        GTEST_SKIP() << "no links can be made here: " << error.message();
+    }
     const ReframeRun run({QStringLiteral("--overwrite"), QStringLiteral("--output"), Path("link.mp4"), clip});
     EXPECT_EQ(run.exitStatus, 1);
     EXPECT_TRUE(run.standardError.contains(QStringLiteral("it is one of the inputs")));

@@ -11,6 +11,9 @@ namespace TestSystem
 /// Makes a named pipe. False where the system has none in folders.
 bool MakeNamedPipe(const QString& path);
 
+/// A file name of signs that mark-up, messages and templates use, as far as the names of files can have them.
+QString HostileName();
+
 /// Whether a file that is open can be removed; otherwise the attempt fails.
 bool RemovesOpenFiles();
 

@@ -11,6 +11,11 @@ bool TestSystem::MakeNamedPipe(const QString& path)
     return ::mkfifo(QFile::encodeName(path).constData(), mode) == 0;
 }
 
+QString TestSystem::HostileName()
+{
+    return QStringLiteral("a<b> & \"c\" %1 %2 {{facts}}");
+}
+
 bool TestSystem::RemovesOpenFiles()
 {
     return true;

@@ -10,6 +10,11 @@ bool TestSystem::MakeNamedPipe(const QString&)
     return false;
 }
 
+QString TestSystem::HostileName()
+{
+    return QStringLiteral("a & 'c' %1 %2 {{facts}}");
+}
+
 bool TestSystem::RemovesOpenFiles()
 {
     return false;
