@@ -1,6 +1,7 @@
 #include <KxCore/KxConfig.h>
 
 #include <KxCore/KxConfigFile.h>
+#include <KxCore/KxMachineFacts.h>
 
 #include <QDir>
 #include <QFileInfo>
@@ -12,12 +13,6 @@ namespace
 {
 
 const QString ImportFolderKey = QStringLiteral("Import/Folder");
-
-KxConfig::MachineFacts& CurrentFacts()
-{
-    static KxConfig::MachineFacts facts;
-    return facts;
-}
 
 QString NearestExistingFolder(const QString& path)
 {
@@ -34,6 +29,12 @@ QString NearestExistingFolder(const QString& path)
 
 } // namespace
 
+KxMachineFacts& KxMachineFacts::Replaced()
+{
+    static KxMachineFacts facts;
+    return facts;
+}
+
 KxConfig& KxConfig::Instance()
 {
     static KxConfig config;
@@ -42,8 +43,8 @@ KxConfig& KxConfig::Instance()
 
 bool KxConfig::algorithmEnabled(int algorithm) const
 {
-    if (CurrentFacts().algorithmEnabled) {
-        return CurrentFacts().algorithmEnabled(algorithm);
+    if (KxMachineFacts::Replaced().algorithmEnabled) {
+        return KxMachineFacts::Replaced().algorithmEnabled(algorithm);
     }
     // The analysis runs on every machine that the program supports; the host knows no other algorithm.
     constexpr int autoReframe = 4;
@@ -76,16 +77,11 @@ QString KxConfig::GetKorviOutputDirectory()
 
 qint64 KxConfig::GetDiskFreeSpaceSize(const void*, const QString& path)
 {
-    if (CurrentFacts().freeSpaceMb) {
-        return CurrentFacts().freeSpaceMb(path);
+    if (KxMachineFacts::Replaced().freeSpaceMb) {
+        return KxMachineFacts::Replaced().freeSpaceMb(path);
     }
     const bool isDrive = path.size() == 2 && path.at(1) == QLatin1Char(':');
     const QStorageInfo storage(isDrive ? path + QLatin1Char('/') : NearestExistingFolder(path));
     constexpr qint64 megabyte = 1024 * 1024;
     return storage.isValid() && storage.bytesAvailable() >= 0 ? storage.bytesAvailable() / megabyte : -1;
-}
-
-void KxConfig::SetMachineFacts(MachineFacts facts)
-{
-    CurrentFacts() = std::move(facts);
 }

@@ -1,5 +1,6 @@
 #include <KxCore/KxScreen.h>
 
+#include <KxCore/KxMachineFacts.h>
 #include <KxCore/KxPlatform.h>
 
 #include <QGuiApplication>
@@ -8,30 +9,18 @@
 
 double KxScreen::devicePixelRatio() const
 {
-    if (m_ratio) {
-        return *m_ratio;
+    if (const std::optional<double> ratio = KxMachineFacts::Replaced().devicePixelRatio) {
+        return *ratio;
     }
     const QWindow* const window = QGuiApplication::focusWindow();
     const QScreen* const screen = window != nullptr ? window->screen() : QGuiApplication::primaryScreen();
     return screen != nullptr ? screen->devicePixelRatio() : 1.0;
 }
 
-void KxScreen::setDevicePixelRatio(std::optional<double> ratio)
-{
-    m_ratio = ratio;
-}
-
 bool KxScreen::canOverlayWindows() const
 {
-    if (m_canOverlay) {
-        return *m_canOverlay;
-    }
-    return KxPlatform::CanOverlayWindows();
-}
-
-void KxScreen::setCanOverlayWindows(std::optional<bool> can)
-{
-    m_canOverlay = can;
+    const std::optional<bool> replaced = KxMachineFacts::Replaced().canOverlayWindows;
+    return replaced ? *replaced : KxPlatform::CanOverlayWindows();
 }
 
 template<>

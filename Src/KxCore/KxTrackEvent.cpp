@@ -1,6 +1,7 @@
 #include <KxCore/KxTrackEvent.h>
 
 #include <KxCore/KxConfigFile.h>
+#include <KxCore/KxUsageTracker.h>
 
 #include <KxCore/KrAutoReframeClickEvent.h>
 #include <KxCore/KxLog.h>

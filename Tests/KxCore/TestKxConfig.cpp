@@ -4,6 +4,7 @@
 #include <KxCore/KxConfigFile.h>
 #include <KxCore/KxCustomProductInfo.h>
 #include <KxCore/KxDir.h>
+#include <KxCore/KxMachineFacts.h>
 
 #include <QDir>
 #include <QFile>
@@ -27,7 +28,7 @@ protected:
     }
     ~KxConfigTest() override
     {
-        KxConfig::SetMachineFacts({});
+        KxMachineFacts::Replaced() = {};
         qputenv("KX_CONFIG_FILE", m_configBefore);
     }
 
@@ -83,14 +84,12 @@ TEST_F(KxConfigTest, FactsOfTheMachineCanBeReplaced)
 {
     EXPECT_TRUE(KxConfig::Instance().algorithmEnabled(4));
     EXPECT_FALSE(KxConfig::Instance().algorithmEnabled(5));
-    KxConfig::MachineFacts facts;
-    facts.algorithmEnabled = [](int algorithm) { return algorithm == 5; };
-    facts.freeSpaceMb = [](const QString& path) { return qint64(path.size()); };
-    KxConfig::SetMachineFacts(facts);
+    KxMachineFacts::Replaced().algorithmEnabled = [](int algorithm) { return algorithm == 5; };
+    KxMachineFacts::Replaced().freeSpaceMb = [](const QString& path) { return qint64(path.size()); };
     EXPECT_FALSE(KxConfig::Instance().algorithmEnabled(4));
     EXPECT_TRUE(KxConfig::Instance().algorithmEnabled(5));
     EXPECT_EQ(KxConfig::GetDiskFreeSpaceSize(nullptr, QStringLiteral("C:")), 2);
-    KxConfig::SetMachineFacts({});
+    KxMachineFacts::Replaced() = {};
     EXPECT_TRUE(KxConfig::Instance().algorithmEnabled(4));
 }
 

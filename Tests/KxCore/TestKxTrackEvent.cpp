@@ -2,6 +2,7 @@
 
 #include <KxCore/KrAutoReframeClickEvent.h>
 #include <KxCore/KxTrackEvent.h>
+#include <KxCore/KxUsageTracker.h>
 
 #include <QDateTime>
 #include <QDir>

@@ -4,8 +4,6 @@
 
 #include <QString>
 
-#include <functional>
-
 /// The host's configuration and properties of the machine. User-interface thread.
 class KXCORE_API KxConfig
 {
@@ -28,15 +26,6 @@ public:
     /// Free space, in whole megabytes, of the file system of `path`: a drive ("C:") or a folder; for a folder that does
     /// not exist, of its nearest existing parent. -1 if unknown. `unused` is null.
     static qint64 GetDiskFreeSpaceSize(const void* unused, const QString& path);
-
-    /// Replacements for properties of the machine; an empty function leaves that property as it is.
-    struct MachineFacts {
-        std::function<bool(int algorithm)> algorithmEnabled;
-        std::function<qint64(const QString& path)> freeSpaceMb;
-    };
-    /// From now on `facts` apply; default-constructed ones restore the machine's own. For programs that run without a
-    /// person, such as tests.
-    static void SetMachineFacts(MachineFacts facts);
 
 private:
     KxConfig() = default;

@@ -4,9 +4,10 @@
 
 #include <QString>
 
-#include <functional>
-
 /// An action of the person, for the host's usage tracker. Created, sent and destroyed at once; any thread.
+/// The tracker appends events, one line each with time and name, to the file that the configuration file names in the
+/// key "UsageLog" of the group "Auto Reframe" (a relative name is relative to the configuration file's folder). Without
+/// the key they are dropped. Nothing is sent anywhere.
 class KXCORE_API KxTrackEvent
 {
 public:
@@ -22,14 +23,3 @@ public:
 private:
     QString m_name;
 };
-
-/// Usage events are appended, one line each with time and name, to the file that the configuration file names in the
-/// key "UsageLog" of the group "Auto Reframe" (a relative name is relative to the configuration file's folder). Without
-/// the key they are dropped. Nothing is sent anywhere.
-namespace KxUsageTracker
-{
-/// Receives the names of the events, on the thread that sends them.
-using Recorder = std::function<void(const QString& name)>;
-/// From now on `recorder` receives every event and none is written; an empty one restores writing.
-KXCORE_API void SetRecorder(Recorder recorder);
-} // namespace KxUsageTracker

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <KxCore/KxConfig.h>
-#include <KxCore/KxTrackEvent.h>
+#include <KxCore/KxMachineFacts.h>
+#include <KxCore/KxUsageTracker.h>
 #include <KxWidgets/Windows/KxFileResponder.h>
 #include <KxWidgets/Windows/KxMessageResponder.h>
 
@@ -30,12 +30,10 @@ public:
             return chosen;
         });
         KxUsageTracker::SetRecorder([this](const QString& name) { events.append(name); });
-        KxConfig::MachineFacts facts;
-        facts.freeSpaceMb = [this](const QString& path) {
+        KxMachineFacts::Replaced().freeSpaceMb = [this](const QString& path) {
             spaceAskedFor.append(path);
             return freeSpaceMb;
         };
-        KxConfig::SetMachineFacts(facts);
     }
 
     ~Recorders()
@@ -43,7 +41,7 @@ public:
         KrMessageDialog::SetResponder({});
         KxFileDialog::SetResponder({});
         KxUsageTracker::SetRecorder({});
-        KxConfig::SetMachineFacts({});
+        KxMachineFacts::Replaced() = {};
         qputenv("KX_CONFIG_FILE", m_configBefore);
     }
 

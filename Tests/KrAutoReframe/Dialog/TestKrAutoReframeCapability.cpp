@@ -10,12 +10,10 @@ class CapabilityTest : public DialogTest
 protected:
     CapabilityTest()
     {
-        KxConfig::MachineFacts facts;
-        facts.algorithmEnabled = [this](int algorithm) {
+        KxMachineFacts::Replaced().algorithmEnabled = [this](int algorithm) {
             askedFor.append(algorithm);
             return isAble;
         };
-        KxConfig::SetMachineFacts(facts);
     }
 
     int StartsSince(const std::function<void()>& act)

@@ -2,6 +2,7 @@
 
 #include <Tests/KrAutoReframe/Dialog/Recorders.h>
 
+#include <KxCore/KxConfig.h>
 #include <KxWidgets/KxDialogButtonBar.h>
 #include <KxWidgets/KxLabel.h>
 #include <KxWidgets/KxLineEdit.h>

@@ -1,6 +1,6 @@
 #include <KrAutoReframe/Engine/SendClickEvent.h>
 
-#include <KxCore/KxTrackEvent.h>
+#include <KxCore/KxUsageTracker.h>
 
 #include <QStringList>
 

@@ -2,7 +2,7 @@
 
 #include <Tests/KrAutoReframe/WidgetProbe.h>
 
-#include <KxCore/KxScreen.h>
+#include <KxCore/KxMachineFacts.h>
 #include <KxPlayer/KxMediaPlayerWidget.h>
 
 #include <QLabel>
@@ -26,8 +26,7 @@ PlayerViewTest::~PlayerViewTest()
     view.reset();
     helper.reset();
     FakeHost::Reset();
-    KxSingleton<KxScreen>::instance()->setDevicePixelRatio(std::nullopt);
-    KxSingleton<KxScreen>::instance()->setCanOverlayWindows(std::nullopt);
+    KxMachineFacts::Replaced() = {};
 }
 
 void PlayerViewTest::Open(const QSize& resolution)

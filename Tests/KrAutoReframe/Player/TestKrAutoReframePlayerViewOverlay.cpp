@@ -1,7 +1,7 @@
 #include <Tests/KrAutoReframe/Player/PlayerViewTest.h>
 #include <Tests/Support/Eventually.h>
 
-#include <KxCore/KxScreen.h>
+#include <KxCore/KxMachineFacts.h>
 #include <KxCore/KxUtility.h>
 #include <KxPlayer/KxMediaPlayerWidget.h>
 
@@ -12,7 +12,7 @@ TEST_F(PlayerViewTest, LaysTheOverlayOverThePicture)
 {
     ShowCrop();
     view->move(100, 50);
-    KxSingleton<KxScreen>::instance()->setDevicePixelRatio(1.0);
+    KxMachineFacts::Replaced().devicePixelRatio = 1.0;
     Script().videoRect = QRect(10, 20, 600, 300);
     view->UpdateOverlayGeometry();
     EXPECT_EQ(overlay->pos(), view->mapToGlobal(QPoint(10, 20)));
@@ -24,11 +24,11 @@ TEST_F(PlayerViewTest, ScalesTheOverlaysSizeButNotItsPlace)
 {
     ShowCrop();
     Script().videoRect = QRect(10, 20, 601, 301);
-    KxSingleton<KxScreen>::instance()->setDevicePixelRatio(2.0);
+    KxMachineFacts::Replaced().devicePixelRatio = 2.0;
     view->UpdateOverlayGeometry();
     EXPECT_EQ(overlay->pos(), view->mapToGlobal(QPoint(10, 20)));
     EXPECT_EQ(overlay->size(), QSize(301, 151));
-    KxSingleton<KxScreen>::instance()->setDevicePixelRatio(1.5);
+    KxMachineFacts::Replaced().devicePixelRatio = 1.5;
     view->UpdateOverlayGeometry();
     EXPECT_EQ(overlay->size(), QSize(401, 201));
 }
@@ -37,14 +37,14 @@ TEST_F(PlayerViewTest, ADevicePixelRatioOfZeroCountsAsOne)
 {
     ShowCrop();
     Script().videoRect = QRect(0, 0, 600, 300);
-    KxSingleton<KxScreen>::instance()->setDevicePixelRatio(0.0);
+    KxMachineFacts::Replaced().devicePixelRatio = 0.0;
     view->UpdateOverlayGeometry();
     EXPECT_EQ(overlay->size(), QSize(600, 300));
 }
 
 TEST_F(PlayerViewTest, TheOverlayIsAChildWhereWindowsCannotLieOverEachOther)
 {
-    KxSingleton<KxScreen>::instance()->setCanOverlayWindows(false);
+    KxMachineFacts::Replaced().canOverlayWindows = false;
     Open(QSize(1920, 1080));
     EXPECT_FALSE(overlay->isVisible());
     ShowCrop();
@@ -52,7 +52,7 @@ TEST_F(PlayerViewTest, TheOverlayIsAChildWhereWindowsCannotLieOverEachOther)
     EXPECT_EQ(overlay->parentWidget(), view.get());
     EXPECT_TRUE(overlay->isVisible());
     view->move(100, 50);
-    KxSingleton<KxScreen>::instance()->setDevicePixelRatio(2.0);
+    KxMachineFacts::Replaced().devicePixelRatio = 2.0;
     Script().videoRect = QRect(10, 20, 601, 301);
     view->UpdateOverlayGeometry();
     EXPECT_EQ(overlay->geometry(), QRect(10, 20, 301, 151));
