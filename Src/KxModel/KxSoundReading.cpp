@@ -1,5 +1,6 @@
 #include <KxModel/KxSoundReading.h>
 
+#include <KxCore/KxFrameTime.h>
 #include <KxCore/KxLog.h>
 #include <KxMedia/Read/KxAudioReader.h>
 #include <KxSubject/KxSubjectOptions.h>
@@ -7,7 +8,6 @@
 #include <KxSubject/Signals/KxSoundMeter.h>
 
 #include <algorithm>
-#include <cmath>
 
 namespace
 {
@@ -19,8 +19,8 @@ KxSoundSpan Measured(KxAudioReader& reader, qint64 from, qint64 to, qint64 first
     qint64 next = from;
     KxAudioBlock block;
     while (next < to && !cancel.IsCancelled() && reader.Next(block) == KxReadStatus::Delivered) {
-        const auto first = static_cast<qint64>(
-            std::llround(static_cast<double>(block.timeUs) * 1e-6 * KxSoundMeter::SamplesPerSecond));
+        const qint64 first = KxFrameTime::FromMicroseconds(block.timeUs, {KxSoundMeter::SamplesPerSecond, 1},
+                                                           KxFrameTime::Rounding::Nearest);
         const auto count = static_cast<qint64>(block.samples.size());
         if (first > next) {
             // Before the first sound.
@@ -55,7 +55,8 @@ void KxSoundReading::AddTo(KxSubjectRecord& record, const QString& path, int tra
     constexpr qint64 samplesPerLevel = KxSoundMeter::SamplesPerSecond / KxSoundSpan::LevelsPerSecond;
     for (const auto& [first, last] : spans) {
         if (first > 0) {
-            (*reader)->Seek(first * 1000000 / KxSoundSpan::LevelsPerSecond);
+            (*reader)->Seek(
+                KxFrameTime::ToMicroseconds(first, {KxSoundSpan::LevelsPerSecond, 1}, KxFrameTime::Rounding::Down));
         }
         KxSoundSpan span = Measured(**reader, first * samplesPerLevel, (last + 1) * samplesPerLevel, first, cancel);
         if (!span.levels.empty()) {
