@@ -1,9 +1,15 @@
 #include <Apps/AutoReframe/Backend/HostMediaBackend.h>
+#include <KxWidgets/Windows/KxMessageResponder.h>
 #include <Tests/Support/MadeVideo.h>
 
+#include <KrAutoReframe/KrAutoReframeDialog.h>
+
+#include <QApplication>
+#include <QFileDialog>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 
 #include <gtest/gtest.h>
 
@@ -46,6 +52,41 @@ TEST_F(TestHostMediaBackend, AnErrorNamesTheFileAndTheReason)
     EXPECT_EQ(m_backend.Open(sound, KxCancelToken()).Message(),
               QStringLiteral("Cannot open tone.wav: it has no moving picture."));
     EXPECT_TRUE(m_backend.Open(m_folder.path(), KxCancelToken()).Message().endsWith(QLatin1String("it is a folder.")));
+}
+
+TEST_F(TestHostMediaBackend, TheDialogsFileChooserRefusesSoundAloneWithTheReasonAndStaysOpen)
+{
+    const QString sound = m_folder.filePath(QStringLiteral("sound.mp4"));
+    ASSERT_TRUE(MadeVideo::RunFfmpeg({QStringLiteral("-f"), QStringLiteral("lavfi"), QStringLiteral("-i"),
+                                      QStringLiteral("sine=duration=1"), sound}));
+    const QString video = MakeClip(QStringLiteral("video.mp4"));
+    KxResult<MediaFile> media = m_backend.Open(video, KxCancelToken());
+    ASSERT_TRUE(media);
+    QStringList boxes;
+    KrMessageDialog::SetResponder([&boxes](const KrMessageDialog::Shown& shown) {
+        boxes += shown.text;
+        return true;
+    });
+    bool staysOpen = false;
+    QTimer::singleShot(0, qApp, [&] {
+        auto* const dialog = qobject_cast<KrAutoReframeDialog*>(QApplication::activeModalWidget());
+        QTimer::singleShot(0, qApp, [&] {
+            auto* const chooser = QApplication::activeModalWidget()->findChild<QFileDialog*>();
+            chooser->setDirectory(m_folder.path());
+            chooser->selectFile(sound);
+            QMetaObject::invokeMethod(chooser, "accept");
+            staysOpen = chooser->isVisible();
+            QMetaObject::invokeMethod(chooser, "reject");
+        });
+        dialog->slotOpenImportDialog();
+        dialog->close();
+    });
+    QWidget parent;
+    m_backend.Reframe(*media, parent, {});
+    KrMessageDialog::SetResponder({});
+    EXPECT_TRUE(staysOpen);
+    ASSERT_FALSE(boxes.isEmpty());
+    EXPECT_EQ(boxes.first(), QStringLiteral("Cannot open sound.mp4: it has no moving picture."));
 }
 
 TEST_F(TestHostMediaBackend, MakesAThumbnailThatFits)
