@@ -4,14 +4,14 @@
   constants  constants of namespaces, classes and functions (static) are CamelCase, constexpr locals are camelBack; Packaging/tidy checks
              all names, but takes too long for every run of the tests
   platforms  operating systems are told apart by files (Src/KxCore/Posix, Src/KxCore/Windows), not by conditions in the sources
-  sleeps     a test waits for a condition or a signal; a pause is too short on a busy machine and too long on any other
+  sleeps     a test waits for a condition or a signal; a pause is too short on a busy machine and too long on any other, a spin takes a core
   checks     the macros of QtTest do not fail a test of GoogleTest: they end it, and it passes (Tests/Support/Eventually.h)
 """
 import os, re, sys
 
 CONSTANT = re.compile(r'^(\s*)((?:static |inline |thread_local )*)(?:constexpr|(?<![\w ])const) (?!auto \[)[^(={;]*?[\s*&](?!operator)(\w+)(?:\[\w*\])?\s*(?:[={;]|$)')
 SLEEP = re.compile(r'\b(?:qWait|qSleep|sleep_for|sleep_until|msleep|usleep|nanosleep)\s*\(|'
-                   r'\bQThread::sleep\s*\(')
+                   r'\bQThread::sleep\s*\(|\bthis_thread::yield\s*\(')
 QT_CHECK = re.compile(r'\bQ(?:TRY_\w+|VERIFY2?|COMPARE|FAIL)\s*\(')
 
 PLATFORM = re.compile(r'^\s*#\s*(?:el)?if.*\b(?:_WIN32|_WIN64|__MINGW\w+|_MSC_VER|__GLIBC__|__linux__|__unix__|__APPLE__|Q_OS_\w+|SIG[A-Z]+|E[A-Z]{3,})\b')

@@ -1,13 +1,15 @@
 #include <KxCore/KxInterrupt.h>
 
+#include <Tests/Support/Eventually.h>
+
 #include <QCoreApplication>
 #include <QProcess>
 
 #include <gtest/gtest.h>
 
 #include <cstdlib>
+#include <future>
 #include <optional>
-#include <thread>
 
 #include <windows.h>
 
@@ -38,9 +40,7 @@ std::optional<int> ExitStatusOf(const char* test)
 
 void WaitForRequest()
 {
-    while (!KxInterrupt::IsRequested()) {
-        std::this_thread::yield();
-    }
+    (void)QTest::qWaitFor([] { return KxInterrupt::IsRequested(); }, EventuallyMs);
 }
 
 // Wine does not deliver Ctrl+Break to a console without a window.
@@ -72,9 +72,7 @@ TEST(Console, DISABLED_TwoEvents)
     WaitForRequest();
     PressControlC();
     // The system has to end the process.
-    for (;;) {
-        std::this_thread::yield();
-    }
+    std::promise<void>().get_future().wait();
 }
 
 TEST(KxInterrupt, AConsoleEventIsARequest)
