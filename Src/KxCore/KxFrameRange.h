@@ -8,5 +8,4 @@ struct KxFrameRange {
     qint64 end = 0; ///< after the last one
 
     qint64 Count() const { return end - first; }
-    bool Contains(qint64 frame) const { return frame >= first && frame < end; }
 };

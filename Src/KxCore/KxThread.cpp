@@ -60,11 +60,6 @@ void KxThread::Join()
     }
 }
 
-bool KxThread::IsCurrent() const
-{
-    return m_thread.get_id() == std::this_thread::get_id();
-}
-
 KxError KxThread::Failure() const
 {
     return m_state ? m_state->failure : std::nullopt;

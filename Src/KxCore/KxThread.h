@@ -29,8 +29,6 @@ public:
 
     /// Waits for the end of the work. May be called twice, but not by the thread itself.
     void Join();
-    /// Whether the caller runs on this thread.
-    bool IsCurrent() const;
     /// The error message of an exception that left the work. Valid after Join().
     KxError Failure() const;
 

@@ -49,11 +49,6 @@ int KxStreamInfo::bitRate() const
     return m_facts->video ? ClampToInt(m_facts->video->bitRate) : 0;
 }
 
-int KxStreamInfo::streamCount() const
-{
-    return m_facts->audio.size();
-}
-
 int KxStreamInfo::bitRate(int stream) const
 {
     return stream >= 0 && stream < m_facts->audio.size() ? ClampToInt(m_facts->audio.at(stream).bitRate) : 0;

@@ -21,7 +21,6 @@ public:
     QSize resolution() const override;
     int bitRate() const override;
 
-    int streamCount() const override;
     int bitRate(int stream) const override;
 
 private:

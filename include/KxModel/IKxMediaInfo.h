@@ -39,7 +39,6 @@ class KXMODEL_API IKxAudioMediaInfo : public virtual IKxMediaInfo
 public:
     ~IKxAudioMediaInfo() override;
 
-    virtual int streamCount() const = 0;
     /// Bits a second of the stream with this number (0 is the first audio stream); 0 when unknown or out of range.
     virtual int bitRate(int stream) const = 0;
 };

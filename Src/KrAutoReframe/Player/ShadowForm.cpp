@@ -67,11 +67,6 @@ QRect ShadowForm::CropArea() const
     return {outline.topLeft(), outline.size() + QSize(1, 1)};
 }
 
-bool ShadowForm::IsEditedFrame() const
-{
-    return m_editedFrame;
-}
-
 void ShadowForm::SetEditedFrame(bool isEdited)
 {
     m_editedFrame = isEdited;

@@ -37,7 +37,6 @@ public:
     QRect CropArea() const;
 
     /// Whether the current frame is an edited one; it determines the outline's colour. Setting it does not repaint.
-    bool IsEditedFrame() const;
     void SetEditedFrame(bool isEdited);
 
     /// A ring around the crop that shows where the keyboard focus is; initially there is none.

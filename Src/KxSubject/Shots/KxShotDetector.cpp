@@ -204,12 +204,3 @@ std::vector<KxShotBoundary> KxShotDetector::Boundaries(double frameRate) const
     }
     return boundaries;
 }
-
-std::vector<std::int64_t> KxShotDetector::Cuts(double frameRate) const
-{
-    std::vector<std::int64_t> cuts;
-    for (const KxShotBoundary& boundary : Boundaries(frameRate)) {
-        cuts.push_back(boundary.frame);
-    }
-    return cuts;
-}

@@ -36,10 +36,7 @@ public:
     /// `picture` is CV_8UC3 in BGR order, of any size; `frame` grows from call to call.
     void AddPicture(std::int64_t frame, const cv::Mat& picture);
 
-    /// The first frames of the shots after the first one, growing.
-    std::vector<std::int64_t> Cuts(double frameRate) const;
-
-    /// The same with kind and extent.
+    /// Where the shots after the first one begin, growing.
     std::vector<KxShotBoundary> Boundaries(double frameRate) const;
 
 private:

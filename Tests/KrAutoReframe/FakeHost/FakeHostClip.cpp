@@ -38,7 +38,6 @@ public:
     bool hasVideoStream() const override { return true; }
     bool hasAudioStream() const override { return true; }
     int bitRate() const override { return VideoInfo::bitRate(); }
-    int streamCount() const override { return GetFacts().audioBitRates.size(); }
     int bitRate(int stream) const override { return GetFacts().audioBitRates.value(stream); }
 };
 

@@ -110,7 +110,6 @@ TEST_F(ShadowFormTest, IsATranslucentToolWindowThatTakesNoFocus)
     EXPECT_TRUE(form->testAttribute(Qt::WA_ShowWithoutActivating));
     EXPECT_TRUE(form->hasMouseTracking());
     EXPECT_TRUE(form->GetPictureLabel()->hasMouseTracking());
-    EXPECT_FALSE(form->IsEditedFrame());
     EXPECT_TRUE(ShadowForm(nullptr).GetCropRect().isNull());
 }
 

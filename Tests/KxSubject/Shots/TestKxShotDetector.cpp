@@ -27,13 +27,18 @@ std::vector<KxShotBoundary> Boundaries(int frames, const std::function<cv::Mat(i
     return detector.Boundaries(FrameRate);
 }
 
+std::vector<std::int64_t> FramesOf(const std::vector<KxShotBoundary>& boundaries)
+{
+    std::vector<std::int64_t> frames;
+    for (const KxShotBoundary& boundary : boundaries) {
+        frames.push_back(boundary.frame);
+    }
+    return frames;
+}
+
 std::vector<std::int64_t> Cuts(int frames, const std::function<cv::Mat(int frame)>& draw, int step = 1)
 {
-    std::vector<std::int64_t> cuts;
-    for (const KxShotBoundary& boundary : Boundaries(frames, draw, step)) {
-        cuts.push_back(boundary.frame);
-    }
-    return cuts;
+    return FramesOf(Boundaries(frames, draw, step));
 }
 
 /// Pictures of shots that begin at these frames.
@@ -80,7 +85,7 @@ TEST(KxShotDetector, Case8AShotOfExactlyTheMinimumLengthIsKeptAndAShorterOneIsNo
         for (int frame = 0; frame < 90; ++frame) {
             detector.AddPicture(frame, Shots(starts)(frame));
         }
-        return detector.Cuts(rate);
+        return FramesOf(detector.Boundaries(rate));
     };
     EXPECT_THAT(cuts({40, 48}), ElementsAre(40, 48));
     EXPECT_THAT(cuts({40, 47}), SizeIs(1));
