@@ -134,7 +134,7 @@ KxResult<CropTrack> CropTrackFile::Read(const QString& path, qint64 frameCount)
     if (!file.open(QIODevice::ReadOnly)) {
         return Result::Failure(Texts::tr("Cannot open %1: %2.").arg(path, KxFileErrorText(file)));
     }
-    // Four numbers of 17 digits, indented by a person's editor, stay below.
+    // Four numbers of 17 digits, indented by an editor, take less.
     constexpr qint64 baseBytes = 64 * 1024;
     constexpr qint64 bytesPerFrame = 256;
     if (file.size() > baseBytes + bytesPerFrame * frameCount) {

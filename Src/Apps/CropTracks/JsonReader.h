@@ -5,8 +5,7 @@
 
 class QIODevice;
 
-/// Reads JSON token by token, so that memory does not grow with the file. Whether the tokens stand in a valid order is
-/// for the caller to check.
+/// Reads JSON token by token, so that memory does not grow with the file. The caller checks the order of the tokens.
 class JsonReader
 {
 public:

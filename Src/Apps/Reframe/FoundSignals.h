@@ -25,7 +25,7 @@ std::size_t ShotAt(const KxSubjectFindings& findings, qint64 frame);
 float StrongestSum(const KxSubjectFindings& findings);
 /// The share of the dominant signal in all signals of a shot, 0 to 1; 0 without any.
 double DominantShare(const KxSubjectFindings& findings, const KxSubjectFindings::Shot& shot);
-/// Why a person should look at a shot; empty if nothing speaks against it. A fifth of the shots of ordinary videos is
+/// Why a person should look at a shot; empty if there is no reason. A fifth of the shots of ordinary videos is
 /// doubtful.
 QString Doubt(const KxSubjectFindings::Shot& shot);
 /// What the crop does about people who talk, in words; empty if there are none, or nothing is known.

@@ -149,7 +149,7 @@ void ReframeReporter::WriteJson(const QString& event, const QString& input, QJso
     facts.insert(QStringLiteral("input"), input);
     m_status.Write(facts);
     if (m_format == Format::Json) {
-        // Quiet is without progress.
+        // Quiet means no progress either.
         if (!m_quiet || event != QLatin1String("progress")) {
             WriteOutput(QJsonDocument(facts).toJson(QJsonDocument::Compact) + '\n');
         }

@@ -63,7 +63,7 @@ KrAutoReframeDialog::~KrAutoReframeDialog()
     m_playerView->Pause();
     m_process->StopProcess();
     LeaveSource();
-    // It watches the player's widgets, which are destroyed before it otherwise.
+    // It watches the player's widgets, which would otherwise be destroyed first.
     delete Extension();
     releaseMediaItem(m_importedMedia);
 }

@@ -41,7 +41,7 @@ public:
     KrDialogExtension(KrAutoReframeExtensions& host, const Parts& parts, QObject* parent);
     ~KrDialogExtension() override;
 
-    /// Call it before another source is opened: what happens to the edits until then is not the person's doing.
+    /// Call it before another source is opened: changes of the edits until then are not the person's.
     void LeaveSource();
     /// Waits a moment for the end of the analysis that was just started. False if it takes longer, so that its progress
     /// has to be shown.
@@ -101,7 +101,7 @@ private:
     /// What they were made with.
     Settings m_shown;
     QList<KxAutoReframeChoice> m_shownChoices;
-    /// What became of choices that were made for another cut of the video; empty: nothing.
+    /// For the person: what happened to choices that were made for another cut of the video; empty: nothing.
     QString m_placement;
     KrEditPictures m_edits;
     /// Null if the host's service has no shots.

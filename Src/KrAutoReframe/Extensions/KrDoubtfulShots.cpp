@@ -17,7 +17,7 @@ namespace
 
 using Action = IKxShortcutEditManager::Action;
 
-// A glance in passing, while the slider is dragged through, is no look.
+// A shot that the slider is dragged through does not count as seen.
 constexpr int LookMs = 1000;
 
 QKeySequence KeysOf(int actionId)

@@ -28,7 +28,7 @@ public:
 
     /// As it was when one of the above was called.
     const KrKeptEdits& Edits() const { return m_edits; }
-    /// For the person, what became of the edit points; empty: nothing.
+    /// For the person: what happened to the edit points; empty: nothing.
     QString Message() const { return m_message; }
 
 private:

@@ -46,7 +46,7 @@ public:
                      const Queries& queries, QObject* parent);
     ~KrFollowControls() override;
 
-    /// Ends what the person has begun.
+    /// Ends the drag or adjustment that is under way.
     void Clear();
 
 protected:

@@ -20,7 +20,7 @@ public:
     /// Fills the panes, which decide for themselves.
     void Fill(const KrRatioPane::Source& source);
     void ShowFrame(int frame);
-    /// Before the source goes.
+    /// Call it before the source is released.
     void Clear();
 
 protected:

@@ -22,7 +22,7 @@ KxResult<KxRenderSettings> ExportRecord::Read(const QVariant& record)
     settings.frameRate = values.value(QStringLiteral("frame_rate")).toDouble();
     settings.videoBitRate = values.value(QStringLiteral("video_bit_rate")).toInt();
     settings.audioBitRate = values.value(QStringLiteral("audio_bit_rate")).toInt();
-    // A bit rate is asked for by those who want the sound encoded.
+    // A record with a bit rate asks for encoded sound.
     settings.format.sound =
         settings.audioBitRate > 0 ? KxOutputFormat::Sound::Encoded : KxOutputFormat::Sound::Automatic;
     if (settings.resolution.isEmpty()) {

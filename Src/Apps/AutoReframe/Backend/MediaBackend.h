@@ -43,9 +43,9 @@ struct VideoEdits {
     bool isAnalyzed = false;
     /// The crops that the person placed, by frame, in fractions of the picture.
     QMap<uint, QRectF> editPoints;
-    QMap<uint, QByteArray> editPictures; ///< text around each; the program does not look into it
+    QMap<uint, QByteArray> editPictures; ///< text about the pictures around each; opaque to the program
     QList<KrUnplacedEdit> unplacedEdits;
-    QByteArray choices; ///< JSON; the program does not look into it
+    QByteArray choices; ///< JSON; opaque to the program
     /// First frames of the doubtful shots that the person has looked at, ascending.
     QList<uint> seenShots;
 
@@ -102,7 +102,7 @@ struct FoundCrops {
     ExportRequest request;
     /// First frames of the doubtful shots, ascending.
     QList<uint> doubtfulShots;
-    /// Null unless done. Only the backend looks into it.
+    /// Null unless done. Opaque to all but the backend.
     std::shared_ptr<const CropTrack> track;
     std::shared_ptr<const KxCroppedClip> clip; ///< the same
 };

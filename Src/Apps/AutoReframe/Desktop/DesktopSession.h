@@ -21,6 +21,6 @@ public:
     /// the person.
     virtual void PreventSuspend(const QString& reason) = 0;
     virtual void AllowSuspend() = 0;
-    /// From 0 to 1 at the program's entry in the launcher; nothing removes it.
+    /// From 0 to 1 at the program's entry in the launcher; no value removes it.
     virtual void ShowProgress(std::optional<double> progress) = 0;
 };

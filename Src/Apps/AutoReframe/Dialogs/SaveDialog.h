@@ -9,8 +9,8 @@ class KxOpenFileLineEdit;
 class KxPushButton;
 class QVBoxLayout;
 
-/// Asks for a file name and a folder; derived dialogs add what else is to be chosen. Below stands an example or what is
-/// wrong. The dialog is accepted only if its folder can be written to.
+/// Asks for a file name and a folder; derived dialogs add what else is to be chosen. Below them it shows an example, or
+/// the problem if there is one. The dialog is accepted only if its folder can be written to.
 class SaveDialog : public KxFramelessDialog
 {
     Q_OBJECT
@@ -19,7 +19,7 @@ protected:
     SaveDialog(const QString& name, QWidget* parent);
     ~SaveDialog() override;
 
-    /// Why the dialog cannot be accepted as it is filled.
+    /// Why the dialog cannot be accepted with its present entries.
     virtual KxError Problem() const = 0;
     /// What is shown where there is no problem.
     virtual QString Example() const;

@@ -16,7 +16,7 @@ public:
     ExportKeeper(ExportQueue& queue, LibraryStore& store, QObject* parent);
     ~ExportKeeper() override;
 
-    /// What happens to the queue from now on is the end of the program, not the person's wish: unfinished exports are
+    /// From now on the queue changes because the program ends, not because the person wants it: unfinished exports are
     /// offered at the next start.
     void StopSaving();
 

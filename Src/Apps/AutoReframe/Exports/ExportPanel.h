@@ -20,7 +20,7 @@ public:
     ExportPanel(ExportQueue& queue, QWidget* parent);
     ~ExportPanel() override;
 
-    /// While the exports of the last run are read, the empty list explains nothing.
+    /// While the exports of the last run are read, the empty list shows no explanation.
     void SetLoading(bool isLoading);
 
 Q_SIGNALS:

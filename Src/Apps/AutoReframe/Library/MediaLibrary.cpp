@@ -151,7 +151,7 @@ void MediaLibrary::Skip(int files)
 
 void MediaLibrary::ImportFolders()
 {
-    // They wait for the backend, which knows what a video is called.
+    // They wait for the backend, which knows the names of video files.
     if (m_finder == nullptr) {
         return;
     }

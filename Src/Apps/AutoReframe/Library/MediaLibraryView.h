@@ -18,7 +18,7 @@ public:
 
     /// Whether files that can be dropped are being dragged over the window.
     void SetDropActive(bool isActive);
-    /// While the videos of the last run are read, an empty library invites nobody to fill it.
+    /// While the videos of the last run are read, an empty library shows no invitation to import.
     void SetLoading(bool isLoading);
     /// In the order of the library.
     QModelIndexList SelectedVideos() const;

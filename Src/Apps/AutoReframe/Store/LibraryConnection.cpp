@@ -29,7 +29,7 @@ enum SqliteCode {
 
 int CodeOf(const QSqlError& error)
 {
-    // The other bits tell kinds of one code apart.
+    // The other bits distinguish kinds of one code.
     return error.nativeErrorCode().toInt() & 0xff;
 }
 

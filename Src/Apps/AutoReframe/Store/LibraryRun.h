@@ -6,8 +6,8 @@
 
 class QLockFile;
 
-/// One run of the program, marked by a lock file beside the database while it lives. So another run can tell exports of
-/// a program that is still working from those of one that was killed.
+/// One run of the program, marked by a lock file beside the database while it lives. So another run can distinguish
+/// exports of a program that is still working from those of one that was killed.
 class LibraryRun
 {
 public:
