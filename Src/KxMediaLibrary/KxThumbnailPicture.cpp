@@ -18,7 +18,7 @@ struct Texts {
 /// Where pictures are taken, as fractions of the video's length.
 constexpr double Places[] = {0.1, 0.35, 0.65};
 
-/// Black, white or fog: a picture that does not tell one video from another.
+/// Black, white or fog: a picture by which no video is recognised.
 bool IsOfOneColour(const QImage& picture)
 {
     constexpr int leastContrast = 24;

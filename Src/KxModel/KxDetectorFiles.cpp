@@ -100,8 +100,8 @@ QByteArray StatedChecksum(const QString& folder, const QString& name)
     return {};
 }
 
-/// Of the file as its makers publish it. The object detector is converted on the person's machine, whose ONNX library
-/// decides on its bytes.
+/// Of the file as its makers publish it. The object detector is converted on the person's machine, so its bytes depend
+/// on the version of the ONNX library there.
 QByteArray PublishedChecksum(const QString& name)
 {
     return name == FaceDetectorName() ? QByteArray("50ef07f702a31741ca46a4c0d947773b64143b9362780237bf0d427d6c79bab7")

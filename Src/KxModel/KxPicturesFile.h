@@ -13,11 +13,11 @@
 
 /// A file with the small pictures of a part of a video, losslessly compressed. Several computers make the files of one
 /// video, each of its part; an analysis of all these pictures finds exactly what an analysis of the video finds. What
-/// depends on the pictures before, such as tracks and cuts, is looked for in that analysis alone, because its state at
-/// the first frame of a part depends on the whole video before.
+/// depends on earlier pictures, such as tracks and cuts, is left to that analysis, because its state at the first frame
+/// of a part depends on the whole video before.
 ///
-/// Each file begins with the pictures of the half second before its part. They show that decoding, which begins at
-/// a key frame, yields the pictures that the part before has.
+/// Each file begins with the pictures of the half second before its part. They show that decoding, which begins at a
+/// key frame, yields the same pictures as in the previous part.
 namespace KxPicturesFile
 {
 struct Facts {

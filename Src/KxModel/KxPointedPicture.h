@@ -29,7 +29,7 @@ enum class Seen { Unknown, Nothing, Something };
 /// Without an analysis both of the latter have to be clearer: a region is cut off by two edges.
 KXMODEL_API KxAutoReframeGuess GuessIn(const QImage& picture, const QPointF& point, Seen seen);
 
-/// Whether there is nothing in `box` that could be told from its surroundings in another picture: hardly any edges. A
+/// Whether nothing in `box` could be distinguished from its surroundings in another picture: it has hardly any edges. A
 /// wall with a pattern has edges.
 KXMODEL_API bool IsPlain(const QImage& picture, const QRectF& box);
 

@@ -13,8 +13,8 @@ struct KxSubjectModels;
 struct KxSubjectRecord;
 
 /// The records of the videos analysed last, so that another aspect ratio, speed or choice needs no decoding: a few in
-/// memory and, where a folder is set, more on the disk. Whatever goes wrong with the folder only costs the next
-/// analysis its time. Any thread.
+/// memory and, where a folder is set, more on the disk. A failure of the folder only costs the next analysis its time.
+/// Any thread.
 class KXMODEL_API KxRecordStore
 {
 public:

@@ -198,7 +198,7 @@ std::shared_ptr<const KxSubjectRecord> KxVideoAnalysis::Observe(KxSubjectModels 
         result.outcome = KxOutcome::Cancelled;
         return nullptr;
     }
-    // What the person was warned of, they are warned of again.
+    // The warnings of the earlier analysis apply again.
     if (m_settings.records && result.warnings.isEmpty()) {
         m_settings.records->Add(key, record);
     }
@@ -260,7 +260,7 @@ KxAnalysis::Result KxVideoAnalysis::Run(const std::function<void(int percent)>& 
     const bool follows = std::any_of(m_settings.choices.begin(), m_settings.choices.end(),
                                      [](const KxSubjectChoice& choice) { return !choice.seeds.empty(); });
     std::shared_ptr<const KxSubjectRecord> record = FindRecord(key);
-    // Of the whole: following looks at some shots, observing at all of them.
+    // Of the whole progress: following looks at some shots, observing at all of them.
     const int observing = record ? 0 : follows ? 80 : 100;
     const auto report = [&](int percent) {
         if (percent > reported) {

@@ -28,8 +28,8 @@ KxPictureView ViewOf(const QImage& image)
 } // namespace
 
 /// Passes on from the consumer to the producer whether mouths are watched, always with the same delay. The producer
-/// learns what was so after the picture that it put `Delay` pictures ago; as the queue holds fewer, that one has been
-/// consumed. So the record does not depend on which thread is faster.
+/// learns what was so after the picture that it put `Delay` pictures ago; because the queue holds fewer, that one has
+/// been consumed. So the record does not depend on which thread is faster.
 class KxVideoObservation::Watch
 {
 public:

@@ -171,7 +171,7 @@ KxSubjectOptions::Reaction Decider::ReactionIn(const ShotEvidence& evidence) con
 {
     KxSubjectOptions::Reaction reaction = m_options.For(m_request.speed);
     if (evidence.chosen.Follows()) {
-        // Who points at something wants it in the picture more than a calm camera.
+        // A person who points at something wants it in the picture more than a calm camera.
         reaction.smoothingSeconds = std::min(reaction.smoothingSeconds, m_options.follow.smoothingSeconds);
     }
     return reaction;

@@ -21,6 +21,6 @@ struct KxSubjectDecision {
     KxSubjectFindings findings; ///< empty unless the request wants them
 };
 
-/// Depends on its arguments alone. Cancelled: without crops, soon.
+/// Depends on its arguments alone. Once cancelled, returns soon, without crops.
 KXSUBJECT_API KxSubjectDecision KxDecide(const KxSubjectRecord& record, const KxSubjectRequest& request,
                                          const KxSubjectOptions& options, const KxCancelToken& cancel);

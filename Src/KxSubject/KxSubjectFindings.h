@@ -34,7 +34,7 @@ struct KxSubjectFindings {
         std::int64_t end = 0;
         KxSignal dominantSignal = KxSignal::Saliency; ///< the one with the highest score over the shot
         float confidence = 0.0F;                      ///< 0 to 1, see KxShotConfidence; of speech, if followed
-        float evidence = 0.0F;                        ///< the mean sum of the samples' evidence; 0: nothing stands out
+        float evidence = 0.0F; ///< the mean sum of the samples' evidence; 0: nothing attracts attention
         KxSpeech speech = KxSpeech::None;
         int speakerChanges = 0; ///< how often the crop changes between people who speak
     };

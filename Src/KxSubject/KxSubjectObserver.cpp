@@ -56,7 +56,7 @@ private:
     void AddPrint(std::int64_t frame, const KxPictureView& picture);
 
     KxSubjectSampling m_sampling;
-    std::array<KxUsedModel, 2> m_models; ///< of objects and faces; without a name: none
+    std::array<KxUsedModel, 2> m_models; ///< of objects and faces; an empty name: none
     KxShotDetector m_shots;
     KxSignalRecorder m_signals;
     KxMouthTracks m_mouths;

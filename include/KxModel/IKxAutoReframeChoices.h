@@ -56,7 +56,7 @@ struct KxAutoReframeChoice {
 /// What is at a place in a picture.
 struct KxAutoReframeGuess {
     QRectF box;                ///< empty if the picture cannot be read
-    bool isBackground = false; ///< a wall, the sky or another surface, which cannot be told from what is around it
+    bool isBackground = false; ///< a wall, the sky or another surface, which looks like what is around it
 };
 
 /// Frames, both included, through which the analysis lost what a choice follows: a person should point at it again.

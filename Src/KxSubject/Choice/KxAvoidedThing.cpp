@@ -43,7 +43,7 @@ private:
     int m_inside = 0;
 };
 
-/// Of a motion profile, what a mover causes.
+/// The part of a motion profile that a mover causes.
 void Damp(KxPackedProfile& packed, double from, double to, double share)
 {
     KxSignalProfile profile = packed.Unpacked();

@@ -14,7 +14,7 @@ using Pictures = std::vector<KxChoicePicture>;
 
 /// Prints that differ in fewer bits are of the same picture, or of one shortly before or after it.
 constexpr int CloseBits = 11;
-/// What a time must be better by than another one that is to be preferred, in bits of each picture: less is noise.
+/// By how many bits per picture a time must fit better than another one to be preferred: less is noise.
 constexpr double ClearlyBetter = 0.3;
 /// Two days: what lies further away is not looked for.
 constexpr std::int64_t FarthestFrame = 5000000;

@@ -28,7 +28,7 @@ public:
     /// makes it worse. `centreAt` is that crop's centre, of the extent `extent`.
     void LeaveWhatIsHeld(const CentreAt& centreAt, double extent, double heldShare);
     /// The same for what the crop that follows it, around `followed`, holds no better than the automatic one: a track
-    /// that has gone astray moves faster than any crop, and then following is of no use.
+    /// that has lost the thing moves faster than any crop, and following it gains nothing.
     void LeaveWhatGainsNothing(const CentreAt& automatic, const CentreAt& followed, double extent);
 
 private:

@@ -7,7 +7,7 @@
 #include <KxSubject/KxSubjectOptions.h>
 #include <KxSubject/KxSubjectRecord.h>
 
-/// Where the faces of a sample lie along an axis. Only a face that several looks agree on counts.
+/// Where the faces of a sample lie along an axis. Only a face on which several looks agree counts.
 class KXSUBJECT_API KxFaceEvidence
 {
 public:

@@ -115,7 +115,7 @@ KxSignalProfile KxFollowEvidence::WithoutAvoided(const KxSignalProfile& evidence
             left.share[bin] *= static_cast<float>(m_options.avoidedShare);
         }
     }
-    // The rest has to win against the middle, too, as if the thing had not taken most of the evidence.
+    // The rest must still outweigh the preference for the middle, although the thing took most of the evidence.
     const double rest = static_cast<double>(left.Sum());
     const double gain = std::min(m_options.avoidedGain, static_cast<double>(evidence.Sum()) / std::max(rest, 1e-9));
     std::for_each(left.share.begin(), left.share.end(), [gain](float& share) { share *= static_cast<float>(gain); });

@@ -36,7 +36,8 @@ private:
     /// The ups and downs of the mouth, in local scores.
     KxSeries::Values Movement() const;
     void Correlate(const KxHeardSound& sound);
-    /// While nothing is heard; otherwise while it is lowest. A mouth that chews has no other.
+    /// The mouth's activity while nothing is heard; if there is always sound, its lowest activity. A chewing mouth has
+    /// no other level.
     double ActivityAtRest(const std::vector<bool>& gate) const;
 
     KxSubjectOptions::Speech m_options;

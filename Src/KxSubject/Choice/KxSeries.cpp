@@ -36,7 +36,7 @@ KxSeries::Values KxSeries::LocalScores(const Values& values, std::size_t meanRea
 
 KxSeries::Values KxSeries::WithoutWhatFollows(const Values& values, const Values& other, std::size_t reach)
 {
-    constexpr double mostShare = 2.0; // more is an accident of few values
+    constexpr double mostShare = 2.0; // more is due to chance in few values
     Values products(values.size());
     Values squares(values.size());
     for (std::size_t i = 0; i < values.size(); ++i) {

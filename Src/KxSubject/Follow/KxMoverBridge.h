@@ -18,7 +18,7 @@ public:
     /// `record` must outlive this.
     explicit KxMoverBridge(const KxSubjectRecord& record);
 
-    /// The thing was seen in this box.
+    /// Call it when the thing was seen in this box.
     void SeeAt(std::int64_t frame, const KxSubjectBox& box);
     /// A box of the size that was seen last, around the movers of that time; nothing if none of them is left.
     std::optional<KxSubjectBox> BoxAt(std::int64_t frame);

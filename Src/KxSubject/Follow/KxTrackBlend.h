@@ -15,9 +15,10 @@ struct Side {
     std::vector<KxFollowTrack::Point> points; ///< away from the seed
 };
 
-/// The points between the two seeds, without these, growing by frame. If one side alone ends on the other seed, it was
-/// right and counts alone. Where both sides agree, the box goes over from one to the other; where not, the nearer and
-/// surer one counts; where both have lost the thing, the line between the places before and after where it was seen.
+/// The points between the two seeds, without these, growing by frame. If only one side ends on the other seed, it was
+/// right and only it counts. Where both sides agree, the box moves gradually from one to the other; where they differ,
+/// the nearer and more confident one counts; where both have lost the thing, the box lies on the line between the
+/// places where it was seen before and after.
 KXSUBJECT_API std::vector<KxFollowTrack::Point> Between(const Side& left, const Side& right,
                                                         const KxSubjectOptions::Follow& options);
 } // namespace KxTrackBlend
