@@ -47,7 +47,7 @@ TEST(KxPointedPicture, AWallIsPlain)
     EXPECT_TRUE(KxPointedPicture::IsPlain(Wall(), Box));
 }
 
-TEST(KxPointedPicture, AThingInFrontOfAWallIsNot)
+TEST(KxPointedPicture, AThingInFrontOfAWallIsNotPlain)
 {
     QImage picture = Wall();
     QPainter(&picture).fillRect(QRect(138, 64, 24, 36), QColor(150, 40, 40));
@@ -67,7 +67,7 @@ TEST(KxPointedPicture, APatternThatGoesOnSharesItsColoursWithItsSurroundings)
     EXPECT_GT(KxPointedPicture::SharedColours(Wallpaper(), Box), 0.8);
 }
 
-TEST(KxPointedPicture, AThingInFrontOfAPatternDoesNot)
+TEST(KxPointedPicture, AThingInFrontOfAPatternDoesNotShareItsColours)
 {
     QImage picture = Wallpaper();
     QPainter(&picture).fillRect(QRect(130, 56, 42, 46), QColor(40, 60, 150));
@@ -115,7 +115,7 @@ TEST(KxPointedPicture, WhatAnEdgeOfThePictureCutsOffIsBackgroundWhereNothingWasS
     EXPECT_FALSE(IsBackground(curtain, point, Seen::Something));
 }
 
-TEST(KxPointedPicture, AThingThatIsWholeInThePictureIsNot)
+TEST(KxPointedPicture, AThingThatIsWholeInThePictureIsNotBackground)
 {
     const QImage thing = WithPlaid(60, 70);
     const QPointF point(0.48, 0.53);

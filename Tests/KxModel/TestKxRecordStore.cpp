@@ -16,7 +16,7 @@ namespace
 const QByteArray Key = "0123456789abcdef";
 const QByteArray OtherKey = "fedcba9876543210";
 
-/// A record of `samples` samples; `shade` tells it from others and keeps its file from shrinking to nothing.
+/// A record of `samples` samples; `shade` distinguishes it from others and keeps its file from shrinking to nothing.
 std::shared_ptr<const KxSubjectRecord> Record(int samples, int shade = 1)
 {
     KxSubjectRecord record;

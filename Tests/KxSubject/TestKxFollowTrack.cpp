@@ -42,7 +42,7 @@ TEST(KxFollowTrack, ALossOfMoreThanASecondIsReported)
     EXPECT_EQ(LossesOf(track), (Frames{{100, 140}, {202, 260}}));
 }
 
-TEST(KxFollowTrack, AShortLossIsNot)
+TEST(KxFollowTrack, AShortLossIsNotReported)
 {
     KxFollowTrack track;
     Add(track, 0, 98, 0.9F);

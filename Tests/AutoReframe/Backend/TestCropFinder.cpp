@@ -163,7 +163,7 @@ TEST_F(TestCropFinder, AnErrorMessageNamesTheVideoAndTheReason)
         Find(Request(m_folder.filePath(QStringLiteral("none.mp4")))).message.contains(QLatin1String("none.mp4")));
 }
 
-TEST_F(TestCropFinder, ACancelledOneEndsAsCancelled)
+TEST_F(TestCropFinder, ACancelledSearchEndsAsCancelled)
 {
     std::optional<FoundCrops> found;
     const auto task =
@@ -174,7 +174,7 @@ TEST_F(TestCropFinder, ACancelledOneEndsAsCancelled)
     EXPECT_TRUE(found->message.isEmpty());
 }
 
-TEST_F(TestCropFinder, OneThatIsDestroyedWhileItRunsReportsNothing)
+TEST_F(TestCropFinder, ASearchThatIsDestroyedReportsNothing)
 {
     int ends = 0;
     auto task = m_backend.FindCrops(Request(MakeClip("clip.mp4")), {{}, [&ends](const FoundCrops&) { ++ends; }});

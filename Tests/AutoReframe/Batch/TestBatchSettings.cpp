@@ -82,7 +82,7 @@ TEST(BatchSettingsTest, TheyAreReadAsTheyWereWritten)
     EXPECT_EQ(read.pattern, settings.pattern);
 }
 
-TEST(BatchSettingsTest, WhatCannotBeReadIsAsAtFirst)
+TEST(BatchSettingsTest, UnreadableSettingsBecomeTheDefaults)
 {
     for (const char* const text : {"", "no JSON", "[]", R"({"aspects":[[0,1],7,"x"]})"}) {
         const BatchSettings read = BatchSettings::FromJson(text);

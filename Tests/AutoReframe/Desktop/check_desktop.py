@@ -58,7 +58,7 @@ class TestDesktop(dbusmock.DBusTestCase):
         self.notifications = self.serve(NOTIFICATIONS, '/org/freedesktop/Notifications', NOTIFICATIONS)
         self.notifications.AddMethod('', 'Notify', 'susssasa{sv}i', 'u', 'ret = 7')
 
-    def tell(self, command):
+    def send(self, command):
         self.driver.stdin.write(command + '\n')
         answer = self.driver.stdout.readline()
         self.assertEqual(answer, 'done %s\n' % command)
@@ -87,21 +87,21 @@ class TestDesktop(dbusmock.DBusTestCase):
             return True
 
     def check_lock(self, holds):
-        self.tell('add clip.mp4')
+        self.send('add clip.mp4')
         self.wait_for('held while an export runs', holds)
-        self.tell('progress 5000')
+        self.send('progress 5000')
         self.assertTrue(holds())
-        self.tell('end')
+        self.send('end')
         self.wait_for('released at the end', lambda: not holds())
-        self.tell('add clip.mp4')
+        self.send('add clip.mp4')
         self.wait_for('held again', holds)
-        self.tell('pause')
+        self.send('pause')
         self.wait_for('released while paused', lambda: not holds())
-        self.tell('continue')
+        self.send('continue')
         self.wait_for('held after the pause', holds)
-        self.tell('cancel')
+        self.send('cancel')
         self.wait_for('released when cancelled', lambda: not holds())
-        self.tell('add clip.mp4')
+        self.send('add clip.mp4')
         self.wait_for('held before the kill', holds)
         self.driver.send_signal(signal.SIGKILL)
 
@@ -127,8 +127,8 @@ class TestDesktop(dbusmock.DBusTestCase):
         self.serve_portal()
         self.portal.AddMethod('org.freedesktop.portal.Inhibit', 'Inhibit', 'sua{sv}', 'o',
                               'import time; time.sleep(0.5); ret = dbus.ObjectPath("%s")' % REQUEST)
-        self.tell('add clip.mp4')
-        self.tell('cancel')
+        self.send('add clip.mp4')
+        self.send('cancel')
         self.wait_for('asked', lambda: len(self.portal.GetMethodCalls('Inhibit')) == 1)
         self.wait_for('released', lambda: len(self.request.GetMethodCalls('Close')) == 1)
 
@@ -137,7 +137,7 @@ class TestDesktop(dbusmock.DBusTestCase):
         for commands in [['look', 'add seen.mp4', 'end', 'look away'], ['add cancelled.mp4', 'cancel'], ['add clip.mp4', 'end'],
                          ['add bad.mp4', 'fail No <space> left.']]:
             for command in commands:
-                self.tell(command)
+                self.send(command)
         self.wait_for('two notifications', lambda: len(self.notifications.GetMethodCalls('Notify')) == 2)
         done, failed = (list(arguments) for _, arguments in self.notifications.GetMethodCalls('Notify'))
         self.assertEqual(done, ['Auto Reframe', 0, 'auto-reframe', 'Exported clip.mp4', '', [], {'desktop-entry': 'auto-reframe'}, -1])
@@ -145,28 +145,28 @@ class TestDesktop(dbusmock.DBusTestCase):
 
     def test_next_notification_replaces_the_last_one(self):
         self.serve_notifications()
-        self.tell('add first.mp4')
-        self.tell('end')
+        self.send('add first.mp4')
+        self.send('end')
         self.wait_for('the first', lambda: len(self.notifications.GetMethodCalls('Notify')) == 1)
         # Its answer precedes that of a later call on the same connection.
         self.serve_portal()
-        self.tell('add second.mp4')
+        self.send('add second.mp4')
         self.wait_for('held', self.portal_holds)
-        self.tell('end')
+        self.send('end')
         self.wait_for('the second', lambda: len(self.notifications.GetMethodCalls('Notify')) == 2)
         self.assertEqual(self.notifications.GetMethodCalls('Notify')[1][1][1], 7)
 
     def test_launcher_shows_progress(self):
-        self.tell('add clip.mp4')
-        self.tell('progress 2500')
+        self.send('add clip.mp4')
+        self.send('progress 2500')
         self.wait_for('a quarter', lambda: self.updates and self.updates[-1][1]['progress'] == 0.25)
         self.assertEqual(self.updates[-1], ('application://auto-reframe.desktop', {'progress': 0.25, 'progress-visible': True}))
-        self.tell('end')
+        self.send('end')
         self.wait_for('removed', lambda: not self.updates[-1][1]['progress-visible'])
 
     def test_nothing_happens_where_there_are_no_services(self):
         for command in ['add clip.mp4', 'progress 5000', 'end', 'add other.mp4', 'fail Disk full.', 'add third.mp4', 'cancel']:
-            self.tell(command)
+            self.send(command)
         self.assertIsNone(self.driver.poll())
 
 

@@ -29,7 +29,7 @@ StoredExport Export(qint64 key, State state)
 
 } // namespace
 
-TEST_F(TestLibraryDatabase, ANewOneIsEmptyAndOfTheCurrentVersion)
+TEST_F(TestLibraryDatabase, ANewFileIsEmptyAndOfTheCurrentVersion)
 {
     const auto database = Open();
     const StoredContents contents = Contents(*database);

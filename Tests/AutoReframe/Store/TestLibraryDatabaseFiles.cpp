@@ -86,7 +86,7 @@ TEST_F(TestLibraryDatabase, AFileOfANewerVersionIsLeftAlone)
     EXPECT_EQ(connection.Value(QStringLiteral("PRAGMA user_version"))->toInt(), 99);
 }
 
-TEST_F(TestLibraryDatabase, AFileThatIsNoDatabaseIsSetAsideAndANewOneBegun)
+TEST_F(TestLibraryDatabase, AFileThatIsNoDatabaseIsSetAsideAndANewOneCreated)
 {
     const QByteArray content(10000, 'x');
     Write(content);

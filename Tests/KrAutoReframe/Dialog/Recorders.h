@@ -12,8 +12,8 @@
 #include <optional>
 #include <vector>
 
-/// Stands in for the person, the usage tracker and the machine while it lives, and records what they were told. The
-/// host's configuration is an empty one of its own.
+/// Stands in for the person, the usage tracker and the machine while it lives, and records what was reported to them.
+/// The host's configuration is an empty one of its own.
 class Recorders
 {
 public:

@@ -107,7 +107,7 @@ TEST_F(KrDoubtfulShotsTest, AHostMayStartAtTheFirstShotToLookAt)
     EXPECT_FALSE(Player().calls.contains(QStringLiteral("seek 75 0 0"))) << "only the first result";
 }
 
-TEST_F(KrDoubtfulShotsTest, ADragAcrossAShotIsNoLook)
+TEST_F(KrDoubtfulShotsTest, ADragAcrossAShotDoesNotMarkItAsSeen)
 {
     AnalyseFourShots();
     FakePlayer::ShowFrame(*presenter, 30);

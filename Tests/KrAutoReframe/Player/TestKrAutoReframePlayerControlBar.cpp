@@ -335,7 +335,7 @@ TEST_F(ControlBarTest, AClickWithoutAMoveIsNoDrag)
     EXPECT_EQ(ended.count(), 1);
 }
 
-TEST_F(ControlBarTest, WithoutAPresenterItIsDeaf)
+TEST_F(ControlBarTest, WithoutAPresenterItConnectsNothing)
 {
     Bar deaf(nullptr, nullptr);
     const Heard heard(&deaf);

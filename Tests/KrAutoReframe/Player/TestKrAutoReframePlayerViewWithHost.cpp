@@ -244,8 +244,8 @@ TEST_F(PlayerViewWithHostTest, EveryControlHasANameAndIsReachedWithTab)
         const std::string name = control->objectName().toStdString();
         EXPECT_FALSE(name.empty());
         EXPECT_TRUE(reached.contains(control)) << name;
-        QAccessibleInterface* const told = QAccessible::queryAccessibleInterface(control);
-        ASSERT_NE(told, nullptr) << name;
-        EXPECT_FALSE(told->text(QAccessible::Name).isEmpty()) << name;
+        QAccessibleInterface* const accessible = QAccessible::queryAccessibleInterface(control);
+        ASSERT_NE(accessible, nullptr) << name;
+        EXPECT_FALSE(accessible->text(QAccessible::Name).isEmpty()) << name;
     }
 }

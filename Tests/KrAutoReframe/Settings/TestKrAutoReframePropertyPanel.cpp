@@ -229,7 +229,7 @@ TEST_F(PropertyPanelTest, NumbersSpeedsForReports)
     EXPECT_EQ(panel.MotionSpeedToTrackValue(16), -1);
 }
 
-TEST_F(PropertyPanelTest, PutsThePreviewSwitchOnInSilence)
+TEST_F(PropertyPanelTest, TurnsThePreviewSwitchOnWithoutASignal)
 {
     Preview().setChecked(false);
     ASSERT_EQ(previews.count(), 1);

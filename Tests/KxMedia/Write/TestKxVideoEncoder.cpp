@@ -96,7 +96,7 @@ TEST(KxVideoEncoder, ABetterQualityTakesMoreBytesInEachCodec)
     }
 }
 
-TEST(KxVideoEncoder, PicturesOfTenBitsStayThat)
+TEST(KxVideoEncoder, PicturesOfTenBitsKeepTenBits)
 {
     if (!IsHere(KxOutputFormat::Codec::Hevc)) {
         GTEST_SKIP() << "this FFmpeg has no libx265";

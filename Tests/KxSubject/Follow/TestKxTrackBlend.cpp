@@ -22,7 +22,7 @@ std::vector<Point> Blend(const std::vector<Point>& left, const std::vector<Point
 
 } // namespace
 
-TEST(KxTrackBlend, WhereBothAgreeTheBoxGoesOverFromOneToTheOther)
+TEST(KxTrackBlend, WhereBothAgreeTheBoxMovesGraduallyFromOneToTheOther)
 {
     const auto points = Blend({At(25, 0.20, 0.9F), At(75, 0.40, 0.6F)}, {At(75, 0.42, 0.8F), At(25, 0.24, 0.7F)});
     ASSERT_EQ(points.size(), 2U);
@@ -32,7 +32,7 @@ TEST(KxTrackBlend, WhereBothAgreeTheBoxGoesOverFromOneToTheOther)
     EXPECT_EQ(points[1].confidence, 0.8F);
 }
 
-TEST(KxTrackBlend, WhereTheyDisagreeTheNearerAndSurerOneCounts)
+TEST(KxTrackBlend, WhereTheyDisagreeTheNearerAndMoreConfidentOneCounts)
 {
     const auto points = Blend({At(25, 0.2, 0.5F), At(75, 0.2, 0.5F)}, {At(75, 0.6, 0.5F), At(25, 0.6, 0.5F)});
     ASSERT_EQ(points.size(), 2U);
@@ -47,7 +47,7 @@ TEST(KxTrackBlend, ASideThatEndsOnTheOtherSeedWasRightAllTheWay)
     const auto points = Blend({At(25, 0.2, 0.5F), At(75, 0.4, 0.5F), At(98, 0.49, 0.5F)}, strayed);
     ASSERT_EQ(points.size(), 4U);
     EXPECT_EQ(points[2].frame, 75);
-    EXPECT_EQ(points[2].box.x, 0.4) << "the other side is nearer and surer, and somewhere else";
+    EXPECT_EQ(points[2].box.x, 0.4) << "the other side is nearer and more confident, and somewhere else";
     const auto mirrored = Blend({At(25, 0.9, 1.0F), At(98, 0.9, 1.0F)}, {At(25, 0.2, 0.5F), At(2, 0.11, 0.5F)});
     EXPECT_EQ(mirrored[1].box.x, 0.2);
 }
