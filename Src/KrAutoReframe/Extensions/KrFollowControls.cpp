@@ -77,7 +77,7 @@ KrFollowControls::~KrFollowControls()
 
 void KrFollowControls::Clear()
 {
-    m_guess.cancel();
+    StopGuessing();
     m_longPress.stop();
     m_pressedAt.reset();
     m_isDrawing = false;
@@ -125,6 +125,7 @@ bool KrFollowControls::HandleMouse(const QObject& watched, const QMouseEvent& ev
     const bool isLeft = event.button() == Qt::LeftButton;
     switch (event.type()) {
     case QEvent::MouseButtonPress:
+        StopGuessing();
         m_longPressAt = inPicture;
         if (event.button() == Qt::RightButton) {
             Press(inPicture);
@@ -165,7 +166,8 @@ bool KrFollowControls::HandlePictureKey(QEvent& event)
         return true;
     }
     const bool isKey = event.type() == QEvent::KeyPress || event.type() == QEvent::ShortcutOverride;
-    if (!isKey || static_cast<QKeyEvent&>(event).key() != Qt::Key_Escape || m_box->Box().isEmpty()) {
+    const bool hasBegun = !m_box->Box().isEmpty() || m_box->IsSeeking();
+    if (!isKey || static_cast<QKeyEvent&>(event).key() != Qt::Key_Escape || !hasBegun) {
         return false;
     }
     event.accept();
@@ -201,7 +203,6 @@ void KrFollowControls::DrawTo(const QPoint& inPicture)
 {
     m_isDrawing = m_isDrawing || (inPicture - *m_pressedAt).manhattanLength() >= QApplication::startDragDistance();
     if (m_isDrawing) {
-        m_guess.cancel();
         m_boxFrame = CurrentFrame();
         m_isGuessed = Guessed::No;
         m_isBackground = false;
@@ -227,8 +228,16 @@ void KrFollowControls::Guess(const QPointF& point)
     m_view.Pause();
     m_guessedPoint = point;
     m_boxFrame = CurrentFrame();
+    m_box->SetBox({});
+    m_box->SetSought(point);
     m_guess.setFuture(QtConcurrent::run([&service = m_service, path = m_queries.source().path, frame = m_boxFrame,
                                          point] { return service.GuessBox(path, frame, point); }));
+}
+
+void KrFollowControls::StopGuessing()
+{
+    m_guess.cancel();
+    m_box->SetSought(std::nullopt);
 }
 
 void KrFollowControls::HandleGuess()
@@ -236,6 +245,7 @@ void KrFollowControls::HandleGuess()
     if (m_guess.isCanceled() || !m_view.Overlay().isVisible()) {
         return;
     }
+    m_box->SetSought(std::nullopt);
     const KxAutoReframeGuess guess = m_guess.result();
     const QRectF found = guess.box;
     m_isGuessed = Guessed::Yes;

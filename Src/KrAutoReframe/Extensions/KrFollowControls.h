@@ -19,7 +19,8 @@ class QMouseEvent;
 
 /// Pointing at what the crop should follow. With the right button the person draws a box in the picture, or clicks, and
 /// the service guesses the box; so it does for a long press, and at the crop's centre for the Menu key. The box can be
-/// adjusted, and a menu offers what to do with it in the shot. Escape, or another frame, removes the box.
+/// adjusted, and a menu offers what to do with it in the shot. Escape, or another frame, removes the box. A guess that
+/// takes its time is shown, and ended by Escape or by a press of any button.
 /// User-interface thread.
 class KrFollowControls : public QObject
 {
@@ -63,6 +64,8 @@ private:
     void DrawTo(const QPoint& inPicture);
     void Release(const QPoint& inPicture);
     void Guess(const QPointF& point);
+    /// The guess that is under way, if any, will show nothing.
+    void StopGuessing();
     void HandleGuess();
     void OpenMenu(const QPoint& global);
     QAction* AddAction(QMenu& menu, const QString& text, KxAutoReframeChoice::Kind kind);

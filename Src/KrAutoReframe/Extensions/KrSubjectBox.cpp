@@ -13,6 +13,7 @@ constexpr QColor EdgeColour(0, 0, 0, 170);
 constexpr int HandlePx = 8;
 constexpr int GrabPx = 7;
 constexpr double LeastSide = 0.01;
+constexpr double SoughtRadiusPx = 18.0;
 constexpr Qt::Edges WholeBox = Qt::LeftEdge | Qt::TopEdge | Qt::RightEdge | Qt::BottomEdge;
 
 bool IsNear(double a, double b)
@@ -35,7 +36,23 @@ KrSubjectBox::~KrSubjectBox() = default;
 void KrSubjectBox::SetBox(const QRectF& box)
 {
     m_box = box & QRectF(0.0, 0.0, 1.0, 1.0);
-    setVisible(!m_box.isEmpty());
+    ShowOrHide();
+}
+
+void KrSubjectBox::SetSought(const std::optional<QPointF>& place)
+{
+    m_sought = place;
+    if (m_sought) {
+        setCursor(Qt::BusyCursor);
+    } else {
+        unsetCursor();
+    }
+    ShowOrHide();
+}
+
+void KrSubjectBox::ShowOrHide()
+{
+    setVisible(!m_box.isEmpty() || m_sought);
     update();
 }
 
@@ -74,7 +91,9 @@ Qt::Edges KrSubjectBox::EdgesAt(const QPoint& position) const
 void KrSubjectBox::ShowCursor(const QPoint& position)
 {
     const Qt::Edges edges = EdgesAt(position);
-    if (edges == Qt::Edges()) {
+    if (m_sought) {
+        setCursor(Qt::BusyCursor);
+    } else if (edges == Qt::Edges()) {
         unsetCursor();
     } else if (edges == WholeBox) {
         setCursor(Qt::SizeAllCursor);
@@ -144,6 +163,27 @@ void KrSubjectBox::mouseReleaseEvent(QMouseEvent* event)
 }
 
 void KrSubjectBox::paintEvent(QPaintEvent*)
+{
+    if (m_sought) {
+        PaintSought();
+    }
+    if (!m_box.isEmpty()) {
+        PaintBox();
+    }
+}
+
+void KrSubjectBox::PaintSought()
+{
+    const QPointF place(m_sought->x() * width(), m_sought->y() * height());
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(EdgeColour, 5));
+    painter.drawEllipse(place, SoughtRadiusPx, SoughtRadiusPx);
+    painter.setPen(QPen(LineColour, 2, Qt::DotLine));
+    painter.drawEllipse(place, SoughtRadiusPx, SoughtRadiusPx);
+}
+
+void KrSubjectBox::PaintBox()
 {
     const QRectF box = BoxPixels().adjusted(0.5, 0.5, -0.5, -0.5);
     QPainter painter(this);

@@ -8,9 +8,12 @@
 #include <QHelpEvent>
 #include <QLabel>
 #include <QMenu>
+#include <QThreadPool>
 #include <QToolTip>
 #include <QUndoStack>
 #include <QtTest>
+
+#include <future>
 
 namespace
 {
@@ -128,6 +131,41 @@ TEST_F(KrFollowControlsTest, WhereNothingIsGuessedABoxOfUsualSizeIsShown)
     Click(At(0.5, 0.5));
     ASSERT_EVENTUALLY(Menu() != nullptr);
     EXPECT_NEAR(box->Box().width(), 0.14, 1e-9);
+}
+
+TEST_F(KrFollowControlsTest, AGuessThatTakesItsTimeIsShown)
+{
+    std::promise<void> end;
+    taking.whileGuessing = [ended = end.get_future().share()] { ended.wait(); };
+    Click(At(0.5, 0.5));
+    EXPECT_TRUE(box->IsSeeking());
+    EXPECT_TRUE(box->isVisible());
+    EXPECT_EQ(box->cursor().shape(), Qt::BusyCursor);
+    end.set_value();
+    ASSERT_EVENTUALLY(Menu() != nullptr);
+    EXPECT_FALSE(box->IsSeeking());
+    EXPECT_NE(box->cursor().shape(), Qt::BusyCursor);
+}
+
+TEST_F(KrFollowControlsTest, EscapeOrAPressOfAButtonEndsAGuess)
+{
+    const auto press = [this] { WidgetProbe::Press(*overlay, At(0.9, 0.9)); };
+    const auto escape = [this] { QTest::keyClick(&view->PlayerWidget(), Qt::Key_Escape); };
+    for (const std::function<void()>& ending : {std::function<void()>(escape), std::function<void()>(press)}) {
+        std::promise<void> end;
+        taking.whileGuessing = [ended = end.get_future().share()] { ended.wait(); };
+        Click(At(0.5, 0.5));
+        ending();
+        EXPECT_FALSE(box->IsSeeking());
+        EXPECT_FALSE(box->isVisible());
+        WidgetProbe::Release(*overlay, At(0.9, 0.9));
+        end.set_value();
+        QThreadPool::globalInstance()->waitForDone();
+        QCoreApplication::processEvents();
+        EXPECT_EQ(Menu(), nullptr);
+    }
+    EXPECT_TRUE(dialog->isVisible());
+    EXPECT_TRUE(recorders.boxes.empty());
 }
 
 TEST_F(KrFollowControlsTest, AHandleAdjustsTheBoxAndConfirmsIt)

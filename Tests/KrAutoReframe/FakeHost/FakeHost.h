@@ -218,6 +218,8 @@ public:
     QList<IKxAutoReframeResult> decided;
     /// What is guessed, around the point.
     QSizeF guess{0.1, 0.2};
+    /// Called on the thread that guesses, if set.
+    std::function<void()> whileGuessing;
     bool isBackground = false;
 };
 

@@ -187,6 +187,9 @@ QList<KxAutoReframeChoice> ServiceWithChoices::ReadChoices(const QByteArray& tex
 
 KxAutoReframeGuess ServiceWithChoices::GuessBox(const QString& /*path*/, qint64 /*frame*/, const QPointF& point) const
 {
+    if (whileGuessing) {
+        whileGuessing();
+    }
     return {QRectF(QPointF(point.x() - guess.width() / 2.0, point.y() - guess.height() / 2.0), guess), isBackground};
 }
 
