@@ -4,6 +4,7 @@
 #include <QAbstractButton>
 #include <QFile>
 #include <QLabel>
+#include <QScrollBar>
 #include <QTest>
 #include <QTextBrowser>
 
@@ -57,6 +58,16 @@ TEST(AboutDialogTest, NamesItsVersionTheLibrariesAndTheLicences)
     const QString text = dialog.findChild<QTextBrowser*>()->toPlainText();
     EXPECT_TRUE(text.contains(QLatin1String("Apache-2.0")));
     EXPECT_TRUE(text.startsWith(QString::fromUtf8(licences.readLine()).mid(2).trimmed()));
+}
+
+TEST(AboutDialogTest, TheLicencesDoNotScrollSideways)
+{
+    AboutDialog dialog({}, nullptr);
+    dialog.show();
+    auto* const licences = dialog.findChild<QTextBrowser*>();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&dialog));
+    EXPECT_GT(licences->verticalScrollBar()->maximum(), 0);
+    EXPECT_EQ(licences->horizontalScrollBar()->maximum(), 0);
 }
 
 } // namespace

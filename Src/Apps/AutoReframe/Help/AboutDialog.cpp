@@ -13,7 +13,12 @@
 #include <QTextBrowser>
 #include <QTextCursor>
 #include <QTextTable>
+#include <QTextTableCell>
 #include <QVariant>
+
+#include <cmath>
+#include <numeric>
+#include <vector>
 
 namespace
 {
@@ -29,8 +34,29 @@ QString Licences()
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 
-/// Headings of the text's size, and tables with thin lines.
-void Format(QTextDocument& text)
+/// Columns that share `widthPx`, those with more text being wider. A table that may choose is as wide as its longest
+/// names, and scrolls sideways.
+QVector<QTextLength> ColumnsOf(const QTextTable& table, double widthPx)
+{
+    std::vector<double> weights;
+    for (int column = 0; column < table.columns(); ++column) {
+        int characters = 1;
+        for (int row = 0; row < table.rows(); ++row) {
+            const QTextTableCell cell = table.cellAt(row, column);
+            characters += cell.lastPosition() - cell.firstPosition();
+        }
+        weights.push_back(std::sqrt(characters));
+    }
+    const double all = std::accumulate(weights.begin(), weights.end(), 0.0);
+    QVector<QTextLength> columns;
+    for (const double weight : weights) {
+        columns += QTextLength(QTextLength::FixedLength, std::floor(widthPx * weight / all));
+    }
+    return columns;
+}
+
+/// Headings of the text's size, and tables with thin lines that are `widthPx` wide.
+void Format(QTextDocument& text, double widthPx)
 {
     constexpr int paragraphPx = 8;
     constexpr int cellPx = 5;
@@ -57,6 +83,7 @@ void Format(QTextDocument& text)
             format.setBorderCollapse(true);
             format.setCellPadding(cellPx);
             format.setTopMargin(paragraphPx);
+            format.setColumnWidthConstraints(ColumnsOf(*table, widthPx));
             table->setFormat(format);
         }
     }
@@ -95,6 +122,7 @@ void AboutDialog::InitUi()
     m_licences->setFixedSize(LicencesPx);
     m_licences->setOpenExternalLinks(true);
     m_licences->setTabChangesFocus(true);
+    m_licences->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     m_close = GetButtonBar()->AddPushButton_R(0, -1);
     m_close->setObjectName(QStringLiteral("AboutDialog_close"));
 
@@ -124,6 +152,8 @@ void AboutDialog::RetranslateUi()
     m_versions->setText(m_libraries.join(QStringLiteral(" · ")));
     m_licences->setAccessibleName(tr("Licences"));
     m_licences->setMarkdown(Licences());
-    Format(*m_licences->document());
+    // What surrounds a table: the document's margins, the scroll bar and the outer lines.
+    constexpr int aroundTablePx = 32;
+    Format(*m_licences->document(), LicencesPx.width() - aroundTablePx);
     m_close->setText(tr("Close"));
 }
