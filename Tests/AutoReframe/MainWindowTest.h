@@ -60,10 +60,10 @@ protected:
         return QTest::qWaitFor([&] { return m_backend->finding != nullptr; }, 10000);
     }
     /// The crops of one video are found, and one video is written.
-    void FinishOne(const QList<uint>& doubtfulShots = {})
+    void FinishOne(const QList<uint>& doubtfulShots = {}, int missingEdits = 0)
     {
         ASSERT_TRUE(WaitForFinding());
-        m_backend->finding->EndWell(doubtfulShots);
+        m_backend->finding->EndWell(doubtfulShots, missingEdits);
         ASSERT_TRUE(QTest::qWaitFor([&] { return m_backend->task != nullptr; }, 10000));
         m_backend->task->EndWell();
         ASSERT_TRUE(QTest::qWaitFor([&] { return m_backend->task == nullptr; }, 10000));

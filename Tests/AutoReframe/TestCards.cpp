@@ -156,6 +156,20 @@ TEST(ExportCardTest, ItsMenuOffersWhatTheStateAllows)
     }
 }
 
+TEST(ExportCardTest, ADoneOneSaysHowManyEditsItLacks)
+{
+    ExportCard card(nullptr);
+    ExportItem item;
+    item.state = ExportItem::State::Done;
+    item.fileBytes = 34LL * 1024 * 1024;
+    item.missingEdits = 2;
+    item.message = QStringLiteral("The sound ends early.");
+    card.Show(item);
+    EXPECT_EQ(
+        card.findChild<QLabel*>(QStringLiteral("ExportCard_status"))->text(),
+        QStringLiteral("Done · 34 MB · 2 of your edits are not in this cut of the video · The sound ends early."));
+}
+
 TEST(ExportCardTest, AllTextsHaveOneTypeface)
 {
     ExportCard card(nullptr);

@@ -73,6 +73,17 @@ TEST_F(TestMainWindowBatch, AllSelectedVideosAreReframedInAllChosenRatios)
     EXPECT_EQ(Text("QueueBar_text"), QStringLiteral("3 of 4 done"));
 }
 
+TEST_F(TestMainWindowBatch, TheSummaryCountsExportsWithoutAllEdits)
+{
+    Open({QStringLiteral("a.mp4")});
+    ASSERT_TRUE(WaitUntilAllAreOpen());
+    ReframeAll();
+    ASSERT_TRUE(WaitForFinding());
+    FinishOne({}, 2);
+    FinishOne();
+    EXPECT_TRUE(WaitForText("QueueBar_text", QStringLiteral("2 done, 1 without all edits")));
+}
+
 TEST_F(TestMainWindowBatch, WhatThePersonDecidedAboutAVideoIsKeptTo)
 {
     Open({QStringLiteral("a.mp4")});

@@ -4,6 +4,7 @@
 #include <Apps/AutoReframe/Exports/ExportQueue.h>
 #include <Apps/AutoReframe/Library/MediaLibrary.h>
 #include <Apps/AutoReframe/Library/MediaLibraryView.h>
+#include <Apps/AutoReframe/Library/MediaText.h>
 #include <Apps/AutoReframe/Tracks/CropTrackDialog.h>
 #include <Apps/AutoReframe/Tracks/CropWait.h>
 #include <KxCore/KxConfigFile.h>
@@ -82,9 +83,13 @@ void MainWindow::SaveCrops(const std::optional<EditListTarget>& target)
         target ? tr("The file for %1 was saved.").arg(target->program) : tr("The crop track was saved.");
     if (!saved) {
         Inform(saved.Message());
-    } else if (KrMessageDialog::Question_CustomYesNo(done, tr("Close"), tr("Show in Folder"), this,
-                                                     KrStandardButton::No, QDir::toNativeSeparators(*saved),
-                                                     tr("Auto Reframe"), KrMessageType::Information)) {
+        return;
+    }
+    QStringList details{QDir::toNativeSeparators(*saved), MediaText::MissingEdits(found->missingEdits)};
+    details.removeAll(QString());
+    if (KrMessageDialog::Question_CustomYesNo(done, tr("Close"), tr("Show in Folder"), this, KrStandardButton::No,
+                                              details.join(QLatin1Char('\n')), tr("Auto Reframe"),
+                                              KrMessageType::Information)) {
         ShowInFolder(*saved);
     }
 }

@@ -78,13 +78,14 @@ public:
             QMetaObject::invokeMethod(
                 &m_context, [this, found] { callbacks.finished(found); }, Qt::QueuedConnection);
         }
-        void EndWell(const QList<uint>& doubtfulShots = {})
+        void EndWell(const QList<uint>& doubtfulShots = {}, int missingEdits = 0)
         {
             FoundCrops found;
             found.outcome = KxOutcome::Done;
             found.request.source.path = request.path;
             found.request.settings.resolution = QSize(608, 1080);
             found.doubtfulShots = doubtfulShots;
+            found.missingEdits = missingEdits;
             End(found);
         }
 

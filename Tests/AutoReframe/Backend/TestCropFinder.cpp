@@ -124,6 +124,7 @@ TEST_F(TestCropFinder, InATrimmedFileEditPointsHoldWhereTheirPicturesAre)
     ASSERT_EQ(found.outcome, KxOutcome::Done) << found.message.toStdString();
     // 2.46 s were cut away, 59 frames. Pictures that were skipped make a difference of up to two frames.
     ASSERT_EQ(found.clip->edits.size(), 1U) << "the first one was cut away";
+    EXPECT_EQ(found.missingEdits, 1);
     EXPECT_NEAR(static_cast<double>(found.clip->edits.front()), 120.0 - 59.0, 2.0);
     EXPECT_EQ(found.request.source.crops->at(static_cast<std::size_t>(found.clip->edits.front())).left(), 0.0);
 }
@@ -137,6 +138,17 @@ TEST_F(TestCropFinder, ChoicesOfTheDialogAreKeptTo)
     for (const QRectF& crop : *found.request.source.crops) {
         EXPECT_NEAR(crop.right(), 1.0, 0.01);
     }
+    EXPECT_EQ(found.missingEdits, 0);
+}
+
+TEST_F(TestCropFinder, ChoicesWhosePicturesAreNotInTheVideoAreCounted)
+{
+    CropRequest request = Request(MakeClip("clip.mp4"));
+    request.edits.choices = R"({"version":1,"choices":[{"kind":"hold","centre":[0.9,0.5],"from":0,"to":1,
+        "pictures":{"0.1":"0123456789abcdef","0.4":"fedcba9876543210","0.8":"00ff00ff00ff00ff"}}]})";
+    const FoundCrops found = Find(request);
+    ASSERT_EQ(found.outcome, KxOutcome::Done) << found.message.toStdString();
+    EXPECT_EQ(found.missingEdits, 1);
 }
 
 TEST_F(TestCropFinder, TimelinesOfTheDialogCanBeReleasedMeanwhile)

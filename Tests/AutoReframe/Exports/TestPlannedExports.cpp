@@ -169,6 +169,23 @@ TEST_F(TestExportQueue, TheSummaryCountsPlannedExportsAlone)
     EXPECT_EQ(m_queue.FirstToLookAt()->id, done);
 }
 
+TEST_F(TestExportQueue, AnExportThatLacksEditsSaysSoUntilItIsMadeWithThem)
+{
+    const int id = m_queue.AddPlanned(Plan(QStringLiteral("a.mp4")));
+    m_backend.finding->EndWell({}, 3);
+    ASSERT_TRUE(WaitFor(id, State::Running));
+    EXPECT_EQ(m_queue.Summary().withoutEdits, 0);
+    m_queue.Cancel(id);
+    ASSERT_TRUE(WaitFor(id, State::Cancelled));
+    m_queue.Retry(id);
+    m_backend.finding->EndWell({}, 2);
+    ASSERT_TRUE(WaitFor(id, State::Running));
+    m_backend.task->EndWell();
+    ASSERT_TRUE(WaitFor(id, State::Done));
+    EXPECT_EQ(m_queue.Find(id)->missingEdits, 2);
+    EXPECT_EQ(m_queue.Summary().withoutEdits, 1);
+}
+
 TEST_F(TestExportQueue, SeenShotsAreNotToLookAt)
 {
     const int id = m_queue.AddPlanned(Plan(QStringLiteral("a.mp4")));

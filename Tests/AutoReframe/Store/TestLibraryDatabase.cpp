@@ -377,6 +377,7 @@ TEST_F(TestLibraryDatabase, APlannedExportComesBackWithItsPlanAndWhatIsToBeLooke
         ASSERT_FALSE(database->SaveExport(item));
         item.state = State::Done;
         item.shotsToLookAt = {30, 90};
+        item.missingEdits = 3;
         ASSERT_FALSE(database->SaveExportState(item));
         ASSERT_FALSE(database->SaveExport(Export(2, State::Waiting)));
     }
@@ -387,6 +388,8 @@ TEST_F(TestLibraryDatabase, APlannedExportComesBackWithItsPlanAndWhatIsToBeLooke
     EXPECT_TRUE(*exports[0].plan == plan);
     EXPECT_EQ(exports[0].frames, 4242);
     EXPECT_EQ(exports[0].shotsToLookAt, QList<uint>({30, 90}));
+    EXPECT_EQ(exports[0].missingEdits, 3);
+    EXPECT_EQ(exports[1].missingEdits, 0);
     EXPECT_FALSE(exports[1].plan.has_value());
     EXPECT_TRUE(exports[1].shotsToLookAt.isEmpty());
 }

@@ -176,8 +176,15 @@ CropFinder::Analyzed CropFinder::Analyze(std::shared_ptr<KxMediaItem> media)
     if (result.record) {
         const VideoEdits& edits = m_request.edits;
         KrKeptEdits kept{edits.editPoints, edits.editPictures, edits.unplacedEdits};
+        kept.LimitTo(static_cast<uint>(media->duration()));
         kept.MoveTo(KxFramePictures::Find(*result.record, kept.Described()));
         analyzed.editPoints = kept.points;
+        const auto isMissing = [](const KxPlacedChoice& choice) {
+            return choice.place == KxPlacedChoice::Place::Missing;
+        };
+        analyzed.found.missingEdits =
+            kept.unplaced.size() +
+            static_cast<int>(std::count_if(result.choices.begin(), result.choices.end(), isMissing));
     }
     analyzed.crops = result.crops;
     analyzed.models = std::move(result.models);

@@ -12,6 +12,7 @@ struct ExportJob {
     qint64 frames = 0;
     /// Of a planned export: the first frames of the doubtful shots that the person has not seen, ascending.
     QList<uint> shotsToLookAt;
+    int missingEdits = 0; ///< of a planned export: see FoundCrops
     /// When the work on it began last, in milliseconds since 1970 UTC; 0 before.
     qint64 begunAtMs = 0;
     QString filePath;     ///< the requested path; once done, that of the written file

@@ -102,6 +102,9 @@ struct FoundCrops {
     ExportRequest request;
     /// First frames of the doubtful shots, ascending.
     QList<uint> doubtfulShots;
+    /// How many of the person's choices and edit points are not kept to, because their pictures are not in this cut of
+    /// the video.
+    int missingEdits = 0;
     /// Null unless done. Opaque to all but the backend.
     std::shared_ptr<const CropTrack> track;
     std::shared_ptr<const KxCroppedClip> clip; ///< the same

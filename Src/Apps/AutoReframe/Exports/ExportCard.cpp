@@ -163,6 +163,15 @@ QString ExportCard::ProgressText() const
                               : percent;
 }
 
+QString ExportCard::DoneText() const
+{
+    QStringList parts{tr("Done · %1").arg(MediaText::FileSize(m_item.fileBytes))};
+    parts += MediaText::MissingEdits(m_item.missingEdits);
+    parts += m_item.message;
+    parts.removeAll(QString());
+    return parts.join(QStringLiteral(" · "));
+}
+
 QString ExportCard::StatusText() const
 {
     switch (m_item.state) {
@@ -174,10 +183,8 @@ QString ExportCard::StatusText() const
         return ProgressText();
     case State::Cancelling:
         return tr("Cancelling…");
-    case State::Done: {
-        const QString done = tr("Done · %1").arg(MediaText::FileSize(m_item.fileBytes));
-        return m_item.message.isEmpty() ? done : QStringLiteral("%1 · %2").arg(done, m_item.message);
-    }
+    case State::Done:
+        return DoneText();
     case State::Failed:
         return m_item.message;
     case State::Cancelled:

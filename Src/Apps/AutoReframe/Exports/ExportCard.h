@@ -35,6 +35,7 @@ private:
     void InitLayout();
     void RetranslateUi();
     QString StatusText() const;
+    QString DoneText() const;
     QString ProgressText() const;
     QString SizeText() const;
     void ShowTexts();

@@ -143,6 +143,7 @@ void ExportQueue::HandleCrops(int id, const FoundCrops& found)
     item->request.settings.outputPath = ordered.outputPath;
     item->request.settings.existing = ordered.existing;
     item->shotsToLookAt = found.doubtfulShots;
+    item->missingEdits = found.missingEdits;
     item->progress = 0;
     item->secondsLeft.reset();
     Render(*item);

@@ -94,6 +94,9 @@ QString QueueBar::StateText() const
     if (summary.toLookAt > 0) {
         parts += tr("%n to look at", nullptr, summary.toLookAt);
     }
+    if (summary.withoutEdits > 0) {
+        parts += tr("%n without all edits", nullptr, summary.withoutEdits);
+    }
     return parts.join(tr(", "));
 }
 

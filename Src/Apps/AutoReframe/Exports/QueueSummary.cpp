@@ -42,6 +42,7 @@ QueueSummary QueueSummary::Of(const std::vector<ExportItem>& items)
         summary.failed += item.state == State::Failed ? 1 : 0;
         summary.cancelled += item.state == State::Cancelled ? 1 : 0;
         summary.toLookAt += item.state == State::Done && !item.shotsToLookAt.isEmpty() ? 1 : 0;
+        summary.withoutEdits += item.state == State::Done && item.missingEdits > 0 ? 1 : 0;
     }
     return summary;
 }

@@ -13,6 +13,8 @@ struct QueueSummary {
     int cancelled = 0;
     /// Those of the done ones that have doubtful shots which the person has not seen.
     int toLookAt = 0;
+    /// Those of the done ones that lack some of the person's edits (ExportJob::missingEdits).
+    int withoutEdits = 0;
     /// Of all that the queue was given since it was idle, in ten-thousandths.
     int progress = 0;
     /// Empty while there is too little progress for an estimate.

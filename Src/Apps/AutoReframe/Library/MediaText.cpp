@@ -66,3 +66,8 @@ QString MediaText::TimeLeft(qint64 seconds)
     }
     return Texts::tr("%1 h %2 min left").arg(QString::number(seconds / Hour), QString::number(seconds % Hour / Minute));
 }
+
+QString MediaText::MissingEdits(int count)
+{
+    return count > 0 ? Texts::tr("%n of your edits are not in this cut of the video", nullptr, count) : QString();
+}

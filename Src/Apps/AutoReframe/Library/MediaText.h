@@ -20,4 +20,6 @@ QString Details(const QSize& resolution, const KxRational& rate);
 QString FileSize(qint64 bytes);
 /// "8 s left", "2 min 5 s left", "1 h 5 min left".
 QString TimeLeft(qint64 seconds);
+/// Says that this many of the person's edits are not in the video; empty for 0.
+QString MissingEdits(int count);
 } // namespace MediaText

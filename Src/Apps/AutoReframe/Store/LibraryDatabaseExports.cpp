@@ -141,6 +141,7 @@ StoredExport ExportOf(const QSqlQuery& row, State state)
     item.shotsToLookAt = FramesOf(row.value(20).toString());
     item.begunAtMs = row.value(22).toLongLong();
     settings.format = ExportFormatText::Read(row.value(23).toString());
+    item.missingEdits = row.value(24).toInt();
     return item;
 }
 
@@ -207,7 +208,7 @@ KxError LibraryDatabase::ReadExports(StoredContents& contents)
         QStringLiteral("SELECT key, state, source_path, audio_stream, crops, output_path, adds_number, width, height, "
                        "frame_rate, video_bit_rate, audio_bit_rate, file_path, file_bytes, message, plan_width, "
                        "plan_height, plan_speed, plan_short_side, frames, shots_to_look_at, plan_output_height, "
-                       "begun_at, format FROM exports "
+                       "begun_at, format, missing_edits FROM exports "
                        "WHERE run = ? OR NOT ") +
             Unfinished + QStringLiteral(" ORDER BY position, key"),
         {m_run.Name()}, [&contents](const QSqlQuery& row) {
@@ -233,9 +234,9 @@ KxError LibraryDatabase::SaveExport(const StoredExport& item)
         QStringLiteral("INSERT OR REPLACE INTO exports(key, position, state, run, source_path, audio_stream, crops, "
                        "output_path, adds_number, width, height, frame_rate, video_bit_rate, audio_bit_rate, "
                        "file_path, file_bytes, message, plan_width, plan_height, plan_speed, plan_short_side, "
-                       "frames, shots_to_look_at, plan_output_height, begun_at, format) "
+                       "frames, shots_to_look_at, plan_output_height, begun_at, format, missing_edits) "
                        "VALUES(?, (SELECT coalesce(max(position), 0) + 1 FROM exports), ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, "
-                       "?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)"),
+                       "?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)"),
         {item.key,
          NameOf(item.state),
          m_run.Name(),
@@ -260,19 +261,20 @@ KxError LibraryDatabase::SaveExport(const StoredExport& item)
          TextOf(item.shotsToLookAt),
          plan.heightPx,
          item.begunAtMs,
-         ExportFormatText::Write(settings.format)});
+         ExportFormatText::Write(settings.format),
+         item.missingEdits});
 }
 
 KxError LibraryDatabase::SaveExportState(const StoredExport& item)
 {
     return m_connection.Execute(
         QStringLiteral("UPDATE exports SET state = ?, run = ?, file_path = ?, file_bytes = ?, message = ?, "
-                       "shots_to_look_at = ?, begun_at = ?, "
+                       "shots_to_look_at = ?, begun_at = ?, missing_edits = ?, "
                        "crops = CASE ? WHEN 'done' THEN NULL ELSE crops END, "
                        "position = CASE ? WHEN 'waiting' THEN (SELECT max(position) + 1 FROM exports) "
                        "ELSE position END WHERE key = ?"),
         {NameOf(item.state), m_run.Name(), item.filePath, item.fileBytes, item.message, TextOf(item.shotsToLookAt),
-         item.begunAtMs, NameOf(item.state), NameOf(item.state), item.key});
+         item.begunAtMs, item.missingEdits, NameOf(item.state), NameOf(item.state), item.key});
 }
 
 KxError LibraryDatabase::RemoveExport(qint64 key)

@@ -80,12 +80,17 @@ QStringList SeventhVersion()
     return {QStringLiteral("ALTER TABLE exports ADD COLUMN format TEXT NOT NULL DEFAULT ''")};
 }
 
+QStringList EighthVersion()
+{
+    return {QStringLiteral("ALTER TABLE exports ADD COLUMN missing_edits INTEGER NOT NULL DEFAULT 0")};
+}
+
 } // namespace
 
 KxError LibrarySchema::Migrate(LibraryConnection& connection, int from)
 {
-    const std::vector<QStringList> versions{FirstVersion(), SecondVersion(), ThirdVersion(),  FourthVersion(),
-                                            FifthVersion(), SixthVersion(),  SeventhVersion()};
+    const std::vector<QStringList> versions{FirstVersion(), SecondVersion(), ThirdVersion(),   FourthVersion(),
+                                            FifthVersion(), SixthVersion(),  SeventhVersion(), EighthVersion()};
     for (size_t version = static_cast<size_t>(from); version < versions.size(); ++version) {
         for (const QString& statement : versions[version]) {
             if (const KxError failure = connection.Execute(statement)) {

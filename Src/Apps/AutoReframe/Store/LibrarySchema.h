@@ -8,7 +8,7 @@ class LibraryConnection;
 namespace LibrarySchema
 {
 /// The version that this program reads and writes.
-constexpr int Version = 7;
+constexpr int Version = 8;
 
 /// Brings the tables of version `from` to Version. Call it in a transaction.
 KxError Migrate(LibraryConnection& connection, int from);
