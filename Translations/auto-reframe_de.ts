@@ -2670,6 +2670,13 @@ Benötigt: %1 MB, verfügbar: %2 MB.</translation>
         <source>%1 h %2 min left</source>
         <translation>noch %1 h %2 min</translation>
     </message>
+    <message numerus="yes">
+        <source>%n of your edits are not in this cut of the video</source>
+        <translation>
+            <numerusform>%n Bearbeitung ist nicht in dieser Schnittfassung</numerusform>
+            <numerusform>%n Bearbeitungen sind nicht in dieser Schnittfassung</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>OutputNames</name>
@@ -2873,6 +2880,13 @@ Benötigt: %1 MB, verfügbar: %2 MB.</translation>
     <message>
         <source>, </source>
         <translation>, </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n without all edits</source>
+        <translation>
+            <numerusform>%n ohne alle Bearbeitungen</numerusform>
+            <numerusform>%n ohne alle Bearbeitungen</numerusform>
+        </translation>
     </message>
 </context>
 <context>

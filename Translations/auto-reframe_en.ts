@@ -176,7 +176,24 @@
     </message>
 </context>
 <context>
+    <name>MediaText</name>
+    <message numerus="yes">
+        <source>%n of your edits are not in this cut of the video</source>
+        <translation>
+            <numerusform>%n of your edits is not in this cut of the video</numerusform>
+            <numerusform>%n of your edits are not in this cut of the video</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>QueueBar</name>
+    <message numerus="yes">
+        <source>%n without all edits</source>
+        <translation>
+            <numerusform>%n without all edits</numerusform>
+            <numerusform>%n without all edits</numerusform>
+        </translation>
+    </message>
     <message numerus="yes">
         <source>%n failed</source>
         <translation>

@@ -2670,6 +2670,13 @@ Espacio necesario: %1 MB, disponible: %2 MB.</translation>
         <source>%1 h %2 min left</source>
         <translation>quedan %1 h %2 min</translation>
     </message>
+    <message numerus="yes">
+        <source>%n of your edits are not in this cut of the video</source>
+        <translation>
+            <numerusform>%n edición no está en este montaje del vídeo</numerusform>
+            <numerusform>%n ediciones no están en este montaje del vídeo</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>OutputNames</name>
@@ -2873,6 +2880,13 @@ Espacio necesario: %1 MB, disponible: %2 MB.</translation>
     <message>
         <source>Open the first video that has doubtful shots</source>
         <translation>Abrir el primer vídeo que tenga planos dudosos</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n without all edits</source>
+        <translation>
+            <numerusform>%n sin todas las ediciones</numerusform>
+            <numerusform>%n sin todas las ediciones</numerusform>
+        </translation>
     </message>
 </context>
 <context>

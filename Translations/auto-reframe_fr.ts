@@ -2670,6 +2670,13 @@ Espace nécessaire&#xa0;: %1 Mo, disponible&#xa0;: %2 Mo.</translation>
         <source>%1 h %2 min left</source>
         <translation>%1 h %2 min restantes</translation>
     </message>
+    <message numerus="yes">
+        <source>%n of your edits are not in this cut of the video</source>
+        <translation>
+            <numerusform>%n modification n’est pas dans ce montage de la vidéo</numerusform>
+            <numerusform>%n modifications ne sont pas dans ce montage de la vidéo</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>OutputNames</name>
@@ -2873,6 +2880,13 @@ Espace nécessaire&#xa0;: %1 Mo, disponible&#xa0;: %2 Mo.</translation>
     <message>
         <source>Open the first video that has doubtful shots</source>
         <translation>Ouvrir la première vidéo qui a des plans douteux</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n without all edits</source>
+        <translation>
+            <numerusform>%n sans toutes les modifications</numerusform>
+            <numerusform>%n sans toutes les modifications</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -2652,6 +2652,12 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
         <source>%1 h %2 min left</source>
         <translation>残り %1 時間 %2 分</translation>
     </message>
+    <message numerus="yes">
+        <source>%n of your edits are not in this cut of the video</source>
+        <translation>
+            <numerusform>%n 件の編集がこの編集版にはありません</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>OutputNames</name>
@@ -2851,6 +2857,12 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
     <message>
         <source>Open the first video that has doubtful shots</source>
         <translation>要確認ショットがある最初の動画を開きます</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n without all edits</source>
+        <translation>
+            <numerusform>一部の編集なし %n</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -2670,6 +2670,13 @@ Espaço necessário: %1 MB, disponível: %2 MB.</translation>
         <source>%1 h %2 min left</source>
         <translation>faltam %1 h %2 min</translation>
     </message>
+    <message numerus="yes">
+        <source>%n of your edits are not in this cut of the video</source>
+        <translation>
+            <numerusform>%n edição não está nesta montagem do vídeo</numerusform>
+            <numerusform>%n edições não estão nesta montagem do vídeo</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>OutputNames</name>
@@ -2873,6 +2880,13 @@ Espaço necessário: %1 MB, disponível: %2 MB.</translation>
     <message>
         <source>Open the first video that has doubtful shots</source>
         <translation>Abrir o primeiro vídeo que tem planos duvidosos</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n without all edits</source>
+        <translation>
+            <numerusform>%n sem todas as edições</numerusform>
+            <numerusform>%n sem todas as edições</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -2652,6 +2652,12 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
         <source>%1 h %2 min left</source>
         <translation>剩余 %1 小时 %2 分</translation>
     </message>
+    <message numerus="yes">
+        <source>%n of your edits are not in this cut of the video</source>
+        <translation>
+            <numerusform>%n 处编辑不在此剪辑版本中</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>OutputNames</name>
@@ -2851,6 +2857,12 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
     <message>
         <source>Open the first video that has doubtful shots</source>
         <translation>打开第一个有存疑镜头的视频</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n without all edits</source>
+        <translation>
+            <numerusform>%n 个缺少部分编辑</numerusform>
+        </translation>
     </message>
 </context>
 <context>
