@@ -350,8 +350,8 @@ void KrDialogExtension::DecideAgain()
 {
     if (m_hasResults && !(m_choices->Current() == m_shownChoices)) {
         Analyze(m_shown);
-        UpdateHint();
     }
+    UpdateHint();
 }
 
 void KrDialogExtension::ShowChoices()
@@ -374,7 +374,10 @@ void KrDialogExtension::ShowChoices()
                        : choice.kind == Kind::Hold  ? tr("The crop is held")
                        : choice.kind == Kind::Fit   ? tr("The whole picture is shown")
                                                     : tr("The analysis decides");
-        marks.append(mark);
+        // What is avoided beside something that is followed would hide it: the later mark covers the others.
+        const bool isBelowLast = choice.kind == Kind::Avoid && !marks.isEmpty() && marks.last().end > mark.first &&
+                                 marks.last().colour == palette.color(QPalette::Highlight);
+        marks.insert(isBelowLast ? marks.size() - 1 : marks.size(), mark);
     }
     m_parts.view.ControlBar().Slider().SetChoices(marks);
 }

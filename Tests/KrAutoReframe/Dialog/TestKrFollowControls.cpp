@@ -69,6 +69,18 @@ protected:
         }
         FAIL() << text.toStdString();
     }
+    /// Of the slider, at this share of its length.
+    QString ToolTipAt(double share)
+    {
+        KrAutoReframePlayerToolSlider& slider = view->ControlBar().Slider();
+        slider.setDuration(100.0);
+        auto* const marks = slider.findChild<QWidget*>(QStringLiteral("KrUIStyle_ToolBarSlider_MarkWidget"));
+        QToolTip::hideText();
+        const QPoint at(qRound(slider.width() * share), slider.height() / 2);
+        QHelpEvent ask(QEvent::ToolTip, at, marks->mapToGlobal(at));
+        QApplication::sendEvent(marks, &ask);
+        return QToolTip::text();
+    }
     bool HasDecided() const { return m_decisions > 0; }
 
     FakeHost::ServiceWithChoices& taking;
@@ -227,23 +239,28 @@ TEST_F(KrFollowControlsTest, TheSliderShowsWhereWhatIsFollowedWasLost)
     Drag(At(0.2, 0.3), At(0.4, 0.7));
     Choose(QStringLiteral("Follow This"));
     ASSERT_EVENTUALLY(HasDecided());
-    KrAutoReframePlayerToolSlider& slider = view->ControlBar().Slider();
-    slider.setDuration(100.0);
-    auto* const marks = slider.findChild<QWidget*>(QStringLiteral("KrUIStyle_ToolBarSlider_MarkWidget"));
-    const auto toolTipAt = [&](double share) {
-        QToolTip::hideText();
-        const QPoint at(qRound(slider.width() * share), slider.height() / 2);
-        QHelpEvent ask(QEvent::ToolTip, at, marks->mapToGlobal(at));
-        QApplication::sendEvent(marks, &ask);
-        return QToolTip::text();
-    };
     const QString lost = QStringLiteral("Lost from 00:00:02:10: point again");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return toolTipAt(0.7).contains(lost); })) << toolTipAt(0.7).toStdString();
-    EXPECT_FALSE(toolTipAt(0.9).contains(QStringLiteral("Lost")));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return ToolTipAt(0.7).contains(lost); })) << ToolTipAt(0.7).toStdString();
+    EXPECT_FALSE(ToolTipAt(0.9).contains(QStringLiteral("Lost")));
     taking.losses.clear();
     Drag(At(0.2, 0.3), At(0.5, 0.7));
     Choose(QStringLiteral("Back to Automatic"));
-    EXPECT_FALSE(toolTipAt(0.7).contains(QStringLiteral("Lost")));
+    EXPECT_FALSE(ToolTipAt(0.7).contains(QStringLiteral("Lost")));
+    QToolTip::hideText();
+}
+
+TEST_F(KrFollowControlsTest, WhatIsAvoidedDoesNotHideOnTheSliderWhatIsFollowed)
+{
+    Drag(At(0.2, 0.3), At(0.4, 0.7));
+    Choose(QStringLiteral("Follow This"));
+    Drag(At(0.6, 0.3), At(0.8, 0.7));
+    Choose(QStringLiteral("Not This"));
+    ASSERT_EQ(taking.choices.size(), 2);
+    EXPECT_TRUE(ToolTipAt(0.7).contains(QStringLiteral("The crop follows your choice")))
+        << ToolTipAt(0.7).toStdString();
+    Drag(At(0.6, 0.3), At(0.8, 0.7));
+    Choose(QStringLiteral("Hold the Crop in This Shot"));
+    EXPECT_TRUE(ToolTipAt(0.7).contains(QStringLiteral("The crop is held"))) << ToolTipAt(0.7).toStdString();
     QToolTip::hideText();
 }
 
@@ -298,6 +315,17 @@ TEST_F(KrFollowControlsTest, AChoiceIsDecidedInTheRatioThatIsShown)
     ASSERT_EVENTUALLY(HasDecided());
     EXPECT_TRUE(taking.Calls().filter(QStringLiteral("StartTask")).last().endsWith(QStringLiteral("9x16)")));
     EXPECT_EQ(Hint(), QStringLiteral("Settings changed: analyze again"));
+}
+
+TEST_F(KrFollowControlsTest, AChoiceThatFailedAndIsTakenBackLeavesNoHint)
+{
+    taking.Answer(-1, {});
+    Drag(At(0.2, 0.3), At(0.4, 0.7));
+    Choose(QStringLiteral("Follow This"));
+    ASSERT_EVENTUALLY(HasDecided());
+    ASSERT_EVENTUALLY(Hint() == QStringLiteral("Settings changed: analyze again"));
+    Helper().Undo();
+    ASSERT_EVENTUALLY(Hint().isEmpty());
 }
 
 TEST_F(KrFollowControlsTest, AnotherFrameOrEscapeRemovesTheBox)
