@@ -6,9 +6,12 @@
 #include <KxWidgets/KxUIStyle.h>
 
 #include <QCoreApplication>
+#include <QEvent>
 #include <QFile>
+#include <QFontMetricsF>
 #include <QHBoxLayout>
 #include <QIcon>
+#include <QRegularExpression>
 #include <QTextBlock>
 #include <QTextBrowser>
 #include <QTextCursor>
@@ -16,8 +19,8 @@
 #include <QTextTableCell>
 #include <QVariant>
 
+#include <algorithm>
 #include <cmath>
-#include <numeric>
 #include <vector>
 
 namespace
@@ -28,38 +31,97 @@ constexpr int GapPx = 14;
 constexpr int IconPx = 56;
 constexpr QSize LicencesPx(720, 320);
 
+/// Names of files and packages in tables, which may be wider than their columns, can be broken within.
 QString Licences()
 {
     QFile file(QStringLiteral(":/AutoReframe/LICENCES.md"));
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+    if (!file.open(QIODevice::ReadOnly)) {
+        return {};
+    }
+    QStringList lines = QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'));
+    for (QString& line : lines) {
+        if (line.startsWith(QLatin1Char('|'))) {
+            static const QRegularExpression inside(QStringLiteral("(?<=\\w)([-_./])(?=\\w)"));
+            line.replace(inside, QStringLiteral("\\1\u200b"));
+        }
+    }
+    return lines.join(QLatin1Char('\n'));
 }
 
-/// Columns that share `widthPx`, those with more text being wider. A table that may choose is as wide as its longest
-/// names, and scrolls sideways.
+constexpr int CellPx = 5;
+
+double LongestWordPx(const QTextBlock& block)
+{
+    double longest = 0.0;
+    for (auto part = block.begin(); part != block.end(); ++part) {
+        const QFontMetricsF metrics(part.fragment().charFormat().font());
+        static const QRegularExpression between(QStringLiteral("[ \u200b]"));
+        for (const QString& word : part.fragment().text().split(between)) {
+            longest = std::max(longest, metrics.horizontalAdvance(word));
+        }
+    }
+    return longest;
+}
+
+/// What a column needs, and how much text it has.
+struct Column {
+    double leastPx = 0.0;
+    double weight = 1.0;
+};
+
+Column ColumnOf(const QTextTable& table, int index)
+{
+    Column column;
+    double characters = 1.0;
+    for (int row = 0; row < table.rows(); ++row) {
+        const QTextTableCell cell = table.cellAt(row, index);
+        characters += cell.lastPosition() - cell.firstPosition();
+        for (auto block = cell.begin(); block != cell.end(); ++block) {
+            column.leastPx = std::max(column.leastPx, LongestWordPx(block.currentBlock()));
+        }
+    }
+    column.leastPx += 2.0 * CellPx;
+    column.weight = std::sqrt(characters);
+    return column;
+}
+
+/// Columns that fill `widthPx`: each has room for its longest word, and those with more text get more of the rest. A
+/// table that may choose is wider than its place.
 QVector<QTextLength> ColumnsOf(const QTextTable& table, double widthPx)
 {
-    std::vector<double> weights;
-    for (int column = 0; column < table.columns(); ++column) {
-        int characters = 1;
-        for (int row = 0; row < table.rows(); ++row) {
-            const QTextTableCell cell = table.cellAt(row, column);
-            characters += cell.lastPosition() - cell.firstPosition();
-        }
-        weights.push_back(std::sqrt(characters));
+    std::vector<Column> columns;
+    // The lines around each cell are not in the width of its column.
+    constexpr double linesPx = 3.0;
+    double restPx = widthPx - linesPx * (table.columns() + 1);
+    double weights = 0.0;
+    for (int i = 0; i < table.columns(); ++i) {
+        columns.push_back(ColumnOf(table, i));
+        restPx -= columns.back().leastPx;
+        weights += columns.back().weight;
     }
-    const double all = std::accumulate(weights.begin(), weights.end(), 0.0);
-    QVector<QTextLength> columns;
-    for (const double weight : weights) {
-        columns += QTextLength(QTextLength::FixedLength, std::floor(widthPx * weight / all));
+    QVector<QTextLength> lengths;
+    for (const Column& column : columns) {
+        const double share = std::max(restPx, 0.0) * column.weight / weights;
+        lengths += QTextLength(QTextLength::FixedLength, std::floor(column.leastPx + share));
     }
-    return columns;
+    return lengths;
 }
 
-/// Headings of the text's size, and tables with thin lines that are `widthPx` wide.
-void Format(QTextDocument& text, double widthPx)
+QVector<QTextTable*> TablesOf(const QTextDocument& text)
+{
+    QVector<QTextTable*> tables;
+    for (QTextFrame* const frame : text.rootFrame()->childFrames()) {
+        if (auto* const table = qobject_cast<QTextTable*>(frame)) {
+            tables += table;
+        }
+    }
+    return tables;
+}
+
+/// Headings of the text's size, and tables with thin lines.
+void Format(QTextDocument& text)
 {
     constexpr int paragraphPx = 8;
-    constexpr int cellPx = 5;
     for (QTextBlock block = text.begin(); block.isValid(); block = block.next()) {
         QTextCursor cursor(block);
         const bool isInTable = cursor.currentTable() != nullptr;
@@ -74,18 +136,15 @@ void Format(QTextDocument& text, double widthPx)
             cursor.mergeCharFormat(heading);
         }
     }
-    for (QTextFrame* const frame : text.rootFrame()->childFrames()) {
-        if (auto* const table = qobject_cast<QTextTable*>(frame)) {
-            QTextTableFormat format = table->format();
-            format.setBorder(1);
-            format.setBorderStyle(QTextFrameFormat::BorderStyle_Solid);
-            format.setBorderBrush(KxUIStyle::Colour(KxUIStyle::Role::FieldLine));
-            format.setBorderCollapse(true);
-            format.setCellPadding(cellPx);
-            format.setTopMargin(paragraphPx);
-            format.setColumnWidthConstraints(ColumnsOf(*table, widthPx));
-            table->setFormat(format);
-        }
+    for (QTextTable* const table : TablesOf(text)) {
+        QTextTableFormat format = table->format();
+        format.setBorder(1);
+        format.setBorderStyle(QTextFrameFormat::BorderStyle_Solid);
+        format.setBorderBrush(KxUIStyle::Colour(KxUIStyle::Role::FieldLine));
+        format.setBorderCollapse(true);
+        format.setCellPadding(CellPx);
+        format.setTopMargin(paragraphPx);
+        table->setFormat(format);
     }
 }
 
@@ -122,6 +181,7 @@ void AboutDialog::InitUi()
     m_licences->setFixedSize(LicencesPx);
     m_licences->setOpenExternalLinks(true);
     m_licences->setTabChangesFocus(true);
+    m_licences->viewport()->installEventFilter(this);
     m_licences->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     m_close = GetButtonBar()->AddPushButton_R(0, -1);
     m_close->setObjectName(QStringLiteral("AboutDialog_close"));
@@ -144,6 +204,25 @@ void AboutDialog::InitUi()
     SetContentWidget(content);
 }
 
+void AboutDialog::FitTables()
+{
+    const QTextDocument& text = *m_licences->document();
+    const double widthPx = m_licences->viewport()->width() - 2.0 * text.documentMargin();
+    for (QTextTable* const table : TablesOf(text)) {
+        QTextTableFormat format = table->format();
+        format.setColumnWidthConstraints(ColumnsOf(*table, widthPx));
+        table->setFormat(format);
+    }
+}
+
+bool AboutDialog::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == m_licences->viewport() && event->type() == QEvent::Resize) {
+        FitTables();
+    }
+    return KxFramelessDialog::eventFilter(watched, event);
+}
+
 void AboutDialog::RetranslateUi()
 {
     SetTitleName(tr("About Auto Reframe"), false);
@@ -152,8 +231,7 @@ void AboutDialog::RetranslateUi()
     m_versions->setText(m_libraries.join(QStringLiteral(" · ")));
     m_licences->setAccessibleName(tr("Licences"));
     m_licences->setMarkdown(Licences());
-    // What surrounds a table: the document's margins, the scroll bar and the outer lines.
-    constexpr int aroundTablePx = 32;
-    Format(*m_licences->document(), LicencesPx.width() - aroundTablePx);
+    Format(*m_licences->document());
+    FitTables();
     m_close->setText(tr("Close"));
 }

@@ -16,10 +16,12 @@ public:
     ~AboutDialog() override;
 
 protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void RetranslateUi() override;
 
 private:
     void InitUi();
+    void FitTables();
 
     const QStringList m_libraries;
     KxLabel* m_name = nullptr;
