@@ -64,7 +64,8 @@ void QueueBar::InitLayout()
     constexpr int gapPx = 14;
     auto* const links = new QHBoxLayout;
     links->setSpacing(gapPx);
-    links->addWidget(m_timeLeft, 1);
+    links->addWidget(m_timeLeft);
+    links->addStretch(1);
     for (LinkButton* const link : {m_retry, m_look, m_pause, m_cancel}) {
         links->addWidget(link);
     }
@@ -110,6 +111,7 @@ void QueueBar::ShowState()
                         : m_queue.IsPaused()  ? tr("Paused")
                         : summary.secondsLeft ? MediaText::TimeLeft(*summary.secondsLeft)
                                               : QString());
+    m_timeLeft->setVisible(isActive);
     m_bar->setVisible(isActive);
     m_bar->setValue(summary.progress);
     m_bar->setAccessibleName(tr("Progress of all exports"));
