@@ -11,6 +11,18 @@ namespace
 /// Bounds time and memory where a shot lasts for days: beyond this many, the nodes of the path are farther apart.
 constexpr double MostNodes = 1e6;
 
+/// Below the first rate an ease takes as many frames as at it, since the eye sees the steps from frame to frame; below
+/// the second one it would lag too far behind.
+constexpr double SmoothRate = 24.0;
+constexpr double SlowestRate = 10.0;
+
+/// Of the jerk weight at a low frame rate: the duration of an ease grows with its cube root.
+double JerkFactor(double frameRate)
+{
+    const double slowness = SmoothRate / std::clamp(frameRate, SlowestRate, SmoothRate);
+    return slowness * slowness * slowness;
+}
+
 /// A cubic B-spline with the nodes as its controls: smooth in speed and acceleration. It is summed relative
 /// to one node, so that a still span comes out bit for bit still.
 double SplineAt(const std::vector<double>& nodes, double position)
@@ -124,7 +136,7 @@ std::vector<double> KxCropPath::DrawSmooth(const std::vector<KxPathPoint>& point
     settings.huberDelta = m_reaction.deadZone * m_geometry.Extent() / 2.0;
     settings.speedWeight = m_options.speedWeight * m_reaction.smoothingSeconds;
     settings.accelerationWeight = m_options.accelerationWeight * m_reaction.smoothingSeconds;
-    settings.jerkWeight = m_options.jerkWeight * m_reaction.smoothingSeconds;
+    settings.jerkWeight = m_options.jerkWeight * m_reaction.smoothingSeconds * JerkFactor(span.frameRate);
     settings.stillSpeed = m_options.stillSpeed;
     settings.topSpeed = m_reaction.topSpeed;
     settings.overspeedWeight = m_options.overspeedWeight * m_reaction.smoothingSeconds;

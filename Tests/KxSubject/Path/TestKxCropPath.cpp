@@ -109,6 +109,22 @@ TEST(KxCropPath, APanSpeedsUpOnceAndSlowsDownOnce)
     EXPECT_LT(largestChange, fastest / 55.0) << "the eases are long";
 }
 
+TEST(KxCropPath, AtALowFrameRateEasesHaveEnoughFrames)
+{
+    const auto strongestJerk = [](double frameRate) {
+        const auto second = static_cast<std::int64_t>(frameRate);
+        const std::vector<double> line = KxCropPath(Options.path, Options.automatic, Portrait)
+                                             .Draw({{0, 0.3}, {4 * second, 0.3}, {6 * second, 0.6}, {10 * second, 0.6}},
+                                                   {0, 10 * second, frameRate}, 0.5, KxCancelToken());
+        double strongest = 0.0;
+        for (std::size_t i = 0; i + 3 < line.size(); ++i) {
+            strongest = std::max(strongest, std::abs(line[i + 3] - 3.0 * (line[i + 2] - line[i + 1]) - line[i]));
+        }
+        return strongest;
+    };
+    EXPECT_LT(strongestJerk(10.0), 3.0 * strongestJerk(24.0));
+}
+
 TEST(KxCropPath, AShotThatBeginsLateHasAPathFromItsFirstFrame)
 {
     const auto early = Draw(Points(0, 120, [](double s) { return 0.2 + 0.1 * s; }), 0, 120);
