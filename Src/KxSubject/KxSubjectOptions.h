@@ -250,13 +250,13 @@ struct KxSubjectOptions {
     struct Evidence {
         double motionWeight = 0.5;          ///< 0.3 to 1; clips
         double moverWeight = 0.45;          ///< 0.3 to 0.6; clips
-        double saliencyWeightAcross = 0.35; ///< 0.2 to 0.6; cross
+        double saliencyWeightAcross = 0.39; ///< 0.2 to 0.6; cross
         double saliencyWeightUpDown = 0.1;  ///< 0 to 0.3: it misleads on tall pictures; clips
         double faceWeight = 1.0;            ///< 0.7 to 1.5; trial
-        double detectionWeight = 2.5;       ///< 1.5 to 3.5; cross
+        double detectionWeight = 1.65;      ///< 1 to 3.5; cross
         double emptyFloor = 0.01;           ///< 0.005 to 0.02 of the area: an empty map weighs little; trial
         double concentration = 1.6;         ///< 1 to 2, power on the combined evidence; clips
-        double windowFlatAcross = 0.55;     ///< 0.3 to 0.7 of the scoring window; the rest is a squared cosine; clips
+        double windowFlatAcross = 0.7;      ///< 0.4 to 1 of the scoring window; the rest is a squared cosine; cross
         double windowFlatUpDown =
             0.9; ///< 0.5 to 1: a tall subject should fit in, not have its head in the middle; clips
         double centrePriorAcross = 0.3; ///< 0.15 to 0.45 for a crop that moves sideways; cross
