@@ -17,6 +17,6 @@ bool LimitOpenCvToItsCaller()
     return true;
 }
 
-const bool s_openCvIsLoaded = LimitOpenCvToItsCaller();
+const bool OpenCvIsLimited = LimitOpenCvToItsCaller();
 
 } // namespace
