@@ -33,7 +33,8 @@ KxAudioOutput::KxAudioOutput(KxPlayerClock& clock, KxSoundDevice::Factory device
 
 KxAudioOutput::~KxAudioOutput() = default;
 
-bool KxAudioOutput::Prepare(const std::shared_ptr<const KxPlaySource>& source, const KxCancelToken& cancel)
+bool KxAudioOutput::Prepare(const std::shared_ptr<const KxPlaySource>& source, const KxMediaClock& fileClock,
+                            const KxCancelToken& cancel)
 {
     if (m_makeDevice) {
         m_device = std::exchange(m_makeDevice, nullptr)();
@@ -45,7 +46,7 @@ bool KxAudioOutput::Prepare(const std::shared_ptr<const KxPlaySource>& source, c
         Close();
         m_source = source;
         auto reader = KxAudioReader::Open(source->path, *source->audioStream,
-                                          {KxSoundDevice::SampleRateHz, KxSoundDevice::Channels}, cancel);
+                                          {KxSoundDevice::SampleRateHz, KxSoundDevice::Channels}, fileClock, cancel);
         if (reader) {
             m_reader = std::move(*reader);
         } else if (!cancel.IsCancelled()) {
@@ -66,17 +67,19 @@ void KxAudioOutput::GoWithoutSoundOnException(const std::function<void()>& work)
     }
 }
 
-void KxAudioOutput::Start(const std::shared_ptr<const KxPlaySource>& source, quint64 run, const KxCancelToken& cancel)
+void KxAudioOutput::Start(const std::shared_ptr<const KxPlaySource>& source, const KxMediaClock& fileClock, quint64 run,
+                          const KxCancelToken& cancel)
 {
-    GoWithoutSoundOnException([&] { Begin(source, run, cancel); });
+    GoWithoutSoundOnException([&] {
+        Stop();
+        if (m_clock.NowUs(run) && Prepare(source, fileClock, cancel) && m_device->Start()) {
+            Begin(run);
+        }
+    });
 }
 
-void KxAudioOutput::Begin(const std::shared_ptr<const KxPlaySource>& source, quint64 run, const KxCancelToken& cancel)
+void KxAudioOutput::Begin(quint64 run)
 {
-    Stop();
-    if (!m_clock.NowUs(run) || !Prepare(source, cancel) || !m_device->Start()) {
-        return;
-    }
     m_isStarted = true;
     // Opening took its time: what plays now is what the clock shows now.
     const std::optional<qint64> now = m_clock.NowUs(run);

@@ -21,16 +21,19 @@ public:
     KxAudioOutput(KxPlayerClock& clock, KxSoundDevice::Factory device);
     ~KxAudioOutput() override;
 
-    /// Plays the sound of the clock's time until `run` ends. `cancel` belongs to the source.
-    void Start(const std::shared_ptr<const KxPlaySource>& source, quint64 run, const KxCancelToken& cancel);
+    /// Plays the sound of the clock's time until `run` ends. `fileClock` is that of the source's pictures; `cancel`
+    /// belongs to the source.
+    void Start(const std::shared_ptr<const KxPlaySource>& source, const KxMediaClock& fileClock, quint64 run,
+               const KxCancelToken& cancel);
     void Stop();
     /// Closes the file.
     void Close();
 
 private:
     void GoWithoutSoundOnException(const std::function<void()>& work);
-    void Begin(const std::shared_ptr<const KxPlaySource>& source, quint64 run, const KxCancelToken& cancel);
-    bool Prepare(const std::shared_ptr<const KxPlaySource>& source, const KxCancelToken& cancel);
+    void Begin(quint64 run);
+    bool Prepare(const std::shared_ptr<const KxPlaySource>& source, const KxMediaClock& fileClock,
+                 const KxCancelToken& cancel);
     void Feed();
     /// False at the end of the sound.
     bool Refill();

@@ -10,6 +10,7 @@
 KxPictureMaker::KxPictureMaker(std::shared_ptr<const KxPlaySource> source, std::unique_ptr<KxVideoReader> reader)
     : m_source(std::move(source))
     , m_reader(std::move(reader))
+    , m_fileClock(std::make_shared<const KxMediaClock>(m_reader->Clock()))
 {
 }
 
@@ -34,6 +35,7 @@ KxReadStatus KxPictureMaker::Make(int frame, const QSize& area, KxPlayerPicture&
     }
     picture.frame = frame;
     picture.area = area;
+    picture.fileClock = m_fileClock;
     picture.shape = m_source->ShapeAt(frame, decoded.DisplayedSize());
     const QSize size = KxPicturePlace::In(area, picture.shape).size().expandedTo(QSize(1, 1));
     const std::optional<QRectF> crop = m_source->CropAt(frame);

@@ -32,6 +32,7 @@ private:
 
     std::shared_ptr<const KxPlaySource> m_source;
     std::unique_ptr<KxVideoReader> m_reader;
+    std::shared_ptr<const KxMediaClock> m_fileClock;
     KxPictureScaler m_scaler;
     /// For the last size.
     std::unique_ptr<KxFittedCutter> m_fittedCutter;

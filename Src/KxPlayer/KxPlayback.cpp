@@ -191,7 +191,7 @@ void KxPlayback::RunClock()
     if (!m_clock.IsRunning() && m_engine->IsPrimed()) {
         const qint64 startUs = m_source->TimeUs(m_picture->frame);
         m_shownUs = startUs;
-        m_sound.Start(m_source, m_clock.Start(startUs));
+        m_sound.Start(m_source, *m_picture->fileClock, m_clock.Start(startUs));
     }
 }
 

@@ -33,7 +33,7 @@ KxSoundPlayer::OnThread KxSoundPlayer::BeginThread()
     return onThread.get();
 }
 
-void KxSoundPlayer::Start(const std::shared_ptr<const KxPlaySource>& source, quint64 run)
+void KxSoundPlayer::Start(const std::shared_ptr<const KxPlaySource>& source, const KxMediaClock& fileClock, quint64 run)
 {
     if (!source->audioStream) {
         return;
@@ -43,7 +43,8 @@ void KxSoundPlayer::Start(const std::shared_ptr<const KxPlaySource>& source, qui
     }
     KxAudioOutput* const output = m_onThread.output;
     QMetaObject::invokeMethod(
-        output, [output, source, run, cancel = m_cancel] { output->Start(source, run, cancel); }, Qt::QueuedConnection);
+        output, [output, source, fileClock, run, cancel = m_cancel] { output->Start(source, fileClock, run, cancel); },
+        Qt::QueuedConnection);
 }
 
 void KxSoundPlayer::Stop()

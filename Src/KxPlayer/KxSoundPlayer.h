@@ -15,8 +15,9 @@ public:
     KxSoundPlayer(KxPlayerClock& clock, KxSoundDevice::Factory device);
     ~KxSoundPlayer();
 
-    /// Plays along with the clock's run `run`. Nothing happens for a source without sound.
-    void Start(const std::shared_ptr<const KxPlaySource>& source, quint64 run);
+    /// Plays along with the clock's run `run`. `fileClock` is that of the source's pictures. Nothing happens for a
+    /// source without sound.
+    void Start(const std::shared_ptr<const KxPlaySource>& source, const KxMediaClock& fileClock, quint64 run);
     void Stop();
     /// Closes the file.
     void Close();

@@ -19,7 +19,7 @@ protected:
     quint64 StartAt(qint64 mediaUs)
     {
         const quint64 run = clock.Start(mediaUs);
-        output.Start(source, run, {});
+        output.Start(source, fileClock, run, {});
         return run;
     }
 
@@ -52,6 +52,7 @@ protected:
     FakeSoundState sound;
     KxAudioOutput output{clock, [this] { return std::make_unique<FakeSound>(sound); }};
     std::shared_ptr<const KxPlaySource> source = PlayerClip::Source(PlayerClip::WithSound());
+    KxMediaClock fileClock{0};
 };
 
 } // namespace
@@ -65,6 +66,14 @@ TEST_F(KxAudioOutputTest, FillsTheDeviceWithWhatTheClockShows)
     StartAt(0);
     EXPECT_EQ(sound.WaitingFrames(), sound.capacity);
     ExpectSineFrom(0);
+}
+
+TEST_F(KxAudioOutputTest, TheClockOfTheFilePlacesTheSound)
+{
+    fileClock.zeroUs = 500000;
+    StartAt(0);
+    EXPECT_EQ(sound.WaitingFrames(), sound.capacity);
+    ExpectSineFrom(RateHz / 2);
 }
 
 TEST_F(KxAudioOutputTest, ContinuesWithoutAGap)
@@ -162,7 +171,7 @@ TEST_F(KxAudioOutputTest, StopsWithTheRun)
     clock.Stop();
     ASSERT_TRUE(QTest::qWaitFor([&] { return !sound.isStarted; }));
     const size_t before = sound.taken.size();
-    output.Start(source, 1, {});
+    output.Start(source, fileClock, 1, {});
     EXPECT_FALSE(sound.isStarted);
     EXPECT_EQ(sound.taken.size(), before);
 }
@@ -192,7 +201,7 @@ TEST(KxSoundPlayer, WithoutADeviceTheClockRunsByItself)
         asked = true;
         return nullptr;
     });
-    player.Start(PlayerClip::Source(PlayerClip::WithSound()), clock.Start(0));
+    player.Start(PlayerClip::Source(PlayerClip::WithSound()), {}, clock.Start(0));
     ASSERT_TRUE(QTest::qWaitFor([&] { return asked.load(); }));
     now = 40000;
     EXPECT_EQ(clock.NowUs(), 40000);
@@ -205,7 +214,7 @@ TEST(KxSoundPlayer, IsDestroyedAtAnyMoment)
     for (int round = 0; round < 30; ++round) {
         KxPlayerClock clock;
         KxSoundPlayer player(clock, [&sound] { return std::make_unique<FakeSound>(sound); });
-        player.Start(source, clock.Start(0));
+        player.Start(source, {}, clock.Start(0));
         if (round % 3 == 0) {
             player.Stop();
         } else if (round % 3 == 1) {
