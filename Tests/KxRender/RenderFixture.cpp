@@ -1,9 +1,9 @@
 #include <Tests/KxRender/RenderFixture.h>
 
 #include <KxMedia/Picture/KxPictureScaler.h>
-#include <KxMedia/Read/KxAudioReader.h>
 #include <KxMedia/Read/KxVideoReader.h>
 #include <Tests/Support/MadeVideo.h>
+#include <Tests/Support/OpenedSound.h>
 
 #include <QDir>
 
@@ -16,7 +16,7 @@ template<typename Use>
 void ForEachSample(const QString& path, Use use)
 {
     KxAudioReader::Format format;
-    KxResult<std::unique_ptr<KxAudioReader>> reader = KxAudioReader::Open(path, 0, format, KxCancelToken());
+    KxResult<std::unique_ptr<KxAudioReader>> reader = OpenedSound(path, 0, format);
     ASSERT_TRUE(reader) << reader.Message().toStdString();
     KxAudioBlock block;
     while ((*reader)->Next(block) == KxReadStatus::Delivered) {

@@ -5,6 +5,7 @@
 #include <KxMedia/Read/KxVideoReader.h>
 #include <KxMedia/Write/KxLoudness.h>
 #include <Tests/Support/MadeVideo.h>
+#include <Tests/Support/OpenedSound.h>
 
 #include <QFile>
 #include <QJsonDocument>
@@ -133,7 +134,7 @@ protected:
     double LoudnessOf(const char* name) const
     {
         const KxAudioReader::Format format{44100, 2};
-        const auto reader = KxAudioReader::Open(Path(name), 0, format, KxCancelToken());
+        const auto reader = OpenedSound(Path(name), 0, format);
         const auto meter = KxLoudnessMeter::Make(format);
         EXPECT_TRUE(reader && meter);
         KxAudioBlock block;

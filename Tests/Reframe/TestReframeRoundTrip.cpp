@@ -2,9 +2,9 @@
 
 #include <Apps/CropTracks/CropTrackFile.h>
 #include <KxMedia/Picture/KxPictureScaler.h>
-#include <KxMedia/Read/KxAudioReader.h>
 #include <KxMedia/Read/KxVideoReader.h>
 #include <Tests/Support/MadeVideo.h>
+#include <Tests/Support/OpenedSound.h>
 
 #include <QFile>
 #include <QImage>
@@ -84,7 +84,7 @@ std::vector<qint64> Onsets(const QString& path)
 {
     std::vector<qint64> onsets;
     constexpr int rateHz = 48000;
-    auto reader = KxAudioReader::Open(path, 0, {rateHz, 1}, KxCancelToken());
+    auto reader = OpenedSound(path, 0, {rateHz, 1});
     EXPECT_TRUE(reader) << reader.Message().toStdString();
     KxAudioBlock block;
     qint64 silentSamples = rateHz;

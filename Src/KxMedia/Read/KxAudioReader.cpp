@@ -1,8 +1,8 @@
 #include <KxMedia/Read/KxAudioReader.h>
 
 #include <KxCore/KxFrameTime.h>
+#include <KxMedia/Container/KxInputFile.h>
 #include <KxMedia/Read/KxAudioTrack.h>
-#include <KxMedia/Read/KxVideoSource.h>
 
 #include <QCoreApplication>
 
@@ -16,24 +16,6 @@ struct Texts {
 };
 
 constexpr int BlocksASecond = 25;
-
-// If the file has pictures, the first one is time zero of the sound.
-KxResult<KxMediaClock> MeasureClock(const QString& path, const KxCancelToken& cancel)
-{
-    KxResult<std::unique_ptr<KxInputFile>> input = KxInputFile::Open(path, cancel);
-    if (!input) {
-        return KxResult<KxMediaClock>::Failure(input.Message());
-    }
-    if ((*input)->VideoStream() == nullptr) {
-        return KxMediaClock{};
-    }
-    const KxResult<std::unique_ptr<KxVideoSource>> source =
-        KxVideoSource::Open(std::move(*input), KxVideoDecoder::Effort::Full);
-    if (!source) {
-        return KxResult<KxMediaClock>::Failure(source.Message());
-    }
-    return (*source)->Clock();
-}
 
 } // namespace
 
@@ -149,14 +131,6 @@ KxAudioReader::KxAudioReader(std::unique_ptr<Impl> impl)
 }
 
 KxAudioReader::~KxAudioReader() = default;
-
-KxResult<std::unique_ptr<KxAudioReader>> KxAudioReader::Open(const QString& path, int stream, const Format& format,
-                                                             const KxCancelToken& cancel)
-{
-    using Result = KxResult<std::unique_ptr<KxAudioReader>>;
-    const KxResult<KxMediaClock> clock = MeasureClock(path, cancel);
-    return clock ? Open(path, stream, format, *clock, cancel) : Result::Failure(clock.Message());
-}
 
 KxResult<std::unique_ptr<KxAudioReader>> KxAudioReader::Open(const QString& path, int stream, const Format& format,
                                                              const KxMediaClock& clock, const KxCancelToken& cancel)

@@ -29,10 +29,7 @@ public:
         int channels = 2;
     };
 
-    /// `stream` counts audio streams from 0. Opens the file twice, because the first picture is time zero.
-    static KxResult<std::unique_ptr<KxAudioReader>> Open(const QString& path, int stream, const Format& format,
-                                                         const KxCancelToken& cancel);
-    /// With the clock of a KxVideoReader for the same file: opens the file once.
+    /// `stream` counts audio streams from 0; `clock` is that of the file's pictures.
     static KxResult<std::unique_ptr<KxAudioReader>> Open(const QString& path, int stream, const Format& format,
                                                          const KxMediaClock& clock, const KxCancelToken& cancel);
     ~KxAudioReader();

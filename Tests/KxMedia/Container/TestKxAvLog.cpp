@@ -1,7 +1,6 @@
 #include <Tests/KxMedia/Read/ReadClips.h>
 #include <Tests/KxMedia/Write/WrittenClips.h>
-
-#include <KxMedia/Read/KxAudioReader.h>
+#include <Tests/Support/OpenedSound.h>
 
 #include <gtest/gtest.h>
 
@@ -48,7 +47,7 @@ void ReadAll(const QString& path)
         reader->Read(frame, picture);
     }
     EXPECT_EQ(shownMessages, 0);
-    const auto sound = KxAudioReader::Open(path, 0, {}, {});
+    const auto sound = OpenedSound(path, 0, {});
     shownMessages = 0;
     KxAudioBlock block;
     while (sound && (*sound)->Next(block) == KxReadStatus::Delivered) {

@@ -3,6 +3,7 @@
 #include <KxMedia/Read/KxMediaProbe.h>
 
 #include <Tests/KxMedia/Read/ReadClips.h>
+#include <Tests/Support/OpenedSound.h>
 
 #include <gtest/gtest.h>
 
@@ -18,7 +19,7 @@ namespace
 std::unique_ptr<KxAudioReader> OpenAudio(const QString& path, int stream = 0, const KxAudioReader::Format& format = {},
                                          const KxCancelToken& cancel = {})
 {
-    KxResult<std::unique_ptr<KxAudioReader>> reader = KxAudioReader::Open(path, stream, format, cancel);
+    KxResult<std::unique_ptr<KxAudioReader>> reader = OpenedSound(path, stream, format, cancel);
     if (!reader) {
         ADD_FAILURE() << reader.Message().toStdString();
         return nullptr;
@@ -235,7 +236,7 @@ TEST(KxAudioReader, ReadsTheRequestedTrack)
         }
         EXPECT_NEAR(crossings, stream == 0 ? 500 : 2000, 3);
     }
-    EXPECT_EQ(KxAudioReader::Open(path, 2, {}, {}).Message(),
+    EXPECT_EQ(OpenedSound(path, 2, {}).Message(),
               QStringLiteral("Cannot open tracks.mkv: it has no such sound track."));
 }
 

@@ -1,7 +1,7 @@
-#include <KxMedia/Read/KxAudioReader.h>
 #include <KxMedia/Read/KxAudioTrack.h>
 
 #include <Tests/KxMedia/Read/ReadClips.h>
+#include <Tests/Support/OpenedSound.h>
 
 #include <QFile>
 
@@ -98,7 +98,7 @@ Heard ReadAll(KxAudioReader& reader)
 
 void ExpectBothTones(const QString& path)
 {
-    KxResult<std::unique_ptr<KxAudioReader>> reader = KxAudioReader::Open(path, 0, {RateHz, 2}, {});
+    KxResult<std::unique_ptr<KxAudioReader>> reader = OpenedSound(path, 0, {RateHz, 2});
     ASSERT_TRUE(reader) << reader.Message().toStdString();
     const Heard line = ReadAll(**reader);
     for (const double seconds : {0.5, 1.5, 2.7}) {

@@ -1,7 +1,7 @@
-#include <KxMedia/Read/KxAudioReader.h>
 #include <KxMedia/Read/KxVideoScanner.h>
 
 #include <Tests/KxMedia/Read/ReadClips.h>
+#include <Tests/Support/OpenedSound.h>
 #include <Tests/Support/TestSystem.h>
 
 #include <QFile>
@@ -66,7 +66,7 @@ void ExpectFailureAfter(const char* suffix, Change change)
     const QString path = Clip(QStringLiteral("shown.%1").arg(QLatin1String(suffix)));
     const std::unique_ptr<KxVideoReader> reader = ReadClips::OpenReader(path);
     const auto scanner = KxVideoScanner::Open(path, {});
-    const auto sound = KxAudioReader::Open(path, 0, {}, {});
+    const auto sound = OpenedSound(path, 0, {});
     ASSERT_TRUE(reader != nullptr && scanner && sound);
     ASSERT_EQ(ReadClips::ReadNumber(*reader, 0), 0);
     ASSERT_FALSE(reader->FileHasChanged());
