@@ -1877,7 +1877,7 @@ Benötigt: %1 MB, verfügbar: %2 MB.</translation>
 <context>
     <name>KxOutputSize</name>
     <message>
-        <source>the size %1 x %2 has not the shape of the crop; %1 x %3 has it</source>
+        <source>the size %1 x %2 does not have the shape of the crop; %1 x %3 does</source>
         <translation>die Größe %1 x %2 hat nicht die Form des Ausschnitts; %1 x %3 hat sie</translation>
     </message>
 </context>

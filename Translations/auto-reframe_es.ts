@@ -1877,7 +1877,7 @@ Espacio necesario: %1 MB, disponible: %2 MB.</translation>
 <context>
     <name>KxOutputSize</name>
     <message>
-        <source>the size %1 x %2 has not the shape of the crop; %1 x %3 has it</source>
+        <source>the size %1 x %2 does not have the shape of the crop; %1 x %3 does</source>
         <translation>el tamaño %1 x %2 no tiene la forma del encuadre; %1 x %3 sí</translation>
     </message>
 </context>

@@ -1877,7 +1877,7 @@ Espace nécessaire&#xa0;: %1 Mo, disponible&#xa0;: %2 Mo.</translation>
 <context>
     <name>KxOutputSize</name>
     <message>
-        <source>the size %1 x %2 has not the shape of the crop; %1 x %3 has it</source>
+        <source>the size %1 x %2 does not have the shape of the crop; %1 x %3 does</source>
         <translation>la taille %1 x %2 n’a pas la forme du cadre&#xa0;; %1 x %3 l’a</translation>
     </message>
 </context>

@@ -1865,7 +1865,7 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
 <context>
     <name>KxOutputSize</name>
     <message>
-        <source>the size %1 x %2 has not the shape of the crop; %1 x %3 has it</source>
+        <source>the size %1 x %2 does not have the shape of the crop; %1 x %3 does</source>
         <translation>サイズ %1 x %2 はクロップの形と異なります。%1 x %3 なら一致します</translation>
     </message>
 </context>

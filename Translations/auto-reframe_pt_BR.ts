@@ -1877,7 +1877,7 @@ Espaço necessário: %1 MB, disponível: %2 MB.</translation>
 <context>
     <name>KxOutputSize</name>
     <message>
-        <source>the size %1 x %2 has not the shape of the crop; %1 x %3 has it</source>
+        <source>the size %1 x %2 does not have the shape of the crop; %1 x %3 does</source>
         <translation>o tamanho %1 x %2 não tem a forma do corte; %1 x %3 tem</translation>
     </message>
 </context>

@@ -52,7 +52,7 @@ KxResult<QSize> KxOutputSize::For(const QSizeF& crop, const QSize& cropSize) con
     if (std::abs(aspect * exact.height() / exact.width() - 1.0) > ShapeTolerance) {
         return KxResult<QSize>::Failure(
             QCoreApplication::translate("KxOutputSize",
-                                        "the size %1 x %2 has not the shape of the crop; %1 x %3 has it")
+                                        "the size %1 x %2 does not have the shape of the crop; %1 x %3 does")
                 .arg(QString::number(exact.width()), QString::number(exact.height()),
                      QString::number(Even(exact.width() / aspect))));
     }

@@ -44,7 +44,7 @@ TEST(KxOutputSize, ASizeOfAnotherShapeIsRefusedWithTheOneThatFits)
     const KxResult<QSize> result = size->For(Crop, CropSize);
     ASSERT_FALSE(result);
     EXPECT_EQ(result.Message(),
-              QStringLiteral("the size 1080 x 1080 has not the shape of the crop; 1080 x 1920 has it"));
+              QStringLiteral("the size 1080 x 1080 does not have the shape of the crop; 1080 x 1920 does"));
 }
 
 TEST(KxOutputSize, AShorterSideIsThatOfEitherShape)

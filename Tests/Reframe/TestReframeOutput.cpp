@@ -227,7 +227,7 @@ TEST_F(ReframeOutputTest, ASizeOfAnotherShapeIsRefused)
 {
     const ReframeRun run(Arguments("--size 1080x1080", "x.mp4", Path("clip.mp4")));
     EXPECT_EQ(run.exitStatus, 1);
-    EXPECT_TRUE(run.standardError.contains(QStringLiteral("1080 x 1920 has it"))) << run.standardError.toStdString();
+    EXPECT_TRUE(run.standardError.contains(QStringLiteral("1080 x 1920 does"))) << run.standardError.toStdString();
     EXPECT_FALSE(QFile::exists(Path("x.mp4")));
 }
 
