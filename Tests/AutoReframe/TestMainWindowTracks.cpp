@@ -7,6 +7,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
+#include <QContextMenuEvent>
 #include <QLineEdit>
 #include <QMenu>
 #include <QTimer>
@@ -41,6 +42,23 @@ protected:
         });
         Button("TopBar_menu")->click();
         return isEnabled;
+    }
+    /// The texts of the menu that the right mouse button opens on the first video.
+    QStringList MenuOfTheFirstVideo()
+    {
+        QStringList texts;
+        QTimer::singleShot(0, m_window.get(), [&texts] {
+            auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+            ASSERT_NE(menu, nullptr);
+            for (const QAction* const action : menu->actions()) {
+                texts += action->text();
+            }
+            menu->close();
+        });
+        const QPoint place = View()->visualRect(View()->model()->index(0, 0)).center();
+        QContextMenuEvent event(QContextMenuEvent::Mouse, place, View()->viewport()->mapToGlobal(place));
+        QApplication::sendEvent(View()->viewport(), &event);
+        return texts;
     }
     /// Calls `use` once a modal dialog of that class is open.
     template<typename Dialog>
@@ -216,7 +234,9 @@ TEST_F(TestMainWindowTracks, OnlyOneVideoHasACropTrack)
     EXPECT_FALSE(Choose(QStringLiteral("Save Crop Track…")));
     EXPECT_FALSE(Choose(QStringLiteral("Open Crop Track…")));
     EXPECT_FALSE(Choose(QStringLiteral("Export for")));
+    EXPECT_FALSE(MenuOfTheFirstVideo().contains(QStringLiteral("Save Crop Track…")));
     View()->setCurrentIndex(View()->model()->index(0, 0));
     KxFileDialog::SetResponder([](const KxFileDialog::Shown&) { return QStringList(); });
     EXPECT_TRUE(Choose(QStringLiteral("Open Crop Track…")));
+    EXPECT_TRUE(MenuOfTheFirstVideo().contains(QStringLiteral("Save Crop Track…")));
 }
