@@ -26,12 +26,13 @@ struct Texts {
 
 } // namespace
 
-ReframeJob::ReframeJob(const QString& input, const QSize& aspect, const ReframeOptions& options,
+ReframeJob::ReframeJob(ReframeInput& input, const QSize& aspect, const ReframeOptions& options,
                        ReframeReporter& reporter, QStringList& written)
-    : m_input(input)
+    : m_input(input.path)
     , m_options(options)
     , m_reporter(reporter)
     , m_aspect(aspect)
+    , m_media(input.media)
     , m_process(std::make_unique<KrAutoReframeProcess>(nullptr))
     , m_allWritten(written)
 {
@@ -94,11 +95,13 @@ QString ReframeJob::FramesText() const
 
 ReframeJob::Ended ReframeJob::Open()
 {
-    KxResult<std::unique_ptr<KxMediaItem>> media = KxMediaItem::Open(m_input, KxInterrupt::Token());
-    if (!media) {
-        return FailUnlessInterrupted(media.Message());
+    if (!m_media) {
+        KxResult<std::unique_ptr<KxMediaItem>> media = KxMediaItem::Open(m_input, KxInterrupt::Token());
+        if (!media) {
+            return FailUnlessInterrupted(media.Message());
+        }
+        m_media = std::move(*media);
     }
-    m_media = std::move(*media);
     if (!m_media->mediaInfo()->hasVideoStream()) {
         return Fail(Texts::tr("Cannot reframe %1: it has no moving picture.").arg(m_input));
     }

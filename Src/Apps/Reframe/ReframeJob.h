@@ -15,6 +15,12 @@
 
 #include <QJsonObject>
 
+/// A file of the command line. Opened by its first job, for all of them.
+struct ReframeInput {
+    QString path;
+    std::shared_ptr<KxMediaItem> media; ///< null before
+};
+
 /// Processes one input at one aspect ratio: opens it, analyses it or reads a crop track, and writes the requested
 /// files. Main thread; runs the event loop while it waits.
 class ReframeJob
@@ -22,7 +28,7 @@ class ReframeJob
 public:
     /// `written` are the files of the earlier jobs, to which this job adds its own: a run never replaces its own
     /// output.
-    ReframeJob(const QString& input, const QSize& aspect, const ReframeOptions& options, ReframeReporter& reporter,
+    ReframeJob(ReframeInput& input, const QSize& aspect, const ReframeOptions& options, ReframeReporter& reporter,
                QStringList& written);
     ~ReframeJob();
     Q_DISABLE_COPY_MOVE(ReframeJob)
@@ -111,7 +117,7 @@ private:
     const ReframeOptions& m_options;
     ReframeReporter& m_reporter;
     QSize m_aspect;
-    std::unique_ptr<KxMediaItem> m_media;
+    std::shared_ptr<KxMediaItem>& m_media; ///< of the input
     std::unique_ptr<KrAutoReframeProcess> m_process;
     /// Applied in place of an analysis.
     std::optional<CropTrack> m_track;

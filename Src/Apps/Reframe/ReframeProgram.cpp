@@ -40,13 +40,14 @@ int RunAll(const ReframeOptions& options, ReframeReporter& reporter)
 {
     QStringList written;
     int status = ReframeExit::Done;
-    for (const QString& input : options.inputs) {
+    for (const QString& path : options.inputs) {
+        ReframeInput input{path, nullptr};
         for (const QSize& aspect : options.aspects) {
             KxOutcome outcome = KxOutcome::Failed;
             const KxError failure =
                 KxCallGuarded([&] { outcome = ReframeJob(input, aspect, options, reporter, written).Run(); });
             if (failure) {
-                reporter.Fail(input, Texts::tr("Cannot reframe %1: %2.").arg(input, *failure));
+                reporter.Fail(path, Texts::tr("Cannot reframe %1: %2.").arg(path, *failure));
             }
             if (outcome == KxOutcome::Cancelled) {
                 return reporter.OutputProblem() ? ReframeExit::SomeFailed : InterruptedStatus();
