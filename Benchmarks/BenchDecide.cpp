@@ -57,8 +57,6 @@ QMap<QString, double*> Values(KxSubjectOptions& options)
             {QStringLiteral("moverFullTravel"), &movers.fullTravel},
             {QStringLiteral("moverAreaPower"), &movers.areaPower},
             {QStringLiteral("moverEmptyFloor"), &movers.emptyFloor},
-            {QStringLiteral("faceZeroWeightShare"), &faces.zeroWeightShare},
-            {QStringLiteral("faceFullWeightShare"), &faces.fullWeightShare},
             {QStringLiteral("faceWindowSeconds"), &faces.windowSeconds},
             {QStringLiteral("detectionWeight"), &evidence.detectionWeight},
             {QStringLiteral("detectionFullArea"), &options.detections.fullArea},
@@ -80,12 +78,9 @@ QMap<QString, double*> Values(KxSubjectOptions& options)
             {QStringLiteral("accelerationWeight"), &path.accelerationWeight},
             {QStringLiteral("jerkWeight"), &path.jerkWeight},
             {QStringLiteral("stepsPerSecond"), &path.stepsPerSecond},
-            {QStringLiteral("overspeedWeight"), &path.overspeedWeight},
             {QStringLiteral("stillSpeed"), &path.stillSpeed},
-            {QStringLiteral("stillTrim"), &path.stillTrim},
             {QStringLiteral("stillRange"), &reaction.stillRange},
             {QStringLiteral("deadZone"), &reaction.deadZone},
-            {QStringLiteral("topSpeed"), &reaction.topSpeed},
             {QStringLiteral("smoothing"), &reaction.smoothingSeconds}};
 }
 

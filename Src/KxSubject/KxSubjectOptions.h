@@ -162,15 +162,13 @@ struct KxSubjectOptions {
         int followNeighbours = 2;  ///< 1 to 4 raw hits that keep a known face; clips: with 4 it is often lost
         int minimumPx = 24;        ///< 20 to 40, smallest face looked for; chosen
         int profileMinimumPx = 32; ///< 24 to 40, the same from the sides, where most of the cost is; talk
-        double modelThreshold = 0.7;   ///< 0.5 to 0.9, the neural detector's own score; chosen
-        int followedAtOnce = 6;        ///< 3 to 12 faces; bounds the cost of a crowd; chosen
-        double sameShare = 0.6;        ///< 0.4 to 0.8 of the size: nearer boxes of similar size are one; chosen
-        int missesToDrop = 3;          ///< 2 to 6 looks in a row; clips
-        double windowSeconds = 2.0;    ///< 1.5 to 3 each way: looks that count; clips: below, a face flickers
-        int agreeing = 2;              ///< 1 to 3 other looks in the window that must see the face; trial
-        double zeroWeightShare = 0.05; ///< 0 to 0.1 of the shorter side; trial
-        double fullWeightShare = 0.15; ///< 0.1 to 0.25 of the shorter side; trial
-        double growDown = 0.5;         ///< 0 to 1 of the face's height; trial
+        double modelThreshold = 0.7; ///< 0.5 to 0.9, the neural detector's own score; chosen
+        int followedAtOnce = 6;      ///< 3 to 12 faces; bounds the cost of a crowd; chosen
+        double sameShare = 0.6;      ///< 0.4 to 0.8 of the size: nearer boxes of similar size are one; chosen
+        int missesToDrop = 3;        ///< 2 to 6 looks in a row; clips
+        double windowSeconds = 2.0;  ///< 1.5 to 3 each way: looks that count; clips: below, a face flickers
+        int agreeing = 2;            ///< 1 to 3 other looks in the window that must see the face; trial
+        double growDown = 0.5;       ///< 0 to 1 of the face's height; trial
     } faces;
 
     /// People and animals that the object detector finds.
@@ -327,9 +325,6 @@ struct KxSubjectOptions {
         double speedWeight = 0.35;       ///< 0.25 to 0.5 on the first derivative; cross
         double accelerationWeight = 0.3; ///< 0.1 to 0.45 on the second: more gives fewer, longer pans; cross
         double jerkWeight = 0.2;         ///< 0.08 to 0.3 on the third: more gives longer eases; cross
-        /// 0 to 5 on what exceeds the top speed, which no rule forbids: the subject may need it; chosen
-        double overspeedWeight = 1.0;
-        double boundsWeight = 200.0; ///< 50 to 1000 on leaving the places a crop can take; 1000 does the same
         /// 10 to 120: after a longer pause in the pictures a new path starts, as at a cut; chosen: bounds the work
         double longestHoldSeconds = 30.0;
         int iterations = 60; ///< 40 to 100; clips: 1600 draw random walks up to 0.04 widths elsewhere, these alike
@@ -337,7 +332,6 @@ struct KxSubjectOptions {
         /// leaves the subject
         double stillSpeed = 0.006;
         double easeSeconds = 1.0; ///< 0.5 to 2 for coming to a place that a person chose; chosen
-        double stillTrim = 0.05;  ///< 0 to 0.1 of the samples at each end of the range, that do not count; chosen
     } path;
 
     /// The path's reaction at one motion speed. Widths are the picture's unless the crop's is named. Origin: trial. The
@@ -346,13 +340,12 @@ struct KxSubjectOptions {
     struct Reaction {
         double stillRange;       ///< 0.05 to 0.3 crop widths: the crop is static while the subject's range is less
         double deadZone;         ///< 0.03 to 0.3 crop widths
-        double topSpeed;         ///< 0.05 to 0.6 widths a second
         double smoothingSeconds; ///< 0.2 to 3; 1 means the weights of Path
         double holdSeconds;      ///< 0.3 to 2 before the subject changes
     };
-    Reaction slow{0.25, 0.20, 0.08, 1.5, 0.9};
-    Reaction automatic{0.18, 0.15, 0.20, 0.5, 0.8};
-    Reaction fast{0.075, 0.05, 0.45, 0.2, 0.36};
+    Reaction slow{0.25, 0.20, 1.5, 0.9};
+    Reaction automatic{0.18, 0.15, 0.5, 0.8};
+    Reaction fast{0.075, 0.05, 0.2, 0.36};
 
     const Reaction& For(KxMotionSpeed speed) const
     {

@@ -2,6 +2,15 @@
 
 #include <algorithm>
 
+namespace
+{
+
+/// Of the picture's shorter side: faces of this width weigh nothing, and all they can.
+constexpr double ZeroWeightShare = 0.05;
+constexpr double FullWeightShare = 0.15;
+
+} // namespace
+
 KxFaceEvidence::KxFaceEvidence(const KxSubjectRecord& record, const KxSubjectOptions& options)
     : m_record(record)
     , m_options(options.faces)
@@ -25,8 +34,7 @@ double KxFaceEvidence::SizeWeight(const KxFaceLook& face) const
 {
     const double share =
         static_cast<double>(face.width) / std::min(m_record.workingSizePx.width, m_record.workingSizePx.height);
-    return std::clamp((share - m_options.zeroWeightShare) / (m_options.fullWeightShare - m_options.zeroWeightShare),
-                      0.0, 1.0);
+    return std::clamp((share - ZeroWeightShare) / (FullWeightShare - ZeroWeightShare), 0.0, 1.0);
 }
 
 KxFaceEvidence::Detections KxFaceEvidence::DetectionsOf(const KxFaceTrack& track, double fromSeconds,

@@ -11,6 +11,9 @@ namespace
 /// Bounds time and memory where a shot lasts for days: beyond this many, the nodes of the path are farther apart.
 constexpr double MostNodes = 1e6;
 
+/// Of the samples at each end of the subject's range, that do not count.
+constexpr double StillTrim = 0.05;
+
 /// Below the first rate an ease takes as many frames as at it, since the eye sees the steps from frame to frame; below
 /// the second one it would lag too far behind.
 constexpr double SmoothRate = 24.0;
@@ -92,7 +95,7 @@ std::optional<double> KxCropPath::StillCentre(const std::vector<KxPathPoint>& po
         centres.push_back(point.centre);
     }
     std::sort(centres.begin(), centres.end());
-    const auto trimmed = static_cast<std::size_t>(m_options.stillTrim * static_cast<double>(centres.size()));
+    const auto trimmed = static_cast<std::size_t>(StillTrim * static_cast<double>(centres.size()));
     const double range = centres[centres.size() - 1 - trimmed] - centres[trimmed];
     if (range >= m_reaction.stillRange * m_geometry.Extent()) {
         return std::nullopt;
@@ -138,11 +141,8 @@ std::vector<double> KxCropPath::DrawSmooth(const std::vector<KxPathPoint>& point
     settings.accelerationWeight = m_options.accelerationWeight * m_reaction.smoothingSeconds;
     settings.jerkWeight = m_options.jerkWeight * m_reaction.smoothingSeconds * JerkFactor(span.frameRate);
     settings.stillSpeed = m_options.stillSpeed;
-    settings.topSpeed = m_reaction.topSpeed;
-    settings.overspeedWeight = m_options.overspeedWeight * m_reaction.smoothingSeconds;
     settings.lowest = m_geometry.MinimumCentre();
     settings.highest = m_geometry.MaximumCentre();
-    settings.boundsWeight = m_options.boundsWeight;
     settings.iterations = m_options.iterations;
     const std::vector<double> nodes = KxTrendFilter(settings).Smooth(NodesOf(points, span, stepsPerSecond), cancel);
     std::vector<double> centres(static_cast<std::size_t>(span.end - span.first));

@@ -11,7 +11,7 @@ constexpr double FirstPrecision = 1e-2;
 constexpr double LastPrecision = 1e-6;
 constexpr double PrecisionGain = 0.75;
 constexpr double Rigid = 1e8;
-constexpr double OverspeedRise = 0.25; ///< of the top speed, over which the extra cost grows to its full weight
+constexpr double BoundsWeight = 200.0; ///< on the distance to the bound that the line would cross; 1000 does the same
 constexpr int PartWithoutBounds =
     3; ///< the bounds wait for this part of the iterations: first the line finds its shape
 
@@ -121,10 +121,7 @@ KxTrendFilter::Weights KxTrendFilter::WeightsOf(const std::vector<double>& line,
         weights.data.push_back(1.0 / std::max(std::abs(line[i] - wanted[i]), m_settings.huberDelta));
     }
     for (std::size_t i = 0; i + 1 < size; ++i) {
-        const double speed = std::abs(FirstDifference(line, i)) / step;
-        const double overspeed = std::clamp((speed / m_settings.topSpeed - 1.0) / OverspeedRise, 0.0, 1.0);
-        weights.speed.push_back((m_settings.speedWeight + m_settings.overspeedWeight * overspeed) / step *
-                                inverse(FirstDifference(line, i)));
+        weights.speed.push_back(m_settings.speedWeight / step * inverse(FirstDifference(line, i)));
     }
     for (std::size_t i = 0; i + 2 < size; ++i) {
         weights.acceleration.push_back(m_settings.accelerationWeight / (step * step) *
@@ -141,7 +138,7 @@ void KxTrendFilter::Extend(BoundsPenalty& penalty, const std::vector<double>& li
     for (std::size_t i = 0; i < line.size(); ++i) {
         penalty.bound[i] = std::clamp(line[i], m_settings.lowest, m_settings.highest);
         if (line[i] != penalty.bound[i]) {
-            penalty.weight[i] = m_settings.boundsWeight;
+            penalty.weight[i] = BoundsWeight;
         }
     }
 }

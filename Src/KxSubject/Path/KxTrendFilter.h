@@ -18,11 +18,8 @@ public:
         double accelerationWeight = 0.15; ///< per unit a second squared
         double jerkWeight = 0.03;         ///< per unit a second cubed
         double stillSpeed = 0.0;          ///< units a second: slower spans are made exactly still
-        double topSpeed = 0.5;            ///< units a second, above 0: speed beyond it costs extra
-        double overspeedWeight = 1.0;     ///< of that extra cost, per unit a second
         double lowest = 0.0;              ///< bounds of the line; it is eased back inside, not clipped
         double highest = 1.0;
-        double boundsWeight = 200.0; ///< on the distance to the bound that the line would cross
         int iterations = 60;
     };
 

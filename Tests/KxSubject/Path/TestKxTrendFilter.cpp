@@ -110,21 +110,6 @@ TEST(KxTrendFilter, ALineNeverLeavesItsBounds)
     }
 }
 
-TEST(KxTrendFilter, TheCostOfOverspeedSlowsAFastPanDown)
-{
-    std::vector<double> wanted(60, 0.2);
-    for (std::size_t i = 20; i < wanted.size(); ++i) {
-        wanted[i] = std::min(0.8, 0.2 + 0.06 * static_cast<double>(i - 20));
-    }
-    KxTrendFilter::Settings settings = Usual();
-    settings.topSpeed = 0.2;
-    settings.overspeedWeight = 0.0;
-    const double free = LargestStep(KxTrendFilter(settings).Smooth(wanted, KxCancelToken()));
-    settings.overspeedWeight = 3.0;
-    const double held = LargestStep(KxTrendFilter(settings).Smooth(wanted, KxCancelToken()));
-    EXPECT_LT(held, 0.8 * free);
-}
-
 TEST(KxTrendFilter, MoreSmoothingTravelsLess)
 {
     std::vector<double> wanted;
