@@ -251,7 +251,7 @@ struct KxSubjectOptions {
         double saliencyWeightAcross = 0.39; ///< 0.2 to 0.6; cross
         double saliencyWeightUpDown = 0.1;  ///< 0 to 0.3: it misleads on tall pictures; clips
         double faceWeight = 1.0;            ///< 0.7 to 1.5; trial
-        double detectionWeight = 1.65;      ///< 1 to 3.5; cross
+        double detectionWeight = 2.0;       ///< 1 to 3.5; cross
         double emptyFloor = 0.01;           ///< 0.005 to 0.02 of the area: an empty map weighs little; trial
         double concentration = 1.6;         ///< 1 to 2, power on the combined evidence; clips
         double windowFlatAcross = 0.7;      ///< 0.4 to 1 of the scoring window; the rest is a squared cosine; cross

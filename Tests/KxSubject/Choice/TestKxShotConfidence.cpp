@@ -62,7 +62,7 @@ TEST(KxShotConfidence, AnEqualSubjectElsewhereIsDoubtful)
 TEST(KxShotConfidence, ASecondSubjectCostsMoreInOnePlaceThanSpread)
 {
     KxSignalProfile spread = Evidence(0.3);
-    spread.Add(0.45, 1.0, 0.6);
+    spread.Add(0.6, 1.0, 0.6);
     EXPECT_LT(Confidence({Evidence(0.3, 0.6)}), Confidence({spread}));
 }
 
