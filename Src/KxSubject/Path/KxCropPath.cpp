@@ -11,15 +11,15 @@ namespace
 /// Bounds time and memory where a shot lasts for days: beyond this many, the nodes of the path are farther apart.
 constexpr double MostNodes = 1e6;
 
-/// Of the samples at each end of the subject's range, that do not count.
+/// The share of the samples at each end of the subject's range that does not count.
 constexpr double StillTrim = 0.05;
 
-/// Below the first rate an ease takes as many frames as at it, since the eye sees the steps from frame to frame; below
-/// the second one it would lag too far behind.
+/// Frames a second. At a lower rate an ease takes as many frames as at SmoothRate, since the eye sees the steps from
+/// frame to frame; from SlowestRate down it takes no longer, since it would lag too far behind.
 constexpr double SmoothRate = 24.0;
 constexpr double SlowestRate = 10.0;
 
-/// Of the jerk weight at a low frame rate: the duration of an ease grows with its cube root.
+/// By what to multiply the jerk weight: the duration of an ease grows with the cube root of the weight.
 double JerkFactor(double frameRate)
 {
     const double slowness = SmoothRate / std::clamp(frameRate, SlowestRate, SmoothRate);
