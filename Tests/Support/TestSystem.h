@@ -14,6 +14,9 @@ bool MakeNamedPipe(const QString& path);
 /// A file name of signs that mark-up, messages and templates use, as far as the names of files can have them.
 QString HostileName();
 
+/// Whether LANGUAGE in a program's environment is the language of the system to it.
+bool TakesLanguageFromEnvironment();
+
 /// Whether a file that is open can be removed; otherwise the attempt fails.
 bool RemovesOpenFiles();
 

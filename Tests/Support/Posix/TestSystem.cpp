@@ -16,6 +16,11 @@ QString TestSystem::HostileName()
     return QStringLiteral("a<b> & \"c\" %1 %2 {{facts}}");
 }
 
+bool TestSystem::TakesLanguageFromEnvironment()
+{
+    return true;
+}
+
 bool TestSystem::RemovesOpenFiles()
 {
     return true;

@@ -15,6 +15,11 @@ QString TestSystem::HostileName()
     return QStringLiteral("a & 'c' %1 %2 {{facts}}");
 }
 
+bool TestSystem::TakesLanguageFromEnvironment()
+{
+    return false;
+}
+
 bool TestSystem::RemovesOpenFiles()
 {
     return false;
