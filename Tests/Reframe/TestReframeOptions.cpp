@@ -110,6 +110,7 @@ TEST(ReframeOptions, WrongUseIsOneErrorMessageAndStatusTwo)
                              "--hdr keep --codec h264 a.mp4",
                              "--hdr keep --encoder vaapi a.mp4",
                              "--sound none a.mp4",
+                             "--sound auto a.mp4",
                              "--loudness 14 a.mp4",
                              "--loudness -14 --sound copy a.mp4",
                              "--edit-list e.avi a.mp4",

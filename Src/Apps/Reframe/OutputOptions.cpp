@@ -1,5 +1,7 @@
 #include <Apps/Reframe/OutputOptions.h>
 
+#include <KxMedia/Write/KxOutputFormatNames.h>
+
 #include <QCommandLineParser>
 #include <QCoreApplication>
 
@@ -17,33 +19,7 @@ struct Texts {
 using Parsed = KxResult<OutputOptions>;
 using Codec = KxOutputFormat::Codec;
 using Encoder = KxOutputFormat::Encoder;
-
-template<typename Value>
-struct Named {
-    const char* name;
-    Value value;
-};
-
-template<typename Value, size_t Count>
-std::optional<Value> ValueOf(const Named<Value> (&names)[Count], const QString& name)
-{
-    for (const Named<Value>& named : names) {
-        if (name == QLatin1String(named.name)) {
-            return named.value;
-        }
-    }
-    return std::nullopt;
-}
-
-constexpr Named<Codec> Codecs[] = {{"h264", Codec::H264}, {"hevc", Codec::Hevc}, {"av1", Codec::Av1}};
-constexpr Named<Encoder> Encoders[] = {{"software", Encoder::Software},
-                                       {"auto", Encoder::Auto},
-                                       {"vaapi", Encoder::Vaapi},
-                                       {"nvenc", Encoder::Nvenc},
-                                       {"qsv", Encoder::Qsv}};
-constexpr Named<KxHighRange> HighRanges[] = {{"tonemap", KxHighRange::ToneMapped}, {"keep", KxHighRange::Kept}};
-constexpr Named<KxOutputFormat::Sound> Sounds[] = {{"encode", KxOutputFormat::Sound::Encoded},
-                                                   {"copy", KxOutputFormat::Sound::Copied}};
+namespace Names = KxOutputFormatNames;
 
 std::optional<double> NumberIn(const QString& text, double least, double most)
 {
@@ -99,14 +75,21 @@ std::vector<Rule> Rules(const OutputOptions::Definitions& definitions, OutputOpt
          QT_TRANSLATE_NOOP("OutputOptions", "--quality takes a number from 0 to 100; \"%1\" is none.")},
         {definitions.bitRate, [&](const QString& text) { return Set(options.videoBitRate, BitRateOf(text)); },
          QT_TRANSLATE_NOOP("OutputOptions", "--bitrate takes bits a second from 10k to 300M; \"%1\" are none.")},
-        {definitions.codec, [&](const QString& name) { return Set(format.codec, ValueOf(Codecs, name)); },
+        {definitions.codec, [&](const QString& name) { return Set(format.codec, Names::ValueOf(Names::Codecs, name)); },
          QT_TRANSLATE_NOOP("OutputOptions", "--codec takes h264, hevc or av1; \"%1\" is none of them.")},
-        {definitions.encoder, [&](const QString& name) { return Set(format.encoder, ValueOf(Encoders, name)); },
+        {definitions.encoder,
+         [&](const QString& name) { return Set(format.encoder, Names::ValueOf(Names::Encoders, name)); },
          QT_TRANSLATE_NOOP("OutputOptions",
                            "--encoder takes auto, software, vaapi, nvenc or qsv; \"%1\" is none of them.")},
-        {definitions.highRange, [&](const QString& name) { return Set(format.highRange, ValueOf(HighRanges, name)); },
+        {definitions.highRange,
+         [&](const QString& name) { return Set(format.highRange, Names::ValueOf(Names::HighRanges, name)); },
          QT_TRANSLATE_NOOP("OutputOptions", "--hdr takes keep or tonemap; \"%1\" is neither.")},
-        {definitions.sound, [&](const QString& name) { return Set(format.sound, ValueOf(Sounds, name)); },
+        {definitions.sound,
+         [&](const QString& name) {
+             // The default, which only a missing option means.
+             const auto sound = Names::ValueOf(Names::Sounds, name);
+             return sound != KxOutputFormat::Sound::Automatic && Set(format.sound, sound);
+         },
          QT_TRANSLATE_NOOP("OutputOptions", "--sound takes copy or encode; \"%1\" is neither.")},
         {definitions.loudness,
          [&](const QString& text) { return Set(format.loudnessLufs, NumberIn(text, -70.0, -5.0)); },
