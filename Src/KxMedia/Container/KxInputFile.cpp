@@ -295,6 +295,8 @@ KxError KxInputFile::ReadStreamInfo()
     for (AVDictionary*& option : options) {
         av_dict_set_int(&option, "max_pixels", LargestPicturePixels, 0);
         av_dict_set_int(&option, "threads", 1, 0);
+        // Nobody sees these pictures.
+        av_dict_set(&option, "skip_loop_filter", "all", 0);
     }
     const int error = avformat_find_stream_info(m_context.get(), options.empty() ? nullptr : options.data());
     for (AVDictionary*& option : options) {

@@ -13,7 +13,7 @@ KxResult<KxMediaFacts> KxProbeMedia(const QString& path, const KxCancelToken& ca
         return KxFactsWithoutVideo(**input);
     }
     const KxResult<std::unique_ptr<KxVideoSource>> source =
-        KxVideoSource::Open(std::move(*input), KxVideoDecoder::Effort::Full);
+        KxVideoSource::Open(std::move(*input), KxVideoDecoder::Effort::FirstPicture);
     if (!source) {
         return KxResult<KxMediaFacts>::Failure(source.Message());
     }

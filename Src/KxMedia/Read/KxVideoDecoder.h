@@ -11,6 +11,7 @@ public:
     enum class Effort {
         Full,
         SkipLoopFilter, ///< slightly lower picture quality
+        FirstPicture,   ///< for facts: one thread, so that no picture is decoded ahead
     };
     enum class Skip {
         Nothing,
@@ -25,6 +26,8 @@ public:
 
     /// On failure, returns a clause to append to the caller's message. `packets` is borrowed.
     static KxResult<std::unique_ptr<KxVideoDecoder>> Open(KxVideoPackets& packets, Effort effort);
+    /// Decodes with another effort from now on. Call after the packets were moved to their start.
+    KxError Restart(Effort effort);
 
     KxReadStatus Next(Picture& picture);
     enum class Place { Start, KeyFrame };

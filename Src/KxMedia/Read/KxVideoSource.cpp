@@ -58,14 +58,11 @@ KxError KxVideoSource::Prepare(std::unique_ptr<KxInputFile> input, KxVideoDecode
     if (const KxReadStatus status = m_packets->Prepare(); status != KxReadStatus::Delivered) {
         return status == KxReadStatus::Cancelled ? CancelledReason() : Texts::tr("it is damaged");
     }
-    KxResult<std::unique_ptr<KxVideoDecoder>> decoder = KxVideoDecoder::Open(*m_packets, effort);
+    KxResult<std::unique_ptr<KxVideoDecoder>> decoder = KxVideoDecoder::Open(*m_packets, KxVideoDecoder::Effort::FirstPicture);
     if (!decoder) {
         return decoder.Message();
     }
     m_decoder = std::move(*decoder);
-    if (effort == KxVideoDecoder::Effort::Full) {
-        m_deinterlacer.emplace();
-    }
 
     KxVideoDecoder::Picture first;
     const KxReadStatus status = m_decoder->Next(first);
@@ -86,7 +83,13 @@ KxError KxVideoSource::Prepare(std::unique_ptr<KxInputFile> input, KxVideoDecode
         return Texts::tr("it is a single picture, not a video");
     }
     KxCompleteVideoFacts(*m_packets, *m_facts.video, m_facts.audio);
-    return Rewind() ? KxError() : Texts::tr("it cannot be read from the start again");
+    if (!Rewind()) {
+        return Texts::tr("it cannot be read from the start again");
+    }
+    if (effort == KxVideoDecoder::Effort::Full) {
+        m_deinterlacer.emplace();
+    }
+    return effort == KxVideoDecoder::Effort::FirstPicture ? KxError() : m_decoder->Restart(effort);
 }
 
 KxError KxVideoSource::MeasureLength(qint64 firstTicks)

@@ -12,7 +12,8 @@
 class KxVideoSource
 {
 public:
-    /// Decodes the first picture, finds the end and returns to the start. Fails if `input` has no video stream.
+    /// Decodes the first picture, finds the end and returns to the start. Fails if `input` has no video stream. With
+    /// the effort for the first picture, only the facts are of use.
     static KxResult<std::unique_ptr<KxVideoSource>> Open(std::unique_ptr<KxInputFile> input,
                                                          KxVideoDecoder::Effort effort);
     static KxResult<std::unique_ptr<KxVideoSource>> Open(const QString& path, const KxCancelToken& cancel,
