@@ -101,10 +101,12 @@ bool KxAutoReframeService::Start(const QString& path, const IKxAutoReframeParam&
         m_newestStart = task->cancel;
         task->number = ++m_lastStarted;
         settings = m_settings;
+        settings.opened = std::move(m_opened);
     }
     WaitForTasks();
     auto analysis = KxResult<std::unique_ptr<KxAnalysis>>::Failure({});
     const KxError failure = KxCallGuarded([&] { analysis = m_open(path, param, settings, task->cancel); });
+    settings.opened.reset();
 
     const std::lock_guard<std::mutex> lock(m_mutex);
     if (task->cancel.IsCancelled()) {
@@ -344,6 +346,12 @@ void KxAutoReframeService::SetParts(const QStringList& parts)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     m_settings.parts = parts;
+}
+
+void KxAutoReframeService::Offer(std::shared_ptr<KxVideoScanner> opened)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_opened = std::move(opened);
 }
 
 void KxAutoReframeService::SetChoices(KxSubjectChoices choices)

@@ -81,6 +81,10 @@ public:
     /// Where the tasks that start from now on find the pictures of the video (KxAnalysisSettings::parts). Any thread.
     void SetParts(const QStringList& parts);
 
+    /// The next task takes this video in place of opening its file, if it is of the same file and unchanged. Nothing
+    /// was read of it yet. Null: the task opens its file. Any thread.
+    void Offer(std::shared_ptr<KxVideoScanner> opened);
+
     /// What the person decided for the video of the tasks that start from now on; at first nothing. Where the record of
     /// a video is known, only what the choices need is looked at again. Any thread.
     void SetChoices(KxSubjectChoices choices);
@@ -141,6 +145,7 @@ private:
     qint64 m_lastEnded = 0;
     std::thread::id m_taskThread; ///< while a task runs
     KxAnalysisSettings m_settings;
+    std::shared_ptr<KxVideoScanner> m_opened; ///< for the next task
     QString m_resultPath;
     KxAnalysis::Result m_result;
     std::unique_ptr<KxWorker> m_worker; ///< null until the first task; last, because its jobs use all of the above

@@ -2,6 +2,7 @@
 
 #include <KxCore/KxLog.h>
 #include <KxMedia/Read/KxMediaProbe.h>
+#include <KxMedia/Read/KxVideoScanner.h>
 
 #include <QFileInfo>
 
@@ -15,7 +16,17 @@ KxMediaItem::~KxMediaItem() = default;
 
 KxResult<std::unique_ptr<KxMediaItem>> KxMediaItem::Open(const QString& path, const KxCancelToken& cancel)
 {
-    KxResult<KxMediaFacts> facts = KxProbeMedia(path, cancel);
+    return Of(KxProbeMedia(path, cancel));
+}
+
+KxResult<std::unique_ptr<KxMediaItem>> KxMediaItem::Open(const QString& path, const KxCancelToken& cancel,
+                                                         std::unique_ptr<KxVideoScanner>& opened)
+{
+    return Of(KxProbeMedia(path, cancel, opened));
+}
+
+KxResult<std::unique_ptr<KxMediaItem>> KxMediaItem::Of(KxResult<KxMediaFacts> facts)
+{
     if (!facts) {
         return KxResult<std::unique_ptr<KxMediaItem>>::Failure(facts.Message());
     }

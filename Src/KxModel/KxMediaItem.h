@@ -6,12 +6,17 @@
 
 #include <KxModel/KxClip.h>
 
+class KxVideoScanner;
+
 /// A media file of the host's library. The interface documents its threads.
 class KXMODEL_API KxMediaItem final : public IKxAbstractMediaItem
 {
 public:
     /// Reads the facts of a file; the error message names the file and the reason. Blocks.
     static KxResult<std::unique_ptr<KxMediaItem>> Open(const QString& path, const KxCancelToken& cancel);
+    /// The same for a file that is going to be analysed: `opened` is its video, still open; null if it has none.
+    static KxResult<std::unique_ptr<KxMediaItem>> Open(const QString& path, const KxCancelToken& cancel,
+                                                       std::unique_ptr<KxVideoScanner>& opened);
     ~KxMediaItem() override;
 
     QString name() const override;
@@ -23,6 +28,7 @@ public:
 
 private:
     explicit KxMediaItem(std::shared_ptr<const KxMediaFacts> facts);
+    static KxResult<std::unique_ptr<KxMediaItem>> Of(KxResult<KxMediaFacts> facts);
 
     std::shared_ptr<const KxMediaFacts> m_facts;
     KxClip m_clip;

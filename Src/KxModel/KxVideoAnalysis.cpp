@@ -110,7 +110,7 @@ QStringList PlacementWarnings(const std::vector<KxPlacedChoice>& placed, const Q
 
 KxAnalysis::~KxAnalysis() = default;
 
-KxVideoAnalysis::KxVideoAnalysis(std::unique_ptr<KxVideoScanner> scanner, const IKxAutoReframeParam& param,
+KxVideoAnalysis::KxVideoAnalysis(std::shared_ptr<KxVideoScanner> scanner, const IKxAutoReframeParam& param,
                                  const KxAnalysisSettings& settings, const KxCancelToken& cancel)
     : m_path(scanner->Facts().path)
     , m_scanner(std::move(scanner))
@@ -118,6 +118,7 @@ KxVideoAnalysis::KxVideoAnalysis(std::unique_ptr<KxVideoScanner> scanner, const 
     , m_settings(settings)
     , m_cancel(cancel)
 {
+    m_settings.opened.reset();
 }
 
 KxVideoAnalysis::~KxVideoAnalysis() = default;
@@ -132,17 +133,21 @@ KxResult<std::unique_ptr<KxAnalysis>> KxVideoAnalysis::Open(const QString& path,
             Texts::tr("The aspect ratio %1:%2 has a side that is not positive.")
                 .arg(QString::number(param.targetSize().width()), QString::number(param.targetSize().height())));
     }
-    KxResult<std::unique_ptr<KxVideoScanner>> scanner = KxVideoScanner::Open(path, cancel);
-    if (!scanner) {
-        return Opened::Failure(scanner.Message());
+    std::shared_ptr<KxVideoScanner> scanner = settings.opened;
+    if (!scanner || scanner->Facts().path != path || scanner->FileHasChanged()) {
+        KxResult<std::unique_ptr<KxVideoScanner>> opened = KxVideoScanner::Open(path, cancel);
+        if (!opened) {
+            return Opened::Failure(opened.Message());
+        }
+        scanner = std::move(*opened);
     }
-    const qint64 frames = (*scanner)->Facts().video->frameCount;
+    const qint64 frames = scanner->Facts().video->frameCount;
     if (frames > MostFrames) {
         return Opened::Failure(
             Texts::tr("Cannot analyse %1: its time stamps span %2 frames, the limit is %3.")
                 .arg(QFileInfo(path).fileName(), QString::number(frames), QString::number(MostFrames)));
     }
-    return std::unique_ptr<KxAnalysis>(new KxVideoAnalysis(std::move(*scanner), param, settings, cancel));
+    return std::unique_ptr<KxAnalysis>(new KxVideoAnalysis(std::move(scanner), param, settings, cancel));
 }
 
 std::shared_ptr<const KxSubjectRecord> KxVideoAnalysis::FindRecord(const QByteArray& key) const

@@ -65,6 +65,8 @@ struct KxAnalysisSettings {
     std::shared_ptr<KxFollowTracks> tracks; ///< null: what is followed is looked for anew each time
     /// The files with the pictures of the video's parts (KxPicturesFile), in order; empty: the video is decoded.
     QStringList parts;
+    /// The video of the analysis, at its start; null, and one of another or a changed file: the file is opened.
+    std::shared_ptr<KxVideoScanner> opened;
 };
 
 /// The analysis of a video file. If the file was looked at before, its record decides; otherwise its pictures are
@@ -98,11 +100,11 @@ private:
     /// Looks for what the choices of `request` point at. False if that fails or is cancelled: then `result` says why.
     bool Follow(const KxSubjectRecord& record, const QByteArray& key, KxSubjectRequest& request,
                 const std::function<void(int percent)>& onProgress, Result& result);
-    KxVideoAnalysis(std::unique_ptr<KxVideoScanner> scanner, const IKxAutoReframeParam& param,
+    KxVideoAnalysis(std::shared_ptr<KxVideoScanner> scanner, const IKxAutoReframeParam& param,
                     const KxAnalysisSettings& settings, const KxCancelToken& cancel);
 
     const QString m_path;
-    std::unique_ptr<KxVideoScanner> m_scanner; ///< null once it was read to its end
+    std::shared_ptr<KxVideoScanner> m_scanner; ///< null once it was read to its end
     IKxAutoReframeParam m_param;
     KxAnalysisSettings m_settings;
     KxCancelToken m_cancel;

@@ -1,6 +1,8 @@
 #include <KxMedia/Read/KxAudioReader.h>
 #include <KxMedia/Read/KxMediaProbe.h>
 #include <KxMedia/Read/KxVideoScanner.h>
+#include <KxModel/KxAutoReframeService.h>
+#include <KxModel/KxMediaItem.h>
 #include <Tests/KxRender/RenderFixture.h>
 
 #include <KxCore/KxExport.h>
@@ -41,6 +43,24 @@ protected:
         openings = 0;
         return source;
     }
+    std::unique_ptr<KxVideoScanner> Opened() const
+    {
+        std::unique_ptr<KxVideoScanner> opened;
+        EXPECT_TRUE(KxMediaItem::Open(m_clip, {}, opened));
+        return opened;
+    }
+    /// The number of crops.
+    int Analyse(std::unique_ptr<KxVideoScanner> opened) const
+    {
+        KxAnalysisSettings settings;
+        settings.opened = std::move(opened);
+        const auto analysis = KxVideoAnalysis::Open(m_clip, m_param, settings, {});
+        EXPECT_TRUE(analysis) << qPrintable(analysis.Message());
+        return analysis ? (*analysis)->Run([](int) {}).crops.size() : 0;
+    }
+
+    const QString m_clip = Path(QStringLiteral("clip.mp4"));
+    const IKxAutoReframeParam m_param{16, QSize(9, 16)};
 };
 
 } // namespace
@@ -79,6 +99,38 @@ TEST_F(FileOpenings, AnAnalysisTakesOneOpening)
     while ((*scanner)->Next(picture) == KxReadStatus::Delivered) {
     }
     EXPECT_EQ(openings, 1);
+}
+
+TEST_F(FileOpenings, FactsAndAnAnalysisTakeOneOpening)
+{
+    MakeSource();
+    EXPECT_EQ(Analyse(Opened()), 25);
+    EXPECT_EQ(openings, 1);
+}
+
+TEST_F(FileOpenings, AnAnalysisOpensAFileThatHasChangedSinceItsFactsWereRead)
+{
+    MakeSource();
+    std::unique_ptr<KxVideoScanner> opened = Opened();
+    MakeClip(40);
+    EXPECT_EQ(Analyse(std::move(opened)), 40);
+}
+
+TEST_F(FileOpenings, OnlyTheNextTaskTakesAnOpenVideo)
+{
+    MakeSource();
+    std::vector<const KxVideoScanner*> taken;
+    KxAutoReframeService service(
+        [&taken](const QString&, const IKxAutoReframeParam&, const KxAnalysisSettings& settings, const KxCancelToken&) {
+            taken.push_back(settings.opened.get());
+            return KxResult<std::unique_ptr<KxAnalysis>>::Failure(QStringLiteral("It was only opened."));
+        });
+    std::unique_ptr<KxVideoScanner> opened = Opened();
+    const KxVideoScanner* const scanner = opened.get();
+    service.Offer(std::move(opened));
+    service.StartTask(m_clip, m_param);
+    service.StartTask(m_clip, m_param);
+    EXPECT_EQ(taken, (std::vector<const KxVideoScanner*>{scanner, nullptr}));
 }
 
 TEST_F(FileOpenings, ARenderingTakesOneOpeningForPicturesAndOneForSound)

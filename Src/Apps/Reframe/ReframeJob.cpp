@@ -96,7 +96,10 @@ QString ReframeJob::FramesText() const
 ReframeJob::Ended ReframeJob::Open()
 {
     if (!m_media) {
-        KxResult<std::unique_ptr<KxMediaItem>> media = KxMediaItem::Open(m_input, KxInterrupt::Token());
+        const bool isForAnalysis = m_options.apply.isEmpty() && !m_options.frames;
+        KxResult<std::unique_ptr<KxMediaItem>> media = isForAnalysis
+                                                           ? KxMediaItem::Open(m_input, KxInterrupt::Token(), m_opened)
+                                                           : KxMediaItem::Open(m_input, KxInterrupt::Token());
         if (!media) {
             return FailUnlessInterrupted(media.Message());
         }
@@ -220,7 +223,11 @@ void ReframeJob::NoteShots()
 
 ReframeJob::Ended ReframeJob::StartAnalysis()
 {
-    switch (m_process->StartAnalyze(m_aspect.width(), m_aspect.height(), m_options.speedMode)) {
+    KxAutoReframeService& service = KxAutoReframeService::Instance();
+    service.Offer(std::move(m_opened));
+    const int refusal = m_process->StartAnalyze(m_aspect.width(), m_aspect.height(), m_options.speedMode);
+    service.Offer(nullptr);
+    switch (refusal) {
     case 0:
         return std::nullopt;
     case 1:

@@ -8,6 +8,7 @@
 #include <KxCore/KxOutputFile.h>
 #include <KxCore/KxResult.h>
 #include <KxEditList/KxCroppedClip.h>
+#include <KxMedia/Read/KxVideoScanner.h>
 #include <KxModel/KxMediaItem.h>
 #include <KxRender/KxRenderer.h>
 
@@ -117,7 +118,8 @@ private:
     const ReframeOptions& m_options;
     ReframeReporter& m_reporter;
     QSize m_aspect;
-    std::shared_ptr<KxMediaItem>& m_media; ///< of the input
+    std::shared_ptr<KxMediaItem>& m_media;    ///< of the input
+    std::unique_ptr<KxVideoScanner> m_opened; ///< for the analysis; may be null
     std::unique_ptr<KrAutoReframeProcess> m_process;
     /// Applied in place of an analysis.
     std::optional<CropTrack> m_track;

@@ -53,8 +53,16 @@ KxVideoScanner::~KxVideoScanner() = default;
 
 KxResult<std::unique_ptr<KxVideoScanner>> KxVideoScanner::Open(const QString& path, const KxCancelToken& cancel)
 {
-    KxResult<std::unique_ptr<KxVideoSource>> source =
-        KxVideoSource::Open(path, cancel, KxVideoDecoder::Effort::SkipLoopFilter);
+    return Of(KxVideoSource::Open(path, cancel, KxVideoDecoder::Effort::SkipLoopFilter));
+}
+
+KxResult<std::unique_ptr<KxVideoScanner>> KxVideoScanner::Open(std::unique_ptr<KxInputFile> input)
+{
+    return Of(KxVideoSource::Open(std::move(input), KxVideoDecoder::Effort::SkipLoopFilter));
+}
+
+KxResult<std::unique_ptr<KxVideoScanner>> KxVideoScanner::Of(KxResult<std::unique_ptr<KxVideoSource>> source)
+{
     if (!source) {
         return KxResult<std::unique_ptr<KxVideoScanner>>::Failure(source.Message());
     }

@@ -2,6 +2,9 @@
 
 #include <KxMedia/Read/KxVideoReader.h>
 
+class KxInputFile;
+class KxVideoSource;
+
 /// Reads a file's pictures once, in order, for the analysis: the loop filter and, from 20 pictures a second on, the
 /// pictures that no other picture needs may be skipped, which saves about half of the work. One thread at a time.
 ///
@@ -13,6 +16,8 @@ class KXMEDIA_API KxVideoScanner
 {
 public:
     static KxResult<std::unique_ptr<KxVideoScanner>> Open(const QString& path, const KxCancelToken& cancel);
+    /// Fails if `input` has no video stream.
+    static KxResult<std::unique_ptr<KxVideoScanner>> Open(std::unique_ptr<KxInputFile> input);
     ~KxVideoScanner();
 
     const KxMediaFacts& Facts() const;
@@ -37,5 +42,6 @@ public:
 private:
     class Impl;
     explicit KxVideoScanner(std::unique_ptr<Impl> impl);
+    static KxResult<std::unique_ptr<KxVideoScanner>> Of(KxResult<std::unique_ptr<KxVideoSource>> source);
     std::unique_ptr<Impl> m_impl;
 };
