@@ -34,7 +34,7 @@ public:
     std::optional<Range> NextRange() const;
     bool Wants(std::int64_t frame) const;
     void AddPicture(std::int64_t frame, const KxPictureView& view);
-    void EndRange();
+    void EndRange(const std::function<bool()>& goesOn);
     double Progress(std::size_t more) const
     {
         return m_steps.empty() ? 1.0 : static_cast<double>(m_next + more) / static_cast<double>(m_steps.size());
@@ -59,7 +59,7 @@ private:
 
     void AddShot(const Range& shot, const KxSubjectChoice& choice);
     void FollowForward(const Picture& picture);
-    void FollowBackward(std::size_t seed, std::int64_t until);
+    bool FollowBackward(std::size_t seed, std::int64_t until, const std::function<bool()>& goesOn);
     /// Follows the thing of one seed in one direction of time.
     struct Run {
         std::size_t seed;
@@ -249,7 +249,7 @@ void KxSubjectFollower::Impl::FollowForward(const Picture& picture)
     }
 }
 
-void KxSubjectFollower::Impl::FollowBackward(std::size_t index, std::int64_t until)
+bool KxSubjectFollower::Impl::FollowBackward(std::size_t index, std::int64_t until, const std::function<bool()>& goesOn)
 {
     auto from = m_kept.end();
     if (m_backwardSeed != index) {
@@ -267,10 +267,14 @@ void KxSubjectFollower::Impl::FollowBackward(std::size_t index, std::int64_t unt
     while (m_backward && from != m_kept.begin() && std::prev(from)->frame >= until) {
         --from;
         m_seeds[index].before.push_back(Advance(*m_backward, *from));
+        if (!goesOn()) {
+            return false;
+        }
     }
+    return true;
 }
 
-void KxSubjectFollower::Impl::EndRange()
+void KxSubjectFollower::Impl::EndRange(const std::function<bool()>& goesOn)
 {
     if (m_next >= m_steps.size()) {
         return;
@@ -279,7 +283,10 @@ void KxSubjectFollower::Impl::EndRange()
     try {
         for (const std::size_t seed : step.backward) {
             const bool isFirst = m_seeds[seed].startsShot;
-            FollowBackward(seed, isFirst ? step.range.first : std::max(step.range.first, m_seeds[seed - 1].frame));
+            const std::int64_t until = isFirst ? step.range.first : std::max(step.range.first, m_seeds[seed - 1].frame);
+            if (!FollowBackward(seed, until, goesOn)) {
+                break;
+            }
         }
     } catch (const cv::Exception& problem) {
         KxThrowIfOutOfMemory(problem);
@@ -340,9 +347,9 @@ void KxSubjectFollower::AddPicture(std::int64_t frame, const KxPictureView& pict
     m_impl->AddPicture(frame, picture);
 }
 
-void KxSubjectFollower::EndRange()
+void KxSubjectFollower::EndRange(const std::function<bool()>& goesOn)
 {
-    m_impl->EndRange();
+    m_impl->EndRange(goesOn);
 }
 
 double KxSubjectFollower::Progress() const

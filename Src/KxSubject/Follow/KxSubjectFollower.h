@@ -36,12 +36,14 @@ public:
     bool Wants(std::int64_t frame) const;
     /// `picture` has the record's working size; one that has not is ignored.
     void AddPicture(std::int64_t frame, const KxPictureView& picture);
-    /// Call after the last picture of a range.
-    void EndRange();
+    /// Call after the last picture of a range: follows backward through its pictures. `goesOn` is called after each of
+    /// them; once it returns false, the rest is left out, and the track remains incomplete.
+    void EndRange(const std::function<bool()>& goesOn = [] { return true; });
     /// The share of the ranges that are done, 0 to 1; and that after this range.
     double Progress() const;
     double ProgressAfterRange() const;
 
+    /// As far as the pictures were followed.
     KxFollowTrack Track() const;
 
 private:

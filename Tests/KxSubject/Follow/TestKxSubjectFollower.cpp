@@ -286,3 +286,24 @@ TEST(KxSubjectFollower, MissingAndWrongPicturesAreIgnored)
     ASSERT_EQ(follower.Track().points.size(), 1U) << "the seed alone";
     follower.EndRange();
 }
+
+TEST(KxSubjectFollower, FollowingBackwardCanBeEnded)
+{
+    constexpr std::int64_t frames = 60;
+    constexpr std::int64_t seed = 40;
+    const KxSubjectRecord record = Record(frames);
+    KxSubjectFollower follower(record, Follow({SeedAt(seed)}), {});
+    for (std::int64_t frame = 0; frame < frames; frame += 2) {
+        const cv::Mat picture = Picture(frame);
+        follower.AddPicture(frame, {picture.data, {picture.cols, picture.rows}, picture.step[0]});
+    }
+    EXPECT_EQ(follower.Track().points.front().frame, seed);
+    std::int64_t first = seed;
+    follower.EndRange([&] {
+        EXPECT_EQ(follower.Track().points.front().frame, first - 2);
+        first -= 2;
+        return first > seed - 10;
+    });
+    EXPECT_EQ(follower.Track().points.front().frame, seed - 10);
+    EXPECT_EQ(follower.Track().points.back().frame, frames - 2);
+}
