@@ -405,7 +405,12 @@ KxSubjectDecision Decider::Run(const KxCancelToken& cancel)
     m_findings.freeAxis = m_geometry.FreeAxis();
     m_findings.content = m_record.content;
     for (const Shot& shot : Shots()) {
-        AddCrops(shot, cancel, decision.crops);
+        if (shot.first < m_request.frames.end && shot.end > m_request.frames.first) {
+            AddCrops(shot, cancel, decision.crops);
+        } else {
+            decision.crops.insert(decision.crops.end(), static_cast<std::size_t>(shot.end - shot.first),
+                                  m_geometry.At(0.5));
+        }
         if (cancel.IsCancelled()) {
             return {};
         }

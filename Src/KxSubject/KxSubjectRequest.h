@@ -4,6 +4,8 @@
 #include <KxSubject/KxMotionSpeed.h>
 #include <KxSubject/KxSubjectChoices.h>
 
+#include <cstdint>
+#include <limits>
 #include <vector>
 
 /// Whether the crop follows who speaks, in shots with several faces and sound.
@@ -19,4 +21,10 @@ struct KxSubjectRequest {
     /// By choice, as KxSubjectFollower made them; a choice with seeds and without a track is known at its seeds alone.
     std::vector<KxFollowTrack> tracks = {};
     KxSpeakerMode speaker = KxSpeakerMode::Auto;
+    /// Shots without a frame from `first` up to, but without, `end` are not decided: their crops are in the middle.
+    struct Frames {
+        std::int64_t first = 0;
+        std::int64_t end = std::numeric_limits<std::int64_t>::max();
+    };
+    Frames frames = {};
 };

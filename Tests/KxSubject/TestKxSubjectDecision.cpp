@@ -332,6 +332,27 @@ TEST(KxSubjectDecision, OneRecordServesEveryAspectAndSpeed)
     }
 }
 
+TEST(KxSubjectDecision, ShotsWithoutTheFramesThatAreAskedForAreNotDecided)
+{
+    Task task = MakeTask(100);
+    KxSubjectObserver observer = Observer(task);
+    for (std::int64_t frame = 0; frame < 100; ++frame) {
+        observer.AddPicture(frame, ViewOf(frame < 47 ? Picture(0.22, 40.0, 21) : Picture(0.76, 40.0, 22)));
+    }
+    const KxSubjectRecord record = observer.Finish();
+    const auto whole = KxDecide(record, task.request, {}, KxCancelToken()).crops;
+    task.request.frames = {60, 61};
+    const auto some = KxDecide(record, task.request, {}, KxCancelToken()).crops;
+    ASSERT_EQ(some.size(), 100U);
+    for (std::size_t frame = 0; frame < 47; ++frame) {
+        EXPECT_NEAR(Middle(some[frame]), 0.5, 1e-12) << frame;
+        EXPECT_LT(Middle(whole[frame]), 0.4) << frame;
+    }
+    for (std::size_t frame = 47; frame < 100; ++frame) {
+        EXPECT_EQ(some[frame].x, whole[frame].x) << frame;
+    }
+}
+
 TEST(KxSubjectDecision, WithoutPicturesTheCropIsInTheMiddle)
 {
     const auto crops = Analyse(MakeTask(12), Walk, 1, 0);
