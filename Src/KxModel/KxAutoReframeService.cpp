@@ -113,7 +113,10 @@ bool KxAutoReframeService::Start(const QString& path, const IKxAutoReframeParam&
         // A stop or a newer start during the opening has the same effect as one right after this call.
         return true;
     }
+    // Until the new task ends, what is known about the pictures of its video still holds.
+    std::shared_ptr<const KxSubjectRecord> record = path == m_resultPath ? m_result.record : nullptr;
     m_result = {};
+    m_result.record = std::move(record);
     if (!analysis) {
         m_result.message = failure ? FailureMessage(path, *failure) : analysis.Message();
         return false;

@@ -1,5 +1,7 @@
 #include <KxModel/KxAutoReframeService.h>
 
+#include <KxSubject/KxSubjectRecord.h>
+
 #include <gtest/gtest.h>
 
 #include <condition_variable>
@@ -379,4 +381,37 @@ TEST_F(KxAutoReframeServiceTasks, ARefusedStartStopsTheTaskBeforeIt)
     EXPECT_FALSE(Start(QStringLiteral("text.txt")));
     EXPECT_TRUE(token.get_future().get().IsCancelled());
     EXPECT_EQ(m_service.LastErrorMessage(), QStringLiteral("text.txt is no video."));
+}
+
+TEST_F(KxAutoReframeServiceTasks, AVideoCanBeDescribedWhileItsNextTaskRuns)
+{
+    const auto isDescribed = [this](const QString& path) {
+        return !m_service.DescribeFrames(path, {1}).first().isEmpty();
+    };
+    auto record = std::make_shared<KxSubjectRecord>();
+    record->source = {640, 360, 25.0, 2};
+    record->prints = {{0, 1, 1}, {1, 2, 2}};
+    m_files.Add(m_quick, [&](const Progress&) {
+        KxAnalysis::Result result = Done();
+        result.record = record;
+        return result;
+    });
+    Recorder recorder(m_service);
+    ASSERT_TRUE(Start(m_quick));
+    ASSERT_TRUE(recorder.WaitForEnds(1));
+    EXPECT_TRUE(isDescribed(m_quick));
+    m_files.Add(m_quick, [&](const Progress&) {
+        EXPECT_TRUE(isDescribed(m_quick));
+        EXPECT_LT(ResultsOf(m_quick), 0);
+        return Done();
+    });
+    ASSERT_TRUE(Start(m_quick));
+    ASSERT_TRUE(recorder.WaitForEnds(2));
+    m_files.Add(m_slow, [&](const Progress&) {
+        EXPECT_FALSE(isDescribed(m_quick));
+        EXPECT_FALSE(isDescribed(m_slow));
+        return Done();
+    });
+    ASSERT_TRUE(Start(m_slow));
+    ASSERT_TRUE(recorder.WaitForEnds(3));
 }
