@@ -2,7 +2,8 @@
 // click to the last keyframe:
 //   BenchAnswer VIDEO RECORDS SECONDS X,Y,W,H [ROUNDS]
 //       RECORDS is the folder of what analyses saw, so that only the first run looks at the video. The box, in
-//       fractions of the picture at the time SECONDS, is what a person points at. Prints one line of JSON:
+//       fractions of the picture at the time SECONDS, is what a person points at; by turns without and with partial
+//       results, as the dialog wants them (growing). Prints one line of JSON:
 //       milliseconds, of each kind the median and the longest.
 
 #include <KrAutoReframe/Engine/KrAutoReframeHelper.h>
@@ -90,18 +91,23 @@ QJsonObject Measure(KrAutoReframeProcess& process, const QRectF& box, double sec
     std::vector<Taken> aspects;
     std::vector<Taken> speeds;
     std::vector<Taken> choices;
+    std::vector<Taken> growing;
     for (int round = 1; round <= rounds; ++round) {
         aspects.push_back(Answer(process, round % 2 == 0 ? QSize(1, 1) : QSize(4, 5), Automatic));
         speeds.push_back(Answer(process, tall, round % 2 == 0 ? Fast : Slow));
         const auto* const media = static_cast<const KxClip*>(process.GetHelper()->GetSourceTimeline()->clips().first());
         const double end = process.GetHelper()->GetDuration() / media->StreamInfo().frameRate().ToDouble();
-        static_cast<IKxAutoReframeChoices&>(service).SetChoices(Follow(box, seconds, end, round));
-        choices.push_back(Answer(process, tall, Automatic));
+        for (const bool isPartial : {round % 2 == 0, round % 2 != 0}) {
+            static_cast<IKxAutoReframeChoices&>(service).SetChoices(Follow(box, seconds, end, 2 * round + isPartial));
+            service.CollectPartialResults(isPartial);
+            (isPartial ? growing : choices).push_back(Answer(process, tall, Automatic));
+        }
         static_cast<IKxAutoReframeChoices&>(service).SetChoices({});
     }
     Add(found, QStringLiteral("aspect"), aspects);
     Add(found, QStringLiteral("speed"), speeds);
     Add(found, QStringLiteral("choice"), choices);
+    Add(found, QStringLiteral("growingChoice"), growing);
     return found;
 }
 

@@ -122,8 +122,9 @@ int main(int argc, char* argv[])
             request.choices = {ChoiceOf(line)};
             QElapsedTimer timer;
             timer.start();
-            const KxFollowPass::Result pass = KxFollowPass::Run(
-                arguments[1], *record, request.choices[0], [](double) {}, KxCancelToken());
+            const KxFollowPass::Result pass =
+                KxFollowPass::Run(arguments[1], *record, request.choices[0],
+                                  {[](double) {}, [](const KxSubjectFollower&) {}}, KxCancelToken());
             if (pass.outcome != KxOutcome::Done) {
                 return Fail(pass.message);
             }

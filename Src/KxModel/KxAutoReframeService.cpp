@@ -102,6 +102,16 @@ bool KxAutoReframeService::Start(const QString& path, const IKxAutoReframeParam&
         task->number = ++m_lastStarted;
         settings = m_settings;
         settings.opened = std::move(m_opened);
+        if (m_collectsPartial) {
+            settings.partial.take = [this, path, cancel = task->cancel](const QList<IKxAutoReframeResult>& results) {
+                const std::lock_guard<std::mutex> taking(m_mutex);
+                if (!cancel.IsCancelled()) {
+                    m_partialPath = path;
+                    m_partial = results;
+                }
+            };
+        }
+        m_partial.clear();
     }
     WaitForTasks();
     auto analysis = KxResult<std::unique_ptr<KxAnalysis>>::Failure({});
@@ -171,6 +181,7 @@ void KxAutoReframeService::Report(const Task& task, KxAnalysis::Result result)
         }
         m_resultPath = task.path;
         m_result = std::move(result);
+        m_partial.clear();
     }
     m_observers.Notify(task.number, StateEnded, 100, task.cancel);
 }
@@ -180,6 +191,7 @@ void KxAutoReframeService::StopTask(int /*task*/)
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
         m_newestStart.Cancel();
+        m_partial.clear();
     }
     WaitForTasks();
 }
@@ -332,6 +344,18 @@ QList<IKxAutoReframeResult> KxAutoReframeService::Decide(const QString& path, co
         }
     });
     return result.crops;
+}
+
+void KxAutoReframeService::CollectPartialResults(bool isWanted)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_collectsPartial = isWanted;
+}
+
+QList<IKxAutoReframeResult> KxAutoReframeService::GetPartialResults(const QString& path) const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return path == m_partialPath ? m_partial : QList<IKxAutoReframeResult>();
 }
 
 void KxAutoReframeService::SetNetworkFolder(const QString& path)

@@ -2,6 +2,7 @@
 
 #include <KxModel/IKxAutoReframeChoices.h>
 #include <KxModel/IKxAutoReframeDecisions.h>
+#include <KxModel/IKxAutoReframePartialResults.h>
 #include <KxModel/IKxAutoReframePictures.h>
 #include <KxModel/IKxAutoReframeService.h>
 #include <KxModel/IKxAutoReframeShots.h>
@@ -25,7 +26,8 @@ class KXMODEL_API KxAutoReframeService final : public IKxAutoReframeService,
                                                public IKxAutoReframeShots,
                                                public IKxAutoReframeChoices,
                                                public IKxAutoReframePictures,
-                                               public IKxAutoReframeDecisions
+                                               public IKxAutoReframeDecisions,
+                                               public IKxAutoReframePartialResults
 {
 public:
     /// The service that getAutoReframeService() returns.
@@ -69,6 +71,9 @@ public:
     QList<std::optional<qint64>> FindFrames(const QString& path, const QList<KxDescribedFrame>& frames) const override;
 
     QList<IKxAutoReframeResult> Decide(const QString& path, const IKxAutoReframeParam& param) const override;
+
+    void CollectPartialResults(bool isWanted) override;
+    QList<IKxAutoReframeResult> GetPartialResults(const QString& path) const override;
 
     /// The folder of the optional detectors (KxDetectorFiles::FindNetworks) for the tasks that start from now on;
     /// empty, as at first: none. Any thread.
@@ -148,5 +153,9 @@ private:
     std::shared_ptr<KxVideoScanner> m_opened; ///< for the next task
     QString m_resultPath;
     KxAnalysis::Result m_result;
+    bool m_collectsPartial = false;
+    /// Of the running task; empty without one.
+    QString m_partialPath;
+    QList<IKxAutoReframeResult> m_partial;
     std::unique_ptr<KxWorker> m_worker; ///< null until the first task; last, because its jobs use all of the above
 };

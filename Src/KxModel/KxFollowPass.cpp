@@ -22,33 +22,48 @@ struct Texts {
 class Pass
 {
 public:
-    Pass(KxVideoReader& reader, KxSubjectFollower& follower, const KxSubjectRecord& record, const KxCancelToken& cancel)
+    Pass(KxVideoReader& reader, KxSubjectFollower& follower, const QSize& size, const KxFollowPass::Listener& listener,
+         const KxCancelToken& cancel)
         : m_reader(reader)
         , m_follower(follower)
-        , m_size(record.workingSizePx.width, record.workingSizePx.height)
+        , m_size(size)
+        , m_listener(listener)
         , m_cancel(cancel)
     {
     }
 
-    KxError Run(const KxSubjectFollower::Range& range, const std::function<void(double)>& onProgress)
+    KxError Run(const KxSubjectFollower::Range& range)
     {
-        return KxPicturePipeline::Run([&](const KxPicturePipeline::Put& put) { Decode(range, put, onProgress); },
-                                      [this](const KxPicturePipeline::Picture& picture) {
-                                          if (!m_cancel.IsCancelled()) {
-                                              const QImage& image = picture.image;
-                                              m_follower.AddPicture(picture.frame,
-                                                                    {image.constBits(),
-                                                                     {image.width(), image.height()},
-                                                                     static_cast<std::size_t>(image.bytesPerLine())});
-                                          }
-                                      });
+        const KxError problem =
+            KxPicturePipeline::Run([&](const KxPicturePipeline::Put& put) { Decode(range, put); },
+                                   [this](const KxPicturePipeline::Picture& picture) { Follow(picture); });
+        if (!problem && !m_cancel.IsCancelled()) {
+            m_follower.EndRange([this] {
+                m_listener.onFollowed(m_follower);
+                return !m_cancel.IsCancelled();
+            });
+        }
+        return problem;
     }
 
 private:
-    /// `onProgress` is called with the share of the range.
-    void Decode(const KxSubjectFollower::Range& range, const KxPicturePipeline::Put& put,
-                const std::function<void(double)>& onProgress)
+    void Follow(const KxPicturePipeline::Picture& picture)
     {
+        if (m_cancel.IsCancelled()) {
+            return;
+        }
+        const QImage& image = picture.image;
+        m_follower.AddPicture(
+            picture.frame,
+            {image.constBits(), {image.width(), image.height()}, static_cast<std::size_t>(image.bytesPerLine())});
+        m_listener.onFollowed(m_follower);
+    }
+
+    void Decode(const KxSubjectFollower::Range& range, const KxPicturePipeline::Put& put)
+    {
+        // The follower belongs to the other thread while pictures are delivered.
+        const double before = m_follower.Progress();
+        const double share = m_follower.ProgressAfterRange() - before;
         KxPictureScaler scaler(KxPictureScaler::Detail::Coarse);
         for (qint64 frame = range.first; frame < range.end && !m_cancel.IsCancelled(); ++frame) {
             if (!m_follower.Wants(frame)) {
@@ -62,20 +77,22 @@ private:
             if (!image.isNull() && !put({frame, std::move(image)})) {
                 return;
             }
-            onProgress(static_cast<double>(frame - range.first) / static_cast<double>(range.end - range.first));
+            const double part = static_cast<double>(frame - range.first) / static_cast<double>(range.end - range.first);
+            m_listener.onProgress(before + share * part);
         }
     }
 
     KxVideoReader& m_reader;
     KxSubjectFollower& m_follower;
     QSize m_size;
+    const KxFollowPass::Listener& m_listener;
     KxCancelToken m_cancel;
 };
 
 } // namespace
 
 KxFollowPass::Result KxFollowPass::Run(const QString& path, const KxSubjectRecord& record,
-                                       const KxSubjectChoice& choice, const std::function<void(double)>& onProgress,
+                                       const KxSubjectChoice& choice, const Listener& listener,
                                        const KxCancelToken& cancel)
 {
     Result result;
@@ -86,11 +103,9 @@ KxFollowPass::Result KxFollowPass::Run(const QString& path, const KxSubjectRecor
         result.message = reader.Message();
         return result;
     }
-    Pass pass(**reader, follower, record, cancel);
+    Pass pass(**reader, follower, {record.workingSizePx.width, record.workingSizePx.height}, listener, cancel);
     while (const std::optional<KxSubjectFollower::Range> range = follower.NextRange()) {
-        const double before = follower.Progress();
-        const double share = follower.ProgressAfterRange() - before;
-        const KxError problem = pass.Run(*range, [&](double part) { onProgress(before + share * part); });
+        const KxError problem = pass.Run(*range);
         if (cancel.IsCancelled()) {
             result.outcome = KxOutcome::Cancelled;
             return result;
@@ -100,7 +115,6 @@ KxFollowPass::Result KxFollowPass::Run(const QString& path, const KxSubjectRecor
                 Texts::tr("Cannot follow in %1: %2.").arg(QFileInfo(path).fileName(), problem->simplified());
             return result;
         }
-        follower.EndRange();
     }
     result.track = follower.Track();
     result.outcome = KxOutcome::Done;

@@ -11,6 +11,7 @@
 
 #include <functional>
 
+class KxSubjectFollower;
 struct KxSubjectRecord;
 
 /// Looks again at the shots in which a person pointed at something, and follows it there. The calling thread decodes,
@@ -23,7 +24,13 @@ struct Result {
     QString message;     ///< the error message of a failure
 };
 
-/// `record` is that of the video `path`. `onProgress` is called on this thread with 0 to 1.
+struct Listener {
+    std::function<void(double share)> onProgress; ///< called on the calling thread with 0 to 1
+    /// Called after each picture on the thread that follows, which is one of the two.
+    std::function<void(const KxSubjectFollower& follower)> onFollowed;
+};
+
+/// `record` is that of the video `path`.
 KXMODEL_API Result Run(const QString& path, const KxSubjectRecord& record, const KxSubjectChoice& choice,
-                       const std::function<void(double)>& onProgress, const KxCancelToken& cancel);
+                       const Listener& listener, const KxCancelToken& cancel);
 } // namespace KxFollowPass

@@ -14,6 +14,7 @@
 #include <KxCore/KxMemory.h>
 
 #include <KxMedia/Read/KxVideoScanner.h>
+#include <KxSubject/Follow/KxSubjectFollower.h>
 #include <KxSubject/KxShotDoubt.h>
 #include <KxSubject/KxSubjectDecision.h>
 #include <KxSubject/KxSubjectObserver.h>
@@ -230,9 +231,11 @@ bool KxVideoAnalysis::Follow(const KxSubjectRecord& record, const QByteArray& ke
             request.tracks.push_back(known ? *known : KxFollowTrack());
             continue;
         }
-        KxFollowPass::Result pass = KxFollowPass::Run(
-            m_path, record, choice, [&](double part) { onProgress(static_cast<int>((before + part / count) * 100.0)); },
-            m_cancel);
+        KxPartialResults partial(record, request, m_settings.partial, m_cancel);
+        const KxFollowPass::Listener listener{
+            [&](double part) { onProgress(static_cast<int>((before + part / count) * 100.0)); },
+            [&](const KxSubjectFollower& follower) { partial.HandleFollowed([&] { return follower.Track(); }); }};
+        KxFollowPass::Result pass = KxFollowPass::Run(m_path, record, choice, listener, m_cancel);
         if (pass.outcome != KxOutcome::Done) {
             result.outcome = pass.outcome;
             result.message = pass.message;

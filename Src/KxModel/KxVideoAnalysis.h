@@ -5,6 +5,8 @@
 #include <KxModel/IKxAutoReframeResult.h>
 #include <KxModel/IKxAutoReframeShots.h>
 
+#include <KxModel/KxPartialResults.h>
+
 #include <KxCore/KxCancelToken.h>
 #include <KxCore/KxResult.h>
 #include <KxSubject/Choice/KxChoicePlacement.h>
@@ -63,6 +65,7 @@ struct KxAnalysisSettings {
     std::shared_ptr<KxRecordStore> records; ///< null: every analysis looks at the video
     KxSubjectChoices choices;               ///< of the person, for this video
     std::shared_ptr<KxFollowTracks> tracks; ///< null: what is followed is looked for anew each time
+    KxPartialTaker partial;                 ///< of what is followed
     /// The files with the pictures of the video's parts (KxPicturesFile), in order; empty: the video is decoded.
     QStringList parts;
     /// The video of the analysis, at its start; null, and one of another or a changed file: the file is opened.
