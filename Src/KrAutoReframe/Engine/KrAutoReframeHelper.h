@@ -103,6 +103,11 @@ public:
     /// The rectangles including the edits, one a frame. Do not keep a copy: the next edit would have to copy the whole
     /// list before it writes to it.
     const QList<IKxAutoReframeResult>& GetDisplayResults() const;
+    /// Displays these rectangles, each at its frame, in place of the results, except where an edit applies. Results,
+    /// keyframes and edits stay. Nothing while results are applied.
+    void ShowPreliminary(const QList<IKxAutoReframeResult>& rectangles);
+    /// Displays the results with the edits, as before ShowPreliminary().
+    void ShowResultsAgain();
 
     /// The edit of AddCropKeyFrameCommand: `rect` affects one second of frames on both sides of `frame`, merged with
     /// the segments that it meets. After a segment was merged, the one that follows it is skipped in this edit; undo

@@ -174,6 +174,29 @@ void KrAutoReframeHelper::RebuildDisplayResults()
     }
 }
 
+void KrAutoReframeHelper::ShowPreliminary(const QList<IKxAutoReframeResult>& rectangles)
+{
+    if (!m_isDisplayCurrent || m_keyFrameHelper == nullptr) {
+        return;
+    }
+    KrFrameRange changed;
+    for (const IKxAutoReframeResult& rectangle : rectangles) {
+        if (rectangle.frame() >= 0 && rectangle.frame() < m_displayResults.size()) {
+            m_displayResults[static_cast<int>(rectangle.frame())].setCropRect(rectangle.cropRect());
+            changed.Cover(rectangle.frame(), rectangle.frame());
+        }
+    }
+    for (const KrEditSegment& segment : qAsConst(m_segments)) {
+        ShowSegment(segment, changed);
+    }
+}
+
+void KrAutoReframeHelper::ShowResultsAgain()
+{
+    WaitForTask();
+    RebuildDisplayResults();
+}
+
 KrFrameRange KrAutoReframeHelper::AffectedFrames(const KrFrameRange& changed) const
 {
     const auto from = m_keyFrames.lowerBound(changed.first);

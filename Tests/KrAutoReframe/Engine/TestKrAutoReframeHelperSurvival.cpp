@@ -127,3 +127,41 @@ TEST_F(TestKrAutoReframeHelper, WithoutSurvivalAnotherAnalysisDropsEditsAndHisto
     EXPECT_FALSE(helper->GetUndoStack().canUndo());
     EXPECT_NEAR(ShownX(10), 0.21, 1e-12);
 }
+
+TEST_F(EditSurvivalTest, PreliminaryRectanglesAreOnlyDisplayed)
+{
+    OpenAndEdit();
+    helper->ShowPreliminary(FakeHost::MakeResults(100, 0.6).mid(20, 40));
+    EXPECT_DOUBLE_EQ(ShownX(10), 0.5);
+    EXPECT_DOUBLE_EQ(ShownX(30), PushedX(10) + 20.0 / 25.0 * (PushedX(35) - PushedX(10)));
+    EXPECT_DOUBLE_EQ(ShownX(36), 0.636);
+    EXPECT_DOUBLE_EQ(ShownX(59), 0.659);
+    EXPECT_DOUBLE_EQ(ShownX(60), 0.06);
+    EXPECT_DOUBLE_EQ(helper->GetResults().at(50).cropRect().x(), 0.05);
+    EXPECT_DOUBLE_EQ(PushedX(50), 0.05);
+    helper->ShowResultsAgain();
+    EXPECT_DOUBLE_EQ(ShownX(50), 0.05);
+    ExpectUnchanged();
+}
+
+TEST_F(EditSurvivalTest, AnEditWinsOverPreliminaryRectanglesAndNewResultsReplaceThem)
+{
+    OpenAndApply(100);
+    helper->ShowPreliminary(FakeHost::MakeResults(100, 0.6));
+    helper->AddKeyFrame(50, Rect(0.2));
+    EXPECT_DOUBLE_EQ(ShownX(50), 0.2);
+    EXPECT_DOUBLE_EQ(ShownX(90), 0.69);
+    ASSERT_TRUE(Apply(100, 0.3));
+    EXPECT_DOUBLE_EQ(ShownX(50), 0.2);
+    EXPECT_DOUBLE_EQ(ShownX(90), 0.39);
+}
+
+TEST_F(EditSurvivalTest, PreliminaryRectanglesThatAreNotOfTheVideoAreIgnored)
+{
+    helper->ShowPreliminary(FakeHost::MakeResults(10, 0.6));
+    EXPECT_TRUE(helper->GetDisplayResults().isEmpty());
+    OpenAndApply(100);
+    helper->ShowPreliminary({IKxAutoReframeResult(-1, Rect(0.6)), IKxAutoReframeResult(100, Rect(0.6))});
+    EXPECT_DOUBLE_EQ(ShownX(0), 0.0);
+    EXPECT_DOUBLE_EQ(ShownX(99), 0.099);
+}
