@@ -1185,6 +1185,10 @@ Benötigt: %1 MB, verfügbar: %2 MB.</translation>
             <numerusform>%n Vorgaben wurden dorthin verschoben, wo ihre Bilder sind</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Following: %1 %</source>
+        <translation>Wird verfolgt: %1&#xa0;%</translation>
+    </message>
 </context>
 <context>
     <name>KrDoubtfulShots</name>

@@ -1185,6 +1185,10 @@ Espacio necesario: %1 MB, disponible: %2 MB.</translation>
             <numerusform>%n elecciones se movieron a donde están sus imágenes</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Following: %1 %</source>
+        <translation>Siguiendo: %1&#xa0;%</translation>
+    </message>
 </context>
 <context>
     <name>KrDoubtfulShots</name>

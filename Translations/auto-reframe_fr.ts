@@ -1185,6 +1185,10 @@ Espace nécessaire&#xa0;: %1 Mo, disponible&#xa0;: %2 Mo.</translation>
             <numerusform>%n choix ont été déplacés là où sont leurs images</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Following: %1 %</source>
+        <translation>Suivi&#xa0;: %1&#xa0;%</translation>
+    </message>
 </context>
 <context>
     <name>KrDoubtfulShots</name>

@@ -1176,6 +1176,10 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
             <numerusform>%n 件の指定を画像のある位置に移動しました</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Following: %1 %</source>
+        <translation>追従中: %1%</translation>
+    </message>
 </context>
 <context>
     <name>KrDoubtfulShots</name>

@@ -1185,6 +1185,10 @@ Espaço necessário: %1 MB, disponível: %2 MB.</translation>
             <numerusform>%n escolhas foram movidas para onde estão suas imagens</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Following: %1 %</source>
+        <translation>Acompanhando: %1%</translation>
+    </message>
 </context>
 <context>
     <name>KrDoubtfulShots</name>

@@ -1176,6 +1176,10 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
             <numerusform>%n 个选择已移到其画面所在的位置</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Following: %1 %</source>
+        <translation>正在跟随：%1%</translation>
+    </message>
 </context>
 <context>
     <name>KrDoubtfulShots</name>

@@ -138,6 +138,7 @@ protected:
 /// - the arrow keys move the crop while the picture has the focus: by a pixel of the video, with Shift by 10;
 /// - where the service offers IKxAutoReframeShots: shots on the slider, and a way through those that are doubtful;
 /// - where the service offers IKxAutoReframeChoices: pointing at what the crop follows or avoids in a shot;
+/// - where the service offers IKxAutoReframePartialResults: the crop of a choice grows while the service follows it;
 /// - where the service offers IKxAutoReframePictures: edit points move with their pictures in a file that was cut
 ///   differently;
 /// - where the service offers IKxAutoReframeDecisions: several aspect ratios side by side;

@@ -49,6 +49,9 @@ void KrAutoReframeDialog::StartAnalysis(int width, int height, int mode)
     if (IsRefusedAsUnsupported()) {
         return;
     }
+    if (KrDialogExtension* const extension = Extension()) {
+        extension->StopGrowth();
+    }
     switch (m_process->StartAnalyze(width, height, mode)) {
     case 0:
         break;
@@ -69,7 +72,7 @@ void KrAutoReframeDialog::StartAnalysis(int width, int height, int mode)
     slotUpdateProgress(0);
     if (KrDialogExtension* const extension = Extension()) {
         const QPointer<KrAutoReframeDialog> self(this);
-        if (extension->EndsSoon() || self.isNull()) {
+        if (extension->EndsSoon() || self.isNull() || extension->ShowsGrowth()) {
             return;
         }
     }

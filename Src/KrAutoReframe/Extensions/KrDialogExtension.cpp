@@ -8,6 +8,7 @@
 #include <KrAutoReframe/Extensions/KrDoubtfulShots.h>
 #include <KrAutoReframe/Extensions/KrExportStatus.h>
 #include <KrAutoReframe/Extensions/KrFollowControls.h>
+#include <KrAutoReframe/Extensions/KrGrowingCrop.h>
 #include <KrAutoReframe/Extensions/KrRatioComparison.h>
 #include <KrAutoReframe/Extensions/KrViewMenu.h>
 #include <KrAutoReframe/Player/KrAutoReframePlayerView.h>
@@ -142,7 +143,8 @@ void KrDialogExtension::Compare()
 
 void KrDialogExtension::FillComparison()
 {
-    if (m_comparison != nullptr && m_comparison->isVisible() && m_hasResults) {
+    const bool isGrowing = m_growth != nullptr && m_growth->IsGrowing();
+    if (m_comparison != nullptr && m_comparison->isVisible() && m_hasResults && !isGrowing) {
         const KrAutoReframeHelper& helper = *m_parts.process.GetHelper();
         m_comparison->Fill({m_path, helper.GetSourceTimeline(), m_shown.speed, helper.GetEditPoints(),
                             m_parts.view.Presenter().currentFrame()});
@@ -169,6 +171,8 @@ void KrDialogExtension::LeaveSource()
     m_placement.clear();
     m_isKnown.cancel();
     m_decide.stop();
+    StopGrowth();
+    m_mustDecide = false;
     m_exportStatus->SetCrop({}, {});
     m_viewMenu->SetComparisonEnabled(false);
     m_fillComparison.stop();
@@ -267,6 +271,7 @@ bool KrDialogExtension::StaysAtFrame() const
 void KrDialogExtension::ShowResults()
 {
     m_hasResults = true;
+    m_mustDecide = false;
     const KrAutoReframeAnalyzeParam param = m_parts.process.GetParam();
     m_shown = {param.width, param.height, param.mode};
     TakePlacedChoices();
@@ -302,6 +307,10 @@ KrDialogExtension::Settings KrDialogExtension::PanelSettings() const
 
 void KrDialogExtension::UpdateHint()
 {
+    if (m_growth != nullptr && m_growth->IsGrowing()) {
+        m_parts.panel.SetHint(tr("Following: %1 %").arg(m_growth->Percent()));
+        return;
+    }
     const bool differs = !(PanelSettings() == m_shown) || !(m_choices->Current() == m_shownChoices);
     QStringList placement{m_placement, m_edits.Message()};
     placement.removeAll(QString());

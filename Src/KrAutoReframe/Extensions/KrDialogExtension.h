@@ -18,6 +18,7 @@ class KrChoiceList;
 class KrDoubtfulShots;
 class KrExportStatus;
 class KrFollowControls;
+class KrGrowingCrop;
 class KrRatioComparison;
 class KrViewMenu;
 
@@ -46,6 +47,11 @@ public:
     /// Waits a moment for the end of the analysis that was just started. False if it takes longer, so that its progress
     /// has to be shown.
     bool EndsSoon();
+    /// If what was just started decides on a choice, shows from now on how the crop grows, and needs no other display
+    /// of progress. Otherwise false.
+    bool ShowsGrowth();
+    /// Call it before an analysis is started.
+    void StopGrowth();
     /// Whether the next result is shown at the player's frame, and not from the beginning: the person knows the video.
     bool StaysAtFrame() const;
     /// Call it when an analysis has succeeded and its result is shown.
@@ -70,6 +76,7 @@ private:
     void CreateHelp();
     void Compare();
     void FillComparison();
+    void HandleGrowth();
     void EnterSource();
     /// Shows the crops that the host gave with the video. False without any.
     bool ShowGivenCrops();
@@ -117,6 +124,12 @@ private:
     KrFollowControls* m_followControls = nullptr;
     /// A change of the choices is decided after the event that made it: several are decided at once.
     QTimer m_decide;
+    /// Null if the host's service has no partial results.
+    KrGrowingCrop* m_growth = nullptr;
+    /// The analysis that is being started decides on the choices.
+    bool m_isDeciding = false;
+    /// An analysis was stopped, which may have replaced what the service and the helper knew.
+    bool m_mustDecide = false;
     /// Asks on a thread of the pool whether the service knows a source that was analyzed earlier.
     QFutureWatcher<bool> m_isKnown;
 };

@@ -5,12 +5,16 @@
 #include <KrAutoReframe/Engine/KrTimeCode.h>
 #include <KrAutoReframe/Extensions/KrDoubtfulShots.h>
 #include <KrAutoReframe/Extensions/KrFollowControls.h>
+#include <KrAutoReframe/Extensions/KrGrowingCrop.h>
 #include <KrAutoReframe/Player/KrAutoReframePlayerControlBar.h>
 #include <KrAutoReframe/Player/KrAutoReframePlayerToolSlider.h>
 #include <KrAutoReframe/Player/KrAutoReframePlayerView.h>
 #include <KrAutoReframe/Settings/KrAutoReframePropertyPanel.h>
 
+#include <KxModel/IKxAutoReframePartialResults.h>
 #include <KxModel/IKxAutoReframeService.h>
+
+#include <QPointer>
 
 namespace
 {
@@ -39,6 +43,32 @@ void KrDialogExtension::CreateFollowControls()
         return KrFollowControls::Shot{shots.Shots().at(index).first, shots.Shots().at(index).end};
     };
     m_followControls = new KrFollowControls(m_parts.view, *service, *m_choices, {source, shotAt}, this);
+    if (auto* const partial = dynamic_cast<IKxAutoReframePartialResults*>(getAutoReframeService())) {
+        m_growth = new KrGrowingCrop(*partial, {m_parts.process, m_parts.panel, m_parts.view}, this);
+        connect(m_growth, &KrGrowingCrop::sigChanged, this, &KrDialogExtension::HandleGrowth);
+    }
+}
+
+bool KrDialogExtension::ShowsGrowth()
+{
+    const bool shows = m_isDeciding && m_growth != nullptr && m_hasResults;
+    if (shows) {
+        m_growth->Begin(m_path);
+    }
+    return shows;
+}
+
+void KrDialogExtension::StopGrowth()
+{
+    if (m_growth != nullptr && m_growth->Stop()) {
+        m_mustDecide = true;
+    }
+}
+
+void KrDialogExtension::HandleGrowth()
+{
+    UpdateHint();
+    FillComparison();
 }
 
 void KrDialogExtension::TakePlacedChoices()
@@ -65,6 +95,7 @@ void KrDialogExtension::TakePlacedChoices()
 
 void KrDialogExtension::HandleChoicesChanged()
 {
+    StopGrowth();
     ServiceChoices()->SetChoices(m_choices->Current());
     ShowChoices();
     m_parts.view.ControlBar().Slider().SetGaps({});
@@ -75,8 +106,16 @@ void KrDialogExtension::HandleChoicesChanged()
 
 void KrDialogExtension::DecideAgain()
 {
-    if (m_hasResults && !(m_choices->Current() == m_shownChoices)) {
+    const bool isDue = m_mustDecide || !(m_choices->Current() == m_shownChoices);
+    if (m_hasResults && isDue) {
+        m_mustDecide = false;
+        m_isDeciding = true;
+        const QPointer<KrDialogExtension> self(this);
         Analyze(m_shown);
+        if (self.isNull()) {
+            return;
+        }
+        m_isDeciding = false;
     }
     UpdateHint();
 }

@@ -15,6 +15,8 @@
 #include <QVBoxLayout>
 #include <QVariant>
 
+#include <utility>
+
 namespace
 {
 
@@ -282,6 +284,22 @@ void KrAutoReframePropertyPanel::SetPreviewEnabled(bool isEnabled)
     }
     m_previewSwitch->setEnabled(isEnabled);
     m_exportButton->setEnabled(isEnabled);
+}
+
+void KrAutoReframePropertyPanel::SetBusy(bool isBusy)
+{
+    for (QWidget* const control : std::exchange(m_disabledWhileBusy, {})) {
+        control->setEnabled(true);
+    }
+    if (!isBusy) {
+        return;
+    }
+    for (QWidget* const control : QList<QWidget*>{m_previewSwitch, m_analyzeButton, m_restartButton, m_exportButton}) {
+        if (control->isEnabled()) {
+            control->setEnabled(false);
+            m_disabledWhileBusy.append(control);
+        }
+    }
 }
 
 void KrAutoReframePropertyPanel::OnAnalysisFinished()

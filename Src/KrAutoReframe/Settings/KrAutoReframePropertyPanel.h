@@ -2,6 +2,8 @@
 
 #include <KxWidgets/KxWidget.h>
 
+#include <QList>
+
 #include <functional>
 
 class KxComboBox;
@@ -49,6 +51,8 @@ public:
     /// Preview switch and export button. A switch that is off is first turned on without a signal: the preview restarts
     /// with the source video.
     void SetPreviewEnabled(bool isEnabled);
+    /// While busy, whatever needs the whole result or makes another one is disabled: preview, analysis and export.
+    void SetBusy(bool isBusy);
     /// After the first analysis the restart button replaces the analyse button.
     void OnAnalysisFinished();
 
@@ -82,6 +86,8 @@ private:
     KxLabel* m_hint = nullptr;
     KxLabel* m_fact = nullptr;
     bool m_keepsLine = false;
+    /// What to enable again after being busy.
+    QList<QWidget*> m_disabledWhileBusy;
     bool m_notImported = true;
     /// The next analysis to finish is the first one since the settings were enabled.
     bool m_firstAnalysis = true;

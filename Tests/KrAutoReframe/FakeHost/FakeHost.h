@@ -4,6 +4,7 @@
 #include <KxModel/IKxAbstractMedia.h>
 #include <KxModel/IKxAutoReframeChoices.h>
 #include <KxModel/IKxAutoReframeDecisions.h>
+#include <KxModel/IKxAutoReframePartialResults.h>
 #include <KxModel/IKxAutoReframePictures.h>
 #include <KxModel/IKxAutoReframeService.h>
 #include <KxModel/IKxAutoReframeShots.h>
@@ -192,7 +193,8 @@ public:
 class ServiceWithChoices : public ServiceWithShots,
                            public IKxAutoReframeChoices,
                            public IKxAutoReframePictures,
-                           public IKxAutoReframeDecisions
+                           public IKxAutoReframeDecisions,
+                           public IKxAutoReframePartialResults
 {
 public:
     void SetChoices(const QList<KxAutoReframeChoice>& wanted) override;
@@ -208,6 +210,11 @@ public:
     /// For every ratio, `decided`.
     QList<IKxAutoReframeResult> Decide(const QString&, const IKxAutoReframeParam&) const override { return decided; }
 
+    void CollectPartialResults(bool isWanted) override { collectsPartial = isWanted; }
+    QList<IKxAutoReframeResult> GetPartialResults(const QString&) const override { return partial; }
+
+    bool collectsPartial = false;
+    QList<IKxAutoReframeResult> partial;
     QList<KxAutoReframeChoice> choices;
     /// Where a task found them; empty: where they are.
     QList<KxAutoReframeChoice> placed;
