@@ -11,14 +11,19 @@
 #include <memory>
 #include <mutex>
 
-/// The tracks of the choices followed last, in memory, so that another aspect ratio, speed or choice does not look for
-/// them again. Any thread.
+class KxRecordStore;
+
+/// The tracks of the choices followed last, so that another aspect ratio, speed or choice does not look for them again:
+/// some in memory and, where the records have a folder, more on the disk. Any thread.
 class KXMODEL_API KxFollowTracks
 {
 public:
     /// About 1 kB for each second that is followed; more than a person points at.
     static constexpr std::size_t MostKept = 200;
     using Known = std::shared_ptr<const KxFollowTrack>;
+
+    /// Null: in memory alone.
+    explicit KxFollowTracks(std::shared_ptr<const KxRecordStore> records = nullptr);
 
     /// Of the video with the record `key` (KxRecordStore::KeyOf). Null without one, or with an empty key.
     Known Find(const QByteArray& key, const KxSubjectChoice& choice);
@@ -31,6 +36,11 @@ private:
         Known track;
     };
 
+    Known FindInMemory(const QByteArray& key, const KxSubjectChoice& choice);
+    Known FindOnDisk(const QByteArray& key, const KxSubjectChoice& choice);
+    Known KeepInMemory(const QByteArray& key, const KxSubjectChoice& choice, KxFollowTrack track);
+
+    const std::shared_ptr<const KxRecordStore> m_records;
     std::mutex m_mutex;
     std::list<Kept> m_kept; ///< guarded by the mutex; the one used last comes first
 };

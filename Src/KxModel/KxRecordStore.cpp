@@ -23,6 +23,7 @@ constexpr qint64 EndBytes = 64 * 1024;
 constexpr qint64 PlaceBytes = 4 * 1024;
 constexpr qint64 Places = 62;
 constexpr const char* Suffix = ".record";
+constexpr const char* BesideSuffix = ".beside";
 /// More than the longest video gives, and what a QByteArray can hold.
 constexpr std::size_t MostRecordBytes = std::size_t{1} << 30;
 
@@ -50,8 +51,8 @@ QString PathOf(const QByteArray& key, const QString& folder)
 void RemoveOldest(const QString& folder, qint64 mostBytes)
 {
     qint64 bytes = 0;
-    const QFileInfoList files =
-        QDir(folder).entryInfoList({QLatin1Char('*') + QLatin1String(Suffix)}, QDir::Files, QDir::Time);
+    const QStringList names{QLatin1Char('*') + QLatin1String(Suffix), QLatin1Char('*') + QLatin1String(BesideSuffix)};
+    const QFileInfoList files = QDir(folder).entryInfoList(names, QDir::Files, QDir::Time);
     for (const QFileInfo& file : files) {
         bytes += file.size();
         if (bytes > mostBytes) {
@@ -180,7 +181,7 @@ void KxRecordStore::Add(const QByteArray& key, const std::shared_ptr<const KxSub
     KeepInMemory(key, record, bytes.size());
     const QString folder = Folder();
     if (!folder.isEmpty()) {
-        WriteToDisk(key, bytes, folder);
+        WriteToDisk(PathOf(key, folder), bytes);
     }
 }
 
@@ -197,13 +198,49 @@ void KxRecordStore::KeepInMemory(const QByteArray& key, const std::shared_ptr<co
     });
 }
 
-void KxRecordStore::WriteToDisk(const QByteArray& key, const QByteArray& bytes, const QString& folder) const
+QString KxRecordStore::PathBeside(const QByteArray& key, const QByteArray& name) const
+{
+    const QString folder = Folder();
+    return folder.isEmpty() || key.isEmpty()
+               ? QString()
+               : folder + QLatin1Char('/') + QString::fromLatin1(key + '-' + name) + QLatin1String(BesideSuffix);
+}
+
+QByteArray KxRecordStore::FindBeside(const QByteArray& key, const QByteArray& name) const
+{
+    QFile file(PathBeside(key, name));
+    if (file.fileName().isEmpty() || file.size() > static_cast<qint64>(MostRecordBytes) ||
+        !file.open(QIODevice::ReadOnly)) {
+        return {};
+    }
+    file.setFileTime(QDateTime::currentDateTimeUtc(), QFileDevice::FileModificationTime);
+    return file.readAll();
+}
+
+void KxRecordStore::AddBeside(const QByteArray& key, const QByteArray& name, const QByteArray& bytes) const
+{
+    const QString path = PathBeside(key, name);
+    if (!path.isEmpty()) {
+        WriteToDisk(path, bytes);
+    }
+}
+
+void KxRecordStore::RemoveBeside(const QByteArray& key, const QByteArray& name) const
+{
+    const QString path = PathBeside(key, name);
+    if (!path.isEmpty()) {
+        QFile::remove(path);
+    }
+}
+
+void KxRecordStore::WriteToDisk(const QString& path, const QByteArray& bytes) const
 {
     if (bytes.size() > m_limits.diskBytes) {
         return;
     }
+    const QString folder = QFileInfo(path).path();
     QDir().mkpath(folder);
-    const KxResult<QString> written = KxOutputFile::Write(PathOf(key, folder), bytes, KxOutputFile::Existing::Replace);
+    const KxResult<QString> written = KxOutputFile::Write(path, bytes, KxOutputFile::Existing::Replace);
     if (!written) {
         KX_LOG_WARNING(written.Message());
         return;

@@ -47,6 +47,12 @@ public:
     /// Older records are dropped as far as the limits demand; one that is over a limit alone is not kept.
     void Add(const QByteArray& key, const std::shared_ptr<const KxSubjectRecord>& record);
 
+    /// What was kept beside the record `key` under `name`, and only on the disk; empty without it.
+    QByteArray FindBeside(const QByteArray& key, const QByteArray& name) const;
+    /// Counts like a record for the limit of the disk. `name` is fit for a part of a file's name.
+    void AddBeside(const QByteArray& key, const QByteArray& name, const QByteArray& bytes) const;
+    void RemoveBeside(const QByteArray& key, const QByteArray& name) const;
+
 private:
     struct Kept {
         QByteArray key;
@@ -55,7 +61,9 @@ private:
     };
     void KeepInMemory(const QByteArray& key, const std::shared_ptr<const KxSubjectRecord>& record, qint64 bytes);
     std::shared_ptr<const KxSubjectRecord> FindOnDisk(const QByteArray& key, const QString& folder);
-    void WriteToDisk(const QByteArray& key, const QByteArray& bytes, const QString& folder) const;
+    void WriteToDisk(const QString& path, const QByteArray& bytes) const;
+    /// Empty without a folder.
+    QString PathBeside(const QByteArray& key, const QByteArray& name) const;
     QString Folder() const;
 
     const Limits m_limits;

@@ -1,6 +1,15 @@
+#include <KxModel/KxFollowTrackFormat.h>
 #include <KxModel/KxFollowTracks.h>
+#include <KxModel/KxRecordStore.h>
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
+
+#include <algorithm>
+#include <limits>
 
 namespace
 {
@@ -49,4 +58,107 @@ TEST(KxFollowTracks, TheOneUsedLongestAgoIsDropped)
     EXPECT_TRUE(tracks.Find("a", ChoiceAt(0)));
     EXPECT_FALSE(tracks.Find("a", ChoiceAt(1)));
     EXPECT_TRUE(tracks.Find("a", ChoiceAt(2)));
+}
+
+namespace
+{
+
+bool AreSame(const KxFollowTrack& a, const KxFollowTrack& b)
+{
+    return std::equal(a.points.begin(), a.points.end(), b.points.begin(), b.points.end(),
+                      [](const KxFollowTrack::Point& one, const KxFollowTrack::Point& other) {
+                          return one.frame == other.frame && one.box == other.box && one.confidence == other.confidence;
+                      });
+}
+
+class KxFollowTracksOnDisk : public testing::Test
+{
+protected:
+    /// As in a program that has just been started.
+    std::unique_ptr<KxFollowTracks> Tracks(const KxRecordStore::Limits& limits = {}) const
+    {
+        const auto records = std::make_shared<KxRecordStore>(limits);
+        records->SetFolder(m_folder.path());
+        return std::make_unique<KxFollowTracks>(records);
+    }
+    QStringList Files() const { return QDir(m_folder.path()).entryList(QDir::Files); }
+
+    QTemporaryDir m_folder;
+    const KxFollowTrack m_track{
+        {{7, {0.1, 1.0 / 3.0, 0.2, 0.7}, 0.9F}, {9, {-0.05, 0.3, 1e-9, 0.2}, 0.0F}, {10, {0.1, 0.2, 0.3, 0.4}, 1.0F}}};
+};
+
+} // namespace
+
+TEST_F(KxFollowTracksOnDisk, ATrackOutlivesTheProgramExactly)
+{
+    Tracks()->Add("a", ChoiceAt(1.0), m_track);
+    const auto tracks = Tracks();
+    const KxFollowTracks::Known found = tracks->Find("a", ChoiceAt(1.0));
+    ASSERT_TRUE(found);
+    EXPECT_TRUE(AreSame(*found, m_track));
+    EXPECT_FALSE(tracks->Find("b", ChoiceAt(1.0)));
+    EXPECT_FALSE(tracks->Find("a", ChoiceAt(1.0 + 1e-12)));
+    EXPECT_EQ(tracks->Find("a", ChoiceAt(1.0)), found) << "it is in memory from now on";
+}
+
+TEST_F(KxFollowTracksOnDisk, AnEmptyTrackIsOneToo)
+{
+    Tracks()->Add("a", ChoiceAt(1.0), {});
+    const KxFollowTracks::Known found = Tracks()->Find("a", ChoiceAt(1.0));
+    ASSERT_TRUE(found);
+    EXPECT_TRUE(found->points.empty());
+}
+
+TEST_F(KxFollowTracksOnDisk, ADamagedFileIsRemoved)
+{
+    Tracks()->Add("a", ChoiceAt(1.0), m_track);
+    ASSERT_EQ(Files().size(), 1);
+    const QString path = m_folder.filePath(Files().first());
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+    ASSERT_TRUE(file.seek(30));
+    ASSERT_EQ(file.write("x"), 1);
+    file.close();
+    EXPECT_FALSE(Tracks()->Find("a", ChoiceAt(1.0)));
+    EXPECT_FALSE(QFile::exists(path));
+}
+
+TEST_F(KxFollowTracksOnDisk, TheLimitOfTheRecordsHolds)
+{
+    KxRecordStore::Limits limits;
+    limits.diskBytes = 3 * KxFollowTrackFormat::Write(m_track).size();
+    const auto tracks = Tracks(limits);
+    for (int i = 0; i < 5; ++i) {
+        tracks->Add("a", ChoiceAt(i), m_track);
+    }
+    EXPECT_EQ(Files().size(), 3);
+}
+
+TEST(KxFollowTrackFormat, OtherBytesAreNoTrack)
+{
+    const QByteArray bytes = KxFollowTrackFormat::Write(TrackOf(3));
+    EXPECT_TRUE(KxFollowTrackFormat::Read(bytes));
+    for (int length = 0; length < bytes.size(); ++length) {
+        EXPECT_FALSE(KxFollowTrackFormat::Read(bytes.left(length))) << length;
+    }
+    for (int i = 0; i < bytes.size(); ++i) {
+        QByteArray changed = bytes;
+        changed[i] = static_cast<char>(changed[i] ^ 1);
+        EXPECT_FALSE(KxFollowTrackFormat::Read(changed)) << i;
+    }
+}
+
+TEST(KxFollowTrackFormat, WhatNoTrackerCouldHaveSeenIsRefused)
+{
+    KxFollowTrack track = TrackOf(3);
+    track.points.push_back(track.points.front());
+    EXPECT_FALSE(KxFollowTrackFormat::Read(KxFollowTrackFormat::Write(track)));
+    track.points.back().frame = 4;
+    EXPECT_TRUE(KxFollowTrackFormat::Read(KxFollowTrackFormat::Write(track)));
+    track.points.back().box.x = std::numeric_limits<double>::quiet_NaN();
+    EXPECT_FALSE(KxFollowTrackFormat::Read(KxFollowTrackFormat::Write(track)));
+    track.points.back().box.x = 0.0;
+    track.points.back().confidence = 2.0F;
+    EXPECT_FALSE(KxFollowTrackFormat::Read(KxFollowTrackFormat::Write(track)));
 }

@@ -1,4 +1,5 @@
 #include <KxModel/KxAutoReframeService.h>
+#include <KxModel/KxFollowTracks.h>
 #include <KxModel/KxRecordStore.h>
 #include <Tests/Support/MadeVideo.h>
 
@@ -108,6 +109,24 @@ TEST_F(KxPartialResultsTest, TheAnswerIsTheSameWithoutThem)
     EXPECT_EQ(Crops(Analyse().crops), without);
     EXPECT_GT(taken, 0);
     EXPECT_EQ(without.size(), static_cast<std::size_t>(Frames));
+}
+
+TEST_F(KxPartialResultsTest, WhatAnEarlierProgramFollowedIsNotFollowedAgain)
+{
+    QTemporaryDir folder;
+    int taken = 0;
+    TakeAll([&taken](const Results&) { ++taken; });
+    std::vector<std::vector<QRectF>> answers;
+    for (int program = 0; program < 2; ++program) {
+        taken = 0;
+        m_settings.records = std::make_shared<KxRecordStore>();
+        m_settings.records->SetFolder(folder.path());
+        m_settings.tracks = std::make_shared<KxFollowTracks>(m_settings.records);
+        answers.push_back(Crops(Analyse().crops));
+        EXPECT_EQ(taken > 0, program == 0);
+    }
+    EXPECT_EQ(answers[0].size(), static_cast<std::size_t>(Frames));
+    EXPECT_EQ(answers[1], answers[0]);
 }
 
 TEST_F(KxPartialResultsTest, NoneComesAfterACancel)
