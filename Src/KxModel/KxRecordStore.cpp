@@ -141,14 +141,37 @@ std::shared_ptr<const KxSubjectRecord> KxRecordStore::Find(const QByteArray& key
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
         folder = m_folder;
-        const auto kept =
-            std::find_if(m_kept.begin(), m_kept.end(), [&key](const Kept& candidate) { return candidate.key == key; });
-        if (kept != m_kept.end()) {
-            m_kept.splice(m_kept.begin(), m_kept, kept);
-            return m_kept.front().record;
+        if (const Kept* const kept = FindInMemory(key)) {
+            return kept->record;
         }
     }
     return folder.isEmpty() || key.isEmpty() ? nullptr : FindOnDisk(key, folder);
+}
+
+KxRecordStore::Kept* KxRecordStore::FindInMemory(const QByteArray& key)
+{
+    const auto found =
+        std::find_if(m_kept.begin(), m_kept.end(), [&key](const Kept& candidate) { return candidate.key == key; });
+    if (found == m_kept.end()) {
+        return nullptr;
+    }
+    m_kept.splice(m_kept.begin(), m_kept, found);
+    return &m_kept.front();
+}
+
+std::shared_ptr<const KxSubjectRecord> KxRecordStore::FindConfirmed(const QByteArray& key)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    const Kept* const kept = FindInMemory(key);
+    return kept != nullptr && kept->isConfirmed ? kept->record : nullptr;
+}
+
+void KxRecordStore::Confirm(const QByteArray& key)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    if (Kept* const kept = FindInMemory(key)) {
+        kept->isConfirmed = true;
+    }
 }
 
 std::shared_ptr<const KxSubjectRecord> KxRecordStore::FindOnDisk(const QByteArray& key, const QString& folder)
@@ -167,7 +190,7 @@ std::shared_ptr<const KxSubjectRecord> KxRecordStore::FindOnDisk(const QByteArra
     // The files used last stay longest.
     file.setFileTime(QDateTime::currentDateTimeUtc(), QFileDevice::FileModificationTime);
     const auto record = std::make_shared<const KxSubjectRecord>(std::move(*read));
-    KeepInMemory(key, record, bytes.size());
+    KeepInMemory({key, record, bytes.size(), false});
     return record;
 }
 
@@ -178,19 +201,18 @@ void KxRecordStore::Add(const QByteArray& key, const std::shared_ptr<const KxSub
         return;
     }
     const QByteArray bytes = QByteArray::fromStdString(written);
-    KeepInMemory(key, record, bytes.size());
+    KeepInMemory({key, record, bytes.size(), true});
     const QString folder = Folder();
     if (!folder.isEmpty()) {
         WriteToDisk(PathOf(key, folder), bytes);
     }
 }
 
-void KxRecordStore::KeepInMemory(const QByteArray& key, const std::shared_ptr<const KxSubjectRecord>& record,
-                                 qint64 bytes)
+void KxRecordStore::KeepInMemory(Kept added)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    m_kept.remove_if([&key](const Kept& kept) { return kept.key == key; });
-    m_kept.push_front({key, record, bytes});
+    m_kept.remove_if([&added](const Kept& kept) { return kept.key == added.key; });
+    m_kept.push_front(std::move(added));
     qint64 sum = 0;
     m_kept.remove_if([this, &sum](const Kept& kept) {
         sum += kept.bytes;

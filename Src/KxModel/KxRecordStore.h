@@ -44,6 +44,10 @@ public:
 
     /// Null without one. A file that is damaged or of another version is removed.
     std::shared_ptr<const KxSubjectRecord> Find(const QByteArray& key);
+    /// The same, only if it was made in this program, or confirmed: then the video need not be opened to compare it.
+    std::shared_ptr<const KxSubjectRecord> FindConfirmed(const QByteArray& key);
+    /// The video has the facts of the record that Find returned.
+    void Confirm(const QByteArray& key);
     /// Older records are dropped as far as the limits demand; one that is over a limit alone is not kept.
     void Add(const QByteArray& key, const std::shared_ptr<const KxSubjectRecord>& record);
 
@@ -58,8 +62,11 @@ private:
         QByteArray key;
         std::shared_ptr<const KxSubjectRecord> record;
         qint64 bytes;
+        bool isConfirmed;
     };
-    void KeepInMemory(const QByteArray& key, const std::shared_ptr<const KxSubjectRecord>& record, qint64 bytes);
+    void KeepInMemory(Kept added);
+    /// The mutex is held. Null without one; otherwise it comes first from now on.
+    Kept* FindInMemory(const QByteArray& key);
     std::shared_ptr<const KxSubjectRecord> FindOnDisk(const QByteArray& key, const QString& folder);
     void WriteToDisk(const QString& path, const QByteArray& bytes) const;
     /// Empty without a folder.

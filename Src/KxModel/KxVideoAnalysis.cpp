@@ -1,7 +1,6 @@
 #include <KxModel/KxVideoAnalysis.h>
 
 #include <KxModel/KxAnalysisPictures.h>
-#include <KxModel/KxDetectorFiles.h>
 #include <KxModel/KxFollowPass.h>
 #include <KxModel/KxFollowTracks.h>
 #include <KxModel/KxJoinedPictures.h>
@@ -111,10 +110,10 @@ QStringList PlacementWarnings(const std::vector<KxPlacedChoice>& placed, const Q
 
 KxAnalysis::~KxAnalysis() = default;
 
-KxVideoAnalysis::KxVideoAnalysis(std::shared_ptr<KxVideoScanner> scanner, const IKxAutoReframeParam& param,
+KxVideoAnalysis::KxVideoAnalysis(const QString& path, Known known, const IKxAutoReframeParam& param,
                                  const KxAnalysisSettings& settings, const KxCancelToken& cancel)
-    : m_path(scanner->Facts().path)
-    , m_scanner(std::move(scanner))
+    : m_path(path)
+    , m_known(std::move(known))
     , m_param(param)
     , m_settings(settings)
     , m_cancel(cancel)
@@ -134,6 +133,17 @@ KxResult<std::unique_ptr<KxAnalysis>> KxVideoAnalysis::Open(const QString& path,
             Texts::tr("The aspect ratio %1:%2 has a side that is not positive.")
                 .arg(QString::number(param.targetSize().width()), QString::number(param.targetSize().height())));
     }
+    Known known{KxDetectorFiles::Read(settings.networkFolder), {}, nullptr};
+    // Whatever is no regular file is refused below; reading it here could wait for ever.
+    if (settings.records && QFileInfo(path).isFile()) {
+        known.key = KxRecordStore::KeyOf(path, known.detectors.models);
+        known.record = settings.records->FindConfirmed(known.key);
+    }
+    const bool isKnown = known.record != nullptr;
+    std::unique_ptr<KxVideoAnalysis> analysis(new KxVideoAnalysis(path, std::move(known), param, settings, cancel));
+    if (isKnown) {
+        return std::unique_ptr<KxAnalysis>(std::move(analysis));
+    }
     std::shared_ptr<KxVideoScanner> scanner = settings.opened;
     if (!scanner || scanner->Facts().path != path || scanner->FileHasChanged()) {
         KxResult<std::unique_ptr<KxVideoScanner>> opened = KxVideoScanner::Open(path, cancel);
@@ -148,22 +158,30 @@ KxResult<std::unique_ptr<KxAnalysis>> KxVideoAnalysis::Open(const QString& path,
             Texts::tr("Cannot analyse %1: its time stamps span %2 frames, the limit is %3.")
                 .arg(QFileInfo(path).fileName(), QString::number(frames), QString::number(MostFrames)));
     }
-    return std::unique_ptr<KxAnalysis>(new KxVideoAnalysis(std::move(scanner), param, settings, cancel));
+    analysis->m_scanner = std::move(scanner);
+    return std::unique_ptr<KxAnalysis>(std::move(analysis));
 }
 
-std::shared_ptr<const KxSubjectRecord> KxVideoAnalysis::FindRecord(const QByteArray& key) const
+std::shared_ptr<const KxSubjectRecord> KxVideoAnalysis::FindRecord() const
 {
-    std::shared_ptr<const KxSubjectRecord> record = m_settings.records ? m_settings.records->Find(key) : nullptr;
+    if (m_known.record) {
+        return m_known.record;
+    }
+    std::shared_ptr<const KxSubjectRecord> record =
+        m_settings.records ? m_settings.records->Find(m_known.key) : nullptr;
     const KxSubjectSource source = KxVideoSampling::SourceOf(*m_scanner->Facts().video);
     const bool isOfThisVideo = record && record->source.pictureWidthPx == source.pictureWidthPx &&
                                record->source.pictureHeightPx == source.pictureHeightPx &&
                                record->source.frameCount == source.frameCount &&
                                qFuzzyCompare(record->source.frameRate, source.frameRate);
-    return isOfThisVideo ? record : nullptr;
+    if (!isOfThisVideo) {
+        return nullptr;
+    }
+    m_settings.records->Confirm(m_known.key);
+    return record;
 }
 
-std::shared_ptr<const KxSubjectRecord> KxVideoAnalysis::Observe(KxSubjectModels models, const QByteArray& key,
-                                                                const std::function<void(int percent)>& onProgress,
+std::shared_ptr<const KxSubjectRecord> KxVideoAnalysis::Observe(const std::function<void(int percent)>& onProgress,
                                                                 Result& result)
 {
     const QString name = QFileInfo(m_scanner->Facts().path).fileName();
@@ -173,7 +191,7 @@ std::shared_ptr<const KxSubjectRecord> KxVideoAnalysis::Observe(KxSubjectModels 
     const bool isJoined = !m_settings.parts.isEmpty();
     KxVideoObservation observation(isJoined ? static_cast<KxAnalysisPictures&>(joined) : decoded, *facts.video,
                                    m_cancel);
-    KxError problem = observation.Run(std::move(models), onProgress);
+    KxError problem = observation.Run(std::move(m_known.detectors.models), onProgress);
     problem = problem ? problem : joined.Problem();
     const bool endedEarly = isJoined ? joined.EndedEarly() : m_scanner->EndedEarly();
     const KxMediaClock clock = m_scanner->Clock();
@@ -206,7 +224,7 @@ std::shared_ptr<const KxSubjectRecord> KxVideoAnalysis::Observe(KxSubjectModels 
     }
     // The warnings of the earlier analysis apply again.
     if (m_settings.records && result.warnings.isEmpty()) {
-        m_settings.records->Add(key, record);
+        m_settings.records->Add(m_known.key, record);
     }
     return record;
 }
@@ -220,13 +238,13 @@ bool KxVideoAnalysis::HasRecord(const QString& path, const KxAnalysisSettings& s
     return settings.records->Find(KxRecordStore::KeyOf(path, contents.models)) != nullptr;
 }
 
-bool KxVideoAnalysis::Follow(const KxSubjectRecord& record, const QByteArray& key, KxSubjectRequest& request,
+bool KxVideoAnalysis::Follow(const KxSubjectRecord& record, KxSubjectRequest& request,
                              const std::function<void(int percent)>& onProgress, Result& result)
 {
     const auto count = static_cast<double>(request.choices.size());
     for (const KxSubjectChoice& choice : request.choices) {
         const double before = static_cast<double>(request.tracks.size()) / count;
-        const KxFollowTracks::Known known = m_settings.tracks ? m_settings.tracks->Find(key, choice) : nullptr;
+        const KxFollowTracks::Known known = m_settings.tracks ? m_settings.tracks->Find(m_known.key, choice) : nullptr;
         if (choice.seeds.empty() || known) {
             request.tracks.push_back(known ? *known : KxFollowTrack());
             continue;
@@ -242,7 +260,7 @@ bool KxVideoAnalysis::Follow(const KxSubjectRecord& record, const QByteArray& ke
             return false;
         }
         if (m_settings.tracks) {
-            m_settings.tracks->Add(key, choice, pass.track);
+            m_settings.tracks->Add(m_known.key, choice, pass.track);
         }
         request.tracks.push_back(std::move(pass.track));
     }
@@ -260,14 +278,11 @@ bool KxVideoAnalysis::Follow(const KxSubjectRecord& record, const QByteArray& ke
 KxAnalysis::Result KxVideoAnalysis::Run(const std::function<void(int percent)>& onProgress)
 {
     Result result;
-    KxDetectorFiles::Contents contents = KxDetectorFiles::Read(m_settings.networkFolder);
-    result.warnings = contents.problems;
-    const QByteArray key =
-        m_settings.records ? KxRecordStore::KeyOf(m_scanner->Facts().path, contents.models) : QByteArray();
+    result.warnings = m_known.detectors.problems;
     int reported = -1;
     const bool follows = std::any_of(m_settings.choices.begin(), m_settings.choices.end(),
                                      [](const KxSubjectChoice& choice) { return !choice.seeds.empty(); });
-    std::shared_ptr<const KxSubjectRecord> record = FindRecord(key);
+    std::shared_ptr<const KxSubjectRecord> record = FindRecord();
     // Of the whole progress: following looks at some shots, observing at all of them.
     const int observing = record ? 0 : follows ? 80 : 100;
     const auto report = [&](int percent) {
@@ -277,8 +292,7 @@ KxAnalysis::Result KxVideoAnalysis::Run(const std::function<void(int percent)>& 
         }
     };
     if (!record) {
-        record = Observe(
-            std::move(contents.models), key, [&](int percent) { report(percent * observing / 100); }, result);
+        record = Observe([&](int percent) { report(percent * observing / 100); }, result);
     }
     if (!record) {
         return result;
@@ -288,9 +302,9 @@ KxAnalysis::Result KxVideoAnalysis::Run(const std::function<void(int percent)>& 
     result.choices = KxPlaceChoices(*record, m_settings.choices);
     result.warnings += PlacementWarnings(result.choices, QFileInfo(m_path).fileName());
     request.choices = KxChoicesInside(*record, result.choices);
-    if (follows && !Follow(
-                       *record, key, request,
-                       [&](int percent) { report(observing + percent * (100 - observing) / 100); }, result)) {
+    if (follows &&
+        !Follow(
+            *record, request, [&](int percent) { report(observing + percent * (100 - observing) / 100); }, result)) {
         return result;
     }
     KxSubjectDecision decision = KxDecide(*record, request, {}, m_cancel);

@@ -5,6 +5,7 @@
 #include <KxModel/IKxAutoReframeResult.h>
 #include <KxModel/IKxAutoReframeShots.h>
 
+#include <KxModel/KxDetectorFiles.h>
 #include <KxModel/KxPartialResults.h>
 
 #include <KxCore/KxCancelToken.h>
@@ -83,7 +84,8 @@ public:
     /// takes 1 GB.
     static constexpr qint64 MostFrames = 2600000;
 
-    /// Reads the file's header. The error message of a failure names the file and the reason.
+    /// Reads the file's header, unless there is a confirmed record of the file. The error message of a failure names
+    /// the file and the reason.
     static KxResult<std::unique_ptr<KxAnalysis>> Open(const QString& path, const IKxAutoReframeParam& param,
                                                       const KxAnalysisSettings& settings, const KxCancelToken& cancel);
     ~KxVideoAnalysis() override;
@@ -96,18 +98,24 @@ public:
 
 private:
     /// The record of the file as an earlier analysis left it; null without one.
-    std::shared_ptr<const KxSubjectRecord> FindRecord(const QByteArray& key) const;
+    std::shared_ptr<const KxSubjectRecord> FindRecord() const;
     /// Looks at the whole video. Null if that fails or is cancelled: then `result` says why.
-    std::shared_ptr<const KxSubjectRecord> Observe(KxSubjectModels models, const QByteArray& key,
-                                                   const std::function<void(int percent)>& onProgress, Result& result);
+    std::shared_ptr<const KxSubjectRecord> Observe(const std::function<void(int percent)>& onProgress, Result& result);
     /// Looks for what the choices of `request` point at. False if that fails or is cancelled: then `result` says why.
-    bool Follow(const KxSubjectRecord& record, const QByteArray& key, KxSubjectRequest& request,
+    bool Follow(const KxSubjectRecord& record, KxSubjectRequest& request,
                 const std::function<void(int percent)>& onProgress, Result& result);
-    KxVideoAnalysis(std::shared_ptr<KxVideoScanner> scanner, const IKxAutoReframeParam& param,
+    /// What is known before the analysis.
+    struct Known {
+        KxDetectorFiles::Contents detectors;
+        QByteArray key;                                ///< of the record; empty without a store of records
+        std::shared_ptr<const KxSubjectRecord> record; ///< null without a confirmed one
+    };
+    KxVideoAnalysis(const QString& path, Known known, const IKxAutoReframeParam& param,
                     const KxAnalysisSettings& settings, const KxCancelToken& cancel);
 
     const QString m_path;
-    std::shared_ptr<KxVideoScanner> m_scanner; ///< null once it was read to its end
+    Known m_known;
+    std::shared_ptr<KxVideoScanner> m_scanner; ///< null with a confirmed record, and once it was read to its end
     IKxAutoReframeParam m_param;
     KxAnalysisSettings m_settings;
     KxCancelToken m_cancel;

@@ -1,4 +1,6 @@
+#include <KxModel/KxDetectorFiles.h>
 #include <KxModel/KxRecordStore.h>
+#include <KxModel/KxVideoAnalysis.h>
 
 #include <KxSubject/KxSubjectModels.h>
 #include <KxSubject/KxSubjectRecordFormat.h>
@@ -186,4 +188,40 @@ TEST_F(KxRecordStoreTest, TheContentHashIdentifiesAFileWhateverItsName)
     changed[0] = 'w';
     EXPECT_NE(KxRecordStore::ContentHash(Write("changed", changed)), hash);
     EXPECT_TRUE(KxRecordStore::ContentHash(m_folder.filePath(QStringLiteral("missing"))).isEmpty());
+}
+
+TEST_F(KxRecordStoreTest, ARecordFromTheDiskIsConfirmedByItsVideo)
+{
+    KxRecordStore store;
+    store.SetFolder(Folder());
+    store.Add(Key, Record(3));
+    EXPECT_TRUE(store.FindConfirmed(Key)) << "it was made here";
+    KxRecordStore next;
+    next.SetFolder(Folder());
+    next.Confirm(Key);
+    EXPECT_FALSE(next.FindConfirmed(Key));
+    const auto found = next.Find(Key);
+    ASSERT_TRUE(found);
+    EXPECT_FALSE(next.FindConfirmed(Key));
+    next.Confirm(Key);
+    EXPECT_EQ(next.FindConfirmed(Key), found);
+}
+
+TEST_F(KxRecordStoreTest, AnAnalysisOpensNoVideoWhoseRecordIsConfirmed)
+{
+    constexpr qint64 frames = 40;
+    const QString path = Write("clip.mp4", "not really a video");
+    auto record = std::make_shared<KxSubjectRecord>(*Record(3));
+    record->source.frameCount = frames;
+    KxAnalysisSettings settings;
+    settings.records = std::make_shared<KxRecordStore>();
+    settings.records->SetFolder(Folder());
+    settings.records->Add(KxRecordStore::KeyOf(path, KxDetectorFiles::Read({}).models), record);
+    const IKxAutoReframeParam param(16, QSize(9, 16));
+    const auto analysis = KxVideoAnalysis::Open(path, param, settings, {});
+    ASSERT_TRUE(analysis);
+    EXPECT_EQ((*analysis)->Run([](int) {}).crops.size(), frames);
+    settings.records = std::make_shared<KxRecordStore>();
+    settings.records->SetFolder(Folder());
+    EXPECT_FALSE(KxVideoAnalysis::Open(path, param, settings, {}));
 }
