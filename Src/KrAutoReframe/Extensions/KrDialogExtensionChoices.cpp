@@ -9,6 +9,7 @@
 #include <KrAutoReframe/Player/KrAutoReframePlayerControlBar.h>
 #include <KrAutoReframe/Player/KrAutoReframePlayerToolSlider.h>
 #include <KrAutoReframe/Player/KrAutoReframePlayerView.h>
+#include <KrAutoReframe/Player/KrMarkColours.h>
 #include <KrAutoReframe/Settings/KrAutoReframePropertyPanel.h>
 
 #include <KxModel/IKxAutoReframePartialResults.h>
@@ -156,7 +157,8 @@ void KrDialogExtension::ShowLosses()
     for (const KxAutoReframeLoss& loss : losses) {
         const QString from = KrTimeCode::ToText(static_cast<int>(loss.first), static_cast<float>(FrameRate()),
                                                 KrTimeCode::Detail::Frames);
-        marks.append({loss.first, loss.last + 1, QColor(0xFF, 0x8B, 0x7A), tr("Lost from %1: point again").arg(from)});
+        marks.append({loss.first, loss.last + 1, KrMarkColours::Loss(m_parts.panel.palette()),
+                      tr("Lost from %1: point again").arg(from)});
     }
     m_parts.view.ControlBar().Slider().SetGaps(marks);
 }

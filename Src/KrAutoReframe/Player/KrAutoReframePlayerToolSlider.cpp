@@ -1,5 +1,7 @@
 #include <KrAutoReframe/Player/KrAutoReframePlayerToolSlider.h>
 
+#include <KrAutoReframe/Player/KrMarkColours.h>
+
 #include <KxWidgets/KxToolTipHelper.h>
 
 #include <QDebug>
@@ -25,8 +27,6 @@ constexpr double ShotTickInsetPx = 3.0;
 constexpr double ShotLinePx = 2.0;
 constexpr double ChoiceLinePx = 3.0;
 constexpr double LeastShotLinePx = 4.0;
-constexpr QColor ShotColour(150, 156, 166);
-constexpr QColor DoubtColour(255, 174, 52);
 
 void SetSliderType(QWidget& slider, const QString& type)
 {
@@ -233,18 +233,19 @@ void KrAutoReframePlayerToolSlider::PaintMarks()
 
 void KrAutoReframePlayerToolSlider::PaintShots(QPainter& painter) const
 {
+    const QColor doubtColour = KrMarkColours::Doubt(palette());
     for (const ShotMark& shot : m_shots) {
         const double start = CentreAt(shot.first);
         const bool isQuiet = shot.kind != ShotMark::Kind::Doubtful;
         if (shot.kind == ShotMark::Kind::Doubtful) {
             const double length = std::max(CentreAt(shot.end) - start, LeastShotLinePx);
-            painter.fillRect(QRectF(start, rect().bottom() + 1 - ShotLinePx, length, ShotLinePx), DoubtColour);
+            painter.fillRect(QRectF(start, rect().bottom() + 1 - ShotLinePx, length, ShotLinePx), doubtColour);
         }
         // The slider's start is no boundary between shots.
         if (shot.first > 0) {
             const double inset = isQuiet ? ShotTickInsetPx : 0.0;
             painter.fillRect(QRectF(qRound(start), rect().top() + inset, ShotTickPx, rect().height() - 2.0 * inset),
-                             isQuiet ? ShotColour : DoubtColour);
+                             isQuiet ? KrMarkColours::Shot(palette()) : doubtColour);
         }
     }
 }

@@ -1,5 +1,6 @@
 #include <KrAutoReframe/Player/KrAutoReframePlayerToolSlider.h>
 
+#include <KrAutoReframe/Player/KrMarkColours.h>
 #include <Tests/KrAutoReframe/WidgetProbe.h>
 #include <Tests/Support/Eventually.h>
 
@@ -9,6 +10,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cmath>
 #include <memory>
 
 using namespace WidgetProbe;
@@ -366,6 +369,25 @@ TEST_F(SliderTest, KeepsItsOwnList)
     EXPECT_EQ(slider->value(), 10.0);
 }
 
+namespace
+{
+
+/// As of the contrast of two colours in the guidelines for accessible content: 1 to 21.
+double Contrast(const QColor& a, const QColor& b)
+{
+    const auto luminance = [](const QColor& colour) {
+        const auto linear = [](double value) {
+            return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+        };
+        return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) + 0.0722 * linear(colour.blueF());
+    };
+    const double first = luminance(a) + 0.05;
+    const double second = luminance(b) + 0.05;
+    return std::max(first, second) / std::min(first, second);
+}
+
+} // namespace
+
 TEST_F(SliderTest, ADoubtfulShotThatWasSeenIsNoLongerAmber)
 {
     using Kind = KrAutoReframePlayerToolSlider::ShotMark::Kind;
@@ -374,14 +396,30 @@ TEST_F(SliderTest, ADoubtfulShotThatWasSeenIsNoLongerAmber)
         const QImage image = Paint(*marks);
         for (int y = 0; y < image.height(); ++y) {
             for (int x = 0; x < image.width(); ++x) {
-                if (image.pixelColor(x, y) == QColor(255, 174, 52)) {
+                if (image.pixelColor(x, y) == KrMarkColours::Doubt(slider->palette())) {
                     return true;
                 }
             }
         }
         return false;
     };
-    EXPECT_TRUE(isAmber(Kind::Doubtful));
-    EXPECT_FALSE(isAmber(Kind::Seen));
-    EXPECT_FALSE(isAmber(Kind::Sure));
+    for (const QColor& window : {QColor(0x20, 0x22, 0x27), QColor(0xFA, 0xFB, 0xFC)}) {
+        slider->setPalette(QPalette(window));
+        EXPECT_TRUE(isAmber(Kind::Doubtful));
+        EXPECT_FALSE(isAmber(Kind::Seen));
+        EXPECT_FALSE(isAmber(Kind::Sure));
+    }
+}
+
+TEST_F(SliderTest, MarksOfShotsStandOutInDarkAndLightWindows)
+{
+    constexpr double least = 3.0;
+    for (const QColor& window : {QColor(0x20, 0x22, 0x27), QColor(0xFA, 0xFB, 0xFC)}) {
+        const QPalette palette(window);
+        ASSERT_EQ(palette.color(QPalette::Window), window);
+        for (const QColor& colour :
+             {KrMarkColours::Shot(palette), KrMarkColours::Doubt(palette), KrMarkColours::Loss(palette)}) {
+            EXPECT_GE(Contrast(colour, window), least) << colour.name().toStdString() << window.name().toStdString();
+        }
+    }
 }
