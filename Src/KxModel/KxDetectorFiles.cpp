@@ -11,6 +11,7 @@
 #include <QHash>
 #include <QStandardPaths>
 
+#include <algorithm>
 #include <mutex>
 
 namespace
@@ -64,7 +65,8 @@ QStringList InstalledFolders()
 QByteArray ContentsOf(const QString& path)
 {
     QFile file(path);
-    return !path.isEmpty() && file.open(QIODevice::ReadOnly) ? file.read(MostBytes) : QByteArray();
+    return !path.isEmpty() && file.open(QIODevice::ReadOnly) ? file.read(std::min(file.size(), MostBytes))
+                                                             : QByteArray();
 }
 
 QString ReasonNotToRead(const QFileInfo& file)

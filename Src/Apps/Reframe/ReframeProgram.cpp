@@ -75,6 +75,11 @@ int ReframeProgram::Run(const ReframeOptions& options)
     if (networks.isWanted && networks.path.isEmpty() && options.apply.isEmpty()) {
         reporter.Warn(first, KxDetectorFiles::MissingNetworks());
     }
+    // Meanwhile the first video is opened, which takes about as long. The analysis then finds the checksums known.
+    KxThread networkReading;
+    if (options.apply.isEmpty() && !networks.path.isEmpty()) {
+        networkReading = KxThread([&networks] { KxDetectorFiles::Read(networks.path); });
+    }
     const int status = RunAll(options, reporter);
     reporter.End(status);
     if (const KxError problem = reporter.StatusProblem()) {
