@@ -191,10 +191,10 @@ void KxMoverTracks::End(Track& track)
     const double seconds = track.lastSeconds - track.firstSeconds;
     const double travel = cv::norm(track.travel) / m_mapPx.width;
     if (track.hits >= m_options.leastHits && seconds > m_options.leastSeconds && travel > m_options.leastTravel) {
-        track.mover.seconds = static_cast<float>(seconds);
-        track.mover.travel = static_cast<float>(travel);
-        track.mover.boxes.shrink_to_fit();
-        m_movers.push_back(std::move(track.mover));
+        const std::vector<KxMover::PackedBox>& boxes = track.mover.boxes;
+        m_ended.push_back({track.mover.firstSample, static_cast<float>(seconds), static_cast<float>(travel),
+                           static_cast<std::uint32_t>(boxes.size())});
+        m_endedBoxes.insert(m_endedBoxes.end(), boxes.begin(), boxes.end());
     }
 }
 
@@ -226,7 +226,17 @@ void KxMoverTracks::AddMap(double timeSeconds, const cv::Mat& map, const std::op
 std::vector<KxMover> KxMoverTracks::Finish()
 {
     EndAll();
-    std::stable_sort(m_movers.begin(), m_movers.end(),
+    std::vector<KxMover> movers;
+    movers.reserve(m_ended.size());
+    auto box = m_endedBoxes.cbegin();
+    for (const Ended& ended : m_ended) {
+        const auto end = box + ended.boxes;
+        movers.push_back({ended.firstSample, ended.seconds, ended.travel, {box, end}});
+        box = end;
+    }
+    m_ended.clear();
+    m_endedBoxes.clear();
+    std::stable_sort(movers.begin(), movers.end(),
                      [](const KxMover& a, const KxMover& b) { return a.firstSample < b.firstSample; });
-    return std::move(m_movers);
+    return movers;
 }

@@ -9,6 +9,7 @@
 #include <opencv2/core/matx.hpp>
 
 #include <cstdint>
+#include <deque>
 #include <optional>
 #include <vector>
 
@@ -47,6 +48,14 @@ private:
         int misses = 0;
         KxMover mover;
     };
+    /// A mover that counts. A vector of boxes for each of them would take much more memory than the boxes, in hours of
+    /// video.
+    struct Ended {
+        std::int32_t firstSample;
+        float seconds;
+        float travel;
+        std::uint32_t boxes; ///< so many of m_endedBoxes, after those of the movers before
+    };
     struct Peak {
         float value;
         cv::Point place;
@@ -70,5 +79,6 @@ private:
     double m_nowSeconds = 0.0;
     double m_gapSeconds = 0.0;              ///< since the sample before
     std::vector<std::vector<Track>> m_open; ///< by level
-    std::vector<KxMover> m_movers;
+    std::deque<Ended> m_ended;
+    std::deque<KxMover::PackedBox> m_endedBoxes;
 };
