@@ -5,6 +5,7 @@
 #include <KrAutoReframe/Engine/KrAutoReframeAnalyzer.h>
 #include <KrAutoReframe/Engine/KrAutoReframeHelper.h>
 #include <KxCore/KxInterrupt.h>
+#include <KxCore/KxMemory.h>
 #include <KxCore/KxSystemFile.h>
 #include <KxModel/KxAutoReframeService.h>
 #include <KxModel/KxChoicesFormat.h>
@@ -40,9 +41,21 @@ ReframeJob::ReframeJob(ReframeInput& input, const QSize& aspect, const ReframeOp
 
 ReframeJob::~ReframeJob()
 {
+    ForgetCrops();
+}
+
+void ReframeJob::ForgetCrops()
+{
+    if (m_process == nullptr) {
+        return;
+    }
     IKxTimeline* const source = Helper().GetSourceTimeline();
     m_process.reset();
     IKxTimeline::releaseInstance(source);
+    if (m_track) {
+        m_track->crops.clear();
+    }
+    KxMemory::ReturnUnused();
 }
 
 KxOutcome ReframeJob::Run()

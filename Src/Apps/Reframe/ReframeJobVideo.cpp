@@ -88,6 +88,7 @@ ReframeJob::Ended ReframeJob::WriteVideo()
     settings.comment = RunText();
     settings.frames = m_frames;
     settings.parts = m_videoParts;
+    ForgetCrops();
 
     if (const Ended ended = Render(*source, settings, ReframeReporter::Stage::Render, QStringLiteral("output"))) {
         return ended;
