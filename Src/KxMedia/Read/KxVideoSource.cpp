@@ -58,7 +58,8 @@ KxError KxVideoSource::Prepare(std::unique_ptr<KxInputFile> input, KxVideoDecode
     if (const KxReadStatus status = m_packets->Prepare(); status != KxReadStatus::Delivered) {
         return status == KxReadStatus::Cancelled ? CancelledReason() : Texts::tr("it is damaged");
     }
-    KxResult<std::unique_ptr<KxVideoDecoder>> decoder = KxVideoDecoder::Open(*m_packets, KxVideoDecoder::Effort::FirstPicture);
+    KxResult<std::unique_ptr<KxVideoDecoder>> decoder =
+        KxVideoDecoder::Open(*m_packets, KxVideoDecoder::Effort::FirstPicture);
     if (!decoder) {
         return decoder.Message();
     }
