@@ -15,6 +15,7 @@ struct KXSUBJECT_API KxFollowTrack {
         std::int32_t frame = 0;
         KxSubjectBox box;
         float confidence = 0.0F; ///< 0 to 1, the tracker's own
+        bool isDoubted = false;  ///< it may have drifted to something else, although it is confident
     };
     std::vector<Point> points; ///< growing by frame; some 15 a second in the shots that the choice applies to
 

@@ -296,6 +296,9 @@ struct KxSubjectOptions {
         double stillOverlap = 0.3;      ///< 0.2 to 0.4: the same for a tracked box, which may have drifted; chosen
         double sameOverlap = 0.6;       ///< 0.5 to 0.8: a tracked box that overlaps more is left as it is; chosen
         double stillGrowth = 0.7;       ///< 0.5 to 1 a second, logarithm of the areas' ratio of two looks; chosen
+        double checkedSeconds = 1.0;    ///< 0.7 to 1.5: how much of a track is followed backward at a time; chosen
+        double returnShare = 0.5;       ///< 0.3 to 1 of the box's side, farther from where it began, it is lost; chosen
+        double sameColours = 0.7;       ///< 0.6 to 0.8 in common, a coefficient of Bhattacharyya; chosen
         double bridgedConfidence = 0.5; ///< 0.3 to 0.7 of a place that is known from movers alone; chosen
         double agreeingShare = 0.6;     ///< 0.4 to 1 of the box's width: tracks nearer than this agree; chosen
         double gateWidth = 0.15;        ///< 0.1 to 0.25: evidence farther from the track counts less; trial

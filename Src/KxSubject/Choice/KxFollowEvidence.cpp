@@ -126,6 +126,9 @@ double KxFollowEvidence::HeldBy(const std::function<double(std::int64_t frame)>&
 {
     double missed = 0.0;
     for (const std::size_t i : m_good) {
+        if (m_points[i].isDoubted) {
+            continue;
+        }
         const KxSubjectBox& box = m_points[i].box;
         const bool across = m_axis == KxAxis::Across;
         const double margin = m_options.boxError * (across ? box.width : box.height);
@@ -135,5 +138,7 @@ double KxFollowEvidence::HeldBy(const std::function<double(std::int64_t frame)>&
         const double most = std::min(extent, to - from);
         missed += most > 0.0 ? 1.0 - std::max(0.0, std::min(to, left + extent) - std::max(from, left)) / most : 0.0;
     }
-    return 1.0 - missed / static_cast<double>(m_points.size());
+    const auto known = std::count_if(m_points.begin(), m_points.end(),
+                                     [](const KxFollowTrack::Point& point) { return !point.isDoubted; });
+    return 1.0 - missed / static_cast<double>(std::max<std::ptrdiff_t>(1, known));
 }

@@ -35,7 +35,7 @@ public:
     std::optional<KxSubjectBox> BoxAt(std::int64_t frame) const;
     /// The mean share of the thing that a crop of an extent around some centres holds, of the most that it can hold.
     /// What is near the edge of the box does not count, since the box is not exact. Where the thing was not seen well,
-    /// nothing says that the crop does not hold it.
+    /// nothing says that the crop does not hold it. Where the track is doubted, nothing is known.
     double HeldBy(const std::function<double(std::int64_t frame)>& centreAt, double extent) const;
 
     /// `evidence` of all signals in a picture with the thing in it that the choice avoids.

@@ -3,6 +3,7 @@
 #include <KxSubject/Choice/KxChoiceRanges.h>
 #include <KxSubject/Follow/KxBoxGuess.h>
 #include <KxSubject/Follow/KxDetectionAnchor.h>
+#include <KxSubject/Follow/KxDriftCheck.h>
 #include <KxSubject/Follow/KxFollowTracker.h>
 #include <KxSubject/Follow/KxMoverBridge.h>
 #include <KxSubject/Follow/KxTrackBlend.h>
@@ -66,10 +67,13 @@ private:
         KxFollowTracker tracker;
         KxDetectionAnchor anchor;
         KxMoverBridge bridge;
+        KxDriftCheck drift;
     };
     /// `before`: of an earlier seed in the same shot, which knows what is beside the thing.
     Run Started(std::size_t index, const Picture& picture, const std::optional<Run>& before);
     KxFollowTrack::Point Advance(Run& run, const Picture& picture) const;
+    /// The same at the end of `points`, of which some may turn out to be doubted.
+    void Advance(Run& run, const Picture& picture, std::vector<KxFollowTrack::Point>& points) const;
     cv::Rect2d PixelsOf(const KxSubjectBox& box) const;
     KxSubjectBox ShareOf(const cv::Rect2d& box) const;
 
@@ -78,6 +82,7 @@ private:
     cv::Size m_sizePx;
     std::int64_t m_stepFrames;
     double m_frameRate;
+    std::int64_t m_checkedFrames;
     std::vector<Seed> m_seeds; ///< growing by frame
     std::vector<Step> m_steps;
     std::size_t m_next = 0;
@@ -96,6 +101,7 @@ KxSubjectFollower::Impl::Impl(const KxSubjectRecord& record, const KxSubjectChoi
     , m_stepFrames(std::max<std::int64_t>(
           1, static_cast<std::int64_t>(std::floor(record.source.frameRate / options.follow.picturesPerSecond + 0.01))))
     , m_frameRate(record.source.frameRate)
+    , m_checkedFrames(std::max<std::int64_t>(1, std::llround(record.source.frameRate * options.follow.checkedSeconds)))
 {
     std::int64_t first = 0;
     for (std::size_t i = 0; i <= record.boundaries.size(); ++i) {
@@ -203,8 +209,9 @@ KxSubjectFollower::Impl::Run KxSubjectFollower::Impl::Started(std::size_t index,
             found ? *found : ShareOf(KxBoxGuess::Around(picture.pixels, PixelsOf(seed.box).tl(), m_options.follow).box);
     }
     Run run{index, KxFollowTracker(m_options.follow, picture.pixels, PixelsOf(seed.box)), anchor,
-            KxMoverBridge(m_record)};
+            KxMoverBridge(m_record), KxDriftCheck(m_options.follow, m_checkedFrames)};
     run.anchor.Correct({picture.frame, seed.box, 1.0});
+    run.drift.SeeAt(picture.frame, picture.pixels, PixelsOf(seed.box));
     run.bridge.SeeAt(picture.frame, seed.box);
     return run;
 }
@@ -228,7 +235,23 @@ KxFollowTrack::Point KxSubjectFollower::Impl::Advance(Run& run, const Picture& p
         const cv::Rect2d box = PixelsOf(*bridged);
         tracker.MoveTo((box.tl() + box.br()) / 2.0);
     }
+    if (found) {
+        run.drift.SeeAt(picture.frame, picture.pixels, PixelsOf(point.box));
+    } else {
+        run.drift.Add(picture.frame, picture.pixels, PixelsOf(point.box));
+    }
     return point;
+}
+
+void KxSubjectFollower::Impl::Advance(Run& run, const Picture& picture, std::vector<KxFollowTrack::Point>& points) const
+{
+    points.push_back(Advance(run, picture));
+    if (const std::optional<std::int64_t> since = run.drift.DoubtedSince()) {
+        for (auto point = points.rbegin(); point != points.rend() && point->frame != *since && !point->isDoubted;
+             ++point) {
+            point->isDoubted = true;
+        }
+    }
 }
 
 void KxSubjectFollower::Impl::FollowForward(const Picture& picture)
@@ -245,7 +268,7 @@ void KxSubjectFollower::Impl::FollowForward(const Picture& picture)
         m_forwardSeed = started;
         m_forward.emplace(Started(*started, picture, m_forward));
     } else if (m_forward) {
-        m_seeds[m_forward->seed].after.push_back(Advance(*m_forward, picture));
+        Advance(*m_forward, picture, m_seeds[m_forward->seed].after);
     }
 }
 
@@ -266,7 +289,7 @@ bool KxSubjectFollower::Impl::FollowBackward(std::size_t index, std::int64_t unt
     }
     while (m_backward && from != m_kept.begin() && std::prev(from)->frame >= until) {
         --from;
-        m_seeds[index].before.push_back(Advance(*m_backward, *from));
+        Advance(*m_backward, *from, m_seeds[index].before);
         if (!goesOn()) {
             return false;
         }

@@ -92,5 +92,8 @@ std::vector<Point> KxTrackBlend::Between(const Side& left, const Side& right, co
     }
     blended.push_back(right.seed);
     BridgeLost(blended, options);
+    for (Point& point : blended) {
+        point.isDoubted = point.isDoubted && !leftArrives && !rightArrives;
+    }
     return {blended.begin() + 1, blended.end() - 1};
 }

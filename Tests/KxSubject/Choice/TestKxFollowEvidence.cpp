@@ -126,3 +126,14 @@ TEST(KxFollowEvidence, TheShareThatACropHoldsCountsWhatItCouldHold)
     EXPECT_NEAR(evidence.HeldBy(still(0.15), 0.05), 2.0 / 3.0, 1e-9) << "all that such a crop can hold of the first";
     EXPECT_NEAR(evidence.HeldBy(still(0.161), 0.1), 2.0 / 3.0, 1e-2) << "what is near its edge may not be of the thing";
 }
+
+TEST(KxFollowEvidence, WhereTheTrackIsDoubtedNothingIsKnownOfWhatTheCropHolds)
+{
+    KxFollowTrack track{{Seen(0, 0.1, 1.0F), Seen(10, 0.5, 1.0F), Seen(20, 0.9, 1.0F)}};
+    const auto onTheFirst = [](std::int64_t) { return 0.15; };
+    EXPECT_NEAR(Evidence(track).HeldBy(onTheFirst, 0.2), 1.0 / 3.0, 1e-9);
+    track.points[2].isDoubted = true;
+    EXPECT_NEAR(Evidence(track).HeldBy(onTheFirst, 0.2), 0.5, 1e-9);
+    track.points[1].isDoubted = true;
+    EXPECT_NEAR(Evidence(track).HeldBy(onTheFirst, 0.2), 1.0, 1e-9);
+}

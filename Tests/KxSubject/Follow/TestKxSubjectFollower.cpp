@@ -83,18 +83,18 @@ Outcome FollowThrough(const KxSubjectRecord& record, const KxSubjectChoice& choi
     return outcome;
 }
 
-/// Something that moves to the right and looks different from this frame on.
+/// Something that moves to the right and looks different so many frames before and after the one pointed at.
 constexpr std::int64_t TurnFrame = 16;
 double TurningPlace(std::int64_t frame)
 {
     return 0.3 + 0.005 * static_cast<double>(frame);
 }
 
-cv::Mat PictureOfTurn(std::int64_t frame)
+cv::Mat PictureOfTurn(std::int64_t frame, std::int64_t seedFrame)
 {
     cv::Mat picture = MadePictures::Texture(PictureSize, 21);
     const cv::Rect place(cvRound(TurningPlace(frame) * PictureSize.width) - 15, 70, 30, 40);
-    if (frame < TurnFrame) {
+    if (std::abs(frame - seedFrame) < TurnFrame) {
         MadePictures::PaintObject(picture, place);
     } else {
         MadePictures::Texture(place.size(), 77).copyTo(picture(place));
@@ -112,18 +112,18 @@ KxDetection DetectionAt(std::int64_t frame)
             KxDetectionKind::Person};
 }
 
-KxFollowTrack FollowThroughTurn(const KxSubjectRecord& record)
+KxFollowTrack FollowThroughTurn(const KxSubjectRecord& record, std::int64_t seedFrame = 0)
 {
-    const KxDetection first = DetectionAt(0);
+    const KxDetection first = DetectionAt(seedFrame);
     KxSubjectFollower follower(record,
-                               Follow({{0.0,
+                               Follow({{static_cast<double>(seedFrame) / Rate,
                                         {static_cast<double>(first.x), static_cast<double>(first.y),
                                          static_cast<double>(first.width), static_cast<double>(first.height)}}}),
                                {});
     EXPECT_TRUE(follower.NextRange());
     for (std::int64_t frame = 0; frame < 60; ++frame) {
         if (follower.Wants(frame)) {
-            const cv::Mat picture = PictureOfTurn(frame);
+            const cv::Mat picture = PictureOfTurn(frame, seedFrame);
             follower.AddPicture(frame, {picture.data, {picture.cols, picture.rows}, picture.step[0]});
         }
     }
@@ -243,6 +243,28 @@ TEST(KxSubjectFollower, WhatTurnsAndLooksDifferentIsFoundByTheDetector)
         }
     }
     EXPECT_GT(track.points.back().confidence, 0.5F);
+    for (const KxFollowTrack::Point& point : track.points) {
+        EXPECT_FALSE(point.isDoubted) << point.frame;
+    }
+}
+
+TEST(KxSubjectFollower, ATrackThatStaysBehindIsDoubtedFromThatSecondOn)
+{
+    const KxFollowTrack track = FollowThroughTurn(Record(60));
+    ASSERT_GT(track.points.size(), 20U);
+    for (const KxFollowTrack::Point& point : track.points) {
+        EXPECT_EQ(point.isDoubted, point.frame > 0) << point.frame;
+    }
+}
+
+TEST(KxSubjectFollower, BackwardInTimeATrackIsDoubtedLikewise)
+{
+    constexpr std::int64_t seed = 58;
+    const KxFollowTrack track = FollowThroughTurn(Record(60), seed);
+    ASSERT_GT(track.points.size(), 20U);
+    for (const KxFollowTrack::Point& point : track.points) {
+        EXPECT_EQ(point.isDoubted, point.frame < seed) << point.frame;
+    }
 }
 
 TEST(KxSubjectFollower, WhatTurnsAndLooksDifferentIsFollowedByItsMovement)

@@ -77,3 +77,13 @@ TEST(KxTrackBlend, OneSideAloneIsTakenAndTheSeedsAreLeftOut)
     EXPECT_EQ(points[0].frame, 10);
     EXPECT_EQ(points[0].box.x, 0.15);
 }
+
+TEST(KxTrackBlend, ASideThatEndsOnTheOtherSeedIsNotDoubted)
+{
+    Point doubted = At(75, 0.4, 0.9F);
+    doubted.isDoubted = true;
+    Point arrived = At(98, 0.49, 0.9F);
+    arrived.isDoubted = true;
+    EXPECT_FALSE(Blend({doubted, arrived}, {})[0].isDoubted);
+    EXPECT_TRUE(Blend({doubted}, {})[0].isDoubted);
+}
