@@ -49,12 +49,13 @@ KxResult<QSize> KxOutputSize::For(const QSizeF& crop, const QSize& cropSize) con
         const double height = heightPx > 0 ? heightPx : aspect < 1.0 ? shortSidePx / aspect : shortSidePx;
         return QSize(Even(height * aspect), Even(height));
     }
-    if (std::abs(aspect * exact.height() / exact.width() - 1.0) > ShapeTolerance) {
+    const int heightOfWidth = Even(exact.width() / aspect);
+    const bool isNearest = exact.height() == heightOfWidth || exact.width() == Even(exact.height() * aspect);
+    if (!isNearest && std::abs(aspect * exact.height() / exact.width() - 1.0) > ShapeTolerance) {
         return KxResult<QSize>::Failure(
             QCoreApplication::translate("KxOutputSize",
                                         "the size %1 x %2 does not have the shape of the crop; %1 x %3 does")
-                .arg(QString::number(exact.width()), QString::number(exact.height()),
-                     QString::number(Even(exact.width() / aspect))));
+                .arg(QString::number(exact.width()), QString::number(exact.height()), QString::number(heightOfWidth)));
     }
     return exact;
 }

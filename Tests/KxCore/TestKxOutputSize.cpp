@@ -47,6 +47,16 @@ TEST(KxOutputSize, ASizeOfAnotherShapeIsRefusedWithTheOneThatFits)
               QStringLiteral("the size 1080 x 1080 does not have the shape of the crop; 1080 x 1920 does"));
 }
 
+TEST(KxOutputSize, ASmallSizeMayBeAsFarFromTheShapeAsEvenNumbersAre)
+{
+    const QSizeF narrow(101.25, 180.0);
+    EXPECT_EQ(*KxOutputSize::Parse(QStringLiteral("32x56"))->For(narrow, QSize(102, 180)), QSize(32, 56));
+    EXPECT_EQ(*KxOutputSize::Parse(QStringLiteral("30x54"))->For(narrow, QSize(102, 180)), QSize(30, 54));
+    const KxResult<QSize> refused = KxOutputSize::Parse(QStringLiteral("32x54"))->For(narrow, QSize(102, 180));
+    ASSERT_FALSE(refused);
+    EXPECT_EQ(refused.Message(), QStringLiteral("the size 32 x 54 does not have the shape of the crop; 32 x 56 does"));
+}
+
 TEST(KxOutputSize, AShorterSideIsThatOfEitherShape)
 {
     KxOutputSize size;
