@@ -1,8 +1,7 @@
 #include <KxModel/KxAutoReframeService.h>
+#include <Tests/KxModel/TwoThings.h>
 #include <Tests/Support/MadeVideo.h>
 
-#include <QImage>
-#include <QPainter>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -122,25 +121,12 @@ TEST_F(KxAutoReframeDecisionsTest, ChoicesHold)
 
 TEST_F(KxAutoReframeDecisionsTest, WhatAClientPointsAtIsFollowed)
 {
-    MadeVideo::Recipe recipe;
-    recipe.size = QSize(320, 180);
-    recipe.frames = Frames;
-    // The thing at the left stands still, the other one moves.
-    recipe.draw = [](int number) {
-        // Converting it would be done by threads of Qt, which ThreadSanitizer takes for races.
-        QImage image(320, 180, QImage::Format_RGB888);
-        image.fill(QColor(90, 90, 90));
-        QPainter painter(&image);
-        painter.fillRect(30, 70, 40, 40, QBrush(Qt::white, Qt::DiagCrossPattern));
-        painter.fillRect(160 + 2 * number, 70, 36, 36, QBrush(Qt::yellow, Qt::Dense4Pattern));
-        return image;
-    };
-    ASSERT_TRUE(MadeVideo::Make(Clip(), recipe));
+    ASSERT_TRUE(MadeVideo::Make(Clip(), TwoThings::Recipe(Frames)));
     EXPECT_GT(Analyse({9, 16}).back().x(), 0.4);
     KxAutoReframeChoice follow;
     follow.kind = KxAutoReframeChoice::Kind::Follow;
     follow.toSeconds = 1000.0;
-    follow.seeds = {{1.0, QRectF(30.0 / 320, 70.0 / 180, 40.0 / 320, 40.0 / 180), false}};
+    follow.seeds = {{1.0, TwoThings::Still, false}};
     static_cast<IKxAutoReframeChoices&>(m_service).SetChoices({follow});
-    EXPECT_LT(Analyse({9, 16}).back().x(), 30.0 / 320);
+    EXPECT_LT(Analyse({9, 16}).back().x(), TwoThings::Still.left());
 }

@@ -1,10 +1,9 @@
 #include <KxModel/KxAutoReframeService.h>
 #include <KxModel/KxFollowTracks.h>
 #include <KxModel/KxRecordStore.h>
+#include <Tests/KxModel/TwoThings.h>
 #include <Tests/Support/MadeVideo.h>
 
-#include <QImage>
-#include <QPainter>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -20,6 +19,7 @@ constexpr int Frames = 60;
 constexpr int SeedFrame = 40;
 constexpr double Rate = 25.0;
 
+using TwoThings::Still;
 using Results = QList<IKxAutoReframeResult>;
 
 std::vector<QRectF> Crops(const Results& results)
@@ -31,30 +31,18 @@ std::vector<QRectF> Crops(const Results& results)
     return crops;
 }
 
-/// Of two things, one stands still at the left, and a person points at it; the other one moves.
+/// A person points at the thing that stands still.
 class KxPartialResultsTest : public testing::Test
 {
 protected:
     void SetUp() override
     {
-        MadeVideo::Recipe recipe;
-        recipe.size = QSize(320, 180);
-        recipe.frames = Frames;
-        recipe.draw = [](int number) {
-            // Converting it would be done by threads of Qt, which ThreadSanitizer takes for races.
-            QImage image(320, 180, QImage::Format_RGB888);
-            image.fill(QColor(90, 90, 90));
-            QPainter painter(&image);
-            painter.fillRect(30, 70, 40, 40, QBrush(Qt::white, Qt::DiagCrossPattern));
-            painter.fillRect(150 + 2 * number, 70, 36, 36, QBrush(Qt::yellow, Qt::Dense4Pattern));
-            return image;
-        };
-        ASSERT_TRUE(MadeVideo::Make(Clip(), recipe));
+        ASSERT_TRUE(MadeVideo::Make(Clip(), TwoThings::Recipe(Frames)));
         m_settings.records = std::make_shared<KxRecordStore>();
         ASSERT_EQ(Analyse().outcome, KxOutcome::Done);
         KxSubjectChoice choice;
         choice.kind = KxChoiceKind::Follow;
-        choice.seeds = {{SeedFrame / Rate, {30.0 / 320, 70.0 / 180, 40.0 / 320, 40.0 / 180}}};
+        choice.seeds = {{SeedFrame / Rate, {Still.x(), Still.y(), Still.width(), Still.height()}}};
         m_settings.choices = {choice};
     }
     QString Clip() const { return m_folder.filePath(QStringLiteral("clip.mp4")); }
@@ -93,7 +81,7 @@ TEST_F(KxPartialResultsTest, TheyGrowOutwardFromTheSeedToTheEndsOfTheShot)
         ASSERT_EQ(results.size(), last - first + 1);
         for (int i = 0; i < results.size(); ++i) {
             EXPECT_EQ(results.at(i).frame(), first + i);
-            EXPECT_LT(results.at(i).cropRect().x(), 30.0 / 320) << first + i;
+            EXPECT_LT(results.at(i).cropRect().x(), Still.left()) << first + i;
         }
     }
     EXPECT_EQ(taken.front().first().frame(), SeedFrame);
