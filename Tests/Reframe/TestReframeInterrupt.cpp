@@ -21,9 +21,10 @@ namespace
 {
 
 constexpr int Frames = 40;
-// See InterruptedReframe.cpp. The file is opened for its facts and then for the analysis; its part is created to try
-// the folder, created to render, and opened by the writer.
-const QString AnalysisStarts = QStringLiteral("open clip.mp4 2");
+// See InterruptedReframe.cpp. The file is opened for its facts and its pictures, read for the key of the results, and
+// read again for the key of the record when the analysis starts; its part is created to try the folder, created to
+// render, and opened by the writer.
+const QString AnalysisStarts = QStringLiteral("open clip.mp4 3");
 const QString RenderStarts = QStringLiteral("create .part 3");
 const QString Video = QStringLiteral("clip-AutoReframe-9 16.mp4");
 
@@ -38,10 +39,10 @@ class ReframeInterruptTest : public testing::Test
 protected:
     QString Path(const QString& name) const { return m_folder.filePath(name); }
 
-    QString MakeClip(const QString& name) const
+    QString MakeClip(const QString& name, int frames = Frames) const
     {
         MadeVideo::Recipe recipe;
-        recipe.frames = Frames;
+        recipe.frames = frames;
         recipe.output = QStringList{QStringLiteral("-c:v"), QStringLiteral("libx264"), QStringLiteral("-pix_fmt"),
                                     QStringLiteral("yuv420p")};
         EXPECT_TRUE(MadeVideo::Make(Path(name), recipe));
@@ -180,7 +181,8 @@ TEST_F(ReframeInterruptTest, AFullStandardOutputIsAnError)
 
 TEST_F(ReframeInterruptTest, AReaderThatGoesAwayEndsTheProgramWithoutLeavingFiles)
 {
-    const QString clip = MakeClip(QStringLiteral("clip.mp4"));
+    // So long that the video is not complete when the progress cannot be written.
+    const QString clip = MakeClip(QStringLiteral("clip.mp4"), 20 * Frames);
     const QString pipe = Path(QStringLiteral("pipe"));
     ASSERT_EQ(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
     const QStringList before = Files();
