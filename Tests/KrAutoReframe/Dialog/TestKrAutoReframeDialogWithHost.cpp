@@ -58,9 +58,9 @@ protected:
 
     static QString ClipPath() { return folder->filePath(QStringLiteral("clip.mp4")); }
 
-    void Open()
+    void Open(const QString& path = ClipPath())
     {
-        item = createMediaItem(ClipPath());
+        item = createMediaItem(path);
         ASSERT_NE(item, nullptr);
         dialog = std::make_unique<KrAutoReframeDialog>(nullptr);
         helper = dialog->findChild<KrAutoReframeProcess*>()->GetHelper();
@@ -73,12 +73,22 @@ protected:
         dialog->InitMediaItem({item});
     }
 
-    void Analyse()
+    /// A video that was not analyzed before: those are known at once.
+    static QString MakeUnknown(int frames)
+    {
+        const QString path = folder->filePath(QStringLiteral("%1 frames.mp4").arg(frames));
+        MadeVideo::Recipe recipe;
+        recipe.frames = frames;
+        EXPECT_TRUE(MadeVideo::Make(path, recipe));
+        return path;
+    }
+
+    void Analyse(int frames = FrameCount)
     {
         QTimer::singleShot(WaitMs, progress, &QDialog::reject);
         dialog->slotStartAnalysis();
         ASSERT_TRUE(recorders.boxes.empty()) << recorders.BoxTexts().join(QLatin1Char('\n')).toStdString();
-        ASSERT_EQ(helper->GetResults().size(), FrameCount);
+        ASSERT_EQ(helper->GetResults().size(), frames);
         ASSERT_TRUE(overlay->isVisible());
     }
 
@@ -182,23 +192,25 @@ TEST_F(DialogWithHostTest, TheSwitchShowsTheReframedVideoAtTheSameFrame)
 
 TEST_F(DialogWithHostTest, CancelledAtOnceItCanStartAgain)
 {
-    Open();
+    constexpr int frames = 4 * FrameCount;
+    Open(MakeUnknown(frames));
     QTimer::singleShot(0, progress, &QDialog::reject);
     dialog->slotStartAnalysis();
     EXPECT_TRUE(helper->GetResults().isEmpty());
     EXPECT_TRUE(recorders.boxes.empty());
-    Analyse();
+    Analyse(frames);
 }
 
 TEST_F(DialogWithHostTest, CanBeDestroyedWhileItAnalyses)
 {
-    Open();
+    const QString unknown = MakeUnknown(5 * FrameCount);
+    Open(unknown);
     helper.reset();
     QTimer::singleShot(0, qApp, [this] { dialog.reset(); });
     dialog->slotStartAnalysis();
     EXPECT_EQ(dialog, nullptr);
     QList<IKxAutoReframeResult> results;
-    EXPECT_LT(getAutoReframeService()->GetResults(ClipPath(), &results), 0) << "the analysis was stopped";
+    EXPECT_LT(getAutoReframeService()->GetResults(unknown, &results), 0) << "the analysis was stopped";
 }
 
 TEST_F(DialogWithHostTest, CanBeDestroyedWhileItPlays)
