@@ -62,7 +62,7 @@ KxAutoReframeService::KxAutoReframeService(Open open)
     : m_open(std::move(open))
 {
     m_settings.records = std::make_shared<KxRecordStore>();
-    m_settings.tracks = std::make_shared<KxFollowTracks>(m_settings.records);
+    m_settings.tracks = std::make_shared<KxFollowTracks>(m_settings.records->Folder());
 }
 
 KxAutoReframeService::~KxAutoReframeService()

@@ -1,8 +1,8 @@
 #include <KxModel/KxFollowTracks.h>
 
+#include <KxModel/KxCacheFolder.h>
 #include <KxModel/KxChoicesFormat.h>
 #include <KxModel/KxFollowTrackFormat.h>
-#include <KxModel/KxRecordStore.h>
 
 #include <QCryptographicHash>
 
@@ -11,15 +11,15 @@
 namespace
 {
 
-QByteArray NameOf(const KxSubjectChoice& choice)
+QByteArray NameOf(const QByteArray& key, const KxSubjectChoice& choice)
 {
-    return QCryptographicHash::hash(KxChoicesFormat::Write({choice}), QCryptographicHash::Sha256).toHex();
+    return key + '-' + QCryptographicHash::hash(KxChoicesFormat::Write({choice}), QCryptographicHash::Sha256).toHex();
 }
 
 } // namespace
 
-KxFollowTracks::KxFollowTracks(std::shared_ptr<const KxRecordStore> records)
-    : m_records(std::move(records))
+KxFollowTracks::KxFollowTracks(std::shared_ptr<const KxCacheFolder> folder)
+    : m_folder(std::move(folder))
 {
 }
 
@@ -29,7 +29,7 @@ KxFollowTracks::Known KxFollowTracks::Find(const QByteArray& key, const KxSubjec
         return nullptr;
     }
     const Known known = FindInMemory(key, choice);
-    return known || !m_records ? known : FindOnDisk(key, choice);
+    return known || !m_folder ? known : FindOnDisk(key, choice);
 }
 
 KxFollowTracks::Known KxFollowTracks::FindInMemory(const QByteArray& key, const KxSubjectChoice& choice)
@@ -47,13 +47,14 @@ KxFollowTracks::Known KxFollowTracks::FindInMemory(const QByteArray& key, const 
 
 KxFollowTracks::Known KxFollowTracks::FindOnDisk(const QByteArray& key, const KxSubjectChoice& choice)
 {
-    const QByteArray bytes = m_records->FindBeside(key, NameOf(choice));
-    if (bytes.isEmpty()) {
+    const QByteArray name = NameOf(key, choice);
+    const std::optional<QByteArray> bytes = m_folder->Read(KxCacheFolder::Kind::Track, name);
+    if (!bytes) {
         return nullptr;
     }
-    std::optional<KxFollowTrack> read = KxFollowTrackFormat::Read(bytes);
+    std::optional<KxFollowTrack> read = KxFollowTrackFormat::Read(*bytes);
     if (!read) {
-        m_records->RemoveBeside(key, NameOf(choice));
+        m_folder->Remove(KxCacheFolder::Kind::Track, name);
         return nullptr;
     }
     return KeepInMemory(key, choice, std::move(*read));
@@ -74,7 +75,7 @@ KxFollowTracks::Known KxFollowTracks::KeepInMemory(const QByteArray& key, const 
 void KxFollowTracks::Add(const QByteArray& key, const KxSubjectChoice& choice, const KxFollowTrack& track)
 {
     KeepInMemory(key, choice, track);
-    if (m_records && !key.isEmpty()) {
-        m_records->AddBeside(key, NameOf(choice), KxFollowTrackFormat::Write(track));
+    if (m_folder && !key.isEmpty()) {
+        m_folder->Write(KxCacheFolder::Kind::Track, NameOf(key, choice), KxFollowTrackFormat::Write(track));
     }
 }

@@ -11,10 +11,10 @@
 #include <memory>
 #include <mutex>
 
-class KxRecordStore;
+class KxCacheFolder;
 
 /// The tracks of the choices followed last, so that another aspect ratio, speed or choice does not look for them again:
-/// some in memory and, where the records have a folder, more on the disk. Any thread.
+/// some in memory and, with a folder, more on the disk. Any thread.
 class KXMODEL_API KxFollowTracks
 {
 public:
@@ -23,7 +23,7 @@ public:
     using Known = std::shared_ptr<const KxFollowTrack>;
 
     /// Null: in memory alone.
-    explicit KxFollowTracks(std::shared_ptr<const KxRecordStore> records = nullptr);
+    explicit KxFollowTracks(std::shared_ptr<const KxCacheFolder> folder = nullptr);
 
     /// Of the video with the record `key` (KxRecordStore::KeyOf). Null without one, or with an empty key.
     Known Find(const QByteArray& key, const KxSubjectChoice& choice);
@@ -40,7 +40,7 @@ private:
     Known FindOnDisk(const QByteArray& key, const KxSubjectChoice& choice);
     Known KeepInMemory(const QByteArray& key, const KxSubjectChoice& choice, KxFollowTrack track);
 
-    const std::shared_ptr<const KxRecordStore> m_records;
+    const std::shared_ptr<const KxCacheFolder> m_folder; ///< may be null
     std::mutex m_mutex;
     std::list<Kept> m_kept; ///< guarded by the mutex; the one used last comes first
 };

@@ -1,17 +1,14 @@
 #include <KxModel/KxRecordStore.h>
 
+#include <KxModel/KxCacheFolder.h>
+
 #include <KxCore/KxConfigFile.h>
-#include <KxCore/KxLog.h>
-#include <KxCore/KxOutputFile.h>
 
 #include <KxSubject/KxSubjectModels.h>
 #include <KxSubject/KxSubjectRecordFormat.h>
 
 #include <QCryptographicHash>
-#include <QDateTime>
-#include <QDir>
 #include <QFile>
-#include <QFileInfo>
 #include <QStandardPaths>
 
 #include <algorithm>
@@ -22,8 +19,6 @@ namespace
 constexpr qint64 EndBytes = 64 * 1024;
 constexpr qint64 PlaceBytes = 4 * 1024;
 constexpr qint64 Places = 62;
-constexpr const char* Suffix = ".record";
-constexpr const char* BesideSuffix = ".beside";
 /// More than the longest video gives, and what a QByteArray can hold.
 constexpr std::size_t MostRecordBytes = std::size_t{1} << 30;
 
@@ -43,24 +38,6 @@ void AddContent(QCryptographicHash& hash, QFile& file)
     AddPart(hash, file, std::max<qint64>(0, size - EndBytes), EndBytes);
 }
 
-QString PathOf(const QByteArray& key, const QString& folder)
-{
-    return folder + QLatin1Char('/') + QString::fromLatin1(key) + QLatin1String(Suffix);
-}
-
-void RemoveOldest(const QString& folder, qint64 mostBytes)
-{
-    qint64 bytes = 0;
-    const QStringList names{QLatin1Char('*') + QLatin1String(Suffix), QLatin1Char('*') + QLatin1String(BesideSuffix)};
-    const QFileInfoList files = QDir(folder).entryInfoList(names, QDir::Files, QDir::Time);
-    for (const QFileInfo& file : files) {
-        bytes += file.size();
-        if (bytes > mostBytes) {
-            QFile::remove(file.filePath());
-        }
-    }
-}
-
 } // namespace
 
 KxRecordStore::KxRecordStore()
@@ -69,7 +46,8 @@ KxRecordStore::KxRecordStore()
 }
 
 KxRecordStore::KxRecordStore(const Limits& limits)
-    : m_limits(limits)
+    : m_memoryBytes(limits.memoryBytes)
+    , m_folder(std::make_shared<KxCacheFolder>(limits.diskBytes))
 {
 }
 
@@ -77,13 +55,11 @@ KxRecordStore::~KxRecordStore() = default;
 
 void KxRecordStore::SetFolder(const QString& path)
 {
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    m_folder = path;
+    m_folder->SetPath(path);
 }
 
-QString KxRecordStore::Folder() const
+std::shared_ptr<const KxCacheFolder> KxRecordStore::Folder() const
 {
-    const std::lock_guard<std::mutex> lock(m_mutex);
     return m_folder;
 }
 
@@ -137,15 +113,13 @@ QByteArray KxRecordStore::KeyOf(const QString& videoPath, const KxSubjectModels&
 
 std::shared_ptr<const KxSubjectRecord> KxRecordStore::Find(const QByteArray& key)
 {
-    QString folder;
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
-        folder = m_folder;
         if (const Kept* const kept = FindInMemory(key)) {
             return kept->record;
         }
     }
-    return folder.isEmpty() || key.isEmpty() ? nullptr : FindOnDisk(key, folder);
+    return FindOnDisk(key);
 }
 
 KxRecordStore::Kept* KxRecordStore::FindInMemory(const QByteArray& key)
@@ -174,23 +148,19 @@ void KxRecordStore::Confirm(const QByteArray& key)
     }
 }
 
-std::shared_ptr<const KxSubjectRecord> KxRecordStore::FindOnDisk(const QByteArray& key, const QString& folder)
+std::shared_ptr<const KxSubjectRecord> KxRecordStore::FindOnDisk(const QByteArray& key)
 {
-    QFile file(PathOf(key, folder));
-    if (file.size() > static_cast<qint64>(MostRecordBytes) || !file.open(QIODevice::ReadOnly)) {
+    const std::optional<QByteArray> bytes = m_folder->Read(KxCacheFolder::Kind::Record, key);
+    if (!bytes) {
         return nullptr;
     }
-    const QByteArray bytes = file.readAll();
-    std::optional<KxSubjectRecord> read = KxSubjectRecordFormat::Read(bytes.toStdString());
+    std::optional<KxSubjectRecord> read = KxSubjectRecordFormat::Read(bytes->toStdString());
     if (!read) {
-        file.close();
-        file.remove();
+        m_folder->Remove(KxCacheFolder::Kind::Record, key);
         return nullptr;
     }
-    // The files used last stay longest.
-    file.setFileTime(QDateTime::currentDateTimeUtc(), QFileDevice::FileModificationTime);
     const auto record = std::make_shared<const KxSubjectRecord>(std::move(*read));
-    KeepInMemory({key, record, bytes.size(), false});
+    KeepInMemory({key, record, bytes->size(), false});
     return record;
 }
 
@@ -202,10 +172,7 @@ void KxRecordStore::Add(const QByteArray& key, const std::shared_ptr<const KxSub
     }
     const QByteArray bytes = QByteArray::fromStdString(written);
     KeepInMemory({key, record, bytes.size(), true});
-    const QString folder = Folder();
-    if (!folder.isEmpty()) {
-        WriteToDisk(PathOf(key, folder), bytes);
-    }
+    m_folder->Write(KxCacheFolder::Kind::Record, key, bytes);
 }
 
 void KxRecordStore::KeepInMemory(Kept added)
@@ -216,56 +183,6 @@ void KxRecordStore::KeepInMemory(Kept added)
     qint64 sum = 0;
     m_kept.remove_if([this, &sum](const Kept& kept) {
         sum += kept.bytes;
-        return sum > m_limits.memoryBytes;
+        return sum > m_memoryBytes;
     });
-}
-
-QString KxRecordStore::PathBeside(const QByteArray& key, const QByteArray& name) const
-{
-    const QString folder = Folder();
-    return folder.isEmpty() || key.isEmpty()
-               ? QString()
-               : folder + QLatin1Char('/') + QString::fromLatin1(key + '-' + name) + QLatin1String(BesideSuffix);
-}
-
-QByteArray KxRecordStore::FindBeside(const QByteArray& key, const QByteArray& name) const
-{
-    QFile file(PathBeside(key, name));
-    if (file.fileName().isEmpty() || file.size() > static_cast<qint64>(MostRecordBytes) ||
-        !file.open(QIODevice::ReadOnly)) {
-        return {};
-    }
-    file.setFileTime(QDateTime::currentDateTimeUtc(), QFileDevice::FileModificationTime);
-    return file.readAll();
-}
-
-void KxRecordStore::AddBeside(const QByteArray& key, const QByteArray& name, const QByteArray& bytes) const
-{
-    const QString path = PathBeside(key, name);
-    if (!path.isEmpty()) {
-        WriteToDisk(path, bytes);
-    }
-}
-
-void KxRecordStore::RemoveBeside(const QByteArray& key, const QByteArray& name) const
-{
-    const QString path = PathBeside(key, name);
-    if (!path.isEmpty()) {
-        QFile::remove(path);
-    }
-}
-
-void KxRecordStore::WriteToDisk(const QString& path, const QByteArray& bytes) const
-{
-    if (bytes.size() > m_limits.diskBytes) {
-        return;
-    }
-    const QString folder = QFileInfo(path).path();
-    QDir().mkpath(folder);
-    const KxResult<QString> written = KxOutputFile::Write(path, bytes, KxOutputFile::Existing::Replace);
-    if (!written) {
-        KX_LOG_WARNING(written.Message());
-        return;
-    }
-    RemoveOldest(folder, m_limits.diskBytes);
 }

@@ -9,6 +9,7 @@
 #include <memory>
 #include <mutex>
 
+class KxCacheFolder;
 struct KxSubjectModels;
 struct KxSubjectRecord;
 
@@ -29,6 +30,8 @@ public:
 
     /// Where records are kept from now on; made when the first one is written. Empty: memory alone.
     void SetFolder(const QString& path);
+    /// The folder, for what else is found in a video.
+    std::shared_ptr<const KxCacheFolder> Folder() const;
 
     /// A program's choice of a folder: `named`, otherwise the environment variable KX_CACHE, otherwise the
     /// configuration (key "Cache"), otherwise auto-reframe/records in the person's folder of caches. Empty for "none".
@@ -51,12 +54,6 @@ public:
     /// Older records are dropped as far as the limits demand; one that is over a limit alone is not kept.
     void Add(const QByteArray& key, const std::shared_ptr<const KxSubjectRecord>& record);
 
-    /// What was kept beside the record `key` under `name`, and only on the disk; empty without it.
-    QByteArray FindBeside(const QByteArray& key, const QByteArray& name) const;
-    /// Counts like a record for the limit of the disk. `name` is fit for a part of a file's name.
-    void AddBeside(const QByteArray& key, const QByteArray& name, const QByteArray& bytes) const;
-    void RemoveBeside(const QByteArray& key, const QByteArray& name) const;
-
 private:
     struct Kept {
         QByteArray key;
@@ -67,14 +64,10 @@ private:
     void KeepInMemory(Kept added);
     /// The mutex is held. Null without one; otherwise it comes first from now on.
     Kept* FindInMemory(const QByteArray& key);
-    std::shared_ptr<const KxSubjectRecord> FindOnDisk(const QByteArray& key, const QString& folder);
-    void WriteToDisk(const QString& path, const QByteArray& bytes) const;
-    /// Empty without a folder.
-    QString PathBeside(const QByteArray& key, const QByteArray& name) const;
-    QString Folder() const;
+    std::shared_ptr<const KxSubjectRecord> FindOnDisk(const QByteArray& key);
 
-    const Limits m_limits;
-    mutable std::mutex m_mutex;
-    QString m_folder;       ///< guarded by the mutex
+    const qint64 m_memoryBytes;
+    const std::shared_ptr<KxCacheFolder> m_folder;
+    std::mutex m_mutex;
     std::list<Kept> m_kept; ///< guarded by the mutex; the one used last comes first
 };

@@ -1,6 +1,6 @@
+#include <KxModel/KxCacheFolder.h>
 #include <KxModel/KxFollowTrackFormat.h>
 #include <KxModel/KxFollowTracks.h>
-#include <KxModel/KxRecordStore.h>
 
 #include <QDir>
 #include <QFile>
@@ -76,11 +76,11 @@ class KxFollowTracksOnDisk : public testing::Test
 {
 protected:
     /// As in a program that has just been started.
-    std::unique_ptr<KxFollowTracks> Tracks(const KxRecordStore::Limits& limits = {}) const
+    std::unique_ptr<KxFollowTracks> Tracks() const
     {
-        const auto records = std::make_shared<KxRecordStore>(limits);
-        records->SetFolder(m_folder.path());
-        return std::make_unique<KxFollowTracks>(records);
+        const auto folder = std::make_shared<KxCacheFolder>(1'000'000);
+        folder->SetPath(m_folder.path());
+        return std::make_unique<KxFollowTracks>(folder);
     }
     QStringList Files() const { return QDir(m_folder.path()).entryList(QDir::Files); }
 
@@ -124,17 +124,6 @@ TEST_F(KxFollowTracksOnDisk, ADamagedFileIsRemoved)
     file.close();
     EXPECT_FALSE(Tracks()->Find("a", ChoiceAt(1.0)));
     EXPECT_FALSE(QFile::exists(path));
-}
-
-TEST_F(KxFollowTracksOnDisk, TheLimitOfTheRecordsHolds)
-{
-    KxRecordStore::Limits limits;
-    limits.diskBytes = 3 * KxFollowTrackFormat::Write(m_track).size();
-    const auto tracks = Tracks(limits);
-    for (int i = 0; i < 5; ++i) {
-        tracks->Add("a", ChoiceAt(i), m_track);
-    }
-    EXPECT_EQ(Files().size(), 3);
 }
 
 TEST(KxFollowTrackFormat, OtherBytesAreNoTrack)

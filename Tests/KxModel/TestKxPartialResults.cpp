@@ -109,7 +109,7 @@ TEST_F(KxPartialResultsTest, WhatAnEarlierProgramFollowedIsNotFollowedAgain)
         taken = 0;
         m_settings.records = std::make_shared<KxRecordStore>();
         m_settings.records->SetFolder(folder.path());
-        m_settings.tracks = std::make_shared<KxFollowTracks>(m_settings.records);
+        m_settings.tracks = std::make_shared<KxFollowTracks>(m_settings.records->Folder());
         answers.push_back(Crops(Analyse().crops));
         EXPECT_EQ(taken > 0, program == 0);
     }
