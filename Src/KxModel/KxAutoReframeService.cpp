@@ -95,13 +95,14 @@ bool KxAutoReframeService::Start(const QString& path, const IKxAutoReframeParam&
     const auto task = std::make_shared<Task>();
     task->path = path;
     KxAnalysisSettings settings;
+    std::shared_ptr<KxVideoScanner> opened;
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
         m_newestStart.Cancel();
         m_newestStart = task->cancel;
         task->number = ++m_lastStarted;
         settings = m_settings;
-        settings.opened = std::move(m_opened);
+        opened = std::move(m_opened);
         if (m_collectsPartial) {
             settings.partial.take = [this, path, cancel = task->cancel](const QList<IKxAutoReframeResult>& results) {
                 const std::lock_guard<std::mutex> taking(m_mutex);
@@ -115,8 +116,8 @@ bool KxAutoReframeService::Start(const QString& path, const IKxAutoReframeParam&
     }
     WaitForTasks();
     auto analysis = KxResult<std::unique_ptr<KxAnalysis>>::Failure({});
-    const KxError failure = KxCallGuarded([&] { analysis = m_open(path, param, settings, task->cancel); });
-    settings.opened.reset();
+    const KxError failure =
+        KxCallGuarded([&] { analysis = m_open(path, param, settings, task->cancel, std::move(opened)); });
 
     const std::lock_guard<std::mutex> lock(m_mutex);
     if (task->cancel.IsCancelled()) {
@@ -338,7 +339,7 @@ QList<IKxAutoReframeResult> KxAutoReframeService::Decide(const QString& path, co
     KxCallGuarded([&] {
         const KxCancelToken cancel;
         if (KxVideoAnalysis::HasRecord(path, settings)) {
-            if (const auto analysis = m_open(path, param, settings, cancel)) {
+            if (const auto analysis = m_open(path, param, settings, cancel, nullptr)) {
                 result = (*analysis)->Run([](int) {});
             }
         }

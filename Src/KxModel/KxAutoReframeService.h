@@ -40,7 +40,7 @@ public:
     /// Opens one analysis; KxVideoAnalysis::Open in the product.
     using Open = std::function<KxResult<std::unique_ptr<KxAnalysis>>(
         const QString& path, const IKxAutoReframeParam& param, const KxAnalysisSettings& settings,
-        const KxCancelToken& cancel)>;
+        const KxCancelToken& cancel, std::shared_ptr<KxVideoScanner> opened)>;
 
     KxAutoReframeService();
     explicit KxAutoReframeService(Open open);

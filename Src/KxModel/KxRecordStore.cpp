@@ -140,6 +140,12 @@ std::shared_ptr<const KxSubjectRecord> KxRecordStore::FindConfirmed(const QByteA
     return kept != nullptr && kept->isConfirmed ? kept->record : nullptr;
 }
 
+bool KxRecordStore::HasConfirmed() const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return std::any_of(m_kept.begin(), m_kept.end(), [](const Kept& kept) { return kept.isConfirmed; });
+}
+
 void KxRecordStore::Confirm(const QByteArray& key)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);

@@ -49,6 +49,8 @@ public:
     std::shared_ptr<const KxSubjectRecord> Find(const QByteArray& key);
     /// The same, only if it was made in this program, or confirmed: then the video need not be opened to compare it.
     std::shared_ptr<const KxSubjectRecord> FindConfirmed(const QByteArray& key);
+    /// Whether there is one that FindConfirmed would return.
+    bool HasConfirmed() const;
     /// The video has the facts of the record that Find returned.
     void Confirm(const QByteArray& key);
     /// Older records are dropped as far as the limits demand; one that is over a limit alone is not kept.
@@ -68,6 +70,6 @@ private:
 
     const qint64 m_memoryBytes;
     const std::shared_ptr<KxCacheFolder> m_folder;
-    std::mutex m_mutex;
+    mutable std::mutex m_mutex;
     std::list<Kept> m_kept; ///< guarded by the mutex; the one used last comes first
 };

@@ -110,22 +110,21 @@ QStringList PlacementWarnings(const std::vector<KxPlacedChoice>& placed, const Q
 
 KxAnalysis::~KxAnalysis() = default;
 
-KxVideoAnalysis::KxVideoAnalysis(const QString& path, Known known, const IKxAutoReframeParam& param,
+KxVideoAnalysis::KxVideoAnalysis(const QString& path, const IKxAutoReframeParam& param,
                                  const KxAnalysisSettings& settings, const KxCancelToken& cancel)
     : m_path(path)
-    , m_known(std::move(known))
     , m_param(param)
     , m_settings(settings)
     , m_cancel(cancel)
 {
-    m_settings.opened.reset();
 }
 
 KxVideoAnalysis::~KxVideoAnalysis() = default;
 
 KxResult<std::unique_ptr<KxAnalysis>> KxVideoAnalysis::Open(const QString& path, const IKxAutoReframeParam& param,
                                                             const KxAnalysisSettings& settings,
-                                                            const KxCancelToken& cancel)
+                                                            const KxCancelToken& cancel,
+                                                            std::shared_ptr<KxVideoScanner> opened)
 {
     using Opened = KxResult<std::unique_ptr<KxAnalysis>>;
     if (param.targetSize().isEmpty()) {
@@ -133,42 +132,48 @@ KxResult<std::unique_ptr<KxAnalysis>> KxVideoAnalysis::Open(const QString& path,
             Texts::tr("The aspect ratio %1:%2 has a side that is not positive.")
                 .arg(QString::number(param.targetSize().width()), QString::number(param.targetSize().height())));
     }
-    Known known{KxDetectorFiles::Read(settings.networkFolder), {}, nullptr};
-    // Whatever is no regular file is refused below; reading it here could wait for ever.
-    if (settings.records && QFileInfo(path).isFile()) {
-        known.key = KxRecordStore::KeyOf(path, known.detectors.models);
-        known.record = settings.records->FindConfirmed(known.key);
-    }
-    const bool isKnown = known.record != nullptr;
-    std::unique_ptr<KxVideoAnalysis> analysis(new KxVideoAnalysis(path, std::move(known), param, settings, cancel));
-    if (isKnown) {
-        return std::unique_ptr<KxAnalysis>(std::move(analysis));
-    }
-    std::shared_ptr<KxVideoScanner> scanner = settings.opened;
-    if (!scanner || scanner->Facts().path != path || scanner->FileHasChanged()) {
-        KxResult<std::unique_ptr<KxVideoScanner>> opened = KxVideoScanner::Open(path, cancel);
-        if (!opened) {
-            return Opened::Failure(opened.Message());
+    std::unique_ptr<KxVideoAnalysis> analysis(new KxVideoAnalysis(path, param, settings, cancel));
+    // To read the models takes a while: where no record can be confirmed, the analysis itself does. Whatever is no
+    // regular file is refused below; reading it here could wait for ever.
+    if (settings.records && settings.records->HasConfirmed() && QFileInfo(path).isFile()) {
+        analysis->LookUp();
+        if (analysis->m_known->record) {
+            return std::unique_ptr<KxAnalysis>(std::move(analysis));
         }
-        scanner = std::move(*opened);
     }
-    const qint64 frames = scanner->Facts().video->frameCount;
+    if (!opened || opened->Facts().path != path || opened->FileHasChanged()) {
+        KxResult<std::unique_ptr<KxVideoScanner>> scanner = KxVideoScanner::Open(path, cancel);
+        if (!scanner) {
+            return Opened::Failure(scanner.Message());
+        }
+        opened = std::move(*scanner);
+    }
+    const qint64 frames = opened->Facts().video->frameCount;
     if (frames > MostFrames) {
         return Opened::Failure(
             Texts::tr("Cannot analyse %1: its time stamps span %2 frames, the limit is %3.")
                 .arg(QFileInfo(path).fileName(), QString::number(frames), QString::number(MostFrames)));
     }
-    analysis->m_scanner = std::move(scanner);
+    analysis->m_scanner = std::move(opened);
     return std::unique_ptr<KxAnalysis>(std::move(analysis));
+}
+
+void KxVideoAnalysis::LookUp()
+{
+    m_known = Known{KxDetectorFiles::Read(m_settings.networkFolder), {}, nullptr};
+    if (m_settings.records) {
+        m_known->key = KxRecordStore::KeyOf(m_path, m_known->detectors.models);
+        m_known->record = m_settings.records->FindConfirmed(m_known->key);
+    }
 }
 
 std::shared_ptr<const KxSubjectRecord> KxVideoAnalysis::FindRecord() const
 {
-    if (m_known.record) {
-        return m_known.record;
+    if (m_known->record) {
+        return m_known->record;
     }
     std::shared_ptr<const KxSubjectRecord> record =
-        m_settings.records ? m_settings.records->Find(m_known.key) : nullptr;
+        m_settings.records ? m_settings.records->Find(m_known->key) : nullptr;
     const KxSubjectSource source = KxVideoSampling::SourceOf(*m_scanner->Facts().video);
     const bool isOfThisVideo = record && record->source.pictureWidthPx == source.pictureWidthPx &&
                                record->source.pictureHeightPx == source.pictureHeightPx &&
@@ -177,7 +182,7 @@ std::shared_ptr<const KxSubjectRecord> KxVideoAnalysis::FindRecord() const
     if (!isOfThisVideo) {
         return nullptr;
     }
-    m_settings.records->Confirm(m_known.key);
+    m_settings.records->Confirm(m_known->key);
     return record;
 }
 
@@ -191,7 +196,7 @@ std::shared_ptr<const KxSubjectRecord> KxVideoAnalysis::Observe(const std::funct
     const bool isJoined = !m_settings.parts.isEmpty();
     KxVideoObservation observation(isJoined ? static_cast<KxAnalysisPictures&>(joined) : decoded, *facts.video,
                                    m_cancel);
-    KxError problem = observation.Run(std::move(m_known.detectors.models), onProgress);
+    KxError problem = observation.Run(std::move(m_known->detectors.models), onProgress);
     problem = problem ? problem : joined.Problem();
     const bool endedEarly = isJoined ? joined.EndedEarly() : m_scanner->EndedEarly();
     const KxMediaClock clock = m_scanner->Clock();
@@ -224,7 +229,7 @@ std::shared_ptr<const KxSubjectRecord> KxVideoAnalysis::Observe(const std::funct
     }
     // The warnings of the earlier analysis apply again.
     if (m_settings.records && result.warnings.isEmpty()) {
-        m_settings.records->Add(m_known.key, record);
+        m_settings.records->Add(m_known->key, record);
     }
     return record;
 }
@@ -244,7 +249,7 @@ bool KxVideoAnalysis::Follow(const KxSubjectRecord& record, KxSubjectRequest& re
     const auto count = static_cast<double>(request.choices.size());
     for (const KxSubjectChoice& choice : request.choices) {
         const double before = static_cast<double>(request.tracks.size()) / count;
-        const KxFollowTracks::Known known = m_settings.tracks ? m_settings.tracks->Find(m_known.key, choice) : nullptr;
+        const KxFollowTracks::Known known = m_settings.tracks ? m_settings.tracks->Find(m_known->key, choice) : nullptr;
         if (choice.seeds.empty() || known) {
             request.tracks.push_back(known ? *known : KxFollowTrack());
             continue;
@@ -260,7 +265,7 @@ bool KxVideoAnalysis::Follow(const KxSubjectRecord& record, KxSubjectRequest& re
             return false;
         }
         if (m_settings.tracks) {
-            m_settings.tracks->Add(m_known.key, choice, pass.track);
+            m_settings.tracks->Add(m_known->key, choice, pass.track);
         }
         request.tracks.push_back(std::move(pass.track));
     }
@@ -277,8 +282,11 @@ bool KxVideoAnalysis::Follow(const KxSubjectRecord& record, KxSubjectRequest& re
 
 KxAnalysis::Result KxVideoAnalysis::Run(const std::function<void(int percent)>& onProgress)
 {
+    if (!m_known) {
+        LookUp();
+    }
     Result result;
-    result.warnings = m_known.detectors.problems;
+    result.warnings = m_known->detectors.problems;
     int reported = -1;
     const bool follows = std::any_of(m_settings.choices.begin(), m_settings.choices.end(),
                                      [](const KxSubjectChoice& choice) { return !choice.seeds.empty(); });

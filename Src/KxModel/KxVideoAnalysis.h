@@ -19,6 +19,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 class KxFollowTracks;
@@ -69,8 +70,6 @@ struct KxAnalysisSettings {
     KxPartialTaker partial;                 ///< of what is followed
     /// The files with the pictures of the video's parts (KxPicturesFile), in order; empty: the video is decoded.
     QStringList parts;
-    /// The video of the analysis, at its start; null, and one of another or a changed file: the file is opened.
-    std::shared_ptr<KxVideoScanner> opened;
 };
 
 /// The analysis of a video file. If the file was looked at before, its record decides; otherwise its pictures are
@@ -84,10 +83,12 @@ public:
     /// takes 1 GB.
     static constexpr qint64 MostFrames = 2600000;
 
-    /// Reads the file's header, unless there is a confirmed record of the file. The error message of a failure names
-    /// the file and the reason.
+    /// Reads the file's header, unless there is a confirmed record of the file. `opened` is the file's video, of which
+    /// nothing was read yet; null, and one of another or a changed file: the file is opened. The error message of a
+    /// failure names the file and the reason.
     static KxResult<std::unique_ptr<KxAnalysis>> Open(const QString& path, const IKxAutoReframeParam& param,
-                                                      const KxAnalysisSettings& settings, const KxCancelToken& cancel);
+                                                      const KxAnalysisSettings& settings, const KxCancelToken& cancel,
+                                                      std::shared_ptr<KxVideoScanner> opened = nullptr);
     ~KxVideoAnalysis() override;
 
     /// Whether an analysis of the file `path` would find a record of it. Blocks while parts of the file and the record
@@ -97,6 +98,11 @@ public:
     Result Run(const std::function<void(int percent)>& onProgress) override;
 
 private:
+    KxVideoAnalysis(const QString& path, const IKxAutoReframeParam& param, const KxAnalysisSettings& settings,
+                    const KxCancelToken& cancel);
+
+    /// Reads the files of the models, and of the video what identifies its record. Once.
+    void LookUp();
     /// The record of the file as an earlier analysis left it; null without one.
     std::shared_ptr<const KxSubjectRecord> FindRecord() const;
     /// Looks at the whole video. Null if that fails or is cancelled: then `result` says why.
@@ -104,17 +110,16 @@ private:
     /// Looks for what the choices of `request` point at. False if that fails or is cancelled: then `result` says why.
     bool Follow(const KxSubjectRecord& record, KxSubjectRequest& request,
                 const std::function<void(int percent)>& onProgress, Result& result);
+
     /// What is known before the analysis.
     struct Known {
         KxDetectorFiles::Contents detectors;
         QByteArray key;                                ///< of the record; empty without a store of records
         std::shared_ptr<const KxSubjectRecord> record; ///< null without a confirmed one
     };
-    KxVideoAnalysis(const QString& path, Known known, const IKxAutoReframeParam& param,
-                    const KxAnalysisSettings& settings, const KxCancelToken& cancel);
 
     const QString m_path;
-    Known m_known;
+    std::optional<Known> m_known;              ///< since LookUp
     std::shared_ptr<KxVideoScanner> m_scanner; ///< null with a confirmed record, and once it was read to its end
     IKxAutoReframeParam m_param;
     KxAnalysisSettings m_settings;

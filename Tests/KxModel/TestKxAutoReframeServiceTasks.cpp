@@ -59,7 +59,7 @@ public:
     KxAutoReframeService::Open Opener()
     {
         return [this](const QString& path, const IKxAutoReframeParam&, const KxAnalysisSettings&,
-                      const KxCancelToken& cancel) {
+                      const KxCancelToken& cancel, const std::shared_ptr<KxVideoScanner>&) {
             return m_openings.contains(path)
                        ? m_openings[path](cancel)
                        : KxResult<std::unique_ptr<KxAnalysis>>::Failure(QStringLiteral("%1 is no video.").arg(path));

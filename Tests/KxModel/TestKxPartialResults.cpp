@@ -195,11 +195,12 @@ protected:
     std::function<void(const Results&)> m_take; ///< of the newest task
     std::function<void()> m_work;               ///< of every task, on its thread
     std::promise<void> m_ended;                 ///< of the only task that is not stopped
-    KxAutoReframeService m_service{
-        [this](const QString&, const IKxAutoReframeParam&, const KxAnalysisSettings& settings, const KxCancelToken&) {
-            m_take = settings.partial.take;
-            return KxResult<std::unique_ptr<KxAnalysis>>(std::make_unique<LedAnalysis>(m_work));
-        }};
+    KxAutoReframeService m_service{[this](const QString&, const IKxAutoReframeParam&,
+                                          const KxAnalysisSettings& settings, const KxCancelToken&,
+                                          const std::shared_ptr<KxVideoScanner>&) {
+        m_take = settings.partial.take;
+        return KxResult<std::unique_ptr<KxAnalysis>>(std::make_unique<LedAnalysis>(m_work));
+    }};
 };
 
 } // namespace

@@ -3,9 +3,13 @@
 #include <KxMedia/Read/KxVideoScanner.h>
 #include <KxModel/KxAutoReframeService.h>
 #include <KxModel/KxMediaItem.h>
+#include <KxModel/KxRecordStore.h>
 #include <Tests/KxRender/RenderFixture.h>
 
 #include <KxCore/KxExport.h>
+
+#include <QDir>
+#include <QFile>
 
 #include <atomic>
 #include <cstdarg>
@@ -52,9 +56,7 @@ protected:
     /// The number of crops.
     int Analyse(std::unique_ptr<KxVideoScanner> opened) const
     {
-        KxAnalysisSettings settings;
-        settings.opened = std::move(opened);
-        const auto analysis = KxVideoAnalysis::Open(m_clip, m_param, settings, {});
+        const auto analysis = KxVideoAnalysis::Open(m_clip, m_param, {}, {}, std::move(opened));
         EXPECT_TRUE(analysis) << qPrintable(analysis.Message());
         return analysis ? (*analysis)->Run([](int) {}).crops.size() : 0;
     }
@@ -116,15 +118,32 @@ TEST_F(FileOpenings, AnAnalysisOpensAFileThatHasChangedSinceItsFactsWereRead)
     EXPECT_EQ(Analyse(std::move(opened)), 40);
 }
 
+TEST_F(FileOpenings, AnAnalysisReadsTheModelsWhenItRuns)
+{
+    MakeSource();
+    KxAnalysisSettings settings;
+    settings.records = std::make_shared<KxRecordStore>();
+    settings.networkFolder = Path(QStringLiteral("models"));
+    const auto analysis = KxVideoAnalysis::Open(m_clip, m_param, settings, {});
+    ASSERT_TRUE(analysis);
+    ASSERT_TRUE(QDir().mkpath(settings.networkFolder));
+    QFile network(settings.networkFolder + QStringLiteral("/nanodet-g.onnx"));
+    ASSERT_TRUE(network.open(QIODevice::WriteOnly));
+    network.close();
+    const QStringList warnings = (*analysis)->Run([](int) {}).warnings;
+    ASSERT_EQ(warnings.size(), 1);
+    EXPECT_TRUE(warnings.first().contains(QStringLiteral("nanodet-g.onnx"))) << qPrintable(warnings.first());
+}
+
 TEST_F(FileOpenings, OnlyTheNextTaskTakesAnOpenVideo)
 {
     MakeSource();
     std::vector<const KxVideoScanner*> taken;
-    KxAutoReframeService service(
-        [&taken](const QString&, const IKxAutoReframeParam&, const KxAnalysisSettings& settings, const KxCancelToken&) {
-            taken.push_back(settings.opened.get());
-            return KxResult<std::unique_ptr<KxAnalysis>>::Failure(QStringLiteral("It was only opened."));
-        });
+    KxAutoReframeService service([&taken](const QString&, const IKxAutoReframeParam&, const KxAnalysisSettings&,
+                                          const KxCancelToken&, const std::shared_ptr<KxVideoScanner>& opened) {
+        taken.push_back(opened.get());
+        return KxResult<std::unique_ptr<KxAnalysis>>::Failure(QStringLiteral("It was only opened."));
+    });
     std::unique_ptr<KxVideoScanner> opened = Opened();
     const KxVideoScanner* const scanner = opened.get();
     service.Offer(std::move(opened));
