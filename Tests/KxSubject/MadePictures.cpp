@@ -7,6 +7,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <random>
 #include <string>
 
 namespace
@@ -19,9 +20,10 @@ cv::Mat FirstPicture(const std::string& name, cv::Size size)
     if (!std::filesystem::exists(source)) {
         return {};
     }
-    const std::filesystem::path raw = std::filesystem::path(testing::TempDir()) / ("kx-" + name + ".raw");
+    // Several test programs do this at the same time.
+    const std::string raw = testing::TempDir() + "kx-" + std::to_string(std::random_device()()) + ".raw";
     const std::string command =
-        "ffmpeg -v error -y -i " + source.string() + " -frames:v 1 -f rawvideo -pix_fmt bgr24 " + raw.string();
+        "ffmpeg -v error -y -i " + source.string() + " -frames:v 1 -f rawvideo -pix_fmt bgr24 " + raw;
     cv::Mat picture(size, CV_8UC3);
     if (std::system(command.c_str()) != 0) {
         return {};
