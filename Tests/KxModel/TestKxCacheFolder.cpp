@@ -23,7 +23,7 @@ protected:
         ASSERT_TRUE(aged.setFileTime(QDateTime::currentDateTimeUtc().addSecs(-3600 * hours),
                                      QFileDevice::FileModificationTime));
     }
-    QStringList Files() const { return QDir(m_folder.path()).entryList(QDir::Files); }
+    QStringList Files() const { return QDir(m_folder.path()).entryList(QDir::Files | QDir::Hidden); }
 
     QTemporaryDir m_folder;
     KxCacheFolder m_cache{10};
