@@ -1,6 +1,7 @@
-"""A desktop for one program under test: X server, window manager, compositor. Ends what it started."""
+"""A desktop for one program under test: X server, window manager, compositor; for a Windows program a Wine of its own. Ends what it started."""
 
 import os
+import shutil
 import subprocess
 import time
 
@@ -11,6 +12,7 @@ class Desktop:
         self.size = size
         self.composites = composites
         self.processes = []
+        self.wine = None
 
     def __enter__(self):
         read_end, write_end = os.pipe()
@@ -28,6 +30,7 @@ class Desktop:
                                 QT_FONT_DPI="96", QT_ACCESSIBILITY="0", DBUS_SESSION_BUS_ADDRESS="disabled:")
         if os.environ.get("KR_EMULATOR"):
             self.environment.pop("QT_QPA_PLATFORM")
+            self._make_wine()
         for name in ("QT_STYLE_OVERRIDE", "QT_QPA_PLATFORMTHEME", "QT_SCALE_FACTOR", "WAYLAND_DISPLAY", "XDG_SESSION_TYPE"):
             self.environment.pop(name, None)
         self._start("openbox", ["--sm-disable"], self.environment)
@@ -38,6 +41,9 @@ class Desktop:
         return self
 
     def __exit__(self, *_):
+        if self.wine:
+            subprocess.run(["wineserver", "-k"], env=self.environment, check=False)
+            shutil.rmtree(self.wine, ignore_errors=True)
         for process in reversed(self.processes):
             process.terminate()
         for process in reversed(self.processes):
@@ -46,6 +52,14 @@ class Desktop:
             except subprocess.TimeoutExpired:
                 process.kill()
                 process.wait()
+
+    def _make_wine(self):
+        """A Wine that runs already keeps the screen that it was started with: without a display one of 1024 x 768, beyond which it ignores clicks."""
+        folder = os.environ.get("AUTO_REFRAME_WINDOWS") or os.path.expanduser("~/.cache/auto-reframe-windows")
+        self.wine = os.path.join(self.folder, "wine")
+        shutil.rmtree(self.wine, ignore_errors=True)
+        subprocess.run(["cp", "-a", "--reflink=auto", os.environ.get("WINEPREFIX") or os.path.join(folder, "wine"), self.wine], check=True)
+        self.environment["WINEPREFIX"] = self.wine
 
     def _start(self, program, arguments, environment, passed=()):
         log = open(os.path.join(self.folder, program + ".log"), "wb")
