@@ -2,8 +2,8 @@
 
 #include <KxSubject/Signals/KxOpenCvError.h>
 
-#include <opencv2/core/utility.hpp>
-#include <opencv2/imgproc.hpp>
+#include <opencv2/core.hpp>
+#include <opencv2/objdetect.hpp>
 
 #include <algorithm>
 #include <tuple>
@@ -13,22 +13,17 @@ namespace
 
 constexpr double GroupingShare = 0.2; ///< of the size, that raw hits of one face differ by; OpenCV's own value
 
-/// An empty classifier if `xml` is not a cascade.
-cv::CascadeClassifier CascadeOf(const std::string& xml)
+/// Nothing if `xml` is not a cascade.
+std::optional<KxHaarSearch> SearchOf(const std::string& xml)
 {
-    cv::CascadeClassifier cascade;
-    if (xml.empty()) {
-        return cascade;
-    }
     try {
-        const cv::FileStorage storage(xml, cv::FileStorage::READ | cv::FileStorage::MEMORY);
-        if (cascade.read(storage.getFirstTopLevelNode())) {
-            return cascade;
+        if (std::optional<KxHaarCascade> cascade = KxHaarCascade::Read(xml)) {
+            return KxHaarSearch(std::move(*cascade));
         }
     } catch (const cv::Exception& problem) {
         KxThrowIfOutOfMemory(problem);
     }
-    return {};
+    return std::nullopt;
 }
 
 } // namespace
@@ -48,8 +43,8 @@ KxFaceFinder::KxFaceFinder(const KxSubjectOptions::Faces& options, const KxFaceM
         LoadDetector(models.detector, picturePx);
     }
     if (!UsesDetector()) {
-        m_frontal = CascadeOf(models.frontalCascade);
-        m_profile = CascadeOf(models.profileCascade);
+        m_frontal = SearchOf(models.frontalCascade);
+        m_profile = SearchOf(models.profileCascade);
     }
 }
 
@@ -72,7 +67,7 @@ bool KxFaceFinder::Knows(KxFaceView view) const
     if (UsesDetector()) {
         return view == KxFaceView::Frontal;
     }
-    return view == KxFaceView::Frontal ? !m_frontal.empty() : !m_profile.empty();
+    return (view == KxFaceView::Frontal ? m_frontal : m_profile).has_value();
 }
 
 std::vector<cv::Rect> KxFaceFinder::Find(const cv::Mat& picture, const cv::Mat& grey, KxFaceView view)
@@ -164,11 +159,9 @@ std::vector<cv::Rect> KxFaceFinder::FindByCascade(const cv::Mat& grey, KxFaceVie
     } else {
         looked = grey;
     }
-    std::vector<cv::Rect> faces;
-    (view == KxFaceView::Frontal ? m_frontal : m_profile)
-        .detectMultiScale(looked, faces, search.scaleFactor, 0, 0, cv::Size(search.smallestPx, search.smallestPx),
-                          cv::Size(search.largestPx, search.largestPx));
-    // OpenCV's threads deliver the raw hits in any order, and later the order decides between equal ones.
+    std::vector<cv::Rect> faces = (view == KxFaceView::Frontal ? m_frontal : m_profile)
+                                      ->Find(looked, {search.smallestPx, search.largestPx, search.scaleFactor});
+    // Later the order decides between equal hits.
     std::sort(faces.begin(), faces.end(), [](const cv::Rect& a, const cv::Rect& b) {
         return std::tie(a.width, a.y, a.x) < std::tie(b.width, b.y, b.x);
     });

@@ -5,8 +5,7 @@
 #include <KxSubject/KxFaceModels.h>
 #include <KxSubject/KxSubjectOptions.h>
 #include <KxSubject/Signals/KxFaceDetector.h>
-
-#include <opencv2/objdetect.hpp>
+#include <KxSubject/Signals/KxHaarSearch.h>
 
 #include <optional>
 #include <string>
@@ -53,8 +52,8 @@ private:
     std::optional<cv::Rect> LookNear(const cv::Mat& grey, KxFaceView view, const cv::Rect& face, int neighbours);
 
     KxSubjectOptions::Faces m_options;
-    cv::CascadeClassifier m_frontal;
-    cv::CascadeClassifier m_profile;
+    std::optional<KxHaarSearch> m_frontal;
+    std::optional<KxHaarSearch> m_profile;
     std::optional<KxFaceDetector> m_detector;
     bool m_isDetectorRefused = false;
 };

@@ -4,8 +4,8 @@
 #include <Tests/KxSubject/MadePictures.h>
 
 #include <opencv2/core.hpp>
-#include <opencv2/core/utility.hpp>
 #include <opencv2/imgproc.hpp>
+#include <opencv2/objdetect.hpp>
 
 #include <gtest/gtest.h>
 
@@ -131,24 +131,6 @@ TEST_F(KxFaceFinderOnAPhotograph, NoMoreCandidatesAreExaminedThanTheBound)
     EXPECT_FALSE(Find().empty());
     options.mostCandidates = 0;
     EXPECT_TRUE(Find().empty());
-}
-
-TEST_F(KxFaceFinderOnAPhotograph, TheNumberOfOpenCvsThreadsDoesNotChangeTheFaces)
-{
-    // Many hits, few agreeing ones needed: the order in which threads deliver them would show.
-    options.frontalNeighbours = 1;
-    options.mostCandidates = 6;
-    const cv::Mat part = grey;
-    cv::repeat(part, 3, 3, grey);
-    const int threads = cv::getNumThreads();
-    cv::setNumThreads(1);
-    const std::vector<cv::Rect> expected = Find();
-    EXPECT_FALSE(expected.empty());
-    cv::setNumThreads(8);
-    for (int i = 0; i < 5; ++i) {
-        EXPECT_EQ(Find(), expected);
-    }
-    cv::setNumThreads(threads);
 }
 
 TEST(KxFaceFinder, BoxesThatAreCloseAndOfSimilarSizeAreOneFace)
