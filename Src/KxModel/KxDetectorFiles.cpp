@@ -129,7 +129,7 @@ QString DetectorProblem(const QString& path, const QString& reason)
     return Texts::tr("Cannot use the detector %1: %2.").arg(path, reason);
 }
 
-/// The checksums of the networks that were read before: hashing takes longer than all else that a decision on a known
+/// The checksums of the files that were read before: hashing takes longer than all else that a decision on a known
 /// video does.
 class KnownChecksums
 {
@@ -162,6 +162,23 @@ private:
     QHash<QString, Entry> m_entries; ///< guarded by the mutex
 };
 
+KnownChecksums& Checksums()
+{
+    static KnownChecksums checksums;
+    return checksums;
+}
+
+/// Empty if the file is missing.
+std::string ReadCascade(const QString& name, std::string& sha256)
+{
+    const QString path = KxDetectorFiles::FindCascade(name);
+    const QByteArray contents = ContentsOf(path);
+    if (!contents.isEmpty()) {
+        sha256 = Checksums().Of(QFileInfo(path), contents).toStdString();
+    }
+    return contents.toStdString();
+}
+
 struct Network {
     std::string contents;
     KxUsedModel file;
@@ -177,8 +194,7 @@ Network ReadNetwork(const QString& folder, const QString& name, QStringList& pro
     }
     QString reason = ReasonNotToRead(file);
     const QByteArray contents = reason.isEmpty() ? ContentsOf(path) : QByteArray();
-    static KnownChecksums checksums;
-    const QByteArray checksum = checksums.Of(file, contents);
+    const QByteArray checksum = Checksums().Of(file, contents);
     if (reason.isEmpty()) {
         reason = ChecksumProblem(folder, name, checksum);
     }
@@ -259,8 +275,8 @@ KxDetectorFiles::Contents KxDetectorFiles::Read(const QString& networkFolder)
 {
     Contents contents;
     KxFaceModels& faces = contents.models.faces;
-    faces.frontalCascade = ContentsOf(FindCascade(QStringLiteral("haarcascade_frontalface_alt2.xml"))).toStdString();
-    faces.profileCascade = ContentsOf(FindCascade(QStringLiteral("haarcascade_profileface.xml"))).toStdString();
+    faces.frontalCascade = ReadCascade(QStringLiteral("haarcascade_frontalface_alt2.xml"), faces.frontalSha256);
+    faces.profileCascade = ReadCascade(QStringLiteral("haarcascade_profileface.xml"), faces.profileSha256);
     if (networkFolder.isEmpty()) {
         return contents;
     }

@@ -100,14 +100,14 @@ QByteArray KxRecordStore::KeyOf(const QString& videoPath, const KxSubjectModels&
         hash.addData(QByteArray::number(static_cast<qint64>(text.size())) + ' ');
         hash.addData(text.data(), static_cast<int>(text.size()));
     };
-    // The networks are large, and their checksums are usually known.
-    const auto addNetwork = [&add](const std::string& contents, const KxUsedModel& network) {
-        add(network.sha256.empty() ? contents : network.sha256);
+    // Models are large, and their checksums are usually known.
+    const auto addModel = [&add](const std::string& contents, const std::string& sha256) {
+        add(sha256.empty() ? contents : sha256);
     };
-    add(models.faces.frontalCascade);
-    add(models.faces.profileCascade);
-    addNetwork(models.faces.detector, models.faces.detectorFile);
-    addNetwork(models.objectDetector, models.objectDetectorFile);
+    addModel(models.faces.frontalCascade, models.faces.frontalSha256);
+    addModel(models.faces.profileCascade, models.faces.profileSha256);
+    addModel(models.faces.detector, models.faces.detectorFile.sha256);
+    addModel(models.objectDetector, models.objectDetectorFile.sha256);
     return hash.result().toHex();
 }
 

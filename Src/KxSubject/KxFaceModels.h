@@ -10,4 +10,6 @@ struct KxFaceModels {
     std::string profileCascade; ///< the same for faces seen from one side
     std::string detector;       ///< a YuNet network in ONNX; if it can be run, the cascades are not used
     KxUsedModel detectorFile{};
+    std::string frontalSha256{}; ///< of the cascade, 64 hexadecimal digits; empty: not known
+    std::string profileSha256{}; ///< the same
 };

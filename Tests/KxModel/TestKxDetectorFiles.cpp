@@ -1,6 +1,7 @@
 #include <KxModel/KxDetectorFiles.h>
 
 #include <QCoreApplication>
+#include <QCryptographicHash>
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
@@ -74,7 +75,10 @@ TEST(KxDetectorFiles, AFolderOfCascadesInTheEnvironmentComesFirst)
     EXPECT_EQ(KxDetectorFiles::CascadeFolders().mid(0, 2),
               QStringList({QStringLiteral("/no/such/folder"), folder.path()}));
     EXPECT_EQ(KxDetectorFiles::FindCascade(QStringLiteral("haarcascade_frontalface_alt2.xml")), cascade);
-    EXPECT_EQ(KxDetectorFiles::Read({}).models.faces.frontalCascade, "the contents");
+    const KxFaceModels faces = KxDetectorFiles::Read({}).models.faces;
+    EXPECT_EQ(faces.frontalCascade, "the contents");
+    EXPECT_EQ(faces.frontalSha256,
+              QCryptographicHash::hash("the contents", QCryptographicHash::Sha256).toHex().toStdString());
 }
 
 TEST(KxDetectorFiles, AMissingCascadeIsNotFound)

@@ -173,6 +173,16 @@ TEST_F(KxRecordStoreTest, TheKeyFollowsTheContentAndTheModels)
     EXPECT_NE(KxRecordStore::KeyOf(clip, {{"cascade", "", ""}, "network", {"file", "checksum"}}), key);
     EXPECT_EQ(KxRecordStore::KeyOf(clip, {{"cascade", "", ""}, "network", {"file", "checksum"}}),
               KxRecordStore::KeyOf(clip, {{"cascade", "", ""}, "", {"renamed", "checksum"}}));
+    const auto withChecksums = [&clip](const std::string& contents, const std::string& ofFrontal,
+                                       const std::string& ofProfile) {
+        KxSubjectModels known{{contents, contents, ""}, "network"};
+        known.faces.frontalSha256 = ofFrontal;
+        known.faces.profileSha256 = ofProfile;
+        return KxRecordStore::KeyOf(clip, known);
+    };
+    EXPECT_EQ(withChecksums("cascade", "first", "second"), withChecksums("", "first", "second"));
+    EXPECT_NE(withChecksums("cascade", "first", "second"), withChecksums("cascade", "third", "second"));
+    EXPECT_NE(withChecksums("cascade", "first", "second"), withChecksums("cascade", "first", "third"));
     EXPECT_TRUE(KxRecordStore::KeyOf(m_folder.filePath(QStringLiteral("missing")), models).isEmpty());
     EXPECT_FALSE(KxRecordStore::KeyOf(Write("empty", {}), models).isEmpty());
 }

@@ -76,9 +76,9 @@ int ReframeProgram::Run(const ReframeOptions& options)
         reporter.Warn(first, KxDetectorFiles::MissingNetworks());
     }
     // Meanwhile the first video is opened, which takes about as long. The analysis then finds the checksums known.
-    KxThread networkReading;
-    if (options.apply.isEmpty() && !networks.path.isEmpty()) {
-        networkReading = KxThread([&networks] { KxDetectorFiles::Read(networks.path); });
+    KxThread modelReading;
+    if (options.apply.isEmpty()) {
+        modelReading = KxThread([&networks] { KxDetectorFiles::Read(networks.path); });
     }
     const int status = RunAll(options, reporter);
     reporter.End(status);
