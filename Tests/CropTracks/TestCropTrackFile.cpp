@@ -137,9 +137,22 @@ TEST_F(CropTrackFileTest, RefusesAnInvalidTrackWithTheReason)
     ExpectRefused(WithContent("three.json", "{\"frames\":[[0,0,1]]}"), "frame 0 is no rectangle");
     ExpectRefused(WithContent("text2.json", "{\"frames\":[[0,0,1,1],[0,0,\"a\",1]]}"), "frame 1 is no rectangle");
     ExpectRefused(WithContent("outside.json", "{\"frames\":[[0.8,0,0.3,1]]}"), "frame 0 is no rectangle");
-    ExpectRefused(WithContent("flat.json", "{\"frames\":[[0,0,0,1]]}"), "frame 0 is no rectangle");
+    ExpectRefused(WithContent("narrow.json", "{\"frames\":[[0,0,0,1]]}"), "frame 0 is no rectangle");
+    ExpectRefused(WithContent("flat.json", "{\"frames\":[[0,0,1,0]]}"), "frame 0 is no rectangle");
     ExpectRefused(WithContent("gap.csv", "frame,x,y,w,h\n0,0,0,1,1\n2,0,0,1,1\n"), "frame 1 is no rectangle");
     ExpectRefused(WithContent("nan.csv", "frame,x,y,w,h\n0,nan,0,1,1\n"), "frame 0 is no rectangle");
+}
+
+TEST_F(CropTrackFileTest, ACropMayLieAMillionthOutsideThePicture)
+{
+    for (const char* const crop : {"-0.000001,0,0.3,1", "0,-0.000001,0.3,1", "0,0,1.000001,1", "0,0,0.3,1.000001"}) {
+        const QString path = WithContent("near.csv", QByteArray("frame,x,y,w,h\n0,") + crop + "\n");
+        EXPECT_TRUE(CropTrackFile::Read(path, 3)) << crop;
+    }
+    for (const char* const crop : {"-0.000002,0,0.3,1", "0,-0.000002,0.3,1", "0,0,1.000002,1", "0,0,0.3,1.000002"}) {
+        ExpectRefused(WithContent("beyond.csv", QByteArray("frame,x,y,w,h\n0,") + crop + "\n"),
+                      "frame 0 is no rectangle");
+    }
 }
 
 TEST_F(CropTrackFileTest, RefusesAFileThatIsTooLargeForTheVideoBeforeItIsRead)

@@ -64,8 +64,18 @@ TEST(FollowOption, WhatLiesOutsideTheVideoIsRefused)
     EXPECT_TRUE(Seed("249f@10,10"));
     EXPECT_EQ(Seed("250f@10,10").Message(), QStringLiteral("the video ends after 10.00 s"));
     EXPECT_EQ(Seed("1@1280,10").Message(), QStringLiteral("it lies outside the picture of 1280x720 pixels"));
+    EXPECT_FALSE(Seed("1@10,720"));
     EXPECT_FALSE(Seed("1@-200,10,100,100"));
+    EXPECT_FALSE(Seed("1@10,-200,100,100"));
     EXPECT_TRUE(Seed("1@-50,10,100,100"));
+    EXPECT_TRUE(Seed("1@10,-50,100,100"));
+}
+
+TEST(FollowOption, AllCornersOfThePictureAreInside)
+{
+    for (const char* const text : {"1@0,0", "1@1279,0", "1@0,719", "1@1279,719"}) {
+        EXPECT_TRUE(Seed(text)) << text;
+    }
 }
 
 TEST(FollowOption, SeveralCanBeGivenOnTheCommandLine)

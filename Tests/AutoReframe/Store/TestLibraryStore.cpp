@@ -6,6 +6,7 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 
 #include <gtest/gtest.h>
 
@@ -159,6 +160,22 @@ TEST_F(TestLibraryStore, WhatAnotherProgramHoldsUpIsWrittenLater)
     const auto count = [&other] { return other.Value(QStringLiteral("SELECT count(*) FROM videos"))->toInt(); };
     EXPECT_TRUE(QTest::qWaitFor([&] { return count() == 1; }, 60000));
     EXPECT_EQ(notices.size(), 1);
+}
+
+TEST_F(TestLibraryStore, OnceEverythingIsWrittenNothingIsTriedAgain)
+{
+    LibraryStore store(m_path, nullptr);
+    const auto* const retry = store.findChild<QTimer*>();
+    ASSERT_NE(retry, nullptr);
+    WaitForContents(store);
+    LibraryConnection other(m_path);
+    ASSERT_FALSE(other.Execute(QStringLiteral("BEGIN IMMEDIATE")));
+    QSignalSpy written(&store, &LibraryStore::sigWritten);
+    store.SaveVideo(Video(QStringLiteral("/a.mp4")));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return retry->isActive(); }, 60000));
+    ASSERT_FALSE(other.Execute(QStringLiteral("COMMIT")));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !written.isEmpty(); }, 60000));
+    EXPECT_FALSE(retry->isActive());
 }
 
 TEST_F(TestLibraryStore, AChangeThatCannotBeWrittenDoesNotTakeOthersWithIt)
