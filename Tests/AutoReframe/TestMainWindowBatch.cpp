@@ -4,6 +4,8 @@
 
 #include <QApplication>
 #include <QLineEdit>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTimer>
 
 namespace
@@ -71,6 +73,29 @@ TEST_F(TestMainWindowBatch, AllSelectedVideosAreReframedInAllChosenRatios)
     Button("QueueBar_retry")->click();
     EXPECT_TRUE(WaitForFinding());
     EXPECT_EQ(Text("QueueBar_text"), QStringLiteral("3 of 4 done"));
+}
+
+TEST_F(TestMainWindowBatch, TheSummaryEndsWhereTheCardsEnd)
+{
+    QStringList names;
+    for (int i = 0; i < 12; ++i) {
+        names += QStringLiteral("%1.mp4").arg(i);
+    }
+    Open(names);
+    ASSERT_TRUE(WaitUntilAllAreOpen());
+    ReframeAll();
+    const auto* const list = Child<QScrollArea>("ExportPanel_list");
+    const auto* const panel = Child<QWidget>("ExportPanel");
+    const auto right = [&](const char* name) {
+        const auto* const widget = Child<QWidget>(name);
+        return widget->mapTo(panel, widget->rect().topRight()).x();
+    };
+    ASSERT_TRUE(QTest::qWaitFor([&] { return list->verticalScrollBar()->isVisible(); }, 10000));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return right("ExportCard") == right("QueueBar"); }, 10000));
+    EXPECT_LE(right("ExportCard"), list->verticalScrollBar()->mapTo(panel, QPoint()).x());
+    m_window->resize(m_window->width(), 5000);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !list->verticalScrollBar()->isVisible(); }, 10000));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return right("ExportCard") == right("QueueBar"); }, 10000));
 }
 
 TEST_F(TestMainWindowBatch, TheSummaryCountsExportsWithoutAllEdits)

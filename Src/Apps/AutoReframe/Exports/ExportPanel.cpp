@@ -9,6 +9,7 @@
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QVariant>
 
 namespace
@@ -93,6 +94,12 @@ void ExportPanel::InitLayout()
     area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     area->setFocusPolicy(Qt::NoFocus);
     area->setWidget(content);
+    // The scroll bar lies in the margin, so that the cards stay aligned with the summary.
+    QScrollBar* const bar = area->verticalScrollBar();
+    connect(bar, &QScrollBar::rangeChanged, content, [this, bar](int top, int bottom) {
+        const int barPx = top < bottom ? bar->sizeHint().width() : 0;
+        m_column->setContentsMargins(MarginPx, 0, qMax(0, MarginPx - barPx), MarginPx);
+    });
 
     auto* const column = new QVBoxLayout(this);
     // The line between the areas takes one pixel at the left.
