@@ -9,7 +9,6 @@
 #include <KrAutoReframe/Player/KrAutoReframePlayerControlBar.h>
 #include <KrAutoReframe/Player/KrAutoReframePlayerToolSlider.h>
 #include <KrAutoReframe/Player/KrAutoReframePlayerView.h>
-#include <KrAutoReframe/Player/KrMarkColours.h>
 #include <KrAutoReframe/Settings/KrAutoReframePropertyPanel.h>
 
 #include <KxModel/IKxAutoReframePartialResults.h>
@@ -125,7 +124,6 @@ void KrDialogExtension::ShowChoices()
 {
     using Mark = KrAutoReframePlayerToolSlider::ChoiceMark;
     using Kind = KxAutoReframeChoice::Kind;
-    const QPalette& palette = m_parts.panel.palette();
     QList<Mark> marks;
     for (const KxAutoReframeChoice& choice : m_choices->Current()) {
         if (!choice.isFound) {
@@ -134,8 +132,7 @@ void KrDialogExtension::ShowChoices()
         Mark mark;
         mark.first = qRound64(choice.fromSeconds * FrameRate());
         mark.end = qRound64(choice.toSeconds * FrameRate());
-        mark.colour =
-            choice.kind == Kind::Follow ? palette.color(QPalette::Highlight) : palette.color(QPalette::PlaceholderText);
+        mark.kind = choice.kind == Kind::Follow ? Mark::Kind::Followed : Mark::Kind::Other;
         mark.toolTip = choice.kind == Kind::Follow  ? tr("The crop follows your choice")
                        : choice.kind == Kind::Avoid ? tr("The crop avoids your choice")
                        : choice.kind == Kind::Hold  ? tr("The crop is held")
@@ -143,7 +140,7 @@ void KrDialogExtension::ShowChoices()
                                                     : tr("The analysis decides");
         // What is avoided beside something that is followed would hide it: the later mark covers the others.
         const bool isBelowLast = choice.kind == Kind::Avoid && !marks.isEmpty() && marks.last().end > mark.first &&
-                                 marks.last().colour == palette.color(QPalette::Highlight);
+                                 marks.last().kind == Mark::Kind::Followed;
         marks.insert(isBelowLast ? marks.size() - 1 : marks.size(), mark);
     }
     m_parts.view.ControlBar().Slider().SetChoices(marks);
@@ -151,14 +148,14 @@ void KrDialogExtension::ShowChoices()
 
 void KrDialogExtension::ShowLosses()
 {
-    QList<KrAutoReframePlayerToolSlider::ChoiceMark> marks;
+    using Mark = KrAutoReframePlayerToolSlider::ChoiceMark;
+    QList<Mark> marks;
     const QList<KxAutoReframeLoss> losses =
         m_followControls != nullptr && m_hasResults ? ServiceChoices()->GetLosses(m_path) : QList<KxAutoReframeLoss>();
     for (const KxAutoReframeLoss& loss : losses) {
         const QString from = KrTimeCode::ToText(static_cast<int>(loss.first), static_cast<float>(FrameRate()),
                                                 KrTimeCode::Detail::Frames);
-        marks.append({loss.first, loss.last + 1, KrMarkColours::Loss(m_parts.panel.palette()),
-                      tr("Lost from %1: point again").arg(from)});
+        marks.append({loss.first, loss.last + 1, Mark::Kind::Lost, tr("Lost from %1: point again").arg(from)});
     }
     m_parts.view.ControlBar().Slider().SetGaps(marks);
 }

@@ -264,7 +264,20 @@ void KrAutoReframePlayerToolSlider::PaintChoice(QPainter& painter, const ChoiceM
 {
     const double start = CentreAt(choice.first);
     const double length = std::max(CentreAt(choice.end) - start, LeastShotLinePx);
-    painter.fillRect(QRectF(start, rect().top(), length, ChoiceLinePx), choice.colour);
+    painter.fillRect(QRectF(start, rect().top(), length, ChoiceLinePx), ColourOf(choice.kind));
+}
+
+QColor KrAutoReframePlayerToolSlider::ColourOf(ChoiceMark::Kind kind) const
+{
+    switch (kind) {
+    case ChoiceMark::Kind::Followed:
+        return palette().color(QPalette::Highlight);
+    case ChoiceMark::Kind::Lost:
+        return KrMarkColours::Loss(palette());
+    case ChoiceMark::Kind::Other:
+        break;
+    }
+    return palette().color(QPalette::PlaceholderText);
 }
 
 double KrAutoReframePlayerToolSlider::CentreAt(qint64 frame) const

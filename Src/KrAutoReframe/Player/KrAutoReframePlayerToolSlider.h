@@ -45,12 +45,15 @@ public:
     /// In order and without gaps. Initially there are none.
     void SetShots(const QList<ShotMark>& shots);
 
-    /// A range of frames in which the person decided, as a line of that colour along the slider's upper edge.
+    /// A range of frames in which the person decided, as a line along the slider's upper edge.
     struct ChoiceMark {
+        /// Followed: the crop follows something; Other: any other choice; Lost: what a choice follows was lost.
+        enum class Kind { Followed, Other, Lost };
+
         /// Frames; `end` is the one after the last one.
         qint64 first = 0;
         qint64 end = 0;
-        QColor colour;
+        Kind kind = Kind::Other;
         QString toolTip;
     };
     /// Later ones cover earlier ones. Initially there are none.
@@ -86,6 +89,7 @@ private:
     void PaintShots(QPainter& painter) const;
     void PaintChoices(QPainter& painter) const;
     void PaintChoice(QPainter& painter, const ChoiceMark& choice) const;
+    QColor ColourOf(ChoiceMark::Kind kind) const;
     /// Where the handle's centre is at `frame`, pixels along the slider.
     double CentreAt(qint64 frame) const;
     bool ShowShotToolTip(const QHelpEvent& event) const;

@@ -411,6 +411,25 @@ TEST_F(SliderTest, ADoubtfulShotThatWasSeenIsNoLongerAmber)
     }
 }
 
+TEST_F(SliderTest, ChoicesAndLossesTakeTheColoursOfTheThemeThatIsShown)
+{
+    using Kind = KrAutoReframePlayerToolSlider::ChoiceMark::Kind;
+    slider->SetChoices({{0, 30, Kind::Followed, QString()}, {30, 60, Kind::Other, QString()}});
+    slider->SetGaps({{60, 100, Kind::Lost, QString()}});
+    // Of the program's style sheet.
+    slider->setStyleSheet(QStringLiteral("#KrUIStyle_ToolBarSlider { background: transparent; }"));
+    for (const QColor& window : {QColor(0x20, 0x22, 0x27), QColor(0xFA, 0xFB, 0xFC)}) {
+        QPalette palette(window);
+        palette.setColor(QPalette::Highlight, window.lightness() < 128 ? Qt::yellow : Qt::blue);
+        palette.setColor(QPalette::PlaceholderText, window.lightness() < 128 ? Qt::lightGray : Qt::darkGray);
+        slider->setPalette(palette);
+        const QImage image = Paint(*marks);
+        EXPECT_EQ(image.pixelColor(MarkX(15), 1), palette.color(QPalette::Highlight));
+        EXPECT_EQ(image.pixelColor(MarkX(45), 1), palette.color(QPalette::PlaceholderText));
+        EXPECT_EQ(image.pixelColor(MarkX(80), 1), KrMarkColours::Loss(palette));
+    }
+}
+
 TEST_F(SliderTest, MarksOfShotsStandOutInDarkAndLightWindows)
 {
     constexpr double least = 3.0;
