@@ -1168,6 +1168,10 @@ Benötigt: %1 MB, verfügbar: %2 MB.</translation>
         <translation>Ab %1 verloren: noch einmal zeigen</translation>
     </message>
     <message>
+        <source>Perhaps lost from %1: look, and point again</source>
+        <translation>Ab %1 vielleicht verloren: nachsehen und noch einmal zeigen</translation>
+    </message>
+    <message>
         <source>Settings changed: analyze again</source>
         <translation>Einstellungen geändert: neu analysieren</translation>
     </message>

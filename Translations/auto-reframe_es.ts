@@ -1168,6 +1168,10 @@ Espacio necesario: %1 MB, disponible: %2 MB.</translation>
         <translation>Perdido desde %1: señalar de nuevo</translation>
     </message>
     <message>
+        <source>Perhaps lost from %1: look, and point again</source>
+        <translation>Quizá perdido desde %1: comprobar y señalar de nuevo</translation>
+    </message>
+    <message>
         <source>Settings changed: analyze again</source>
         <translation>Ajustes modificados: reanalizar</translation>
     </message>

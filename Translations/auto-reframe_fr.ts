@@ -1168,6 +1168,10 @@ Espace nécessaire&#xa0;: %1 Mo, disponible&#xa0;: %2 Mo.</translation>
         <translation>Perdu à partir de %1&#xa0;: désigner à nouveau</translation>
     </message>
     <message>
+        <source>Perhaps lost from %1: look, and point again</source>
+        <translation>Peut-être perdu à partir de %1&#xa0;: vérifier et désigner à nouveau</translation>
+    </message>
+    <message>
         <source>Settings changed: analyze again</source>
         <translation>Réglages modifiés&#xa0;: réanalyser</translation>
     </message>

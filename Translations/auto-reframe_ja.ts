@@ -1161,6 +1161,10 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
         <translation>%1 から見失いました: もう一度指定してください</translation>
     </message>
     <message>
+        <source>Perhaps lost from %1: look, and point again</source>
+        <translation>%1 から見失った可能性があります: 確認して、もう一度指定してください</translation>
+    </message>
+    <message>
         <source>Settings changed: analyze again</source>
         <translation>設定が変わりました: 再解析</translation>
     </message>

@@ -1168,6 +1168,10 @@ Espaço necessário: %1 MB, disponível: %2 MB.</translation>
         <translation>Perdido a partir de %1: aponte de novo</translation>
     </message>
     <message>
+        <source>Perhaps lost from %1: look, and point again</source>
+        <translation>Talvez perdido a partir de %1: verifique e aponte de novo</translation>
+    </message>
+    <message>
         <source>Settings changed: analyze again</source>
         <translation>Configurações alteradas: analise de novo</translation>
     </message>

@@ -1161,6 +1161,10 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
         <translation>从 %1 起丢失：请重新指定</translation>
     </message>
     <message>
+        <source>Perhaps lost from %1: look, and point again</source>
+        <translation>从 %1 起可能丢失：请查看并重新指定</translation>
+    </message>
+    <message>
         <source>Settings changed: analyze again</source>
         <translation>设置已更改：请重新分析</translation>
     </message>

@@ -2,31 +2,53 @@
 
 #include <KxSubject/KxSubjectOptions.h>
 
-std::vector<KxFollowTrack::Loss> KxFollowTrack::Losses(double frameRate, const KxSubjectOptions& options) const
+namespace
 {
-    const double longest = options.follow.lostSeconds * frameRate;
-    std::vector<Loss> losses;
-    bool isLost = false;
+
+using Loss = KxFollowTrack::Loss;
+using Point = KxFollowTrack::Point;
+
+/// The ranges longer than `longest` frames in which `isPart` holds for every point.
+template<typename IsPart>
+std::vector<Loss> LongRanges(const std::vector<Point>& points, double longest, const IsPart& isPart)
+{
+    std::vector<Loss> ranges;
+    bool isInside = false;
     std::int32_t before = 0;
     for (const Point& point : points) {
         // Another shot begins after a gap.
-        isLost = isLost && static_cast<double>(point.frame - before) <= longest;
+        isInside = isInside && static_cast<double>(point.frame - before) <= longest;
         before = point.frame;
-        if (static_cast<double>(point.confidence) >= options.follow.goodConfidence) {
-            isLost = false;
+        if (!isPart(point)) {
+            isInside = false;
             continue;
         }
-        if (!isLost) {
-            losses.push_back({point.frame, point.frame});
+        if (!isInside) {
+            ranges.push_back({point.frame, point.frame});
         }
-        isLost = true;
-        losses.back().last = point.frame;
+        isInside = true;
+        ranges.back().last = point.frame;
     }
     std::vector<Loss> reported;
-    for (const Loss& loss : losses) {
-        if (static_cast<double>(loss.last - loss.first) > longest) {
-            reported.push_back(loss);
+    for (const Loss& range : ranges) {
+        if (static_cast<double>(range.last - range.first) > longest) {
+            reported.push_back(range);
         }
     }
     return reported;
+}
+
+} // namespace
+
+std::vector<KxFollowTrack::Loss> KxFollowTrack::Losses(double frameRate, const KxSubjectOptions& options) const
+{
+    return LongRanges(points, options.follow.lostSeconds * frameRate, [&options](const Point& point) {
+        return static_cast<double>(point.confidence) < options.follow.goodConfidence;
+    });
+}
+
+std::vector<KxFollowTrack::Loss> KxFollowTrack::Doubts(double frameRate, const KxSubjectOptions& options) const
+{
+    return LongRanges(points, options.follow.lostSeconds * frameRate,
+                      [](const Point& point) { return point.isDoubted; });
 }

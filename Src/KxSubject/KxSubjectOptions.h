@@ -289,7 +289,7 @@ struct KxSubjectOptions {
         double sureSpan = 5.0;            ///< 3 to 8 beyond, gives full confidence; chosen
         double surePeakShare = 0.6;       ///< 0.5 to 0.8 of the running mean, the same; chosen
         double goodConfidence = 0.3;      ///< 0.2 to 0.5: below, the thing counts as lost; chosen
-        double lostSeconds = 1.0;         ///< 0.5 to 2: a shorter loss is not reported; chosen
+        double lostSeconds = 1.0;         ///< 0.5 to 2: a shorter loss or doubt is not reported; chosen
         /// 0.3 to 0.6, the intersection over the union of the box that a person drew, perhaps with what the thing
         /// holds, and a detection of it; trial
         double firstOverlap = 0.4;

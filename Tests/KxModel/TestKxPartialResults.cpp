@@ -1,4 +1,5 @@
 #include <KxModel/KxAutoReframeService.h>
+#include <KxModel/KxDetectorFiles.h>
 #include <KxModel/KxFollowTracks.h>
 #include <KxModel/KxRecordStore.h>
 #include <Tests/KxModel/TwoThings.h>
@@ -115,6 +116,23 @@ TEST_F(KxPartialResultsTest, WhatAnEarlierProgramFollowedIsNotFollowedAgain)
     }
     EXPECT_EQ(answers[0].size(), static_cast<std::size_t>(Frames));
     EXPECT_EQ(answers[1], answers[0]);
+}
+
+TEST_F(KxPartialResultsTest, WhatMayHaveBeenLostIsReportedWithoutAWarning)
+{
+    KxFollowTrack track;
+    for (int frame = 0; frame < Frames; frame += 2) {
+        track.points.push_back({frame, m_settings.choices.front().seeds.front().box, 0.9F, frame >= 20});
+    }
+    m_settings.tracks = std::make_shared<KxFollowTracks>();
+    m_settings.tracks->Add(KxRecordStore::KeyOf(Clip(), KxDetectorFiles::Read({}).models), m_settings.choices.front(),
+                           track);
+    const KxAnalysis::Result result = Analyse();
+    ASSERT_EQ(result.losses.size(), 1);
+    EXPECT_EQ(result.losses.first().kind, KxAutoReframeLoss::Kind::Doubted);
+    EXPECT_EQ(result.losses.first().first, 20);
+    EXPECT_EQ(result.losses.first().last, Frames - 2);
+    EXPECT_TRUE(result.warnings.isEmpty());
 }
 
 TEST_F(KxPartialResultsTest, NoneComesAfterACancel)

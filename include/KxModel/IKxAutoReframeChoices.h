@@ -59,10 +59,17 @@ struct KxAutoReframeGuess {
     bool isBackground = false; ///< a wall, the sky or another surface, which looks like what is around it
 };
 
-/// Frames, both included, through which the analysis lost what a choice follows: a person should point at it again.
+/// Frames, both included, through which the analysis lost what a choice follows, or may have lost it: a person should
+/// look, and point at it again.
 struct KxAutoReframeLoss {
+    enum class Kind {
+        Lost,
+        Doubted ///< it is followed, but this may be something else
+    };
+
     qint64 first = 0;
     qint64 last = 0;
+    Kind kind = Kind::Lost;
 };
 
 /// What a host's auto-reframe service may offer beside IKxAutoReframeService: it takes a person's choices. A service
@@ -82,8 +89,8 @@ public:
 
     /// What is at `point` in frame `frame` of the file `path`. Blocks for some tenths of a second.
     virtual KxAutoReframeGuess GuessBox(const QString& path, qint64 frame, const QPointF& point) const = 0;
-    /// What was lost in the task whose results IKxAutoReframeService::GetResults returns for `path`, in order of the
-    /// choices. Empty if there is no such task.
+    /// What was lost or is doubted in the task whose results IKxAutoReframeService::GetResults returns for `path`, in
+    /// order of the choices; for each of them first what is doubted. Empty if there is no such task.
     virtual QList<KxAutoReframeLoss> GetLosses(const QString& path) const = 0;
 
     /// The choices as the task applied them whose results IKxAutoReframeService::GetResults returns for `path`: if the

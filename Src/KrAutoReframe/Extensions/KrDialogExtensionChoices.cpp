@@ -155,7 +155,10 @@ void KrDialogExtension::ShowLosses()
     for (const KxAutoReframeLoss& loss : losses) {
         const QString from = KrTimeCode::ToText(static_cast<int>(loss.first), static_cast<float>(FrameRate()),
                                                 KrTimeCode::Detail::Frames);
-        marks.append({loss.first, loss.last + 1, Mark::Kind::Lost, tr("Lost from %1: point again").arg(from)});
+        const bool isLost = loss.kind == KxAutoReframeLoss::Kind::Lost;
+        const QString toolTip = isLost ? tr("Lost from %1: point again").arg(from)
+                                       : tr("Perhaps lost from %1: look, and point again").arg(from);
+        marks.append({loss.first, loss.last + 1, isLost ? Mark::Kind::Lost : Mark::Kind::Doubted, toolTip});
     }
     m_parts.view.ControlBar().Slider().SetGaps(marks);
 }

@@ -274,6 +274,8 @@ QColor KrAutoReframePlayerToolSlider::ColourOf(ChoiceMark::Kind kind) const
         return palette().color(QPalette::Highlight);
     case ChoiceMark::Kind::Lost:
         return KrMarkColours::Loss(palette());
+    case ChoiceMark::Kind::Doubted:
+        return KrMarkColours::Doubt(palette());
     case ChoiceMark::Kind::Other:
         break;
     }
@@ -293,9 +295,9 @@ bool KrAutoReframePlayerToolSlider::ShowShotToolTip(const QHelpEvent& event) con
     };
     const auto shot = std::find_if(m_shots.cbegin(), m_shots.cend(), isUnder);
     const auto choice = std::find_if(m_choices.crbegin(), m_choices.crend(), isUnder);
-    const auto gap = std::find_if(m_gaps.cbegin(), m_gaps.cend(), isUnder);
+    const auto gap = std::find_if(m_gaps.crbegin(), m_gaps.crend(), isUnder);
     QStringList texts;
-    if (gap != m_gaps.cend()) {
+    if (gap != m_gaps.crend()) {
         texts.append(gap->toolTip);
     }
     if (choice != m_choices.crend()) {

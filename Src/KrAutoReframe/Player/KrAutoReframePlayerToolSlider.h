@@ -47,8 +47,12 @@ public:
 
     /// A range of frames in which the person decided, as a line along the slider's upper edge.
     struct ChoiceMark {
-        /// Followed: the crop follows something; Other: any other choice; Lost: what a choice follows was lost.
-        enum class Kind { Followed, Other, Lost };
+        enum class Kind {
+            Followed, ///< the crop follows something
+            Other,    ///< another choice
+            Lost,     ///< what a choice follows was lost
+            Doubted   ///< it may have been lost
+        };
 
         /// Frames; `end` is the one after the last one.
         qint64 first = 0;
@@ -58,7 +62,8 @@ public:
     };
     /// Later ones cover earlier ones. Initially there are none.
     void SetChoices(const QList<ChoiceMark>& choices);
-    /// Ranges in which a choice does not hold, over the choices. Initially there are none.
+    /// Ranges in which a choice does not hold, or may not, over the choices; later ones cover earlier ones. Initially
+    /// there are none.
     void SetGaps(const QList<ChoiceMark>& gaps);
 
     /// Widths in pixels.

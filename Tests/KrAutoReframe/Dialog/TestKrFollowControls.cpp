@@ -249,6 +249,19 @@ TEST_F(KrFollowControlsTest, TheSliderShowsWhereWhatIsFollowedWasLost)
     QToolTip::hideText();
 }
 
+TEST_F(KrFollowControlsTest, TheSliderShowsWhereWhatIsFollowedIsDoubted)
+{
+    taking.losses = {{40, 79, KxAutoReframeLoss::Kind::Doubted}, {60, 79}};
+    Drag(At(0.2, 0.3), At(0.4, 0.7));
+    Choose(QStringLiteral("Follow This"));
+    ASSERT_EVENTUALLY(HasDecided());
+    const QString doubted = QStringLiteral("Perhaps lost from 00:00:01:15: look, and point again");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return ToolTipAt(0.5).contains(doubted); })) << ToolTipAt(0.5).toStdString();
+    EXPECT_TRUE(ToolTipAt(0.7).contains(QStringLiteral("Lost from 00:00:02:10: point again")))
+        << ToolTipAt(0.7).toStdString();
+    QToolTip::hideText();
+}
+
 TEST_F(KrFollowControlsTest, WhatIsAvoidedDoesNotHideOnTheSliderWhatIsFollowed)
 {
     Drag(At(0.2, 0.3), At(0.4, 0.7));

@@ -415,7 +415,7 @@ TEST_F(SliderTest, ChoicesAndLossesTakeTheColoursOfTheThemeThatIsShown)
 {
     using Kind = KrAutoReframePlayerToolSlider::ChoiceMark::Kind;
     slider->SetChoices({{0, 30, Kind::Followed, QString()}, {30, 60, Kind::Other, QString()}});
-    slider->SetGaps({{60, 100, Kind::Lost, QString()}});
+    slider->SetGaps({{60, 80, Kind::Doubted, QString()}, {80, 100, Kind::Lost, QString()}});
     // Of the program's style sheet.
     slider->setStyleSheet(QStringLiteral("#KrUIStyle_ToolBarSlider { background: transparent; }"));
     for (const QColor& window : {QColor(0x20, 0x22, 0x27), QColor(0xFA, 0xFB, 0xFC)}) {
@@ -426,7 +426,8 @@ TEST_F(SliderTest, ChoicesAndLossesTakeTheColoursOfTheThemeThatIsShown)
         const QImage image = Paint(*marks);
         EXPECT_EQ(image.pixelColor(MarkX(15), 1), palette.color(QPalette::Highlight));
         EXPECT_EQ(image.pixelColor(MarkX(45), 1), palette.color(QPalette::PlaceholderText));
-        EXPECT_EQ(image.pixelColor(MarkX(80), 1), KrMarkColours::Loss(palette));
+        EXPECT_EQ(image.pixelColor(MarkX(70), 1), KrMarkColours::Doubt(palette));
+        EXPECT_EQ(image.pixelColor(MarkX(90), 1), KrMarkColours::Loss(palette));
     }
 }
 
