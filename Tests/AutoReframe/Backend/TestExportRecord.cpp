@@ -5,6 +5,8 @@
 namespace
 {
 
+constexpr int NoSound = 0;
+
 QVariantMap Record()
 {
     return {{QStringLiteral("name"), QStringLiteral("clip-AutoReframe-9 16")},
@@ -19,7 +21,7 @@ QVariantMap Record()
 
 TEST(TestExportRecord, ReadsEveryValue)
 {
-    const KxResult<KxRenderSettings> settings = ExportRecord::Read(Record());
+    const KxResult<KxRenderSettings> settings = ExportRecord::Read(Record(), NoSound);
     ASSERT_TRUE(settings);
     EXPECT_EQ(settings->outputPath, QStringLiteral("/videos/out/clip-AutoReframe-9 16.mp4"));
     EXPECT_EQ(settings->resolution, QSize(608, 1080));
@@ -28,19 +30,22 @@ TEST(TestExportRecord, ReadsEveryValue)
     EXPECT_EQ(settings->audioBitRate, 192000);
 }
 
-TEST(TestExportRecord, SoundIsEncodedOnlyWhereABitRateIsAskedFor)
+TEST(TestExportRecord, SoundIsCopiedUnlessItsBitRateIsAboveTheRecords)
 {
+    using Sound = KxOutputFormat::Sound;
     QVariantMap record = Record();
-    EXPECT_EQ(ExportRecord::Read(record)->format.sound, KxOutputFormat::Sound::Encoded);
+    EXPECT_EQ(ExportRecord::Read(record, 192000)->format.sound, Sound::Automatic);
+    EXPECT_EQ(ExportRecord::Read(record, 192001)->format.sound, Sound::Encoded);
+    EXPECT_EQ(ExportRecord::Read(record, NoSound)->format.sound, Sound::Automatic);
     record.remove(QStringLiteral("audio_bit_rate"));
-    EXPECT_EQ(ExportRecord::Read(record)->format.sound, KxOutputFormat::Sound::Automatic);
+    EXPECT_EQ(ExportRecord::Read(record, 192000)->format.sound, Sound::Automatic);
 }
 
 TEST(TestExportRecord, AddsNoSecondSeparatorToTheRootFolder)
 {
     QVariantMap record = Record();
     record.insert(QStringLiteral("path"), QStringLiteral("/"));
-    EXPECT_EQ(ExportRecord::Read(record)->outputPath, QStringLiteral("/clip-AutoReframe-9 16.mp4"));
+    EXPECT_EQ(ExportRecord::Read(record, NoSound)->outputPath, QStringLiteral("/clip-AutoReframe-9 16.mp4"));
 }
 
 TEST(TestExportRecord, RefusesARecordWithoutNameFolderOrSize)
@@ -48,9 +53,9 @@ TEST(TestExportRecord, RefusesARecordWithoutNameFolderOrSize)
     for (const char* const key : {"name", "path", "resolution"}) {
         QVariantMap record = Record();
         record.remove(QLatin1String(key));
-        const KxResult<KxRenderSettings> settings = ExportRecord::Read(record);
+        const KxResult<KxRenderSettings> settings = ExportRecord::Read(record, NoSound);
         EXPECT_FALSE(settings) << key;
         EXPECT_TRUE(settings.Message().startsWith(QLatin1String("Cannot export"))) << key;
     }
-    EXPECT_FALSE(ExportRecord::Read(QVariant()));
+    EXPECT_FALSE(ExportRecord::Read(QVariant(), NoSound));
 }

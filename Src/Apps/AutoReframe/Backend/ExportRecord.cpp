@@ -3,7 +3,7 @@
 #include <QCoreApplication>
 #include <QDir>
 
-KxResult<KxRenderSettings> ExportRecord::Read(const QVariant& record)
+KxResult<KxRenderSettings> ExportRecord::Read(const QVariant& record, int soundBitRate)
 {
     const QVariantMap values = record.toMap();
     const QString name = values.value(QStringLiteral("name")).toString();
@@ -22,9 +22,9 @@ KxResult<KxRenderSettings> ExportRecord::Read(const QVariant& record)
     settings.frameRate = values.value(QStringLiteral("frame_rate")).toDouble();
     settings.videoBitRate = values.value(QStringLiteral("video_bit_rate")).toInt();
     settings.audioBitRate = values.value(QStringLiteral("audio_bit_rate")).toInt();
-    // A record with a bit rate asks for encoded sound.
-    settings.format.sound =
-        settings.audioBitRate > 0 ? KxOutputFormat::Sound::Encoded : KxOutputFormat::Sound::Automatic;
+    using Sound = KxOutputFormat::Sound;
+    const bool mustShrink = settings.audioBitRate > 0 && soundBitRate > settings.audioBitRate;
+    settings.format.sound = mustShrink ? Sound::Encoded : Sound::Automatic;
     if (settings.resolution.isEmpty()) {
         return KxResult<KxRenderSettings>::Failure(
             QCoreApplication::translate("ExportRecord", "Cannot export %1: no picture size was given.").arg(name));

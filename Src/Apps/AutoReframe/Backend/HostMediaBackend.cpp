@@ -39,10 +39,18 @@ private:
     KxRenderJob m_job;
 };
 
+/// Of what a rendering of the timeline takes for its sound; 0 without any.
+int SoundBitRate(const IKxTimeline& timeline)
+{
+    const QList<IKxClip*> clips = timeline.clips();
+    const auto* const clip = clips.isEmpty() ? nullptr : dynamic_cast<const KxClip*>(clips.first());
+    return clip != nullptr ? clip->StreamInfo().bitRate(clip->Facts()->defaultAudio) : 0;
+}
+
 void RequestExport(IKxTimeline* timeline, const QVariant& record, const DialogEdits& edits,
                    const DialogCallbacks& callbacks)
 {
-    KxResult<KxRenderSettings> settings = ExportRecord::Read(record);
+    KxResult<KxRenderSettings> settings = ExportRecord::Read(record, SoundBitRate(*timeline));
     if (!settings) {
         callbacks.exportRefused(settings.Message());
         return;
