@@ -2,6 +2,7 @@
 
 import subprocess
 
+import follow_journey
 import footage
 
 SHOT_SECONDS = 4
@@ -116,18 +117,7 @@ class ExtensionJourney:
         """Draws a box around the figure with the right button, and follows it."""
         screen, journey = self.screen, self.journey
         journey.go_to(0.1)
-        x, y, width, height = journey.shadow()
-        start = (x + int(0.30 * width), y + int(0.25 * height))
-        end = (x + int(0.55 * width), y + int(0.90 * height))
-        screen.move(*start)
-        screen.tool("mousedown", 3)
-        for step in range(1, 9):
-            screen.move(start[0] + (end[0] - start[0]) * step // 8, start[1] + (end[1] - start[1]) * step // 8)
-        screen.tool("mouseup", 3)
-        menu = screen.find("KrAutoReframe_followMenu")
-        screen.shoot("box-and-menu")
-        screen.click(next(item["rect"] for item in menu["items"] if item["text"] == "Follow This"))
-        screen.gone("KrAutoReframe_followMenu")
+        follow_journey.follow(journey, (0.30, 0.25, 0.55, 0.90))
         screen.find("KrAutoReframe_undo", enabled=True)
         journey.shadow()
         screen.shoot("followed")

@@ -9,6 +9,7 @@ journey.py PROGRAM FOLDER NAME [VIDEO]: pictures of every step stay in FOLDER. T
   dense       the first window on a screen of scale 2, in a session that also offers Wayland
   extended    the dialog's extensions; extended-dense: on a screen of scale 2
   batch       many videos at once; batch-dense: on a screen of scale 2
+  followed    something in a long shot is followed, taken back meanwhile and followed again
   spoken      the dialog as a screen reader sees it
 """
 
@@ -21,6 +22,7 @@ import time
 
 import batch_journey
 import extension_journey
+import follow_journey
 import footage
 import kept_journey
 import short_journeys
@@ -61,17 +63,22 @@ class Journey:
             return found[0]["rect"] if found else None
         return self.screen.steady(read, "the crop's overlay")
 
+    def outline_now(self, rect, colour):
+        """Left and right edge of the crop's outline of that colour, in fractions of the picture in `rect`; or None."""
+        x, y, width, height = rect
+        rows = self.screen.pixels((x, y + height // 3, width, height // 3))
+        columns = [column for column in range(width)
+                   if sum(near(row[column], colour) for row in rows) > 0.7 * len(rows)]
+        is_whole = columns and columns[-1] - columns[0] > 20
+        return (columns[0] / width, (columns[-1] + 1) / width) if is_whole else None
+
     def outline(self, colour):
-        """Left and right edge of the crop's outline of that colour, in fractions of the picture, once they are steady."""
-        x, y, width, height = self.shadow()
+        """The same once it is steady."""
+        rect = self.shadow()
         seen = []
 
         def look():
-            rows = self.screen.pixels((x, y + height // 3, width, height // 3))
-            columns = [column for column in range(width)
-                       if sum(near(row[column], colour) for row in rows) > 0.7 * len(rows)]
-            is_whole = columns and columns[-1] - columns[0] > 20
-            seen.append((columns[0] / width, (columns[-1] + 1) / width) if is_whole else None)
+            seen.append(self.outline_now(rect, colour))
             return len(seen) >= 2 and seen[-1] is not None and seen[-1] == seen[-2]
         self.screen.until(look, "the crop's outline", fresh=False)
         return seen[-1]
@@ -413,6 +420,8 @@ def main():
         environment.update(QT_SCALE_FACTOR=str(short_journeys.SCALE), QT_QPA_PLATFORM="", XDG_SESSION_TYPE="wayland")
     elif name.startswith("extended"):
         extension_journey.make_shots(clip)
+    elif name == "followed":
+        follow_journey.make_long_shot(clip)
     elif not name.startswith("batch"):
         footage.make(clip)
     if name in ("extended-dense", "batch-dense"):
@@ -439,6 +448,7 @@ def main():
             run = {"whole": journey.run, "cancelling": journey.run_on_real_footage,
                    "extended": lambda: extension_journey.ExtensionJourney(journey).run(),
                    "extended-dense": lambda: extension_journey.ExtensionJourney(journey).run(),
+                   "followed": lambda: follow_journey.FollowJourney(journey).run(),
                    "spoken": lambda: spoken_journey.SpokenJourney(journey).run(),
                    "plain": lambda: short_journeys.run_without_compositor(journey),
                    "dense": lambda: short_journeys.run_on_a_dense_screen(screen)}[name]
