@@ -5,37 +5,15 @@
 #include <KxModel/KxMediaItem.h>
 #include <KxModel/KxRecordStore.h>
 #include <Tests/KxRender/RenderFixture.h>
-
-#include <KxCore/KxExport.h>
+#include <Tests/Support/FileOpenings.h>
 
 #include <QDir>
 #include <QFile>
 
-#include <atomic>
-#include <cstdarg>
-#include <cstring>
-
-#include <fcntl.h>
-#include <sys/syscall.h>
-#include <unistd.h>
-
-// How often a job opens its input file. All libraries open files with open() or open64() of the C library; the linker
-// prefers the definitions of this program.
-
 namespace
 {
 
-std::atomic_int openings = 0;
-
-int Open(const char* path, int flags, unsigned mode)
-{
-    if (std::strstr(path, "/clip.") != nullptr) {
-        ++openings;
-    }
-    return static_cast<int>(syscall(SYS_openat, AT_FDCWD, path, flags, mode));
-}
-
-class FileOpenings : public RenderFixture
+class FileOpeningsTest : public RenderFixture
 {
 protected:
     KxRenderSource MakeSource()
@@ -44,7 +22,7 @@ protected:
                                          {QStringLiteral("-f"), QStringLiteral("lavfi"), QStringLiteral("-i"),
                                           QStringLiteral("sine=frequency=440:duration=1")},
                                          {QStringLiteral("-c:a"), QStringLiteral("aac")});
-        openings = 0;
+        FileOpenings::Reset();
         return source;
     }
     std::unique_ptr<KxVideoScanner> Opened() const
@@ -67,32 +45,14 @@ protected:
 
 } // namespace
 
-extern "C" KX_SYMBOL_EXPORT int open(const char* path, int flags, ...)
-{
-    va_list arguments;
-    va_start(arguments, flags);
-    const unsigned mode = (flags & O_CREAT) != 0 ? va_arg(arguments, unsigned) : 0;
-    va_end(arguments);
-    return Open(path, flags, mode);
-}
-
-extern "C" KX_SYMBOL_EXPORT int open64(const char* path, int flags, ...)
-{
-    va_list arguments;
-    va_start(arguments, flags);
-    const unsigned mode = (flags & O_CREAT) != 0 ? va_arg(arguments, unsigned) : 0;
-    va_end(arguments);
-    return Open(path, flags, mode);
-}
-
-TEST_F(FileOpenings, FactsTakeOneOpening)
+TEST_F(FileOpeningsTest, FactsTakeOneOpening)
 {
     const KxRenderSource source = MakeSource();
     ASSERT_TRUE(KxProbeMedia(source.path, {}));
-    EXPECT_EQ(openings, 1);
+    EXPECT_EQ(FileOpenings::Count(), 1);
 }
 
-TEST_F(FileOpenings, AnAnalysisTakesOneOpening)
+TEST_F(FileOpeningsTest, AnAnalysisTakesOneOpening)
 {
     const KxRenderSource source = MakeSource();
     auto scanner = KxVideoScanner::Open(source.path, {});
@@ -100,17 +60,17 @@ TEST_F(FileOpenings, AnAnalysisTakesOneOpening)
     KxVideoFrame picture;
     while ((*scanner)->Next(picture) == KxReadStatus::Delivered) {
     }
-    EXPECT_EQ(openings, 1);
+    EXPECT_EQ(FileOpenings::Count(), 1);
 }
 
-TEST_F(FileOpenings, FactsAndAnAnalysisTakeOneOpening)
+TEST_F(FileOpeningsTest, FactsAndAnAnalysisTakeOneOpening)
 {
     MakeSource();
     EXPECT_EQ(Analyse(Opened()), 25);
-    EXPECT_EQ(openings, 1);
+    EXPECT_EQ(FileOpenings::Count(), 1);
 }
 
-TEST_F(FileOpenings, AnAnalysisOpensAFileThatHasChangedSinceItsFactsWereRead)
+TEST_F(FileOpeningsTest, AnAnalysisOpensAFileThatHasChangedSinceItsFactsWereRead)
 {
     MakeSource();
     std::unique_ptr<KxVideoScanner> opened = Opened();
@@ -118,7 +78,7 @@ TEST_F(FileOpenings, AnAnalysisOpensAFileThatHasChangedSinceItsFactsWereRead)
     EXPECT_EQ(Analyse(std::move(opened)), 40);
 }
 
-TEST_F(FileOpenings, AnAnalysisReadsTheModelsWhenItRuns)
+TEST_F(FileOpeningsTest, AnAnalysisReadsTheModelsWhenItRuns)
 {
     MakeSource();
     KxAnalysisSettings settings;
@@ -135,7 +95,7 @@ TEST_F(FileOpenings, AnAnalysisReadsTheModelsWhenItRuns)
     EXPECT_TRUE(warnings.first().contains(QStringLiteral("nanodet-g.onnx"))) << qPrintable(warnings.first());
 }
 
-TEST_F(FileOpenings, OnlyTheNextTaskTakesAnOpenVideo)
+TEST_F(FileOpeningsTest, OnlyTheNextTaskTakesAnOpenVideo)
 {
     MakeSource();
     std::vector<const KxVideoScanner*> taken;
@@ -152,11 +112,11 @@ TEST_F(FileOpenings, OnlyTheNextTaskTakesAnOpenVideo)
     EXPECT_EQ(taken, (std::vector<const KxVideoScanner*>{scanner, nullptr}));
 }
 
-TEST_F(FileOpenings, ARenderingTakesOneOpeningForPicturesAndOneForSound)
+TEST_F(FileOpeningsTest, ARenderingTakesOneOpeningForPicturesAndOneForSound)
 {
     const KxRenderSource source = MakeSource();
     const KxRenderResult result = KxRenderer::Run(source, SettingsFor(QSize(90, 160)), {}, {});
-    EXPECT_EQ(openings, 2);
+    EXPECT_EQ(FileOpenings::Count(), 2);
     ASSERT_EQ(result.outcome, KxOutcome::Done);
     EXPECT_GT(SoundEnd(result.outputPath), 0.9);
 }
