@@ -8,6 +8,7 @@
 #include <KrAutoReframe/Engine/KrKeptEdits.h>
 #include <KxCore/KxCropWindow.h>
 #include <KxCore/KxOutputSize.h>
+#include <KxMedia/Read/KxVideoScanner.h>
 #include <KxModel/KxChoicesFormat.h>
 #include <KxModel/KxFramePictures.h>
 #include <KxModel/KxMediaItem.h>
@@ -84,7 +85,8 @@ void CropFinder::Run()
 CropFinder::Analyzed CropFinder::Find()
 {
     Analyzed failed;
-    KxResult<std::unique_ptr<KxMediaItem>> media = KxMediaItem::Open(m_request.path, m_cancel);
+    std::unique_ptr<KxVideoScanner> video;
+    KxResult<std::unique_ptr<KxMediaItem>> media = KxMediaItem::Open(m_request.path, m_cancel, video);
     if (!media) {
         failed.found.message = media.Message();
         return failed;
@@ -100,7 +102,7 @@ CropFinder::Analyzed CropFinder::Find()
         failed.found.message = *reason;
         return failed;
     }
-    return Analyze(std::move(*media));
+    return Analyze(std::move(*media), std::move(video));
 }
 
 CropFinder::Analyzed CropFinder::ReadTrack(std::shared_ptr<KxMediaItem> media) const
@@ -141,7 +143,7 @@ KxError CropFinder::ReasonNotToAnalyze(const KxMediaItem& media) const
     return std::nullopt;
 }
 
-CropFinder::Analyzed CropFinder::Analyze(std::shared_ptr<KxMediaItem> media)
+CropFinder::Analyzed CropFinder::Analyze(std::shared_ptr<KxMediaItem> media, std::unique_ptr<KxVideoScanner> video)
 {
     Analyzed analyzed;
     m_settings.wantsShots = true;
@@ -155,7 +157,8 @@ CropFinder::Analyzed CropFinder::Analyze(std::shared_ptr<KxMediaItem> media)
         m_settings.choices = std::move(*choices);
     }
     const IKxAutoReframeParam param(m_request.plan.speed, m_request.plan.aspect);
-    KxResult<std::unique_ptr<KxAnalysis>> analysis = KxVideoAnalysis::Open(m_request.path, param, m_settings, m_cancel);
+    KxResult<std::unique_ptr<KxAnalysis>> analysis =
+        KxVideoAnalysis::Open(m_request.path, param, m_settings, m_cancel, std::move(video));
     if (!analysis) {
         analyzed.found.message = analysis.Message();
         return analyzed;

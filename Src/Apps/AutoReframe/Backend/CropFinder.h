@@ -10,6 +10,7 @@
 class IKxTimeline;
 class KrAutoReframeHelper;
 class KxMediaItem;
+class KxVideoScanner;
 
 /// Finds the crop of every frame of one video: analyzes the video on a thread of its own, or reads a crop track, and
 /// then applies the person's edits with the engine of the dialog. Independent of the analysis service's tasks, so the
@@ -40,7 +41,8 @@ private:
     void Run();
     Analyzed Find();
     Analyzed ReadTrack(std::shared_ptr<KxMediaItem> media) const;
-    Analyzed Analyze(std::shared_ptr<KxMediaItem> media);
+    /// `video` is still open.
+    Analyzed Analyze(std::shared_ptr<KxMediaItem> media, std::unique_ptr<KxVideoScanner> video);
     KxError ReasonNotToAnalyze(const KxMediaItem& media) const;
 
     void ApplyEdits(const Analyzed& analyzed);
