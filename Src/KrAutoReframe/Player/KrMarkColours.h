@@ -8,8 +8,9 @@ namespace KrMarkColours
 {
 inline QColor Of(const QPalette& palette, const QColor& inDark, const QColor& inLight)
 {
+    // A style sheet can make the window's own colour transparent, which reads as black.
     constexpr int middle = 128;
-    return palette.color(QPalette::Window).lightness() < middle ? inDark : inLight;
+    return palette.color(QPalette::WindowText).lightness() > middle ? inDark : inLight;
 }
 
 inline QColor Shot(const QPalette& palette)

@@ -411,24 +411,29 @@ TEST_F(SliderTest, ADoubtfulShotThatWasSeenIsNoLongerAmber)
     }
 }
 
-TEST_F(SliderTest, ChoicesAndLossesTakeTheColoursOfTheThemeThatIsShown)
+TEST_F(SliderTest, MarksTakeTheColoursOfTheThemeThatIsShown)
 {
     using Kind = KrAutoReframePlayerToolSlider::ChoiceMark::Kind;
+    using ShotKind = KrAutoReframePlayerToolSlider::ShotMark::Kind;
     slider->SetChoices({{0, 30, Kind::Followed, QString()}, {30, 60, Kind::Other, QString()}});
     slider->SetGaps({{60, 80, Kind::Doubted, QString()}, {80, 100, Kind::Lost, QString()}});
+    slider->SetShots({{0, 50, ShotKind::Sure, QString()}, {50, 100, ShotKind::Doubtful, QString()}});
     // Of the program's style sheet.
     slider->setStyleSheet(QStringLiteral("#KrUIStyle_ToolBarSlider { background: transparent; }"));
+    const QPalette before = QApplication::palette();
     for (const QColor& window : {QColor(0x20, 0x22, 0x27), QColor(0xFA, 0xFB, 0xFC)}) {
         QPalette palette(window);
         palette.setColor(QPalette::Highlight, window.lightness() < 128 ? Qt::yellow : Qt::blue);
         palette.setColor(QPalette::PlaceholderText, window.lightness() < 128 ? Qt::lightGray : Qt::darkGray);
-        slider->setPalette(palette);
+        QApplication::setPalette(palette);
         const QImage image = Paint(*marks);
         EXPECT_EQ(image.pixelColor(MarkX(15), 1), palette.color(QPalette::Highlight));
         EXPECT_EQ(image.pixelColor(MarkX(45), 1), palette.color(QPalette::PlaceholderText));
         EXPECT_EQ(image.pixelColor(MarkX(70), 1), KrMarkColours::Doubt(palette));
         EXPECT_EQ(image.pixelColor(MarkX(90), 1), KrMarkColours::Loss(palette));
+        EXPECT_EQ(image.pixelColor(MarkX(75), image.height() - 1), KrMarkColours::Doubt(palette));
     }
+    QApplication::setPalette(before);
 }
 
 TEST_F(SliderTest, MarksOfShotsStandOutInDarkAndLightWindows)
