@@ -5,7 +5,9 @@
 namespace
 {
 
-constexpr int MarginPx = 16;
+/// As of a dialog's content, so that both end at the same place.
+constexpr int SideMarginPx = 24;
+constexpr int BottomMarginPx = 16;
 constexpr int GapPx = 8;
 constexpr int ButtonHeightPx = 32;
 
@@ -16,7 +18,7 @@ KxDialogButtonBar::KxDialogButtonBar(QWidget* parent)
     , m_right(new QHBoxLayout)
 {
     auto* layout = new QHBoxLayout(this);
-    layout->setContentsMargins(MarginPx, GapPx, MarginPx, MarginPx);
+    layout->setContentsMargins(SideMarginPx, GapPx, SideMarginPx, BottomMarginPx);
     layout->setSpacing(GapPx);
     layout->addStretch(1);
     m_right->setSpacing(GapPx);

@@ -48,6 +48,17 @@ TEST(HelpDialogTest, EscapeAndTheButtonCloseIt)
     EXPECT_FALSE(dialog.isVisible());
 }
 
+TEST(HelpDialogTest, TheButtonEndsWhereTheKeysEnd)
+{
+    HelpDialog dialog(nullptr);
+    dialog.show();
+    const auto right = [&dialog](const QWidget* widget) {
+        return widget->mapTo(&dialog, widget->rect().topRight()).x();
+    };
+    EXPECT_EQ(right(dialog.findChild<QAbstractButton*>(QStringLiteral("HelpDialog_close"))),
+              right(dialog.findChildren<QLabel*>(QStringLiteral("HelpDialog_key")).last()));
+}
+
 TEST(AboutDialogTest, NamesItsVersionTheLibrariesAndTheLicences)
 {
     const AboutDialog dialog({QStringLiteral("Qt 5.15"), QStringLiteral("SQLite 3.40")}, nullptr);

@@ -159,7 +159,7 @@ TEST(KxDialogButtonBarTest, ButtonsAreAtTheRightInTheGivenOrder)
     bar.resize(480, 56);
     bar.show();
     EXPECT_LT(first->x(), last->x());
-    EXPECT_EQ(last->geometry().right(), 480 - 16 - 1);
+    EXPECT_EQ(last->geometry().right(), 480 - 24 - 1);
     EXPECT_EQ(last->property("buttonKind").toString(), QStringLiteral("primary"));
     EXPECT_EQ(first->property("buttonKind").toString(), QStringLiteral("secondary"));
 }
