@@ -7,6 +7,8 @@
 #include <QDir>
 #include <QHBoxLayout>
 #include <QResizeEvent>
+#include <QStyle>
+#include <QVariant>
 
 namespace
 {
@@ -61,6 +63,13 @@ void KxOpenFileLineEdit::resizeEvent(QResizeEvent* event)
 {
     KxWidget::resizeEvent(event);
     m_edit->setFixedHeight(event->size().height());
+    const bool isCompact = event->size().height() <= HeightPx;
+    if (m_edit->property("compact").toBool() != isCompact) {
+        m_edit->setProperty("compact", isCompact);
+        // The style sheet reads properties only while a widget is polished.
+        m_edit->style()->unpolish(m_edit);
+        m_edit->style()->polish(m_edit);
+    }
     m_button->setFixedSize(event->size().height() + GapPx, event->size().height());
 }
 

@@ -4,6 +4,7 @@
 #include <KxWidgets/KxComboBox.h>
 #include <KxWidgets/KxLabel.h>
 #include <KxWidgets/KxLineEdit.h>
+#include <KxWidgets/KxOpenFileLineEdit.h>
 #include <KxWidgets/StringOperation.h>
 
 #include <QClipboard>
@@ -142,6 +143,26 @@ TEST(StringOperationTest, LongTextIsShortenedToTheWidth)
     EXPECT_LE(metrics.horizontalAdvance(right), 268);
     const QString middle = StringOperation::GetElidedString(text, QApplication::font(), 268, Qt::ElideMiddle);
     EXPECT_TRUE(middle.startsWith(text.left(5)) && middle.endsWith(text.right(5)));
+}
+
+TEST(KxOpenFileLineEditTest, ItsTextIsInsetAsInOtherFieldsOfItsHeight)
+{
+    const std::unique_ptr<KxOpenFileLineEdit> folder(KxOpenFileLineEdit::CreateOpenFileLineEdit(nullptr));
+    folder->setStyleSheet(
+        QStringLiteral("QLineEdit { padding: 0px 10px; } QLineEdit[compact=\"true\"] { padding: 0px 6px; }"));
+    folder->SetText(QStringLiteral("/"));
+    folder->show();
+    const auto* const edit = folder->findChild<KxLineEdit*>();
+    for (const int heightPx : {24, 32, 24}) {
+        folder->setFixedSize(300, heightPx);
+        const auto other = std::unique_ptr<KxLineEdit>(KxLineEdit::creartNormalLineEdit(nullptr, heightPx));
+        other->setStyleSheet(folder->styleSheet());
+        other->setText(folder->Text());
+        other->show();
+        EXPECT_EQ(edit->inputMethodQuery(Qt::ImCursorRectangle).toRect().x(),
+                  other->inputMethodQuery(Qt::ImCursorRectangle).toRect().x())
+            << heightPx;
+    }
 }
 
 TEST(KxLabelTest, OnlyAnElidedLabelMayBeNarrowerThanItsText)
