@@ -12,6 +12,8 @@ public:
     static KxComboBox* CreateComboBox(QWidget* parent);
     ~KxComboBox() override;
 
+    void hidePopup() override;
+
 protected:
     void wheelEvent(QWheelEvent* event) override;
 

@@ -1,6 +1,7 @@
 #include <KxWidgets/KxComboBox.h>
 
 #include <QAbstractItemView>
+#include <QCursor>
 #include <QStyledItemDelegate>
 #include <QWheelEvent>
 
@@ -21,6 +22,16 @@ KxComboBox* KxComboBox::CreateComboBox(QWidget* parent)
 }
 
 KxComboBox::~KxComboBox() = default;
+
+void KxComboBox::hidePopup()
+{
+    QComboBox::hidePopup();
+    // While the list has the mouse, the box is not told that the mouse has left it.
+    if (!rect().contains(mapFromGlobal(QCursor::pos()))) {
+        setAttribute(Qt::WA_UnderMouse, false);
+        update();
+    }
+}
 
 void KxComboBox::wheelEvent(QWheelEvent* event)
 {

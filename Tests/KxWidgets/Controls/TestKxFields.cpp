@@ -145,6 +145,27 @@ TEST(StringOperationTest, LongTextIsShortenedToTheWidth)
     EXPECT_TRUE(middle.startsWith(text.left(5)) && middle.endsWith(text.right(5)));
 }
 
+TEST(KxComboBoxTest, LooksLeftByTheMouseWhenItsListClosesElsewhere)
+{
+    QWidget window;
+    window.resize(400, 300);
+    KxComboBox* box = KxComboBox::CreateComboBox(&window);
+    box->setGeometry(10, 10, 100, 30);
+    box->addItems({QStringLiteral("9:16"), QStringLiteral("1:1")});
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+    for (const bool ends : {true, false}) {
+        QCursor::setPos(box->mapToGlobal(box->rect().center()));
+        ASSERT_TRUE(QTest::qWaitFor([box] { return box->underMouse(); }));
+        box->showPopup();
+        if (ends) {
+            QCursor::setPos(window.mapToGlobal(QPoint(300, 250)));
+        }
+        box->hidePopup();
+        EXPECT_EQ(box->underMouse(), !ends);
+    }
+}
+
 TEST(KxOpenFileLineEditTest, ItsTextIsInsetAsInOtherFieldsOfItsHeight)
 {
     const std::unique_ptr<KxOpenFileLineEdit> folder(KxOpenFileLineEdit::CreateOpenFileLineEdit(nullptr));
