@@ -86,6 +86,7 @@ void MainWindow::ShowMenu()
 {
     QMenu menu(this);
     menu.setObjectName(QStringLiteral("MainMenu"));
+    m_menu->FollowMenu(menu);
     menu.addAction(tr("Import…"), this, &MainWindow::ChooseFiles)->setShortcut(QKeySequence::Open);
     menu.addAction(tr("Import Folder…"), this, &MainWindow::ChooseFolder);
     AddRecent(*menu.addMenu(tr("Open Recent")));

@@ -2,7 +2,10 @@
 
 #include <KxWidgets/Style/KxGlyph.h>
 
+#include <QActionEvent>
+#include <QCursor>
 #include <QKeyEvent>
+#include <QMenu>
 #include <QRegularExpression>
 #include <QStyleOptionToolButton>
 #include <QStylePainter>
@@ -50,6 +53,17 @@ QString KxToolButton::Glyph() const
     return m_glyph;
 }
 
+void KxToolButton::FollowMenu(const QMenu& menu)
+{
+    // While the menu has the mouse, the button is not told that the mouse has left it.
+    connect(&menu, &QMenu::aboutToHide, this, [this] {
+        if (!rect().contains(mapFromGlobal(QCursor::pos()))) {
+            setAttribute(Qt::WA_UnderMouse, false);
+            update();
+        }
+    });
+}
+
 QSize KxToolButton::sizeHint() const
 {
     ensurePolished();
@@ -68,6 +82,14 @@ QSize KxToolButton::sizeHint() const
 QSize KxToolButton::minimumSizeHint() const
 {
     return sizeHint();
+}
+
+void KxToolButton::actionEvent(QActionEvent* event)
+{
+    QToolButton::actionEvent(event);
+    if (event->type() == QEvent::ActionAdded && event->action()->menu() != nullptr) {
+        FollowMenu(*event->action()->menu());
+    }
 }
 
 bool KxToolButton::event(QEvent* event)

@@ -9,6 +9,7 @@
 #include <KxWidgets/KxToolTipHelper.h>
 
 #include <QHelpEvent>
+#include <QMenu>
 #include <QSignalSpy>
 #include <QToolTip>
 
@@ -51,6 +52,29 @@ TEST(KxToolButtonTest, GlyphIsPaintedAndFollowsTheState)
     EXPECT_NE(normal, empty);
     button->setEnabled(false);
     EXPECT_NE(button->grab().toImage(), normal);
+}
+
+TEST(KxToolButtonTest, LooksLeftByTheMouseWhenItsMenuClosesElsewhere)
+{
+    QWidget window;
+    window.resize(400, 300);
+    KxToolButton* button = KxToolButton::CreateToolButton(&window, QString());
+    button->move(10, 10);
+    QMenu menu;
+    menu.addAction(QStringLiteral("Thirds"));
+    button->setMenu(&menu);
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+    for (const bool ends : {true, false}) {
+        QCursor::setPos(button->mapToGlobal(button->rect().center()));
+        ASSERT_TRUE(QTest::qWaitFor([button] { return button->underMouse(); }));
+        menu.popup(window.mapToGlobal(QPoint(200, 200)));
+        if (ends) {
+            QCursor::setPos(window.mapToGlobal(QPoint(300, 250)));
+        }
+        menu.close();
+        EXPECT_EQ(button->underMouse(), !ends);
+    }
 }
 
 TEST(KxToolButtonTest, ReturnAndSpacePressIt)
