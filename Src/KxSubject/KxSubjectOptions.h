@@ -62,6 +62,9 @@ struct KxSubjectOptions {
             double wipeMisfit = 0.62;          ///< 0.4 to 0.8: `misfit` for a wipe; shots
             double wipeSimilarity = 0.25;      ///< 0.1 to 0.5: `similarity` for a wipe; shots
             double wipeOutside = 0.2;          ///< 0.1 to 0.4: `outside` for a wipe; shots
+            /// 0.35 to 0.55 of the picture: ends that differ in less of it show something that moves in front of what
+            /// stays; half, by definition
+            double differingPart = 0.5;
             /// 0.15 to 0.4 of the textured blocks in common: the ends belong to one shot; shots: dissolves have 0.1,
             /// a few up to 0.3; a lamp that is switched on leaves little more
             double inCommon = 0.31;

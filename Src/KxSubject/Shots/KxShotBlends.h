@@ -29,7 +29,8 @@ using KxInCommon = std::function<double(std::int64_t first, std::int64_t last)>;
 /// 6. a subject that passes close in front of the camera, or a picture that is shown briefly: the earlier picture soon
 ///    comes back;
 /// 7. a cut: there are no intermediate frames;
-/// 8. two pictures that have much in common, according to a function that knows the camera's movement.
+/// 8. two pictures that have much in common, according to a function that knows the camera's movement;
+/// 9. something that moves while more than half of the picture stays as it is.
 class KXSUBJECT_API KxShotBlends
 {
 public:

@@ -40,6 +40,16 @@ int SquaredDistanceOutside(const KxShotPicture& begin, const KxShotPicture& pict
     return sum;
 }
 
+/// The part of the picture in which the two differ, whatever the amount: 1 for two pictures that have nothing to do
+/// with each other, whose differences are about normally distributed; half of that where they agree in half of the
+/// picture; up to pi / 2 where all differences are the same.
+double PartThatDiffers(const KxShotPicture& left, const KxShotPicture& right)
+{
+    constexpr double normal = 2.0 / CV_PI; ///< squared mean of absolute values over the mean square
+    const double sum = cv::norm(MatOf(left), MatOf(right), cv::NORM_L1);
+    return sum * sum / (normal * std::max(1.0, Points * SquaredDistance(left, right)));
+}
+
 /// -1 to 1: how well the middle of `other` matches a part of `picture`, moved or zoomed.
 double SimilarityMoved(const KxShotPicture& picture, const KxShotPicture& other)
 {
@@ -112,7 +122,7 @@ KxShotWindow::Sort KxShotWindow::SortOfMiddle() const
     const double covariance = (m_begin.variance + m_end.variance + means - m_distance / Points) / 2.0;
     const double similarity = covariance / std::sqrt(std::max(1.0, m_begin.variance * m_end.variance));
     const bool fade = m_begin.plainSince || m_end.plainSince;
-    if (!fade && similarity >= m_options.similarity) {
+    if (!fade && (similarity >= m_options.similarity || PartThatDiffers(m_begin, m_end) < m_options.differingPart)) {
         return Sort::None;
     }
     const std::size_t span = m_endIndex - m_beginIndex;

@@ -246,6 +246,22 @@ TEST(KxShotBlends, Case8PicturesWithMuchInCommonHaveNoBoundary)
     }
 }
 
+TEST(KxShotBlends, Case9WhatMovesInLessThanHalfOfThePictureIsNotABoundary)
+{
+    // Two people who step aside, each by a width, in opposite directions: every point goes from one to the other.
+    const auto find = [](const cv::Size& body) {
+        return Find(100, [&body](int frame) {
+            cv::Mat picture = Plain(230.0);
+            const int step = cvRound(body.width * Share(frame, 20));
+            picture(cv::Rect({step, 0}, body)).setTo(20);
+            picture(cv::Rect({Size.width - body.width - step, Size.height - body.height}, body)).setTo(20);
+            return picture;
+        });
+    };
+    EXPECT_THAT(find({Size.width / 5, Size.height / 3}), IsEmpty());
+    EXPECT_THAT(find({Size.width / 2, Size.height / 2}), SizeIs(1)) << "all of the picture changes";
+}
+
 TEST(KxShotBlends, WithoutPicturesThereAreNoBlends)
 {
     EXPECT_THAT(Find(0, [](int) { return Plain(0.0); }), IsEmpty());
