@@ -35,7 +35,7 @@ public:
     Impl(const KxSubjectSource& source, const KxSubjectModels& models, const KxSubjectOptions& options)
         : m_sampling(source, options.sampling)
         , m_models{models.objectDetectorFile, models.faces.detectorFile}
-        , m_shots(options.shots,
+        , m_shots(options.shots, options.bars,
                   [this](std::int64_t first, std::int64_t last) { return m_signals.InCommon(first, last); })
         , m_signals(options, {WorkingSize().width, WorkingSize().height}, m_sampling.Source().frameRate, models)
         , m_mouths(options.mouths, m_sampling.Source().frameRate)

@@ -34,21 +34,43 @@ KxShotBlends::KxShotBlends(const KxSubjectOptions::Shots& options, KxInCommon in
 {
 }
 
-void KxShotBlends::AddPicture(std::int64_t frame, const cv::Mat& grey)
+/// `plainSince`: of the picture before.
+void KxShotBlends::Measure(KxShotPicture& picture, std::optional<std::int64_t> plainSince) const
 {
-    KxShotPicture picture;
-    picture.frame = frame;
     cv::Mat small(KxShotPicture::HeightPx, KxShotPicture::WidthPx, CV_8UC1, picture.grey.data());
-    cv::resize(grey, small, small.size(), 0.0, 0.0, cv::INTER_AREA);
+    cv::resize(m_content.empty() ? picture.whole : picture.whole(m_content), small, small.size(), 0.0, 0.0,
+               cv::INTER_AREA);
     cv::Scalar mean;
     cv::Scalar deviation;
     cv::meanStdDev(small, mean, deviation);
     picture.mean = mean[0];
     picture.variance = deviation[0] * deviation[0];
+    picture.plainSince.reset();
     if (deviation[0] < m_options.blends.plainContrast) {
-        picture.plainSince = m_pictures.empty() ? frame : m_pictures.back().plainSince.value_or(frame);
+        picture.plainSince = plainSince.value_or(picture.frame);
     }
-    m_pictures.push_back(picture);
+}
+
+void KxShotBlends::SetContent(const cv::Rect& content)
+{
+    if (content == m_content) {
+        return;
+    }
+    m_content = content;
+    std::optional<std::int64_t> plainSince;
+    for (KxShotPicture& picture : m_pictures) {
+        Measure(picture, plainSince);
+        plainSince = picture.plainSince;
+    }
+}
+
+void KxShotBlends::AddPicture(std::int64_t frame, const cv::Mat& grey)
+{
+    const std::optional<std::int64_t> plainSince = m_pictures.empty() ? std::nullopt : m_pictures.back().plainSince;
+    KxShotPicture& picture = m_pictures.emplace_back();
+    picture.frame = frame;
+    picture.whole = grey.clone();
+    Measure(picture, plainSince);
     if (m_pictures.size() > Spans.back() + 2 * KxShotWindow::Reach(Spans.back()) + 1) {
         m_pictures.pop_front();
     }

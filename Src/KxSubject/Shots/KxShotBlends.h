@@ -38,6 +38,9 @@ public:
 
     /// `grey` is CV_8UC1, of any size; `frame` grows from call to call.
     void AddPicture(std::int64_t frame, const cv::Mat& grey);
+    /// The part of the pictures, of those before, too, in which they are compared from now on: inside black bars. All
+    /// of the picture at first.
+    void SetContent(const cv::Rect& content);
 
     /// In order of time; they do not overlap.
     std::vector<KxShotBoundary> Found() const;
@@ -56,11 +59,13 @@ private:
     };
     bool IsExplained(const KxShotWindow::Passage& passage) const;
     void LookAt(std::size_t begin, std::size_t end, Parts& parts) const;
+    void Measure(KxShotPicture& picture, std::optional<std::int64_t> plainSince) const;
     static void Keep(std::vector<Part>& parts, const Part& part);
     std::vector<KxShotBoundary> FadesOf(const Parts& parts) const;
 
     KxSubjectOptions::Shots m_options;
     KxInCommon m_inCommon;
+    cv::Rect m_content;                   ///< empty: all of the picture
     std::deque<KxShotPicture> m_pictures; ///< the newest last
     Parts m_parts;
 };

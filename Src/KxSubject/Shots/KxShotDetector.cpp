@@ -17,6 +17,11 @@ constexpr std::size_t FlashReach = 4;
 constexpr std::size_t BrightFlashReach = 7;
 constexpr std::ptrdiff_t ManyPictures = 6;
 
+cv::Size SizePx()
+{
+    return {KxSubjectSampling::ShotSize.width, KxSubjectSampling::ShotSize.height};
+}
+
 bool IsInside(const KxShotBoundary& cut, const KxShotBoundary& blend, std::int64_t margin)
 {
     return cut.frame >= blend.first - margin && cut.frame <= blend.last + margin;
@@ -24,8 +29,11 @@ bool IsInside(const KxShotBoundary& cut, const KxShotBoundary& blend, std::int64
 
 } // namespace
 
-KxShotDetector::KxShotDetector(const KxSubjectOptions::Shots& options, KxInCommon inCommon)
+KxShotDetector::KxShotDetector(const KxSubjectOptions::Shots& options, const KxSubjectOptions::Bars& bars,
+                               KxInCommon inCommon)
     : m_options(options)
+    , m_bars(bars, SizePx())
+    , m_content({0, 0}, SizePx())
     , m_blends(options, std::move(inCommon))
 {
 }
@@ -52,38 +60,56 @@ void KxShotDetector::Reserve(std::int64_t pictures)
     m_changes.reserve(static_cast<std::size_t>(std::clamp<std::int64_t>(pictures, 0, mostPictures)));
 }
 
-void KxShotDetector::AddPicture(std::int64_t frame, const cv::Mat& picture)
+void KxShotDetector::Measure(Picture& picture) const
 {
-    cv::Mat small;
-    cv::Mat grey;
-    constexpr KxIntSize size = KxSubjectSampling::ShotSize;
-    cv::resize(picture, small, cv::Size(size.width, size.height), 0.0, 0.0, cv::INTER_AREA);
-    cv::cvtColor(small, grey, cv::COLOR_BGR2GRAY);
     cv::Scalar mean;
     cv::Scalar deviation;
-    cv::meanStdDev(grey, mean, deviation);
-    const Histogram colours = ColoursOf(small);
+    cv::meanStdDev(picture.grey(m_content), mean, deviation);
+    picture.mean = mean[0];
+    picture.deviation = deviation[0];
+    picture.colours = ColoursOf(picture.colour(m_content));
+}
 
-    m_pictures.push_back({grey, mean[0], deviation[0]});
+void KxShotDetector::FindContent()
+{
+    m_bars.AddPicture(m_pictures.back().grey);
+    const cv::Rect content = m_bars.Content();
+    if (content == m_content) {
+        Measure(m_pictures.back());
+        return;
+    }
+    m_content = content;
+    m_blends.SetContent(content);
+    for (Picture& picture : m_pictures) {
+        Measure(picture);
+    }
+}
+
+void KxShotDetector::AddPicture(std::int64_t frame, const cv::Mat& picture)
+{
+    Picture& newest = m_pictures.emplace_back();
+    cv::resize(picture, newest.colour, SizePx(), 0.0, 0.0, cv::INTER_AREA);
+    cv::cvtColor(newest.colour, newest.grey, cv::COLOR_BGR2GRAY);
+    FindContent();
     KxPictureChange& change = m_changes.emplace_back();
     change.frame = static_cast<std::int32_t>(frame);
     if (m_pictures.size() > 1) {
+        const Histogram& before = Earlier(1).colours;
         int moved = 0;
-        for (std::size_t i = 0; i < colours.size(); ++i) {
-            moved += std::abs(colours[i] - m_lastColours[i]);
+        for (std::size_t i = 0; i < before.size(); ++i) {
+            moved += std::abs(newest.colours[i] - before[i]);
         }
-        change.colour = static_cast<float>(moved) / static_cast<float>(2 * small.total());
+        change.colour = static_cast<float>(moved) / static_cast<float>(2 * m_content.area());
         change.grey = static_cast<float>(DifferenceTo(Earlier(1)));
         change.similarity = cv::saturate_cast<std::uint8_t>(255.0 * SimilarityTo(Earlier(1)));
     }
     for (std::size_t back = 2; back < m_pictures.size(); ++back) {
         LookForReturn(back);
     }
-    m_lastColours = colours;
     if (m_pictures.size() > ReturnReach + 1) {
         m_pictures.pop_front();
     }
-    m_blends.AddPicture(frame, grey);
+    m_blends.AddPicture(frame, m_pictures.back().grey);
 }
 
 const KxShotDetector::Picture& KxShotDetector::Earlier(std::size_t pictures) const
@@ -94,7 +120,7 @@ const KxShotDetector::Picture& KxShotDetector::Earlier(std::size_t pictures) con
 double KxShotDetector::DifferenceTo(const Picture& earlier) const
 {
     const cv::Mat& grey = m_pictures.back().grey;
-    return cv::norm(grey, earlier.grey, cv::NORM_L1) / static_cast<double>(grey.total());
+    return cv::norm(grey(m_content), earlier.grey(m_content), cv::NORM_L1) / m_content.area();
 }
 
 double KxShotDetector::SimilarityTo(const Picture& earlier) const
@@ -103,7 +129,7 @@ double KxShotDetector::SimilarityTo(const Picture& earlier) const
     constexpr double noise = 4.0;
     const Picture& newest = m_pictures.back();
     const double covariance =
-        newest.grey.dot(earlier.grey) / static_cast<double>(newest.grey.total()) - newest.mean * earlier.mean;
+        newest.grey(m_content).dot(earlier.grey(m_content)) / m_content.area() - newest.mean * earlier.mean;
     return covariance / (newest.deviation * earlier.deviation + noise);
 }
 

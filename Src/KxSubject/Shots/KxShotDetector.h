@@ -2,6 +2,7 @@
 
 #include <KxCore/KxExport.h>
 
+#include <KxSubject/Shots/KxBarDetector.h>
 #include <KxSubject/Shots/KxShotBlends.h>
 #include <KxSubject/Shots/KxShotCuts.h>
 
@@ -23,12 +24,14 @@
 /// 6. an explosion or a passing object: the earlier picture returns within 24 pictures, and not by a jump,
 /// 7. inside a dissolve or a fade (KxShotBlends), unless it is a cut among many pictures: then there is no dissolve, or
 /// 8. closer than the shortest shot to a dissolve, a fade, a stronger cut or the first picture.
+/// Pictures are compared inside the black bars that all of them have so far: bars would make any two shots similar.
 /// A cut is at its exact frame if that was among the pictures, otherwise at the first picture of the new shot.
 class KXSUBJECT_API KxShotDetector
 {
 public:
     /// `inCommon` is asked about dissolves only, see KxShotBlends.
-    explicit KxShotDetector(const KxSubjectOptions::Shots& options, KxInCommon inCommon = {});
+    KxShotDetector(const KxSubjectOptions::Shots& options, const KxSubjectOptions::Bars& bars,
+                   KxInCommon inCommon = {});
 
     /// Reserves memory for so many pictures.
     void Reserve(std::int64_t pictures);
@@ -43,15 +46,19 @@ private:
     static constexpr int Bins = 12 * 6 * 6;
     using Histogram = std::array<int, Bins>; ///< of points
     struct Picture {
+        cv::Mat colour; ///< with black bars, as `grey`; what follows is measured inside them
         cv::Mat grey;
-        double mean;
-        double deviation;
+        double mean = 0.0;
+        double deviation = 0.0;
+        Histogram colours{};
     };
     struct Candidate {
         KxShotBoundary boundary;
         double strength;
     };
     static Histogram ColoursOf(const cv::Mat& small);
+    void Measure(Picture& picture) const;
+    void FindContent();
     const Picture& Earlier(std::size_t pictures) const;
     double DifferenceTo(const Picture& earlier) const;
     double SimilarityTo(const Picture& earlier) const;
@@ -61,8 +68,9 @@ private:
     std::vector<Candidate> Candidates() const;
 
     KxSubjectOptions::Shots m_options;
+    KxBarDetector m_bars;
+    cv::Rect m_content; ///< of the pictures so far, inside black bars
     std::vector<KxPictureChange> m_changes;
     std::deque<Picture> m_pictures; ///< the newest last
-    Histogram m_lastColours{};
     KxShotBlends m_blends;
 };

@@ -2,6 +2,8 @@
 
 #include <KxSubject/KxSubjectOptions.h>
 
+#include <opencv2/core/mat.hpp>
+
 #include <array>
 #include <cstdint>
 #include <deque>
@@ -15,6 +17,7 @@ struct KxShotPicture {
     using Grey = std::array<std::uint8_t, WidthPx * HeightPx>;
 
     std::int64_t frame = 0;
+    cv::Mat whole; ///< with black bars; the rest is inside them
     double mean = 0.0;
     double variance = 0.0;
     std::optional<std::int64_t> plainSince; ///< the first frame of the plain pictures around this one

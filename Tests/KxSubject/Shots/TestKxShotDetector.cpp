@@ -19,7 +19,7 @@ constexpr double FrameRate = 25.0;
 
 std::vector<KxShotBoundary> Boundaries(int frames, const std::function<cv::Mat(int frame)>& draw, int step = 1)
 {
-    KxShotDetector detector(KxSubjectOptions().shots);
+    KxShotDetector detector(KxSubjectOptions().shots, KxSubjectOptions().bars);
     detector.Reserve(frames);
     for (int frame = 0; frame < frames; frame += step) {
         detector.AddPicture(frame, draw(frame));
@@ -49,6 +49,22 @@ std::function<cv::Mat(int)> Shots(const std::vector<int>& starts)
         return Shot(Scene(static_cast<std::uint64_t>(shot) + 1), frame);
     };
 }
+
+double Share(int frame, int length)
+{
+    return std::clamp((frame - 30.0) / length, 0.0, 1.0);
+}
+
+/// What is inside a part of the picture, between black bars.
+cv::Mat Barred(const cv::Mat& picture, const cv::Rect& inside)
+{
+    cv::Mat barred = Plain(16.0);
+    picture(inside).copyTo(barred(inside));
+    return barred;
+}
+
+const cv::Rect Upright(Size.width * 7 / 20, 0, Size.width * 3 / 10, Size.height);
+const cv::Rect Wide(0, Size.height * 3 / 10, Size.width, Size.height * 2 / 5);
 
 } // namespace
 
@@ -81,7 +97,7 @@ TEST(KxShotDetector, Case8AShotOfExactlyTheMinimumLengthIsKeptAndAShorterOneIsNo
     options.minimumShotSeconds = 0.25;
     constexpr double rate = 32.0; // 8 frames, with no rounding
     const auto cuts = [&options](const std::vector<int>& starts) {
-        KxShotDetector detector(options);
+        KxShotDetector detector(options, KxSubjectOptions().bars);
         for (int frame = 0; frame < 90; ++frame) {
             detector.AddPicture(frame, Shots(starts)(frame));
         }
@@ -186,6 +202,62 @@ TEST(KxShotDetector, Case7AFadeOutThatEndsInACutIsACutOnItsFrame)
     ASSERT_THAT(found, SizeIs(1));
     EXPECT_EQ(found[0].frame, 50);
     EXPECT_EQ(found[0].kind, KxShotBoundaryKind::Cut);
+}
+
+TEST(KxShotDetector, BetweenBlackBarsACutIsFound)
+{
+    const cv::Mat one = Scene(4);
+    const cv::Mat other = Scene(5);
+    EXPECT_THAT(
+        Cuts(75, [&](int frame) { return Barred(Shot(frame >= 31 && frame < 52 ? other : one, frame), Upright); }),
+        ElementsAre(31, 52));
+}
+
+TEST(KxShotDetector, BetweenBlackBarsADissolveIsFound)
+{
+    const cv::Mat one = Scene(1);
+    const cv::Mat other = Scene(2);
+    const auto found = Boundaries(
+        90, [&](int frame) { return Barred(Mixed(Shot(one, frame), Shot(other, frame), Share(frame, 20)), Wide); });
+    ASSERT_THAT(found, SizeIs(1));
+    EXPECT_EQ(found[0].kind, KxShotBoundaryKind::Dissolve);
+    EXPECT_NEAR(static_cast<double>(found[0].frame), 40.0, 3.0);
+}
+
+TEST(KxShotDetector, ADissolveOutOfBlackBarsIsFound)
+{
+    const cv::Mat one = Scene(1);
+    const cv::Mat other = Scene(2);
+    const auto found = Boundaries(
+        90, [&](int frame) { return Mixed(Barred(Shot(one, frame), Upright), Shot(other, frame), Share(frame, 20)); });
+    ASSERT_THAT(found, SizeIs(1));
+    EXPECT_EQ(found[0].kind, KxShotBoundaryKind::Dissolve);
+    EXPECT_NEAR(static_cast<double>(found[0].frame), 40.0, 4.0);
+}
+
+TEST(KxShotDetector, AFadeOutOfBlackBarsIsFound)
+{
+    const cv::Mat one = Scene(1);
+    const cv::Mat other = Scene(2);
+    const auto found = Boundaries(100, [&](int frame) {
+        return frame < 42 ? Mixed(Barred(Shot(one, frame), Upright), Plain(16.0), Share(frame, 10))
+                          : Mixed(Plain(16.0), Shot(other, frame), Share(frame - 14, 10));
+    });
+    ASSERT_THAT(found, SizeIs(1));
+    EXPECT_EQ(found[0].kind, KxShotBoundaryKind::Fade);
+    EXPECT_NEAR(static_cast<double>(found[0].frame), 42.0, 3.0);
+}
+
+TEST(KxShotDetector, ShadowsThatAreLitWithinAShotAreNotACut)
+{
+    // They count as bars until then.
+    const cv::Mat scene = Scene(4);
+    EXPECT_THAT(Cuts(90,
+                     [&](int frame) {
+                         const cv::Mat picture = Shot(scene, frame);
+                         return Mixed(Barred(picture, Upright), picture, frame < 40 ? 0.0 : 0.3);
+                     }),
+                IsEmpty());
 }
 
 TEST(KxShotDetector, Case8OneOfTwoNearCutsIsKept)
