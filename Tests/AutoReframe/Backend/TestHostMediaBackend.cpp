@@ -36,14 +36,14 @@ protected:
         return path;
     }
 
-    /// With AAC of 160 kb/s.
+    /// With noise in AAC of 160 kb/s.
     QString MakeClipWithSound()
     {
         MadeVideo::Recipe recipe;
         recipe.size = QSize(192, 108);
         recipe.frames = 50;
         recipe.inputs = QStringList{QStringLiteral("-f"), QStringLiteral("lavfi"), QStringLiteral("-i"),
-                                    QStringLiteral("anoisesrc=amplitude=0.1:seed=1:duration=2")};
+                                    QStringLiteral("aevalsrc=0.2*random(0)-0.1:duration=2")};
         recipe.output =
             QStringList{QStringLiteral("-c:a"), QStringLiteral("aac"), QStringLiteral("-b:a"), QStringLiteral("160k")};
         QString path = m_folder.filePath(QStringLiteral("loud.mp4"));
