@@ -66,6 +66,13 @@ cv::Mat Barred(const cv::Mat& picture, const cv::Rect& inside)
 const cv::Rect Upright(Size.width * 7 / 20, 0, Size.width * 3 / 10, Size.height);
 const cv::Rect Wide(0, Size.height * 3 / 10, Size.width, Size.height * 2 / 5);
 
+void ExpectOne(const std::vector<KxShotBoundary>& found, KxShotBoundaryKind kind, double frame, double tolerance)
+{
+    ASSERT_THAT(found, SizeIs(1));
+    EXPECT_EQ(found[0].kind, kind);
+    EXPECT_NEAR(static_cast<double>(found[0].frame), frame, tolerance);
+}
+
 } // namespace
 
 TEST(KxShotDetector, ACutIsOnItsFrame)
@@ -186,9 +193,7 @@ TEST(KxShotDetector, Case7AShortDissolveIsOneBoundary)
     const auto found = Boundaries(75, [&](int frame) {
         return Mixed(Shot(one, frame), Shot(other, frame), std::clamp((frame - 30) / 4.0, 0.0, 1.0));
     });
-    ASSERT_THAT(found, SizeIs(1));
-    EXPECT_EQ(found[0].kind, KxShotBoundaryKind::Dissolve);
-    EXPECT_NEAR(static_cast<double>(found[0].frame), 32.0, 1.0);
+    ExpectOne(found, KxShotBoundaryKind::Dissolve, 32.0, 1.0);
 }
 
 TEST(KxShotDetector, Case7AFadeOutThatEndsInACutIsACutOnItsFrame)
@@ -219,9 +224,7 @@ TEST(KxShotDetector, BetweenBlackBarsADissolveIsFound)
     const cv::Mat other = Scene(2);
     const auto found = Boundaries(
         90, [&](int frame) { return Barred(Mixed(Shot(one, frame), Shot(other, frame), Share(frame, 20)), Wide); });
-    ASSERT_THAT(found, SizeIs(1));
-    EXPECT_EQ(found[0].kind, KxShotBoundaryKind::Dissolve);
-    EXPECT_NEAR(static_cast<double>(found[0].frame), 40.0, 3.0);
+    ExpectOne(found, KxShotBoundaryKind::Dissolve, 40.0, 3.0);
 }
 
 TEST(KxShotDetector, ADissolveOutOfBlackBarsIsFound)
@@ -230,9 +233,7 @@ TEST(KxShotDetector, ADissolveOutOfBlackBarsIsFound)
     const cv::Mat other = Scene(2);
     const auto found = Boundaries(
         90, [&](int frame) { return Mixed(Barred(Shot(one, frame), Upright), Shot(other, frame), Share(frame, 20)); });
-    ASSERT_THAT(found, SizeIs(1));
-    EXPECT_EQ(found[0].kind, KxShotBoundaryKind::Dissolve);
-    EXPECT_NEAR(static_cast<double>(found[0].frame), 40.0, 4.0);
+    ExpectOne(found, KxShotBoundaryKind::Dissolve, 40.0, 4.0);
 }
 
 TEST(KxShotDetector, AFadeOutOfBlackBarsIsFound)
@@ -243,9 +244,7 @@ TEST(KxShotDetector, AFadeOutOfBlackBarsIsFound)
         return frame < 42 ? Mixed(Barred(Shot(one, frame), Upright), Plain(16.0), Share(frame, 10))
                           : Mixed(Plain(16.0), Shot(other, frame), Share(frame - 14, 10));
     });
-    ASSERT_THAT(found, SizeIs(1));
-    EXPECT_EQ(found[0].kind, KxShotBoundaryKind::Fade);
-    EXPECT_NEAR(static_cast<double>(found[0].frame), 42.0, 3.0);
+    ExpectOne(found, KxShotBoundaryKind::Fade, 42.0, 3.0);
 }
 
 TEST(KxShotDetector, ShadowsThatAreLitWithinAShotAreNotACut)
