@@ -18,8 +18,10 @@ namespace
 
 std::atomic_int openings = 0;
 
-int Open(const char* path, int flags, unsigned mode)
+/// `arguments` are those behind the flags.
+int Open(const char* path, int flags, va_list arguments)
 {
+    const unsigned mode = (flags & O_CREAT) != 0 ? va_arg(arguments, unsigned) : 0;
     if (std::strstr(path, "/clip.") != nullptr) {
         ++openings;
     }
@@ -42,16 +44,16 @@ extern "C" KX_SYMBOL_EXPORT int open(const char* path, int flags, ...)
 {
     va_list arguments;
     va_start(arguments, flags);
-    const unsigned mode = (flags & O_CREAT) != 0 ? va_arg(arguments, unsigned) : 0;
+    const int file = Open(path, flags, arguments);
     va_end(arguments);
-    return Open(path, flags, mode);
+    return file;
 }
 
 extern "C" KX_SYMBOL_EXPORT int open64(const char* path, int flags, ...)
 {
     va_list arguments;
     va_start(arguments, flags);
-    const unsigned mode = (flags & O_CREAT) != 0 ? va_arg(arguments, unsigned) : 0;
+    const int file = Open(path, flags, arguments);
     va_end(arguments);
-    return Open(path, flags, mode);
+    return file;
 }
