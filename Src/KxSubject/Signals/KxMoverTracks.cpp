@@ -36,6 +36,14 @@ KxMoverTracks::KxMoverTracks(const KxSubjectOptions::Movers& options)
 {
 }
 
+void KxMoverTracks::Reserve(std::size_t samples)
+{
+    const auto levels = static_cast<std::size_t>(std::max(m_options.levels, 0));
+    const auto atOnce = static_cast<std::size_t>(std::max(m_options.mostAtOnce, 0));
+    m_ended.reserve(samples * levels);
+    m_endedBoxes.reserve(samples * levels * atOnce);
+}
+
 std::vector<KxMoverTracks::Peak> KxMoverTracks::PeaksOf(const cv::Mat& map) const
 {
     cv::Mat around;
@@ -234,8 +242,8 @@ std::vector<KxMover> KxMoverTracks::Finish()
         movers.push_back({ended.firstSample, ended.seconds, ended.travel, {box, end}});
         box = end;
     }
-    m_ended.clear();
-    m_endedBoxes.clear();
+    m_ended = {};
+    m_endedBoxes = {};
     std::stable_sort(movers.begin(), movers.end(),
                      [](const KxMover& a, const KxMover& b) { return a.firstSample < b.firstSample; });
     return movers;

@@ -8,8 +8,8 @@
 #include <opencv2/core/mat.hpp>
 #include <opencv2/core/matx.hpp>
 
+#include <cstddef>
 #include <cstdint>
-#include <deque>
 #include <optional>
 #include <vector>
 
@@ -21,6 +21,9 @@ class KXSUBJECT_API KxMoverTracks
 {
 public:
     explicit KxMoverTracks(const KxSubjectOptions::Movers& options);
+
+    /// Reserves address space for what so many samples can hold; see KxSignalRecorder::Reserve().
+    void Reserve(std::size_t samples);
 
     /// The next sample's motion map (of KxMotionMap, all of one size) and its time. `camera` maps the previous sample
     /// onto this one, in pixels of the picture; without it every track ends, because the scene is another.
@@ -79,6 +82,6 @@ private:
     double m_nowSeconds = 0.0;
     double m_gapSeconds = 0.0;              ///< since the sample before
     std::vector<std::vector<Track>> m_open; ///< by level
-    std::deque<Ended> m_ended;
-    std::deque<KxMover::PackedBox> m_endedBoxes;
+    std::vector<Ended> m_ended;
+    std::vector<KxMover::PackedBox> m_endedBoxes;
 };

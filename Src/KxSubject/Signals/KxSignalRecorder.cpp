@@ -43,7 +43,9 @@ void KxSignalRecorder::Reserve(std::int64_t frameCount)
     // A header may claim any length: beyond four hours, memory grows with the pictures.
     constexpr double mostSamples = 160000.0;
     const double samples = SecondsAt(frameCount) * m_options.sampling.samplesPerSecond + 1.0;
-    m_samples.reserve(static_cast<std::size_t>(std::min(samples, mostSamples)));
+    const auto reserved = static_cast<std::size_t>(std::min(samples, mostSamples));
+    m_samples.reserve(reserved);
+    m_movers.Reserve(reserved);
 }
 
 std::array<KxPackedProfile, 2> KxSignalRecorder::Profiles(const cv::Mat& map, const cv::Rect& region) const
