@@ -1,5 +1,6 @@
 #include <KxRender/KxRenderer.h>
 
+#include <KxCore/KxMemory.h>
 #include <KxCore/KxSystemFile.h>
 #include <KxCore/KxThread.h>
 #include <KxMedia/Read/KxVideoReader.h>
@@ -188,23 +189,28 @@ KxError Rendering::AddAll(KxPictureFeed& pictures, const KxRational& rate)
 
 KxRenderResult Rendering::Render(const KxOutputGrid& grid)
 {
-    KxPictureFeed pictures(*m_reader, m_source, grid, {m_size, m_frames, m_settings.format.highRange}, m_cancel);
-    if (KxError error = AddAll(pictures, grid.Rate())) {
+    const KxPictureFeed::Target target{m_size, m_frames, m_settings.format.highRange};
+    auto pictures = std::make_unique<KxPictureFeed>(*m_reader, m_source, grid, target, m_cancel);
+    if (KxError error = AddAll(*pictures, grid.Rate())) {
         return Failed(*error);
     }
     if (m_cancel.IsCancelled()) {
         return Cancelled();
     }
-    if (KxError failure = pictures.Failure()) {
+    if (KxError failure = pictures->Failure()) {
         return Failed(*failure);
     }
     if (m_written == 0) {
         return Failed(Texts::tr("Cannot render %1: it is damaged.").arg(m_source.Name()));
     }
-    if (pictures.EndedEarly()) {
+    if (pictures->EndedEarly()) {
         Warn(Texts::tr("%1 is damaged or incomplete: only %2 of %3 frames could be rendered.")
                  .arg(m_source.Name(), QString::number(m_written), QString::number(m_frames.Count())));
     }
+    // The index of a long result takes memory while it is written: what was needed to read pictures is freed before.
+    pictures.reset();
+    m_reader.reset();
+    KxMemory::ReturnUnused();
     return Finish();
 }
 
