@@ -8,6 +8,7 @@
 #include <KxSubject/Signals/KxOpenCvError.h>
 #include <KxSubject/Signals/KxSignalRecorder.h>
 
+#include <algorithm>
 #include <array>
 
 namespace
@@ -40,7 +41,11 @@ public:
         , m_signals(options, {WorkingSize().width, WorkingSize().height}, m_sampling.Source().frameRate, models)
         , m_mouths(options.mouths, m_sampling.Source().frameRate)
     {
-        m_shots.Reserve(m_sampling.Source().frameCount);
+        // A header may claim any length: beyond four hours, memory grows with the pictures.
+        constexpr std::int64_t mostPictures = 500000;
+        const auto pictures = static_cast<std::size_t>(std::min(m_sampling.Source().frameCount, mostPictures));
+        m_shots.Reserve(pictures);
+        m_prints.reserve(pictures);
         m_signals.Reserve(m_sampling.Source().frameCount);
     }
 

@@ -3,85 +3,96 @@
 #include <algorithm>
 #include <cmath>
 
-namespace
+KxShotCuts::KxShotCuts(const KxSubjectOptions::Shots& options)
+    : m_options(options)
+    , m_reach(static_cast<std::size_t>(options.neighbours))
 {
+}
 
-double UsualAround(const std::vector<KxPictureChange>& changes, std::size_t at, float KxPictureChange::*value,
-                   const KxSubjectOptions::Shots& options)
+void KxShotCuts::Add(const KxPictureChange& change)
 {
-    const auto reach = static_cast<std::size_t>(options.neighbours);
-    const std::size_t first = at > reach ? at - reach : 1;
-    const std::size_t end = std::min(changes.size(), at + reach + 1);
+    m_changes.push_back(change);
+    for (; m_judged + std::max(Open, m_reach) < Count(); ++m_judged) {
+        if (IsJump(m_judged)) {
+            m_jumps.push_back({m_judged, At(m_judged)});
+        }
+    }
+    for (; m_first + m_reach < m_judged; ++m_first) {
+        m_changes.pop_front();
+    }
+}
+
+KxPictureChange& KxShotCuts::Newest(std::size_t back)
+{
+    return m_changes[m_changes.size() - 1 - back];
+}
+
+double KxShotCuts::UsualAround(std::size_t index, Value value) const
+{
+    const std::size_t first = index > m_reach ? index - m_reach : 1;
+    const std::size_t end = std::min(Count(), index + m_reach + 1);
     std::vector<float> values;
     for (std::size_t i = first; i < end; ++i) {
-        if (i != at) {
-            values.push_back(changes[i].*value);
+        if (i != index) {
+            values.push_back(At(i).*value);
         }
     }
     if (values.empty()) {
         return 0.0;
     }
     const auto rank =
-        static_cast<std::ptrdiff_t>(std::floor(options.percentile * static_cast<double>(values.size() - 1)));
+        static_cast<std::ptrdiff_t>(std::floor(m_options.percentile * static_cast<double>(values.size() - 1)));
     std::nth_element(values.begin(), values.begin() + rank, values.end());
     return values[static_cast<std::size_t>(rank)];
 }
 
-bool IsLargestNearby(const std::vector<KxPictureChange>& changes, std::size_t at, float KxPictureChange::*value)
+bool KxShotCuts::IsLargestNearby(std::size_t index, Value value) const
 {
-    const bool aboveLast = at == 1 || changes[at].*value >= changes[at - 1].*value;
-    const bool aboveNext = at + 1 == changes.size() || changes[at].*value >= changes[at + 1].*value;
+    const bool aboveLast = index == 1 || At(index).*value >= At(index - 1).*value;
+    const bool aboveNext = index + 1 == Count() || At(index).*value >= At(index + 1).*value;
     return aboveLast && aboveNext;
 }
 
-bool IsJump(const std::vector<KxPictureChange>& changes, std::size_t at, const KxSubjectOptions::Shots& options)
+bool KxShotCuts::IsJump(std::size_t index) const
 {
-    const KxPictureChange& change = changes[at];
-    return KxShotCuts::IsAboveFloors(change, options) && IsLargestNearby(changes, at, &KxPictureChange::grey) &&
-           IsLargestNearby(changes, at, &KxPictureChange::colour) &&
-           change.grey > options.greyRatio * UsualAround(changes, at, &KxPictureChange::grey, options) &&
-           change.colour > options.colourRatio * UsualAround(changes, at, &KxPictureChange::colour, options);
+    const KxPictureChange& change = At(index);
+    return !change.flash && change.similarity <= m_options.lightSimilarity * 255.0 && IsAboveFloors(change) &&
+           IsLargestNearby(index, &KxPictureChange::grey) && IsLargestNearby(index, &KxPictureChange::colour) &&
+           change.grey > m_options.greyRatio * UsualAround(index, &KxPictureChange::grey) &&
+           change.colour > m_options.colourRatio * UsualAround(index, &KxPictureChange::colour);
 }
 
-/// Whether the return from or to the jump `at` is not itself a jump; an insert has two jumps.
-bool EndsWithoutJump(const std::vector<std::size_t>& jumps, const KxPictureChange& change, std::size_t at)
+std::vector<KxPictureChange> KxShotCuts::Find() const
 {
-    const auto between = [&jumps](std::size_t first, std::size_t last) {
-        const auto next = std::lower_bound(jumps.begin(), jumps.end(), first);
-        return next != jumps.end() && *next <= last;
-    };
-    const bool after = change.backAfter > 0 && !between(at + 1, at + change.backAfter);
-    const bool before = change.backBefore > 0 && !between(at - change.backBefore, at - 1);
-    return after || before;
-}
-
-} // namespace
-
-bool KxShotCuts::IsAboveFloors(const KxPictureChange& change, const KxSubjectOptions::Shots& options)
-{
-    return change.grey > options.greyFloor && change.colour > options.colourFloor;
-}
-
-std::vector<std::size_t> KxShotCuts::Find(const std::vector<KxPictureChange>& changes,
-                                          const KxSubjectOptions::Shots& options)
-{
-    std::vector<std::size_t> jumps;
-    for (std::size_t i = 1; i < changes.size(); ++i) {
-        if (!changes[i].flash && changes[i].similarity <= options.lightSimilarity * 255.0 &&
-            IsJump(changes, i, options)) {
-            jumps.push_back(i);
+    std::vector<Jump> jumps = m_jumps;
+    for (std::size_t i = m_judged; i < Count(); ++i) {
+        if (IsJump(i)) {
+            jumps.push_back({i, At(i)});
         }
     }
-    std::vector<std::size_t> cuts;
-    for (const std::size_t i : jumps) {
-        if (!EndsWithoutJump(jumps, changes[i], i)) {
-            cuts.push_back(i);
+    const auto isJumpIn = [&jumps](std::size_t first, std::size_t last) {
+        const auto next = std::lower_bound(jumps.begin(), jumps.end(), first,
+                                           [](const Jump& jump, std::size_t index) { return jump.index < index; });
+        return next != jumps.end() && next->index <= last;
+    };
+    std::vector<KxPictureChange> cuts;
+    for (const auto& [index, change] : jumps) {
+        // An insert begins and ends with a jump.
+        const bool after = change.backAfter > 0 && !isJumpIn(index + 1, index + change.backAfter);
+        const bool before = change.backBefore > 0 && !isJumpIn(index - change.backBefore, index - 1);
+        if (!after && !before) {
+            cuts.push_back(change);
         }
     }
     return cuts;
 }
 
-double KxShotCuts::Strength(const KxPictureChange& change, const KxSubjectOptions::Shots& options)
+bool KxShotCuts::IsAboveFloors(const KxPictureChange& change) const
 {
-    return change.grey / options.greyFloor + change.colour / options.colourFloor;
+    return change.grey > m_options.greyFloor && change.colour > m_options.colourFloor;
+}
+
+double KxShotCuts::Strength(const KxPictureChange& change) const
+{
+    return change.grey / m_options.greyFloor + change.colour / m_options.colourFloor;
 }

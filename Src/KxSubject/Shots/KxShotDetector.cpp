@@ -13,6 +13,7 @@ namespace
 {
 
 constexpr std::size_t ReturnReach = 24;
+static_assert(ReturnReach < KxShotCuts::Open);
 constexpr std::size_t FlashReach = 4;
 constexpr std::size_t BrightFlashReach = 7;
 constexpr std::ptrdiff_t ManyPictures = 6;
@@ -34,6 +35,7 @@ KxShotDetector::KxShotDetector(const KxSubjectOptions::Shots& options, const KxS
     : m_options(options)
     , m_bars(bars, SizePx())
     , m_content({0, 0}, SizePx())
+    , m_cuts(options)
     , m_blends(options, std::move(inCommon))
 {
 }
@@ -53,11 +55,9 @@ KxShotDetector::Histogram KxShotDetector::ColoursOf(const cv::Mat& small)
     return histogram;
 }
 
-void KxShotDetector::Reserve(std::int64_t pictures)
+void KxShotDetector::Reserve(std::size_t pictures)
 {
-    // A header may claim any length: beyond four hours, memory grows with the pictures.
-    constexpr std::int64_t mostPictures = 500000;
-    m_changes.reserve(static_cast<std::size_t>(std::clamp<std::int64_t>(pictures, 0, mostPictures)));
+    m_frames.reserve(pictures);
 }
 
 void KxShotDetector::Measure(Picture& picture) const
@@ -91,8 +91,9 @@ void KxShotDetector::AddPicture(std::int64_t frame, const cv::Mat& picture)
     cv::resize(picture, newest.colour, SizePx(), 0.0, 0.0, cv::INTER_AREA);
     cv::cvtColor(newest.colour, newest.grey, cv::COLOR_BGR2GRAY);
     FindContent();
-    KxPictureChange& change = m_changes.emplace_back();
-    change.frame = static_cast<std::int32_t>(frame);
+    m_frames.push_back(static_cast<std::int32_t>(frame));
+    KxPictureChange change;
+    change.frame = m_frames.back();
     if (m_pictures.size() > 1) {
         const Histogram& before = Earlier(1).colours;
         int moved = 0;
@@ -103,6 +104,7 @@ void KxShotDetector::AddPicture(std::int64_t frame, const cv::Mat& picture)
         change.grey = static_cast<float>(DifferenceTo(Earlier(1)));
         change.similarity = cv::saturate_cast<std::uint8_t>(255.0 * SimilarityTo(Earlier(1)));
     }
+    m_cuts.Add(change);
     for (std::size_t back = 2; back < m_pictures.size(); ++back) {
         LookForReturn(back);
     }
@@ -148,10 +150,10 @@ bool KxShotDetector::IsFlash(std::size_t back) const
 
 void KxShotDetector::LookForReturn(std::size_t back)
 {
-    KxPictureChange& away = m_changes[m_changes.size() - back];
-    KxPictureChange& home = m_changes.back();
-    const bool awayAsks = KxShotCuts::IsAboveFloors(away, m_options) && away.backAfter == 0;
-    const bool homeAsks = KxShotCuts::IsAboveFloors(home, m_options) && home.backBefore == 0;
+    KxPictureChange& away = m_cuts.Newest(back - 1);
+    KxPictureChange& home = m_cuts.Newest(0);
+    const bool awayAsks = m_cuts.IsAboveFloors(away) && away.backAfter == 0;
+    const bool homeAsks = m_cuts.IsAboveFloors(home) && home.backBefore == 0;
     if (!awayAsks && !homeAsks) {
         return;
     }
@@ -177,21 +179,15 @@ void KxShotDetector::LookForReturn(std::size_t back)
 
 std::ptrdiff_t KxShotDetector::PicturesIn(const KxShotBoundary& boundary) const
 {
-    const auto first =
-        std::lower_bound(m_changes.begin(), m_changes.end(), boundary.first,
-                         [](const KxPictureChange& change, std::int64_t frame) { return change.frame < frame; });
-    const auto end =
-        std::upper_bound(first, m_changes.end(), boundary.last,
-                         [](std::int64_t frame, const KxPictureChange& change) { return frame < change.frame; });
-    return end - first;
+    const auto first = std::lower_bound(m_frames.begin(), m_frames.end(), boundary.first);
+    return std::upper_bound(first, m_frames.end(), boundary.last) - first;
 }
 
 std::vector<KxShotDetector::Candidate> KxShotDetector::Candidates() const
 {
     std::vector<Candidate> cuts;
-    for (const std::size_t i : KxShotCuts::Find(m_changes, m_options)) {
-        const std::int64_t frame = m_changes[i].frame;
-        cuts.push_back({{frame, frame, frame, KxShotBoundaryKind::Cut}, KxShotCuts::Strength(m_changes[i], m_options)});
+    for (const KxPictureChange& cut : m_cuts.Find()) {
+        cuts.push_back({{cut.frame, cut.frame, cut.frame, KxShotBoundaryKind::Cut}, m_cuts.Strength(cut)});
     }
     std::vector<Candidate> candidates;
     for (const KxShotBoundary& blend : m_blends.Found()) {

@@ -34,7 +34,7 @@ public:
                    KxInCommon inCommon = {});
 
     /// Reserves memory for so many pictures.
-    void Reserve(std::int64_t pictures);
+    void Reserve(std::size_t pictures);
 
     /// `picture` is CV_8UC3 in BGR order, of any size; `frame` grows from call to call.
     void AddPicture(std::int64_t frame, const cv::Mat& picture);
@@ -70,7 +70,8 @@ private:
     KxSubjectOptions::Shots m_options;
     KxBarDetector m_bars;
     cv::Rect m_content; ///< of the pictures so far, inside black bars
-    std::vector<KxPictureChange> m_changes;
-    std::deque<Picture> m_pictures; ///< the newest last
+    KxShotCuts m_cuts;
+    std::vector<std::int32_t> m_frames; ///< of all pictures
+    std::deque<Picture> m_pictures;     ///< the newest last
     KxShotBlends m_blends;
 };

@@ -30,9 +30,22 @@ KxPictureChange& Jump(std::vector<KxPictureChange>& changes, std::size_t at, flo
     return changes[at];
 }
 
-std::vector<std::size_t> Find(const std::vector<KxPictureChange>& changes)
+std::vector<std::int32_t> FramesOf(const std::vector<KxPictureChange>& cuts)
 {
-    return KxShotCuts::Find(changes, KxSubjectOptions().shots);
+    std::vector<std::int32_t> frames;
+    for (const KxPictureChange& cut : cuts) {
+        frames.push_back(cut.frame);
+    }
+    return frames;
+}
+
+std::vector<std::int32_t> Find(const std::vector<KxPictureChange>& changes)
+{
+    KxShotCuts cuts(KxSubjectOptions().shots);
+    for (const KxPictureChange& change : changes) {
+        cuts.Add(change);
+    }
+    return FramesOf(cuts.Find());
 }
 
 } // namespace
@@ -124,4 +137,29 @@ TEST(KxShotCuts, Case6AnInsertHasTwoCuts)
     Jump(changes, 20).backAfter = 12;
     Jump(changes, 32).backBefore = 12;
     EXPECT_THAT(Find(changes), ElementsAre(20, 32));
+}
+
+TEST(KxShotCuts, ACutStaysFoundHoweverManyPicturesFollow)
+{
+    auto changes = Calm(30);
+    Jump(changes, 20);
+    while (changes.size() < 150) {
+        changes.push_back(Calm(150)[changes.size()]);
+        EXPECT_THAT(Find(changes), ElementsAre(20)) << changes.size();
+    }
+}
+
+TEST(KxShotCuts, WhatIsLearnedOfAnOpenChangeCounts)
+{
+    KxShotCuts cuts(KxSubjectOptions().shots);
+    auto changes = Calm(150);
+    Jump(changes, 60);
+    Jump(changes, 90);
+    for (std::size_t i = 0; i < changes.size(); ++i) {
+        cuts.Add(changes[i]);
+        if (i == 60 + KxShotCuts::Open - 1) {
+            cuts.Newest(KxShotCuts::Open - 1).flash = true;
+        }
+    }
+    EXPECT_THAT(FramesOf(cuts.Find()), ElementsAre(90));
 }

@@ -20,7 +20,7 @@ constexpr double FrameRate = 25.0;
 std::vector<KxShotBoundary> Boundaries(int frames, const std::function<cv::Mat(int frame)>& draw, int step = 1)
 {
     KxShotDetector detector(KxSubjectOptions().shots, KxSubjectOptions().bars);
-    detector.Reserve(frames);
+    detector.Reserve(static_cast<std::size_t>(frames));
     for (int frame = 0; frame < frames; frame += step) {
         detector.AddPicture(frame, draw(frame));
     }
