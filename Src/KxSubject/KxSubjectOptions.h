@@ -17,10 +17,7 @@
 struct KxSubjectOptions {
     struct Sampling {
         int workingLongSidePx = 320;    ///< 240 to 480; trial: 160 loses small subjects
-        int workingShortSideMinPx = 32; ///< 16 to 64; keeps a very flat picture usable; chosen
         double samplesPerSecond = 10.0; ///< 5 to 30; trial: more gave no gain
-        /// 25 to 120: pictures beyond this rate only cost; 25 or more keeps cuts on their frame; chosen
-        double wantedPicturesPerSecond = 60.0;
     } sampling;
 
     struct Shots {
@@ -85,23 +82,17 @@ struct KxSubjectOptions {
         int blackLevel = 22;        ///< 16 to 40 of 255; trial
         double brightShare = 0.02;  ///< 0 to 0.05 of a row or column may be brighter in a bar; trial (98th percentile)
         double minimumShare = 0.03; ///< 0.01 to 0.1 of the side; trial
-        double maximumShare = 0.4;  ///< 0.2 to 0.45 of the side: more is a dark picture rather than a bar; chosen
-        /// 0 to 0.05 of the side: opposite bars differ by no more (a dark floor or sky has no counterpart); chosen
-        double asymmetryShare = 0.02;
-        int insetPx = 1; ///< 0 to 2: the row at a bar's edge is half bar, half picture; chosen
     } bars;
 
     /// Lengths in pixels are of pictures of half the size.
     struct Camera {
-        double gapMaximumSeconds = 0.6; ///< 0.3 to 1: beyond it a scene has changed too much to compare; chosen
-        int cellsAlong = 8;             ///< 4 to 12 parts of the longer side, each with corners of its own; clips
-        int cellsAcross = 5;            ///< 3 to 8 of the shorter side; clips
-        int cornersInCell = 4;          ///< 4 to 10; clips: 6 the same; about 150 in all
-        double cornerQuality = 0.0005;  ///< 0 to 0.01 of the best corner; low for plain backgrounds; clips
-        int cornerDistancePx = 2;       ///< 1 to 3 each way in which a corner is the strongest; clips
-        double inlierPx = 0.5;          ///< 0.25 to 1.25; clips
-        int leastFollowed = 12;         ///< 6 to 30 corners; with fewer the camera counts as static; chosen
-        double agreeingShare = 0.08;    ///< 0.05 to 0.13 of the corners; clips: across cuts less, in a shot more
+        int cellsAlong = 8;            ///< 4 to 12 parts of the longer side, each with corners of its own; clips
+        int cellsAcross = 5;           ///< 3 to 8 of the shorter side; clips
+        int cornersInCell = 4;         ///< 4 to 10; clips: 6 the same; about 150 in all
+        double cornerQuality = 0.0005; ///< 0 to 0.01 of the best corner; low for plain backgrounds; clips
+        int cornerDistancePx = 2;      ///< 1 to 3 each way in which a corner is the strongest; clips
+        double inlierPx = 0.5;         ///< 0.25 to 1.25; clips
+        double agreeingShare = 0.08;   ///< 0.05 to 0.13 of the corners; clips: across cuts less, in a shot more
     } camera;
 
     struct Motion {
@@ -142,7 +133,6 @@ struct KxSubjectOptions {
     } movers;
 
     struct Saliency {
-        double flatRange = 4.0;   ///< 2 to 10 of 255 from darkest to brightest: less shows nothing; chosen
         int sidePx = 64;          ///< 48 to 96, of the square the spectrum is taken of; trial
         double blurSigmaPx = 2.5; ///< 1.5 to 4, of that square; trial
     } saliency;

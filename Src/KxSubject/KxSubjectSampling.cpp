@@ -6,6 +6,9 @@
 namespace
 {
 
+constexpr int LeastShortSidePx = 32; ///< keeps a very flat picture usable
+/// Pictures beyond this rate only cost; 25 or more keep cuts on their frame.
+constexpr double WantedPicturesPerSecond = 60.0;
 constexpr double UsualFrameRate = 25.0;
 
 KxSubjectSource Checked(KxSubjectSource source)
@@ -24,7 +27,7 @@ KxIntSize WorkingSizeOf(const KxSubjectSource& source, const KxSubjectOptions::S
     const double scale =
         static_cast<double>(options.workingLongSidePx) / std::max(source.pictureWidthPx, source.pictureHeightPx);
     const auto side = [scale, &options](int px) {
-        return std::max(static_cast<int>(std::lrint(px * scale)), options.workingShortSideMinPx);
+        return std::max(static_cast<int>(std::lrint(px * scale)), LeastShortSidePx);
     };
     return {side(source.pictureWidthPx), side(source.pictureHeightPx)};
 }
@@ -36,7 +39,7 @@ KxSubjectSampling::KxSubjectSampling(const KxSubjectSource& source, const KxSubj
     , m_workingSize(WorkingSizeOf(m_source, options))
     , m_samplesPerSecond(options.samplesPerSecond)
     , m_step(std::max<std::int64_t>(
-          1, static_cast<std::int64_t>(std::floor(m_source.frameRate / options.wantedPicturesPerSecond + 0.01))))
+          1, static_cast<std::int64_t>(std::floor(m_source.frameRate / WantedPicturesPerSecond + 0.01))))
 {
 }
 

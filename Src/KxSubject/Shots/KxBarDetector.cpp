@@ -9,6 +9,11 @@
 namespace
 {
 
+constexpr double MaximumShare = 0.4; ///< of the side: more is a dark picture rather than a bar
+/// Of the side: opposite bars differ by no more (a dark floor or sky has no counterpart).
+constexpr double AsymmetryShare = 0.02;
+constexpr int InsetPx = 1; ///< the row at a bar's edge is half bar, half picture
+
 /// First and end of what is not bars along one side.
 std::pair<int, int> Inside(const std::vector<int>& lit, int lengthAcross, const KxSubjectOptions::Bars& options)
 {
@@ -22,12 +27,12 @@ std::pair<int, int> Inside(const std::vector<int>& lit, int lengthAcross, const 
     const int before = static_cast<int>(first - lit.begin());
     const int after = static_cast<int>(std::find_if(lit.rbegin(), lit.rend(), isLit) - lit.rbegin());
     const bool bothThere = before >= options.minimumShare * length && after >= options.minimumShare * length;
-    const bool tooLarge = before > options.maximumShare * length || after > options.maximumShare * length;
-    const bool alike = std::abs(before - after) <= options.asymmetryShare * length + 1.0;
+    const bool tooLarge = before > MaximumShare * length || after > MaximumShare * length;
+    const bool alike = std::abs(before - after) <= AsymmetryShare * length + 1.0;
     if (!bothThere || tooLarge || !alike) {
         return {0, length};
     }
-    return {before + options.insetPx, length - after - options.insetPx};
+    return {before + InsetPx, length - after - InsetPx};
 }
 
 } // namespace

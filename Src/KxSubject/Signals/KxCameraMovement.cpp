@@ -13,7 +13,8 @@
 namespace
 {
 
-constexpr double LeastStrength = 4.0; ///< a slope of a quarter of a grey level
+constexpr std::size_t LeastFollowed = 12; ///< corners; with fewer the camera counts as static
+constexpr double LeastStrength = 4.0;     ///< a slope of a quarter of a grey level
 /// Lucas-Kanade compares eight columns at once: a window of 15 takes nearly twice as long.
 constexpr int WindowPx = 16;
 constexpr int PyramidLevels = 2;
@@ -172,8 +173,7 @@ std::optional<cv::Matx33d> KxCameraMovement::Between(const cv::Mat& before, cons
 std::optional<cv::Matx33d> KxCameraMovement::BetweenHalves(const cv::Mat& before, const cv::Mat& now) const
 {
     const std::vector<cv::Point2f> corners = Corners(before);
-    const auto enough = static_cast<std::size_t>(m_options.leastFollowed);
-    if (corners.size() < enough) {
+    if (corners.size() < LeastFollowed) {
         return cv::Matx33d::eye();
     }
     std::vector<cv::Point2f> moved;
@@ -188,7 +188,7 @@ std::optional<cv::Matx33d> KxCameraMovement::BetweenHalves(const cv::Mat& before
             to.push_back(moved[i]);
         }
     }
-    if (from.size() < enough) {
+    if (from.size() < LeastFollowed) {
         return std::nullopt;
     }
     cv::Mat agrees;

@@ -5,6 +5,13 @@
 #include <algorithm>
 #include <limits>
 
+namespace
+{
+
+constexpr double FlatRange = 4.0; ///< of 255 from darkest to brightest: less shows nothing
+
+} // namespace
+
 KxSaliencyMap::KxSaliencyMap(const KxSubjectOptions::Saliency& options)
     : m_options(options)
 {
@@ -18,7 +25,7 @@ cv::Mat KxSaliencyMap::Of(const cv::Mat& grey) const
     double darkest = 0.0;
     double brightest = 0.0;
     cv::minMaxLoc(small, &darkest, &brightest);
-    if (brightest - darkest < m_options.flatRange) {
+    if (brightest - darkest < FlatRange) {
         return cv::Mat::zeros(square, CV_32F);
     }
     small.convertTo(small, CV_32F);

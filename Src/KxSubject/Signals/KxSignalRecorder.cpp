@@ -10,6 +10,8 @@
 namespace
 {
 
+constexpr double LongestGapSeconds = 0.6; ///< between two samples: beyond it a scene has changed too much to compare
+
 /// The same movement for pixels that are counted from another corner.
 cv::Matx33d From(cv::Point origin, const cv::Matx33d& movement)
 {
@@ -91,7 +93,7 @@ void KxSignalRecorder::DetectObjects(std::int64_t frame, const cv::Mat& picture,
 
 std::optional<cv::Matx33d> KxSignalRecorder::CameraTo(const Picture& now) const
 {
-    if (!m_newest || SecondsAt(now.frame - m_newest->frame) > m_options.camera.gapMaximumSeconds) {
+    if (!m_newest || SecondsAt(now.frame - m_newest->frame) > LongestGapSeconds) {
         return std::nullopt;
     }
     const cv::Rect content = m_bars.Content();
