@@ -112,7 +112,6 @@ struct KxSubjectOptions {
         /// 0.25 to 0.5 of the peak, the middle level: the area above it around the peak is one mover; clips
         double extentShare = 0.345;
         int peakDistancePx = 4; ///< 2 to 8 each way in which a peak is the highest; clips
-        int mostAtOnce = 10;    ///< 5 to 20 per level; bounds the cost of a crowd; chosen
         /// 0.4 to 1.2 of the width: a mover is searched for within this distance of its predicted position; clips
         double reachPerSecond = 0.76;
         double reachBySize = 0.35;  ///< 0 to 0.6 of the root of its area, on top; clips
@@ -126,8 +125,6 @@ struct KxSubjectOptions {
         double secondsAtZero = 0.3; ///< 0 to 1 of being seen, that give no confidence yet; clips
         double secondsToFull = 1.5; ///< 0.5 to 3 beyond, for full confidence; clips
         double fullTravel = 0.15;   ///< 0.1 to 0.3 of the width, relative to the background, for the same; clips
-        double leastSeconds = 0.37; ///< 0.3 to 0.6: a mover that was seen for less is forgotten; chosen
-        double leastTravel = 0.007; ///< 0.003 to 0.03 of the width: one that travelled less, too; chosen
         double areaPower = 0.5;     ///< 0.4 to 0.6: a mover weighs as its box's side, not as its area; clips
         double emptyFloor = 0.1;    ///< 0.05 to 0.2, the sum of weights that gives half of the possible evidence; clips
     } movers;
@@ -140,33 +137,27 @@ struct KxSubjectOptions {
     struct Faces {
         double frontalPeriodSeconds = 0.7; ///< 0.3 to 1 between searches of the whole picture; clips: 1.0 the same
         double profilePeriodSeconds = 1.2; ///< 0.5 to 2: the same for one of the two sides in turn; clips
-        double modelPeriodSeconds = 0.2;   ///< 0.1 to 0.5: the same for the neural detector; chosen
         double followPeriodSeconds = 0.2;  ///< 0.1 to 0.4 between two looks near a known face; clips
         double alonePeriodSeconds = 0.4;   ///< 0.2 to 0.6: the same for a single face that is sure; clips: cost
         int sidesAtFirst = 4;              ///< 4 to 8 looks from the sides in turn at a new scene; clips: 3 miss faces
-        int settledLooks = 4;              ///< 2 to 8 searches without a new face: then they are rarer; chosen
         double settledFactor = 3.0;        ///< 1 to 4 times; for the sides also while a face is followed; clips: cost
         double searchScaleFactor = 1.4;    ///< 1.2 to 1.5 from window to window in the whole picture; clips: cost
         int mostCandidates = 24;           ///< 10 to 50 candidates examined finely; bounds the cost of a crowd; chosen
-        double nearScaleFactor =
-            1.1;                   ///< 1.05 to 1.2 near a candidate or known face: coarser, too few hits agree; chosen
-        int frontalNeighbours = 3; ///< 2 to 6 raw hits near a candidate that make a face; clips
-        int profileNeighbours = 4; ///< 2 to 6 raw hits near a candidate that make a face; clips
-        int followNeighbours = 2;  ///< 1 to 4 raw hits that keep a known face; clips: with 4 it is often lost
-        int minimumPx = 24;        ///< 20 to 40, smallest face looked for; chosen
-        int profileMinimumPx = 32; ///< 24 to 40, the same from the sides, where most of the cost is; talk
-        double modelThreshold = 0.7; ///< 0.5 to 0.9, the neural detector's own score; chosen
-        int followedAtOnce = 6;      ///< 3 to 12 faces; bounds the cost of a crowd; chosen
-        double sameShare = 0.6;      ///< 0.4 to 0.8 of the size: nearer boxes of similar size are one; chosen
-        int missesToDrop = 3;        ///< 2 to 6 looks in a row; clips
-        double windowSeconds = 2.0;  ///< 1.5 to 3 each way: looks that count; clips: below, a face flickers
-        int agreeing = 2;            ///< 1 to 3 other looks in the window that must see the face; trial
-        double growDown = 0.5;       ///< 0 to 1 of the face's height; trial
+        int frontalNeighbours = 3;         ///< 2 to 6 raw hits near a candidate that make a face; clips
+        int profileNeighbours = 4;         ///< 2 to 6 raw hits near a candidate that make a face; clips
+        int followNeighbours = 2;          ///< 1 to 4 raw hits that keep a known face; clips: with 4 it is often lost
+        int minimumPx = 24;                ///< 20 to 40, smallest face looked for; chosen
+        int profileMinimumPx = 32;         ///< 24 to 40, the same from the sides, where most of the cost is; talk
+        int followedAtOnce = 6;            ///< 3 to 12 faces; bounds the cost of a crowd; chosen
+        double sameShare = 0.6;            ///< 0.4 to 0.8 of the size: nearer boxes of similar size are one; chosen
+        int missesToDrop = 3;              ///< 2 to 6 looks in a row; clips
+        double windowSeconds = 2.0;        ///< 1.5 to 3 each way: looks that count; clips: below, a face flickers
+        int agreeing = 2;                  ///< 1 to 3 other looks in the window that must see the face; trial
+        double growDown = 0.5;             ///< 0 to 1 of the face's height; trial
     } faces;
 
     /// People and animals that the object detector finds.
     struct Detections {
-        double periodSeconds = 1.0;        ///< 0.5 to 2 between looks, besides one at the start of each scene; chosen
         double settledPeriodSeconds = 2.0; ///< 1 to 2: the same while the largest thing stays; clips: cost
         double settledOverlap = 0.6; ///< 0.5 to 0.8 of its boxes in two looks, intersection over union: it stays; clips
         double fullArea = 0.06;      ///< 0.03 to 0.15 of the picture: a larger box weighs no more; chosen

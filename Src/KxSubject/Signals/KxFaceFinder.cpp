@@ -11,7 +11,10 @@
 namespace
 {
 
-constexpr double GroupingShare = 0.2; ///< of the size, that raw hits of one face differ by; OpenCV's own value
+/// From window to window near a candidate or known face: coarser, too few hits agree.
+constexpr double NearScaleFactor = 1.1;
+constexpr double ModelThreshold = 0.7; ///< the neural detector's own score
+constexpr double GroupingShare = 0.2;  ///< of the size, that raw hits of one face differ by; OpenCV's own value
 
 /// Nothing if `xml` is not a cascade.
 std::optional<KxHaarSearch> SearchOf(const std::string& xml)
@@ -51,7 +54,7 @@ KxFaceFinder::KxFaceFinder(const KxSubjectOptions::Faces& options, const KxFaceM
 void KxFaceFinder::LoadDetector(const std::string& onnx, cv::Size picturePx)
 {
     try {
-        m_detector.emplace(onnx, picturePx, m_options.modelThreshold);
+        m_detector.emplace(onnx, picturePx, ModelThreshold);
     } catch (const cv::Exception& problem) {
         KxThrowIfOutOfMemory(problem);
         m_isDetectorRefused = true;
@@ -127,8 +130,8 @@ std::optional<cv::Rect> KxFaceFinder::LookNear(const cv::Mat& grey, KxFaceView v
     if (around.empty()) {
         return std::nullopt;
     }
-    const std::vector<cv::Rect> found = FindByCascade(
-        grey(around), view, {face.width * 4 / 5, face.width * 5 / 4 + 1, m_options.nearScaleFactor, neighbours});
+    const std::vector<cv::Rect> found =
+        FindByCascade(grey(around), view, {face.width * 4 / 5, face.width * 5 / 4 + 1, NearScaleFactor, neighbours});
     if (found.empty()) {
         return std::nullopt;
     }

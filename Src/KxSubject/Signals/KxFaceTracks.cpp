@@ -8,7 +8,9 @@
 namespace
 {
 
-constexpr double Early = 1e-3; ///< seconds: a sample at exactly the time of a look is due
+constexpr double ModelPeriodSeconds = 0.2; ///< between two looks of the neural detector
+constexpr int SettledLooks = 4;            ///< searches without a new face: then they are rarer
+constexpr double Early = 1e-3;             ///< seconds: a sample at exactly the time of a look is due
 
 KxFaceLook LookAt(double seconds, const std::optional<cv::Rect>& face)
 {
@@ -30,7 +32,7 @@ void KxFaceTracks::AddPicture(double timeSeconds, const cv::Mat& picture, const 
         ++m_firstOpen;
     }
     if (m_finder.UsesDetector()) {
-        if (timeSeconds >= m_lastFrontal + m_options.modelPeriodSeconds - Early) {
+        if (timeSeconds >= m_lastFrontal + ModelPeriodSeconds - Early) {
             m_lastFrontal = timeSeconds;
             LookEverywhere(timeSeconds, picture, grey, KxFaceView::Frontal);
         }
@@ -40,7 +42,7 @@ void KxFaceTracks::AddPicture(double timeSeconds, const cv::Mat& picture, const 
         m_lastFollow = timeSeconds;
         Follow(timeSeconds, grey);
     }
-    const double rarer = m_looksWithoutNews >= m_options.settledLooks ? m_options.settledFactor : 1.0;
+    const double rarer = m_looksWithoutNews >= SettledLooks ? m_options.settledFactor : 1.0;
     const double profileRarer = Followed() > 0 ? m_options.settledFactor : rarer;
     if (timeSeconds >= m_lastFrontal + rarer * m_options.frontalPeriodSeconds - Early) {
         m_lastFrontal = timeSeconds;

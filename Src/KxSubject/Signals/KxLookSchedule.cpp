@@ -5,6 +5,8 @@
 namespace
 {
 
+constexpr double PeriodSeconds = 1.0; ///< between looks, besides one at the start of each scene
+
 float AreaOf(const KxDetection& box)
 {
     return box.width * box.height;
@@ -34,7 +36,7 @@ bool KxLookSchedule::IsDue(std::int64_t frame, bool isNewScene) const
     }
     constexpr double tolerance = 0.25; // of a frame
     const double seconds = (static_cast<double>(frame - *m_lastFrame) + tolerance) / m_frameRate;
-    return seconds >= (m_isSettled ? m_options.settledPeriodSeconds : m_options.periodSeconds);
+    return seconds >= (m_isSettled ? m_options.settledPeriodSeconds : PeriodSeconds);
 }
 
 void KxLookSchedule::Add(const KxDetectionLook& look, bool isNewScene)

@@ -9,6 +9,9 @@
 namespace
 {
 
+constexpr std::size_t MostAtOnce = 10; ///< per level; bounds the cost of a crowd
+constexpr double LeastSeconds = 0.37;  ///< a mover that was seen for less is forgotten
+constexpr double LeastTravel = 0.007;  ///< of the width: one that travelled less, too
 constexpr double PackedOne = 255.0;
 constexpr int HitsThatCount = 20;
 
@@ -39,9 +42,8 @@ KxMoverTracks::KxMoverTracks(const KxSubjectOptions::Movers& options)
 void KxMoverTracks::Reserve(std::size_t samples)
 {
     const auto levels = static_cast<std::size_t>(std::max(m_options.levels, 0));
-    const auto atOnce = static_cast<std::size_t>(std::max(m_options.mostAtOnce, 0));
     m_ended.reserve(samples * levels);
-    m_endedBoxes.reserve(samples * levels * atOnce);
+    m_endedBoxes.reserve(samples * levels * MostAtOnce);
 }
 
 std::vector<KxMoverTracks::Peak> KxMoverTracks::PeaksOf(const cv::Mat& map) const
@@ -72,7 +74,7 @@ std::vector<KxMoverTracks::Blob> KxMoverTracks::BlobsAt(int level, const cv::Mat
     cv::Mat taken(map.rows + 2, map.cols + 2, CV_8UC1, cv::Scalar(0));
     std::vector<Blob> blobs;
     for (const Peak& peak : peaks) {
-        if (blobs.size() >= static_cast<std::size_t>(m_options.mostAtOnce)) {
+        if (blobs.size() >= MostAtOnce) {
             break;
         }
         if (taken.at<uchar>(peak.place + cv::Point(1, 1)) != 0) {
@@ -198,7 +200,7 @@ void KxMoverTracks::End(Track& track)
 {
     const double seconds = track.lastSeconds - track.firstSeconds;
     const double travel = cv::norm(track.travel) / m_mapPx.width;
-    if (track.hits >= m_options.leastHits && seconds > m_options.leastSeconds && travel > m_options.leastTravel) {
+    if (track.hits >= m_options.leastHits && seconds > LeastSeconds && travel > LeastTravel) {
         const std::vector<KxMover::PackedBox>& boxes = track.mover.boxes;
         m_ended.push_back({track.mover.firstSample, static_cast<float>(seconds), static_cast<float>(travel),
                            static_cast<std::uint32_t>(boxes.size())});
