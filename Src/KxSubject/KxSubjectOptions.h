@@ -175,20 +175,11 @@ struct KxSubjectOptions {
 
     /// The looks at mouths while two or more faces are there.
     struct Mouths {
-        double periodSeconds = 0.06;      ///< 0.04 to 0.08: pictures that follow faster are skipped; chosen
-        double mostPeriodSeconds = 0.25;  ///< 0.15 to 0.3: a mouth is not compared over a longer pause; chosen
-        double smoothingSeconds = 0.36;   ///< 0.2 to 0.5, of the face's place; speech
-        double sizeSeconds = 1.5;         ///< 0.5 to 2, of its size, which the cascades find less exactly; talk
-        double delaySeconds = 1.0;        ///< 0.7 to 1.5: the box is known so much later; chosen
-        double aloneSeconds = 3.0;        ///< 1 to 5 after the second face was lost, which may return; chosen
-        double nearestHitSeconds = 0.3;   ///< 0.2 to 0.5: without a hit so near, the box is unknown; chosen
-        double acrossMissesSeconds = 1.0; ///< 0.6 to 2 between two hits, in which it is interpolated; chosen
-        double leastFacePx = 20.0;        ///< 16 to 30: the mouth of a smaller face is not resolved; chosen
-        double growth = 1.1;              ///< 1 to 1.3 times the box is cut out; speech
-        double mostShiftPx = 3.0;         ///< 2 to 5 of 44 across the face: a larger translation is an error; speech
-        int mostFaces = 4;                ///< 2 to 6 at once, the largest ones; bounds the cost of a crowd; chosen
-        double leastSeconds = 1.0;        ///< 0.5 to 2 beside another mouth: a shorter track is not kept; chosen
-        double soundMarginSeconds = 5.0;  ///< 3 to 10 of sound kept before and after the mouths; chosen
+        double smoothingSeconds = 0.36;  ///< 0.2 to 0.5, of the face's place; speech
+        double sizeSeconds = 1.5;        ///< 0.5 to 2, of its size, which the cascades find less exactly; talk
+        double growth = 1.1;             ///< 1 to 1.3 times the box is cut out; speech
+        double mostShiftPx = 3.0;        ///< 2 to 5 of 44 across the face: a larger translation is an error; speech
+        double soundMarginSeconds = 5.0; ///< 3 to 10 of sound kept before and after the mouths; chosen
     } mouths;
 
     /// Who speaks. Steps are a 25th of a second.

@@ -9,6 +9,16 @@
 namespace
 {
 
+constexpr double PeriodSeconds = 0.06;      ///< pictures that follow faster are skipped
+constexpr double MostPeriodSeconds = 0.25;  ///< a mouth is not compared over a longer pause
+constexpr double DelaySeconds = 1.0;        ///< the box is known so much later
+constexpr double AloneSeconds = 3.0;        ///< after the second face was lost, which may return
+constexpr double NearestHitSeconds = 0.3;   ///< without a hit so near, the box is unknown
+constexpr double AcrossMissesSeconds = 1.0; ///< between two hits, in which the box is interpolated
+constexpr double LeastFacePx = 20.0;        ///< of the working picture: the mouth of a smaller face is not resolved
+constexpr std::size_t MostFaces = 4;        ///< at once, the largest ones; bounds the cost of a crowd
+constexpr double LeastSeconds = 1.0;        ///< beside another mouth: a shorter track is not kept
+
 /// Places at which the box of a face is averaged.
 constexpr int Places = 9;
 
@@ -53,14 +63,14 @@ void KxMouthTracks::AddPicture(std::int64_t frame, const cv::Mat& picture, const
         m_lastSeveral = now;
     }
     const double early = 0.25 / m_frameRate;
-    m_isWatching = now <= m_lastSeveral + m_options.aloneSeconds;
-    if (m_isWatching && (m_lastKept < 0 || SecondsAt(frame - m_lastKept) >= m_options.periodSeconds - early)) {
+    m_isWatching = now <= m_lastSeveral + AloneSeconds;
+    if (m_isWatching && (m_lastKept < 0 || SecondsAt(frame - m_lastKept) >= PeriodSeconds - early)) {
         Picture kept{frame, {}, faces.FirstOpen()};
         cv::cvtColor(picture, kept.grey, cv::COLOR_BGR2GRAY);
         m_pictures.push_back(std::move(kept));
         m_lastKept = frame;
     }
-    while (!m_pictures.empty() && SecondsAt(frame - m_pictures.front().frame) >= m_options.delaySeconds) {
+    while (!m_pictures.empty() && SecondsAt(frame - m_pictures.front().frame) >= DelaySeconds) {
         Measure(m_pictures.front(), faces);
         m_pictures.pop_front();
     }
@@ -81,11 +91,11 @@ std::optional<cv::Rect2d> KxMouthTracks::HitAt(const KxFaceTrack& track, double 
     const bool hasBefore = before != track.looks.begin();
     const double untilAfter = hasAfter ? static_cast<double>(after->timeSeconds) - seconds : 1e9;
     const double sinceBefore = hasBefore ? seconds - static_cast<double>(std::prev(before)->timeSeconds) : 1e9;
-    if (untilAfter + sinceBefore <= m_options.acrossMissesSeconds) {
+    if (untilAfter + sinceBefore <= AcrossMissesSeconds) {
         const double part = sinceBefore / (untilAfter + sinceBefore);
         return Sum(RectOf(*std::prev(before)), 1.0 - part, RectOf(*after), part);
     }
-    if (std::min(untilAfter, sinceBefore) > m_options.nearestHitSeconds) {
+    if (std::min(untilAfter, sinceBefore) > NearestHitSeconds) {
         return std::nullopt;
     }
     return RectOf(untilAfter < sinceBefore ? *after : *std::prev(before));
@@ -112,7 +122,7 @@ std::optional<cv::Rect2d> KxMouthTracks::BoxAt(const KxFaceTrack& track, double 
     }
     const cv::Rect2d place = MeanBox(track, seconds, m_options.smoothingSeconds);
     const cv::Rect2d size = MeanBox(track, seconds, m_options.sizeSeconds);
-    if (size.width < m_options.leastFacePx) {
+    if (size.width < LeastFacePx) {
         return std::nullopt;
     }
     const cv::Rect2d found(place.x + (place.width - size.width) / 2.0, place.y + (place.height - size.height) / 2.0,
@@ -134,12 +144,12 @@ void KxMouthTracks::Measure(const Picture& picture, const KxFaceTracks& faces)
     }
     std::stable_sort(boxes.begin(), boxes.end(),
                      [](const auto& a, const auto& b) { return a.second.area() > b.second.area(); });
-    boxes.resize(std::min(boxes.size(), static_cast<std::size_t>(m_options.mostFaces)));
+    boxes.resize(std::min(boxes.size(), MostFaces));
     std::map<std::size_t, Last> measured;
     for (const auto& [face, box] : boxes) {
         KxMouthPatch patch(picture.grey, box);
         const auto last = m_last.find(face);
-        if (last != m_last.end() && SecondsAt(picture.frame - last->second.frame) <= m_options.mostPeriodSeconds) {
+        if (last != m_last.end() && SecondsAt(picture.frame - last->second.frame) <= MostPeriodSeconds) {
             const KxMouthPatch::Movement moved = patch.Since(last->second.patch, m_options.mostShiftPx);
             KxMouthTrack& mouth = m_mouths[face];
             mouth.face = static_cast<std::int32_t>(face);
@@ -172,7 +182,7 @@ std::vector<KxMouthTrack> KxMouthTracks::Finish(const KxFaceTracks& faces)
         for (const KxMouthLook& look : mouth.looks) {
             besideOthers += mouthsAt[look.frame] > 1 ? SecondsAt(look.frames) : 0.0;
         }
-        if (besideOthers >= m_options.leastSeconds) {
+        if (besideOthers >= LeastSeconds) {
             kept.push_back(std::move(mouth));
         }
     }
