@@ -67,7 +67,6 @@ QMap<QString, double*> Values(KxSubjectOptions& options)
             {QStringLiteral("detectionPersonUpperShare"), &options.detections.personUpperShare},
             {QStringLiteral("speechOpeningWeight"), &speech.openingWeight},
             {QStringLiteral("speechRestShare"), &speech.restShare},
-            {QStringLiteral("speechMostActivity"), &speech.mostActivity},
             {QStringLiteral("speechActivityWeight"), &speech.activityWeight},
             {QStringLiteral("speechNobody"), &speech.nobody},
             {QStringLiteral("speechChangeCost"), &speech.changeCost},

@@ -6,6 +6,7 @@
 namespace
 {
 
+constexpr double FloorSeconds = 5.0; ///< each way, whose tenth percentile is the quiet
 constexpr double LevelsPerDecibel = 100.0;
 constexpr double Silence = -70.0;          ///< decibels, where the sound is not known
 constexpr double FloorPeriodSeconds = 0.4; ///< the quiet changes slowly
@@ -16,9 +17,9 @@ std::size_t StepsOf(double seconds)
 }
 
 /// The quiet around each level.
-KxSeries::Values Floors(const KxSeries::Values& decibels, const KxSubjectOptions::Speech& options, double loud)
+KxSeries::Values Floors(const KxSeries::Values& decibels)
 {
-    const std::size_t reach = StepsOf(options.floorSeconds);
+    const std::size_t reach = StepsOf(FloorSeconds);
     KxSeries::Values floors(decibels.size());
     for (std::size_t i = 0; i < decibels.size(); ++i) {
         if (i % StepsOf(FloorPeriodSeconds) != 0) {
@@ -27,7 +28,7 @@ KxSeries::Values Floors(const KxSeries::Values& decibels, const KxSubjectOptions
         }
         const auto from = decibels.begin() + static_cast<std::ptrdiff_t>(i > reach ? i - reach : 0);
         const auto to = decibels.begin() + static_cast<std::ptrdiff_t>(std::min(decibels.size(), i + reach + 1));
-        floors[i] = std::min(KxSeries::Percentile({from, to}, 0.1), loud - options.floorBelowLoud);
+        floors[i] = KxSeries::Percentile({from, to}, 0.1);
     }
     return floors;
 }
@@ -54,7 +55,7 @@ KxHeardSound::KxHeardSound(const KxSubjectRecord& record, const KxSubjectOptions
     if (first >= end) {
         return;
     }
-    const auto margin = static_cast<std::int64_t>(StepsOf(options.floorSeconds));
+    const auto margin = static_cast<std::int64_t>(StepsOf(FloorSeconds));
     std::int64_t from = first;
     std::int64_t to = end;
     for (const KxSoundSpan& span : record.sound) {
@@ -80,14 +81,14 @@ KxHeardSound::KxHeardSound(const KxSubjectRecord& record, const KxSubjectOptions
     }
     const double loud = KxSeries::Percentile(known, 0.95);
     const KxSeries::Values smooth = KxSeries::MeansAround(decibels, 1);
-    const KxSeries::Values floors = Floors(decibels, options, loud);
+    const KxSeries::Values floors = Floors(decibels);
     std::vector<bool> gate(decibels.size());
     for (std::size_t i = 0; i < gate.size(); ++i) {
         gate[i] = smooth[i] > std::max(floors[i] + options.aboveFloor, loud - options.belowLoud);
     }
     CloseGaps(gate, StepsOf(options.gapSeconds));
-    const KxSeries::Values scores = KxSeries::LocalScores(smooth, StepsOf(options.meanSeconds),
-                                                          StepsOf(options.deviationSeconds), options.mostScore);
+    const KxSeries::Values scores =
+        KxSeries::LocalScores(smooth, StepsOf(options.meanSeconds), StepsOf(options.deviationSeconds));
     const auto skip = static_cast<std::ptrdiff_t>(first - from);
     const auto count = static_cast<std::ptrdiff_t>(end - first);
     m_gate.assign(gate.begin() + skip, gate.begin() + skip + count);

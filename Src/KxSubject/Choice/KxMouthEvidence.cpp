@@ -121,8 +121,7 @@ KxSeries::Values KxMouthEvidence::Movement() const
 {
     const std::size_t count = m_measured.size();
     const auto scores = [this](const Values& values) {
-        return KxSeries::LocalScores(values, StepsOf(m_options.meanSeconds), StepsOf(m_options.deviationSeconds),
-                                     m_options.mostScore);
+        return KxSeries::LocalScores(values, StepsOf(m_options.meanSeconds), StepsOf(m_options.deviationSeconds));
     };
     Values moved = KxSeries::WithoutWhatFollows(m_mouth, m_head, StepsOf(m_options.deviationSeconds));
     Values opened = KxSeries::MeansAround(m_opening, StepsOf(m_options.openingSeconds / 2.0));
@@ -155,10 +154,10 @@ void KxMouthEvidence::Correlate(const KxHeardSound& sound)
     double best = -std::numeric_limits<double>::infinity();
     std::ptrdiff_t bestLag = 0;
     for (std::ptrdiff_t lag = -m_options.mostLagBefore; lag <= m_options.mostLagAfter; ++lag) {
-        const Values smooth = KxSeries::MeansAround(product(lag), StepsOf(m_options.lagSeconds / 2.0));
+        const Values products = product(lag);
         double sum = 0.0;
         for (std::size_t i = 0; i < count; ++i) {
-            sum += sound.Gate()[i] ? std::max(smooth[i], 0.0) : 0.0;
+            sum += sound.Gate()[i] ? std::max(products[i], 0.0) : 0.0;
         }
         if (sum > best) {
             best = sum;
@@ -203,7 +202,7 @@ KxSeries::Values KxMouthEvidence::Emissions(const std::vector<bool>& gate) const
     Values emissions(gate.size(), 0.0);
     for (std::size_t i = 0; i < gate.size(); ++i) {
         if (gate[i]) {
-            const double active = m_measured[i] ? std::clamp(m_activity[i] - rest, -1.0, m_options.mostActivity) : -1.0;
+            const double active = m_measured[i] ? std::max(m_activity[i] - rest, -1.0) : -1.0;
             emissions[i] = m_correlation[i] + m_options.activityWeight * active;
         }
     }

@@ -17,8 +17,7 @@ KxSeries::Values KxSeries::MeansAround(const Values& values, std::size_t reach)
     return means;
 }
 
-KxSeries::Values KxSeries::LocalScores(const Values& values, std::size_t meanReach, std::size_t deviationReach,
-                                       double limit)
+KxSeries::Values KxSeries::LocalScores(const Values& values, std::size_t meanReach, std::size_t deviationReach)
 {
     Values scores = MeansAround(values, meanReach);
     std::transform(values.begin(), values.end(), scores.begin(), scores.begin(), std::minus<>());
@@ -29,7 +28,7 @@ KxSeries::Values KxSeries::LocalScores(const Values& values, std::size_t meanRea
     const Values variances = MeansAround(squares, deviationReach);
     for (std::size_t i = 0; i < scores.size(); ++i) {
         const double deviation = std::max(std::sqrt(std::max(variances[i], 0.0)), 0.5 * std::sqrt(variance));
-        scores[i] = deviation > 0.0 ? std::clamp(scores[i] / deviation, -limit, limit) : 0.0;
+        scores[i] = deviation > 0.0 ? scores[i] / deviation : 0.0;
     }
     return scores;
 }

@@ -62,19 +62,17 @@ KxShotFaces::KxShotFaces(const KxSubjectRecord& record, const KxSubjectOptions::
 bool KxShotFaces::IsSame(const Person& person, const std::vector<KxFaceLook>& hits) const
 {
     double sum = 0.0;
-    double grown = 0.0;
     for (const KxFaceLook& hit : hits) {
         const KxFaceLook& other = Nearest(person.hits, hit.timeSeconds);
         sum += Distance(hit, other);
-        grown += std::abs(std::log(static_cast<double>(hit.width) / other.width));
         // Only the end that is near in time says something about a face that moves.
         if (hit.timeSeconds > person.hits.back().timeSeconds) {
             const auto count = static_cast<double>(&hit - hits.data() + 1);
-            return sum / count < m_options.samePlace && grown / count < m_options.sameSize;
+            return sum / count < m_options.samePlace;
         }
     }
     const auto count = static_cast<double>(hits.size());
-    return sum / count < m_options.samePlace && grown / count < m_options.sameSize;
+    return sum / count < m_options.samePlace;
 }
 
 void KxShotFaces::Add(std::size_t face, std::vector<KxFaceLook> hits)

@@ -18,7 +18,7 @@ TEST(KxSeries, MeansAreCutOffAtTheEnds)
 
 TEST(KxSeries, AConstantHasNoScore)
 {
-    EXPECT_THAT(KxSeries::LocalScores(KxSeries::Values(50, 3.0), 5, 10, 3.0), Each(0.0));
+    EXPECT_THAT(KxSeries::LocalScores(KxSeries::Values(50, 3.0), 5, 10), Each(0.0));
 }
 
 TEST(KxSeries, QuietAndLoudStretchesScoreAlike)
@@ -27,7 +27,7 @@ TEST(KxSeries, QuietAndLoudStretchesScoreAlike)
     for (int i = 0; i < 400; ++i) {
         values.push_back(std::sin(i * 0.7) * (i < 200 ? 1.0 : 3.0));
     }
-    const KxSeries::Values scores = KxSeries::LocalScores(values, 20, 40, 3.0);
+    const KxSeries::Values scores = KxSeries::LocalScores(values, 20, 40);
     const auto largest = [&scores](std::ptrdiff_t from, std::ptrdiff_t to) {
         return *std::max_element(scores.begin() + from, scores.begin() + to);
     };
@@ -40,16 +40,8 @@ TEST(KxSeries, WhatHardlyVariesDoesNotScoreLikeTheRest)
     for (int i = 0; i < 400; ++i) {
         values.push_back(std::sin(i * 0.7) * (i < 200 ? 0.01 : 1.0));
     }
-    const KxSeries::Values scores = KxSeries::LocalScores(values, 20, 40, 3.0);
+    const KxSeries::Values scores = KxSeries::LocalScores(values, 20, 40);
     EXPECT_LT(*std::max_element(scores.begin() + 20, scores.begin() + 120), 0.1);
-}
-
-TEST(KxSeries, ScoresAreLimited)
-{
-    KxSeries::Values values(200, 0.0);
-    values[100] = 1000.0;
-    const KxSeries::Values scores = KxSeries::LocalScores(values, 20, 40, 2.0);
-    EXPECT_EQ(scores[100], 2.0);
 }
 
 TEST(KxSeries, WhatFollowsAnotherSeriesIsTakenOut)

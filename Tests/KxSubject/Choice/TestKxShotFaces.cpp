@@ -45,12 +45,6 @@ TEST(KxShotFaces, TwoTracksOfOneFaceAreOnePerson)
     EXPECT_EQ(KxShotFaces(record, Options, 0, 500).People().size(), 1U);
 }
 
-TEST(KxShotFaces, AFaceOfAnotherSizeInTheSamePlaceIsAnotherPerson)
-{
-    const KxSubjectRecord record = Record({Track(0.0F, 8.0F, 40, 30.0), Track(9.0F, 20.0F, 30, 70.0)});
-    EXPECT_EQ(KxShotFaces(record, Options, 0, 500).People().size(), 2U);
-}
-
 TEST(KxShotFaces, APersonWhoWalksIsFollowedFromTrackToTrack)
 {
     const KxSubjectRecord record =
