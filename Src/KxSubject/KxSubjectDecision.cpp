@@ -18,6 +18,8 @@
 namespace
 {
 
+constexpr double EnoughHeld = 0.95; ///< of the time that the crop holds the speaker anyway: it stays
+
 class Decider
 {
 public:
@@ -326,7 +328,7 @@ void Decider::FollowSpeaker(const Shot& shot, const KxCancelToken& cancel, std::
     }
     const KxSpeakerChoice choice(m_record, m_options.speech, shot.first, shot.end);
     KxSpeech speech = !choice.HasSeveral() ? KxSpeech::None : choice.IsClear() ? KxSpeech::Followed : KxSpeech::Unclear;
-    if (speech == KxSpeech::Followed && choice.ShareHeld(centres, m_geometry) >= m_options.speech.enoughHeld) {
+    if (speech == KxSpeech::Followed && choice.ShareHeld(centres, m_geometry) >= EnoughHeld) {
         speech = KxSpeech::Held;
     }
     const std::vector<KxSpeakerChoice::Part> parts =

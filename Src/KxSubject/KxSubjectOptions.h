@@ -192,26 +192,10 @@ struct KxSubjectOptions {
         double openingSeconds = 0.6;   ///< 0.4 to 1: the mean opening over this time is no movement; speech
         double openingWeight = 1.5;    ///< 1 to 2 of the opening, against the movement; talk
         double productScale = 1.6;     ///< 1 to 2; speech
-        double mostProduct = 2.5;      ///< 2 to 4; speech
         int mostLagBefore = 4;         ///< 2 to 8 steps that the sound may be later than the lips; speech
-        int mostLagAfter = 2;          ///< 1 to 4 steps that it may be earlier; speech
-        double activitySeconds = 1.0;  ///< 0.5 to 2; speech
-        double activityFloor = 0.02;   ///< 0.01 to 0.04 deviations: movement far below is noise; speech
-        double restSeconds = 1.0;      ///< 0.5 to 3 of silence that show how a mouth moves at rest; chosen
-        double restShare = 0.25;       ///< 0.1 to 0.4: without silence, the mouth rests this share of the time; talk
         double activityWeight = 0.5;   ///< 0.4 to 0.8, against the correlation; talk
-        double nobody = 0.05;          ///< 0.02 to 0.1: what a speaker's evidence has to exceed; speech
         double changeCost = 13.0;      ///< 9 to 16 of a change of speaker, in steps of evidence; talk
-        double leastRunSeconds = 0.7;  ///< 0.5 to 1: a shorter turn is not followed; speech
-        double pauseSeconds = 1.0;     ///< 0.7 to 2: a word before a longer silence starts no turn; chosen
-        double leastSeconds = 2.0;     ///< 1.5 to 4 that each of two faces lasts; speech
-        double leastShare = 0.6;       ///< 0.4 to 0.8 of a shot in which two mouths are seen; chosen
         double leastMargin = 0.05;     ///< 0.02 to 0.1, mean evidence ahead of the next face; speech
-        int leastHits = 5;             ///< 3 to 10 looks that see a face; chosen
-        double samePlace = 0.6;        ///< 0.4 to 0.8 of its side: a nearer face is the same person; chosen
-        double placeSeconds = 1.0;     ///< 0.5 to 2 each way, over which a face's place is averaged; chosen
-        double enoughHeld = 0.95; ///< 0.8 to 1 of the time that the crop holds the speaker anyway: it stays; chosen
-        double room = 0.25;       ///< 0.1 to 0.4 of a face's width on each side, so that it fits; chosen
     } speech;
 
     struct Evidence {

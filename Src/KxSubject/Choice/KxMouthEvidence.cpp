@@ -7,6 +7,13 @@
 namespace
 {
 
+constexpr double MostProduct = 2.5;     ///< bounds what a single step can do, as when a door slams
+constexpr int MostLagAfter = 2;         ///< steps that the sound may be earlier than the lips
+constexpr double ActivitySeconds = 1.0; ///< over which the movement is averaged
+constexpr double ActivityFloor = 0.02;  ///< deviations: movement far below is noise
+constexpr double RestSeconds = 1.0;     ///< of silence that show how a mouth moves at rest
+constexpr double RestShare = 0.25;      ///< without silence, the mouth rests this share of the time
+
 using Values = KxSeries::Values;
 
 std::size_t StepsOf(double seconds)
@@ -57,9 +64,9 @@ KxMouthEvidence::KxMouthEvidence(const KxSubjectRecord& record, const KxSubjectO
 {
     Sample(LooksOf(record, first, faces), first, record.source.frameRate);
     Correlate(sound);
-    m_activity = KxSeries::MeansAround(m_mouth, StepsOf(m_options.activitySeconds / 2.0));
+    m_activity = KxSeries::MeansAround(m_mouth, StepsOf(ActivitySeconds / 2.0));
     for (double& activity : m_activity) {
-        activity = std::log(activity + m_options.activityFloor);
+        activity = std::log(activity + ActivityFloor);
     }
 }
 
@@ -146,14 +153,14 @@ void KxMouthEvidence::Correlate(const KxHeardSound& sound)
     const auto product = [&](std::ptrdiff_t lag) {
         Values products(count);
         for (std::size_t i = 0; i < count; ++i) {
-            products[i] = std::clamp(Later(movement, i, lag) * sound.Scores()[i] / m_options.productScale,
-                                     -m_options.mostProduct, m_options.mostProduct);
+            products[i] = std::clamp(Later(movement, i, lag) * sound.Scores()[i] / m_options.productScale, -MostProduct,
+                                     MostProduct);
         }
         return products;
     };
     double best = -std::numeric_limits<double>::infinity();
     std::ptrdiff_t bestLag = 0;
-    for (std::ptrdiff_t lag = -m_options.mostLagBefore; lag <= m_options.mostLagAfter; ++lag) {
+    for (std::ptrdiff_t lag = -m_options.mostLagBefore; lag <= MostLagAfter; ++lag) {
         const Values products = product(lag);
         double sum = 0.0;
         for (std::size_t i = 0; i < count; ++i) {
@@ -190,10 +197,10 @@ double KxMouthEvidence::ActivityAtRest(const std::vector<bool>& gate) const
             silent += gate[i] ? 0 : 1;
         }
     }
-    if (silent > StepsOf(m_options.restSeconds)) {
+    if (silent > StepsOf(RestSeconds)) {
         return sum / static_cast<double>(silent);
     }
-    return all.empty() ? 0.0 : KxSeries::Percentile(std::move(all), m_options.restShare);
+    return all.empty() ? 0.0 : KxSeries::Percentile(std::move(all), RestShare);
 }
 
 KxSeries::Values KxMouthEvidence::Emissions(const std::vector<bool>& gate) const

@@ -6,6 +6,10 @@
 namespace
 {
 
+constexpr std::size_t LeastHits = 5; ///< looks that see a face
+constexpr double SamePlace = 0.6;    ///< in sides of a face: a nearer one is the same person
+constexpr double PlaceSeconds = 1.0; ///< each way, over which a face's place is averaged
+
 bool IsEarlier(const KxFaceLook& a, const KxFaceLook& b)
 {
     return a.timeSeconds < b.timeSeconds;
@@ -37,10 +41,8 @@ double Distance(const KxFaceLook& a, const KxFaceLook& b)
 
 } // namespace
 
-KxShotFaces::KxShotFaces(const KxSubjectRecord& record, const KxSubjectOptions::Speech& options, std::int64_t first,
-                         std::int64_t end)
+KxShotFaces::KxShotFaces(const KxSubjectRecord& record, std::int64_t first, std::int64_t end)
     : m_picturePx(record.workingSizePx)
-    , m_options(options)
 {
     const auto from = static_cast<float>(record.SecondsAt(first));
     const auto to = static_cast<float>(record.SecondsAt(end));
@@ -53,7 +55,7 @@ KxShotFaces::KxShotFaces(const KxSubjectRecord& record, const KxSubjectOptions::
         std::copy_if(std::lower_bound(looks.begin(), looks.end(), from, IsBefore),
                      std::lower_bound(looks.begin(), looks.end(), to, IsBefore), std::back_inserter(hits),
                      [](const KxFaceLook& look) { return look.IsFace(); });
-        if (hits.size() >= static_cast<std::size_t>(m_options.leastHits)) {
+        if (hits.size() >= LeastHits) {
             Add(face, std::move(hits));
         }
     }
@@ -68,11 +70,11 @@ bool KxShotFaces::IsSame(const Person& person, const std::vector<KxFaceLook>& hi
         // Only the end that is near in time says something about a face that moves.
         if (hit.timeSeconds > person.hits.back().timeSeconds) {
             const auto count = static_cast<double>(&hit - hits.data() + 1);
-            return sum / count < m_options.samePlace;
+            return sum / count < SamePlace;
         }
     }
     const auto count = static_cast<double>(hits.size());
-    return sum / count < m_options.samePlace;
+    return sum / count < SamePlace;
 }
 
 void KxShotFaces::Add(std::size_t face, std::vector<KxFaceLook> hits)
@@ -92,7 +94,7 @@ void KxShotFaces::Add(std::size_t face, std::vector<KxFaceLook> hits)
 KxCropRect KxShotFaces::BoxAt(std::size_t person, double seconds) const
 {
     const std::vector<KxFaceLook>& hits = m_people[person].hits;
-    const auto reach = static_cast<float>(m_options.placeSeconds);
+    const auto reach = static_cast<float>(PlaceSeconds);
     const auto time = static_cast<float>(seconds);
     auto from = std::lower_bound(hits.begin(), hits.end(), time - reach, IsBefore);
     auto to = std::lower_bound(from, hits.end(), time + reach, IsBefore);

@@ -3,7 +3,6 @@
 #include <KxCore/KxExport.h>
 
 #include <KxSubject/KxCropRect.h>
-#include <KxSubject/KxSubjectOptions.h>
 #include <KxSubject/KxSubjectRecord.h>
 
 #include <cstdint>
@@ -14,8 +13,7 @@ class KXSUBJECT_API KxShotFaces
 {
 public:
     /// Of the shot from frame `first` up to, but without, `end`.
-    KxShotFaces(const KxSubjectRecord& record, const KxSubjectOptions::Speech& options, std::int64_t first,
-                std::int64_t end);
+    KxShotFaces(const KxSubjectRecord& record, std::int64_t first, std::int64_t end);
 
     struct Person {
         std::vector<std::size_t> faces; ///< indices of KxSubjectRecord::faces
@@ -31,6 +29,5 @@ private:
     bool IsSame(const Person& person, const std::vector<KxFaceLook>& hits) const;
 
     KxIntSize m_picturePx;
-    KxSubjectOptions::Speech m_options;
     std::vector<Person> m_people;
 };

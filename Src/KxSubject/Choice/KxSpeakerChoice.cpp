@@ -7,12 +7,21 @@
 #include <algorithm>
 #include <cmath>
 
+namespace
+{
+
+constexpr double LeastSeconds = 2.0; ///< that each of two faces lasts, and of speech
+constexpr double LeastShare = 0.6;   ///< of a shot, in which two mouths are seen
+constexpr double Room = 0.25;        ///< in widths of a face on each side, so that it fits
+
+} // namespace
+
 KxSpeakerChoice::KxSpeakerChoice(const KxSubjectRecord& record, const KxSubjectOptions::Speech& options,
                                  std::int64_t first, std::int64_t end)
     : m_record(record)
     , m_options(options)
     , m_first(first)
-    , m_faces(record, options, first, end)
+    , m_faces(record, first, end)
 {
     constexpr double levels = KxSoundSpan::LevelsPerSecond;
     const auto firstLevel = static_cast<std::int64_t>(std::floor(record.SecondsAt(first) * levels));
@@ -26,20 +35,20 @@ KxSpeakerChoice::KxSpeakerChoice(const KxSubjectRecord& record, const KxSubjectO
     std::vector<int> measured(sound.Gate().size(), 0); // how many people are, at each level
     for (std::size_t person = 0; person < m_faces.People().size(); ++person) {
         const KxMouthEvidence mouth(record, options, sound, firstLevel, m_faces.People()[person].faces);
-        if (mouth.MeasuredSeconds() >= options.leastSeconds) {
+        if (mouth.MeasuredSeconds() >= LeastSeconds) {
             people.push_back(person);
             emissions.push_back(mouth.Emissions(sound.Gate()));
             std::transform(measured.begin(), measured.end(), mouth.Measured().begin(), measured.begin(), std::plus<>());
         }
     }
     const auto several = std::count_if(measured.begin(), measured.end(), [](int count) { return count >= 2; });
-    m_hasSeveral = static_cast<double>(several) >= options.leastShare * static_cast<double>(measured.size());
+    m_hasSeveral = static_cast<double>(several) >= LeastShare * static_cast<double>(measured.size());
     if (people.size() < 2 || !m_hasSeveral) {
         return;
     }
     const KxSpeakerRuns speakers(emissions, sound.Gate(), options);
     m_margin = speakers.margin;
-    if (speakers.margin < options.leastMargin || speakers.speechSeconds < options.leastSeconds) {
+    if (speakers.margin < options.leastMargin || speakers.speechSeconds < LeastSeconds) {
         return;
     }
     const auto frameAt = [&record, firstLevel](std::size_t step) {
@@ -63,8 +72,8 @@ KxSpeakerChoice::Extent KxSpeakerChoice::ExtentAt(const std::vector<std::size_t>
         const KxCropRect box = m_faces.BoxAt(person, seconds);
         const double from = axis == KxAxis::Across ? box.x : box.y;
         const double length = axis == KxAxis::Across ? box.width : box.height;
-        extent.from = std::min(extent.from, from - m_options.room * length);
-        extent.to = std::max(extent.to, from + (1.0 + m_options.room) * length);
+        extent.from = std::min(extent.from, from - Room * length);
+        extent.to = std::max(extent.to, from + (1.0 + Room) * length);
     }
     return extent;
 }
@@ -115,7 +124,7 @@ double KxSpeakerChoice::ShareHeld(const std::vector<double>& centres, const KxCr
     for (const Part& turn : m_turns) {
         for (std::int64_t frame = turn.first; frame < turn.end; ++frame) {
             const Extent face = ExtentAt(turn.people, m_record.SecondsAt(frame), geometry.FreeAxis());
-            const double room = m_options.room / (1.0 + 2.0 * m_options.room) * (face.to - face.from);
+            const double room = Room / (1.0 + 2.0 * Room) * (face.to - face.from);
             const double centre = std::clamp(centres[static_cast<std::size_t>(frame - m_first)],
                                              geometry.MinimumCentre(), geometry.MaximumCentre());
             held += face.from + room >= centre - geometry.Extent() / 2.0 &&

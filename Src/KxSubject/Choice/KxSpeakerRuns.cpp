@@ -9,6 +9,10 @@
 namespace
 {
 
+constexpr double NobodysEvidence = 0.05; ///< at a step, what a speaker's evidence has to exceed
+constexpr double LeastRunSeconds = 0.7;  ///< a shorter turn is not followed
+constexpr double PauseSeconds = 1.0;     ///< a word before a longer silence starts no turn
+
 std::ptrdiff_t StepsOf(double seconds)
 {
     return std::lround(seconds * KxSoundSpan::LevelsPerSecond);
@@ -29,7 +33,7 @@ std::vector<std::size_t> BestStates(const std::vector<KxSeries::Values>& emissio
         for (std::size_t state = 0; state <= nobody; ++state) {
             const bool changes = changed > reached[state];
             origins.push_back(changes ? from : static_cast<std::uint8_t>(state));
-            const double emission = state < nobody ? emissions[state][step] : gate[step] ? options.nobody : 0.0;
+            const double emission = state < nobody ? emissions[state][step] : gate[step] ? NobodysEvidence : 0.0;
             reached[state] = std::max(reached[state], changed) + emission;
         }
     }
@@ -60,10 +64,10 @@ std::vector<KxSpeakerRun> RunsOf(const std::vector<std::size_t>& states, std::si
 }
 
 /// The first sound of a run. A word that is followed by a long silence is an interjection: the sound after it counts.
-std::size_t StartOf(const KxSpeakerRun& run, const std::vector<bool>& gate, const KxSubjectOptions::Speech& options)
+std::size_t StartOf(const KxSpeakerRun& run, const std::vector<bool>& gate)
 {
-    const auto least = StepsOf(options.leastRunSeconds);
-    const auto pause = StepsOf(options.pauseSeconds);
+    const auto least = StepsOf(LeastRunSeconds);
+    const auto pause = StepsOf(PauseSeconds);
     const auto last = gate.begin() + static_cast<std::ptrdiff_t>(run.end) - 1;
     const auto first = std::find(gate.begin() + static_cast<std::ptrdiff_t>(run.first), last, true);
     const auto silent = std::find(first, last, false);
@@ -73,12 +77,11 @@ std::size_t StartOf(const KxSpeakerRun& run, const std::vector<bool>& gate, cons
 }
 
 /// Each run from its first sound until the next one; neighbours of one person become one run.
-std::vector<KxSpeakerRun> Stretched(const std::vector<KxSpeakerRun>& runs, const std::vector<bool>& gate,
-                                    const KxSubjectOptions::Speech& options)
+std::vector<KxSpeakerRun> Stretched(const std::vector<KxSpeakerRun>& runs, const std::vector<bool>& gate)
 {
     std::vector<KxSpeakerRun> stretched;
     for (KxSpeakerRun run : runs) {
-        run.first = StartOf(run, gate, options);
+        run.first = StartOf(run, gate);
         if (stretched.empty()) {
             stretched.push_back({run.person, 0, run.end});
         } else if (stretched.back().person != run.person) {
@@ -110,7 +113,7 @@ KxSpeakerRuns::KxSpeakerRuns(const std::vector<KxSeries::Values>& emissions, con
                              const KxSubjectOptions::Speech& options)
 {
     std::vector<KxSpeakerRun> spoken = RunsOf(BestStates(emissions, gate, options), emissions.size());
-    const auto least = static_cast<std::size_t>(StepsOf(options.leastRunSeconds));
+    const auto least = static_cast<std::size_t>(StepsOf(LeastRunSeconds));
     spoken.erase(std::remove_if(spoken.begin(), spoken.end(),
                                 [least](const KxSpeakerRun& run) { return run.end - run.first < least; }),
                  spoken.end());
@@ -126,5 +129,5 @@ KxSpeakerRuns::KxSpeakerRuns(const std::vector<KxSeries::Values>& emissions, con
     }
     margin = steps > 0 ? margin / static_cast<double>(steps) : 0.0;
     speechSeconds = static_cast<double>(steps) / KxSoundSpan::LevelsPerSecond;
-    runs = Stretched(spoken, gate, options);
+    runs = Stretched(spoken, gate);
 }

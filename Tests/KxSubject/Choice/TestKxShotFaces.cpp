@@ -5,8 +5,6 @@
 namespace
 {
 
-const KxSubjectOptions::Speech Options;
-
 KxFaceTrack Track(float from, float to, double x, double widthPx = 40.0, double speedPx = 0.0)
 {
     KxFaceTrack track;
@@ -32,7 +30,7 @@ KxSubjectRecord Record(std::vector<KxFaceTrack> faces)
 TEST(KxShotFaces, TracksOneAfterTheOtherInTheSamePlaceAreOnePerson)
 {
     const KxSubjectRecord record = Record({Track(0.0F, 8.0F, 40), Track(0.0F, 20.0F, 220), Track(9.0F, 20.0F, 44)});
-    const KxShotFaces faces(record, Options, 0, 500);
+    const KxShotFaces faces(record, 0, 500);
     ASSERT_EQ(faces.People().size(), 2U);
     EXPECT_EQ(faces.People()[0].faces, (std::vector<std::size_t>{0, 2}));
     EXPECT_NEAR(faces.BoxAt(0, 4.0).x, 40.0 / 320.0, 1e-6);
@@ -42,20 +40,20 @@ TEST(KxShotFaces, TracksOneAfterTheOtherInTheSamePlaceAreOnePerson)
 TEST(KxShotFaces, TwoTracksOfOneFaceAreOnePerson)
 {
     const KxSubjectRecord record = Record({Track(0.0F, 20.0F, 40), Track(3.0F, 12.0F, 43, 34.0)});
-    EXPECT_EQ(KxShotFaces(record, Options, 0, 500).People().size(), 1U);
+    EXPECT_EQ(KxShotFaces(record, 0, 500).People().size(), 1U);
 }
 
 TEST(KxShotFaces, APersonWhoWalksIsFollowedFromTrackToTrack)
 {
     const KxSubjectRecord record =
         Record({Track(0.0F, 4.0F, 20, 40.0, 20.0), Track(4.4F, 8.0F, 108, 40.0, 20.0), Track(0.0F, 8.0F, 250)});
-    EXPECT_EQ(KxShotFaces(record, Options, 0, 500).People().size(), 2U);
+    EXPECT_EQ(KxShotFaces(record, 0, 500).People().size(), 2U);
 }
 
 TEST(KxShotFaces, OtherShotsDoNotCount)
 {
     const KxSubjectRecord record = Record({Track(0.0F, 9.9F, 40), Track(10.0F, 20.0F, 220)});
-    const KxShotFaces faces(record, Options, 250, 500);
+    const KxShotFaces faces(record, 250, 500);
     ASSERT_EQ(faces.People().size(), 1U);
     EXPECT_NEAR(faces.BoxAt(0, 0.0).x, 220.0 / 320.0, 1e-6) << "before its first look, where it was first";
 }
@@ -63,5 +61,5 @@ TEST(KxShotFaces, OtherShotsDoNotCount)
 TEST(KxShotFaces, AFaceSeenAFewTimesDoesNotCount)
 {
     const KxSubjectRecord record = Record({Track(0.0F, 0.7F, 40), Track(0.0F, 20.0F, 220)});
-    EXPECT_EQ(KxShotFaces(record, Options, 0, 500).People().size(), 1U);
+    EXPECT_EQ(KxShotFaces(record, 0, 500).People().size(), 1U);
 }
