@@ -153,7 +153,6 @@ struct KxSubjectOptions {
         int missesToDrop = 3;              ///< 2 to 6 looks in a row; clips
         double windowSeconds = 2.0;        ///< 1.5 to 3 each way: looks that count; clips: below, a face flickers
         int agreeing = 2;                  ///< 1 to 3 other looks in the window that must see the face; trial
-        double growDown = 0.5;             ///< 0 to 1 of the face's height; trial
     } faces;
 
     /// People and animals that the object detector finds.
@@ -199,17 +198,14 @@ struct KxSubjectOptions {
     } speech;
 
     struct Evidence {
-        double motionWeight = 0.5;          ///< 0.3 to 1; clips
-        double moverWeight = 0.45;          ///< 0.3 to 0.6; clips
-        double saliencyWeightAcross = 0.39; ///< 0.2 to 0.6; cross
-        double saliencyWeightUpDown = 0.1;  ///< 0 to 0.3: it misleads on tall pictures; clips
-        double faceWeight = 1.0;            ///< 0.7 to 1.5; trial
-        double detectionWeight = 2.0;       ///< 1 to 3.5; cross
-        double emptyFloor = 0.01;           ///< 0.005 to 0.02 of the area: an empty map weighs little; trial
-        double concentration = 1.6;         ///< 1 to 2, power on the combined evidence; clips
-        double windowFlatAcross = 0.7;      ///< 0.4 to 1 of the scoring window; the rest is a squared cosine; cross
-        double windowFlatUpDown =
-            0.9; ///< 0.5 to 1: a tall subject should fit in, not have its head in the middle; clips
+        double motionWeight = 0.5;      ///< 0.3 to 1; clips
+        double moverWeight = 0.45;      ///< 0.3 to 0.6; clips
+        double saliencyWeight = 0.39;   ///< 0.2 to 0.6; cross
+        double faceWeight = 1.0;        ///< 0.7 to 1.5; trial
+        double detectionWeight = 2.0;   ///< 1 to 3.5; cross
+        double emptyFloor = 0.01;       ///< 0.005 to 0.02 of the area: an empty map weighs little; trial
+        double concentration = 1.6;     ///< 1 to 2, power on the combined evidence; clips
+        double windowFlatAcross = 0.7;  ///< 0.4 to 1 of the scoring window; the rest is a squared cosine; cross
         double centrePriorAcross = 0.3; ///< 0.15 to 0.45 for a crop that moves sideways; cross
         double centrePriorUpDown = 4.0; ///< 1 to 6 for a crop that moves up and down, where evidence misleads; clips
     } evidence;

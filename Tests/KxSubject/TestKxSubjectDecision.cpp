@@ -292,7 +292,7 @@ TEST(KxSubjectDecision, OneObjectOutweighsMoreEvidenceThatIsSpreadOut)
     const auto middle = [&background](double concentration) {
         KxSubjectOptions options;
         options.evidence.concentration = concentration;
-        options.evidence.saliencyWeightAcross = 0.0;
+        options.evidence.saliencyWeight = 0.0;
         const Scene scene = [&background](std::int64_t frame) {
             const auto sway = [frame](double phase) {
                 return cvRound(4.0 * std::sin(static_cast<double>(frame) * 0.7 + phase));

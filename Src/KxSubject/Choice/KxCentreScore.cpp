@@ -18,7 +18,7 @@ KxCentreScore::KxCentreScore(const KxSubjectOptions::Evidence& options, const Kx
     const double half = geometry.Extent() / 2.0;
     const bool across = geometry.FreeAxis() == KxAxis::Across;
     const double priorWeight = across ? options.centrePriorAcross : options.centrePriorUpDown;
-    const double flat = across ? options.windowFlatAcross : options.windowFlatUpDown;
+    const double flat = across ? options.windowFlatAcross : 1.0;
     constexpr double binExtent = 1.0 / KxSignalProfile::Bins;
     for (std::size_t position = 0; position < Positions; ++position) {
         const double centre = CentreAt(position);

@@ -37,8 +37,7 @@ KxEvidence::Parts KxEvidence::InShot::At(std::size_t sample) const
     Parts parts;
     parts.motion.Add(measured.motion[side].Unpacked(), weights.motionWeight);
     parts.movers.Add(m_whole.m_movers.ProfileAt(sample, axis), weights.moverWeight);
-    parts.saliency.Add(measured.saliency[side].Unpacked(),
-                       axis == KxAxis::Across ? weights.saliencyWeightAcross : weights.saliencyWeightUpDown);
+    parts.saliency.Add(measured.saliency[side].Unpacked(), weights.saliencyWeight);
     parts.faces.Add(m_whole.m_faces.ProfileAt(sample, m_first, m_end, axis), weights.faceWeight);
     parts.detections.Add(m_detections.ProfileAt(m_whole.m_record.SecondsAt(measured.frame), axis),
                          weights.detectionWeight);

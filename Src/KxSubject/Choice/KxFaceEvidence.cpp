@@ -77,10 +77,9 @@ KxSignalProfile KxFaceEvidence::ProfileAt(std::size_t sample, std::int64_t first
         }
         std::array<double, 4> face = detections.sum;
         std::for_each(face.begin(), face.end(), [&detections](double& side) { side /= detections.hits; });
-        const double height = face[3] * (1.0 + m_options.growDown);
-        const double area = face[2] * height / areaPx;
+        const double area = face[2] * face[3] / areaPx;
         const double begin = (across ? face[0] : face[1]) / lengthPx;
-        faces.Add(begin, begin + (across ? face[2] : height) / lengthPx, detections.weight / detections.looks * area);
+        faces.Add(begin, begin + (across ? face[2] : face[3]) / lengthPx, detections.weight / detections.looks * area);
     }
     KxSignalProfile scaled;
     scaled.Add(faces, 1.0 / (static_cast<double>(faces.Sum()) + m_emptyFloor));
