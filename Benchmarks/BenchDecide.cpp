@@ -38,8 +38,6 @@ QMap<QString, double*> Values(KxSubjectOptions& options)
 {
     KxSubjectOptions::Evidence& evidence = options.evidence;
     KxSubjectOptions::Path& path = options.path;
-    KxSubjectOptions::Movers& movers = options.movers;
-    KxSubjectOptions::Faces& faces = options.faces;
     KxSubjectOptions::Speech& speech = options.speech;
     KxSubjectOptions::Reaction& reaction = options.automatic;
     return {{QStringLiteral("motionWeight"), &evidence.motionWeight},
@@ -51,17 +49,8 @@ QMap<QString, double*> Values(KxSubjectOptions& options)
             {QStringLiteral("windowFlatAcross"), &evidence.windowFlatAcross},
             {QStringLiteral("centrePriorAcross"), &evidence.centrePriorAcross},
             {QStringLiteral("centrePriorUpDown"), &evidence.centrePriorUpDown},
-            {QStringLiteral("moverSecondsToFull"), &movers.secondsToFull},
-            {QStringLiteral("moverFullTravel"), &movers.fullTravel},
-            {QStringLiteral("moverAreaPower"), &movers.areaPower},
-            {QStringLiteral("moverEmptyFloor"), &movers.emptyFloor},
-            {QStringLiteral("faceWindowSeconds"), &faces.windowSeconds},
             {QStringLiteral("detectionWeight"), &evidence.detectionWeight},
-            {QStringLiteral("detectionFullArea"), &options.detections.fullArea},
-            {QStringLiteral("detectionCentrality"), &options.detections.centrality},
-            {QStringLiteral("detectionContrast"), &options.detections.contrast},
             {QStringLiteral("detectionEmptyFloor"), &options.detections.emptyFloor},
-            {QStringLiteral("detectionFadeSeconds"), &options.detections.fadeSeconds},
             {QStringLiteral("detectionPersonUpperShare"), &options.detections.personUpperShare},
             {QStringLiteral("speechOpeningWeight"), &speech.openingWeight},
             {QStringLiteral("speechActivityWeight"), &speech.activityWeight},
@@ -71,7 +60,6 @@ QMap<QString, double*> Values(KxSubjectOptions& options)
             {QStringLiteral("speedWeight"), &path.speedWeight},
             {QStringLiteral("accelerationWeight"), &path.accelerationWeight},
             {QStringLiteral("jerkWeight"), &path.jerkWeight},
-            {QStringLiteral("stepsPerSecond"), &path.stepsPerSecond},
             {QStringLiteral("stillSpeed"), &path.stillSpeed},
             {QStringLiteral("stillRange"), &reaction.stillRange},
             {QStringLiteral("deadZone"), &reaction.deadZone},

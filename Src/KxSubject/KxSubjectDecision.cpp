@@ -18,6 +18,7 @@
 namespace
 {
 
+constexpr double EaseSeconds = 1.0; ///< for coming to a place that a person chose
 constexpr double EnoughHeld = 0.95; ///< of the time that the crop holds the speaker anyway: it stays
 
 class Decider
@@ -302,7 +303,7 @@ std::vector<double> Decider::CentresOf(const Shot& shot, const KxChoiceRanges& c
         FollowSpeaker(shot, cancel, centres);
     }
     if (!cancel.IsCancelled()) {
-        KxHoldRanges(centres, {shot.first, shot.end, m_record.source.frameRate}, held, m_options.path.easeSeconds);
+        KxHoldRanges(centres, {shot.first, shot.end, m_record.source.frameRate}, held, EaseSeconds);
     }
     return centres;
 }

@@ -114,19 +114,14 @@ struct KxSubjectOptions {
         int peakDistancePx = 4; ///< 2 to 8 each way in which a peak is the highest; clips
         /// 0.4 to 1.2 of the width: a mover is searched for within this distance of its predicted position; clips
         double reachPerSecond = 0.76;
-        double reachBySize = 0.35;  ///< 0 to 0.6 of the root of its area, on top; clips
-        double mostGrowth = 1.5;    ///< 0.7 to 2, logarithm of the areas' ratio; clips
-        double growthCost = 0.3;    ///< 0 to 1 of that logarithm, against a distance of one reach; clips
-        double ageGain = 0.02;      ///< 0 to 0.05 per sample seen: an older track is preferred; clips
-        double velocityGain = 0.4;  ///< 0.2 to 0.8 of what is new; clips
-        double areaGain = 0.4;      ///< 0.2 to 0.8 of what is new; clips
-        int mostMisses = 3;         ///< 1 to 6 samples in a row; clips
-        int leastHits = 4;          ///< 3 to 8 samples seen, of a mover that counts at all; clips
-        double secondsAtZero = 0.3; ///< 0 to 1 of being seen, that give no confidence yet; clips
-        double secondsToFull = 1.5; ///< 0.5 to 3 beyond, for full confidence; clips
-        double fullTravel = 0.15;   ///< 0.1 to 0.3 of the width, relative to the background, for the same; clips
-        double areaPower = 0.5;     ///< 0.4 to 0.6: a mover weighs as its box's side, not as its area; clips
-        double emptyFloor = 0.1;    ///< 0.05 to 0.2, the sum of weights that gives half of the possible evidence; clips
+        double reachBySize = 0.35; ///< 0 to 0.6 of the root of its area, on top; clips
+        double mostGrowth = 1.5;   ///< 0.7 to 2, logarithm of the areas' ratio; clips
+        double growthCost = 0.3;   ///< 0 to 1 of that logarithm, against a distance of one reach; clips
+        double ageGain = 0.02;     ///< 0 to 0.05 per sample seen: an older track is preferred; clips
+        double velocityGain = 0.4; ///< 0.2 to 0.8 of what is new; clips
+        double areaGain = 0.4;     ///< 0.2 to 0.8 of what is new; clips
+        int mostMisses = 3;        ///< 1 to 6 samples in a row; clips
+        int leastHits = 4;         ///< 3 to 8 samples seen, of a mover that counts at all; clips
     } movers;
 
     struct Saliency {
@@ -151,7 +146,6 @@ struct KxSubjectOptions {
         int followedAtOnce = 6;            ///< 3 to 12 faces; bounds the cost of a crowd; chosen
         double sameShare = 0.6;            ///< 0.4 to 0.8 of the size: nearer boxes of similar size are one; chosen
         int missesToDrop = 3;              ///< 2 to 6 looks in a row; clips
-        double windowSeconds = 2.0;        ///< 1.5 to 3 each way: looks that count; clips: below, a face flickers
         int agreeing = 2;                  ///< 1 to 3 other looks in the window that must see the face; trial
     } faces;
 
@@ -159,17 +153,12 @@ struct KxSubjectOptions {
     struct Detections {
         double settledPeriodSeconds = 2.0; ///< 1 to 2: the same while the largest thing stays; clips: cost
         double settledOverlap = 0.6; ///< 0.5 to 0.8 of its boxes in two looks, intersection over union: it stays; clips
-        double fullArea = 0.06;      ///< 0.03 to 0.15 of the picture: a larger box weighs no more; chosen
-        double centrality = 0.4;     ///< 0 to 0.8: how much less a box at the picture's edge weighs; chosen
-        double contrast = 2.0;       ///< 1 to 6, power on the weights of the tracks in a shot; chosen
         double emptyFloor = 0.025;   ///< 0.01 to 0.1, the weight that gives half of the possible evidence; cross
         double personUpperShare =
             0.45;                     ///< 0.3 to 1 of a person's height: the part that counts in a tall picture; chosen
         double reachBySize = 0.5;     ///< 0.3 to 1 of its side: how far a box may be from the next look's; chosen
         double reachPerSecond = 0.15; ///< 0.05 to 0.3 of the picture, on top; chosen
         double mostGrowth = 1.0;      ///< 0.5 to 1.5, logarithm of the areas' ratio; chosen
-        double mostGapSeconds = 2.5;  ///< 1 to 5: a box that is missed for longer is another one; chosen
-        double fadeSeconds = 1.0;     ///< 0.5 to 2 before the first and after the last look at a track; chosen
     } detections;
 
     /// The looks at mouths while two or more faces are there.
@@ -273,7 +262,6 @@ struct KxSubjectOptions {
         /// 2 to 5 of the tracker, a width, over the square root of a sample's seconds; cross: all score alike, and
         /// more is calmer; from 4.5 on fast subjects are lost
         double moveCost = 4.0;
-        double stepsPerSecond = 10.0;    ///< 5 to 20 nodes of the smoothed path; chosen
         double speedWeight = 0.35;       ///< 0.25 to 0.5 on the first derivative; cross
         double accelerationWeight = 0.3; ///< 0.1 to 0.45 on the second: more gives fewer, longer pans; cross
         double jerkWeight = 0.2;         ///< 0.08 to 0.3 on the third: more gives longer eases; cross
@@ -283,7 +271,6 @@ struct KxSubjectOptions {
         /// 0.003 to 0.01 widths a second below which the smoothed path is made exactly static; cross: beyond, it
         /// leaves the subject
         double stillSpeed = 0.006;
-        double easeSeconds = 1.0; ///< 0.5 to 2 for coming to a place that a person chose; chosen
     } path;
 
     /// The path's reaction at one motion speed. Widths are the picture's unless the crop's is named. Origin: trial. The

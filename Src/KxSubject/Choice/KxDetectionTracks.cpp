@@ -7,6 +7,11 @@
 namespace
 {
 
+constexpr double FullArea = 0.06;      ///< of the picture: a larger box weighs no more
+constexpr double Centrality = 0.4;     ///< how much less a box at the picture's edge weighs
+constexpr double MostGapSeconds = 2.5; ///< a box that is missed for longer is another one
+constexpr double FadeSeconds = 1.0;    ///< before the first and after the last look at a track
+
 double AreaOf(const KxDetection& box)
 {
     return static_cast<double>(box.width) * static_cast<double>(box.height);
@@ -31,6 +36,13 @@ KxDetection Between(const KxDetection& a, const KxDetection& b, double part)
             mix(a.height, b.height), mix(a.score, b.score), a.kind};
 }
 
+/// By score, size and place.
+double ValueOf(const KxDetection& box)
+{
+    const double offCentre = std::max(std::abs(MiddleX(box) - 0.5), std::abs(MiddleY(box) - 0.5)) / 0.5;
+    return static_cast<double>(box.score) * std::sqrt(std::min(AreaOf(box), FullArea)) * (1.0 - Centrality * offCentre);
+}
+
 } // namespace
 
 KxDetectionTracks::KxDetectionTracks(const KxSubjectRecord& record, const KxSubjectOptions::Detections& options,
@@ -50,20 +62,13 @@ KxDetectionTracks::KxDetectionTracks(const KxSubjectRecord& record, const KxSubj
     }
 }
 
-double KxDetectionTracks::ValueOf(const KxDetection& box) const
-{
-    const double offCentre = std::max(std::abs(MiddleX(box) - 0.5), std::abs(MiddleY(box) - 0.5)) / 0.5;
-    return static_cast<double>(box.score) * std::sqrt(std::min(AreaOf(box), m_options.fullArea)) *
-           (1.0 - m_options.centrality * offCentre);
-}
-
 void KxDetectionTracks::Link(const KxDetectionLook& look, double seconds)
 {
     std::vector<std::tuple<double, std::size_t, std::size_t>> pairs;
     for (std::size_t i = 0; i < m_tracks.size(); ++i) {
         const Track::Point& last = m_tracks[i].points.back();
         const double gap = seconds - last.seconds;
-        for (std::size_t j = 0; gap <= m_options.mostGapSeconds && j < look.found.size(); ++j) {
+        for (std::size_t j = 0; gap <= MostGapSeconds && j < look.found.size(); ++j) {
             const KxDetection& box = look.found[j];
             const double side = std::sqrt(std::max(AreaOf(box), AreaOf(last.box)));
             const double reach = m_options.reachBySize * side + m_options.reachPerSecond * gap;
@@ -99,7 +104,7 @@ void KxDetectionTracks::AddTrack(const Track& track, double seconds, KxAxis axis
     if (after == track.points.begin() || after == track.points.end()) {
         const Track::Point& nearest = after == track.points.end() ? track.points.back() : *after;
         box = nearest.box;
-        presence = std::max(0.0, 1.0 - std::abs(seconds - nearest.seconds) / m_options.fadeSeconds);
+        presence = std::max(0.0, 1.0 - std::abs(seconds - nearest.seconds) / FadeSeconds);
     } else {
         const Track::Point& before = *std::prev(after);
         box = Between(before.box, after->box, (seconds - before.seconds) / (after->seconds - before.seconds));
@@ -121,7 +126,7 @@ KxSignalProfile KxDetectionTracks::ProfileAt(double seconds, KxAxis axis) const
     for (const Track& track : m_tracks) {
         KxSignalProfile one;
         AddTrack(track, seconds, axis, one);
-        boxes.Add(one, std::pow(track.weight / heaviest, m_options.contrast - 1.0));
+        boxes.Add(one, track.weight / heaviest);
     }
     KxSignalProfile scaled;
     scaled.Add(boxes, 1.0 / (static_cast<double>(boxes.Sum()) + m_options.emptyFloor));

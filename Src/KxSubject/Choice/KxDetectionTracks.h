@@ -27,12 +27,12 @@ public:
     };
     const std::vector<Track>& Tracks() const { return m_tracks; }
 
-    /// Where they are at a time, between looks on the line from one to the next.
+    /// Where they are at a time, between looks on the line from one to the next. Weights count squared, so that one
+    /// thing outweighs several lesser ones.
     KxSignalProfile ProfileAt(double seconds, KxAxis axis) const;
 
 private:
     void Link(const KxDetectionLook& look, double seconds);
-    double ValueOf(const KxDetection& box) const;
     void AddTrack(const Track& track, double seconds, KxAxis axis, KxSignalProfile& profile) const;
 
     KxSubjectOptions::Detections m_options;

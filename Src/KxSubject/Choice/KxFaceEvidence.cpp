@@ -5,6 +5,8 @@
 namespace
 {
 
+constexpr double WindowSeconds = 2.0; ///< each way: looks that count; in less, a face flickers
+
 /// Of the picture's shorter side: faces of this width weigh nothing, and all they can.
 constexpr double ZeroWeightShare = 0.05;
 constexpr double FullWeightShare = 0.15;
@@ -13,7 +15,7 @@ constexpr double FullWeightShare = 0.15;
 
 KxFaceEvidence::KxFaceEvidence(const KxSubjectRecord& record, const KxSubjectOptions& options)
     : m_record(record)
-    , m_options(options.faces)
+    , m_agreeing(options.faces.agreeing)
     , m_emptyFloor(options.evidence.emptyFloor)
     , m_index(record.samples.size())
 {
@@ -25,8 +27,8 @@ KxFaceEvidence::KxFaceEvidence(const KxSubjectRecord& record, const KxSubjectOpt
     };
     for (std::size_t i = 0; i < record.faces.size(); ++i) {
         const std::vector<KxFaceLook>& looks = record.faces[i].looks;
-        m_index.Add(static_cast<std::uint32_t>(i), sampleAt(looks.front().timeSeconds - m_options.windowSeconds),
-                    sampleAt(looks.back().timeSeconds + m_options.windowSeconds));
+        m_index.Add(static_cast<std::uint32_t>(i), sampleAt(looks.front().timeSeconds - WindowSeconds),
+                    sampleAt(looks.back().timeSeconds + WindowSeconds));
     }
 }
 
@@ -59,8 +61,8 @@ KxFaceEvidence::Detections KxFaceEvidence::DetectionsOf(const KxFaceTrack& track
 KxSignalProfile KxFaceEvidence::ProfileAt(std::size_t sample, std::int64_t first, std::int64_t end, KxAxis axis) const
 {
     const double time = m_record.SecondsAt(m_record.samples[sample].frame);
-    const double from = std::max(m_record.SecondsAt(first), time - m_options.windowSeconds);
-    const double to = std::min(m_record.SecondsAt(end - 1), time + m_options.windowSeconds);
+    const double from = std::max(m_record.SecondsAt(first), time - WindowSeconds);
+    const double to = std::min(m_record.SecondsAt(end - 1), time + WindowSeconds);
     const bool across = axis == KxAxis::Across;
     const KxIntSize picturePx = m_record.workingSizePx;
     const int lengthPx = across ? picturePx.width : picturePx.height;
@@ -72,7 +74,7 @@ KxSignalProfile KxFaceEvidence::ProfileAt(std::size_t sample, std::int64_t first
             continue;
         }
         const Detections detections = DetectionsOf(track, from, to);
-        if (detections.hits <= m_options.agreeing) {
+        if (detections.hits <= m_agreeing) {
             continue;
         }
         std::array<double, 4> face = detections.sum;

@@ -29,7 +29,7 @@ private:
     double SizeWeight(const KxFaceLook& face) const;
 
     const KxSubjectRecord& m_record;
-    KxSubjectOptions::Faces m_options;
+    int m_agreeing;
     double m_emptyFloor;
     KxSpanIndex m_index;
 };

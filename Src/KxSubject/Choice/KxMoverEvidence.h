@@ -15,11 +15,11 @@ public:
     KxMoverEvidence(const KxSubjectRecord& record, const KxSubjectOptions::Movers& options);
 
     /// 0 to 1, of being a subject: noise, leaves and parallax neither last nor travel.
-    double ConfidenceIn(const KxMover& mover) const;
+    static double ConfidenceIn(const KxMover& mover);
     KxSignalProfile ProfileAt(std::size_t sample, KxAxis axis) const;
 
 private:
     const std::vector<KxMover>& m_movers;
-    KxSubjectOptions::Movers m_options;
+    int m_levels;
     KxSpanIndex m_index;
 };

@@ -8,6 +8,8 @@
 namespace
 {
 
+constexpr double StepsPerSecond = 10.0; ///< nodes of the smoothed path
+
 /// Bounds time and memory where a shot lasts for days: beyond this many, the nodes of the path are farther apart.
 constexpr double MostNodes = 1e6;
 
@@ -133,7 +135,7 @@ std::vector<double> KxCropPath::DrawSmooth(const std::vector<KxPathPoint>& point
                                            const KxCancelToken& cancel) const
 {
     const double seconds = static_cast<double>(span.end - span.first) / span.frameRate;
-    const double stepsPerSecond = std::min(m_options.stepsPerSecond, MostNodes / seconds);
+    const double stepsPerSecond = std::min(StepsPerSecond, MostNodes / seconds);
     KxTrendFilter::Settings settings;
     settings.stepSeconds = 1.0 / stepsPerSecond;
     settings.huberDelta = m_reaction.deadZone * m_geometry.Extent() / 2.0;

@@ -65,11 +65,6 @@ KxSignalProfile ProfileAt(std::size_t sample, KxAxis axis, std::vector<KxMover> 
     return KxMoverEvidence(record, options).ProfileAt(sample, axis);
 }
 
-double ConfidenceIn(const KxMover& mover)
-{
-    return KxMoverEvidence(KxSubjectRecord(), OneLevel()).ConfidenceIn(mover);
-}
-
 double CentreOf(const KxSignalProfile& profile)
 {
     double sum = 0.0;
@@ -116,7 +111,7 @@ TEST(KxMoverTracks, AMoverThatLastsAndTravelsIsFollowedWithFullConfidence)
     const auto movers = Followed(30, [](int i) { return std::vector<cv::Rect>{{20 + 6 * i, 80, 24, 24}}; });
     ASSERT_EQ(movers.size(), 1U);
     const KxMover& mover = movers.front();
-    EXPECT_EQ(ConfidenceIn(mover), 1.0);
+    EXPECT_EQ(KxMoverEvidence::ConfidenceIn(mover), 1.0);
     EXPECT_EQ(mover.firstSample, 0);
     EXPECT_EQ(mover.boxes.size(), 30U);
     for (const std::size_t sample : {0U, 12U, 29U}) {
@@ -141,7 +136,7 @@ TEST(KxMoverTracks, AnObjectThatMovesInPlaceIsNotASubject)
 {
     const auto movers = Followed(60, [](int i) { return std::vector<cv::Rect>{{100 + 2 * (i % 2), 80, 24, 24}}; });
     for (const KxMover& mover : movers) {
-        EXPECT_LT(ConfidenceIn(mover), 0.15);
+        EXPECT_LT(KxMoverEvidence::ConfidenceIn(mover), 0.15);
     }
 }
 
@@ -165,7 +160,7 @@ TEST(KxMoverTracks, AnObjectThatThePanKeepsInPlaceTravelsRelativeToTheBackground
         },
         -6.0);
     ASSERT_EQ(movers.size(), 1U);
-    EXPECT_EQ(ConfidenceIn(movers.front()), 1.0);
+    EXPECT_EQ(KxMoverEvidence::ConfidenceIn(movers.front()), 1.0);
 }
 
 TEST(KxMoverTracks, RandomFlashesAreNotASubject)
@@ -175,7 +170,7 @@ TEST(KxMoverTracks, RandomFlashesAreNotASubject)
         return std::vector<cv::Rect>{{anywhere.uniform(0, 300), anywhere.uniform(0, 160), 20, 20}};
     });
     for (const KxMover& mover : movers) {
-        EXPECT_LT(ConfidenceIn(mover), 0.25);
+        EXPECT_LT(KxMoverEvidence::ConfidenceIn(mover), 0.25);
     }
 }
 
