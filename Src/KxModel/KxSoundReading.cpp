@@ -3,7 +3,6 @@
 #include <KxCore/KxFrameTime.h>
 #include <KxCore/KxLog.h>
 #include <KxMedia/Read/KxAudioReader.h>
-#include <KxSubject/KxSubjectOptions.h>
 #include <KxSubject/KxSubjectRecord.h>
 #include <KxSubject/Signals/KxSoundMeter.h>
 
@@ -41,8 +40,7 @@ KxSoundSpan Measured(KxAudioReader& reader, qint64 from, qint64 to, qint64 first
 void KxSoundReading::AddTo(KxSubjectRecord& record, const QString& path, int track, const KxMediaClock& clock,
                            const KxCancelToken& cancel)
 {
-    const KxSubjectOptions options;
-    const auto spans = KxSoundMeter::SpansOf(record, options.mouths.soundMarginSeconds);
+    const auto spans = KxSoundMeter::SpansOf(record);
     if (spans.empty() || track < 0) {
         return;
     }

@@ -163,11 +163,10 @@ struct KxSubjectOptions {
 
     /// The looks at mouths while two or more faces are there.
     struct Mouths {
-        double smoothingSeconds = 0.36;  ///< 0.2 to 0.5, of the face's place; speech
-        double sizeSeconds = 1.5;        ///< 0.5 to 2, of its size, which the cascades find less exactly; talk
-        double growth = 1.1;             ///< 1 to 1.3 times the box is cut out; speech
-        double mostShiftPx = 3.0;        ///< 2 to 5 of 44 across the face: a larger translation is an error; speech
-        double soundMarginSeconds = 5.0; ///< 3 to 10 of sound kept before and after the mouths; chosen
+        double smoothingSeconds = 0.36; ///< 0.2 to 0.5, of the face's place; speech
+        double sizeSeconds = 1.5;       ///< 0.5 to 2, of its size, which the cascades find less exactly; talk
+        double growth = 1.1;            ///< 1 to 1.3 times the box is cut out; speech
+        double mostShiftPx = 3.0;       ///< 2 to 5 of 44 across the face: a larger translation is an error; speech
     } mouths;
 
     /// Who speaks. Steps are a 25th of a second.

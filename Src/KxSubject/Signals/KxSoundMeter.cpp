@@ -16,6 +16,7 @@ constexpr double LowestHz = 200.0;
 constexpr double HighestHz = 3500.0;
 constexpr double Silence = 1e-7;
 constexpr double LevelsPerDecibel = 100.0;
+constexpr double MarginSeconds = 5.0; ///< of sound kept before and after the mouths: what is quiet shows in it
 constexpr double Pi = 3.1415926535897932384626433832795;
 
 int BinOf(double hz)
@@ -25,16 +26,15 @@ int BinOf(double hz)
 
 } // namespace
 
-std::vector<std::pair<std::int64_t, std::int64_t>> KxSoundMeter::SpansOf(const KxSubjectRecord& record,
-                                                                         double marginSeconds)
+std::vector<std::pair<std::int64_t, std::int64_t>> KxSoundMeter::SpansOf(const KxSubjectRecord& record)
 {
     std::vector<std::pair<std::int64_t, std::int64_t>> spans;
     const auto levelAt = [](double seconds) {
         return static_cast<std::int64_t>(std::max(0.0, std::floor(seconds * KxSoundSpan::LevelsPerSecond)));
     };
     for (const KxMouthTrack& mouth : record.mouths) {
-        spans.emplace_back(levelAt(record.SecondsAt(mouth.looks.front().frame) - marginSeconds),
-                           levelAt(record.SecondsAt(mouth.looks.back().frame) + marginSeconds));
+        spans.emplace_back(levelAt(record.SecondsAt(mouth.looks.front().frame) - MarginSeconds),
+                           levelAt(record.SecondsAt(mouth.looks.back().frame) + MarginSeconds));
     }
     std::sort(spans.begin(), spans.end());
     std::vector<std::pair<std::int64_t, std::int64_t>> apart;

@@ -16,9 +16,8 @@ public:
     static constexpr int SamplesPerSecond = 16000;
 
     /// Times from first to last, in levels of KxSoundSpan, whose sound is worth measuring: with the mouths in
-    /// `record` and `marginSeconds` around them. Empty where nobody's speech could be followed.
-    static std::vector<std::pair<std::int64_t, std::int64_t>> SpansOf(const KxSubjectRecord& record,
-                                                                      double marginSeconds);
+    /// `record` and some seconds around them. Empty where nobody's speech could be followed.
+    static std::vector<std::pair<std::int64_t, std::int64_t>> SpansOf(const KxSubjectRecord& record);
 
     /// The first sample that is added is at `first` levels.
     explicit KxSoundMeter(std::int64_t first);

@@ -73,7 +73,7 @@ protected:
             observer.AddPicture(frame, {picture.data, {picture.cols, picture.rows}, picture.step[0]});
         }
         KxSubjectRecord record = observer.Finish();
-        for (const auto& [first, last] : KxSoundMeter::SpansOf(record, Options.mouths.soundMarginSeconds)) {
+        for (const auto& [first, last] : KxSoundMeter::SpansOf(record)) {
             KxSoundMeter meter(first);
             for (std::int64_t level = first; level <= last; ++level) {
                 const double loudness = level < Frames ? voice[static_cast<std::size_t>(level)] : 0.0;

@@ -97,7 +97,7 @@ TEST(KxSoundMeter, ASampleThatIsNoNumberIsSilence)
 
 TEST(KxSoundMeter, OnlySoundNearMouthsIsWanted)
 {
-    EXPECT_THAT(KxSoundMeter::SpansOf(KxSubjectRecord(), 5.0), IsEmpty());
-    EXPECT_THAT(KxSoundMeter::SpansOf(RecordWithMouths({{50, 100}, {1000, 2000}, {1100, 1200}, {2200, 2300}}), 5.0),
+    EXPECT_THAT(KxSoundMeter::SpansOf(KxSubjectRecord()), IsEmpty());
+    EXPECT_THAT(KxSoundMeter::SpansOf(RecordWithMouths({{50, 100}, {1000, 2000}, {1100, 1200}, {2200, 2300}})),
                 ElementsAre(Pair(0, 225), Pair(875, 2425)));
 }
