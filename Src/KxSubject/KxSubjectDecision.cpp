@@ -71,12 +71,8 @@ private:
     Samples SamplesOf(const Shot& shot) const;
     ShotEvidence EvidenceIn(const Shot& shot, const KxChoiceRanges& choices, const KxCancelToken& cancel) const;
     /// The centre that the evidence asks for at each sample.
-    struct Wanted {
-        std::vector<KxPathPoint> points;
-        double total = 0.0; ///< of the tracker
-        double costPerPosition = 0.0;
-    };
-    Wanted WantedCentres(const Shot& shot, const ShotEvidence& evidence, const KxCancelToken& cancel) const;
+    std::vector<KxPathPoint> WantedCentres(const Shot& shot, const ShotEvidence& evidence,
+                                           const KxCancelToken& cancel) const;
     std::vector<double> Drawn(const Shot& shot, const ShotEvidence& evidence, const std::vector<KxPathPoint>& points,
                               const KxCancelToken& cancel) const;
     std::vector<double> CentresOf(const Shot& shot, const KxChoiceRanges& choices, const KxCancelToken& cancel);
@@ -89,8 +85,8 @@ private:
     std::vector<double> CentresOnSpeakers(const KxSpeakerChoice& choice,
                                           const std::vector<KxSpeakerChoice::Part>& parts,
                                           const KxCancelToken& cancel) const;
-    /// `path`: the centre at each frame, as the evidence wants it.
-    void RecordFindings(const Shot& shot, const ShotEvidence& evidence, const Wanted& wanted,
+    /// `points`: the wanted centres; `path`: the centre at each frame, as the evidence wants it.
+    void RecordFindings(const Shot& shot, const ShotEvidence& evidence, const std::vector<KxPathPoint>& points,
                         const std::vector<double>& path);
     KxSubjectOptions::Reaction ReactionIn(const ShotEvidence& evidence) const;
 
@@ -236,23 +232,21 @@ Decider::Samples Decider::SamplesOf(const Shot& shot) const
     return {static_cast<std::size_t>(from - samples.begin()), static_cast<std::size_t>(to - samples.begin())};
 }
 
-Decider::Wanted Decider::WantedCentres(const Shot& shot, const ShotEvidence& evidence,
-                                       const KxCancelToken& cancel) const
+std::vector<KxPathPoint> Decider::WantedCentres(const Shot& shot, const ShotEvidence& evidence,
+                                                const KxCancelToken& cancel) const
 {
     const Samples range = SamplesOf(shot);
     const std::vector<KxSignalSample>& samples = m_record.samples;
-    Wanted wanted;
-    wanted.costPerPosition = MoveCost(shot, range.begin, range.end) * m_score.Spacing();
-    KxSubjectTracker tracker(wanted.costPerPosition);
+    KxSubjectTracker tracker(MoveCost(shot, range.begin, range.end) * m_score.Spacing());
     for (std::size_t i = range.begin; i < range.end && !cancel.IsCancelled(); ++i) {
         const bool clear = samples[i].frame >= shot.clearFirst && samples[i].frame < shot.clearEnd;
         tracker.Add(clear ? m_score.Of(Combined(evidence.signals.At(i), evidence, i)) : KxCentreScore::Scores{});
     }
+    std::vector<KxPathPoint> points;
     for (const std::size_t position : tracker.BestRun()) {
-        wanted.points.push_back({samples[range.begin + wanted.points.size()].frame, m_score.CentreAt(position)});
+        points.push_back({samples[range.begin + points.size()].frame, m_score.CentreAt(position)});
     }
-    wanted.total = tracker.BestTotal();
-    return wanted;
+    return points;
 }
 
 std::vector<double> Decider::Drawn(const Shot& shot, const ShotEvidence& evidence,
@@ -274,7 +268,7 @@ Decider::ShotEvidence Decider::EvidenceIn(const Shot& shot, const KxChoiceRanges
         return evidence;
     }
     const auto centresOf = [&](const ShotEvidence& from) {
-        return [this, &shot, centres = Drawn(shot, from, WantedCentres(shot, from, cancel).points, cancel)](
+        return [this, &shot, centres = Drawn(shot, from, WantedCentres(shot, from, cancel), cancel)](
                    std::int64_t frame) { return centres[static_cast<std::size_t>(frame - shot.first)]; };
     };
     const KxChosenEvidence::CentreAt automatic = centresOf(evidenceWith(KxChoiceRanges::None()));
@@ -288,14 +282,14 @@ Decider::ShotEvidence Decider::EvidenceIn(const Shot& shot, const KxChoiceRanges
 std::vector<double> Decider::CentresOf(const Shot& shot, const KxChoiceRanges& choices, const KxCancelToken& cancel)
 {
     const ShotEvidence evidence = EvidenceIn(shot, choices, cancel);
-    Wanted wanted = WantedCentres(shot, evidence, cancel);
+    std::vector<KxPathPoint> wanted = WantedCentres(shot, evidence, cancel);
     const std::vector<KxHeldRange> held = HeldRanges(choices);
     for (const KxHeldRange& range : held) {
-        for (KxPathPoint& point : wanted.points) {
+        for (KxPathPoint& point : wanted) {
             point.centre = point.frame >= range.first && point.frame < range.end ? range.centre : point.centre;
         }
     }
-    std::vector<double> centres = Drawn(shot, evidence, wanted.points, cancel);
+    std::vector<double> centres = Drawn(shot, evidence, wanted, cancel);
     if (m_request.wantsFindings && !cancel.IsCancelled()) {
         RecordFindings(shot, evidence, wanted, centres);
     }
@@ -367,12 +361,11 @@ std::vector<double> Decider::CentresOnSpeakers(const KxSpeakerChoice& choice,
     return centres;
 }
 
-void Decider::RecordFindings(const Shot& shot, const ShotEvidence& evidence, const Wanted& wanted,
+void Decider::RecordFindings(const Shot& shot, const ShotEvidence& evidence, const std::vector<KxPathPoint>& points,
                              const std::vector<double>& path)
 {
-    const std::vector<KxPathPoint>& points = wanted.points;
     const std::size_t firstSample = SamplesOf(shot).begin;
-    KxShotConfidence confidence(m_score, m_geometry.Extent() / 2.0, wanted.costPerPosition);
+    KxShotConfidence confidence(m_score, m_geometry.Extent() / 2.0);
     std::array<float, KxSignalCount> totals{};
     float whole = 0.0F;
     for (std::size_t i = 0; i < points.size(); ++i) {
@@ -382,7 +375,8 @@ void Decider::RecordFindings(const Shot& shot, const ShotEvidence& evidence, con
         sample.wanted = points[i].centre;
         const KxSignalProfile combined = Combined(parts, evidence, firstSample + i);
         whole += combined.Sum();
-        confidence.Add({points[i].centre, path[static_cast<std::size_t>(points[i].frame - shot.first)]}, combined);
+        const double drawn = path[static_cast<std::size_t>(points[i].frame - shot.first)];
+        confidence.Add(drawn, combined);
         sample.evidence = KxPackedProfile(combined);
         const std::array<const KxSignalProfile*, KxSignalCount> signals{&parts.motion, &parts.movers, &parts.saliency,
                                                                         &parts.faces, &parts.detections};
@@ -391,13 +385,13 @@ void Decider::RecordFindings(const Shot& shot, const ShotEvidence& evidence, con
             totals[signal] += sample.scores[signal];
             // What a person points at need not be what the signals prefer.
             if (!evidence.chosen.Follows()) {
-                confidence.AddSignal(path[static_cast<std::size_t>(points[i].frame - shot.first)], *signals[signal]);
+                confidence.AddSignal(drawn, *signals[signal]);
             }
         }
         m_findings.samples.push_back(sample);
     }
     const auto dominant = std::max_element(totals.begin(), totals.end()) - totals.begin();
-    m_findings.shots.push_back({shot.first, shot.end, static_cast<KxSignal>(dominant), confidence.Value(wanted.total),
+    m_findings.shots.push_back({shot.first, shot.end, static_cast<KxSignal>(dominant), confidence.Value(),
                                 whole / static_cast<float>(points.size()), KxSpeech::None, 0});
 }
 

@@ -15,7 +15,7 @@ enum class KxAutoReframeDoubt {
 struct KxAutoReframeShot {
     qint64 first = 0;        ///< frame
     qint64 end = 0;          ///< the frame after the last one
-    double confidence = 0.0; ///< 0 to 1: the share of the evidence that the crop holds
+    double confidence = 0.0; ///< 0 to 1: how clearly the evidence is inside the crop
     KxAutoReframeDoubt doubt = KxAutoReframeDoubt::None;
 };
 

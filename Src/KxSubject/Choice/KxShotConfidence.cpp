@@ -6,33 +6,27 @@
 namespace
 {
 
-// Put about a quarter of the shots below 0.55; see "Confidence" in Docs/ANALYSIS.md.
-constexpr double Base = 0.3;
-constexpr double Scale = 0.55;
-constexpr std::size_t Stride = 4;  ///< positions: a quarter of them shows where a signal wants the crop
-constexpr double MostMargin = 0.6; ///< where no different crop is possible, too
-constexpr float Excluded = -1e6F;
+constexpr std::size_t Stride = 4; ///< positions: a quarter of them shows where a signal wants the crop
 
 } // namespace
 
-KxShotConfidence::KxShotConfidence(const KxCentreScore& score, double halfExtent, double costPerPosition)
+KxShotConfidence::KxShotConfidence(const KxCentreScore& score, double halfExtent)
     : m_score(score)
     , m_halfExtent(halfExtent)
-    , m_others(costPerPosition)
 {
 }
 
-void KxShotConfidence::Add(const Choice& choice, const KxSignalProfile& combined)
+void KxShotConfidence::Add(double drawn, const KxSignalProfile& combined)
 {
-    m_whole += static_cast<double>(combined.Sum());
-    m_inside += static_cast<double>(m_score.Inside(choice.drawn, combined));
-    KxCentreScore::Scores others = m_score.Of(combined);
-    for (std::size_t position = 0; position < others.size(); ++position) {
-        if (std::abs(m_score.CentreAt(position) - choice.wanted) < m_halfExtent) {
-            others[position] = Excluded;
-        }
+    float inside = 0.0F;
+    float outside = 0.0F;
+    for (std::size_t bin = 0; bin < KxSignalProfile::Bins; ++bin) {
+        const double middle = (static_cast<double>(bin) + 0.5) / KxSignalProfile::Bins;
+        float& tallest = std::abs(middle - drawn) > m_halfExtent ? outside : inside;
+        tallest = std::max(tallest, combined.share[bin]);
     }
-    m_others.Add(others);
+    m_inside += static_cast<double>(inside);
+    m_outside += static_cast<double>(outside);
 }
 
 void KxShotConfidence::AddSignal(double drawn, const KxSignalProfile& evidence)
@@ -40,16 +34,16 @@ void KxShotConfidence::AddSignal(double drawn, const KxSignalProfile& evidence)
     const auto weight = static_cast<double>(evidence.Sum());
     if (weight > 0.0) {
         m_ofSignals += weight;
-        m_apart += weight * std::abs(m_score.Preferred(evidence, Stride) - drawn) / m_halfExtent;
+        m_apart += weight * std::min(1.0, std::abs(m_score.Preferred(evidence, Stride) - drawn) / m_halfExtent);
     }
 }
 
-float KxShotConfidence::Value(double chosenTotal) const
+float KxShotConfidence::Value() const
 {
-    if (m_whole <= 0.0) {
+    if (m_inside + m_outside <= 0.0) {
         return 0.0F;
     }
-    const double margin = std::clamp((chosenTotal - m_others.BestTotal()) / m_whole, 0.0, MostMargin);
+    const double rival = m_outside < m_inside ? m_outside / m_inside : 1.0;
     const double disagreement = m_ofSignals > 0.0 ? m_apart / m_ofSignals : 0.0;
-    return static_cast<float>(std::clamp(Base + Scale * (m_inside / m_whole + margin - disagreement), 0.0, 1.0));
+    return static_cast<float>(1.0 - (rival + disagreement) / 2.0);
 }

@@ -2,38 +2,32 @@
 
 #include <KxCore/KxExport.h>
 
-#include <KxSubject/Choice/KxSubjectTracker.h>
+#include <KxSubject/Choice/KxCentreScore.h>
 
-/// How sure the choice for one shot is, from
-/// 1. the share of the evidence that the crop holds where the path puts it,
-/// 2. the margin of the chosen sequence of positions over the best one that is clearly different: its crop is never
-///    within half an extent of the chosen one, and
-/// 3. how far from the crop each signal alone would put it: signals that agree are seldom wrong together. It includes
-///    how far the path stays behind.
+/// How sure the choice for one shot is: 1 less the mean of two doubts, each between 0 and 1:
+/// 1. the rival: the tallest evidence outside of the crop, relative to the tallest inside, and
+/// 2. the disagreement: how far from the crop each signal alone would put it. Signals that agree are seldom wrong
+///    together. From half an extent on it is another crop, and farther away is no worse.
+/// Both are of the crop where the path puts it, so a path that stays behind is in doubt.
 class KXSUBJECT_API KxShotConfidence
 {
 public:
-    /// `score` must outlive this. `costPerPosition`: that of the tracker that chose.
-    KxShotConfidence(const KxCentreScore& score, double halfExtent, double costPerPosition);
+    /// `score` must outlive this. `halfExtent`: of the crop.
+    KxShotConfidence(const KxCentreScore& score, double halfExtent);
 
-    struct Choice {
-        double wanted; ///< the chosen centre
-        double drawn;  ///< the path's centre
-    };
-    /// `combined`: the evidence that was scored.
-    void Add(const Choice& choice, const KxSignalProfile& combined);
+    /// The evidence that was scored in one sample, for a crop around `drawn`.
+    void Add(double drawn, const KxSignalProfile& combined);
     /// The evidence of one signal, for a crop around `drawn`. A signal counts by its evidence.
     void AddSignal(double drawn, const KxSignalProfile& evidence);
 
-    /// 0 to 1. `chosenTotal`: of the tracker that chose, over the same samples.
-    float Value(double chosenTotal) const;
+    /// 0 to 1; 0 without evidence.
+    float Value() const;
 
 private:
     const KxCentreScore& m_score;
     double m_halfExtent;
-    KxSubjectTracker m_others;
-    double m_whole = 0.0;     ///< all evidence
-    double m_inside = 0.0;    ///< that inside the crop
+    double m_inside = 0.0;    ///< the sum of the samples' tallest evidence inside the crop
+    double m_outside = 0.0;   ///< the same outside
     double m_ofSignals = 0.0; ///< evidence of the single signals
     double m_apart = 0.0;     ///< the same times the distance of their own centres from the crop's, in half extents
 };

@@ -29,13 +29,7 @@ void KxSubjectTracker::Add(const KxCentreScore::Scores& scores)
     for (std::size_t i = 0; i < scores.size(); ++i) {
         m_reached[i] += scores[i] - largest;
     }
-    m_before += static_cast<double>(largest);
     m_origins.push_back(origins);
-}
-
-double KxSubjectTracker::BestTotal() const
-{
-    return m_before + static_cast<double>(*std::max_element(m_reached.begin(), m_reached.end()));
 }
 
 std::vector<std::size_t> KxSubjectTracker::BestRun() const

@@ -15,14 +15,11 @@ public:
     void Add(const KxCentreScore::Scores& scores);
     /// The position at every sample added.
     std::vector<std::size_t> BestRun() const;
-    /// The sum of the best sequence's scores less the cost of its moves.
-    double BestTotal() const;
 
 private:
     using Origins = std::array<std::uint8_t, KxCentreScore::Positions>;
 
     float m_cost;
-    KxCentreScore::Scores m_reached{}; ///< the best sum that ends at each position, less m_before
-    double m_before = 0.0;
-    std::vector<Origins> m_origins; ///< where the best run came from, for each sample and position
+    KxCentreScore::Scores m_reached{}; ///< the best sum that ends at each position, less a number common to all
+    std::vector<Origins> m_origins;    ///< where the best run came from, for each sample and position
 };
