@@ -121,12 +121,12 @@
         <translation>Einstellungen</translation>
     </message>
     <message>
-        <source>Travel is the sum of all movements of the crop in the shot, in percent of the width of the picture. Confidence is the share of the evidence that the crop holds; where it is low, look at the shot.</source>
-        <translation>Der Weg ist die Summe aller Bewegungen des Ausschnitts in der Einstellung, in Prozent der Bildbreite. Die Konfidenz ist der Anteil der Hinweise, den der Ausschnitt enthält; wo sie niedrig ist, die Einstellung prüfen.</translation>
+        <source>Travel is the sum of all movements of the crop in the shot, in percent of the width of the picture. Confidence falls if the evidence outside of the crop is as strong as inside, or if single signals want the crop elsewhere; where it is low, look at the shot.</source>
+        <translation>Der Weg ist die Summe aller Bewegungen des Ausschnitts in der Einstellung, in Prozent der Bildbreite. Die Konfidenz sinkt, wenn Hinweise außerhalb des Ausschnitts so stark sind wie innerhalb oder Signale den Ausschnitt anderswo haben wollen; wo sie niedrig ist, die Einstellung prüfen.</translation>
     </message>
     <message>
-        <source>Travel is the sum of all movements of the crop in the shot, in percent of the height of the picture. Confidence is the share of the evidence that the crop holds; where it is low, look at the shot.</source>
-        <translation>Der Weg ist die Summe aller Bewegungen des Ausschnitts in der Einstellung, in Prozent der Bildhöhe. Die Konfidenz ist der Anteil der Hinweise, den der Ausschnitt enthält; wo sie niedrig ist, die Einstellung prüfen.</translation>
+        <source>Travel is the sum of all movements of the crop in the shot, in percent of the height of the picture. Confidence falls if the evidence outside of the crop is as strong as inside, or if single signals want the crop elsewhere; where it is low, look at the shot.</source>
+        <translation>Der Weg ist die Summe aller Bewegungen des Ausschnitts in der Einstellung, in Prozent der Bildhöhe. Die Konfidenz sinkt, wenn Hinweise außerhalb des Ausschnitts so stark sind wie innerhalb oder Signale den Ausschnitt anderswo haben wollen; wo sie niedrig ist, die Einstellung prüfen.</translation>
     </message>
     <message>
         <source>Shot</source>

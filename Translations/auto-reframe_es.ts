@@ -121,12 +121,12 @@
         <translation>Planos</translation>
     </message>
     <message>
-        <source>Travel is the sum of all movements of the crop in the shot, in percent of the width of the picture. Confidence is the share of the evidence that the crop holds; where it is low, look at the shot.</source>
-        <translation>El recorrido es la suma de todos los movimientos del encuadre en el plano, en porcentaje del ancho de la imagen. La confianza es la parte de los indicios que contiene el encuadre; donde sea baja, revisar el plano.</translation>
+        <source>Travel is the sum of all movements of the crop in the shot, in percent of the width of the picture. Confidence falls if the evidence outside of the crop is as strong as inside, or if single signals want the crop elsewhere; where it is low, look at the shot.</source>
+        <translation>El recorrido es la suma de todos los movimientos del encuadre en el plano, en porcentaje del ancho de la imagen. La confianza baja cuando hay indicios fuera del encuadre tan fuertes como dentro o señales que lo quieren en otro lugar; donde sea baja, revisar el plano.</translation>
     </message>
     <message>
-        <source>Travel is the sum of all movements of the crop in the shot, in percent of the height of the picture. Confidence is the share of the evidence that the crop holds; where it is low, look at the shot.</source>
-        <translation>El recorrido es la suma de todos los movimientos del encuadre en el plano, en porcentaje del alto de la imagen. La confianza es la parte de los indicios que contiene el encuadre; donde sea baja, revisar el plano.</translation>
+        <source>Travel is the sum of all movements of the crop in the shot, in percent of the height of the picture. Confidence falls if the evidence outside of the crop is as strong as inside, or if single signals want the crop elsewhere; where it is low, look at the shot.</source>
+        <translation>El recorrido es la suma de todos los movimientos del encuadre en el plano, en porcentaje del alto de la imagen. La confianza baja cuando hay indicios fuera del encuadre tan fuertes como dentro o señales que lo quieren en otro lugar; donde sea baja, revisar el plano.</translation>
     </message>
     <message>
         <source>Shot</source>

@@ -121,12 +121,12 @@
         <translation>Plans</translation>
     </message>
     <message>
-        <source>Travel is the sum of all movements of the crop in the shot, in percent of the width of the picture. Confidence is the share of the evidence that the crop holds; where it is low, look at the shot.</source>
-        <translation>Le trajet est la somme de tous les mouvements du cadre dans le plan, en pourcentage de la largeur de l’image. La confiance est la part des indices que contient le cadre&#xa0;; si elle est faible, vérifier le plan.</translation>
+        <source>Travel is the sum of all movements of the crop in the shot, in percent of the width of the picture. Confidence falls if the evidence outside of the crop is as strong as inside, or if single signals want the crop elsewhere; where it is low, look at the shot.</source>
+        <translation>Le trajet est la somme de tous les mouvements du cadre dans le plan, en pourcentage de la largeur de l’image. La confiance baisse si des indices hors du cadre sont aussi forts qu’à l’intérieur ou si des signaux veulent le cadre ailleurs&#xa0;; si elle est faible, vérifier le plan.</translation>
     </message>
     <message>
-        <source>Travel is the sum of all movements of the crop in the shot, in percent of the height of the picture. Confidence is the share of the evidence that the crop holds; where it is low, look at the shot.</source>
-        <translation>Le trajet est la somme de tous les mouvements du cadre dans le plan, en pourcentage de la hauteur de l’image. La confiance est la part des indices que contient le cadre&#xa0;; si elle est faible, vérifier le plan.</translation>
+        <source>Travel is the sum of all movements of the crop in the shot, in percent of the height of the picture. Confidence falls if the evidence outside of the crop is as strong as inside, or if single signals want the crop elsewhere; where it is low, look at the shot.</source>
+        <translation>Le trajet est la somme de tous les mouvements du cadre dans le plan, en pourcentage de la hauteur de l’image. La confiance baisse si des indices hors du cadre sont aussi forts qu’à l’intérieur ou si des signaux veulent le cadre ailleurs&#xa0;; si elle est faible, vérifier le plan.</translation>
     </message>
     <message>
         <source>Shot</source>

@@ -120,12 +120,12 @@
         <translation>ショット</translation>
     </message>
     <message>
-        <source>Travel is the sum of all movements of the crop in the shot, in percent of the width of the picture. Confidence is the share of the evidence that the crop holds; where it is low, look at the shot.</source>
-        <translation>移動量は、ショット内でのクロップの動きの合計を画面の幅に対する割合 (%) で示したものです。信頼度は、クロップに含まれる手がかりの割合です。低いショットは確認してください。</translation>
+        <source>Travel is the sum of all movements of the crop in the shot, in percent of the width of the picture. Confidence falls if the evidence outside of the crop is as strong as inside, or if single signals want the crop elsewhere; where it is low, look at the shot.</source>
+        <translation>移動量は、ショット内でのクロップの動きの合計を画面の幅に対する割合 (%) で示したものです。信頼度は、クロップの外に中と同じくらい強い手がかりがあるときや、シグナルが別の位置を示すときに下がります。低いショットは確認してください。</translation>
     </message>
     <message>
-        <source>Travel is the sum of all movements of the crop in the shot, in percent of the height of the picture. Confidence is the share of the evidence that the crop holds; where it is low, look at the shot.</source>
-        <translation>移動量は、ショット内でのクロップの動きの合計を画面の高さに対する割合 (%) で示したものです。信頼度は、クロップに含まれる手がかりの割合です。低いショットは確認してください。</translation>
+        <source>Travel is the sum of all movements of the crop in the shot, in percent of the height of the picture. Confidence falls if the evidence outside of the crop is as strong as inside, or if single signals want the crop elsewhere; where it is low, look at the shot.</source>
+        <translation>移動量は、ショット内でのクロップの動きの合計を画面の高さに対する割合 (%) で示したものです。信頼度は、クロップの外に中と同じくらい強い手がかりがあるときや、シグナルが別の位置を示すときに下がります。低いショットは確認してください。</translation>
     </message>
     <message>
         <source>Shot</source>

@@ -121,12 +121,12 @@
         <translation>Planos</translation>
     </message>
     <message>
-        <source>Travel is the sum of all movements of the crop in the shot, in percent of the width of the picture. Confidence is the share of the evidence that the crop holds; where it is low, look at the shot.</source>
-        <translation>O percurso é a soma de todos os movimentos do corte no plano, em porcentagem da largura da imagem. A confiança é a parte dos indícios que o corte contém; onde for baixa, verifique o plano.</translation>
+        <source>Travel is the sum of all movements of the crop in the shot, in percent of the width of the picture. Confidence falls if the evidence outside of the crop is as strong as inside, or if single signals want the crop elsewhere; where it is low, look at the shot.</source>
+        <translation>O percurso é a soma de todos os movimentos do corte no plano, em porcentagem da largura da imagem. A confiança cai quando há indícios fora do corte tão fortes quanto dentro ou sinais que o querem em outro lugar; onde for baixa, verifique o plano.</translation>
     </message>
     <message>
-        <source>Travel is the sum of all movements of the crop in the shot, in percent of the height of the picture. Confidence is the share of the evidence that the crop holds; where it is low, look at the shot.</source>
-        <translation>O percurso é a soma de todos os movimentos do corte no plano, em porcentagem da altura da imagem. A confiança é a parte dos indícios que o corte contém; onde for baixa, verifique o plano.</translation>
+        <source>Travel is the sum of all movements of the crop in the shot, in percent of the height of the picture. Confidence falls if the evidence outside of the crop is as strong as inside, or if single signals want the crop elsewhere; where it is low, look at the shot.</source>
+        <translation>O percurso é a soma de todos os movimentos do corte no plano, em porcentagem da altura da imagem. A confiança cai quando há indícios fora do corte tão fortes quanto dentro ou sinais que o querem em outro lugar; onde for baixa, verifique o plano.</translation>
     </message>
     <message>
         <source>Shot</source>

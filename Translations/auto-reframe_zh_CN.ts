@@ -120,12 +120,12 @@
         <translation>镜头</translation>
     </message>
     <message>
-        <source>Travel is the sum of all movements of the crop in the shot, in percent of the width of the picture. Confidence is the share of the evidence that the crop holds; where it is low, look at the shot.</source>
-        <translation>移动量是该镜头中裁剪框所有移动的总和，以画面宽度的百分比表示。置信度是裁剪框所含线索的比例；如果偏低，请查看该镜头。</translation>
+        <source>Travel is the sum of all movements of the crop in the shot, in percent of the width of the picture. Confidence falls if the evidence outside of the crop is as strong as inside, or if single signals want the crop elsewhere; where it is low, look at the shot.</source>
+        <translation>移动量是该镜头中裁剪框所有移动的总和，以画面宽度的百分比表示。当裁剪框外的线索与框内一样强，或有信号指向别处时，置信度会降低；如果偏低，请查看该镜头。</translation>
     </message>
     <message>
-        <source>Travel is the sum of all movements of the crop in the shot, in percent of the height of the picture. Confidence is the share of the evidence that the crop holds; where it is low, look at the shot.</source>
-        <translation>移动量是该镜头中裁剪框所有移动的总和，以画面高度的百分比表示。置信度是裁剪框所含线索的比例；如果偏低，请查看该镜头。</translation>
+        <source>Travel is the sum of all movements of the crop in the shot, in percent of the height of the picture. Confidence falls if the evidence outside of the crop is as strong as inside, or if single signals want the crop elsewhere; where it is low, look at the shot.</source>
+        <translation>移动量是该镜头中裁剪框所有移动的总和，以画面高度的百分比表示。当裁剪框外的线索与框内一样强，或有信号指向别处时，置信度会降低；如果偏低，请查看该镜头。</translation>
     </message>
     <message>
         <source>Shot</source>
