@@ -4,15 +4,16 @@
 
 #include <cstddef>
 
-/// Every tuning value of the analysis. A comment begins with the range in which the value makes sense and ends with its
-/// origin:
+/// The tuning values of the analysis that change its results, or that several classes, tests or benchmarks share. A
+/// value that hardly matters within its range is a constant beside the code that uses it. A comment begins with the
+/// range in which the value makes sense and ends with its origin:
 /// - trial: chosen by trial on real footage;
 /// - clips: chosen by the score of "Against ground truth" in Docs/ANALYSIS.md;
 /// - speech: taken from a study on the same clips ("Who speaks" there), and kept;
 /// - talk: chosen by trial on the clips of "Who speaks" there;
 /// - cross: `Benchmarks/crossvalidate` chose it on some clips and scored it on the others;
 /// - shots: chosen on the videos of "Shot boundaries" there;
-/// - chosen: hardly matters within its range.
+/// - chosen: hardly matters within its range, but is shared.
 /// Lengths in `Px` are pixels of the working picture.
 struct KxSubjectOptions {
     struct Sampling {
