@@ -9,6 +9,7 @@ namespace
 
 constexpr double MostProduct = 2.5;     ///< bounds what a single step can do, as when a door slams
 constexpr int MostLagAfter = 2;         ///< steps that the sound may be earlier than the lips
+constexpr double LagSeconds = 2.0;      ///< over which a delay has to hold
 constexpr double ActivitySeconds = 1.0; ///< over which the movement is averaged
 constexpr double ActivityFloor = 0.02;  ///< deviations: movement far below is noise
 constexpr double RestSeconds = 1.0;     ///< of silence that show how a mouth moves at rest
@@ -161,10 +162,10 @@ void KxMouthEvidence::Correlate(const KxHeardSound& sound)
     double best = -std::numeric_limits<double>::infinity();
     std::ptrdiff_t bestLag = 0;
     for (std::ptrdiff_t lag = -m_options.mostLagBefore; lag <= MostLagAfter; ++lag) {
-        const Values products = product(lag);
+        const Values smooth = KxSeries::MeansAround(product(lag), StepsOf(LagSeconds / 2.0));
         double sum = 0.0;
         for (std::size_t i = 0; i < count; ++i) {
-            sum += sound.Gate()[i] ? std::max(products[i], 0.0) : 0.0;
+            sum += sound.Gate()[i] ? std::max(smooth[i], 0.0) : 0.0;
         }
         if (sum > best) {
             best = sum;

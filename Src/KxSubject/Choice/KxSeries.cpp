@@ -19,6 +19,7 @@ KxSeries::Values KxSeries::MeansAround(const Values& values, std::size_t reach)
 
 KxSeries::Values KxSeries::LocalScores(const Values& values, std::size_t meanReach, std::size_t deviationReach)
 {
+    constexpr double most = 3.0;
     Values scores = MeansAround(values, meanReach);
     std::transform(values.begin(), values.end(), scores.begin(), scores.begin(), std::minus<>());
     Values squares(scores.size());
@@ -28,7 +29,7 @@ KxSeries::Values KxSeries::LocalScores(const Values& values, std::size_t meanRea
     const Values variances = MeansAround(squares, deviationReach);
     for (std::size_t i = 0; i < scores.size(); ++i) {
         const double deviation = std::max(std::sqrt(std::max(variances[i], 0.0)), 0.5 * std::sqrt(variance));
-        scores[i] = deviation > 0.0 ? scores[i] / deviation : 0.0;
+        scores[i] = deviation > 0.0 ? std::clamp(scores[i] / deviation, -most, most) : 0.0;
     }
     return scores;
 }

@@ -14,7 +14,8 @@ using Values = std::vector<double>;
 KXSUBJECT_API Values MeansAround(const Values& values, std::size_t reach);
 
 /// How far each value is from the local mean, in local standard deviations: what is loud in a quiet place counts like
-/// what is very loud in a loud one. The deviation is at least half of that of all values.
+/// what is very loud in a loud one. The deviation is at least half of that of all values; scores are limited
+/// to +-3.
 KXSUBJECT_API Values LocalScores(const Values& values, std::size_t meanReach, std::size_t deviationReach);
 
 /// `values` less the part that rises and falls with `other`, by linear regression over what is at most `reach` steps

@@ -44,6 +44,14 @@ TEST(KxSeries, WhatHardlyVariesDoesNotScoreLikeTheRest)
     EXPECT_LT(*std::max_element(scores.begin() + 20, scores.begin() + 120), 0.1);
 }
 
+TEST(KxSeries, ScoresAreLimited)
+{
+    KxSeries::Values values(200, 0.0);
+    values[100] = 1000.0;
+    const KxSeries::Values scores = KxSeries::LocalScores(values, 20, 40);
+    EXPECT_EQ(scores[100], 3.0);
+}
+
 TEST(KxSeries, WhatFollowsAnotherSeriesIsTakenOut)
 {
     KxSeries::Values other;
