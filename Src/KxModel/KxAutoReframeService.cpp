@@ -210,7 +210,7 @@ int KxAutoReframeService::GetResults(const QString& path, QList<IKxAutoReframeRe
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     out->clear();
-    if (m_result.outcome != KxOutcome::Done || path != m_resultPath) {
+    if (m_result.crops.isEmpty() || m_result.outcome != KxOutcome::Done || path != m_resultPath) {
         return -1;
     }
     *out = m_result.crops;
@@ -436,6 +436,12 @@ QByteArray KxAutoReframeService::LastChoices() const
         record = m_result.record;
     }
     return KxChoicesFormat::Write(record ? KxDescribeChoices(*record, std::move(choices)) : choices);
+}
+
+void KxAutoReframeService::ForgetResults()
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_result.crops.clear();
 }
 
 std::vector<KxUsedModel> KxAutoReframeService::LastModels() const

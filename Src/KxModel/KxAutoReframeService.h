@@ -119,6 +119,10 @@ public:
     /// What a person should know about the last finished task. Any thread.
     QStringList LastWarnings() const;
 
+    /// Frees the results of the last finished task, of which there is one a frame: GetResults() gives none any more.
+    /// Any thread.
+    void ForgetResults();
+
 private:
     /// One start and its outcome.
     struct Task {

@@ -415,3 +415,22 @@ TEST_F(KxAutoReframeServiceTasks, AVideoCanBeDescribedWhileItsNextTaskRuns)
     ASSERT_TRUE(Start(m_slow));
     ASSERT_TRUE(recorder.WaitForEnds(3));
 }
+
+TEST_F(KxAutoReframeServiceTasks, ForgottenResultsAreGoneButNotWhatElseTheTaskFound)
+{
+    m_files.Add(m_quick, [](const Progress&) {
+        KxAnalysis::Result result = Done();
+        result.warnings = QStringList{QStringLiteral("It is cut off.")};
+        return result;
+    });
+    Recorder recorder(m_service);
+    ASSERT_TRUE(Start(m_quick));
+    ASSERT_TRUE(recorder.WaitForEnds(1));
+    EXPECT_EQ(ResultsOf(m_quick), 0);
+    m_service.ForgetResults();
+    EXPECT_LT(ResultsOf(m_quick), 0);
+    EXPECT_EQ(m_service.LastWarnings(), QStringList{QStringLiteral("It is cut off.")});
+    ASSERT_TRUE(Start(m_quick));
+    ASSERT_TRUE(recorder.WaitForEnds(2));
+    EXPECT_EQ(ResultsOf(m_quick), 0);
+}

@@ -52,6 +52,7 @@ void ReframeJob::ForgetCrops()
     IKxTimeline* const source = Helper().GetSourceTimeline();
     m_process.reset();
     IKxTimeline::releaseInstance(source);
+    KxAutoReframeService::Instance().ForgetResults();
     if (m_track) {
         m_track->crops.clear();
     }
