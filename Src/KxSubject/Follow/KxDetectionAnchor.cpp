@@ -122,10 +122,11 @@ std::optional<KxSubjectBox> KxDetectionAnchor::Correct(const Tracked& tracked)
     }
     const bool isSeen = tracked.confidence >= m_options.goodConfidence;
     const KxDetection* thing = isSeen ? Overlapping(*look, tracked.box) : nullptr;
-    if (thing == nullptr && m_thing) {
+    if (thing == nullptr && m_thing && !(isSeen && m_wasMissed)) {
         thing = FoundAgain(*look);
     }
-    if (thing == nullptr) {
+    m_wasMissed = thing == nullptr;
+    if (m_wasMissed) {
         return std::nullopt;
     }
     if (!m_thing) {

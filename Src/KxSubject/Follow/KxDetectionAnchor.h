@@ -26,7 +26,7 @@ public:
     /// 1. The detection that overlaps the tracked box most is the thing; at first by a half, later by less, since the
     ///    box may have drifted. What is much smaller or larger than a detection (a face) is never taken for one.
     /// 2. Where there is none, the tracker has lost it or stays on the background: it is the nearest detection of
-    ///    about its size.
+    ///    about its size. If the look before did not find it, either, a confident tracker knows better.
     /// 3. What was beside the thing at the look before is neither.
     /// The correction is to the detection what the followed box was to the first one: a person may have drawn more or
     /// less. Nothing if there was no look at this frame, or no such detection.
@@ -52,6 +52,7 @@ private:
     KxSubjectOptions::Detections m_linking;
     std::optional<KxDetection> m_thing;          ///< as it was detected last
     std::int64_t m_frame = 0;                    ///< when that was
+    bool m_wasMissed = false;                    ///< by the look before
     KxSubjectBox m_relation{0.0, 0.0, 1.0, 1.0}; ///< of the followed box to the detection, in its sides
     std::vector<KxDetection> m_bystanders;       ///< beside it at that time
 };

@@ -105,6 +105,17 @@ TEST(KxDetectionAnchor, ABystanderWhoIsPassedIsNotTakenForTheThing)
     ExpectBox(anchor.Correct({25, Box(0.38), 1.0}), 0.48);
 }
 
+TEST(KxDetectionAnchor, AfterAMissedLookAConfidentTrackerIsNotSentBack)
+{
+    const KxSubjectRecord record = Record({{Person(0.3F)}, {}, {Person(0.32F)}});
+    for (const double confidence : {1.0, 0.0}) {
+        KxDetectionAnchor anchor(record, Options);
+        ExpectBox(anchor.Correct({0, Box(0.3), 1.0}), 0.3);
+        EXPECT_FALSE(anchor.Correct({25, Box(0.45), confidence}));
+        EXPECT_EQ(anchor.Correct({50, Box(0.6), confidence}).has_value(), confidence == 0.0) << confidence;
+    }
+}
+
 TEST(KxDetectionAnchor, ADetectionOfMuchAnotherSizeIsNoCorrection)
 {
     const KxSubjectRecord record = Record({{Person(0.3F, 0.3F)}, {Person(0.3F, 0.1F)}});
