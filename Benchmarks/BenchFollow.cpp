@@ -42,9 +42,10 @@ KxSubjectChoice ChoiceOf(const QString& line)
     choice.kind = KxChoiceKind::Follow;
     for (const QString& text : line.split(QLatin1Char(';'))) {
         const QStringList numbers = text.split(QLatin1Char(','));
-        choice.seeds.push_back({numbers.value(0).toDouble(),
-                                {numbers.value(1).toDouble(), numbers.value(2).toDouble(), numbers.value(3).toDouble(),
-                                 numbers.value(4).toDouble()}});
+        const KxSubjectBox box{numbers.value(1).toDouble(), numbers.value(2).toDouble(), numbers.value(3).toDouble(),
+                               numbers.value(4).toDouble()};
+        choice.seeds.push_back({numbers.value(0).toDouble(), box,
+                                box.width > 0.0 ? KxSubjectSeed::Extent::Drawn : KxSubjectSeed::Extent::Guessed});
     }
     return choice;
 }

@@ -168,6 +168,10 @@ KxSignalProfile Decider::Combined(const KxEvidence::Parts& parts, const ShotEvid
 
 KxSubjectOptions::Reaction Decider::ReactionIn(const ShotEvidence& evidence) const
 {
+    if (evidence.chosen.Adjusts()) {
+        // The automatic crop is smooth by itself, and the adjustment must not come too late.
+        return m_options.fast;
+    }
     KxSubjectOptions::Reaction reaction = m_options.For(m_request.speed);
     if (evidence.chosen.Follows()) {
         // A person who points at something wants it in the picture more than a calm camera.
@@ -244,7 +248,9 @@ std::vector<KxPathPoint> Decider::WantedCentres(const Shot& shot, const ShotEvid
     }
     std::vector<KxPathPoint> points;
     for (const std::size_t position : tracker.BestRun()) {
-        points.push_back({samples[range.begin + points.size()].frame, m_score.CentreAt(position)});
+        const std::int64_t frame = samples[range.begin + points.size()].frame;
+        const std::optional<double> adjusted = evidence.chosen.AdjustedCentre(frame, m_geometry.Extent());
+        points.push_back({frame, adjusted ? *adjusted : m_score.CentreAt(position)});
     }
     return points;
 }
@@ -268,13 +274,19 @@ Decider::ShotEvidence Decider::EvidenceIn(const Shot& shot, const KxChoiceRanges
         return evidence;
     }
     const auto centresOf = [&](const ShotEvidence& from) {
-        return [this, &shot, centres = Drawn(shot, from, WantedCentres(shot, from, cancel), cancel)](
-                   std::int64_t frame) { return centres[static_cast<std::size_t>(frame - shot.first)]; };
+        return [first = shot.first, centres = Drawn(shot, from, WantedCentres(shot, from, cancel), cancel)](
+                   std::int64_t frame) { return centres[static_cast<std::size_t>(frame - first)]; };
     };
     const KxChosenEvidence::CentreAt automatic = centresOf(evidenceWith(KxChoiceRanges::None()));
     evidence.chosen.LeaveWhatIsHeld(automatic, m_geometry.Extent(), m_options.follow.heldShare);
-    if (evidence.chosen.Follows()) {
-        evidence.chosen.LeaveWhatGainsNothing(automatic, centresOf(evidence), m_geometry.Extent());
+    if (!evidence.chosen.Follows()) {
+        return evidence;
+    }
+    const KxChosenEvidence::CentreAt followed = centresOf(evidence);
+    evidence.chosen.LeaveWhatGainsNothing(automatic, followed, m_geometry.Extent());
+    evidence.chosen.AdjustAutomatic(automatic);
+    if (evidence.chosen.Adjusts()) {
+        evidence.chosen.FollowWhatIsHeldBetter(centresOf(evidence), followed, m_geometry.Extent());
     }
     return evidence;
 }

@@ -248,6 +248,27 @@ TEST(KxSubjectChoices, ATrackThatNoCropHoldsBetterLeavesTheAutomaticCropAsItIs)
     }
 }
 
+TEST(KxSubjectChoices, TheAutomaticCropMovesOnlyAsFarAsABoxThatAPersonDrewNeeds)
+{
+    // Half of the box lies outside the automatic crop, which reaches to 0.41 of the width.
+    KxSubjectRequest request;
+    KxSubjectChoice follow;
+    follow.kind = KxChoiceKind::Follow;
+    KxFollowTrack track;
+    for (std::int32_t frame = 0; frame < Cut; frame += 2) {
+        track.points.push_back({frame, {0.36, 0.2, 0.1, 0.6}, 1.0F});
+    }
+    request.tracks = {track};
+    const auto middleFor = [&](KxSubjectSeed::Extent extent) {
+        follow.seeds = {{1.0, {0.36, 0.2, 0.1, 0.6}, extent}};
+        request.choices = {follow};
+        return Middle(KxDecide(TwoShots(), request, {}, KxCancelToken()).crops[50]);
+    };
+    const double room = 9.0 / 16.0 * 720.0 / 1280.0 - 0.1;
+    EXPECT_NEAR(middleFor(KxSubjectSeed::Extent::Drawn), 0.41 - room / 4.0, 0.005);
+    EXPECT_GT(middleFor(KxSubjectSeed::Extent::Guessed), 0.37);
+}
+
 TEST(KxSubjectChoices, WhatIsFollowedOutweighsWhatTheSignalsPrefer)
 {
     KxSubjectRequest request;

@@ -11,7 +11,7 @@ KxChosenEvidence::KxChosenEvidence(const KxSubjectRequest& request, const KxChoi
         const KxFollowTrack none;
         const KxFollowTrack& track = range.choice < request.tracks.size() ? request.tracks[range.choice] : none;
         const KxFollowEvidence::Axis along{frameRate, axis};
-        return Part{range, KxFollowEvidence(request.choices[range.choice], track, range, options, along)};
+        return Part{range, KxFollowEvidence(request.choices[range.choice], track, range, options, along), false};
     };
     for (const KxChoiceRanges::Range& range : ranges.Placed()) {
         if (request.choices[range.choice].kind == KxChoiceKind::Follow) {
@@ -60,4 +60,33 @@ void KxChosenEvidence::LeaveWhatGainsNothing(const CentreAt& automatic, const Ce
         return part.evidence.HeldBy(automatic, extent) >= part.evidence.HeldBy(followed, extent);
     };
     m_followed.erase(std::remove_if(m_followed.begin(), m_followed.end(), gainsNothing), m_followed.end());
+}
+
+void KxChosenEvidence::AdjustAutomatic(const CentreAt& automatic)
+{
+    m_automatic = automatic;
+    for (Part& part : m_followed) {
+        part.isAdjusted = part.evidence.IsDrawn();
+    }
+}
+
+void KxChosenEvidence::FollowWhatIsHeldBetter(const CentreAt& adjusted, const CentreAt& followed, double extent)
+{
+    for (Part& part : m_followed) {
+        part.isAdjusted =
+            part.isAdjusted && part.evidence.HeldBy(adjusted, extent) >= part.evidence.HeldBy(followed, extent);
+    }
+}
+
+bool KxChosenEvidence::Adjusts() const
+{
+    return std::any_of(m_followed.begin(), m_followed.end(), [](const Part& part) { return part.isAdjusted; });
+}
+
+std::optional<double> KxChosenEvidence::AdjustedCentre(std::int64_t frame, double extent) const
+{
+    const auto part = std::find_if(m_followed.begin(), m_followed.end(),
+                                   [frame](const Part& one) { return one.isAdjusted && one.Has(frame); });
+    return part != m_followed.end() ? std::optional(part->evidence.Holding(m_automatic(frame), frame, extent))
+                                    : std::nullopt;
 }

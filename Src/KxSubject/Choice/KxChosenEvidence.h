@@ -8,6 +8,7 @@
 #include <KxSubject/KxSubjectRequest.h>
 
 #include <functional>
+#include <optional>
 #include <vector>
 
 /// The evidence in one shot after what a person chose to follow and to avoid there.
@@ -30,13 +31,24 @@ public:
     /// The same for what the crop that follows it, around `followed`, holds no better than the automatic one: a track
     /// that has lost the thing moves faster than any crop, and following it gains nothing.
     void LeaveWhatGainsNothing(const CentreAt& automatic, const CentreAt& followed, double extent);
+    /// For what a person drew, whose extent is therefore known, the automatic crop is adjusted: it moves only as far as
+    /// it must to hold the thing. Where the track has slid to a part of it, the crop then stays near its place.
+    void AdjustAutomatic(const CentreAt& automatic);
+    /// Takes that back for what the crop that follows it holds more of than the adjusted one.
+    void FollowWhatIsHeldBetter(const CentreAt& adjusted, const CentreAt& followed, double extent);
+    /// Whether the automatic crop is adjusted to something in the shot.
+    bool Adjusts() const;
+    /// The centre of the adjusted crop; nothing at a frame where none is.
+    std::optional<double> AdjustedCentre(std::int64_t frame, double extent) const;
 
 private:
     struct Part {
         KxChoiceRanges::Range range;
         KxFollowEvidence evidence;
+        bool isAdjusted = false;
         bool Has(std::int64_t frame) const { return frame >= range.first && frame < range.end; }
     };
     std::vector<Part> m_followed;
     std::vector<Part> m_avoided;
+    CentreAt m_automatic; ///< to adjust
 };

@@ -10,6 +10,10 @@ namespace
 /// A tracked picture says something about this time around it.
 constexpr double ReachSeconds = 0.25;
 
+/// 0.25 to 0.75 of the room that a crop has beside the thing may lie on one side of it alone: more leaves the crop
+/// nearer to its place, less shows the thing nearer to the middle.
+constexpr double FreeRoom = 0.5;
+
 } // namespace
 
 KxFollowEvidence::KxFollowEvidence(const KxSubjectChoice& choice, const KxFollowTrack& track,
@@ -29,6 +33,7 @@ KxFollowEvidence::KxFollowEvidence(const KxSubjectChoice& choice, const KxFollow
             continue;
         }
         m_seedFrames.push_back(frame);
+        m_isDrawn = m_isDrawn && seed.extent == KxSubjectSeed::Extent::Drawn;
         if (!isTracked) {
             const bool isPoint = seed.box.width <= 0.0 || seed.box.height <= 0.0;
             const KxSubjectBox usual{seed.box.x - options.pointWidth / 2.0, seed.box.y - options.pointHeight / 2.0,
@@ -71,6 +76,7 @@ KxFollowEvidence::Place KxFollowEvidence::At(std::int64_t frame) const
                                               return std::abs(a.frame - frame) < std::abs(b.frame - frame);
                                           });
     place.confidence = secondsTo(nearest->frame) <= ReachSeconds ? static_cast<double>(nearest->confidence) : 0.0;
+    place.isDoubted = nearest->isDoubted;
     return place;
 }
 
@@ -141,4 +147,16 @@ double KxFollowEvidence::HeldBy(const std::function<double(std::int64_t frame)>&
     const auto known = std::count_if(m_points.begin(), m_points.end(),
                                      [](const KxFollowTrack::Point& point) { return !point.isDoubted; });
     return 1.0 - missed / static_cast<double>(std::max<std::ptrdiff_t>(1, known));
+}
+
+double KxFollowEvidence::Holding(double centre, std::int64_t frame, double extent) const
+{
+    const Place place = At(frame);
+    if (!IsKnown(place) || place.isDoubted) {
+        return centre;
+    }
+    const double from = std::clamp(place.from, 0.0, 1.0);
+    const double to = std::clamp(place.to, 0.0, 1.0);
+    const double free = FreeRoom * std::abs(extent - (to - from)) / 2.0;
+    return std::clamp(centre, (from + to) / 2.0 - free, (from + to) / 2.0 + free);
 }

@@ -37,6 +37,11 @@ public:
     /// What is near the edge of the box does not count, since the box is not exact. Where the thing was not seen well,
     /// nothing says that the crop does not hold it. Where the track is doubted, nothing is known.
     double HeldBy(const std::function<double(std::int64_t frame)>& centreAt, double extent) const;
+    /// Whether the extent of the thing is known, since a person drew or confirmed each box.
+    bool IsDrawn() const { return m_isDrawn; }
+    /// The centre nearest to `centre` at which a crop of an extent holds the thing with some room on both sides;
+    /// `centre` itself where the thing was not seen well or the track is doubted.
+    double Holding(double centre, std::int64_t frame, double extent) const;
 
     /// `evidence` of all signals in a picture with the thing in it that the choice avoids.
     KxSignalProfile WithoutAvoided(const KxSignalProfile& evidence, std::int64_t frame) const;
@@ -50,6 +55,7 @@ private:
         double confidence = 0.0;
         double seconds = 0.0; ///< since, or until, it was seen well
         bool isSeed = false;  ///< a person pointed at it just then
+        bool isDoubted = false;
     };
     Place At(std::int64_t frame) const;
     bool IsKnown(const Place& place) const;
@@ -57,6 +63,7 @@ private:
     KxSubjectOptions::Follow m_options;
     double m_frameRate;
     KxAxis m_axis;
+    bool m_isDrawn = true;
     std::vector<std::int64_t> m_seedFrames;
     std::vector<KxFollowTrack::Point> m_points; ///< growing by frame, never empty
     std::vector<std::size_t> m_good;            ///< those that were seen well

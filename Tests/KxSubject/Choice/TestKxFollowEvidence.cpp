@@ -127,6 +127,18 @@ TEST(KxFollowEvidence, TheShareThatACropHoldsCountsWhatItCouldHold)
     EXPECT_NEAR(evidence.HeldBy(still(0.161), 0.1), 2.0 / 3.0, 1e-2) << "what is near its edge may not be of the thing";
 }
 
+TEST(KxFollowEvidence, ACropMovesOnlyAsFarAsItMustToHoldTheThingWithSomeRoom)
+{
+    KxFollowTrack track{{Seen(0, 0.4, 1.0F), Seen(10, 0.4, 1.0F), Seen(50, 0.4, 1.0F), Seen(100, 0.4, 0.0F)}};
+    EXPECT_NEAR(Evidence(track).Holding(0.47, 10, 0.3), 0.47, 1e-9) << "it is inside";
+    EXPECT_NEAR(Evidence(track).Holding(0.1, 10, 0.3), 0.4, 1e-9) << "half of the room to the left of it";
+    EXPECT_NEAR(Evidence(track).Holding(0.9, 10, 0.3), 0.5, 1e-9);
+    EXPECT_NEAR(Evidence(track).Holding(0.1, 10, 0.06), 0.44, 1e-9) << "the crop is smaller, and stays inside";
+    EXPECT_NEAR(Evidence(track).Holding(0.1, 100, 0.3), 0.1, 1e-9) << "lost";
+    track.points[2].isDoubted = true;
+    EXPECT_NEAR(Evidence(track).Holding(0.1, 50, 0.3), 0.1, 1e-9) << "doubted";
+}
+
 TEST(KxFollowEvidence, WhereTheTrackIsDoubtedNothingIsKnownOfWhatTheCropHolds)
 {
     KxFollowTrack track{{Seen(0, 0.1, 1.0F), Seen(10, 0.5, 1.0F), Seen(20, 0.9, 1.0F)}};

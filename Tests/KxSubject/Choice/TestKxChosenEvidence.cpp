@@ -1,0 +1,59 @@
+#include <KxSubject/Choice/KxChosenEvidence.h>
+
+#include <gtest/gtest.h>
+
+namespace
+{
+
+constexpr double Rate = 25.0;
+constexpr std::int64_t Frames = 100;
+constexpr double Extent = 0.3;
+
+/// What follows a box of the width 0.1 that stays at 0.4; half of the room beside it are 0.05 on each side.
+KxChosenEvidence Following(KxSubjectSeed::Extent extent)
+{
+    const KxSubjectBox box{0.4, 0.2, 0.1, 0.4};
+    KxSubjectRequest request;
+    KxSubjectChoice choice;
+    choice.kind = KxChoiceKind::Follow;
+    choice.seeds = {{0.0, box, extent}};
+    request.choices = {choice};
+    KxFollowTrack track;
+    for (std::int32_t frame = 0; frame < Frames; frame += 2) {
+        track.points.push_back({frame, box, 1.0F});
+    }
+    request.tracks = {track};
+    return {request, KxChoiceRanges(request.choices, Rate, 0, Frames), {}, Rate, KxAxis::Across};
+}
+
+KxChosenEvidence::CentreAt Still(double centre)
+{
+    return [centre](std::int64_t) { return centre; };
+}
+
+} // namespace
+
+TEST(KxChosenEvidence, TheAutomaticCropIsAdjustedToWhatAPersonDrew)
+{
+    KxChosenEvidence drawn = Following(KxSubjectSeed::Extent::Drawn);
+    EXPECT_FALSE(drawn.Adjusts());
+    drawn.AdjustAutomatic(Still(0.2));
+    ASSERT_TRUE(drawn.Adjusts());
+    EXPECT_NEAR(drawn.AdjustedCentre(50, Extent).value(), 0.4, 1e-9);
+    EXPECT_FALSE(drawn.AdjustedCentre(Frames, Extent)) << "outside the choice";
+    KxChosenEvidence guessed = Following(KxSubjectSeed::Extent::Guessed);
+    guessed.AdjustAutomatic(Still(0.2));
+    EXPECT_FALSE(guessed.Adjusts()) << "nobody knows how large it is";
+    EXPECT_TRUE(guessed.Follows());
+}
+
+TEST(KxChosenEvidence, WhatACropThatFollowsItHoldsMoreOfIsFollowed)
+{
+    KxChosenEvidence chosen = Following(KxSubjectSeed::Extent::Drawn);
+    chosen.AdjustAutomatic(Still(0.2));
+    chosen.FollowWhatIsHeldBetter(Still(0.4), Still(0.45), Extent);
+    EXPECT_TRUE(chosen.Adjusts()) << "both hold it";
+    chosen.FollowWhatIsHeldBetter(Still(0.26), Still(0.45), Extent);
+    EXPECT_FALSE(chosen.Adjusts());
+    EXPECT_TRUE(chosen.Follows());
+}
