@@ -270,7 +270,7 @@ bool KxVideoAnalysis::Follow(const KxSubjectRecord& record, KxSubjectRequest& re
         request.tracks.push_back(std::move(pass.track));
     }
     for (const KxFollowTrack& track : request.tracks) {
-        for (const KxFollowTrack::Loss& doubt : track.Doubts(record.source.frameRate, {})) {
+        for (const KxFollowTrack::Loss& doubt : track.Doubts(record.source.frameRate)) {
             result.losses.append({doubt.first, doubt.last, KxAutoReframeLoss::Kind::Doubted});
         }
         for (const KxFollowTrack::Loss& loss : track.Losses(record.source.frameRate, {})) {

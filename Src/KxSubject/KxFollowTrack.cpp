@@ -5,6 +5,8 @@
 namespace
 {
 
+constexpr double LostSeconds = 1.0; ///< a shorter loss or doubt is not reported
+
 using Loss = KxFollowTrack::Loss;
 using Point = KxFollowTrack::Point;
 
@@ -42,13 +44,12 @@ std::vector<Loss> LongRanges(const std::vector<Point>& points, double longest, c
 
 std::vector<KxFollowTrack::Loss> KxFollowTrack::Losses(double frameRate, const KxSubjectOptions& options) const
 {
-    return LongRanges(points, options.follow.lostSeconds * frameRate, [&options](const Point& point) {
+    return LongRanges(points, LostSeconds * frameRate, [&options](const Point& point) {
         return static_cast<double>(point.confidence) < options.follow.goodConfidence;
     });
 }
 
-std::vector<KxFollowTrack::Loss> KxFollowTrack::Doubts(double frameRate, const KxSubjectOptions& options) const
+std::vector<KxFollowTrack::Loss> KxFollowTrack::Doubts(double frameRate) const
 {
-    return LongRanges(points, options.follow.lostSeconds * frameRate,
-                      [](const Point& point) { return point.isDoubted; });
+    return LongRanges(points, LostSeconds * frameRate, [](const Point& point) { return point.isDoubted; });
 }

@@ -27,5 +27,5 @@ struct KXSUBJECT_API KxFollowTrack {
     /// Those that last so long that a person should point at the thing again.
     std::vector<Loss> Losses(double frameRate, const KxSubjectOptions& options) const;
     /// Those that are doubted for as long, in which the tracker may see the thing all the same.
-    std::vector<Loss> Doubts(double frameRate, const KxSubjectOptions& options) const;
+    std::vector<Loss> Doubts(double frameRate) const;
 };

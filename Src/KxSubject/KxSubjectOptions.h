@@ -199,52 +199,21 @@ struct KxSubjectOptions {
         double centrePriorUpDown = 4.0; ///< 1 to 6 for a crop that moves up and down, where evidence misleads; clips
     } evidence;
 
-    /// Following what a person points at. The tracker's values are its published ones or were chosen once, except for
-    /// the least margin; none is fitted to the clips.
+    /// Following what a person points at.
     struct Follow {
-        double picturesPerSecond = 15.0;  ///< 10 to 30, at most; chosen
-        double marginShare = 0.6;         ///< 0.4 to 1 of the box's width and height, around it in a window; chosen
-        double leastMarginPx = 44.0;      ///< 30 to 60: a small thing moves by more than its size; trial
-        double patchPx = 112.0;           ///< 80 to 160, the root of a window's area as it is compared; chosen
-        double sigmaShare = 0.1;          ///< 0.06 to 0.15 of the box, the width of the learned peak; chosen
-        double colourShare = 0.3;         ///< 0.1 to 0.5 of the answer is the colours'; chosen
-        double learnRate = 0.025;         ///< 0.01 to 0.05 a picture; chosen
-        double colourRate = 0.04;         ///< 0.02 to 0.08 a picture; chosen
-        double meanRate = 0.1;            ///< 0.05 to 0.2 of a peak goes into the running mean; chosen
-        int picturesASize = 2;            ///< 1 to 4: other sizes are tried in one picture of these; chosen
-        double sizeStep = 1.04;           ///< 1.02 to 1.08; chosen
-        double otherSizeShare = 0.99;     ///< 0.95 to 1 of its peak counts, or the size would never rest; chosen
-        double leastScale = 0.2;          ///< 0.1 to 0.5 of the first size; chosen
-        double goodPeakShare = 0.35;      ///< 0.25 to 0.5 of the running mean: a lower peak is a miss; chosen
-        double leastPeak = 0.08;          ///< 0.05 to 0.15; chosen
-        double goodPeakToSidelobe = 4.5;  ///< 4 to 6; chosen
-        int missesToSearch = 2;           ///< 1 to 5 in a row before it is searched for elsewhere; chosen
-        int picturesASearch = 2;          ///< 1 to 5: searched for in one picture of these; chosen
-        int searchedSteps = 2;            ///< 1 to 3 half windows each way; chosen
-        double foundPeakToSidelobe = 6.0; ///< 5 to 8; chosen
-        double foundPeakShare = 0.5;      ///< 0.4 to 0.7 of the running mean; chosen
-        double noPeakToSidelobe = 3.5;    ///< 3 to 4.5 gives no confidence; chosen
-        double sureSpan = 5.0;            ///< 3 to 8 beyond, gives full confidence; chosen
-        double surePeakShare = 0.6;       ///< 0.5 to 0.8 of the running mean, the same; chosen
-        double goodConfidence = 0.3;      ///< 0.2 to 0.5: below, the thing counts as lost; chosen
-        double lostSeconds = 1.0;         ///< 0.5 to 2: a shorter loss or doubt is not reported; chosen
+        double goodConfidence = 0.3; ///< 0.2 to 0.5: below, the thing counts as lost; chosen
         /// 0.3 to 0.6, the intersection over the union of the box that a person drew, perhaps with what the thing
         /// holds, and a detection of it; trial
         double firstOverlap = 0.4;
-        double stillOverlap = 0.3;      ///< 0.2 to 0.4: the same for a tracked box, which may have drifted; chosen
-        double sameOverlap = 0.6;       ///< 0.5 to 0.8: a tracked box that overlaps more is left as it is; chosen
-        double stillGrowth = 0.7;       ///< 0.5 to 1 a second, logarithm of the areas' ratio of two looks; chosen
-        double checkedSeconds = 1.0;    ///< 0.7 to 1.5: how much of a track is followed backward at a time; chosen
-        double returnShare = 0.5;       ///< 0.3 to 1 of the box's side, farther from where it began, it is lost; chosen
-        double sameColours = 0.7;       ///< 0.6 to 0.8 in common, a coefficient of Bhattacharyya; chosen
-        double bridgedConfidence = 0.5; ///< 0.3 to 0.7 of a place that is known from movers alone; chosen
-        double agreeingShare = 0.6;     ///< 0.4 to 1 of the box's width: tracks nearer than this agree; chosen
-        double gateWidth = 0.15;        ///< 0.1 to 0.25: evidence farther from the track counts less; trial
-        double gateGrowth = 0.3;        ///< 0.2 to 0.5 a second without a good picture; trial
-        double denial = 0.3;            ///< 0 to 0.7 of the other evidence is denied by full confidence; cross
-        double weight = 2.0;            ///< 1 to 4 of the tracked box; trial
-        double seedWeight = 4.0;        ///< 2 to 8 of a box that a person drew; chosen
-        double seedSeconds = 0.35;      ///< 0.2 to 1 each way, for which that holds; chosen
+        double stillOverlap = 0.3; ///< 0.2 to 0.4: the same for a tracked box, which may have drifted; chosen
+        double sameOverlap = 0.6;  ///< 0.5 to 0.8: a tracked box that overlaps more is left as it is; chosen
+        double stillGrowth = 0.7;  ///< 0.5 to 1 a second, logarithm of the areas' ratio of two looks; chosen
+        double gateWidth = 0.15;   ///< 0.1 to 0.25: evidence farther from the track counts less; trial
+        double gateGrowth = 0.3;   ///< 0.2 to 0.5 a second without a good picture; trial
+        double denial = 0.3;       ///< 0 to 0.7 of the other evidence is denied by full confidence; cross
+        double weight = 2.0;       ///< 1 to 4 of the tracked box; trial
+        double seedWeight = 4.0;   ///< 2 to 8 of a box that a person drew; chosen
+        double seedSeconds = 0.35; ///< 0.2 to 1 each way, for which that holds; chosen
         /// 0.05 to 0.15 of a box's side: what is nearer to its edge may not be of the thing; chosen
         double boxError = 0.1;
         /// 0.8 to 1 of the thing, over the shot: where the automatic crop holds more, it stays as it is; chosen

@@ -37,7 +37,7 @@ Frames LossesOf(const KxFollowTrack& track)
 
 Frames DoubtsOf(const KxFollowTrack& track)
 {
-    return FramesOf(track.Doubts(Rate, {}));
+    return FramesOf(track.Doubts(Rate));
 }
 
 } // namespace

@@ -11,6 +11,9 @@
 namespace
 {
 
+constexpr double ReturnShare = 0.5; ///< of the box's side: farther from where it began, it is lost
+constexpr double SameColours = 0.7; ///< in common, a coefficient of Bhattacharyya
+
 /// The colours in a box, 16 levels of each channel; their sum is 1.
 cv::Mat ColoursOf(const cv::Mat& picture, const cv::Rect2d& box)
 {
@@ -41,9 +44,8 @@ cv::Point2d MiddleOf(const cv::Rect2d& box)
 
 } // namespace
 
-KxDriftCheck::KxDriftCheck(const KxSubjectOptions::Follow& options, std::int64_t framesASecond)
-    : m_options(options)
-    , m_framesASecond(framesASecond)
+KxDriftCheck::KxDriftCheck(std::int64_t framesASecond)
+    : m_framesASecond(framesASecond)
 {
 }
 
@@ -71,15 +73,15 @@ void KxDriftCheck::Add(std::int64_t frame, const cv::Mat& picture, const cv::Rec
 
 bool KxDriftCheck::HasItsColours(const Tracked& last) const
 {
-    return InCommon(m_colours, ColoursOf(last.picture, last.box)) >= m_options.sameColours;
+    return InCommon(m_colours, ColoursOf(last.picture, last.box)) >= SameColours;
 }
 
 bool KxDriftCheck::LeadsBack() const
 {
-    KxFollowTracker back(m_options, m_second.back().picture, m_second.back().box);
+    KxFollowTracker back(m_second.back().picture, m_second.back().box);
     for (auto tracked = std::next(m_second.rbegin()); tracked != m_second.rend(); ++tracked) {
         back.AddPicture(tracked->picture);
     }
     const cv::Rect2d& began = m_second.front().box;
-    return cv::norm(MiddleOf(back.Box()) - MiddleOf(began)) <= m_options.returnShare * std::sqrt(began.area());
+    return cv::norm(MiddleOf(back.Box()) - MiddleOf(began)) <= ReturnShare * std::sqrt(began.area());
 }

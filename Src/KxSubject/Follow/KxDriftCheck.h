@@ -2,8 +2,6 @@
 
 #include <KxCore/KxExport.h>
 
-#include <KxSubject/KxSubjectOptions.h>
-
 #include <opencv2/core/mat.hpp>
 
 #include <cstdint>
@@ -19,7 +17,7 @@ class KXSUBJECT_API KxDriftCheck
 {
 public:
     /// `framesASecond`: how many frames one check covers, at least 1.
-    KxDriftCheck(const KxSubjectOptions::Follow& options, std::int64_t framesASecond);
+    explicit KxDriftCheck(std::int64_t framesASecond);
 
     /// The thing is known to be in this box. `picture` is CV_8UC3; it is copied, as are all others.
     void SeeAt(std::int64_t frame, const cv::Mat& picture, const cv::Rect2d& box);
@@ -38,7 +36,6 @@ private:
     bool HasItsColours(const Tracked& last) const;
     bool LeadsBack() const;
 
-    KxSubjectOptions::Follow m_options;
     std::int64_t m_framesASecond;
     cv::Mat m_colours;
     std::vector<Tracked> m_second; ///< what was tracked since the second began

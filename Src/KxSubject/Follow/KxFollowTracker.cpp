@@ -9,6 +9,31 @@
 namespace
 {
 
+// Published values or chosen once, except for the least margin, which was found by trial; none is fitted to clips.
+constexpr double MarginShare = 0.6;         ///< of the box's width and height, around it in a window
+constexpr double LeastMarginPx = 44.0;      ///< a small thing moves by more than its size
+constexpr double PatchPx = 112.0;           ///< the root of a window's area as it is compared
+constexpr double SigmaShare = 0.1;          ///< of the box, the width of the learned peak
+constexpr double ColourShare = 0.3;         ///< of the answer is the colours'
+constexpr double LearnRate = 0.025;         ///< a picture
+constexpr double ColourRate = 0.04;         ///< a picture
+constexpr double MeanRate = 0.1;            ///< of a peak goes into the running mean
+constexpr int PicturesASize = 2;            ///< other sizes are tried in one picture of these
+constexpr double SizeStep = 1.04;           ///< from size to size
+constexpr double OtherSizeShare = 0.99;     ///< of its peak counts, or the size would never rest
+constexpr double LeastScale = 0.2;          ///< of the first size
+constexpr double GoodPeakShare = 0.35;      ///< of the running mean: a lower peak is a miss
+constexpr double LeastPeak = 0.08;          ///< a lower one is a miss, too
+constexpr double GoodPeakToSidelobe = 4.5;  ///< a lower one is a miss, too
+constexpr int MissesToSearch = 2;           ///< in a row before it is searched for elsewhere
+constexpr int PicturesASearch = 2;          ///< searched for in one picture of these
+constexpr int SearchedSteps = 2;            ///< half windows each way
+constexpr double FoundPeakToSidelobe = 6.0; ///< where it is found again
+constexpr double FoundPeakShare = 0.5;      ///< of the running mean, the same
+constexpr double NoPeakToSidelobe = 3.5;    ///< gives no confidence
+constexpr double SureSpan = 5.0;            ///< beyond, gives full confidence
+constexpr double SurePeakShare = 0.6;       ///< of the running mean, the same
+
 /// Pixels of the picture for one of a patch, above which a smaller picture is taken: sampling would skip pixels.
 constexpr double MostStep = 1.5;
 
@@ -20,23 +45,22 @@ int FastCells(double cells)
     return cv::getOptimalDFTSize(std::clamp(cvRound(cells / 2.0), least / 2, most / 2)) * 2;
 }
 
-cv::Size2d WindowOf(const cv::Size2d& box, const KxSubjectOptions::Follow& options)
+cv::Size2d WindowOf(const cv::Size2d& box)
 {
-    const double margin = std::max(options.marginShare * (box.width + box.height), options.leastMarginPx);
+    const double margin = std::max(MarginShare * (box.width + box.height), LeastMarginPx);
     return {box.width + margin, box.height + margin};
 }
 
-cv::Size CellsOf(const cv::Size2d& window, const KxSubjectOptions::Follow& options)
+cv::Size CellsOf(const cv::Size2d& window)
 {
-    const double scale = options.patchPx / std::sqrt(window.area()) / KxPatchFeatures::CellPx;
+    const double scale = PatchPx / std::sqrt(window.area()) / KxPatchFeatures::CellPx;
     return {FastCells(window.width * scale), FastCells(window.height * scale)};
 }
 
-double SigmaOf(const cv::Size2d& box, const cv::Size2d& window, const cv::Size& cells,
-               const KxSubjectOptions::Follow& options)
+double SigmaOf(const cv::Size2d& box, const cv::Size2d& window, const cv::Size& cells)
 {
     const double share = std::sqrt(box.area() / window.area());
-    return std::max(0.5, options.sigmaShare * share * std::sqrt(cells.area()));
+    return std::max(0.5, SigmaShare * share * std::sqrt(cells.area()));
 }
 
 /// A box that has an extent and touches the picture.
@@ -73,14 +97,13 @@ double PeakToSidelobe(const cv::Mat& response, cv::Point peak)
 
 } // namespace
 
-KxFollowTracker::KxFollowTracker(const KxSubjectOptions::Follow& options, const cv::Mat& picture, const cv::Rect2d& box)
-    : m_options(options)
-    , m_picturePx(picture.size())
+KxFollowTracker::KxFollowTracker(const cv::Mat& picture, const cv::Rect2d& box)
+    : m_picturePx(picture.size())
     , m_centre((Sane(box, m_picturePx).tl() + Sane(box, m_picturePx).br()) / 2.0)
     , m_size(Sane(box, m_picturePx).size())
-    , m_windowPx(WindowOf(m_size, options))
-    , m_features(CellsOf(m_windowPx, options))
-    , m_filter(CellsOf(m_windowPx, options), SigmaOf(m_size, m_windowPx, CellsOf(m_windowPx, options), options))
+    , m_windowPx(WindowOf(m_size))
+    , m_features(CellsOf(m_windowPx))
+    , m_filter(CellsOf(m_windowPx), SigmaOf(m_size, m_windowPx, CellsOf(m_windowPx)))
 {
     Prepare(picture);
     Learn(1.0, 1.0);
@@ -145,7 +168,7 @@ KxFollowTracker::Match KxFollowTracker::Look(cv::Point2d centre, double factor)
         for (int x = 0; x < response.cols; ++x) {
             const float colour = colours.at<float>(y * KxPatchFeatures::CellPx, x * KxPatchFeatures::CellPx);
             float& value = response.at<float>(y, x);
-            value += static_cast<float>(m_options.colourShare) * (colour - value);
+            value += static_cast<float>(ColourShare) * (colour - value);
         }
     }
     cv::Point peak;
@@ -165,23 +188,23 @@ KxFollowTracker::Match KxFollowTracker::Look(cv::Point2d centre, double factor)
 
 bool KxFollowTracker::IsGood(const Match& match) const
 {
-    return match.peak > m_options.goodPeakShare * m_meanPeak && match.peak > m_options.leastPeak &&
-           match.peakToSidelobe > m_options.goodPeakToSidelobe;
+    return match.peak > GoodPeakShare * m_meanPeak && match.peak > LeastPeak &&
+           match.peakToSidelobe > GoodPeakToSidelobe;
 }
 
 KxFollowTracker::Match KxFollowTracker::LookAround()
 {
     Match best;
-    for (int row = -m_options.searchedSteps; row <= m_options.searchedSteps; ++row) {
-        for (int column = -m_options.searchedSteps; column <= m_options.searchedSteps; ++column) {
+    for (int row = -SearchedSteps; row <= SearchedSteps; ++row) {
+        for (int column = -SearchedSteps; column <= SearchedSteps; ++column) {
             const cv::Point2d centre(m_centre.x + column * m_windowPx.width * m_scale / 2.0,
                                      m_centre.y + row * m_windowPx.height * m_scale / 2.0);
             if (!cv::Rect2d(cv::Point2d(), cv::Size2d(m_picturePx)).contains(centre)) {
                 continue;
             }
             const Match match = Look(centre, 1.0);
-            if (match.peakToSidelobe > m_options.foundPeakToSidelobe &&
-                match.peak > m_options.foundPeakShare * m_meanPeak && match.peak > best.peak) {
+            if (match.peakToSidelobe > FoundPeakToSidelobe && match.peak > FoundPeakShare * m_meanPeak &&
+                match.peak > best.peak) {
                 best = match;
             }
         }
@@ -199,8 +222,8 @@ void KxFollowTracker::Accept(const Match& match)
 {
     MoveTo(match.centre);
     const double most = std::min(m_picturePx.width / m_size.width, m_picturePx.height / m_size.height);
-    m_scale = std::clamp(m_scale * match.factor, std::min(m_options.leastScale, most), most);
-    m_meanPeak += m_options.meanRate * (match.peak - m_meanPeak);
+    m_scale = std::clamp(m_scale * match.factor, std::min(LeastScale, most), most);
+    m_meanPeak += MeanRate * (match.peak - m_meanPeak);
     m_misses = 0;
 }
 
@@ -209,24 +232,24 @@ void KxFollowTracker::AddPicture(const cv::Mat& picture)
     ++m_pictures;
     Prepare(picture);
     Match match = Look(m_centre, 1.0);
-    if (IsGood(match) && m_pictures % m_options.picturesASize == 0) {
-        for (const double factor : {1.0 / m_options.sizeStep, m_options.sizeStep}) {
+    if (IsGood(match) && m_pictures % PicturesASize == 0) {
+        for (const double factor : {1.0 / SizeStep, SizeStep}) {
             const Match other = Look(m_centre, factor);
-            if (other.peak * m_options.otherSizeShare > match.peak) {
+            if (other.peak * OtherSizeShare > match.peak) {
                 match = other;
             }
         }
     }
-    m_confidence = std::clamp((match.peakToSidelobe - m_options.noPeakToSidelobe) / m_options.sureSpan, 0.0, 1.0) *
-                   std::clamp(match.peak / (m_options.surePeakShare * m_meanPeak), 0.0, 1.0);
+    m_confidence = std::clamp((match.peakToSidelobe - NoPeakToSidelobe) / SureSpan, 0.0, 1.0) *
+                   std::clamp(match.peak / (SurePeakShare * m_meanPeak), 0.0, 1.0);
     if (IsGood(match)) {
         Accept(match);
-        Learn(m_options.learnRate, m_options.colourRate);
+        Learn(LearnRate, ColourRate);
         return;
     }
     ++m_misses;
     m_confidence = 0.0;
-    if (m_misses > m_options.missesToSearch && m_misses % m_options.picturesASearch == 0) {
+    if (m_misses > MissesToSearch && m_misses % PicturesASearch == 0) {
         const Match found = LookAround();
         if (found.peak > 0.0) {
             Accept(found);

@@ -5,7 +5,6 @@
 #include <KxSubject/Follow/KxColourModel.h>
 #include <KxSubject/Follow/KxCorrelationFilter.h>
 #include <KxSubject/Follow/KxPatchFeatures.h>
-#include <KxSubject/KxSubjectOptions.h>
 
 #include <opencv2/core/mat.hpp>
 
@@ -18,7 +17,7 @@ class KXSUBJECT_API KxFollowTracker
 {
 public:
     /// `picture` is CV_8UC3; so are all others, of the same size. `box` in pixels.
-    KxFollowTracker(const KxSubjectOptions::Follow& options, const cv::Mat& picture, const cv::Rect2d& box);
+    KxFollowTracker(const cv::Mat& picture, const cv::Rect2d& box);
 
     void AddPicture(const cv::Mat& picture);
 
@@ -47,7 +46,6 @@ private:
     bool IsGood(const Match& match) const;
     void Accept(const Match& match);
 
-    KxSubjectOptions::Follow m_options;
     cv::Size m_picturePx;
     cv::Point2d m_centre;
     cv::Size2d m_size;     ///< of the box in the first picture

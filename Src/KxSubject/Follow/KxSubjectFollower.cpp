@@ -18,6 +18,9 @@
 namespace
 {
 
+constexpr double PicturesPerSecond = 15.0; ///< at most
+constexpr double CheckedSeconds = 1.0;     ///< of a track that are followed backward at a time
+constexpr double BridgedConfidence = 0.5;  ///< of a place that is known from movers alone
 constexpr std::size_t BytesPerPixel = 3;
 
 struct Picture {
@@ -99,9 +102,9 @@ KxSubjectFollower::Impl::Impl(const KxSubjectRecord& record, const KxSubjectChoi
     , m_options(options)
     , m_sizePx(record.workingSizePx.width, record.workingSizePx.height)
     , m_stepFrames(std::max<std::int64_t>(
-          1, static_cast<std::int64_t>(std::floor(record.source.frameRate / options.follow.picturesPerSecond + 0.01))))
+          1, static_cast<std::int64_t>(std::floor(record.source.frameRate / PicturesPerSecond + 0.01))))
     , m_frameRate(record.source.frameRate)
-    , m_checkedFrames(std::max<std::int64_t>(1, std::llround(record.source.frameRate * options.follow.checkedSeconds)))
+    , m_checkedFrames(std::max<std::int64_t>(1, std::llround(record.source.frameRate * CheckedSeconds)))
 {
     std::int64_t first = 0;
     for (std::size_t i = 0; i <= record.boundaries.size(); ++i) {
@@ -208,8 +211,8 @@ KxSubjectFollower::Impl::Run KxSubjectFollower::Impl::Started(std::size_t index,
         seed.box =
             found ? *found : ShareOf(KxBoxGuess::Around(picture.pixels, PixelsOf(seed.box).tl(), m_options.follow).box);
     }
-    Run run{index, KxFollowTracker(m_options.follow, picture.pixels, PixelsOf(seed.box)), anchor,
-            KxMoverBridge(m_record), KxDriftCheck(m_options.follow, m_checkedFrames)};
+    Run run{index, KxFollowTracker(picture.pixels, PixelsOf(seed.box)), anchor, KxMoverBridge(m_record),
+            KxDriftCheck(m_checkedFrames)};
     run.anchor.Correct({picture.frame, seed.box, 1.0});
     run.drift.SeeAt(picture.frame, picture.pixels, PixelsOf(seed.box));
     run.bridge.SeeAt(picture.frame, seed.box);
@@ -223,7 +226,7 @@ KxFollowTrack::Point KxSubjectFollower::Impl::Advance(Run& run, const Picture& p
     const KxSubjectBox tracked = ShareOf(tracker.Box());
     const std::optional<KxSubjectBox> found = run.anchor.Correct({picture.frame, tracked, tracker.Confidence()});
     if (found && !KxDetectionAnchor::AreSame(*found, tracked, m_options.follow)) {
-        tracker = KxFollowTracker(m_options.follow, picture.pixels, PixelsOf(*found));
+        tracker = KxFollowTracker(picture.pixels, PixelsOf(*found));
     }
     KxFollowTrack::Point point{static_cast<std::int32_t>(picture.frame), ShareOf(tracker.Box()),
                                static_cast<float>(tracker.Confidence())};
@@ -231,7 +234,7 @@ KxFollowTrack::Point KxSubjectFollower::Impl::Advance(Run& run, const Picture& p
         run.bridge.SeeAt(picture.frame, point.box);
     } else if (const std::optional<KxSubjectBox> bridged = run.bridge.BoxAt(picture.frame)) {
         point.box = *bridged;
-        point.confidence = static_cast<float>(m_options.follow.bridgedConfidence);
+        point.confidence = static_cast<float>(BridgedConfidence);
         const cv::Rect2d box = PixelsOf(*bridged);
         tracker.MoveTo((box.tl() + box.br()) / 2.0);
     }

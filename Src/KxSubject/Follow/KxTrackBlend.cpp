@@ -7,6 +7,8 @@
 namespace
 {
 
+constexpr double AgreeingShare = 0.6; ///< of the box's width: tracks nearer than this agree
+
 using Point = KxFollowTrack::Point;
 
 KxSubjectBox Mix(const KxSubjectBox& a, const KxSubjectBox& b, double part)
@@ -24,7 +26,7 @@ double Distance(const KxSubjectBox& a, const KxSubjectBox& b)
 bool Arrives(const std::vector<Point>& points, const Point& seed, const KxSubjectOptions::Follow& options)
 {
     return !points.empty() && static_cast<double>(points.back().confidence) >= options.goodConfidence &&
-           Distance(points.back().box, seed.box) < options.agreeingShare * seed.box.width;
+           Distance(points.back().box, seed.box) < AgreeingShare * seed.box.width;
 }
 
 /// Puts the points without confidence on the line between the nearest ones that have some. The first and the last one
@@ -82,7 +84,7 @@ std::vector<Point> KxTrackBlend::Between(const Side& left, const Side& right, co
         }
         const bool agrees = pair.left != nullptr && pair.right != nullptr &&
                             Distance(pair.left->box, pair.right->box) <
-                                options.agreeingShare * std::min(pair.left->box.width, pair.right->box.width);
+                                AgreeingShare * std::min(pair.left->box.width, pair.right->box.width);
         if (agrees) {
             blended.push_back({frame, Mix(pair.left->box, pair.right->box, part),
                                std::max(pair.left->confidence, pair.right->confidence)});

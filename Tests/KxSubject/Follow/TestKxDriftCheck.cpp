@@ -38,7 +38,7 @@ cv::Mat PictureWith(const std::vector<int>& places)
 
 KxDriftCheck Started(const cv::Mat& picture, int x)
 {
-    KxDriftCheck check({}, Second);
+    KxDriftCheck check(Second);
     check.SeeAt(0, picture, ThingAt(x));
     return check;
 }
@@ -67,7 +67,7 @@ TEST(KxDriftCheck, ATrackThatStaysOnTheBackgroundIsDoubtedFromThatSecondOn)
 
 TEST(KxDriftCheck, BackwardInTimeItIsTheSame)
 {
-    KxDriftCheck check({}, Second);
+    KxDriftCheck check(Second);
     check.SeeAt(100, PictureWith({40}), ThingAt(40));
     for (int frame = 1; frame <= Second; ++frame) {
         check.Add(100 - frame, PictureWith({40 + Right * frame}), ThingAt(40 + Right * std::min(frame, 5)));

@@ -37,7 +37,7 @@ using Way = std::function<cv::Point2d(int picture)>;
 
 KxFollowTracker Followed(const Way& way, int pictures)
 {
-    KxFollowTracker tracker({}, Picture(way(0)), BoxAround(way(0)));
+    KxFollowTracker tracker(Picture(way(0)), BoxAround(way(0)));
     for (int i = 1; i < pictures; ++i) {
         tracker.AddPicture(Picture(way(i)));
     }
@@ -69,7 +69,7 @@ TEST(KxFollowTracker, AThingThatComesCloserGrows)
         scaled.copyTo(whole(cv::Rect(160 - scaled.cols / 2, 90 - scaled.rows / 2, scaled.cols, scaled.rows)));
         return whole;
     };
-    KxFollowTracker tracker({}, picture(0), {145.0, 70.0, 30.0, 40.0});
+    KxFollowTracker tracker(picture(0), {145.0, 70.0, 30.0, 40.0});
     for (int i = 1; i < 40; ++i) {
         tracker.AddPicture(picture(i));
     }
@@ -119,7 +119,7 @@ TEST(KxFollowTracker, BoxesOfEverySizeAndPlaceAreAccepted)
     for (const cv::Rect2d& box : {cv::Rect2d(0, 0, 320, 180), cv::Rect2d(-50, -50, 60, 60),
                                   cv::Rect2d(310, 170, 100, 100), cv::Rect2d(100, 50, 0, 0), cv::Rect2d(0, 80, 320, 2),
                                   cv::Rect2d(150, 0, 1, 180), cv::Rect2d(-900, 900, 5000, 4000)}) {
-        KxFollowTracker tracker({}, picture, box);
+        KxFollowTracker tracker(picture, box);
         for (int i = 0; i < 5; ++i) {
             tracker.AddPicture(picture);
         }
@@ -131,7 +131,7 @@ TEST(KxFollowTracker, BoxesOfEverySizeAndPlaceAreAccepted)
 TEST(KxFollowTracker, PlainPicturesAreAccepted)
 {
     const cv::Mat plain(PictureSize, CV_8UC3, cv::Scalar::all(90));
-    KxFollowTracker tracker({}, plain, {100.0, 50.0, 40.0, 60.0});
+    KxFollowTracker tracker(plain, {100.0, 50.0, 40.0, 60.0});
     for (int i = 0; i < 6; ++i) {
         tracker.AddPicture(plain);
     }
