@@ -160,7 +160,8 @@ std::shared_ptr<const KxSubjectRecord> KxRecordStore::FindOnDisk(const QByteArra
     if (!bytes) {
         return nullptr;
     }
-    std::optional<KxSubjectRecord> read = KxSubjectRecordFormat::Read(bytes->toStdString());
+    std::optional<KxSubjectRecord> read =
+        KxSubjectRecordFormat::Read({bytes->constData(), static_cast<std::size_t>(bytes->size())});
     if (!read) {
         m_folder->Remove(KxCacheFolder::Kind::Record, key);
         return nullptr;
@@ -176,7 +177,8 @@ void KxRecordStore::Add(const QByteArray& key, const std::shared_ptr<const KxSub
     if (key.isEmpty() || written.size() > MostRecordBytes) {
         return;
     }
-    const QByteArray bytes = QByteArray::fromStdString(written);
+    // Shares the memory: those of hours of video take some.
+    const QByteArray bytes = QByteArray::fromRawData(written.data(), static_cast<int>(written.size()));
     KeepInMemory({key, record, bytes.size(), true});
     m_folder->Write(KxCacheFolder::Kind::Record, key, bytes);
 }

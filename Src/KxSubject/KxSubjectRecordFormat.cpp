@@ -443,7 +443,7 @@ std::string KxSubjectRecordFormat::Write(const KxSubjectRecord& record)
     return writer.Finished();
 }
 
-std::optional<KxSubjectRecord> KxSubjectRecordFormat::Read(const std::string& bytes)
+std::optional<KxSubjectRecord> KxSubjectRecordFormat::Read(std::string_view bytes)
 {
     if (bytes.size() < ChecksumBytes) {
         return std::nullopt;

@@ -6,6 +6,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 
 /// A record as bytes, the same on every machine.
 namespace KxSubjectRecordFormat
@@ -18,5 +19,5 @@ KXSUBJECT_API std::string Write(const KxSubjectRecord& record);
 /// Nothing if the bytes are damaged, of another version, or contain anything that no observer would have seen. Whether
 /// the record is of the video at hand, its number of frames above all, is for the caller to compare. Throws
 /// std::bad_alloc.
-KXSUBJECT_API std::optional<KxSubjectRecord> Read(const std::string& bytes);
+KXSUBJECT_API std::optional<KxSubjectRecord> Read(std::string_view bytes);
 } // namespace KxSubjectRecordFormat
