@@ -1,6 +1,7 @@
 #include <KxMedia/Write/KxEncoderOptions.h>
 
 extern "C" {
+#include <libavutil/cpu.h>
 #include <libavutil/mastering_display_metadata.h>
 #include <libavutil/opt.h>
 }
@@ -71,6 +72,10 @@ void SetBitRate(AVCodecContext& context, qint64 bitRate)
     context.rc_buffer_size = static_cast<int>(PeakSeconds * context.rc_max_rate);
 }
 
+/// With AVX-512, libx264's sums over later pictures (mb-tree) depend on what was in memory before, so that a second
+/// video of one process differs from run to run. Every processor with AVX-512 has the others.
+constexpr const char* WithoutAvx512 = "asm=MMX2,SSE2Fast,SSSE3,SSE4.2,AVX,FMA3,BMI2,AVX2";
+
 int SetX264(AVCodecContext& context, const Settings& settings)
 {
     context.thread_type = FF_THREAD_SLICE;
@@ -80,6 +85,9 @@ int SetX264(AVCodecContext& context, const Settings& settings)
         context.max_b_frames = 0;
     }
     int error = av_opt_set(context.priv_data, "preset", settings.preset.toLatin1().constData(), 0);
+    if (error >= 0 && (av_get_cpu_flags() & AV_CPU_FLAG_AVX512) != 0) {
+        error = av_opt_set(context.priv_data, "x264-params", WithoutAvx512, 0);
+    }
     // Fast presets look ahead even less.
     const int lookahead = Lookahead(settings.size);
     if (error >= 0 && lookahead < LongestLookahead) {

@@ -1,10 +1,14 @@
 #include <Tests/KxMedia/Write/WrittenClips.h>
 
 #include <KxCore/KxSystemFile.h>
+#include <KxCore/KxThread.h>
 
 #include <QDir>
 #include <QFile>
 #include <QProcess>
+
+#include <algorithm>
+#include <random>
 
 #if !defined(_WIN32)
 #include <csignal>
@@ -265,4 +269,70 @@ TEST_F(KxMp4WriterTest, SamePicturesGiveTheSameBytes)
         // Not compared by EXPECT_EQ, which would print the files.
         EXPECT_TRUE(written(QStringLiteral("again%1.mp4").arg(run)) == first);
     }
+}
+
+namespace
+{
+
+/// Frees memory that is full of random bytes, for the next allocations. It stays with this process while the result
+/// lives.
+std::vector<unsigned> LeaveInMemory(unsigned seed)
+{
+    std::minstd_rand random(seed);
+    std::vector<std::vector<unsigned>> blocks(4000);
+    for (std::vector<unsigned>& block : blocks) {
+        block.resize(random() % 15000);
+        std::generate(block.begin(), block.end(), [&random] { return static_cast<unsigned>(random()); });
+    }
+    return blocks.back();
+}
+
+} // namespace
+
+// Real footage, since made pictures do not show it.
+TEST_F(KxMp4WriterTest, WhatMemoryHeldBeforeDoesNotShow)
+{
+    const QString footage = QStringLiteral("/usr/share/doc/opencv-doc/examples/data/Megamind.avi");
+    if (!QFile::exists(footage)) {
+        GTEST_SKIP() << "needs Megamind.avi of the package opencv-doc";
+    }
+    constexpr int pictures = 250;
+    const QSize size(202, 360);
+    const QByteArray raw = OutputOf(
+        QStringLiteral("ffmpeg"), {QStringLiteral("-v"), QStringLiteral("error"), QStringLiteral("-i"), footage,
+                                   QStringLiteral("-vf"), QStringLiteral("scale=202:360"), QStringLiteral("-frames:v"),
+                                   QString::number(pictures), QStringLiteral("-pix_fmt"), QStringLiteral("yuv420p"),
+                                   QStringLiteral("-f"), QStringLiteral("rawvideo"), QStringLiteral("-")});
+    const int pictureBytes = size.width() * size.height() * 3 / 2;
+    ASSERT_EQ(raw.size(), pictures * pictureBytes);
+    const auto written = [&](const QString& name, unsigned before) {
+        const std::vector<unsigned> last = LeaveInMemory(before);
+        KxMp4Writer::Settings settings = SettingsFor(Path(name));
+        settings.size = size;
+        settings.format.quality = 60.0;
+        const std::unique_ptr<KxMp4Writer> writer = Open(settings);
+        for (int index = 0; writer != nullptr && index < pictures; ++index) {
+            const auto texture = [&](int plane, int x, int y) {
+                const int pixels = size.width() * size.height();
+                const int begin = plane == 0 ? 0 : plane == 1 ? pixels : pixels * 5 / 4;
+                const int width = plane == 0 ? size.width() : size.width() / 2;
+                return static_cast<unsigned char>(raw.at(index * pictureBytes + begin + y * width + x));
+            };
+            EXPECT_EQ(writer->AddPicture(MadePicture::Wrap(MadePicture::Make(AV_PIX_FMT_YUV420P, size, texture), index),
+                                         index),
+                      std::nullopt);
+        }
+        EXPECT_TRUE(writer->Finish());
+        return Content(Path(name));
+    };
+    // In threads: the memory of the main thread is its own.
+    const auto inThread = [&written](const QString& name, unsigned before) {
+        QByteArray content;
+        KxThread([&] { content = written(name, before); }).Join();
+        return content;
+    };
+    const QByteArray first = inThread(QStringLiteral("first.mp4"), 1);
+    EXPECT_FALSE(first.isEmpty());
+    EXPECT_TRUE(inThread(QStringLiteral("second.mp4"), 2) == first);
+    EXPECT_TRUE(inThread(QStringLiteral("third.mp4"), 3) == first);
 }
