@@ -6,6 +6,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QPainter>
+#include <QProcess>
 
 #include <gtest/gtest.h>
 
@@ -61,9 +62,9 @@ protected:
     }
     void Make(const QString& name, MadeVideo::Recipe& recipe, const QStringList& codec)
     {
-        recipe.inputs = QStringList{
-            QStringLiteral("-f"), QStringLiteral("lavfi"), QStringLiteral("-i"),
-            QStringLiteral("aevalsrc='0.8*sin(2*PI*880*t)*lt(mod(t,0.5),0.05)':s=48000:d=%1").arg(Frames / 30.0)};
+        recipe.inputs = QStringList{QStringLiteral("-f"), QStringLiteral("lavfi"), QStringLiteral("-i"),
+                                    QStringLiteral("aevalsrc='0.8*sin(2*PI*880*t)*lt(mod(t,0.5),0.05)':s=48000:d=%1")
+                                        .arg(recipe.frames / recipe.rate.toDouble())};
         recipe.output = codec + QStringList{QStringLiteral("-pix_fmt"), QStringLiteral("yuv420p"),
                                             QStringLiteral("-c:a"), QStringLiteral("aac"), QStringLiteral("-shortest")};
         ASSERT_TRUE(MadeVideo::Make(Path(name), recipe));
@@ -73,6 +74,23 @@ protected:
     {
         QFile file(Path(name));
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+    /// The shape of a pixel, and for each packet of the pictures a line with its times, size and hash.
+    QByteArray Packets(const QString& name) const
+    {
+        QProcess ffmpeg;
+        ffmpeg.start(QStringLiteral("ffmpeg"),
+                     {QStringLiteral("-v"), QStringLiteral("error"), QStringLiteral("-i"), Path(name),
+                      QStringLiteral("-map"), QStringLiteral("0:v"), QStringLiteral("-c"), QStringLiteral("copy"),
+                      QStringLiteral("-f"), QStringLiteral("framehash"), QStringLiteral("-")});
+        EXPECT_TRUE(ffmpeg.waitForFinished());
+        QByteArray lines;
+        for (const QByteArray& line : ffmpeg.readAllStandardOutput().split('\n')) {
+            if (line.startsWith("#sar") || (!line.startsWith('#') && !line.isEmpty())) {
+                lines += line + '\n';
+            }
+        }
+        return lines;
     }
     /// Runs the program without a cache and without networks; what it reports as an error.
     QString Reframe(const QStringList& arguments, int exitStatus = 0) const
@@ -192,6 +210,41 @@ TEST_F(ReframePartsTest, JoinedVideosShowEachFrameOnceWithTheSoundInStep)
                                                QStringLiteral("--if-needed"), QStringLiteral("--output"),
                                                Path(QStringLiteral("joined.mp4")), Path(clip)});
     EXPECT_TRUE(again.standardOutput.contains(QLatin1String("skipped"))) << again.standardOutput.toStdString();
+}
+
+TEST_F(ReframePartsTest, VideosJoinedFromPartsOfAQualityAreTheWholeVideo)
+{
+    // Four seconds a scene, so that scenes, parts and segments of ten seconds end at different frames.
+    const QString clip = QStringLiteral("clip.mp4");
+    MadeVideo::Recipe recipe;
+    recipe.size = QSize(320, 180);
+    recipe.rate = QStringLiteral("5");
+    recipe.frames = 210;
+    recipe.draw = [](int number) { return DrawScene(number % 40 + 50); };
+    Make(clip, recipe, X264);
+    Analyse(clip, QStringLiteral("track.json"));
+    for (const QString& codec : {QStringLiteral("h264"), QStringLiteral("hevc"), QStringLiteral("av1")}) {
+        SCOPED_TRACE(codec.toStdString());
+        const QStringList apply{QStringLiteral("--apply"),    Path(QStringLiteral("track.json")),
+                                QStringLiteral("--codec"),    codec,
+                                QStringLiteral("--quality"),  QStringLiteral("60"),
+                                QStringLiteral("--overwrite")};
+        const QStringList parts{Part(clip, QStringLiteral("1/3"), QStringLiteral("a.mp4"), apply),
+                                Part(clip, QStringLiteral("2/3"), QStringLiteral("b.mp4"), apply),
+                                Part(clip, QStringLiteral("3/3"), QStringLiteral("c.mp4"), apply)};
+        // Parts begin at segments of 50 frames, the last one of which has 10.
+        EXPECT_EQ(Pictures(parts[0]).size(), 50U);
+        EXPECT_EQ(Pictures(parts[1]).size(), 50U);
+        EXPECT_EQ(Pictures(parts[2]).size(), 110U);
+        Reframe(apply + QStringList{QStringLiteral("--output"), Path(QStringLiteral("whole.mp4")), Path(clip)});
+        Reframe(apply +
+                QStringList{QStringLiteral("--join"), QStringLiteral("--output"), Path(QStringLiteral("joined.mp4")),
+                            Path(clip)} +
+                parts);
+        const QByteArray whole = Packets(QStringLiteral("whole.mp4"));
+        EXPECT_EQ(whole.count('\n'), 211);
+        EXPECT_EQ(Packets(QStringLiteral("joined.mp4")), whole);
+    }
 }
 
 TEST_F(ReframePartsTest, PartsThatDoNotMakeAWholeAreRefused)

@@ -36,7 +36,7 @@ std::optional<FramesOption> FramesOption::Parse(const QString& text)
     return FramesOption(kind, first, second);
 }
 
-KxResult<KxFrameRange> FramesOption::Of(qint64 frameCount) const
+KxResult<KxFrameRange> FramesOption::Of(qint64 frameCount, qint64 segmentFrames) const
 {
     using Range = KxResult<KxFrameRange>;
     if (m_kind == Kind::Frames) {
@@ -44,7 +44,11 @@ KxResult<KxFrameRange> FramesOption::Of(qint64 frameCount) const
                    ? Range(KxFrameRange{m_first, m_second + 1})
                    : Range::Failure(Texts::tr("its last frame is %1").arg(QString::number(frameCount - 1)));
     }
-    const KxFrameRange frames{frameCount * (m_first - 1) / m_second, frameCount * m_first / m_second};
+    const qint64 unit = frameCount / segmentFrames >= m_second ? segmentFrames : 1;
+    const auto begin = [&](qint64 part) {
+        return part < m_second ? frameCount * part / m_second / unit * unit : frameCount;
+    };
+    const KxFrameRange frames{begin(m_first - 1), begin(m_first)};
     return frames.Count() > 0 ? Range(frames)
                               : Range::Failure(Texts::tr("it has %1 frames only").arg(QString::number(frameCount)));
 }

@@ -2,7 +2,9 @@
 
 #include <KxCore/KxInterrupt.h>
 #include <KxCore/KxThread.h>
+#include <KxMedia/Write/KxMp4Writer.h>
 #include <KxModel/KxAutoReframeService.h>
+#include <KxModel/KxClip.h>
 #include <KxModel/KxPicturesFile.h>
 
 #include <QCoreApplication>
@@ -22,7 +24,8 @@ ReframeJob::Ended ReframeJob::FindFrames()
     if (!m_options.frames) {
         return std::nullopt;
     }
-    const KxResult<KxFrameRange> frames = m_options.frames->Of(m_media->duration());
+    const KxRational rate = static_cast<const KxClip*>(m_media->clip())->StreamInfo().frameRate();
+    const KxResult<KxFrameRange> frames = m_options.frames->Of(m_media->duration(), KxMp4Writer::SegmentFrames(rate));
     if (!frames) {
         return Fail(Texts::tr("Cannot take that part of %1: %2.").arg(m_input, frames.Message()));
     }

@@ -10,6 +10,9 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
+#include <cmath>
+
 namespace
 {
 
@@ -19,6 +22,7 @@ struct Texts {
 
 constexpr int VideoStream = 0;
 constexpr int AudioStream = 1;
+constexpr double SegmentSeconds = 10.0;
 
 QString Message(const QString& path, const QString& reason)
 {
@@ -63,7 +67,10 @@ private:
     KxVideoEncoder::Settings VideoSettings() const;
     /// Chooses the encoder and encodes the pictures that were held back for that.
     KxError BeginWithTheBest();
+    /// Ends the segment before, if there is one. `first` is needed for the first segment only.
     KxError OpenEncoder(const AVFrame& first);
+    /// Whether the next picture is encoded without a look at those before.
+    bool StartsSegment() const;
     /// Writes the header; the stream of the pictures has been added, or has failed to be with `error`.
     KxError Begin(int error);
     KxError Encode(const KxVideoFrame& picture);
@@ -75,6 +82,7 @@ private:
     std::unique_ptr<KxOutputFile> m_file;
     KxMp4Muxer m_muxer;
     std::unique_ptr<KxVideoEncoder> m_video;
+    KxAvFrame m_tags{av_frame_alloc()}; ///< of the first picture, without its pixels
     std::unique_ptr<KxAacEncoder> m_audio;
     // Sound added before the first picture.
     std::vector<KxAudioBlock> m_earlyAudio;
@@ -130,14 +138,36 @@ KxError KxMp4Writer::Impl::BeginWithTheBest()
     return std::nullopt;
 }
 
+bool KxMp4Writer::Impl::StartsSegment() const
+{
+    // At a bit rate, each segment would have to have that of the whole video.
+    const bool areSegments =
+        m_settings.format.quality && m_settings.format.encoder == KxOutputFormat::Encoder::Software;
+    return m_encoded == 0 || (areSegments && m_encoded % SegmentFrames(m_settings.frameRate) == 0);
+}
+
 KxError KxMp4Writer::Impl::OpenEncoder(const AVFrame& first)
 {
-    KxResult<std::unique_ptr<KxVideoEncoder>> video = KxVideoEncoder::Open(VideoSettings(), first);
+    int error = 0;
+    if (m_video != nullptr) {
+        error = m_video->Finish(Into(VideoStream));
+        m_video.reset();
+    } else if (m_tags == nullptr) {
+        error = AVERROR(ENOMEM);
+    } else {
+        // The header has these tags, so all segments have them.
+        m_tags->format = first.format;
+        error = av_frame_copy_props(m_tags.get(), &first);
+    }
+    if (error < 0) {
+        return ErrorOf(error);
+    }
+    KxResult<std::unique_ptr<KxVideoEncoder>> video = KxVideoEncoder::Open(VideoSettings(), *m_tags);
     if (!video) {
         return Message(m_settings.path, video.Message());
     }
     m_video = std::move(*video);
-    return Begin(m_muxer.AddStream(m_video->Context()));
+    return m_muxer.HasBegun() ? std::nullopt : Begin(m_muxer.AddStream(m_video->Context()));
 }
 
 KxError KxMp4Writer::Impl::Begin(int error)
@@ -181,7 +211,7 @@ KxError KxMp4Writer::Impl::AddPicture(const KxVideoFrame& picture, qint64 index)
 
 KxError KxMp4Writer::Impl::Encode(const KxVideoFrame& picture)
 {
-    if (m_video == nullptr) {
+    if (StartsSegment()) {
         if (KxError error = OpenEncoder(picture.Picture())) {
             return error;
         }
@@ -275,6 +305,11 @@ KxResult<std::unique_ptr<KxMp4Writer>> KxMp4Writer::Open(const Settings& setting
         return Opened::Failure(*error);
     }
     return std::unique_ptr<KxMp4Writer>(new KxMp4Writer(std::move(impl)));
+}
+
+qint64 KxMp4Writer::SegmentFrames(const KxRational& frameRate)
+{
+    return std::max<qint64>(1, std::llround(SegmentSeconds * frameRate.ToDouble()));
 }
 
 KxError KxMp4Writer::AddPicture(const KxVideoFrame& picture, qint64 index)

@@ -22,6 +22,9 @@ struct AVPacket;
 /// creation time is written, and the encoders do not depend on the number of cores. Exception: for the peak
 /// limit, libx264 looks at the progress of the slices that other threads encode, so that on real footage two runs may
 /// quantise some rows differently; mean SSIM between two runs is 0.997 or more.
+///
+/// Where libx264, libx265 or libsvtav1 encode at a quality, each ten seconds are encoded by themselves: a part of a
+/// video that begins with such a segment has the same packets as the whole.
 class KXMEDIA_API KxMp4Writer
 {
 public:
@@ -45,6 +48,9 @@ public:
         const KxVideoPart* copiedVideo = nullptr;
         QString comment; ///< stored in the file; may be empty
     };
+
+    /// The pictures that are encoded by themselves at a quality.
+    static qint64 SegmentFrames(const KxRational& frameRate);
 
     /// Checks the folder and creates the temporary file. The header is written with the first picture, which provides
     /// the colour tags.

@@ -40,6 +40,9 @@ KxResult<std::unique_ptr<KxVideoPart>> KxVideoPart::Open(const QString& path, co
         return Opened::Failure(KxInputFile::Message(path, Texts::tr("it has no picture")));
     }
     part->m_delay = part->m_first->pts - part->m_first->dts;
+    AVCodecParameters& parameters = *part->m_stream->codecpar;
+    parameters.bit_rate = 0;                           // that of this part alone
+    parameters.sample_aspect_ratio = AVRational{1, 1}; // for AV1 it is not read from the file
     return part;
 }
 
