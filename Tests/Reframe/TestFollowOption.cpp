@@ -67,6 +67,9 @@ TEST(FollowOption, WhatLiesOutsideTheVideoIsRefused)
     EXPECT_FALSE(Seed("1@10,720"));
     EXPECT_FALSE(Seed("1@-200,10,100,100"));
     EXPECT_FALSE(Seed("1@10,-200,100,100"));
+    EXPECT_FALSE(Seed("1@-100,10,100,100"));
+    EXPECT_FALSE(Seed("1@10,-100,100,100"));
+    EXPECT_FALSE(Seed("1@-1,10"));
     EXPECT_TRUE(Seed("1@-50,10,100,100"));
     EXPECT_TRUE(Seed("1@10,-50,100,100"));
 }

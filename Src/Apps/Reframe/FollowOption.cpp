@@ -15,6 +15,12 @@ struct Texts {
     Q_DECLARE_TR_FUNCTIONS(FollowOption)
 };
 
+/// Whether a point, or a part of a length above 0, is within 0 to 1.
+bool TouchesPicture(double from, double length)
+{
+    return from < 1.0 && (length > 0.0 ? from + length > 0.0 : from >= 0.0);
+}
+
 } // namespace
 
 std::optional<FollowOption> FollowOption::Parse(const QString& text)
@@ -62,7 +68,7 @@ KxResult<KxSubjectSeed> FollowOption::SeedIn(const Video& video) const
     const double width = isPixels ? video.sizePx.width() : 1.0;
     const double height = isPixels ? video.sizePx.height() : 1.0;
     const KxSubjectBox box{place.x() / width, place.y() / height, place.width() / width, place.height() / height};
-    if (box.x >= 1.0 || box.y >= 1.0 || box.x + box.width < 0.0 || box.y + box.height < 0.0) {
+    if (!TouchesPicture(box.x, box.width) || !TouchesPicture(box.y, box.height)) {
         return Result::Failure(Texts::tr("it lies outside the picture of %1x%2 pixels")
                                    .arg(QString::number(video.sizePx.width()), QString::number(video.sizePx.height())));
     }
