@@ -132,8 +132,7 @@ private:
                 ? Texts::tr(
                       "Travel is the sum of all movements of the crop in the shot, in percent of the width of the "
                       "picture. Confidence falls if the evidence outside of the crop is as strong as inside, or if "
-                      "single "
-                      "signals want the crop elsewhere; where it is low, look at the shot.")
+                      "single signals want the crop elsewhere; where it is low, look at the shot.")
                 : Texts::tr("Travel is the sum of all movements of the crop in the shot, in percent of the height of "
                             "the picture. Confidence falls if the evidence outside of the crop is as strong as inside, "
                             "or if single signals want the crop elsewhere; where it is low, look at the shot."));

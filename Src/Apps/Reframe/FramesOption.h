@@ -10,8 +10,8 @@ public:
     /// "0-2999", both included, or "3/8", the third of eight parts. Nothing if the text is neither.
     static std::optional<FramesOption> Parse(const QString& text);
 
-    /// The part of a video of `frameCount` frames. Parts that are counted begin at multiples of `segmentFrames` if the
-    /// video has as many. On failure, returns a clause that says why there is none.
+    /// The part of a video of `frameCount` frames. The parts of "3/8" begin at multiples of `segmentFrames`, unless the
+    /// video has fewer segments than parts. On failure, returns a clause that says why there is none.
     KxResult<KxFrameRange> Of(qint64 frameCount, qint64 segmentFrames) const;
 
 private:

@@ -49,7 +49,7 @@ public:
         QString comment; ///< stored in the file; may be empty
     };
 
-    /// The pictures that are encoded by themselves at a quality.
+    /// How many pictures at a time are encoded by themselves at a quality; at least 1.
     static qint64 SegmentFrames(const KxRational& frameRate);
 
     /// Checks the folder and creates the temporary file. The header is written with the first picture, which provides
