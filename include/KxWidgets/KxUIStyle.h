@@ -70,6 +70,9 @@ KXWIDGETS_API QIcon Icon(const QString& name);
 /// The program's font, or the most similar one whose digits all have the same width.
 KXWIDGETS_API QFont TabularFont();
 
+/// Shows the label's text in another of the roles above.
+KXWIDGETS_API void SetTextRole(QWidget& label, const QString& role);
+
 /// Sets the background of an area: 0 window, 1 picture area, 5 panel. The style sheet reads it from the property
 /// "bgColorType".
 KXWIDGETS_API void SetBGColorType(QWidget* widget, int type);

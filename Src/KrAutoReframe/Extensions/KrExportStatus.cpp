@@ -3,12 +3,12 @@
 #include <KxWidgets/KxComboBox.h>
 #include <KxWidgets/KxLabel.h>
 #include <KxWidgets/KxPushButton.h>
+#include <KxWidgets/KxUIStyle.h>
 
 #include <QDir>
 #include <QFileInfo>
 #include <QProgressBar>
 #include <QSignalBlocker>
-#include <QStyle>
 #include <QVBoxLayout>
 #include <QVariant>
 
@@ -130,13 +130,7 @@ void KrExportStatus::Show(const KrAutoReframeExport& state)
     m_progress->setVisible(isUnfinished);
     m_progress->setValue(state.progress);
     m_showInFolder->setVisible(state.state == State::Done);
-    const QString role = state.state == State::Failed ? QStringLiteral("error") : QStringLiteral("muted");
-    if (m_state->property("textRole").toString() != role) {
-        m_state->setProperty("textRole", role);
-        // The style sheet reads properties only while a widget is polished.
-        m_state->style()->unpolish(m_state);
-        m_state->style()->polish(m_state);
-    }
+    KxUIStyle::SetTextRole(*m_state, state.state == State::Failed ? QStringLiteral("error") : QStringLiteral("muted"));
     ShowText();
 }
 

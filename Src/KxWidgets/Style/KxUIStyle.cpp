@@ -64,6 +64,16 @@ QIcon KxUIStyle::Icon(const QString& name)
     return KxGlyph::Icon(name);
 }
 
+void KxUIStyle::SetTextRole(QWidget& label, const QString& role)
+{
+    if (label.property("textRole").toString() != role) {
+        label.setProperty("textRole", role);
+        // The style sheet reads properties only while a widget is polished.
+        label.style()->unpolish(&label);
+        label.style()->polish(&label);
+    }
+}
+
 void KxUIStyle::SetBGColorType(QWidget* widget, int type)
 {
     widget->setProperty("bgColorType", type);

@@ -6,10 +6,10 @@
 #include <KxWidgets/KxOpenFileLineEdit.h>
 #include <KxWidgets/KxPushButton.h>
 #include <KxWidgets/KxTopLevelWindowTitleBar.h>
+#include <KxWidgets/KxUIStyle.h>
 
 #include <QDir>
 #include <QFileInfo>
-#include <QStyle>
 #include <QVBoxLayout>
 #include <QVariant>
 
@@ -125,10 +125,7 @@ void SaveDialog::ShowState()
 void SaveDialog::ShowText(const QString& text, bool isError)
 {
     m_message->setText(text);
-    m_message->setProperty("textRole", isError ? QStringLiteral("error") : QStringLiteral("muted"));
-    // The style sheet reads properties only while a widget is polished.
-    m_message->style()->unpolish(m_message);
-    m_message->style()->polish(m_message);
+    KxUIStyle::SetTextRole(*m_message, isError ? QStringLiteral("error") : QStringLiteral("muted"));
 }
 
 void SaveDialog::HandleAccept()

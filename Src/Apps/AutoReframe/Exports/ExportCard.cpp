@@ -5,6 +5,7 @@
 
 #include <KxWidgets/KxLabel.h>
 #include <KxWidgets/KxToolButton.h>
+#include <KxWidgets/KxUIStyle.h>
 
 #include <QContextMenuEvent>
 #include <QDir>
@@ -13,7 +14,6 @@
 #include <QHBoxLayout>
 #include <QMenu>
 #include <QProgressBar>
-#include <QStyle>
 
 namespace
 {
@@ -36,16 +36,6 @@ KxLabel* MakeSmall(QWidget* parent, const QString& name)
     label->setContentsMargins(0, 4, 0, 4);
     label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     return label;
-}
-
-// The style sheet reads properties only while a widget is polished.
-void SetTextRole(QWidget& label, const QString& role)
-{
-    if (label.property("textRole").toString() != role) {
-        label.setProperty("textRole", role);
-        label.style()->unpolish(&label);
-        label.style()->polish(&label);
-    }
 }
 
 } // namespace
@@ -124,7 +114,7 @@ void ExportCard::Show(const ExportItem& item)
     m_retry->setVisible(!isActive && item.state != State::Done);
     m_look->setVisible(item.state == State::Done && !item.shotsToLookAt.isEmpty());
     m_show->setVisible(item.state == State::Done);
-    SetTextRole(*m_status, item.state == State::Failed ? QStringLiteral("error") : QStringLiteral("muted"));
+    KxUIStyle::SetTextRole(*m_status, item.state == State::Failed ? QStringLiteral("error") : QStringLiteral("muted"));
     ShowTexts();
 }
 
