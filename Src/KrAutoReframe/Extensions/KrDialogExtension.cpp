@@ -308,7 +308,7 @@ KrDialogExtension::Settings KrDialogExtension::PanelSettings() const
 void KrDialogExtension::UpdateHint()
 {
     if (m_growth != nullptr && m_growth->IsGrowing()) {
-        m_parts.panel.SetHint(tr("Following: %1 %").arg(m_growth->Percent()));
+        m_parts.panel.SetProgress(tr("Following: %1 %").arg(m_growth->Percent()));
         return;
     }
     const bool differs = !(PanelSettings() == m_shown) || !(m_choices->Current() == m_shownChoices);

@@ -221,6 +221,17 @@ void KrAutoReframePropertyPanel::AddBelowExport(QWidget* widget)
 
 void KrAutoReframePropertyPanel::SetHint(const QString& text)
 {
+    ShowHint(text, QStringLiteral("hint"));
+}
+
+void KrAutoReframePropertyPanel::SetProgress(const QString& text)
+{
+    ShowHint(text, QStringLiteral("muted"));
+}
+
+void KrAutoReframePropertyPanel::ShowHint(const QString& text, const QString& role)
+{
+    KxUIStyle::SetTextRole(*m_hint, role);
     m_hint->setText(text);
     UpdateLine();
 }

@@ -39,9 +39,11 @@ public:
     void AddLine();
     /// Puts `widget` below the export button; the panel owns it.
     void AddBelowExport(QWidget* widget);
-    /// What the line shows: the hint, or without one the fact. For a fact that is empty, but not null, the line keeps
-    /// its place, so that a hint that comes and goes does not move the export button. Only after AddLine().
+    /// What the line shows: the hint, or without one the fact. Progress takes the place of a hint, without its warning
+    /// colour. For a fact that is empty, but not null, the line keeps its place, so that a hint that comes and goes
+    /// does not move the export button. Only after AddLine().
     void SetHint(const QString& text);
+    void SetProgress(const QString& text);
     void SetFact(const QString& text);
 
     /// Call it when a file was imported: from then on it can only be replaced.
@@ -70,6 +72,7 @@ private:
     void ConnectSignals();
     void InitData();
     KxLabel* CreateLine(const QString& name, const QString& role);
+    void ShowHint(const QString& text, const QString& role);
     void UpdateLine();
 
     KxToolButton* m_importButton = nullptr;

@@ -56,6 +56,12 @@ protected:
         return label != nullptr && !label->isHidden() ? label->text() : QString();
     }
     QString Hint() const { return Line("KrAutoReframePropertyPanel_hint"); }
+    QString HintRole() const
+    {
+        return panel->findChild<KxLabel*>(QStringLiteral("KrAutoReframePropertyPanel_hint"))
+            ->property("textRole")
+            .toString();
+    }
     QString Fact() const { return Line("KrAutoReframePropertyPanel_shots"); }
     QAbstractButton& BarButton(const char* name) const
     {

@@ -100,6 +100,7 @@ TEST_F(KrGrowingCropTest, MeanwhileTheShareIsShownAndWhatNeedsTheWholeResultWait
     ASSERT_NO_FATAL_FAILURE(FollowForLong(0.6));
     following.FireFromThread(Running, 50);
     ASSERT_EVENTUALLY(Hint() == QStringLiteral("Following: 40 %"));
+    EXPECT_EQ(HintRole(), QStringLiteral("muted"));
     EXPECT_FALSE(Export().isEnabled());
     EXPECT_FALSE(RestartButton().isEnabled());
     EXPECT_FALSE(Preview().isEnabled());
@@ -171,6 +172,7 @@ TEST_F(KrGrowingCropTest, AFailureBringsTheOldCropBack)
     ASSERT_EVENTUALLY(!IsGrowing());
     EXPECT_DOUBLE_EQ(CropX(), 0.05);
     EXPECT_EQ(Hint(), QStringLiteral("Settings changed: analyze again"));
+    EXPECT_EQ(HintRole(), QStringLiteral("hint"));
     EXPECT_EQ(recorders.boxes.size(), 1U);
     EXPECT_TRUE(Export().isEnabled());
 }
