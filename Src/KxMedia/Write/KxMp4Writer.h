@@ -19,9 +19,10 @@ struct AVPacket;
 /// time. Error messages name the target and the reason; a writer that has failed can only be destroyed.
 ///
 /// Equal settings, pictures and sound give equal bytes in each run and on each machine with the same libraries: no
-/// creation time is written, and the encoders do not depend on the number of cores. Exception: for the peak
-/// limit, libx264 looks at the progress of the slices that other threads encode, so that on real footage two runs may
-/// quantise some rows differently; mean SSIM between two runs is 0.997 or more.
+/// creation time is written, and the encoders do not depend on the number of cores. Exceptions: libx264 rounds in
+/// another way on processors without SSE4.2; and for the peak limit, it looks at the progress of the slices that other
+/// threads encode, so that on real footage two runs may quantise some rows differently; mean SSIM between two runs is
+/// 0.997 or more.
 ///
 /// Where libx264, libx265 or libsvtav1 encode at a quality, each ten seconds are encoded by themselves: a part of a
 /// video that begins with such a segment has the same packets as the whole.
