@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QDropEvent>
+#include <QMenu>
 #include <QMimeData>
 #include <QScreen>
 #include <QStandardPaths>
@@ -28,6 +29,30 @@ TEST_F(TestMainWindow, ReportsOnceThatItIsPainted)
     m_window->repaint();
     QApplication::processEvents();
     EXPECT_EQ(painted, 1);
+}
+
+TEST_F(TestMainWindow, ItsMenusButtonLooksLeftWhenTheMenuClosesElsewhere)
+{
+    QAbstractButton* const button = Button("TopBar_menu");
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(m_window.get()));
+    for (const bool isLeft : {false, true}) {
+        QCursor::setPos(button->mapToGlobal(button->rect().center()));
+        ASSERT_TRUE(QTest::qWaitFor([button] { return button->underMouse(); }));
+        bool isShown = false;
+        QTimer::singleShot(0, m_window.get(), [&] {
+            QWidget* const menu = QApplication::activePopupWidget();
+            ASSERT_NE(menu, nullptr);
+            isShown = menu->objectName() == QLatin1String("MainMenu");
+            if (isLeft) {
+                QCursor::setPos(m_window->mapToGlobal(m_window->rect().center()));
+            }
+            QApplication::processEvents(); // the menu takes the movement
+            menu->close();
+        });
+        button->click();
+        EXPECT_TRUE(isShown);
+        EXPECT_EQ(button->underMouse(), !isLeft);
+    }
 }
 
 TEST_F(TestMainWindow, OpenedFilesAppearAtOnceAndAreSelected)
