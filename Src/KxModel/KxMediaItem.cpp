@@ -55,7 +55,7 @@ IKxClip* KxMediaItem::clip()
 
 int KxMediaItem::duration() const
 {
-    return static_cast<int>(m_clip.StreamInfo().frameCount());
+    return static_cast<int>(StreamInfo().frameCount());
 }
 
 int KxMediaItem::audioStreamIndex() const

@@ -26,6 +26,9 @@ public:
     int duration() const override;
     int audioStreamIndex() const override;
 
+    /// The facts of the file's streams.
+    const KxStreamInfo& StreamInfo() const { return m_clip.StreamInfo(); }
+
 private:
     explicit KxMediaItem(std::shared_ptr<const KxMediaFacts> facts);
     static KxResult<std::unique_ptr<KxMediaItem>> Of(KxResult<KxMediaFacts> facts);

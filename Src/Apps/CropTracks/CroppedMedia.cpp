@@ -7,7 +7,7 @@
 KxCroppedClip CroppedMedia::Clip(KxMediaItem& media, const QList<IKxAutoReframeResult>& crops, const QSize& outputSize,
                                  KxRenderSource::OtherShapes otherShapes)
 {
-    const auto& stream = static_cast<const KxClip*>(media.clip())->StreamInfo();
+    const auto& stream = media.StreamInfo();
     KxCroppedClip clip;
     clip.path = QFileInfo(media.filePath()).absoluteFilePath();
     clip.size = stream.resolution();

@@ -157,7 +157,7 @@ ReframeJob::Ended ReframeJob::ReadChoices()
     KxSubjectChoice follow;
     follow.kind = KxChoiceKind::Follow;
     for (const FollowOption& option : m_options.follow) {
-        const auto& stream = static_cast<const KxClip*>(m_media->clip())->StreamInfo();
+        const auto& stream = m_media->StreamInfo();
         const KxResult<KxSubjectSeed> seed =
             option.SeedIn({stream.resolution(), stream.frameRate().ToDouble(), m_media->duration()});
         if (!seed) {
@@ -289,8 +289,8 @@ CropTrack ReframeJob::Track() const
 {
     CropTrack track;
     track.sourcePath = m_input;
-    track.sourceSize = static_cast<const KxClip*>(m_media->clip())->StreamInfo().resolution();
-    track.frameRate = static_cast<const KxClip*>(m_media->clip())->StreamInfo().frameRate();
+    track.sourceSize = m_media->StreamInfo().resolution();
+    track.frameRate = m_media->StreamInfo().frameRate();
     track.aspect = m_aspect;
     track.speedName = m_options.speedName;
     track.crops = Helper().GetDisplayResults();
@@ -363,7 +363,7 @@ KxOutcome ReframeJob::FailUnlessInterrupted(const QString& message)
 
 KxOutcome ReframeJob::FailTooSmall()
 {
-    const QSize size = static_cast<const KxClip*>(m_media->clip())->StreamInfo().resolution();
+    const QSize size = m_media->StreamInfo().resolution();
     return Fail(Texts::tr("Cannot reframe %1: its picture of %2 x %3 pixels is too small.")
                     .arg(m_input, QString::number(size.width()), QString::number(size.height())));
 }

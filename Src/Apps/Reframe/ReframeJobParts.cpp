@@ -4,7 +4,6 @@
 #include <KxCore/KxThread.h>
 #include <KxMedia/Write/KxMp4Writer.h>
 #include <KxModel/KxAutoReframeService.h>
-#include <KxModel/KxClip.h>
 #include <KxModel/KxPicturesFile.h>
 
 #include <QCoreApplication>
@@ -24,7 +23,7 @@ ReframeJob::Ended ReframeJob::FindFrames()
     if (!m_options.frames) {
         return std::nullopt;
     }
-    const KxRational rate = static_cast<const KxClip*>(m_media->clip())->StreamInfo().frameRate();
+    const KxRational rate = m_media->StreamInfo().frameRate();
     const KxResult<KxFrameRange> frames = m_options.frames->Of(m_media->duration(), KxMp4Writer::SegmentFrames(rate));
     if (!frames) {
         return Fail(Texts::tr("Cannot take that part of %1: %2.").arg(m_input, frames.Message()));

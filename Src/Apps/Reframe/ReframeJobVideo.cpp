@@ -22,7 +22,7 @@ struct Texts {
 QRectF ReframeJob::ShapeOfResult() const
 {
     const QList<IKxAutoReframeResult>& results = Helper().GetDisplayResults();
-    const QSize picture = static_cast<const KxClip*>(m_media->clip())->StreamInfo().resolution();
+    const QSize picture = m_media->StreamInfo().resolution();
     return m_otherShapes == KxRenderSource::OtherShapes::Fitted
                ? KrExportParameters::ShapeOfResult(results, picture, m_aspect)
                : results.first().cropRect();
@@ -30,7 +30,7 @@ QRectF ReframeJob::ShapeOfResult() const
 
 KxResult<QSize> ReframeJob::OutputSize() const
 {
-    const QSize picture = static_cast<const KxClip*>(m_media->clip())->StreamInfo().resolution();
+    const QSize picture = m_media->StreamInfo().resolution();
     const QRectF shape = ShapeOfResult();
     const QSize cropSize = KrExportParameters::EvenResolution(picture, shape);
     if (cropSize.isEmpty()) {
@@ -47,7 +47,7 @@ KxResult<QSize> ReframeJob::OutputSize() const
 
 void ReframeJob::WarnOfEnlargement(const QSize& size) const
 {
-    const QSize picture = static_cast<const KxClip*>(m_media->clip())->StreamInfo().resolution();
+    const QSize picture = m_media->StreamInfo().resolution();
     const QSize cropSize = KrExportParameters::EvenResolution(picture, ShapeOfResult());
     if (KxOutputSize::Enlarges(size, cropSize)) {
         m_reporter.Warn(

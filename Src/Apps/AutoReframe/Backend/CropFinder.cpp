@@ -28,11 +28,6 @@ struct Texts {
 
 constexpr int WholeProgress = 10000;
 
-const KxStreamInfo& InfoOf(KxMediaItem& media)
-{
-    return static_cast<const KxClip*>(media.clip())->StreamInfo();
-}
-
 QString SpeedName(int speed)
 {
     constexpr int fast = 8;
@@ -245,7 +240,7 @@ KxError CropFinder::MakeRequest(ExportRequest& request) const
     if (!source) {
         return source.Message();
     }
-    const QSize picture = InfoOf(*m_analyzed.media).resolution();
+    const QSize picture = m_analyzed.media->StreamInfo().resolution();
     const QRectF crop = KrExportParameters::ShapeOfResult(m_analyzed.crops, picture, m_analyzed.aspect);
     source->otherShapes = OtherShapes();
     KxRenderSettings settings = CropRenderSettings::For(*m_analyzed.media, crop);
@@ -266,7 +261,7 @@ KxError CropFinder::MakeRequest(ExportRequest& request) const
 
 KxRenderSource::OtherShapes CropFinder::OtherShapes() const
 {
-    const QSize picture = InfoOf(*m_analyzed.media).resolution();
+    const QSize picture = m_analyzed.media->StreamInfo().resolution();
     const QList<IKxAutoReframeResult>& crops = m_analyzed.crops;
     const QSize result = KrExportParameters::EvenResolution(
         picture, KrExportParameters::ShapeOfResult(crops, picture, m_analyzed.aspect));
@@ -279,7 +274,7 @@ KxRenderSource::OtherShapes CropFinder::OtherShapes() const
 
 CropTrack CropFinder::MakeTrack() const
 {
-    const KxStreamInfo& info = InfoOf(*m_analyzed.media);
+    const KxStreamInfo& info = m_analyzed.media->StreamInfo();
     CropTrack track;
     track.sourcePath = m_request.path;
     track.sourceSize = info.resolution();

@@ -92,7 +92,7 @@ KxResult<MediaFile> HostMediaBackend::Open(const QString& path, const KxCancelTo
             QCoreApplication::translate("HostMediaBackend", "Cannot open %1: it has no moving picture.")
                 .arg((*item)->name()));
     }
-    const KxStreamInfo& info = static_cast<const KxClip*>((*item)->clip())->StreamInfo();
+    const KxStreamInfo& info = (*item)->StreamInfo();
     MediaFile media;
     media.path = (*item)->filePath();
     media.resolution = info.resolution();
