@@ -1905,6 +1905,13 @@ Benötigt: %1 MB, verfügbar: %2 MB.</translation>
     </message>
 </context>
 <context>
+    <name>KxPictureFilter</name>
+    <message>
+        <source>it yields no picture</source>
+        <translation>es ergibt kein Bild</translation>
+    </message>
+</context>
+<context>
     <name>KxPicturesFile</name>
     <message>
         <source>Cannot write %1: %2.</source>
@@ -2137,10 +2144,6 @@ Benötigt: %1 MB, verfügbar: %2 MB.</translation>
     <message>
         <source>Cannot convert a picture of high dynamic range: %1.</source>
         <translation>Ein Bild mit hohem Dynamikumfang kann nicht umgewandelt werden: %1.</translation>
-    </message>
-    <message>
-        <source>it yields no picture</source>
-        <translation>es ergibt kein Bild</translation>
     </message>
 </context>
 <context>

@@ -1905,6 +1905,13 @@ Espacio necesario: %1 MB, disponible: %2 MB.</translation>
     </message>
 </context>
 <context>
+    <name>KxPictureFilter</name>
+    <message>
+        <source>it yields no picture</source>
+        <translation>no produce ninguna imagen</translation>
+    </message>
+</context>
+<context>
     <name>KxPicturesFile</name>
     <message>
         <source>Cannot write %1: %2.</source>
@@ -2137,10 +2144,6 @@ Espacio necesario: %1 MB, disponible: %2 MB.</translation>
     <message>
         <source>Cannot convert a picture of high dynamic range: %1.</source>
         <translation>No se puede convertir una imagen de alto rango dinámico: %1.</translation>
-    </message>
-    <message>
-        <source>it yields no picture</source>
-        <translation>no produce ninguna imagen</translation>
     </message>
 </context>
 <context>

@@ -1905,6 +1905,13 @@ Espace nécessaire&#xa0;: %1 Mo, disponible&#xa0;: %2 Mo.</translation>
     </message>
 </context>
 <context>
+    <name>KxPictureFilter</name>
+    <message>
+        <source>it yields no picture</source>
+        <translation>le résultat est vide</translation>
+    </message>
+</context>
+<context>
     <name>KxPicturesFile</name>
     <message>
         <source>Cannot write %1: %2.</source>
@@ -2137,10 +2144,6 @@ Espace nécessaire&#xa0;: %1 Mo, disponible&#xa0;: %2 Mo.</translation>
     <message>
         <source>Cannot convert a picture of high dynamic range: %1.</source>
         <translation>Impossible de convertir une image à grande gamme dynamique&#xa0;: %1.</translation>
-    </message>
-    <message>
-        <source>it yields no picture</source>
-        <translation>le résultat est vide</translation>
     </message>
 </context>
 <context>

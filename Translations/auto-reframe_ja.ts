@@ -1893,6 +1893,13 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
     </message>
 </context>
 <context>
+    <name>KxPictureFilter</name>
+    <message>
+        <source>it yields no picture</source>
+        <translation>画像が得られません</translation>
+    </message>
+</context>
+<context>
     <name>KxPicturesFile</name>
     <message>
         <source>Cannot write %1: %2.</source>
@@ -2125,10 +2132,6 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
     <message>
         <source>Cannot convert a picture of high dynamic range: %1.</source>
         <translation>ハイダイナミックレンジの画像を変換できません: %1。</translation>
-    </message>
-    <message>
-        <source>it yields no picture</source>
-        <translation>画像が得られません</translation>
     </message>
 </context>
 <context>

@@ -1905,6 +1905,13 @@ Espaço necessário: %1 MB, disponível: %2 MB.</translation>
     </message>
 </context>
 <context>
+    <name>KxPictureFilter</name>
+    <message>
+        <source>it yields no picture</source>
+        <translation>não produz imagem</translation>
+    </message>
+</context>
+<context>
     <name>KxPicturesFile</name>
     <message>
         <source>Cannot write %1: %2.</source>
@@ -2137,10 +2144,6 @@ Espaço necessário: %1 MB, disponível: %2 MB.</translation>
     <message>
         <source>Cannot convert a picture of high dynamic range: %1.</source>
         <translation>Não é possível converter uma imagem de alta faixa dinâmica: %1.</translation>
-    </message>
-    <message>
-        <source>it yields no picture</source>
-        <translation>não produz imagem</translation>
     </message>
 </context>
 <context>

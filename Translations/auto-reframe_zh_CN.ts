@@ -1893,6 +1893,13 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
     </message>
 </context>
 <context>
+    <name>KxPictureFilter</name>
+    <message>
+        <source>it yields no picture</source>
+        <translation>没有产生画面</translation>
+    </message>
+</context>
+<context>
     <name>KxPicturesFile</name>
     <message>
         <source>Cannot write %1: %2.</source>
@@ -2125,10 +2132,6 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
     <message>
         <source>Cannot convert a picture of high dynamic range: %1.</source>
         <translation>无法转换高动态范围画面：%1。</translation>
-    </message>
-    <message>
-        <source>it yields no picture</source>
-        <translation>没有产生画面</translation>
     </message>
 </context>
 <context>

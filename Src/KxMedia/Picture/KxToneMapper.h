@@ -1,6 +1,6 @@
 #pragma once
 
-#include <KxMedia/Picture/KxFilterChain.h>
+#include <KxMedia/Picture/KxPictureFilter.h>
 
 /// Tone-maps pictures in high dynamic range (PQ, HLG) to BT.709. Caches its setup for the last format. One thread at a
 /// time.
@@ -12,5 +12,5 @@ public:
     KxResult<KxAvFrame> Map(const AVFrame& picture);
 
 private:
-    std::optional<KxFilterChain> m_chain;
+    KxPictureFilter m_filter;
 };
