@@ -80,29 +80,40 @@ void KxPictureFeed::Work()
 
 void KxPictureFeed::DecodeAndCut()
 {
-    KxVideoFrame picture;
+    // A part has the colours that the whole video has.
+    if (m_frames.first > 0 && MakeFrame(m_grid.SourceFrame(0)).IsNull()) {
+        return;
+    }
     KxVideoFrame cut;
     qint64 cutFrame = -1;
     for (qint64 frame = m_frames.first; frame < m_frames.end && !m_cancel.IsCancelled(); ++frame) {
         const qint64 sourceFrame = m_grid.SourceFrame(frame);
         if (sourceFrame != cutFrame) {
-            if (!Read(sourceFrame, picture)) {
+            cut = MakeFrame(sourceFrame);
+            if (cut.IsNull()) {
                 return;
             }
-            KxResult<KxVideoFrame> result = Make(picture, sourceFrame);
-            if (!result) {
-                m_failure = Texts::tr("Cannot render %1 at frame %2. %3")
-                                .arg(m_source.Name(), QString::number(sourceFrame), result.Message());
-                return;
-            }
-            cut = std::move(*result);
-            picture = {};
             cutFrame = sourceFrame;
         }
         if (!m_pictures.Push(cut)) {
             return;
         }
     }
+}
+
+KxVideoFrame KxPictureFeed::MakeFrame(qint64 sourceFrame)
+{
+    KxVideoFrame picture;
+    if (!Read(sourceFrame, picture)) {
+        return {};
+    }
+    const KxResult<KxVideoFrame> made = Make(picture, sourceFrame);
+    if (!made) {
+        m_failure = Texts::tr("Cannot render %1 at frame %2. %3")
+                        .arg(m_source.Name(), QString::number(sourceFrame), made.Message());
+        return {};
+    }
+    return m_colours.Match(*made);
 }
 
 KxResult<KxVideoFrame> KxPictureFeed::Make(const KxVideoFrame& picture, qint64 frame)

@@ -3,6 +3,7 @@
 #include <KxCore/KxBoundedQueue.h>
 #include <KxCore/KxCancelToken.h>
 #include <KxCore/KxThread.h>
+#include <KxMedia/Picture/KxColourMatcher.h>
 #include <KxMedia/Picture/KxFittedCutter.h>
 #include <KxMedia/Picture/KxFrameCutter.h>
 #include <KxMedia/Picture/KxPictureScaler.h>
@@ -40,9 +41,12 @@ public:
 private:
     void Work();
     void DecodeAndCut();
+    /// Reads and makes a picture. Null at the end, after a failure, or when cancelled.
+    KxVideoFrame MakeFrame(qint64 sourceFrame);
     /// Reads the source's frame `frame`. False at the end, after a failure, or when cancelled.
     bool Read(qint64 frame, KxVideoFrame& picture);
-    /// Cuts `picture`, which is the source's frame `frame`, or draws the overlay on it.
+    /// Cuts `picture`, which is the source's frame `frame`, or draws the overlay on it. The result has the colours of
+    /// the first one.
     KxResult<KxVideoFrame> Make(const KxVideoFrame& picture, qint64 frame);
 
     KxVideoReader& m_reader;
@@ -56,6 +60,7 @@ private:
     KxFrameCutter m_cutter;
     KxFittedCutter m_fittedCutter;
     KxPictureScaler m_scaler;
+    KxColourMatcher m_colours;
     // Written by the thread, read after it has ended.
     KxError m_failure;
     bool m_endedEarly = false;
