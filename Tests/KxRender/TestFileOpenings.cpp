@@ -63,6 +63,21 @@ TEST_F(FileOpeningsTest, AnAnalysisTakesOneOpening)
     EXPECT_EQ(FileOpenings::Count(), 1);
 }
 
+TEST_F(FileOpeningsTest, AnAnalysisOfALongSoundTakesOneMoreOpening)
+{
+    // As many packets as some minutes of AAC.
+    MakeClip(25, QStringLiteral("25"),
+             {QStringLiteral("-f"), QStringLiteral("lavfi"), QStringLiteral("-i"),
+              QStringLiteral("sine=frequency=440:sample_rate=48000:duration=6")},
+             {QStringLiteral("-c:a"), QStringLiteral("flac"), QStringLiteral("-frame_size"), QStringLiteral("16"),
+              QStringLiteral("-strict"), QStringLiteral("-2")});
+    FileOpenings::Reset();
+    const auto scanner = KxVideoScanner::Open(m_clip, {});
+    ASSERT_TRUE(scanner);
+    EXPECT_EQ(FileOpenings::Count(), 2);
+    EXPECT_EQ((*scanner)->Facts().audio.size(), 1);
+}
+
 TEST_F(FileOpeningsTest, FactsAndAnAnalysisTakeOneOpening)
 {
     MakeSource();

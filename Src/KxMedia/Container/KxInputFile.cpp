@@ -4,6 +4,7 @@
 #include <KxMedia/Container/KxAvError.h>
 #include <KxMedia/Container/KxClaimedSize.h>
 #include <KxMedia/Container/KxMatroskaAttachments.h>
+#include <KxMedia/Container/KxMp4Tracks.h>
 
 extern "C" {
 #include <libavutil/avstring.h>
@@ -58,11 +59,40 @@ QByteArray HeadAt(const QString& path)
     return file.open(QIODevice::ReadOnly) ? file.read(HeadBytes) : QByteArray();
 }
 
-std::vector<qint64> LargeAttachments(const QString& path)
+std::vector<KxMaskedFile::Mask> MasksOfAttachments(const QString& path)
 {
     QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? KxLargeAttachments(file, KxInputFile::LargestAttachmentBytes)
-                                          : std::vector<qint64>();
+    std::vector<KxMaskedFile::Mask> masks;
+    if (!file.open(QIODevice::ReadOnly)) {
+        return masks;
+    }
+    for (const qint64 position : KxLargeAttachments(file, KxInputFile::LargestAttachmentBytes)) {
+        masks.push_back(KxMaskedFile::OfElement(position));
+    }
+    return masks;
+}
+
+/// None if nothing would be left to read. Leaves the file positioned at its start.
+std::vector<KxMaskedFile::Mask> MasksOfTracks(AVIOContext& file, qint64 fileBytes, KxMp4Track::Kind leftOut)
+{
+    const auto bytesAt = [&file](qint64 position, int count) {
+        QByteArray bytes(count, '\0');
+        const bool isThere = avio_seek(&file, position, SEEK_SET) == position;
+        const int read = isThere ? avio_read(&file, reinterpret_cast<unsigned char*>(bytes.data()), count) : 0;
+        return bytes.left(std::max(0, read));
+    };
+    const std::vector<KxMp4Track> tracks = KxMp4TracksOf(bytesAt, fileBytes);
+    avio_seek(&file, 0, SEEK_SET);
+    const auto needed = leftOut == KxMp4Track::Kind::Sound ? KxMp4Track::Kind::Pictures : KxMp4Track::Kind::Sound;
+    std::vector<KxMaskedFile::Mask> masks;
+    bool hasNeeded = false;
+    for (const KxMp4Track& track : tracks) {
+        hasNeeded = hasNeeded || track.kind == needed;
+        if (track.kind == leftOut) {
+            masks.push_back(KxMaskedFile::OfBox(track.typePosition));
+        }
+    }
+    return hasNeeded ? masks : std::vector<KxMaskedFile::Mask>();
 }
 
 class Options
@@ -124,9 +154,9 @@ bool IsBetter(const AVStream& a, const AVStream& b)
 } // namespace
 
 KxResult<std::unique_ptr<KxInputFile>> KxInputFile::Open(const QString& path, const KxCancelToken& cancel,
-                                                         const Clock& clock)
+                                                         Tracks tracks, const Clock& clock)
 {
-    std::unique_ptr<KxInputFile> input(new KxInputFile(path, cancel, clock));
+    std::unique_ptr<KxInputFile> input(new KxInputFile(path, cancel, tracks, clock));
     input->m_watch.deadline = clock() + OpeningLimit;
     for (const auto step : {&KxInputFile::OpenFile, &KxInputFile::OpenContainer, &KxInputFile::ReadStreamInfo}) {
         if (const KxError reason = (input.get()->*step)()) {
@@ -138,8 +168,9 @@ KxResult<std::unique_ptr<KxInputFile>> KxInputFile::Open(const QString& path, co
     return input;
 }
 
-KxInputFile::KxInputFile(const QString& path, const KxCancelToken& cancel, const Clock& clock)
+KxInputFile::KxInputFile(const QString& path, const KxCancelToken& cancel, Tracks tracks, const Clock& clock)
     : m_path(path)
+    , m_tracks(tracks)
     , m_watch{cancel, clock, std::nullopt}
 {
 }
@@ -223,6 +254,18 @@ KxError KxInputFile::OpenFile()
     return std::nullopt;
 }
 
+std::vector<KxMaskedFile::Mask> KxInputFile::Masks(const AVInputFormat& format) const
+{
+    if (av_match_name("matroska", format.name) > 0) {
+        return MasksOfAttachments(m_path);
+    }
+    if (m_tracks == Tracks::All || av_match_name("mov", format.name) <= 0) {
+        return {};
+    }
+    const auto leftOut = m_tracks == Tracks::AllButSound ? KxMp4Track::Kind::Sound : KxMp4Track::Kind::Pictures;
+    return MasksOfTracks(*m_file, m_fileSize, leftOut);
+}
+
 KxError KxInputFile::OpenContainer()
 {
     const QByteArray url = QByteArrayLiteral("file:") + QFileInfo(m_path).absoluteFilePath().toUtf8();
@@ -239,12 +282,9 @@ KxError KxInputFile::OpenContainer()
         return KxAvErrorText(AVERROR(ENOMEM));
     }
     context->pb = m_file;
-    std::vector<qint64> attachments;
-    if (av_match_name("matroska", format->name) > 0) {
-        attachments = LargeAttachments(m_path);
-    }
-    if (!attachments.empty()) {
-        m_masked = std::make_unique<KxMaskedFile>(*m_file, std::move(attachments));
+    std::vector<KxMaskedFile::Mask> masks = Masks(*format);
+    if (!masks.empty()) {
+        m_masked = std::make_unique<KxMaskedFile>(*m_file, std::move(masks));
         context->pb = m_masked->Context() != nullptr ? m_masked->Context() : m_file;
     }
     context->io_open = &RefuseOpening;

@@ -28,10 +28,14 @@ public:
     /// Larger attachment lists of Matroska files are skipped: the demuxer would hold them in memory, twice.
     static constexpr qint64 LargestAttachmentBytes = 4 * 1024 * 1024;
 
+    /// The tracks that a reader needs. The others of an MP4 or MOV file are left out, because its demuxer holds an
+    /// index of all packets in memory. Other formats, and files in fragments, keep all of their tracks.
+    enum class Tracks { All, AllButSound, AllButPictures };
     using Clock = std::function<std::chrono::steady_clock::time_point()>;
 
     /// The message names the file and the reason. `clock` limits the time for opening only.
     static KxResult<std::unique_ptr<KxInputFile>> Open(const QString& path, const KxCancelToken& cancel,
+                                                       Tracks tracks = Tracks::All,
                                                        const Clock& clock = &std::chrono::steady_clock::now);
     ~KxInputFile();
 
@@ -45,6 +49,8 @@ public:
     bool HasChanged() const;
     /// According to its header, the file should be larger.
     bool IsCutOff() const { return m_isCutOff; }
+    /// As it was opened.
+    Tracks ReadTracks() const { return m_tracks; }
     AVFormatContext& Context() const { return *m_context; }
     /// The stream of moving pictures; null without one.
     AVStream* VideoStream() const { return m_videoStream; }
@@ -70,9 +76,10 @@ private:
         unsigned streams = 0;
     };
 
-    KxInputFile(const QString& path, const KxCancelToken& cancel, const Clock& clock);
+    KxInputFile(const QString& path, const KxCancelToken& cancel, Tracks tracks, const Clock& clock);
     KxError OpenFile();
     KxError OpenContainer();
+    std::vector<KxMaskedFile::Mask> Masks(const AVInputFormat& format) const;
     KxError ReadStreamInfo();
     void ChooseStreams();
     QString Failure(int error) const;
@@ -84,9 +91,10 @@ private:
     qint64 m_lastWrite = -1;
     QByteArray m_head;
     bool m_isCutOff = false;
+    Tracks m_tracks;
     Watch m_watch;
     AVIOContext* m_file = nullptr;
-    /// Set if the file has attachments that are too large to be held in memory.
+    /// Set if the file has attachments that are too large to be held in memory, or tracks that are left out.
     std::unique_ptr<KxMaskedFile> m_masked;
     KxAvInput m_context;
     AVStream* m_videoStream = nullptr;

@@ -1,19 +1,28 @@
 #include <KxMedia/Container/KxMaskedFile.h>
 
-#include <array>
-
 namespace
 {
 
 constexpr int BufferBytes = 32 * 1024;
 // An empty Void element, followed by the ID of a second Void element, which takes over the size of the masked element.
-constexpr std::array<uint8_t, 4> Mask{0xec, 0x81, 0x00, 0xec};
+constexpr std::array<uint8_t, 4> VoidElement{0xec, 0x81, 0x00, 0xec};
+constexpr std::array<uint8_t, 4> BoxToSkip{'s', 'k', 'i', 'p'};
 
 } // namespace
 
-KxMaskedFile::KxMaskedFile(AVIOContext& file, std::vector<qint64> elements)
+KxMaskedFile::Mask KxMaskedFile::OfElement(qint64 idPosition)
+{
+    return {idPosition, VoidElement};
+}
+
+KxMaskedFile::Mask KxMaskedFile::OfBox(qint64 typePosition)
+{
+    return {typePosition, BoxToSkip};
+}
+
+KxMaskedFile::KxMaskedFile(AVIOContext& file, std::vector<Mask> masks)
     : m_file(file)
-    , m_elements(std::move(elements))
+    , m_masks(std::move(masks))
 {
     auto* buffer = static_cast<uint8_t*>(av_malloc(BufferBytes));
     if (buffer != nullptr) {
@@ -37,11 +46,11 @@ int KxMaskedFile::Read(void* self, uint8_t* bytes, int size)
     const KxMaskedFile& masked = *static_cast<const KxMaskedFile*>(self);
     const int64_t position = avio_tell(&masked.m_file);
     const int count = avio_read_partial(&masked.m_file, bytes, size);
-    for (const qint64 element : masked.m_elements) {
-        for (size_t i = 0; i < Mask.size(); ++i) {
-            const int64_t place = element + static_cast<int64_t>(i) - position;
+    for (const Mask& mask : masked.m_masks) {
+        for (size_t i = 0; i < mask.bytes.size(); ++i) {
+            const int64_t place = mask.position + static_cast<int64_t>(i) - position;
             if (place >= 0 && place < count) {
-                bytes[place] = Mask[i];
+                bytes[place] = mask.bytes[i];
             }
         }
     }

@@ -4,16 +4,26 @@
 
 #include <QtGlobal>
 
+#include <array>
 #include <vector>
 
-/// Presents selected Matroska elements of a file to the demuxer as Void elements, so that it skips their content
-/// instead of holding it in memory. One thread at a time.
+/// Presents parts of a file's structure to the demuxer as padding, so that it skips them instead of holding them in
+/// memory. One thread at a time.
 class KxMaskedFile
 {
 public:
-    /// `file` is borrowed and positioned at its start. `elements` are positions of four-byte element IDs. Context() is
-    /// null when memory runs out.
-    KxMaskedFile(AVIOContext& file, std::vector<qint64> elements);
+    /// Four bytes that the demuxer reads instead of the file's own.
+    struct Mask {
+        qint64 position = 0;
+        std::array<uint8_t, 4> bytes{};
+    };
+    /// Of a Matroska element with an ID of four bytes.
+    static Mask OfElement(qint64 idPosition);
+    /// Of a box of an MP4 file.
+    static Mask OfBox(qint64 typePosition);
+
+    /// `file` is borrowed and positioned at its start. Context() is null when memory runs out.
+    KxMaskedFile(AVIOContext& file, std::vector<Mask> masks);
     ~KxMaskedFile();
     KxMaskedFile(const KxMaskedFile&) = delete;
     KxMaskedFile& operator=(const KxMaskedFile&) = delete;
@@ -25,6 +35,6 @@ private:
     static int64_t Seek(void* self, int64_t offset, int whence);
 
     AVIOContext& m_file;
-    std::vector<qint64> m_elements;
+    std::vector<Mask> m_masks;
     AVIOContext* m_context = nullptr;
 };

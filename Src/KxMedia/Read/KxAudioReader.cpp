@@ -136,7 +136,7 @@ KxResult<std::unique_ptr<KxAudioReader>> KxAudioReader::Open(const QString& path
                                                              const KxMediaClock& clock, const KxCancelToken& cancel)
 {
     using Result = KxResult<std::unique_ptr<KxAudioReader>>;
-    KxResult<std::unique_ptr<KxInputFile>> input = KxInputFile::Open(path, cancel);
+    KxResult<std::unique_ptr<KxInputFile>> input = KxInputFile::Open(path, cancel, KxInputFile::Tracks::AllButPictures);
     if (!input) {
         return Result::Failure(input.Message());
     }

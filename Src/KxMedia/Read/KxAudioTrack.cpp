@@ -226,7 +226,8 @@ bool KxAudioTrack::Rewind()
     if (m_input->HasChanged()) {
         return false;
     }
-    KxResult<std::unique_ptr<KxInputFile>> again = KxInputFile::Open(m_input->Path(), m_input->Cancel());
+    KxResult<std::unique_ptr<KxInputFile>> again =
+        KxInputFile::Open(m_input->Path(), m_input->Cancel(), m_input->ReadTracks());
     if (!again || m_streamIndex >= static_cast<int>((*again)->Context().nb_streams)) {
         return false;
     }

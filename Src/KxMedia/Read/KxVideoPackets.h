@@ -21,6 +21,9 @@
 class KXMEDIA_API KxVideoPackets
 {
 public:
+    /// Above so many packets of sound, LeaveOutSound() opens the file again: six minutes of AAC.
+    static constexpr int MostSoundPackets = 16384;
+
     /// The end of the stream according to its packets.
     struct Tail {
         /// Of the packet displayed last; a duration of 0 means unknown.
@@ -45,6 +48,10 @@ public:
     /// Leaves the position undefined: call Rewind() or Seek() next. Empty if no packet has a time.
     std::optional<Tail> FindTail();
 
+    /// Opens the file again without its sound if the demuxer holds a large index of it. Call after a packet was read;
+    /// leaves the position undefined: call Rewind() or Seek() next.
+    void LeaveOutSound();
+
     /// The next packet. The first one after a seek is a key frame.
     KxReadStatus Next(AVPacket& packet);
     /// Returns to the first packet. False if the file could not be opened again.
@@ -63,6 +70,7 @@ private:
     };
 
     KxReadStatus ReadRaw(AVPacket& packet);
+    bool OpenAgain(KxInputFile::Tracks tracks);
     void PutTimes(AVPacket& packet);
     std::optional<Tail> ReadToEnd();
     std::optional<Tail> ClaimedTail() const;

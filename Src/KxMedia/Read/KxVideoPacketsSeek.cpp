@@ -1,5 +1,9 @@
 #include <KxMedia/Read/KxVideoPackets.h>
 
+extern "C" {
+#include <libavutil/avstring.h>
+}
+
 #include <algorithm>
 
 bool KxVideoPackets::IsFirstPacket(const AVPacket& packet) const
@@ -30,18 +34,40 @@ bool KxVideoPackets::Rewind()
             return true;
         }
     }
+    // Some demuxers cannot seek to their very first packet, so the file is opened again.
+    return OpenAgain(m_input->ReadTracks());
+}
+
+bool KxVideoPackets::OpenAgain(KxInputFile::Tracks tracks)
+{
     if (m_input->HasChanged()) {
         return false;
     }
-    // Some demuxers cannot seek to their very first packet, so the file is opened again.
-    KxCancelToken cancel = m_input->Cancel();
-    KxResult<std::unique_ptr<KxInputFile>> again = KxInputFile::Open(m_input->Path(), cancel);
-    if (!again || (*again)->VideoStream() == nullptr || (*again)->VideoStream()->index != Stream().index) {
+    KxResult<std::unique_ptr<KxInputFile>> again = KxInputFile::Open(m_input->Path(), m_input->Cancel(), tracks);
+    const AVStream* const stream = again ? (*again)->VideoStream() : nullptr;
+    // Where tracks are left out, the streams after them have other numbers.
+    const bool isSameStream = stream != nullptr && (tracks != m_input->ReadTracks() ? stream->id == Stream().id
+                                                                                    : stream->index == Stream().index);
+    if (!isSameStream) {
         return false;
     }
     m_input = std::move(*again);
     m_input->Select(*m_input->VideoStream());
     return true;
+}
+
+void KxVideoPackets::LeaveOutSound()
+{
+    if (av_match_name("mov", m_input->Context().iformat->name) <= 0) {
+        return;
+    }
+    int packets = 0;
+    for (const AVStream* const stream : m_input->AudioStreams()) {
+        packets = std::max(packets, avformat_index_get_entries_count(stream));
+    }
+    if (packets > MostSoundPackets) {
+        OpenAgain(KxInputFile::Tracks::AllButSound);
+    }
 }
 
 bool KxVideoPackets::Seek(qint64 ticks)

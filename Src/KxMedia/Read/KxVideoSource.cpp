@@ -84,6 +84,9 @@ KxError KxVideoSource::Prepare(std::unique_ptr<KxInputFile> input, KxVideoDecode
         return Texts::tr("it is a single picture, not a video");
     }
     KxCompleteVideoFacts(*m_packets, *m_facts.video, m_facts.audio);
+    if (effort != KxVideoDecoder::Effort::FirstPicture) {
+        m_packets->LeaveOutSound();
+    }
     if (!Rewind()) {
         return Texts::tr("it cannot be read from the start again");
     }

@@ -29,7 +29,7 @@ KxResult<std::unique_ptr<KxSoundPackets>> KxSoundPackets::Open(const QString& pa
     if (!clock.zeroUs || !clock.jumps || !clock.jumps->empty()) {
         return Opened::Failure(Texts::tr("the time stamps of the file jump"));
     }
-    KxResult<std::unique_ptr<KxInputFile>> input = KxInputFile::Open(path, cancel);
+    KxResult<std::unique_ptr<KxInputFile>> input = KxInputFile::Open(path, cancel, KxInputFile::Tracks::AllButPictures);
     if (!input) {
         return Opened::Failure(input.Message());
     }

@@ -36,7 +36,7 @@ int PacketsOf(KxInputFile& input)
 TEST(KxInputFile, TheLimitOnOpeningEndsWithTheOpening)
 {
     Time now;
-    auto input = KxInputFile::Open(LongClip(), KxCancelToken(), [&now] { return now; });
+    auto input = KxInputFile::Open(LongClip(), KxCancelToken(), KxInputFile::Tracks::All, [&now] { return now; });
     ASSERT_TRUE(input) << input.Message().toStdString();
     now += std::chrono::hours(10);
     EXPECT_EQ(PacketsOf(**input), 60);
@@ -45,7 +45,8 @@ TEST(KxInputFile, TheLimitOnOpeningEndsWithTheOpening)
 TEST(KxInputFile, OpeningThatTakesTooLongEnds)
 {
     Time now;
-    const auto input = KxInputFile::Open(LongClip(), KxCancelToken(), [&now] { return now += std::chrono::hours(1); });
+    const auto input = KxInputFile::Open(LongClip(), KxCancelToken(), KxInputFile::Tracks::All,
+                                         [&now] { return now += std::chrono::hours(1); });
     ASSERT_FALSE(input);
     EXPECT_EQ(input.Message().toStdString(), "Cannot open long.avi: reading it takes too long.");
 }
