@@ -135,3 +135,13 @@ TEST_F(FileOpeningsTest, ARenderingTakesOneOpeningForPicturesAndOneForSound)
     ASSERT_EQ(result.outcome, KxOutcome::Done);
     EXPECT_GT(SoundEnd(result.outputPath), 0.9);
 }
+
+TEST_F(FileOpeningsTest, ARenderingClosesTheVideoBeforeTheIndexIsWritten)
+{
+    const KxRenderSource source = MakeClip(25);
+    FileOpenings::Reset();
+    const KxRenderResult result = KxRenderer::Run(source, SettingsFor(QSize(90, 160)), {}, {});
+    ASSERT_EQ(result.outcome, KxOutcome::Done);
+    EXPECT_EQ(FileOpenings::Count(), 1);
+    EXPECT_EQ(FileOpenings::OpenWhenTheIndexWasWritten(), 0);
+}

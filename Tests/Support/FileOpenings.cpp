@@ -5,6 +5,9 @@
 #include <atomic>
 #include <cstdarg>
 #include <cstring>
+#include <filesystem>
+#include <string>
+#include <system_error>
 
 #include <fcntl.h>
 #include <sys/syscall.h>
@@ -16,14 +19,32 @@
 namespace
 {
 
+constexpr const char* Clip = "/clip.";
+constexpr const char* Result = "/.auto-reframe-";
+constexpr int None = -1;
+
 std::atomic_int openings = 0;
+std::atomic_int openWhenTheIndexWasWritten = None;
+
+int OpenClips()
+{
+    int count = 0;
+    std::error_code problem;
+    for (const auto& file : std::filesystem::directory_iterator("/proc/self/fd")) {
+        count += std::filesystem::read_symlink(file, problem).string().find(Clip) != std::string::npos ? 1 : 0;
+    }
+    return count;
+}
 
 /// `arguments` are those behind the flags.
 int Open(const char* path, int flags, va_list arguments)
 {
     const unsigned mode = (flags & O_CREAT) != 0 ? va_arg(arguments, unsigned) : 0;
-    if (std::strstr(path, "/clip.") != nullptr) {
+    if (std::strstr(path, Clip) != nullptr) {
         ++openings;
+    }
+    if (std::strstr(path, Result) != nullptr && (flags & O_ACCMODE) == O_RDONLY) {
+        openWhenTheIndexWasWritten = OpenClips();
     }
     return static_cast<int>(syscall(SYS_openat, AT_FDCWD, path, flags, mode));
 }
@@ -38,6 +59,13 @@ int FileOpenings::Count()
 void FileOpenings::Reset()
 {
     openings = 0;
+    openWhenTheIndexWasWritten = None;
+}
+
+std::optional<int> FileOpenings::OpenWhenTheIndexWasWritten()
+{
+    const int count = openWhenTheIndexWasWritten;
+    return count == None ? std::nullopt : std::optional<int>(count);
 }
 
 extern "C" KX_SYMBOL_EXPORT int open(const char* path, int flags, ...)
