@@ -1,0 +1,68 @@
+#include <KxModel/KxRecordStore.h>
+
+#include <KxCore/KxMemory.h>
+#include <KxSubject/KxSubjectRecordFormat.h>
+#include <Tests/Support/TestSystem.h>
+
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace
+{
+
+// A little less than 60 MiB, where a text that grows by doubling would move once more and take twice as much.
+constexpr int Samples = 542000;
+constexpr qint64 RecordBytes = qint64{Samples} * 116;
+const QByteArray Key = "0123456789abcdef";
+
+std::shared_ptr<const KxSubjectRecord> LongRecord()
+{
+    KxSubjectRecord record;
+    record.source = {1280, 720, 25.0, Samples};
+    record.workingSizePx = {320, 180};
+    record.samples.resize(Samples);
+    for (int i = 0; i < Samples; ++i) {
+        record.samples[static_cast<std::size_t>(i)].frame = i;
+    }
+    return std::make_shared<const KxSubjectRecord>(std::move(record));
+}
+
+/// What the largest amount of memory grows by during `work`.
+template<typename Work>
+qint64 GrowthBy(const Work& work)
+{
+    KxMemory::ReturnUnused();
+    const bool isReset = TestSystem::ResetPeakMemory();
+    const qint64 before = TestSystem::PeakMemoryBytes();
+    work();
+    EXPECT_TRUE(isReset);
+    return TestSystem::PeakMemoryBytes() - before;
+}
+
+} // namespace
+
+TEST(KxRecordMemory, ARecordIsWrittenAndReadWithOneCopyOfItsText)
+{
+    const QTemporaryDir folder;
+    const KxRecordStore::Limits limits{2 * RecordBytes, 2 * RecordBytes};
+    std::shared_ptr<const KxSubjectRecord> record = LongRecord();
+    const qint64 written = GrowthBy([&] {
+        KxRecordStore store(limits);
+        store.SetFolder(folder.path());
+        store.Add(Key, record);
+    });
+    EXPECT_GT(written, RecordBytes / 10 * 9);
+    EXPECT_LT(written, RecordBytes / 2 * 3);
+
+    record.reset();
+    const qint64 read = GrowthBy([&] {
+        KxRecordStore store(limits);
+        store.SetFolder(folder.path());
+        record = store.Find(Key);
+    });
+    ASSERT_NE(record, nullptr);
+    EXPECT_EQ(record->samples.size(), static_cast<std::size_t>(Samples));
+    EXPECT_GT(read, RecordBytes / 10 * 19);
+    EXPECT_LT(read, RecordBytes / 2 * 5);
+}
