@@ -51,26 +51,12 @@ std::error_code Reserve(const QString& path)
     return problem ? problem : std::make_error_code(std::errc::io_error);
 }
 
-QString Numbered(const QString& path, int number)
-{
-    const QFileInfo info(path);
-    const QString suffix = info.suffix().isEmpty() ? QString() : QLatin1Char('.') + info.suffix();
-    return info.dir().filePath(
-        QStringLiteral("%1 (%2)%3").arg(info.completeBaseName(), QString::number(number), suffix));
-}
-
 constexpr int LastNumber = 9999;
-
-/// From 1 to LastNumber: "name.mp4", "name (2).mp4".
-QString Candidate(const QString& path, int number)
-{
-    return number == 1 ? path : Numbered(path, number);
-}
 
 KxResult<QString> ReserveFreeName(const QString& path)
 {
     for (int number = 1; number <= LastNumber; ++number) {
-        const QString candidate = Candidate(path, number);
+        const QString candidate = KxOutputFile::NumberedPath(path, number);
         const std::error_code problem = Reserve(candidate);
         if (!problem) {
             return candidate;
@@ -83,6 +69,17 @@ KxResult<QString> ReserveFreeName(const QString& path)
 }
 
 } // namespace
+
+QString KxOutputFile::NumberedPath(const QString& targetPath, int number)
+{
+    if (number == 1) {
+        return targetPath;
+    }
+    const QFileInfo info(targetPath);
+    const QString suffix = info.suffix().isEmpty() ? QString() : QLatin1Char('.') + info.suffix();
+    return info.dir().filePath(
+        QStringLiteral("%1 (%2)%3").arg(info.completeBaseName(), QString::number(number), suffix));
+}
 
 KxOutputFile::KxOutputFile(QString targetPath, std::unique_ptr<KxPartFile> part)
     : m_targetPath(std::move(targetPath))
@@ -163,7 +160,7 @@ QString KxOutputFile::FindCommitted(const QString& targetPath, Existing existing
 {
     const int lastNumber = existing == Existing::AddNumber ? LastNumber : 1;
     for (int number = 1; number <= lastNumber; ++number) {
-        const QFileInfo file(Candidate(targetPath, number));
+        const QFileInfo file(KxOutputFile::NumberedPath(targetPath, number));
         if (!file.exists()) {
             break;
         }

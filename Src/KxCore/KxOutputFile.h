@@ -34,6 +34,9 @@ public:
     /// file closed.
     KxResult<QString> Commit(Existing existing);
 
+    /// The names that AddNumber tries: the target itself for 1, then "name (2).mp4" and so on.
+    static QString NumberedPath(const QString& targetPath, int number);
+
     /// Creates, fills and commits at once. QSaveFile would not do: a killed process leaves its temporary file for ever,
     /// and it writes through symbolic links and does not sync the folder.
     static KxResult<QString> Write(const QString& targetPath, const QByteArray& content, Existing existing);

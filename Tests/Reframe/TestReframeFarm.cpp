@@ -127,6 +127,46 @@ TEST_F(ReframeFarmTest, OnlyWhatIsNotUpToDateIsDone)
     EXPECT_EQ(Results().size(), 2);
 }
 
+TEST_F(ReframeFarmTest, FilesThatStoreNoSettingsAreReplacedWithThoseThatDo)
+{
+    const QString list = QStringLiteral("out/a.mlt");
+    const QStringList arguments{QStringLiteral("--if-needed"), QStringLiteral("--edit-list"), Path(list),
+                                Path(QStringLiteral("in/a.mp4"))};
+    WriteFile(list, "a file of somebody else");
+    Reframe(arguments);
+    EXPECT_EQ(Content(list), "a file of somebody else");
+    EXPECT_EQ(Results().size(), 3);
+    ASSERT_TRUE(QFile::remove(Path(QStringLiteral("out/a (2).mlt"))));
+    Reframe(arguments + QStringList{QStringLiteral("--speed"), QStringLiteral("slow")});
+    EXPECT_TRUE(Content(list).startsWith("<?xml"));
+    EXPECT_EQ(Results().size(), 2);
+}
+
+TEST_F(ReframeFarmTest, ATrackIsWrittenAfterTheFilesThatStoreNoSettings)
+{
+    // Killed in between, the program would otherwise find files of other settings up to date.
+    const ReframeRun run({QStringLiteral("--no-video"), QStringLiteral("--keyframes"), Path(QStringLiteral("k.json")),
+                          QStringLiteral("--edit-list"), Path(QStringLiteral("a.mlt")), QStringLiteral("--preview"),
+                          Path(QStringLiteral("a.png")), QStringLiteral("--report"), Path(QStringLiteral("a.html")),
+                          Path(QStringLiteral("in/a.mp4"))});
+    ASSERT_EQ(run.exitStatus, 0) << run.standardError.toStdString();
+    EXPECT_TRUE(run.standardOutput.trimmed().endsWith(Path(QStringLiteral("k.json"))))
+        << run.standardOutput.toStdString();
+}
+
+TEST_F(ReframeFarmTest, ResultsOfInputsWithTheSameNameAreFoundAgain)
+{
+    MakeClip(QStringLiteral("in/sub/a.mp4"), 50);
+    const QStringList arguments{QStringLiteral("--if-needed"), QStringLiteral("--recursive"),
+                                Path(QStringLiteral("in"))};
+    Reframe(arguments);
+    EXPECT_EQ(Results().size(), 2);
+    EXPECT_EQ(Reframe(arguments).count(QStringLiteral("skipped")), 2);
+    EXPECT_EQ(Results().size(), 2);
+    Reframe(arguments + QStringList{QStringLiteral("--speed"), QStringLiteral("slow")});
+    EXPECT_EQ(Results().size(), 2);
+}
+
 TEST_F(ReframeFarmTest, AVideoKnowsWhatItWasMadeOf)
 {
     const QStringList arguments{QStringLiteral("--if-needed"), QStringLiteral("--output"), Path(QStringLiteral("out")),

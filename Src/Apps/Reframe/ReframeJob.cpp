@@ -73,8 +73,8 @@ KxOutcome ReframeJob::RunSteps()
     for (Ended (ReframeJob::*step)() :
          {&ReframeJob::Open, &ReframeJob::FindFrames, &ReframeJob::ReadTrack, &ReframeJob::ReadChoices,
           &ReframeJob::SkipIfDone, &ReframeJob::ReadParts, &ReframeJob::CheckTargets, &ReframeJob::WritePictures,
-          &ReframeJob::FindCrops, &ReframeJob::WriteChoices, &ReframeJob::WriteKeyframes, &ReframeJob::WriteEditLists,
-          &ReframeJob::WriteReport, &ReframeJob::WritePreview, &ReframeJob::WriteVideo}) {
+          &ReframeJob::FindCrops, &ReframeJob::WriteChoices, &ReframeJob::WriteEditLists, &ReframeJob::WriteReport,
+          &ReframeJob::WritePreview, &ReframeJob::WriteKeyframes, &ReframeJob::WriteVideo}) {
         if (KxInterrupt::IsRequested()) {
             return KxOutcome::Cancelled;
         }
@@ -307,7 +307,8 @@ ReframeJob::Ended ReframeJob::WriteChoices()
     if (m_options.saveChoices.isEmpty()) {
         return std::nullopt;
     }
-    return WriteFile(m_options.saveChoices, KxAutoReframeService::Instance().LastChoices(), QStringLiteral("choices"));
+    return WriteFile(KxOutputFile::NumberedPath(m_options.saveChoices, m_number),
+                     KxAutoReframeService::Instance().LastChoices(), QStringLiteral("choices"));
 }
 
 ReframeJob::Ended ReframeJob::WriteKeyframes()
@@ -371,7 +372,7 @@ KxOutcome ReframeJob::FailTooSmall()
 QString ReframeJob::TargetPath(const QString& named, const QString& suffix) const
 {
     if (!named.isEmpty() && !QFileInfo(named).isDir()) {
-        return named;
+        return KxOutputFile::NumberedPath(named, m_number);
     }
     const QFileInfo input(m_input);
     QString name = input.completeBaseName() + QStringLiteral("-AutoReframe");
@@ -382,7 +383,7 @@ QString ReframeJob::TargetPath(const QString& named, const QString& suffix) cons
         name += QStringLiteral(" %1-%2").arg(QString::number(m_frames->first), QString::number(m_frames->end - 1));
     }
     name += QLatin1Char('.') + suffix;
-    return QDir(named.isEmpty() ? input.absolutePath() : named).filePath(name);
+    return KxOutputFile::NumberedPath(QDir(named.isEmpty() ? input.absolutePath() : named).filePath(name), m_number);
 }
 
 QStringList ReframeJob::Targets() const
@@ -392,7 +393,7 @@ QStringList ReframeJob::Targets() const
     }
     QStringList targets;
     if (!m_options.saveChoices.isEmpty()) {
-        targets += m_options.saveChoices;
+        targets += KxOutputFile::NumberedPath(m_options.saveChoices, m_number);
     }
     if (!m_options.keyframes.isEmpty()) {
         targets += TargetPath(m_options.keyframes, QStringLiteral("json"));
@@ -415,7 +416,6 @@ QStringList ReframeJob::Targets() const
 KxOutputFile::Existing ReframeJob::WhenItExists(const QString& path) const
 {
     const bool isOfThisRun = m_allWritten.contains(QFileInfo(path).absoluteFilePath());
-    const bool isOurs = m_options.farm.ifNeeded && RunTextOf(path).endsWith(QString::fromLatin1(m_contentHash));
-    return !isOfThisRun && (m_options.overwrites || isOurs) ? KxOutputFile::Existing::Replace
-                                                            : KxOutputFile::Existing::AddNumber;
+    return !isOfThisRun && (m_options.overwrites || IsOfAnEarlierRun(path)) ? KxOutputFile::Existing::Replace
+                                                                            : KxOutputFile::Existing::AddNumber;
 }

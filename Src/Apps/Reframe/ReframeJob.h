@@ -84,6 +84,13 @@ private:
     bool WritesPictures() const { return m_frames && !m_track; }
     /// The text that is stored in a result of an earlier run; empty if there is none.
     QString RunTextOf(const QString& path) const;
+    /// Whether a result that stores its run is one of this input, whatever the settings were.
+    bool IsOfThisInput(const QString& path) const;
+    /// Whether --if-needed may replace it: it is a result of this input, or stores no run and one of the other targets
+    /// is such a result.
+    bool IsOfAnEarlierRun(const QString& path) const;
+    /// With --if-needed: sets m_number to that of this input's results where others have the same names.
+    void FindNumber();
 
     /// Not after ForgetCrops().
     KrAutoReframeHelper& Helper() const;
@@ -132,6 +139,7 @@ private:
     std::optional<KxFrameRange> m_frames; ///< the part of --frames
     QStringList m_videoParts;             ///< of --join, in order
     QByteArray m_contentHash;             ///< of the input
+    int m_number = 1;                     ///< of the targets' names, as KxOutputFile counts
     QString m_decisions;                  ///< those of --apply and --choices, as a part of RunText()
     QJsonObject m_facts;
     QStringList& m_allWritten;

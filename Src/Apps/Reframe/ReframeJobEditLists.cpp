@@ -14,7 +14,7 @@ QString ReframeJob::EditListPath(const QString& named) const
     if (KxEditList::Suffixes().contains(named.toLower())) {
         return TargetPath(QFileInfo(m_options.output).isDir() ? m_options.output : QString(), named.toLower());
     }
-    return named;
+    return KxOutputFile::NumberedPath(named, m_number);
 }
 
 KxCroppedClip ReframeJob::CroppedClip(const QSize& outputSize) const

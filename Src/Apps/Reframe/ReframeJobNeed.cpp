@@ -53,6 +53,40 @@ QString ReframeJob::RunTextOf(const QString& path) const
     return isVideo && QFileInfo(path).isFile() ? KxFileComment(path, KxInterrupt::Token()) : QString();
 }
 
+bool ReframeJob::IsOfThisInput(const QString& path) const
+{
+    return !m_contentHash.isEmpty() && RunTextOf(path).endsWith(QString::fromLatin1(m_contentHash));
+}
+
+bool ReframeJob::IsOfAnEarlierRun(const QString& path) const
+{
+    if (!m_options.farm.ifNeeded) {
+        return false;
+    }
+    if (!RunTextOf(path).isEmpty()) {
+        return IsOfThisInput(path);
+    }
+    const QStringList targets = Targets();
+    return std::any_of(targets.begin(), targets.end(), [this](const QString& target) { return IsOfThisInput(target); });
+}
+
+void ReframeJob::FindNumber()
+{
+    if (!m_options.farm.ifNeeded) {
+        return;
+    }
+    const auto exists = [](const QString& target) { return QFileInfo::exists(target); };
+    QStringList targets = Targets();
+    while (std::any_of(targets.begin(), targets.end(), exists)) {
+        if (std::any_of(targets.begin(), targets.end(), [this](const QString& path) { return IsOfThisInput(path); })) {
+            return;
+        }
+        ++m_number;
+        targets = Targets();
+    }
+    m_number = 1;
+}
+
 ReframeJob::Ended ReframeJob::SkipIfDone()
 {
     m_contentHash = KxRecordStore::ContentHash(m_input);
@@ -62,11 +96,12 @@ ReframeJob::Ended ReframeJob::SkipIfDone()
     if (!m_options.choices.isEmpty()) {
         m_decisions += QStringLiteral(" choices=") + QString::fromLatin1(FarmOptions::ContentHash(m_options.choices));
     }
+    FindNumber();
     const QStringList targets = Targets();
     if (!m_options.farm.ifNeeded || targets.isEmpty()) {
         return std::nullopt;
     }
-    // Files that carry no settings are written before the video: they are those of the run that wrote it.
+    // Files that carry no settings are written before those that do: they are those of the run that wrote these.
     int carriers = 0;
     for (const QString& target : targets) {
         const QString text = RunTextOf(target);

@@ -81,8 +81,8 @@ ReframeJob::Ended ReframeJob::WritePreviewVideo()
     source.path = m_input;
     source.overlay = [overlay](QImage& picture, qint64 frame) { overlay->Draw(picture, frame); };
     KxRenderSettings settings;
-    settings.outputPath = m_options.preview;
-    settings.existing = WhenItExists(m_options.preview);
+    settings.outputPath = TargetPath(m_options.preview, QStringLiteral("mp4"));
+    settings.existing = WhenItExists(settings.outputPath);
     settings.resolution = PreviewSize(track.sourceSize);
     // Text and thin lines need a higher bit rate than pictures of that size usually do.
     settings.videoBitRate = 4000000;
