@@ -94,6 +94,26 @@ TEST(ReframeReporter, OneLineOfATerminalShowsTheProgress)
     EXPECT_EQ(terminal.Take(), Cleared + "clip.mp4: rendering 0 %");
 }
 
+TEST(ReframeReporter, AMessageThatHasTheNameOfTheFileShowsItsPath)
+{
+    ErrorTerminal terminal;
+    ReframeReporter reporter{ReframeOptions()};
+    const auto shown = [&](const QString& input, const QString& message) {
+        reporter.Fail(input, message);
+        return QString::fromUtf8(terminal.Take()).trimmed();
+    };
+    const QString path = QStringLiteral("a/b/a.mp4");
+    EXPECT_EQ(shown(path, QStringLiteral("Cannot open a.mp4: it is empty.")),
+              QStringLiteral("Cannot open a/b/a.mp4: it is empty."));
+    EXPECT_EQ(shown(path, QStringLiteral("Cannot reframe a/b/a.mp4: a.mp4.")),
+              QStringLiteral("Cannot reframe a/b/a.mp4: a.mp4."));
+    EXPECT_EQ(shown(path, QStringLiteral("Cannot open Mama.mp4.")), QStringLiteral("Cannot open Mama.mp4."));
+    EXPECT_EQ(shown(QStringLiteral("in/a"), QStringLiteral("Cannot open a: it is a folder.")),
+              QStringLiteral("Cannot open in/a: it is a folder."));
+    EXPECT_EQ(shown(QStringLiteral("a.mp4"), QStringLiteral("Cannot open a.mp4.")),
+              QStringLiteral("Cannot open a.mp4."));
+}
+
 TEST(ReframeReporter, AMessageReplacesTheProgressLine)
 {
     ErrorTerminal terminal;

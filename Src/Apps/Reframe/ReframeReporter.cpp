@@ -9,6 +9,7 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <QJsonDocument>
+#include <QRegularExpression>
 
 #include <cerrno>
 #include <cstdio>
@@ -25,6 +26,19 @@ void WriteError(const QByteArray& text)
 {
     std::fwrite(text.constData(), 1, static_cast<std::size_t>(text.size()), stderr);
     std::fflush(stderr);
+}
+
+/// The message with the path of the input where it has the mere name, which several inputs can share.
+QString WithPath(const QString& message, const QString& input)
+{
+    const QString name = QFileInfo(input).fileName();
+    if (name.isEmpty() || name == input || message.contains(input)) {
+        return message;
+    }
+    const QRegularExpression alone(QStringLiteral("(?<![\\w/])%1(?!\\w)").arg(QRegularExpression::escape(name)),
+                                   QRegularExpression::UseUnicodePropertiesOption);
+    const QRegularExpressionMatch found = alone.match(message);
+    return found.hasMatch() ? QString(message).replace(found.capturedStart(), found.capturedLength(), input) : message;
 }
 
 /// Of a stage in JSON.
@@ -105,7 +119,7 @@ void ReframeReporter::Warn(const QString& input, const QString& message)
     }
     ClearLine();
     if (!m_quiet) {
-        WriteError(Texts::tr("Warning: %1").arg(message).toLocal8Bit() + '\n');
+        WriteError(Texts::tr("Warning: %1").arg(WithPath(message, input)).toLocal8Bit() + '\n');
     }
 }
 
@@ -115,7 +129,7 @@ void ReframeReporter::Fail(const QString& input, const QString& message)
         WriteJson(QStringLiteral("error"), input, {{QStringLiteral("message"), message}});
     }
     ClearLine();
-    WriteError(message.toLocal8Bit() + '\n');
+    WriteError(WithPath(message, input).toLocal8Bit() + '\n');
 }
 
 void ReframeReporter::Succeed(const QString& input, const QString& message, const QJsonObject& facts)
