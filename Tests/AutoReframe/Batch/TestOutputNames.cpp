@@ -48,6 +48,14 @@ TEST(OutputNamesTest, ALongNameIsShortenedBetweenCharacters)
     EXPECT_LE(Expand("{name}", QString(1000, QLatin1Char('a'))).size(), 235);
 }
 
+TEST(OutputNamesTest, OfALongNameTheRatioIsKept)
+{
+    const QString name = Expand("{name}-{ratio}", QString(300, QLatin1Char('a')));
+    EXPECT_EQ(name, QString(230, QLatin1Char('a')) + QStringLiteral("-9x16"));
+    const QString text(300, QLatin1Char('b'));
+    EXPECT_EQ(Expand((text + QStringLiteral("{name}")).toLatin1().constData(), QStringLiteral("walk")), text.left(235));
+}
+
 TEST(OutputNamesTest, APatternThatNamesNothingIsAProblem)
 {
     EXPECT_FALSE(OutputNames::Problem(QStringLiteral("{name}-{ratio}")).has_value());

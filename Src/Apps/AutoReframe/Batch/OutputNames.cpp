@@ -42,16 +42,40 @@ QString Replacement(const QString& placeholder, const OutputNames::Facts& facts)
     return QString::number(facts.number);
 }
 
+/// Room for a number and the suffix in the 255 bytes of a name.
+constexpr int MostBytes = 235;
+
+bool IsTooLong(const QString& name)
+{
+    return name.toUtf8().size() > MostBytes;
+}
+
+void RemoveLastCharacter(QString& name)
+{
+    name.chop(name.size() > 1 && name.at(name.size() - 1).isLowSurrogate() ? 2 : 1);
+}
+
+QString Filled(const QString& pattern, const OutputNames::Facts& facts)
+{
+    QString name;
+    int end = 0;
+    auto found = PlaceholderPattern().globalMatch(pattern);
+    while (found.hasNext()) {
+        const QRegularExpressionMatch match = found.next();
+        name += pattern.mid(end, match.capturedStart() - end) + Replacement(match.captured(), facts);
+        end = match.capturedEnd();
+    }
+    return name + pattern.mid(end);
+}
+
 /// A name that every platform accepts.
 QString Permitted(QString name)
 {
     static const QRegularExpression Forbidden(QStringLiteral("[\\x00-\\x1f*|<>\\\\?/:\"]"));
     static const QRegularExpression AtTheEnd(QStringLiteral("[. ]+$"));
     name.replace(Forbidden, QStringLiteral("-"));
-    // Room for a number and the suffix in the 255 bytes of a name.
-    constexpr int mostBytes = 235;
-    while (name.toUtf8().size() > mostBytes) {
-        name.chop(name.size() > 1 && name.at(name.size() - 1).isLowSurrogate() ? 2 : 1);
+    while (IsTooLong(name)) {
+        RemoveLastCharacter(name);
     }
     name = name.remove(AtTheEnd).trimmed();
     const bool isDevice = KxWindowsNames::ReasonNotToName(QStringLiteral("C:\\%1.mp4").arg(name)).has_value();
@@ -83,15 +107,12 @@ KxError OutputNames::Problem(const QString& pattern)
 
 QString OutputNames::Expand(const QString& pattern, const Facts& facts)
 {
-    QString name;
-    int end = 0;
-    auto found = PlaceholderPattern().globalMatch(pattern);
-    while (found.hasNext()) {
-        const QRegularExpressionMatch match = found.next();
-        name += pattern.mid(end, match.capturedStart() - end) + Replacement(match.captured(), facts);
-        end = match.capturedEnd();
+    // The video's name is shortened before the rest, which tells its files apart.
+    Facts shorter = facts;
+    while (shorter.name.size() > 1 && IsTooLong(Filled(pattern, shorter))) {
+        RemoveLastCharacter(shorter.name);
     }
-    return Permitted(name + pattern.mid(end));
+    return Permitted(Filled(pattern, shorter));
 }
 
 OutputNames::Unique::Unique(IsTaken isTaken)
