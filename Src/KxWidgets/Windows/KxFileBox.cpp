@@ -142,7 +142,10 @@ void KxFileBox::StyleLists()
     }
     if (auto* files = m_chooser->findChild<QTreeView*>(QStringLiteral("treeView"))) {
         files->setIconSize(QSize(IconPx, IconPx));
-        files->header()->setStretchLastSection(true);
+        // The names give way, not the sizes and dates.
+        files->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+        files->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+        files->header()->setStretchLastSection(false);
     }
     if (auto* split = m_chooser->findChild<QSplitter*>()) {
         split->setSizes({PlacesPx, WidthPx - PlacesPx});

@@ -10,10 +10,12 @@
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTimer>
+#include <QTreeView>
 
 #include <gtest/gtest.h>
 
@@ -204,6 +206,23 @@ TEST_F(KxFileDialogTest, ShownFolderChooserGivesTheFolder)
         QMetaObject::invokeMethod(box->findChild<QFileDialog*>(), "accept");
     });
     EXPECT_EQ(KxFileDialog::getExistingDirectory(&parent, QStringLiteral("Choose"), folder.path()), folder.path());
+}
+
+TEST_F(KxFileDialogTest, SizesAndDatesAreNotCut)
+{
+    QTemporaryDir folder;
+    QList<QHeaderView::ResizeMode> modes;
+    QTimer::singleShot(0, qApp, [&] {
+        auto* chooser = QApplication::activeModalWidget()->findChild<QFileDialog*>();
+        const QHeaderView* const header = chooser->findChild<QTreeView*>(QStringLiteral("treeView"))->header();
+        for (int column = 0; column < header->count(); ++column) {
+            modes += header->sectionResizeMode(column);
+        }
+        QMetaObject::invokeMethod(chooser, "reject");
+    });
+    KxFileDialog::getExistingDirectory(nullptr, QStringLiteral("Choose"), folder.path());
+    EXPECT_EQ(modes, (QList<QHeaderView::ResizeMode>{QHeaderView::Stretch, QHeaderView::ResizeToContents,
+                                                     QHeaderView::ResizeToContents, QHeaderView::ResizeToContents}));
 }
 
 TEST_F(KxFileDialogTest, AMissingFolderGivesTheNearestOneAbove)
