@@ -410,6 +410,25 @@ TEST_F(TestRestoredWindow, FinishedAndCancelledExportsComeBackAsTheyWere)
     EXPECT_FALSE(run.window.findChild<QWidget*>(QStringLiteral("ExportPanel_resumeBar"))->isVisible());
 }
 
+TEST_F(TestRestoredWindow, OfAnImportedFolderTheMenuListsTheFolder)
+{
+    const QString folder = QFileInfo(Clip(QStringLiteral("trip/a.mp4"))).path();
+    ImportAndQuit({folder});
+    Run run(Data());
+    QStringList texts;
+    QTimer::singleShot(0, &run.window, [&texts] {
+        auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        ASSERT_NE(menu, nullptr);
+        for (QAction* const action : menu->findChild<QMenu*>(QStringLiteral("RecentMenu"))->actions()) {
+            texts += action->text();
+        }
+        menu->close();
+    });
+    run.Button("TopBar_menu")->click();
+    texts.removeAll(QString());
+    EXPECT_EQ(texts, QStringList(QStringLiteral("trip")));
+}
+
 TEST_F(TestRestoredWindow, TheMenuListsTheVideosUsedLast)
 {
     ImportAndQuit({Clip(QStringLiteral("a.mp4")), Clip(QStringLiteral("b & c.mp4"))});

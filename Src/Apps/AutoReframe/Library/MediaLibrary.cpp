@@ -122,7 +122,10 @@ void MediaLibrary::ImportFiles(const QStringList& paths, Origin origin)
         }
         if (!imported.contains(index)) {
             imported += index;
-            MarkUsed(m_model.PathAt(index));
+            // Of a folder, the folder is offered again, not each file in it.
+            if (origin == Origin::Files) {
+                MarkUsed(m_model.PathAt(index));
+            }
         }
     }
     if (!imported.isEmpty()) {
