@@ -382,9 +382,12 @@ Das Kommandozeilenprogramm für viele Dateien auf einmal heißt reframe.</transl
         <source>Cannot reframe %1: it has the aspect ratio %2 already.</source>
         <translation>%1 kann nicht neu kadriert werden: Das Video hat das Seitenverhältnis %2 bereits.</translation>
     </message>
-    <message>
-        <source>Cannot reframe %1: it has only %2 frames; %3 are needed.</source>
-        <translation>%1 kann nicht neu kadriert werden: Das Video hat nur %2 Bilder, nötig sind %3.</translation>
+    <message numerus="yes">
+        <source>Cannot reframe %1: it has only %n frames; %2 are needed.</source>
+        <translation>
+            <numerusform>%1 kann nicht neu kadriert werden: Das Video hat nur %n Bild, nötig sind %2.</numerusform>
+            <numerusform>%1 kann nicht neu kadriert werden: Das Video hat nur %n Bilder, nötig sind %2.</numerusform>
+        </translation>
     </message>
     <message>
         <source>Cannot reframe %1: its picture of %2 x %3 pixels is too small.</source>

@@ -43,6 +43,16 @@
     </message>
 </context>
 <context>
+    <name>CropFinder</name>
+    <message numerus="yes">
+        <source>Cannot reframe %1: it has only %n frames; %2 are needed.</source>
+        <translation>
+            <numerusform>Cannot reframe %1: it has only %n frame; %2 are needed.</numerusform>
+            <numerusform>Cannot reframe %1: it has only %n frames; %2 are needed.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>ExportCard</name>
     <message numerus="yes">
         <source>%n to look at</source>

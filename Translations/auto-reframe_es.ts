@@ -382,9 +382,12 @@ El programa de línea de órdenes para muchos archivos a la vez es reframe.</tra
         <source>Cannot reframe %1: it has the aspect ratio %2 already.</source>
         <translation>No se puede reencuadrar %1: ya tiene la relación de aspecto %2.</translation>
     </message>
-    <message>
-        <source>Cannot reframe %1: it has only %2 frames; %3 are needed.</source>
-        <translation>No se puede reencuadrar %1: solo tiene %2 fotogramas; se necesitan %3.</translation>
+    <message numerus="yes">
+        <source>Cannot reframe %1: it has only %n frames; %2 are needed.</source>
+        <translation>
+            <numerusform>No se puede reencuadrar %1: solo tiene %n fotograma; se necesitan %2.</numerusform>
+            <numerusform>No se puede reencuadrar %1: solo tiene %n fotogramas; se necesitan %2.</numerusform>
+        </translation>
     </message>
     <message>
         <source>Cannot reframe %1: its picture of %2 x %3 pixels is too small.</source>

@@ -382,9 +382,12 @@ Le programme en ligne de commande pour plusieurs fichiers à la fois est reframe
         <source>Cannot reframe %1: it has the aspect ratio %2 already.</source>
         <translation>Impossible de recadrer %1&#xa0;: la vidéo est déjà au format %2.</translation>
     </message>
-    <message>
-        <source>Cannot reframe %1: it has only %2 frames; %3 are needed.</source>
-        <translation>Impossible de recadrer %1&#xa0;: la vidéo n’a que %2 images&#xa0;; il en faut %3.</translation>
+    <message numerus="yes">
+        <source>Cannot reframe %1: it has only %n frames; %2 are needed.</source>
+        <translation>
+            <numerusform>Impossible de recadrer %1&#xa0;: la vidéo n’a que %n image&#xa0;; il en faut %2.</numerusform>
+            <numerusform>Impossible de recadrer %1&#xa0;: la vidéo n’a que %n images&#xa0;; il en faut %2.</numerusform>
+        </translation>
     </message>
     <message>
         <source>Cannot reframe %1: its picture of %2 x %3 pixels is too small.</source>

@@ -378,9 +378,11 @@ The command line program for many files at once is reframe.</source>
         <source>Cannot reframe %1: it has the aspect ratio %2 already.</source>
         <translation>%1 をリフレームできません: すでにアスペクト比 %2 です。</translation>
     </message>
-    <message>
-        <source>Cannot reframe %1: it has only %2 frames; %3 are needed.</source>
-        <translation>%1 をリフレームできません: %2 フレームしかありません。%3 フレーム必要です。</translation>
+    <message numerus="yes">
+        <source>Cannot reframe %1: it has only %n frames; %2 are needed.</source>
+        <translation>
+            <numerusform>%1 をリフレームできません: %n フレームしかありません。%2 フレーム必要です。</numerusform>
+        </translation>
     </message>
     <message>
         <source>Cannot reframe %1: its picture of %2 x %3 pixels is too small.</source>

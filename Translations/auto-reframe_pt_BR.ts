@@ -382,9 +382,12 @@ O programa de linha de comando para muitos arquivos de uma vez é o reframe.</tr
         <source>Cannot reframe %1: it has the aspect ratio %2 already.</source>
         <translation>Não é possível reenquadrar %1: já tem a proporção %2.</translation>
     </message>
-    <message>
-        <source>Cannot reframe %1: it has only %2 frames; %3 are needed.</source>
-        <translation>Não é possível reenquadrar %1: tem apenas %2 quadros; são necessários %3.</translation>
+    <message numerus="yes">
+        <source>Cannot reframe %1: it has only %n frames; %2 are needed.</source>
+        <translation>
+            <numerusform>Não é possível reenquadrar %1: tem apenas %n quadro; são necessários %2.</numerusform>
+            <numerusform>Não é possível reenquadrar %1: tem apenas %n quadros; são necessários %2.</numerusform>
+        </translation>
     </message>
     <message>
         <source>Cannot reframe %1: its picture of %2 x %3 pixels is too small.</source>

@@ -378,9 +378,11 @@ The command line program for many files at once is reframe.</source>
         <source>Cannot reframe %1: it has the aspect ratio %2 already.</source>
         <translation>无法对 %1 重新构图：宽高比已经是 %2。</translation>
     </message>
-    <message>
-        <source>Cannot reframe %1: it has only %2 frames; %3 are needed.</source>
-        <translation>无法对 %1 重新构图：只有 %2 帧，需要 %3 帧。</translation>
+    <message numerus="yes">
+        <source>Cannot reframe %1: it has only %n frames; %2 are needed.</source>
+        <translation>
+            <numerusform>无法对 %1 重新构图：只有 %n 帧，需要 %2 帧。</numerusform>
+        </translation>
     </message>
     <message>
         <source>Cannot reframe %1: its picture of %2 x %3 pixels is too small.</source>

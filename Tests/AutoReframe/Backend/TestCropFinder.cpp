@@ -2,6 +2,7 @@
 #include <Apps/CropTracks/CropTrackFile.h>
 #include <Tests/Support/MadeVideo.h>
 
+#include <KxCore/KxLanguage.h>
 #include <KxEditList/KxEditList.h>
 #include <KxModel/KxAutoReframeService.h>
 #include <KxModel/KxSimpleTimeline.h>
@@ -171,6 +172,9 @@ TEST_F(TestCropFinder, AnErrorMessageNamesTheVideoAndTheReason)
               QStringLiteral("Cannot reframe clip.mp4: it has the aspect ratio 16:9 already."));
     EXPECT_EQ(Find(Request(MakeClip("short.mp4", 20))).message,
               QStringLiteral("Cannot reframe short.mp4: it has only 20 frames; 32 are needed."));
+    KxLanguage::Install(QStringLiteral("en"));
+    EXPECT_EQ(Find(Request(MakeClip("still.mp4", 1))).message,
+              QStringLiteral("Cannot reframe still.mp4: it has only 1 frame; 32 are needed."));
     EXPECT_TRUE(
         Find(Request(m_folder.filePath(QStringLiteral("none.mp4")))).message.contains(QLatin1String("none.mp4")));
 }

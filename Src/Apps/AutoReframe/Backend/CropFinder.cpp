@@ -132,8 +132,9 @@ KxError CropFinder::ReasonNotToAnalyze(const KxMediaItem& media) const
             .arg(media.name(), AspectText(aspect));
     }
     if (video->frameCount() < fewestFrames) {
-        return Texts::tr("Cannot reframe %1: it has only %2 frames; %3 are needed.")
-            .arg(media.name(), QString::number(video->frameCount()), QString::number(fewestFrames));
+        return Texts::tr("Cannot reframe %1: it has only %n frames; %2 are needed.", nullptr,
+                         static_cast<int>(video->frameCount()))
+            .arg(media.name(), QString::number(fewestFrames));
     }
     return std::nullopt;
 }
