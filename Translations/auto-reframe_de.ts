@@ -2953,6 +2953,10 @@ Benötigt: %1 MB, verfügbar: %2 MB.</translation>
         <translation>%1 kann nicht neu kadriert werden: Die Analyse hat nichts gefunden.</translation>
     </message>
     <message>
+        <source>Cannot reframe %1: there is no video in this folder.</source>
+        <translation>%1 kann nicht neu kadriert werden: In diesem Ordner ist kein Video.</translation>
+    </message>
+    <message>
         <source>Cannot reframe %1: its picture of %2 x %3 pixels is too small.</source>
         <translation>%1 kann nicht neu kadriert werden: Das Bild von %2 x %3 Pixeln ist zu klein.</translation>
     </message>

@@ -2953,6 +2953,10 @@ Espacio necesario: %1 MB, disponible: %2 MB.</translation>
         <translation>No se puede reencuadrar %1: el análisis no encontró nada.</translation>
     </message>
     <message>
+        <source>Cannot reframe %1: there is no video in this folder.</source>
+        <translation>No se puede reencuadrar %1: no hay ningún vídeo en esta carpeta.</translation>
+    </message>
+    <message>
         <source>Cannot reframe %1: its picture of %2 x %3 pixels is too small.</source>
         <translation>No se puede reencuadrar %1: su imagen de %2 x %3 píxeles es demasiado pequeña.</translation>
     </message>

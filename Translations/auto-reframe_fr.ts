@@ -2953,6 +2953,10 @@ Espace nécessaire&#xa0;: %1 Mo, disponible&#xa0;: %2 Mo.</translation>
         <translation>Impossible de recadrer %1&#xa0;: l’analyse n’a rien trouvé.</translation>
     </message>
     <message>
+        <source>Cannot reframe %1: there is no video in this folder.</source>
+        <translation>Impossible de recadrer %1&#xa0;: ce dossier ne contient aucune vidéo.</translation>
+    </message>
+    <message>
         <source>Cannot reframe %1: its picture of %2 x %3 pixels is too small.</source>
         <translation>Impossible de recadrer %1&#xa0;: son image de %2 x %3 pixels est trop petite.</translation>
     </message>

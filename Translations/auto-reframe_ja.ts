@@ -2927,6 +2927,10 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
         <translation>%1 をリフレームできません: 解析で何も見つかりませんでした。</translation>
     </message>
     <message>
+        <source>Cannot reframe %1: there is no video in this folder.</source>
+        <translation>%1 をリフレームできません: このフォルダーに動画がありません。</translation>
+    </message>
+    <message>
         <source>Cannot reframe %1: its picture of %2 x %3 pixels is too small.</source>
         <translation>%1 をリフレームできません: %2 x %3 ピクセルの画面は小さすぎます。</translation>
     </message>

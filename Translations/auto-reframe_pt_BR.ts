@@ -2953,6 +2953,10 @@ Espaço necessário: %1 MB, disponível: %2 MB.</translation>
         <translation>Não é possível reenquadrar %1: a análise não encontrou nada.</translation>
     </message>
     <message>
+        <source>Cannot reframe %1: there is no video in this folder.</source>
+        <translation>Não é possível reenquadrar %1: não há vídeos nesta pasta.</translation>
+    </message>
+    <message>
         <source>Cannot reframe %1: its picture of %2 x %3 pixels is too small.</source>
         <translation>Não é possível reenquadrar %1: a imagem de %2 x %3 pixels é pequena demais.</translation>
     </message>

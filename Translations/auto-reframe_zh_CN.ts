@@ -2927,6 +2927,10 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
         <translation>无法对 %1 重新构图：分析没有找到任何内容。</translation>
     </message>
     <message>
+        <source>Cannot reframe %1: there is no video in this folder.</source>
+        <translation>无法对 %1 重新构图：此文件夹中没有视频。</translation>
+    </message>
+    <message>
         <source>Cannot reframe %1: its picture of %2 x %3 pixels is too small.</source>
         <translation>无法对 %1 重新构图：%2 x %3 像素的画面太小。</translation>
     </message>

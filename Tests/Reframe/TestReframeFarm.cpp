@@ -74,6 +74,14 @@ TEST_F(ReframeFarmTest, AFolderIsTheVideosInItWithoutResults)
               QStringList({QStringLiteral("a-AutoReframe-9 16.json"), QStringLiteral("b-AutoReframe-9 16.json")}));
 }
 
+TEST_F(ReframeFarmTest, AFolderWithoutVideosIsReported)
+{
+    const QString folder = Path(QStringLiteral("out"));
+    const ReframeRun run({QStringLiteral("--no-video"), folder});
+    EXPECT_EQ(run.exitStatus, 1);
+    EXPECT_EQ(run.standardError, QStringLiteral("Cannot reframe %1: there is no video in this folder.\n").arg(folder));
+}
+
 TEST_F(ReframeFarmTest, InputsComeFromAFile)
 {
     WriteFile(QStringLiteral("list"), Path(QStringLiteral("in/a.mp4")).toUtf8() + "\r\n\n");

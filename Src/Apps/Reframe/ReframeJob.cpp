@@ -109,6 +109,9 @@ QString ReframeJob::FramesText() const
 
 ReframeJob::Ended ReframeJob::Open()
 {
+    if (QFileInfo(m_input).isDir()) {
+        return Fail(Texts::tr("Cannot reframe %1: there is no video in this folder.").arg(m_input));
+    }
     if (!m_media) {
         const bool isForAnalysis = m_options.apply.isEmpty() && !m_options.frames;
         KxResult<std::unique_ptr<KxMediaItem>> media = isForAnalysis
