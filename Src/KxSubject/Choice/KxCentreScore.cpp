@@ -20,6 +20,7 @@ KxCentreScore::KxCentreScore(const KxSubjectOptions::Evidence& options, const Kx
     const double priorWeight = across ? options.centrePriorAcross : options.centrePriorUpDown;
     const double flat = across ? options.windowFlatAcross : 1.0;
     constexpr double binExtent = 1.0 / KxSignalProfile::Bins;
+    m_meanWindow = {{}, 0, KxSignalProfile::Bins};
     for (std::size_t position = 0; position < Positions; ++position) {
         const double centre = CentreAt(position);
         const double offCentre = (centre - 0.5) / 0.5;
@@ -31,10 +32,13 @@ KxCentreScore::KxCentreScore(const KxSubjectOptions::Evidence& options, const Kx
             if (high > low) {
                 const double wave = std::cos(Pi / 2.0 * ((low + high) / 2.0 - centre) / half);
                 const double height = flat + (1.0 - flat) * wave * wave;
-                m_windows[position].share[bin] = static_cast<float>((high - low) / binExtent * height);
+                Window& window = m_windows[position];
+                window.heights.share[bin] = static_cast<float>((high - low) / binExtent * height);
+                window.firstBin = std::min(window.firstBin, bin);
+                window.endBin = bin + 1;
             }
         }
-        m_meanWindow.Add(m_windows[position], 1.0 / static_cast<double>(Positions));
+        m_meanWindow.heights.Add(m_windows[position].heights, 1.0 / static_cast<double>(Positions));
     }
 }
 
@@ -42,16 +46,16 @@ KxCentreScore::Scores KxCentreScore::Of(const KxSignalProfile& profile) const
 {
     Scores scores = m_prior;
     for (std::size_t position = 0; position < Positions; ++position) {
-        scores[position] += Sum(m_windows[position], profile);
+        scores[position] += m_windows[position].Sum(profile);
     }
     return scores;
 }
 
-float KxCentreScore::Sum(const KxSignalProfile& window, const KxSignalProfile& profile)
+float KxCentreScore::Window::Sum(const KxSignalProfile& profile) const
 {
     float sum = 0.0F;
-    for (std::size_t bin = 0; bin < KxSignalProfile::Bins; ++bin) {
-        sum += window.share[bin] * profile.share[bin];
+    for (std::size_t bin = firstBin; bin < endBin; ++bin) {
+        sum += heights.share[bin] * profile.share[bin];
     }
     return sum;
 }
@@ -61,20 +65,20 @@ float KxCentreScore::Excess(double centre, const KxSignalProfile& profile) const
     if (m_spacing < LeastSpacing) {
         return 0.0F;
     }
-    return std::max(Inside(centre, profile) - Sum(m_meanWindow, profile), 0.0F);
+    return std::max(Inside(centre, profile) - m_meanWindow.Sum(profile), 0.0F);
 }
 
 float KxCentreScore::Inside(double centre, const KxSignalProfile& profile) const
 {
-    return Sum(m_windows[PositionOf(centre)], profile);
+    return m_windows[PositionOf(centre)].Sum(profile);
 }
 
 double KxCentreScore::Preferred(const KxSignalProfile& profile, std::size_t stride) const
 {
     std::size_t best = 0;
-    float most = m_prior[0] + Sum(m_windows[0], profile);
+    float most = m_prior[0] + m_windows[0].Sum(profile);
     for (std::size_t position = stride; position < Positions; position += stride) {
-        const float score = m_prior[position] + Sum(m_windows[position], profile);
+        const float score = m_prior[position] + m_windows[position].Sum(profile);
         if (score > most) {
             most = score;
             best = position;

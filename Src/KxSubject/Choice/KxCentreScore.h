@@ -35,11 +35,17 @@ public:
     double Spacing() const { return m_spacing; }
 
 private:
-    static float Sum(const KxSignalProfile& window, const KxSignalProfile& profile);
+    struct Window {
+        KxSignalProfile heights;
+        std::size_t firstBin = KxSignalProfile::Bins; ///< heights are 0 before this
+        std::size_t endBin = 0;                       ///< and from here on
+
+        float Sum(const KxSignalProfile& profile) const;
+    };
 
     double m_first;
     double m_spacing;
-    std::array<KxSignalProfile, Positions> m_windows{};
-    KxSignalProfile m_meanWindow;
+    std::array<Window, Positions> m_windows{};
+    Window m_meanWindow;
     Scores m_prior{};
 };
