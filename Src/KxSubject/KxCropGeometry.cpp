@@ -4,18 +4,18 @@
 
 KxCropGeometry::KxCropGeometry(KxIntSize picturePx, KxIntSize aspect, const KxCropRect& content)
     : m_content(content)
+    , m_ratio(static_cast<double>(std::max(aspect.width, 1)) / std::max(aspect.height, 1))
 {
     const double widthPx = std::max(picturePx.width, 1) * content.width;
     const double heightPx = std::max(picturePx.height, 1) * content.height;
-    const double ratio = static_cast<double>(std::max(aspect.width, 1)) / std::max(aspect.height, 1);
-    if (widthPx >= heightPx * ratio) {
+    if (widthPx >= heightPx * m_ratio) {
         m_axis = KxAxis::Across;
-        m_width = content.width * (heightPx * ratio / widthPx);
+        m_width = content.width * (heightPx * m_ratio / widthPx);
         m_height = content.height;
     } else {
         m_axis = KxAxis::UpDown;
         m_width = content.width;
-        m_height = content.height * (widthPx / ratio / heightPx);
+        m_height = content.height * (widthPx / m_ratio / heightPx);
     }
 }
 

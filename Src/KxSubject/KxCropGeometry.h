@@ -18,6 +18,8 @@ public:
     KxAxis FreeAxis() const { return m_axis; }
     /// The crop's extent along the free axis, as a fraction of the picture's.
     double Extent() const { return m_axis == KxAxis::Across ? m_width : m_height; }
+    /// The crop's width over its height, in pixels.
+    double Ratio() const { return m_ratio; }
     /// Centres of the crop along the free axis, in fractions of the picture; equal when the crop cannot move.
     double MinimumCentre() const;
     double MaximumCentre() const;
@@ -26,6 +28,7 @@ public:
 
 private:
     KxCropRect m_content;
+    double m_ratio;
     double m_width = 1.0;
     double m_height = 1.0;
     KxAxis m_axis = KxAxis::Across;

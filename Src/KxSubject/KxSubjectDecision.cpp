@@ -60,6 +60,7 @@ private:
     };
     /// The evidence of all signals, its peaks amplified, so that one subject outweighs what is spread wide.
     KxSignalProfile Combined(const KxEvidence::Parts& parts, const ShotEvidence& evidence, std::size_t sample) const;
+    KxCentreScore::Scores ScoresAt(const ShotEvidence& evidence, std::size_t sample) const;
     /// The tracker's cost of a move by one width, in a shot with samples from `begin` up to, but without, `end`: where
     /// pictures are missing, fewer samples have to pay for a move.
     double MoveCost(const Shot& shot, std::size_t begin, std::size_t end) const;
@@ -166,6 +167,13 @@ KxSignalProfile Decider::Combined(const KxEvidence::Parts& parts, const ShotEvid
         .Concentrated(m_options.evidence.concentration);
 }
 
+KxCentreScore::Scores Decider::ScoresAt(const ShotEvidence& evidence, std::size_t sample) const
+{
+    const KxEvidence::Parts parts = evidence.signals.At(sample);
+    const KxSignalProfile combined = Combined(parts, evidence, sample);
+    return m_score.Of(combined, parts.Detected(combined));
+}
+
 KxSubjectOptions::Reaction Decider::ReactionIn(const ShotEvidence& evidence) const
 {
     if (evidence.chosen.Adjusts()) {
@@ -244,7 +252,7 @@ std::vector<KxPathPoint> Decider::WantedCentres(const Shot& shot, const ShotEvid
     KxSubjectTracker tracker(MoveCost(shot, range.begin, range.end) * m_score.Spacing());
     for (std::size_t i = range.begin; i < range.end && !cancel.IsCancelled(); ++i) {
         const bool clear = samples[i].frame >= shot.clearFirst && samples[i].frame < shot.clearEnd;
-        tracker.Add(clear ? m_score.Of(Combined(evidence.signals.At(i), evidence, i)) : KxCentreScore::Scores{});
+        tracker.Add(clear ? ScoresAt(evidence, i) : KxCentreScore::Scores{});
     }
     std::vector<KxPathPoint> points;
     for (const std::size_t position : tracker.BestRun()) {

@@ -60,6 +60,15 @@ TEST(KxCropGeometry, TheCentreIsKeptWherePossible)
     EXPECT_NEAR(geometry.At(0.0).x, 0.0, 1e-12);
 }
 
+TEST(KxCropGeometry, TheRatioIsThatOfPixels)
+{
+    for (const KxIntSize& picture : Pictures) {
+        const KxCropGeometry geometry(picture, {4, 5}, {0.0, 0.12, 1.0, 0.76});
+        const KxCropRect crop = geometry.At(0.5);
+        EXPECT_NEAR(geometry.Ratio(), crop.width * picture.width / (crop.height * picture.height), 1e-9);
+    }
+}
+
 TEST(KxCropGeometry, InvalidNumbersStillGiveARectangle)
 {
     for (const KxIntSize& aspect : {KxIntSize{0, 0}, KxIntSize{-3, 4}, KxIntSize{1, 0}}) {

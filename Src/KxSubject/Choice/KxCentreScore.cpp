@@ -9,6 +9,16 @@ namespace
 constexpr double Pi = 3.1415926535897932384626433832795;
 constexpr double LeastSpacing = 1e-6; ///< of the picture; positions nearer than this are one position
 
+/// The ratio of the crop whose half is the margin in which the window for whole things falls.
+constexpr double MarginRatio = 9.0 / 16.0;
+
+/// The window at a distance from its middle: 1 up to the margin beside its edge, where it falls as a squared cosine.
+double HeightAt(double distance, double half, double margin, double flat)
+{
+    const double wave = std::cos(Pi / 2.0 * std::max(distance - (half - margin), 0.0) / margin);
+    return flat + (1.0 - flat) * wave * wave;
+}
+
 } // namespace
 
 KxCentreScore::KxCentreScore(const KxSubjectOptions::Evidence& options, const KxCropGeometry& geometry)
@@ -19,6 +29,7 @@ KxCentreScore::KxCentreScore(const KxSubjectOptions::Evidence& options, const Kx
     const bool across = geometry.FreeAxis() == KxAxis::Across;
     const double priorWeight = across ? options.centrePriorAcross : options.centrePriorUpDown;
     const double flat = across ? options.windowFlatAcross : 1.0;
+    const double margin = half * std::min(1.0, MarginRatio / geometry.Ratio());
     constexpr double binExtent = 1.0 / KxSignalProfile::Bins;
     m_meanWindow = {{}, 0, KxSignalProfile::Bins};
     for (std::size_t position = 0; position < Positions; ++position) {
@@ -30,12 +41,11 @@ KxCentreScore::KxCentreScore(const KxSubjectOptions::Evidence& options, const Kx
             const double low = std::max(from, centre - half);
             const double high = std::min(from + binExtent, centre + half);
             if (high > low) {
-                const double wave = std::cos(Pi / 2.0 * ((low + high) / 2.0 - centre) / half);
-                const double height = flat + (1.0 - flat) * wave * wave;
-                Window& window = m_windows[position];
-                window.heights.share[bin] = static_cast<float>((high - low) / binExtent * height);
-                window.firstBin = std::min(window.firstBin, bin);
-                window.endBin = bin + 1;
+                const double share = (high - low) / binExtent;
+                const double distance = std::abs((low + high) / 2.0 - centre);
+                const double height = HeightAt(distance, half, half, flat);
+                m_windows[position].Set(bin, share * height);
+                m_wholeGains[position].Set(bin, share * (HeightAt(distance, half, margin, flat) - height));
             }
         }
         m_meanWindow.heights.Add(m_windows[position].heights, 1.0 / static_cast<double>(Positions));
@@ -49,6 +59,24 @@ KxCentreScore::Scores KxCentreScore::Of(const KxSignalProfile& profile) const
         scores[position] += m_windows[position].Sum(profile);
     }
     return scores;
+}
+
+KxCentreScore::Scores KxCentreScore::Of(const KxSignalProfile& profile, const KxSignalProfile& whole) const
+{
+    Scores scores = Of(profile);
+    for (std::size_t position = 0; position < Positions; ++position) {
+        scores[position] += m_wholeGains[position].Sum(whole);
+    }
+    return scores;
+}
+
+void KxCentreScore::Window::Set(std::size_t bin, double height)
+{
+    if (height > 0.0) {
+        heights.share[bin] = static_cast<float>(height);
+        firstBin = std::min(firstBin, bin);
+        endBin = bin + 1;
+    }
 }
 
 float KxCentreScore::Window::Sum(const KxSignalProfile& profile) const

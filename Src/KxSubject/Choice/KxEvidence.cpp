@@ -20,6 +20,18 @@ KxSignalProfile KxEvidence::Parts::Sum() const
     return sum;
 }
 
+KxSignalProfile KxEvidence::Parts::Detected(const KxSignalProfile& evidence) const
+{
+    const KxSignalProfile sum = Sum();
+    KxSignalProfile detected;
+    for (std::size_t bin = 0; bin < KxSignalProfile::Bins; ++bin) {
+        if (detections.share[bin] > 0.0F) {
+            detected.share[bin] = evidence.share[bin] * detections.share[bin] / sum.share[bin];
+        }
+    }
+    return detected;
+}
+
 KxEvidence::InShot::InShot(const KxEvidence& whole, std::int64_t first, std::int64_t end)
     : m_whole(whole)
     , m_first(first)

@@ -18,6 +18,8 @@ public:
         KxSignalProfile faces;
         KxSignalProfile detections;
         KxSignalProfile Sum() const;
+        /// The part of `evidence` that is due to detections where `evidence` is made of the sum bin by bin.
+        KxSignalProfile Detected(const KxSignalProfile& evidence) const;
     };
 
     /// The evidence in one shot: faces and detections of another one say nothing about it. Refers to this.

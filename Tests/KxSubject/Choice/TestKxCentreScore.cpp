@@ -74,6 +74,41 @@ TEST(KxCentreScore, TheWindowFallsAsTheSquaredCosineToItsFlatPart)
     }
 }
 
+TEST(KxCentreScore, ForWholeThingsTheWindowFallsBesideTheEdgesOfAWideCrop)
+{
+    constexpr std::size_t middle = KxCentreScore::Positions / 2;
+    constexpr double pi = 3.14159265358979;
+    KxSubjectOptions::Evidence options;
+    options.centrePriorAcross = 0.0;
+    options.windowFlatAcross = 0.4;
+    const double margin = Portrait.Extent() / 2.0;
+    for (const KxIntSize aspect : {KxIntSize{1, 1}, KxIntSize{4, 5}, KxIntSize{4, 3}}) {
+        const KxCropGeometry wide({1920, 1080}, aspect, {});
+        const KxCentreScore score(options, wide);
+        for (std::size_t bin = 48; bin < 96; bin += 3) {
+            KxSignalProfile profile;
+            profile.share[bin] = 1.0F;
+            const double offset = (static_cast<double>(bin) + 0.5) / KxSignalProfile::Bins - score.CentreAt(middle);
+            const double fromEdge = wide.Extent() / 2.0 - offset;
+            if (std::abs(fromEdge) > 0.5 / KxSignalProfile::Bins) {
+                const double sine = std::sin(pi / 2.0 * std::min(fromEdge / margin, 1.0));
+                EXPECT_NEAR(score.Of(profile, profile)[middle], fromEdge > 0.0 ? 0.4 + 0.6 * sine * sine : 0.0, 1e-4)
+                    << bin << ", " << aspect.width << ":" << aspect.height;
+            }
+        }
+    }
+}
+
+TEST(KxCentreScore, ANarrowCropHasOneWindowForAllEvidence)
+{
+    for (const KxIntSize aspect : {KxIntSize{9, 16}, KxIntSize{1, 2}}) {
+        const KxCentreScore score(KxSubjectOptions().evidence, KxCropGeometry({1920, 1080}, aspect, {}));
+        KxSignalProfile profile;
+        profile.Add(0.3, 0.7, 0.8);
+        EXPECT_EQ(score.Of(profile, profile), score.Of(profile));
+    }
+}
+
 TEST(KxCentreScore, EvenlySpreadEvidencePrefersNoPosition)
 {
     const KxCentreScore score(KxSubjectOptions().evidence, Portrait);
