@@ -21,12 +21,19 @@ namespace
 constexpr double PicturesPerSecond = 15.0; ///< at most
 constexpr double CheckedSeconds = 1.0;     ///< of a track that are followed backward at a time
 constexpr double BridgedConfidence = 0.5;  ///< of a place that is known from movers alone
+constexpr double ElsewhereShare = 0.5;     ///< of the box's side: a detection farther from it shows that it was wrong
 constexpr std::size_t BytesPerPixel = 3;
 
 struct Picture {
     std::int64_t frame;
     cv::Mat pixels;
 };
+
+bool IsElsewhere(const cv::Rect2d& found, const cv::Rect2d& tracked)
+{
+    const cv::Point2d off = (found.tl() + found.br() - tracked.tl() - tracked.br()) / 2.0;
+    return cv::norm(off) > ElsewhereShare * std::sqrt(found.area());
+}
 
 } // namespace
 
@@ -71,6 +78,8 @@ private:
         KxDetectionAnchor anchor;
         KxMoverBridge bridge;
         KxDriftCheck drift;
+        std::int64_t detectedFrame;             ///< when it was known last where the thing is
+        std::optional<std::int64_t> wrongSince; ///< the detector has just found it elsewhere; then that frame
     };
     /// `before`: of an earlier seed in the same shot, which knows what is beside the thing.
     Run Started(std::size_t index, const Picture& picture, const std::optional<Run>& before);
@@ -211,8 +220,13 @@ KxSubjectFollower::Impl::Run KxSubjectFollower::Impl::Started(std::size_t index,
         seed.box =
             found ? *found : ShareOf(KxBoxGuess::Around(picture.pixels, PixelsOf(seed.box).tl(), m_options.follow).box);
     }
-    Run run{index, KxFollowTracker(picture.pixels, PixelsOf(seed.box)), anchor, KxMoverBridge(m_record),
-            KxDriftCheck(m_checkedFrames)};
+    Run run{index,
+            KxFollowTracker(picture.pixels, PixelsOf(seed.box)),
+            anchor,
+            KxMoverBridge(m_record),
+            KxDriftCheck(m_checkedFrames),
+            picture.frame,
+            std::nullopt};
     run.anchor.Correct({picture.frame, seed.box, 1.0});
     run.drift.SeeAt(picture.frame, picture.pixels, PixelsOf(seed.box));
     run.bridge.SeeAt(picture.frame, seed.box);
@@ -225,6 +239,11 @@ KxFollowTrack::Point KxSubjectFollower::Impl::Advance(Run& run, const Picture& p
     tracker.AddPicture(picture.pixels);
     const KxSubjectBox tracked = ShareOf(tracker.Box());
     const std::optional<KxSubjectBox> found = run.anchor.Correct({picture.frame, tracked, tracker.Confidence()});
+    run.wrongSince.reset();
+    if (found) {
+        run.wrongSince = IsElsewhere(PixelsOf(*found), tracker.Box()) ? std::optional(run.detectedFrame) : std::nullopt;
+        run.detectedFrame = picture.frame;
+    }
     if (found && !KxDetectionAnchor::AreSame(*found, tracked, m_options.follow)) {
         tracker = KxFollowTracker(picture.pixels, PixelsOf(*found));
     }
@@ -254,6 +273,13 @@ void KxSubjectFollower::Impl::Advance(Run& run, const Picture& picture, std::vec
              ++point) {
             point->isDoubted = true;
         }
+    }
+    if (run.wrongSince) {
+        std::for_each(
+            std::next(points.rbegin()),
+            std::find_if(points.rbegin(), points.rend(),
+                         [&run](const KxFollowTrack::Point& point) { return point.frame == *run.wrongSince; }),
+            [](KxFollowTrack::Point& point) { point.isDoubted = true; });
     }
 }
 

@@ -243,8 +243,19 @@ TEST(KxSubjectFollower, WhatTurnsAndLooksDifferentIsFoundByTheDetector)
         }
     }
     EXPECT_GT(track.points.back().confidence, 0.5F);
-    for (const KxFollowTrack::Point& point : track.points) {
-        EXPECT_FALSE(point.isDoubted) << point.frame;
+}
+
+TEST(KxSubjectFollower, WhatTheDetectorFindsElsewhereWasDoubtfulSinceTheLookBefore)
+{
+    for (const std::int32_t seed : {0, 58}) {
+        KxSubjectRecord record = Record(60);
+        record.looks = {{0, {DetectionAt(0)}}, {30, {DetectionAt(30)}}, {58, {DetectionAt(58)}}};
+        const KxFollowTrack track = FollowThroughTurn(record, seed);
+        ASSERT_GT(track.points.size(), 20U);
+        for (const KxFollowTrack::Point& point : track.points) {
+            const bool isBetween = point.frame > std::min(seed, 30) && point.frame < std::max(seed, 30);
+            EXPECT_EQ(point.isDoubted, isBetween) << seed << ' ' << point.frame;
+        }
     }
 }
 
