@@ -10,6 +10,9 @@ namespace
 /// A tracked picture says something about this time around it.
 constexpr double ReachSeconds = 0.25;
 
+/// 0.5 to 2: a shorter loss is bridged, so that the crop does not leave for a moment.
+constexpr double BridgedSeconds = 1.0;
+
 /// 0.25 to 0.75 of the room that a crop has beside the thing may lie on one side of it alone: more leaves the crop
 /// nearer to its place, less shows the thing nearer to the middle.
 constexpr double FreeRoom = 0.5;
@@ -144,15 +147,13 @@ double KxFollowEvidence::HeldBy(const std::function<double(std::int64_t frame)>&
         const double most = std::min(extent, to - from);
         missed += most > 0.0 ? 1.0 - std::max(0.0, std::min(to, left + extent) - std::max(from, left)) / most : 0.0;
     }
-    const auto known = std::count_if(m_points.begin(), m_points.end(),
-                                     [](const KxFollowTrack::Point& point) { return !point.isDoubted; });
-    return 1.0 - missed / static_cast<double>(std::max<std::ptrdiff_t>(1, known));
+    return 1.0 - missed / static_cast<double>(m_points.size());
 }
 
 double KxFollowEvidence::Holding(double centre, std::int64_t frame, double extent) const
 {
     const Place place = At(frame);
-    if (!IsKnown(place) || place.isDoubted) {
+    if (place.seconds > BridgedSeconds) {
         return centre;
     }
     const double from = std::clamp(place.from, 0.0, 1.0);

@@ -34,13 +34,13 @@ public:
     /// Where the thing is, if that is known.
     std::optional<KxSubjectBox> BoxAt(std::int64_t frame) const;
     /// The mean share of the thing that a crop of an extent around some centres holds, of the most that it can hold.
-    /// What is near the edge of the box does not count, since the box is not exact. Where the thing was not seen well,
-    /// nothing says that the crop does not hold it. Where the track is doubted, nothing is known.
+    /// What is near the edge of the box does not count, since the box is not exact. Where the thing was not seen well
+    /// or the track is doubted, nothing says that the crop does not hold it.
     double HeldBy(const std::function<double(std::int64_t frame)>& centreAt, double extent) const;
     /// Whether the extent of the thing is known, since a person drew or confirmed each box.
     bool IsDrawn() const { return m_isDrawn; }
-    /// The centre nearest to `centre` at which a crop of an extent holds the thing with some room on both sides;
-    /// `centre` itself where the thing was not seen well or the track is doubted.
+    /// The centre nearest to `centre` at which a crop of an extent holds the thing with some room on both sides, also
+    /// where the track is doubted or the thing is lost for a moment; `centre` itself where it is lost for longer.
     double Holding(double centre, std::int64_t frame, double extent) const;
 
     /// `evidence` of all signals in a picture with the thing in it that the choice avoids.

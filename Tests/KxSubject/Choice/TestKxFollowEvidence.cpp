@@ -134,18 +134,25 @@ TEST(KxFollowEvidence, ACropMovesOnlyAsFarAsItMustToHoldTheThingWithSomeRoom)
     EXPECT_NEAR(Evidence(track).Holding(0.1, 10, 0.3), 0.4, 1e-9) << "half of the room to the left of it";
     EXPECT_NEAR(Evidence(track).Holding(0.9, 10, 0.3), 0.5, 1e-9);
     EXPECT_NEAR(Evidence(track).Holding(0.1, 10, 0.06), 0.44, 1e-9) << "the crop is smaller, and stays inside";
-    EXPECT_NEAR(Evidence(track).Holding(0.1, 100, 0.3), 0.1, 1e-9) << "lost";
     track.points[2].isDoubted = true;
-    EXPECT_NEAR(Evidence(track).Holding(0.1, 50, 0.3), 0.1, 1e-9) << "doubted";
+    EXPECT_NEAR(Evidence(track).Holding(0.1, 50, 0.3), 0.4, 1e-9) << "doubted";
 }
 
-TEST(KxFollowEvidence, WhereTheTrackIsDoubtedNothingIsKnownOfWhatTheCropHolds)
+TEST(KxFollowEvidence, ACropStaysWhereTheThingIsLostForAMoment)
+{
+    const KxFollowTrack track{{Seen(0, 0.4, 1.0F), Seen(10, 0.4, 0.0F), Seen(40, 0.6, 1.0F), Seen(100, 0.6, 0.0F)}};
+    EXPECT_NEAR(Evidence(track).Holding(0.1, 20, 0.1), 0.55, 1e-9) << "on the line to where it is seen again";
+    EXPECT_NEAR(Evidence(track).Holding(0.1, 60, 0.1), 0.65, 1e-9) << "where it was seen last";
+    EXPECT_NEAR(Evidence(track).Holding(0.1, 100, 0.1), 0.1, 1e-9) << "lost for longer";
+}
+
+TEST(KxFollowEvidence, WhereTheTrackIsDoubtedNothingSaysThatTheCropDoesNotHoldTheThing)
 {
     KxFollowTrack track{{Seen(0, 0.1, 1.0F), Seen(10, 0.5, 1.0F), Seen(20, 0.9, 1.0F)}};
     const auto onTheFirst = [](std::int64_t) { return 0.15; };
     EXPECT_NEAR(Evidence(track).HeldBy(onTheFirst, 0.2), 1.0 / 3.0, 1e-9);
     track.points[2].isDoubted = true;
-    EXPECT_NEAR(Evidence(track).HeldBy(onTheFirst, 0.2), 0.5, 1e-9);
+    EXPECT_NEAR(Evidence(track).HeldBy(onTheFirst, 0.2), 2.0 / 3.0, 1e-9);
     track.points[1].isDoubted = true;
     EXPECT_NEAR(Evidence(track).HeldBy(onTheFirst, 0.2), 1.0, 1e-9);
 }
