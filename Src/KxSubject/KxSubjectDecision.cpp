@@ -291,11 +291,10 @@ Decider::ShotEvidence Decider::EvidenceIn(const Shot& shot, const KxChoiceRanges
         return evidence;
     }
     const KxChosenEvidence::CentreAt followed = centresOf(evidence);
-    evidence.chosen.LeaveWhatGainsNothing(automatic, followed, m_geometry.Extent());
     evidence.chosen.AdjustAutomatic(automatic);
-    if (evidence.chosen.Adjusts()) {
-        evidence.chosen.FollowWhatIsHeldBetter(centresOf(evidence), followed, m_geometry.Extent());
-    }
+    const KxChosenEvidence::CentreAt adjusted = evidence.chosen.Adjusts() ? centresOf(evidence) : followed;
+    evidence.chosen.FollowWhatIsHeldBetter(adjusted, followed, m_geometry.Extent());
+    evidence.chosen.LeaveWhatGainsLittle(adjusted, followed, m_geometry.Extent());
     return evidence;
 }
 

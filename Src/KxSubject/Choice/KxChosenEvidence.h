@@ -28,14 +28,15 @@ public:
     /// Nothing needs to be done for what the automatic crop holds: it stays as it is, so that pointing at it never
     /// makes it worse. `centreAt` is that crop's centre, of the extent `extent`.
     void LeaveWhatIsHeld(const CentreAt& centreAt, double extent, double heldShare);
-    /// The same for what the crop that follows it, around `followed`, holds no better than the automatic one: a track
-    /// that has lost the thing moves faster than any crop, and following it gains nothing.
-    void LeaveWhatGainsNothing(const CentreAt& automatic, const CentreAt& followed, double extent);
     /// For what a person drew, whose extent is therefore known, the automatic crop is adjusted: it moves only as far as
     /// it must to hold the thing. Where the track has slid to a part of it, the crop then stays near its place.
     void AdjustAutomatic(const CentreAt& automatic);
     /// Takes that back for what the crop that follows it holds more of than the adjusted one.
     void FollowWhatIsHeldBetter(const CentreAt& adjusted, const CentreAt& followed, double extent);
+    /// At last, the automatic crop stays as it is for what that crop, adjusted or around `followed`, holds no better:
+    /// a track that has lost the thing moves faster than any crop, and following it gains nothing. Where the extent is
+    /// known, it must hold half of what the automatic crop misses.
+    void LeaveWhatGainsLittle(const CentreAt& adjusted, const CentreAt& followed, double extent);
     /// Whether the automatic crop is adjusted to something in the shot.
     bool Adjusts() const;
     /// The centre of the adjusted crop; nothing at a frame where none is.

@@ -57,3 +57,18 @@ TEST(KxChosenEvidence, WhatACropThatFollowsItHoldsMoreOfIsFollowed)
     EXPECT_FALSE(chosen.Adjusts());
     EXPECT_TRUE(chosen.Follows());
 }
+
+TEST(KxChosenEvidence, TheAutomaticCropStaysUnlessTheOtherMissesHalfAsMuch)
+{
+    // Less what is near its edge, the box reaches from 0.41 to 0.49: around 0.28, a crop misses 0.75 of it.
+    const auto followsWith = [](KxSubjectSeed::Extent extent, double centre) {
+        KxChosenEvidence chosen = Following(extent);
+        chosen.AdjustAutomatic(Still(0.28));
+        chosen.LeaveWhatGainsLittle(Still(centre), Still(centre), Extent);
+        return chosen.Follows();
+    };
+    EXPECT_TRUE(followsWith(KxSubjectSeed::Extent::Drawn, 0.32)) << "it misses 0.25";
+    EXPECT_FALSE(followsWith(KxSubjectSeed::Extent::Drawn, 0.3)) << "it misses 0.5";
+    EXPECT_TRUE(followsWith(KxSubjectSeed::Extent::Guessed, 0.3)) << "nobody knows how much it misses";
+    EXPECT_FALSE(followsWith(KxSubjectSeed::Extent::Guessed, 0.28)) << "no better";
+}
