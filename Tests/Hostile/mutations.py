@@ -128,10 +128,10 @@ def mutate_media(chance, data, sample, others):
 
 
 def replace_number(chance, data):
-    numbers = list(NUMBER.finditer(data))
-    if not numbers:
+    # The first one from somewhere on. A list of all would take gigabytes, which count as the program's when it is started.
+    match = NUMBER.search(data, place(chance, data)) or NUMBER.search(data)
+    if not match:
         return data
-    match = chance.choice(numbers)
     return data[:match.start()] + chance.choice(NUMBERS) + data[match.end():]
 
 
@@ -145,11 +145,13 @@ MOST_TRACK_BYTES = 128 << 20
 
 
 def repeat_lines(chance, data):
-    lines = data.splitlines(keepends=True) or [data]
-    at = chance.randrange(len(lines))
+    at = place(chance, data)
+    begin = data.rfind(b'\n', 0, at) + 1
+    end = data.find(b'\n', at) + 1 or len(data)
     # A track is one line in JSON, and repeating may follow repeating.
-    times = min(chance.choice([2, 100, 20000]), max(2, MOST_TRACK_BYTES // max(1, len(lines[at]))))
-    return b''.join(lines[:at] + lines[at:at + 1] * times + lines[at + 1:])
+    most = (MOST_TRACK_BYTES - len(data)) // (end - begin)
+    times = min(chance.choice([2, 100, 20000]), max(2, most))
+    return data[:begin] + data[begin:end] * times + data[end:]
 
 
 def mutate_track(chance, data):
