@@ -108,8 +108,9 @@ TEST(ReframeReporter, AMessageThatHasTheNameOfTheFileShowsItsPath)
     EXPECT_EQ(shown(path, QStringLiteral("Cannot reframe a/b/a.mp4: a.mp4.")),
               QStringLiteral("Cannot reframe a/b/a.mp4: a.mp4."));
     EXPECT_EQ(shown(path, QStringLiteral("Cannot open Mama.mp4.")), QStringLiteral("Cannot open Mama.mp4."));
-    EXPECT_EQ(shown(QStringLiteral("in/a"), QStringLiteral("Cannot open a: it is a folder.")),
-              QStringLiteral("Cannot open in/a: it is a folder."));
+    EXPECT_EQ(shown(path, QStringLiteral("Cannot write c\\a.mp4.")), QStringLiteral("Cannot write c\\a.mp4."));
+    EXPECT_EQ(shown(QStringLiteral("a/is"), QStringLiteral("Cannot open is: it is empty.")),
+              QStringLiteral("Cannot open is: it is empty."));
     EXPECT_EQ(shown(QStringLiteral("a.mp4"), QStringLiteral("Cannot open a.mp4.")),
               QStringLiteral("Cannot open a.mp4."));
 }

@@ -28,14 +28,15 @@ void WriteError(const QByteArray& text)
     std::fflush(stderr);
 }
 
-/// The message with the path of the input where it has the mere name, which several inputs can share.
+/// The message with the path of the input where it has the mere name, which several inputs can share. A name without a
+/// suffix could be a word of the message, which then stays as it is.
 QString WithPath(const QString& message, const QString& input)
 {
     const QString name = QFileInfo(input).fileName();
-    if (name.isEmpty() || name == input || message.contains(input)) {
+    if (!name.contains(QLatin1Char('.')) || name == input || message.contains(input)) {
         return message;
     }
-    const QRegularExpression alone(QStringLiteral("(?<![\\w/])%1(?!\\w)").arg(QRegularExpression::escape(name)),
+    const QRegularExpression alone(QStringLiteral(R"((?<![\w/\\])%1(?!\w))").arg(QRegularExpression::escape(name)),
                                    QRegularExpression::UseUnicodePropertiesOption);
     const QRegularExpressionMatch found = alone.match(message);
     return found.hasMatch() ? QString(message).replace(found.capturedStart(), found.capturedLength(), input) : message;
