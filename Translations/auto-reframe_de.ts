@@ -2202,6 +2202,10 @@ Benötigt: %1 MB, verfügbar: %2 MB.</translation>
         <source>What is followed is lost from %1 s to %2 s: point at it again there.</source>
         <translation>Das Verfolgte ist von %1 s bis %2 s verloren: Dort noch einmal darauf zeigen.</translation>
     </message>
+    <message>
+        <source>Choice %1 is not applied: its time is outside of %2.</source>
+        <translation>Vorgabe %1 gilt nicht: Ihre Zeit liegt außerhalb von %2.</translation>
+    </message>
 </context>
 <context>
     <name>KxVideoDecoder</name>

@@ -2202,6 +2202,10 @@ Espacio necesario: %1 MB, disponible: %2 MB.</translation>
         <source>What is followed is lost from %1 s to %2 s: point at it again there.</source>
         <translation>Lo que se sigue se pierde de %1 s a %2 s: señalarlo de nuevo ahí.</translation>
     </message>
+    <message>
+        <source>Choice %1 is not applied: its time is outside of %2.</source>
+        <translation>La elección %1 no se aplica: su tiempo está fuera de %2.</translation>
+    </message>
 </context>
 <context>
     <name>KxVideoDecoder</name>

@@ -2202,6 +2202,10 @@ Espace nécessaire&#xa0;: %1 Mo, disponible&#xa0;: %2 Mo.</translation>
         <source>What is followed is lost from %1 s to %2 s: point at it again there.</source>
         <translation>Ce qui est suivi est perdu de %1 s à %2 s&#xa0;: le désigner à nouveau à cet endroit.</translation>
     </message>
+    <message>
+        <source>Choice %1 is not applied: its time is outside of %2.</source>
+        <translation>Le choix %1 ne s’applique pas&#xa0;: son temps est en dehors de %2.</translation>
+    </message>
 </context>
 <context>
     <name>KxVideoDecoder</name>

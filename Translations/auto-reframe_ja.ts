@@ -2189,6 +2189,10 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
         <source>What is followed is lost from %1 s to %2 s: point at it again there.</source>
         <translation>追従対象を %1 秒から %2 秒まで見失いました: そこでもう一度指定してください。</translation>
     </message>
+    <message>
+        <source>Choice %1 is not applied: its time is outside of %2.</source>
+        <translation>指定 %1 は適用されません: その時間は %2 の範囲外です。</translation>
+    </message>
 </context>
 <context>
     <name>KxVideoDecoder</name>

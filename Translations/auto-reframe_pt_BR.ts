@@ -2202,6 +2202,10 @@ Espaço necessário: %1 MB, disponível: %2 MB.</translation>
         <source>What is followed is lost from %1 s to %2 s: point at it again there.</source>
         <translation>O que é acompanhado se perde de %1 s a %2 s: aponte de novo ali.</translation>
     </message>
+    <message>
+        <source>Choice %1 is not applied: its time is outside of %2.</source>
+        <translation>A escolha %1 não é aplicada: seu tempo está fora de %2.</translation>
+    </message>
 </context>
 <context>
     <name>KxVideoDecoder</name>

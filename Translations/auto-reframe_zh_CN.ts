@@ -2189,6 +2189,10 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
         <source>What is followed is lost from %1 s to %2 s: point at it again there.</source>
         <translation>跟随的对象从 %1 秒到 %2 秒丢失：请在该处重新指定。</translation>
     </message>
+    <message>
+        <source>Choice %1 is not applied: its time is outside of %2.</source>
+        <translation>选择 %1 未应用：其时间不在 %2 的范围内。</translation>
+    </message>
 </context>
 <context>
     <name>KxVideoDecoder</name>

@@ -89,18 +89,21 @@ QList<KxAutoReframeShot> ShotsOf(const KxSubjectFindings& findings)
     return shots;
 }
 
-QStringList PlacementWarnings(const std::vector<KxPlacedChoice>& placed, const QString& name)
+QStringList PlacementWarnings(const KxSubjectRecord& record, const std::vector<KxPlacedChoice>& placed,
+                              const QString& name)
 {
     QStringList warnings;
     for (std::size_t i = 0; i < placed.size(); ++i) {
         const QString number = QString::number(i + 1);
-        if (placed[i].place == KxPlacedChoice::Place::Moved) {
+        if (placed[i].place == KxPlacedChoice::Place::Missing) {
+            warnings += Texts::tr("Choice %1 is not applied: its pictures are not in %2.").arg(number, name);
+        } else if (KxChoicesInside(record, {placed[i]}).empty()) {
+            warnings += Texts::tr("Choice %1 is not applied: its time is outside of %2.").arg(number, name);
+        } else if (placed[i].place == KxPlacedChoice::Place::Moved) {
             const QString text = placed[i].movedSeconds < 0.0
                                      ? Texts::tr("Choice %1 is applied %2 s earlier, where its pictures are in %3.")
                                      : Texts::tr("Choice %1 is applied %2 s later, where its pictures are in %3.");
             warnings += text.arg(number, KxLanguage::Locale().toString(std::abs(placed[i].movedSeconds), 'f', 2), name);
-        } else if (placed[i].place == KxPlacedChoice::Place::Missing) {
-            warnings += Texts::tr("Choice %1 is not applied: its pictures are not in %2.").arg(number, name);
         }
     }
     return warnings;
@@ -311,7 +314,7 @@ KxAnalysis::Result KxVideoAnalysis::Run(const std::function<void(int percent)>& 
     m_scanner.reset();
     KxSubjectRequest request = RequestFor(m_param, m_settings);
     result.choices = KxPlaceChoices(*record, m_settings.choices);
-    result.warnings += PlacementWarnings(result.choices, QFileInfo(m_path).fileName());
+    result.warnings += PlacementWarnings(*record, result.choices, QFileInfo(m_path).fileName());
     request.choices = KxChoicesInside(*record, result.choices);
     if (follows &&
         !Follow(

@@ -178,6 +178,21 @@ TEST_F(ReframeChoicesTest, TheWholePictureIsFittedAndNotStretched)
     }
 }
 
+TEST_F(ReframeChoicesTest, AChoiceOutsideOfTheVideoIsNamed)
+{
+    const QString choices = MakeFile(R"({"version":1,"choices":[{"kind":"fit","from":0,"to":1},
+        {"kind":"hold","from":100,"centre":[0.25,0.5]}, {"kind":"follow","seeds":[{"time":100,"box":[0.4,0.4,0.2,0.2]}]}]})");
+    const ReframeRun run({QStringLiteral("--no-video"), QStringLiteral("--models"), QStringLiteral("none"),
+                          QStringLiteral("--cache"), m_folder.path(), QStringLiteral("--choices"), choices, Clip()});
+    EXPECT_EQ(run.exitStatus, 0);
+    for (const int outside : {2, 3}) {
+        EXPECT_TRUE(
+            run.standardError.contains(QStringLiteral("Choice %1 is not applied: its time is outside of").arg(outside)))
+            << run.standardError.toStdString();
+    }
+    EXPECT_FALSE(run.standardError.contains(QStringLiteral("Choice 1"))) << run.standardError.toStdString();
+}
+
 TEST_F(ReframeChoicesTest, InATrimmedFileChoicesHoldWhereTheirPicturesAre)
 {
     const QString footage = QStringLiteral("/usr/share/doc/opencv-doc/examples/data/Megamind.avi");

@@ -295,21 +295,18 @@ KxSubjectChoices KxChoicesInside(const KxSubjectRecord& record, const std::vecto
     const double end = record.SecondsAt(record.source.frameCount);
     KxSubjectChoices inside;
     for (const KxPlacedChoice& candidate : placed) {
+        if (candidate.place == KxPlacedChoice::Place::Missing) {
+            continue;
+        }
         KxSubjectChoice choice = candidate.choice;
         choice.pictures.clear();
-        if (candidate.place == KxPlacedChoice::Place::Moved) {
-            const bool pointed = !choice.seeds.empty();
-            choice.seeds.erase(
-                std::remove_if(choice.seeds.begin(), choice.seeds.end(),
-                               [end](const KxSubjectSeed& seed) { return seed.seconds < 0.0 || seed.seconds >= end; }),
-                choice.seeds.end());
-            choice.fromSeconds = std::max(0.0, choice.fromSeconds);
-            if (choice.toSeconds <= choice.fromSeconds || choice.fromSeconds >= end ||
-                (pointed && choice.seeds.empty())) {
-                continue;
-            }
-        }
-        if (candidate.place != KxPlacedChoice::Place::Missing) {
+        choice.fromSeconds = std::max(0.0, choice.fromSeconds);
+        const bool pointed = !choice.seeds.empty();
+        choice.seeds.erase(
+            std::remove_if(choice.seeds.begin(), choice.seeds.end(),
+                           [end](const KxSubjectSeed& seed) { return seed.seconds < 0.0 || seed.seconds >= end; }),
+            choice.seeds.end());
+        if (choice.fromSeconds < std::min(choice.toSeconds, end) && (!pointed || !choice.seeds.empty())) {
             inside.push_back(std::move(choice));
         }
     }
