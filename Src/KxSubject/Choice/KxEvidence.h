@@ -11,7 +11,7 @@ public:
     /// `record` must outlive this.
     KxEvidence(const KxSubjectRecord& record, const KxSubjectOptions& options, KxAxis axis);
 
-    struct Parts {
+    struct KXSUBJECT_API Parts {
         KxSignalProfile motion;
         KxSignalProfile movers;
         KxSignalProfile saliency;
