@@ -160,7 +160,7 @@ QString KxOutputFile::FindCommitted(const QString& targetPath, Existing existing
 {
     const int lastNumber = existing == Existing::AddNumber ? LastNumber : 1;
     for (int number = 1; number <= lastNumber; ++number) {
-        const QFileInfo file(KxOutputFile::NumberedPath(targetPath, number));
+        const QFileInfo file(NumberedPath(targetPath, number));
         if (!file.exists()) {
             break;
         }
