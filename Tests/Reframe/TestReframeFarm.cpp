@@ -1,6 +1,7 @@
 #include <Tests/Reframe/ReframeRun.h>
 #include <Tests/Support/MadeVideo.h>
 
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -148,6 +149,23 @@ TEST_F(ReframeFarmTest, FilesThatStoreNoSettingsAreReplacedWithThoseThatDo)
     Reframe(arguments + QStringList{QStringLiteral("--speed"), QStringLiteral("slow")});
     EXPECT_TRUE(Content(list).startsWith("<?xml"));
     EXPECT_EQ(Results().size(), 2);
+}
+
+TEST_F(ReframeFarmTest, AFileThatWasChangedSinceItWasWrittenStays)
+{
+    const QString list = QStringLiteral("out/a.mlt");
+    const QStringList arguments{QStringLiteral("--if-needed"), QStringLiteral("--edit-list"), Path(list),
+                                Path(QStringLiteral("in/a.mp4"))};
+    Reframe(arguments);
+    EXPECT_EQ(Results().size(), 2);
+    WriteFile(list, "changed by a person");
+    QFile file(Path(list));
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+    ASSERT_TRUE(file.setFileTime(QDateTime::currentDateTime().addSecs(2), QFileDevice::FileModificationTime));
+    file.close();
+    Reframe(arguments + QStringList{QStringLiteral("--speed"), QStringLiteral("slow")});
+    EXPECT_EQ(Content(list), "changed by a person");
+    EXPECT_TRUE(Content(QStringLiteral("out/a (2).mlt")).startsWith("<?xml"));
 }
 
 TEST_F(ReframeFarmTest, ATrackIsWrittenAfterTheFilesThatStoreNoSettings)

@@ -87,7 +87,7 @@ private:
     /// Whether a result that stores its run is one of this input, whatever the settings were.
     bool IsOfThisInput(const QString& path) const;
     /// Whether --if-needed may replace it: it is a result of this input, or stores no run and one of the other targets
-    /// is such a result.
+    /// is such a result and not older.
     bool IsOfAnEarlierRun(const QString& path) const;
     /// With --if-needed: sets m_number to that of this input's results where others have the same names.
     void FindNumber();

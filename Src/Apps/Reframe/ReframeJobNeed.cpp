@@ -6,6 +6,7 @@
 #include <KxModel/KxRecordStore.h>
 
 #include <QCoreApplication>
+#include <QDateTime>
 #include <QFileInfo>
 #include <QJsonArray>
 
@@ -66,8 +67,12 @@ bool ReframeJob::IsOfAnEarlierRun(const QString& path) const
     if (!RunTextOf(path).isEmpty()) {
         return IsOfThisInput(path);
     }
+    // Written before the result that stores the run: what is newer was changed by somebody since.
+    const QDateTime written = QFileInfo(path).lastModified();
     const QStringList targets = Targets();
-    return std::any_of(targets.begin(), targets.end(), [this](const QString& target) { return IsOfThisInput(target); });
+    return std::any_of(targets.begin(), targets.end(), [this, &written](const QString& target) {
+        return QFileInfo(target).lastModified() >= written && IsOfThisInput(target);
+    });
 }
 
 void ReframeJob::FindNumber()
