@@ -43,7 +43,8 @@ QString Alternatives(const QStringList& suffixes)
     return suffixes.size() == 2 ? Texts::tr("%1 or .%2").arg(suffixes.first(), suffixes.last()) : suffixes.first();
 }
 
-/// The message about options that a part of a video excludes; empty if there are none.
+// Each of the following gives the message about one kind of conflict, empty if there is none.
+
 QString ConflictOfPart(const ReframeOptions& options)
 {
     if (!options.frames) {
@@ -65,37 +66,47 @@ QString ConflictOfPart(const ReframeOptions& options)
     return {};
 }
 
-} // namespace
-
-QString OptionConflict(const ReframeOptions& options)
+QString ConflictOfInputs(const ReframeOptions& options)
 {
     if (options.inputs.isEmpty()) {
         return Texts::tr("No input file was given.");
     }
-    if (const QString message = ConflictOfPart(options); !message.isEmpty()) {
-        return message;
-    }
+    return {};
+}
+
+QString ConflictOfFiles(const ReframeOptions& options)
+{
     if (options.farm.WouldReplaceInput(options.inputs)) {
         return Texts::tr("--status must not name an input.");
     }
     if (!options.writesVideo && !options.output.isEmpty()) {
         return Texts::tr("--output and --no-video exclude each other.");
     }
-    if (!options.report.isEmpty() && !options.apply.isEmpty()) {
+    if (!options.models.isEmpty() && options.models != QLatin1String("none")) {
+        return KxDetectorFiles::FolderProblem(options.models);
+    }
+    return {};
+}
+
+QString ConflictOfApply(const ReframeOptions& options)
+{
+    if (options.apply.isEmpty()) {
+        return {};
+    }
+    if (!options.report.isEmpty()) {
         return Texts::tr("--report shows what an analysis found, and with --apply there is none.");
     }
-    if (!options.models.isEmpty() && options.models != QLatin1String("none")) {
-        const QString problem = KxDetectorFiles::FolderProblem(options.models);
-        if (!problem.isEmpty()) {
-            return problem;
-        }
-    }
-    if (!options.apply.isEmpty() && options.inputs.size() > 1) {
+    if (options.inputs.size() > 1) {
         return Texts::tr("--apply takes one input.");
     }
-    if (!options.apply.isEmpty() && options.aspects.size() > 1) {
+    if (options.aspects.size() > 1) {
         return Texts::tr("--apply takes one aspect ratio.");
     }
+    return {};
+}
+
+QString ConflictOfChoices(const ReframeOptions& options)
+{
     if (!options.saveChoices.isEmpty() && options.aspects.size() > 1) {
         return Texts::tr("--save-choices takes one aspect ratio.");
     }
@@ -109,27 +120,56 @@ QString OptionConflict(const ReframeOptions& options)
     if (!hasChoices && !options.saveChoices.isEmpty()) {
         return Texts::tr("--save-choices writes what --choices and --follow decided, and neither was given.");
     }
-    const bool isOne = options.inputs.size() == 1 && options.aspects.size() == 1;
+    return {};
+}
+
+bool HasOneResult(const ReframeOptions& options)
+{
+    return options.inputs.size() == 1 && options.aspects.size() == 1;
+}
+
+QString ConflictOfEditLists(const ReframeOptions& options)
+{
+    const QStringList suffixes = KxEditList::Suffixes();
     for (const QString& editList : options.editLists) {
-        const bool isSuffix = KxEditList::Suffixes().contains(editList.toLower());
-        if (!isSuffix && !KxEditList::Suffixes().contains(QFileInfo(editList).suffix().toLower())) {
+        const bool isSuffix = suffixes.contains(editList.toLower());
+        const QString suffixOfFile = QFileInfo(editList).suffix().toLower();
+        if (!isSuffix && !suffixes.contains(suffixOfFile)) {
             return Texts::tr("--edit-list takes the name of a .%1 file or such a suffix alone; %2 is neither.")
-                .arg(KxEditList::Suffixes().join(QStringLiteral(", .")), editList);
+                .arg(suffixes.join(QStringLiteral(", .")), editList);
         }
-        if (!isSuffix && !isOne) {
+        if (!isSuffix && !HasOneResult(options)) {
             return Texts::tr("With several inputs or aspect ratios --edit-list takes a suffix alone; write %1 "
                              "instead of %2.")
-                .arg(QFileInfo(editList).suffix().toLower(), editList);
+                .arg(suffixOfFile, editList);
         }
     }
+    return {};
+}
+
+QString ConflictOfTargets(const ReframeOptions& options)
+{
     for (const Target& target : Targets(options)) {
-        if (!isOne && target.IsFile()) {
+        if (!HasOneResult(options) && target.IsFile()) {
             return Texts::tr("With several inputs or aspect ratios %1 must name an existing folder; %2 is none.")
                 .arg(target.option, target.path);
         }
         if (target.IsFile() && !target.HasSuffix()) {
             return Texts::tr("%1 takes an existing folder or the name of a .%2 file; %3 is neither.")
                 .arg(target.option, Alternatives(target.suffixes), target.path);
+        }
+    }
+    return {};
+}
+
+} // namespace
+
+QString OptionConflict(const ReframeOptions& options)
+{
+    for (const auto conflictOf : {ConflictOfInputs, ConflictOfPart, ConflictOfFiles, ConflictOfApply, ConflictOfChoices,
+                                  ConflictOfEditLists, ConflictOfTargets}) {
+        if (const QString message = conflictOf(options); !message.isEmpty()) {
+            return message;
         }
     }
     return {};

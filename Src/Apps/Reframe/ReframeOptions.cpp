@@ -11,6 +11,8 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 
+#include <utility>
+
 namespace
 {
 
@@ -149,6 +151,162 @@ QString Misunderstanding(const QCommandLineParser& parser, const QStringList& ar
     return text.endsWith(QLatin1Char('.')) ? text : text + QLatin1Char('.');
 }
 
+/// Takes the values of the options from a command line that was parsed.
+class Reader
+{
+public:
+    Reader(const QCommandLineParser& parser, const Definitions& definitions)
+        : m_parser(parser)
+        , m_definitions(definitions)
+    {
+    }
+
+    /// On failure, the message about the first option that is wrong.
+    KxResult<ReframeOptions> Read();
+
+private:
+    QString Value(const QCommandLineOption& option) const { return m_parser.value(option); }
+    KxError ReadAspects();
+    KxError ReadSpeed();
+    KxError ReadSpeaker();
+    KxError ReadFollow();
+    KxError ReadInputs();
+    KxError ReadFrames();
+    KxError ReadVideo();
+    void ReadTheRest();
+
+    const QCommandLineParser& m_parser;
+    const Definitions& m_definitions;
+    ReframeOptions m_options;
+};
+
+KxResult<ReframeOptions> Reader::Read()
+{
+    for (const auto read : {&Reader::ReadAspects, &Reader::ReadSpeed, &Reader::ReadSpeaker, &Reader::ReadFollow,
+                            &Reader::ReadInputs, &Reader::ReadFrames, &Reader::ReadVideo}) {
+        if (const KxError message = (this->*read)()) {
+            return KxResult<ReframeOptions>::Failure(*message);
+        }
+    }
+    ReadTheRest();
+    return m_options;
+}
+
+KxError Reader::ReadAspects()
+{
+    m_options.aspects.clear();
+    const QStringList aspects = Value(m_definitions.aspect).split(QLatin1Char(','));
+    for (const QString& text : aspects) {
+        const std::optional<QSize> aspect = ParseAspect(text);
+        if (!aspect) {
+            return Texts::tr("\"%1\" is no aspect ratio; write two whole numbers such as 9:16, neither "
+                             "more than 20 times the other.")
+                .arg(text);
+        }
+        if (!m_options.aspects.contains(*aspect)) {
+            m_options.aspects += *aspect;
+        }
+    }
+    return std::nullopt;
+}
+
+KxError Reader::ReadSpeed()
+{
+    m_options.speedName = Value(m_definitions.speed);
+    const std::optional<int> mode = ModeOfSpeed(m_options.speedName);
+    if (!mode) {
+        return Texts::tr("\"%1\" is no speed; it is auto, fast or slow.").arg(m_options.speedName);
+    }
+    m_options.speedMode = *mode;
+    return std::nullopt;
+}
+
+KxError Reader::ReadSpeaker()
+{
+    const QString speaker = Value(m_definitions.speaker);
+    if (speaker != QLatin1String("auto") && speaker != QLatin1String("off")) {
+        return Texts::tr("--speaker takes auto or off; \"%1\" is neither.").arg(speaker);
+    }
+    m_options.followsSpeaker = speaker == QLatin1String("auto");
+    return std::nullopt;
+}
+
+KxError Reader::ReadFollow()
+{
+    const QStringList follow = m_parser.values(m_definitions.follow);
+    for (const QString& text : follow) {
+        const std::optional<FollowOption> parsed = FollowOption::Parse(text);
+        if (!parsed) {
+            return Texts::tr("\"%1\" is nothing to follow; write a time and a place such as "
+                             "3.5@640,360, or a time and a box such as 3.5@0.4,0.2,0.1,0.5.")
+                .arg(text);
+        }
+        m_options.follow += *parsed;
+    }
+    return std::nullopt;
+}
+
+KxError Reader::ReadInputs()
+{
+    const QStringList given = m_parser.positionalArguments();
+    const QStringList named = KxPlatform::ShellExpandsWildcards() ? given : KxWildcards::Expand(given);
+    const KxResult<QStringList> inputs = FarmOptions::Inputs(named, m_parser, m_definitions.farm);
+    if (!inputs) {
+        return inputs.Message();
+    }
+    m_options.inputs = *inputs;
+    if (m_parser.isSet(m_definitions.farm.join)) {
+        if (inputs->size() < 2) {
+            return Texts::tr("--join takes a video and then its parts.");
+        }
+        m_options.inputs = inputs->mid(0, 1);
+        m_options.parts = inputs->mid(1);
+    }
+    return std::nullopt;
+}
+
+KxError Reader::ReadFrames()
+{
+    if (!m_parser.isSet(m_definitions.farm.frames)) {
+        return std::nullopt;
+    }
+    const QString text = Value(m_definitions.farm.frames);
+    m_options.frames = FramesOption::Parse(text);
+    if (!m_options.frames) {
+        return Texts::tr("--frames takes frames such as 0-2999, or a part such as 3/8; \"%1\" is neither.").arg(text);
+    }
+    return std::nullopt;
+}
+
+KxError Reader::ReadVideo()
+{
+    KxResult<OutputOptions> video = OutputOptions::Parse(m_parser, m_definitions.video);
+    if (!video) {
+        return video.Message();
+    }
+    m_options.video = *video;
+    return std::nullopt;
+}
+
+void Reader::ReadTheRest()
+{
+    m_options.choices = Value(m_definitions.choices);
+    m_options.saveChoices = Value(m_definitions.saveChoices);
+    m_options.output = Value(m_definitions.output);
+    m_options.keyframes = Value(m_definitions.keyframes);
+    m_options.editLists = m_parser.values(m_definitions.editList);
+    m_options.apply = Value(m_definitions.apply);
+    m_options.preview = Value(m_definitions.preview);
+    m_options.report = Value(m_definitions.report);
+    m_options.models = Value(m_definitions.models);
+    m_options.cache = Value(m_definitions.cache);
+    m_options.writesVideo = !m_parser.isSet(m_definitions.noVideo);
+    m_options.overwrites = m_parser.isSet(m_definitions.overwrite);
+    m_options.json = m_parser.isSet(m_definitions.json);
+    m_options.quiet = m_parser.isSet(m_definitions.quiet);
+    m_options.farm = FarmOptions::Parse(m_parser, m_definitions.farm);
+}
+
 } // namespace
 
 bool ReframeOptions::PreviewIsVideo() const
@@ -182,86 +340,14 @@ ReframeOptions::Parsed ReframeOptions::Parse(const QStringList& arguments)
     if (parser.isSet(definitions.language) && !KxLanguage::Find(language)) {
         return WrongUse(KxLanguage::UnknownText(language));
     }
-    ReframeOptions options;
-    options.aspects.clear();
-    const QStringList aspects = parser.value(definitions.aspect).split(QLatin1Char(','));
-    for (const QString& text : aspects) {
-        const std::optional<QSize> aspect = ParseAspect(text);
-        if (!aspect) {
-            return WrongUse(Texts::tr("\"%1\" is no aspect ratio; write two whole numbers such as 9:16, neither "
-                                      "more than 20 times the other.")
-                                .arg(text));
-        }
-        if (!options.aspects.contains(*aspect)) {
-            options.aspects += *aspect;
-        }
+    KxResult<ReframeOptions> read = Reader(parser, definitions).Read();
+    if (!read) {
+        return WrongUse(read.Message());
     }
-    options.speedName = parser.value(definitions.speed);
-    const std::optional<int> mode = ModeOfSpeed(options.speedName);
-    if (!mode) {
-        return WrongUse(Texts::tr("\"%1\" is no speed; it is auto, fast or slow.").arg(options.speedName));
-    }
-    options.speedMode = *mode;
-    const QStringList follow = parser.values(definitions.follow);
-    for (const QString& text : follow) {
-        const std::optional<FollowOption> parsed = FollowOption::Parse(text);
-        if (!parsed) {
-            return WrongUse(Texts::tr("\"%1\" is nothing to follow; write a time and a place such as "
-                                      "3.5@640,360, or a time and a box such as 3.5@0.4,0.2,0.1,0.5.")
-                                .arg(text));
-        }
-        options.follow += *parsed;
-    }
-    options.choices = parser.value(definitions.choices);
-    options.saveChoices = parser.value(definitions.saveChoices);
-    const QString speaker = parser.value(definitions.speaker);
-    if (speaker != QLatin1String("auto") && speaker != QLatin1String("off")) {
-        return WrongUse(Texts::tr("--speaker takes auto or off; \"%1\" is neither.").arg(speaker));
-    }
-    options.followsSpeaker = speaker == QLatin1String("auto");
-    const QStringList named = KxPlatform::ShellExpandsWildcards() ? parser.positionalArguments()
-                                                                  : KxWildcards::Expand(parser.positionalArguments());
-    const KxResult<QStringList> inputs = FarmOptions::Inputs(named, parser, definitions.farm);
-    if (!inputs) {
-        return WrongUse(inputs.Message());
-    }
-    options.inputs = *inputs;
-    if (parser.isSet(definitions.farm.join)) {
-        if (inputs->size() < 2) {
-            return WrongUse(Texts::tr("--join takes a video and then its parts."));
-        }
-        options.inputs = inputs->mid(0, 1);
-        options.parts = inputs->mid(1);
-    }
-    if (parser.isSet(definitions.farm.frames)) {
-        options.frames = FramesOption::Parse(parser.value(definitions.farm.frames));
-        if (!options.frames) {
-            return WrongUse(Texts::tr("--frames takes frames such as 0-2999, or a part such as 3/8; \"%1\" is neither.")
-                                .arg(parser.value(definitions.farm.frames)));
-        }
-    }
-    options.farm = FarmOptions::Parse(parser, definitions.farm);
-    options.output = parser.value(definitions.output);
-    const KxResult<OutputOptions> video = OutputOptions::Parse(parser, definitions.video);
-    if (!video) {
-        return WrongUse(video.Message());
-    }
-    options.video = *video;
-    options.keyframes = parser.value(definitions.keyframes);
-    options.editLists = parser.values(definitions.editList);
-    options.apply = parser.value(definitions.apply);
-    options.preview = parser.value(definitions.preview);
-    options.report = parser.value(definitions.report);
-    options.models = parser.value(definitions.models);
-    options.cache = parser.value(definitions.cache);
-    options.writesVideo = !parser.isSet(definitions.noVideo);
-    options.overwrites = parser.isSet(definitions.overwrite);
-    options.json = parser.isSet(definitions.json);
-    options.quiet = parser.isSet(definitions.quiet);
-    if (const QString conflict = OptionConflict(options); !conflict.isEmpty()) {
+    if (const QString conflict = OptionConflict(*read); !conflict.isEmpty()) {
         return WrongUse(conflict);
     }
     Parsed parsed;
-    parsed.options = options;
+    parsed.options = std::move(*read);
     return parsed;
 }
