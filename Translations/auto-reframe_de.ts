@@ -2984,9 +2984,6 @@ Benötigt: %1 MB, verfügbar: %2 MB.</translation>
         <source>frames %1 to %2</source>
         <translation>Bilder %1 bis %2</translation>
     </message>
-</context>
-<context>
-    <name>ReframeJobNeed</name>
     <message>
         <source>%1: skipped, up to date: %2</source>
         <translation>%1: übersprungen, aktuell: %2</translation>

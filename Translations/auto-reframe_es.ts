@@ -2984,9 +2984,6 @@ Espacio necesario: %1 MB, disponible: %2 MB.</translation>
         <source>frames %1 to %2</source>
         <translation>fotogramas %1 a %2</translation>
     </message>
-</context>
-<context>
-    <name>ReframeJobNeed</name>
     <message>
         <source>%1: skipped, up to date: %2</source>
         <translation>%1: omitido, ya está al día: %2</translation>

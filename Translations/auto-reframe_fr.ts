@@ -2984,9 +2984,6 @@ Espace nécessaire&#xa0;: %1 Mo, disponible&#xa0;: %2 Mo.</translation>
         <source>frames %1 to %2</source>
         <translation>images %1 à %2</translation>
     </message>
-</context>
-<context>
-    <name>ReframeJobNeed</name>
     <message>
         <source>%1: skipped, up to date: %2</source>
         <translation>%1&#xa0;: ignoré, déjà à jour&#xa0;: %2</translation>

@@ -2958,9 +2958,6 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
         <source>frames %1 to %2</source>
         <translation>フレーム %1～%2</translation>
     </message>
-</context>
-<context>
-    <name>ReframeJobNeed</name>
     <message>
         <source>%1: skipped, up to date: %2</source>
         <translation>%1: スキップしました。最新です: %2</translation>

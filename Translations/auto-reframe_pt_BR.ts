@@ -2984,9 +2984,6 @@ Espaço necessário: %1 MB, disponível: %2 MB.</translation>
         <source>frames %1 to %2</source>
         <translation>quadros %1 a %2</translation>
     </message>
-</context>
-<context>
-    <name>ReframeJobNeed</name>
     <message>
         <source>%1: skipped, up to date: %2</source>
         <translation>%1: ignorado, já está atualizado: %2</translation>

@@ -6,12 +6,10 @@
 #include <KrAutoReframe/Engine/KrAutoReframeHelper.h>
 #include <KxCore/KxInterrupt.h>
 #include <KxCore/KxMemory.h>
-#include <KxCore/KxSystemFile.h>
 #include <KxModel/KxAutoReframeService.h>
 #include <KxModel/KxChoicesFormat.h>
 
 #include <QCoreApplication>
-#include <QDir>
 #include <QEventLoop>
 #include <QFileInfo>
 #include <QJsonArray>
@@ -72,9 +70,9 @@ KxOutcome ReframeJob::RunSteps()
 {
     for (Ended (ReframeJob::*step)() :
          {&ReframeJob::Open, &ReframeJob::FindFrames, &ReframeJob::ReadTrack, &ReframeJob::ReadChoices,
-          &ReframeJob::SkipIfDone, &ReframeJob::ReadParts, &ReframeJob::CheckTargets, &ReframeJob::WritePictures,
-          &ReframeJob::FindCrops, &ReframeJob::WriteChoices, &ReframeJob::WriteEditLists, &ReframeJob::WriteReport,
-          &ReframeJob::WritePreview, &ReframeJob::WriteKeyframes, &ReframeJob::WriteVideo}) {
+          &ReframeJob::ChooseTargets, &ReframeJob::SkipIfDone, &ReframeJob::ReadParts, &ReframeJob::CheckTargets,
+          &ReframeJob::WritePictures, &ReframeJob::FindCrops, &ReframeJob::WriteChoices, &ReframeJob::WriteEditLists,
+          &ReframeJob::WriteReport, &ReframeJob::WritePreview, &ReframeJob::WriteKeyframes, &ReframeJob::WriteVideo}) {
         if (KxInterrupt::IsRequested()) {
             return KxOutcome::Cancelled;
         }
@@ -179,11 +177,31 @@ ReframeJob::Ended ReframeJob::ReadChoices()
     return std::nullopt;
 }
 
+ReframeJob::Ended ReframeJob::ChooseTargets()
+{
+    m_targets.emplace(ReframeTask{m_input, m_aspect, m_frames, WritesPictures()}, m_options, m_allWritten);
+    return std::nullopt;
+}
+
+ReframeJob::Ended ReframeJob::SkipIfDone()
+{
+    if (!m_options.farm.ifNeeded || !m_targets->AreUpToDate()) {
+        return std::nullopt;
+    }
+    const QStringList targets = m_targets->All();
+    for (const QString& target : targets) {
+        m_allWritten += QFileInfo(target).absoluteFilePath();
+    }
+    m_reporter.Skip(m_input, Texts::tr("%1: skipped, up to date: %2").arg(m_input, targets.join(QStringLiteral(", "))),
+                    {{QStringLiteral("files"), QJsonArray::fromStringList(targets)}});
+    return KxOutcome::Done;
+}
+
 ReframeJob::Ended ReframeJob::CheckTargets()
 {
-    const QStringList targets = Targets();
+    const QStringList targets = m_targets->All();
     for (const QString& target : targets) {
-        if (WouldReplaceInput(target)) {
+        if (m_targets->WouldReplaceInput(target)) {
             return Fail(Texts::tr("Cannot write %1: it is one of the inputs.").arg(target));
         }
         if (const auto tried = KxOutputFile::Create(target); !tried) {
@@ -298,7 +316,7 @@ CropTrack ReframeJob::Track() const
     track.speedName = m_options.speedName;
     track.crops = Helper().GetDisplayResults();
     track.otherShapes = m_otherShapes;
-    track.madeBy = RunText();
+    track.madeBy = m_targets->Run().OfTask();
     if (!m_track) {
         track.models = KxAutoReframeService::Instance().LastModels();
     }
@@ -310,8 +328,7 @@ ReframeJob::Ended ReframeJob::WriteChoices()
     if (m_options.saveChoices.isEmpty()) {
         return std::nullopt;
     }
-    return WriteFile(KxOutputFile::NumberedPath(m_options.saveChoices, m_number),
-                     KxAutoReframeService::Instance().LastChoices(), QStringLiteral("choices"));
+    return WriteFile(m_targets->Choices(), KxAutoReframeService::Instance().LastChoices(), QStringLiteral("choices"));
 }
 
 ReframeJob::Ended ReframeJob::WriteKeyframes()
@@ -319,27 +336,18 @@ ReframeJob::Ended ReframeJob::WriteKeyframes()
     if (m_options.keyframes.isEmpty()) {
         return std::nullopt;
     }
-    const QString path = TargetPath(m_options.keyframes, QStringLiteral("json"));
+    const QString path = m_targets->Keyframes();
     return WriteFile(path, CropTrackFile::Format(Track(), path), QStringLiteral("keyframes"));
 }
 
 ReframeJob::Ended ReframeJob::WriteFile(const QString& path, const QByteArray& content, const QString& fact)
 {
-    const KxResult<QString> written = KxOutputFile::Write(path, content, WhenItExists(path));
+    const KxResult<QString> written = KxOutputFile::Write(path, content, m_targets->WhenItExists(path));
     if (!written) {
         return Fail(written.Message());
     }
     NoteWritten(*written, fact);
     return std::nullopt;
-}
-
-bool ReframeJob::WouldReplaceInput(const QString& path) const
-{
-    const QString target = KxSystemFile::Identity(path);
-    const QStringList inputs = m_options.inputs + m_options.parts;
-    return WhenItExists(path) == KxOutputFile::Existing::Replace && QFileInfo::exists(path) &&
-           std::any_of(inputs.begin(), inputs.end(),
-                       [&target](const QString& input) { return KxSystemFile::Identity(input) == target; });
 }
 
 void ReframeJob::NoteWritten(const QString& path, const QString& fact)
@@ -370,55 +378,4 @@ KxOutcome ReframeJob::FailTooSmall()
     const QSize size = m_media->StreamInfo().resolution();
     return Fail(Texts::tr("Cannot reframe %1: its picture of %2 x %3 pixels is too small.")
                     .arg(m_input, QString::number(size.width()), QString::number(size.height())));
-}
-
-QString ReframeJob::TargetPath(const QString& named, const QString& suffix) const
-{
-    if (!named.isEmpty() && !QFileInfo(named).isDir()) {
-        return KxOutputFile::NumberedPath(named, m_number);
-    }
-    const QFileInfo input(m_input);
-    QString name = input.completeBaseName() + QStringLiteral("-AutoReframe");
-    if (!WritesPictures()) {
-        name += QStringLiteral("-%1 %2").arg(QString::number(m_aspect.width()), QString::number(m_aspect.height()));
-    }
-    if (m_frames) {
-        name += QStringLiteral(" %1-%2").arg(QString::number(m_frames->first), QString::number(m_frames->end - 1));
-    }
-    name += QLatin1Char('.') + suffix;
-    return KxOutputFile::NumberedPath(QDir(named.isEmpty() ? input.absolutePath() : named).filePath(name), m_number);
-}
-
-QStringList ReframeJob::Targets() const
-{
-    if (WritesPictures()) {
-        return {TargetPath(m_options.output, QStringLiteral("pictures"))};
-    }
-    QStringList targets;
-    if (!m_options.saveChoices.isEmpty()) {
-        targets += KxOutputFile::NumberedPath(m_options.saveChoices, m_number);
-    }
-    if (!m_options.keyframes.isEmpty()) {
-        targets += TargetPath(m_options.keyframes, QStringLiteral("json"));
-    }
-    for (const QString& editList : m_options.editLists) {
-        targets += EditListPath(editList);
-    }
-    if (!m_options.report.isEmpty()) {
-        targets += TargetPath(m_options.report, QStringLiteral("html"));
-    }
-    if (!m_options.preview.isEmpty()) {
-        targets += TargetPath(m_options.preview, QStringLiteral("png"));
-    }
-    if (m_options.writesVideo) {
-        targets += TargetPath(m_options.output, QStringLiteral("mp4"));
-    }
-    return targets;
-}
-
-KxOutputFile::Existing ReframeJob::WhenItExists(const QString& path) const
-{
-    const bool isOfThisRun = m_allWritten.contains(QFileInfo(path).absoluteFilePath());
-    return !isOfThisRun && (m_options.overwrites || IsOfAnEarlierRun(path)) ? KxOutputFile::Existing::Replace
-                                                                            : KxOutputFile::Existing::AddNumber;
 }

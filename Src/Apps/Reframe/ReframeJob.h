@@ -4,8 +4,8 @@
 #include <Apps/Reframe/ReframeOptions.h>
 #include <Apps/Reframe/ReframeParts.h>
 #include <Apps/Reframe/ReframeReporter.h>
+#include <Apps/Reframe/ReframeTargets.h>
 #include <KxCore/KxCancelToken.h>
-#include <KxCore/KxOutputFile.h>
 #include <KxCore/KxResult.h>
 #include <KxEditList/KxCroppedClip.h>
 #include <KxMedia/Read/KxVideoScanner.h>
@@ -49,7 +49,9 @@ private:
     Ended ReadTrack();
     /// Passes the person's choices to the analysis.
     Ended ReadChoices();
-    /// Notes what the results depend on. Ends the job if they are there already and --if-needed was given.
+    /// Names the files, now that it is known what the job makes.
+    Ended ChooseTargets();
+    /// Ends the job if --if-needed was given and its results are there already.
     Ended SkipIfDone();
     /// Checks the parts of --join, and passes those of the analysis to it.
     Ended ReadParts();
@@ -74,23 +76,8 @@ private:
     Ended Render(const KxRenderSource& source, const KxRenderSettings& settings, ReframeReporter::Stage stage,
                  const QString& fact);
 
-    /// What the results depend on, as it is stored in them.
-    QString RunText() const;
-    /// The same of a result of the whole video.
-    QString RunTextOfResult() const;
-    /// The same of the pictures for the analysis, which depend on no setting.
-    QString RunTextOfPictures() const;
     /// Whether the job is to write the pictures of a part.
     bool WritesPictures() const { return m_frames && !m_track; }
-    /// The text that is stored in a result of an earlier run; empty if there is none.
-    QString RunTextOf(const QString& path) const;
-    /// Whether a result that stores its run is one of this input, whatever the settings were.
-    bool IsOfThisInput(const QString& path) const;
-    /// Whether --if-needed may replace it: it is a result of this input, or stores no run and one of the other targets
-    /// is such a result and not older.
-    bool IsOfAnEarlierRun(const QString& path) const;
-    /// With --if-needed: sets m_number to that of this input's results where others have the same names.
-    void FindNumber();
 
     /// Not after ForgetCrops().
     KrAutoReframeHelper& Helper() const;
@@ -105,20 +92,11 @@ private:
     void WarnOfEnlargement(const QSize& size) const;
     /// The crops as other programs need them, for an output of this size.
     KxCroppedClip CroppedClip(const QSize& outputSize) const;
-    /// The file that a value of --edit-list means.
-    QString EditListPath(const QString& named) const;
     /// The content of a contact sheet file; `format` is one of QImageWriter.
     KxResult<QByteArray> ContactSheetFile(const char* format) const;
     KxOutcome Fail(const QString& message);
     KxOutcome FailUnlessInterrupted(const QString& message);
     KxOutcome FailTooSmall();
-    /// The file `named` itself; if that is a folder, a file in it that is named after the input; if it is empty, such a
-    /// file beside the input.
-    QString TargetPath(const QString& named, const QString& suffix) const;
-    /// Of all files that are asked for.
-    QStringList Targets() const;
-    KxOutputFile::Existing WhenItExists(const QString& path) const;
-    bool WouldReplaceInput(const QString& path) const;
     Ended WriteFile(const QString& path, const QByteArray& content, const QString& fact);
     void NoteWritten(const QString& path, const QString& fact);
     QString FramesText() const;
@@ -138,9 +116,7 @@ private:
     KxUsedEncoder m_encoder;              ///< of the last video that was written
     std::optional<KxFrameRange> m_frames; ///< the part of --frames
     QStringList m_videoParts;             ///< of --join, in order
-    QByteArray m_contentHash;             ///< of the input
-    int m_number = 1;                     ///< of the targets' names, as KxOutputFile counts
-    QString m_decisions;                  ///< those of --apply and --choices, as a part of RunText()
+    std::optional<ReframeTargets> m_targets;
     QJsonObject m_facts;
     QStringList& m_allWritten;
     QStringList m_written;

@@ -8,15 +8,6 @@
 
 #include <QFileInfo>
 
-QString ReframeJob::EditListPath(const QString& named) const
-{
-    // Nothing but a suffix: named like the video, and in its folder if there is one.
-    if (KxEditList::Suffixes().contains(named.toLower())) {
-        return TargetPath(QFileInfo(m_options.output).isDir() ? m_options.output : QString(), named.toLower());
-    }
-    return KxOutputFile::NumberedPath(named, m_number);
-}
-
 KxCroppedClip ReframeJob::CroppedClip(const QSize& outputSize) const
 {
     KxCroppedClip clip = CroppedMedia::Clip(*m_media, Helper().GetDisplayResults(), outputSize, m_otherShapes);
@@ -43,7 +34,7 @@ ReframeJob::Ended ReframeJob::WriteEditLists()
     }
     const KxCroppedClip clip = CroppedClip(*size);
     for (const QString& named : m_options.editLists) {
-        const QString path = EditListPath(named);
+        const QString path = m_targets->EditList(named);
         const QString suffix = QFileInfo(path).suffix();
         if (const Ended ended = WriteFile(path, KxEditList::Text(clip, suffix), suffix.toLower())) {
             return ended;

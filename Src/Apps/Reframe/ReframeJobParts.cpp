@@ -40,8 +40,8 @@ ReframeJob::Ended ReframeJob::ReadParts()
     if (m_options.parts.isEmpty()) {
         return std::nullopt;
     }
-    KxResult<ReframeParts> parts =
-        ReframeParts::Check(m_options.parts, {m_input, m_media->duration(), RunTextOfPictures(), RunTextOfResult()});
+    KxResult<ReframeParts> parts = ReframeParts::Check(
+        m_options.parts, {m_input, m_media->duration(), m_targets->Run().OfPictures(), m_targets->Run().OfResults()});
     if (!parts) {
         return Fail(parts.Message());
     }
@@ -68,7 +68,7 @@ ReframeJob::Ended ReframeJob::WritePictures()
         return std::nullopt;
     }
     m_reporter.BeginStage(m_input, ReframeReporter::Stage::Analyze);
-    const QString path = TargetPath(m_options.output, QStringLiteral("pictures"));
+    const QString path = m_targets->Pictures();
     QEventLoop loop;
     // Called on the other thread; the reporter belongs to this one.
     const auto progress = [this, &loop](int percent) {
@@ -77,7 +77,8 @@ ReframeJob::Ended ReframeJob::WritePictures()
     KxPicturesFile::Written written;
     KxThread thread([&] {
         const KxError failure = KxCallGuarded([&] {
-            written = KxPicturesFile::Write(m_input, *m_frames, {path, WhenItExists(path), RunText()}, progress,
+            written = KxPicturesFile::Write(m_input, *m_frames,
+                                            {path, m_targets->WhenItExists(path), m_targets->Run().OfTask()}, progress,
                                             KxInterrupt::Token());
         });
         if (failure) {

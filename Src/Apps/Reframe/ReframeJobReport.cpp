@@ -55,8 +55,7 @@ ReframeJob::Ended ReframeJob::WriteReport()
     if (!sheet) {
         return FailUnlessInterrupted(sheet.Message());
     }
-    return WriteFile(TargetPath(m_options.report, QStringLiteral("html")),
-                     AnalysisReport::Format(Track(), *findings, *sheet), QStringLiteral("report"));
+    return WriteFile(m_targets->Report(), AnalysisReport::Format(Track(), *findings, *sheet), QStringLiteral("report"));
 }
 
 ReframeJob::Ended ReframeJob::WritePreview()
@@ -68,7 +67,7 @@ ReframeJob::Ended ReframeJob::WritePreview()
         return WritePreviewVideo();
     }
     const KxResult<QByteArray> sheet = ContactSheetFile("PNG");
-    return sheet ? WriteFile(TargetPath(m_options.preview, QStringLiteral("png")), *sheet, QStringLiteral("preview"))
+    return sheet ? WriteFile(m_targets->Preview(), *sheet, QStringLiteral("preview"))
                  : FailUnlessInterrupted(sheet.Message());
 }
 
@@ -81,8 +80,8 @@ ReframeJob::Ended ReframeJob::WritePreviewVideo()
     source.path = m_input;
     source.overlay = [overlay](QImage& picture, qint64 frame) { overlay->Draw(picture, frame); };
     KxRenderSettings settings;
-    settings.outputPath = TargetPath(m_options.preview, QStringLiteral("mp4"));
-    settings.existing = WhenItExists(settings.outputPath);
+    settings.outputPath = m_targets->Preview();
+    settings.existing = m_targets->WhenItExists(settings.outputPath);
     settings.resolution = PreviewSize(track.sourceSize);
     // Text and thin lines need a higher bit rate than pictures of that size usually do.
     settings.videoBitRate = 4000000;

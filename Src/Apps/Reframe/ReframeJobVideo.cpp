@@ -83,9 +83,9 @@ ReframeJob::Ended ReframeJob::WriteVideo()
     settings.frameRate = video.frameRate > 0.0 ? video.frameRate : settings.frameRate;
     settings.videoBitRate = video.videoBitRate > 0 ? video.videoBitRate : settings.videoBitRate;
     settings.format = video.format;
-    settings.outputPath = TargetPath(m_options.output, QStringLiteral("mp4"));
-    settings.existing = WhenItExists(settings.outputPath);
-    settings.comment = RunText();
+    settings.outputPath = m_targets->Video();
+    settings.existing = m_targets->WhenItExists(settings.outputPath);
+    settings.comment = m_targets->Run().OfTask();
     settings.frames = m_frames;
     settings.parts = m_videoParts;
     ForgetCrops();
