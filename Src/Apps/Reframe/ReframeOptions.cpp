@@ -5,6 +5,7 @@
 
 #include <KxCore/KxLanguage.h>
 #include <KxCore/KxPlatform.h>
+#include <KxCore/KxSpeedName.h>
 #include <KxCore/KxWildcards.h>
 
 #include <QCommandLineParser>
@@ -125,20 +126,6 @@ std::optional<QSize> ParseAspect(const QString& text)
     return sane ? std::optional<QSize>(aspect) : std::nullopt;
 }
 
-std::optional<int> ModeOfSpeed(const QString& name)
-{
-    if (name == QLatin1String("auto")) {
-        return 16;
-    }
-    if (name == QLatin1String("fast")) {
-        return 8;
-    }
-    if (name == QLatin1String("slow")) {
-        return 24;
-    }
-    return std::nullopt;
-}
-
 /// The message about an argument that was not understood.
 QString Misunderstanding(const QCommandLineParser& parser, const QStringList& arguments)
 {
@@ -213,7 +200,7 @@ KxError Reader::ReadAspects()
 KxError Reader::ReadSpeed()
 {
     m_options.speedName = Value(m_definitions.speed);
-    const std::optional<int> mode = ModeOfSpeed(m_options.speedName);
+    const std::optional<int> mode = KxSpeedName::Find(m_options.speedName);
     if (!mode) {
         return Texts::tr("\"%1\" is no speed; it is auto, fast or slow.").arg(m_options.speedName);
     }

@@ -8,6 +8,7 @@
 #include <KrAutoReframe/Engine/KrKeptEdits.h>
 #include <KxCore/KxCropWindow.h>
 #include <KxCore/KxOutputSize.h>
+#include <KxCore/KxSpeedName.h>
 #include <KxMedia/Read/KxVideoScanner.h>
 #include <KxModel/KxChoicesFormat.h>
 #include <KxModel/KxFramePictures.h>
@@ -27,13 +28,6 @@ struct Texts {
 };
 
 constexpr int WholeProgress = 10000;
-
-QString SpeedName(int speed)
-{
-    constexpr int fast = 8;
-    constexpr int slow = 24;
-    return speed == fast ? QStringLiteral("fast") : speed == slow ? QStringLiteral("slow") : QStringLiteral("auto");
-}
 
 QString AspectText(const QSize& aspect)
 {
@@ -281,7 +275,7 @@ CropTrack CropFinder::MakeTrack() const
     track.sourceSize = info.resolution();
     track.frameRate = info.frameRate();
     track.aspect = m_analyzed.aspect;
-    track.speedName = SpeedName(m_request.plan.speed);
+    track.speedName = KxSpeedName::Of(m_request.plan.speed);
     track.crops = m_helper->GetDisplayResults();
     track.models = m_analyzed.models;
     track.otherShapes = OtherShapes();

@@ -1,5 +1,6 @@
 #include <Apps/AutoReframe/Batch/OutputNames.h>
 
+#include <KxCore/KxSpeedName.h>
 #include <KxCore/KxWindowsNames.h>
 
 #include <QCoreApplication>
@@ -17,13 +18,6 @@ QRegularExpression PlaceholderPattern()
     return QRegularExpression(QStringLiteral("\\{[^{}]*\\}"));
 }
 
-QString SpeedName(int speed)
-{
-    constexpr int fast = 8;
-    constexpr int slow = 24;
-    return speed == fast ? QStringLiteral("fast") : speed == slow ? QStringLiteral("slow") : QStringLiteral("auto");
-}
-
 QString Replacement(const QString& placeholder, const OutputNames::Facts& facts)
 {
     if (placeholder == QLatin1String("{name}")) {
@@ -34,7 +28,7 @@ QString Replacement(const QString& placeholder, const OutputNames::Facts& facts)
                                            QString::number(facts.aspect.height()));
     }
     if (placeholder == QLatin1String("{speed}")) {
-        return SpeedName(facts.speed);
+        return KxSpeedName::Of(facts.speed);
     }
     if (placeholder == QLatin1String("{date}")) {
         return facts.date.toString(Qt::ISODate);
