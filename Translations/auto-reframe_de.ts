@@ -389,9 +389,12 @@ Das Kommandozeilenprogramm für viele Dateien auf einmal heißt reframe.</transl
             <numerusform>%1 kann nicht neu kadriert werden: Das Video hat nur %n Bilder, nötig sind %2.</numerusform>
         </translation>
     </message>
+</context>
+<context>
+    <name>CropRenderSettings</name>
     <message>
-        <source>Cannot reframe %1: its picture of %2 x %3 pixels is too small.</source>
-        <translation>%1 kann nicht neu kadriert werden: Das Bild von %2 x %3 Pixeln ist zu klein.</translation>
+        <source>its picture of %1 x %2 pixels is too small</source>
+        <translation>das Bild von %1 x %2 Pixeln ist zu klein</translation>
     </message>
 </context>
 <context>
@@ -2959,10 +2962,6 @@ Benötigt: %1 MB, verfügbar: %2 MB.</translation>
     <message>
         <source>Cannot reframe %1: there is no video in this folder.</source>
         <translation>%1 kann nicht neu kadriert werden: In diesem Ordner ist kein Video.</translation>
-    </message>
-    <message>
-        <source>Cannot reframe %1: its picture of %2 x %3 pixels is too small.</source>
-        <translation>%1 kann nicht neu kadriert werden: Das Bild von %2 x %3 Pixeln ist zu klein.</translation>
     </message>
     <message>
         <source>Cannot draw the contact sheet of %1.</source>

@@ -389,9 +389,12 @@ El programa de línea de órdenes para muchos archivos a la vez es reframe.</tra
             <numerusform>No se puede reencuadrar %1: solo tiene %n fotogramas; se necesitan %2.</numerusform>
         </translation>
     </message>
+</context>
+<context>
+    <name>CropRenderSettings</name>
     <message>
-        <source>Cannot reframe %1: its picture of %2 x %3 pixels is too small.</source>
-        <translation>No se puede reencuadrar %1: su imagen de %2 x %3 píxeles es demasiado pequeña.</translation>
+        <source>its picture of %1 x %2 pixels is too small</source>
+        <translation>su imagen de %1 x %2 píxeles es demasiado pequeña</translation>
     </message>
 </context>
 <context>
@@ -2959,10 +2962,6 @@ Espacio necesario: %1 MB, disponible: %2 MB.</translation>
     <message>
         <source>Cannot reframe %1: there is no video in this folder.</source>
         <translation>No se puede reencuadrar %1: no hay ningún vídeo en esta carpeta.</translation>
-    </message>
-    <message>
-        <source>Cannot reframe %1: its picture of %2 x %3 pixels is too small.</source>
-        <translation>No se puede reencuadrar %1: su imagen de %2 x %3 píxeles es demasiado pequeña.</translation>
     </message>
     <message>
         <source>Cannot draw the contact sheet of %1.</source>

@@ -389,9 +389,12 @@ Le programme en ligne de commande pour plusieurs fichiers à la fois est reframe
             <numerusform>Impossible de recadrer %1&#xa0;: la vidéo n’a que %n images&#xa0;; il en faut %2.</numerusform>
         </translation>
     </message>
+</context>
+<context>
+    <name>CropRenderSettings</name>
     <message>
-        <source>Cannot reframe %1: its picture of %2 x %3 pixels is too small.</source>
-        <translation>Impossible de recadrer %1&#xa0;: son image de %2 x %3 pixels est trop petite.</translation>
+        <source>its picture of %1 x %2 pixels is too small</source>
+        <translation>son image de %1 x %2 pixels est trop petite</translation>
     </message>
 </context>
 <context>
@@ -2959,10 +2962,6 @@ Espace nécessaire&#xa0;: %1 Mo, disponible&#xa0;: %2 Mo.</translation>
     <message>
         <source>Cannot reframe %1: there is no video in this folder.</source>
         <translation>Impossible de recadrer %1&#xa0;: ce dossier ne contient aucune vidéo.</translation>
-    </message>
-    <message>
-        <source>Cannot reframe %1: its picture of %2 x %3 pixels is too small.</source>
-        <translation>Impossible de recadrer %1&#xa0;: son image de %2 x %3 pixels est trop petite.</translation>
     </message>
     <message>
         <source>Cannot draw the contact sheet of %1.</source>

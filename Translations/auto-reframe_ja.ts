@@ -384,9 +384,12 @@ The command line program for many files at once is reframe.</source>
             <numerusform>%1 をリフレームできません: %n フレームしかありません。%2 フレーム必要です。</numerusform>
         </translation>
     </message>
+</context>
+<context>
+    <name>CropRenderSettings</name>
     <message>
-        <source>Cannot reframe %1: its picture of %2 x %3 pixels is too small.</source>
-        <translation>%1 をリフレームできません: %2 x %3 ピクセルの画面は小さすぎます。</translation>
+        <source>its picture of %1 x %2 pixels is too small</source>
+        <translation>%1 x %2 ピクセルの画面は小さすぎます</translation>
     </message>
 </context>
 <context>
@@ -2933,10 +2936,6 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
     <message>
         <source>Cannot reframe %1: there is no video in this folder.</source>
         <translation>%1 をリフレームできません: このフォルダーに動画がありません。</translation>
-    </message>
-    <message>
-        <source>Cannot reframe %1: its picture of %2 x %3 pixels is too small.</source>
-        <translation>%1 をリフレームできません: %2 x %3 ピクセルの画面は小さすぎます。</translation>
     </message>
     <message>
         <source>Cannot draw the contact sheet of %1.</source>

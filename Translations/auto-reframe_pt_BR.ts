@@ -389,9 +389,12 @@ O programa de linha de comando para muitos arquivos de uma vez é o reframe.</tr
             <numerusform>Não é possível reenquadrar %1: tem apenas %n quadros; são necessários %2.</numerusform>
         </translation>
     </message>
+</context>
+<context>
+    <name>CropRenderSettings</name>
     <message>
-        <source>Cannot reframe %1: its picture of %2 x %3 pixels is too small.</source>
-        <translation>Não é possível reenquadrar %1: a imagem de %2 x %3 pixels é pequena demais.</translation>
+        <source>its picture of %1 x %2 pixels is too small</source>
+        <translation>a imagem de %1 x %2 pixels é pequena demais</translation>
     </message>
 </context>
 <context>
@@ -2959,10 +2962,6 @@ Espaço necessário: %1 MB, disponível: %2 MB.</translation>
     <message>
         <source>Cannot reframe %1: there is no video in this folder.</source>
         <translation>Não é possível reenquadrar %1: não há vídeos nesta pasta.</translation>
-    </message>
-    <message>
-        <source>Cannot reframe %1: its picture of %2 x %3 pixels is too small.</source>
-        <translation>Não é possível reenquadrar %1: a imagem de %2 x %3 pixels é pequena demais.</translation>
     </message>
     <message>
         <source>Cannot draw the contact sheet of %1.</source>

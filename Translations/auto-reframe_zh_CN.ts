@@ -384,9 +384,12 @@ The command line program for many files at once is reframe.</source>
             <numerusform>无法对 %1 重新构图：只有 %n 帧，需要 %2 帧。</numerusform>
         </translation>
     </message>
+</context>
+<context>
+    <name>CropRenderSettings</name>
     <message>
-        <source>Cannot reframe %1: its picture of %2 x %3 pixels is too small.</source>
-        <translation>无法对 %1 重新构图：%2 x %3 像素的画面太小。</translation>
+        <source>its picture of %1 x %2 pixels is too small</source>
+        <translation>%1 x %2 像素的画面太小</translation>
     </message>
 </context>
 <context>
@@ -2933,10 +2936,6 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
     <message>
         <source>Cannot reframe %1: there is no video in this folder.</source>
         <translation>无法对 %1 重新构图：此文件夹中没有视频。</translation>
-    </message>
-    <message>
-        <source>Cannot reframe %1: its picture of %2 x %3 pixels is too small.</source>
-        <translation>无法对 %1 重新构图：%2 x %3 像素的画面太小。</translation>
     </message>
     <message>
         <source>Cannot draw the contact sheet of %1.</source>

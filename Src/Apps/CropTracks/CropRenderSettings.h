@@ -1,5 +1,6 @@
 #pragma once
 
+#include <KxCore/KxOutputSize.h>
 #include <KxRender/KxRenderSettings.h>
 
 #include <QRectF>
@@ -8,7 +9,10 @@ class KxMediaItem;
 
 namespace CropRenderSettings
 {
-/// What `media` is rendered to when it is cut to `crop`, given in fractions of the picture; without a path. The
-/// resolution is empty if the picture is too small.
-KxRenderSettings For(const KxMediaItem& media, const QRectF& crop);
+/// The size of the video if `media` is cut to `crop`, in fractions of the picture. On failure, because the picture is
+/// too small or `size` has another shape than the crop, a clause to append to a message.
+KxResult<QSize> Size(const KxMediaItem& media, const QRectF& crop, const KxOutputSize& size);
+
+/// What it is rendered to; without a path. Fails like Size().
+KxResult<KxRenderSettings> For(const KxMediaItem& media, const QRectF& crop, const KxOutputSize& size);
 } // namespace CropRenderSettings

@@ -368,14 +368,12 @@ KxOutcome ReframeJob::Fail(const QString& message)
     return KxOutcome::Failed;
 }
 
+KxOutcome ReframeJob::FailBecause(const QString& reason)
+{
+    return Fail(Texts::tr("Cannot reframe %1: %2.").arg(m_input, reason));
+}
+
 KxOutcome ReframeJob::FailUnlessInterrupted(const QString& message)
 {
     return KxInterrupt::IsRequested() ? KxOutcome::Cancelled : Fail(message);
-}
-
-KxOutcome ReframeJob::FailTooSmall()
-{
-    const QSize size = m_media->StreamInfo().resolution();
-    return Fail(Texts::tr("Cannot reframe %1: its picture of %2 x %3 pixels is too small.")
-                    .arg(m_input, QString::number(size.width()), QString::number(size.height())));
 }

@@ -86,8 +86,6 @@ private:
     CropTrack Track() const;
     /// A crop with the shape of the video that is written.
     QRectF ShapeOfResult() const;
-    /// The size of the video that is written, as --size says. Empty if the picture is too small.
-    KxResult<QSize> OutputSize() const;
     /// Warns where a picture becomes larger than its crop.
     void WarnOfEnlargement(const QSize& size) const;
     /// The crops as other programs need them, for an output of this size.
@@ -95,8 +93,9 @@ private:
     /// The content of a contact sheet file; `format` is one of QImageWriter.
     KxResult<QByteArray> ContactSheetFile(const char* format) const;
     KxOutcome Fail(const QString& message);
+    /// `reason` is a clause.
+    KxOutcome FailBecause(const QString& reason);
     KxOutcome FailUnlessInterrupted(const QString& message);
-    KxOutcome FailTooSmall();
     Ended WriteFile(const QString& path, const QByteArray& content, const QString& fact);
     void NoteWritten(const QString& path, const QString& fact);
     QString FramesText() const;

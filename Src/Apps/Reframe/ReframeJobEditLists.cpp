@@ -1,5 +1,6 @@
 #include <Apps/Reframe/ReframeJob.h>
 
+#include <Apps/CropTracks/CropRenderSettings.h>
 #include <Apps/CropTracks/CroppedMedia.h>
 #include <KrAutoReframe/Engine/KrAutoReframeHelper.h>
 #include <KxEditList/KxEditList.h>
@@ -25,12 +26,9 @@ ReframeJob::Ended ReframeJob::WriteEditLists()
     if (m_options.editLists.isEmpty()) {
         return std::nullopt;
     }
-    const KxResult<QSize> size = OutputSize();
+    const KxResult<QSize> size = CropRenderSettings::Size(*m_media, ShapeOfResult(), m_options.video.size);
     if (!size) {
-        return Fail(size.Message());
-    }
-    if (size->isEmpty()) {
-        return FailTooSmall();
+        return FailBecause(size.Message());
     }
     const KxCroppedClip clip = CroppedClip(*size);
     for (const QString& named : m_options.editLists) {

@@ -28,23 +28,6 @@ QRectF ReframeJob::ShapeOfResult() const
                : results.first().cropRect();
 }
 
-KxResult<QSize> ReframeJob::OutputSize() const
-{
-    const QSize picture = m_media->StreamInfo().resolution();
-    const QRectF shape = ShapeOfResult();
-    const QSize cropSize = KrExportParameters::EvenResolution(picture, shape);
-    if (cropSize.isEmpty()) {
-        return cropSize;
-    }
-    KxResult<QSize> size =
-        m_options.video.size.For({shape.width() * picture.width(), shape.height() * picture.height()}, cropSize);
-    if (!size) {
-        return KxResult<QSize>::Failure(
-            QCoreApplication::translate("ReframeJob", "Cannot reframe %1: %2.").arg(m_input, size.Message()));
-    }
-    return size;
-}
-
 void ReframeJob::WarnOfEnlargement(const QSize& size) const
 {
     const QSize picture = m_media->StreamInfo().resolution();
@@ -69,17 +52,13 @@ ReframeJob::Ended ReframeJob::WriteVideo()
         return Fail(source.Message());
     }
     source->otherShapes = m_otherShapes;
-    KxRenderSettings settings = CropRenderSettings::For(*m_media, ShapeOfResult());
-    const KxResult<QSize> size = OutputSize();
-    if (!size) {
-        return Fail(size.Message());
-    }
-    if (size->isEmpty()) {
-        return FailTooSmall();
-    }
-    settings.resolution = *size;
-    WarnOfEnlargement(*size);
     const OutputOptions& video = m_options.video;
+    KxResult<KxRenderSettings> made = CropRenderSettings::For(*m_media, ShapeOfResult(), video.size);
+    if (!made) {
+        return FailBecause(made.Message());
+    }
+    KxRenderSettings& settings = *made;
+    WarnOfEnlargement(settings.resolution);
     settings.frameRate = video.frameRate > 0.0 ? video.frameRate : settings.frameRate;
     settings.videoBitRate = video.videoBitRate > 0 ? video.videoBitRate : settings.videoBitRate;
     settings.format = video.format;

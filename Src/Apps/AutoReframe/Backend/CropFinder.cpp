@@ -238,19 +238,12 @@ KxError CropFinder::MakeRequest(ExportRequest& request) const
     const QSize picture = m_analyzed.media->StreamInfo().resolution();
     const QRectF crop = KrExportParameters::ShapeOfResult(m_analyzed.crops, picture, m_analyzed.aspect);
     source->otherShapes = OtherShapes();
-    KxRenderSettings settings = CropRenderSettings::For(*m_analyzed.media, crop);
-    if (settings.resolution.isEmpty()) {
-        return Texts::tr("Cannot reframe %1: its picture of %2 x %3 pixels is too small.")
-            .arg(m_analyzed.media->name(), QString::number(picture.width()), QString::number(picture.height()));
-    }
     const KxOutputSize size{QSize(), m_request.plan.heightPx, m_request.plan.shortSidePx};
-    const KxResult<QSize> resolution =
-        size.For({crop.width() * picture.width(), crop.height() * picture.height()}, settings.resolution);
-    if (!resolution) {
-        return Texts::tr("Cannot reframe %1: %2.").arg(m_analyzed.media->name(), resolution.Message());
+    const KxResult<KxRenderSettings> settings = CropRenderSettings::For(*m_analyzed.media, crop, size);
+    if (!settings) {
+        return Texts::tr("Cannot reframe %1: %2.").arg(m_analyzed.media->name(), settings.Message());
     }
-    settings.resolution = *resolution;
-    request = {*source, settings};
+    request = {*source, *settings};
     return std::nullopt;
 }
 
