@@ -188,6 +188,16 @@ TEST_F(ReframeProgramTest, RefusesSoundOnlySinglePicturesAndTooShortOrTooSmallVi
     ExpectRefused(Path("dot.mkv"), "1 x 1 pixels is too small");
 }
 
+TEST_F(ReframeProgramTest, RefusesASizeOfAnotherShapeBeforeTheAnalysis)
+{
+    const ReframeRun run(
+        {QStringLiteral("--json"), QStringLiteral("--size"), QStringLiteral("100x100"), MakeClip("clip.mp4", 40)});
+    EXPECT_EQ(run.exitStatus, 1);
+    EXPECT_TRUE(run.standardError.contains(QStringLiteral("does not have the shape of the crop")))
+        << run.standardError.toStdString();
+    EXPECT_FALSE(run.standardOutput.contains(QStringLiteral("analyze"))) << run.standardOutput.toStdString();
+}
+
 TEST_F(ReframeProgramTest, RefusesTheAspectRatioOfTheSource)
 {
     MadeVideo::Recipe recipe;

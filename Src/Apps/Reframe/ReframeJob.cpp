@@ -71,8 +71,9 @@ KxOutcome ReframeJob::RunSteps()
     for (Ended (ReframeJob::*step)() :
          {&ReframeJob::Open, &ReframeJob::FindFrames, &ReframeJob::ReadTrack, &ReframeJob::ReadChoices,
           &ReframeJob::ChooseTargets, &ReframeJob::SkipIfDone, &ReframeJob::ReadParts, &ReframeJob::CheckTargets,
-          &ReframeJob::WritePictures, &ReframeJob::FindCrops, &ReframeJob::WriteChoices, &ReframeJob::WriteEditLists,
-          &ReframeJob::WriteReport, &ReframeJob::WritePreview, &ReframeJob::WriteKeyframes, &ReframeJob::WriteVideo}) {
+          &ReframeJob::CheckSize, &ReframeJob::WritePictures, &ReframeJob::FindCrops, &ReframeJob::WriteChoices,
+          &ReframeJob::WriteEditLists, &ReframeJob::WriteReport, &ReframeJob::WritePreview, &ReframeJob::WriteKeyframes,
+          &ReframeJob::WriteVideo}) {
         if (KxInterrupt::IsRequested()) {
             return KxOutcome::Cancelled;
         }

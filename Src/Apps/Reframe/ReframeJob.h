@@ -57,6 +57,8 @@ private:
     Ended ReadParts();
     /// Reports before the work what cannot be written and what must not be replaced.
     Ended CheckTargets();
+    /// The same of a size that the results cannot have.
+    Ended CheckSize();
     /// Ends the job if --frames asks for the pictures of a part.
     Ended WritePictures();
     Ended FindCrops();

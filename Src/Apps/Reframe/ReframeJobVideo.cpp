@@ -28,6 +28,17 @@ QRectF ReframeJob::ShapeOfResult() const
                : results.first().cropRect();
 }
 
+ReframeJob::Ended ReframeJob::CheckSize()
+{
+    const bool hasSize = m_options.writesVideo || !m_options.editLists.isEmpty();
+    if (!hasSize || m_track || WritesPictures()) {
+        return std::nullopt;
+    }
+    const QRectF crop = KrExportParameters::ShapeOfResult({}, m_media->StreamInfo().resolution(), m_aspect);
+    const KxResult<QSize> size = CropRenderSettings::Size(*m_media, crop, m_options.video.size);
+    return size ? Ended() : FailBecause(size.Message());
+}
+
 void ReframeJob::WarnOfEnlargement(const QSize& size) const
 {
     const QSize picture = m_media->StreamInfo().resolution();
