@@ -18,7 +18,7 @@ namespace
 using State = KrAutoReframeExport::State;
 
 constexpr int ButtonHeightPx = 32;
-constexpr int WidthPx = 225;
+constexpr int WidthPx = 225; ///< that of the button "Export"
 constexpr int SideMarginPx = 11;
 constexpr int TenThousandths = 10000;
 
@@ -46,12 +46,14 @@ KrExportStatus::KrExportStatus(KrAutoReframeExports* exports, KrAutoReframeOutpu
 {
     setObjectName(QStringLiteral("KrAutoReframe_exportStatus"));
     m_output->setObjectName(QStringLiteral("KrAutoReframe_output"));
+    m_output->setFixedWidth(WidthPx);
     m_output->hide();
     m_file->SetElideMode(Qt::ElideMiddle);
     m_state->setWordWrap(true);
     m_progress->setObjectName(QStringLiteral("KrAutoReframe_exportProgress"));
     m_progress->setRange(0, TenThousandths);
     m_progress->setTextVisible(false);
+    m_progress->setFixedWidth(WidthPx);
     m_progress->hide();
     m_showInFolder->setObjectName(QStringLiteral("KrAutoReframe_showInFolder"));
     m_showInFolder->setFixedWidth(WidthPx);
@@ -59,13 +61,12 @@ KrExportStatus::KrExportStatus(KrAutoReframeExports* exports, KrAutoReframeOutpu
     auto* const column = new QVBoxLayout(this);
     column->setContentsMargins(SideMarginPx, 0, SideMarginPx, 0);
     column->setSpacing(8);
-    column->addWidget(m_output);
+    column->addWidget(m_output, 0, Qt::AlignHCenter);
     column->addWidget(m_size);
     column->addSpacing(8);
-    for (QWidget* const part :
-         {static_cast<QWidget*>(m_file), static_cast<QWidget*>(m_progress), static_cast<QWidget*>(m_state)}) {
-        column->addWidget(part);
-    }
+    column->addWidget(m_file);
+    column->addWidget(m_progress, 0, Qt::AlignHCenter);
+    column->addWidget(m_state);
     column->addWidget(m_showInFolder, 0, Qt::AlignHCenter);
     if (m_exports != nullptr) {
         m_exports->ListenToExports([this](const KrAutoReframeExport& state) { Show(state); });
