@@ -126,6 +126,25 @@ protected:
         run.Button("TopBar_reframe")->click();
     }
 
+    /// What the menu offers to open again.
+    static QStringList Recent(
+        Run& run, const std::function<void(const QMenu& recent)>& choose = [](const QMenu&) {})
+    {
+        QStringList texts;
+        QTimer::singleShot(0, &run.window, [&] {
+            auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+            ASSERT_NE(menu, nullptr);
+            const auto* const recent = menu->findChild<QMenu*>(QStringLiteral("RecentMenu"));
+            for (QAction* const action : recent->actions()) {
+                texts += action->isSeparator() ? QStringList() : QStringList(action->text());
+            }
+            choose(*recent);
+            menu->close();
+        });
+        run.Button("TopBar_menu")->click();
+        return texts;
+    }
+
     QTemporaryDir m_folder;
     QStringList m_boxes;
     bool m_answer = true;
@@ -415,18 +434,37 @@ TEST_F(TestRestoredWindow, OfAnImportedFolderTheMenuListsTheFolder)
     const QString folder = QFileInfo(Clip(QStringLiteral("trip/a.mp4"))).path();
     ImportAndQuit({folder});
     Run run(Data());
-    QStringList texts;
-    QTimer::singleShot(0, &run.window, [&texts] {
-        auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-        ASSERT_NE(menu, nullptr);
-        for (QAction* const action : menu->findChild<QMenu*>(QStringLiteral("RecentMenu"))->actions()) {
-            texts += action->text();
-        }
-        menu->close();
-    });
-    run.Button("TopBar_menu")->click();
-    texts.removeAll(QString());
-    EXPECT_EQ(texts, QStringList(QStringLiteral("trip")));
+    EXPECT_EQ(Recent(run), QStringList(QStringLiteral("trip")));
+}
+
+TEST_F(TestRestoredWindow, TheMenuDoesNotListWhatWasRefused)
+{
+    {
+        Run run(Data());
+        run.window.Open({Clip(QStringLiteral("bad.mp4")), Clip(QStringLiteral("a.mp4"))});
+        ASSERT_TRUE(QTest::qWaitFor([&] { return m_boxes.size() == 1; }, 30000));
+        run.window.Open({QFileInfo(Clip(QStringLiteral("notes/a.txt"))).path()});
+        ASSERT_TRUE(QTest::qWaitFor([&] { return m_boxes.size() == 2; }, 30000));
+        EXPECT_EQ(Recent(run), QStringList(QStringLiteral("a.mp4")));
+    }
+    Run run(Data());
+    EXPECT_EQ(Recent(run), QStringList(QStringLiteral("a.mp4")));
+}
+
+TEST_F(TestRestoredWindow, AVideoThatIsRefusedLaterLeavesTheMenu)
+{
+    ImportAndQuit({Clip(QStringLiteral("a.mp4"))});
+    {
+        Run run(Data());
+        run.View().selectAll();
+        QTest::keyClick(&run.View(), Qt::Key_Delete);
+        run.backend->refused = QStringLiteral("a.mp4");
+        run.window.Open({Clip(QStringLiteral("a.mp4"))});
+        ASSERT_TRUE(QTest::qWaitFor([&] { return !m_boxes.isEmpty(); }, 30000));
+        EXPECT_EQ(Recent(run), QStringList());
+    }
+    Run run(Data());
+    EXPECT_EQ(Recent(run), QStringList());
 }
 
 TEST_F(TestRestoredWindow, TheMenuListsTheVideosUsedLast)
@@ -436,19 +474,8 @@ TEST_F(TestRestoredWindow, TheMenuListsTheVideosUsedLast)
     run.View().selectAll();
     QTest::keyClick(&run.View(), Qt::Key_Delete);
     ASSERT_TRUE(run.Cards().isEmpty());
-    QStringList texts;
-    QTimer::singleShot(0, &run.window, [&texts] {
-        auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-        ASSERT_NE(menu, nullptr);
-        auto* const recent = menu->findChild<QMenu*>(QStringLiteral("RecentMenu"));
-        for (QAction* const action : recent->actions()) {
-            texts += action->text();
-        }
-        recent->actions().last()->trigger();
-        menu->close();
-    });
-    run.Button("TopBar_menu")->click();
-    EXPECT_EQ(texts, (QStringList{QStringLiteral("b && c.mp4"), QStringLiteral("a.mp4")}));
+    EXPECT_EQ(Recent(run, [](const QMenu& recent) { recent.actions().last()->trigger(); }),
+              (QStringList{QStringLiteral("b && c.mp4"), QStringLiteral("a.mp4")}));
     EXPECT_EQ(run.Cards(), QStringList(QStringLiteral("a.mp4")));
 }
 

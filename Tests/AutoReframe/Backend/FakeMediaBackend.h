@@ -104,7 +104,7 @@ public:
         if (whileOpening) {
             whileOpening(name, cancel);
         }
-        if (name.startsWith(QLatin1String("bad"))) {
+        if (name.startsWith(QLatin1String("bad")) || name == refused) {
             return KxResult<MediaFile>::Failure(QStringLiteral("Cannot open %1: it is bad.").arg(name));
         }
         if (name.startsWith(QLatin1String("throws"))) {
@@ -170,6 +170,8 @@ public:
 
     /// Called by the thread that opens a file.
     std::function<void(const QString& name, const KxCancelToken& cancel)> whileOpening;
+    /// The name of one that cannot be opened either.
+    QString refused;
     quint64 lastThumbnail = 0;
     int dialogs = 0;
     /// The names of the videos that the dialog was opened for.

@@ -122,8 +122,8 @@ void MediaLibrary::ImportFiles(const QStringList& paths, Origin origin)
         }
         if (!imported.contains(index)) {
             imported += index;
-            // Of a folder, the folder is offered again, not each file in it.
-            if (origin == Origin::Files) {
+            // A new one counts as used once it is open; one of a folder does not: the folder is offered again.
+            if (origin == Origin::Files && !m_new.contains(m_model.IdAt(index))) {
                 MarkUsed(m_model.PathAt(index));
             }
         }
@@ -136,11 +136,16 @@ void MediaLibrary::ImportFiles(const QStringList& paths, Origin origin)
 
 void MediaLibrary::AddFolder(const QString& path)
 {
-    const QString folder = QDir::cleanPath(QFileInfo(path).absoluteFilePath());
-    m_folders += folder;
+    m_folders += QDir::cleanPath(QFileInfo(path).absoluteFilePath());
+}
+
+void MediaLibrary::NoteFolder(const QString& folder, bool hasVideos)
+{
     m_recentFolders.removeAll(folder);
-    m_recentFolders.prepend(folder);
-    m_recentFolders = m_recentFolders.mid(0, MostRecentFolders);
+    if (hasVideos) {
+        m_recentFolders.prepend(folder);
+        m_recentFolders = m_recentFolders.mid(0, MostRecentFolders);
+    }
     m_store.SaveRecentFolders(m_recentFolders);
 }
 
@@ -161,6 +166,7 @@ void MediaLibrary::ImportFolders()
     const QStringList patterns = m_backend.IfLoaded()->ImportPatterns().split(QLatin1Char(';'), Qt::SkipEmptyParts);
     for (const QString& folder : qAsConst(m_folders)) {
         m_finder->ListFiles(folder, patterns, [this, folder](const MediaFinder::Listed& listed) {
+            NoteFolder(folder, !listed.files.isEmpty());
             if (listed.files.isEmpty()) {
                 m_refused += tr("There are no videos in %1.").arg(QDir::toNativeSeparators(folder));
                 ReportRefused();
@@ -247,16 +253,21 @@ void MediaLibrary::HandleOpened(int id, const KxResult<MediaFile>& media)
         return;
     }
     if (media) {
-        m_new.remove(id);
-        m_ofFolders.remove(id);
+        const bool isOfFolder = m_ofFolders.remove(id);
         const bool isOther = m_model.FactsAt(m_model.IndexOf(id)).contentHash != media->contentHash;
         m_model.SetMedia(id, *media);
         m_store.SaveVideo(ToStored(m_model.FactsAt(m_model.IndexOf(id))));
+        if (m_new.remove(id) && !isOfFolder) {
+            MarkUsed(m_model.PathAt(m_model.IndexOf(id)));
+        }
         if (isOther) {
             RequestThumbnail(id);
         }
         Q_EMIT sigOpened(id);
     } else {
+        if (m_new.contains(id)) {
+            ForgetUse(m_model.PathAt(m_model.IndexOf(id)));
+        }
         HandleCannotOpen(id, media.Message());
     }
     ReportRefused();
@@ -352,6 +363,12 @@ void MediaLibrary::MarkUsed(const QString& path)
     m_recent.prepend(path);
     m_recent = m_recent.mid(0, MostRecent);
     m_store.MarkUsed(path);
+}
+
+void MediaLibrary::ForgetUse(const QString& path)
+{
+    m_recent.removeAll(path);
+    m_store.ForgetUse(path);
 }
 
 void MediaLibrary::SaveEdits(const QString& path, const VideoEdits& edits)

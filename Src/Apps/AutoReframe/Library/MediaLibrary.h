@@ -72,11 +72,14 @@ private:
     void ReportRefused();
     void StartOpening(int id);
     int AddNew(const QString& path);
+    void ForgetUse(const QString& path);
     enum class Origin { Files, Folder };
     void ImportFiles(const QStringList& paths, Origin origin);
     void ImportFolders();
     void Skip(int files);
     void AddFolder(const QString& path);
+    /// Offers the folder again, if there are videos in it.
+    void NoteFolder(const QString& folder, bool hasVideos);
     MediaFinder::Wanted WantedOf(int id) const;
     static QSize ThumbnailRoomPx();
 

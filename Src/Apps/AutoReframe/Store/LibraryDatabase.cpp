@@ -163,6 +163,11 @@ KxError LibraryDatabase::MarkUsed(const QString& path)
         {QDateTime::currentMSecsSinceEpoch(), path});
 }
 
+KxError LibraryDatabase::ForgetUse(const QString& path)
+{
+    return m_connection.Execute(QStringLiteral("UPDATE videos SET last_used = 0 WHERE path = ?"), {path});
+}
+
 KxError LibraryDatabase::SaveThumbnail(const QString& path, const QByteArray& jpeg)
 {
     return m_connection.Execute(

@@ -36,6 +36,7 @@ public:
     KxError MoveVideo(const QString& from, const QString& to);
     /// For the list of videos used last.
     KxError MarkUsed(const QString& path);
+    KxError ForgetUse(const QString& path);
     KxError SaveThumbnail(const QString& path, const QByteArray& jpeg);
     /// Empty if there is none.
     KxResult<QByteArray> ReadThumbnail(const QString& path);

@@ -263,6 +263,11 @@ void LibraryStore::MarkUsed(const QString& path)
     Save([path](LibraryDatabase& database) { return database.MarkUsed(path); });
 }
 
+void LibraryStore::ForgetUse(const QString& path)
+{
+    Save([path](LibraryDatabase& database) { return database.ForgetUse(path); });
+}
+
 void LibraryStore::SaveThumbnail(const QString& path, const QImage& picture)
 {
     Save([path, picture](LibraryDatabase& database) { return database.SaveThumbnail(path, Jpeg(picture)); });

@@ -36,6 +36,8 @@ public:
     void RemoveVideo(const QString& path);
     void MoveVideo(const QString& from, const QString& to);
     void MarkUsed(const QString& path);
+    /// The video is none of those used last any more.
+    void ForgetUse(const QString& path);
     /// Encodes on the store's thread.
     void SaveThumbnail(const QString& path, const QImage& picture);
     void SaveEdits(const QString& path, const VideoEdits& edits);
