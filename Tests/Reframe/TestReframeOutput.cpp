@@ -219,7 +219,8 @@ TEST_F(ReframeOutputTest, AnEnlargedPictureIsReported)
     const QJsonObject result = Run("--size 1080x1920 --quality 10", "large.mp4");
     EXPECT_EQ(result.value(QLatin1String("height")), 1920);
     EXPECT_TRUE(m_messages.contains(
-        QStringLiteral("The size 1080 x 1920 is above that of the crop, 298 x 528: the picture is enlarged.")))
+        QStringLiteral("The picture of %1 is enlarged: its size, 1080 x 1920, is above that of the crop, 298 x 528.")
+            .arg(Path("clip.mp4"))))
         << m_messages.toStdString();
 }
 

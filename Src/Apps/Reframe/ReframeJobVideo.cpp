@@ -44,12 +44,11 @@ void ReframeJob::WarnOfEnlargement(const QSize& size) const
     const QSize picture = m_media->StreamInfo().resolution();
     const QSize cropSize = KrExportParameters::EvenResolution(picture, ShapeOfResult());
     if (KxOutputSize::Enlarges(size, cropSize)) {
-        m_reporter.Warn(
-            m_input, QCoreApplication::translate("ReframeJob",
-                                                 "The size %1 x %2 is above that of the crop, %3 x %4: the picture is "
-                                                 "enlarged.")
-                         .arg(QString::number(size.width()), QString::number(size.height()),
-                              QString::number(cropSize.width()), QString::number(cropSize.height())));
+        m_reporter.Warn(m_input, QCoreApplication::translate(
+                                     "ReframeJob", "The picture of %1 is enlarged: its size, %2 x %3, is above that of "
+                                                   "the crop, %4 x %5.")
+                                     .arg(m_input, QString::number(size.width()), QString::number(size.height()),
+                                          QString::number(cropSize.width()), QString::number(cropSize.height())));
     }
 }
 
