@@ -141,14 +141,46 @@ TEST_F(ReframeFarmTest, FilesThatStoreNoSettingsAreReplacedWithThoseThatDo)
     const QString list = QStringLiteral("out/a.mlt");
     const QStringList arguments{QStringLiteral("--if-needed"), QStringLiteral("--edit-list"), Path(list),
                                 Path(QStringLiteral("in/a.mp4"))};
-    WriteFile(list, "a file of somebody else");
     Reframe(arguments);
-    EXPECT_EQ(Content(list), "a file of somebody else");
-    EXPECT_EQ(Results().size(), 3);
-    ASSERT_TRUE(QFile::remove(Path(QStringLiteral("out/a (2).mlt"))));
-    Reframe(arguments + QStringList{QStringLiteral("--speed"), QStringLiteral("slow")});
-    EXPECT_TRUE(Content(list).startsWith("<?xml"));
+    const QByteArray first = Content(list);
+    EXPECT_TRUE(first.startsWith("<?xml"));
+    Reframe(arguments + QStringList{QStringLiteral("--size"), QStringLiteral("100p")});
+    EXPECT_NE(Content(list), first);
     EXPECT_EQ(Results().size(), 2);
+}
+
+TEST_F(ReframeFarmTest, AFileOfSomebodyElseStays)
+{
+    const QString list = QStringLiteral("out/a.mlt");
+    const QStringList slow{QStringLiteral("--if-needed"), QStringLiteral("--speed"), QStringLiteral("slow"),
+                           Path(QStringLiteral("in/a.mp4"))};
+    const QStringList arguments{QStringLiteral("--if-needed"), QStringLiteral("--edit-list"), Path(list),
+                                Path(QStringLiteral("in/a.mp4"))};
+    const QByteArray content = "a file of somebody else";
+    WriteFile(list, content);
+    // The results that lie beside it are newer, and those of a run without edit lists.
+    Reframe(slow);
+    for (const char* const speed : {"fast", "auto"}) {
+        Reframe(arguments + QStringList{QStringLiteral("--speed"), QLatin1String(speed)});
+        EXPECT_EQ(Content(list), content) << speed;
+        EXPECT_TRUE(Content(QStringLiteral("out/a (2).mlt")).startsWith("<?xml")) << speed;
+    }
+}
+
+TEST_F(ReframeFarmTest, TheFilesOfARunHaveTheSameNumber)
+{
+    const QString list = QStringLiteral("out/a.mlt");
+    const QStringList arguments{QStringLiteral("--if-needed"), QStringLiteral("--edit-list"), Path(list),
+                                Path(QStringLiteral("in/a.mp4"))};
+    WriteFile(list, "a file of somebody else");
+    const QStringList expected{QStringLiteral("a (2).mlt"), QStringLiteral("a-AutoReframe-9 16 (2).json"),
+                               QStringLiteral("a.mlt")};
+    Reframe(arguments);
+    EXPECT_EQ(Results(), expected);
+    EXPECT_TRUE(Reframe(arguments).contains(QLatin1String("skipped")));
+    Reframe(arguments + QStringList{QStringLiteral("--speed"), QStringLiteral("slow")});
+    EXPECT_EQ(Results(), expected);
+    EXPECT_EQ(Content(list), "a file of somebody else");
 }
 
 TEST_F(ReframeFarmTest, AFileThatWasChangedSinceItWasWrittenStays)

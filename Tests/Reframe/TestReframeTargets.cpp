@@ -112,7 +112,7 @@ TEST_F(ReframeTargetsTest, ResultsOfThisInputKeepTheirNumberAndAreReplaced)
     m_options.farm.ifNeeded = true;
     const QString second = Path(QStringLiteral("a (2).json"));
     WriteTrack(QStringLiteral("a.json"), QStringLiteral("a run with another input"));
-    EXPECT_EQ(Targets().Keyframes(), m_options.keyframes);
+    EXPECT_EQ(Targets().Keyframes(), second);
     EXPECT_EQ(Targets().WhenItExists(m_options.keyframes), KxOutputFile::Existing::AddNumber);
     WriteTrack(QStringLiteral("a (2).json"), QStringLiteral("other settings ") + Targets().Run().OfTask());
     EXPECT_EQ(Targets().Keyframes(), second);

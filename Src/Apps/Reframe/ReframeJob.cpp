@@ -81,6 +81,7 @@ KxOutcome ReframeJob::RunSteps()
             return *ended;
         }
     }
+    ReframeTargets::MarkAsOneRun(m_written);
     m_reporter.Succeed(m_input, FinishedMessage(), m_facts);
     return KxOutcome::Done;
 }

@@ -5,6 +5,7 @@
 
 #include <QDateTime>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 
 #include <algorithm>
@@ -88,7 +89,6 @@ void ReframeTargets::FindNumber()
         ++m_number;
         targets = All();
     }
-    m_number = 1;
 }
 
 bool ReframeTargets::AreUpToDate() const
@@ -114,12 +114,23 @@ bool ReframeTargets::IsOfAnEarlierRun(const QString& path) const
     if (!RunText::StoredIn(path).isEmpty()) {
         return m_run.IsOfThisInput(path);
     }
-    // Written before the result that stores the run: what is newer was changed by somebody since.
+    // Marked with the results of its run; what somebody changed since, or made, has another time.
     const QDateTime written = QFileInfo(path).lastModified();
     const QStringList targets = All();
     return std::any_of(targets.begin(), targets.end(), [this, &written](const QString& target) {
-        return QFileInfo(target).lastModified() >= written && m_run.IsOfThisInput(target);
+        return QFileInfo(target).lastModified() == written && m_run.IsOfThisInput(target);
     });
+}
+
+void ReframeTargets::MarkAsOneRun(const QStringList& files)
+{
+    const QDateTime now = QDateTime::currentDateTimeUtc();
+    for (const QString& path : files) {
+        QFile file(path);
+        if (file.open(QIODevice::ReadWrite)) {
+            file.setFileTime(now, QFileDevice::FileModificationTime);
+        }
+    }
 }
 
 KxOutputFile::Existing ReframeTargets::WhenItExists(const QString& path) const

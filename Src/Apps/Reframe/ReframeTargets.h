@@ -31,14 +31,18 @@ public:
     KxOutputFile::Existing WhenItExists(const QString& path) const;
     bool WouldReplaceInput(const QString& path) const;
 
+    /// Gives the files of a run a common time of last change, by which --if-needed recognises those that store no run.
+    static void MarkAsOneRun(const QStringList& files);
+
 private:
     /// The file `named` itself; if that is a folder, a file in it that is named after the input; if it is empty, such a
     /// file beside the input.
     QString Path(const QString& named, const QString& suffix) const;
-    /// With --if-needed: the number of this input's results where others have the same names.
+    /// With --if-needed: the number of this input's results where others have the same names, otherwise the first
+    /// for which there are no files.
     void FindNumber();
-    /// Whether --if-needed may replace it: it is a result of this input, or stores no run and one of the other targets
-    /// is such a result and not older.
+    /// Whether --if-needed may replace it: it is a result of this input, or stores no run and is marked as one of the
+    /// files of such a result.
     bool IsOfAnEarlierRun(const QString& path) const;
 
     const ReframeTask m_task;
