@@ -5,6 +5,7 @@
 #include <KxCore/KxResult.h>
 
 #include <QString>
+#include <QStringList>
 
 #include <filesystem>
 #include <system_error>
@@ -19,6 +20,11 @@ KXCORE_API std::filesystem::path NativePath(const QString& path);
 
 /// Equal for two paths of one file, however they are written. For a missing file, its absolute path.
 KXCORE_API QString Identity(const QString& path);
+
+/// The files in `folder`, and below it if that is wanted, whose names no QString can hold, so that Qt does not list
+/// them. Each as it can be shown, with U+FFFD for what is not valid.
+enum class Depth { Folder, Subfolders };
+KXCORE_API QStringList UnnameableFiles(const QString& folder, Depth depth);
 
 /// The reason why no file can have the absolute path `path`: "its name is too long".
 KXCORE_API KxError ReasonNotToName(const QString& path);

@@ -10,6 +10,9 @@
 #include <QStandardPaths>
 #include <QTimer>
 
+#include <array>
+#include <filesystem>
+#include <fstream>
 #include <future>
 
 TEST_F(TestMainWindow, StartsEmptyAndWithoutTheBackend)
@@ -169,6 +172,25 @@ TEST_F(TestMainWindow, OfAFolderTheVideosInItAndBelowItAreImported)
     EXPECT_EQ(names, (QStringList{QStringLiteral("b.mp4"), QStringLiteral("a.mp4"), QStringLiteral("c.MOV")}));
     EXPECT_TRUE(m_boxes.isEmpty());
 }
+
+#ifndef Q_OS_WIN
+TEST_F(TestMainWindow, VideosOfAFolderWhoseNamesQtCannotHoldAreReported)
+{
+    const std::string folder = m_folder.path().toStdString();
+    const std::array<std::string, 3> files{folder + "/bad\xff.mp4", folder + "/b\xfe.mov", folder + "/bad\xff.txt"};
+    for (const std::string& file : files) {
+        std::ofstream(file) << "a file";
+    }
+    Open({QStringLiteral(".")});
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !m_boxes.isEmpty(); }, 10000));
+    EXPECT_EQ(m_boxes, QStringList(QStringLiteral("2 videos in %1 were left out: their names are not valid UTF-8. "
+                                                  "Rename them.")
+                                       .arg(m_folder.path())));
+    for (const std::string& file : files) {
+        std::filesystem::remove(file); // Qt cannot
+    }
+}
+#endif
 
 TEST_F(TestMainWindow, FilesOfADroppedFolderThatAreNoVideosAreCountedAndNotReported)
 {

@@ -11,6 +11,10 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <filesystem>
+#include <fstream>
+
 namespace
 {
 
@@ -82,6 +86,30 @@ TEST_F(ReframeFarmTest, AFolderWithoutVideosIsReported)
     EXPECT_EQ(run.exitStatus, 1);
     EXPECT_EQ(run.standardError, QStringLiteral("Cannot reframe %1: there is no video in this folder.\n").arg(folder));
 }
+
+#ifndef Q_OS_WIN
+TEST_F(ReframeFarmTest, AVideoWhoseNameQtCannotHoldIsReported)
+{
+    // Qt's lists of a folder leave it out.
+    const std::string in = Path(QStringLiteral("in")).toStdString();
+    const std::array<std::string, 3> files{in + "/bad\xff.mp4", in + "/sub/b\xfe.mp4", in + "/bad\xff.txt"};
+    for (const std::string& file : files) {
+        std::ofstream(file) << "a file";
+    }
+    const ReframeRun run({QStringLiteral("--no-video"), Path(QStringLiteral("in"))});
+    EXPECT_EQ(run.exitStatus, 1);
+    const QString message = QStringLiteral("Cannot open %1/%2: its name is not valid UTF-8; rename it.\n");
+    const QString folder = Path(QStringLiteral("in"));
+    EXPECT_EQ(run.standardError, message.arg(folder, QStringLiteral("bad\uFFFD.mp4")));
+    EXPECT_TRUE(run.standardOutput.contains(QLatin1String("a.mp4")));
+    const ReframeRun all({QStringLiteral("--no-video"), QStringLiteral("--recursive"), Path(QStringLiteral("in"))});
+    EXPECT_EQ(all.standardError, message.arg(folder, QStringLiteral("bad\uFFFD.mp4")) +
+                                     message.arg(folder, QStringLiteral("sub/b\uFFFD.mp4")));
+    for (const std::string& file : files) {
+        std::filesystem::remove(file); // Qt cannot
+    }
+}
+#endif
 
 TEST_F(ReframeFarmTest, InputsComeFromAFile)
 {

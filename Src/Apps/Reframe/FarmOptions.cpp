@@ -70,6 +70,15 @@ Paths VideosIn(const QString& folder, bool isRecursive)
             videos += path;
         }
     }
+    // Each is refused as an input, with the reason.
+    const QStringList unnameable = KxSystemFile::UnnameableFiles(folder, isRecursive ? KxSystemFile::Depth::Subfolders
+                                                                                     : KxSystemFile::Depth::Folder);
+    for (const QString& path : unnameable) {
+        const QString name = QFileInfo(path).fileName();
+        if (QDir::match(names, name) && !IsResult(name)) {
+            videos += path;
+        }
+    }
     videos.sort();
     return videos;
 }

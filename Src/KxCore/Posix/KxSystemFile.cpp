@@ -18,6 +18,27 @@ QString KxSystemFile::Identity(const QString& path)
     return file.exists() ? file.canonicalFilePath() : file.absoluteFilePath();
 }
 
+QStringList KxSystemFile::UnnameableFiles(const QString& folder, Depth depth)
+{
+    using Entries = std::filesystem::recursive_directory_iterator;
+    QStringList files;
+    std::error_code problem;
+    Entries entries(NativePath(folder), std::filesystem::directory_options::skip_permission_denied, problem);
+    for (; !problem && entries != Entries(); entries.increment(problem)) {
+        if (depth == Depth::Folder) {
+            entries.disable_recursion_pending();
+        }
+        const QByteArray native = QByteArray::fromStdString(entries->path().native());
+        const QString path = QFile::decodeName(native);
+        std::error_code unknown;
+        if (QFile::encodeName(path) != native && entries->is_regular_file(unknown)) {
+            files += path;
+        }
+    }
+    files.sort();
+    return files;
+}
+
 KxError KxSystemFile::ReasonNotToName(const QString& path)
 {
     std::error_code problem;

@@ -85,6 +85,11 @@ QString KxSystemFile::Identity(const QString& path)
     return (file.exists() ? file.canonicalFilePath() : file.absoluteFilePath()).toCaseFolded();
 }
 
+QStringList KxSystemFile::UnnameableFiles(const QString&, Depth)
+{
+    return {};
+}
+
 KxError KxSystemFile::ReasonNotToName(const QString& path)
 {
     return KxWindowsNames::ReasonNotToName(path);

@@ -224,6 +224,9 @@ KxError KxInputFile::OpenFile()
 {
     const QFileInfo info(m_path);
     if (!info.exists()) {
+        if (m_path.contains(QChar::ReplacementCharacter)) {
+            return Texts::tr("its name is not valid UTF-8; rename it");
+        }
         return info.isSymLink() ? Texts::tr("it is a link to a file that does not exist")
                                 : Texts::tr("there is no such file");
     }

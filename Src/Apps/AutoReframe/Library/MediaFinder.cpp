@@ -1,8 +1,12 @@
 #include <Apps/AutoReframe/Library/MediaFinder.h>
 
+#include <KxCore/KxSystemFile.h>
+
 #include <QDir>
 #include <QDirIterator>
 #include <QFileInfo>
+
+#include <algorithm>
 
 namespace
 {
@@ -100,6 +104,11 @@ void MediaFinder::ListFiles(const QString& folder, const QStringList& patterns,
             }
         }
         listed.files.sort();
+        const QStringList unnameable = KxSystemFile::UnnameableFiles(folder, KxSystemFile::Depth::Subfolders);
+        listed.unnameableFiles =
+            static_cast<int>(std::count_if(unnameable.begin(), unnameable.end(), [&patterns](const QString& path) {
+                return QDir::match(patterns, QFileInfo(path).fileName());
+            }));
         QMetaObject::invokeMethod(
             this, [ready, listed] { ready(listed); }, Qt::QueuedConnection);
     };

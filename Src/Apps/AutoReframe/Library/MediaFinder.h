@@ -47,6 +47,8 @@ public:
         /// Those whose names fit one of the patterns, in the order of their names; at most MostFiles.
         QStringList files;
         int otherFiles = 0;
+        /// Those whose names would fit, but no QString can hold.
+        int unnameableFiles = 0;
     };
     /// Calls back. Links to folders are not followed.
     void ListFiles(const QString& folder, const QStringList& patterns,

@@ -167,10 +167,14 @@ void MediaLibrary::ImportFolders()
     for (const QString& folder : qAsConst(m_folders)) {
         m_finder->ListFiles(folder, patterns, [this, folder](const MediaFinder::Listed& listed) {
             NoteFolder(folder, !listed.files.isEmpty());
-            if (listed.files.isEmpty()) {
+            if (listed.unnameableFiles > 0) {
+                m_refused += tr("%n videos in %1 were left out: their names are not valid UTF-8. Rename them.", nullptr,
+                                listed.unnameableFiles)
+                                 .arg(QDir::toNativeSeparators(folder));
+            } else if (listed.files.isEmpty()) {
                 m_refused += tr("There are no videos in %1.").arg(QDir::toNativeSeparators(folder));
-                ReportRefused();
             }
+            ReportRefused();
             Skip(listed.otherFiles);
             ImportFiles(listed.files, Origin::Folder);
         });
