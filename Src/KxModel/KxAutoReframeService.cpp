@@ -1,5 +1,6 @@
 #include <KxModel/KxAutoReframeService.h>
 
+#include <KxModel/KxCacheFolder.h>
 #include <KxModel/KxChoiceRecords.h>
 #include <KxModel/KxChoicesFormat.h>
 #include <KxModel/KxFollowTracks.h>
@@ -368,6 +369,11 @@ void KxAutoReframeService::SetNetworkFolder(const QString& path)
 void KxAutoReframeService::SetRecordFolder(const QString& path)
 {
     m_settings.records->SetFolder(path);
+}
+
+KxError KxAutoReframeService::RecordFolderProblem() const
+{
+    return m_settings.records->Folder()->Problem();
 }
 
 void KxAutoReframeService::SetParts(const QStringList& parts)

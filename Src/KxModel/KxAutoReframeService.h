@@ -82,6 +82,8 @@ public:
     /// Where records of analysed videos are kept on the disk (KxRecordStore); empty: in memory alone, as at first. Any
     /// thread.
     void SetRecordFolder(const QString& path);
+    /// Why the first file that could not be written there was not. Any thread.
+    KxError RecordFolderProblem() const;
 
     /// Where the tasks that start from now on find the pictures of the video (KxAnalysisSettings::parts). Any thread.
     void SetParts(const QStringList& parts);

@@ -2,14 +2,23 @@
 
 #include <KxCore/KxLog.h>
 #include <KxCore/KxOutputFile.h>
+#include <KxCore/KxSystemError.h>
+#include <KxCore/KxSystemFile.h>
 
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
+#include <filesystem>
+
 namespace
 {
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(KxCacheFolder)
+};
 
 /// More than the longest video gives, and what a QByteArray can hold.
 constexpr qint64 MostFileBytes = qint64{1} << 30;
@@ -71,14 +80,31 @@ void KxCacheFolder::Write(Kind kind, const QByteArray& name, const QByteArray& c
     if (path.isEmpty() || content.size() > m_mostBytes) {
         return;
     }
-    const QString folder = QFileInfo(path).path();
-    QDir().mkpath(folder);
-    const KxResult<QString> written = KxOutputFile::Write(path, content, KxOutputFile::Existing::Replace);
-    if (!written) {
-        KX_LOG_WARNING(written.Message());
-        return;
+    if (const KxError problem = WriteFile(path, content)) {
+        KX_LOG_INFO(*problem);
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_problem = m_problem ? m_problem : problem;
+    } else {
+        RemoveOldest(QFileInfo(path).path(), m_mostBytes);
     }
-    RemoveOldest(folder, m_mostBytes);
+}
+
+KxError KxCacheFolder::WriteFile(const QString& path, const QByteArray& content) const
+{
+    const QString folder = QFileInfo(path).path();
+    std::error_code problem;
+    std::filesystem::create_directories(KxSystemFile::NativePath(folder), problem);
+    if (problem) {
+        return Texts::tr("Cannot make the cache folder %1: %2.").arg(folder, KxSystemErrorMeaning(problem));
+    }
+    const KxResult<QString> written = KxOutputFile::Write(path, content, KxOutputFile::Existing::Replace);
+    return written ? std::nullopt : KxError(written.Message());
+}
+
+KxError KxCacheFolder::Problem() const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return m_problem;
 }
 
 void KxCacheFolder::Remove(Kind kind, const QByteArray& name) const

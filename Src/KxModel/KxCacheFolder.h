@@ -2,14 +2,15 @@
 
 #include <KxCore/KxExport.h>
 
+#include <KxCore/KxResult.h>
+
 #include <QByteArray>
 #include <QString>
 
 #include <mutex>
 #include <optional>
 
-/// A bounded folder of files that can be made again. A failure is logged and only costs the time to make them. Any
-/// thread.
+/// A bounded folder of files that can be made again. A failure only costs the time to make them. Any thread.
 class KXMODEL_API KxCacheFolder
 {
 public:
@@ -28,11 +29,17 @@ public:
     void Write(Kind kind, const QByteArray& name, const QByteArray& content) const;
     void Remove(Kind kind, const QByteArray& name) const;
 
+    /// Why the first file that could not be written was not.
+    KxError Problem() const;
+
 private:
+    KxError WriteFile(const QString& path, const QByteArray& content) const;
     /// Empty without a folder.
     QString PathOf(Kind kind, const QByteArray& name) const;
 
     const qint64 m_mostBytes;
     mutable std::mutex m_mutex;
-    QString m_path; ///< guarded by the mutex
+    // Guarded by the mutex.
+    QString m_path;
+    mutable KxError m_problem;
 };

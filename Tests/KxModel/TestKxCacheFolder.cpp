@@ -76,6 +76,20 @@ TEST_F(KxCacheFolderTest, WhatIsOverTheLimitAloneIsNotWritten)
     EXPECT_EQ(Files(), QStringList(QStringLiteral("a.record")));
 }
 
+TEST_F(KxCacheFolderTest, TheFirstProblemIsKept)
+{
+    m_cache.Write(Kind::Record, "a", "1");
+    EXPECT_FALSE(m_cache.Problem());
+    const QString file = m_folder.filePath(QStringLiteral("a.record"));
+    m_cache.SetPath(file + QStringLiteral("/cache"));
+    m_cache.Write(Kind::Record, "b", "1");
+    m_cache.SetPath(file + QStringLiteral("/other"));
+    m_cache.Write(Kind::Record, "b", "1");
+    ASSERT_TRUE(m_cache.Problem());
+    EXPECT_TRUE(m_cache.Problem()->startsWith(QStringLiteral("Cannot make the cache folder %1/cache: ").arg(file)))
+        << m_cache.Problem()->toStdString();
+}
+
 TEST_F(KxCacheFolderTest, FilesOfOthersStay)
 {
     QFile other(m_folder.filePath(QStringLiteral("notes.txt")));

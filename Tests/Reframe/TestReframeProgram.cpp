@@ -126,6 +126,17 @@ TEST_F(ReframeProgramTest, WhatWasSeenIsKeptInTheNamedFolderAlone)
     EXPECT_EQ(QDir(Path("cache")).entryList({QStringLiteral("*.record")}, QDir::Files).size(), 1);
 }
 
+TEST_F(ReframeProgramTest, ACacheThatCannotBeWrittenIsOneWarning)
+{
+    const QString folder = MakeFile("file", "no folder") + QStringLiteral("/cache");
+    const ReframeRun run({QStringLiteral("--no-video"), QStringLiteral("--cache"), folder, MakeClip("clip.mp4"),
+                          MakeClip("other.mp4", 50)});
+    EXPECT_EQ(run.exitStatus, 0);
+    EXPECT_TRUE(run.standardError.startsWith(QStringLiteral("Warning: Cannot make the cache folder %1: ").arg(folder)))
+        << run.standardError.toStdString();
+    EXPECT_EQ(run.standardError.count(QLatin1Char('\n')), 1) << run.standardError.toStdString();
+}
+
 TEST_F(ReframeProgramTest, OneFailedInputDoesNotStopTheOthers)
 {
     QDir(m_folder.path()).mkdir(QStringLiteral("out"));

@@ -81,6 +81,9 @@ int ReframeProgram::Run(const ReframeOptions& options)
         modelReading = KxThread([&networks] { KxDetectorFiles::Read(networks.path); });
     }
     const int status = RunAll(options, reporter);
+    if (const KxError problem = KxAutoReframeService::Instance().RecordFolderProblem()) {
+        reporter.Warn(first, *problem);
+    }
     reporter.End(status);
     if (const KxError problem = reporter.StatusProblem()) {
         reporter.Warn(first, *problem);
