@@ -9,6 +9,7 @@ namespace
 {
 
 constexpr int BytesPerPixel = 3;
+constexpr int ChecksumBytes = 2;
 
 /// From what a byte is predicted.
 enum Prediction : char { FromLeft, FromBefore };
@@ -40,6 +41,14 @@ QByteArray Differences(const QByteArray& pixels, const QByteArray& before, Predi
     return result;
 }
 
+/// Damaged bytes are recognised by it before Qt, which would report them in its own way.
+QByteArray Checksum(const QByteArray& bytes)
+{
+    QByteArray sum(ChecksumBytes, Qt::Uninitialized);
+    qToBigEndian(qChecksum(bytes.constData(), static_cast<uint>(bytes.size())), sum.data());
+    return sum;
+}
+
 qint64 Magnitude(const QByteArray& differences)
 {
     qint64 sum = 0;
@@ -64,7 +73,8 @@ QByteArray KxPicturePacker::Pack(const QImage& picture)
     }
     m_before = pixels;
     constexpr int fastest = 1;
-    return qCompress(differences, fastest);
+    const QByteArray compressed = qCompress(differences, fastest);
+    return compressed + Checksum(compressed);
 }
 
 KxPictureUnpacker::KxPictureUnpacker(QSize size)
@@ -79,9 +89,11 @@ bool KxPictureUnpacker::Unpack(const QByteArray& packed)
         return true;
     }
     const int bytes = m_size.width() * m_size.height() * BytesPerPixel;
-    // The size comes first; a damaged one must not ask for memory.
-    const bool isSane = packed.size() > 4 && qFromBigEndian<quint32>(packed.constData()) == quint32(bytes) + 1;
-    const QByteArray differences = isSane ? qUncompress(packed) : QByteArray();
+    const QByteArray compressed = packed.left(packed.size() - ChecksumBytes);
+    // The size comes first; a wrong one must not ask for memory.
+    const bool isSane = compressed.size() > 4 && packed.endsWith(Checksum(compressed)) &&
+                        qFromBigEndian<quint32>(compressed.constData()) == quint32(bytes) + 1;
+    const QByteArray differences = isSane ? qUncompress(compressed) : QByteArray();
     if (differences.size() != bytes + 1) {
         return false;
     }

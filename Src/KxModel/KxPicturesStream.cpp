@@ -6,7 +6,7 @@
 namespace
 {
 
-constexpr quint64 Magic = 0x4b58506963730001; // grows with each change of the format
+constexpr quint64 Magic = 0x4b58506963730002; // grows with each change of the format
 constexpr qint64 EndMark = -1;
 constexpr double SecondsBefore = 0.5;
 

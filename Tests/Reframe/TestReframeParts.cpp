@@ -286,6 +286,16 @@ TEST_F(ReframePartsTest, DamagedPicturesAreRefused)
     const QString first = Part(clip, QStringLiteral("0-74"), QStringLiteral("first.pictures"));
     const QString last = Part(clip, QStringLiteral("75-149"), QStringLiteral("last.pictures"));
     QFile file(last);
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+    const QString message = QStringLiteral("last.pictures is damaged");
+    for (const qint64 place : {file.size() / 2, file.size() / 3}) {
+        ASSERT_TRUE(file.seek(place));
+        ASSERT_EQ(file.write(QByteArray(64, '\x55')), 64);
+        ASSERT_TRUE(file.flush());
+        const QString refused = Refused(clip, {first, last});
+        EXPECT_TRUE(refused.contains(message)) << refused.toStdString();
+        EXPECT_EQ(refused.trimmed().count(QLatin1Char('\n')), 0) << refused.toStdString();
+    }
     ASSERT_TRUE(file.resize(file.size() / 2));
-    EXPECT_TRUE(Refused(clip, {first, last}).contains(QLatin1String("last.pictures is damaged")));
+    EXPECT_TRUE(Refused(clip, {first, last}).contains(message));
 }
