@@ -41,11 +41,21 @@ auto BitsOf(Number number)
 class Writer
 {
 public:
+    /// Only counts the bytes.
+    Writer() = default;
+    /// So many bytes follow: a text that grows is in memory twice while it moves.
+    explicit Writer(std::size_t bytes)
+        : m_keepsBytes(true)
+    {
+        m_bytes.reserve(bytes);
+    }
+
     template<typename Number>
     void Put(Number number)
     {
+        m_count += sizeof(Number);
         auto bits = static_cast<std::uint64_t>(BitsOf(number));
-        for (std::size_t i = 0; i < sizeof(Number); ++i, bits >>= 8) {
+        for (std::size_t i = 0; m_keepsBytes && i < sizeof(Number); ++i, bits >>= 8) {
             m_bytes.push_back(static_cast<char>(bits & 0xFF));
         }
     }
@@ -147,10 +157,13 @@ public:
     {
         for (const std::string* text : {&model.name, &model.sha256}) {
             Put(static_cast<std::uint8_t>(std::min(text->size(), MostTextBytes)));
-            m_bytes.append(*text, 0, MostTextBytes);
+            for (const char letter : text->substr(0, MostTextBytes)) {
+                Put(letter);
+            }
         }
     }
 
+    std::size_t Count() const { return m_count; }
     std::string Finished()
     {
         Put(ChecksumOf(m_bytes.data(), m_bytes.size()));
@@ -158,8 +171,32 @@ public:
     }
 
 private:
+    bool m_keepsBytes = false;
+    std::size_t m_count = 0;
     std::string m_bytes;
 };
+
+void Put(Writer& writer, const KxSubjectRecord& record)
+{
+    writer.Put(Magic);
+    writer.Put(KxSubjectRecordFormat::Version);
+    writer.Put(static_cast<std::int32_t>(record.source.pictureWidthPx));
+    writer.Put(static_cast<std::int32_t>(record.source.pictureHeightPx));
+    writer.Put(record.source.frameRate);
+    writer.Put(record.source.frameCount);
+    writer.Put(static_cast<std::int32_t>(record.workingSizePx.width));
+    writer.Put(static_cast<std::int32_t>(record.workingSizePx.height));
+    writer.PutRect(record.content);
+    writer.PutAll(record.boundaries);
+    writer.PutAll(record.prints);
+    writer.PutAll(record.samples);
+    writer.PutAll(record.movers);
+    writer.PutAll(record.faces);
+    writer.PutAll(record.looks);
+    writer.PutAll(record.mouths);
+    writer.PutAll(record.sound);
+    writer.PutAll(record.models);
+}
 
 /// Fails once and for all at the first thing that cannot be.
 class Reader
@@ -421,25 +458,10 @@ bool IsConsistent(const KxSubjectRecord& record)
 
 std::string KxSubjectRecordFormat::Write(const KxSubjectRecord& record)
 {
-    Writer writer;
-    writer.Put(Magic);
-    writer.Put(Version);
-    writer.Put(static_cast<std::int32_t>(record.source.pictureWidthPx));
-    writer.Put(static_cast<std::int32_t>(record.source.pictureHeightPx));
-    writer.Put(record.source.frameRate);
-    writer.Put(record.source.frameCount);
-    writer.Put(static_cast<std::int32_t>(record.workingSizePx.width));
-    writer.Put(static_cast<std::int32_t>(record.workingSizePx.height));
-    writer.PutRect(record.content);
-    writer.PutAll(record.boundaries);
-    writer.PutAll(record.prints);
-    writer.PutAll(record.samples);
-    writer.PutAll(record.movers);
-    writer.PutAll(record.faces);
-    writer.PutAll(record.looks);
-    writer.PutAll(record.mouths);
-    writer.PutAll(record.sound);
-    writer.PutAll(record.models);
+    Writer counter;
+    Put(counter, record);
+    Writer writer(counter.Count() + ChecksumBytes);
+    Put(writer, record);
     return writer.Finished();
 }
 
