@@ -66,7 +66,7 @@ TEST(ReframeOptions, SeveralAspectRatiosAreTakenOnceEach)
 TEST(ReframeOptions, RefusesAnInvalidAspectRatioAndQuotesIt)
 {
     for (const char* aspect :
-         {"", "9", "9:0", "0:16", "-9:16", "9:16:1", "nine:sixteen", "9.5:16", "9x16", "1:100", "99999:99999"}) {
+         {"9", "9:0", "0:16", "-9:16", "9:16:1", "nine:sixteen", "9.5:16", "9x16", "1:100", "99999:99999"}) {
         const auto parsed = Parse({QStringLiteral("--aspect"), QLatin1String(aspect), QStringLiteral("a.mp4")});
         EXPECT_FALSE(parsed.options) << aspect;
         EXPECT_EQ(parsed.exitStatus, ReframeExit::WrongUse);
@@ -124,6 +124,22 @@ TEST(ReframeOptions, WrongUseIsOneErrorMessageAndStatusTwo)
         EXPECT_FALSE(parsed.text.contains(QStringLiteral(".."))) << parsed.text.toStdString();
     }
     EXPECT_EQ(Parse({}).exitStatus, ReframeExit::WrongUse);
+}
+
+TEST(ReframeOptions, AnEmptyValueIsRefused)
+{
+    for (const char* const option :
+         {"--aspect", "--apply", "--choices", "--output", "--keyframes", "--edit-list", "--report", "--preview",
+          "--models", "--cache", "--status", "--inputs", "--follow"}) {
+        const auto parsed = Parse({QLatin1String(option), QString(), QStringLiteral("a.mp4")});
+        EXPECT_FALSE(parsed.options) << option;
+        EXPECT_TRUE(parsed.text.startsWith(
+            QStringLiteral("%1 needs a value, and an empty one was given.").arg(QLatin1String(option))))
+            << parsed.text.toStdString();
+    }
+    const auto parsed = Parse({QStringLiteral("a.mp4"), QString()});
+    EXPECT_FALSE(parsed.options);
+    EXPECT_TRUE(parsed.text.startsWith(QStringLiteral("The name of an input file is empty.")));
 }
 
 TEST(ReframeOptions, OneDashBeforeAnOptionIsEnough)

@@ -71,6 +71,9 @@ QString ConflictOfInputs(const ReframeOptions& options)
     if (options.inputs.isEmpty()) {
         return Texts::tr("No input file was given.");
     }
+    if (options.inputs.contains(QString())) {
+        return Texts::tr("The name of an input file is empty.");
+    }
     return {};
 }
 

@@ -109,6 +109,17 @@ ReframeOptions::Parsed Shown(const QString& text)
     return parsed;
 }
 
+/// The name of an option whose value is empty, as an unset variable of a shell makes it; empty if there is none.
+QString OptionWithoutValue(const QCommandLineParser& parser, const QList<QCommandLineOption>& options)
+{
+    for (const QCommandLineOption& option : options) {
+        if (!option.valueName().isEmpty() && parser.isSet(option) && parser.values(option).contains(QString())) {
+            return option.names().first();
+        }
+    }
+    return {};
+}
+
 std::optional<QSize> ParseAspect(const QString& text)
 {
     const QStringList parts = text.split(QLatin1Char(':'));
@@ -323,6 +334,10 @@ ReframeOptions::Parsed ReframeOptions::Parse(const QStringList& arguments)
         return Shown(QStringLiteral("reframe %1\n").arg(QStringLiteral(KR_VERSION)));
     }
 
+    const QString withoutValue = OptionWithoutValue(parser, definitions.All());
+    if (!withoutValue.isEmpty()) {
+        return WrongUse(Texts::tr("--%1 needs a value, and an empty one was given.").arg(withoutValue));
+    }
     const QString language = parser.value(definitions.language);
     if (parser.isSet(definitions.language) && !KxLanguage::Find(language)) {
         return WrongUse(KxLanguage::UnknownText(language));
