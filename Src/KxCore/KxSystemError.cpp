@@ -4,6 +4,7 @@
 
 #include <QCoreApplication>
 #include <QFileDevice>
+#include <QFileInfo>
 
 #include <array>
 #include <utility>
@@ -47,6 +48,9 @@ QString KxSystemErrorMeaning(const std::error_code& error)
 
 QString KxFileErrorText(const QFileDevice& file)
 {
-    const QString text = KxSystemErrorText(KxSystemFile::ErrorOf(file));
+    const std::error_code error = KxSystemFile::ErrorOf(file);
+    // Qt refuses to open a folder without asking the system.
+    const bool isFolder = QFileInfo(file.fileName()).isDir();
+    const QString text = KxSystemErrorText(isFolder ? std::make_error_code(std::errc::is_a_directory) : error);
     return text.isEmpty() ? file.errorString().toLower() : text;
 }

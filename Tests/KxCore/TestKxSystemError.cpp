@@ -50,4 +50,7 @@ TEST(KxSystemError, ExplainsWhyAFileCannotBeUsed)
     QFile missing(QStringLiteral("/no/such/file"));
     ASSERT_FALSE(missing.open(QIODevice::ReadOnly));
     EXPECT_EQ(KxFileErrorText(missing), QStringLiteral("there is no such file"));
+    QFile folder(QStringLiteral("."));
+    ASSERT_FALSE(folder.open(QIODevice::ReadOnly));
+    EXPECT_EQ(KxFileErrorText(folder), QStringLiteral("it is a folder"));
 }
