@@ -1497,6 +1497,13 @@ Benötigt: %1 MB, verfügbar: %2 MB.</translation>
     </message>
 </context>
 <context>
+    <name>KxCacheFolder</name>
+    <message>
+        <source>Cannot make the cache folder %1: %2.</source>
+        <translation>Der Cache-Ordner %1 kann nicht angelegt werden: %2.</translation>
+    </message>
+</context>
+<context>
     <name>KxChoicesFormat</name>
     <message>
         <source>Cannot use %1: %2.</source>
@@ -1763,6 +1770,10 @@ Benötigt: %1 MB, verfügbar: %2 MB.</translation>
     <message>
         <source>it has no moving picture</source>
         <translation>die Datei hat kein bewegtes Bild</translation>
+    </message>
+    <message>
+        <source>its name is not valid UTF-8; rename it</source>
+        <translation>ihr Name ist kein gültiges UTF-8; bitte umbenennen</translation>
     </message>
 </context>
 <context>
@@ -2591,6 +2602,13 @@ Benötigt: %1 MB, verfügbar: %2 MB.</translation>
         <source>There are no videos in %1.</source>
         <translation>In %1 sind keine Videos.</translation>
     </message>
+    <message numerus="yes">
+        <source>%n videos in %1 were left out: their names are not valid UTF-8. Rename them.</source>
+        <translation>
+            <numerusform>%n Video in %1 wurde ausgelassen: Sein Name ist kein gültiges UTF-8. Bitte umbenennen.</numerusform>
+            <numerusform>%n Videos in %1 wurden ausgelassen: Ihre Namen sind kein gültiges UTF-8. Bitte umbenennen.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>MediaLibraryModel</name>
@@ -2976,16 +2994,16 @@ Benötigt: %1 MB, verfügbar: %2 MB.</translation>
         <translation>%1: %2 -&gt; %3 (codiert mit %4)</translation>
     </message>
     <message>
-        <source>The size %1 x %2 is above that of the crop, %3 x %4: the picture is enlarged.</source>
-        <translation>Die Größe %1 x %2 liegt über der des Ausschnitts, %3 x %4: Das Bild wird vergrößert.</translation>
-    </message>
-    <message>
         <source>frames %1 to %2</source>
         <translation>Bilder %1 bis %2</translation>
     </message>
     <message>
         <source>%1: skipped, up to date: %2</source>
         <translation>%1: übersprungen, aktuell: %2</translation>
+    </message>
+    <message>
+        <source>The picture of %1 is enlarged: its size, %2 x %3, is above that of the crop, %4 x %5.</source>
+        <translation>Das Bild von %1 wird vergrößert: Seine Größe, %2 x %3, liegt über der des Ausschnitts, %4 x %5.</translation>
     </message>
 </context>
 <context>
@@ -3206,6 +3224,14 @@ Hilfe: reframe --help.</translation>
     <message>
         <source>--frames takes frames such as 0-2999, or a part such as 3/8; &quot;%1&quot; is neither.</source>
         <translation>--frames nimmt Bilder wie 0-2999 oder einen Teil wie 3/8; „%1“ ist keines von beiden.</translation>
+    </message>
+    <message>
+        <source>The name of an input file is empty.</source>
+        <translation>Der Name einer Eingabedatei ist leer.</translation>
+    </message>
+    <message>
+        <source>--%1 needs a value, and an empty one was given.</source>
+        <translation>--%1 braucht einen Wert; angegeben wurde ein leerer.</translation>
     </message>
 </context>
 <context>

@@ -141,6 +141,16 @@
     </message>
 </context>
 <context>
+    <name>MediaLibrary</name>
+    <message numerus="yes">
+        <source>%n videos in %1 were left out: their names are not valid UTF-8. Rename them.</source>
+        <translation>
+            <numerusform>%n video in %1 was left out: its name is not valid UTF-8. Rename it.</numerusform>
+            <numerusform>%n videos in %1 were left out: their names are not valid UTF-8. Rename them.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message numerus="yes">
         <source>%n files that are no videos were skipped</source>

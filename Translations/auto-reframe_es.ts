@@ -1497,6 +1497,13 @@ Espacio necesario: %1 MB, disponible: %2 MB.</translation>
     </message>
 </context>
 <context>
+    <name>KxCacheFolder</name>
+    <message>
+        <source>Cannot make the cache folder %1: %2.</source>
+        <translation>No se puede crear la carpeta de caché %1: %2.</translation>
+    </message>
+</context>
+<context>
     <name>KxChoicesFormat</name>
     <message>
         <source>Cannot use %1: %2.</source>
@@ -1763,6 +1770,10 @@ Espacio necesario: %1 MB, disponible: %2 MB.</translation>
     <message>
         <source>it has no moving picture</source>
         <translation>no tiene imagen en movimiento</translation>
+    </message>
+    <message>
+        <source>its name is not valid UTF-8; rename it</source>
+        <translation>su nombre no es UTF-8 válido; cámbielo</translation>
     </message>
 </context>
 <context>
@@ -2591,6 +2602,13 @@ Espacio necesario: %1 MB, disponible: %2 MB.</translation>
         <source>There are no videos in %1.</source>
         <translation>No hay vídeos en %1.</translation>
     </message>
+    <message numerus="yes">
+        <source>%n videos in %1 were left out: their names are not valid UTF-8. Rename them.</source>
+        <translation>
+            <numerusform>Se ha omitido %n vídeo de %1: su nombre no es UTF-8 válido. Cámbielo.</numerusform>
+            <numerusform>Se han omitido %n vídeos de %1: sus nombres no son UTF-8 válido. Cámbielos.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>MediaLibraryModel</name>
@@ -2976,16 +2994,16 @@ Espacio necesario: %1 MB, disponible: %2 MB.</translation>
         <translation>%1: %2 -&gt; %3 (codificado por %4)</translation>
     </message>
     <message>
-        <source>The size %1 x %2 is above that of the crop, %3 x %4: the picture is enlarged.</source>
-        <translation>El tamaño %1 x %2 supera el del encuadre, %3 x %4: la imagen se amplía.</translation>
-    </message>
-    <message>
         <source>frames %1 to %2</source>
         <translation>fotogramas %1 a %2</translation>
     </message>
     <message>
         <source>%1: skipped, up to date: %2</source>
         <translation>%1: omitido, ya está al día: %2</translation>
+    </message>
+    <message>
+        <source>The picture of %1 is enlarged: its size, %2 x %3, is above that of the crop, %4 x %5.</source>
+        <translation>La imagen de %1 se amplía: su tamaño, %2 x %3, supera el del encuadre, %4 x %5.</translation>
     </message>
 </context>
 <context>
@@ -3206,6 +3224,14 @@ Consultar reframe --help.</translation>
     <message>
         <source>--frames takes frames such as 0-2999, or a part such as 3/8; &quot;%1&quot; is neither.</source>
         <translation>--frames admite fotogramas como 0-2999 o una parte como 3/8; «%1» no es ninguna de las dos cosas.</translation>
+    </message>
+    <message>
+        <source>The name of an input file is empty.</source>
+        <translation>El nombre de un archivo de entrada está vacío.</translation>
+    </message>
+    <message>
+        <source>--%1 needs a value, and an empty one was given.</source>
+        <translation>--%1 necesita un valor y se ha indicado uno vacío.</translation>
     </message>
 </context>
 <context>

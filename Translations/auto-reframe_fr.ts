@@ -1497,6 +1497,13 @@ Espace nécessaire&#xa0;: %1 Mo, disponible&#xa0;: %2 Mo.</translation>
     </message>
 </context>
 <context>
+    <name>KxCacheFolder</name>
+    <message>
+        <source>Cannot make the cache folder %1: %2.</source>
+        <translation>Impossible de créer le dossier de cache %1&#xa0;: %2.</translation>
+    </message>
+</context>
+<context>
     <name>KxChoicesFormat</name>
     <message>
         <source>Cannot use %1: %2.</source>
@@ -1763,6 +1770,10 @@ Espace nécessaire&#xa0;: %1 Mo, disponible&#xa0;: %2 Mo.</translation>
     <message>
         <source>it has no moving picture</source>
         <translation>le fichier n’a pas d’image animée</translation>
+    </message>
+    <message>
+        <source>its name is not valid UTF-8; rename it</source>
+        <translation>son nom n’est pas de l’UTF-8 valide&#xa0;; veuillez le renommer</translation>
     </message>
 </context>
 <context>
@@ -2591,6 +2602,13 @@ Espace nécessaire&#xa0;: %1 Mo, disponible&#xa0;: %2 Mo.</translation>
         <source>There are no videos in %1.</source>
         <translation>Il n’y a pas de vidéos dans %1.</translation>
     </message>
+    <message numerus="yes">
+        <source>%n videos in %1 were left out: their names are not valid UTF-8. Rename them.</source>
+        <translation>
+            <numerusform>%n vidéo de %1 a été ignorée&#xa0;: son nom n’est pas de l’UTF-8 valide. Veuillez la renommer.</numerusform>
+            <numerusform>%n vidéos de %1 ont été ignorées&#xa0;: leurs noms ne sont pas de l’UTF-8 valide. Veuillez les renommer.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>MediaLibraryModel</name>
@@ -2976,16 +2994,16 @@ Espace nécessaire&#xa0;: %1 Mo, disponible&#xa0;: %2 Mo.</translation>
         <translation>%1&#xa0;: %2 -&gt; %3 (encodé par %4)</translation>
     </message>
     <message>
-        <source>The size %1 x %2 is above that of the crop, %3 x %4: the picture is enlarged.</source>
-        <translation>La taille %1 x %2 dépasse celle du cadre, %3 x %4&#xa0;: l’image est agrandie.</translation>
-    </message>
-    <message>
         <source>frames %1 to %2</source>
         <translation>images %1 à %2</translation>
     </message>
     <message>
         <source>%1: skipped, up to date: %2</source>
         <translation>%1&#xa0;: ignoré, déjà à jour&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>The picture of %1 is enlarged: its size, %2 x %3, is above that of the crop, %4 x %5.</source>
+        <translation>L’image de %1 est agrandie&#xa0;: sa taille, %2 x %3, dépasse celle du cadre, %4 x %5.</translation>
     </message>
 </context>
 <context>
@@ -3206,6 +3224,14 @@ Voir reframe --help.</translation>
     <message>
         <source>--frames takes frames such as 0-2999, or a part such as 3/8; &quot;%1&quot; is neither.</source>
         <translation>--frames prend des images comme 0-2999 ou une partie comme 3/8&#xa0;; «&#xa0;%1&#xa0;» n’est ni l’un ni l’autre.</translation>
+    </message>
+    <message>
+        <source>The name of an input file is empty.</source>
+        <translation>Le nom d’un fichier d’entrée est vide.</translation>
+    </message>
+    <message>
+        <source>--%1 needs a value, and an empty one was given.</source>
+        <translation>--%1 demande une valeur, et celle qui est donnée est vide.</translation>
     </message>
 </context>
 <context>

@@ -1484,6 +1484,13 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
     </message>
 </context>
 <context>
+    <name>KxCacheFolder</name>
+    <message>
+        <source>Cannot make the cache folder %1: %2.</source>
+        <translation>キャッシュフォルダー %1 を作成できません: %2。</translation>
+    </message>
+</context>
+<context>
     <name>KxChoicesFormat</name>
     <message>
         <source>Cannot use %1: %2.</source>
@@ -1750,6 +1757,10 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
     <message>
         <source>it has no moving picture</source>
         <translation>動画の映像がありません</translation>
+    </message>
+    <message>
+        <source>its name is not valid UTF-8; rename it</source>
+        <translation>名前が有効な UTF-8 ではありません。名前を変更してください</translation>
     </message>
 </context>
 <context>
@@ -2572,6 +2583,12 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
         <source>There are no videos in %1.</source>
         <translation>%1 に動画はありません。</translation>
     </message>
+    <message numerus="yes">
+        <source>%n videos in %1 were left out: their names are not valid UTF-8. Rename them.</source>
+        <translation>
+            <numerusform>%1 の動画 %n 本を除外しました。名前が有効な UTF-8 ではありません。名前を変更してください。</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>MediaLibraryModel</name>
@@ -2950,16 +2967,16 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
         <translation>%1: %2 -&gt; %3 (エンコーダー: %4)</translation>
     </message>
     <message>
-        <source>The size %1 x %2 is above that of the crop, %3 x %4: the picture is enlarged.</source>
-        <translation>サイズ %1 x %2 はクロップの %3 x %4 を超えています: 画像は拡大されます。</translation>
-    </message>
-    <message>
         <source>frames %1 to %2</source>
         <translation>フレーム %1～%2</translation>
     </message>
     <message>
         <source>%1: skipped, up to date: %2</source>
         <translation>%1: スキップしました。最新です: %2</translation>
+    </message>
+    <message>
+        <source>The picture of %1 is enlarged: its size, %2 x %3, is above that of the crop, %4 x %5.</source>
+        <translation>%1 の画面は拡大されます: サイズ %2 x %3 がクロップの %4 x %5 を上回っています。</translation>
     </message>
 </context>
 <context>
@@ -3180,6 +3197,14 @@ reframe --help を参照してください。</translation>
     <message>
         <source>--frames takes frames such as 0-2999, or a part such as 3/8; &quot;%1&quot; is neither.</source>
         <translation>--frames には 0-2999 のようなフレームか 3/8 のような部分を指定します。「%1」はどちらでもありません。</translation>
+    </message>
+    <message>
+        <source>The name of an input file is empty.</source>
+        <translation>入力ファイルの名前が空です。</translation>
+    </message>
+    <message>
+        <source>--%1 needs a value, and an empty one was given.</source>
+        <translation>--%1 には値が必要ですが、空の値が指定されました。</translation>
     </message>
 </context>
 <context>

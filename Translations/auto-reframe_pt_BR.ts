@@ -1497,6 +1497,13 @@ Espaço necessário: %1 MB, disponível: %2 MB.</translation>
     </message>
 </context>
 <context>
+    <name>KxCacheFolder</name>
+    <message>
+        <source>Cannot make the cache folder %1: %2.</source>
+        <translation>Não é possível criar a pasta de cache %1: %2.</translation>
+    </message>
+</context>
+<context>
     <name>KxChoicesFormat</name>
     <message>
         <source>Cannot use %1: %2.</source>
@@ -1763,6 +1770,10 @@ Espaço necessário: %1 MB, disponível: %2 MB.</translation>
     <message>
         <source>it has no moving picture</source>
         <translation>não tem imagem em movimento</translation>
+    </message>
+    <message>
+        <source>its name is not valid UTF-8; rename it</source>
+        <translation>o nome não é UTF-8 válido; renomeie-o</translation>
     </message>
 </context>
 <context>
@@ -2591,6 +2602,13 @@ Espaço necessário: %1 MB, disponível: %2 MB.</translation>
         <source>There are no videos in %1.</source>
         <translation>Não há vídeos em %1.</translation>
     </message>
+    <message numerus="yes">
+        <source>%n videos in %1 were left out: their names are not valid UTF-8. Rename them.</source>
+        <translation>
+            <numerusform>%n vídeo de %1 foi deixado de fora: o nome não é UTF-8 válido. Renomeie-o.</numerusform>
+            <numerusform>%n vídeos de %1 foram deixados de fora: os nomes não são UTF-8 válido. Renomeie-os.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>MediaLibraryModel</name>
@@ -2976,16 +2994,16 @@ Espaço necessário: %1 MB, disponível: %2 MB.</translation>
         <translation>%1: %2 -&gt; %3 (codificado por %4)</translation>
     </message>
     <message>
-        <source>The size %1 x %2 is above that of the crop, %3 x %4: the picture is enlarged.</source>
-        <translation>O tamanho %1 x %2 está acima do tamanho do corte, %3 x %4: a imagem é ampliada.</translation>
-    </message>
-    <message>
         <source>frames %1 to %2</source>
         <translation>quadros %1 a %2</translation>
     </message>
     <message>
         <source>%1: skipped, up to date: %2</source>
         <translation>%1: ignorado, já está atualizado: %2</translation>
+    </message>
+    <message>
+        <source>The picture of %1 is enlarged: its size, %2 x %3, is above that of the crop, %4 x %5.</source>
+        <translation>A imagem de %1 é ampliada: seu tamanho, %2 x %3, está acima do tamanho do corte, %4 x %5.</translation>
     </message>
 </context>
 <context>
@@ -3206,6 +3224,14 @@ Consulte reframe --help.</translation>
     <message>
         <source>--frames takes frames such as 0-2999, or a part such as 3/8; &quot;%1&quot; is neither.</source>
         <translation>--frames aceita quadros como 0-2999 ou uma parte como 3/8; &quot;%1&quot; não é nenhum dos dois.</translation>
+    </message>
+    <message>
+        <source>The name of an input file is empty.</source>
+        <translation>O nome de um arquivo de entrada está vazio.</translation>
+    </message>
+    <message>
+        <source>--%1 needs a value, and an empty one was given.</source>
+        <translation>--%1 precisa de um valor, e foi indicado um vazio.</translation>
     </message>
 </context>
 <context>

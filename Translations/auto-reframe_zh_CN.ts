@@ -1484,6 +1484,13 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
     </message>
 </context>
 <context>
+    <name>KxCacheFolder</name>
+    <message>
+        <source>Cannot make the cache folder %1: %2.</source>
+        <translation>无法创建缓存文件夹 %1：%2。</translation>
+    </message>
+</context>
+<context>
     <name>KxChoicesFormat</name>
     <message>
         <source>Cannot use %1: %2.</source>
@@ -1750,6 +1757,10 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
     <message>
         <source>it has no moving picture</source>
         <translation>没有视频画面</translation>
+    </message>
+    <message>
+        <source>its name is not valid UTF-8; rename it</source>
+        <translation>其名称不是有效的 UTF-8；请重命名</translation>
     </message>
 </context>
 <context>
@@ -2572,6 +2583,12 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
         <source>There are no videos in %1.</source>
         <translation>%1 中没有视频。</translation>
     </message>
+    <message numerus="yes">
+        <source>%n videos in %1 were left out: their names are not valid UTF-8. Rename them.</source>
+        <translation>
+            <numerusform>已略过 %1 中的 %n 个视频：其名称不是有效的 UTF-8。请重命名。</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>MediaLibraryModel</name>
@@ -2950,16 +2967,16 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
         <translation>%1：%2 -&gt; %3（由 %4 编码）</translation>
     </message>
     <message>
-        <source>The size %1 x %2 is above that of the crop, %3 x %4: the picture is enlarged.</source>
-        <translation>大小 %1 x %2 超过裁剪框的 %3 x %4：画面被放大。</translation>
-    </message>
-    <message>
         <source>frames %1 to %2</source>
         <translation>第 %1 到 %2 帧</translation>
     </message>
     <message>
         <source>%1: skipped, up to date: %2</source>
         <translation>%1：已跳过，已是最新：%2</translation>
+    </message>
+    <message>
+        <source>The picture of %1 is enlarged: its size, %2 x %3, is above that of the crop, %4 x %5.</source>
+        <translation>%1 的画面将被放大：其尺寸 %2 x %3 大于裁剪框的 %4 x %5。</translation>
     </message>
 </context>
 <context>
@@ -3180,6 +3197,14 @@ Try reframe --help.</source>
     <message>
         <source>--frames takes frames such as 0-2999, or a part such as 3/8; &quot;%1&quot; is neither.</source>
         <translation>--frames 接受 0-2999 这样的帧或 3/8 这样的部分；“%1”两者都不是。</translation>
+    </message>
+    <message>
+        <source>The name of an input file is empty.</source>
+        <translation>输入文件的名称为空。</translation>
+    </message>
+    <message>
+        <source>--%1 needs a value, and an empty one was given.</source>
+        <translation>--%1 需要一个值，而给出的值为空。</translation>
     </message>
 </context>
 <context>
