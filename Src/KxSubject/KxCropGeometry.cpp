@@ -2,6 +2,13 @@
 
 #include <algorithm>
 
+namespace
+{
+
+constexpr double NarrowRatio = 9.0 / 16.0;
+
+} // namespace
+
 KxCropGeometry::KxCropGeometry(KxIntSize picturePx, KxIntSize aspect, const KxCropRect& content)
     : m_content(content)
     , m_ratio(static_cast<double>(std::max(aspect.width, 1)) / std::max(aspect.height, 1))
@@ -17,6 +24,11 @@ KxCropGeometry::KxCropGeometry(KxIntSize picturePx, KxIntSize aspect, const KxCr
         m_width = content.width;
         m_height = content.height * (widthPx / m_ratio / heightPx);
     }
+}
+
+double KxCropGeometry::NarrowShare() const
+{
+    return m_axis == KxAxis::Across ? std::min(1.0, NarrowRatio / m_ratio) : 1.0;
 }
 
 double KxCropGeometry::MinimumCentre() const

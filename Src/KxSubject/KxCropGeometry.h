@@ -18,8 +18,8 @@ public:
     KxAxis FreeAxis() const { return m_axis; }
     /// The crop's extent along the free axis, as a fraction of the picture's.
     double Extent() const { return m_axis == KxAxis::Across ? m_width : m_height; }
-    /// The crop's width over its height, in pixels.
-    double Ratio() const { return m_ratio; }
+    /// The width of a 9:16 crop as a share of this one's, at most 1; 1 for a crop that moves up and down.
+    double NarrowShare() const;
     /// Centres of the crop along the free axis, in fractions of the picture; equal when the crop cannot move.
     double MinimumCentre() const;
     double MaximumCentre() const;

@@ -200,7 +200,8 @@ double Decider::MoveCost(const Shot& shot, std::size_t begin, std::size_t end) c
     const double usualRate = m_options.sampling.samplesPerSecond;
     const double rate =
         static_cast<double>(end - begin) * m_record.source.frameRate / static_cast<double>(last + 1 - first);
-    return m_options.path.moveCost * patience * std::sqrt(usualRate) * std::min(1.0, rate / usualRate);
+    return m_options.path.moveCost * m_geometry.NarrowShare() * patience * std::sqrt(usualRate) *
+           std::min(1.0, rate / usualRate);
 }
 
 std::optional<double> Decider::HeldCentre(const KxSubjectChoice& choice) const

@@ -228,8 +228,8 @@ struct KxSubjectOptions {
     } follow;
 
     struct Path {
-        /// 2 to 5 of the tracker, a width, over the square root of a sample's seconds; cross: all score alike, and
-        /// more is calmer; from 4.5 on fast subjects are lost
+        /// 2 to 5 of the tracker, a width, over the square root of a sample's seconds; less for a crop that is wider
+        /// than 9:16, in proportion; cross: all score alike, and more is calmer; from 4.5 on fast subjects are lost
         double moveCost = 4.0;
         double speedWeight = 0.35;       ///< 0.25 to 0.5 on the first derivative; cross
         double accelerationWeight = 0.3; ///< 0.1 to 0.45 on the second: more gives fewer, longer pans; cross
@@ -243,8 +243,10 @@ struct KxSubjectOptions {
     } path;
 
     /// The path's reaction at one motion speed. Widths are the picture's unless the crop's is named. Origin: trial. The
-    /// range of a static crop is in crop widths: half of it cannot let the subject leave the crop. The holds of Slow
-    /// and Fast, relative to Auto's, scale the cost of a move: Fast follows what crosses the picture in two seconds.
+    /// range of a static crop is in crop widths: half of it cannot let the subject leave the crop. In a crop wider than
+    /// 9:16 they are widths of a 9:16 crop: two things can be at its edges, which are no farther from them. The holds
+    /// of Slow and Fast, relative to Auto's, scale the cost of a move: Fast follows what crosses the picture in two
+    /// seconds.
     struct Reaction {
         double stillRange;       ///< 0.05 to 0.3 crop widths: the crop is static while the subject's range is less
         double deadZone;         ///< 0.03 to 0.3 crop widths

@@ -60,13 +60,13 @@ TEST(KxCropGeometry, TheCentreIsKeptWherePossible)
     EXPECT_NEAR(geometry.At(0.0).x, 0.0, 1e-12);
 }
 
-TEST(KxCropGeometry, TheRatioIsThatOfPixels)
+TEST(KxCropGeometry, TheShareOfANarrowCropIsThatOfPixels)
 {
-    for (const KxIntSize& picture : Pictures) {
-        const KxCropGeometry geometry(picture, {4, 5}, {0.0, 0.12, 1.0, 0.76});
-        const KxCropRect crop = geometry.At(0.5);
-        EXPECT_NEAR(geometry.Ratio(), crop.width * picture.width / (crop.height * picture.height), 1e-9);
-    }
+    EXPECT_DOUBLE_EQ(KxCropGeometry({1920, 1080}, {9, 16}, {}).NarrowShare(), 1.0);
+    EXPECT_DOUBLE_EQ(KxCropGeometry({1920, 1080}, {1, 2}, {}).NarrowShare(), 1.0) << "narrower than 9:16";
+    EXPECT_DOUBLE_EQ(KxCropGeometry({1920, 1080}, {1, 1}, {}).NarrowShare(), 9.0 / 16.0);
+    EXPECT_DOUBLE_EQ(KxCropGeometry({1920, 1080}, {4, 5}, {0.0, 0.12, 1.0, 0.76}).NarrowShare(), 45.0 / 64.0);
+    EXPECT_DOUBLE_EQ(KxCropGeometry({1080, 1920}, {1, 1}, {}).NarrowShare(), 1.0) << "moves up and down";
 }
 
 TEST(KxCropGeometry, InvalidNumbersStillGiveARectangle)

@@ -9,9 +9,6 @@ namespace
 constexpr double Pi = 3.1415926535897932384626433832795;
 constexpr double LeastSpacing = 1e-6; ///< of the picture; positions nearer than this are one position
 
-/// The ratio of the crop whose half is the margin in which the window for whole things falls.
-constexpr double MarginRatio = 9.0 / 16.0;
-
 /// The window at a distance from its middle: 1 up to the margin beside its edge, where it falls as a squared cosine.
 double HeightAt(double distance, double half, double margin, double flat)
 {
@@ -29,7 +26,7 @@ KxCentreScore::KxCentreScore(const KxSubjectOptions::Evidence& options, const Kx
     const bool across = geometry.FreeAxis() == KxAxis::Across;
     const double priorWeight = across ? options.centrePriorAcross : options.centrePriorUpDown;
     const double flat = across ? options.windowFlatAcross : 1.0;
-    const double margin = half * std::min(1.0, MarginRatio / geometry.Ratio());
+    const double margin = half * geometry.NarrowShare();
     constexpr double binExtent = 1.0 / KxSignalProfile::Bins;
     m_meanWindow = {{}, 0, KxSignalProfile::Bins};
     for (std::size_t position = 0; position < Positions; ++position) {

@@ -99,7 +99,7 @@ std::optional<double> KxCropPath::StillCentre(const std::vector<KxPathPoint>& po
     std::sort(centres.begin(), centres.end());
     const auto trimmed = static_cast<std::size_t>(StillTrim * static_cast<double>(centres.size()));
     const double range = centres[centres.size() - 1 - trimmed] - centres[trimmed];
-    if (range >= m_reaction.stillRange * m_geometry.Extent()) {
+    if (range >= m_reaction.stillRange * NarrowExtent()) {
         return std::nullopt;
     }
     return centres[centres.size() / 2];
@@ -138,7 +138,7 @@ std::vector<double> KxCropPath::DrawSmooth(const std::vector<KxPathPoint>& point
     const double stepsPerSecond = std::min(StepsPerSecond, MostNodes / seconds);
     KxTrendFilter::Settings settings;
     settings.stepSeconds = 1.0 / stepsPerSecond;
-    settings.huberDelta = m_reaction.deadZone * m_geometry.Extent() / 2.0;
+    settings.huberDelta = m_reaction.deadZone * NarrowExtent() / 2.0;
     settings.speedWeight = m_options.speedWeight * m_reaction.smoothingSeconds;
     settings.accelerationWeight = m_options.accelerationWeight * m_reaction.smoothingSeconds;
     settings.jerkWeight = m_options.jerkWeight * m_reaction.smoothingSeconds * JerkFactor(span.frameRate);

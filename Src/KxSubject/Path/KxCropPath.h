@@ -38,6 +38,8 @@ public:
                              const KxCancelToken& cancel) const;
 
 private:
+    /// The crop's extent, at most that of a 9:16 crop.
+    double NarrowExtent() const { return m_geometry.Extent() * m_geometry.NarrowShare(); }
     /// Where the crop can stay through the whole shot; nothing if the subject's range is too large.
     std::optional<double> StillCentre(const std::vector<KxPathPoint>& points) const;
     /// The part of the shot that is drawn rather than held.

@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <cmath>
 
 using testing::Each;
@@ -58,6 +59,20 @@ TEST(KxCropPath, ASmallRangeIsExactlyStill)
     const auto line = Draw(Points(0, 300, [](double s) { return 0.4 + 0.02 * std::sin(s); }), 0, 300);
     EXPECT_THAT(line, Each(line.front()));
     EXPECT_NEAR(line.front(), 0.4, 0.02);
+}
+
+TEST(KxCropPath, AWideCropIsAsReadyToMoveAsANarrowOne)
+{
+    const auto points = Points(0, 300, [](double s) { return 0.4 + 0.04 * std::sin(0.6 * s); });
+    const KxCropGeometry square({1920, 1080}, {1, 1}, {0.0, 0.0, 1.0, 1.0});
+    const auto line =
+        KxCropPath(Options.path, Options.automatic, square).Draw(points, {0, 300, FrameRate}, 0.5, KxCancelToken());
+    const auto narrow = Draw(points, 0, 300);
+    ASSERT_EQ(line.size(), narrow.size());
+    for (std::size_t i = 0; i < line.size(); ++i) {
+        EXPECT_NEAR(line[i], narrow[i], 1e-9) << i;
+    }
+    EXPECT_GT(*std::max_element(line.begin(), line.end()) - *std::min_element(line.begin(), line.end()), 0.02);
 }
 
 TEST(KxCropPath, AFewOutliersDoNotMakeItMove)
