@@ -8,8 +8,8 @@
 #include <QByteArray>
 #include <QString>
 
-/// The text format of a person's choices for one video (JSON, described in Docs/FILES.md). Times and places are those of
-/// the source, so they hold for every aspect, speed and version of the analysis.
+/// The text format of a person's choices for one video (JSON, described in Docs/FILES.md). Times and places are those
+/// of the source, so they hold for every aspect, speed and version of the analysis.
 namespace KxChoicesFormat
 {
 constexpr int Version = 1;
