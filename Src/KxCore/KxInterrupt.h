@@ -9,9 +9,9 @@
 namespace KxInterrupt
 {
 /// From now on such a signal sets a flag instead of ending the process, so that no temporary file stays behind. A
-/// second Ctrl-C or termination signal ends the process at once. A closed pipe and a file that exceeds the permitted
-/// size become errors of the write call. A process that was started to ignore the end of its terminal (nohup) still
-/// ignores it. Call once, from `main`.
+/// third Ctrl-C or termination signal (on Windows the second) ends the process at once. A closed pipe and a file that
+/// exceeds the permitted size become errors of the write call. A process that was started to ignore the end of its
+/// terminal (nohup) still ignores it. Call once, from `main`.
 KXCORE_API void Install();
 
 /// Sets the flag. Any thread.

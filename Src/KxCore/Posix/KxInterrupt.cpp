@@ -1,21 +1,34 @@
 #include <KxCore/KxInterrupt.h>
 
+#include <atomic>
 #include <csignal>
 
 namespace
 {
 
-extern "C" void HandleInterrupt(int number)
+std::atomic_int Signals{0};
+static_assert(std::atomic_int::is_always_lock_free);
+
+/// The third signal gets the default handling, which ends a program that hangs. Not the second: `timeout` and others
+/// send one to the process and another to its group.
+void LetTheThirdEndTheProcess()
 {
-    KxInterrupt::Request();
-    // The second signal gets the default handling, which ends a program that hangs.
-    std::signal(number, SIG_DFL);
+    if (++Signals > 1) {
+        std::signal(SIGINT, SIG_DFL);
+        std::signal(SIGTERM, SIG_DFL);
+    }
 }
 
-extern "C" void HandleTermination(int number)
+extern "C" void HandleInterrupt(int)
+{
+    KxInterrupt::Request();
+    LetTheThirdEndTheProcess();
+}
+
+extern "C" void HandleTermination(int)
 {
     KxInterrupt::RequestTermination();
-    std::signal(number, SIG_DFL);
+    LetTheThirdEndTheProcess();
 }
 
 extern "C" void HandleHangUp(int)

@@ -42,13 +42,28 @@ TEST(KxInterruptDeathTest, WithoutASignalNothingIsRequested)
         testing::ExitedWithCode(1), "");
 }
 
-TEST(KxInterruptDeathTest, ASecondSignalEndsTheProcess)
+TEST(KxInterruptDeathTest, ASignalThatIsSentTwiceIsOneRequest)
 {
     for (const int number : {SIGINT, SIGTERM}) {
         EXPECT_EXIT(
             {
                 KxInterrupt::Install();
                 std::raise(number);
+                std::raise(number);
+                ExitWithRequest();
+            },
+            testing::ExitedWithCode(0), "");
+    }
+}
+
+TEST(KxInterruptDeathTest, AThirdSignalEndsTheProcess)
+{
+    for (const int number : {SIGINT, SIGTERM}) {
+        EXPECT_EXIT(
+            {
+                KxInterrupt::Install();
+                std::raise(SIGINT);
+                std::raise(SIGTERM);
                 std::raise(number);
                 ExitWithRequest();
             },
