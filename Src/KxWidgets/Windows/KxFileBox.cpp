@@ -5,11 +5,14 @@
 #include <KxWidgets/KxTopLevelWindowTitleBar.h>
 #include <KxWidgets/KxUIStyle.h>
 
+#include <QAbstractItemView>
+#include <QCompleter>
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QFileDialog>
 #include <QHeaderView>
 #include <QLayout>
+#include <QLineEdit>
 #include <QListView>
 #include <QSplitter>
 #include <QStandardPaths>
@@ -139,6 +142,10 @@ void KxFileBox::StyleLists()
     }
     if (auto* places = m_chooser->findChild<QListView*>(QStringLiteral("sidebar"))) {
         places->setIconSize(QSize(IconPx, IconPx));
+    }
+    const auto* const name = m_chooser->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+    if (name != nullptr && name->completer() != nullptr) {
+        name->completer()->popup()->setIconSize(QSize(IconPx, IconPx));
     }
     if (auto* files = m_chooser->findChild<QTreeView*>(QStringLiteral("treeView"))) {
         files->setIconSize(QSize(IconPx, IconPx));

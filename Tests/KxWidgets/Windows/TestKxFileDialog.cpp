@@ -7,6 +7,8 @@
 #include <KxWidgets/Windows/KxMessageResponder.h>
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QCompleter>
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
@@ -223,6 +225,19 @@ TEST_F(KxFileDialogTest, SizesAndDatesAreNotCut)
     KxFileDialog::getExistingDirectory(nullptr, QStringLiteral("Choose"), folder.path());
     EXPECT_EQ(modes, (QList<QHeaderView::ResizeMode>{QHeaderView::Stretch, QHeaderView::ResizeToContents,
                                                      QHeaderView::ResizeToContents, QHeaderView::ResizeToContents}));
+}
+
+TEST_F(KxFileDialogTest, SuggestedNamesHaveIconsOfTheSizeOfTheList)
+{
+    QTimer::singleShot(0, qApp, [] {
+        auto* const chooser = QApplication::activeModalWidget()->findChild<QFileDialog*>();
+        ASSERT_NE(chooser, nullptr);
+        const QCompleter* const completer = chooser->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->completer();
+        EXPECT_EQ(completer->popup()->iconSize(),
+                  chooser->findChild<QTreeView*>(QStringLiteral("treeView"))->iconSize());
+        chooser->reject();
+    });
+    KxFileDialog::getOpenFileNames(nullptr, QStringLiteral("Open"), QString(), QStringLiteral("All(*.mp4;)"));
 }
 
 TEST_F(KxFileDialogTest, AMissingFolderGivesTheNearestOneAbove)
