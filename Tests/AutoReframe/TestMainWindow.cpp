@@ -10,6 +10,7 @@
 #include <QStandardPaths>
 #include <QTimer>
 
+#include <algorithm>
 #include <array>
 #include <filesystem>
 #include <fstream>
@@ -56,6 +57,31 @@ TEST_F(TestMainWindow, ItsMenusButtonLooksLeftWhenTheMenuClosesElsewhere)
         EXPECT_TRUE(isShown);
         EXPECT_EQ(button->underMouse(), !isLeft);
     }
+}
+
+TEST_F(TestMainWindow, TheHintOfAnEmptyLibraryIsInTheMiddleOfItsFrame)
+{
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(m_window.get()));
+    const QImage picture = View()->viewport()->grab().toImage();
+    const QRgb background = picture.pixel(0, 0);
+    // Rows with something in the middle of the frame, whose sides are farther away.
+    QVector<int> rows;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = picture.width() / 2 - 100; x < picture.width() / 2 + 100; ++x) {
+            if (picture.pixel(x, y) != background) {
+                rows += y;
+                break;
+            }
+        }
+    }
+    ASSERT_GT(rows.size(), 20);
+    const auto isGap = [](int above, int below) { return below - above > 10; };
+    const auto content = std::adjacent_find(rows.begin(), rows.end(), isGap) + 1;
+    const auto contentEnd =
+        std::adjacent_find(rows.rbegin(), rows.rend(), [](int below, int above) { return below - above > 10; });
+    const int above = *content - rows.first();
+    const int below = rows.last() - *(contentEnd + 1);
+    EXPECT_NEAR(above, below, 4 * picture.devicePixelRatio());
 }
 
 TEST_F(TestMainWindow, OpenedFilesAppearAtOnceAndAreSelected)

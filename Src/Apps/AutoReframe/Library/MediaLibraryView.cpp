@@ -180,17 +180,17 @@ void MediaLibraryView::paintEvent(QPaintEvent* event)
     MediaCardDelegate::PaintDropFrame(painter, frame, m_isDropActive);
     constexpr int iconPx = 32;
     QRect icon(0, 0, iconPx, iconPx);
-    icon.moveCenter(frame.center() - QPoint(0, iconPx));
+    icon.moveCenter(frame.center() - QPoint(0, 42));
     KxUIStyle::Icon(QStringLiteral("import")).paint(&painter, icon);
     QFont heading = font();
     heading.setPixelSize(15);
     heading.setWeight(QFont::DemiBold);
     painter.setFont(heading);
     painter.setPen(KxUIStyle::Colour(Role::Text));
-    painter.drawText(frame.adjusted(0, 24, 0, 24), Qt::AlignCenter, tr("Drop videos here"));
+    painter.drawText(frame.translated(0, 10), Qt::AlignCenter, tr("Drop videos here"));
     painter.setFont(font());
     painter.setPen(KxUIStyle::Colour(Role::Muted));
-    painter.drawText(frame.adjusted(0, 72, 0, 72), Qt::AlignCenter, tr("or click to choose files"));
+    painter.drawText(frame.translated(0, 46), Qt::AlignCenter, tr("or click to choose files"));
 }
 
 void MediaLibraryView::resizeEvent(QResizeEvent* event)
