@@ -238,5 +238,9 @@ TEST(ReframeOptions, HelpAndVersionNeedNoInput)
           "--models", "--speaker", "--edit-list", "--json", "--quiet", "--version", "--overwrite"}) {
         EXPECT_TRUE(help.text.contains(QLatin1String(option))) << option;
     }
-    EXPECT_EQ(Parse({QStringLiteral("--version")}).exitStatus, ReframeExit::Done);
+    const auto version = Parse({QStringLiteral("--version")});
+    EXPECT_EQ(version.exitStatus, ReframeExit::Done);
+    // The program ends the last line.
+    EXPECT_FALSE(version.text.endsWith(QLatin1Char('\n')));
+    EXPECT_FALSE(help.text.endsWith(QLatin1Char('\n')));
 }

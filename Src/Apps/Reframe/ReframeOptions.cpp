@@ -328,10 +328,10 @@ ReframeOptions::Parsed ReframeOptions::Parse(const QStringList& arguments)
         return WrongUse(Misunderstanding(parser, arguments));
     }
     if (parser.isSet(definitions.help)) {
-        return Shown(parser.helpText());
+        return Shown(parser.helpText().trimmed());
     }
     if (parser.isSet(definitions.version)) {
-        return Shown(QStringLiteral("reframe %1\n").arg(QStringLiteral(KR_VERSION)));
+        return Shown(QStringLiteral("reframe %1").arg(QStringLiteral(KR_VERSION)));
     }
 
     const QString withoutValue = OptionWithoutValue(parser, definitions.All());
