@@ -2731,8 +2731,8 @@ Benötigt: %1 MB, verfügbar: %2 MB.</translation>
 <context>
     <name>OutputOptions</name>
     <message>
-        <source>--size takes even numbers such as 1080x1920, or a height such as 1920p; &quot;%1&quot; is neither.</source>
-        <translation>--size nimmt gerade Zahlen wie 1080x1920 oder eine Höhe wie 1920p; „%1“ ist keines von beiden.</translation>
+        <source>--size takes even numbers up to 16384 such as 1080x1920, or a height such as 1920p; &quot;%1&quot; is neither.</source>
+        <translation>--size nimmt gerade Zahlen bis 16384 wie 1080x1920 oder eine Höhe wie 1920p; „%1“ ist keines von beiden.</translation>
     </message>
     <message>
         <source>--fps takes a number from 1 to 240; &quot;%1&quot; is none.</source>

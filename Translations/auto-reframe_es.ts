@@ -2731,8 +2731,8 @@ Espacio necesario: %1 MB, disponible: %2 MB.</translation>
 <context>
     <name>OutputOptions</name>
     <message>
-        <source>--size takes even numbers such as 1080x1920, or a height such as 1920p; &quot;%1&quot; is neither.</source>
-        <translation>--size admite números pares como 1080x1920, o una altura como 1920p; «%1» no es ninguna de las dos cosas.</translation>
+        <source>--size takes even numbers up to 16384 such as 1080x1920, or a height such as 1920p; &quot;%1&quot; is neither.</source>
+        <translation>--size admite números pares hasta 16384, como 1080x1920, o una altura como 1920p; «%1» no es ninguna de las dos cosas.</translation>
     </message>
     <message>
         <source>--fps takes a number from 1 to 240; &quot;%1&quot; is none.</source>

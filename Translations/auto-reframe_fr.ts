@@ -2731,8 +2731,8 @@ Espace nécessaire&#xa0;: %1 Mo, disponible&#xa0;: %2 Mo.</translation>
 <context>
     <name>OutputOptions</name>
     <message>
-        <source>--size takes even numbers such as 1080x1920, or a height such as 1920p; &quot;%1&quot; is neither.</source>
-        <translation>--size prend des nombres pairs comme 1080x1920, ou une hauteur comme 1920p&#xa0;; «&#xa0;%1&#xa0;» n’est ni l’un ni l’autre.</translation>
+        <source>--size takes even numbers up to 16384 such as 1080x1920, or a height such as 1920p; &quot;%1&quot; is neither.</source>
+        <translation>--size prend des nombres pairs jusqu’à 16384, comme 1080x1920, ou une hauteur comme 1920p&#xa0;; «&#xa0;%1&#xa0;» n’est ni l’un ni l’autre.</translation>
     </message>
     <message>
         <source>--fps takes a number from 1 to 240; &quot;%1&quot; is none.</source>

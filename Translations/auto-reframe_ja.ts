@@ -2710,8 +2710,8 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
 <context>
     <name>OutputOptions</name>
     <message>
-        <source>--size takes even numbers such as 1080x1920, or a height such as 1920p; &quot;%1&quot; is neither.</source>
-        <translation>--size には 1080x1920 のような偶数、または 1920p のような高さを指定します。「%1」はどちらでもありません。</translation>
+        <source>--size takes even numbers up to 16384 such as 1080x1920, or a height such as 1920p; &quot;%1&quot; is neither.</source>
+        <translation>--size には 1080x1920 のような 16384 以下の偶数、または 1920p のような高さを指定します。「%1」はどちらでもありません。</translation>
     </message>
     <message>
         <source>--fps takes a number from 1 to 240; &quot;%1&quot; is none.</source>

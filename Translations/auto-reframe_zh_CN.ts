@@ -2710,8 +2710,8 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
 <context>
     <name>OutputOptions</name>
     <message>
-        <source>--size takes even numbers such as 1080x1920, or a height such as 1920p; &quot;%1&quot; is neither.</source>
-        <translation>--size 接受偶数，如 1080x1920，或高度，如 1920p；“%1”两者都不是。</translation>
+        <source>--size takes even numbers up to 16384 such as 1080x1920, or a height such as 1920p; &quot;%1&quot; is neither.</source>
+        <translation>--size 接受不超过 16384 的偶数，如 1080x1920，或高度，如 1920p；“%1”两者都不是。</translation>
     </message>
     <message>
         <source>--fps takes a number from 1 to 240; &quot;%1&quot; is none.</source>

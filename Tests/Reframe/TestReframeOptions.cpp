@@ -126,6 +126,16 @@ TEST(ReframeOptions, WrongUseIsOneErrorMessageAndStatusTwo)
     EXPECT_EQ(Parse({}).exitStatus, ReframeExit::WrongUse);
 }
 
+TEST(ReframeOptions, ASizeThatIsTooLargeIsRefusedWithTheLimit)
+{
+    EXPECT_TRUE(Parse(Words("--size 16384p a.mp4")).options);
+    for (const char* const size : {"16386p", "16386x16384", "20000x35556"}) {
+        const auto parsed = Parse({QStringLiteral("--size"), QLatin1String(size), QStringLiteral("a.mp4")});
+        EXPECT_FALSE(parsed.options) << size;
+        EXPECT_TRUE(parsed.text.contains(QLatin1String("up to 16384"))) << parsed.text.toStdString();
+    }
+}
+
 TEST(ReframeOptions, AnEmptyValueIsRefused)
 {
     for (const char* const option :

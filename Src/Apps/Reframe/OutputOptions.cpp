@@ -66,8 +66,9 @@ std::vector<Rule> Rules(const OutputOptions::Definitions& definitions, OutputOpt
     constexpr double fastest = 240.0;
     return {
         {definitions.size, [&](const QString& text) { return Set(options.size, KxOutputSize::Parse(text)); },
-         QT_TRANSLATE_NOOP("OutputOptions", "--size takes even numbers such as 1080x1920, or a height such as 1920p; "
-                                            "\"%1\" is neither.")},
+         QT_TRANSLATE_NOOP("OutputOptions",
+                           "--size takes even numbers up to 16384 such as 1080x1920, or a height such as "
+                           "1920p; \"%1\" is neither.")},
         {definitions.frameRate,
          [&](const QString& text) { return Set(options.frameRate, NumberIn(text, 1.0, fastest)); },
          QT_TRANSLATE_NOOP("OutputOptions", "--fps takes a number from 1 to 240; \"%1\" is none.")},
