@@ -170,6 +170,20 @@ TEST(ExportCardTest, ADoneOneSaysHowManyEditsItLacks)
         QStringLiteral("Done · 34 MB · 2 of your edits are not in this cut of the video · The sound ends early."));
 }
 
+TEST(ExportCardTest, ALongNameEndsWhereTheTextsBelowEnd)
+{
+    ExportCard card(nullptr);
+    ExportItem item;
+    item.filePath = QStringLiteral("/videos/%1.mp4").arg(QString(200, QLatin1Char('x')));
+    item.state = ExportItem::State::Done;
+    card.Show(item);
+    card.setFixedWidth(300);
+    card.show();
+    const auto* const name = card.findChild<QLabel*>(QStringLiteral("ExportCard_name"));
+    const auto* const show = card.findChild<QWidget*>(QStringLiteral("ExportCard_show"));
+    EXPECT_EQ(name->mapTo(&card, name->contentsRect().topRight()).x(), show->mapTo(&card, show->rect().topRight()).x());
+}
+
 TEST(ExportCardTest, AllTextsHaveOneTypeface)
 {
     ExportCard card(nullptr);

@@ -21,6 +21,8 @@ namespace
 using State = ExportItem::State;
 
 constexpr int CancelPx = 24;
+/// The right edge of the cross, not of its button, is aligned with the texts below.
+constexpr int AroundCrossPx = 5;
 constexpr int SmallPx = 11;
 
 KxLabel* MakeSmall(QWidget* parent, const QString& name)
@@ -77,14 +79,12 @@ ExportCard::~ExportCard() = default;
 
 void ExportCard::InitLayout()
 {
-    // The right edge of the cross, not of its button, is aligned with the texts below.
-    constexpr int aroundCrossPx = 5;
     auto* const head = new QHBoxLayout;
     head->setSpacing(8);
     head->addWidget(m_name, 1);
     head->addWidget(m_cancel);
     auto* const foot = new QHBoxLayout;
-    foot->setContentsMargins(0, 0, aroundCrossPx, 0);
+    foot->setContentsMargins(0, 0, AroundCrossPx, 0);
     foot->setSpacing(12);
     foot->addWidget(m_status, 1);
     for (QWidget* const end : {static_cast<QWidget*>(m_size), static_cast<QWidget*>(m_retry),
@@ -92,10 +92,10 @@ void ExportCard::InitLayout()
         foot->addWidget(end, 0, Qt::AlignTop);
     }
     auto* const middle = new QHBoxLayout;
-    middle->setContentsMargins(0, 0, aroundCrossPx, 0);
+    middle->setContentsMargins(0, 0, AroundCrossPx, 0);
     middle->addWidget(m_bar);
     auto* const column = new QVBoxLayout(this);
-    column->setContentsMargins(13, 8, 13 - aroundCrossPx, 7);
+    column->setContentsMargins(13, 8, 13 - AroundCrossPx, 7);
     column->setSpacing(3);
     column->addLayout(head);
     column->addLayout(middle);
@@ -107,6 +107,7 @@ void ExportCard::Show(const ExportItem& item)
     m_item = item;
     const bool isActive = item.IsActive();
     m_cancel->setVisible(isActive);
+    m_name->setContentsMargins(0, 0, isActive ? 0 : AroundCrossPx, 0);
     m_cancel->setEnabled(item.state != State::Cancelling);
     m_bar->setVisible(isActive);
     m_bar->setValue(item.progress);
