@@ -284,13 +284,14 @@ void KrFollowControls::OpenMenu(const QPoint& global)
     AddAction(*menu, tr("Show the Whole Picture in This Shot"), Kind::Fit);
     menu->addSeparator();
     QAction* const back = AddAction(*menu, tr("Back to Automatic"), Kind::Automatic);
+    back->setEnabled(!(ChoicesWith(Kind::Automatic) == m_choices.Current()));
     back->setShortcut(BackToAutomaticKeys());
     // Elsewhere the key is the window's.
     back->setShortcutContext(Qt::WidgetShortcut);
     menu->popup(global);
 }
 
-void KrFollowControls::Choose(Kind kind)
+QList<KxAutoReframeChoice> KrFollowControls::ChoicesWith(Kind kind) const
 {
     const qint64 frame = CurrentFrame();
     const Shot shot = m_queries.shotAt(frame);
@@ -302,8 +303,14 @@ void KrFollowControls::Choose(Kind kind)
         choice.seeds.append({SecondsOf(frame), m_box->Box(), m_isGuessed == Guessed::Yes});
     }
     choice.centre = m_isBackground ? m_guessedPoint : m_view.Overlay().GetCropRect().center();
+    return KrChoices::With(m_choices.Current(), choice);
+}
+
+void KrFollowControls::Choose(Kind kind)
+{
+    const QList<KxAutoReframeChoice> choices = ChoicesWith(kind);
     Clear();
-    m_choices.Change(KrChoices::With(m_choices.Current(), choice));
+    m_choices.Change(choices);
 }
 
 qint64 KrFollowControls::CurrentFrame() const

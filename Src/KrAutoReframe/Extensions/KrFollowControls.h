@@ -69,6 +69,8 @@ private:
     void HandleGuess();
     void OpenMenu(const QPoint& global);
     QAction* AddAction(QMenu& menu, const QString& text, KxAutoReframeChoice::Kind kind);
+    /// The person's choices with this one for the shot, about what is in the box.
+    QList<KxAutoReframeChoice> ChoicesWith(KxAutoReframeChoice::Kind kind) const;
     void Choose(KxAutoReframeChoice::Kind kind);
     qint64 CurrentFrame() const;
     double SecondsOf(qint64 frame) const;

@@ -233,6 +233,20 @@ TEST_F(KrFollowControlsTest, ABoxThatWasDrawnIsFollowedWhateverIsInIt)
     EXPECT_EQ(Menu()->actions().first()->text(), QStringLiteral("Follow This"));
 }
 
+TEST_F(KrFollowControlsTest, BackToAutomaticIsOfferedWhereSomethingWasChosen)
+{
+    Drag(At(0.2, 0.3), At(0.4, 0.7));
+    ASSERT_NE(Menu(), nullptr);
+    EXPECT_FALSE(Menu()->actions().last()->isEnabled());
+    Choose(QStringLiteral("Follow This"));
+    ASSERT_EVENTUALLY(HasDecided() && Menu() == nullptr);
+    Drag(At(0.2, 0.3), At(0.4, 0.7));
+    ASSERT_NE(Menu(), nullptr);
+    EXPECT_EQ(Menu()->actions().last()->text(), QStringLiteral("Back to Automatic"));
+    EXPECT_TRUE(Menu()->actions().last()->isEnabled());
+    Menu()->close();
+}
+
 TEST_F(KrFollowControlsTest, TheSliderShowsWhereWhatIsFollowedWasLost)
 {
     taking.losses = {{60, 79}};
