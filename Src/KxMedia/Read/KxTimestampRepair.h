@@ -24,6 +24,7 @@ public:
     std::optional<qint64> Repair(std::optional<qint64> ticks);
     /// After a seek.
     void Reset() { m_last.reset(); }
+    bool IsReset() const { return !m_last; }
 
 private:
     qint64 m_stepTicks;

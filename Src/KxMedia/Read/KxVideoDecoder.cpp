@@ -185,11 +185,13 @@ std::optional<qint64> KxVideoDecoder::TimeOf(const AVFrame& frame)
 {
     if (m_clock == Clock::Unknown) {
         m_clock = frame.pts != AV_NOPTS_VALUE ? Clock::Presentation : Clock::Decoding;
-        if (m_clock == Clock::Decoding && frame.pkt_dts == AV_NOPTS_VALUE) {
-            return m_firstPacketTicks;
-        }
     }
-    return Known(m_clock == Clock::Presentation ? frame.pts : frame.pkt_dts);
+    if (m_clock == Clock::Presentation) {
+        return Known(frame.pts);
+    }
+    // At the end of the packets, the decoder releases pictures without a time.
+    const bool isFirst = m_isAtStart && m_repair.IsReset();
+    return frame.pkt_dts == AV_NOPTS_VALUE && isFirst ? m_firstPacketTicks : Known(frame.pkt_dts);
 }
 
 bool KxVideoDecoder::Accept(Picture& picture)

@@ -238,6 +238,22 @@ TEST(KxVideoReader, DeliversTheRestOfATruncatedFile)
     EXPECT_EQ(ReadNumber(*reader, 150), last);
 }
 
+// The decoder releases all pictures at the end, where no packet gives them a time.
+TEST(KxVideoReader, ReadsAStreamThatIsShorterThanTheDelayOfItsDecoder)
+{
+    for (const char* name : {"oneonly.avi", "onlytwo.h264"}) {
+        SCOPED_TRACE(name);
+        const int frames = QByteArray(name) == "oneonly.avi" ? 1 : 2;
+        ASSERT_TRUE(MadeVideo::Make(Path(QLatin1String(name)), H264(frames)));
+        const auto reader = ReadClips::OpenReader(Path(QLatin1String(name)));
+        ASSERT_NE(reader, nullptr);
+        ASSERT_EQ(reader->Facts().video->frameCount, frames);
+        for (const int frame : {frames - 1, 0, frames - 1}) {
+            EXPECT_EQ(ReadNumber(*reader, frame), frame);
+        }
+    }
+}
+
 TEST(KxVideoReader, SurvivesADamagedMiddle)
 {
     const QString whole = Path(QStringLiteral("todamage.mkv"));
