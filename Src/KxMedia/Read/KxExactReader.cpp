@@ -140,7 +140,8 @@ KxReadStatus KxExactReader::DecodeUpTo(qint64 frame, SkipPolicy policy)
     const KxFrameGrid& grid = m_source->Grid();
     const qint64 fullFrames = static_cast<qint64>(FullBeforeSeconds * grid.Rate().ToDouble()) + FewFrames;
     m_isAtStart = false;
-    while (m_ahead.IsNull() || m_ahead.Index() <= frame) {
+    // Where a seek changes the times of the first pictures, frames before them show the first one.
+    while (m_current.IsNull() || m_ahead.IsNull() || m_ahead.Index() <= frame) {
         if (m_isUnwanted && m_isUnwanted()) {
             return KxReadStatus::Cancelled;
         }
