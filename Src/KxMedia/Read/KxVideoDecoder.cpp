@@ -96,6 +96,8 @@ KxError KxVideoDecoder::Restart(Effort effort)
         return codec.Message();
     }
     m_codec = std::move(*codec);
+    m_skip = Skip::Nothing;
+    m_maySkip = true;
     Flush(Place::Start);
     return std::nullopt;
 }
@@ -159,6 +161,9 @@ KxReadStatus KxVideoDecoder::Feed()
         return avcodec_send_packet(m_codec.get(), nullptr) >= 0 ? KxReadStatus::Delivered : KxReadStatus::End;
     }
     const std::optional<qint64> ticks = Known(m_packet->pts != AV_NOPTS_VALUE ? m_packet->pts : m_packet->dts);
+    if (m_guessedClock == Clock::Unknown) {
+        m_guessedClock = m_packet->pts != AV_NOPTS_VALUE ? Clock::Presentation : Clock::Decoding;
+    }
     m_lastPacketTicks = ticks;
     if (!m_firstPacketTicks) {
         m_firstPacketTicks = ticks;
@@ -167,10 +172,11 @@ KxReadStatus KxVideoDecoder::Feed()
         m_landingTicks = Known(m_packet->pts);
     }
     m_maySkip = m_maySkip && (!m_longestSkip || m_packetsSincePicture <= *m_longestSkip);
-    const bool isSkipping = m_maySkip && m_skip == Skip::NonReference && m_clock == Clock::Presentation;
+    const Clock clock = m_clock != Clock::Unknown ? m_clock : m_guessedClock;
+    const bool isSkipping = m_maySkip && m_skip == Skip::NonReference && clock == Clock::Presentation;
     m_codec->skip_frame = isSkipping ? AVDISCARD_NONREF : AVDISCARD_DEFAULT;
-    if (isSkipping && ticks && (!m_latestSkippableTicks || *ticks > *m_latestSkippableTicks)) {
-        m_latestSkippableTicks = ticks;
+    if (isSkipping && ticks) {
+        NoteSkippable(*ticks);
     }
     const int result = avcodec_send_packet(m_codec.get(), m_packet.get());
     av_packet_unref(m_packet.get());
@@ -179,6 +185,24 @@ KxReadStatus KxVideoDecoder::Feed()
         return KxReadStatus::Failed;
     }
     return KxReadStatus::Delivered;
+}
+
+void KxVideoDecoder::NoteSkippable(qint64 ticks)
+{
+    // Pictures that the container excludes are never delivered.
+    const bool isExcluded = (m_packet->flags & AV_PKT_FLAG_DISCARD) != 0;
+    if (!isExcluded) {
+        m_earliestSkippableTicks = std::min(ticks, m_earliestSkippableTicks.value_or(ticks));
+    }
+    m_latestSkippableTicks = std::max(ticks, m_latestSkippableTicks.value_or(ticks));
+}
+
+bool KxVideoDecoder::MayHaveSkippedWrongly(qint64 ticks) const
+{
+    if (m_skip == Skip::Nothing) {
+        return false;
+    }
+    return m_clock != m_guessedClock || (m_earliestSkippableTicks && *m_earliestSkippableTicks < ticks);
 }
 
 std::optional<qint64> KxVideoDecoder::TimeOf(const AVFrame& frame)
@@ -217,6 +241,7 @@ void KxVideoDecoder::Flush(Place place)
     m_isAtStart = place == Place::Start;
     m_errorsInARow = 0;
     m_packetsSincePicture = -Latency();
+    m_earliestSkippableTicks.reset();
     m_latestSkippableTicks.reset();
     m_lastPacketTicks.reset();
     m_landingTicks.reset();

@@ -10,8 +10,9 @@ class KXMEDIA_API KxVideoDecoder
 public:
     enum class Effort {
         Full,
-        SkipLoopFilter, ///< slightly lower picture quality
-        FirstPicture,   ///< for facts: one thread, so that no picture is decoded ahead
+        SkipLoopFilter,   ///< slightly lower picture quality
+        SkipNonReference, ///< for a scan: the same, and at usual rates without pictures that no other refers to
+        FirstPicture,     ///< for facts: one thread, so that no picture is decoded ahead
     };
     enum class Skip {
         Nothing,
@@ -26,7 +27,8 @@ public:
 
     /// On failure, returns a clause to append to the caller's message. `packets` is borrowed.
     static KxResult<std::unique_ptr<KxVideoDecoder>> Open(KxVideoPackets& packets, Effort effort);
-    /// Decodes with another effort from now on. Call after the packets were moved to their start.
+    /// Decodes with another effort from now on. Skips nothing until SetSkip(). Call after the packets were moved to
+    /// their start.
     KxError Restart(Effort effort);
 
     KxReadStatus Next(Picture& picture);
@@ -34,11 +36,15 @@ public:
     /// Call after the packets were moved to `place`.
     void Flush(Place place);
     /// Applies from the next packet on. Without presentation times, nothing is skipped: the times of the pictures would
-    /// shift.
+    /// shift. Whether there are any is guessed from the first packet until the first picture is there.
     void SetSkip(Skip skip);
     /// Skipping ends for good once more than `packets` packets yield no picture: some streams consist of non-reference
     /// pictures only.
     void SetLongestSkip(int packets) { m_longestSkip = packets; }
+
+    /// Call after the first picture, whose time is `ticks`: an earlier one may have been skipped, or the guess about
+    /// presentation times was wrong.
+    bool MayHaveSkippedWrongly(qint64 ticks) const;
 
     /// The latest time of a packet that was sent while pictures were skipped, since the last Flush().
     std::optional<qint64> LatestSkippableTicks() const { return m_latestSkippableTicks; }
@@ -56,6 +62,7 @@ private:
     bool CountError();
     /// Number of packets that the decoder consumes before it delivers its first picture.
     int Latency() const;
+    void NoteSkippable(qint64 ticks);
     bool Accept(Picture& picture);
     std::optional<qint64> TimeOf(const AVFrame& frame);
 
@@ -64,6 +71,8 @@ private:
     KxAvPacket m_packet;
     KxTimestampRepair m_repair;
     Clock m_clock = Clock::Unknown;
+    /// What the first packet suggests.
+    Clock m_guessedClock = Clock::Unknown;
     Skip m_skip = Skip::Nothing;
     std::optional<int> m_longestSkip;
     bool m_maySkip = true;
@@ -71,6 +80,7 @@ private:
     bool m_isAtStart = true;
     int m_errorsInARow = 0;
     int m_packetsSincePicture; ///< negative while the decoder fills
+    std::optional<qint64> m_earliestSkippableTicks;
     std::optional<qint64> m_latestSkippableTicks;
     std::optional<qint64> m_lastPacketTicks;
     std::optional<qint64> m_landingTicks;

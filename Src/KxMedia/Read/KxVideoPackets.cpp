@@ -117,6 +117,7 @@ KxReadStatus KxVideoPackets::Prepare()
             return KxReadStatus::Failed;
         }
     }
+    m_isMarking = true;
     return KxReadStatus::Delivered;
 }
 
@@ -160,6 +161,7 @@ void KxVideoPackets::NoteWalkedPacket(const AVPacket& packet)
 
 std::optional<KxVideoPackets::Tail> KxVideoPackets::FindTail()
 {
+    m_isMarking = false;
     if (m_walkedTail) {
         return m_walkedTail;
     }
@@ -227,6 +229,15 @@ KxReadStatus KxVideoPackets::ReadRaw(AVPacket& packet)
 }
 
 KxReadStatus KxVideoPackets::Next(AVPacket& packet)
+{
+    const KxReadStatus status = ReadNext(packet);
+    if (status == KxReadStatus::Delivered && m_isMarking) {
+        m_marks.push_back(MarkOf(packet));
+    }
+    return status;
+}
+
+KxReadStatus KxVideoPackets::ReadNext(AVPacket& packet)
 {
     if (m_pushedBack) {
         av_packet_move_ref(&packet, m_pushedBack.get());

@@ -56,6 +56,12 @@ public:
     KxReadStatus Next(AVPacket& packet);
     /// Returns to the first packet. False if the file could not be opened again.
     bool Rewind();
+    /// The same, always by opening the file again: some demuxers leave packets out after a seek. Resume() is then
+    /// impossible.
+    bool Reopen();
+    /// Returns to where FindTail() was called. False, with an undefined position, if the packets before it are not
+    /// those that were read the first time.
+    bool Resume();
     /// Seeks to the last key frame at or before `ticks`, as far as the container knows it. False if that is impossible.
     bool Seek(qint64 ticks);
     /// The time of the last key frame at or before `ticks`; empty if unknown.
@@ -69,6 +75,16 @@ private:
         qint64 offsetTicks = 0;
     };
 
+    /// What identifies a packet that is read again.
+    struct Mark {
+        qint64 presentationTicks = 0;
+        qint64 ticks = 0;
+        int size = 0;
+    };
+
+    void ResetToStart();
+    KxReadStatus ReadNext(AVPacket& packet);
+    static Mark MarkOf(const AVPacket& packet);
     KxReadStatus ReadRaw(AVPacket& packet);
     bool OpenAgain(KxInputFile::Tracks tracks);
     void PutTimes(AVPacket& packet);
@@ -100,4 +116,7 @@ private:
     };
     std::optional<FirstPacket> m_firstPacket;
     KxAvPacket m_pushedBack;
+    /// Of all packets between Prepare() and FindTail().
+    std::vector<Mark> m_marks;
+    bool m_isMarking = false;
 };

@@ -12,12 +12,47 @@ bool KxVideoPackets::IsFirstPacket(const AVPacket& packet) const
            (m_isCounted || TimeOf(packet) == m_firstPacket->ticks);
 }
 
-bool KxVideoPackets::Rewind()
+KxVideoPackets::Mark KxVideoPackets::MarkOf(const AVPacket& packet)
+{
+    return {packet.pts, TimeOf(packet), packet.size};
+}
+
+void KxVideoPackets::ResetToStart()
 {
     m_pushedBack.reset();
     m_waitsForKeyFrame = false;
     m_halfFrames = 0;
     m_join.Reset(0);
+}
+
+bool KxVideoPackets::Reopen()
+{
+    ResetToStart();
+    m_isMarking = false;
+    m_marks.clear();
+    return OpenAgain(m_input->ReadTracks());
+}
+
+bool KxVideoPackets::Resume()
+{
+    const KxAvPacket packet(av_packet_alloc());
+    if (m_marks.empty() || !packet || !Rewind()) {
+        return false;
+    }
+    return std::all_of(m_marks.begin(), m_marks.end(), [&](const Mark& mark) {
+        av_packet_unref(packet.get());
+        if (Next(*packet) != KxReadStatus::Delivered) {
+            return false;
+        }
+        const Mark again = MarkOf(*packet);
+        return again.presentationTicks == mark.presentationTicks && again.ticks == mark.ticks &&
+               again.size == mark.size;
+    });
+}
+
+bool KxVideoPackets::Rewind()
+{
+    ResetToStart();
     if (!m_firstPacket) {
         return true;
     }

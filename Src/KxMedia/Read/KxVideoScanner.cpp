@@ -7,11 +7,6 @@
 namespace
 {
 
-// Skipped pictures must not leave gaps of more than a quarter of a second in the analysis: streams that consist mostly
-// of non-reference pictures are decoded completely.
-constexpr int LargestHolesASecond = 4;
-// The analysis takes ten samples a second, and skipping leaves about half of the pictures.
-constexpr double LowestRateToSkip = 20.0;
 // The least that a truncated file lacks. A smaller loss may be due to skipping the last pictures.
 constexpr double EarlyEndSeconds = 0.5;
 
@@ -23,11 +18,6 @@ public:
     explicit Impl(std::unique_ptr<KxVideoSource> videoSource)
         : source(std::move(videoSource))
     {
-        const double rate = source->Grid().Rate().ToDouble();
-        if (rate >= LowestRateToSkip) {
-            source->Decoder().SetLongestSkip(static_cast<int>(rate / LargestHolesASecond));
-            source->Decoder().SetSkip(KxVideoDecoder::Skip::NonReference);
-        }
     }
 
     /// Tries to continue at a key frame that is displayed at or before `frame`, and fetches the picture there.
@@ -53,12 +43,12 @@ KxVideoScanner::~KxVideoScanner() = default;
 
 KxResult<std::unique_ptr<KxVideoScanner>> KxVideoScanner::Open(const QString& path, const KxCancelToken& cancel)
 {
-    return Of(KxVideoSource::Open(path, cancel, KxVideoDecoder::Effort::SkipLoopFilter));
+    return Of(KxVideoSource::Open(path, cancel, KxVideoDecoder::Effort::SkipNonReference));
 }
 
 KxResult<std::unique_ptr<KxVideoScanner>> KxVideoScanner::Open(std::unique_ptr<KxInputFile> input)
 {
-    return Of(KxVideoSource::Open(std::move(input), KxVideoDecoder::Effort::SkipLoopFilter));
+    return Of(KxVideoSource::Open(std::move(input), KxVideoDecoder::Effort::SkipNonReference));
 }
 
 KxResult<std::unique_ptr<KxVideoScanner>> KxVideoScanner::Of(KxResult<std::unique_ptr<KxVideoSource>> source)
@@ -82,11 +72,11 @@ KxMediaClock KxVideoScanner::Clock() const
 void KxVideoScanner::SkipTo(qint64 frame)
 {
     Impl& impl = *m_impl;
-    if (!Clock().jumps) {
-        return;
-    }
     // A second, then more: a container without an index lands anywhere.
     const auto second = static_cast<qint64>(impl.source->Grid().Rate().ToDouble()) + 1;
+    if (!Clock().jumps || frame <= second) {
+        return;
+    }
     for (qint64 back = second; back < frame; back *= 4) {
         if (impl.Land(frame - back)) {
             return;

@@ -23,6 +23,12 @@ QString CancelledReason()
     return Texts::tr("it was cancelled");
 }
 
+// Skipped pictures must not leave gaps of more than a quarter of a second in the analysis: streams that consist mostly
+// of non-reference pictures are decoded completely.
+constexpr int LargestHolesASecond = 4;
+// The analysis takes ten samples a second, and skipping leaves about half of the pictures.
+constexpr double LowestRateToSkip = 20.0;
+
 } // namespace
 
 KxResult<std::unique_ptr<KxVideoSource>> KxVideoSource::Open(const QString& path, const KxCancelToken& cancel,
@@ -58,26 +64,27 @@ KxError KxVideoSource::Prepare(std::unique_ptr<KxInputFile> input, KxVideoDecode
     if (const KxReadStatus status = m_packets->Prepare(); status != KxReadStatus::Delivered) {
         return status == KxReadStatus::Cancelled ? CancelledReason() : Texts::tr("it is damaged");
     }
+    // Only a scan is sure to continue after the first picture. A seek would wait for what is decoded ahead.
+    const bool isScan = effort == KxVideoDecoder::Effort::SkipNonReference;
     KxResult<std::unique_ptr<KxVideoDecoder>> decoder =
-        KxVideoDecoder::Open(*m_packets, KxVideoDecoder::Effort::FirstPicture);
+        KxVideoDecoder::Open(*m_packets, isScan ? effort : KxVideoDecoder::Effort::FirstPicture);
     if (!decoder) {
         return decoder.Message();
     }
     m_decoder = std::move(*decoder);
+    m_facts.video.emplace();
+    m_facts.video->frameRate = rate;
 
     KxVideoDecoder::Picture first;
-    const KxReadStatus status = m_decoder->Next(first);
+    const KxReadStatus status = DecodeFirst(effort, first);
     if (status != KxReadStatus::Delivered) {
         return status == KxReadStatus::Cancelled ? CancelledReason()
                                                  : Texts::tr("no picture of it can be decoded, it is damaged");
     }
     const AVRational base = m_packets->TimeBase();
     m_grid.emplace(rate, KxRational{base.num, base.den}, first.ticks);
-    const qint64 firstTicks = first.ticks;
-    m_facts.video.emplace();
-    m_facts.video->frameRate = rate;
-    m_facts.video->resolution = MakeFrame(std::move(first)).DisplayedSize();
-    if (KxError reason = MeasureLength(firstTicks)) {
+    m_facts.video->resolution = DisplayedSizeOf(*first.frame);
+    if (KxError reason = MeasureLength(first.ticks)) {
         return reason;
     }
     if (IsStillPicture()) {
@@ -87,13 +94,56 @@ KxError KxVideoSource::Prepare(std::unique_ptr<KxInputFile> input, KxVideoDecode
     if (effort != KxVideoDecoder::Effort::FirstPicture) {
         m_packets->LeaveOutSound();
     }
-    if (!Rewind()) {
-        return Texts::tr("it cannot be read from the start again");
-    }
     if (effort == KxVideoDecoder::Effort::Full) {
         m_deinterlacer.emplace();
     }
-    return effort == KxVideoDecoder::Effort::FirstPicture ? KxError() : m_decoder->Restart(effort);
+    if (isScan && m_packets->Resume()) {
+        m_first = std::move(first);
+        return std::nullopt;
+    }
+    return StartAgain(effort);
+}
+
+KxReadStatus KxVideoSource::DecodeFirst(KxVideoDecoder::Effort effort, KxVideoDecoder::Picture& first)
+{
+    const bool isSkipping = StartSkipping(effort);
+    const KxReadStatus status = m_decoder->Next(first);
+    const bool mayBeWrong =
+        isSkipping && (status != KxReadStatus::Delivered || m_decoder->MayHaveSkippedWrongly(first.ticks));
+    if (!mayBeWrong || status == KxReadStatus::Cancelled) {
+        return status;
+    }
+    if (!m_packets->Reopen()) {
+        return KxReadStatus::Failed;
+    }
+    KxResult<std::unique_ptr<KxVideoDecoder>> decoder =
+        KxVideoDecoder::Open(*m_packets, KxVideoDecoder::Effort::FirstPicture);
+    if (!decoder) {
+        return KxReadStatus::Failed;
+    }
+    m_decoder = std::move(*decoder);
+    return m_decoder->Next(first);
+}
+
+bool KxVideoSource::StartSkipping(KxVideoDecoder::Effort effort)
+{
+    const double rate = m_facts.video->frameRate.ToDouble();
+    if (effort != KxVideoDecoder::Effort::SkipNonReference || rate < LowestRateToSkip) {
+        return false;
+    }
+    m_decoder->SetLongestSkip(static_cast<int>(rate / LargestHolesASecond));
+    m_decoder->SetSkip(KxVideoDecoder::Skip::NonReference);
+    return true;
+}
+
+KxError KxVideoSource::StartAgain(KxVideoDecoder::Effort effort)
+{
+    if (!Rewind()) {
+        return Texts::tr("it cannot be read from the start again");
+    }
+    KxError reason = m_decoder->Restart(effort);
+    StartSkipping(effort);
+    return reason;
 }
 
 KxError KxVideoSource::MeasureLength(qint64 firstTicks)
@@ -145,6 +195,7 @@ bool KxVideoSource::IsStillPicture() const
 
 void KxVideoSource::Flush(KxVideoDecoder::Place place)
 {
+    m_first.reset();
     m_decoder->Flush(place);
     if (m_deinterlacer) {
         m_deinterlacer->Reset();
@@ -163,6 +214,16 @@ bool KxVideoSource::Seek(qint64 ticks)
     return m_packets->Seek(ticks);
 }
 
+KxReadStatus KxVideoSource::NextDecoded(KxVideoDecoder::Picture& picture)
+{
+    if (!m_first) {
+        return m_decoder->Next(picture);
+    }
+    picture = std::move(*m_first);
+    m_first.reset();
+    return KxReadStatus::Delivered;
+}
+
 KxReadStatus KxVideoSource::NextWhole(KxVideoDecoder::Picture& picture)
 {
     for (;;) {
@@ -171,7 +232,7 @@ KxReadStatus KxVideoSource::NextWhole(KxVideoDecoder::Picture& picture)
             return KxReadStatus::Delivered;
         }
         KxVideoDecoder::Picture decoded;
-        const KxReadStatus status = m_decoder->Next(decoded);
+        const KxReadStatus status = NextDecoded(decoded);
         if (status == KxReadStatus::Delivered) {
             m_deinterlacer->Add(std::move(decoded));
         } else if (status == KxReadStatus::Cancelled || !m_deinterlacer->End()) {
@@ -183,19 +244,23 @@ KxReadStatus KxVideoSource::NextWhole(KxVideoDecoder::Picture& picture)
 KxReadStatus KxVideoSource::Next(KxVideoFrame& picture)
 {
     KxVideoDecoder::Picture decoded;
-    const KxReadStatus status = m_deinterlacer ? NextWhole(decoded) : m_decoder->Next(decoded);
+    const KxReadStatus status = m_deinterlacer ? NextWhole(decoded) : NextDecoded(decoded);
     if (status == KxReadStatus::Delivered) {
         picture = MakeFrame(std::move(decoded));
     }
     return status;
 }
 
-KxVideoFrame KxVideoSource::MakeFrame(KxVideoDecoder::Picture picture) const
+QSize KxVideoSource::DisplayedSizeOf(AVFrame& frame) const
 {
     const AVRational pixelShape =
-        av_guess_sample_aspect_ratio(&m_packets->Input().Context(), &m_packets->Stream(), picture.frame.get());
-    const QSize size = KxDisplayedSize({picture.frame->width, picture.frame->height},
-                                       KxRational{pixelShape.num, pixelShape.den}, m_orientation);
+        av_guess_sample_aspect_ratio(&m_packets->Input().Context(), &m_packets->Stream(), &frame);
+    return KxDisplayedSize({frame.width, frame.height}, KxRational{pixelShape.num, pixelShape.den}, m_orientation);
+}
+
+KxVideoFrame KxVideoSource::MakeFrame(KxVideoDecoder::Picture picture) const
+{
+    const QSize size = DisplayedSizeOf(*picture.frame);
     const qint64 index = m_grid->IndexOf(picture.ticks);
     return KxVideoFrame(std::shared_ptr<const AVFrame>(std::move(picture.frame)), index, m_orientation, size);
 }

@@ -12,8 +12,9 @@
 class KxVideoSource
 {
 public:
-    /// Decodes the first picture, finds the end and returns to the start. Fails if `input` has no video stream. With
-    /// the effort for the first picture, only the facts are of use.
+    /// Decodes the first picture and finds the end. With the effort of a scan, Next() continues after that picture,
+    /// otherwise at the start. Fails if `input` has no video stream. With the effort for the first picture, only the
+    /// facts are of use.
     static KxResult<std::unique_ptr<KxVideoSource>> Open(std::unique_ptr<KxInputFile> input,
                                                          KxVideoDecoder::Effort effort);
     static KxResult<std::unique_ptr<KxVideoSource>> Open(const QString& path, const KxCancelToken& cancel,
@@ -41,14 +42,23 @@ public:
 private:
     KxVideoSource() = default;
     KxError Prepare(std::unique_ptr<KxInputFile> input, KxVideoDecoder::Effort effort);
+    /// The first picture as it is if none is skipped.
+    KxReadStatus DecodeFirst(KxVideoDecoder::Effort effort, KxVideoDecoder::Picture& first);
+    /// False if nothing is to be skipped.
+    bool StartSkipping(KxVideoDecoder::Effort effort);
+    KxError StartAgain(KxVideoDecoder::Effort effort);
     KxError MeasureLength(qint64 firstTicks);
     bool IsStillPicture() const;
     void Flush(KxVideoDecoder::Place place);
+    KxReadStatus NextDecoded(KxVideoDecoder::Picture& picture);
     KxReadStatus NextWhole(KxVideoDecoder::Picture& picture);
+    QSize DisplayedSizeOf(AVFrame& frame) const;
     KxVideoFrame MakeFrame(KxVideoDecoder::Picture picture) const;
 
     std::unique_ptr<KxVideoPackets> m_packets;
     std::unique_ptr<KxVideoDecoder> m_decoder;
+    /// Decoded at opening; empty if it was delivered, the position changed, or decoding begins again.
+    std::optional<KxVideoDecoder::Picture> m_first;
     /// Empty if pictures may stay interlaced.
     std::optional<KxDeinterlacer> m_deinterlacer;
     std::optional<KxFrameGrid> m_grid;

@@ -1,3 +1,6 @@
+#include <KxMedia/Read/KxMediaProbe.h>
+#include <KxMedia/Read/KxVideoScanner.h>
+
 #include <Tests/KxMedia/Read/ReadClips.h>
 
 #include <QFile>
@@ -10,11 +13,12 @@ using ReadClips::Words;
 namespace
 {
 
-QString Made(const char* name, int frames, const char* output)
+QString Made(const char* name, int frames, const char* output, int rate = 25)
 {
     MadeVideo::Recipe recipe;
     recipe.size = {96, 64};
     recipe.frames = frames;
+    recipe.rate = QString::number(rate);
     recipe.output = Words(output);
     MadeVideo::Make(Path(QLatin1String(name)), recipe);
     return Path(QLatin1String(name));
@@ -39,35 +43,101 @@ void MarkGroupsAsClosed(const QString& path)
 }
 
 // Begins with two non-reference pictures that come after the first key frame in the file.
-QString CutBeforeAKeyFrame(const char* name)
+QString CutBeforeAKeyFrame(const char* name, int rate = 25)
 {
-    const QString whole = Made("uncut.ts", 96, "-c:v mpeg2video -q:v 3 -g 12 -bf 2 -b_strategy 0");
+    const QString whole = Made("uncut.ts", 96, "-c:v mpeg2video -q:v 3 -g 12 -bf 2 -b_strategy 0", rate);
     const QString cut = Path(QStringLiteral("cut.ts"));
-    MadeVideo::RunFfmpeg(Words("-ss 0.5 -i") << whole << Words("-c copy") << cut);
+    MadeVideo::RunFfmpeg(Words("-ss") << QString::number(12.5 / rate) << Words("-i") << whole << Words("-c copy")
+                                      << cut);
     const QString path = Path(QLatin1String(name));
     MadeVideo::RunFfmpeg(Words("-i") << cut << Words("-c copy") << path);
     MarkGroupsAsClosed(path);
     return path;
 }
 
+void ExpectTheSameFacts(const KxMediaFacts& a, const KxMediaFacts& b)
+{
+    EXPECT_EQ(a.video->frameCount, b.video->frameCount);
+    EXPECT_EQ(a.video->firstPictureUs, b.video->firstPictureUs);
+    EXPECT_EQ(a.video->resolution, b.video->resolution);
+}
+
+// Of a frame; 0 if it cannot be read.
+uint CheckSum(KxVideoReader& reader, qint64 frame)
+{
+    KxVideoFrame picture;
+    const bool isThere = reader.Read(frame, picture) == KxReadStatus::Delivered && !picture.IsNull();
+    return isThere ? ReadClips::CheckSum(picture) : 0U;
+}
+
 } // namespace
+
+// It is decoded once: at opening. Nothing is read after a cancel.
+TEST(KxVideoSource, TheFirstPictureIsThereOnceTheFileIsOpen)
+{
+    for (const char* name : {"opened.mp4", "opened.mkv", "opened.ts", "opened.avi", "opened.h264"}) {
+        SCOPED_TRACE(name);
+        KxCancelToken cancel;
+        const auto scanner = KxVideoScanner::Open(Made(name, 40, "-c:v libx264 -bf 2 -pix_fmt yuv420p"), cancel);
+        ASSERT_TRUE(scanner) << scanner.Message().toStdString();
+        cancel.Cancel();
+        KxVideoFrame picture;
+        ASSERT_EQ((*scanner)->Next(picture), KxReadStatus::Delivered);
+        EXPECT_EQ(picture.Index(), 0);
+        EXPECT_EQ(ReadClips::NumberOf(picture), 0);
+    }
+}
+
+// The scanner skips the picture that is displayed first.
+TEST(KxVideoSource, BeginsWithAPictureThatNoOtherRefersTo)
+{
+    for (const char* name : {"leading.ts", "leading.mkv"}) {
+        SCOPED_TRACE(name);
+        const QString path = CutBeforeAKeyFrame(name);
+        const auto facts = KxProbeMedia(path, KxCancelToken());
+        const auto scanner = KxVideoScanner::Open(path, KxCancelToken());
+        const auto reader = KxVideoReader::Open(path, KxCancelToken());
+        ASSERT_TRUE(facts && scanner && reader);
+        EXPECT_EQ(facts->video->frameCount, 86);
+        ExpectTheSameFacts((*scanner)->Facts(), *facts);
+        ExpectTheSameFacts((*reader)->Facts(), *facts);
+        KxVideoFrame picture;
+        ASSERT_EQ((*scanner)->Next(picture), KxReadStatus::Delivered);
+        EXPECT_EQ(picture.Index(), 2);
+    }
+}
 
 // After a seek, the demuxer of Matroska gives other times to the packets of such a file.
 TEST(KxVideoSource, AFrameBeforeTheFirstPictureShowsIt)
 {
     const auto reader = ReadClips::OpenReader(CutBeforeAKeyFrame("differently.mkv"));
     ASSERT_NE(reader, nullptr);
-    const auto checkSum = [&reader](int frame) {
-        KxVideoFrame picture;
-        const bool isThere = reader->Read(frame, picture) == KxReadStatus::Delivered && !picture.IsNull();
-        return isThere ? ReadClips::CheckSum(picture) : 0U;
-    };
     std::vector<uint> sums;
     for (int frame = 0; frame < 20; ++frame) {
-        sums.push_back(checkSum(frame));
+        sums.push_back(CheckSum(*reader, frame));
         EXPECT_NE(sums.back(), 0U) << frame;
     }
     for (const int frame : {80, 0, 19, 3, 1, 4, 2}) {
-        EXPECT_TRUE(frame >= 20 ? checkSum(frame) != 0 : checkSum(frame) == sums[static_cast<size_t>(frame)]) << frame;
+        const uint sum = CheckSum(*reader, frame);
+        EXPECT_TRUE(frame >= 20 ? sum != 0 : sum == sums[static_cast<size_t>(frame)]) << frame;
     }
+}
+
+// Ten pictures a second, so that none is skipped: what was decoded at opening does not belong to the packets that are
+// read after the seek.
+TEST(KxVideoSource, APassOverPacketsThatHaveChangedBeginsAgain)
+{
+    const QString path = CutBeforeAKeyFrame("again.mkv", 10);
+    const auto scanner = KxVideoScanner::Open(path, KxCancelToken());
+    const auto reader = ReadClips::OpenReader(path);
+    ASSERT_TRUE(scanner && reader);
+    KxVideoFrame picture;
+    int pictures = 0;
+    for (; (*scanner)->Next(picture) == KxReadStatus::Delivered; ++pictures) {
+        KxVideoFrame shown;
+        ASSERT_EQ(reader->Read(picture.Index(), shown), KxReadStatus::Delivered);
+        EXPECT_EQ(shown.Index(), picture.Index());
+        EXPECT_EQ(ReadClips::CheckSum(shown), ReadClips::CheckSum(picture)) << picture.Index();
+    }
+    EXPECT_GT(pictures, 70);
 }
