@@ -76,12 +76,13 @@ bool KxDetectionAnchor::WasBeside(const KxDetection& detection) const
 
 const KxDetection* KxDetectionAnchor::Overlapping(const KxDetectionLook& look, const KxSubjectBox& box) const
 {
-    double most = m_thing ? m_options.stillOverlap : m_options.firstOverlap;
+    double most = m_isRelated ? m_options.stillOverlap : m_options.firstOverlap;
     // Looks are about a second apart, but a look may miss the thing, which comes nearer or goes away meanwhile.
     const double mostGrowth = m_options.stillGrowth * std::max(1.0, std::abs(m_record.SecondsAt(look.frame - m_frame)));
     const KxDetection* best = nullptr;
     for (const KxDetection& detection : look.found) {
-        const double overlap = Overlap(Inside(Mapped(detection)), Inside(box));
+        const KxSubjectBox expected = m_isRelated ? Mapped(detection) : BoxOf(detection);
+        const double overlap = Overlap(Inside(expected), Inside(box));
         const bool isOther = m_thing && (WasBeside(detection) || Growth(*m_thing, detection) > mostGrowth);
         if (overlap >= most && !isOther) {
             most = overlap;
@@ -122,14 +123,16 @@ std::optional<KxSubjectBox> KxDetectionAnchor::Correct(const Tracked& tracked)
     }
     const bool isSeen = tracked.confidence >= m_options.goodConfidence;
     const KxDetection* thing = isSeen ? Overlapping(*look, tracked.box) : nullptr;
-    if (thing == nullptr && m_thing && !(isSeen && m_wasMissed)) {
+    const bool isOverlapping = thing != nullptr;
+    if (!isOverlapping && m_thing && !(isSeen && m_wasMissed)) {
         thing = FoundAgain(*look);
     }
     m_wasMissed = thing == nullptr;
     if (m_wasMissed) {
         return std::nullopt;
     }
-    if (!m_thing) {
+    if (isOverlapping && !m_isRelated) {
+        m_isRelated = true;
         const KxSubjectBox box = BoxOf(*thing);
         m_relation = {(tracked.box.x - box.x) / box.width, (tracked.box.y - box.y) / box.height,
                       tracked.box.width / box.width, tracked.box.height / box.height};

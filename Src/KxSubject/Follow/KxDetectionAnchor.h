@@ -28,9 +28,11 @@ public:
     /// 2. Where there is none, the tracker has lost it or stays on the background: it is the nearest detection of
     ///    about its size. If the look before did not find it, either, a confident tracker knows better.
     /// 3. What was beside the thing at the look before is neither.
-    /// The correction is to the detection what the followed box was to the first one: a person may have drawn more or
-    /// less. Nothing if there was no look at this frame, or no such detection.
+    /// The correction is to the detection what the followed box was to the first one that it overlapped since it was
+    /// drawn: a person may have drawn more or less. Nothing if there was no look at this frame, or no such detection.
     std::optional<KxSubjectBox> Correct(const Tracked& tracked);
+    /// The person has drawn the same thing again.
+    void DrawAgain() { m_isRelated = false; }
 
     /// Whether two boxes overlap so much that correcting one by the other gains nothing.
     static bool AreSame(const KxSubjectBox& a, const KxSubjectBox& b, const KxSubjectOptions::Follow& options);
@@ -54,5 +56,6 @@ private:
     std::int64_t m_frame = 0;                    ///< when that was
     bool m_wasMissed = false;                    ///< by the look before
     KxSubjectBox m_relation{0.0, 0.0, 1.0, 1.0}; ///< of the followed box to the detection, in its sides
+    bool m_isRelated = false;                    ///< that is so of the box that was drawn last
     std::vector<KxDetection> m_bystanders;       ///< beside it at that time
 };

@@ -215,6 +215,7 @@ KxSubjectFollower::Impl::Run KxSubjectFollower::Impl::Started(std::size_t index,
 {
     Seed& seed = m_seeds[index];
     KxDetectionAnchor anchor = before && !seed.startsShot ? before->anchor : KxDetectionAnchor(m_record, m_options);
+    anchor.DrawAgain();
     if (PixelsOf(seed.box).empty()) {
         const std::optional<KxSubjectBox> found = anchor.Around(picture.frame, seed.box.x, seed.box.y);
         seed.box =

@@ -57,6 +57,16 @@ TEST(KxDetectionAnchor, TheCorrectionIsToTheDetectionWhatThePersonDrew)
     ExpectBox(anchor.Correct({25, Box(0.41, 0.15), 1.0}), 0.45, 0.15);
 }
 
+TEST(KxDetectionAnchor, TheCorrectionIsToTheDetectionWhatThePersonDrewLast)
+{
+    const KxSubjectRecord record = Record({{Person(0.3F, 0.2F)}, {Person(0.4F, 0.2F)}, {Person(0.5F, 0.2F)}});
+    KxDetectionAnchor anchor(record, Options);
+    ExpectBox(anchor.Correct({0, Box(0.35, 0.15), 1.0}), 0.35, 0.15);
+    anchor.DrawAgain();
+    ExpectBox(anchor.Correct({25, Box(0.4, 0.19), 1.0}), 0.4, 0.19);
+    ExpectBox(anchor.Correct({50, Box(0.48, 0.19), 1.0}), 0.5, 0.19);
+}
+
 TEST(KxDetectionAnchor, APersonWhoWasDrawnWithTheirBicycleIsRecognised)
 {
     const KxSubjectRecord record = Record({{Person(0.4F)}, {Person(0.5F)}});

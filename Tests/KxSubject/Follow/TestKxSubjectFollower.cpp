@@ -47,6 +47,16 @@ KxSubjectSeed SeedAt(std::int64_t frame)
     return {static_cast<double>(frame) / Rate, {Place(frame) - 15.0 / 320.0, 70.0 / 180.0, 30.0 / 320.0, 40.0 / 180.0}};
 }
 
+KxDetection DetectionIn(const KxSubjectBox& box)
+{
+    return {static_cast<float>(box.x),
+            static_cast<float>(box.y),
+            static_cast<float>(box.width),
+            static_cast<float>(box.height),
+            0.7F,
+            KxDetectionKind::Person};
+}
+
 KxSubjectChoice Follow(const std::vector<KxSubjectSeed>& seeds)
 {
     KxSubjectChoice choice;
@@ -200,6 +210,21 @@ TEST(KxSubjectFollower, ThePersonsOwnBoxIsKeptAtItsFrame)
     ASSERT_NE(at, outcome.track.points.end());
     EXPECT_EQ(at->box.x, wrong.box.x);
     EXPECT_EQ(at->confidence, 1.0F);
+}
+
+TEST(KxSubjectFollower, ABoxThatWasDrawnAgainKeepsItsShapeWhereTheDetectorSeesTheThing)
+{
+    KxSubjectRecord record = Record(120);
+    for (const std::int32_t frame : {0, 30, 60, 90}) {
+        record.looks.push_back({frame, {DetectionIn(SeedAt(frame).box)}});
+    }
+    KxSubjectSeed wide = SeedAt(30);
+    wide.box.x -= 0.5 * wide.box.width;
+    wide.box.width *= 2.0;
+    const KxSubjectSeed second = SeedAt(70);
+    const KxFollowTrack track = FollowThrough(record, Follow({wide, second})).track;
+    ASSERT_EQ(track.points.back().frame, 118);
+    EXPECT_NEAR(track.points.back().box.width, second.box.width, 0.2 * second.box.width);
 }
 
 TEST(KxSubjectFollower, APointBecomesABoxAroundTheThing)
