@@ -11,7 +11,7 @@ namespace
 constexpr quint32 Magic = 0x4B584654; // "KXFT"
 constexpr int ChecksumBytes = 20;
 constexpr int HeaderBytes = 12;
-constexpr int PointBytes = 45;
+constexpr int PointBytes = 46;
 
 QByteArray ChecksumOf(const QByteArray& bytes)
 {
@@ -35,7 +35,7 @@ QByteArray KxFollowTrackFormat::Write(const KxFollowTrack& track)
     stream << Magic << Version << static_cast<quint32>(track.points.size());
     for (const KxFollowTrack::Point& point : track.points) {
         stream << point.frame << point.box.x << point.box.y << point.box.width << point.box.height
-               << static_cast<double>(point.confidence) << point.isDoubted;
+               << static_cast<double>(point.confidence) << point.isDoubted << point.isAmbiguous;
     }
     return bytes + ChecksumOf(bytes);
 }
@@ -61,7 +61,7 @@ std::optional<KxFollowTrack> KxFollowTrackFormat::Read(const QByteArray& bytes)
         KxFollowTrack::Point point;
         double confidence = 0.0;
         stream >> point.frame >> point.box.x >> point.box.y >> point.box.width >> point.box.height >> confidence >>
-            point.isDoubted;
+            point.isDoubted >> point.isAmbiguous;
         point.confidence = static_cast<float>(confidence);
         if (!IsValid(point, frameBefore)) {
             return std::nullopt;

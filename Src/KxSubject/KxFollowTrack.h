@@ -16,6 +16,8 @@ struct KXSUBJECT_API KxFollowTrack {
         KxSubjectBox box;
         float confidence = 0.0F; ///< 0 to 1, the tracker's own
         bool isDoubted = false;  ///< it may have drifted to something else, although it is confident
+        /// After it met another one of its kind, it may be that one, although it rarely is: nothing is shown.
+        bool isAmbiguous = false;
     };
     std::vector<Point> points; ///< growing by frame; some 15 a second in the shots that the choice applies to
 

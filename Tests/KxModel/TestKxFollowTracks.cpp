@@ -68,7 +68,8 @@ bool AreSame(const KxFollowTrack& a, const KxFollowTrack& b)
     return std::equal(a.points.begin(), a.points.end(), b.points.begin(), b.points.end(),
                       [](const KxFollowTrack::Point& one, const KxFollowTrack::Point& other) {
                           return one.frame == other.frame && one.box == other.box &&
-                                 one.confidence == other.confidence && one.isDoubted == other.isDoubted;
+                                 one.confidence == other.confidence && one.isDoubted == other.isDoubted &&
+                                 one.isAmbiguous == other.isAmbiguous;
                       });
 }
 
@@ -87,7 +88,8 @@ protected:
     QTemporaryDir m_folder;
     const KxFollowTrack m_track{{{7, {0.1, 1.0 / 3.0, 0.2, 0.7}, 0.9F},
                                  {9, {-0.05, 0.3, 1e-9, 0.2}, 0.0F},
-                                 {10, {0.1, 0.2, 0.3, 0.4}, 1.0F, true}}};
+                                 {10, {0.1, 0.2, 0.3, 0.4}, 1.0F, true},
+                                 {12, {0.1, 0.2, 0.3, 0.4}, 1.0F, false, true}}};
 };
 
 } // namespace

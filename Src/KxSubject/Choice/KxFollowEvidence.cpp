@@ -135,7 +135,7 @@ double KxFollowEvidence::HeldBy(const std::function<double(std::int64_t frame)>&
 {
     double missed = 0.0;
     for (const std::size_t i : m_good) {
-        if (m_points[i].isDoubted) {
+        if (m_points[i].isDoubted || m_points[i].isAmbiguous) {
             continue;
         }
         const KxSubjectBox& box = m_points[i].box;
@@ -147,7 +147,9 @@ double KxFollowEvidence::HeldBy(const std::function<double(std::int64_t frame)>&
         const double most = std::min(extent, to - from);
         missed += most > 0.0 ? 1.0 - std::max(0.0, std::min(to, left + extent) - std::max(from, left)) / most : 0.0;
     }
-    return 1.0 - missed / static_cast<double>(m_points.size());
+    const auto certain = std::count_if(m_points.begin(), m_points.end(),
+                                       [](const KxFollowTrack::Point& point) { return !point.isAmbiguous; });
+    return 1.0 - missed / static_cast<double>(std::max<std::ptrdiff_t>(1, certain));
 }
 
 double KxFollowEvidence::Holding(double centre, std::int64_t frame, double extent) const

@@ -35,7 +35,8 @@ public:
     std::optional<KxSubjectBox> BoxAt(std::int64_t frame) const;
     /// The mean share of the thing that a crop of an extent around some centres holds, of the most that it can hold.
     /// What is near the edge of the box does not count, since the box is not exact. Where the thing was not seen well
-    /// or the track is doubted, nothing says that the crop does not hold it.
+    /// or the track is doubted, nothing says that the crop does not hold it. Where it is ambiguous, it says nothing at
+    /// all.
     double HeldBy(const std::function<double(std::int64_t frame)>& centreAt, double extent) const;
     /// Whether the extent of the thing is known, since a person drew or confirmed each box.
     bool IsDrawn() const { return m_isDrawn; }

@@ -115,6 +115,14 @@ const KxDetection* KxDetectionAnchor::FoundAgain(const KxDetectionLook& look) co
     return best;
 }
 
+bool KxDetectionAnchor::IsRival(const KxDetection& other, const KxDetection& thing, const KxSubjectBox& box) const
+{
+    const KxSubjectBox before = BoxOf(*m_thing);
+    const double stayed = Overlap(BoxOf(other), before);
+    return Overlap(Inside(Mapped(other)), Inside(box)) >= m_options.stillOverlap ||
+           (stayed >= m_options.stillOverlap && stayed > Overlap(BoxOf(thing), before));
+}
+
 std::optional<KxSubjectBox> KxDetectionAnchor::Correct(const Tracked& tracked)
 {
     const KxDetectionLook* look = LookAt(tracked.frame);
@@ -137,6 +145,9 @@ std::optional<KxSubjectBox> KxDetectionAnchor::Correct(const Tracked& tracked)
         m_relation = {(tracked.box.x - box.x) / box.width, (tracked.box.y - box.y) / box.height,
                       tracked.box.width / box.width, tracked.box.height / box.height};
     }
+    m_isAmbiguous = m_thing && std::any_of(look->found.begin(), look->found.end(), [&](const KxDetection& other) {
+                        return &other != thing && IsRival(other, *thing, tracked.box);
+                    });
     m_bystanders.clear();
     std::copy_if(
         look->found.begin(), look->found.end(), std::back_inserter(m_bystanders),

@@ -31,6 +31,9 @@ public:
     /// The correction is to the detection what the followed box was to the first one that it overlapped since it was
     /// drawn: a person may have drawn more or less. Nothing if there was no look at this frame, or no such detection.
     std::optional<KxSubjectBox> Correct(const Tracked& tracked);
+    /// Whether the last correction may be another one of its kind: one more detection overlaps the tracked box as much
+    /// as the thing's must, or the place of the thing at the look before as much, and more than what was taken for it.
+    bool IsAmbiguous() const { return m_isAmbiguous; }
     /// The person has drawn the same thing again.
     void DrawAgain() { m_isRelated = false; }
 
@@ -46,15 +49,18 @@ private:
     bool WasBeside(const KxDetection& detection) const;
     const KxDetection* Overlapping(const KxDetectionLook& look, const KxSubjectBox& box) const;
     const KxDetection* FoundAgain(const KxDetectionLook& look) const;
+    /// Whether what was tracked may be this one instead of `thing`.
+    bool IsRival(const KxDetection& other, const KxDetection& thing, const KxSubjectBox& box) const;
     /// The box that is to a detection what the followed box was to the first one.
     KxSubjectBox Mapped(const KxDetection& detection) const;
 
     const KxSubjectRecord& m_record;
     KxSubjectOptions::Follow m_options;
     KxSubjectOptions::Detections m_linking;
-    std::optional<KxDetection> m_thing;          ///< as it was detected last
-    std::int64_t m_frame = 0;                    ///< when that was
-    bool m_wasMissed = false;                    ///< by the look before
+    std::optional<KxDetection> m_thing; ///< as it was detected last
+    std::int64_t m_frame = 0;           ///< when that was
+    bool m_wasMissed = false;           ///< by the look before
+    bool m_isAmbiguous = false;
     KxSubjectBox m_relation{0.0, 0.0, 1.0, 1.0}; ///< of the followed box to the detection, in its sides
     bool m_isRelated = false;                    ///< that is so of the box that was drawn last
     std::vector<KxDetection> m_bystanders;       ///< beside it at that time

@@ -80,6 +80,7 @@ private:
         KxDriftCheck drift;
         std::int64_t detectedFrame;             ///< when it was known last where the thing is
         std::optional<std::int64_t> wrongSince; ///< the detector has just found it elsewhere; then that frame
+        bool isAmbiguous = false;               ///< it has met another one, and may be that one
     };
     /// `before`: of an earlier seed in the same shot, which knows what is beside the thing.
     Run Started(std::size_t index, const Picture& picture, const std::optional<Run>& before);
@@ -243,6 +244,7 @@ KxFollowTrack::Point KxSubjectFollower::Impl::Advance(Run& run, const Picture& p
     run.wrongSince.reset();
     if (found) {
         run.wrongSince = IsElsewhere(PixelsOf(*found), tracker.Box()) ? std::optional(run.detectedFrame) : std::nullopt;
+        run.isAmbiguous = run.isAmbiguous || run.anchor.IsAmbiguous();
         run.detectedFrame = picture.frame;
     }
     if (found && !KxDetectionAnchor::AreSame(*found, tracked, m_options.follow)) {
@@ -263,6 +265,7 @@ KxFollowTrack::Point KxSubjectFollower::Impl::Advance(Run& run, const Picture& p
     } else {
         run.drift.Add(picture.frame, picture.pixels, PixelsOf(point.box));
     }
+    point.isAmbiguous = run.isAmbiguous;
     return point;
 }
 

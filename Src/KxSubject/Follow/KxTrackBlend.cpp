@@ -96,6 +96,7 @@ std::vector<Point> KxTrackBlend::Between(const Side& left, const Side& right, co
     BridgeLost(blended, options);
     for (Point& point : blended) {
         point.isDoubted = point.isDoubted && !leftArrives && !rightArrives;
+        point.isAmbiguous = point.isAmbiguous && !leftArrives && !rightArrives;
     }
     return {blended.begin() + 1, blended.end() - 1};
 }

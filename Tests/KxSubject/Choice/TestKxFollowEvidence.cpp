@@ -156,3 +156,16 @@ TEST(KxFollowEvidence, WhereTheTrackIsDoubtedNothingSaysThatTheCropDoesNotHoldTh
     track.points[1].isDoubted = true;
     EXPECT_NEAR(Evidence(track).HeldBy(onTheFirst, 0.2), 1.0, 1e-9);
 }
+
+TEST(KxFollowEvidence, WhereTheTrackIsAmbiguousItSaysNothing)
+{
+    KxFollowTrack track{{Seen(0, 0.1, 1.0F), Seen(10, 0.5, 1.0F), Seen(20, 0.9, 1.0F)}};
+    const auto onTheFirst = [](std::int64_t) { return 0.15; };
+    track.points[2].isAmbiguous = true;
+    EXPECT_NEAR(Evidence(track).HeldBy(onTheFirst, 0.2), 1.0 / 2.0, 1e-9);
+    track.points[1].isAmbiguous = true;
+    EXPECT_NEAR(Evidence(track).HeldBy(onTheFirst, 0.2), 1.0, 1e-9);
+    track.points[1].isAmbiguous = false;
+    track.points[0].isAmbiguous = true;
+    EXPECT_NEAR(Evidence(track).HeldBy(onTheFirst, 0.2), 0.0, 1e-9);
+}

@@ -115,6 +115,24 @@ TEST(KxDetectionAnchor, ABystanderWhoIsPassedIsNotTakenForTheThing)
     ExpectBox(anchor.Correct({25, Box(0.38), 1.0}), 0.48);
 }
 
+TEST(KxDetectionAnchor, WhatMeetsAnotherOneOfItsKindMayBeThatOne)
+{
+    const auto isAmbiguous = [](const std::vector<KxDetection>& found, double trackedLeft) {
+        const KxSubjectRecord record = Record({{Person(0.3F)}, found});
+        KxDetectionAnchor anchor(record, Options);
+        EXPECT_TRUE(anchor.Correct({0, Box(0.3), 1.0}));
+        EXPECT_FALSE(anchor.IsAmbiguous()) << "the person who drew it knows";
+        EXPECT_TRUE(anchor.Correct({25, Box(trackedLeft), 1.0}));
+        return anchor.IsAmbiguous();
+    };
+    EXPECT_FALSE(isAmbiguous({Person(0.6F)}, 0.6));
+    EXPECT_FALSE(isAmbiguous({Person(0.6F), Person(0.66F)}, 0.6)) << "overlaps by a quarter";
+    EXPECT_TRUE(isAmbiguous({Person(0.6F), Person(0.65F)}, 0.6)) << "overlaps by a third";
+    EXPECT_TRUE(isAmbiguous({Person(0.6F), Person(0.26F)}, 0.6)) << "is where it was";
+    EXPECT_FALSE(isAmbiguous({Person(0.6F), Person(0.24F)}, 0.6)) << "is beside where it was";
+    EXPECT_FALSE(isAmbiguous({Person(0.33F), Person(0.26F)}, 0.36)) << "is nearer to where it was";
+}
+
 TEST(KxDetectionAnchor, AfterAMissedLookAConfidentTrackerIsNotSentBack)
 {
     const KxSubjectRecord record = Record({{Person(0.3F)}, {}, {Person(0.32F)}});

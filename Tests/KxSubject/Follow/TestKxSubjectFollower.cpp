@@ -284,6 +284,29 @@ TEST(KxSubjectFollower, WhatTheDetectorFindsElsewhereWasDoubtfulSinceTheLookBefo
     }
 }
 
+TEST(KxSubjectFollower, WhatMeetsItsLikeIsAmbiguousFromThenToTheEnd)
+{
+    KxSubjectRecord record = Record(120);
+    for (const std::int32_t frame : {0, 30, 60, 90}) {
+        record.looks.push_back({frame, {DetectionIn(SeedAt(frame).box)}});
+    }
+    for (const std::size_t meeting : {1U, 2U}) {
+        KxSubjectRecord met = record;
+        KxSubjectBox other = SeedAt(met.looks[meeting].frame).box;
+        other.x += 0.4 * other.width;
+        met.looks[meeting].found.push_back(DetectionIn(other));
+        const bool isBackward = meeting == 1;
+        const std::int64_t seed = isBackward ? 110 : 10;
+        const std::int64_t at = met.looks[meeting].frame;
+        const KxFollowTrack track = FollowThrough(met, Follow({SeedAt(seed)})).track;
+        ASSERT_GT(track.points.size(), 50U);
+        for (const KxFollowTrack::Point& point : track.points) {
+            EXPECT_EQ(point.isAmbiguous, isBackward ? point.frame <= at : point.frame >= at) << point.frame;
+            EXPECT_FALSE(point.isDoubted) << point.frame;
+        }
+    }
+}
+
 TEST(KxSubjectFollower, ATrackThatStaysBehindIsDoubtedFromThatSecondOn)
 {
     const KxFollowTrack track = FollowThroughTurn(Record(60));

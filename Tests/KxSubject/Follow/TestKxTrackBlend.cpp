@@ -78,12 +78,14 @@ TEST(KxTrackBlend, OneSideAloneIsTakenAndTheSeedsAreLeftOut)
     EXPECT_EQ(points[0].box.x, 0.15);
 }
 
-TEST(KxTrackBlend, ASideThatEndsOnTheOtherSeedIsNotDoubted)
+TEST(KxTrackBlend, ASideThatEndsOnTheOtherSeedIsNeitherDoubtedNorAmbiguous)
 {
-    Point doubted = At(75, 0.4, 0.9F);
-    doubted.isDoubted = true;
-    Point arrived = At(98, 0.49, 0.9F);
-    arrived.isDoubted = true;
-    EXPECT_FALSE(Blend({doubted, arrived}, {})[0].isDoubted);
-    EXPECT_TRUE(Blend({doubted}, {})[0].isDoubted);
+    for (const auto mark : {&Point::isDoubted, &Point::isAmbiguous}) {
+        Point marked = At(75, 0.4, 0.9F);
+        marked.*mark = true;
+        Point arrived = At(98, 0.49, 0.9F);
+        arrived.*mark = true;
+        EXPECT_FALSE(Blend({marked, arrived}, {})[0].*mark);
+        EXPECT_TRUE(Blend({marked}, {})[0].*mark);
+    }
 }
