@@ -1,5 +1,7 @@
 #include <KxSubject/KxSubjectRecordFormat.h>
 
+#include <KxSubject/KxSubjectRecordCheck.h>
+
 #include <algorithm>
 #include <cmath>
 #include <cstring>
@@ -10,7 +12,6 @@ namespace
 
 constexpr std::uint32_t Magic = 0x5253584B; // "KXSR"
 constexpr std::size_t ChecksumBytes = 8;
-constexpr int MostPx = 1 << 20;
 constexpr std::size_t MostTextBytes = 255;
 
 /// FNV-1a.
@@ -380,80 +381,6 @@ private:
     bool m_ok = true;
 };
 
-bool IsShare(double from, double length)
-{
-    constexpr double rounding = 1e-9;
-    return from >= 0.0 && length > 0.0 && from + length <= 1.0 + rounding;
-}
-
-bool IsPossible(const KxSubjectSource& source, KxIntSize workingSizePx)
-{
-    const auto isSide = [](int px) { return px > 0 && px <= MostPx; };
-    return isSide(source.pictureWidthPx) && isSide(source.pictureHeightPx) && isSide(workingSizePx.width) &&
-           isSide(workingSizePx.height) && std::isfinite(source.frameRate) && source.frameRate > 0.0 &&
-           source.frameCount >= 0;
-}
-
-template<typename Item>
-bool GrowsInside(const std::vector<Item>& items, const KxSubjectSource& source)
-{
-    std::int64_t last = -1;
-    for (const Item& item : items) {
-        if (item.frame <= last || item.frame >= source.frameCount) {
-            return false;
-        }
-        last = item.frame;
-    }
-    return true;
-}
-
-bool AreMouthsConsistent(const KxSubjectRecord& record)
-{
-    std::int32_t lastFace = -1;
-    for (const KxMouthTrack& mouth : record.mouths) {
-        if (mouth.face <= lastFace || static_cast<std::size_t>(mouth.face) >= record.faces.size() ||
-            !GrowsInside(mouth.looks, record.source)) {
-            return false;
-        }
-        lastFace = mouth.face;
-    }
-    std::int64_t end = 0;
-    for (const KxSoundSpan& span : record.sound) {
-        if (span.first < end) {
-            return false;
-        }
-        end = span.first + static_cast<std::int64_t>(span.levels.size());
-    }
-    return true;
-}
-
-/// Whether the parts fit each other.
-bool IsConsistent(const KxSubjectRecord& record)
-{
-    std::int64_t last = 0;
-    for (const KxShotBoundary& boundary : record.boundaries) {
-        if (boundary.frame <= last || boundary.frame >= record.source.frameCount || boundary.first < 0 ||
-            boundary.first > boundary.last || boundary.last > record.source.frameCount) {
-            return false;
-        }
-        last = boundary.frame;
-    }
-    if (!GrowsInside(record.prints, record.source) || !GrowsInside(record.samples, record.source) ||
-        !GrowsInside(record.looks, record.source)) {
-        return false;
-    }
-    std::int64_t firstSample = 0;
-    for (const KxMover& mover : record.movers) {
-        if (mover.firstSample < firstSample ||
-            static_cast<std::size_t>(mover.firstSample) + mover.boxes.size() > record.samples.size()) {
-            return false;
-        }
-        firstSample = mover.firstSample;
-    }
-    return AreMouthsConsistent(record) && IsShare(record.content.x, record.content.width) &&
-           IsShare(record.content.y, record.content.height);
-}
-
 } // namespace
 
 std::string KxSubjectRecordFormat::Write(const KxSubjectRecord& record)
@@ -493,7 +420,7 @@ std::optional<KxSubjectRecord> KxSubjectRecordFormat::Read(std::string_view byte
     record.source.pictureWidthPx = sides[0];
     record.source.pictureHeightPx = sides[1];
     record.workingSizePx = {sides[2], sides[3]};
-    reader.Require(IsPossible(record.source, record.workingSizePx));
+    reader.Require(KxSubjectRecordCheck::HasPossibleSource(record));
     reader.GetRect(record.content);
     constexpr std::size_t boundaryBytes = 25;
     constexpr std::size_t printBytes = 12;
@@ -513,7 +440,7 @@ std::optional<KxSubjectRecord> KxSubjectRecordFormat::Read(std::string_view byte
     reader.GetAll(record.mouths, leastMouthBytes);
     reader.GetAll(record.sound, leastSoundBytes);
     reader.GetAll(record.models, leastModelBytes);
-    if (!reader.IsOk() || !reader.IsAtEnd() || !IsConsistent(record)) {
+    if (!reader.IsOk() || !reader.IsAtEnd() || !KxSubjectRecordCheck::IsConsistent(record)) {
         return std::nullopt;
     }
     return record;
