@@ -19,6 +19,19 @@ TEST_F(TestLibraryDatabase, LockFilesOfKilledRunsAreRemoved)
     EXPECT_EQ(Files("run-*.lock").size(), 1);
 }
 
+TEST_F(TestLibraryDatabase, LockFilesThatAKilledProgramHadNotYetWrittenAreTaken)
+{
+    for (const char* const name : {"library.db.lock", "run-dead.lock"}) {
+        QFile empty(m_folder.filePath(QLatin1String(name)));
+        ASSERT_TRUE(empty.open(QIODevice::WriteOnly));
+    }
+    const auto database = Open();
+    ASSERT_NE(database, nullptr);
+    Contents(*database);
+    EXPECT_FALSE(Files("run-*.lock").contains(QStringLiteral("run-dead.lock")));
+    EXPECT_TRUE(Files("library.db.lock").isEmpty());
+}
+
 TEST_F(TestLibraryDatabase, AFileOfVersion1IsBackedUpAndMigrated)
 {
     {

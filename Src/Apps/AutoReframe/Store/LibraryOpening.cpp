@@ -1,6 +1,7 @@
 #include <Apps/AutoReframe/Store/LibraryOpening.h>
 
 #include <Apps/AutoReframe/Store/LibraryConnection.h>
+#include <Apps/AutoReframe/Store/LibraryLock.h>
 #include <Apps/AutoReframe/Store/LibrarySchema.h>
 #include <KxCore/KxLog.h>
 
@@ -123,8 +124,7 @@ KxResult<QString> LibraryOpening::Prepare(const QString& filePath)
     }
     constexpr int patienceMs = 10000;
     QLockFile lock(filePath + QStringLiteral(".lock"));
-    lock.setStaleLockTime(0);
-    if (!lock.tryLock(patienceMs)) {
+    if (!LibraryLock::Take(lock, patienceMs)) {
         return CannotOpen(filePath, lock.error() == QLockFile::LockFailedError
                                         ? Texts::tr("another program is opening it")
                                         : Texts::tr("its folder cannot be written to"));

@@ -1,5 +1,7 @@
 #include <Apps/AutoReframe/Store/LibraryRun.h>
 
+#include <Apps/AutoReframe/Store/LibraryLock.h>
+
 #include <QDir>
 #include <QFileInfo>
 #include <QLockFile>
@@ -16,21 +18,13 @@ QString LockPath(const QString& name, const QString& folder)
     return folder + QLatin1Char('/') + Prefix + name + Suffix;
 }
 
-std::unique_ptr<QLockFile> MakeLock(const QString& name, const QString& folder)
-{
-    auto lock = std::make_unique<QLockFile>(LockPath(name, folder));
-    // However long a run lasts, only its end makes the lock stale.
-    lock->setStaleLockTime(0);
-    return lock;
-}
-
 } // namespace
 
 LibraryRun::LibraryRun(const QString& folder)
     : m_name(QUuid::createUuid().toString(QUuid::WithoutBraces))
-    , m_lock(MakeLock(m_name, folder))
+    , m_lock(std::make_unique<QLockFile>(LockPath(m_name, folder)))
 {
-    m_lock->tryLock(0);
+    LibraryLock::Take(*m_lock, 0);
 }
 
 LibraryRun::~LibraryRun() = default;
@@ -41,7 +35,8 @@ bool LibraryRun::IsAlive(const QString& name, const QString& folder)
         return false;
     }
     // Where the lock is taken from a dead process, the destructor removes its file.
-    return !MakeLock(name, folder)->tryLock(0);
+    QLockFile lock(LockPath(name, folder));
+    return !LibraryLock::Take(lock, 0);
 }
 
 void LibraryRun::RemoveDead(const QString& folder)
