@@ -113,7 +113,8 @@ protected:
 
 TEST_F(ReframeInterruptTest, ASignalThatAsksToEndLeavesNothingBehind)
 {
-    const QString clip = MakeClip(QStringLiteral("clip.mp4"));
+    // So long that it is not rendered before the signal is handled, however busy the machine is.
+    const QString clip = MakeClip(QStringLiteral("clip.mp4"), 20 * Frames);
     const QStringList before = Files();
     for (const auto& [place, number] : {std::pair(AnalysisStarts, SIGINT), std::pair(RenderStarts, SIGINT),
                                         std::pair(RenderStarts, SIGTERM), std::pair(RenderStarts, SIGHUP)}) {
