@@ -4,15 +4,23 @@
 
 #include <csignal>
 #include <cstdlib>
+#include <initializer_list>
 
 namespace
 {
 
-/// Ends the process with 0 if a stop was requested, otherwise with 1.
-[[noreturn]] void ExitWithRequest()
+/// Ends the process with 0 if a stop was requested after these signals, otherwise with 1.
+[[noreturn]] void ExitAfter(std::initializer_list<int> signals)
 {
+    KxInterrupt::Install();
+    for (const int number : signals) {
+        std::raise(number);
+    }
     std::_Exit(KxInterrupt::IsRequested() && KxInterrupt::Token().IsCancelled() ? 0 : 1);
 }
+
+const testing::ExitedWithCode Requested(0);
+const testing::ExitedWithCode NotRequested(1);
 
 } // namespace
 
@@ -21,66 +29,27 @@ namespace
 TEST(KxInterruptDeathTest, ASignalToEndIsARequest)
 {
     for (const int number : {SIGINT, SIGTERM, SIGHUP}) {
-        EXPECT_EXIT(
-            {
-                KxInterrupt::Install();
-                std::raise(number);
-                ExitWithRequest();
-            },
-            testing::ExitedWithCode(0), "")
-            << number;
+        EXPECT_EXIT(ExitAfter({number}), Requested, "") << number;
     }
 }
 
 TEST(KxInterruptDeathTest, WithoutASignalNothingIsRequested)
 {
-    EXPECT_EXIT(
-        {
-            KxInterrupt::Install();
-            ExitWithRequest();
-        },
-        testing::ExitedWithCode(1), "");
+    EXPECT_EXIT(ExitAfter({}), NotRequested, "");
 }
 
 TEST(KxInterruptDeathTest, ASignalThatIsSentTwiceIsOneRequest)
 {
-    for (const int number : {SIGINT, SIGTERM}) {
-        EXPECT_EXIT(
-            {
-                KxInterrupt::Install();
-                std::raise(number);
-                std::raise(number);
-                ExitWithRequest();
-            },
-            testing::ExitedWithCode(0), "");
+    for (const int number : {SIGINT, SIGTERM, SIGHUP}) {
+        EXPECT_EXIT(ExitAfter({number, number}), Requested, "") << number;
     }
 }
 
 TEST(KxInterruptDeathTest, AThirdSignalEndsTheProcess)
 {
     for (const int number : {SIGINT, SIGTERM}) {
-        EXPECT_EXIT(
-            {
-                KxInterrupt::Install();
-                std::raise(SIGINT);
-                std::raise(SIGTERM);
-                std::raise(number);
-                ExitWithRequest();
-            },
-            testing::KilledBySignal(number), "");
+        EXPECT_EXIT(ExitAfter({SIGINT, SIGTERM, number}), testing::KilledBySignal(number), "") << number;
     }
-}
-
-TEST(KxInterruptDeathTest, AClosedTerminalMaySendItsSignalTwice)
-{
-    EXPECT_EXIT(
-        {
-            KxInterrupt::Install();
-            std::raise(SIGHUP);
-            std::raise(SIGHUP);
-            ExitWithRequest();
-        },
-        testing::ExitedWithCode(0), "");
 }
 
 TEST(KxInterruptDeathTest, AnIgnoredHangUpStaysIgnored)
@@ -88,23 +57,14 @@ TEST(KxInterruptDeathTest, AnIgnoredHangUpStaysIgnored)
     EXPECT_EXIT(
         {
             std::signal(SIGHUP, SIG_IGN);
-            KxInterrupt::Install();
-            std::raise(SIGHUP);
-            ExitWithRequest();
+            ExitAfter({SIGHUP});
         },
-        testing::ExitedWithCode(1), "");
+        NotRequested, "");
 }
 
 TEST(KxInterruptDeathTest, FailedWritesAreNoSignals)
 {
     for (const int number : {SIGPIPE, SIGXFSZ}) {
-        EXPECT_EXIT(
-            {
-                KxInterrupt::Install();
-                std::raise(number);
-                ExitWithRequest();
-            },
-            testing::ExitedWithCode(1), "")
-            << number;
+        EXPECT_EXIT(ExitAfter({number}), NotRequested, "") << number;
     }
 }
