@@ -229,12 +229,16 @@ TEST_F(DialogAnalysisTest, ALaterFailureLeavesTheEarlierResults)
 {
     Load(Video(QStringLiteral("/v/clip.mp4")));
     Analyse();
+    Preview().click();
+    Player().calls.clear();
     service.Answer(-1, {});
     WhileModal([this] { service.FireFromThread(Ended, 100); });
     RestartButton().click();
     EXPECT_EQ(Helper().GetResults().size(), FrameCount);
+    EXPECT_EQ(Player().calls, QStringList{QStringLiteral("pause")}) << "the result is still shown";
+    EXPECT_FALSE(Preview().isChecked());
+    EXPECT_FALSE(overlay->isVisible());
     EXPECT_TRUE(Export().isEnabled());
-    EXPECT_TRUE(overlay->isVisible());
 }
 
 TEST_F(DialogAnalysisTest, FinishingHidesTheProgressAlways)

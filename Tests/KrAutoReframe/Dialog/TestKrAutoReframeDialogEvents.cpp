@@ -94,12 +94,14 @@ TEST_F(DialogEventsTest, EscapeConfirmedClosesWithOneQuestion)
         Make(nullptr);
         LoadAndAnalyse();
         recorders.boxes.clear();
+        recorders.events.clear();
         QSignalSpy rejected(dialog.get(), &QDialog::rejected);
         QTest::keyClick(dialog.get(), Qt::Key_Escape, held);
         ExpectQuestion(QStringLiteral("No"));
         EXPECT_FALSE(dialog->isVisible()) << int(held);
         EXPECT_FALSE(overlay->isVisible());
         EXPECT_EQ(rejected.count(), 1);
+        EXPECT_TRUE(recorders.events.isEmpty()) << "nothing was clicked";
     }
 }
 

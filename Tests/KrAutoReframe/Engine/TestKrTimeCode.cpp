@@ -37,6 +37,7 @@ TEST(KrTimeCode, AFractionalRateCountsFramesWithinTheWholeRate)
     // 29.97 frames a second: frame 29 is the first of the second "29 frames", yet no whole second has passed.
     EXPECT_EQ(ToText(28, 29.97f, Detail::Frames), QStringLiteral("00:00:00:28"));
     EXPECT_EQ(ToText(29, 29.97f, Detail::Frames), QStringLiteral("00:00:00:00"));
+    EXPECT_EQ(ToText(30, 29.97f, Detail::Frames), QStringLiteral("00:00:00:01"));
     EXPECT_EQ(ToText(58, 29.97f, Detail::Frames), QStringLiteral("00:00:01:00"));
 }
 
