@@ -39,7 +39,7 @@ QString Made(const char* name, int frames, const char* output, const char* rate 
     return Path(QLatin1String(name));
 }
 
-Scan ScanOf(const QString& path)
+Scan ScanOf(const QString& path, qint64 skippedTo = 0)
 {
     Scan scan;
     const auto scanner = KxVideoScanner::Open(path, KxCancelToken());
@@ -48,6 +48,7 @@ Scan ScanOf(const QString& path)
         return scan;
     }
     scan.frameCount = (*scanner)->Facts().video->frameCount;
+    (*scanner)->SkipTo(skippedTo);
     KxVideoFrame picture;
     while ((*scanner)->Next(picture) == KxReadStatus::Delivered) {
         EXPECT_TRUE(scan.indices.empty() || picture.Index() > scan.indices.back());
@@ -112,6 +113,18 @@ TEST(KxVideoScanner, LeavesNoLongGapsInAStreamOfNonReferencePictures)
     ExpectNumbersMatch(scan);
     EXPECT_LE(scan.LargestHole(), 12);
     EXPECT_GT(scan.indices.size(), 80U);
+}
+
+TEST(KxVideoScanner, SkippedAheadItBeginsAtAKeyFrameASecondBefore)
+{
+    const QString path = Made("ahead.mp4", 150, "-c:v libx264 -g 30 -bf 2 -sc_threshold 0 -pix_fmt yuv420p");
+    for (const int frame : {20, 60, 100}) {
+        const Scan scan = ScanOf(path, frame);
+        ExpectNumbersMatch(scan);
+        ASSERT_GT(scan.indices.size(), 10U);
+        EXPECT_EQ(scan.indices.front(), frame == 100 ? 60 : frame == 60 ? 30 : 0) << frame;
+        EXPECT_GT(scan.indices.back(), 140);
+    }
 }
 
 TEST(KxVideoScanner, ReportsATruncatedFile)

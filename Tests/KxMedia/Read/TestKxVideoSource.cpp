@@ -1,3 +1,4 @@
+#include <KxMedia/Container/KxInputFile.h>
 #include <KxMedia/Read/KxMediaProbe.h>
 #include <KxMedia/Read/KxVideoScanner.h>
 
@@ -55,11 +56,55 @@ QString CutBeforeAKeyFrame(const char* name, int rate = 25)
     return path;
 }
 
+// Begins with pictures that refer to some that are not there.
+QString WithoutFirst(int packets, const char* name, const char* output)
+{
+    const QString path = Path(QLatin1String(name));
+    const QString whole = Made(QByteArray(name).prepend("whole-").constData(), 80, output);
+    MadeVideo::RunFfmpeg(Words("-i") << whole << Words("-c copy -bsf:v")
+                                     << QStringLiteral("noise=drop=lt(n\\,%1)").arg(packets) << path);
+    return path;
+}
+
+// Of the second to the 40th packet of the video in a transport stream.
+void RemoveTimes(const QString& path)
+{
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+    QByteArray contents = file.readAll();
+    const QByteArray header("\0\0\1\xE0", 4);
+    constexpr char timesThere = static_cast<char>(0xC0);
+    int packets = 0;
+    for (int at = contents.indexOf(header); at >= 0; at = contents.indexOf(header, at + 1)) {
+        ++packets;
+        if (packets > 1 && packets <= 40) {
+            contents[at + 7] = static_cast<char>(contents[at + 7] & ~timesThere);
+        }
+    }
+    EXPECT_EQ(packets, 70);
+    ASSERT_TRUE(file.seek(0));
+    ASSERT_EQ(file.write(contents), contents.size());
+}
+
 void ExpectTheSameFacts(const KxMediaFacts& a, const KxMediaFacts& b)
 {
     EXPECT_EQ(a.video->frameCount, b.video->frameCount);
     EXPECT_EQ(a.video->firstPictureUs, b.video->firstPictureUs);
     EXPECT_EQ(a.video->resolution, b.video->resolution);
+}
+
+// Returns how many pictures the scanner delivers.
+int ExpectTheSamePictures(KxVideoScanner& scanner, KxVideoReader& reader)
+{
+    KxVideoFrame picture;
+    int pictures = 0;
+    for (; scanner.Next(picture) == KxReadStatus::Delivered; ++pictures) {
+        KxVideoFrame shown;
+        EXPECT_EQ(reader.Read(picture.Index(), shown), KxReadStatus::Delivered);
+        EXPECT_EQ(shown.Index(), picture.Index());
+        EXPECT_EQ(shown.IsNull() ? 0U : ReadClips::CheckSum(shown), ReadClips::CheckSum(picture)) << picture.Index();
+    }
+    return pictures;
 }
 
 // Of a frame; 0 if it cannot be read.
@@ -107,6 +152,33 @@ TEST(KxVideoSource, BeginsWithAPictureThatNoOtherRefersTo)
     }
 }
 
+// The first packet has a presentation time; the first picture that can be decoded has none.
+TEST(KxVideoSource, APassOverPicturesWithoutTheTimesOfTheFirstPacketSkipsNone)
+{
+    const QString avi = WithoutFirst(2, "headless.avi", "-c:v mpeg4 -q:v 3 -g 12 -bf 2 -b_strategy 0");
+    const QString ts = WithoutFirst(10, "headless.ts", "-c:v libx264 -g 12 -bf 2 -b_strategy 0 -pix_fmt yuv420p");
+    RemoveTimes(ts);
+    for (const QString& path : {avi, ts}) {
+        SCOPED_TRACE(path.toStdString());
+        const auto scanner = KxVideoScanner::Open(path, KxCancelToken());
+        const auto reader = ReadClips::OpenReader(path);
+        ASSERT_TRUE(scanner && reader);
+        ExpectTheSameFacts((*scanner)->Facts(), reader->Facts());
+        EXPECT_GT(ExpectTheSamePictures(**scanner, *reader), 60);
+    }
+}
+
+TEST(KxVideoSource, CancelledBeforeTheFirstPictureItSaysSo)
+{
+    KxCancelToken cancel;
+    auto input = KxInputFile::Open(Made("cancelled.mp4", 40, "-c:v libx264 -bf 2 -pix_fmt yuv420p"), cancel);
+    ASSERT_TRUE(input) << input.Message().toStdString();
+    cancel.Cancel();
+    const auto scanner = KxVideoScanner::Open(std::move(*input));
+    ASSERT_FALSE(scanner);
+    EXPECT_EQ(scanner.Message(), QStringLiteral("Cannot open cancelled.mp4: it was cancelled."));
+}
+
 // After a seek, the demuxer of Matroska gives other times to the packets of such a file.
 TEST(KxVideoSource, AFrameBeforeTheFirstPictureShowsIt)
 {
@@ -131,13 +203,5 @@ TEST(KxVideoSource, APassOverPacketsThatHaveChangedBeginsAgain)
     const auto scanner = KxVideoScanner::Open(path, KxCancelToken());
     const auto reader = ReadClips::OpenReader(path);
     ASSERT_TRUE(scanner && reader);
-    KxVideoFrame picture;
-    int pictures = 0;
-    for (; (*scanner)->Next(picture) == KxReadStatus::Delivered; ++pictures) {
-        KxVideoFrame shown;
-        ASSERT_EQ(reader->Read(picture.Index(), shown), KxReadStatus::Delivered);
-        EXPECT_EQ(shown.Index(), picture.Index());
-        EXPECT_EQ(ReadClips::CheckSum(shown), ReadClips::CheckSum(picture)) << picture.Index();
-    }
-    EXPECT_GT(pictures, 70);
+    EXPECT_GT(ExpectTheSamePictures(**scanner, *reader), 70);
 }
