@@ -67,6 +67,24 @@ TEST(KxDetectionAnchor, TheCorrectionIsToTheDetectionWhatThePersonDrewLast)
     ExpectBox(anchor.Correct({50, Box(0.48, 0.19), 1.0}), 0.5, 0.19);
 }
 
+TEST(KxDetectionAnchor, ABoxThatWasDrawnAgainMayBeMuchSmallerThanTheFirst)
+{
+    const KxSubjectRecord record = Record({{Person(0.3F, 0.2F)}, {Person(0.4F, 0.2F)}});
+    KxDetectionAnchor anchor(record, Options);
+    ExpectBox(anchor.Correct({0, Box(0.2, 0.4), 1.0}), 0.2, 0.4);
+    anchor.DrawAgain();
+    ExpectBox(anchor.Correct({25, Box(0.45, 0.1), 1.0}), 0.45, 0.1);
+}
+
+TEST(KxDetectionAnchor, ABoxThatWasDrawnAgainAndHardlyOverlapsTheThingKeepsTheShapeOfTheFirst)
+{
+    const KxSubjectRecord record = Record({{Person(0.3F, 0.2F)}, {Person(0.4F, 0.2F)}});
+    KxDetectionAnchor anchor(record, Options);
+    ExpectBox(anchor.Correct({0, Box(0.3, 0.2), 1.0}), 0.3, 0.2);
+    anchor.DrawAgain();
+    ExpectBox(anchor.Correct({25, Box(0.4, 0.07), 1.0}), 0.4, 0.2);
+}
+
 TEST(KxDetectionAnchor, APersonWhoWasDrawnWithTheirBicycleIsRecognised)
 {
     const KxSubjectRecord record = Record({{Person(0.4F)}, {Person(0.5F)}});

@@ -87,5 +87,8 @@ TEST(KxTrackBlend, ASideThatEndsOnTheOtherSeedIsNeitherDoubtedNorAmbiguous)
         arrived.*mark = true;
         EXPECT_FALSE(Blend({marked, arrived}, {})[0].*mark);
         EXPECT_TRUE(Blend({marked}, {})[0].*mark);
+        Point arrivedBackward = At(2, 0.11, 0.9F);
+        arrivedBackward.*mark = true;
+        EXPECT_FALSE(Blend({}, {marked, arrivedBackward})[1].*mark);
     }
 }
