@@ -92,10 +92,12 @@ TEST_F(ReframeFarmTest, AVideoWhoseNameQtCannotHoldIsReported)
 {
     // Qt's lists of a folder leave it out.
     const std::string in = Path(QStringLiteral("in")).toStdString();
-    const std::array<std::string, 3> files{in + "/bad\xff.mp4", in + "/sub/b\xfe.mp4", in + "/bad\xff.txt"};
+    const std::array<std::string, 4> files{in + "/bad\xff.mp4", in + "/sub/b\xfe.mp4", in + "/bad\xff.txt",
+                                           in + "/bad\xff-AutoReframe-9 16.mp4"};
     for (const std::string& file : files) {
         std::ofstream(file) << "a file";
     }
+    std::filesystem::create_directory(in + "/folder\xff.mp4");
     const ReframeRun run({QStringLiteral("--no-video"), Path(QStringLiteral("in"))});
     EXPECT_EQ(run.exitStatus, 1);
     const QString message = QStringLiteral("Cannot open %1/%2: its name is not valid UTF-8; rename it.\n");
@@ -108,6 +110,7 @@ TEST_F(ReframeFarmTest, AVideoWhoseNameQtCannotHoldIsReported)
     for (const std::string& file : files) {
         std::filesystem::remove(file); // Qt cannot
     }
+    std::filesystem::remove(in + "/folder\xff.mp4");
 }
 #endif
 
@@ -270,4 +273,7 @@ TEST_F(ReframeFarmTest, AVideoKnowsWhatItWasMadeOf)
     EXPECT_EQ(again.exitStatus, 0);
     EXPECT_TRUE(again.standardOutput.contains(QLatin1String("skipped"))) << again.standardOutput.toStdString();
     EXPECT_EQ(Content(video), content);
+    ASSERT_TRUE(QFile::rename(Path(video), Path(QStringLiteral("out/a.m4v"))));
+    const ReframeRun renamed({arguments.at(0), arguments.at(1), Path(QStringLiteral("out/a.m4v")), arguments.last()});
+    EXPECT_TRUE(renamed.standardOutput.contains(QLatin1String("skipped"))) << renamed.standardOutput.toStdString();
 }

@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
+#include <QTemporaryFile>
 
 #include <gtest/gtest.h>
 
@@ -126,6 +127,60 @@ TEST(ReframeOptions, WrongUseIsOneErrorMessageAndStatusTwo)
     EXPECT_EQ(Parse({}).exitStatus, ReframeExit::WrongUse);
 }
 
+TEST(ReframeOptions, OptionsThatExcludeEachOtherAreNamed)
+{
+    const char* const ofPart = "--frames does a part of the work; ";
+    const struct {
+        const char* line;
+        const char* message;
+    } conflicts[] = {
+        {"--frames 0-9 a.mp4 b.mp4", "--frames takes one input."},
+        {"--join --frames 0-9 a.mp4 b.pictures", "--frames takes one input."},
+        {"--frames 0-9 --aspect 9:16,1:1 a.mp4", "--frames takes one aspect ratio."},
+        {"--frames 0-9 --apply t.json --no-video a.mp4", "--frames with --apply renders a part"},
+        {"--frames 0-9 --keyframes k.json a.mp4", ofPart},
+        {"--frames 0-9 --preview p.png a.mp4", ofPart},
+        {"--frames 0-9 --report r.html a.mp4", ofPart},
+        {"--frames 0-9 --choices c.json a.mp4", ofPart},
+        {"--frames 0-9 --edit-list mlt a.mp4", ofPart},
+        {"--frames 0-9 --follow 1@2,3 a.mp4", ofPart},
+        {"--frames 0-9 --output o.mp4 a.mp4", "--output takes an existing folder or the name of a .pictures file;"},
+        {"--join a.mp4", "--join takes a video and then its parts."},
+        {"--save-choices s.json --follow 1@2,3 --aspect 9:16,1:1 a.mp4", "--save-choices takes one aspect ratio."},
+        {"--save-choices s.json a.mp4", "--save-choices writes what --choices and --follow decided"},
+        {"--choices c.json a.mp4 b.mp4", "--choices and --follow take one input."},
+        {"--follow 1@2,3 a.mp4 b.mp4", "--choices and --follow take one input."},
+        {"--choices c.json --apply t.json a.mp4", "--choices and --follow guide the analysis"},
+        {"--follow 1@2,3 --apply t.json a.mp4", "--choices and --follow guide the analysis"},
+    };
+    for (const auto& conflict : conflicts) {
+        const auto parsed = Parse(Words(conflict.line));
+        EXPECT_FALSE(parsed.options) << conflict.line;
+        EXPECT_TRUE(parsed.text.startsWith(QLatin1String(conflict.message))) << parsed.text.toStdString();
+    }
+    EXPECT_TRUE(Parse(Words("--frames 0-9 --output o.pictures a.mp4")).options);
+    EXPECT_TRUE(Parse(Words("--frames 0-9 --apply t.json --output o.mp4 a.mp4")).options);
+}
+
+TEST(ReframeOptions, TheStatusIsNotWrittenOverAnInput)
+{
+    QTemporaryFile video;
+    ASSERT_TRUE(video.open());
+    const auto parsed = Parse({QStringLiteral("--status"), video.fileName(), video.fileName()});
+    EXPECT_FALSE(parsed.options);
+    EXPECT_TRUE(parsed.text.startsWith(QLatin1String("--status must not name an input."))) << parsed.text.toStdString();
+}
+
+TEST(ReframeOptions, APreviewIsAVideoUnlessItIsAFolderOfThatName)
+{
+    const QTemporaryDir folder;
+    const QString preview = folder.filePath(QStringLiteral("p.MP4"));
+    const QStringList arguments{QStringLiteral("--preview"), preview, QStringLiteral("a.mp4")};
+    EXPECT_TRUE(Parse(arguments).options->PreviewIsVideo());
+    ASSERT_TRUE(QDir().mkdir(preview));
+    EXPECT_FALSE(Parse(arguments).options->PreviewIsVideo());
+}
+
 TEST(ReframeOptions, ASizeThatIsTooLargeIsRefusedWithTheLimit)
 {
     EXPECT_TRUE(Parse(Words("--size 16384p a.mp4")).options);
@@ -147,6 +202,9 @@ TEST(ReframeOptions, AnEmptyValueIsRefused)
             QStringLiteral("%1 needs a value, and an empty one was given.").arg(QLatin1String(option))))
             << parsed.text.toStdString();
     }
+    const QString editList = QStringLiteral("--edit-list");
+    const auto first = Parse({editList, QString(), editList, QStringLiteral("mlt"), QStringLiteral("a.mp4")});
+    EXPECT_TRUE(first.text.startsWith(QStringLiteral("--edit-list needs a value,"))) << first.text.toStdString();
     const auto parsed = Parse({QStringLiteral("a.mp4"), QString()});
     EXPECT_FALSE(parsed.options);
     EXPECT_TRUE(parsed.text.startsWith(QStringLiteral("The name of an input file is empty.")));

@@ -50,6 +50,12 @@ TEST_F(ReframeTargetsTest, NamesAreThoseOfTheInputWithTheAspectRatio)
     EXPECT_EQ(targets.Keyframes(), Path(QStringLiteral("a.b-AutoReframe-9 16.json")));
     EXPECT_EQ(targets.Preview(), Path(QStringLiteral("sheet.PNG")));
     EXPECT_EQ(targets.All(), (QStringList{targets.Keyframes(), targets.Preview(), targets.Video()}));
+    m_options.saveChoices = Path(QStringLiteral("choices.json"));
+    m_options.editLists = QStringList{QStringLiteral("mlt")};
+    m_options.report = m_folder.path();
+    EXPECT_EQ(targets.All(),
+              (QStringList{targets.Choices(), targets.Keyframes(), targets.EditList(QStringLiteral("mlt")),
+                           targets.Report(), targets.Preview(), targets.Video()}));
 }
 
 TEST_F(ReframeTargetsTest, APartHasItsFramesInItsName)
@@ -88,6 +94,10 @@ TEST_F(ReframeTargetsTest, AnInputIsReplacedByNothing)
     m_options.overwrites = true;
     EXPECT_TRUE(Targets().WouldReplaceInput(m_options.inputs.first()));
     EXPECT_FALSE(Targets().WouldReplaceInput(Targets().Video()));
+    m_options.parts = QStringList{Path(QStringLiteral("part.pictures"))};
+    EXPECT_FALSE(Targets().WouldReplaceInput(m_options.parts.first())) << "it is not there";
+    WriteFile(QStringLiteral("part.pictures"), "a part");
+    EXPECT_TRUE(Targets().WouldReplaceInput(m_options.parts.first()));
     m_options.overwrites = false; // A number is added.
     EXPECT_FALSE(Targets().WouldReplaceInput(m_options.inputs.first()));
 }
@@ -98,6 +108,10 @@ TEST_F(ReframeTargetsTest, ResultsAreUpToDateIfTheyStoreThisRun)
     m_options.writesVideo = false;
     EXPECT_FALSE(Targets().AreUpToDate());
     WriteTrack(QStringLiteral("a.json"), Targets().Run().OfTask());
+    EXPECT_TRUE(Targets().AreUpToDate());
+    m_options.editLists = QStringList{QStringLiteral("mlt")};
+    EXPECT_FALSE(Targets().AreUpToDate()) << "the edit list is missing";
+    WriteFile(QStringLiteral("a.b-AutoReframe-9 16.mlt"), "an edit list");
     EXPECT_TRUE(Targets().AreUpToDate());
     m_options.farm.settings = "other settings";
     EXPECT_FALSE(Targets().AreUpToDate());
@@ -118,6 +132,20 @@ TEST_F(ReframeTargetsTest, ResultsOfThisInputKeepTheirNumberAndAreReplaced)
     EXPECT_EQ(Targets().Keyframes(), second);
     EXPECT_EQ(Targets().WhenItExists(second), KxOutputFile::Existing::Replace);
     EXPECT_FALSE(Targets().AreUpToDate());
+    m_options.saveChoices = Path(QStringLiteral("c.json"));
+    EXPECT_EQ(Targets().Choices(), Path(QStringLiteral("c (2).json")));
+    EXPECT_EQ(Targets().EditList(Path(QStringLiteral("e.mlt"))), Path(QStringLiteral("e (2).mlt")));
+    m_options.farm.ifNeeded = false;
+    EXPECT_EQ(Targets().WhenItExists(second), KxOutputFile::Existing::AddNumber);
+}
+
+TEST_F(ReframeTargetsTest, WithoutTheInputNothingIsKnownToBeItsResult)
+{
+    m_options.keyframes = Path(QStringLiteral("a.json"));
+    m_options.farm.ifNeeded = true;
+    WriteTrack(QStringLiteral("a.json"), QStringLiteral("a run with some input"));
+    ASSERT_TRUE(QFile::remove(m_options.inputs.first()));
+    EXPECT_EQ(Targets().WhenItExists(m_options.keyframes), KxOutputFile::Existing::AddNumber);
 }
 
 } // namespace

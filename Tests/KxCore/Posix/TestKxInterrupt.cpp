@@ -52,6 +52,11 @@ TEST(KxInterruptDeathTest, AThirdSignalEndsTheProcess)
     }
 }
 
+TEST(KxInterruptDeathTest, AHangUpDoesNotCountAmongTheThree)
+{
+    EXPECT_EXIT(ExitAfter({SIGHUP, SIGHUP, SIGINT, SIGTERM}), Requested, "");
+}
+
 TEST(KxInterruptDeathTest, AnIgnoredHangUpStaysIgnored)
 {
     EXPECT_EXIT(
