@@ -1,10 +1,10 @@
 #include <KxModel/KxAutoReframeService.h>
 
 #include <KxSubject/KxSubjectRecord.h>
+#include <Tests/KxModel/EventRecorder.h>
 
 #include <gtest/gtest.h>
 
-#include <condition_variable>
 #include <functional>
 #include <future>
 #include <mutex>
@@ -70,60 +70,6 @@ private:
     QMap<QString, Opening> m_openings;
 };
 
-struct Event {
-    qint64 key;
-    int state;
-};
-
-/// Records events, and can run an action in each.
-class Recorder : public IKxAutoReframeEventObserver
-{
-public:
-    explicit Recorder(KxAutoReframeService& service, std::function<void(const Event&)> action = {})
-        : m_service(service)
-        , m_action(std::move(action))
-    {
-        m_service.AddObserver(this);
-    }
-    ~Recorder() override { m_service.RemoveObserver(this); }
-
-    void OnAutoReframeEvent(qint64 key, int state, int /*percent*/) override
-    {
-        {
-            const std::lock_guard<std::mutex> lock(m_mutex);
-            m_events.push_back({key, state});
-            m_changed.notify_all();
-        }
-        if (m_action) {
-            m_action({key, state});
-        }
-    }
-
-    /// Whether so many tasks have ended.
-    bool WaitForEnds(int ends)
-    {
-        std::unique_lock<std::mutex> lock(m_mutex);
-        return m_changed.wait_for(lock, std::chrono::seconds(60), [&] { return Ends() >= ends; });
-    }
-    std::vector<Event> Events()
-    {
-        const std::lock_guard<std::mutex> lock(m_mutex);
-        return m_events;
-    }
-
-private:
-    std::ptrdiff_t Ends() const
-    {
-        return std::count_if(m_events.begin(), m_events.end(), [](const Event& event) { return event.state == 2; });
-    }
-
-    KxAutoReframeService& m_service;
-    std::function<void(const Event&)> m_action;
-    std::mutex m_mutex;
-    std::condition_variable m_changed;
-    std::vector<Event> m_events;
-};
-
 class KxAutoReframeServiceTasks : public testing::Test
 {
 protected:
@@ -154,7 +100,7 @@ TEST_F(KxAutoReframeServiceTasks, AnExceptionInTheAnalysisIsAFailedTaskWithAMess
         {[] { throw std::bad_alloc(); }, QStringLiteral("memory ran out")},
         {[] { throw 7; }, QStringLiteral("an unknown error occurred")}};
     int ends = 0;
-    Recorder recorder(m_service);
+    EventRecorder recorder(m_service);
     for (const auto& [raise, reason] : exceptions) {
         m_files.Add(m_bad, [&raise = raise](const Progress&) {
             raise();
@@ -185,8 +131,9 @@ TEST_F(KxAutoReframeServiceTasks, AnObserverThatThrowsHarmsNeitherTheTaskNorOthe
         progress(1);
         return Done();
     });
-    auto throwing = std::make_unique<Recorder>(m_service, [](const Event&) { throw std::runtime_error("no"); });
-    Recorder recorder(m_service);
+    auto throwing =
+        std::make_unique<EventRecorder>(m_service, [](const ServiceEvent&) { throw std::runtime_error("no"); });
+    EventRecorder recorder(m_service);
     ASSERT_TRUE(Start(m_quick));
     ASSERT_TRUE(recorder.WaitForEnds(1));
     EXPECT_EQ(ResultsOf(m_quick), 0);
@@ -218,7 +165,7 @@ TEST_F(KxAutoReframeServiceTasks, DestroyingTheServiceCancelsTheRunningTask)
 
 TEST_F(KxAutoReframeServiceTasks, AServiceWhoseThreadHasEndedStartsAnother)
 {
-    Recorder recorder(m_service);
+    EventRecorder recorder(m_service);
     m_service.EndThread();
     for (int ends = 1; ends <= 2; ++ends) {
         m_files.Add(m_quick, [](const Progress&) { return Done(); });
@@ -243,7 +190,7 @@ TEST_F(KxAutoReframeServiceTasks, TheNewestStartWinsOverAnOlderOneThatOpensSlowl
         });
     });
     m_files.Add(m_quick, [](const Progress&) { return Done(); });
-    Recorder recorder(m_service);
+    EventRecorder recorder(m_service);
     std::future<bool> older = std::async(std::launch::async, [&] { return Start(m_slow); });
     const KxCancelToken olderCancel = opening.get_future().get();
     ASSERT_TRUE(Start(m_quick));
@@ -270,7 +217,7 @@ TEST_F(KxAutoReframeServiceTasks, AStopDuringTheOpeningIsAStopOfThatStart)
             return Done();
         });
     });
-    Recorder recorder(m_service);
+    EventRecorder recorder(m_service);
     std::future<bool> start = std::async(std::launch::async, [&] { return Start(m_slow); });
     opening.get_future().wait();
     m_service.StopTask(0);
@@ -290,7 +237,7 @@ TEST_F(KxAutoReframeServiceTasks, EveryStopWaitsUntilTheRunningCallHasEnded)
     std::promise<void> entered;
     std::promise<void> mayLeave;
     std::shared_future<void> leave = mayLeave.get_future().share();
-    Recorder recorder(m_service, [&](const Event&) {
+    EventRecorder recorder(m_service, [&](const ServiceEvent&) {
         entered.set_value();
         leave.wait();
     });
@@ -325,7 +272,7 @@ TEST_F(KxAutoReframeServiceTasks, AStopDoesNotWaitForATaskThatWasStartedAfterIt)
     std::promise<void> inFirst;
     std::promise<void> inSecond;
     std::promise<void> mayStartSecond;
-    Recorder recorder(m_service, [&](const Event& event) {
+    EventRecorder recorder(m_service, [&](const ServiceEvent& event) {
         if (event.key == 1) {
             inFirst.set_value();
             mayStartSecond.get_future().wait();
@@ -354,7 +301,7 @@ TEST_F(KxAutoReframeServiceTasks, AnOlderTaskReportsNothingAfterANewerOneHasStar
         return Done(); // although it was stopped
     });
     m_files.Add(m_quick, [](const Progress&) { return Done(); });
-    Recorder recorder(m_service, [&](const Event& event) {
+    EventRecorder recorder(m_service, [&](const ServiceEvent& event) {
         if (event.key == 1) {
             EXPECT_TRUE(Start(m_quick));
         }
@@ -362,7 +309,7 @@ TEST_F(KxAutoReframeServiceTasks, AnOlderTaskReportsNothingAfterANewerOneHasStar
     ASSERT_TRUE(Start(m_slow));
     ASSERT_TRUE(recorder.WaitForEnds(1));
     m_service.StopTask(0);
-    const std::vector<Event> events = recorder.Events();
+    const std::vector<ServiceEvent> events = recorder.Events();
     ASSERT_EQ(events.size(), 2U);
     EXPECT_EQ(events[0].key, 1);
     EXPECT_EQ(events[1].key, 2);
@@ -396,7 +343,7 @@ TEST_F(KxAutoReframeServiceTasks, AVideoCanBeDescribedWhileItsNextTaskRuns)
         result.record = record;
         return result;
     });
-    Recorder recorder(m_service);
+    EventRecorder recorder(m_service);
     ASSERT_TRUE(Start(m_quick));
     ASSERT_TRUE(recorder.WaitForEnds(1));
     EXPECT_TRUE(isDescribed(m_quick));
@@ -423,7 +370,7 @@ TEST_F(KxAutoReframeServiceTasks, ForgottenResultsAreGoneButNotWhatElseTheTaskFo
         result.warnings = QStringList{QStringLiteral("It is cut off.")};
         return result;
     });
-    Recorder recorder(m_service);
+    EventRecorder recorder(m_service);
     ASSERT_TRUE(Start(m_quick));
     ASSERT_TRUE(recorder.WaitForEnds(1));
     EXPECT_EQ(ResultsOf(m_quick), 0);
