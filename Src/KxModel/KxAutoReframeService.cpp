@@ -2,13 +2,9 @@
 
 #include <KxModel/KxCacheFolder.h>
 #include <KxModel/KxChoiceRecords.h>
-#include <KxModel/KxChoicesFormat.h>
 #include <KxModel/KxFollowTracks.h>
-#include <KxModel/KxFramePictures.h>
-#include <KxModel/KxPointedPicture.h>
 #include <KxModel/KxRecordStore.h>
 
-#include <KxCore/KxLog.h>
 #include <KxSubject/KxOpenCvProcess.h>
 
 #include <QCoreApplication>
@@ -207,17 +203,6 @@ void KxAutoReframeService::WaitForTasks()
     m_taskEnded.wait(lock, [this, last = m_lastAdded] { return m_lastEnded >= last; });
 }
 
-int KxAutoReframeService::GetResults(const QString& path, QList<IKxAutoReframeResult>* out)
-{
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    out->clear();
-    if (m_result.crops.isEmpty() || m_result.outcome != KxOutcome::Done || path != m_resultPath) {
-        return -1;
-    }
-    *out = m_result.crops;
-    return 0;
-}
-
 void KxAutoReframeService::AddObserver(IKxAutoReframeEventObserver* observer)
 {
     m_observers.Add(observer);
@@ -234,13 +219,6 @@ void KxAutoReframeService::CollectShots(bool isWanted)
     m_settings.wantsShots = isWanted;
 }
 
-QList<KxAutoReframeShot> KxAutoReframeService::GetShots(const QString& path) const
-{
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    const bool hasResults = m_result.outcome == KxOutcome::Done && path == m_resultPath;
-    return hasResults ? m_result.shots : QList<KxAutoReframeShot>();
-}
-
 bool KxAutoReframeService::IsKnown(const QString& path) const
 {
     const KxAnalysisSettings settings = Settings();
@@ -253,77 +231,6 @@ bool KxAutoReframeService::IsKnown(const QString& path) const
 void KxAutoReframeService::SetChoices(const QList<KxAutoReframeChoice>& choices)
 {
     SetChoices(KxChoiceRecords::ToSubject(choices));
-}
-
-QByteArray KxAutoReframeService::WriteChoices(const QString& path, const QList<KxAutoReframeChoice>& choices) const
-{
-    KxSubjectChoices written = KxChoiceRecords::ToSubject(choices);
-    if (const std::shared_ptr<const KxSubjectRecord> record = RecordOf(path)) {
-        written = KxDescribeChoices(*record, std::move(written));
-    }
-    return KxChoicesFormat::Write(written);
-}
-
-std::shared_ptr<const KxSubjectRecord> KxAutoReframeService::RecordOf(const QString& path) const
-{
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    return path == m_resultPath ? m_result.record : nullptr;
-}
-
-QList<KxAutoReframeChoice> KxAutoReframeService::ReadChoices(const QByteArray& text) const
-{
-    if (text.isEmpty()) {
-        return {};
-    }
-    const KxResult<KxSubjectChoices> read = KxChoicesFormat::Read(text, Texts::tr("the stored choices"));
-    if (!read) {
-        KX_LOG_WARNING(read.Message());
-        return {};
-    }
-    return KxChoiceRecords::FromSubject(*read);
-}
-
-KxAutoReframeGuess KxAutoReframeService::GuessBox(const QString& path, qint64 frame, const QPointF& point) const
-{
-    KxAutoReframeGuess guess;
-    // Without a guess the person draws the box.
-    KxCallGuarded([&] { guess = KxPointedPicture::GuessAt(path, frame, point, RecordOf(path).get()); });
-    return guess;
-}
-
-QList<KxAutoReframeLoss> KxAutoReframeService::GetLosses(const QString& path) const
-{
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    const bool hasResults = m_result.outcome == KxOutcome::Done && path == m_resultPath;
-    return hasResults ? m_result.losses : QList<KxAutoReframeLoss>();
-}
-
-QList<KxAutoReframeChoice> KxAutoReframeService::GetPlacedChoices(const QString& path) const
-{
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    const bool hasResults = m_result.outcome == KxOutcome::Done && path == m_resultPath;
-    return hasResults ? KxChoiceRecords::FromPlaced(m_result.choices) : QList<KxAutoReframeChoice>();
-}
-
-QList<QByteArray> KxAutoReframeService::DescribeFrames(const QString& path, const QList<qint64>& frames) const
-{
-    if (const std::shared_ptr<const KxSubjectRecord> record = RecordOf(path)) {
-        return KxFramePictures::Describe(*record, frames);
-    }
-    return QVector<QByteArray>(frames.size()).toList();
-}
-
-QList<std::optional<qint64>> KxAutoReframeService::FindFrames(const QString& path,
-                                                              const QList<KxDescribedFrame>& frames) const
-{
-    if (const std::shared_ptr<const KxSubjectRecord> record = RecordOf(path)) {
-        return KxFramePictures::Find(*record, frames);
-    }
-    QList<std::optional<qint64>> found;
-    for (const KxDescribedFrame& frame : frames) {
-        found += frame.frame;
-    }
-    return found;
 }
 
 QList<IKxAutoReframeResult> KxAutoReframeService::Decide(const QString& path, const IKxAutoReframeParam& param) const
@@ -352,12 +259,6 @@ void KxAutoReframeService::CollectPartialResults(bool isWanted)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     m_collectsPartial = isWanted;
-}
-
-QList<IKxAutoReframeResult> KxAutoReframeService::GetPartialResults(const QString& path) const
-{
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    return path == m_partialPath ? m_partial : QList<IKxAutoReframeResult>();
 }
 
 void KxAutoReframeService::SetNetworkFolder(const QString& path)
@@ -406,52 +307,8 @@ void KxAutoReframeService::SetSpeakers(Speakers speakers)
     m_settings.followsSpeaker = speakers == Speakers::Follow;
 }
 
-std::shared_ptr<const KxSubjectFindings> KxAutoReframeService::LastFindings() const
-{
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    return m_result.findings;
-}
-
 KxAnalysisSettings KxAutoReframeService::Settings() const
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     return m_settings;
-}
-
-QString KxAutoReframeService::LastErrorMessage() const
-{
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    return m_result.message;
-}
-
-QStringList KxAutoReframeService::LastWarnings() const
-{
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    return m_result.warnings;
-}
-
-QByteArray KxAutoReframeService::LastChoices() const
-{
-    KxSubjectChoices choices;
-    std::shared_ptr<const KxSubjectRecord> record;
-    {
-        const std::lock_guard<std::mutex> lock(m_mutex);
-        for (const KxPlacedChoice& placed : m_result.choices) {
-            choices.push_back(placed.choice);
-        }
-        record = m_result.record;
-    }
-    return KxChoicesFormat::Write(record ? KxDescribeChoices(*record, std::move(choices)) : choices);
-}
-
-void KxAutoReframeService::ForgetResults()
-{
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    m_result.crops.clear();
-}
-
-std::vector<KxUsedModel> KxAutoReframeService::LastModels() const
-{
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    return m_result.models;
 }
