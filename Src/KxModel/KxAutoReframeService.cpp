@@ -101,13 +101,7 @@ bool KxAutoReframeService::Start(const QString& path, const IKxAutoReframeParam&
         settings = m_settings;
         opened = std::move(m_opened);
         if (m_collectsPartial) {
-            settings.partial.take = [this, path, cancel = task->cancel](const QList<IKxAutoReframeResult>& results) {
-                const std::lock_guard<std::mutex> taking(m_mutex);
-                if (!cancel.IsCancelled()) {
-                    m_partialPath = path;
-                    m_partial = results;
-                }
-            };
+            settings.partial.take = PartialTaker(*task);
         }
         m_partial.clear();
     }
@@ -136,6 +130,17 @@ bool KxAutoReframeService::Start(const QString& path, const IKxAutoReframeParam&
     m_worker->Add({[this, task](const KxCancelToken&) { RunTask(*task); }, {}});
     m_lastAdded = task->number;
     return true;
+}
+
+std::function<void(const QList<IKxAutoReframeResult>&)> KxAutoReframeService::PartialTaker(const Task& task)
+{
+    return [this, path = task.path, cancel = task.cancel](const QList<IKxAutoReframeResult>& results) {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        if (!cancel.IsCancelled()) {
+            m_partialPath = path;
+            m_partial = results;
+        }
+    };
 }
 
 void KxAutoReframeService::RunTask(Task& task)
@@ -235,11 +240,7 @@ void KxAutoReframeService::SetChoices(const QList<KxAutoReframeChoice>& choices)
 
 QList<IKxAutoReframeResult> KxAutoReframeService::Decide(const QString& path, const IKxAutoReframeParam& param) const
 {
-    KxAnalysisSettings settings;
-    {
-        const std::lock_guard<std::mutex> lock(m_mutex);
-        settings = m_settings;
-    }
+    KxAnalysisSettings settings = Settings();
     settings.wantsFindings = false;
     settings.wantsShots = false;
     KxAnalysis::Result result;

@@ -135,6 +135,10 @@ private:
     };
 
     bool Start(const QString& path, const IKxAutoReframeParam& param);
+    /// Keeps the partial results of a task until it is stopped.
+    std::function<void(const QList<IKxAutoReframeResult>&)> PartialTaker(const Task& task);
+    /// Whether the last task was for this file and succeeded. The mutex is held.
+    bool HasResultsOf(const QString& path) const;
     /// Of the last task, if it was for this file and succeeded; otherwise null.
     std::shared_ptr<const KxSubjectRecord> RecordOf(const QString& path) const;
     void RunTask(Task& task);

@@ -18,11 +18,16 @@ struct Texts {
 
 } // namespace
 
+bool KxAutoReframeService::HasResultsOf(const QString& path) const
+{
+    return m_result.outcome == KxOutcome::Done && path == m_resultPath;
+}
+
 int KxAutoReframeService::GetResults(const QString& path, QList<IKxAutoReframeResult>* out)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     out->clear();
-    if (m_result.crops.isEmpty() || m_result.outcome != KxOutcome::Done || path != m_resultPath) {
+    if (!HasResultsOf(path) || m_result.crops.isEmpty()) {
         return -1;
     }
     *out = m_result.crops;
@@ -32,22 +37,19 @@ int KxAutoReframeService::GetResults(const QString& path, QList<IKxAutoReframeRe
 QList<KxAutoReframeShot> KxAutoReframeService::GetShots(const QString& path) const
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    const bool hasResults = m_result.outcome == KxOutcome::Done && path == m_resultPath;
-    return hasResults ? m_result.shots : QList<KxAutoReframeShot>();
+    return HasResultsOf(path) ? m_result.shots : QList<KxAutoReframeShot>();
 }
 
 QList<KxAutoReframeLoss> KxAutoReframeService::GetLosses(const QString& path) const
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    const bool hasResults = m_result.outcome == KxOutcome::Done && path == m_resultPath;
-    return hasResults ? m_result.losses : QList<KxAutoReframeLoss>();
+    return HasResultsOf(path) ? m_result.losses : QList<KxAutoReframeLoss>();
 }
 
 QList<KxAutoReframeChoice> KxAutoReframeService::GetPlacedChoices(const QString& path) const
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    const bool hasResults = m_result.outcome == KxOutcome::Done && path == m_resultPath;
-    return hasResults ? KxChoiceRecords::FromPlaced(m_result.choices) : QList<KxAutoReframeChoice>();
+    return HasResultsOf(path) ? KxChoiceRecords::FromPlaced(m_result.choices) : QList<KxAutoReframeChoice>();
 }
 
 QList<IKxAutoReframeResult> KxAutoReframeService::GetPartialResults(const QString& path) const
