@@ -6,6 +6,7 @@
 #include <KxWidgets/KxUIStyle.h>
 
 #include <QAbstractItemView>
+#include <QComboBox>
 #include <QCompleter>
 #include <QDialogButtonBox>
 #include <QDir>
@@ -101,6 +102,8 @@ KxFileBox::KxFileBox(Picks picks, const QString& caption, const QString& folder,
     SetBottomBarVisible(false);
     // The options come first: they have no effect on a chooser that is already a child widget.
     m_chooser->setOption(QFileDialog::DontUseNativeDialog);
+    // The patterns do not fit into the box.
+    m_chooser->setOption(QFileDialog::HideNameFilterDetails);
     m_chooser->setOption(QFileDialog::ShowDirsOnly, picks == Picks::Folder);
     m_chooser->setFileMode(picks == Picks::Folder ? QFileDialog::Directory : QFileDialog::ExistingFiles);
     m_chooser->setIconProvider(&m_icons);
@@ -122,6 +125,9 @@ KxFileBox::~KxFileBox()
 void KxFileBox::SetFilter(const QString& filter)
 {
     m_chooser->setNameFilter(filter);
+    if (auto* const types = m_chooser->findChild<QComboBox*>(QStringLiteral("fileTypeCombo"))) {
+        types->setToolTip(filter);
+    }
 }
 
 void KxFileBox::SetFileCheck(KxFileDialog::FileCheck check)

@@ -8,10 +8,12 @@
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
+#include <QComboBox>
 #include <QCompleter>
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
+#include <QFileSystemModel>
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QSignalSpy>
@@ -225,6 +227,30 @@ TEST_F(KxFileDialogTest, SizesAndDatesAreNotCut)
     KxFileDialog::getExistingDirectory(nullptr, QStringLiteral("Choose"), folder.path());
     EXPECT_EQ(modes, (QList<QHeaderView::ResizeMode>{QHeaderView::Stretch, QHeaderView::ResizeToContents,
                                                      QHeaderView::ResizeToContents, QHeaderView::ResizeToContents}));
+}
+
+TEST_F(KxFileDialogTest, TheTypeOfTheFilesIsNotCut)
+{
+    const QString patterns =
+        QStringLiteral("*.mp4 *.mov *.mkv *.webm *.avi *.mpg *.mpeg *.m4v *.ts *.mts *.m2ts *.flv *.3gp");
+    QString text;
+    QString toolTip;
+    QStringList names;
+    QTimer::singleShot(0, qApp, [&] {
+        auto* const chooser = QApplication::activeModalWidget()->findChild<QFileDialog*>();
+        ASSERT_NE(chooser, nullptr);
+        const auto* const types = chooser->findChild<QComboBox*>(QStringLiteral("fileTypeCombo"));
+        text = types->currentText();
+        toolTip = types->toolTip();
+        names = chooser->findChild<QFileSystemModel*>()->nameFilters();
+        chooser->reject();
+    });
+    KxFileDialog::getOpenFileNames(
+        nullptr, QStringLiteral("Open"), QString(),
+        QStringLiteral("All supported files(%1;)").arg(QString(patterns).replace(QLatin1Char(' '), QLatin1Char(';'))));
+    EXPECT_EQ(text, QStringLiteral("All supported files"));
+    EXPECT_EQ(toolTip, QStringLiteral("All supported files (%1)").arg(patterns));
+    EXPECT_EQ(names, patterns.split(QLatin1Char(' ')));
 }
 
 TEST_F(KxFileDialogTest, SuggestedNamesHaveIconsOfTheSizeOfTheList)
