@@ -130,6 +130,16 @@ TEST_F(TestExportQueue, PausesDoNotCountInTheTimeLeft)
     EXPECT_EQ(m_queue.Find(id)->secondsLeft, 5);
 }
 
+TEST_F(TestExportQueue, AnAnalysisShowsNoTimeLeftBesideThatOfAll)
+{
+    const int id = m_queue.AddPlanned(Plan(QStringLiteral("a.mp4")));
+    m_nowMs += 4000;
+    m_backend.finding->callbacks.progress(5000);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return m_queue.Find(id)->progress == 5000; }, 10000));
+    EXPECT_FALSE(m_queue.Find(id)->secondsLeft.has_value());
+    EXPECT_TRUE(m_queue.Summary().secondsLeft.has_value());
+}
+
 TEST_F(TestExportQueue, TheTimeLeftOfAllCountsFrames)
 {
     const int first = m_queue.AddPlanned(Plan(QStringLiteral("a.mp4")));

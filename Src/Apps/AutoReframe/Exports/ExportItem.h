@@ -27,7 +27,8 @@ struct ExportItem : ExportJob {
     int id = 0;
     State state = State::Waiting;
     int progress = 0; ///< of the state, in ten-thousandths
-    /// Of the state. Empty while there is too little progress for an estimate.
+    /// Of the rendering. Empty while there is too little progress for an estimate, and during the analysis: the
+    /// rendering follows, so that its own time would contradict that of all exports.
     std::optional<qint64> secondsLeft;
     bool isPaused = false;
 

@@ -111,7 +111,7 @@ void ExportQueue::HandleProgress(int id, const std::shared_ptr<Mailbox>& mailbox
     }
     item->progress = mailbox->progress;
     const qint64 elapsedMs = m_stateTime.ElapsedMs();
-    if (elapsedMs >= EnoughForEstimateMs && item->progress > 0) {
+    if (item->state == State::Running && elapsedMs >= EnoughForEstimateMs && item->progress > 0) {
         item->secondsLeft = 1 + elapsedMs * (WholeProgress - item->progress) / item->progress / 1000;
     }
     Q_EMIT sigChanged(id);
