@@ -243,6 +243,10 @@ Das Kommandozeilenprogramm für viele Dateien auf einmal heißt reframe.</transl
         <source>Videos to open the library with.</source>
         <translation>Videos, mit denen die Bibliothek geöffnet wird.</translation>
     </message>
+    <message>
+        <source>Language of the texts: %1. Otherwise the one chosen in the menu, or that of the system.</source>
+        <translation>Sprache der Texte: %1. Sonst die im Menü gewählte oder die des Systems.</translation>
+    </message>
 </context>
 <context>
     <name>BatchDialog</name>

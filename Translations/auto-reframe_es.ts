@@ -243,6 +243,10 @@ El programa de línea de órdenes para muchos archivos a la vez es reframe.</tra
         <source>Videos to open the library with.</source>
         <translation>Vídeos con los que abrir la biblioteca.</translation>
     </message>
+    <message>
+        <source>Language of the texts: %1. Otherwise the one chosen in the menu, or that of the system.</source>
+        <translation>Idioma de los textos: %1. Si no, el elegido en el menú o el del sistema.</translation>
+    </message>
 </context>
 <context>
     <name>BatchDialog</name>

@@ -243,6 +243,10 @@ Le programme en ligne de commande pour plusieurs fichiers à la fois est reframe
         <source>Videos to open the library with.</source>
         <translation>Vidéos avec lesquelles ouvrir la bibliothèque.</translation>
     </message>
+    <message>
+        <source>Language of the texts: %1. Otherwise the one chosen in the menu, or that of the system.</source>
+        <translation>Langue des textes&#xa0;: %1. Sinon celle choisie dans le menu ou celle du système.</translation>
+    </message>
 </context>
 <context>
     <name>BatchDialog</name>

@@ -242,6 +242,10 @@ The command line program for many files at once is reframe.</source>
         <source>Videos to open the library with.</source>
         <translation>ライブラリで開く動画。</translation>
     </message>
+    <message>
+        <source>Language of the texts: %1. Otherwise the one chosen in the menu, or that of the system.</source>
+        <translation>表示言語: %1。指定しない場合はメニューで選んだ言語、またはシステムの言語です。</translation>
+    </message>
 </context>
 <context>
     <name>BatchDialog</name>

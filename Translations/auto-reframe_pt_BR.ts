@@ -243,6 +243,10 @@ O programa de linha de comando para muitos arquivos de uma vez é o reframe.</tr
         <source>Videos to open the library with.</source>
         <translation>Vídeos com os quais abrir a biblioteca.</translation>
     </message>
+    <message>
+        <source>Language of the texts: %1. Otherwise the one chosen in the menu, or that of the system.</source>
+        <translation>Idioma dos textos: %1. Caso contrário, o escolhido no menu ou o do sistema.</translation>
+    </message>
 </context>
 <context>
     <name>BatchDialog</name>

@@ -242,6 +242,10 @@ The command line program for many files at once is reframe.</source>
         <source>Videos to open the library with.</source>
         <translation>打开媒体库时载入的视频。</translation>
     </message>
+    <message>
+        <source>Language of the texts: %1. Otherwise the one chosen in the menu, or that of the system.</source>
+        <translation>文本的语言：%1。默认为菜单中选择的语言或系统语言。</translation>
+    </message>
 </context>
 <context>
     <name>BatchDialog</name>

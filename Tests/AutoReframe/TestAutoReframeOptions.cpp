@@ -40,6 +40,12 @@ TEST(TestAutoReframeOptions, HelpIsPrintedDespiteOptionsOfQt)
     EXPECT_TRUE(parsed.text.contains(QLatin1String("[FILE...]")));
 }
 
+TEST(TestAutoReframeOptions, HelpNamesTheLanguageOfTheMenu)
+{
+    const QString help = Parse({QStringLiteral("--help")}).text.simplified();
+    EXPECT_TRUE(help.contains(QLatin1String("Otherwise the one chosen in the menu, or that of the system.")));
+}
+
 TEST(TestAutoReframeOptions, AnUnknownOptionIsWrongUse)
 {
     const auto parsed = Parse({QStringLiteral("--frobnicate"), QStringLiteral("a.mp4")});

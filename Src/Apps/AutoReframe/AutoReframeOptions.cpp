@@ -48,7 +48,11 @@ AutoReframeOptions::Parsed AutoReframeOptions::Parse(const QStringList& argument
 {
     const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")}, Texts::tr("Show this text."));
     const QCommandLineOption version(QStringLiteral("version"), Texts::tr("Show the version."));
-    const QCommandLineOption language(QStringLiteral("language"), KxLanguage::OptionText(), QStringLiteral("CODE"));
+    const QCommandLineOption language(
+        QStringLiteral("language"),
+        Texts::tr("Language of the texts: %1. Otherwise the one chosen in the menu, or that of the system.")
+            .arg(KxLanguage::Codes().join(QStringLiteral(", "))),
+        QStringLiteral("CODE"));
     QCommandLineParser parser;
     parser.setApplicationDescription(
         Texts::tr("Turns videos into another aspect ratio and keeps their subject in the picture.\n"
