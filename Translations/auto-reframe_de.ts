@@ -1203,6 +1203,10 @@ Benötigt: %1 MB, verfügbar: %2 MB.</translation>
         <source>Following: %1 %</source>
         <translation>Wird verfolgt: %1&#xa0;%</translation>
     </message>
+    <message>
+        <source>Your edit stays here; the choice changes other frames</source>
+        <translation>Hier bleibt die Bearbeitung; die Vorgabe ändert andere Bilder</translation>
+    </message>
 </context>
 <context>
     <name>KrDoubtfulShots</name>

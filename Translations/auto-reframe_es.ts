@@ -1203,6 +1203,10 @@ Espacio necesario: %1 MB, disponible: %2 MB.</translation>
         <source>Following: %1 %</source>
         <translation>Siguiendo: %1&#xa0;%</translation>
     </message>
+    <message>
+        <source>Your edit stays here; the choice changes other frames</source>
+        <translation>Su edición se conserva aquí; la elección cambia otros fotogramas</translation>
+    </message>
 </context>
 <context>
     <name>KrDoubtfulShots</name>

@@ -1203,6 +1203,10 @@ Espace nécessaire&#xa0;: %1 Mo, disponible&#xa0;: %2 Mo.</translation>
         <source>Following: %1 %</source>
         <translation>Suivi&#xa0;: %1&#xa0;%</translation>
     </message>
+    <message>
+        <source>Your edit stays here; the choice changes other frames</source>
+        <translation>Votre modification reste ici&#xa0;; le choix change les autres images</translation>
+    </message>
 </context>
 <context>
     <name>KrDoubtfulShots</name>

@@ -1193,6 +1193,10 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
         <source>Following: %1 %</source>
         <translation>追従中: %1%</translation>
     </message>
+    <message>
+        <source>Your edit stays here; the choice changes other frames</source>
+        <translation>ここでは編集が優先されます。指定は他のフレームに反映されます</translation>
+    </message>
 </context>
 <context>
     <name>KrDoubtfulShots</name>

@@ -1203,6 +1203,10 @@ Espaço necessário: %1 MB, disponível: %2 MB.</translation>
         <source>Following: %1 %</source>
         <translation>Acompanhando: %1%</translation>
     </message>
+    <message>
+        <source>Your edit stays here; the choice changes other frames</source>
+        <translation>Sua edição é mantida aqui; a escolha muda outros quadros</translation>
+    </message>
 </context>
 <context>
     <name>KrDoubtfulShots</name>

@@ -1193,6 +1193,10 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
         <source>Following: %1 %</source>
         <translation>正在跟随：%1%</translation>
     </message>
+    <message>
+        <source>Your edit stays here; the choice changes other frames</source>
+        <translation>此处保留您的编辑；选择会更改其他帧</translation>
+    </message>
 </context>
 <context>
     <name>KrDoubtfulShots</name>

@@ -81,6 +81,9 @@ KrDialogExtension::KrDialogExtension(KrAutoReframeExtensions& host, const Parts&
     connect(&m_isKnown, &QFutureWatcher<bool>::finished, this, &KrDialogExtension::HandleKnown);
     connect(&helper, &KrAutoReframeHelper::sigOpenTimelineFinished, this, &KrDialogExtension::EnterSource);
     connect(&helper.GetUndoStack(), &QUndoStack::indexChanged, this, &KrDialogExtension::ReportChange);
+    connect(&helper.GetUndoStack(), &QUndoStack::indexChanged, this, &KrDialogExtension::UpdateEditHint);
+    connect(&m_parts.view.Presenter(), &KxMediaPlayerPresenter::sigFrameChanged, this,
+            &KrDialogExtension::UpdateEditHint);
     m_parts.panel.WhenParametersChange(this, [this] { HandleSettingsChanged(); });
 }
 
@@ -169,6 +172,7 @@ void KrDialogExtension::LeaveSource()
     m_path.clear();
     m_hasResults = false;
     m_placement.clear();
+    m_editStays = false;
     m_isKnown.cancel();
     m_decide.stop();
     StopGrowth();
@@ -270,6 +274,7 @@ bool KrDialogExtension::StaysAtFrame() const
 
 void KrDialogExtension::ShowResults()
 {
+    const bool isAnswer = m_hasResults && !(m_choices->Current() == m_shownChoices);
     m_hasResults = true;
     m_mustDecide = false;
     const KrAutoReframeAnalyzeParam param = m_parts.process.GetParam();
@@ -279,6 +284,7 @@ void KrDialogExtension::ShowResults()
         m_parts.view.RefreshFrame(m_parts.view.Presenter().currentFrame());
     }
     m_shownChoices = m_choices->Current();
+    m_editStays = isAnswer && ShowsEdit();
     UpdateHint();
     ShowResultSize();
     ShowShots();
@@ -313,6 +319,9 @@ void KrDialogExtension::UpdateHint()
     }
     const bool differs = !(PanelSettings() == m_shown) || !(m_choices->Current() == m_shownChoices);
     QStringList placement{m_placement, m_edits.Message()};
+    if (m_editStays) {
+        placement = QStringList(tr("Your edit stays here; the choice changes other frames"));
+    }
     placement.removeAll(QString());
     m_parts.panel.SetHint(m_hasResults && differs ? tr("Settings changed: analyze again")
                                                   : placement.join(QLatin1Char('\n')));

@@ -91,6 +91,10 @@ private:
     void ShowChoices();
     /// Where the analysis lost what the person pointed at.
     void ShowLosses();
+    /// An edit rules the crop of the frame on the screen.
+    bool ShowsEdit() const;
+    /// Ends the hint that the edit stays, once the frame on the screen shows none.
+    void UpdateEditHint();
     double FrameRate() const;
     void UpdateHint();
     void ShowResultSize();
@@ -110,6 +114,8 @@ private:
     QList<KxAutoReframeChoice> m_shownChoices;
     /// For the person: what happened to choices that were made for another cut of the video; empty: nothing.
     QString m_placement;
+    /// The person chose something at a frame that shows an edit, which stays.
+    bool m_editStays = false;
     KrEditPictures m_edits;
     /// Null if the host's service has no shots.
     KrDoubtfulShots* m_doubtfulShots = nullptr;

@@ -14,6 +14,8 @@
 #include <KxModel/IKxAutoReframePartialResults.h>
 #include <KxModel/IKxAutoReframeService.h>
 
+#include <KxPlayer/KxMediaPlayerPresenter.h>
+
 #include <QPointer>
 
 namespace
@@ -144,6 +146,24 @@ void KrDialogExtension::ShowChoices()
         marks.insert(isBelowLast ? marks.size() - 1 : marks.size(), mark);
     }
     m_parts.view.ControlBar().Slider().SetChoices(marks);
+}
+
+bool KrDialogExtension::ShowsEdit() const
+{
+    const KrAutoReframeHelper& helper = *m_parts.process.GetHelper();
+    const int frame = m_parts.view.Presenter().currentFrame();
+    const QList<IKxAutoReframeResult> results = helper.GetResults();
+    const QList<IKxAutoReframeResult>& shown = helper.GetDisplayResults();
+    return frame >= 0 && frame < qMin(results.size(), shown.size()) &&
+           results.at(frame).cropRect() != shown.at(frame).cropRect();
+}
+
+void KrDialogExtension::UpdateEditHint()
+{
+    if (m_editStays && !ShowsEdit()) {
+        m_editStays = false;
+        UpdateHint();
+    }
 }
 
 void KrDialogExtension::ShowLosses()

@@ -334,6 +334,35 @@ TEST_F(KrFollowControlsTest, ChoicesAndEditsAreOneHistory)
     EXPECT_EQ(taking.choices.size(), 1);
 }
 
+TEST_F(KrFollowControlsTest, AChoiceAtAnEditedFrameSaysThatTheEditStays)
+{
+    const QString hint = QStringLiteral("Your edit stays here; the choice changes other frames");
+    Helper().AddKeyFrame(90, QRectF(0.5, 0.0, 0.25, 1.0));
+    Drag(At(0.2, 0.3), At(0.4, 0.7));
+    Choose(QStringLiteral("Follow This"));
+    ASSERT_EVENTUALLY(HasDecided());
+    ASSERT_EVENTUALLY(Hint().isEmpty());
+
+    FakePlayer::ShowFrame(*presenter, 80);
+    Drag(At(0.5, 0.3), At(0.7, 0.7));
+    Choose(QStringLiteral("Follow This"));
+    ASSERT_EVENTUALLY(Hint() == hint);
+    FakePlayer::ShowFrame(*presenter, 81);
+    EXPECT_EQ(Hint(), hint);
+    FakePlayer::ShowFrame(*presenter, 50);
+    EXPECT_EQ(Hint(), QString());
+}
+
+TEST_F(KrFollowControlsTest, TheHintThatAnEditStaysEndsWithTheEdit)
+{
+    Helper().AddKeyFrame(50, QRectF(0.5, 0.0, 0.25, 1.0));
+    Drag(At(0.2, 0.3), At(0.4, 0.7));
+    Choose(QStringLiteral("Follow This"));
+    ASSERT_EVENTUALLY(!Hint().isEmpty());
+    Helper().RemoveKeyFrame(50);
+    EXPECT_EQ(Hint(), QString());
+}
+
 TEST_F(KrFollowControlsTest, AChoiceIsDecidedInTheRatioThatIsShown)
 {
     Ratios().setCurrentText(QStringLiteral("1:1"));
