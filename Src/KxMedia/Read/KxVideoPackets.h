@@ -6,6 +6,7 @@
 
 #include <KxCore/KxRational.h>
 
+#include <array>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -75,12 +76,8 @@ private:
         qint64 offsetTicks = 0;
     };
 
-    /// What identifies a packet that is read again.
-    struct Mark {
-        qint64 presentationTicks = 0;
-        qint64 ticks = 0;
-        int size = 0;
-    };
+    /// What identifies a packet that is read again: its presentation time, its time and its size.
+    using Mark = std::array<qint64, 3>;
 
     void ResetToStart();
     KxReadStatus ReadNext(AVPacket& packet);

@@ -41,12 +41,7 @@ bool KxVideoPackets::Resume()
     }
     return std::all_of(m_marks.begin(), m_marks.end(), [&](const Mark& mark) {
         av_packet_unref(packet.get());
-        if (Next(*packet) != KxReadStatus::Delivered) {
-            return false;
-        }
-        const Mark again = MarkOf(*packet);
-        return again.presentationTicks == mark.presentationTicks && again.ticks == mark.ticks &&
-               again.size == mark.size;
+        return Next(*packet) == KxReadStatus::Delivered && MarkOf(*packet) == mark;
     });
 }
 
