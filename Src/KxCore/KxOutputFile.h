@@ -28,7 +28,6 @@ public:
     KxOutputFile& operator=(const KxOutputFile&) = delete;
 
     const QString& TemporaryPath() const { return m_part->Path(); }
-    const QString& TargetPath() const { return m_targetPath; }
 
     /// Gives the file its name and returns the full path. Blocks until the content is on the disk. Call once, with the
     /// file closed.
