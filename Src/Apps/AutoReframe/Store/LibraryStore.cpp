@@ -85,22 +85,28 @@ void LibraryStore::Open()
             this, [this, contents, notice] { FinishOpening(contents, notice); }, Qt::QueuedConnection);
     };
     Worker().Add({[this, deliver](const KxCancelToken&) {
-                      QString notice;
                       StoredContents contents;
-                      KxResult<std::unique_ptr<LibraryDatabase>> opened = LibraryDatabase::Open(m_filePath);
-                      notice = opened ? (*opened)->Notice() : opened.Message();
-                      if (opened) {
-                          if (const KxResult<StoredContents> read = (*opened)->ReadContents()) {
-                              contents = *read;
-                              m_database = std::move(*opened);
-                          } else {
-                              notice = tr("Cannot read the library %1: %2. What you do now is not saved.")
-                                           .arg(QDir::toNativeSeparators(m_filePath), read.Message());
-                          }
-                      }
+                      const QString notice = OpenDatabase(contents);
                       deliver(contents, notice);
                   },
                   [deliver](const QString& message) { deliver({}, message); }});
+}
+
+QString LibraryStore::OpenDatabase(StoredContents& contents)
+{
+    KxResult<std::unique_ptr<LibraryDatabase>> opened = LibraryDatabase::Open(m_filePath);
+    if (!opened) {
+        return opened.Message();
+    }
+    const QString notice = (*opened)->Notice();
+    const KxResult<StoredContents> read = (*opened)->ReadContents();
+    if (!read) {
+        return tr("Cannot read the library %1: %2. What you do now is not saved.")
+            .arg(QDir::toNativeSeparators(m_filePath), read.Message());
+    }
+    contents = *read;
+    m_database = std::move(*opened);
+    return notice;
 }
 
 KxWorker& LibraryStore::Worker()

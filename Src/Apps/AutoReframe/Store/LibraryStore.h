@@ -68,6 +68,8 @@ private:
     void ScheduleWriting();
 
     // On the store's thread.
+    /// Returns what the person should know; empty if nothing.
+    QString OpenDatabase(StoredContents& contents);
     void Write();
     KxError WriteAll(const std::vector<Change>& changes);
     void ReportWriting(const KxError& failure);
