@@ -49,18 +49,7 @@ ExportPanel::~ExportPanel() = default;
 
 void ExportPanel::InitLayout()
 {
-    m_heading = KxLabel::CreateLabel(this, QString());
-    m_heading->setObjectName(QStringLiteral("ExportPanel_heading"));
-    QFont bold = font();
-    bold.setWeight(QFont::DemiBold);
-    m_heading->setFont(bold);
-    m_heading->setProperty("textRole", QStringLiteral("muted"));
-    m_clear = new LinkButton(this);
-    m_clear->setObjectName(QStringLiteral("ExportPanel_clear"));
-    // The list must not move when the button appears.
-    QSizePolicy clearPolicy = m_clear->sizePolicy();
-    clearPolicy.setRetainSizeWhenHidden(true);
-    m_clear->setSizePolicy(clearPolicy);
+    QLayout* const head = MakeHead();
     m_hint = KxLabel::CreateLabel(this, QString());
     m_hint->setObjectName(QStringLiteral("ExportPanel_hint"));
     m_hint->setProperty("textRole", QStringLiteral("muted"));
@@ -75,11 +64,40 @@ void ExportPanel::InitLayout()
     queueRow->setContentsMargins(MarginPx, 0, MarginPx, 0);
     queueRow->addWidget(m_queueBar);
 
+    QWidget* const list = MakeList();
+    auto* const column = new QVBoxLayout(this);
+    // The line between the areas takes one pixel at the left.
+    column->setContentsMargins(1, 12, 0, 0);
+    column->setSpacing(8);
+    column->addLayout(head);
+    column->addLayout(barRow);
+    column->addLayout(queueRow);
+    column->addWidget(list, 1);
+}
+
+QLayout* ExportPanel::MakeHead()
+{
+    m_heading = KxLabel::CreateLabel(this, QString());
+    m_heading->setObjectName(QStringLiteral("ExportPanel_heading"));
+    QFont bold = font();
+    bold.setWeight(QFont::DemiBold);
+    m_heading->setFont(bold);
+    m_heading->setProperty("textRole", QStringLiteral("muted"));
+    m_clear = new LinkButton(this);
+    m_clear->setObjectName(QStringLiteral("ExportPanel_clear"));
+    // The list must not move when the button appears.
+    QSizePolicy clearPolicy = m_clear->sizePolicy();
+    clearPolicy.setRetainSizeWhenHidden(true);
+    m_clear->setSizePolicy(clearPolicy);
     auto* const head = new QHBoxLayout;
     head->setContentsMargins(MarginPx, 0, MarginPx, 0);
     head->addWidget(m_heading, 1);
     head->addWidget(m_clear);
+    return head;
+}
 
+QWidget* ExportPanel::MakeList()
+{
     auto* const content = new QWidget;
     content->setObjectName(QStringLiteral("ExportPanel_content"));
     m_column = new QVBoxLayout(content);
@@ -100,15 +118,7 @@ void ExportPanel::InitLayout()
         const int barPx = top < bottom ? bar->sizeHint().width() : 0;
         m_column->setContentsMargins(MarginPx, 0, qMax(0, MarginPx - barPx), MarginPx);
     });
-
-    auto* const column = new QVBoxLayout(this);
-    // The line between the areas takes one pixel at the left.
-    column->setContentsMargins(1, 12, 0, 0);
-    column->setSpacing(8);
-    column->addLayout(head);
-    column->addLayout(barRow);
-    column->addLayout(queueRow);
-    column->addWidget(area, 1);
+    return area;
 }
 
 QWidget* ExportPanel::MakeResumeBar()

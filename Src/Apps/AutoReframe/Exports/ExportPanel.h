@@ -37,6 +37,8 @@ private:
     void UpdateCard(int id);
     void RemoveCard(int id);
     void ShowHints();
+    QLayout* MakeHead();
+    QWidget* MakeList();
     QWidget* MakeResumeBar();
 
     ExportQueue& m_queue;
