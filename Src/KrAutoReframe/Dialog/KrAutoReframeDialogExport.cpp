@@ -30,6 +30,31 @@ int TrackRatio(int width, int height)
     return isFourToFive ? fourToFive : type;
 }
 
+/// Of the video that is exported; defaults where it has no such stream.
+struct SourceFacts {
+    QSize resolution;
+    double frameRate = KrExportParameters::DefaultFrameRate;
+    int videoBitRate = KrExportParameters::DefaultVideoBitRate;
+    int audioBitRate = KrExportParameters::DefaultAudioBitRate;
+};
+
+SourceFacts FactsOf(const IKxAbstractMediaItem& media, const KrAutoReframeHelper& helper)
+{
+    SourceFacts facts;
+    const IKxMediaInfo* const info = media.mediaInfo();
+    const auto* const video = dynamic_cast<const IKxVideoMediaInfo*>(info);
+    if (info->hasVideoStream() && video != nullptr) {
+        facts.resolution = helper.GetSourceTimeline()->projectSettings().resolution;
+        facts.frameRate = KrExportParameters::FrameRate(video->frameRate());
+        facts.videoBitRate = video->bitRate();
+    }
+    const auto* const audio = dynamic_cast<const IKxAudioMediaInfo*>(info);
+    if (info->hasAudioStream() && audio != nullptr) {
+        facts.audioBitRate = audio->bitRate(media.audioStreamIndex());
+    }
+    return facts;
+}
+
 } // namespace
 
 void KrAutoReframeDialog::slotExportToLocal()
@@ -44,35 +69,21 @@ void KrAutoReframeDialog::slotExportToLocal()
         return;
     }
 
-    QSize sourceResolution;
-    double frameRate = KrExportParameters::DefaultFrameRate;
-    int videoBitRate = KrExportParameters::DefaultVideoBitRate;
-    int audioBitRate = KrExportParameters::DefaultAudioBitRate;
-    const IKxMediaInfo* const info = m_videoMedia->mediaInfo();
-    const auto* const video = dynamic_cast<const IKxVideoMediaInfo*>(info);
-    if (info->hasVideoStream() && video != nullptr) {
-        sourceResolution = helper->GetSourceTimeline()->projectSettings().resolution;
-        frameRate = KrExportParameters::FrameRate(video->frameRate());
-        videoBitRate = video->bitRate();
-    }
-    const auto* const audio = dynamic_cast<const IKxAudioMediaInfo*>(info);
-    if (info->hasAudioStream() && audio != nullptr) {
-        audioBitRate = audio->bitRate(m_videoMedia->audioStreamIndex());
-    }
+    const SourceFacts source = FactsOf(*m_videoMedia, *helper);
     const KrAutoReframeAnalyzeParam param = m_process->GetParam();
-    const QRectF shape = Extension() != nullptr ? KrExportParameters::ShapeOfResult(results, sourceResolution,
+    const QRectF shape = Extension() != nullptr ? KrExportParameters::ShapeOfResult(results, source.resolution,
                                                                                     QSize(param.width, param.height))
                                                 : results.first().cropRect();
-    const QSize resolution = CalculateResolution(sourceResolution, shape);
+    const QSize resolution = CalculateResolution(source.resolution, shape);
     SendClickEvent(QStringLiteral("export_btn"));
 
     KrAutoReframeExportDlg dialog(this);
     dialog.SetDefaultName(QFileInfo(m_sourcePath).baseName());
     dialog.SetResolution(resolution);
-    dialog.SetFrameRate(static_cast<float>(frameRate));
-    dialog.SetVideoBitRate(KrExportParameters::VideoBitRate(videoBitRate));
-    dialog.SetAudioBitRate(KrExportParameters::AudioBitRate(audioBitRate));
-    dialog.SetSrcResolution(sourceResolution);
+    dialog.SetFrameRate(static_cast<float>(source.frameRate));
+    dialog.SetVideoBitRate(KrExportParameters::VideoBitRate(source.videoBitRate));
+    dialog.SetAudioBitRate(KrExportParameters::AudioBitRate(source.audioBitRate));
+    dialog.SetSrcResolution(source.resolution);
     dialog.SetRatio(param.width, param.height);
     dialog.SetAnalysisInfo(param.mode, helper->GetEditPointFrames().size(), helper->GetDuration(), m_sourceSuffix);
     dialog.SetSrcDuration(m_videoMedia->duration());
