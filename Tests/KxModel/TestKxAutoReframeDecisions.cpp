@@ -1,4 +1,5 @@
 #include <KxModel/KxAutoReframeService.h>
+#include <Tests/KxModel/EventRecorder.h>
 #include <Tests/KxModel/TwoThings.h>
 #include <Tests/Support/MadeVideo.h>
 
@@ -6,39 +7,12 @@
 
 #include <gtest/gtest.h>
 
-#include <future>
+#include <vector>
 
 namespace
 {
 
 constexpr int Frames = 50;
-
-/// Waits for the end of one task.
-class EndObserver final : public IKxAutoReframeEventObserver
-{
-public:
-    explicit EndObserver(KxAutoReframeService& service)
-        : m_service(service)
-    {
-        m_service.AddObserver(this);
-    }
-    ~EndObserver() { m_service.RemoveObserver(this); }
-    EndObserver(const EndObserver&) = delete;
-    EndObserver& operator=(const EndObserver&) = delete;
-
-    void OnAutoReframeEvent(qint64, int state, int) override
-    {
-        constexpr int ended = 2;
-        if (state == ended) {
-            m_end.set_value();
-        }
-    }
-    bool Wait() { return m_end.get_future().wait_for(std::chrono::minutes(2)) == std::future_status::ready; }
-
-private:
-    KxAutoReframeService& m_service;
-    std::promise<void> m_end;
-};
 
 class KxAutoReframeDecisionsTest : public testing::Test
 {
@@ -55,9 +29,9 @@ protected:
 
     std::vector<QRectF> Analyse(const QSize& aspect)
     {
-        EndObserver observer(m_service);
+        EventRecorder recorder(m_service);
         EXPECT_TRUE(m_service.StartTask(Clip(), IKxAutoReframeParam(16, aspect)));
-        EXPECT_TRUE(observer.Wait());
+        EXPECT_TRUE(recorder.WaitForEnd());
         QList<IKxAutoReframeResult> results;
         EXPECT_EQ(m_service.GetResults(Clip(), &results), 0);
         return Crops(results);
