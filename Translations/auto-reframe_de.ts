@@ -1204,8 +1204,8 @@ Benötigt: %1 MB, verfügbar: %2 MB.</translation>
         <translation>Wird verfolgt: %1&#xa0;%</translation>
     </message>
     <message>
-        <source>Your edit stays here; the choice changes other frames</source>
-        <translation>Hier bleibt die Bearbeitung; die Vorgabe ändert andere Bilder</translation>
+        <source>Your edit stays here</source>
+        <translation>Die Bearbeitung bleibt hier</translation>
     </message>
 </context>
 <context>

@@ -1204,8 +1204,8 @@ Espacio necesario: %1 MB, disponible: %2 MB.</translation>
         <translation>Siguiendo: %1&#xa0;%</translation>
     </message>
     <message>
-        <source>Your edit stays here; the choice changes other frames</source>
-        <translation>Su edición se conserva aquí; la elección cambia otros fotogramas</translation>
+        <source>Your edit stays here</source>
+        <translation>Su edición se conserva aquí</translation>
     </message>
 </context>
 <context>

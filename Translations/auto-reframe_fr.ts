@@ -1204,8 +1204,8 @@ Espace nécessaire&#xa0;: %1 Mo, disponible&#xa0;: %2 Mo.</translation>
         <translation>Suivi&#xa0;: %1&#xa0;%</translation>
     </message>
     <message>
-        <source>Your edit stays here; the choice changes other frames</source>
-        <translation>Votre modification reste ici&#xa0;; le choix change les autres images</translation>
+        <source>Your edit stays here</source>
+        <translation>Votre modification reste ici</translation>
     </message>
 </context>
 <context>

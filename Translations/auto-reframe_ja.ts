@@ -1194,8 +1194,8 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
         <translation>追従中: %1%</translation>
     </message>
     <message>
-        <source>Your edit stays here; the choice changes other frames</source>
-        <translation>ここでは編集が優先されます。指定は他のフレームに反映されます</translation>
+        <source>Your edit stays here</source>
+        <translation>ここでは編集が優先されます</translation>
     </message>
 </context>
 <context>

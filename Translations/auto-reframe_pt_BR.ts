@@ -1204,8 +1204,8 @@ Espaço necessário: %1 MB, disponível: %2 MB.</translation>
         <translation>Acompanhando: %1%</translation>
     </message>
     <message>
-        <source>Your edit stays here; the choice changes other frames</source>
-        <translation>Sua edição é mantida aqui; a escolha muda outros quadros</translation>
+        <source>Your edit stays here</source>
+        <translation>Sua edição é mantida aqui</translation>
     </message>
 </context>
 <context>

@@ -1194,8 +1194,8 @@ Dise Space needed :%1 MB, remaining:%2 MB.</source>
         <translation>正在跟随：%1%</translation>
     </message>
     <message>
-        <source>Your edit stays here; the choice changes other frames</source>
-        <translation>此处保留您的编辑；选择会更改其他帧</translation>
+        <source>Your edit stays here</source>
+        <translation>此处保留您的编辑</translation>
     </message>
 </context>
 <context>

@@ -320,7 +320,7 @@ void KrDialogExtension::UpdateHint()
     const bool differs = !(PanelSettings() == m_shown) || !(m_choices->Current() == m_shownChoices);
     QStringList placement{m_placement, m_edits.Message()};
     if (m_editStays) {
-        placement = QStringList(tr("Your edit stays here; the choice changes other frames"));
+        placement = QStringList(tr("Your edit stays here"));
     }
     placement.removeAll(QString());
     m_parts.panel.SetHint(m_hasResults && differs ? tr("Settings changed: analyze again")

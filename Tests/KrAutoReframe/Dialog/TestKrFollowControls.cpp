@@ -336,7 +336,7 @@ TEST_F(KrFollowControlsTest, ChoicesAndEditsAreOneHistory)
 
 TEST_F(KrFollowControlsTest, AChoiceAtAnEditedFrameSaysThatTheEditStays)
 {
-    const QString hint = QStringLiteral("Your edit stays here; the choice changes other frames");
+    const QString hint = QStringLiteral("Your edit stays here");
     Helper().AddKeyFrame(90, QRectF(0.5, 0.0, 0.25, 1.0));
     Drag(At(0.2, 0.3), At(0.4, 0.7));
     Choose(QStringLiteral("Follow This"));
