@@ -115,6 +115,22 @@ TEST(ReframeReporter, AMessageThatHasTheNameOfTheFileShowsItsPath)
               QStringLiteral("Cannot open a.mp4."));
 }
 
+TEST(ReframeReporter, NamesWithControlCharactersStayOnOneLineAndDoNotControlTheTerminal)
+{
+    ErrorTerminal terminal;
+    ReframeReporter reporter{ReframeOptions()};
+    const QString input = QStringLiteral("a\nb\x1b[31m\u00e9.mp4");
+    reporter.BeginStage(input, ReframeReporter::Stage::Analyze);
+    EXPECT_EQ(terminal.Take(), Cleared + "a?b?[31m\xc3\xa9.mp4: analyzing 0 %");
+    reporter.Fail(input, QStringLiteral("Cannot open %1.").arg(input));
+    EXPECT_EQ(terminal.Take(), Cleared + "Cannot open a?b?[31m\xc3\xa9.mp4.\n");
+    reporter.Warn(input, QStringLiteral("%1 is odd.").arg(input));
+    EXPECT_EQ(terminal.Take(), "Warning: a?b?[31m\xc3\xa9.mp4 is odd.\n");
+    testing::internal::CaptureStdout();
+    reporter.Succeed(input, QStringLiteral("%1: done").arg(input), {});
+    EXPECT_EQ(testing::internal::GetCapturedStdout(), "a?b?[31m\xc3\xa9.mp4: done\n");
+}
+
 TEST(ReframeReporter, AMessageReplacesTheProgressLine)
 {
     ErrorTerminal terminal;

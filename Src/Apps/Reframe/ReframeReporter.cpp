@@ -28,6 +28,17 @@ void WriteError(const QByteArray& text)
     std::fflush(stderr);
 }
 
+/// As one line of a terminal: file names can have line breaks, and sequences that a terminal would obey.
+QByteArray Printable(QString text)
+{
+    for (QChar& character : text) {
+        if (character.category() == QChar::Other_Control) {
+            character = QLatin1Char('?');
+        }
+    }
+    return text.toLocal8Bit();
+}
+
 /// The message with the path of the input where it has the mere name, which several inputs can share. A name without a
 /// suffix could be a word of the message, which then stays as it is.
 QString WithPath(const QString& message, const QString& input)
@@ -108,7 +119,7 @@ void ReframeReporter::Progress(int progress)
     if (m_showsLine) {
         const QString line = StageLine(m_stage).arg(QFileInfo(m_input).fileName(), QString::number(percent),
                                                     TimeLeft::Text(m_stageTimer.elapsed(), progress));
-        WriteError("\r\033[K" + line.toLocal8Bit());
+        WriteError("\r\033[K" + Printable(line));
         m_lineShown = true;
     }
 }
@@ -120,7 +131,7 @@ void ReframeReporter::Warn(const QString& input, const QString& message)
     }
     ClearLine();
     if (!m_quiet) {
-        WriteError(Texts::tr("Warning: %1").arg(WithPath(message, input)).toLocal8Bit() + '\n');
+        WriteError(Printable(Texts::tr("Warning: %1").arg(WithPath(message, input))) + '\n');
     }
 }
 
@@ -130,7 +141,7 @@ void ReframeReporter::Fail(const QString& input, const QString& message)
         WriteJson(QStringLiteral("error"), input, {{QStringLiteral("message"), message}});
     }
     ClearLine();
-    WriteError(WithPath(message, input).toLocal8Bit() + '\n');
+    WriteError(Printable(WithPath(message, input)) + '\n');
 }
 
 void ReframeReporter::Succeed(const QString& input, const QString& message, const QJsonObject& facts)
@@ -149,7 +160,7 @@ void ReframeReporter::Conclude(const QString& event, const QString& input, const
     ClearLine();
     WriteJson(event, input, facts);
     if (m_format == Format::Text && !m_quiet) {
-        WriteOutput(message.toLocal8Bit() + '\n');
+        WriteOutput(Printable(message) + '\n');
     }
 }
 
