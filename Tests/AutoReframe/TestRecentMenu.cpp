@@ -43,6 +43,30 @@ TEST_F(TestRecentMenu, OfAnImportedFolderTheMenuListsTheFolder)
     EXPECT_EQ(Recent(run), QStringList(QStringLiteral("trip")));
 }
 
+TEST_F(TestRecentMenu, AVideoOfAFolderThatIsImportedKeepsItsPlaceInTheMenu)
+{
+    const QString first = Clip(QStringLiteral("trip/a.mp4"));
+    ImportAndQuit({first, Clip(QStringLiteral("b.mp4"))});
+    Run run(Data());
+    const QStringList videos{QStringLiteral("b.mp4"), QStringLiteral("a.mp4")};
+    EXPECT_EQ(Recent(run), videos);
+    run.window.Open({QFileInfo(first).path()});
+    ASSERT_TRUE(QTest::qWaitFor([&] { return run.Selected() == QStringList(QStringLiteral("a.mp4")); }, 30000));
+    EXPECT_EQ(Recent(run), videos + QStringList(QStringLiteral("trip")));
+}
+
+TEST_F(TestRecentMenu, AFolderThatHasNoVideosAnyMoreLeavesTheMenu)
+{
+    const QString clip = Clip(QStringLiteral("trip/a.mp4"));
+    ImportAndQuit({QFileInfo(clip).path()});
+    ASSERT_TRUE(QFile::remove(clip));
+    Run run(Data());
+    EXPECT_EQ(Recent(run), QStringList(QStringLiteral("trip")));
+    run.window.Open({QFileInfo(clip).path()});
+    ASSERT_TRUE(QTest::qWaitFor([&] { return m_boxes.size() == 1; }, 30000));
+    EXPECT_EQ(Recent(run), QStringList());
+}
+
 TEST_F(TestRecentMenu, TheMenuDoesNotListWhatWasRefused)
 {
     {
