@@ -212,6 +212,26 @@ TEST_F(ReframePartsTest, JoinedVideosShowEachFrameOnceWithTheSoundInStep)
     EXPECT_TRUE(again.standardOutput.contains(QLatin1String("skipped"))) << again.standardOutput.toStdString();
 }
 
+TEST_F(ReframePartsTest, PicturesAreMadeAgainOnlyForAnotherPart)
+{
+    const QString clip = QStringLiteral("clip.mp4");
+    MadeVideo::Recipe recipe;
+    Make(clip, recipe, X264);
+    const QString part = QStringLiteral("part.pictures");
+    const auto run = [&](const QString& frames) {
+        return ReframeRun({QStringLiteral("--if-needed"), QStringLiteral("--frames"), frames,
+                           QStringLiteral("--output"), Path(part), Path(clip)})
+            .standardOutput;
+    };
+    run(QStringLiteral("1/2"));
+    const QByteArray first = Content(part);
+    EXPECT_FALSE(first.isEmpty());
+    EXPECT_TRUE(run(QStringLiteral("1/2")).contains(QLatin1String("skipped")));
+    EXPECT_FALSE(run(QStringLiteral("2/2")).contains(QLatin1String("skipped")));
+    EXPECT_NE(Content(part), first);
+    EXPECT_FALSE(QFile::exists(Path(QStringLiteral("part (2).pictures"))));
+}
+
 TEST_F(ReframePartsTest, VideosJoinedFromPartsOfAQualityAreTheWholeVideo)
 {
     // Four seconds a scene, so that scenes, parts and segments of ten seconds end at different frames.
