@@ -35,7 +35,6 @@ QStringList KxSystemFile::UnnameableFiles(const QString& folder, Depth depth)
             files += path;
         }
     }
-    files.sort();
     return files;
 }
 
