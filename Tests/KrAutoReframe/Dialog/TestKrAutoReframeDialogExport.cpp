@@ -172,6 +172,14 @@ TEST_F(DialogExportTest, AConfirmedExportEmitsTimelineMediaAndRecord)
     }
 }
 
+TEST_F(DialogExportTest, NoTimelineLeavesTheSourceToBeExported)
+{
+    LoadAndAnalyse(Source());
+    dialog->InitTimeline(nullptr);
+    Confirm();
+    EXPECT_EQ(exported.size(), 1U);
+}
+
 TEST_F(DialogExportTest, TheMediaAreTheDialogsOwnList)
 {
     LoadAndAnalyse(Source());
