@@ -23,20 +23,12 @@ constexpr std::size_t StepOutside = 8;
 /// The time around a frame within its shot. Ends at cuts are found to the frame.
 KxSubjectChoice ChoiceAround(const KxSubjectRecord& record, std::int64_t frame)
 {
-    std::int64_t first = 0;
-    std::int64_t end = record.source.frameCount;
-    for (const KxShotBoundary& boundary : record.boundaries) {
-        if (boundary.frame <= frame) {
-            first = boundary.frame;
-        } else {
-            end = std::min(end, boundary.frame);
-        }
-    }
+    const KxSubjectRecord::Shot shot = record.ShotAt(frame);
     const auto around = static_cast<std::int64_t>(SecondsAround * record.source.frameRate);
     KxSubjectChoice choice;
     choice.kind = KxChoiceKind::Automatic;
-    choice.fromSeconds = record.SecondsAt(std::max(first, frame - around));
-    choice.toSeconds = record.SecondsAt(std::min(end, frame + around + 1));
+    choice.fromSeconds = record.SecondsAt(std::max(shot.first, frame - around));
+    choice.toSeconds = record.SecondsAt(std::min(shot.end, frame + around + 1));
     return choice;
 }
 

@@ -109,5 +109,12 @@ struct KXSUBJECT_API KxSubjectRecord {
     std::vector<KxSoundSpan> sound;     ///< growing in time, apart from each other; only where there are mouths
     std::vector<KxUsedModel> models;    ///< the networks that were used
 
+    /// The frames from `first` up to, but without, `end`.
+    struct Shot {
+        std::int64_t first = 0;
+        std::int64_t end = 0;
+    };
+    Shot ShotAt(std::int64_t frame) const;
+
     double SecondsAt(std::int64_t frame) const { return static_cast<double>(frame) / source.frameRate; }
 };
