@@ -2,10 +2,17 @@
 
 #include <cstdint>
 
-enum class KxDetectionKind : std::uint8_t { Person, Animal };
+enum class KxDetectionKind : std::uint8_t { Person, Animal, Vehicle };
 
-/// A person or an animal that was found in one picture. The box lies inside the picture, in fractions of it; it is
-/// never empty.
+/// Whether the crop follows such a thing by itself. Vehicles stand and pass everywhere: one is followed where a person
+/// points at it.
+inline bool KxIsSubject(KxDetectionKind kind)
+{
+    return kind != KxDetectionKind::Vehicle;
+}
+
+/// A person, an animal or a vehicle that was found in one picture. The box lies inside the picture, in fractions of it;
+/// it is never empty.
 struct KxDetection {
     float x = 0.0F;
     float y = 0.0F;

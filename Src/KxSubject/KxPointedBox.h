@@ -19,5 +19,5 @@ struct KxGuessedBox {
 KXSUBJECT_API KxGuessedBox KxGuessBoxAt(const KxPictureView& picture, double x, double y);
 
 /// Whether the analysis saw something within a tenth of the picture's width of a place, half a second before to half a
-/// second after `seconds`: something that moved relative to its background, a face, a person or an animal.
+/// second after `seconds`: something that moved relative to its background, a face, a person, an animal or a vehicle.
 KXSUBJECT_API bool KxSawSomethingAt(const KxSubjectRecord& record, double seconds, double x, double y);

@@ -61,7 +61,7 @@ struct KxFaceTrack {
     std::vector<KxFaceLook> looks; ///< growing in time; the first one found the face
 };
 
-/// The people and animals that the object detector found in one picture; none is a finding, too.
+/// The people, animals and vehicles that the object detector found in one picture; none is a finding, too.
 struct KxDetectionLook {
     std::int32_t frame = 0;
     std::vector<KxDetection> found;

@@ -328,7 +328,7 @@ public:
         Require(detection.x >= 0.0F && detection.width > 0.0F && detection.x + detection.width <= 1.0F + rounding &&
                 detection.y >= 0.0F && detection.height > 0.0F && detection.y + detection.height <= 1.0F + rounding &&
                 detection.score >= 0.0F && detection.score <= 1.0F &&
-                kind <= static_cast<std::uint8_t>(KxDetectionKind::Animal));
+                kind <= static_cast<std::uint8_t>(KxDetectionKind::Vehicle));
         detection.kind = static_cast<KxDetectionKind>(kind);
     }
     void GetItem(KxDetectionLook& look)

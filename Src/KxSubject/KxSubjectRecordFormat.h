@@ -12,7 +12,7 @@
 namespace KxSubjectRecordFormat
 {
 /// Grows with every change of the format, and of what the signals measure: older records are made anew.
-constexpr std::uint32_t Version = 8;
+constexpr std::uint32_t Version = 9;
 
 KXSUBJECT_API std::string Write(const KxSubjectRecord& record);
 

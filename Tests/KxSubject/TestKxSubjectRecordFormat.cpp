@@ -29,7 +29,7 @@ KxSubjectRecord Record()
     record.movers = {{3, 1.5F, 0.2F, {{10, 20, 30, 40}, {12, 20, 32, 40}}}, {38, 0.5F, 0.1F, {{0, 0, 255, 255}}}};
     record.faces = {{{{0.5F, 10, 20, 30, 40}, {0.75F, 0, 0, 0, 0}, {1.0F, -2, 20, 30, 40}}}};
     record.models = {{"a.onnx", "0123"}, {"", std::string(64, 'f')}};
-    record.looks = {{0, {{0.1F, 0.2F, 0.3F, 0.4F, 0.9F, KxDetectionKind::Animal}}}, {25, {}}};
+    record.looks = {{0, {{0.1F, 0.2F, 0.3F, 0.4F, 0.9F, KxDetectionKind::Vehicle}}}, {25, {}}};
     record.faces.push_back(record.faces[0]);
     record.mouths = {{0, {{4, 2, 700, 300, -120}, {6, 2, 65535, 0, 32767}}}, {1, {{4, 255, 0, 0, -32768}}}};
     record.sound = {{50, {-7000, -2345, 0}}, {53, {-100}}};
@@ -61,7 +61,7 @@ TEST(KxSubjectRecordFormat, ARecordComesBackAsItWasWritten)
     EXPECT_EQ(read->movers[0].travel, 0.2F);
     EXPECT_EQ(read->movers[1].boxes, written.movers[1].boxes);
     EXPECT_EQ(read->faces[0].looks[2].x, -2);
-    EXPECT_EQ(read->looks[0].found[0].kind, KxDetectionKind::Animal);
+    EXPECT_EQ(read->looks[0].found[0].kind, KxDetectionKind::Vehicle);
     EXPECT_EQ(read->mouths[0].looks[1].movement, 65535);
     EXPECT_EQ(read->mouths[1].looks[0].opening, -32768);
     EXPECT_EQ(read->sound[0].levels, written.sound[0].levels);
@@ -135,7 +135,7 @@ TEST(KxSubjectRecordFormat, WhatNoObserverSeesIsRefused)
         [](KxSubjectRecord& record) { record.looks[1].frame = 0; },
         [](KxSubjectRecord& record) { record.looks[0].found[0].width = 0.95F; },
         [](KxSubjectRecord& record) { record.looks[0].found[0].score = std::numeric_limits<float>::quiet_NaN(); },
-        [](KxSubjectRecord& record) { record.looks[0].found[0].kind = static_cast<KxDetectionKind>(2); },
+        [](KxSubjectRecord& record) { record.looks[0].found[0].kind = static_cast<KxDetectionKind>(3); },
         [](KxSubjectRecord& record) { record.mouths[0].face = -1; },
         [](KxSubjectRecord& record) { record.mouths[1].face = 2; },
         [](KxSubjectRecord& record) { record.mouths[1].face = 0; },

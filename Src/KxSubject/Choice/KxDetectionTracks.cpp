@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <tuple>
 
 namespace
@@ -43,23 +44,42 @@ double ValueOf(const KxDetection& box)
     return static_cast<double>(box.score) * std::sqrt(std::min(AreaOf(box), FullArea)) * (1.0 - Centrality * offCentre);
 }
 
+KxDetectionLook SubjectsOf(const KxDetectionLook& look)
+{
+    KxDetectionLook subjects{look.frame, {}};
+    std::copy_if(look.found.begin(), look.found.end(), std::back_inserter(subjects.found),
+                 [](const KxDetection& found) { return KxIsSubject(found.kind); });
+    return subjects;
+}
+
 } // namespace
 
 KxDetectionTracks::KxDetectionTracks(const KxSubjectRecord& record, const KxSubjectOptions::Detections& options,
-                                     std::int64_t first, std::int64_t end)
+                                     std::int64_t first, std::int64_t end, Kinds kinds)
     : m_options(options)
 {
     const auto isBefore = [](const KxDetectionLook& look, std::int64_t frame) { return look.frame < frame; };
     const auto from = std::lower_bound(record.looks.begin(), record.looks.end(), first, isBefore);
     const auto to = std::lower_bound(from, record.looks.end(), end, isBefore);
     for (auto look = from; look != to; ++look) {
-        Link(*look, record.SecondsAt(look->frame));
+        Link(kinds == Kinds::All ? *look : SubjectsOf(*look), record.SecondsAt(look->frame));
     }
     for (Track& track : m_tracks) {
         for (const Track::Point& point : track.points) {
             track.weight += ValueOf(point.box) / static_cast<double>(to - from);
         }
     }
+}
+
+KxDetection KxDetectionTracks::Track::At(double seconds) const
+{
+    const auto after = std::lower_bound(points.begin(), points.end(), seconds,
+                                        [](const Point& point, double time) { return point.seconds < time; });
+    if (after == points.begin() || after == points.end()) {
+        return after == points.end() ? points.back().box : after->box;
+    }
+    const Point& before = *std::prev(after);
+    return Between(before.box, after->box, (seconds - before.seconds) / (after->seconds - before.seconds));
 }
 
 void KxDetectionTracks::Link(const KxDetectionLook& look, double seconds)
@@ -97,18 +117,9 @@ void KxDetectionTracks::Link(const KxDetectionLook& look, double seconds)
 
 void KxDetectionTracks::AddTrack(const Track& track, double seconds, KxAxis axis, KxSignalProfile& profile) const
 {
-    const auto after = std::lower_bound(track.points.begin(), track.points.end(), seconds,
-                                        [](const Track::Point& point, double time) { return point.seconds < time; });
-    KxDetection box;
-    double presence = 1.0;
-    if (after == track.points.begin() || after == track.points.end()) {
-        const Track::Point& nearest = after == track.points.end() ? track.points.back() : *after;
-        box = nearest.box;
-        presence = std::max(0.0, 1.0 - std::abs(seconds - nearest.seconds) / FadeSeconds);
-    } else {
-        const Track::Point& before = *std::prev(after);
-        box = Between(before.box, after->box, (seconds - before.seconds) / (after->seconds - before.seconds));
-    }
+    const double away = std::max({track.points.front().seconds - seconds, seconds - track.points.back().seconds, 0.0});
+    const double presence = std::max(0.0, 1.0 - away / FadeSeconds);
+    const KxDetection box = track.At(seconds);
     const bool across = axis == KxAxis::Across;
     const double upper = box.kind == KxDetectionKind::Person ? m_options.personUpperShare : 1.0;
     const double from = static_cast<double>(across ? box.x : box.y);

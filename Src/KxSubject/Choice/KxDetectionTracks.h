@@ -8,20 +8,28 @@
 
 #include <vector>
 
-/// The people and animals of one shot: detections of successive looks that are one thing. Who is worth the crop is
-/// weighed over the whole shot, so that it does not change from look to look.
+/// The things of one shot: detections of successive looks that are one thing. Who is worth the crop is weighed over the
+/// whole shot, so that it does not change from look to look.
 class KXSUBJECT_API KxDetectionTracks
 {
 public:
+    enum class Kinds {
+        Subjects, ///< what the crop follows by itself
+        All
+    };
+
     /// Of the looks from frame `first` up to, but without, `end`.
     KxDetectionTracks(const KxSubjectRecord& record, const KxSubjectOptions::Detections& options, std::int64_t first,
-                      std::int64_t end);
+                      std::int64_t end, Kinds kinds = Kinds::Subjects);
 
     struct Track {
         struct Point {
             double seconds = 0.0;
             KxDetection box;
         };
+        /// On the line from one look to the next; before the first and after the last one as there.
+        KxDetection At(double seconds) const;
+
         std::vector<Point> points; ///< growing in time
         double weight = 0.0;       ///< its mean over the shot's looks, by score, size and place; 0 to about 0.25
     };

@@ -1,6 +1,8 @@
 #include <KxSubject/Signals/KxLookSchedule.h>
 
 #include <algorithm>
+#include <iterator>
+#include <vector>
 
 namespace
 {
@@ -41,10 +43,13 @@ bool KxLookSchedule::IsDue(std::int64_t frame, bool isNewScene) const
 
 void KxLookSchedule::Add(const KxDetectionLook& look, bool isNewScene)
 {
+    std::vector<KxDetection> subjects;
+    std::copy_if(look.found.begin(), look.found.end(), std::back_inserter(subjects),
+                 [](const KxDetection& found) { return KxIsSubject(found.kind); });
     const auto largest =
-        std::max_element(look.found.begin(), look.found.end(),
+        std::max_element(subjects.begin(), subjects.end(),
                          [](const KxDetection& a, const KxDetection& b) { return AreaOf(a) < AreaOf(b); });
-    const bool isFound = largest != look.found.end();
+    const bool isFound = largest != subjects.end();
     m_isSettled = !isNewScene && isFound && m_largest && largest->kind == m_largest->kind &&
                   static_cast<double>(Overlap(*largest, *m_largest)) >= m_options.settledOverlap;
     m_largest = isFound ? std::optional(*largest) : std::nullopt;

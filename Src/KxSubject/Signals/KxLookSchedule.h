@@ -9,7 +9,7 @@
 #include <optional>
 
 /// When the object detector looks: at the start of each scene and from time to time. A look is expensive, so looks are
-/// rarer while the largest thing stays where it is.
+/// rarer while the largest subject stays where it is.
 class KXSUBJECT_API KxLookSchedule
 {
 public:
@@ -24,6 +24,6 @@ private:
     KxSubjectOptions::Detections m_options;
     double m_frameRate;
     std::optional<std::int64_t> m_lastFrame;
-    std::optional<KxDetection> m_largest; ///< that the last look found in this scene
+    std::optional<KxDetection> m_largest; ///< subject that the last look found in this scene
     bool m_isSettled = false;             ///< two successive looks found it in one place
 };

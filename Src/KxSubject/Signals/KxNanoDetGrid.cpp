@@ -8,6 +8,8 @@ namespace
 {
 
 constexpr int PersonClass = 0;
+constexpr int FirstVehicleClass = 1; ///< bicycle
+constexpr int LastVehicleClass = 8;  ///< boat
 constexpr int FirstAnimalClass = 14; ///< bird
 constexpr int LastAnimalClass = 23;  ///< giraffe
 
@@ -56,12 +58,15 @@ void KxReadNanoDetGrid(const KxNanoDetGrid& grid, cv::Size inputPx, float thresh
     for (int place = 0; place < places; ++place, scores += KxNanoDetGrid::Classes, sides += KxNanoDetGrid::Sides) {
         const float person = scores[PersonClass];
         const float animal = *std::max_element(scores + FirstAnimalClass, scores + LastAnimalClass + 1);
-        const float score = std::max(person, animal);
-        if (score >= threshold) {
-            const cv::Point2d centre((place % columns + 0.5) * grid.stridePx, (place / columns + 0.5) * grid.stridePx);
-            boxes.push_back({BoxAround(centre, sides, grid.stridePx), score,
-                             person >= animal ? KxDetectionKind::Person : KxDetectionKind::Animal});
-        }
+        const float vehicle = *std::max_element(scores + FirstVehicleClass, scores + LastVehicleClass + 1);
+        const cv::Point2d centre((place % columns + 0.5) * grid.stridePx, (place / columns + 0.5) * grid.stridePx);
+        const auto add = [&](float score, KxDetectionKind kind) {
+            if (score >= threshold) {
+                boxes.push_back({BoxAround(centre, sides, grid.stridePx), score, kind});
+            }
+        };
+        add(std::max(person, animal), person >= animal ? KxDetectionKind::Person : KxDetectionKind::Animal);
+        add(vehicle, KxDetectionKind::Vehicle);
     }
 }
 

@@ -30,8 +30,9 @@ struct KxNanoDetBox {
 /// The number of places of a grid.
 KXSUBJECT_API int KxNanoDetPlaces(cv::Size inputPx, int stridePx);
 
-/// The places of a grid where a person or an animal scores at least `threshold`, appended to `boxes`. The other classes
-/// are ignored. The grid fits the size of the input.
+/// The places of a grid where a person, an animal or a vehicle scores at least `threshold`, appended to `boxes`. Of a
+/// person and an animal in one place the higher score counts; a vehicle is there besides them, since people ride in it.
+/// The other classes are ignored. The grid fits the size of the input.
 KXSUBJECT_API void KxReadNanoDetGrid(const KxNanoDetGrid& grid, cv::Size inputPx, float threshold,
                                      std::vector<KxNanoDetBox>& boxes);
 

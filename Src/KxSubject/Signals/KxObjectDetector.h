@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-/// Finds people and animals in single pictures with NanoDet-g (as Packaging/convert-nanodet converts it) in OpenCV's
+/// Finds people, animals and vehicles in single pictures with NanoDet-g (as Packaging/convert-nanodet converts it) in OpenCV's
 /// dnn module. Keeps no state between pictures. One thread at a time.
 class KXSUBJECT_API KxObjectDetector
 {

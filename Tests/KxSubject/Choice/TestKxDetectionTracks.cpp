@@ -72,6 +72,18 @@ TEST(KxDetectionTracks, TwoThingsStayTwoTracksAndAnimalsAreNotPeople)
     EXPECT_EQ(Tracks(kinds).Tracks().size(), 2U);
 }
 
+TEST(KxDetectionTracks, VehiclesAreLinkedButAreNoSubjects)
+{
+    const KxSubjectRecord record = Record(4, [](int i) {
+        return Boxes{Box(0.2, 0.1), Box(0.6 + 0.05 * i, 0.1, KxDetectionKind::Vehicle)};
+    });
+    EXPECT_EQ(Tracks(record).Tracks().size(), 1U);
+    EXPECT_EQ(Between(Tracks(record).ProfileAt(1.0, KxAxis::Across), 0.4, 1.0), 0.0);
+    const KxDetectionTracks all(record, Options, 0, 1000, KxDetectionTracks::Kinds::All);
+    ASSERT_EQ(all.Tracks().size(), 2U);
+    EXPECT_EQ(all.Tracks()[1].points.size(), 4U);
+}
+
 TEST(KxDetectionTracks, AMissedLookIsBridgedAndALongGapIsNot)
 {
     const auto gap = [](int missed) {

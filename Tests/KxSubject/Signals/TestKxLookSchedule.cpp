@@ -47,6 +47,16 @@ TEST(KxLookSchedule, ASceneWhoseSubjectStaysGetsHalfOfTheLooks)
     EXPECT_EQ(Looks(80, [](int) { return std::vector{Person}; }), (std::vector<int>{0, 10, 30, 50, 70}));
 }
 
+TEST(KxLookSchedule, AVehicleThatStandsChangesNothing)
+{
+    KxDetection parked = Moved(-0.2F);
+    parked.width = 0.9F;
+    parked.kind = KxDetectionKind::Vehicle;
+    EXPECT_EQ(Looks(45, [&](int) { return std::vector{parked}; }), (std::vector<int>{0, 10, 20, 30, 40}));
+    const auto passing = [&](int frame) { return std::vector{parked, Moved(0.012F * static_cast<float>(frame))}; };
+    EXPECT_EQ(Looks(45, passing), (std::vector<int>{0, 10, 20, 30, 40}));
+}
+
 TEST(KxLookSchedule, ASubjectThatMovesIsLookedAtOnceASecond)
 {
     const auto found = [](int frame) { return std::vector{Moved(0.012F * static_cast<float>(frame))}; };

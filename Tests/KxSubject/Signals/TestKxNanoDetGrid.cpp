@@ -6,6 +6,7 @@
 
 #include <array>
 #include <limits>
+#include <optional>
 
 namespace
 {
@@ -76,16 +77,23 @@ TEST(KxNanoDetGrid, ADistanceIsTheMeanOfItsDistribution)
     EXPECT_NEAR(boxes[0].box.br().x, 16 + 5.0 * 32, 1e-6);
 }
 
-TEST(KxNanoDetGrid, OnlyPeopleAndAnimalsCount)
+TEST(KxNanoDetGrid, OnlyPeopleVehiclesAndAnimalsCount)
 {
-    constexpr int lastOfTheOthers = 13;
     for (int kind = 0; kind < KxNanoDetGrid::Classes; ++kind) {
         KxNanoDetGrid grid = EmptyGrid();
         grid.scores.at<float>(0, kind) = 0.9F;
-        const bool isAnimal = kind > lastOfTheOthers && kind <= 23;
-        ASSERT_EQ(Read(grid).size(), kind == Person || isAnimal ? 1U : 0U) << kind;
-        if (isAnimal) {
-            EXPECT_EQ(Read(grid)[0].kind, KxDetectionKind::Animal) << kind;
+        std::optional<KxDetectionKind> expected;
+        if (kind == Person) {
+            expected = KxDetectionKind::Person;
+        } else if (kind <= 8) {
+            expected = KxDetectionKind::Vehicle;
+        } else if (kind >= 14 && kind <= 23) {
+            expected = KxDetectionKind::Animal;
+        }
+        const std::vector<KxNanoDetBox> boxes = Read(grid);
+        ASSERT_EQ(boxes.size(), expected ? 1U : 0U) << kind;
+        if (expected) {
+            EXPECT_EQ(boxes[0].kind, *expected) << kind;
         }
     }
 }
@@ -95,10 +103,22 @@ TEST(KxNanoDetGrid, TheHigherScoreDecidesBetweenPersonAndAnimal)
     KxNanoDetGrid grid = EmptyGrid();
     grid.scores.at<float>(0, Person) = 0.5F;
     grid.scores.at<float>(0, Dog) = 0.6F;
-    grid.scores.at<float>(0, Car) = 0.9F;
     ASSERT_EQ(Read(grid).size(), 1U);
     EXPECT_EQ(Read(grid)[0].kind, KxDetectionKind::Animal);
     EXPECT_FLOAT_EQ(Read(grid)[0].score, 0.6F);
+}
+
+TEST(KxNanoDetGrid, WhoRidesInAVehicleIsFoundBesidesIt)
+{
+    KxNanoDetGrid grid = EmptyGrid();
+    grid.scores.at<float>(0, Person) = 0.5F;
+    grid.scores.at<float>(0, Car) = 0.9F;
+    const std::vector<KxNanoDetBox> boxes = Read(grid);
+    ASSERT_EQ(boxes.size(), 2U);
+    EXPECT_EQ(boxes[0].kind, KxDetectionKind::Person);
+    EXPECT_FLOAT_EQ(boxes[0].score, 0.5F);
+    EXPECT_EQ(boxes[1].kind, KxDetectionKind::Vehicle);
+    EXPECT_FLOAT_EQ(boxes[1].score, 0.9F);
 }
 
 TEST(KxNanoDetGrid, AScoreBelowTheThresholdIsNothing)
