@@ -2,6 +2,7 @@
 
 #include <KxMedia/Picture/KxPictureScaler.h>
 #include <KxMedia/Read/KxVideoReader.h>
+#include <KxSubject/Choice/KxDetectedBox.h>
 #include <KxSubject/KxPointedBox.h>
 #include <KxSubject/KxSubjectRecord.h>
 
@@ -67,6 +68,12 @@ int EdgesAt(const QRectF& box)
 KxAutoReframeGuess KxPointedPicture::GuessAt(const QString& path, qint64 frame, const QPointF& point,
                                              const KxSubjectRecord* record)
 {
+    const std::optional<KxSubjectBox> detected =
+        record != nullptr ? KxDetectedBoxAt(*record, KxSubjectOptions().detections, frame, point.x(), point.y())
+                          : std::nullopt;
+    if (detected) {
+        return {{detected->x, detected->y, detected->width, detected->height}, false};
+    }
     // As large as the pictures in which what was pointed at is followed.
     constexpr int sidePx = 320;
     const KxResult<std::unique_ptr<KxVideoReader>> reader =

@@ -1,5 +1,7 @@
 #include <KxModel/KxPointedPicture.h>
 
+#include <KxSubject/KxSubjectRecord.h>
+
 #include <QPainter>
 
 #include <gtest/gtest.h>
@@ -129,4 +131,16 @@ TEST(KxPointedPicture, APatternThatGoesOnIsBackgroundUnlessSomethingWasSeen)
     const QPointF point(0.48, 0.5);
     EXPECT_TRUE(IsBackground(Wallpaper(), point, Seen::Nothing));
     EXPECT_FALSE(IsBackground(Wallpaper(), point, Seen::Something));
+}
+
+TEST(KxPointedPicture, WhatTheDetectorSawThereIsTheBox)
+{
+    KxSubjectRecord record;
+    record.source = {1280, 720, 25.0, 100};
+    record.workingSizePx = {320, 180};
+    record.looks = {{0, {{0.25F, 0.25F, 0.125F, 0.5F, 0.6F, KxDetectionKind::Person}}}};
+    const KxAutoReframeGuess guess = KxPointedPicture::GuessAt(QStringLiteral("missing"), 3, {0.3, 0.4}, &record);
+    EXPECT_EQ(guess.box, QRectF(0.25, 0.25, 0.125, 0.5)) << "no picture is needed";
+    EXPECT_FALSE(guess.isBackground);
+    EXPECT_TRUE(KxPointedPicture::GuessAt(QStringLiteral("missing"), 3, {0.6, 0.4}, &record).box.isEmpty());
 }

@@ -161,20 +161,3 @@ bool KxDetectionAnchor::AreSame(const KxSubjectBox& a, const KxSubjectBox& b, co
 {
     return Overlap(Inside(a), Inside(b)) >= options.sameOverlap;
 }
-
-std::optional<KxSubjectBox> KxDetectionAnchor::Around(std::int64_t frame, double x, double y) const
-{
-    const KxDetectionLook* look = LookAt(frame);
-    constexpr double mostWidth = 0.6; // wider, it is not one thing alone
-    double nearest = 0.5;
-    std::optional<KxSubjectBox> best;
-    for (const KxDetection& detection : look != nullptr ? look->found : std::vector<KxDetection>()) {
-        const KxSubjectBox box = BoxOf(detection);
-        const double off = std::max(std::abs((x - box.x) / box.width - 0.5), std::abs((y - box.y) / box.height - 0.5));
-        if (off <= nearest && box.width <= mostWidth) {
-            nearest = off;
-            best = box;
-        }
-    }
-    return best;
-}

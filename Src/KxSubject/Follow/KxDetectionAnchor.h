@@ -10,7 +10,7 @@
 #include <optional>
 #include <vector>
 
-/// Corrects a tracked box by what the object detector saw, so that a box that drifts off a person or an animal returns
+/// Corrects a tracked box by what the object detector saw, so that a box that drifts off the thing returns
 /// to it. Follows one thing in one direction of time.
 class KXSUBJECT_API KxDetectionAnchor
 {
@@ -39,9 +39,6 @@ public:
 
     /// Whether two boxes overlap so much that correcting one by the other gains nothing.
     static bool AreSame(const KxSubjectBox& a, const KxSubjectBox& b, const KxSubjectOptions::Follow& options);
-
-    /// At a point that a person clicked on: the detection around it whose middle is nearest.
-    std::optional<KxSubjectBox> Around(std::int64_t frame, double x, double y) const;
 
 private:
     const KxDetectionLook* LookAt(std::int64_t frame) const;

@@ -1,6 +1,7 @@
 #include <KxSubject/Follow/KxSubjectFollower.h>
 
 #include <KxSubject/Choice/KxChoiceRanges.h>
+#include <KxSubject/Choice/KxDetectedBox.h>
 #include <KxSubject/Follow/KxBoxGuess.h>
 #include <KxSubject/Follow/KxDetectionAnchor.h>
 #include <KxSubject/Follow/KxDriftCheck.h>
@@ -218,7 +219,8 @@ KxSubjectFollower::Impl::Run KxSubjectFollower::Impl::Started(std::size_t index,
     KxDetectionAnchor anchor = before && !seed.startsShot ? before->anchor : KxDetectionAnchor(m_record, m_options);
     anchor.DrawAgain();
     if (PixelsOf(seed.box).empty()) {
-        const std::optional<KxSubjectBox> found = anchor.Around(picture.frame, seed.box.x, seed.box.y);
+        const std::optional<KxSubjectBox> found =
+            KxDetectedBoxAt(m_record, m_options.detections, seed.frame, seed.box.x, seed.box.y);
         seed.box =
             found ? *found : ShareOf(KxBoxGuess::Around(picture.pixels, PixelsOf(seed.box).tl(), m_options.follow).box);
     }

@@ -183,13 +183,3 @@ TEST(KxDetectionAnchor, WhoRunsAwayWhileALookMissesThemIsNotLeftForABystander)
     ASSERT_TRUE(corrected);
     EXPECT_NEAR(corrected->x, 0.4, 1e-6);
 }
-
-TEST(KxDetectionAnchor, APointIsInTheDetectionWhoseMiddleIsNearest)
-{
-    const KxSubjectRecord record = Record({{Person(0.3F), Person(0.36F), Person(0.1F, 0.8F)}});
-    const KxDetectionAnchor anchor(record, Options);
-    ExpectBox(anchor.Around(0, 0.4, 0.5), 0.36);
-    ExpectBox(anchor.Around(0, 0.34, 0.5), 0.3);
-    EXPECT_FALSE(anchor.Around(0, 0.6, 0.5)) << "only a detection that is too large for one thing is there";
-    EXPECT_FALSE(anchor.Around(10, 0.4, 0.5)) << "there was no look";
-}

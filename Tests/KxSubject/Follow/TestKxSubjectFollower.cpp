@@ -342,16 +342,18 @@ TEST(KxSubjectFollower, WhatTurnsAndLooksDifferentIsFollowedByItsMovement)
     }
 }
 
-TEST(KxSubjectFollower, APointBecomesTheDetectionAroundIt)
+TEST(KxSubjectFollower, APointBecomesTheDetectionAroundItAlsoBetweenLooks)
 {
     KxSubjectRecord record = Record(60);
-    record.looks.push_back({0, {DetectionAt(0)}});
+    record.looks = {{0, {DetectionAt(0)}}, {20, {DetectionAt(20)}}};
     const KxSubjectChoice choice =
-        Follow({{0.0, {TurningPlace(0) + 0.01, 0.45, 0.0, 0.0}, KxSubjectSeed::Extent::Guessed}});
-    const Outcome outcome = FollowThrough(record, choice);
-    ASSERT_FALSE(outcome.track.points.empty());
-    EXPECT_NEAR(outcome.track.points.front().box.x, static_cast<double>(DetectionAt(0).x), 1e-6);
-    EXPECT_NEAR(outcome.track.points.front().box.height, static_cast<double>(DetectionAt(0).height), 1e-6);
+        Follow({{record.SecondsAt(10), {TurningPlace(10) + 0.01, 0.45, 0.0, 0.0}, KxSubjectSeed::Extent::Guessed}});
+    const std::vector<KxFollowTrack::Point> points = FollowThrough(record, choice).track.points;
+    const auto seed =
+        std::find_if(points.begin(), points.end(), [](const KxFollowTrack::Point& point) { return point.frame == 10; });
+    ASSERT_NE(seed, points.end());
+    EXPECT_NEAR(seed->box.x, static_cast<double>(DetectionAt(0).x + DetectionAt(20).x) / 2.0, 1e-6);
+    EXPECT_NEAR(seed->box.height, static_cast<double>(DetectionAt(0).height), 1e-6);
 }
 
 TEST(KxSubjectFollower, MissingAndWrongPicturesAreIgnored)
