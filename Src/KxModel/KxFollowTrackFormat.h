@@ -12,7 +12,7 @@
 namespace KxFollowTrackFormat
 {
 /// Grows with every change of the format, and of how something is followed: older tracks are made anew.
-constexpr quint32 Version = 5;
+constexpr quint32 Version = 6;
 
 KXMODEL_API QByteArray Write(const KxFollowTrack& track);
 

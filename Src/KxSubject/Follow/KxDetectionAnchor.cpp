@@ -6,6 +6,9 @@
 namespace
 {
 
+/// As a relation: the box is the detection.
+constexpr KxSubjectBox WholeThing{0.0, 0.0, 1.0, 1.0};
+
 KxSubjectBox BoxOf(const KxDetection& detection)
 {
     return {static_cast<double>(detection.x), static_cast<double>(detection.y), static_cast<double>(detection.width),
@@ -142,8 +145,10 @@ std::optional<KxSubjectBox> KxDetectionAnchor::Correct(const Tracked& tracked)
     if (isOverlapping && !m_isRelated) {
         m_isRelated = true;
         const KxSubjectBox box = BoxOf(*thing);
-        m_relation = {(tracked.box.x - box.x) / box.width, (tracked.box.y - box.y) / box.height,
-                      tracked.box.width / box.width, tracked.box.height / box.height};
+        m_relation = AreSame(tracked.box, box, m_options)
+                         ? WholeThing
+                         : KxSubjectBox{(tracked.box.x - box.x) / box.width, (tracked.box.y - box.y) / box.height,
+                                        tracked.box.width / box.width, tracked.box.height / box.height};
     }
     m_isAmbiguous = m_thing && std::any_of(look->found.begin(), look->found.end(), [&](const KxDetection& other) {
                         return &other != thing && IsRival(other, *thing, tracked.box);

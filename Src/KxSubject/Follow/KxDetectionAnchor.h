@@ -29,7 +29,9 @@ public:
     ///    about its size. If the look before did not find it, either, a confident tracker knows better.
     /// 3. What was beside the thing at the look before is neither.
     /// The correction is to the detection what the followed box was to the first one that it overlapped since it was
-    /// drawn: a person may have drawn more or less. Nothing if there was no look at this frame, or no such detection.
+    /// drawn: a person may have drawn more or less. If these were nearly the same, the person meant the whole thing and
+    /// the rest is the hand's error, so the correction is the detection itself. Nothing if there was no look at this
+    /// frame, or no such detection.
     std::optional<KxSubjectBox> Correct(const Tracked& tracked);
     /// Whether the last correction may be another one of its kind: one more detection overlaps the tracked box as much
     /// as the thing's must, or the place of the thing at the look before as much, and more than what was taken for it.

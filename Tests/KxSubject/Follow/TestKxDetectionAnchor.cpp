@@ -50,21 +50,29 @@ TEST(KxDetectionAnchor, ABoxThatDriftsReturnsToItsDetection)
 
 TEST(KxDetectionAnchor, TheCorrectionIsToTheDetectionWhatThePersonDrew)
 {
-    // The person left out an arm to the left.
+    // The person left out what is on the left.
     const KxSubjectRecord record = Record({{Person(0.3F, 0.2F)}, {Person(0.4F, 0.2F)}});
     KxDetectionAnchor anchor(record, Options);
-    ExpectBox(anchor.Correct({0, Box(0.35, 0.15), 1.0}), 0.35, 0.15);
-    ExpectBox(anchor.Correct({25, Box(0.41, 0.15), 1.0}), 0.45, 0.15);
+    ExpectBox(anchor.Correct({0, Box(0.39, 0.11), 1.0}), 0.39, 0.11);
+    ExpectBox(anchor.Correct({25, Box(0.46, 0.11), 1.0}), 0.49, 0.11);
+}
+
+TEST(KxDetectionAnchor, WhoWasDrawnNearlyAsDetectedIsTheDetection)
+{
+    const KxSubjectRecord record = Record({{Person(0.3F, 0.2F)}, {Person(0.4F, 0.4F)}});
+    KxDetectionAnchor anchor(record, Options);
+    ExpectBox(anchor.Correct({0, Box(0.33, 0.2), 1.0}), 0.3, 0.2);
+    ExpectBox(anchor.Correct({25, Box(0.43, 0.4), 1.0}), 0.4, 0.4);
 }
 
 TEST(KxDetectionAnchor, TheCorrectionIsToTheDetectionWhatThePersonDrewLast)
 {
     const KxSubjectRecord record = Record({{Person(0.3F, 0.2F)}, {Person(0.4F, 0.2F)}, {Person(0.5F, 0.2F)}});
     KxDetectionAnchor anchor(record, Options);
-    ExpectBox(anchor.Correct({0, Box(0.35, 0.15), 1.0}), 0.35, 0.15);
+    ExpectBox(anchor.Correct({0, Box(0.39, 0.11), 1.0}), 0.39, 0.11);
     anchor.DrawAgain();
-    ExpectBox(anchor.Correct({25, Box(0.4, 0.19), 1.0}), 0.4, 0.19);
-    ExpectBox(anchor.Correct({50, Box(0.48, 0.19), 1.0}), 0.5, 0.19);
+    ExpectBox(anchor.Correct({25, Box(0.4, 0.11), 1.0}), 0.4, 0.11);
+    ExpectBox(anchor.Correct({50, Box(0.48, 0.11), 1.0}), 0.5, 0.11);
 }
 
 TEST(KxDetectionAnchor, ABoxThatWasDrawnAgainMayBeMuchSmallerThanTheFirst)
