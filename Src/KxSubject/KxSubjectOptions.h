@@ -218,6 +218,8 @@ struct KxSubjectOptions {
         double boxError = 0.1;
         /// 0.8 to 1 of the thing, over the shot: where the automatic crop holds more, it stays as it is; chosen
         double heldShare = 0.95;
+        /// 0.7 to 0.85 of a box that was guessed around a click: where the automatic crop holds more, it stays; trial
+        double heldGuess = 0.75;
         double smoothingSeconds = 0.4; ///< 0.3 to 0.6, of a path that follows, at most; trial
         double avoidedShare = 0.1;     ///< 0 to 0.3 of the evidence under an avoided box is left; chosen
         double avoidedMargin = 0.04;   ///< 0.02 to 0.06 beside that box: what is measured there is blurred; chosen

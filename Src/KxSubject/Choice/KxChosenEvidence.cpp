@@ -1,6 +1,7 @@
 #include <KxSubject/Choice/KxChosenEvidence.h>
 
 #include <KxSubject/Choice/KxAvoidedThing.h>
+#include <KxSubject/Choice/KxDetectedBox.h>
 
 #include <algorithm>
 
@@ -10,16 +11,31 @@ namespace
 /// 0.4 to 0.6 of what the automatic crop misses: a crop that follows a box that a person drew must miss less.
 constexpr double StillMissed = 0.5;
 
+/// Whether a seed of the choice is a click at a place where the object detector looked and saw no extent.
+bool IsGuess(const KxSubjectChoice& choice, const KxChoiceRanges::Range& range, const KxSubjectRecord& record,
+             const KxSubjectOptions::Detections& options)
+{
+    const auto isGuess = [&](const KxSubjectSeed& seed) {
+        const std::int64_t frame = KxChoiceRanges::FrameAt(seed.seconds, record.source.frameRate);
+        return frame >= range.first && frame < range.end && seed.extent == KxSubjectSeed::Extent::Guessed &&
+               !KxDetectedBoxAt(record, options, frame, seed.box.x + seed.box.width / 2.0,
+                                seed.box.y + seed.box.height / 2.0);
+    };
+    return !record.looks.empty() && std::any_of(choice.seeds.begin(), choice.seeds.end(), isGuess);
+}
+
 } // namespace
 
 KxChosenEvidence::KxChosenEvidence(const KxSubjectRequest& request, const KxChoiceRanges& ranges,
-                                   const KxSubjectOptions::Follow& options, double frameRate, KxAxis axis)
+                                   const KxSubjectOptions& options, const KxSubjectRecord& record, KxAxis axis)
+    : m_options(options.follow)
 {
     const auto part = [&](const KxChoiceRanges::Range& range) {
         const KxFollowTrack none;
         const KxFollowTrack& track = range.choice < request.tracks.size() ? request.tracks[range.choice] : none;
-        const KxFollowEvidence::Axis along{frameRate, axis};
-        return Part{range, KxFollowEvidence(request.choices[range.choice], track, range, options, along), false};
+        const KxSubjectChoice& choice = request.choices[range.choice];
+        return Part{range, KxFollowEvidence(choice, track, range, options.follow, {record.source.frameRate, axis}),
+                    IsGuess(choice, range, record, options.detections), false};
     };
     for (const KxChoiceRanges::Range& range : ranges.Placed()) {
         if (request.choices[range.choice].kind == KxChoiceKind::Follow) {
@@ -54,12 +70,13 @@ KxSignalProfile KxChosenEvidence::Of(const KxSignalProfile& evidence, std::int64
     return chosen;
 }
 
-void KxChosenEvidence::LeaveWhatIsHeld(const CentreAt& centreAt, double extent, double heldShare)
+void KxChosenEvidence::LeaveWhatIsHeld(const CentreAt& centreAt, double extent)
 {
-    m_followed.erase(
-        std::remove_if(m_followed.begin(), m_followed.end(),
-                       [&](const Part& part) { return part.evidence.HeldBy(centreAt, extent) >= heldShare; }),
-        m_followed.end());
+    const auto isHeld = [&](const Part& part) {
+        return part.evidence.HeldBy(centreAt, extent) >= m_options.heldShare ||
+               (part.isGuess && part.evidence.HeldAtSeeds(centreAt, extent) >= m_options.heldGuess);
+    };
+    m_followed.erase(std::remove_if(m_followed.begin(), m_followed.end(), isHeld), m_followed.end());
 }
 
 void KxChosenEvidence::AdjustAutomatic(const CentreAt& automatic)

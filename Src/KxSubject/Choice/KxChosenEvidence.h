@@ -15,8 +15,9 @@
 class KXSUBJECT_API KxChosenEvidence
 {
 public:
-    KxChosenEvidence(const KxSubjectRequest& request, const KxChoiceRanges& ranges,
-                     const KxSubjectOptions::Follow& options, double frameRate, KxAxis axis);
+    /// `record`: as it was observed, also what is avoided.
+    KxChosenEvidence(const KxSubjectRequest& request, const KxChoiceRanges& ranges, const KxSubjectOptions& options,
+                     const KxSubjectRecord& record, KxAxis axis);
 
     /// Takes the things that are avoided out of the record.
     void RemoveAvoided(KxSubjectRecord& record, const KxSubjectOptions& options) const;
@@ -26,8 +27,10 @@ public:
     /// The centre of a crop along its free axis.
     using CentreAt = std::function<double(std::int64_t frame)>;
     /// Nothing needs to be done for what the automatic crop holds: it stays as it is, so that pointing at it never
-    /// makes it worse. `centreAt` is that crop's centre, of the extent `extent`.
-    void LeaveWhatIsHeld(const CentreAt& centreAt, double extent, double heldShare);
+    /// makes it worse. Neither for what a person clicked on where the object detector saw no extent of it, if that crop
+    /// holds the box that was guessed instead: what a guess leads to is less sure than the automatic choice. Without
+    /// the detector the automatic choice is less sure. `centreAt` is that crop's centre, of the extent `extent`.
+    void LeaveWhatIsHeld(const CentreAt& centreAt, double extent);
     /// For what a person drew, whose extent is therefore known, the automatic crop is adjusted: it moves only as far as
     /// it must to hold the thing. Where the track has slid to a part of it, the crop then stays near its place.
     void AdjustAutomatic(const CentreAt& automatic);
@@ -46,9 +49,11 @@ private:
     struct Part {
         KxChoiceRanges::Range range;
         KxFollowEvidence evidence;
+        bool isGuess = false; ///< the detector looked, and saw no extent of it
         bool isAdjusted = false;
         bool Has(std::int64_t frame) const { return frame >= range.first && frame < range.end; }
     };
+    KxSubjectOptions::Follow m_options;
     std::vector<Part> m_followed;
     std::vector<Part> m_avoided;
     CentreAt m_automatic; ///< to adjust

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <iterator>
+#include <utility>
 
 namespace
 {
@@ -16,6 +17,16 @@ constexpr double BridgedSeconds = 1.0;
 /// 0.25 to 0.75 of the room that a crop has beside the thing may lie on one side of it alone: more leaves the crop
 /// nearer to its place, less shows the thing nearer to the middle.
 constexpr double FreeRoom = 0.5;
+
+/// Of what is between two places and in the picture, as a share of the most that a crop of the extent can hold.
+double ShareHeld(const std::pair<double, double>& places, double centre, double extent)
+{
+    const double from = std::max(0.0, places.first);
+    const double to = std::min(1.0, places.second);
+    const double left = centre - extent / 2.0;
+    const double most = std::min(extent, to - from);
+    return most > 0.0 ? std::max(0.0, std::min(to, left + extent) - std::max(from, left)) / most : 1.0;
+}
 
 } // namespace
 
@@ -141,15 +152,23 @@ double KxFollowEvidence::HeldBy(const std::function<double(std::int64_t frame)>&
         const KxSubjectBox& box = m_points[i].box;
         const bool across = m_axis == KxAxis::Across;
         const double margin = m_options.boxError * (across ? box.width : box.height);
-        const double from = std::max(0.0, (across ? box.x : box.y) + margin);
-        const double to = std::min(1.0, (across ? box.x + box.width : box.y + box.height) - margin);
-        const double left = centreAt(m_points[i].frame) - extent / 2.0;
-        const double most = std::min(extent, to - from);
-        missed += most > 0.0 ? 1.0 - std::max(0.0, std::min(to, left + extent) - std::max(from, left)) / most : 0.0;
+        const double from = (across ? box.x : box.y) + margin;
+        const double to = (across ? box.x + box.width : box.y + box.height) - margin;
+        missed += 1.0 - ShareHeld({from, to}, centreAt(m_points[i].frame), extent);
     }
     const auto certain = std::count_if(m_points.begin(), m_points.end(),
                                        [](const KxFollowTrack::Point& point) { return !point.isAmbiguous; });
     return 1.0 - missed / static_cast<double>(std::max<std::ptrdiff_t>(1, certain));
+}
+
+double KxFollowEvidence::HeldAtSeeds(const std::function<double(std::int64_t frame)>& centreAt, double extent) const
+{
+    double least = 1.0;
+    for (const std::int64_t frame : m_seedFrames) {
+        const Place place = At(frame);
+        least = std::min(least, ShareHeld({place.from, place.to}, centreAt(frame), extent));
+    }
+    return least;
 }
 
 double KxFollowEvidence::Holding(double centre, std::int64_t frame, double extent) const

@@ -38,6 +38,8 @@ public:
     /// or the track is doubted, nothing says that the crop does not hold it. Where it is ambiguous, it says nothing at
     /// all.
     double HeldBy(const std::function<double(std::int64_t frame)>& centreAt, double extent) const;
+    /// The same at the seed of which least is held, whatever the track says; all of the box counts.
+    double HeldAtSeeds(const std::function<double(std::int64_t frame)>& centreAt, double extent) const;
     /// Whether the extent of the thing is known, since a person drew or confirmed each box.
     bool IsDrawn() const { return m_isDrawn; }
     /// The centre nearest to `centre` at which a crop of an extent holds the thing with some room on both sides, also

@@ -15,7 +15,7 @@ KxEvidenceCentres::KxEvidenceCentres(const KxDecisionTask& task, const std::vect
 
 KxChosenEvidence KxEvidenceCentres::ChosenIn(const KxChoiceRanges& choices) const
 {
-    return {m_task.request, choices, m_task.options.follow, m_task.record.source.frameRate, m_task.geometry.FreeAxis()};
+    return {m_task.request, choices, m_task.options, m_task.record, m_task.geometry.FreeAxis()};
 }
 
 std::optional<KxSubjectRecord> KxEvidenceCentres::WithoutAvoidedThings(const std::vector<KxShotSpan>& shots) const
@@ -121,7 +121,7 @@ KxShotEvidence KxEvidenceCentres::EvidenceIn(const KxShotSpan& shot, const KxCho
     };
     const double extent = m_task.geometry.Extent();
     const KxChosenEvidence::CentreAt automatic = centresOf(evidenceWith(KxChoiceRanges::None()));
-    evidence.chosen.LeaveWhatIsHeld(automatic, extent, m_task.options.follow.heldShare);
+    evidence.chosen.LeaveWhatIsHeld(automatic, extent);
     if (!evidence.chosen.Follows()) {
         return evidence;
     }

@@ -10,7 +10,7 @@ constexpr std::int64_t Frames = 100;
 constexpr double Extent = 0.3;
 
 /// What follows a box of the width 0.1 that stays at 0.4; half of the room beside it are 0.05 on each side.
-KxChosenEvidence Following(KxSubjectSeed::Extent extent)
+KxChosenEvidence Following(KxSubjectSeed::Extent extent, const std::vector<KxDetectionLook>& looks = {})
 {
     const KxSubjectBox box{0.4, 0.2, 0.1, 0.4};
     KxSubjectRequest request;
@@ -23,7 +23,10 @@ KxChosenEvidence Following(KxSubjectSeed::Extent extent)
         track.points.push_back({frame, box, 1.0F});
     }
     request.tracks = {track};
-    return {request, KxChoiceRanges(request.choices, Rate, 0, Frames), {}, Rate, KxAxis::Across};
+    KxSubjectRecord record;
+    record.source = {1280, 720, Rate, Frames};
+    record.looks = looks;
+    return {request, KxChoiceRanges(request.choices, Rate, 0, Frames), {}, record, KxAxis::Across};
 }
 
 KxChosenEvidence::CentreAt Still(double centre)
@@ -71,4 +74,24 @@ TEST(KxChosenEvidence, TheAutomaticCropStaysUnlessTheOtherMissesHalfAsMuch)
     EXPECT_FALSE(followsWith(KxSubjectSeed::Extent::Drawn, 0.3)) << "it misses 0.5";
     EXPECT_TRUE(followsWith(KxSubjectSeed::Extent::Guessed, 0.3)) << "nobody knows how much it misses";
     EXPECT_FALSE(followsWith(KxSubjectSeed::Extent::Guessed, 0.28)) << "no better";
+}
+
+TEST(KxChosenEvidence, AGuessIsLeftToTheAutomaticCropThatHoldsItWhereItWasClickedOn)
+{
+    const auto followsWith = [](KxSubjectSeed::Extent extent, double centre,
+                                const std::vector<KxDetectionLook>& looks) {
+        KxChosenEvidence chosen = Following(extent, looks);
+        // It leaves the thing soon.
+        chosen.LeaveWhatIsHeld([centre](std::int64_t frame) { return frame < 10 ? centre : 0.8; }, Extent);
+        return chosen.Follows();
+    };
+    constexpr auto guessed = KxSubjectSeed::Extent::Guessed;
+    const std::vector<KxDetectionLook> nothing{{0, {}}};
+    EXPECT_FALSE(followsWith(guessed, 0.4, nothing));
+    EXPECT_FALSE(followsWith(guessed, 0.33, nothing)) << "it holds four fifths";
+    EXPECT_TRUE(followsWith(guessed, 0.32, nothing)) << "it holds seven tenths";
+    EXPECT_TRUE(followsWith(KxSubjectSeed::Extent::Drawn, 0.4, nothing));
+    const std::vector<KxDetectionLook> seen{{0, {{0.4F, 0.2F, 0.1F, 0.4F, 0.6F, KxDetectionKind::Vehicle}}}};
+    EXPECT_TRUE(followsWith(guessed, 0.4, seen)) << "its extent is known";
+    EXPECT_TRUE(followsWith(guessed, 0.4, {})) << "without the detector the automatic choice is less sure";
 }

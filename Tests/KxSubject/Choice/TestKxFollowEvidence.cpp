@@ -169,3 +169,16 @@ TEST(KxFollowEvidence, WhereTheTrackIsAmbiguousItSaysNothing)
     track.points[0].isAmbiguous = true;
     EXPECT_NEAR(Evidence(track).HeldBy(onTheFirst, 0.2), 0.0, 1e-9);
 }
+
+TEST(KxFollowEvidence, HeldAtItsSeedsIsTheLeastShareOfTheirBoxes)
+{
+    const KxFollowTrack track{{Seen(0, 0.1, 1.0F), Seen(50, 0.7, 1.0F), Seen(100, 0.3, 1.0F)}};
+    const KxFollowEvidence evidence =
+        Evidence(track, Pointed({{0.0, {0.1, 0.2, 0.1, 0.4}}, {4.0, {0.3, 0.2, 0.1, 0.4}}}));
+    const auto heldAround = [&evidence](double centre) {
+        return evidence.HeldAtSeeds([centre](std::int64_t) { return centre; }, 0.3);
+    };
+    EXPECT_NEAR(heldAround(0.25), 1.0, 1e-9) << "where it is between the seeds says nothing";
+    EXPECT_NEAR(heldAround(0.2), 0.5, 1e-9) << "at the second one";
+    EXPECT_NEAR(heldAround(0.34), 0.1, 1e-9) << "at the first one";
+}
