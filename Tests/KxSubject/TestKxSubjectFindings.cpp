@@ -1,3 +1,4 @@
+#include <KxSubject/KxShotDoubt.h>
 #include <Tests/KxSubject/DecidedScenes.h>
 
 using namespace DecidedScenes;
@@ -45,6 +46,23 @@ TEST(KxSubjectFindings, AShotIsDoubtfulWhenTheCropCannotHoldWhatWasFound)
     EXPECT_GT(confidence({0.4F}), 0.9F);
     EXPECT_LT(confidence({0.05F, 0.85F}), 0.6F);
     EXPECT_EQ(confidence({}), 0.0F);
+}
+
+TEST(KxSubjectFindings, NothingStandsOutInAShotWithoutSamples)
+{
+    Task task = MakeTask(50);
+    task.request.wantsFindings = true;
+    KxSubjectRecord record;
+    record.source = task.source;
+    record.workingSizePx = {320, 180};
+    record.boundaries = {{30, 30, 30, KxShotBoundaryKind::Cut}};
+    record.samples = {{0, {}, {}}, {15, {}, {}}};
+    const KxSubjectFindings findings = KxDecide(record, task.request, {}, KxCancelToken()).findings;
+    ASSERT_EQ(findings.shots.size(), 2U);
+    EXPECT_EQ(findings.samples.size(), 2U);
+    EXPECT_EQ(findings.shots[1].evidence, 0.0F);
+    EXPECT_EQ(findings.shots[1].confidence, 0.0F);
+    EXPECT_EQ(KxDoubtOf(findings.shots[1]), KxShotDoubt::NothingStandsOut);
 }
 
 TEST(KxSubjectFindings, FindingsContainTheEvidenceThatWasUsed)

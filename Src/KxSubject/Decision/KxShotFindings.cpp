@@ -36,8 +36,9 @@ void KxAddFindings(KxSubjectFindings& findings, const KxDecidedShot& shot, const
     }
     const auto dominant = std::max_element(totals.begin(), totals.end()) - totals.begin();
     const bool followsSpeaker = !shot.speaker.centres.empty();
+    // A short shot may have no sample.
+    const float evidence = shot.wanted.empty() ? 0.0F : whole / static_cast<float>(shot.wanted.size());
     findings.shots.push_back({shot.span.first, shot.span.end, static_cast<KxSignal>(dominant),
-                              followsSpeaker ? shot.speaker.confidence : confidence.Value(),
-                              whole / static_cast<float>(shot.wanted.size()), shot.speaker.speech,
-                              shot.speaker.changes});
+                              followsSpeaker ? shot.speaker.confidence : confidence.Value(), evidence,
+                              shot.speaker.speech, shot.speaker.changes});
 }
