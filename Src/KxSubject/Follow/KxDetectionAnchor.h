@@ -10,8 +10,8 @@
 #include <optional>
 #include <vector>
 
-/// Corrects a tracked box by what the object detector saw, so that a box that drifts off the thing returns
-/// to it. Follows one thing in one direction of time.
+/// Corrects a tracked box by what the object detector saw, so that a box that drifts off the thing returns to it.
+/// Follows one thing in one direction of time.
 class KXSUBJECT_API KxDetectionAnchor
 {
 public:
