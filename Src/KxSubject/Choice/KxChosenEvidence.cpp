@@ -11,17 +11,18 @@ namespace
 /// 0.4 to 0.6 of what the automatic crop misses: a crop that follows a box that a person drew must miss less.
 constexpr double StillMissed = 0.5;
 
-/// Whether a seed of the choice is a click at a place where the object detector looked and saw no extent.
+/// Whether the person only clicked, at places where the object detector looked and saw no extent.
 bool IsGuess(const KxSubjectChoice& choice, const KxChoiceRanges::Range& range, const KxSubjectRecord& record,
              const KxSubjectOptions::Detections& options)
 {
-    const auto isGuess = [&](const KxSubjectSeed& seed) {
+    const auto isKnown = [&](const KxSubjectSeed& seed) {
         const std::int64_t frame = KxChoiceRanges::FrameAt(seed.seconds, record.source.frameRate);
-        return frame >= range.first && frame < range.end && seed.extent == KxSubjectSeed::Extent::Guessed &&
-               !KxDetectedBoxAt(record, options, frame, seed.box.x + seed.box.width / 2.0,
-                                seed.box.y + seed.box.height / 2.0);
+        return frame >= range.first && frame < range.end &&
+               (seed.extent == KxSubjectSeed::Extent::Drawn ||
+                KxDetectedBoxAt(record, options, frame, seed.box.x + seed.box.width / 2.0,
+                                seed.box.y + seed.box.height / 2.0));
     };
-    return !record.looks.empty() && std::any_of(choice.seeds.begin(), choice.seeds.end(), isGuess);
+    return !record.looks.empty() && std::none_of(choice.seeds.begin(), choice.seeds.end(), isKnown);
 }
 
 } // namespace
