@@ -140,16 +140,17 @@ class Screen:
         self.click(self.find(name, window, enabled=True, **wanted)["rect"])
 
     def drag(self, start, end, steps=12):
-        """With the left button and in steps, as by hand. The first move is shorter than Qt's drag distance; the drag
-        continues when the program has seen it."""
-        self.move(*start)
-        self.tool("mousedown", 1)
-        self.move(start[0] + 2, start[1])
+        """With the left button and in steps, as by hand. The crop counts its first step from where the pointer was last
+        seen with the button down: a click that ends at `start` makes that known, before the drag. Nothing waits with the
+        button down, since a long press opens a menu; the click begins too far away for a double click and too near for a
+        drag."""
+        self.move(start[0] - 8, start[1])
+        self.tool("mousedown", 1, "mousemove", *start, "mouseup", 1)
         self.report()
         self.report()
-        for step in range(1, steps + 1):
-            self.move(start[0] + (end[0] - start[0]) * step // steps, start[1] + (end[1] - start[1]) * step // steps)
-        self.tool("mouseup", 1)
+        moves = [argument for step in range(1, steps + 1)
+                 for argument in ("mousemove", *(a + (b - a) * step // steps for a, b in zip(start, end)))]
+        self.tool("mousedown", 1, *moves, "mouseup", 1)
 
     def key(self, *keys):
         self.tool("key", "--delay", 60, *keys)
