@@ -14,8 +14,8 @@ struct KxSubjectRecord;
 /// What a person points at in a video.
 namespace KxPointedPicture
 {
-/// What is at `point` in frame `frame` of the file `path`; places are fractions of the picture: what the object detector
-/// saw there, otherwise what the picture shows. `record` is of the same file, null without one. Blocks.
+/// What is at `point` in frame `frame` of the file `path`; places are fractions of the picture: what the object
+/// detector saw there, otherwise what the picture shows. `record` is of the same file, null without one. Blocks.
 KXMODEL_API KxAutoReframeGuess GuessAt(const QString& path, qint64 frame, const QPointF& point,
                                        const KxSubjectRecord* record);
 

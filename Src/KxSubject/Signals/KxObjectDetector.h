@@ -10,8 +10,8 @@
 #include <string>
 #include <vector>
 
-/// Finds people, animals and vehicles in single pictures with NanoDet-g (as Packaging/convert-nanodet converts it) in OpenCV's
-/// dnn module. Keeps no state between pictures. One thread at a time.
+/// Finds people, animals and vehicles in single pictures with NanoDet-g (as Packaging/convert-nanodet converts it) in
+/// OpenCV's dnn module. Keeps no state between pictures. One thread at a time.
 class KXSUBJECT_API KxObjectDetector
 {
 public:
