@@ -1,5 +1,7 @@
 #include <KxSubject/Choice/KxDetectedBox.h>
 
+#include <Tests/KxSubject/LooksEachSecond.h>
+
 #include <gtest/gtest.h>
 
 namespace
@@ -15,14 +17,7 @@ KxDetection Box(double left, double width = 0.1, KxDetectionKind kind = KxDetect
 /// Looks at frames 0, 10, 20 and so on, at ten frames a second.
 KxSubjectRecord Record(const std::vector<std::vector<KxDetection>>& looks)
 {
-    KxSubjectRecord record;
-    record.source = {1280, 720, 10.0, 1000};
-    std::int32_t frame = 0;
-    for (const std::vector<KxDetection>& found : looks) {
-        record.looks.push_back({frame, found});
-        frame += 10;
-    }
-    return record;
+    return LooksEachSecond(10, looks);
 }
 
 /// The left edge of the box there, -1 if there is none.

@@ -1,5 +1,7 @@
 #include <KxSubject/Follow/KxDetectionAnchor.h>
 
+#include <Tests/KxSubject/LooksEachSecond.h>
+
 #include <gtest/gtest.h>
 
 namespace
@@ -10,14 +12,7 @@ const KxSubjectOptions Options;
 /// Looks at frames 0, 25, 50 and so on.
 KxSubjectRecord Record(const std::vector<std::vector<KxDetection>>& looks)
 {
-    KxSubjectRecord record;
-    record.source = {1280, 720, 25.0, 250};
-    std::int32_t frame = 0;
-    for (const std::vector<KxDetection>& found : looks) {
-        record.looks.push_back({frame, found});
-        frame += 25;
-    }
-    return record;
+    return LooksEachSecond(25, looks);
 }
 
 KxDetection Person(float left, float width = 0.1F)
